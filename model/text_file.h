@@ -1,0 +1,18 @@
+// model/text_file.h - text files as lines.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyhoop {
+
+/// Splits a file's bytes into lines at CR LF, lone LF or lone CR. A last line without line end counts; an empty file has
+/// no lines.
+std::vector<std::string> linesOf(std::string_view bytes);
+
+/// @returns the lines as a file's bytes, each ended by CR LF
+std::string fileOf(std::span<const std::string> lines);
+
+} // namespace tallyhoop

@@ -1,0 +1,53 @@
+// scoring/score_picks.h - the scoring of one bracket against the results, as a pure function.
+#pragma once
+
+#include "model/lines.h"
+#include "model/mod_tallyhoop.h"
+#include "model/screens.h"
+#include "ui/result.h"
+
+#include <cstdint>
+#include <string>
+
+namespace tallyhoop {
+
+/// One player's score.
+struct ScoreLine {
+    std::string FileName;        ///< as it was given
+    std::string PlayerName;      ///< initials, ", ", name
+    std::int16_t Points = 0;     ///< earned so far
+    std::int16_t MaxPoints = 0;  ///< earned and still possible
+    std::int16_t GoodPicks = 0;  ///< games picked right
+    std::int16_t BadPicks = 0;   ///< slots with the verdict Bad
+    std::string WinningPick;     ///< the player's champion
+    std::string RunnerUpPick;    ///< the player's other finalist
+    std::int16_t FinalPoints = 0; ///< tie-breaker; 0 when there is none
+
+    friend bool operator==(const ScoreLine&, const ScoreLine&) = default;
+};
+
+/// Points and counts of one bracket, before names are attached.
+struct ScoredPicks {
+    std::int32_t points = 0;
+    std::int32_t possible = 0; ///< points that open games can still bring
+    std::int16_t goodPicks = 0;
+    std::int16_t badPicks = 0;
+    ScoredVerdict verdict;
+};
+
+/// Scores picks against results.
+/// @param picks    lines 1..127: a team name for each slot, empty = no pick
+/// @param results  same shape; empty = game not yet played
+/// @param payoffs  whole points for a right pick in rounds 1..6
+/// @note Cannot fail: an unknown team name simply never matches. Names are compared exactly.
+ScoredPicks scorePicks(const SelectionLines& picks, const SelectionLines& results, const Payoffs& payoffs);
+
+/// Scores a player's lines and fills in the line that the score display and the reports show.
+/// @returns a failure when the tie-breaker or the points do not fit 16 bits
+Result<ScoreLine> scoreLine(const std::string& fileName, const SelectionLines& picks, const SelectionLines& results,
+                            const Payoffs& payoffs, ScoredVerdict& verdict);
+
+/// @returns the six payoffs from their texts, rounds 1..6; a failure when one does not fit 16 bits
+Result<Payoffs> payoffsOf(const std::array<std::string, 6>& texts);
+
+} // namespace tallyhoop

@@ -1,0 +1,27 @@
+// scoring/score_selection.h - ScoreSelection: reads a file, scores, and leaves the shared lines as they were.
+#pragma once
+
+#include "model/data_folder.h"
+#include "model/mod_tallyhoop.h"
+#include "model/screens.h"
+#include "scoring/score_picks.h"
+#include "ui/dialogs.h"
+
+#include <string>
+
+namespace tallyhoop {
+
+/// Who asks for a score: it decides which of the file and the shared lines are the picks and which the results.
+enum class ScoreCaller {
+    Bracket,      ///< the board holds the picks, the file the results
+    ScoreDisplay, ///< the board holds the results, the file the picks
+};
+
+/// Captures the board into the shared lines, reads a file of the program's folder, scores one against the other, and
+/// puts the shared lines back. The shared verdict is rewritten.
+/// @param fileName bare name; a file that cannot be read is reported by its reader and scored as far as it was read
+/// @returns a failure when a number does not fit 16 bits
+Result<ScoreLine> ScoreSelection(ScoreCaller caller, const std::string& fileName, const DataFolder& folder,
+                                 ui::Dialogs& dialogs, BracketBoard& board, modTallyhoop& state);
+
+} // namespace tallyhoop

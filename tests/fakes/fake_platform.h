@@ -1,0 +1,162 @@
+// tests/fakes/fake_platform.h - a computer that records what it is asked to do.
+#pragma once
+
+#include "fakes/fake_dialogs.h"
+#include "ui/platform.h"
+
+#include <set>
+
+namespace tallyhoop::test {
+
+class FakePrinter : public ui::Printer
+{
+public:
+    std::vector<std::string> fonts{"Courier New"};
+    bool dialogAccepted = true;
+    std::optional<ui::PrinterFont> chosenFont;
+    int pageWidth = 11840;
+    std::optional<Failure> trouble; ///< every printout fails with it
+
+    int printerDialogs = 0;
+    int fontDialogs = 0;
+    std::vector<ui::TextPrintout> texts;
+    std::vector<ui::DrawingPrintout> drawings;
+    std::vector<ui::TextPrintout> previewedTexts;
+    std::vector<ui::DrawingPrintout> previewedDrawings;
+    std::vector<std::filesystem::path> pdfs;
+
+    std::vector<std::string> fontNames() override { return fonts; }
+    bool choosePrinter() override { ++printerDialogs; return dialogAccepted; }
+    std::optional<ui::PrinterFont> chooseFont() override { ++fontDialogs; return chosenFont; }
+    int pageWidthTwips(ui::Orientation) override { return pageWidth; }
+    Result<Done> print(const ui::TextPrintout& printout) override { texts.push_back(printout); return outcome(); }
+    Result<Done> print(const ui::DrawingPrintout& printout) override { drawings.push_back(printout); return outcome(); }
+    Result<Done> savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file) override
+    {
+        texts.push_back(printout);
+        pdfs.push_back(file);
+        return outcome();
+    }
+    Result<Done> savePdf(const ui::DrawingPrintout& printout, const std::filesystem::path& file) override
+    {
+        drawings.push_back(printout);
+        pdfs.push_back(file);
+        return outcome();
+    }
+    void preview(const ui::TextPrintout& printout) override { previewedTexts.push_back(printout); }
+    void preview(const ui::DrawingPrintout& printout) override { previewedDrawings.push_back(printout); }
+
+private:
+    Result<Done> outcome() const { return trouble ? Result<Done>{*trouble} : Result<Done>{Done{}}; }
+};
+
+class FakeMail : public ui::Mail
+{
+public:
+    bool open = false;
+    std::optional<Failure> signOnTrouble;
+    std::optional<Failure> sendTrouble;
+    int signOns = 0;
+    int signOffs = 0;
+    std::vector<ui::MailMessage> sent;
+
+    bool isOpen() const override { return open; }
+    Result<Done> signOn() override
+    {
+        ++signOns;
+        if (signOnTrouble)
+            return *signOnTrouble;
+        open = true;
+        return Done{};
+    }
+    Result<Done> send(const ui::MailMessage& message) override
+    {
+        sent.push_back(message);
+        return sendTrouble ? Result<Done>{*sendTrouble} : Result<Done>{Done{}};
+    }
+    void signOff() override
+    {
+        if (open)
+            ++signOffs;
+        open = false;
+    }
+};
+
+class FakeHelp : public ui::HelpViewer
+{
+public:
+    std::optional<Failure> trouble;
+    std::vector<std::filesystem::path> shown;
+    std::vector<std::string> topics;
+
+    Result<Done> show(const std::filesystem::path& file, const std::string& topic) override
+    {
+        shown.push_back(file);
+        topics.push_back(topic);
+        return trouble ? Result<Done>{*trouble} : Result<Done>{Done{}};
+    }
+};
+
+class FakePrograms : public ui::Programs
+{
+public:
+    std::optional<Failure> checkTrouble;
+    std::optional<Failure> startTrouble;
+    std::vector<std::filesystem::path> started;
+    std::function<void()> whenStarted; ///< what the program does
+
+    Result<Done> check(const std::filesystem::path&) override
+    {
+        return checkTrouble ? Result<Done>{*checkTrouble} : Result<Done>{Done{}};
+    }
+    Result<Done> start(const std::filesystem::path& program) override
+    {
+        if (startTrouble)
+            return *startTrouble;
+        started.push_back(program);
+        if (whenStarted)
+            whenStarted();
+        return Done{};
+    }
+};
+
+class FakeClock : public ui::Clock
+{
+public:
+    std::chrono::year_month_day day{std::chrono::year{2001}, std::chrono::March, std::chrono::day{5}};
+    std::chrono::year_month_day today() const override { return day; }
+};
+
+class FakeProgress : public ui::Progress
+{
+public:
+    int begun = 0;
+    int ended = 0;
+    std::optional<int> cancelAt; ///< the step at which the person cancels
+
+    void begin(const std::string&, int) override { ++begun; }
+    bool advance(int stepsDone) override { return !cancelAt || stepsDone < *cancelAt; }
+    void end() override { ++ended; }
+};
+
+class FakeClipboard : public ui::Clipboard
+{
+public:
+    std::string text;
+    void put(const std::string& newText) override { text = newText; }
+};
+
+/// The services together; `services` is what a screen's constructor takes.
+struct FakePlatform {
+    FakeDialogs dialogs;
+    FakePrinter printer;
+    FakeMail mail;
+    FakeHelp help;
+    FakePrograms programs;
+    FakeClock clock;
+    FakeProgress progress;
+    FakeClipboard clipboard;
+    ui::Platform services{dialogs, printer, mail, help, programs, clock, progress, clipboard};
+};
+
+} // namespace tallyhoop::test

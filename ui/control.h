@@ -1,0 +1,183 @@
+// ui/control.h - what a screen shows, as plain values.
+//
+// A command reads and assigns these fields; nobody is notified. After each command the desk of the window side compares
+// every field with what was last shown and pushes the differences; before each command it pulls in what the person typed,
+// ticked, selected or focused. All texts are Windows-1252 bytes, one byte per character.
+#pragma once
+
+#include "ui/colour.h"
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyhoop::ui {
+
+class Screen;
+
+/// What every control has. Constructing one lists it with its screen.
+struct Control {
+    Control(Screen* screen, std::string_view name);
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const std::string name;  ///< the widget's objectName; members of arrays are "lblRegion_12"
+    bool enabled = true;
+    bool visible = true;
+    int tabIndex = -1;       ///< place in the tab order; -1 = after those that have one, in order of declaration
+    bool tabStop = true;     ///< false = reached by a click only
+    std::string toolTip;     ///< empty = none
+    std::string spokenName;  ///< what a screen reader says; empty = the widget's own text says enough
+    std::string spokenHint;  ///< the screen reader's longer description; empty = none
+};
+
+/// A line of text the person cannot change. The text is data: never markup, `&` never a mnemonic.
+struct Label : Control {
+    Label(Screen* screen, std::string_view name, std::string text = {});
+
+    std::string text;
+    std::optional<Colour> colour; ///< nothing = the palette's text colour
+};
+
+/// Text the person can edit unless it is locked. A one-line box never holds a line break; a multi-line one holds CR LF.
+struct TextBox : Control {
+    TextBox(Screen* screen, std::string_view name, std::function<void()> edited = {});
+
+    std::string text;
+    bool locked = false;
+    bool multiLine = false;
+    int maxLength = 0;                ///< most characters a person can type; 0 = no limit; never cuts a text set here
+    int selectionStart = 0;           ///< caret, or first selected character, 0..text.size()
+    int selectionLength = 0;          ///< selected characters; 0 = a caret only
+    std::optional<Colour> background; ///< nothing = the palette's window colour for boxes
+    std::function<void()> edited;     ///< called after the person changed the text
+};
+
+/// A push button.
+struct Command : Control {
+    Command(Screen* screen, std::string_view name, std::string caption, std::function<void()> action = {});
+
+    std::string caption;    ///< ours, not data: an `&` marks the mnemonic
+    bool isDefault = false; ///< Enter presses it
+    std::function<void()> action;
+
+    /// Does what a press by the person does: nothing while disabled or hidden.
+    void click();
+};
+
+/// A box that is ticked or not.
+struct CheckBox : Control {
+    CheckBox(Screen* screen, std::string_view name, std::string caption = {});
+
+    std::string caption; ///< an `&` marks the mnemonic
+    bool ticked = false;
+    std::function<void()> changed;
+};
+
+/// One of several choices of which at most one is selected; see selectOption().
+struct OptionButton : Control {
+    OptionButton(Screen* screen, std::string_view name, std::string caption = {});
+
+    std::string caption; ///< an `&` marks the mnemonic
+    bool selected = false;
+    std::function<void()> changed;
+};
+
+/// Rows of text of which at most one is selected.
+struct ListBox : Control {
+    ListBox(Screen* screen, std::string_view name);
+
+    std::vector<std::string> rows;
+    std::optional<int> selected;      ///< row index; nothing = no row
+    bool fixedPitch = false;          ///< rows are laid out in columns
+    std::optional<Colour> background; ///< nothing = the palette's
+    std::function<void()> chosen;     ///< called after the person selected a row
+    std::function<void()> doubleClicked;
+
+    /// @returns the selected row's text, empty when none is selected
+    std::string selectedText() const;
+};
+
+enum class Alignment { Left, Right, Centre };
+
+/// A column of a grid.
+struct GridColumn {
+    std::string heading;
+    Alignment alignment = Alignment::Left;
+    int width = 0; ///< characters
+
+    friend bool operator==(const GridColumn&, const GridColumn&) = default;
+};
+
+/// A table with one heading row. Moving a column moves `columns` and the cells of every row alike, so that cell [r][c]
+/// always stands in the c-th column from the left.
+struct Grid : Control {
+    Grid(Screen* screen, std::string_view name);
+
+    std::vector<GridColumn> columns;
+    std::vector<std::vector<std::string>> rows; ///< data rows, each with columns.size() cells
+    std::optional<std::size_t> headingPressed;  ///< the heading that is being dragged, if any
+    unsigned revision = 0;                      ///< increase after changing rows or columns: tables are compared by this
+    std::function<void(std::size_t row, std::size_t column)> cellPressed;
+    std::function<void(std::size_t column)> columnPressed;                 ///< a press on a heading
+    std::function<void(std::optional<std::size_t> column)> columnReleased; ///< its release; nothing = outside the grid
+};
+
+/// An entry of a menu, or a menu when it has children.
+struct MenuEntry : Control {
+    MenuEntry(Screen* screen, std::string_view name, std::string caption, std::function<void()> action = {},
+              std::string shortcut = {});
+
+    std::string caption;              ///< an `&` marks the mnemonic
+    std::string shortcut;             ///< such as "Ctrl+N"; empty = none
+    std::string icon;                 ///< name of a menu icon; empty = none
+    std::function<void()> action;
+    std::vector<MenuEntry*> children; ///< nullptr = a separator
+
+    /// Does what choosing it does: nothing while it is disabled or hidden.
+    void click();
+};
+
+/// Controls that repeat: {this, "lblRegion"} names lblRegion_0, lblRegion_1, ...
+template <class Kind, std::size_t N>
+class ControlArray
+{
+public:
+    ControlArray(Screen* screen, std::string_view name)
+    {
+        for (std::size_t i = 0; i < N; ++i)
+            m_members[i] = std::make_unique<Kind>(screen, std::string{name} + "_" + std::to_string(i));
+    }
+
+    static constexpr std::size_t size() { return N; }
+    Kind& operator[](std::size_t index) { return *m_members.at(index); }
+    const Kind& operator[](std::size_t index) const { return *m_members.at(index); }
+
+    /// @returns the place of this control in the array, nothing when it is not a member
+    std::optional<std::size_t> indexOf(const Control& control) const
+    {
+        for (std::size_t i = 0; i < N; ++i)
+            if (m_members[i].get() == &control)
+                return i;
+        return std::nullopt;
+    }
+
+private:
+    std::array<std::unique_ptr<Kind>, N> m_members;
+};
+
+/// Selects one option of a group and clears the others.
+template <std::size_t N>
+void selectOption(ControlArray<OptionButton, N>& group, std::size_t index)
+{
+    for (std::size_t i = 0; i < N; ++i)
+        group[i].selected = i == index;
+}
+
+} // namespace tallyhoop::ui

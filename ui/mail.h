@@ -1,0 +1,46 @@
+// ui/mail.h - handing a message to the person's own mail client.
+#pragma once
+
+#include "ui/result.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace tallyhoop::ui {
+
+/// A file that travels with a message.
+struct Attachment {
+    std::filesystem::path file;
+    std::size_t position = 0; ///< the character of the body that stands for it, counted from 0
+};
+
+/// All texts are Windows-1252 bytes; the client's side converts.
+struct MailMessage {
+    std::vector<std::string> recipients; ///< addresses in the order chosen; empty = the client asks
+    std::string subject;
+    std::string body;                    ///< lines separated by CR LF; ends in `placeholders` blanks
+    std::size_t placeholders = 0;        ///< trailing blanks of the body that attachments may stand on
+    std::vector<Attachment> attachments;
+};
+
+/// A session with a mail client: sign on, send through the client's own window, sign off.
+class Mail
+{
+public:
+    virtual ~Mail() = default;
+
+    virtual bool isOpen() const = 0;
+
+    /// Opens a session, the client's own log-on dialog allowed; no mail is fetched.
+    virtual Result<Done> signOn() = 0;
+
+    /// Opens the client's compose window with everything filled in; the person confirms or edits there.
+    virtual Result<Done> send(const MailMessage& message) = 0;
+
+    /// Closes the session; nothing happens when none is open.
+    virtual void signOff() = 0;
+};
+
+} // namespace tallyhoop::ui

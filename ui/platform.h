@@ -1,0 +1,75 @@
+// ui/platform.h - the services the screens ask of the computer they run on.
+#pragma once
+
+#include "ui/dialogs.h"
+#include "ui/mail.h"
+#include "ui/printer.h"
+#include "ui/result.h"
+
+#include <chrono>
+#include <filesystem>
+#include <string>
+
+namespace tallyhoop::ui {
+
+/// Shows the help text.
+class HelpViewer
+{
+public:
+    virtual ~HelpViewer() = default;
+
+    /// @param topic an anchor inside the file; empty = its beginning
+    /// @returns a failure when the file is missing, unreadable or empty
+    virtual Result<Done> show(const std::filesystem::path& helpFile, const std::string& topic) = 0;
+};
+
+/// Starts other programs: directly, without a shell or a search path, with a hidden window, never waited for.
+class Programs
+{
+public:
+    virtual ~Programs() = default;
+
+    /// @returns a failure with the system's reason when the program is missing or may not be started
+    virtual Result<Done> check(const std::filesystem::path& program) = 0;
+    virtual Result<Done> start(const std::filesystem::path& program) = 0;
+};
+
+class Clock
+{
+public:
+    virtual ~Clock() = default;
+    virtual std::chrono::year_month_day today() const = 0;
+};
+
+/// Busy pointer and, when work takes long, a progress window that can be cancelled.
+class Progress
+{
+public:
+    virtual ~Progress() = default;
+    virtual void begin(const std::string& what, int steps) = 0;
+
+    /// @returns false when the person cancelled
+    virtual bool advance(int stepsDone) = 0;
+    virtual void end() = 0;
+};
+
+class Clipboard
+{
+public:
+    virtual ~Clipboard() = default;
+    virtual void put(const std::string& text) = 0;
+};
+
+/// Everything above in one bundle, handed to the screens' constructors.
+struct Platform {
+    Dialogs& dialogs;
+    Printer& printer;
+    Mail& mail;
+    HelpViewer& help;
+    Programs& programs;
+    Clock& clock;
+    Progress& progress;
+    Clipboard& clipboard;
+};
+
+} // namespace tallyhoop::ui

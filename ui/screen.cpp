@@ -1,0 +1,39 @@
+#include "ui/screen.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tallyhoop::ui {
+
+Screen::Screen(std::string screenName, std::string screenCaption)
+    : name{std::move(screenName)}, caption{std::move(screenCaption)}
+{
+}
+
+bool Screen::keyPressed(Control&, const KeyPress&)
+{
+    return false;
+}
+
+void Screen::gotFocus(Control&) {}
+
+void Screen::lostFocus(Control&) {}
+
+bool Screen::pasted(TextBox&, const std::string&)
+{
+    return false;
+}
+
+Control* Screen::controlAtTab(int tabIndex) const
+{
+    const auto at = std::ranges::find(m_controls, tabIndex, &Control::tabIndex);
+    return at == m_controls.end() ? nullptr : *at;
+}
+
+Control* Screen::find(std::string_view controlName) const
+{
+    const auto at = std::ranges::find(m_controls, controlName, &Control::name);
+    return at == m_controls.end() ? nullptr : *at;
+}
+
+} // namespace tallyhoop::ui
