@@ -1,0 +1,47 @@
+// bracket/board_history.h - undo and redo on the board: whole boards, because one press can change a whole path.
+#pragma once
+
+#include "bracket/bracket_rules.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tallyhoop {
+
+/// Everything on the board that a command of the editing kind can change.
+struct BoardSnapshot {
+    TeamNamesOnBoard teams;
+    std::string initials;
+    std::string name;
+    std::string finalPoints;
+    std::string pointScore;
+    std::filesystem::path openedFile;
+    bool resultsMode = false;
+    bool unsaved = false;
+
+    friend bool operator==(const BoardSnapshot&, const BoardSnapshot&) = default;
+};
+
+class BoardHistory
+{
+public:
+    /// Notes the board as it was before a change; what had been undone can no longer be redone.
+    void remember(BoardSnapshot before);
+
+    /// @param current the board as it is now, to be able to come back to it
+    /// @returns the board to go back to; nothing when there is none
+    std::optional<BoardSnapshot> undo(BoardSnapshot current);
+    std::optional<BoardSnapshot> redo(BoardSnapshot current);
+
+    bool canUndo() const { return !m_past.empty(); }
+    bool canRedo() const { return !m_future.empty(); }
+    void clear();
+
+private:
+    std::vector<BoardSnapshot> m_past;   ///< oldest first
+    std::vector<BoardSnapshot> m_future; ///< next one last
+};
+
+} // namespace tallyhoop
