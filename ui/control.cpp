@@ -4,23 +4,21 @@
 
 namespace tallyhoop::ui {
 
-Control::Control(Screen* screen, std::string_view controlName) : name{controlName}
-{
-    screen->list(*this);
-}
+Control::Control(Screen* screen, std::string_view controlName) : name{controlName} { screen->list(*this); }
 
-Label::Label(Screen* screen, std::string_view name, std::string labelText)
-    : Control{screen, name}, text{std::move(labelText)}
+Label::Label(Screen* screen, std::string_view controlName, std::string labelText)
+    : Control{screen, controlName}, text{std::move(labelText)}
 {
 }
 
-TextBox::TextBox(Screen* screen, std::string_view name, std::function<void()> onEdited)
-    : Control{screen, name}, edited{std::move(onEdited)}
+TextBox::TextBox(Screen* screen, std::string_view controlName, std::function<void()> onEdited)
+    : Control{screen, controlName}, edited{std::move(onEdited)}
 {
 }
 
-Command::Command(Screen* screen, std::string_view name, std::string commandCaption, std::function<void()> onClick)
-    : Control{screen, name}, caption{std::move(commandCaption)}, action{std::move(onClick)}
+Command::Command(Screen* screen, std::string_view controlName, std::string commandCaption,
+                 std::function<void()> onClick)
+    : Control{screen, controlName}, caption{std::move(commandCaption)}, action{std::move(onClick)}
 {
 }
 
@@ -30,28 +28,31 @@ void Command::click()
         action();
 }
 
-CheckBox::CheckBox(Screen* screen, std::string_view name, std::string boxCaption)
-    : Control{screen, name}, caption{std::move(boxCaption)}
+CheckBox::CheckBox(Screen* screen, std::string_view controlName, std::string boxCaption)
+    : Control{screen, controlName}, caption{std::move(boxCaption)}
 {
 }
 
-OptionButton::OptionButton(Screen* screen, std::string_view name, std::string buttonCaption)
-    : Control{screen, name}, caption{std::move(buttonCaption)}
+OptionButton::OptionButton(Screen* screen, std::string_view controlName, std::string buttonCaption)
+    : Control{screen, controlName}, caption{std::move(buttonCaption)}
 {
 }
 
-ListBox::ListBox(Screen* screen, std::string_view name) : Control{screen, name} {}
+ListBox::ListBox(Screen* screen, std::string_view controlName) : Control{screen, controlName} {}
 
 std::string ListBox::selectedText() const
 {
     return selected ? rows.at(static_cast<std::size_t>(*selected)) : std::string{};
 }
 
-Grid::Grid(Screen* screen, std::string_view name) : Control{screen, name} {}
+Grid::Grid(Screen* screen, std::string_view controlName) : Control{screen, controlName} {}
 
-MenuEntry::MenuEntry(Screen* screen, std::string_view name, std::string entryCaption, std::function<void()> onChosen,
-                     std::string keys)
-    : Control{screen, name}, caption{std::move(entryCaption)}, shortcut{std::move(keys)}, action{std::move(onChosen)}
+MenuEntry::MenuEntry(Screen* screen, std::string_view controlName, std::string entryCaption,
+                     std::function<void()> onChosen, std::string keys)
+    : Control{screen, controlName},
+      caption{std::move(entryCaption)},
+      shortcut{std::move(keys)},
+      action{std::move(onChosen)}
 {
 }
 
