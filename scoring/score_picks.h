@@ -4,8 +4,10 @@
 #include "model/lines.h"
 #include "model/mod_tallyhoop.h"
 #include "model/screens.h"
+#include "scoring/numbered_bracket.h"
 #include "ui/result.h"
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -13,14 +15,14 @@ namespace tallyhoop {
 
 /// One player's score.
 struct ScoreLine {
-    std::string FileName;        ///< as it was given
-    std::string PlayerName;      ///< initials, ", ", name
-    std::int16_t Points = 0;     ///< earned so far
-    std::int16_t MaxPoints = 0;  ///< earned and still possible
-    std::int16_t GoodPicks = 0;  ///< games picked right
-    std::int16_t BadPicks = 0;   ///< slots with the verdict Bad
-    std::string WinningPick;     ///< the player's champion
-    std::string RunnerUpPick;    ///< the player's other finalist
+    std::string FileName;         ///< as it was given
+    std::string PlayerName;       ///< initials, ", ", name
+    std::int16_t Points = 0;      ///< earned so far
+    std::int16_t MaxPoints = 0;   ///< earned and still possible
+    std::int16_t GoodPicks = 0;   ///< games picked right
+    std::int16_t BadPicks = 0;    ///< slots with the verdict Bad
+    std::string WinningPick;      ///< the player's champion
+    std::string RunnerUpPick;     ///< the player's other finalist
     std::int16_t FinalPoints = 0; ///< tie-breaker; 0 when there is none
 
     friend bool operator==(const ScoreLine&, const ScoreLine&) = default;
@@ -34,6 +36,18 @@ struct ScoredPicks {
     std::int16_t badPicks = 0;
     ScoredVerdict verdict;
 };
+
+/// What scoring finds out about numbered brackets.
+struct NumberedScore {
+    std::int32_t points = 0;
+    std::int32_t possible = 0;
+    std::int16_t goodPicks = 0;
+    std::int16_t badPicks = 0;
+    std::array<Verdict, 128> status{}; ///< by slot 1..127
+};
+
+/// Scores numbered picks: the inner part of scorePicks(), for those who keep brackets numbered.
+NumberedScore scoreNumbered(const NumberedPair& pair, const Payoffs& payoffs);
 
 /// Scores picks against results.
 /// @param picks    lines 1..127: a team name for each slot, empty = no pick

@@ -1,0 +1,154 @@
+// scoring/score_picks.cpp - two passes over the bracket: what is decided, then what is still possible.
+#include "scoring/score_picks.h"
+
+#include "model/numbers.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr std::size_t kFirst = selection_line::kFirstTeam;
+constexpr std::size_t kLast = selection_line::kChampion;
+
+/// First pass, from the first slot on: a team's loss is always met at a lower slot than any later pick of it.
+void scoreDecidedGames(const NumberedPair& pair, const Payoffs& payoffs, NumberedScore& score)
+{
+    std::array<bool, 256> eliminated{}; // by team number
+    for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
+        const TeamNumber pick = pair.picks[slot];
+        const TeamNumber result = pair.results[slot];
+        if (result == kNoTeam) {
+            const bool cannotWin = pick == kNoTeam || eliminated[pick];
+            score.status[slot] = cannotWin ? Verdict::Bad : Verdict::Open;
+            score.badPicks = static_cast<std::int16_t>(score.badPicks + cannotWin);
+        } else if (result != pick) {
+            score.status[slot] = Verdict::Bad;
+            ++score.badPicks;
+            eliminated[pick] = pick != kNoTeam;
+        } else {
+            score.status[slot] = Verdict::Good;
+            if (const int round = bracketSlots()[slot].round; round != 0) {
+                score.points += payoffs[static_cast<std::size_t>(round - 1)];
+                ++score.goodPicks;
+            }
+        }
+    }
+}
+
+bool isAlive(Verdict verdict) { return verdict == Verdict::Good || verdict == Verdict::Possible; }
+
+/// Second pass: an open pick can still earn its points when one of the two picks before it can, or did.
+void addPossiblePoints(const Payoffs& payoffs, NumberedScore& score)
+{
+    const auto& slots = bracketSlots();
+    for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
+        const auto& [round, feeders] = slots[slot];
+        if (round == 0 || score.status[slot] != Verdict::Open)
+            continue;
+        if (round > 1 && !isAlive(score.status[feeders[0]]) && !isAlive(score.status[feeders[1]]))
+            continue;
+        score.possible += payoffs[static_cast<std::size_t>(round - 1)];
+        if (slot != kLast) // on purpose: a champion that is still possible keeps the verdict Open
+            score.status[slot] = Verdict::Possible;
+    }
+}
+
+/// @returns the teams picked for a game they did not win, each once, in order of their loss
+std::vector<std::string> eliminatedTeams(const SelectionLines& picks, const NumberedPair& pair)
+{
+    std::vector<std::string> teams;
+    std::array<bool, 256> listed{};
+    for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
+        const TeamNumber pick = pair.picks[slot];
+        const bool lost = pair.results[slot] != kNoTeam && pair.results[slot] != pick;
+        if (lost && pick != kNoTeam && !listed[pick]) {
+            listed[pick] = true;
+            teams.push_back(picks[slot]);
+        }
+    }
+    return teams;
+}
+
+Result<std::int16_t> sixteenBits(std::int32_t points, const std::string& fileName)
+{
+    if (points < std::numeric_limits<std::int16_t>::min() || points > std::numeric_limits<std::int16_t>::max())
+        return Failure{"The points of " + fileName + " are too large to be counted."};
+    return static_cast<std::int16_t>(points);
+}
+
+/// @returns the finalist who is not the champion
+const std::string& runnerUp(const SelectionLines& picks)
+{
+    constexpr std::size_t kFinalistA = kLast - 2;
+    constexpr std::size_t kFinalistB = kLast - 1;
+    return picks[kFinalistB] == picks[kLast] ? picks[kFinalistA] : picks[kFinalistB];
+}
+
+} // namespace
+
+NumberedScore scoreNumbered(const NumberedPair& pair, const Payoffs& payoffs)
+{
+    NumberedScore score;
+    scoreDecidedGames(pair, payoffs, score);
+    addPossiblePoints(payoffs, score);
+    return score;
+}
+
+ScoredPicks scorePicks(const SelectionLines& picks, const SelectionLines& results, const Payoffs& payoffs)
+{
+    const NumberedPair pair = numbered(picks, results);
+    const NumberedScore score = scoreNumbered(pair, payoffs);
+    ScoredPicks scored{score.points, score.possible, score.goodPicks, score.badPicks, {}};
+    std::copy(score.status.begin(), score.status.end(), scored.verdict.SlotStatus.begin());
+    scored.verdict.EliminatedTeams = eliminatedTeams(picks, pair);
+    return scored;
+}
+
+Result<ScoreLine> scoreLine(const std::string& fileName, const SelectionLines& picks, const SelectionLines& results,
+                            const Payoffs& payoffs, ScoredVerdict& verdict)
+{
+    ScoredPicks scored = scorePicks(picks, results, payoffs);
+    verdict = std::move(scored.verdict);
+
+    const Result<std::int16_t> points = sixteenBits(scored.points, fileName);
+    if (!points)
+        return points.failure();
+    const Result<std::int16_t> maximum = sixteenBits(scored.points + scored.possible, fileName);
+    if (!maximum)
+        return maximum.failure();
+    const Result<std::int16_t> finalPoints = wholeNumber(picks[selection_line::kFinalPoints]);
+    if (!finalPoints)
+        return Failure{"The predicted total points of " + fileName + " cannot be used. " +
+                       finalPoints.failure().message};
+
+    ScoreLine line;
+    line.FileName = fileName;
+    line.PlayerName = picks[selection_line::kInitials] + ", " + picks[selection_line::kName];
+    line.Points = *points;
+    line.MaxPoints = *maximum;
+    line.GoodPicks = scored.goodPicks;
+    line.BadPicks = scored.badPicks;
+    line.WinningPick = picks[kLast];
+    line.RunnerUpPick = runnerUp(picks);
+    line.FinalPoints = *finalPoints;
+    return line;
+}
+
+Result<Payoffs> payoffsOf(const std::array<std::string, 6>& texts)
+{
+    Payoffs payoffs{};
+    for (std::size_t round = 0; round < texts.size(); ++round) {
+        const Result<std::int16_t> payoff = wholeNumber(texts[round]);
+        if (!payoff)
+            return payoff.failure();
+        payoffs[round] = *payoff;
+    }
+    return payoffs;
+}
+
+} // namespace tallyhoop
