@@ -1,0 +1,29 @@
+// ui/qt/services/qt_help_viewer.h - the help window: contents, search and links over one HTML file.
+#pragma once
+
+#include "ui/platform.h"
+#include "ui/qt/desk.h"
+
+#include <QPointer>
+
+namespace tallyhoop::qt {
+
+class HelpWindow;
+
+class QtHelpViewer : public ui::HelpViewer
+{
+public:
+    explicit QtHelpViewer(QWidget* frame);
+    ~QtHelpViewer() override;
+
+    Result<Done> show(const std::filesystem::path& helpFile, const std::string& topic) override;
+
+    /// Closes the window, such as at the program's end.
+    void close();
+
+private:
+    QPointer<QWidget> m_frame;
+    QPointer<HelpWindow> m_window;
+};
+
+} // namespace tallyhoop::qt

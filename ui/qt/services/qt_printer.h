@@ -1,0 +1,45 @@
+// ui/qt/services/qt_printer.h - printing, PDF and preview of printouts.
+#pragma once
+
+#include "ui/printer.h"
+#include "ui/qt/desk.h"
+
+#include <QPrinter>
+#include <functional>
+#include <memory>
+
+namespace tallyhoop::qt {
+
+class QtPrinter : public ui::Printer
+{
+public:
+    explicit QtPrinter(Desk& desk);
+    ~QtPrinter() override;
+
+    /// The installed families, and "Courier New" when that name resolves to a face of its widths.
+    std::vector<std::string> fontNames() override;
+    bool choosePrinter() override;
+    std::optional<ui::PrinterFont> chooseFont() override;
+    int pageWidthTwips(ui::Orientation orientation) override;
+
+    Result<Done> print(const ui::TextPrintout& printout) override;
+    Result<Done> print(const ui::DrawingPrintout& printout) override;
+    Result<Done> savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file) override;
+    Result<Done> savePdf(const ui::DrawingPrintout& printout, const std::filesystem::path& file) override;
+    void preview(const ui::TextPrintout& printout) override;
+    void preview(const ui::DrawingPrintout& printout) override;
+
+private:
+    QPrinter& printer();
+    template <class Printout>
+    Result<Done> printOut(const Printout& printout);
+    template <class Printout>
+    Result<Done> writePdf(const Printout& printout, const std::filesystem::path& file);
+    template <class Printout>
+    void showPreview(const Printout& printout);
+
+    Desk& m_desk;
+    std::unique_ptr<QPrinter> m_printer; ///< as last chosen; made when first needed
+};
+
+} // namespace tallyhoop::qt

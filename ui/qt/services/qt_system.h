@@ -1,0 +1,57 @@
+// ui/qt/services/qt_system.h - the small services: other programs, the date, the clipboard, long work.
+#pragma once
+
+#include "ui/platform.h"
+#include "ui/qt/desk.h"
+
+#include <QElapsedTimer>
+#include <memory>
+#include <optional>
+
+class QProgressDialog;
+
+namespace tallyhoop::qt {
+
+class QtPrograms : public ui::Programs
+{
+public:
+    Result<Done> check(const std::filesystem::path& program) override;
+    Result<Done> start(const std::filesystem::path& program) override;
+};
+
+class QtClock : public ui::Clock
+{
+public:
+    std::chrono::year_month_day today() const override;
+};
+
+class QtClipboard : public ui::Clipboard
+{
+public:
+    void put(const std::string& text) override;
+};
+
+/// A busy pointer from the start; after half a second a window with a bar and a Cancel button.
+class QtProgress : public ui::Progress
+{
+public:
+    explicit QtProgress(Desk& desk);
+    ~QtProgress() override;
+
+    void begin(const std::string& what, int steps) override;
+    bool advance(int stepsDone) override;
+    void end() override;
+
+private:
+    void openWindow();
+
+    Desk& m_desk;
+    QElapsedTimer m_since;
+    std::string m_what;
+    int m_steps = 0;
+    int m_nesting = 0;
+    std::unique_ptr<QProgressDialog> m_window;
+    std::optional<Desk::Modal> m_modal;
+};
+
+} // namespace tallyhoop::qt
