@@ -13,27 +13,42 @@ namespace {
 constexpr std::size_t kFirst = selection_line::kFirstTeam;
 constexpr std::size_t kLast = selection_line::kChampion;
 
-/// The names met so far; the n-th has the number n.
+/// The names met so far; the n-th has the number n. They are kept in chains of names that look alike at a glance, since
+/// comparing each with all others would cost more than the scoring itself.
 class KnownNames
 {
 public:
+    /// @param name not empty; kept by address
     TeamNumber numberOf(const std::string& name)
     {
-        for (std::size_t number = 1; number <= m_count; ++number)
+        TeamNumber& first = m_firstOfChain[glance(name)];
+        for (TeamNumber number = first; number != kNoTeam; number = m_nextInChain[number])
             if (*m_names[number] == name)
-                return static_cast<TeamNumber>(number);
-        m_names[++m_count] = &name;
-        return static_cast<TeamNumber>(m_count);
+                return number;
+        ++m_count;
+        m_names[m_count] = &name;
+        m_nextInChain[m_count] = first;
+        return first = m_count;
     }
 
 private:
-    std::array<const std::string*, 256> m_names{};
-    std::size_t m_count = 0;
+    static std::size_t glance(const std::string& name)
+    {
+        const auto byte = [&](std::size_t at) {
+            return static_cast<std::size_t>(static_cast<unsigned char>(name[at]));
+        };
+        return (name.size() * 31 + byte(0) * 7 + byte(name.size() / 2) * 13 + byte(name.size() - 1) * 17) % 256;
+    }
+
+    std::array<TeamNumber, 256> m_firstOfChain{};
+    std::array<TeamNumber, 256> m_nextInChain{};
+    std::array<const std::string*, 256> m_names; ///< the first m_count of 1.. are set
+    TeamNumber m_count = 0;
 };
 
 /// Numbers one bracket. Searching the names met so far is the exception: a winner nearly always repeats the name of one
 /// of the two that met, and anything else that of the same line in the bracket numbered before.
-/// @param before lines numbered already, with their numbers
+/// @param before another bracket; those of its lines count that have a number already
 void number(const SelectionLines& lines, NumberedBracket& numbers, const SelectionLines& before,
             const NumberedBracket& numbersBefore, KnownNames& known)
 {
@@ -48,7 +63,7 @@ void number(const SelectionLines& lines, NumberedBracket& numbers, const Selecti
             numbers[slot] = numbers[upper];
         else if (isGame && name == lines[lower])
             numbers[slot] = numbers[lower];
-        else if (name == before[slot])
+        else if (numbersBefore[slot] != kNoTeam && name == before[slot])
             numbers[slot] = numbersBefore[slot];
         else
             numbers[slot] = known.numberOf(name);
@@ -74,7 +89,7 @@ NumberedPair numbered(const SelectionLines& picks, const SelectionLines& results
 {
     NumberedPair pair;
     KnownNames known;
-    number(results, pair.results, SelectionLines{}, {}, known);
+    number(results, pair.results, picks, pair.picks, known); // no pick has a number yet
     number(picks, pair.picks, results, pair.results, known);
     return pair;
 }

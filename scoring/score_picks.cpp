@@ -15,29 +15,32 @@ namespace {
 constexpr std::size_t kFirst = selection_line::kFirstTeam;
 constexpr std::size_t kLast = selection_line::kChampion;
 
-/// First pass, from the first slot on: a team's loss is always met at a lower slot than any later pick of it.
+/// First pass, from the first slot on: a team's loss is always met at a lower slot than any later pick of it. Written
+/// without branches, which right and wrong picks would make unpredictable.
 void scoreDecidedGames(const NumberedPair& pair, const Payoffs& payoffs, NumberedScore& score)
 {
-    std::array<bool, 256> eliminated{}; // by team number
+    const auto& slots = bracketSlots();
+    const std::array<std::int32_t, kRounds + 1> earned{0,          payoffs[0], payoffs[1], payoffs[2],
+                                                       payoffs[3], payoffs[4], payoffs[5]};
+    std::array<bool, 256> isOut{}; // by team number
+    isOut[kNoTeam] = true;         // an empty pick cannot win either
+    int good = 0;
+    int bad = 0;
     for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
         const TeamNumber pick = pair.picks[slot];
         const TeamNumber result = pair.results[slot];
-        if (result == kNoTeam) {
-            const bool cannotWin = pick == kNoTeam || eliminated[pick];
-            score.status[slot] = cannotWin ? Verdict::Bad : Verdict::Open;
-            score.badPicks = static_cast<std::int16_t>(score.badPicks + cannotWin);
-        } else if (result != pick) {
-            score.status[slot] = Verdict::Bad;
-            ++score.badPicks;
-            eliminated[pick] = pick != kNoTeam;
-        } else {
-            score.status[slot] = Verdict::Good;
-            if (const int round = bracketSlots()[slot].round; round != 0) {
-                score.points += payoffs[static_cast<std::size_t>(round - 1)];
-                ++score.goodPicks;
-            }
-        }
+        const bool isDecided = result != kNoTeam;
+        const bool isRight = isDecided & (pick == result);
+        isOut[pick] |= isDecided & !isRight;
+        const bool isBad = !isRight & isOut[pick];
+        const std::size_t round = slots[slot].round;
+        score.points += isRight ? earned[round] : 0;
+        good += isRight & (round != 0);
+        bad += isBad;
+        score.status[slot] = isRight ? Verdict::Good : isBad ? Verdict::Bad : Verdict::Open;
     }
+    score.goodPicks = static_cast<std::int16_t>(good);
+    score.badPicks = static_cast<std::int16_t>(bad);
 }
 
 bool isAlive(Verdict verdict) { return verdict == Verdict::Good || verdict == Verdict::Possible; }
