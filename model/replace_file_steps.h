@@ -1,0 +1,17 @@
+// model/replace_file_steps.h - the part of replacing a file that differs between systems.
+#pragma once
+
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+namespace tallyhoop {
+
+/// Writes the bytes to the temporary file, flushes them to the disk and lets it take the target's place.
+/// @param target    a full path without symbolic links at its end; it may not exist yet
+/// @param temporary a path in the same folder; what stands there is overwritten
+/// @returns no error, or why the target is as it was; then the temporary is gone
+std::error_code replaceThrough(const std::filesystem::path& temporary, const std::filesystem::path& target,
+                               std::string_view bytes);
+
+} // namespace tallyhoop
