@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds everything, and runs every test; the last thing printed is ctest's summary.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+exec </dev/null
+. scripts/packages.sh
+. scripts/build.sh
+
+install_packages build screen test
+build_preset release build -DTALLYHOOP_TESTS=ON
+build_preset sanitizers build-sanitizers -DTALLYHOOP_TESTS=ON
+
+# One run over both builds, so that one summary tells it all.
+mkdir -p build-tests
+cat >build-tests/CTestTestfile.cmake <<TESTS
+subdirs("$PWD/build" "$PWD/build-sanitizers")
+TESTS
+ctest --test-dir build-tests --output-on-failure --no-tests=error --parallel "$(nproc)"

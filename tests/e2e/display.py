@@ -1,0 +1,64 @@
+"""A virtual display with a window manager, and a hand on its mouse and keyboard."""
+
+import os
+import shutil
+import subprocess
+import tempfile
+
+
+class Display:
+    """One Xvfb with openbox, on a display number that the server picks itself."""
+
+    def __init__(self, width=1366, height=768):
+        self._log = tempfile.TemporaryFile()
+        told, tell = os.pipe()
+        self._server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(tell), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp"],
+            pass_fds=[tell], stdout=self._log, stderr=self._log)
+        os.close(tell)
+        with os.fdopen(told) as number:
+            answer = number.readline().strip()  # comes when the server is ready, or empty when it has ended
+        if not answer:
+            raise RuntimeError("Xvfb did not start")
+        self.name = ":" + answer
+        self._manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment(),
+                                         stdout=self._log, stderr=self._log)
+
+    def environment(self):
+        return {**os.environ, "DISPLAY": self.name}
+
+    def close(self):
+        for process in (self._manager, self._server):
+            process.terminate()
+            process.wait()
+        self._log.close()
+
+    def _do(self, *words):
+        subprocess.run(["xdotool", *map(str, words)], env=self.environment(), check=True)
+
+    def move(self, x, y):
+        self._do("mousemove", x, y)
+
+    def press(self, button=1):
+        self._do("mousedown", button)
+
+    def release(self, button=1):
+        self._do("mouseup", button)
+
+    def key(self, key):
+        """A key in Qt's portable spelling, such as "Ctrl+S" or "Return"."""
+        names = {"ctrl": "ctrl", "shift": "shift", "alt": "alt", "enter": "Return", "esc": "Escape", "pgup": "Prior",
+                 "pgdown": "Next", "space": "space", "del": "Delete", "backspace": "BackSpace"}
+        words = key.split("+")
+        self._do("key", "--clearmodifiers", "+".join(names.get(word.lower(), word.lower() if len(word) == 1 else word)
+                                                     for word in words))
+
+    def type(self, text):
+        self._do("type", "--clearmodifiers", "--delay", "4", text)
+
+    def screenshot(self, path):
+        subprocess.run(["import", "-silent", "-window", "root", path], env=self.environment(), check=True)
+
+
+def tools_are_there():
+    return all(shutil.which(tool) for tool in ("Xvfb", "openbox", "xdotool", "import"))

@@ -1,0 +1,70 @@
+"""The harness itself, tried on a small program with one of everything."""
+
+import unittest
+
+from program import BUILD, Failed, Program, centre
+
+
+class HarnessOnADisplay(unittest.TestCase):
+    platform = "xcb"
+
+    def setUp(self):
+        self.program = self.enterContext(
+            Program(executable=BUILD / "tests/e2e/tallyhoop_e2e_dummy", platform=self.platform)).start()
+
+    def see(self, name, text):
+        self.program.wait(lambda: self.program.text(name) == text, f"{name} showing {text!r}")
+
+    def test_a_click_presses_a_button_and_typing_fills_a_box(self):
+        self.program.type("txtName", "Smith, J. & \"Sons\"")
+        self.program.click("cmdGreet")
+        self.see("lblSaid", "hello Smith, J. & \"Sons\"")
+        self.assertEqual(self.program.caption("cmdGreet"), "Greet")
+
+    def test_a_click_a_drag_and_a_right_press_are_told_apart(self):
+        self.program.click("lblDrag")
+        self.see("lblDrag", "clicked")
+        self.assertEqual(self.program.colour("lblDrag"), "#00ff00")
+        self.program.drag("lblDrag", "cmdGreet")
+        self.see("lblDrag", "dragged")
+        self.program.right_click("lblDrag")
+        self.see("lblDrag", "cleared")
+
+    def test_menus_open_and_boxes_are_answered(self):
+        self.program.menu("mnuFile", "mnuAsk")
+        box = self.program.answer("Yes", "** A QUESTION **")
+        self.assertEqual((box["text"], box["icon"]), ("Well?\r\nYes?", "question"))
+        self.see("lblSaid", "yes")
+        self.program.key("Ctrl+A")
+        self.program.answer("No")
+        self.see("lblSaid", "no")
+        self.assertFalse(self.program.action("mnuNever")["enabled"])
+
+    def test_a_file_dialog_takes_a_name(self):
+        self.program.write("Some file.txt", ["text"])
+        self.program.menu("mnuFile", "mnuOpen")
+        self.program.file_dialog("Some file.txt")
+        self.see("lblSaid", str(self.program.folder / "Some file.txt"))
+
+    def test_a_heading_is_dragged_to_another_place(self):
+        headings = self.program.table("table")["headings"]
+        self.program.drag_between(centre(headings[2]["rect"]), (headings[0]["rect"][0] + 4, centre(headings[0]["rect"])[1]))
+        self.program.wait(lambda: self.program.rows("table") == [["02", "00", "01"], ["12", "10", "11"]], "the new order")
+
+    def test_a_step_that_cannot_be_taken_fails(self):
+        with self.assertRaises(Failed):
+            self.program.widget("cmdNoSuchThing")
+
+
+class HarnessWithoutADisplay(HarnessOnADisplay):
+    platform = "offscreen"
+
+
+class HarnessEnding(unittest.TestCase):
+    def test_the_window_managers_close_ends_the_program(self):
+        with Program(executable=BUILD / "tests/e2e/tallyhoop_e2e_dummy") as program:
+            self.assertEqual(program.start().close(), 0)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,43 @@
+"""The test's side of the inspector plugin: one line of JSON asks, one line of JSON answers."""
+
+import json
+import socket
+import time
+
+
+class Inspector:
+    def __init__(self, path):
+        self._path = path
+        self._socket = None
+        self._lines = None
+
+    def connect(self, is_alive, timeout):
+        """Waits until the program listens; is_alive() tells whether there is still something to wait for."""
+        end = time.monotonic() + timeout
+        while True:
+            try:
+                self._socket = socket.socket(socket.AF_UNIX)
+                self._socket.settimeout(timeout)
+                self._socket.connect(self._path)
+                self._lines = self._socket.makefile("rw", encoding="utf-8", newline="\n")
+                return
+            except OSError:
+                self._socket.close()
+                if not is_alive() or time.monotonic() > end:
+                    raise RuntimeError("the program does not answer") from None
+                time.sleep(0.02)
+
+    def ask(self, question, name="", **more):
+        self._lines.write(json.dumps({"ask": question, "name": name, **more}) + "\n")
+        self._lines.flush()
+        line = self._lines.readline()
+        if not line:
+            raise RuntimeError("the program has ended")
+        return json.loads(line)
+
+    def close(self):
+        if self._lines:
+            self._lines.close()
+        if self._socket:
+            self._socket.close()
+        self._socket = self._lines = None

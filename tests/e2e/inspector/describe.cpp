@@ -1,0 +1,211 @@
+// tests/e2e/inspector/describe.cpp - what a person sees of the program's widgets, read without touching them.
+#include "describe.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextEdit>
+
+namespace inspector {
+namespace {
+
+QJsonArray onScreen(const QWidget* widget, const QRect& rect)
+{
+    const QPoint corner = widget->mapToGlobal(rect.topLeft());
+    return {corner.x(), corner.y(), rect.width(), rect.height()};
+}
+
+QString textOf(const QWidget* widget)
+{
+    if (const auto* plain = qobject_cast<const QPlainTextEdit*>(widget)) {
+        return plain->toPlainText();
+    }
+    if (const auto* rich = qobject_cast<const QTextEdit*>(widget)) {
+        return rich->toPlainText();
+    }
+    if (const auto* combo = qobject_cast<const QComboBox*>(widget)) {
+        return combo->currentText();
+    }
+    if (const auto* group = qobject_cast<const QGroupBox*>(widget)) {
+        return group->title();
+    }
+    return widget->property("text").toString(); // labels, buttons, line edits, and widgets of the program's own
+}
+
+QString nameOf(QMessageBox::Icon icon)
+{
+    switch (icon) {
+    case QMessageBox::NoIcon: return QStringLiteral("none");
+    case QMessageBox::Information: return QStringLiteral("information");
+    case QMessageBox::Warning: return QStringLiteral("warning");
+    case QMessageBox::Critical: return QStringLiteral("critical");
+    case QMessageBox::Question: return QStringLiteral("question");
+    }
+    return {};
+}
+
+QJsonObject describe(const QAction* action)
+{
+    return {{QStringLiteral("found"), true},
+            {QStringLiteral("name"), action->objectName()},
+            {QStringLiteral("text"), action->text()},
+            {QStringLiteral("enabled"), action->isEnabled()},
+            {QStringLiteral("visible"), action->isVisible()},
+            {QStringLiteral("checked"), action->isChecked()},
+            {QStringLiteral("shortcut"), action->shortcut().toString(QKeySequence::PortableText)},
+            {QStringLiteral("rect"), QJsonArray{}}};
+}
+
+/// Calls use(container, action) for each entry of each menu bar and menu of the program.
+template <class Use> void forEachAction(Use use)
+{
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (qobject_cast<QMenuBar*>(widget) != nullptr || qobject_cast<QMenu*>(widget) != nullptr) {
+            for (QAction* action : widget->actions()) {
+                use(widget, action);
+            }
+        }
+    }
+}
+
+QRect rectOf(const QWidget* container, QAction* action)
+{
+    if (const auto* bar = qobject_cast<const QMenuBar*>(container)) {
+        return bar->actionGeometry(action);
+    }
+    return qobject_cast<const QMenu*>(container)->actionGeometry(action);
+}
+
+} // namespace
+
+QWidget* findWidget(const QString& name)
+{
+    QWidget* best = nullptr;
+    int bestRank = -1;
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (widget->objectName() != name) {
+            continue;
+        }
+        const int rank = (widget->isVisible() ? 2 : 0) + (widget->window()->isActiveWindow() ? 1 : 0);
+        if (rank > bestRank) {
+            best = widget;
+            bestRank = rank;
+        }
+    }
+    return best;
+}
+
+QJsonObject describeWidget(QWidget* widget)
+{
+    QJsonObject told{{QStringLiteral("found"), true},
+                     {QStringLiteral("class"), QString::fromLatin1(widget->metaObject()->className())},
+                     {QStringLiteral("rect"), onScreen(widget, widget->rect())},
+                     {QStringLiteral("visible"), widget->isVisible()},
+                     {QStringLiteral("enabled"), widget->isEnabled()},
+                     {QStringLiteral("focus"), widget->hasFocus()},
+                     {QStringLiteral("tabStop"), (widget->focusPolicy() & Qt::TabFocus) != 0},
+                     {QStringLiteral("text"), textOf(widget)},
+                     {QStringLiteral("toolTip"), widget->toolTip()},
+                     {QStringLiteral("accessibleName"), widget->accessibleName()},
+                     {QStringLiteral("accessibleDescription"), widget->accessibleDescription()},
+                     {QStringLiteral("colour"), widget->palette().color(widget->foregroundRole()).name()},
+                     {QStringLiteral("background"), widget->palette().color(widget->backgroundRole()).name()}};
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+        told.insert(QStringLiteral("checked"), button->isChecked());
+    }
+    if (const auto* push = qobject_cast<const QPushButton*>(widget)) {
+        told.insert(QStringLiteral("default"), push->isDefault());
+    }
+    if (const auto* edit = qobject_cast<const QLineEdit*>(widget)) {
+        told.insert(QStringLiteral("readOnly"), edit->isReadOnly());
+        told.insert(QStringLiteral("caret"), edit->cursorPosition());
+        told.insert(QStringLiteral("selected"), edit->selectedText());
+    }
+    return told;
+}
+
+QJsonArray describeWindows()
+{
+    QJsonArray windows;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        if (window->isVisible()) {
+            windows.append(QJsonObject{{QStringLiteral("name"), window->objectName()},
+                                       {QStringLiteral("class"), QString::fromLatin1(window->metaObject()->className())},
+                                       {QStringLiteral("title"), window->windowTitle()},
+                                       {QStringLiteral("modal"), window->isModal()},
+                                       {QStringLiteral("active"), window->isActiveWindow()},
+                                       {QStringLiteral("modified"), window->isWindowModified()},
+                                       {QStringLiteral("rect"), onScreen(window, window->rect())}});
+        }
+    }
+    return windows;
+}
+
+QJsonObject describeModal()
+{
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal == nullptr || !modal->isVisible()) {
+        return {};
+    }
+    QJsonArray buttons;
+    for (const QPushButton* button : modal->findChildren<QPushButton*>()) {
+        if (button->isVisible()) {
+            buttons.append(QJsonObject{{QStringLiteral("text"), button->text()},
+                                       {QStringLiteral("enabled"), button->isEnabled()},
+                                       {QStringLiteral("default"), button->isDefault()},
+                                       {QStringLiteral("rect"), onScreen(button, button->rect())}});
+        }
+    }
+    QJsonObject told{{QStringLiteral("class"), QString::fromLatin1(modal->metaObject()->className())},
+                     {QStringLiteral("name"), modal->objectName()},
+                     {QStringLiteral("title"), modal->windowTitle()},
+                     {QStringLiteral("active"), modal->isActiveWindow()},
+                     {QStringLiteral("rect"), onScreen(modal, modal->rect())},
+                     {QStringLiteral("buttons"), buttons}};
+    if (const auto* box = qobject_cast<const QMessageBox*>(modal)) {
+        told.insert(QStringLiteral("text"), box->text());
+        told.insert(QStringLiteral("icon"), nameOf(box->icon()));
+    }
+    return told;
+}
+
+QJsonObject describeAction(const QString& name)
+{
+    QJsonObject told{{QStringLiteral("found"), false}};
+    forEachAction([&](QWidget* container, QAction* action) {
+        if (action->objectName() != name && !(action->menu() != nullptr && action->menu()->objectName() == name)) {
+            return;
+        }
+        const bool clickable = container->isVisible() && action->isVisible();
+        if (!told.value(QStringLiteral("found")).toBool() || clickable) {
+            told = describe(action);
+        }
+        if (clickable) {
+            told.insert(QStringLiteral("rect"), onScreen(container, rectOf(container, action)));
+        }
+    });
+    return told;
+}
+
+QJsonArray actionNames()
+{
+    QStringList names;
+    forEachAction([&names](QWidget*, QAction* action) {
+        if (!action->objectName().isEmpty() && !names.contains(action->objectName())) {
+            names.append(action->objectName());
+        }
+    });
+    return QJsonArray::fromStringList(names);
+}
+
+} // namespace inspector

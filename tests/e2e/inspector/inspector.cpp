@@ -1,0 +1,135 @@
+// tests/e2e/inspector/inspector.cpp - a Qt plugin that the unmodified program loads when a test asks Qt for it: it listens
+// on a local socket and answers, one line of JSON for one line of JSON, what is on the screen.
+#include "describe.h"
+#include "inject.h"
+
+#include <QApplication>
+#include <QGenericPlugin>
+#include <QJsonDocument>
+#include <QLocalServer>
+#include <QLocalSocket>
+#include <QTimer>
+#include <QWindow>
+
+namespace inspector {
+namespace {
+
+/// Counts what has reached the program, so that a test can wait for its own press or key to be dealt with.
+class EventCounter : public QObject {
+public:
+    using QObject::QObject;
+    QJsonObject counts() const
+    {
+        return {{QStringLiteral("presses"), m_presses},
+                {QStringLiteral("releases"), m_releases},
+                {QStringLiteral("moves"), m_moves},
+                {QStringLiteral("keys"), m_keys}};
+    }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override
+    {
+        if (receiver->isWindowType()) { // once for each event, before it is handed on to a widget
+            m_presses += event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonDblClick ? 1 : 0;
+            m_releases += event->type() == QEvent::MouseButtonRelease ? 1 : 0;
+            m_moves += event->type() == QEvent::MouseMove ? 1 : 0;
+            m_keys += event->type() == QEvent::KeyRelease ? 1 : 0;
+        }
+        return false;
+    }
+
+private:
+    int m_presses = 0;
+    int m_releases = 0;
+    int m_moves = 0;
+    int m_keys = 0;
+};
+
+class Inspector : public QObject {
+public:
+    explicit Inspector(const QString& socketPath)
+    {
+        // The application object is still being made: filter and listen once it is there.
+        QTimer::singleShot(0, this, [this, socketPath] {
+            QApplication::instance()->installEventFilter(&m_counter);
+            connect(&m_server, &QLocalServer::newConnection, this, &Inspector::greet);
+            m_server.listen(socketPath);
+        });
+    }
+
+private:
+    void greet()
+    {
+        QLocalSocket* caller = m_server.nextPendingConnection();
+        connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
+        connect(caller, &QLocalSocket::readyRead, this, [this, caller] {
+            while (caller->canReadLine()) {
+                const QJsonObject request = QJsonDocument::fromJson(caller->readLine()).object();
+                caller->write(QJsonDocument(answer(request)).toJson(QJsonDocument::Compact) + '\n');
+                caller->flush();
+            }
+        });
+    }
+
+    QJsonObject answer(const QJsonObject& request)
+    {
+        const QString ask = request.value(QLatin1String("ask")).toString();
+        const QString name = request.value(QLatin1String("name")).toString();
+        if (ask == QLatin1String("windows")) {
+            return {{QStringLiteral("windows"), describeWindows()}};
+        }
+        if (ask == QLatin1String("modal")) {
+            return describeModal();
+        }
+        if (ask == QLatin1String("action")) {
+            return describeAction(name);
+        }
+        if (ask == QLatin1String("actions")) {
+            return {{QStringLiteral("names"), actionNames()}};
+        }
+        if (ask == QLatin1String("counts")) {
+            return m_counter.counts();
+        }
+        if (ask == QLatin1String("inject")) {
+            // Later: the event may open a box that does not return before the test has answered it.
+            QTimer::singleShot(0, this, [request] { inject(request); });
+            return {};
+        }
+        return aboutWidget(ask, name, request);
+    }
+
+    static QJsonObject aboutWidget(const QString& ask, const QString& name, const QJsonObject& request)
+    {
+        QWidget* widget = findWidget(name);
+        if (widget == nullptr) {
+            return {{QStringLiteral("found"), false}};
+        }
+        if (ask == QLatin1String("table")) {
+            return describeTable(widget);
+        }
+        if (ask == QLatin1String("grab")) {
+            return {{QStringLiteral("found"), widget->grab().save(request.value(QLatin1String("path")).toString())}};
+        }
+        return describeWidget(widget);
+    }
+
+    QLocalServer m_server;
+    EventCounter m_counter;
+};
+
+} // namespace
+
+class InspectorPlugin : public QGenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "inspector.json")
+
+public:
+    QObject* create(const QString&, const QString&) override
+    {
+        const QString socketPath = qEnvironmentVariable("TALLYHOOP_INSPECTOR_SOCKET");
+        return socketPath.isEmpty() ? nullptr : new Inspector(socketPath);
+    }
+};
+
+} // namespace inspector
+
+#include "inspector.moc"

@@ -1,0 +1,338 @@
+"""The program under test: a program folder of its own, real windows, real mouse and key events.
+
+Nothing here waits a fixed time: every step waits until what it needs is there, and fails telling what it saw instead.
+"""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+
+from display import Display
+from inspector import Inspector
+
+BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
+CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
+PATIENCE = 60  # seconds; only a failing test ever waits that long
+
+
+def plain(caption):
+    """A caption without its mnemonic marks: "&Open" is "Open", "A && B" is "A & B"."""
+    return caption.replace("&&", "\0").replace("&", "").replace("\0", "&")
+
+
+def centre(rect):
+    x, y, width, height = rect
+    return x + width // 2, y + height // 2
+
+
+class Failed(AssertionError):
+    """A step of the story could not be taken."""
+
+
+class Program:
+    """One program folder and the program running in it. Use as a context manager."""
+
+    _laid_out = None  # the folder as installed, made once and copied for each program
+
+    def __init__(self, folder=None, executable=None, platform="xcb", environment=None):
+        self._scratch = pathlib.Path(tempfile.mkdtemp(prefix="tallyhoop-e2e-"))
+        self.folder = pathlib.Path(folder) if folder else self._scratch / "pool"
+        self._executable = executable
+        self._platform = platform
+        self._more_environment = environment or {}
+        self._display = Display() if platform == "xcb" else None
+        self._process = None
+        self._inspector = None
+        self._errors = self._scratch / "errors.txt"
+        if executable is None:
+            self.lay_out()
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, kind, error, trace):
+        if error is not None:
+            self._leave_evidence()
+        self.stop()
+        if self._display:
+            self._display.close()
+        shutil.rmtree(self._scratch, ignore_errors=True)
+
+    # --- the program folder ---
+
+    def lay_out(self):
+        """Puts the program's own files into the folder as the installation does; data files there stay."""
+        if Program._laid_out is None:
+            Program._laid_out = tempfile.TemporaryDirectory(prefix="tallyhoop-e2e-installed-")
+            subprocess.run([CMAKE, "--install", BUILD, "--prefix", Program._laid_out.name, "--component", "program"],
+                           check=True, stdout=subprocess.DEVNULL)
+        self.folder.mkdir(parents=True, exist_ok=True)
+        for file in pathlib.Path(Program._laid_out.name).iterdir():
+            shutil.copy2(file, self.folder / file.name)
+
+    def read(self, name):
+        return (self.folder / name).read_bytes()
+
+    def write(self, name, content):
+        """Writes a data file; lines of text get the line ends that the program writes."""
+        if not isinstance(content, bytes):
+            content = "".join(line + "\r\n" for line in content).encode("cp1252")
+        (self.folder / name).write_bytes(content)
+
+    def files(self):
+        """The names of the data files in the folder, sorted."""
+        own = {"tallyhoop", "DEMOSET.EXE", "TALLYHOOP.HLP", "NCAALIST.THS"}
+        return sorted(file.name for file in self.folder.iterdir() if file.name not in own)
+
+    # --- starting and ending ---
+
+    def start(self):
+        socket_path = self._scratch / "inspector"
+        socket_path.unlink(missing_ok=True)
+        home = self._scratch / "home"
+        runtime = self._scratch / "runtime"
+        home.mkdir(exist_ok=True)
+        runtime.mkdir(mode=0o700, exist_ok=True)
+        environment = {
+            "PATH": os.environ.get("PATH", "/usr/bin:/bin"), "LC_ALL": "C.UTF-8", "HOME": str(home),
+            "XDG_RUNTIME_DIR": str(runtime), "QT_QPA_PLATFORM": self._platform,
+            "QT_PLUGIN_PATH": str(BUILD / "tests/e2e/plugins"), "QT_QPA_GENERIC_PLUGINS": "tallyhoopinspector",
+            "TALLYHOOP_INSPECTOR_SOCKET": str(socket_path), **self._more_environment}
+        if self._display:
+            environment["DISPLAY"] = self._display.name
+        executable = self._executable or self.folder / "tallyhoop"
+        self.folder.mkdir(parents=True, exist_ok=True)
+        with open(self._errors, "ab") as errors:
+            self._process = subprocess.Popen([str(executable)], cwd=self._scratch, env=environment,
+                                             stdin=subprocess.DEVNULL, stdout=errors, stderr=errors)
+        self._inspector = Inspector(str(socket_path))
+        self._inspector.connect(lambda: self._process.poll() is None, PATIENCE)
+        self.wait(lambda: any(window["active"] for window in self.windows()), "a window with the focus")
+        return self
+
+    def is_running(self):
+        return self._process is not None and self._process.poll() is None
+
+    def wait_for_end(self):
+        """Waits until the program has ended by itself; its exit code."""
+        try:
+            return self._process.wait(PATIENCE)
+        except subprocess.TimeoutExpired:
+            raise Failed("the program did not end") from None
+
+    def close(self):
+        """Closes the frame as the window manager's close button does, and waits for the end."""
+        frame = [window for window in self.windows() if not window["modal"]][0]
+        identity = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", frame["title"]], text=True,
+                                  env=self._display.environment(), capture_output=True, check=True).stdout.split()[0]
+        subprocess.run(["xdotool", "windowquit", identity],
+                       env=self._display.environment(), check=True)
+        return self.wait_for_end()
+
+    def stop(self):
+        """Ends the program without asking it; for the end of a test."""
+        if self._inspector:
+            self._inspector.close()
+            self._inspector = None
+        if self.is_running():
+            self._process.send_signal(signal.SIGKILL)
+            self._process.wait()
+
+    def restart(self):
+        if self.is_running():
+            self.close()
+        return self.start()
+
+    def errors(self):
+        """Everything the program wrote to its terminal."""
+        return self._errors.read_text(errors="replace") if self._errors.exists() else ""
+
+    # --- looking ---
+
+    def wait(self, condition, what):
+        """Asks until condition() gives something true, and gives that."""
+        end = time.monotonic() + PATIENCE
+        while True:
+            answer = condition()
+            if answer:
+                return answer
+            if not self.is_running():
+                raise Failed(f"the program has ended (code {self._process.returncode}) before: {what}\n{self.errors()}")
+            if time.monotonic() > end:
+                raise Failed(f"never came: {what}; modal: {self.modal()}; windows: {self.windows()}")
+            time.sleep(0.01)
+
+    def windows(self):
+        return self._inspector.ask("windows")["windows"]
+
+    def modal(self):
+        """The modal box in front, or an empty dictionary."""
+        return self._inspector.ask("modal")
+
+    def widget(self, name):
+        """All that is known of a widget; fails when there is none of that name."""
+        told = self._inspector.ask("widget", name)
+        if not told["found"]:
+            raise Failed(f"there is no {name}")
+        return told
+
+    def has(self, name):
+        return self._inspector.ask("widget", name)["found"]
+
+    def visible(self, name):
+        told = self._inspector.ask("widget", name)
+        return told["found"] and told["visible"]
+
+    def text(self, name):
+        return self.widget(name)["text"]
+
+    def caption(self, name):
+        return plain(self.widget(name)["text"])
+
+    def colour(self, name):
+        return self.widget(name)["colour"]
+
+    def enabled(self, name):
+        return self.widget(name)["enabled"]
+
+    def rows(self, name):
+        """The cells of a list or table, row by row, in the order shown."""
+        return self._inspector.ask("table", name)["rows"]
+
+    def table(self, name):
+        return self._inspector.ask("table", name)
+
+    def action(self, name):
+        """A menu entry: enabled, visible, text."""
+        told = self._inspector.ask("action", name)
+        if not told["found"]:
+            raise Failed(f"there is no menu entry {name}")
+        return told
+
+    def grab(self, name, path):
+        """A picture of one widget."""
+        if not self._inspector.ask("grab", name, path=str(path))["found"]:
+            raise Failed(f"no picture of {name}")
+
+    def screenshot(self, path):
+        """A picture of the whole display."""
+        self._display.screenshot(str(path))
+
+    # --- acting ---
+
+    def move(self, point):
+        self._act("moves", lambda: self._display.move(*point), mouse="move", x=point[0], y=point[1])
+
+    def press(self, point, button=1):
+        if self._display:
+            self._display.move(*point)
+        self._act("presses", lambda: self._display.press(button), mouse="press", x=point[0], y=point[1], button=button)
+
+    def release(self, point, button=1):
+        self._act("releases", lambda: self._display.release(button),
+                  mouse="release", x=point[0], y=point[1], button=button)
+
+    def click_at(self, point, button=1):
+        self.press(point, button)
+        self.release(point, button)
+
+    def click(self, name):
+        self.click_at(centre(self._reachable(name)["rect"]))
+
+    def right_click(self, name):
+        self.click_at(centre(self._reachable(name)["rect"]), button=3)
+
+    def drag(self, name, target):
+        """Presses on one widget, moves in steps, lets go on another."""
+        self.drag_between(centre(self._reachable(name)["rect"]), centre(self._reachable(target)["rect"]))
+
+    def drag_between(self, start, end):
+        self.press(start)
+        steps = 6
+        for step in range(1, steps + 1):
+            self.move(tuple(a + (b - a) * step // steps for a, b in zip(start, end)))
+        self.release(end)
+
+    def key(self, key):
+        self._act("keys", lambda: self._display.key(key), key=key)
+
+    def type_text(self, text):
+        """Types wherever the focus is."""
+        if self._display:
+            self._display.type(text)
+        else:
+            self._inspector.ask("inject", type=text)
+
+    def type(self, name, text):
+        """Replaces the text of an entry field by typing."""
+        self.click(name)
+        self.wait(lambda: self.widget(name)["focus"], f"{name} having the focus")
+        self.key("Ctrl+A")
+        self.key("Delete")
+        self.wait(lambda: self.text(name) == "", f"{name} being empty")
+        if text:
+            self.type_text(text)
+        self.wait(lambda: self.text(name) == text, f"{name} holding {text!r}")
+
+    def menu(self, *path):
+        """Clicks through menus by the names of their entries: menu("mnuFile", "mnuExit")."""
+        for name in path:
+            def clickable(entry=name):
+                action = self.action(entry)
+                return action["rect"] if action["rect"] and action["enabled"] else None
+            self.click_at(centre(self.wait(clickable, f"the menu entry {name}, to be clicked")))
+
+    def box(self, title=None):
+        """Waits for a modal box, of that title if one is given."""
+        def there():
+            told = self.modal()
+            return told if told and told["active"] and (title is None or told["title"] == title) else None
+        return self.wait(there, f"the box {title!r}")
+
+    def answer(self, button, title=None):
+        """Waits for a modal box and presses one of its buttons; gives what the box showed."""
+        told = self.box(title)
+        for candidate in told["buttons"]:
+            if plain(candidate["text"]) == button and candidate["enabled"]:
+                self.click_at(centre(candidate["rect"]))
+                self.wait(lambda: self.modal() != told, f"the box {told['title']!r} going away")
+                return told
+        raise Failed(f"no button {button!r} in {told}")
+
+    def file_dialog(self, name):
+        """Waits for a file dialog, types the path (a bare name lies in the program folder) and accepts it."""
+        self.wait(lambda: self.modal().get("class") == "QFileDialog", "a file dialog")
+        self.box()
+        self.type("fileNameEdit", str(self.folder / name))
+        self.key("Return")
+
+    # --- inside ---
+
+    def _reachable(self, name):
+        def there():
+            told = self._inspector.ask("widget", name)
+            return told if told["found"] and told["visible"] else None
+        return self.wait(there, f"{name} being on the screen")
+
+    def _act(self, counter, with_hand, **inside):
+        """Does one thing, and waits until the program has received it."""
+        before = self._inspector.ask("counts")[counter]
+        if self._display:
+            with_hand()
+        else:
+            self._inspector.ask("inject", **inside)
+        self.wait(lambda: not self.is_running() or self._inspector.ask("counts")[counter] > before,
+                  f"{counter} reaching the program")
+
+    def _leave_evidence(self):
+        if self._display and self.is_running():
+            evidence = BUILD / "e2e-failures"
+            evidence.mkdir(exist_ok=True)
+            path = evidence / f"{int(time.time())}-{os.getpid()}.png"
+            self._display.screenshot(str(path))
+            print(f"what was on the screen: {path}")
+        print(self.errors())
