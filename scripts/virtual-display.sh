@@ -53,9 +53,17 @@ start_virtual_display() {
     export DISPLAY=":$number"
     unset WAYLAND_DISPLAY
     xauth -q add "$DISPLAY" . "$cookie"
-    # Without a window manager no window ever gets the keyboard.
+    # Without a window manager no window ever gets the keyboard, nor does one that comes before it.
     openbox --sm-disable >"$session/openbox.log" 2>&1 &
     helpers+=($!)
+    local tries
+    for ((tries = 0; tries < 300; tries++)); do
+        xdotool get_desktop >/dev/null 2>&1 && return 0
+        sleep 0.1
+    done
+    echo "The window manager did not start:" >&2
+    cat "$session/openbox.log" >&2
+    return 1
 }
 
 # A password of its own for each run: VNC looks at eight characters only, so all of them are random.

@@ -4,6 +4,7 @@ import os
 import shutil
 import subprocess
 import tempfile
+import time
 
 
 class Display:
@@ -23,6 +24,13 @@ class Display:
         self.name = ":" + answer
         self._manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment(),
                                          stdout=self._log, stderr=self._log)
+        # A window that comes before the window manager never gets the keyboard.
+        end = time.monotonic() + 30
+        while subprocess.run(["xdotool", "get_desktop"], env=self.environment(), stdout=self._log,
+                             stderr=self._log).returncode != 0:
+            if time.monotonic() > end:
+                raise RuntimeError("openbox did not start")
+            time.sleep(0.02)
 
     def environment(self):
         return {**os.environ, "DISPLAY": self.name}
@@ -50,7 +58,7 @@ class Display:
         names = {"ctrl": "ctrl", "shift": "shift", "alt": "alt", "enter": "Return", "esc": "Escape", "pgup": "Prior",
                  "pgdown": "Next", "space": "space", "del": "Delete", "backspace": "BackSpace"}
         words = key.split("+")
-        self._do("key", "--clearmodifiers", "+".join(names.get(word.lower(), word.lower() if len(word) == 1 else word)
+        self._do("key", "--clearmodifiers", "+".join(names.get(word.lower(), word if len(word) > 1 else word.lower())
                                                      for word in words))
 
     def type(self, text):

@@ -35,7 +35,7 @@ class HarnessOnADisplay(unittest.TestCase):
         box = self.program.answer("Yes", "** A QUESTION **")
         self.assertEqual((box["text"], box["icon"]), ("Well?\r\nYes?", "question"))
         self.see("lblSaid", "yes")
-        self.program.key("Ctrl+A")
+        self.program.key("Ctrl+J")
         self.program.answer("No")
         self.see("lblSaid", "no")
         self.assertFalse(self.program.action("mnuNever")["enabled"])

@@ -16,7 +16,7 @@ from inspector import Inspector
 
 BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
 CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
-PATIENCE = 60  # seconds; only a failing test ever waits that long
+PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
 
 
 def plain(caption):
@@ -126,11 +126,8 @@ class Program:
 
     def close(self):
         """Closes the frame as the window manager's close button does, and waits for the end."""
-        frame = [window for window in self.windows() if not window["modal"]][0]
-        identity = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", frame["title"]], text=True,
-                                  env=self._display.environment(), capture_output=True, check=True).stdout.split()[0]
-        subprocess.run(["xdotool", "windowquit", identity],
-                       env=self._display.environment(), check=True)
+        self.wait(lambda: any(window["active"] and not window["modal"] for window in self.windows()), "the frame in front")
+        self._display.key("Alt+F4")
         return self.wait_for_end()
 
     def stop(self):
@@ -258,6 +255,8 @@ class Program:
         self.release(end)
 
     def key(self, key):
+        if self._display:
+            self.wait(lambda: any(window["active"] for window in self.windows()), "a window with the focus")
         self._act("keys", lambda: self._display.key(key), key=key)
 
     def type_text(self, text):

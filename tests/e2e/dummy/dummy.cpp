@@ -15,7 +15,8 @@
 namespace {
 
 /// Shows where a press began and where the pointer was let go.
-class DragLabel : public QLabel {
+class DragLabel : public QLabel
+{
 public:
     using QLabel::QLabel;
 
@@ -25,7 +26,9 @@ protected:
     {
         const QPoint way = event->globalPosition().toPoint() - m_from;
         const bool right = event->button() == Qt::RightButton;
-        setText(right ? QStringLiteral("cleared") : way.isNull() ? QStringLiteral("clicked") : QStringLiteral("dragged"));
+        setText(right          ? QStringLiteral("cleared")
+                : way.isNull() ? QStringLiteral("clicked")
+                               : QStringLiteral("dragged"));
         QPalette colours = palette();
         colours.setColor(foregroundRole(), QColor(0, 255, 0));
         setPalette(colours);
@@ -41,12 +44,11 @@ void addMenus(QMainWindow& window, QLabel& said)
     file->menuAction()->setObjectName(QStringLiteral("mnuFile"));
     QAction* open = file->addAction(QStringLiteral("&Open..."));
     open->setObjectName(QStringLiteral("mnuOpen"));
-    QObject::connect(open, &QAction::triggered, &window, [&window, &said] {
-        said.setText(QFileDialog::getOpenFileName(&window, QStringLiteral("Open")));
-    });
+    QObject::connect(open, &QAction::triggered, &window,
+                     [&window, &said] { said.setText(QFileDialog::getOpenFileName(&window, QStringLiteral("Open"))); });
     QAction* ask = file->addAction(QStringLiteral("&Ask"));
     ask->setObjectName(QStringLiteral("mnuAsk"));
-    ask->setShortcut(QKeySequence(QStringLiteral("Ctrl+A")));
+    ask->setShortcut(QKeySequence(QStringLiteral("Ctrl+J")));
     QObject::connect(ask, &QAction::triggered, &window, [&window, &said] {
         QMessageBox box(QMessageBox::Question, QStringLiteral("** A QUESTION **"), QStringLiteral("Well?\r\nYes?"),
                         QMessageBox::Yes | QMessageBox::No, &window);
@@ -88,7 +90,8 @@ int main(int argc, char** argv)
     name->setObjectName(QStringLiteral("txtName"));
     auto* greet = new QPushButton(QStringLiteral("&Greet"));
     greet->setObjectName(QStringLiteral("cmdGreet"));
-    QObject::connect(greet, &QPushButton::clicked, said, [said, name] { said->setText(QStringLiteral("hello ") + name->text()); });
+    QObject::connect(greet, &QPushButton::clicked, said,
+                     [said, name] { said->setText(QStringLiteral("hello ") + name->text()); });
     for (QWidget* widget : std::initializer_list<QWidget*>{said, drag, name, greet, makeTable()}) {
         layout->addWidget(widget);
     }

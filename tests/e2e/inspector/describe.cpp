@@ -45,11 +45,16 @@ QString textOf(const QWidget* widget)
 QString nameOf(QMessageBox::Icon icon)
 {
     switch (icon) {
-    case QMessageBox::NoIcon: return QStringLiteral("none");
-    case QMessageBox::Information: return QStringLiteral("information");
-    case QMessageBox::Warning: return QStringLiteral("warning");
-    case QMessageBox::Critical: return QStringLiteral("critical");
-    case QMessageBox::Question: return QStringLiteral("question");
+    case QMessageBox::NoIcon:
+        return QStringLiteral("none");
+    case QMessageBox::Information:
+        return QStringLiteral("information");
+    case QMessageBox::Warning:
+        return QStringLiteral("warning");
+    case QMessageBox::Critical:
+        return QStringLiteral("critical");
+    case QMessageBox::Question:
+        return QStringLiteral("question");
     }
     return {};
 }
@@ -67,7 +72,8 @@ QJsonObject describe(const QAction* action)
 }
 
 /// Calls use(container, action) for each entry of each menu bar and menu of the program.
-template <class Use> void forEachAction(Use use)
+template <class Use>
+void forEachAction(Use use)
 {
     for (QWidget* widget : QApplication::allWidgets()) {
         if (qobject_cast<QMenuBar*>(widget) != nullptr || qobject_cast<QMenu*>(widget) != nullptr) {
@@ -139,13 +145,14 @@ QJsonArray describeWindows()
     QJsonArray windows;
     for (QWidget* window : QApplication::topLevelWidgets()) {
         if (window->isVisible()) {
-            windows.append(QJsonObject{{QStringLiteral("name"), window->objectName()},
-                                       {QStringLiteral("class"), QString::fromLatin1(window->metaObject()->className())},
-                                       {QStringLiteral("title"), window->windowTitle()},
-                                       {QStringLiteral("modal"), window->isModal()},
-                                       {QStringLiteral("active"), window->isActiveWindow()},
-                                       {QStringLiteral("modified"), window->isWindowModified()},
-                                       {QStringLiteral("rect"), onScreen(window, window->rect())}});
+            windows.append(
+                QJsonObject{{QStringLiteral("name"), window->objectName()},
+                            {QStringLiteral("class"), QString::fromLatin1(window->metaObject()->className())},
+                            {QStringLiteral("title"), window->windowTitle()},
+                            {QStringLiteral("modal"), window->isModal()},
+                            {QStringLiteral("active"), window->isActiveWindow()},
+                            {QStringLiteral("modified"), window->isWindowModified()},
+                            {QStringLiteral("rect"), onScreen(window, window->rect())}});
         }
     }
     return windows;

@@ -21,9 +21,9 @@ QJsonArray headingsOf(const QTableView* table)
     for (int place = 0; place < header->count(); ++place) {
         const int column = header->logicalIndex(place);
         const QRect rect(header->sectionViewportPosition(column), 0, header->sectionSize(column), header->height());
-        headings.append(QJsonObject{
-            {QStringLiteral("text"), table->model()->headerData(column, Qt::Horizontal).toString()},
-            {QStringLiteral("rect"), onScreen(header->viewport(), rect)}});
+        headings.append(
+            QJsonObject{{QStringLiteral("text"), table->model()->headerData(column, Qt::Horizontal).toString()},
+                        {QStringLiteral("rect"), onScreen(header->viewport(), rect)}});
     }
     return headings;
 }
@@ -52,10 +52,11 @@ QJsonObject describeTable(QWidget* widget)
         rows.append(cells);
         rects.append(places);
     }
-    QJsonObject told{{QStringLiteral("found"), true},
-                     {QStringLiteral("rows"), rows},
-                     {QStringLiteral("rects"), rects},
-                     {QStringLiteral("current"), view->selectionModel()->hasSelection() ? view->currentIndex().row() : -1}};
+    QJsonObject told{
+        {QStringLiteral("found"), true},
+        {QStringLiteral("rows"), rows},
+        {QStringLiteral("rects"), rects},
+        {QStringLiteral("current"), view->selectionModel()->hasSelection() ? view->currentIndex().row() : -1}};
     if (table != nullptr) {
         told.insert(QStringLiteral("headings"), headingsOf(table));
     }

@@ -9,13 +9,13 @@
 namespace inspector {
 namespace {
 
-QWindow* windowAt(const QPoint& point)
+/// The visible window in front of those that fulfil the condition: a menu, then a box, then the one shown last.
+template <class Condition>
+QWindow* frontWindow(Condition condition)
 {
-    // The last one in the list was shown last and lies on top: a menu, then a box, then the frame.
-    const QWindowList windows = QGuiApplication::topLevelWindows();
     QWindow* found = nullptr;
-    for (QWindow* window : windows) {
-        if (window->isVisible() && window->geometry().contains(point)) {
+    for (QWindow* window : QGuiApplication::topLevelWindows()) {
+        if (window->isVisible() && condition(*window)) {
             const bool inFront = found == nullptr || window->type() == Qt::Popup || window->isModal() ||
                                  (found->type() != Qt::Popup && !found->isModal());
             found = inFront ? window : found;
@@ -26,7 +26,7 @@ QWindow* windowAt(const QPoint& point)
 
 void injectMouse(const QString& what, const QPoint& point, Qt::MouseButton button)
 {
-    QWindow* window = windowAt(point);
+    QWindow* window = frontWindow([&point](const QWindow& one) { return one.geometry().contains(point); });
     if (window == nullptr) {
         return;
     }
@@ -51,8 +51,12 @@ void inject(const QJsonObject& request)
         return;
     }
     QWindow* window = QGuiApplication::focusWindow();
-    if (window == nullptr) {
-        return;
+    if (window == nullptr) { // without a window manager nobody hands the focus back when a box has closed
+        window = frontWindow([](const QWindow&) { return true; });
+        if (window == nullptr) {
+            return;
+        }
+        window->requestActivate();
     }
     if (request.contains(QLatin1String("key"))) {
         const QKeySequence keys(request.value(QLatin1String("key")).toString(), QKeySequence::PortableText);

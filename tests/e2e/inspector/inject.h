@@ -1,11 +1,13 @@
-// tests/e2e/inspector/inject.h - mouse and key events made inside the program, where there is no display to make them on.
+// tests/e2e/inspector/inject.h - mouse and key events made inside the program, where there is no display to make them
+// on.
 #pragma once
 #include <QJsonObject>
 
 namespace inspector {
 
-/// Sends one event to the window under the point or with the focus. The request holds "mouse" ("move", "press", "release")
-/// with "x", "y" and "button" (1 left, 3 right), or "key" in portable spelling ("Ctrl+S"), or "type" with a text.
+/// Sends one event to the window under the point or with the focus. The request holds "mouse" ("move", "press",
+/// "release") with "x", "y" and "button" (1 left, 3 right), or "key" in portable spelling ("Ctrl+S"), or "type" with a
+/// text.
 void inject(const QJsonObject& request);
 
 } // namespace inspector
