@@ -1,0 +1,157 @@
+// reports/frmPoolReports.cpp - the reports screen: opening, creating the ticked reports, closing.
+#include "reports/frmPoolReports.h"
+
+#include "model/file_names.h"
+#include "model/lines.h"
+
+#include <algorithm>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr std::array kDestinations{"Printer", "File", "Email", "Email All Participants"};
+constexpr std::array kPrintouts{"Scored Player Selections (Select File at right --->)", "Tournament Results Sheet"};
+constexpr const char* kNothingTickedTitle = "Tallyhoop - frmPoolReports, PrintSelections_Click "; // sic: the blank
+constexpr const char* kNothingTicked = "You will need to select one of the Report Selections before\r\n"
+                                       "choosing the \"Create Selected Reports\" Command Button";
+
+template <std::size_t N>
+void letThePersonChoose(ui::ControlArray<ui::OptionButton, N>& group, const std::array<const char*, N>& captions)
+{
+    for (std::size_t i = 0; i < N; ++i) {
+        group[i].caption = captions[i];
+        group[i].changed = [&group, i] {
+            if (group[i].selected)
+                ui::selectOption(group, i);
+        };
+    }
+}
+
+} // namespace
+
+frmPoolReports::frmPoolReports(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state,
+                               Screens& screens, BracketBoard& board)
+    : Screen{"frmPoolReports", "Tallyhoop Reports"},
+      m_folder{folder},
+      m_platform{platform},
+      m_state{state},
+      m_screens{screens},
+      m_board{board},
+      m_maker{folder, platform, board}
+{
+    for (std::size_t i = 0; i < kReports; ++i)
+        chkOptions[i].caption = reportTable()[i].caption;
+    letThePersonChoose(optDestination, kDestinations);
+    letThePersonChoose(optSelected, kPrintouts);
+    ui::selectOption(optDestination, 0);
+    filList.spokenName = "Player selection files";
+    txtReportTitle.spokenName = "Report title";
+}
+
+void frmPoolReports::load()
+{
+    txtReportTitle.text = m_state.setupLines[setup_line::kTitle];
+    listFiles();
+    toPrinter = toFile = toEmail = mblnSelectEMailAll = false;
+    m_state.mailDraft.cancelled = false;
+    useDefaultPrinter = true;
+    m_board.setReportsEnabled(false);
+}
+
+void frmPoolReports::closeRequested() { exitReports(); }
+
+void frmPoolReports::unloading() { m_board.setReportsEnabled(true); }
+
+/// Shows the files that are there now; the chosen one stays chosen.
+void frmPoolReports::listFiles()
+{
+    const std::string chosen = filList.selectedText();
+    m_files = m_folder.files(file_name::kSelectionEnding);
+    filList.rows.clear();
+    for (const FolderFile& file : m_files)
+        filList.rows.push_back(file.name);
+    const auto at = std::ranges::find(filList.rows, chosen);
+    filList.selected.reset();
+    if (at != filList.rows.end())
+        filList.selected = static_cast<int>(at - filList.rows.begin());
+}
+
+void frmPoolReports::createSelectedReports()
+{
+    readDestination();
+    listFiles();
+    m_made.fill(false);
+    bool anyTicked = false;
+    for (std::size_t index = 0; index < kReports; ++index) {
+        if (!chkOptions[index].ticked)
+            continue;
+        anyTicked = true;
+        const Delivery delivery = createReport(index);
+        if (delivery == Delivery::Cancelled)
+            return;
+        m_made[index] = delivery == Delivery::Done;
+    }
+    if (!anyTicked) {
+        m_platform.dialogs.show({kNothingTickedTitle, kNothingTicked, ui::Buttons::Ok, ui::Icon::Exclamation});
+        return;
+    }
+    const bool anyMade = std::ranges::find(m_made, true) != m_made.end();
+    if ((toEmail || mblnSelectEMailAll) && anyMade)
+        MailReports();
+}
+
+void frmPoolReports::readDestination()
+{
+    const std::array<bool*, 4> fields{&toPrinter, &toFile, &toEmail, &mblnSelectEMailAll};
+    for (std::size_t i = 0; i < fields.size(); ++i)
+        *fields[i] = optDestination[i].selected;
+}
+
+frmPoolReports::Delivery frmPoolReports::createReport(std::size_t index)
+{
+    bool cancelled = false;
+    const std::optional<ReportLines> lines = makeReport(index, cancelled);
+    if (!lines)
+        return cancelled ? Delivery::Cancelled : Delivery::Failed;
+    const ReportKind& kind = reportTable()[index];
+    if (const Result<Done> output = OutputReport(kind.key, *lines); !output) {
+        refuse(index, {reportFailure(kind, output.failure().message)});
+        return Delivery::Failed;
+    }
+    return Delivery::Done;
+}
+
+std::optional<ReportLines> frmPoolReports::makeReport(std::size_t index, bool& cancelled)
+{
+    MadeReport made = m_maker.make(reportTable()[index], txtReportTitle.text, m_files);
+    if (ReportLines* lines = std::get_if<ReportLines>(&made))
+        return std::move(*lines);
+    const NoReport& reason = std::get<NoReport>(made);
+    cancelled = reason.cancelled;
+    refuse(index, reason);
+    return std::nullopt;
+}
+
+void frmPoolReports::refuse(std::size_t index, const NoReport& reason)
+{
+    m_platform.dialogs.show(reason.message);
+    if (reason.untick)
+        chkOptions[index].ticked = false;
+}
+
+/// The caption always names the mode now in force.
+void frmPoolReports::toggleDefaultPrinter()
+{
+    useDefaultPrinter = !useDefaultPrinter;
+    cmdDefaultPrinter.caption = useDefaultPrinter ? "Use default printer" : "Select non default printer";
+}
+
+void frmPoolReports::exitReports()
+{
+    if (m_platform.mail.isOpen())
+        m_platform.mail.signOff();
+    m_screens.unload(ScreenKind::Reports);
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,62 @@
+// reports/read_pool.h - the selections of a pool in memory: each file is read once per report.
+#pragma once
+
+#include "model/data_folder.h"
+#include "model/lines.h"
+#include "model/screens.h"
+#include "scoring/score_picks.h"
+#include "ui/platform.h"
+#include "ui/result.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tallyhoop {
+
+/// Long work under a busy pointer that the person can cancel. The pointer is normal again when it goes out of scope.
+class Work
+{
+public:
+    /// @param what  what is being done, for the progress window
+    /// @param steps how many times step() will be called
+    Work(ui::Progress& progress, const std::string& what, std::size_t steps);
+    ~Work();
+    Work(const Work&) = delete;
+    Work& operator=(const Work&) = delete;
+
+    /// One more step is done. @returns false when the person has cancelled; so does every later step
+    bool step();
+
+    bool cancelled() const { return m_cancelled; }
+
+private:
+    ui::Progress& m_progress;
+    int m_done = 0;
+    bool m_cancelled = false;
+};
+
+/// One player's file as it was read.
+struct PoolEntry {
+    std::string fileName; ///< as listed
+    SelectionLines lines{};
+};
+
+/// Every player's file, in the order of the list of files.
+struct ReadPool {
+    std::vector<PoolEntry> players;
+    std::vector<std::filesystem::path> troubled; ///< files that could not be read, or not whole; what was read is there
+};
+
+/// Reads every file once.
+/// @returns what was read when the work was cancelled
+ReadPool readPool(std::span<const FolderFile> files, Work& work);
+
+/// Scores every player against results, one step of work each.
+/// @returns a score for each player in pool order, fewer when the work was cancelled; a failure when a number of a
+/// player
+///          does not fit 16 bits
+Result<std::vector<ScoreLine>> scorePool(const ReadPool& pool, const SelectionLines& results, const Payoffs& payoffs,
+                                         Work& work);
+
+} // namespace tallyhoop

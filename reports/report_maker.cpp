@@ -1,0 +1,233 @@
+// reports/report_maker.cpp - what each report checks and reads before it is laid out.
+#include "reports/report_maker.h"
+
+#include "model/file_names.h"
+#include "model/player_names_file.h"
+#include "model/selection_file.h"
+#include "model/text_file.h"
+#include "reports/final_four.h"
+#include "reports/player_listing.h"
+#include "reports/player_selection_detail.h"
+#include "reports/results_by_player.h"
+#include "reports/results_by_team.h"
+#include "reports/standings.h"
+#include "reports/team_selection_detail.h"
+
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr const char* kNoFiles = "There aren't any Player Selection files saved,  so the\r\n";
+constexpr const char* kNoResults = "Game Results have not been entered, this option\r\n"
+                                   "is NOT valid until this activity has been completed";
+constexpr const char* kFaultyPlayerNames = "Problems found with PLAYERNAMES.CSV file\r\n"
+                                           "This condition must be corrected, See Help content";
+constexpr const char* kFinalFourTitle = "Tallyhoop - frmPoolReports, ChkFinalFour";
+constexpr const char* kFinalFourIncomplete = "You will need to enter the four teams that have\r\n"
+                                             "progressed to the Final Four before this option\r\n"
+                                             "can be selected.\r\n"
+                                             "\r\n"
+                                             "Please correct and re-select this option.";
+constexpr const char* kChampionKnown = "You have already scored the tournament winner, so\r\n"
+                                       "a projection isn't meaningful";
+constexpr const char* kCancelled = "The report was cancelled: no report was made.";
+
+NoReport failed(const ReportKind& kind, const std::string& reason) { return {reportFailure(kind, reason)}; }
+
+NoReport cancelled(const ReportKind& kind)
+{
+    return {{kind.failureTitle, kCancelled, ui::Buttons::Ok, ui::Icon::Information}, false, true};
+}
+
+/// @returns nothing when the projections are possible
+std::optional<NoReport> finalFourTrouble(const SelectionLines& results, FinalFour& finalFour)
+{
+    const FinalFourState state = ChkFinalFour(results, finalFour);
+    if (state == FinalFourState::Known)
+        return std::nullopt;
+    const char* text = state == FinalFourState::Incomplete ? kFinalFourIncomplete : kChampionKnown;
+    return NoReport{{kFinalFourTitle, text, ui::Buttons::Ok, ui::Icon::Exclamation}};
+}
+
+MadeReport outcome(const ReportKind& kind, Result<ReportLines> lines)
+{
+    if (!lines)
+        return failed(kind, lines.failure().message);
+    return *lines;
+}
+
+} // namespace
+
+ReportMaker::ReportMaker(const DataFolder& folder, const ui::Platform& platform, const BracketBoard& board)
+    : m_folder{folder}, m_platform{platform}, m_board{board}
+{
+}
+
+MadeReport ReportMaker::make(const ReportKind& kind, const std::string& title, std::span<const FolderFile> files)
+{
+    const Request request{kind, title, files};
+    switch (kind.id) {
+    case ReportId::TournamentStandings:
+        return makeStandings(request);
+    case ReportId::PlayerListing:
+        return makePlayerListing(request);
+    case ReportId::TeamSelectionSummary:
+    case ReportId::TeamSelectionDetail:
+        return makeTeamSelection(request);
+    case ReportId::PlayerSelectionDetail:
+        return makePlayerSelectionDetail(request);
+    case ReportId::ResultsByPlayer:
+        return makeResultsByPlayer(request);
+    case ReportId::ResultsByTeam:
+        return makeResultsByTeam(request);
+    }
+    return failed(kind, {});
+}
+
+MadeReport ReportMaker::makeStandings(const Request& request)
+{
+    if (auto missing = missingInput(request, "\"Tournament Standings Report\" cannot be prepared."))
+        return *missing;
+    const SelectionLines results = readResults();
+    const std::optional<ReadPool> pool = readPlayers(request);
+    if (!pool)
+        return cancelled(request.kind);
+    const Result<Payoffs> payoffs = m_board.payoffs();
+    if (!payoffs)
+        return failed(request.kind, payoffs.failure().message);
+
+    Work work{m_platform.progress, request.kind.name, pool->players.size()};
+    const Result<std::vector<ScoreLine>> scores = scorePool(*pool, results, *payoffs, work);
+    if (!scores)
+        return failed(request.kind, scores.failure().message);
+    if (work.cancelled())
+        return cancelled(request.kind);
+    return outcome(request.kind, standingsLines(request.title, *scores));
+}
+
+MadeReport ReportMaker::makePlayerListing(const Request& request)
+{
+    if (!validatePlayerNames(m_folder, m_platform.dialogs))
+        return failed(request.kind, kFaultyPlayerNames);
+    const Result<std::string> bytes = m_folder.read(file_name::kPlayerNames);
+    if (!bytes)
+        return failed(request.kind, bytes.failure().message);
+    return playerListingLines(request.title, linesOf(*bytes));
+}
+
+MadeReport ReportMaker::makeTeamSelection(const Request& request)
+{
+    const bool isSummary = request.kind.id == ReportId::TeamSelectionSummary;
+    if (request.files.empty())
+        return NoReport{{"Tallyhoop - TeamSelSetup",
+                         std::string{kNoFiles} + "Team Selection Reports cannot be prepared.", ui::Buttons::Ok,
+                         ui::Icon::Exclamation},
+                        isSummary};
+    const std::optional<ReadPool> pool = readPlayers(request);
+    if (!pool)
+        return cancelled(request.kind);
+    const std::vector<std::string> entries = pickEntries(*pool);
+    if (isSummary)
+        return outcome(request.kind, teamSelectionSummaryLines(request.title, entries));
+
+    TeamSelectionDetail detail = teamSelectionDetail(request.title, entries);
+    if (detail.trouble)
+        return NoReport{*detail.trouble};
+    return std::move(detail.lines);
+}
+
+MadeReport ReportMaker::makePlayerSelectionDetail(const Request& request)
+{
+    if (request.files.empty())
+        return NoReport{{request.kind.failureTitle,
+                         std::string{kNoFiles} + "\"Player Selection Detail\" report cannot be prepared.",
+                         ui::Buttons::Ok, ui::Icon::None},
+                        false};
+    const std::optional<ReadPool> pool = readPlayers(request);
+    if (!pool)
+        return cancelled(request.kind);
+    return outcome(request.kind, playerSelectionDetailLines(request.title, playersByFileName(*pool)));
+}
+
+MadeReport ReportMaker::makeResultsByPlayer(const Request& request)
+{
+    if (auto missing = missingInput(request, "\"Projected Results by Player\" report cannot be prepared."))
+        return *missing;
+    const SelectionLines results = readResults();
+    FinalFour finalFour;
+    if (auto trouble = finalFourTrouble(results, finalFour))
+        return *trouble;
+    const std::optional<ReadPool> pool = readPlayers(request);
+    if (!pool)
+        return cancelled(request.kind);
+    const Result<Payoffs> payoffs = m_board.payoffs();
+    if (!payoffs)
+        return failed(request.kind, payoffs.failure().message);
+
+    const ByFinal<FinalOutcome> outcomes = finalOutcomes(results, finalFour);
+    Work work{m_platform.progress, request.kind.name, pool->players.size()};
+    const auto rows = resultsByPlayerRows(*pool, results, outcomes, *payoffs, work);
+    if (!rows)
+        return failed(request.kind, rows.failure().message);
+    if (work.cancelled())
+        return cancelled(request.kind);
+    return outcome(request.kind, resultsByPlayerLines(request.title, finalFour, outcomes, *rows));
+}
+
+MadeReport ReportMaker::makeResultsByTeam(const Request& request)
+{
+    if (auto missing = missingInput(request, "\"Projected Results by Team\" report cannot be prepared."))
+        return *missing;
+    const SelectionLines results = readResults();
+    FinalFour finalFour;
+    if (auto trouble = finalFourTrouble(results, finalFour))
+        return *trouble;
+    const std::optional<ReadPool> pool = readPlayers(request);
+    if (!pool)
+        return cancelled(request.kind);
+    const Result<Payoffs> payoffs = m_board.payoffs();
+    if (!payoffs)
+        return failed(request.kind, payoffs.failure().message);
+
+    Work work{m_platform.progress, request.kind.name, finalFour.size() * pool->players.size()};
+    const auto outcomes = resultsByTeamOutcomes(*pool, results, finalFour, *payoffs, work);
+    if (!outcomes)
+        return failed(request.kind, outcomes.failure().message);
+    if (work.cancelled())
+        return cancelled(request.kind);
+    return outcome(request.kind, resultsByTeamLines(request.title, *outcomes));
+}
+
+std::optional<NoReport> ReportMaker::missingInput(const Request& request, const char* reportAsNamed) const
+{
+    if (request.files.empty())
+        return failed(request.kind, std::string{kNoFiles} + reportAsNamed);
+    if (!m_folder.exists(file_name::kResults))
+        return failed(request.kind, kNoResults);
+    return std::nullopt;
+}
+
+SelectionLines ReportMaker::readResults()
+{
+    SelectionLines results;
+    ReadSelections(*m_folder.pathOf(file_name::kResults), m_platform.dialogs, results);
+    return results;
+}
+
+std::optional<ReadPool> ReportMaker::readPlayers(const Request& request)
+{
+    ReadPool pool;
+    {
+        Work work{m_platform.progress, "Reading the selections", request.files.size()};
+        pool = readPool(request.files, work);
+        if (work.cancelled())
+            return std::nullopt;
+    }
+    for (const std::filesystem::path& file : pool.troubled)
+        showReadingTrouble(file, m_platform.dialogs);
+    return pool;
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,64 @@
+// reports/report_maker.h - makes any of the seven reports: checks what it needs, reads, scores, lays out.
+#pragma once
+
+#include "model/data_folder.h"
+#include "model/screens.h"
+#include "reports/read_pool.h"
+#include "reports/report_layout.h"
+#include "reports/report_table.h"
+#include "ui/dialogs.h"
+#include "ui/platform.h"
+
+#include <optional>
+#include <span>
+#include <string>
+#include <variant>
+
+namespace tallyhoop {
+
+/// Why there is no report.
+struct NoReport {
+    ui::Message message;
+    bool untick = true;     ///< the report's box loses its tick
+    bool cancelled = false; ///< the person ended the work
+};
+
+/// A report's lines, or why there are none.
+using MadeReport = std::variant<ReportLines, NoReport>;
+
+class ReportMaker
+{
+public:
+    /// @param board shows the payoffs that count
+    ReportMaker(const DataFolder& folder, const ui::Platform& platform, const BracketBoard& board);
+
+    /// Makes a report. Damaged files are named by their readers' messages while it is made; a failure of the report
+    /// itself is left to the caller to show. Writes nothing.
+    /// @param title as it stands on the screen
+    /// @param files every player's file, in list order
+    MadeReport make(const ReportKind& kind, const std::string& title, std::span<const FolderFile> files);
+
+private:
+    struct Request {
+        const ReportKind& kind;
+        const std::string& title;
+        std::span<const FolderFile> files;
+    };
+
+    MadeReport makeStandings(const Request& request);
+    MadeReport makePlayerListing(const Request& request);
+    MadeReport makeTeamSelection(const Request& request);
+    MadeReport makePlayerSelectionDetail(const Request& request);
+    MadeReport makeResultsByPlayer(const Request& request);
+    MadeReport makeResultsByTeam(const Request& request);
+
+    std::optional<NoReport> missingInput(const Request& request, const char* reportAsNamed) const;
+    SelectionLines readResults();
+    std::optional<ReadPool> readPlayers(const Request& request);
+
+    const DataFolder& m_folder;
+    const ui::Platform& m_platform;
+    const BracketBoard& m_board;
+};
+
+} // namespace tallyhoop

@@ -1,0 +1,53 @@
+// reports/results_by_team.h - for each region winner, where every player would end up if that team won the title.
+#pragma once
+
+#include "reports/final_four.h"
+#include "reports/read_pool.h"
+#include "reports/report_layout.h"
+#include "ui/result.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyhoop {
+
+/// A player as a packed work row, fields separated by ",": best, file name, sure, current, champion, runner-up; numbers
+/// as three digits.
+/// @param projected     the score under the projection
+/// @param currentPoints points held now
+std::string resultsByTeamWorkRow(const ScoreLine& projected, int currentPoints);
+
+/// What comes out of a packed work row: texts, for a "," inside a name shifts what follows it.
+struct ResultsByTeamRow {
+    std::string best;
+    std::string fileName;
+    std::string sure;
+    std::string current;
+    std::string winningPick;  ///< empty = none
+    std::string runnerUpPick; ///< empty = none
+};
+
+/// Takes the first six pieces of a packed work row; further ones are lost.
+ResultsByTeamRow resultsByTeamRow(std::string_view workRow);
+
+/// One team that can still win the title, with every player's score if it does.
+struct TeamOutcome {
+    std::string team;
+    std::vector<std::string> workRows; ///< packed, ascending
+    std::size_t pickWidth = 0;         ///< longest champion and runner-up together, over this team and those before it
+};
+
+/// Scores every player now and for every team that can still win; one step of work for each.
+/// @returns the teams in order, those without a chance left out; of no use when the work was cancelled; a failure when
+/// a
+///          number does not fit 16 bits
+Result<std::vector<TeamOutcome>> resultsByTeamOutcomes(const ReadPool& pool, const SelectionLines& results,
+                                                       const FinalFour& finalFour, const Payoffs& payoffs, Work& work);
+
+/// Lays the report out: each team's rows from the best case down.
+/// @returns a failure when the title is wider than the page
+Result<ReportLines> resultsByTeamLines(std::string_view title, std::span<const TeamOutcome> outcomes);
+
+} // namespace tallyhoop

@@ -1,0 +1,122 @@
+// reports/standings.cpp - packs, sorts and lays out the standings.
+#include "reports/standings.h"
+
+#include "model/bracket_position.h"
+#include "model/numbers.h"
+#include "model/text.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr char kSeparator = ';';
+constexpr std::size_t kFields = 8;
+constexpr int kHeadLines = 7;
+constexpr int kLastLineOfPage = 47;
+
+struct Widths {
+    std::size_t name = 0;
+    std::size_t file = 0;
+    std::size_t pick = 0;
+
+    std::size_t line() const { return name + file + pick + 44; }
+};
+
+Widths widthsOf(std::span<const ScoreLine> scores)
+{
+    Widths widths;
+    for (const ScoreLine& score : scores) {
+        widths.name = std::max(widths.name, score.PlayerName.size());
+        widths.file = std::max(widths.file, score.FileName.size());
+        widths.pick = std::max(widths.pick, score.WinningPick.size());
+    }
+    return widths;
+}
+
+/// Short names leave no room for the second heading: its line stays empty then.
+std::string secondHeading(const Widths& widths)
+{
+    if (widths.name <= 8 || widths.file <= 7)
+        return {};
+    return "Earned Player Name" + blanks(widths.name - 8) + "File Name" + blanks(widths.file - 7) +
+           "Score Picks Picks Picks Breaker Winner Picked";
+}
+
+void addHead(ReportLines& lines, std::string_view title, const Widths& widths)
+{
+    constexpr std::string_view kName = "Tournament Standings";
+    addPageHead(lines, indentedOrFlush(centredOnce(widths.line(), title.size()), title),
+                indentedOrFlush(centredOnce(widths.line(), kName.size()), kName));
+    lines.push_back("Points" + blanks(widths.name + widths.file + 6) + "Poss. Good   Bad  Open    Tie");
+    lines.push_back(secondHeading(widths));
+    lines.push_back("------ " + dashes(widths.name) + "   " + dashes(widths.file) +
+                    "  ----- ----- ----- ----- ------- " + dashes(widths.pick));
+}
+
+/// @returns the games without a verdict; negative for a damaged selection
+Result<int> openPicks(const StandingsRow& row)
+{
+    const Result<std::int16_t> good = wholeNumber(row.goodPicks);
+    const Result<std::int16_t> bad = wholeNumber(row.badPicks);
+    if (!good)
+        return good.failure();
+    if (!bad)
+        return bad.failure();
+    return kGames - *good - *bad;
+}
+
+std::string rowLine(const StandingsRow& row, int open, const Widths& widths)
+{
+    return " " + row.points + "   " + fitted(row.playerName, widths.name) + "   " + fitted(row.fileName, widths.file) +
+           "   " + row.maxPoints + "   " + row.goodPicks + "   " + row.badPicks + "   " + threeDigits(open) + "    " +
+           row.finalPoints + "   " + row.winningPick;
+}
+
+} // namespace
+
+std::string standingsWorkRow(const ScoreLine& score)
+{
+    return threeDigits(score.Points) + kSeparator + score.PlayerName + kSeparator + score.FileName + kSeparator +
+           threeDigits(score.MaxPoints) + kSeparator + threeDigits(score.GoodPicks) + kSeparator +
+           threeDigits(score.BadPicks) + kSeparator + score.WinningPick + kSeparator + threeDigits(score.FinalPoints);
+}
+
+StandingsRow standingsRow(std::string_view workRow)
+{
+    const std::vector<std::string> field = workRowFields(workRow, kSeparator, kFields);
+    return {field[0], field[1], field[2], field[3], field[4], field[5], field[6], field[7]};
+}
+
+Result<ReportLines> standingsLines(std::string_view title, std::span<const ScoreLine> scores)
+{
+    std::vector<std::string> workRows;
+    for (const ScoreLine& score : scores)
+        workRows.push_back(standingsWorkRow(score));
+    sortWorkRows(workRows);
+
+    const Widths widths = widthsOf(scores);
+    ReportLines lines;
+    int lineOfPage = 0;
+    // Read backwards: the rows are kept ascending, and the most points come first.
+    for (auto workRow = workRows.rbegin(); workRow != workRows.rend(); ++workRow) {
+        if (lineOfPage == 0) {
+            addHead(lines, title, widths);
+            lineOfPage = kHeadLines;
+        }
+        const StandingsRow row = standingsRow(*workRow);
+        const Result<int> open = openPicks(row);
+        if (!open)
+            return open.failure();
+        lines.push_back(rowLine(row, *open, widths));
+        if (++lineOfPage > kLastLineOfPage) {
+            lines.emplace_back(kFormFeedLine);
+            lineOfPage = 0;
+        }
+    }
+    return lines;
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,40 @@
+// reports/standings.h - the tournament standings: every player, most points first.
+#pragma once
+
+#include "reports/report_layout.h"
+#include "scoring/score_picks.h"
+#include "ui/result.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace tallyhoop {
+
+/// A player as a packed work row, fields separated by ";": points, player name, file name, most points, good picks, bad
+/// picks, champion, tie-breaker; numbers as three digits, so that their order as text is their order as numbers.
+std::string standingsWorkRow(const ScoreLine& score);
+
+/// What comes out of a packed work row: texts, for a ";" inside a name shifts what follows it.
+struct StandingsRow {
+    std::string points;
+    std::string playerName;
+    std::string fileName;
+    std::string maxPoints;
+    std::string goodPicks;
+    std::string badPicks;
+    std::string winningPick;
+    std::string finalPoints;
+};
+
+/// Takes the first eight pieces of a packed work row; further ones are lost.
+StandingsRow standingsRow(std::string_view workRow);
+
+/// Lays the report out. Among equal points the later name in the alphabet comes first: the sorted rows are read
+/// backwards.
+/// @param title  centred on every page; one that is too wide starts at the left edge
+/// @param scores one per player, in any order
+/// @returns a failure when a shifted field holds a number of picks beyond 16 bits
+Result<ReportLines> standingsLines(std::string_view title, std::span<const ScoreLine> scores);
+
+} // namespace tallyhoop

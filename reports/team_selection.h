@@ -1,0 +1,56 @@
+// reports/team_selection.h - what the two team selection reports share: one entry per pick, in order, and how a row of
+// counts looks. The summary counts how many players send each team into each round; the detail says which players do.
+#pragma once
+
+#include "reports/read_pool.h"
+#include "reports/report_layout.h"
+#include "ui/result.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyhoop {
+
+/// Picks by category 1..6: 2nd round, 3rd round, 4th round, region finals, tournament finals, champion. Entry 0 takes
+/// what has no category and is never printed.
+using CategoryCounts = std::array<int, 7>;
+
+/// A pick as a packed work row: team, ",", player label (name, "_", initials), ",", category.
+std::string pickEntry(std::string_view team, std::string_view playerLabel, int category);
+
+/// What comes out of a packed pick entry. A "," inside a name shifts what follows: the team is the text before the
+/// first
+/// ",", the label the text between the first and the second, the category the leading number of all behind the second.
+struct Pick {
+    std::string team;
+    std::string playerLabel;
+    std::size_t category = 0; ///< 0..6
+};
+
+/// @returns a failure when the category is beyond 0..6
+Result<Pick> parsePickEntry(std::string_view entry);
+
+/// Packs every pick of every player, ascending without regard to case.
+std::vector<std::string> pickEntries(const ReadPool& pool);
+
+/// Writes the head of a page of either report: the page head and the three lines of column headings.
+/// @returns a failure when the title is wider than the page
+Result<Done> addTeamSelectionHead(ReportLines& lines, std::string_view title, std::string_view reportName);
+
+/// @returns the team's name padded to the column before the counts; a failure when it is longer than that column
+Result<std::string> teamColumn(const std::string& team);
+
+/// @returns the six counts under their headings
+std::string countColumns(const CategoryCounts& counts);
+
+/// The line below a team's counts in the summary, and below the headings.
+std::string countRule();
+
+/// Lays out the summary.
+/// @param entries as pickEntries() gives them; none gives one page head alone
+/// @returns a failure when the title or a team's name is too long, or an entry has no usable category
+Result<ReportLines> teamSelectionSummaryLines(std::string_view title, const std::vector<std::string>& entries);
+
+} // namespace tallyhoop
