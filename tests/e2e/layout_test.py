@@ -29,7 +29,7 @@ class ProgramFolder(unittest.TestCase):
         self.assertEqual((lines[0], lines[-2], lines[-1]), (b"*START*", b"*END*", b""))
         names = lines[1:-2]
         self.assertEqual(len(names), 369)
-        self.assertEqual((names[0], names[-1]), (b"Abilene Christian", b"Youngstown State"))
+        self.assertEqual((names[0], names[-1]), (b"Abilene Christian", b"Youngstown St."))
 
     def test_an_existing_team_list_is_kept_whatever_the_case_of_its_name(self):
         (self.folder / "NcaaList.ths").write_text("mine")
