@@ -1,0 +1,16 @@
+// bracket/board_drawing.h - the board as a picture for paper.
+#pragma once
+
+#include "ui/drawing.h"
+
+namespace tallyhoop {
+
+class frmPoolMain;
+
+/// Draws the board as it is shown, marks included, on a landscape page of 1100 by 800 units.
+ui::Drawing drawBoard(const frmPoolMain& board);
+
+/// @returns the ground on which a team name of this colour is read comfortably
+ui::Colour groundFor(ui::Colour textColour);
+
+} // namespace tallyhoop

@@ -1,0 +1,255 @@
+#include "bracket/frmPoolMain.h"
+
+#include "model/demo_mode.h"
+#include "model/file_names.h"
+#include "model/numbers.h"
+#include "model/player_names_file.h"
+#include "model/settings_file.h"
+#include "model/setup_file.h"
+#include "model/text.h"
+#include "model/windows1252.h"
+#include "scoring/score_picks.h"
+
+#include <algorithm>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr ui::Colour kTeamColour{0, 0, 255};
+constexpr const char* kFirstRoundTip = "Left Click or Drag to Select";
+constexpr std::array<const char*, 10> kRoundNames = {
+    "1st round:", "2nd round:",     "Regional semi:",  "Regional final:", "1st round:",
+    "2nd round:", "Regional semi:", "Regional final:", "Semi-final:",     "Final game:"};
+constexpr std::array<const char*, 7> kSpokenRounds = {
+    "first round", "second round", "third round", "regional final", "region winner", "semi-final winner", "champion"};
+
+} // namespace
+
+frmPoolMain::frmPoolMain(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
+                         Opening opening)
+    : Screen{"frmPoolMain", "Tallyhoop"},
+      m_folder{folder},
+      m_platform{platform},
+      m_state{state},
+      m_screens{screens},
+      m_opening{opening}
+{
+    helpTopic = "selections";
+    describeControls();
+    arrangeMenus();
+}
+
+void frmPoolMain::describeControls()
+{
+    for (std::size_t i = 0; i < kRoundNames.size(); ++i)
+        lblRoundName[i].text = kRoundNames[i];
+    for (std::size_t i = 0; i < kTeams; ++i) {
+        txtSeed[i].locked = true;
+        txtSeed[i].tabStop = false;
+    }
+    for (std::size_t i = 0; i < kPositions; ++i) {
+        lblRegion[i].colour = kTeamColour;
+        lblRegion[i].tabStop = i == 0;
+    }
+    for (ui::TextBox* comment : {&txtComment1, &txtComment2}) {
+        comment->multiLine = true;
+        comment->locked = true;
+        comment->tabStop = false;
+    }
+    txtComment1.spokenName = "First comment of the organiser";
+    txtComment2.spokenName = "Second comment of the organiser";
+    txtPlayerInitials.tabIndex = 140;
+    txtPlayerInitials.spokenName = "Player's initials";
+    txtPlayerName.tabIndex = 141;
+    txtPlayerName.spokenName = "Player's name";
+    txtFinalPoints.tabIndex = 143;
+    txtFinalPoints.spokenName = "Predict total points in Championship game";
+    txtPointScore.locked = true;
+    txtPointScore.tabStop = false;
+    txtPointScore.spokenName = "Score of this selection";
+    cmdDefaultColors.toolTip = "Back to the normal colours, so that picks can be changed again";
+    focused = &txtPlayerInitials;
+}
+
+void frmPoolMain::load()
+{
+    loadBoard();
+    applyOpening();
+}
+
+void frmPoolMain::unloading() { dropHandOver(); }
+
+void frmPoolMain::loadBoard()
+{
+    m_resultsMode = false;
+    m_dragging = false;
+    m_state.selectionFile.OpenedFile.clear();
+    dropHandOver();
+    ReadStartingField(m_folder, m_platform.dialogs, m_state);
+    fillFromSetup();
+    applyFinalized();
+    applyDemoMode();
+    captureBoard();
+    readPlayerNames();
+    describePositions();
+    unsaved = false;
+    m_history.clear();
+    offerHistory();
+    describeDocument();
+}
+
+void frmPoolMain::fillFromSetup()
+{
+    const SetupLines& setup = m_state.setupLines;
+    for (int region = 0; region < kRegions; ++region) {
+        for (int row = 0; row < kRowsPerRegion; ++row) {
+            const auto team = static_cast<std::size_t>(kRowsPerRegion * region + row);
+            ui::Label& label = lblRegion[static_cast<std::size_t>(index(firstRoundPosition(region, row)))];
+            label.text = setup[setup_line::kTeam + team];
+            label.toolTip = kFirstRoundTip;
+            txtSeed[team].text = setup[setup_line::kSeed + static_cast<std::size_t>(row)];
+        }
+        const auto r = static_cast<std::size_t>(region);
+        lblRegionTitle[r].text = setup[setup_line::kRegion + r];
+    }
+    lblTitle.text = setup[setup_line::kTitle];
+    for (std::size_t round = 0; round < kRounds; ++round)
+        lblInfo[round].text = setup[setup_line::kPayoff + round];
+    for (std::size_t round = 0; round < lblInfoRight.size(); ++round)
+        lblInfoRight[round].text = lblInfo[round].text;
+    txtComment1.text = decodeLineBreaks(setup[setup_line::kComment1]);
+    txtComment2.text = decodeLineBreaks(setup[setup_line::kComment2]);
+}
+
+void frmPoolMain::applyFinalized()
+{
+    if (!isFinalized(m_state.setupLines)) {
+        for (ui::MenuEntry* entry : {&mnuScoreSelections, &mnuGameResults, &mnuNewSelection, &mnuOpenSelection,
+                                     &mnuSaveSelection, &mnuReports})
+            entry->enabled = false;
+        return;
+    }
+    if (!demoModeIsOn(m_folder)) {
+        mnuSetup.enabled = false;
+        mnuDemo.enabled = false;
+    }
+    mnuScoreSelections.enabled = resultsExist();
+    mnuReports.enabled = true;
+}
+
+void frmPoolMain::applyDemoMode()
+{
+    const bool on = demoModeIsOn(m_folder);
+    lblDemoMode.visible = on;
+    mnuDemoReset.enabled = on;
+    mnuDemoSet.enabled = !on && leadingNumber(m_state.setupLines[setup_line::kFinalized]) == 0;
+}
+
+/// A demo command left this board to show the new state, whatever its load could read so far.
+void frmPoolMain::applyOpening()
+{
+    if (m_opening == Opening::Plain)
+        return;
+    const bool entered = m_opening == Opening::DemoEntered;
+    mnuDemoReset.enabled = entered;
+    mnuDemoSet.enabled = !entered;
+    lblDemoMode.visible = entered;
+    if (entered)
+        return;
+    m_state.setupLines[setup_line::kFinalized] = "0";
+    mnuScoreSelections.enabled = false;
+    mnuGameResults.enabled = false;
+}
+
+void frmPoolMain::readPlayerNames()
+{
+    if (m_folder.exists(file_name::kPlayerNames))
+        validatePlayerNames(m_folder, m_platform.dialogs);
+    else if (!m_toldAboutFolder)
+        m_toldAboutFolder = !createPlayerNames(m_folder, m_platform.dialogs);
+}
+
+bool frmPoolMain::resultsExist() const { return m_folder.exists(file_name::kResults); }
+
+TeamNamesOnBoard frmPoolMain::teams() const
+{
+    TeamNamesOnBoard names;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        names[i] = lblRegion[i].text;
+    return names;
+}
+
+void frmPoolMain::setTeams(const TeamNamesOnBoard& names)
+{
+    for (std::size_t i = 0; i < names.size(); ++i)
+        lblRegion[i].text = names[i];
+    describePositions();
+}
+
+void frmPoolMain::captureBoard()
+{
+    SelectionLines& lines = m_state.selectionLines;
+    for (std::size_t i = 0; i < kPositions; ++i)
+        lines[selection_line::kFirstTeam + i] = lblRegion[i].text;
+    lines[selection_line::kInitials] = upperCase(txtPlayerInitials.text);
+    lines[selection_line::kName] = txtPlayerName.text;
+    lines[selection_line::kFinalPoints] = txtFinalPoints.text;
+}
+
+void frmPoolMain::showBoard(const SelectionLines& lines)
+{
+    TeamNamesOnBoard names;
+    for (std::size_t i = 0; i < names.size(); ++i)
+        names[i] = lines[selection_line::kFirstTeam + i];
+    txtPlayerInitials.text = lines[selection_line::kInitials];
+    txtPlayerName.text = lines[selection_line::kName];
+    txtFinalPoints.text = lines[selection_line::kFinalPoints];
+    setTeams(names);
+}
+
+void frmPoolMain::clearBoard()
+{
+    for (const Position position : gamePositions())
+        lblRegion[static_cast<std::size_t>(index(position))].text.clear();
+    txtPlayerInitials.text.clear();
+    txtPlayerName.text.clear();
+    txtFinalPoints.text.clear();
+    txtPointScore.text.clear();
+    lockFields(false);
+    describePositions();
+}
+
+void frmPoolMain::describePositions()
+{
+    for (int i = 0; i < kPositions; ++i) {
+        ui::Label& label = lblRegion[static_cast<std::size_t>(i)];
+        const int region = regionOf(Position{i});
+        const int round = roundOf(Position{i});
+        std::string place = region < 0 ? "" : lblRegionTitle[static_cast<std::size_t>(region)].text + ", ";
+        if (round == 0) {
+            const int row = i % kRegionBlock;
+            const std::string& seed = txtSeed[static_cast<std::size_t>(kRowsPerRegion * region + row)].text;
+            place += "first round, row " + std::to_string(row + 1) + ", seed " + seed;
+        } else {
+            place += "winner of " + std::string{kSpokenRounds[static_cast<std::size_t>(round - 1)]};
+            const int game = gameOf(Position{i});
+            const std::string& marker = lblResult[static_cast<std::size_t>(game)].text;
+            lblResult[static_cast<std::size_t>(game)].spokenName = marker;
+            if (!marker.empty())
+                place += marker == "=" ? ", right pick" : ", wrong pick";
+        }
+        label.spokenName = place + ": " + (label.text.empty() ? "no team" : label.text);
+    }
+}
+
+void frmPoolMain::describeDocument()
+{
+    const auto& opened = m_state.selectionFile.OpenedFile;
+    if (m_resultsMode)
+        document = "Game results";
+    else
+        document = opened.empty() ? std::string{} : shown(opened.filename());
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,181 @@
+#include "bracket/board_geometry.h"
+#include "bracket/frmPoolMain.h"
+
+#include <algorithm>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr ui::Colour kTeamColour{0, 0, 255};
+constexpr ui::Colour kGoodColour{0, 255, 0};
+constexpr ui::Colour kBadColour{255, 0, 0};
+
+} // namespace
+
+void frmPoolMain::PressPosition(int position, MouseButton button)
+{
+    m_dragging = false;
+    if (m_scoreDisplayOpen) {
+        m_screens.bringToFront(ScreenKind::ScoreDisplay);
+        return;
+    }
+    if (m_marksShown)
+        return;
+    if (button == MouseButton::Left) {
+        m_dragging = true;
+        m_draggedTeam = lblRegion[static_cast<std::size_t>(position)].text;
+        m_dragSource = position;
+        return;
+    }
+    TeamNamesOnBoard after = teams();
+    clearPosition(after, position);
+    changeTeams(after);
+}
+
+void frmPoolMain::DropOnPosition(int target)
+{
+    if (!m_dragging)
+        return;
+    m_dragging = false;
+    TeamNamesOnBoard after = teams();
+    dropOnPosition(after, m_dragSource, target, m_draggedTeam);
+    changeTeams(after);
+}
+
+bool frmPoolMain::mayDropOn(int position) const { return m_dragging && isOnPath(m_dragSource, position); }
+
+void frmPoolMain::changeTeams(const TeamNamesOnBoard& after)
+{
+    if (after == teams())
+        return;
+    remember();
+    setTeams(after);
+    changed();
+}
+
+void frmPoolMain::PressBackground()
+{
+    if (m_scoreDisplayOpen)
+        m_screens.bringToFront(ScreenKind::ScoreDisplay);
+}
+
+void frmPoolMain::explainPosition(int position)
+{
+    if (position < 0) {
+        status.clear();
+        return;
+    }
+    const std::string& team = lblRegion[static_cast<std::size_t>(position)].text;
+    if (m_scoreDisplayOpen)
+        status = "The score display is open; close it to change the bracket.";
+    else if (m_marksShown)
+        status = "The picks are marked; choose Default Colors to change them again.";
+    else if (team.empty())
+        status = "Nobody stands here yet.";
+    else if (position == kChampion)
+        status = team + " wins the tournament. A right click takes the team away.";
+    else if (isFirstRound(Position{position}))
+        status = "Click to send " + team + " to the next round, or drag it as far as it goes.";
+    else
+        status = "Click to send " + team + " to the next round, drag it further, or right click to take it away.";
+}
+
+void frmPoolMain::MarkScores()
+{
+    m_marksShown = true;
+    m_dragging = false;
+    mnuHighSeed.enabled = false;
+    const auto& games = gamePositions();
+    for (std::size_t game = 0; game < games.size(); ++game) {
+        const auto position = static_cast<std::size_t>(index(games[game]));
+        const Verdict verdict = m_state.verdict.SlotStatus[position + 1];
+        if (verdict != Verdict::Good && verdict != Verdict::Bad)
+            continue;
+        const bool good = verdict == Verdict::Good;
+        lblRegion[position].colour = good ? kGoodColour : kBadColour;
+        lblResult[game].text = good ? "=" : "X";
+        lblResult[game].colour = lblRegion[position].colour;
+    }
+    describePositions();
+    offerHistory();
+}
+
+void frmPoolMain::ClearMarks()
+{
+    m_marksShown = false;
+    mnuHighSeed.enabled = true;
+    for (std::size_t i = 0; i < lblRegion.size(); ++i)
+        lblRegion[i].colour = kTeamColour;
+    for (std::size_t i = 0; i < lblResult.size(); ++i)
+        lblResult[i].text.clear();
+    describePositions();
+    offerHistory();
+}
+
+bool frmPoolMain::keyPressed(ui::Control& control, const ui::KeyPress& press)
+{
+    if (press.key == ui::Key::Enter)
+        return enterKey(control);
+    const auto position = lblRegion.indexOf(control);
+    return position && keyOnPosition(static_cast<int>(*position), press);
+}
+
+bool frmPoolMain::enterKey(const ui::Control& control)
+{
+    if (cmdDefaultColors.visible && cmdDefaultColors.enabled && cmdDefaultColors.isDefault) {
+        cmdDefaultColors.click();
+        return true;
+    }
+    constexpr std::array<int, 3> kRing = {140, 141, 143};
+    const auto* const place = std::ranges::find(kRing, control.tabIndex);
+    if (place == kRing.end())
+        return false;
+    focused = controlAtTab(kRing[static_cast<std::size_t>(place - kRing.begin() + 1) % kRing.size()]);
+    return true;
+}
+
+/// The arrow keys follow the picture, Space does what a click does, Delete what a right press does.
+bool frmPoolMain::keyOnPosition(int position, const ui::KeyPress& press)
+{
+    const auto go = [&](Direction direction) {
+        static const BoardGeometry kPicture = layOutBoard(1366, 600);
+        focused = &lblRegion[static_cast<std::size_t>(neighbour(kPicture, position, direction))];
+        return true;
+    };
+    switch (press.key) {
+    case ui::Key::Up:
+        return go(Direction::Up);
+    case ui::Key::Down:
+        return go(Direction::Down);
+    case ui::Key::Left:
+        return go(Direction::Left);
+    case ui::Key::Right:
+        return go(Direction::Right);
+    case ui::Key::Delete:
+    case ui::Key::Backspace:
+        PressPosition(position, MouseButton::Right);
+        return true;
+    case ui::Key::Character:
+        if (press.character != ' ' || press.control || press.alt)
+            return false;
+        PressPosition(position, MouseButton::Left);
+        DropOnPosition(position);
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// The bracket is one stop of the tab order: the place that had the focus last.
+void frmPoolMain::gotFocus(ui::Control& control)
+{
+    const auto position = lblRegion.indexOf(control);
+    if (!position)
+        return;
+    for (std::size_t i = 0; i < lblRegion.size(); ++i)
+        lblRegion[i].tabStop = i == *position;
+    explainPosition(static_cast<int>(*position));
+}
+
+} // namespace tallyhoop

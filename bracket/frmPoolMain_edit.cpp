@@ -1,0 +1,83 @@
+#include "bracket/frmPoolMain.h"
+
+#include "model/numbers.h"
+
+#include <utility>
+
+namespace tallyhoop {
+
+BoardSnapshot frmPoolMain::snapshot() const
+{
+    return {teams(),
+            txtPlayerInitials.text,
+            txtPlayerName.text,
+            txtFinalPoints.text,
+            txtPointScore.text,
+            m_state.selectionFile.OpenedFile,
+            m_resultsMode,
+            unsaved};
+}
+
+void frmPoolMain::remember()
+{
+    m_history.remember(snapshot());
+    offerHistory();
+}
+
+void frmPoolMain::offerHistory()
+{
+    const bool editable = !m_marksShown && !m_scoreDisplayOpen;
+    mnuUndo.enabled = editable && m_history.canUndo();
+    mnuRedo.enabled = editable && m_history.canRedo();
+}
+
+void frmPoolMain::undo()
+{
+    if (const auto board = m_history.undo(snapshot()))
+        restore(*board);
+}
+
+void frmPoolMain::redo()
+{
+    if (const auto board = m_history.redo(snapshot()))
+        restore(*board);
+}
+
+void frmPoolMain::restore(const BoardSnapshot& board)
+{
+    txtPlayerInitials.text = board.initials;
+    txtPlayerName.text = board.name;
+    txtFinalPoints.text = board.finalPoints;
+    txtPointScore.text = board.pointScore;
+    m_state.selectionFile.OpenedFile = board.openedFile;
+    if (board.resultsMode != m_resultsMode) {
+        m_resultsMode = board.resultsMode;
+        lockFields(false);
+        mnuGameResults.enabled = !m_resultsMode;
+        mnuScoreSelections.enabled = m_resultsMode || resultsExist();
+        if (m_resultsMode)
+            lockResultsFields();
+    }
+    setTeams(board.teams);
+    unsaved = board.unsaved;
+    offerHistory();
+    describeDocument();
+}
+
+void frmPoolMain::SelectHighSeeds()
+{
+    std::array<std::int16_t, kTeams> seeds{};
+    for (std::size_t i = 0; i < seeds.size(); ++i) {
+        const auto seed = wholeNumber(txtSeed[i].text);
+        seeds[i] = seed ? *seed : std::int16_t{0};
+    }
+    TeamNamesOnBoard after = teams();
+    selectHighSeeds(after, seeds);
+    changeTeams(after);
+}
+
+void frmPoolMain::fieldEdited() { changed(); }
+
+void frmPoolMain::changed() { unsaved = true; }
+
+} // namespace tallyhoop
