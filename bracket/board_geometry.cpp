@@ -87,7 +87,7 @@ void placeRegions(const Measures& m, BoardGeometry& board)
             board.seeds[static_cast<std::size_t>(kRowsPerRegion * region + row)] =
                 side({columnLeft(m, 0), rowCentre(m, region % 2, row) - m.box / 2, kSeedShare * m.column, m.box});
         board.regionTitles[static_cast<std::size_t>(region)] =
-            side({columnLeft(m, 3), rowCentre(m, region % 2, 0) - m.row / 2, 2 * m.column + m.gap, 1.7 * m.row});
+            side({columnLeft(m, 3), rowCentre(m, region % 2, 0) - m.row / 2, 1.5 * m.column + m.gap, 1.7 * m.row});
     }
 }
 
@@ -134,7 +134,7 @@ void placeHeads(const Measures& m, BoardGeometry& board)
     }
     const ui::Rectangle& semifinal = board.positions[kSemifinalA];
     const double centre = m.width / 2;
-    placeRound(board, 8, {centre - 0.75 * m.column, semifinal.bottom() + 0.25 * m.row, 1.5 * m.column, m.row * 1.1});
+    placeRound(board, 8, {centre - 0.6 * m.column, semifinal.bottom() + 0.25 * m.row, 1.2 * m.column, m.row * 1.1});
     const ui::Rectangle& champion = board.positions[kChampion];
     placeRound(board, 9, {centre - 0.75 * m.column, champion.bottom() + 0.1 * m.row, 1.5 * m.column, m.row * 1.1});
 }

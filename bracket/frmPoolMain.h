@@ -17,6 +17,7 @@
 #include "ui/screen.h"
 
 #include <string>
+#include <vector>
 
 namespace tallyhoop {
 
@@ -96,6 +97,9 @@ public:
 
     /// Says in the status line what a press on a position does; -1 = the pointer is elsewhere.
     void explainPosition(int position);
+
+    /// @returns the places that the team at a position stands on, along its way from the first round; empty for no team
+    std::vector<int> pathOf(int position) const;
 
     bool marksShown() const { return m_marksShown; }
     bool resultsMode() const { return m_resultsMode; }

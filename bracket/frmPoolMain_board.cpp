@@ -81,6 +81,21 @@ void frmPoolMain::explainPosition(int position)
         status = "Click to send " + team + " to the next round, drag it further, or right click to take it away.";
 }
 
+std::vector<int> frmPoolMain::pathOf(int position) const
+{
+    const std::string& team = lblRegion[static_cast<std::size_t>(position)].text;
+    std::vector<int> path;
+    if (team.empty())
+        return path;
+    for (int row = 0; row < kPositions && path.empty(); ++row)
+        if (isFirstRound(Position{row}) && lblRegion[static_cast<std::size_t>(row)].text == team &&
+            isOnPath(row, position))
+            for (int p = row; p <= kChampion; p = bracketMap().NextPosition(p))
+                if (lblRegion[static_cast<std::size_t>(p)].text == team)
+                    path.push_back(p);
+    return path;
+}
+
 void frmPoolMain::MarkScores()
 {
     m_marksShown = true;

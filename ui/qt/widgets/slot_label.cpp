@@ -1,0 +1,137 @@
+#include "ui/qt/widgets/slot_label.h"
+
+#include "bracket/board_drawing.h"
+#include "ui/qt/look.h"
+
+#include <QFocusEvent>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr int kInset = 4;
+const QColor kOutline{150, 155, 168};
+const QColor kPathOutline{240, 150, 20};
+const QColor kLandOutline{30, 150, 90};
+
+QColor groundOf(const QColor& colour)
+{
+    const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+    return look::toQColor(groundFor({part(colour.red()), part(colour.green()), part(colour.blue())}));
+}
+
+} // namespace
+
+SlotLabel::SlotLabel(Part part, QWidget* parent) : QAbstractButton{parent}, m_part{part}
+{
+    setMouseTracking(true);
+    if (part == Part::Marker)
+        setFocusPolicy(Qt::NoFocus);
+}
+
+void SlotLabel::show(const QString& text, const QColor& colour)
+{
+    setText(text);
+    setShortcut({}); // an ampersand in a name is no mnemonic
+    m_colour = colour;
+    // Whoever asks for the colours of the text and its ground asks the palette.
+    QPalette colours = palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
+            colours.setColor(group, role, colour);
+        for (const auto role : {QPalette::Window, QPalette::Button})
+            colours.setColor(group, role, groundOf(colour));
+    }
+    setPalette(colours);
+    update();
+}
+
+void SlotLabel::setEmphasis(Emphasis emphasis)
+{
+    if (m_emphasis == emphasis)
+        return;
+    m_emphasis = emphasis;
+    update();
+}
+
+QSize SlotLabel::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(text()) + 2 * kInset, fontMetrics().height()};
+}
+
+QRect SlotLabel::textPlace() const { return m_part == Part::Marker ? rect() : rect().adjusted(kInset, 0, -1, 0); }
+
+/// A marker continues its place: one box for the eye, its inner edges outside both widgets.
+QRect SlotLabel::outline() const
+{
+    switch (m_part) {
+    case Part::Winner:
+        return rect().adjusted(0, 0, kInset, -1);
+    case Part::Marker:
+        return rect().adjusted(-kInset, 0, -1, -1);
+    case Part::Row:
+        break;
+    }
+    return rect().adjusted(0, 0, -1, -1);
+}
+
+bool SlotLabel::isElided() const { return fontMetrics().horizontalAdvance(text()) > textPlace().width(); }
+
+void SlotLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter{this};
+    painter.fillRect(rect(), groundOf(m_colour));
+    switch (m_emphasis) {
+    case Emphasis::None:
+        painter.setPen(kOutline);
+        break;
+    case Emphasis::OnPath:
+        painter.setPen(QPen{kPathOutline, 2});
+        break;
+    case Emphasis::MayLand:
+        painter.setPen(QPen{kLandOutline, 2});
+        break;
+    }
+    painter.drawRect(outline());
+    painter.setPen(m_colour);
+    const QString cut = fontMetrics().elidedText(text(), Qt::ElideRight, textPlace().width());
+    const Qt::Alignment alignment = m_part == Part::Marker ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft;
+    painter.drawText(textPlace(), static_cast<int>(alignment) | Qt::TextSingleLine, cut);
+    if (hasFocus() && m_reachedByKeys) {
+        painter.setPen(QPen{m_colour, 1, Qt::DashLine});
+        painter.drawRect(rect().adjusted(2, 1, -2, -3));
+    }
+}
+
+bool SlotLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || m_part == Part::Row)
+        return QAbstractButton::event(event);
+    if (isElided())
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(), this);
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+void SlotLabel::focusInEvent(QFocusEvent* event)
+{
+    m_reachedByKeys = event->reason() != Qt::MouseFocusReason;
+    QAbstractButton::focusInEvent(event);
+}
+
+void SlotLabel::mousePressEvent(QMouseEvent* event) { event->ignore(); }
+
+void SlotLabel::mouseMoveEvent(QMouseEvent* event) { event->ignore(); }
+
+void SlotLabel::mouseReleaseEvent(QMouseEvent* event) { event->ignore(); }
+
+void SlotLabel::keyPressEvent(QKeyEvent* event) { event->ignore(); }
+
+void SlotLabel::keyReleaseEvent(QKeyEvent* event) { event->ignore(); }
+
+} // namespace tallyhoop::qt
