@@ -5,7 +5,7 @@
 #include "ui/dialogs.h"
 #include "ui/result.h"
 
-#include <array>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -37,6 +37,9 @@ RecordFault faultOf(std::string_view line);
 /// Takes the fields of a record by column; columns beyond the line's end are empty.
 PlayerRecord parseRecord(std::string_view line);
 
+/// @returns a copy of a file's lines, before each faulty one a line that names its fault; nothing when none is faulty
+std::optional<std::vector<std::string>> annotatedCopy(std::span<const std::string> lines);
+
 /// @returns the 126 characters of a record, fields padded or cut; a double quote in a field becomes an apostrophe, a
 ///          line break a blank
 std::string recordLine(const PlayerRecord& record);
@@ -53,9 +56,10 @@ std::string playerRow(const PlayerRecord& record);
 /// Takes the fields of a row made by playerRow().
 PlayerRecord parsePlayerRow(std::string_view row);
 
-/// Checks every record of PLAYERNAMES.CSV. When one is faulty, or the file cannot be read, writes the annotated copy
-/// PLAYERNAMES.TXT (as far as that is possible), shows "** ERROR Found in PLAYERNAMES.CSV file **" and returns false;
-/// otherwise no PLAYERNAMES.TXT remains. Never changes PLAYERNAMES.CSV.
+/// Checks every record of PLAYERNAMES.CSV. When one is faulty, writes the annotated copy PLAYERNAMES.TXT (if that can be
+/// written) and shows "** ERROR Found in PLAYERNAMES.CSV file **"; a file that cannot be read gives the message alone.
+/// Never changes PLAYERNAMES.CSV.
+/// @returns true when every record is well formed; then no PLAYERNAMES.TXT remains
 bool validatePlayerNames(const DataFolder& folder, ui::Dialogs& dialogs);
 
 /// Creates PLAYERNAMES.CSV with its header only; a failure shows "** ERROR IN WRITING FILE **".

@@ -1,0 +1,95 @@
+// model/selection_file.cpp - one player's bracket, or the results, as a file of 131 lines.
+#include "model/selection_file.h"
+
+#include "model/file_messages.h"
+#include "model/file_names.h"
+#include "model/replace_file.h"
+#include "model/text_file.h"
+#include "model/windows1252.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace tallyhoop {
+namespace {
+
+constexpr std::size_t kFileLines = 131;
+
+std::optional<Failure> troubleWith(const std::vector<std::string>& fileLines)
+{
+    if (fileLines.size() > kFileLines)
+        return Failure{"The file has more than 131 lines."};
+    if (fileLines.size() < kFileLines)
+        return Failure{"The file has fewer than 131 lines."};
+    if (fileLines.back() != kEndMarker)
+        return Failure{"Line 131 of the file is not the end marker."};
+    return std::nullopt;
+}
+
+} // namespace
+
+Read<SelectionLines> readSelection(std::string_view bytes)
+{
+    std::vector<std::string> fileLines = linesOf(bytes);
+    Read<SelectionLines> read;
+    read.trouble = troubleWith(fileLines);
+    const std::size_t fitting = std::min(fileLines.size(), kFileLines);
+    std::move(fileLines.begin(), fileLines.begin() + static_cast<std::ptrdiff_t>(fitting), read.value.begin() + 1);
+    return read;
+}
+
+Read<SelectionLines> readSelectionFile(const std::filesystem::path& file)
+{
+    const Result<std::string> bytes = readFile(file);
+    if (!bytes)
+        return {{}, bytes.failure()};
+    return readSelection(*bytes);
+}
+
+std::string selectionFile(const SelectionLines& lines)
+{
+    std::vector<std::string> fileLines{lines.begin() + 1, lines.begin() + selection_line::kEnd};
+    fileLines.emplace_back(kEndMarker);
+    return fileOf(fileLines);
+}
+
+void ReadSelections(const std::filesystem::path& file, ui::Dialogs& dialogs, SelectionLines& lines)
+{
+    Read<SelectionLines> read = readSelectionFile(file);
+    lines = std::move(read.value);
+    if (read.trouble)
+        showReadingTrouble(file, dialogs);
+}
+
+void showReadingTrouble(const std::filesystem::path& file, ui::Dialogs& dialogs)
+{
+    dialogs.show({"** ERROR IN OPENING FILE - ReadSelections Routine **",
+                  "There is a problem opening: " + shown(file) + "\r\n\r\n The program will attempt to continue ......",
+                  ui::Buttons::Ok, ui::Icon::Critical});
+}
+
+bool SaveSelections(const std::filesystem::path& file, ui::Dialogs& dialogs, const SelectionLines& lines)
+{
+    if (replaceFile(file, selectionFile(lines)))
+        return true;
+    dialogs.show(writingTrouble(shown(file), " Check your selection and retry."));
+    return false;
+}
+
+std::string proposedFileName(std::string_view playerName, std::string_view initials)
+{
+    constexpr std::size_t kMostBytes = 255; // longest name that file systems take
+    const std::string_view ending = file_name::kSelectionEnding;
+    std::string name{playerName.substr(0, kMostBytes)};
+    name += "_";
+    name += initials.substr(0, kMostBytes);
+    name = withoutUnsafeCharacters(name);
+    while (toUtf8(name).size() + ending.size() > kMostBytes)
+        name.pop_back();
+    if (!endsWithFolded(name, ending))
+        name += ending;
+    return name;
+}
+
+} // namespace tallyhoop

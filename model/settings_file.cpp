@@ -1,0 +1,24 @@
+// model/settings_file.cpp - TALLYHOOP.INI: one line that says whether demo mode is on.
+#include "model/settings_file.h"
+
+#include "model/file_names.h"
+#include "model/text_file.h"
+
+#include <string>
+#include <vector>
+
+namespace tallyhoop {
+
+bool demoModeIsOn(const DataFolder& folder)
+{
+    const Result<std::string> bytes = folder.read(file_name::kSettings);
+    return bytes && settingsSayDemo(*bytes);
+}
+
+bool settingsSayDemo(std::string_view bytes)
+{
+    const std::vector<std::string> lines = linesOf(bytes);
+    return !lines.empty() && lines.front() == "1";
+}
+
+} // namespace tallyhoop

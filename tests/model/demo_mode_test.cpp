@@ -1,0 +1,200 @@
+// tests/model/demo_mode_test.cpp - entering and leaving demo mode, and what stays when that fails.
+#include "model/demo_mode.h"
+
+#include "fakes/fake_platform.h"
+#include "fakes/scratch_folder.h"
+#include "model/settings_file.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+namespace fs = std::filesystem;
+using test::FakePlatform;
+using test::ScratchFolder;
+
+constexpr const char* kCaption = "STALLYHOOP DEMOSTRATION MODE"; // sic
+const ui::Message kContinueInDemo{kCaption, "Select the OK Key to Continue in Demonstration Mode", ui::Buttons::Ok,
+                                  ui::Icon::Information};
+const ui::Message kContinueNormally{kCaption, "Select the OK Key to Continue Normal Operation of Program",
+                                    ui::Buttons::Ok, ui::Icon::Information};
+
+/// A folder with a pool of one's own: what demo mode replaces, and what it must not touch.
+struct Pool {
+    ScratchFolder scratch;
+    FakePlatform platform;
+
+    Pool()
+    {
+        for (const char* name : {"POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV", "NCAALIST.THS", "Own_O.THC"})
+            scratch.put(name, "own");
+    }
+    bool isUntouched() const
+    {
+        return scratch.has("POOLSTART.THS") && scratch.has("TALLYHOOP.THS") && scratch.has("PLAYERNAMES.CSV") &&
+               scratch.has("NCAALIST.THS") && scratch.has("Own_O.THC");
+    }
+    bool isCleared() const
+    {
+        return !scratch.has("POOLSTART.THS") && !scratch.has("TALLYHOOP.THS") && !scratch.has("PLAYERNAMES.CSV");
+    }
+};
+
+TEST(ClearDemoDataFiles, DeletesThePoolAndTheSampleSelectionsOnly)
+{
+    Pool pool;
+    pool.scratch.put("TALLYHOOP.INI", "1\r\n");
+    for (const char* name : kDemoSelectionFiles)
+        pool.scratch.put(name, "sample");
+    EXPECT_TRUE(clearDemoDataFiles(pool.scratch.folder()));
+    std::vector<std::string> left;
+    for (const fs::directory_entry& entry : fs::directory_iterator{pool.scratch.path()})
+        left.push_back(entry.path().filename().string());
+    std::sort(left.begin(), left.end());
+    EXPECT_EQ(left, (std::vector<std::string>{"NCAALIST.THS", "Own_O.THC"}));
+}
+
+TEST(ClearDemoDataFiles, SucceedsWhenThereAreNone)
+{
+    const ScratchFolder scratch;
+    EXPECT_TRUE(clearDemoDataFiles(scratch.folder()));
+}
+
+TEST(ClearDemoDataFiles, NamesTheFirstFileItCouldNotDeleteAndDeletesTheOthers)
+{
+    Pool pool;
+    fs::create_directory(pool.scratch.path() / "TALLYHOOP.INI");
+    const Result<Done> outcome = clearDemoDataFiles(pool.scratch.folder());
+    ASSERT_FALSE(outcome);
+    EXPECT_EQ(outcome.failure().message, (pool.scratch.path() / "TALLYHOOP.INI").string() + "\r\nIs a directory");
+    EXPECT_TRUE(pool.isCleared());
+}
+
+TEST(StartDemo, ClearsStartsTheInstallerAndWaitsForOk)
+{
+    Pool pool;
+    pool.platform.programs.whenStarted = [&pool] {
+        EXPECT_TRUE(pool.isCleared()) << "the installer must find a cleared folder";
+        EXPECT_TRUE(pool.platform.dialogs.shown.empty());
+        pool.scratch.put("TALLYHOOP.INI", "1\r\n");
+    };
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(pool.platform.programs.started, std::vector<fs::path>{pool.scratch.path() / "DEMOSET.EXE"});
+    EXPECT_EQ(pool.platform.dialogs.shown, std::vector<ui::Message>{kContinueInDemo});
+    EXPECT_TRUE(demoModeIsOn(pool.scratch.folder()));
+    EXPECT_TRUE(pool.scratch.has("NCAALIST.THS"));
+    EXPECT_TRUE(pool.scratch.has("Own_O.THC"));
+}
+
+TEST(StartDemo, DeletesNothingWhenTheInstallerCannotBeStarted)
+{
+    Pool pool;
+    pool.platform.programs.checkTrouble = Failure{"Permission denied"};
+    EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(pool.isUntouched());
+    EXPECT_TRUE(pool.platform.programs.started.empty());
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
+    const ui::Message& message = pool.platform.dialogs.shown[0];
+    EXPECT_EQ(message.caption, kCaption);
+    EXPECT_EQ(message.icon, ui::Icon::Critical);
+    EXPECT_EQ(message.buttons, ui::Buttons::Ok);
+    EXPECT_EQ(message.text, "Demonstration mode cannot be started. Nothing was changed.\r\n \r\n" +
+                                (pool.scratch.path() / "DEMOSET.EXE").string() + "\r\nPermission denied");
+}
+
+TEST(StartDemo, StartsNothingWhenTheFolderCannotBeWritten)
+{
+    const ScratchFolder scratch;
+    FakePlatform platform;
+    const DataFolder gone{scratch.path() / "gone"};
+    EXPECT_FALSE(startDemo(gone, platform.services));
+    EXPECT_TRUE(platform.programs.started.empty());
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.shown[0].caption, kCaption);
+    EXPECT_EQ(platform.dialogs.shown[0].text, "Demonstration mode cannot be started. Nothing was changed.\r\n \r\n" +
+                                                  gone.folder().string() + "\r\nNo such file or directory");
+}
+
+TEST(StartDemo, DoesNotStartTheInstallerOverAFileThatCouldNotBeDeleted)
+{
+    Pool pool;
+    fs::create_directory(pool.scratch.path() / "TALLYHOOP.INI");
+    EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(pool.platform.programs.started.empty());
+    EXPECT_EQ(pool.platform.dialogs.captionsShown(), std::vector<std::string>{kCaption});
+}
+
+TEST(StartDemo, SaysThatTheInstallerFailedToStartAfterAll)
+{
+    Pool pool;
+    pool.platform.programs.startTrouble = Failure{"Out of memory"};
+    EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode could not be started.\r\n \r\nOut of memory");
+    EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
+}
+
+TEST(EnterDemo, AsksFirst)
+{
+    Pool pool;
+    pool.platform.dialogs.answer(ui::Answer::Ok);
+    EXPECT_TRUE(enterDemo(pool.scratch.folder(), pool.platform.services));
+    const ui::Message question{"** DEMO MODE SET **",
+                               "You have selected to enter DEMO MODE\r\n"
+                               " \r\n"
+                               "If you continue, any setup activity INCLUDING the \r\n"
+                               "files defining the starting tournament teams and\r\n"
+                               "the special comments will be deleted..\r\n"
+                               " \r\n"
+                               "Do you want to enter DEMO Mode?",
+                               ui::Buttons::OkCancel, ui::Icon::Question};
+    EXPECT_EQ(pool.platform.dialogs.shown, (std::vector<ui::Message>{question, kContinueInDemo}));
+    EXPECT_TRUE(pool.isCleared());
+}
+
+TEST(EnterDemo, ChangesNothingOnCancel)
+{
+    Pool pool;
+    pool.platform.dialogs.answer(ui::Answer::Cancel);
+    EXPECT_FALSE(enterDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(pool.isUntouched());
+    EXPECT_TRUE(pool.platform.programs.started.empty());
+}
+
+TEST(LeaveDemo, ClearsWithoutAskingAndSaysWhatFollows)
+{
+    Pool pool;
+    pool.scratch.put("tallyhoop.ini", "1\r\n");
+    leaveDemo(pool.scratch.folder(), pool.platform.services);
+    EXPECT_TRUE(pool.isCleared());
+    EXPECT_FALSE(demoModeIsOn(pool.scratch.folder()));
+    EXPECT_EQ(pool.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+}
+
+TEST(LeaveDemo, DeletesNothingWhenThereAreNoDemoFiles)
+{
+    const ScratchFolder scratch;
+    FakePlatform platform;
+    scratch.put("Own_O.THC", "own");
+    leaveDemo(scratch.folder(), platform.services);
+    EXPECT_TRUE(scratch.has("Own_O.THC"));
+    EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+}
+
+TEST(LeaveDemo, SaysWhichFileStayed)
+{
+    Pool pool;
+    fs::create_directory(pool.scratch.path() / "POOLSTART.THS.d");
+    fs::remove(pool.scratch.path() / "POOLSTART.THS");
+    fs::rename(pool.scratch.path() / "POOLSTART.THS.d", pool.scratch.path() / "POOLSTART.THS");
+    leaveDemo(pool.scratch.folder(), pool.platform.services);
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(pool.platform.dialogs.shown[0].text, "A file of the demonstration could not be deleted.\r\n \r\n" +
+                                                       (pool.scratch.path() / "POOLSTART.THS").string() +
+                                                       "\r\nIs a directory");
+    EXPECT_EQ(pool.platform.dialogs.shown[1], kContinueNormally);
+}
+
+} // namespace
+} // namespace tallyhoop
