@@ -109,6 +109,8 @@ QGroupBox* group(const QString& title, QLayout* content)
 
 QColor toQColor(ui::Colour colour) { return QColor{colour.red, colour.green, colour.blue}; }
 
+QIcon menuIcon(std::string_view) { return {}; }
+
 double contrast(const QColor& one, const QColor& other)
 {
     const double first = luminance(one);

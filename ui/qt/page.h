@@ -52,7 +52,7 @@ public:
     QWidget* add(ui::TextBox& box); ///< QLineEdit, or QPlainTextEdit when the box is multiLine
     QPushButton* add(ui::Command& command);
     QCheckBox* add(ui::CheckBox& box);
-    QRadioButton* add(ui::OptionButton& option); ///< exclusive among those of the same parent widget; see addOptions()
+    QRadioButton* add(ui::OptionButton& option); ///< those added singly form one group; for more see addOptions()
     QListView* add(ui::ListBox& list);           ///< a lazy view on a snapshot of the rows: 10,000 are fine
     QTableView* add(ui::Grid& grid);             ///< the same; dragging a heading moves columns through the model only
 
@@ -179,6 +179,8 @@ private:
     bool filterInputMethod(ui::Control& control, QEvent& event);
     bool filterPaste(ui::TextBox& box, QLineEdit& edit, QEvent& event);
     bool filterContextMenu(ui::TextBox& box, QLineEdit& edit, QEvent& event);
+    bool filterGridKey(ui::Grid& grid, QTableView& view, int key, bool moveColumn);
+    void pressCell(ui::Grid& grid, const QModelIndex& index);
     bool pasteInto(ui::TextBox& box, QLineEdit& edit, const QString& text);
     bool pressed(ui::Control& control, const ui::KeyPress& press);
     bool pressDefault();
@@ -199,6 +201,7 @@ private:
     std::vector<std::function<void()>> m_pushes;
     ui::Control* m_focusSeen = nullptr;
     ui::Control* m_focusReported = nullptr;
+    QButtonGroup* m_singleOptions = nullptr;
     bool m_pushing = false;
     bool m_tabsChanged = false;
 };

@@ -13,8 +13,6 @@
 #include <memory>
 #include <vector>
 
-class QDialog;
-
 namespace tallyhoop::qt {
 
 enum class Placement {
@@ -72,18 +70,20 @@ private:
         MakeView makeView;
     };
     struct Loaded {
-        ScreenKind kind;
-        Placement placement;
+        ScreenKind kind{};
+        Placement placement{};
         std::unique_ptr<ui::Screen> screen;
         std::unique_ptr<QWidget> window; ///< the page, or the dialog around it
-        Page* page;
+        Page* page = nullptr;
         bool unloading = false;
     };
 
-    Loaded* find(ScreenKind kind, const ui::Screen* screen = nullptr) const;
-    void show(Loaded& loaded);
-    void runModal(ScreenKind kind, ui::Screen& screen, QDialog& dialog);
-    void takeApart(Loaded& loaded);
+    Loaded* loaded(ScreenKind kind) const;
+    bool isStill(ScreenKind kind, const ui::Screen& screen) const;
+    void show(Loaded& one);
+    void runModal(Loaded& one);
+    void takeApart(Loaded& gone);
+    void showLastStacked();
 
     Desk& m_desk;
     MainFrame& m_frame;

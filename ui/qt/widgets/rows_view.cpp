@@ -1,0 +1,30 @@
+#include "ui/qt/widgets/rows_view.h"
+
+namespace tallyhoop::qt {
+
+RowsView::RowsView(QWidget* parent) : QListView{parent}
+{
+    setUniformItemSizes(true); // 10,000 rows are measured once
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    connect(this, &QListView::clicked, this, [this] {
+        if (!m_changedByPress && rowChosen)
+            rowChosen();
+    });
+}
+
+void RowsView::mousePressEvent(QMouseEvent* event)
+{
+    m_changedByPress = false;
+    QListView::mousePressEvent(event);
+}
+
+void RowsView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    m_changedByPress = true;
+    if (rowChosen)
+        rowChosen();
+}
+
+} // namespace tallyhoop::qt
