@@ -1,0 +1,270 @@
+// setup/frmPoolEntry.cpp - the setup screen: what it shows, its modes, and how it is left.
+#include "setup/frmPoolEntry.h"
+
+#include "model/demo_mode.h"
+#include "model/help_display.h"
+#include "model/numbers.h"
+#include "model/settings_file.h"
+#include "model/setup_file.h"
+#include "model/team_name_list_file.h"
+#include "model/text.h"
+
+#include <array>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr const char* kCaption = "Define Starting Field & Options";
+constexpr const char* kOverrideCaption = "Override &Selecting Team Names";
+constexpr const char* kSelectingCaption = "Continue &Selecting";
+constexpr const char* kDesignComment = "Enter any comments or instructions";
+constexpr ui::Colour kLightGreen{0x80, 0xFF, 0x80};
+
+constexpr std::array<const char*, kRounds> kDesignPayoffs = {"1", "2", "4", "8", "12", "16"};
+constexpr std::array<const char*, kRounds> kPayoffHints = {
+    "Points for each win in 1st round",     "Points for each win in 2nd round",
+    "Points for each win in 3rd round",     "Points for each win in Regional Finals",
+    "Points for each winner in Semifinals", "Points for selecting winner in FINAL GAME",
+};
+
+constexpr const char* kUnsavedStatus = "There are changes that are not saved yet.";
+constexpr const char* kFinalizeStatus = "Finalize Tournament takes effect with File, Save.";
+constexpr const char* kNoListStatus =
+    "There is no list of team names: choose Override Selecting Team Names to type them.";
+
+enum TabPosition {
+    kFirstRegionTab = 64,
+    kTitleTab = 68,
+    kComment1Tab,
+    kComment2Tab,
+    kFirstPayoffTab,
+    kFinalizeTab = 77,
+    kListTab,
+    kAddTab,
+    kChangeTab,
+    kDeleteTab,
+    kOverrideTab,
+    kClearTab,
+};
+
+void say(std::string& status, const char* sentence)
+{
+    if (!status.empty())
+        status += "  ";
+    status += sentence;
+}
+
+} // namespace
+
+frmPoolEntry::frmPoolEntry(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state,
+                           Screens& screens, Opening opening)
+    : Screen{"frmPoolEntry", kCaption},
+      m_folder{folder},
+      m_platform{platform},
+      m_state{state},
+      m_screens{screens},
+      m_opening{opening}
+{
+    helpTopic = "setup";
+    lstTeamNames.background = kLightGreen;
+    txtComment1.multiLine = txtComment2.multiLine = true;
+    txtComment1.text = txtComment2.text = kDesignComment;
+    arrangeTabs();
+    arrangeMenus();
+    describeBoxes();
+}
+
+void frmPoolEntry::arrangeTabs()
+{
+    for (std::size_t i = 0; i < txtRegion.size(); ++i)
+        txtRegion[i].tabIndex = static_cast<int>(i);
+    TxtInfo[0].tabIndex = kTitleTab;
+    for (std::size_t region = 0; region < kRegions; ++region)
+        TxtInfo[region + 1].tabIndex = kFirstRegionTab + static_cast<int>(region);
+    txtComment1.tabIndex = kComment1Tab;
+    txtComment2.tabIndex = kComment2Tab;
+    for (std::size_t round = 0; round < txtInfo6.size(); ++round)
+        txtInfo6[round].tabIndex = kFirstPayoffTab + static_cast<int>(round);
+    cmdFinalize.tabIndex = kFinalizeTab;
+    lstTeamNames.tabIndex = kListTab;
+    cmdAddName.tabIndex = kAddTab;
+    cmdChangeName.tabIndex = kChangeTab;
+    cmdDeleteName.tabIndex = kDeleteTab;
+    cmdOverride.tabIndex = kOverrideTab;
+    cmdClear.tabIndex = kClearTab;
+}
+
+void frmPoolEntry::arrangeMenus()
+{
+    mnuFile.children = {&mnuSaveStartingField, nullptr, &mnuEnd};
+    mnuOptions.children = {&mnuSeating};
+    mnuDemo.children = {&mnuDemoSet, &mnuDemoReset};
+    mnuHelp.children = {&mnuHelpDisplay, &mnuHelpAbout};
+    menuBar = {&mnuFile, &mnuOptions, &mnuDemo, &mnuHelp};
+}
+
+void frmPoolEntry::describeBoxes()
+{
+    for (std::size_t i = 0; i < txtRegion.size(); ++i) {
+        txtRegion[i].text = "Team " + std::to_string(i + 1);
+        txtRegion[i].edited = [this, i] { teamBoxEdited(txtRegion[i]); };
+    }
+    for (std::size_t round = 0; round < txtInfo6.size(); ++round) {
+        txtInfo6[round].text = kDesignPayoffs[round];
+        txtInfo6[round].toolTip = kPayoffHints[round];
+        txtInfo6[round].spokenName = kPayoffHints[round];
+        txtInfo6[round].edited = [this] { showStatus(); };
+    }
+    for (std::size_t i = 0; i < TxtInfo.size(); ++i) {
+        TxtInfo[i].spokenName = i == 0 ? "Pool title" : "Title of region " + std::to_string(i);
+        TxtInfo[i].edited = [this] { showStatus(); };
+    }
+    txtComment1.spokenName = "Comment 1";
+    txtComment2.spokenName = "Comment 2";
+    txtComment1.edited = txtComment2.edited = [this] { showStatus(); };
+    lstTeamNames.spokenName = "Team names";
+    lstTeamNames.chosen = [this] { markLastTeamBox(true); };
+}
+
+void frmPoolEntry::load()
+{
+    m_state.teamNames = {};
+    OverrideMode = false;
+    ReadStartingField(m_folder, m_platform.dialogs, m_state);
+    showSetup();
+    showTeamNames();
+    showDemoMode();
+    m_saved = linesOnScreen();
+    showStatus();
+    focused = &txtRegion[0];
+}
+
+void frmPoolEntry::showSetup()
+{
+    const SetupLines& lines = m_state.setupLines;
+    for (std::size_t i = 0; i < txtRegion.size(); ++i)
+        txtRegion[i].text = lines[setup_line::kTeam + i];
+    for (std::size_t i = 0; i < TxtInfo.size(); ++i) // the region titles follow the pool's title
+        TxtInfo[i].text = lines[setup_line::kTitle + i];
+    for (std::size_t round = 0; round < txtInfo6.size(); ++round)
+        txtInfo6[round].text = lines[setup_line::kPayoff + round];
+    for (std::size_t row = 0; row < kRowsPerRegion; ++row)
+        m_state.seedLabels[row] = lines[setup_line::kSeed + row];
+    showSeeds();
+    txtComment1.text = decodeLineBreaks(lines[setup_line::kComment1]);
+    txtComment2.text = decodeLineBreaks(lines[setup_line::kComment2]);
+}
+
+void frmPoolEntry::showSeeds()
+{
+    for (std::size_t i = 0; i < lblSeed.size(); ++i) {
+        const std::string& seed = m_state.seedLabels[i % kRowsPerRegion];
+        lblSeed[i].text = seed;
+        txtRegion[i].spokenName = "Region " + std::to_string(i / kRowsPerRegion + 1) + ", seed " + seed;
+    }
+    showStatus();
+}
+
+void frmPoolEntry::showTeamNames()
+{
+    const auto names = ReadTeamNames(m_folder, m_platform.dialogs);
+    m_teamListIsRead = names.has_value();
+    lstTeamNames.rows.clear();
+    lstTeamNames.selected.reset();
+    if (!names)
+        return;
+    for (const std::string& team : *names) {
+        if (team.empty())
+            break;
+        insertSorted(lstTeamNames.rows, team);
+    }
+}
+
+void frmPoolEntry::showDemoMode()
+{
+    const bool demo = demoModeIsOn(m_folder);
+    lblDemoMode.visible = demo;
+    mnuDemoReset.enabled = demo;
+    // A finalized pool of the person's own must not be overwritten by the sample.
+    mnuDemoSet.enabled = !demo && leadingNumber(m_state.setupLines[setup_line::kFinalized]) == 0;
+
+    // The installer is not waited for, so right after a demo command the command itself knows better than the files.
+    if (m_opening != Opening::Plain) {
+        lblDemoMode.visible = m_opening == Opening::DemoEntered;
+        mnuDemoReset.enabled = m_opening == Opening::DemoEntered;
+        mnuDemoSet.enabled = m_opening == Opening::DemoLeft;
+    }
+}
+
+void frmPoolEntry::showStatus()
+{
+    status.clear();
+    if (!m_teamListIsRead)
+        say(status, kNoListStatus);
+    if (linesOnScreen() != m_saved)
+        say(status, kUnsavedStatus);
+    if (FinalizeState == "1")
+        say(status, kFinalizeStatus);
+}
+
+void frmPoolEntry::toggleOverride()
+{
+    OverrideMode = !OverrideMode;
+    cmdOverride.caption = OverrideMode ? kSelectingCaption : kOverrideCaption;
+    lstTeamNames.enabled = !OverrideMode;
+    cmdAddName.enabled = !OverrideMode;
+    cmdChangeName.enabled = !OverrideMode;
+    cmdDeleteName.enabled = !OverrideMode;
+    focused = controlAtTab(LastTeamBox);
+}
+
+void frmPoolEntry::clearTeamNames()
+{
+    for (std::size_t i = 0; i < txtRegion.size(); ++i)
+        txtRegion[i].text.clear();
+    focused = &txtRegion[0];
+    showStatus();
+}
+
+void frmPoolEntry::enterSeeds() { m_screens.load(ScreenKind::SeedPositions); }
+
+void frmPoolEntry::leave()
+{
+    // Names that could not be written stay here, where they can be seen.
+    if (!saveTeamNames())
+        return;
+    m_screens.load(ScreenKind::Board);
+    m_screens.unload(ScreenKind::Setup);
+}
+
+void frmPoolEntry::closeRequested() { leave(); }
+
+void frmPoolEntry::unloading()
+{
+    // Nothing is asked twice: after any answer there are no changes left to ask about.
+    saveTeamNames();
+}
+
+void frmPoolEntry::startDemoMode()
+{
+    if (enterDemo(m_folder, m_platform))
+        reload(Opening::DemoEntered);
+}
+
+void frmPoolEntry::resetDemoMode()
+{
+    leaveDemo(m_folder, m_platform);
+    reload(Opening::DemoLeft);
+}
+
+void frmPoolEntry::reload(Opening opening)
+{
+    saveTeamNames();
+    m_screens.unload(ScreenKind::Setup);
+    m_screens.load(ScreenKind::Setup, opening);
+}
+
+void frmPoolEntry::showHelpText() { showHelp(m_folder, m_platform, helpTopic); }
+
+} // namespace tallyhoop

@@ -1,0 +1,35 @@
+// setup/frmPoolSeatings.h - the small modal screen that says which seed stands on which first-round row.
+#pragma once
+
+#include "setup/frmPoolEntry.h"
+
+#include <array>
+
+namespace tallyhoop {
+
+/// Sixteen boxes beside the first region's teams; what is entered holds for all four regions.
+class frmPoolSeatings : public ui::Screen
+{
+public:
+    /// @param setup the setup screen this one was opened from: it waits until this one closes
+    frmPoolSeatings(frmPoolEntry& setup, const ui::Platform& platform, modTallyhoop& state, Screens& screens);
+
+    ui::ControlArray<ui::Label, kRowsPerRegion> lblRegion{this, "lblRegion"};
+    ui::ControlArray<ui::TextBox, kRowsPerRegion> txtSeed{this, "txtSeed"};
+    ui::Command cmdComplete{this, "cmdComplete", "Complete", [this] { complete(); }};
+    ui::Command cmdCancel{this, "cmdCancel", "Cancel", [this] { cancel(); }};
+
+    void load() override;
+    void closeRequested() override;
+
+private:
+    void complete();
+    void cancel();
+
+    frmPoolEntry& m_setup;
+    ui::Platform m_platform;
+    modTallyhoop& m_state;
+    Screens& m_screens;
+};
+
+} // namespace tallyhoop
