@@ -11,9 +11,9 @@ namespace tallyhoop {
 
 /// A list as the search sees it.
 struct SearchList {
-    std::span<const std::string> rows;
-    bool isListBox = true;       ///< false = some other kind of control, which is never searched
-    std::optional<int> selected; ///< row index; nothing = no row
+    std::span<const std::string> rows{};
+    bool isListBox = true;         ///< false = some other kind of control, which is never searched
+    std::optional<int> selected{}; ///< row index; nothing = no row
 };
 
 /// The entry box in which a key was pressed.
