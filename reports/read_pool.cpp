@@ -7,19 +7,6 @@
 
 namespace tallyhoop {
 
-Work::Work(ui::Progress& progress, const std::string& what, std::size_t steps) : m_progress{progress}
-{
-    m_progress.begin(what, static_cast<int>(steps));
-}
-
-Work::~Work() { m_progress.end(); }
-
-bool Work::step()
-{
-    m_cancelled = m_cancelled || !m_progress.advance(++m_done);
-    return !m_cancelled;
-}
-
 ReadPool readPool(std::span<const FolderFile> files, Work& work)
 {
     ReadPool pool;
@@ -44,7 +31,7 @@ Result<std::vector<ScoreLine>> scorePool(const ReadPool& pool, const SelectionLi
     for (const PoolEntry& player : pool.players) {
         const Result<ScoreLine> score = scoreLine(player.fileName, player.lines, results, payoffs, verdict);
         if (!score)
-            return Failure{player.fileName + ": " + score.failure().message};
+            return score.failure();
         scores.push_back(*score);
         if (!work.step())
             break;

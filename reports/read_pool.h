@@ -4,8 +4,8 @@
 #include "model/data_folder.h"
 #include "model/lines.h"
 #include "model/screens.h"
+#include "model/work.h"
 #include "scoring/score_picks.h"
-#include "ui/platform.h"
 #include "ui/result.h"
 
 #include <span>
@@ -13,28 +13,6 @@
 #include <vector>
 
 namespace tallyhoop {
-
-/// Long work under a busy pointer that the person can cancel. The pointer is normal again when it goes out of scope.
-class Work
-{
-public:
-    /// @param what  what is being done, for the progress window
-    /// @param steps how many times step() will be called
-    Work(ui::Progress& progress, const std::string& what, std::size_t steps);
-    ~Work();
-    Work(const Work&) = delete;
-    Work& operator=(const Work&) = delete;
-
-    /// One more step is done. @returns false when the person has cancelled; so does every later step
-    bool step();
-
-    bool cancelled() const { return m_cancelled; }
-
-private:
-    ui::Progress& m_progress;
-    int m_done = 0;
-    bool m_cancelled = false;
-};
 
 /// One player's file as it was read.
 struct PoolEntry {

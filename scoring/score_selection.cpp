@@ -18,12 +18,28 @@ SelectionLines linesOfFile(const std::string& fileName, const DataFolder& folder
     return lines;
 }
 
-std::string playerName(const SelectionLines& lines)
+/// The board's picks against the results of a file.
+Result<ScoreLine> scoreBoard(const std::string& fileName, const SelectionLines& results, const Payoffs& payoffs,
+                             modTallyhoop& state)
 {
-    return lines[selection_line::kInitials] + ", " + lines[selection_line::kName];
+    const Result<ScoreLine> scored = scoreLine(fileName, state.selectionLines, results, payoffs, state.verdict);
+    if (!scored)
+        return scored;
+    // The player's name is always taken from the file that was read, here the results.
+    ScoreLine line = *scored;
+    line.PlayerName = results[selection_line::kInitials] + ", " + results[selection_line::kName];
+    return line;
 }
 
 } // namespace
+
+Result<ScoreLine> scoreFile(const FolderFile& file, const SelectionLines& results, const Payoffs& payoffs,
+                            ui::Dialogs& dialogs, ScoredVerdict& verdict)
+{
+    SelectionLines picks;
+    ReadSelections(file.path, dialogs, picks);
+    return scoreLine(file.name, picks, results, payoffs, verdict);
+}
 
 Result<ScoreLine> ScoreSelection(ScoreCaller caller, const std::string& fileName, const DataFolder& folder,
                                  ui::Dialogs& dialogs, BracketBoard& board, modTallyhoop& state)
@@ -32,18 +48,10 @@ Result<ScoreLine> ScoreSelection(ScoreCaller caller, const std::string& fileName
     const Result<Payoffs> payoffs = board.payoffs();
     if (!payoffs)
         return payoffs.failure();
-
     const SelectionLines fromFile = linesOfFile(fileName, folder, dialogs);
-    if (caller == ScoreCaller::ScoreDisplay)
-        return scoreLine(fileName, fromFile, state.selectionLines, *payoffs, state.verdict);
-
-    Result<ScoreLine> scored = scoreLine(fileName, state.selectionLines, fromFile, *payoffs, state.verdict);
-    if (!scored)
-        return scored;
-    // The player's name is always taken from the file that was read, here the results.
-    ScoreLine line = *scored;
-    line.PlayerName = playerName(fromFile);
-    return line;
+    return caller == ScoreCaller::Bracket
+               ? scoreBoard(fileName, fromFile, *payoffs, state)
+               : scoreLine(fileName, fromFile, state.selectionLines, *payoffs, state.verdict);
 }
 
 } // namespace tallyhoop

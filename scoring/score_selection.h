@@ -17,6 +17,12 @@ enum class ScoreCaller {
     ScoreDisplay, ///< the board holds the results, the file the picks
 };
 
+/// Scores one player's file, whatever the results. A file that cannot be read is reported by its reader and scored as
+/// far as it was read. The verdict is rewritten.
+/// @returns a failure when a number does not fit 16 bits
+Result<ScoreLine> scoreFile(const FolderFile& file, const SelectionLines& results, const Payoffs& payoffs,
+                            ui::Dialogs& dialogs, ScoredVerdict& verdict);
+
 /// Captures the board into the shared lines, reads a file of the program's folder, scores one against the other, and
 /// puts the shared lines back. The shared verdict is rewritten.
 /// @param fileName bare name; a file that cannot be read is reported by its reader and scored as far as it was read
