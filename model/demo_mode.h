@@ -10,7 +10,7 @@ namespace tallyhoop {
 
 /// The sample players' selection files: few, fixed, and unlikely names for real players.
 inline constexpr std::array<const char*, 4> kDemoSelectionFiles = {
-    "Demo Favorite_DF.THC", "Demo Longshot_DL.THC", "Demo Prophet_DP.THC", "Demo Halfway_DH.THC"};
+    "Demo Favorite_DF.THC", "Demo Halfway_DH.THC", "Demo Longshot_DL.THC", "Demo Prophet_DP.THC"};
 
 /// Deletes the settings, setup, results and player files and the sample selections, as far as they exist.
 /// @returns a failure naming the first file that could not be deleted; the others are deleted all the same
