@@ -4,6 +4,8 @@
 #include "ui/dialogs.h"
 #include "ui/qt/desk.h"
 
+class QFileDialog;
+
 namespace tallyhoop::qt {
 
 class QtDialogs : public ui::Dialogs
@@ -18,10 +20,9 @@ public:
     void about() override;
 
 private:
+    std::optional<std::filesystem::path> choose(const ui::FileChoice& choice, bool save);
+
     Desk& m_desk;
 };
-
-/// @returns a name filter of Qt's that matches in any case: "*.THC" gives "*.[Tt][Hh][Cc]"
-QString caseless(std::string_view pattern);
 
 } // namespace tallyhoop::qt

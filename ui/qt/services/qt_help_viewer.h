@@ -13,6 +13,7 @@ class HelpWindow;
 class QtHelpViewer : public ui::HelpViewer
 {
 public:
+    /// @param frame owns the help window
     explicit QtHelpViewer(QWidget* frame);
     ~QtHelpViewer() override;
 

@@ -4,9 +4,10 @@
 #include "ui/printer.h"
 #include "ui/qt/desk.h"
 
-#include <QPrinter>
-#include <functional>
+#include <QPageLayout>
 #include <memory>
+
+class QPrinter;
 
 namespace tallyhoop::qt {
 
@@ -22,6 +23,7 @@ public:
     std::optional<ui::PrinterFont> chooseFont() override;
     int pageWidthTwips(ui::Orientation orientation) override;
 
+    /// A printout to a PDF file, chosen in the printer's dialog, is written whole or not at all.
     Result<Done> print(const ui::TextPrintout& printout) override;
     Result<Done> print(const ui::DrawingPrintout& printout) override;
     Result<Done> savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file) override;
@@ -29,8 +31,10 @@ public:
     void preview(const ui::TextPrintout& printout) override;
     void preview(const ui::DrawingPrintout& printout) override;
 
-private:
+    /// The printer as last chosen.
     QPrinter& printer();
+
+private:
     template <class Printout>
     Result<Done> printOut(const Printout& printout);
     template <class Printout>
@@ -39,7 +43,7 @@ private:
     void showPreview(const Printout& printout);
 
     Desk& m_desk;
-    std::unique_ptr<QPrinter> m_printer; ///< as last chosen; made when first needed
+    std::unique_ptr<QPrinter> m_printer; ///< made when first needed
 };
 
 } // namespace tallyhoop::qt

@@ -50,6 +50,7 @@ private:
     std::string m_what;
     int m_steps = 0;
     int m_nesting = 0;
+    qint64 m_lastLook = 0; ///< milliseconds since begin()
     std::unique_ptr<QProgressDialog> m_window;
     std::optional<Desk::Modal> m_modal;
 };

@@ -1,0 +1,149 @@
+#include "ui/qt/services/qt_dialogs.h"
+
+#include "ui/qt/look.h"
+#include "ui/qt/paths.h"
+#include "ui/qt/services/question.h"
+#include "ui/qt/text.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+QString captionOf(const std::string& caption)
+{
+    return caption.empty() ? QStringLiteral("Tallyhoop") : titleText(toQString(caption));
+}
+
+QMessageBox::Icon toQt(ui::Icon icon)
+{
+    switch (icon) {
+    case ui::Icon::Information:
+        return QMessageBox::Information;
+    case ui::Icon::Question:
+        return QMessageBox::Question;
+    case ui::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case ui::Icon::Critical:
+        return QMessageBox::Critical;
+    case ui::Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+void addButtons(QMessageBox& box, ui::Buttons buttons)
+{
+    switch (buttons) {
+    case ui::Buttons::Ok:
+        box.setStandardButtons(QMessageBox::Ok);
+        box.setEscapeButton(QMessageBox::Ok);
+        break;
+    case ui::Buttons::OkCancel:
+        box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        box.setEscapeButton(QMessageBox::Cancel);
+        box.setDefaultButton(QMessageBox::Ok);
+        break;
+    case ui::Buttons::YesNo:
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setEscapeButton(QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes);
+        break;
+    }
+}
+
+ui::Answer answerOf(int button)
+{
+    switch (button) {
+    case QMessageBox::Cancel:
+        return ui::Answer::Cancel;
+    case QMessageBox::Yes:
+        return ui::Answer::Yes;
+    case QMessageBox::No:
+        return ui::Answer::No;
+    default:
+        return ui::Answer::Ok;
+    }
+}
+
+QString nameFilter(const ui::FileChoice& choice)
+{
+    const QString name = toQString(choice.filterName);
+    const QString pattern = QLatin1Char{'('} + toQString(choice.pattern) + QLatin1Char{')'};
+    return name.contains(pattern) ? name : name + QLatin1Char{' '} + pattern;
+}
+
+} // namespace
+
+ui::Answer QtDialogs::show(const ui::Message& message)
+{
+    const Question question{m_desk};
+    QMessageBox box{m_desk.windowForDialogs()};
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(captionOf(message.caption));
+    box.setIcon(toQt(message.icon));
+    box.setText(toLines(message.text));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    addButtons(box, message.buttons);
+    return answerOf(box.exec());
+}
+
+std::string QtDialogs::ask(const ui::Question& asked)
+{
+    const Question question{m_desk};
+    QInputDialog dialog{m_desk.windowForDialogs()};
+    dialog.setWindowTitle(captionOf(asked.caption));
+    dialog.setLabelText(toLines(asked.prompt));
+    dialog.setTextValue(toQString(asked.proposal));
+    const auto labels = dialog.findChildren<QLabel*>();
+    for (QLabel* label : labels) {
+        // A prompt may quote a name: it is neither markup nor a mnemonic.
+        label->setTextFormat(Qt::PlainText);
+        label->setBuddy(nullptr);
+    }
+    return dialog.exec() == QDialog::Accepted ? fromQString(dialog.textValue()) : std::string{};
+}
+
+std::optional<std::filesystem::path> QtDialogs::openFile(const ui::FileChoice& choice) { return choose(choice, false); }
+
+std::optional<std::filesystem::path> QtDialogs::saveFile(const ui::FileChoice& choice) { return choose(choice, true); }
+
+std::optional<std::filesystem::path> QtDialogs::choose(const ui::FileChoice& choice, bool save)
+{
+    const Question question{m_desk};
+    QFileDialog dialog{m_desk.windowForDialogs(), captionOf(choice.caption), fromPath(choice.folder)};
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setNameFilter(nameFilter(choice)); // Qt matches it in any case
+    if (!choice.proposedName.empty())
+        dialog.selectFile(toQString(choice.proposedName));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return toPath(dialog.selectedFiles().constFirst());
+}
+
+void QtDialogs::about()
+{
+    const Question question{m_desk};
+    QMessageBox box{m_desk.windowForDialogs()};
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(QStringLiteral("About Tallyhoop"));
+    const QIcon icon = QApplication::windowIcon();
+    if (!icon.isNull())
+        box.setIconPixmap(icon.pixmap(64, 64));
+    box.setText(QStringLiteral("Tallyhoop ") + QApplication::applicationVersion());
+    box.setInformativeText(QStringLiteral("Runs an office pool on the 64-team college basketball tournament: brackets, "
+                                          "results, scores and reports."));
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+} // namespace tallyhoop::qt

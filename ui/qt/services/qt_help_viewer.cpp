@@ -1,0 +1,43 @@
+#include "ui/qt/services/qt_help_viewer.h"
+
+#include "model/replace_file.h"
+#include "ui/qt/paths.h"
+#include "ui/qt/services/help_window.h"
+#include "ui/qt/text.h"
+
+#include <algorithm>
+
+namespace tallyhoop::qt {
+
+QtHelpViewer::QtHelpViewer(QWidget* frame) : m_frame{frame} {}
+
+QtHelpViewer::~QtHelpViewer() { delete m_window.data(); }
+
+Result<Done> QtHelpViewer::show(const std::filesystem::path& helpFile, const std::string& topic)
+{
+    const Result<std::string> html = readFile(helpFile);
+    if (!html)
+        return html.failure();
+    if (std::ranges::all_of(*html, [](char c) { return c == ' ' || c == '\r' || c == '\n' || c == '\t'; }))
+        return Failure{fromQString(fromPath(helpFile)) + " is empty."};
+
+    if (!m_window)
+        m_window = new HelpWindow{m_frame};
+    m_window->setHelp(QByteArray::fromStdString(*html));
+    if (m_window->isMinimized())
+        m_window->showNormal();
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
+    // After it is shown: a place in the text is known only when the text has its width.
+    m_window->showTopic(toQString(topic));
+    return Done{};
+}
+
+void QtHelpViewer::close()
+{
+    if (m_window)
+        m_window->close();
+}
+
+} // namespace tallyhoop::qt
