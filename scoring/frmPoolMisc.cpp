@@ -1,0 +1,161 @@
+// scoring/frmPoolMisc.cpp - what the score display does.
+#include "scoring/frmPoolMisc.h"
+
+#include "model/file_names.h"
+#include "model/printer_setup.h"
+#include "model/printing_trouble.h"
+#include "model/windows1252.h"
+#include "model/work.h"
+#include "scoring/score_grid.h"
+#include "scoring/score_printout.h"
+#include "scoring/score_selection.h"
+
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+const ui::Message kCancelled{"", "The scores were not calculated.", ui::Buttons::Ok, ui::Icon::Information};
+
+} // namespace
+
+frmPoolMisc::frmPoolMisc(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
+                         BracketBoard& board)
+    : ui::Screen{"frmPoolMisc", "Display Scores (Total, Possible)"},
+      m_folder{folder},
+      m_platform{platform},
+      m_state{state},
+      m_screens{screens},
+      m_board{board}
+{
+    helpTopic = "scores";
+    cmdOk.isDefault = true;
+    filList.visible = false;
+    msgScoreDisplay.spokenName = "Scores";
+    msgScoreDisplay.spokenHint = "Drag a heading to another place to sort by it. Click a file name to mark that "
+                                 "player's picks on the bracket.";
+    msgScoreDisplay.cellPressed = [this](std::size_t row, std::size_t column) { cellClicked(row, column); };
+    msgScoreDisplay.columnPressed = [this](std::size_t column) { msgScoreDisplay.headingPressed = column; };
+    msgScoreDisplay.columnReleased = [this](std::optional<std::size_t> column) { headingDropped(column); };
+}
+
+void frmPoolMisc::load()
+{
+    listFiles();
+    showTable({});
+    m_board.setScoreDisplayOpen(true);
+}
+
+void frmPoolMisc::closeRequested() { exit(); }
+
+void frmPoolMisc::unloading()
+{
+    // Marks would leave the board read-only without the screen that explains them.
+    m_board.ClearMarks();
+    m_board.setScoreDisplayOpen(false);
+}
+
+void frmPoolMisc::exit() { m_screens.unload(ScreenKind::ScoreDisplay); }
+
+std::vector<FolderFile> frmPoolMisc::listFiles()
+{
+    std::vector<FolderFile> files = m_folder.files(file_name::kSelectionEnding);
+    filList.rows.clear();
+    for (const FolderFile& file : files)
+        filList.rows.push_back(file.name);
+    return files;
+}
+
+void frmPoolMisc::showTable(Rows rows)
+{
+    msgScoreDisplay.columns = columnsOf(kScoreColumns);
+    msgScoreDisplay.rows = std::move(rows);
+    msgScoreDisplay.headingPressed.reset();
+    ++msgScoreDisplay.revision;
+}
+
+void frmPoolMisc::calculate()
+{
+    m_board.ClearMarks();
+    const std::vector<FolderFile> files = listFiles();
+    m_board.captureBoard(); // the results on the board count, saved or not
+    const Result<Payoffs> payoffs = m_board.payoffs();
+    if (!payoffs) {
+        showFailure(payoffs.failure());
+        return;
+    }
+    if (std::optional<Rows> rows = scoreEverybody(files, *payoffs))
+        showTable(std::move(*rows));
+    else
+        m_platform.dialogs.show(kCancelled);
+}
+
+std::optional<frmPoolMisc::Rows> frmPoolMisc::scoreEverybody(const std::vector<FolderFile>& files,
+                                                             const Payoffs& payoffs)
+{
+    Work work{m_platform.progress, "Calculating the scores", files.size()};
+    Rows rows;
+    rows.reserve(files.size());
+    for (const FolderFile& file : files) {
+        const Result<ScoreLine> score =
+            scoreFile(file, m_state.selectionLines, payoffs, m_platform.dialogs, m_state.verdict);
+        if (score)
+            rows.push_back(cellsOf(*score));
+        else
+            showFailure(score.failure());
+        if (!work.step())
+            return std::nullopt;
+    }
+    return rows;
+}
+
+void frmPoolMisc::cellClicked(std::size_t row, std::size_t column)
+{
+    const std::string& text = msgScoreDisplay.rows.at(row).at(column);
+    if (endsWithFolded(text, file_name::kSelectionEnding)) // a file name, wherever its column stands
+        markSelection(text);
+}
+
+void frmPoolMisc::markSelection(const std::string& fileName)
+{
+    m_board.ClearMarks();
+    const Result<ScoreLine> score =
+        ScoreSelection(ScoreCaller::ScoreDisplay, fileName, m_folder, m_platform.dialogs, m_board, m_state);
+    if (score)
+        m_board.MarkScores();
+    else
+        showFailure(score.failure());
+}
+
+void frmPoolMisc::headingDropped(std::optional<std::size_t> target)
+{
+    const std::optional<std::size_t> dragged = std::exchange(msgScoreDisplay.headingPressed, std::nullopt);
+    if (!dragged || !target)
+        return;
+    moveColumn(msgScoreDisplay, *dragged, *target);
+    SortGrid(msgScoreDisplay);
+}
+
+void frmPoolMisc::print()
+{
+    const std::optional<PrinterSetup> setup = setUpPrinter(m_platform, false, "Portrait");
+    if (!setup)
+        return;
+    ui::TextPrintout printout;
+    printout.title = "Tallyhoop Point Summary";
+    printout.lines = scorePrintout(msgScoreDisplay, m_platform.clock.today());
+    printout.font = setup->font;
+    printout.orientation = setup->orientation;
+    if (!m_platform.printer.print(printout))
+        showPrintingTrouble(m_platform.dialogs);
+}
+
+void frmPoolMisc::copy() { m_platform.clipboard.put(tabSeparated(msgScoreDisplay)); }
+
+void frmPoolMisc::showFailure(const Failure& failure)
+{
+    m_platform.dialogs.show({"", failure.message, ui::Buttons::Ok, ui::Icon::Critical});
+}
+
+} // namespace tallyhoop
