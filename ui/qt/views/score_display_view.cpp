@@ -1,0 +1,32 @@
+#include "ui/qt/views/score_display_view.h"
+
+#include "ui/qt/look.h"
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr int kWidth = 780; ///< all columns at their own width, and a scroll bar
+constexpr int kHeight = 420;
+
+} // namespace
+
+ScoreDisplayView::ScoreDisplayView(frmPoolMisc& scores, Desk& desk) : Page{scores, desk}
+{
+    auto* const commands = look::row();
+    commands->addWidget(add(scores.cmdOk));
+    commands->addStretch();
+    commands->addWidget(add(scores.cmdPrint));
+    commands->addWidget(add(scores.cmdCopy));
+    commands->addWidget(add(scores.cmdExit));
+
+    auto* const whole = look::column();
+    whole->addWidget(add(scores.lblInformation));
+    whole->addWidget(add(scores.msgScoreDisplay), 1);
+    whole->addLayout(commands);
+    whole->addWidget(add(scores.filList)); // hidden
+    setContent(whole);
+    resize(kWidth, kHeight);
+}
+
+} // namespace tallyhoop::qt
