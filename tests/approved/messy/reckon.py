@@ -5,6 +5,7 @@ Makes the pool of this folder (57 players with awkward names, always the same) a
 give. Run it only to make the pool anew; tests compare the program with the files that are checked in.
 """
 import random
+import re
 from fractions import Fraction
 from pathlib import Path
 
@@ -305,7 +306,7 @@ def player_detail(pool):
                     if team == picks[slot]:
                         marks[row].add(ROUND[slot])
         for row, team in enumerate(rows):
-            text = cut(file[:file.upper().index(".THC")] if row == 0 else "", 21)
+            text = cut(re.split(r"\.thc", file, flags=re.IGNORECASE)[0] if row == 0 else "", 21)
             for column in range(1, 7):
                 if column in marks[row]:
                     text += cut(team, 14) + "  "

@@ -1,0 +1,245 @@
+// tests/reports/results_by_team_test.cpp - work rows, order and pages of the results by team.
+#include "reports/results_by_team.h"
+
+#include "fakes/fake_platform.h"
+#include "reports/report_pool.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace tallyhoop::test {
+namespace {
+
+const FinalFour kFour{"", "CEDAR RAPIDS", "OLD HARBOR", "PINE BLUFF", "SALT LAKE"};
+
+struct ResultsByTeam : testing::Test {
+    SelectionLines results = fourPlayersResults().lines;
+    ReadPool pool = fourPlayers();
+    std::string title = "Pool";
+    FakeProgress progress;
+
+    std::vector<TeamOutcome> outcomes()
+    {
+        Work work{progress, "rows", 5 * pool.players.size()};
+        const auto made = resultsByTeamOutcomes(pool, results, kFour, kUsualPayoffs, work);
+        EXPECT_TRUE(made);
+        return made ? *made : std::vector<TeamOutcome>{};
+    }
+
+    ReportLines lines()
+    {
+        const Result<ReportLines> made = resultsByTeamLines(title, outcomes());
+        EXPECT_TRUE(made) << made.failure().message;
+        return made ? *made : ReportLines{};
+    }
+
+    /// Only one team is left, with this many players.
+    ReportLines linesOfOneTeam(std::size_t players)
+    {
+        TeamOutcome outcome{"DUKE", std::vector<std::string>(players, "100,A.THC,090,080,DUKE,UTAH"), 8};
+        const Result<ReportLines> made = resultsByTeamLines(title, std::vector{outcome});
+        EXPECT_TRUE(made);
+        return *made;
+    }
+};
+
+TEST(ResultsByTeamWorkRow, PacksSixFields)
+{
+    ScoreLine score;
+    score.MaxPoints = 108;
+    score.FileName = "Smith_JS.THC";
+    score.Points = 96;
+    score.WinningPick = "DUKE";
+    score.RunnerUpPick = "UTAH";
+
+    EXPECT_EQ(resultsByTeamWorkRow(score, 7), "108,Smith_JS.THC,096,007,DUKE,UTAH");
+}
+
+TEST(ResultsByTeamRow, IsSplitAgain)
+{
+    const ResultsByTeamRow row = resultsByTeamRow("108,Smith_JS.THC,096,007,DUKE,");
+
+    EXPECT_EQ(row.best, "108");
+    EXPECT_EQ(row.fileName, "Smith_JS.THC");
+    EXPECT_EQ(row.sure, "096");
+    EXPECT_EQ(row.current, "007");
+    EXPECT_EQ(row.winningPick, "DUKE");
+    EXPECT_EQ(row.runnerUpPick, "");
+}
+
+TEST(ResultsByTeamRow, IsShiftedByACommaInAFileName)
+{
+    const ResultsByTeamRow row = resultsByTeamRow("108,Smith, Jr.THC,096,007,DUKE,UTAH");
+
+    EXPECT_EQ(row.fileName, "Smith");
+    EXPECT_EQ(row.sure, " Jr.THC");
+    EXPECT_EQ(row.current, "096");
+    EXPECT_EQ(row.winningPick, "007");
+    EXPECT_EQ(row.runnerUpPick, "DUKE"); // the last piece is lost
+}
+
+TEST(ResultsByTeamRow, IsShiftedByACommaInATeam)
+{
+    const ResultsByTeamRow row = resultsByTeamRow("108,A.THC,096,007,MIAMI, OHIO,UTAH");
+
+    EXPECT_EQ(row.winningPick, "MIAMI");
+    EXPECT_EQ(row.runnerUpPick, " OHIO");
+}
+
+TEST_F(ResultsByTeam, RankEveryPlayerByTheBestCaseOfEachTeam)
+{
+    const ReportLines made = lines();
+
+    ASSERT_EQ(made.size(), 4u + 4u * 10u);
+    EXPECT_EQ(made[4], "If CEDAR RAPIDS Wins:");
+    EXPECT_EQ(made[5], "                            <-- Points -->  Points");
+    EXPECT_EQ(made[6], "                             Best   Shure   Current Team Selections in Final");
+    EXPECT_EQ(made[7], "                            ------  ------  ------  ----------------------------");
+    EXPECT_EQ(made[8], "   Adams_AB.THC              168     156     128    CEDAR RAPIDS over PINE BLUFF");
+    EXPECT_EQ(made[9], "   Dunn_EF.THC               120     108     096    PINE BLUFF over CEDAR RAPIDS");
+    EXPECT_EQ(made[10], "   Baker_C.THC               108     096     096    SALT LAKE over OLD HARBOR");
+    EXPECT_EQ(made[11], "   Clark_D.THC               000     000     000    NO SELECTION over NO SELECTION");
+    EXPECT_EQ(made[12], " ");
+    EXPECT_EQ(made[13], " ");
+    EXPECT_EQ(made[14], "If OLD HARBOR Wins:"); // no page head in between
+}
+
+TEST_F(ResultsByTeam, CentreTheHeadOnTheFinalPicks)
+{
+    const ReportLines made = lines();
+
+    // 22 + 58 = 80
+    EXPECT_EQ(made[1], std::string(38, ' ') + "Pool");
+    EXPECT_EQ(made[2], std::string(28, ' ') + "Projected Results by Team");
+}
+
+TEST_F(ResultsByTeam, LeaveOutATeamThatLostItsSemifinal)
+{
+    results[125] = "OLD HARBOR";
+
+    const ReportLines made = lines();
+
+    EXPECT_EQ(std::ranges::count(made, "If CEDAR RAPIDS Wins:"), 0);
+    for (const char* head : {"If OLD HARBOR Wins:", "If PINE BLUFF Wins:", "If SALT LAKE Wins:"})
+        EXPECT_EQ(std::ranges::count(made, head), 1) << head;
+}
+
+TEST_F(ResultsByTeam, CutAFileNameToTwentyFourCharacters)
+{
+    pool.players.resize(1);
+    pool.players[0].fileName = "A file name that is far too long_AB.THC";
+
+    EXPECT_EQ(lines()[8], "   A file name that is far   168     156     128    CEDAR RAPIDS over PINE BLUFF");
+}
+
+TEST_F(ResultsByTeam, ShowTheRunnerUpOfAPlayerWithoutChampion)
+{
+    pool.players = {pool.players[2]};
+    pool.players[0].lines[126] = "SALT LAKE";
+
+    EXPECT_TRUE(lines()[8].ends_with("    NO SELECTION over SALT LAKE"));
+}
+
+TEST_F(ResultsByTeam, OrderEqualBestCasesByFileNameBackwards)
+{
+    const PoolEntry adams = pool.players[0];
+    pool.players.assign(3, adams);
+    pool.players[0].fileName = "b.THC";
+    pool.players[1].fileName = "C.THC";
+    pool.players[2].fileName = "A.THC";
+
+    const ReportLines made = lines();
+
+    EXPECT_TRUE(made[8].starts_with("   C.THC "));
+    EXPECT_TRUE(made[9].starts_with("   b.THC "));
+    EXPECT_TRUE(made[10].starts_with("   A.THC "));
+}
+
+TEST_F(ResultsByTeam, LetThePickColumnOnlyGrowFromTeamToTeam)
+{
+    for (const TeamOutcome& outcome : outcomes())
+        EXPECT_EQ(outcome.pickWidth, 22u);
+}
+
+TEST_F(ResultsByTeam, EndAPageWithTheFiftyFifthRowOfATeam)
+{
+    const ReportLines fiftyFour = linesOfOneTeam(54);
+    // 8 + 54 = 62 is not above 62; the two empty lines then make 64, and the page ends behind the team.
+    ASSERT_EQ(fiftyFour.size(), 8u + 54u + 2u + 1u);
+    EXPECT_EQ(std::ranges::count(fiftyFour, "If DUKE Wins (cont.):"), 0);
+    EXPECT_EQ(fiftyFour.back(), kFormFeedLine);
+
+    const ReportLines fiftySix = linesOfOneTeam(56);
+    ASSERT_EQ(fiftySix.size(), 8u + 55u + 7u + 1u + 2u);
+    EXPECT_EQ(fiftySix[62], "   A.THC                     100     090     080    DUKE over UTAH");
+    EXPECT_EQ(fiftySix[63], kFormFeedLine);
+    EXPECT_EQ(fiftySix[64], " ");
+    EXPECT_EQ(fiftySix[65], " ");
+    EXPECT_EQ(fiftySix[66], "If DUKE Wins (cont.):");
+    EXPECT_EQ(fiftySix[67], "                            <-- Points -->  Points");
+    EXPECT_EQ(fiftySix[68], "                             Best   Shure   Current Team Selections in Final");
+    EXPECT_EQ(fiftySix[69], "                            ------  ------  ------  --------------");
+    EXPECT_EQ(fiftySix[70], "   A.THC                     100     090     080    DUKE over UTAH");
+}
+
+TEST_F(ResultsByTeam, WriteTheContinuationHeadEvenWhenNoRowFollows)
+{
+    const ReportLines made = linesOfOneTeam(55);
+
+    ASSERT_EQ(made.size(), 8u + 55u + 7u + 2u);
+    EXPECT_EQ(made[66], "If DUKE Wins (cont.):");
+    EXPECT_EQ(made.back(), " "); // 6 + 2 = 8: the page goes on
+}
+
+TEST_F(ResultsByTeam, HoldFiftySevenRowsOnAContinuationPage)
+{
+    // The counter starts at 6 there: 6 + 56 = 62, 6 + 57 = 63.
+    EXPECT_EQ(std::ranges::count(linesOfOneTeam(55 + 56), "If DUKE Wins (cont.):"), 1);
+    EXPECT_EQ(std::ranges::count(linesOfOneTeam(55 + 57), "If DUKE Wins (cont.):"), 2);
+}
+
+TEST_F(ResultsByTeam, StartTheNextTeamOnANewPageWhenThePageIsPastFifty)
+{
+    // 4 + 4 + n + 2: 50 with 40 rows, 51 with 41.
+    const auto twoTeams = [this](std::size_t players) {
+        const TeamOutcome team{"DUKE", std::vector<std::string>(players, "100,A.THC,090,080,DUKE,UTAH"), 8};
+        const Result<ReportLines> made = resultsByTeamLines(title, std::vector{team, TeamOutcome{"UTAH", {}, 8}});
+        EXPECT_TRUE(made);
+        return *made;
+    };
+
+    const ReportLines forty = twoTeams(40);
+    EXPECT_EQ(std::ranges::count(forty, kFormFeedLine), 1); // behind the second team: 50 + 4 + 2
+    EXPECT_EQ(forty[50], "If UTAH Wins:");
+
+    const ReportLines fortyOne = twoTeams(41);
+    EXPECT_EQ(fortyOne[51], kFormFeedLine);
+    EXPECT_EQ(fortyOne[52], " ");
+    EXPECT_EQ(fortyOne[53], fortyOne[1]);
+    EXPECT_EQ(fortyOne[56], "If UTAH Wins:");
+}
+
+TEST_F(ResultsByTeam, FailForATitleWiderThanThePage)
+{
+    // A page of 8 + 58 = 66: 33 - 33 for a title of 66 and one of 67 (33.5 is rounded to 34: -1).
+    title = std::string(66, 'T');
+    EXPECT_EQ(linesOfOneTeam(1)[1], title);
+
+    title = std::string(67, 'T');
+    const TeamOutcome team{"DUKE", {}, 8};
+    const Result<ReportLines> made = resultsByTeamLines(title, std::vector{team});
+    ASSERT_FALSE(made);
+    EXPECT_EQ(made.failure().message, "This text is too wide for the report:\r\n" + title);
+}
+
+TEST_F(ResultsByTeam, StopWhenThePersonCancelsInTheMiddle)
+{
+    progress.cancelAt = 6;
+    Work work{progress, "rows", 20};
+
+    EXPECT_TRUE(resultsByTeamOutcomes(pool, results, kFour, kUsualPayoffs, work));
+    EXPECT_TRUE(work.cancelled());
+}
+
+} // namespace
+} // namespace tallyhoop::test
