@@ -1,0 +1,77 @@
+#include "players/selection_of_player.h"
+
+#include "model/file_names.h"
+#include "model/player_names_file.h"
+#include "model/text.h"
+#include "model/windows1252.h"
+
+#include <system_error>
+
+namespace tallyhoop {
+
+namespace {
+
+std::string_view withoutEnding(std::string_view name)
+{
+    const std::string_view ending = file_name::kSelectionEnding;
+    return endsWithFolded(name, ending) ? name.substr(0, name.size() - ending.size()) : name;
+}
+
+bool isSelectionFile(const std::filesystem::path& file)
+{
+    std::error_code ignored;
+    return std::filesystem::is_regular_file(file, ignored);
+}
+
+/// @returns the only selection file whose name begins with this text
+std::optional<std::filesystem::path> onlyFileBeginningWith(const DataFolder& folder, std::string_view beginning)
+{
+    std::optional<std::filesystem::path> found;
+    for (const FolderFile& file : folder.files(file_name::kSelectionEnding)) {
+        if (!startsWithFolded(file.name, beginning))
+            continue;
+        if (found)
+            return std::nullopt; // Better none than the wrong player's file.
+        found = file.path;
+    }
+    return found;
+}
+
+} // namespace
+
+std::string recordedFileName(const DataFolder& folder, const std::filesystem::path& file)
+{
+    std::error_code ignored;
+    if (std::filesystem::equivalent(file.parent_path(), folder.folder(), ignored))
+        return upperCase(shown(file.filename()));
+    const std::filesystem::path relative = file.lexically_relative(folder.folder());
+    const bool inside = !relative.empty() && *relative.begin() != "..";
+    return upperCase(shown(inside ? relative : file));
+}
+
+std::optional<std::filesystem::path> selectionFileOf(const DataFolder& folder, std::string_view recorded)
+{
+    const std::string name = trimTrailingBlanks(recorded);
+    if (!isBareName(name))
+        return std::nullopt;
+    if (endsWithFolded(name, file_name::kSelectionEnding)) {
+        const std::optional<std::filesystem::path> file = folder.pathOf(name);
+        if (file && isSelectionFile(*file))
+            return file;
+    }
+    return name.size() == kFileNameWidth ? onlyFileBeginningWith(folder, name) : std::nullopt;
+}
+
+bool recordStandsFor(const DataFolder& folder, std::string_view recorded, std::string_view fileName)
+{
+    const std::string name = trimTrailingBlanks(recorded);
+    const bool mayBeCut = name.size() == kFileNameWidth && !endsWithFolded(name, file_name::kSelectionEnding);
+    if (!mayBeCut)
+        return !name.empty() && equalFolded(withoutEnding(name), withoutEnding(fileName));
+    if (!startsWithFolded(fileName, name))
+        return false;
+    const std::optional<std::filesystem::path> file = selectionFileOf(folder, name);
+    return file && equalFolded(shown(file->filename()), fileName);
+}
+
+} // namespace tallyhoop
