@@ -1,3 +1,4 @@
+// players/frmPoolEMail.cpp - from typed names to a list of addresses.
 #include "players/frmPoolEMail.h"
 
 #include "model/text.h"

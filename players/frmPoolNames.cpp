@@ -1,3 +1,4 @@
+// players/frmPoolNames.cpp - the player list from the screen to the disk.
 #include "players/frmPoolNames.h"
 
 #include "model/text.h"

@@ -1,3 +1,4 @@
+// players/selection_of_player.cpp - from a record to its file, and never to another.
 #include "players/selection_of_player.h"
 
 #include "model/file_names.h"

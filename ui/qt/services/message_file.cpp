@@ -1,3 +1,4 @@
+// ui/qt/services/message_file.cpp - a draft made with gmime.
 #include "ui/qt/services/message_file.h"
 
 #include "model/replace_file.h"

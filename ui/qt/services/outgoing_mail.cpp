@@ -1,3 +1,4 @@
+// ui/qt/services/outgoing_mail.cpp - quoting for each client.
 #include "ui/qt/services/outgoing_mail.h"
 
 #include "model/windows1252.h"
