@@ -75,7 +75,7 @@ frmPoolEMail::frmPoolEMail(const DataFolder& folder, const ui::Platform& platfor
       m_state{state},
       m_screens{screens}
 {
-    helpTopic = "e-mail";
+    helpTopic = "email";
     lstPlayerNames.fixedPitch = true;
     lstPlayerNames.spokenName = "Players";
     lstPlayerNames.doubleClicked = [this] { addSelectedPlayer(); };

@@ -67,7 +67,7 @@ frmPoolNames::frmPoolNames(const DataFolder& folder, const ui::Platform& platfor
       m_state{state},
       m_screens{screens}
 {
-    helpTopic = "player-names";
+    helpTopic = "players";
     txtFileName.locked = true;
     txtFileName.tabStop = false;
     cmdChange.toolTip = "Store the CHANGEs made";
@@ -81,8 +81,8 @@ frmPoolNames::frmPoolNames(const DataFolder& folder, const ui::Platform& platfor
 
     int tab = 0;
     for (ui::Control* control :
-         std::initializer_list<ui::Control*>{&txtName, &txtFileName, &txtEmail, &txtPhone, &lstNames, &cmdAdd,
-                                             &cmdChange, &cmdDelete, &cmdCancel, &cmdExit})
+         std::initializer_list<ui::Control*>{&txtName, &txtFileName, &txtEmail, &txtPhone, &cmdAdd, &cmdChange,
+                                             &cmdDelete, &lstNames, &cmdCancel, &cmdExit})
         control->tabIndex = tab++;
     focused = &txtName;
 }

@@ -1,0 +1,86 @@
+// ui/qt/views/email_view.cpp - players and recipients side by side, the message below.
+#include "ui/qt/views/email_view.h"
+
+#include "ui/qt/look.h"
+
+#include <QGridLayout>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr int kPlayerCharacters = 66; ///< of a player's row: the name's column and an address of some length
+constexpr int kMessageLines = 6;
+
+} // namespace
+
+EMailView::EMailView(frmPoolEMail& mail, Desk& desk) : Page{mail, desk}
+{
+    QHBoxLayout* above = look::row(look::kSection);
+    above->addLayout(players(mail), 3);
+    above->addLayout(recipients(mail), 2);
+
+    QVBoxLayout* page = look::column(look::kSection);
+    page->addLayout(above, 3);
+    page->addLayout(message(mail), 2);
+    page->addLayout(buttons(mail));
+    setContent(page);
+}
+
+QLayout* EMailView::players(frmPoolEMail& mail)
+{
+    QHBoxLayout* modes = look::row();
+    modes->addWidget(add(mail.cmdFreeEntry));
+    modes->addWidget(add(mail.cmdUseList));
+    modes->addStretch(1);
+
+    QListView* list = add(mail.lstPlayerNames);
+    list->setMinimumWidth(list->fontMetrics().horizontalAdvance(QLatin1Char{'0'}) * kPlayerCharacters);
+
+    QVBoxLayout* column = look::column();
+    column->addWidget(add(mail.lblEntry));
+    column->addWidget(add(mail.txtEntry));
+    column->addLayout(modes);
+    column->addWidget(list, 1);
+    return column;
+}
+
+QLayout* EMailView::recipients(frmPoolEMail& mail)
+{
+    QHBoxLayout* below = look::row();
+    below->addWidget(add(mail.cmdDelete));
+    below->addStretch(1);
+
+    QVBoxLayout* column = look::column();
+    column->addWidget(add(mail.lblTo));
+    column->addWidget(add(mail.lstTo), 1);
+    column->addLayout(below);
+    return column;
+}
+
+QLayout* EMailView::message(frmPoolEMail& mail)
+{
+    QHBoxLayout* subject = look::row();
+    subject->addWidget(add(mail.lblSubject));
+    subject->addWidget(add(mail.txtSubject), 1);
+
+    QWidget* text = add(mail.txtMessage);
+    text->setMinimumHeight(text->fontMetrics().lineSpacing() * kMessageLines);
+
+    QVBoxLayout* column = look::column();
+    column->addLayout(subject);
+    column->addWidget(add(mail.lblMessage));
+    column->addWidget(text, 1);
+    return column;
+}
+
+QLayout* EMailView::buttons(frmPoolEMail& mail)
+{
+    QHBoxLayout* row = look::row();
+    row->addStretch(1);
+    row->addWidget(add(mail.cmdSend));
+    row->addWidget(add(mail.cmdExit));
+    return row;
+}
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,94 @@
+// ui/qt/views/player_names_view.cpp - boxes above, the players in columns below.
+#include "ui/qt/views/player_names_view.h"
+
+#include "ui/qt/look.h"
+
+#include <QGridLayout>
+#include <QStyle>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+/// @returns the names of the list's columns, above their first characters
+QLabel* columnHeading(const QListView& list)
+{
+    const auto column = [](const char* text, std::size_t width) {
+        return QString::fromLatin1(text).leftJustified(static_cast<int>(width) + 1);
+    };
+    auto* label = new QLabel{column("Name", kNameWidth) + column("FileName", kFileNameWidth) +
+                             column("EMail Address", kEmailWidth) + column("Phone No", kPhoneWidth)};
+    label->setTextFormat(Qt::PlainText);
+    QFont font = look::fixedFont();
+    font.setBold(true);
+    label->setFont(font);
+    const int cellMargin = list.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &list) + 1;
+    label->setContentsMargins(list.frameWidth() + cellMargin, 0, 0, 0);
+    label->setMinimumWidth(1); // It is cut where the list is.
+    return label;
+}
+
+} // namespace
+
+PlayerNamesView::PlayerNamesView(frmPoolNames& names, Desk& desk) : Page{names, desk}
+{
+    QVBoxLayout* page = look::column(look::kSection);
+    page->addLayout(boxes(names));
+    page->addLayout(editButtons(names));
+    page->addLayout(list(names), 1);
+    page->addLayout(closeButtons(names));
+    setContent(page);
+}
+
+QLayout* PlayerNamesView::boxes(frmPoolNames& names)
+{
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(look::kGap);
+    grid->setVerticalSpacing(look::kGap);
+    grid->addWidget(add(names.lblName), 0, 0, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(add(names.txtName), 0, 1);
+    grid->addWidget(add(names.lblFileName), 1, 0, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(add(names.txtFileName), 1, 1);
+    QLabel* note = add(names.lblFileNameNote);
+    note->setFont(look::smallFont());
+    note->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(note, 2, 1);
+    grid->setColumnMinimumWidth(2, look::kSection);
+    grid->addWidget(add(names.lblEmail), 0, 3, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(add(names.txtEmail), 0, 4);
+    grid->addWidget(add(names.lblPhone), 1, 3, Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(add(names.txtPhone), 1, 4);
+    grid->setColumnStretch(1, 1);
+    grid->setColumnStretch(4, 1);
+    return grid;
+}
+
+QLayout* PlayerNamesView::editButtons(frmPoolNames& names)
+{
+    QHBoxLayout* row = look::row();
+    row->addWidget(add(names.cmdAdd));
+    row->addWidget(add(names.cmdChange));
+    row->addWidget(add(names.cmdDelete));
+    row->addStretch(1);
+    return row;
+}
+
+QLayout* PlayerNamesView::list(frmPoolNames& names)
+{
+    QVBoxLayout* column = look::column(look::kTight);
+    QListView* players = add(names.lstNames);
+    column->addWidget(columnHeading(*players));
+    column->addWidget(players, 1);
+    return column;
+}
+
+QLayout* PlayerNamesView::closeButtons(frmPoolNames& names)
+{
+    QHBoxLayout* row = look::row();
+    row->addStretch(1);
+    row->addWidget(add(names.cmdCancel));
+    row->addWidget(add(names.cmdExit));
+    return row;
+}
+
+} // namespace tallyhoop::qt
