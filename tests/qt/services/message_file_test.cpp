@@ -1,0 +1,167 @@
+// tests/qt/services/message_file_test.cpp - the message file, read back by a parser that is not ours.
+#include "ui/qt/services/message_file.h"
+
+#include "fakes/scratch_folder.h"
+
+#include <QProcess>
+#include <gtest/gtest.h>
+#include <map>
+#include <sstream>
+
+namespace tallyhoop::qt {
+namespace {
+
+// Prints a name and a value in hexadecimal on each line.
+constexpr const char* kReader = R"(
+import email, email.policy, sys
+message = email.message_from_binary_file(sys.stdin.buffer, policy=email.policy.default)
+def tell(name, value):
+    print(name, (value if isinstance(value, bytes) else str(value).encode('utf-8')).hex() or '-')
+tell('defects', [d for part in message.walk() for d in part.defects])
+tell('unsent', message['X-Unsent'])
+tell('mime', message['MIME-Version'])
+tell('subject', message['Subject'])
+tell('to', '|'.join(a.addr_spec + '=' + a.display_name for a in message['To'].addresses) if message['To'] else '')
+for number, part in enumerate(message.iter_parts()):
+    tell('type%d' % number, part.get_content_type())
+    tell('charset%d' % number, part.get_content_charset())
+    tell('encoding%d' % number, part['Content-Transfer-Encoding'])
+    tell('disposition%d' % number, part.get_content_disposition())
+    tell('file%d' % number, part.get_filename())
+    tell('bytes%d' % number, part.get_payload(decode=True))
+)";
+
+class MessageFile : public testing::Test
+{
+protected:
+    void read(const std::string& message)
+    {
+        QProcess python;
+        python.start(QStringLiteral("/usr/bin/python3"), {QStringLiteral("-c"), QString::fromLatin1(kReader)});
+        python.write(message.data(), static_cast<qint64>(message.size()));
+        python.closeWriteChannel();
+        ASSERT_TRUE(python.waitForFinished(20000)) << python.errorString().toStdString();
+        ASSERT_EQ(python.exitCode(), 0) << python.readAllStandardError().toStdString();
+        std::istringstream lines{python.readAllStandardOutput().toStdString()};
+        for (std::string name, hex; lines >> name >> hex;)
+            found[name] = hex == "-" ? "" : QByteArray::fromHex(hex.c_str()).toStdString();
+        EXPECT_EQ(found["defects"], "[]");
+    }
+
+    std::map<std::string, std::string> found;
+};
+
+std::vector<std::string> linesOf(const std::string& bytes)
+{
+    std::vector<std::string> lines;
+    for (std::size_t start = 0; start < bytes.size();) {
+        const std::size_t end = bytes.find("\r\n", start);
+        EXPECT_NE(end, std::string::npos) << "the last line has no end";
+        lines.push_back(bytes.substr(start, end - start));
+        start = end == std::string::npos ? bytes.size() : end + 2;
+    }
+    return lines;
+}
+
+TEST_F(MessageFile, CarriesEverythingUnharmed)
+{
+    const std::string report = std::string{"Standings\r\n\x0C\r\nZo\xEB \x80 lone\n\0end", 29} + std::string(500, 'x');
+    const std::string empty;
+    read(messageFile({.recipients = {"o'brien@example.org", "js@example.org"},
+                      .subject = "It's round 2, 100% ok",
+                      .body = "Hi, all\r\n\r\n<b>\xC3\xBC</b>\r\n.\r\nFrom me",
+                      .files = {}},
+                     std::vector<AttachedText>{{"RPTOPT1.TXT", report}, {"RPTOPT7.TXT", empty}}));
+    EXPECT_EQ(found["unsent"], "1");
+    EXPECT_EQ(found["mime"], "1.0");
+    EXPECT_EQ(found["subject"], "It's round 2, 100% ok");
+    EXPECT_EQ(found["to"], "o'brien@example.org=|js@example.org=");
+    EXPECT_EQ(found["type0"], "text/plain");
+    EXPECT_EQ(found["charset0"], "utf-8");
+    EXPECT_EQ(found["bytes0"], "Hi, all\r\n\r\n<b>\xC3\xBC</b>\r\n.\r\nFrom me");
+    EXPECT_EQ(found["type1"], "text/plain");
+    EXPECT_EQ(found["charset1"], "windows-1252");
+    EXPECT_EQ(found["encoding1"], "base64");
+    EXPECT_EQ(found["disposition1"], "attachment");
+    EXPECT_EQ(found["file1"], "RPTOPT1.TXT");
+    EXPECT_EQ(found["bytes1"], report);
+    EXPECT_EQ(found["file2"], "RPTOPT7.TXT");
+    EXPECT_EQ(found["bytes2"], "");
+    EXPECT_FALSE(found.contains("type3"));
+}
+
+TEST_F(MessageFile, EncodesALongSubjectInUtf8WordsOfWholeCharacters)
+{
+    std::string subject = "x"; // so that a cut after a fixed number of bytes would hit the middle of a character
+    for (int i = 0; i < 60; ++i)
+        subject += "\xC3\xBC";
+    const std::string message =
+        messageFile({.recipients = {}, .subject = subject, .body = {}, .files = {}}, std::vector<AttachedText>{});
+    EXPECT_NE(message.find("Subject: =?UTF-8?B?"), std::string::npos) << message.substr(0, 400);
+    for (const std::string& line : linesOf(message))
+        EXPECT_LE(line.size(), 78u) << line;
+    read(message);
+    EXPECT_EQ(found["subject"], subject);
+}
+
+TEST_F(MessageFile, TakesNamesWithTheirAddressesAndSeveralAtOnce)
+{
+    read(messageFile({.recipients = {"\"Smith, J\" <js@example.org>", "Zo\xC3\xAB M <zoe@example.org>",
+                                     "a@example.org, b@example.org"},
+                      .subject = {},
+                      .body = {},
+                      .files = {}},
+                     std::vector<AttachedText>{}));
+    EXPECT_EQ(found["to"], "js@example.org=Smith, J|zoe@example.org=Zo\xC3\xAB M|a@example.org=|b@example.org=");
+}
+
+TEST_F(MessageFile, HasCrLfShortBase64LinesAndABoundaryOfItsOwn)
+{
+    const std::string tricky = "--=-boundary\r\n.\r\n--\r\n";
+    std::string report;
+    for (int i = 0; i < 200; ++i)
+        report += tricky;
+    const std::string message = messageFile({.recipients = {"a@x.org"}, .subject = "s", .body = tricky, .files = {}},
+                                            std::vector<AttachedText>{{"RPTOPT1.TXT", report}, {"RPTOPT2.TXT", "y"}});
+    std::size_t lineFeeds = 0;
+    for (std::size_t i = 0; i < message.size(); ++i)
+        if (message[i] == '\n') {
+            ++lineFeeds;
+            ASSERT_TRUE(i > 0 && message[i - 1] == '\r') << "lone line feed at " << i;
+        }
+    const std::vector<std::string> lines = linesOf(message);
+    EXPECT_EQ(lines.size(), lineFeeds);
+
+    const std::size_t at = message.find("boundary=\"") + 10;
+    const std::string boundary = message.substr(at, message.find('"', at) - at);
+    int delimiters = 0;
+    for (const std::string& line : lines) {
+        EXPECT_LE(line.size(), 78u) << line;
+        delimiters += line.starts_with("--" + boundary) ? 1 : 0;
+        const bool base64 = line.size() > 70 && line.find(' ') == std::string::npos;
+        EXPECT_TRUE(!base64 || line.size() <= 76) << line;
+    }
+    EXPECT_EQ(delimiters, 4) << "three parts and the end";
+    read(message);
+    EXPECT_EQ(found["bytes1"], report);
+}
+
+TEST_F(MessageFile, ReadsItsAttachmentsFromTheirFiles)
+{
+    const test::ScratchFolder scratch;
+    const std::filesystem::path file = scratch.put("RPTOPT3.TXT", "a report\r\n");
+    const Result<std::string> message = messageFile({.recipients = {}, .subject = {}, .body = {}, .files = {file}});
+    ASSERT_TRUE(message);
+    read(*message);
+    EXPECT_EQ(found["file1"], "RPTOPT3.TXT");
+    EXPECT_EQ(found["bytes1"], "a report\r\n");
+}
+
+TEST_F(MessageFile, FailsWhenAnAttachmentCannotBeRead)
+{
+    const test::ScratchFolder scratch;
+    EXPECT_FALSE(messageFile({.recipients = {}, .subject = {}, .body = {}, .files = {scratch.path() / "RPTOPT3.TXT"}}));
+}
+
+} // namespace
+} // namespace tallyhoop::qt
