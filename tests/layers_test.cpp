@@ -1,0 +1,160 @@
+// tests/layers_test.cpp - who may include whom: every #include of the program against one table.
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <optional>
+#include <ostream>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyhoop {
+namespace {
+
+namespace fs = std::filesystem;
+
+using Rooms = std::set<std::string>;
+
+const Rooms kCore = {"ui", "model", "scoring", "bracket", "players", "setup", "reports"};
+
+/// What each room may include beside itself.
+const std::map<std::string, Rooms> kMayInclude = {
+    {"ui", {}},
+    {"model", {"ui"}},
+    {"scoring", {"model", "ui"}},
+    {"bracket", {"scoring", "model", "ui"}},
+    {"players", {"model", "ui"}},
+    {"setup", {"players", "model", "ui"}},
+    {"reports", {"scoring", "model", "ui"}},
+    {"demo", {"model", "ui"}},
+    {"ui/qt", kCore},
+    {"app", {"ui", "model", "scoring", "bracket", "players", "setup", "reports", "ui/qt"}},
+};
+
+struct Include {
+    std::string file;   ///< who includes, as "room/file.h"
+    std::string target; ///< what stands between the quotes or brackets
+    bool isSystem = false;
+};
+
+/// @returns the room of a path such as "model/lines.h" or "ui/qt/views/x.h"; empty when it has no folder
+std::string roomOf(const std::string& path)
+{
+    if (path.starts_with("ui/qt/"))
+        return "ui/qt";
+    const std::size_t slash = path.find('/');
+    return slash == std::string::npos ? std::string{} : path.substr(0, slash);
+}
+
+std::optional<Include> includeOf(const std::string& file, std::string_view line)
+{
+    const auto skipBlanks = [&line] { line.remove_prefix(std::min(line.find_first_not_of(" \t"), line.size())); };
+    skipBlanks();
+    if (!line.starts_with('#'))
+        return std::nullopt;
+    line.remove_prefix(1);
+    skipBlanks();
+    if (!line.starts_with("include"))
+        return std::nullopt;
+    line.remove_prefix(std::string_view{"include"}.size());
+    skipBlanks();
+    const bool isSystem = line.starts_with('<');
+    if (!isSystem && !line.starts_with('"'))
+        return std::nullopt;
+    line.remove_prefix(1);
+    return Include{file, std::string{line.substr(0, line.find(isSystem ? '>' : '"'))}, isSystem};
+}
+
+/// Qt's headers begin with "Q" or stand in a folder of theirs; the mail client's library is the windows' business too.
+bool isForWindowsOnly(const std::string& target)
+{
+    return target.starts_with('Q') || target.starts_with("gmime") || target.starts_with("glib");
+}
+
+/// @returns what is wrong with an include, nothing when it is allowed
+std::optional<std::string> complaintAbout(const Include& include)
+{
+    const std::string room = roomOf(include.file);
+    const std::string words = include.file + " includes " + include.target;
+    if (include.isSystem) {
+        if (kCore.contains(room) && isForWindowsOnly(include.target))
+            return words;
+        return room == "ui" && include.target.starts_with("fmt/") ? std::optional{words} : std::nullopt;
+    }
+    const std::string targetRoom = roomOf(include.target);
+    if (room == "ui/qt" && !kMayInclude.contains(targetRoom))
+        return std::nullopt; // what the build generates for a file of that room
+    if (targetRoom == room || kMayInclude.at(room).contains(targetRoom))
+        return std::nullopt;
+    return words;
+}
+
+bool isSource(const fs::path& file) { return file.extension() == ".h" || file.extension() == ".cpp"; }
+
+std::vector<Include> includesIn(const fs::path& root)
+{
+    std::vector<Include> found;
+    for (const fs::directory_entry& entry : fs::recursive_directory_iterator{root}) {
+        if (!entry.is_regular_file() || !isSource(entry.path()))
+            continue;
+        const std::string name = entry.path().lexically_relative(root.parent_path()).generic_string();
+        std::ifstream stream{entry.path()};
+        for (std::string line; std::getline(stream, line);)
+            if (std::optional<Include> include = includeOf(name, line))
+                found.push_back(std::move(*include));
+    }
+    return found;
+}
+
+TEST(Layers, AreKeptByEveryInclude)
+{
+    const fs::path source = TALLYHOOP_SOURCE_DIR;
+    for (const char* folder : {"ui", "model", "scoring", "bracket", "players", "setup", "reports", "demo", "app"})
+        for (const Include& include : includesIn(source / folder))
+            if (const std::optional<std::string> complaint = complaintAbout(include))
+                ADD_FAILURE() << *complaint;
+}
+
+TEST(Layers, AreLookedAtWhereSourcesAre)
+{
+    const fs::path source = TALLYHOOP_SOURCE_DIR;
+    for (const char* folder : {"ui", "model", "scoring", "bracket"})
+        EXPECT_GT(includesIn(source / folder).size(), 10u) << folder;
+}
+
+TEST(Layers, RefuseAnArrowThatPointsTheOtherWay)
+{
+    EXPECT_TRUE(complaintAbout({"model/lines.cpp", "scoring/score_picks.h", false}));
+    EXPECT_TRUE(complaintAbout({"ui/screen.h", "model/lines.h", false}));
+    EXPECT_TRUE(complaintAbout({"players/frmPoolNames.h", "bracket/frmPoolMain.h", false}));
+    EXPECT_TRUE(complaintAbout({"reports/frmPoolReports.h", "players/frmPoolEMail.h", false}));
+    EXPECT_TRUE(complaintAbout({"bracket/frmPoolMain.cpp", "ui/qt/desk.h", false}));
+    EXPECT_TRUE(complaintAbout({"ui/qt/desk.cpp", "app/main_frame.h", false}));
+    EXPECT_TRUE(complaintAbout({"model/lines.cpp", "lines.h", false})) << "names start at the top folder";
+}
+
+TEST(Layers, RefuseWindowsInTheCore)
+{
+    EXPECT_TRUE(complaintAbout({"model/text.cpp", "QString", true}));
+    EXPECT_TRUE(complaintAbout({"reports/standings.cpp", "QtCore/QString", true}));
+    EXPECT_TRUE(complaintAbout({"ui/control.h", "fmt/format.h", true}));
+    EXPECT_FALSE(complaintAbout({"ui/qt/desk.cpp", "QWidget", true}));
+    EXPECT_FALSE(complaintAbout({"model/numbers.cpp", "fmt/format.h", true}));
+    EXPECT_FALSE(complaintAbout({"setup/frmPoolEntry.h", "players/clsBoxSearch.h", false}));
+}
+
+TEST(Layers, RecogniseAnInclude)
+{
+    EXPECT_EQ(includeOf("a", "#include \"model/lines.h\" // why")->target, "model/lines.h");
+    EXPECT_EQ(includeOf("a", "  # include <QString>")->target, "QString");
+    EXPECT_TRUE(includeOf("a", "#include <QString>")->isSystem);
+    EXPECT_FALSE(includeOf("a", "// #include <QString>"));
+    EXPECT_FALSE(includeOf("a", "#include kHeader"));
+    EXPECT_FALSE(includeOf("a", ""));
+}
+
+} // namespace
+} // namespace tallyhoop
