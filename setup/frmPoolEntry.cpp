@@ -28,6 +28,7 @@ constexpr std::array<const char*, kRounds> kPayoffHints = {
     "Points for each winner in Semifinals", "Points for selecting winner in FINAL GAME",
 };
 
+constexpr const char* kSavedStatus = "There are no unsaved changes.";
 constexpr const char* kUnsavedStatus = "There are changes that are not saved yet.";
 constexpr const char* kFinalizeStatus = "Finalize Tournament takes effect with File, Save.";
 constexpr const char* kNoListStatus =
@@ -202,8 +203,8 @@ void frmPoolEntry::showStatus()
     status.clear();
     if (!m_teamListIsRead)
         say(status, kNoListStatus);
-    if (linesOnScreen() != m_saved)
-        say(status, kUnsavedStatus);
+    // Never empty: a line that comes and goes would move everything above it.
+    say(status, linesOnScreen() == m_saved ? kSavedStatus : kUnsavedStatus);
     if (FinalizeState == "1")
         say(status, kFinalizeStatus);
 }

@@ -201,16 +201,16 @@ TEST_F(frmPoolEntryTest, ClosingTheWindowMeansExitAndEscapeMeansNothing)
 TEST_F(frmPoolEntryTest, StatusLineShowsUnsavedEditsUntilTheyAreSaved)
 {
     frmPoolEntry& screen = loaded();
-    EXPECT_EQ(screen.status, "");
+    EXPECT_EQ(screen.status, "There are no unsaved changes.");
     edit(screen.TxtInfo[0], "Changed");
     EXPECT_EQ(screen.status, "There are changes that are not saved yet.");
     EXPECT_FALSE(screen.unsaved);
     screen.mnuSaveStartingField.click();
-    EXPECT_EQ(screen.status, "");
+    EXPECT_EQ(screen.status, "There are no unsaved changes.");
     edit(screen.txtComment1, "Note");
     EXPECT_EQ(screen.status, "There are changes that are not saved yet.");
     edit(screen.txtComment1, "");
-    EXPECT_EQ(screen.status, "");
+    EXPECT_EQ(screen.status, "There are no unsaved changes.");
 }
 
 TEST_F(frmPoolEntryTest, OpensTheSeedPositions)

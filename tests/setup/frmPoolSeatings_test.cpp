@@ -56,7 +56,7 @@ TEST_F(frmPoolSeatingsTest, TheDefaultsPassAndLoseTheirLeadingBlanks)
     for (std::size_t row = 0; row < 16; ++row)
         EXPECT_EQ(state.seedLabels[row], kPlainDefaults[row]);
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::SeedPositions});
-    EXPECT_NE(made->status, "");
+    EXPECT_EQ(made->status, "There are changes that are not saved yet.");
 }
 
 TEST_F(frmPoolSeatingsTest, NewSeedsAreWrittenOnlyWhenTheSetupIsSaved)

@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPainter>
-#include <QPalette>
 #include <QStyleFactory>
 #include <algorithm>
 #include <cmath>
@@ -110,6 +109,13 @@ QGroupBox* group(const QString& title, QLayout* content)
 QColor toQColor(ui::Colour colour) { return QColor{colour.red, colour.green, colour.blue}; }
 
 QIcon menuIcon(std::string_view) { return {}; }
+
+void setGround(QPalette& palette, const QColor& ground)
+{
+    const bool dark = contrast(ground, Qt::white) > contrast(ground, Qt::black);
+    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::Text, dark ? Qt::white : Qt::black);
+}
 
 double contrast(const QColor& one, const QColor& other)
 {

@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QIcon>
 #include <QLabel>
+#include <QPalette>
 #include <string_view>
 
 class QApplication;
@@ -45,6 +46,9 @@ QColor toQColor(ui::Colour colour);
 
 /// @returns a line icon drawn in the palette's text colour, null when there is none of this name
 QIcon menuIcon(std::string_view name);
+
+/// Gives boxes and lists a ground of this colour, and their text whichever of black and white reads better on it.
+void setGround(QPalette& palette, const QColor& ground);
 
 /// Contrast between two colours, 1..21.
 double contrast(const QColor& one, const QColor& other);

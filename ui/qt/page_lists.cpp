@@ -57,7 +57,7 @@ QListView* Page::add(ui::ListBox& list)
     follow(list.background, [view](const std::optional<ui::Colour>& ground) {
         QPalette palette;
         if (ground)
-            palette.setColor(QPalette::Base, look::toQColor(*ground));
+            look::setGround(palette, look::toQColor(*ground));
         view->setPalette(palette);
     });
     // The rows first: they take the selection with them when they change.

@@ -151,10 +151,7 @@ void showGround(const ui::TextBox& box, QWidget& edit)
 {
     QPalette palette;
     if (box.background) {
-        const QColor ground = look::toQColor(*box.background);
-        palette.setColor(QPalette::Base, ground);
-        const bool dark = look::contrast(ground, Qt::white) > look::contrast(ground, Qt::black);
-        palette.setColor(QPalette::Text, dark ? Qt::white : Qt::black);
+        look::setGround(palette, look::toQColor(*box.background));
     } else if (box.locked) {
         palette.setColor(QPalette::Base, palette.color(QPalette::Window));
     }
