@@ -62,7 +62,8 @@ BracketMap::BracketMap()
             m_rows[at(base + offset)][1] = static_cast<std::int16_t>(base + kRowsPerRegion + offset / 2);
         }
     for (int region = 0; region < kRegions; ++region)
-        m_rows[at(region * kRegionBlock + kRegionWinner)][1] = region < 2 ? kSemifinalA : kSemifinalB;
+        m_rows[at(region * kRegionBlock + kRegionWinner)][1] =
+            static_cast<std::int16_t>(region < 2 ? kSemifinalA : kSemifinalB);
     m_rows[kSemifinalA][1] = kChampion;
     m_rows[kSemifinalB][1] = kChampion;
     m_rows[kChampion][1] = kChampionEnd;

@@ -54,7 +54,11 @@ std::string fitted(std::string_view text, std::size_t width)
 
 std::string blanks(std::size_t count) { return repeated(' ', count); }
 
-std::string repeated(char character, std::size_t count) { return std::string(count, character); }
+std::string repeated(char character, std::size_t count)
+{
+    std::string text(count, character); // braces would make a text of two characters
+    return text;
+}
 
 std::vector<std::string> split(std::string_view text, char separator)
 {
