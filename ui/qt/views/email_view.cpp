@@ -14,7 +14,7 @@ constexpr int kMessageLines = 6;
 
 } // namespace
 
-EMailView::EMailView(frmPoolEMail& mail, Desk& desk) : Page{mail, desk}
+EmailView::EmailView(frmPoolEMail& mail, Desk& desk) : Page{mail, desk}
 {
     QHBoxLayout* above = look::row(look::kSection);
     above->addLayout(players(mail), 3);
@@ -27,7 +27,7 @@ EMailView::EMailView(frmPoolEMail& mail, Desk& desk) : Page{mail, desk}
     setContent(page);
 }
 
-QLayout* EMailView::players(frmPoolEMail& mail)
+QLayout* EmailView::players(frmPoolEMail& mail)
 {
     QHBoxLayout* modes = look::row();
     modes->addWidget(add(mail.cmdFreeEntry));
@@ -45,7 +45,7 @@ QLayout* EMailView::players(frmPoolEMail& mail)
     return column;
 }
 
-QLayout* EMailView::recipients(frmPoolEMail& mail)
+QLayout* EmailView::recipients(frmPoolEMail& mail)
 {
     QHBoxLayout* below = look::row();
     below->addWidget(add(mail.cmdDelete));
@@ -58,7 +58,7 @@ QLayout* EMailView::recipients(frmPoolEMail& mail)
     return column;
 }
 
-QLayout* EMailView::message(frmPoolEMail& mail)
+QLayout* EmailView::message(frmPoolEMail& mail)
 {
     QHBoxLayout* subject = look::row();
     subject->addWidget(add(mail.lblSubject));
@@ -74,7 +74,7 @@ QLayout* EMailView::message(frmPoolEMail& mail)
     return column;
 }
 
-QLayout* EMailView::buttons(frmPoolEMail& mail)
+QLayout* EmailView::buttons(frmPoolEMail& mail)
 {
     QHBoxLayout* row = look::row();
     row->addStretch(1);

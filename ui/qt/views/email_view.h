@@ -6,12 +6,12 @@
 
 namespace tallyhoop::qt {
 
-class EMailView : public Page
+class EmailView : public Page
 {
     Q_OBJECT
 
 public:
-    EMailView(frmPoolEMail& mail, Desk& desk);
+    EmailView(frmPoolEMail& mail, Desk& desk);
 
 private:
     QLayout* players(frmPoolEMail& mail);
