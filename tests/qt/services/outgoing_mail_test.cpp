@@ -25,8 +25,8 @@ TEST(OutgoingMail, IsUtf8WithoutThePlaceholders)
 
 TEST(OutgoingMail, HasNoControlCharactersInHeaders)
 {
-    const OutgoingMail mail =
-        outgoing({.recipients = {"a@x.org\r\nBcc: b@x.org"}, .subject = "one\ntwo\x01\x7F", .body = {}});
+    const OutgoingMail mail = outgoing(
+        {.recipients = {"a@x.org\r\nBcc: b@x.org"}, .subject = "one\ntwo\x01\x7F", .body = {}, .attachments = {}});
     EXPECT_EQ(mail.recipients, Arguments{"a@x.org  Bcc: b@x.org"});
     EXPECT_EQ(mail.subject, "one two  ");
 }

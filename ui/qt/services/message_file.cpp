@@ -49,10 +49,10 @@ std::size_t wholeCharacters(std::string_view utf8, std::size_t start, std::size_
     return end - start;
 }
 
-/// @returns a text as header value: encoded words of at most 75 characters, one a line
+/// @returns a text as header value: encoded words, one a line
 std::string encodedWords(const std::string& utf8)
 {
-    constexpr std::size_t kBytesPerWord = 45; // 60 in base64, and 12 around them
+    constexpr std::size_t kBytesPerWord = 39; // 52 in base64, 12 around them: a line holds 76, "Subject: " included
     std::string words;
     for (std::size_t start = 0; start < utf8.size();) {
         const std::size_t length = wholeCharacters(utf8, start, kBytesPerWord);

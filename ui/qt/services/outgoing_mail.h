@@ -19,7 +19,7 @@ struct OutgoingMail {
     std::vector<std::string> recipients; ///< UTF-8, no control characters
     std::string subject;                 ///< UTF-8, no control characters
     std::string body;                    ///< UTF-8, lines separated by CR LF, without the attachments' placeholders
-    std::vector<std::filesystem::path> files; ///< absolute
+    std::vector<std::filesystem::path> files{}; ///< absolute
 };
 
 /// Converts a message of ours; the placeholder blanks at the end of its body are left out.
