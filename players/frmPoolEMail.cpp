@@ -242,10 +242,6 @@ void frmPoolEMail::cancel()
 
 void frmPoolEMail::closeRequested() { cancel(); }
 
-void frmPoolEMail::countRecipients()
-{
-    const std::size_t recipients = lstTo.rows.size();
-    status = std::to_string(recipients) + (recipients == 1 ? " recipient" : " recipients");
-}
+void frmPoolEMail::countRecipients() { lblTo.text = "Send To: (" + std::to_string(lstTo.rows.size()) + ")"; }
 
 } // namespace tallyhoop

@@ -29,7 +29,7 @@ public:
     ui::Command cmdFreeEntry{this, "cmdFreeEntry", "&Not In List Below", [this] { setFreeEntry(true); }};
     ui::Command cmdUseList{this, "cmdUseList", "Match &List Below", [this] { matchList(); }};
     ui::ListBox lstPlayerNames{this, "lstPlayerNames"}; ///< alphabetical; row i is the player of address i
-    ui::Label lblTo{this, "lblTo", "Send To:"};
+    ui::Label lblTo{this, "lblTo"};
     ui::ListBox lstTo{this, "lstTo"}; ///< addresses in the order added
     ui::Command cmdDelete{this, "cmdDelete", "&Delete Email Selected", [this] { deleteRecipient(); }};
     ui::Label lblSubject{this, "lblSubject", "Subject:"};

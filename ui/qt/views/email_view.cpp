@@ -9,8 +9,17 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kPlayerCharacters = 66; ///< of a player's row: the name's column and an address of some length
-constexpr int kMessageLines = 6;
+constexpr int kPlayerCharacters = 72; ///< of a player's row: the name's column and a whole address
+constexpr int kAddressCharacters = 40;
+constexpr int kRows = 14;
+constexpr int kMessageLines = 7;
+
+void setSmallest(QListView& list, int characters)
+{
+    const QFontMetrics metrics = list.fontMetrics();
+    list.setMinimumSize(metrics.horizontalAdvance(QLatin1Char{'0'}) * characters, metrics.lineSpacing() * kRows);
+    list.setAlternatingRowColors(true);
+}
 
 } // namespace
 
@@ -35,7 +44,7 @@ QLayout* EmailView::players(frmPoolEMail& mail)
     modes->addStretch(1);
 
     QListView* list = add(mail.lstPlayerNames);
-    list->setMinimumWidth(list->fontMetrics().horizontalAdvance(QLatin1Char{'0'}) * kPlayerCharacters);
+    setSmallest(*list, kPlayerCharacters);
 
     QVBoxLayout* column = look::column();
     column->addWidget(add(mail.lblEntry));
@@ -51,9 +60,12 @@ QLayout* EmailView::recipients(frmPoolEMail& mail)
     below->addWidget(add(mail.cmdDelete));
     below->addStretch(1);
 
+    QListView* list = add(mail.lstTo);
+    setSmallest(*list, kAddressCharacters);
+
     QVBoxLayout* column = look::column();
     column->addWidget(add(mail.lblTo));
-    column->addWidget(add(mail.lstTo), 1);
+    column->addWidget(list, 1);
     column->addLayout(below);
     return column;
 }

@@ -28,6 +28,14 @@ QLabel* columnHeading(const QListView& list)
     return label;
 }
 
+/// Makes a box as wide as the text it is for: this many capitals.
+QWidget* sized(QWidget* box, std::size_t characters)
+{
+    box->setFixedWidth(
+        box->fontMetrics().horizontalAdvance(QString(static_cast<int>(characters) + 2, QLatin1Char{'N'})));
+    return box;
+}
+
 } // namespace
 
 PlayerNamesView::PlayerNamesView(frmPoolNames& names, Desk& desk) : Page{names, desk}
@@ -42,24 +50,24 @@ PlayerNamesView::PlayerNamesView(frmPoolNames& names, Desk& desk) : Page{names, 
 
 QLayout* PlayerNamesView::boxes(frmPoolNames& names)
 {
+    QLabel* note = add(names.lblFileNameNote);
+    note->setFont(look::smallFont());
+    note->setForegroundRole(QPalette::PlaceholderText);
+
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(look::kGap);
     grid->setVerticalSpacing(look::kGap);
     grid->addWidget(add(names.lblName), 0, 0, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(add(names.txtName), 0, 1);
+    grid->addWidget(sized(add(names.txtName), kFileNameWidth), 0, 1);
     grid->addWidget(add(names.lblFileName), 1, 0, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(add(names.txtFileName), 1, 1);
-    QLabel* note = add(names.lblFileNameNote);
-    note->setFont(look::smallFont());
-    note->setForegroundRole(QPalette::PlaceholderText);
+    grid->addWidget(sized(add(names.txtFileName), kFileNameWidth), 1, 1);
     grid->addWidget(note, 2, 1);
     grid->setColumnMinimumWidth(2, look::kSection);
     grid->addWidget(add(names.lblEmail), 0, 3, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(add(names.txtEmail), 0, 4);
+    grid->addWidget(sized(add(names.txtEmail), kEmailWidth), 0, 4);
     grid->addWidget(add(names.lblPhone), 1, 3, Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(add(names.txtPhone), 1, 4);
-    grid->setColumnStretch(1, 1);
-    grid->setColumnStretch(4, 1);
+    grid->addWidget(sized(add(names.txtPhone), kPhoneWidth), 1, 4, Qt::AlignLeft);
+    grid->setColumnStretch(5, 1);
     return grid;
 }
 
@@ -77,6 +85,7 @@ QLayout* PlayerNamesView::list(frmPoolNames& names)
 {
     QVBoxLayout* column = look::column(look::kTight);
     QListView* players = add(names.lstNames);
+    players->setAlternatingRowColors(true);
     column->addWidget(columnHeading(*players));
     column->addWidget(players, 1);
     return column;
