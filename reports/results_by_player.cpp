@@ -161,10 +161,10 @@ Result<std::vector<ResultsByPlayerRow>> resultsByPlayerRows(const ReadPool& pool
     for (const PoolEntry& player : pool.players) {
         const Result<ScoreLine> now = scoreLine(player.fileName, player.lines, results, payoffs, verdict);
         if (!now)
-            return Failure{player.fileName + ": " + now.failure().message};
+            return now.failure();
         const Result<ByFinal<int>> projected = projectedPoints(player, outcomes, payoffs);
         if (!projected)
-            return Failure{player.fileName + ": " + projected.failure().message};
+            return projected.failure();
         rows.push_back({player.fileName, now->WinningPick, now->RunnerUpPick, now->Points, now->MaxPoints, *projected});
         if (!work.step())
             break;
