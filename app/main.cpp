@@ -1,0 +1,59 @@
+// app/main.cpp - the program's entry: the services of this computer, the frame, the screens, and off it goes.
+
+#include "app/start_up.h"
+#include "app/wiring.h"
+#include "ui/qt/desk.h"
+#include "ui/qt/look.h"
+#include "ui/qt/main_frame.h"
+#include "ui/qt/screen_host.h"
+#include "ui/qt/services/qt_dialogs.h"
+#include "ui/qt/services/qt_help_viewer.h"
+#include "ui/qt/services/qt_mail.h"
+#include "ui/qt/services/qt_printer.h"
+#include "ui/qt/services/qt_system.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QTimer>
+
+using namespace tallyhoop;
+
+namespace {
+
+/// A pool lives in the folder that holds the executable.
+DataFolder programFolder()
+{
+    return DataFolder{std::filesystem::path{QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString()}};
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application{argc, argv};
+    QApplication::setApplicationName("Tallyhoop");
+    QApplication::setApplicationVersion(TALLYHOOP_VERSION);
+    QApplication::setQuitOnLastWindowClosed(false); // the screens decide, last loaded first
+    qt::look::apply(application);
+
+    const DataFolder folder = programFolder();
+    modTallyhoop state;
+    qt::MainFrame frame;
+    qt::Desk desk{&frame};
+    qt::QtDialogs dialogs{desk};
+    qt::QtPrinter printer{desk};
+    qt::QtMail mail{folder};
+    qt::QtHelpViewer help{&frame};
+    qt::QtPrograms programs;
+    qt::QtClock clock;
+    qt::QtProgress progress{desk};
+    qt::QtClipboard clipboard;
+    const ui::Platform platform{dialogs, printer, mail, help, programs, clock, progress, clipboard};
+
+    qt::ScreenHost host{desk, frame};
+    registerScreens(host, folder, platform, state);
+    frame.closeWanted = [&] { host.endProgram(); };
+    frame.open();
+    QTimer::singleShot(0, &frame, [&] { startUp(folder, platform, host); });
+    return QApplication::exec();
+}

@@ -1,0 +1,34 @@
+#include "app/start_up.h"
+
+#include "model/demo_mode.h"
+#include "model/file_names.h"
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr const char* kOfferCaption = "** DEMO MODE OPTION **";
+constexpr const char* kOfferText = "It looks like you are just starting to work \r\n"
+                                   "with Tallyhoop..  A DEMO Mode is offered\r\n"
+                                   "which will allow you to view and evaluate\r\n"
+                                   "with information from the 2000 tournament...\r\n"
+                                   " \r\n"
+                                   "More information is available on DEMO Mode in HELP\r\n"
+                                   " \r\n"
+                                   "Do you want to initiate DEMO Mode?";
+
+} // namespace
+
+void startUp(const DataFolder& folder, const ui::Platform& platform, Screens& screens)
+{
+    screens.load(ScreenKind::Board);
+    if (folder.exists(file_name::kSetup))
+        return;
+    const ui::Message offer{kOfferCaption, kOfferText, ui::Buttons::OkCancel, ui::Icon::Question};
+    if (platform.dialogs.show(offer) == ui::Answer::Cancel || !startDemo(folder, platform))
+        return;
+    screens.unload(ScreenKind::Board);
+    screens.load(ScreenKind::Board);
+}
+
+} // namespace tallyhoop

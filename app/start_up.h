@@ -1,0 +1,14 @@
+// app/start_up.h - what happens when the program starts, before the person does anything.
+#pragma once
+
+#include "model/data_folder.h"
+#include "model/screens.h"
+#include "ui/platform.h"
+
+namespace tallyhoop {
+
+/// Shows the board; where no field was ever saved, offers the demonstration and, when it is wanted, reloads the board
+/// on the sample pool.
+void startUp(const DataFolder& folder, const ui::Platform& platform, Screens& screens);
+
+} // namespace tallyhoop
