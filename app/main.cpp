@@ -6,9 +6,9 @@
 #include "ui/qt/look.h"
 #include "ui/qt/main_frame.h"
 #include "ui/qt/screen_host.h"
+#include "ui/qt/services/mail_hand_over.h"
 #include "ui/qt/services/qt_dialogs.h"
 #include "ui/qt/services/qt_help_viewer.h"
-#include "ui/qt/services/qt_mail.h"
 #include "ui/qt/services/qt_printer.h"
 #include "ui/qt/services/qt_system.h"
 
@@ -42,7 +42,7 @@ int main(int argc, char** argv)
     qt::Desk desk{&frame};
     qt::QtDialogs dialogs{desk};
     qt::QtPrinter printer{desk};
-    qt::QtMail mail{folder};
+    qt::MailHandOver mail{folder};
     qt::QtHelpViewer help{&frame};
     qt::QtPrograms programs;
     qt::QtClock clock;

@@ -12,6 +12,7 @@ constexpr double kPageHeight = 800;
 constexpr double kStripTop = 690; ///< comments, player and score stand below the bracket
 constexpr ui::Colour kLineColour{150, 155, 165};
 constexpr ui::Colour kTextColour{30, 32, 40};
+constexpr ui::Colour kPaper{255, 255, 255};
 
 class Painter
 {
@@ -49,6 +50,10 @@ private:
         for (std::size_t region = 0; region < m_places.regionTitles.size(); ++region)
             write(m_places.regionTitles[region], m_board.lblRegionTitle[region].text, size * 1.35,
                   ui::Alignment::Centre, true);
+        // Lines run through the middle: these captions interrupt them.
+        for (const ui::Rectangle& place : {m_places.championCaption, m_places.roundCaptions[8], m_places.roundPoints[8],
+                                           m_places.roundCaptions[9], m_places.roundPoints[9]})
+            m_drawing.boxes.push_back({place, kPaper, kPaper});
         for (std::size_t round = 0; round < kRoundCaptions; ++round) {
             write(m_places.roundCaptions[round], m_board.lblRoundName[round].text, size * 0.85, ui::Alignment::Right);
             write(m_places.roundPoints[round], " " + pointsOf(round), size * 0.85, ui::Alignment::Left, true);

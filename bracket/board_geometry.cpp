@@ -100,7 +100,7 @@ void placeFinals(const Measures& m, BoardGeometry& board)
     board.positions[kSemifinalA] = semifinal;
     board.positions[kSemifinalB] = mirrored(semifinal, m.width);
     board.positions[kChampion] = {m.width / 2 - width / 2, champion - 0.7 * m.row, width, 1.4 * m.row};
-    board.championCaption = {m.width / 2 - width, champion - 2.2 * m.row, 2 * width, 1.3 * m.row};
+    board.championCaption = {m.width / 2 - width / 3, champion - 2.0 * m.row, 2 * width / 3, 1.1 * m.row};
 }
 
 void placeMarkers(const Measures& m, BoardGeometry& board)

@@ -68,6 +68,7 @@ void frmPoolMain::describeControls()
     txtPointScore.locked = true;
     txtPointScore.tabStop = false;
     txtPointScore.spokenName = "Score of this selection";
+    hideDefaultColors();
     cmdDefaultColors.toolTip = "Back to the normal colours, so that picks can be changed again";
     focused = &txtPlayerInitials;
 }

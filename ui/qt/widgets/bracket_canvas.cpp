@@ -79,6 +79,9 @@ void BracketCanvas::makeHeads()
         m_roundPoints[i] = placed(pointsOf(i), Qt::AlignVCenter | Qt::AlignLeft);
         m_roundPoints[i]->setIndent(look::kTight);
     }
+    // Lines run through the middle: these captions interrupt them.
+    for (QLabel* caption : {m_champion, m_roundNames[8], m_roundPoints[8], m_roundNames[9], m_roundPoints[9]})
+        caption->setAutoFillBackground(true);
 }
 
 void BracketCanvas::makeSeeds()
@@ -91,9 +94,7 @@ void BracketCanvas::makeSeeds()
         seed->setAlignment(i < kTeams / 2 ? Qt::AlignRight : Qt::AlignLeft);
         seed->setFocusPolicy(Qt::NoFocus);
         seed->setAttribute(Qt::WA_TransparentForMouseEvents);
-        QPalette clear = seed->palette();
-        clear.setColor(QPalette::Base, Qt::transparent);
-        seed->setPalette(clear);
+        seed->setStyleSheet("background: transparent");
         m_seeds[i] = seed;
     }
 }
