@@ -2,13 +2,11 @@
 
 #include "ui/qt/look.h"
 
-#include <QHeaderView>
-
 namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kWidth = 780;
+constexpr int kWidth = 840; ///< every column at its own width
 constexpr int kHeight = 420;
 
 } // namespace
@@ -22,12 +20,9 @@ ScoreDisplayView::ScoreDisplayView(frmPoolMisc& scores, Desk& desk) : Page{score
     commands->addWidget(add(scores.cmdCopy));
     commands->addWidget(add(scores.cmdExit));
 
-    QTableView* const table = add(scores.msgScoreDisplay);
-    table->horizontalHeader()->setStretchLastSection(true); // whichever stands last takes the room that is left
-
     auto* const whole = look::column();
     whole->addWidget(add(scores.lblInformation));
-    whole->addWidget(table, 1);
+    whole->addWidget(add(scores.msgScoreDisplay), 1);
     whole->addLayout(commands);
     whole->addWidget(add(scores.filList)); // hidden
     setContent(whole);
