@@ -1,0 +1,138 @@
+// ui/qt/views/reports_view.cpp - reports and their destination above, printouts of the board below, the way out last.
+#include "ui/qt/views/reports_view.h"
+
+#include "ui/qt/look.h"
+#include "ui/qt/text.h"
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr int kWidest = 960; ///< wider lines would tear apart what belongs together
+constexpr int kFileRows = 7;
+constexpr int kFileCharacters = 34;
+
+QLabel* strong(QLabel* label)
+{
+    label->setFont(look::boldFont());
+    return label;
+}
+
+} // namespace
+
+ReportsView::ReportsView(frmPoolReports& reports, Desk& desk) : Page{reports, desk}
+{
+    auto* const groups = look::column(look::kSection);
+    groups->addWidget(frame(reports.fraMultipleOutput, textReports(reports)));
+    groups->addWidget(frame(reports.fraPrinterOnly, printouts(reports)), 1);
+    groups->addWidget(frame(reports.fraCustomReports, customReports(reports)));
+
+    auto* const leaving = look::row();
+    leaving->addStretch(1);
+    leaving->addWidget(add(reports.cmdExit));
+    groups->addLayout(leaving);
+
+    auto* const block = new QWidget;
+    block->setLayout(groups);
+    block->setMaximumWidth(kWidest);
+    groups->setContentsMargins(0, 0, 0, 0);
+
+    auto* const page = look::row();
+    page->addStretch(1);
+    page->addWidget(block, 100);
+    page->addStretch(1);
+    setContent(page);
+}
+
+QWidget* ReportsView::frame(ui::Label& title, QLayout* content)
+{
+    QGroupBox* const box = look::group({}, content);
+    return adopt(title, box, [box](const ui::Label& label) { box->setTitle(toQString(label.text)); });
+}
+
+QLayout* ReportsView::textReports(frmPoolReports& reports)
+{
+    auto* const choices = look::row(look::kSection);
+    choices->addLayout(selections(reports), 3);
+    choices->addLayout(destinations(reports), 2);
+
+    auto* const title = look::row();
+    title->addWidget(add(reports.lblReportTitle));
+    title->addWidget(add(reports.txtReportTitle), 1);
+
+    auto* const commands = look::row();
+    commands->addWidget(add(reports.cmdPrintSelections));
+    commands->addStretch(1);
+    commands->addWidget(add(reports.cmdPreview));
+    commands->addWidget(add(reports.cmdSavePdf));
+
+    auto* const whole = look::column(look::kSection);
+    whole->addLayout(choices);
+    whole->addLayout(title);
+    whole->addLayout(commands);
+    return whole;
+}
+
+QLayout* ReportsView::selections(frmPoolReports& reports)
+{
+    auto* const column = look::column(look::kTight);
+    column->addWidget(strong(add(reports.lblReportSelections)));
+    for (std::size_t i = 0; i < reports.chkOptions.size(); ++i)
+        column->addWidget(add(reports.chkOptions[i]));
+    column->addStretch(1);
+    return column;
+}
+
+QLayout* ReportsView::destinations(frmPoolReports& reports)
+{
+    auto* const printer = look::row();
+    printer->addWidget(add(reports.cmdDefaultPrinter));
+    printer->addStretch(1);
+
+    auto* const column = look::column(look::kTight);
+    column->addWidget(strong(add(reports.lblDestination)));
+    for (QRadioButton* const destination : addOptions(reports.optDestination))
+        column->addWidget(destination);
+    column->addSpacing(look::kGap);
+    column->addLayout(printer);
+    column->addStretch(1);
+    return column;
+}
+
+QLayout* ReportsView::printouts(frmPoolReports& reports)
+{
+    auto* const board = look::row();
+    board->addWidget(add(reports.cmdPreviewBoard));
+    board->addWidget(add(reports.cmdSaveBoardPdf));
+    board->addStretch(1);
+
+    auto* const create = look::row();
+    create->addWidget(add(reports.cmdSelectedPrintouts));
+    create->addStretch(1);
+
+    auto* const left = look::column();
+    for (QRadioButton* const printout : addOptions(reports.optSelected))
+        left->addWidget(printout);
+    left->addLayout(create);
+    left->addStretch(1);
+    left->addLayout(board);
+
+    QListView* const files = add(reports.filList);
+    const QFontMetrics metrics = files->fontMetrics();
+    files->setMinimumSize(metrics.averageCharWidth() * kFileCharacters, metrics.lineSpacing() * kFileRows);
+
+    auto* const whole = look::row(look::kSection);
+    whole->addLayout(left, 3);
+    whole->addWidget(files, 2);
+    return whole;
+}
+
+QLayout* ReportsView::customReports(frmPoolReports& reports)
+{
+    auto* const row = look::row();
+    row->addWidget(add(reports.cmdCustomReport));
+    row->addWidget(look::hint(tr("Enter results on the board and sort the players' scores as you like.")), 1);
+    return row;
+}
+
+} // namespace tallyhoop::qt
