@@ -43,7 +43,9 @@ start_virtual_display() {
     (umask 077 && : >"$XAUTHORITY")
     xauth -q add :0 . "$cookie" # whatever the number: the server looks at the cookie alone
     mkfifo "$session/number"
-    Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -auth "$XAUTHORITY" 3>"$session/number" >"$session/xvfb.log" 2>&1 &
+    # Without -noreset the server starts afresh whenever its last client leaves, and takes newcomers down with it.
+    Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -noreset -auth "$XAUTHORITY" \
+        3>"$session/number" >"$session/xvfb.log" 2>&1 &
     helpers+=($!)
     read -r -t 30 number <"$session/number" || {
         echo "The virtual display did not start:" >&2

@@ -13,8 +13,9 @@ class Display:
     def __init__(self, width=1366, height=768):
         self._log = tempfile.TemporaryFile()
         told, tell = os.pipe()
+        # Without -noreset the server starts afresh whenever its last client leaves, and takes newcomers down with it.
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(tell), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp"],
+            ["Xvfb", "-displayfd", str(tell), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset"],
             pass_fds=[tell], stdout=self._log, stderr=self._log)
         os.close(tell)
         with os.fdopen(told) as number:
@@ -29,6 +30,7 @@ class Display:
         while subprocess.run(["xdotool", "get_desktop"], env=self.environment(), stdout=self._log,
                              stderr=self._log).returncode != 0:
             if time.monotonic() > end:
+                self.close()
                 raise RuntimeError("openbox did not start")
             time.sleep(0.02)
 

@@ -91,6 +91,8 @@ class Program:
     # --- starting and ending ---
 
     def start(self):
+        if self._inspector:
+            self._inspector.close()  # of the run before
         socket_path = self._scratch / "inspector"
         socket_path.unlink(missing_ok=True)
         home = self._scratch / "home"

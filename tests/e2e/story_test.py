@@ -55,7 +55,7 @@ class FromTheFirstStart(Story):
 
     def first_start_installs_the_sample_pool(self):
         offer, pause = self.start_demo()
-        self.assertEqual(offer["text"].split("\r\n"), [
+        self.assertEqual(offer["text"].splitlines(), [
             "It looks like you are just starting to work ",
             "with Tallyhoop..  A DEMO Mode is offered",
             "which will allow you to view and evaluate",
@@ -156,7 +156,7 @@ class InDemoMode(Story):
         self.program.menu("mnuFile", "mnuSaveSelection")
         self.accept_proposed_name("Smith_JS.THC")
         refusal = self.program.answer("OK")
-        self.assertEqual(refusal["text"], "You are not allowed to save a New File \r\nwhen executing under DEMO Mode")
+        self.assertEqual(refusal["text"], "You are not allowed to save a New File \nwhen executing under DEMO Mode")
         self.assertEqual(self.program.files(), before)
 
     def test_declining_leaves_the_default_field(self):
@@ -201,6 +201,7 @@ class AnOwnPool(Story):
         path = dict.fromkeys([47, 55, 59, 61, 124, 126], "Michigan St.")
         expected = selection({17: "Wisconsin", 24: "Wisconsin", **path}, "JS", "Smith", "165")
         self.assertEqual(lines(self.program.read("Smith_js.THC")), expected)
+        self.assertEqual(self.program.errors(), "")
 
 
 if __name__ == "__main__":

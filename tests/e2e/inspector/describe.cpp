@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextDocument>
 #include <QTextEdit>
 
 namespace inspector {
@@ -40,6 +41,17 @@ QString textOf(const QWidget* widget)
         return group->title();
     }
     return widget->property("text").toString(); // labels, buttons, line edits, and widgets of the program's own
+}
+
+/// A tip as it is read, whether it is written as plain or as marked-up text.
+QString asRead(const QString& tip)
+{
+    if (!Qt::mightBeRichText(tip)) {
+        return tip;
+    }
+    QTextDocument document;
+    document.setHtml(tip);
+    return document.toPlainText();
 }
 
 QString nameOf(QMessageBox::Icon icon)
@@ -121,7 +133,7 @@ QJsonObject describeWidget(QWidget* widget)
                      {QStringLiteral("focus"), widget->hasFocus()},
                      {QStringLiteral("tabStop"), (widget->focusPolicy() & Qt::TabFocus) != 0},
                      {QStringLiteral("text"), textOf(widget)},
-                     {QStringLiteral("toolTip"), widget->toolTip()},
+                     {QStringLiteral("toolTip"), asRead(widget->toolTip())},
                      {QStringLiteral("accessibleName"), widget->accessibleName()},
                      {QStringLiteral("accessibleDescription"), widget->accessibleDescription()},
                      {QStringLiteral("colour"), widget->palette().color(widget->foregroundRole()).name()},
