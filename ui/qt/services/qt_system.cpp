@@ -16,8 +16,7 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr qint64 kPatience = 500; ///< milliseconds before a progress window opens
-constexpr qint64 kRefresh = 50;   ///< milliseconds between two looks at it
+constexpr qint64 kRefresh = 50; ///< milliseconds between two looks at it
 
 Failure failureOf(const std::filesystem::path& program, const QString& reason)
 {
@@ -74,7 +73,7 @@ std::chrono::year_month_day QtClock::today() const
 
 void QtClipboard::put(const std::string& text) { QApplication::clipboard()->setText(toLines(text)); }
 
-QtProgress::QtProgress(Desk& desk) : m_desk{desk} {}
+QtProgress::QtProgress(Desk& desk, int patience) : m_desk{desk}, m_patience{patience} {}
 
 QtProgress::~QtProgress()
 {
@@ -100,7 +99,7 @@ bool QtProgress::advance(int stepsDone)
     if (m_nesting == 0 || m_nesting > 1)
         return !m_window || !m_window->wasCanceled();
     const qint64 now = m_since.elapsed();
-    if (!m_window && now >= kPatience)
+    if (!m_window && now >= m_patience)
         openWindow();
     if (!m_window)
         return true;

@@ -35,7 +35,8 @@ public:
 class QtProgress : public ui::Progress
 {
 public:
-    explicit QtProgress(Desk& desk);
+    /// @param patience milliseconds of work before the window opens
+    explicit QtProgress(Desk& desk, int patience = 500);
     ~QtProgress() override;
 
     void begin(const std::string& what, int steps) override;
@@ -46,6 +47,7 @@ private:
     void openWindow();
 
     Desk& m_desk;
+    int m_patience;
     QElapsedTimer m_since;
     std::string m_what;
     int m_steps = 0;

@@ -1,0 +1,215 @@
+#include "qt/sample_screen.h"
+#include "ui/qt/screen_host.h"
+
+#include <QDialog>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+using namespace tallyhoop;
+using namespace tallyhoop::qt;
+using namespace tallyhoop::qt::test;
+
+namespace {
+
+/// A frame, a desk and four kinds of screens, all of them sample screens.
+struct Program {
+    Program()
+    {
+        add(ScreenKind::Board, Placement::Stacked);
+        add(ScreenKind::Reports, Placement::Stacked);
+        add(ScreenKind::ScoreDisplay, Placement::OwnWindow);
+        add(ScreenKind::SeedPositions, Placement::Modal);
+        host.ended = [this] { ended = true; };
+        frame.closeWanted = [this] {
+            if (desk.accepts(nullptr))
+                host.endProgram();
+        };
+        frame.open();
+    }
+
+    void add(ScreenKind kind, Placement placement)
+    {
+        host.registerScreen<SampleScreen>(
+            kind, placement,
+            [this](Opening opening) {
+                lastOpening = opening;
+                return std::make_unique<SampleScreen>();
+            },
+            [](SampleScreen& screen, Desk& onDesk) { return std::make_unique<SamplePage>(screen, onDesk); });
+    }
+
+    SampleScreen& screen(ScreenKind kind) { return *host.find<SampleScreen>(kind); }
+    SamplePage& page(ScreenKind kind) { return static_cast<SamplePage&>(*host.page(kind)); }
+
+    Opening lastOpening = Opening::Plain;
+    bool ended = false;
+    Desk desk;
+    MainFrame frame;
+    ScreenHost host{desk, frame};
+};
+
+} // namespace
+
+TEST(ScreenHost, ShowsAStackedScreenInTheFrameAfterItsLoad)
+{
+    Program program;
+    program.host.load(ScreenKind::Board, Opening::DemoEntered);
+    EXPECT_EQ(program.lastOpening, Opening::DemoEntered);
+    EXPECT_EQ(program.screen(ScreenKind::Board).log, std::vector<std::string>{"load"});
+    EXPECT_EQ(program.frame.visiblePage(), program.host.page(ScreenKind::Board));
+    EXPECT_TRUE(program.page(ScreenKind::Board).isVisible());
+    EXPECT_FALSE(program.page(ScreenKind::Board).isWindow());
+    EXPECT_TRUE(program.page(ScreenKind::Board).name->hasFocus());
+}
+
+TEST(ScreenHost, TheScreenBelowComesBackWhenTheOneAboveIsUnloaded)
+{
+    Program program;
+    program.host.load(ScreenKind::Board);
+    program.host.load(ScreenKind::Reports);
+    EXPECT_FALSE(program.page(ScreenKind::Board).isVisible());
+    program.host.unload(ScreenKind::Reports);
+    EXPECT_FALSE(program.host.isLoaded(ScreenKind::Reports));
+    EXPECT_TRUE(program.page(ScreenKind::Board).isVisible());
+}
+
+TEST(ScreenHost, AReloadIsAFreshScreenWhileTheOldOneFinishes)
+{
+    Program program;
+    program.host.load(ScreenKind::Board);
+    SampleScreen* before = &program.screen(ScreenKind::Board);
+    before->whenOk = [&] {
+        program.host.unload(ScreenKind::Board);
+        program.host.load(ScreenKind::Board, Opening::DemoLeft);
+        before->lblTitle.text = "the old one is still there";
+    };
+    program.page(ScreenKind::Board).ok->click();
+    EXPECT_NE(&program.screen(ScreenKind::Board), before);
+    EXPECT_EQ(program.screen(ScreenKind::Board).lblTitle.text, "A title");
+    EXPECT_TRUE(program.page(ScreenKind::Board).isVisible());
+    QApplication::processEvents();
+    EXPECT_EQ(program.frame.findChildren<SamplePage*>().size(), 1);
+}
+
+TEST(ScreenHost, TheScoreDisplayIsAWindowBesideTheFrame)
+{
+    Program program;
+    program.host.load(ScreenKind::Board);
+    program.host.load(ScreenKind::ScoreDisplay);
+    EXPECT_TRUE(program.page(ScreenKind::ScoreDisplay).isWindow());
+    EXPECT_TRUE(program.page(ScreenKind::ScoreDisplay).isVisible());
+    EXPECT_TRUE(program.page(ScreenKind::Board).isVisible());
+    program.page(ScreenKind::ScoreDisplay).close();
+    EXPECT_EQ(program.screen(ScreenKind::ScoreDisplay).log.back(), "close");
+    EXPECT_TRUE(program.host.isLoaded(ScreenKind::ScoreDisplay)); // the screen decides
+    program.host.unload(ScreenKind::ScoreDisplay);
+    EXPECT_FALSE(program.host.isLoaded(ScreenKind::ScoreDisplay));
+}
+
+TEST(ScreenHost, AModalScreenHoldsItsCallerUntilItHasClosed)
+{
+    Program program;
+    program.host.load(ScreenKind::Board);
+    SampleScreen& board = program.screen(ScreenKind::Board);
+    bool wasDialog = false;
+    board.whenOk = [&] {
+        QTimer::singleShot(0, &program.frame, [&] {
+            wasDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()) != nullptr;
+            SampleScreen& modal = program.screen(ScreenKind::SeedPositions);
+            EXPECT_TRUE(program.page(ScreenKind::SeedPositions).isVisible());
+            program.page(ScreenKind::Board).ok->click(); // dropped
+            program.frame.close();                       // dropped
+            QTest::keyClick(program.page(ScreenKind::SeedPositions).name, Qt::Key_Escape);
+            EXPECT_EQ(modal.log.back(), "close");
+            modal.whenOk = [&] {
+                program.host.unload(ScreenKind::SeedPositions);
+                modal.log.emplace_back("finished");
+            };
+            program.page(ScreenKind::SeedPositions).ok->click();
+        });
+        program.host.load(ScreenKind::SeedPositions);
+        board.log.emplace_back("came back");
+        EXPECT_FALSE(program.host.isLoaded(ScreenKind::SeedPositions));
+    };
+    program.page(ScreenKind::Board).ok->click();
+    EXPECT_TRUE(wasDialog);
+    EXPECT_EQ(board.log, (std::vector<std::string>{"load", "ok", "came back"}));
+    EXPECT_FALSE(program.ended);
+}
+
+TEST(ScreenHost, AModalScreenThatUnloadsItselfWhileLoadingIsNeverShown)
+{
+    Program program;
+    class Refusing : public SampleScreen
+    {
+    public:
+        explicit Refusing(Screens& screens) : m_screens{screens} {}
+        void load() override { m_screens.unload(ScreenKind::EMail); }
+
+    private:
+        Screens& m_screens;
+    };
+    program.host.registerScreen<Refusing>(
+        ScreenKind::EMail, Placement::Modal, [&](Opening) { return std::make_unique<Refusing>(program.host); },
+        [](Refusing& screen, Desk& desk) { return std::make_unique<SamplePage>(screen, desk); });
+    program.host.load(ScreenKind::EMail);
+    EXPECT_FALSE(program.host.isLoaded(ScreenKind::EMail));
+}
+
+TEST(ScreenHost, ClosingTheFrameUnloadsEverythingLastLoadedFirst)
+{
+    Program program;
+    program.host.load(ScreenKind::Board);
+    program.host.load(ScreenKind::ScoreDisplay);
+    class Order : public SampleScreen
+    {
+    public:
+        Order(std::vector<std::string>& order, Screens& screens) : m_order{order}, m_screens{screens} {}
+        void unloading() override
+        {
+            m_order.push_back(m_screens.isLoaded(ScreenKind::ScoreDisplay) ? "first" : "too late");
+        }
+
+    private:
+        std::vector<std::string>& m_order;
+        Screens& m_screens;
+    };
+    std::vector<std::string> order;
+    program.host.registerScreen<Order>(
+        ScreenKind::PlayerNames, Placement::Stacked,
+        [&](Opening) { return std::make_unique<Order>(order, program.host); },
+        [](Order& screen, Desk& desk) { return std::make_unique<SamplePage>(screen, desk); });
+    program.host.load(ScreenKind::PlayerNames);
+    program.frame.close();
+    EXPECT_EQ(order, std::vector<std::string>{"first"});
+    EXPECT_TRUE(program.ended);
+    EXPECT_FALSE(program.host.isLoaded(ScreenKind::Board));
+    EXPECT_FALSE(program.frame.isVisible());
+}
+
+TEST(ScreenHost, TheFrameNamesTheDocumentAndItsUnsavedState)
+{
+    Program program;
+    EXPECT_EQ(program.frame.windowTitle(), QStringLiteral("Tallyhoop[*]"));
+    program.host.load(ScreenKind::Board);
+    SampleScreen& board = program.screen(ScreenKind::Board);
+    program.desk.run(board, [&] {
+        board.document = "Smith[*]_JS.THC";
+        board.unsaved = true;
+    });
+    EXPECT_EQ(program.frame.windowTitle(), QStringLiteral("Tallyhoop - Smith[*][*]_JS.THC[*]"));
+    EXPECT_TRUE(program.frame.isWindowModified());
+    program.host.load(ScreenKind::Reports);
+    EXPECT_EQ(program.frame.windowTitle(), QStringLiteral("Tallyhoop[*]"));
+    EXPECT_FALSE(program.frame.isWindowModified());
+}
+
+TEST(ScreenHost, AMenusShortcutReachesTheVisiblePageOnly)
+{
+    Program program;
+    program.host.load(ScreenKind::Board);
+    program.host.load(ScreenKind::Reports);
+    QTest::keyClick(program.page(ScreenKind::Reports).name, Qt::Key_O, Qt::ControlModifier);
+    EXPECT_EQ(program.screen(ScreenKind::Reports).log.back(), "open");
+    EXPECT_EQ(program.screen(ScreenKind::Board).log.back(), "load");
+}

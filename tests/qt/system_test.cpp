@@ -1,0 +1,112 @@
+#include "fakes/scratch_folder.h"
+#include "ui/qt/paths.h"
+#include "ui/qt/services/qt_system.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDate>
+#include <QFile>
+#include <QProgressDialog>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace tallyhoop;
+using namespace tallyhoop::qt;
+
+namespace {
+
+void makeExecutable(const std::filesystem::path& file)
+{
+    std::filesystem::permissions(file, std::filesystem::perms::owner_all);
+}
+
+} // namespace
+
+TEST(QtPrograms, AMissingProgramIsRefusedWithTheSystemsReason)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    QtPrograms programs;
+    const auto outcome = programs.check(scratch.path() / "DEMOSET.EXE");
+    ASSERT_FALSE(outcome);
+    EXPECT_NE(outcome.failure().message.find("No such file or directory"), std::string::npos);
+    EXPECT_FALSE(programs.start(scratch.path() / "DEMOSET.EXE"));
+}
+
+TEST(QtPrograms, AFileThatMayNotBeStartedIsRefused)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    const auto file = scratch.put("DEMOSET.EXE", "#!/bin/sh\n");
+    QtPrograms programs;
+    const auto outcome = programs.check(file);
+    ASSERT_FALSE(outcome);
+    EXPECT_NE(outcome.failure().message.find("Permission denied"), std::string::npos);
+    EXPECT_FALSE(programs.check(scratch.path()));
+}
+
+TEST(QtPrograms, StartsAProgramInItsOwnFolderWithoutWaiting)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    const auto file = scratch.put("run me", "#!/bin/sh\npwd > where.txt\n");
+    makeExecutable(file);
+    QtPrograms programs;
+    EXPECT_TRUE(programs.check(file));
+    ASSERT_TRUE(programs.start(file));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scratch.has("where.txt") && !scratch.get("where.txt").empty(); }));
+    EXPECT_EQ(scratch.get("where.txt"), std::filesystem::canonical(scratch.path()).string() + "\n");
+}
+
+TEST(QtPrograms, AProgramOfNoKnownKindFailsToStart)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    const auto file = scratch.put("odd", std::string(64, '\x01'));
+    makeExecutable(file);
+    QtPrograms programs;
+    EXPECT_FALSE(programs.start(file));
+}
+
+TEST(QtClock, TellsTheLocalDate)
+{
+    const auto today = QtClock{}.today();
+    const QDate date = QDate::currentDate();
+    EXPECT_EQ(static_cast<int>(today.year()), date.year());
+    EXPECT_EQ(static_cast<unsigned>(today.month()), static_cast<unsigned>(date.month()));
+    EXPECT_EQ(static_cast<unsigned>(today.day()), static_cast<unsigned>(date.day()));
+}
+
+TEST(QtClipboard, TakesTextWithItsLineBreaks)
+{
+    QtClipboard{}.put("caf\xe9\r\ntwo");
+    EXPECT_EQ(QApplication::clipboard()->text(), QString::fromUtf8("café\ntwo"));
+}
+
+TEST(QtProgress, ShowsABusyPointerWhileItRuns)
+{
+    Desk desk;
+    QtProgress progress{desk};
+    progress.begin("Scoring", 10);
+    ASSERT_NE(QApplication::overrideCursor(), nullptr);
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    EXPECT_TRUE(progress.advance(1));
+    progress.begin("Reading", 5); // work inside the work
+    EXPECT_TRUE(progress.advance(5));
+    progress.end();
+    EXPECT_NE(QApplication::overrideCursor(), nullptr);
+    progress.end();
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST(QtProgress, AWindowWithCancelOpensWhenTheWorkTakesLong)
+{
+    Desk desk;
+    QtProgress progress{desk, 0};
+    progress.begin("Scoring <b>", 10);
+    EXPECT_TRUE(progress.advance(1));
+    auto* window = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(window, nullptr);
+    EXPECT_FALSE(desk.accepts(nullptr));
+    window->cancel();
+    EXPECT_FALSE(progress.advance(2));
+    progress.end();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_TRUE(desk.accepts(nullptr));
+}

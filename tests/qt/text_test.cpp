@@ -1,0 +1,43 @@
+#include "ui/qt/text.h"
+
+#include <QLineEdit>
+#include <gtest/gtest.h>
+
+using namespace tallyhoop::qt;
+
+TEST(QtText, EveryByteSurvivesTheWayToQtAndBack)
+{
+    std::string all;
+    for (int byte = 0; byte < 256; ++byte)
+        all.push_back(static_cast<char>(byte));
+    EXPECT_EQ(fromQString(toQString(all)), all);
+    EXPECT_EQ(toQString(all).size(), 256);
+}
+
+TEST(QtText, ShowsTheCharactersOfWindows1252)
+{
+    EXPECT_EQ(toQString("\x80\x93x\x94\xe9"), QString::fromUtf8("\u20ac\u201cx\u201d\u00e9"));
+}
+
+TEST(QtText, ComposesLettersAndTheirAccents) { EXPECT_EQ(fromQString(QString::fromUtf8("e\u0301")), "\xe9"); }
+
+TEST(QtText, ReplacesWhatWindows1252LacksOneForOne)
+{
+    EXPECT_EQ(fromQString(QString::fromUtf8("a\u4e2db")), "a?b");
+    EXPECT_EQ(fromQString(QString::fromUtf8("\U0001F3C0!")), "?!"); // one character, two UTF-16 units
+}
+
+TEST(QtText, LineBreaksBecomeTheWidgetsAndComeBack)
+{
+    EXPECT_EQ(toLines("a\r\nb\rc\nd"), QStringLiteral("a\nb\nc\nd"));
+    EXPECT_EQ(fromLines(QStringLiteral("a\nb\u2029c\u2028d")), "a\r\nb\r\nc\r\nd");
+    EXPECT_EQ(withCrLf("\r\r\n\n"), "\r\n\r\n\r\n");
+}
+
+TEST(QtText, DataIsNeitherMarkupNorMnemonicNorMark)
+{
+    EXPECT_EQ(withoutMnemonics(QStringLiteral("A&M")), QStringLiteral("A&&M"));
+    EXPECT_EQ(plainToolTip(QStringLiteral("<b>A&M</b>")), QStringLiteral("<qt>&lt;b&gt;A&amp;M&lt;/b&gt;</qt>"));
+    EXPECT_EQ(plainToolTip({}), QString{});
+    EXPECT_EQ(titleText(QStringLiteral("a[*]b")), QStringLiteral("a[*][*]b"));
+}
