@@ -8,6 +8,14 @@ using namespace tallyhoop::qt;
 
 namespace {
 
+ui::Drawing sheet(double width, double height)
+{
+    ui::Drawing drawing;
+    drawing.width = width;
+    drawing.height = height;
+    return drawing;
+}
+
 QImage painted(const ui::Drawing& drawing, QSize size)
 {
     QImage image{size, QImage::Format_RGB32};
@@ -30,7 +38,7 @@ int darkPixels(const QImage& image, const QRect& place)
 
 TEST(PaintDrawing, PaintsStrokesBoxesAndCaptionsInTheirPlaces)
 {
-    ui::Drawing drawing{100, 50};
+    ui::Drawing drawing = sheet(100, 50);
     drawing.strokes.push_back({0, 25, 50, 25, {255, 0, 0}});
     drawing.boxes.push_back({{60, 10, 20, 20}, {0, 255, 0}, {0, 0, 0}});
     drawing.captions.push_back({{0, 35, 60, 10}, "ARIZONA", 10});
@@ -42,7 +50,7 @@ TEST(PaintDrawing, PaintsStrokesBoxesAndCaptionsInTheirPlaces)
 
 TEST(PaintDrawing, KeepsItsProportionsAndStandsInTheMiddle)
 {
-    ui::Drawing drawing{100, 100};
+    ui::Drawing drawing = sheet(100, 100);
     drawing.boxes.push_back({{0, 0, 100, 100}, {0, 0, 0}, {0, 0, 0}});
     const QImage image = painted(drawing, {300, 100});
     EXPECT_EQ(image.pixelColor(50, 50), QColor(Qt::white));
@@ -52,7 +60,7 @@ TEST(PaintDrawing, KeepsItsProportionsAndStandsInTheMiddle)
 
 TEST(PaintDrawing, ACaptionThatDoesNotFitIsElidedInsideItsPlace)
 {
-    ui::Drawing drawing{100, 20};
+    ui::Drawing drawing = sheet(100, 20);
     drawing.captions.push_back({{0, 0, 30, 20}, "LOUISIANA-LAFAYETTE", 12});
     const QImage image = painted(drawing, {1000, 200});
     EXPECT_GT(darkPixels(image, {0, 0, 300, 200}), 100);

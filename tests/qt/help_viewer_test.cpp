@@ -96,6 +96,7 @@ TEST(HelpViewer, FollowsTheContentsAndALink)
     QTest::qWait(0);
     auto& text = help.part<HelpText>("helpText");
     auto& contents = help.part<QTreeWidget>("helpContents");
+    contents.setCurrentItem(contents.topLevelItem(0));
     contents.setCurrentItem(contents.topLevelItem(1)->child(0));
     EXPECT_GT(text.verticalScrollBar()->value(), 500);
     contents.setCurrentItem(contents.topLevelItem(0));

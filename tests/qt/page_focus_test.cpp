@@ -49,10 +49,8 @@ TEST(PageFocus, ADialogOrAnotherWindowTakesNothingAway)
     dialog.exec();
     QWidget other;
     other.show();
-    other.activateWindow();
-    QTest::qWaitForWindowActive(&other);
-    shown.page.activateWindow();
-    QTest::qWaitForWindowActive(&shown.page);
+    activate(other);
+    activate(shown.page);
     EXPECT_TRUE(shown.screen.log.empty());
     EXPECT_TRUE(shown.page.name->hasFocus());
 }
@@ -107,9 +105,9 @@ TEST(PageFocus, TheTabOrderFollowsTheTabIndexAndThenTheDeclaration)
     screen.txtOther.tabIndex = 1;
     SamplePage page{screen, desk};
     page.focusFirst();
-    page.show();
-    QTest::qWaitForWindowActive(&page);
     desk.push();
+    page.show();
+    activate(page);
     EXPECT_TRUE(page.ok->hasFocus());
     QTest::keyClick(page.ok, Qt::Key_Tab);
     EXPECT_TRUE(page.other->hasFocus());

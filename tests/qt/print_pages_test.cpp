@@ -142,7 +142,8 @@ TEST(PrintPdf, ADrawingIsPrintedAsTextAndVectors)
 {
     const tallyhoop::test::ScratchFolder scratch;
     ui::DrawingPrintout printout;
-    printout.drawing = {1000, 640};
+    printout.drawing.width = 1000;
+    printout.drawing.height = 640;
     printout.drawing.captions.push_back({{100, 100, 200, 20}, "MICHIGAN ST", 12});
     printout.drawing.strokes.push_back({0, 0, 1000, 640});
     const QByteArray pdf = toPdf(printout, letter());

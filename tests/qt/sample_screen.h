@@ -10,6 +10,7 @@
 #include <QTest>
 #include <QVBoxLayout>
 #include <functional>
+#include <gtest/gtest.h>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,7 @@ namespace tallyhoop::qt::test {
 class SampleScreen : public ui::Screen
 {
 public:
-    explicit SampleScreen(std::string name = "frmSample") : Screen{std::move(name), "Sample"}
+    explicit SampleScreen(std::string screenName = "frmSample") : Screen{std::move(screenName), "Sample"}
     {
         txtNotes.multiLine = true;
         mnuFile.children = {&mnuOpen, nullptr, &mnuExit};
@@ -101,13 +102,18 @@ public:
     QTableView* scores;
 };
 
+inline void activate(QWidget& window)
+{
+    window.activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+}
+
 /// A desk with one sample screen, its page shown.
 struct Shown {
     Shown()
     {
         page.show();
-        page.activateWindow();
-        QTest::qWaitForWindowActive(&page);
+        activate(page);
         desk.push();
         screen.log.clear();
     }

@@ -59,6 +59,7 @@ TEST(ScreenHost, ShowsAStackedScreenInTheFrameAfterItsLoad)
     EXPECT_EQ(program.frame.visiblePage(), program.host.page(ScreenKind::Board));
     EXPECT_TRUE(program.page(ScreenKind::Board).isVisible());
     EXPECT_FALSE(program.page(ScreenKind::Board).isWindow());
+    activate(program.frame);
     EXPECT_TRUE(program.page(ScreenKind::Board).name->hasFocus());
 }
 

@@ -28,6 +28,7 @@ Page::Page(ui::Screen& screen, Desk& desk) : m_screen{screen}, m_desk{desk}
         if (!text.empty() && !status->parentWidget()) {
             statusBar()->setSizeGripEnabled(false);
             statusBar()->addWidget(status, 1);
+            statusBar()->show();
         }
         status->setText(toQString(text));
     });

@@ -67,7 +67,10 @@ HelpWindow::HelpWindow(QWidget* parent)
     m_contents->setObjectName(QStringLiteral("helpContents"));
     m_contents->setAccessibleName(QStringLiteral("Contents"));
     m_contents->setHeaderHidden(true);
-    connect(m_contents, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) { goTo(item); });
+    connect(m_contents, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item, QTreeWidgetItem* before) {
+        if (before) // the tree's first look at the focus makes its first entry current: nobody asked for that
+            goTo(item);
+    });
     connect(m_contents, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { goTo(item); });
 
     auto* halves = new QSplitter;
@@ -77,6 +80,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     halves->setSizes({260, 640});
     setCentralWidget(halves);
     buildToolBar();
+    m_text->setFocus();
     resize(900, 680);
 }
 
