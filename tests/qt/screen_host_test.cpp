@@ -210,6 +210,7 @@ TEST(ScreenHost, AMenusShortcutReachesTheVisiblePageOnly)
     Program program;
     program.host.load(ScreenKind::Board);
     program.host.load(ScreenKind::Reports);
+    activate(program.frame);
     QTest::keyClick(program.page(ScreenKind::Reports).name, Qt::Key_O, Qt::ControlModifier);
     EXPECT_EQ(program.screen(ScreenKind::Reports).log.back(), "open");
     EXPECT_EQ(program.screen(ScreenKind::Board).log.back(), "load");

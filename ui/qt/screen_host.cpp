@@ -48,6 +48,7 @@ ScreenHost::~ScreenHost()
         m_loaded.back()->window.reset();
         m_loaded.pop_back();
     }
+    m_desk.clearParked(); // a parked dialog still stands on the frame, which may go next
 }
 
 void ScreenHost::registerScreen(ScreenKind kind, Placement placement, MakeScreen makeScreen, MakeView makeView)
