@@ -62,9 +62,10 @@ QLayout* ReportsView::textReports(frmPoolReports& reports)
 
     auto* const commands = look::row();
     commands->addWidget(add(reports.cmdPrintSelections));
-    commands->addStretch(1);
+    commands->addSpacing(look::kSection);
     commands->addWidget(add(reports.cmdPreview));
     commands->addWidget(add(reports.cmdSavePdf));
+    commands->addStretch(1);
 
     auto* const whole = look::column(look::kSection);
     whole->addLayout(choices);
@@ -101,21 +102,18 @@ QLayout* ReportsView::destinations(frmPoolReports& reports)
 
 QLayout* ReportsView::printouts(frmPoolReports& reports)
 {
-    auto* const board = look::row();
-    board->addWidget(add(reports.cmdPreviewBoard));
-    board->addWidget(add(reports.cmdSaveBoardPdf));
-    board->addStretch(1);
-
-    auto* const create = look::row();
-    create->addWidget(add(reports.cmdSelectedPrintouts));
-    create->addStretch(1);
+    auto* const commands = look::row();
+    commands->addWidget(add(reports.cmdSelectedPrintouts));
+    commands->addSpacing(look::kSection);
+    commands->addWidget(add(reports.cmdPreviewBoard));
+    commands->addWidget(add(reports.cmdSaveBoardPdf));
+    commands->addStretch(1);
 
     auto* const left = look::column();
     for (QRadioButton* const printout : addOptions(reports.optSelected))
         left->addWidget(printout);
-    left->addLayout(create);
     left->addStretch(1);
-    left->addLayout(board);
+    left->addLayout(commands);
 
     QListView* const files = add(reports.filList);
     const QFontMetrics metrics = files->fontMetrics();
