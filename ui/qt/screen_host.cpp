@@ -114,6 +114,7 @@ void ScreenHost::show(Loaded& one)
 {
     Page& page = *one.page;
     ui::Screen& screen = *one.screen;
+    ui::Control* const chosen = screen.focused;
     switch (one.placement) {
     case Placement::Stacked:
         m_frame.addPage(page);
@@ -128,6 +129,9 @@ void ScreenHost::show(Loaded& one)
         runModal(one);
         return;
     }
+    // Under its new parent the page gave the focus to whoever came first.
+    screen.focused = chosen;
+    page.push();
     // Shown now: the screen is told who has the focus.
     m_desk.runInside(screen, {});
 }
