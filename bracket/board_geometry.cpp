@@ -109,8 +109,8 @@ void placeMarkers(const Measures& m, BoardGeometry& board)
     for (std::size_t game = 0; game < games.size(); ++game) {
         ui::Rectangle& place = board.positions[static_cast<std::size_t>(index(games[game]))];
         const double width = kMarkerShare * m.column;
-        board.results[game] = {place.right() - width, place.y, width, place.height};
         place.width -= width;
+        board.results[game] = {place.right(), place.y, width, place.height};
     }
 }
 

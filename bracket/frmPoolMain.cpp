@@ -98,6 +98,23 @@ void frmPoolMain::loadBoard()
     m_history.clear();
     offerHistory();
     describeDocument();
+    sayWhatToDo();
+}
+
+void frmPoolMain::say(const std::string& text)
+{
+    m_said = text;
+    status = text;
+}
+
+void frmPoolMain::sayWhatToDo()
+{
+    if (!isFinalized(m_state.setupLines))
+        say("The field is not finalized yet: see Setup, Setup Pool Options.");
+    else if (m_resultsMode)
+        say("Game results: click the real winners forward and save.");
+    else
+        say("Click the winners forward, then enter initials, name and the final's total points.");
 }
 
 void frmPoolMain::fillFromSetup()

@@ -148,6 +148,8 @@ private:
     void setTeams(const TeamNamesOnBoard& names);
     void describePositions();
     void describeDocument();
+    void say(const std::string& text);
+    void sayWhatToDo();
     bool resultsExist() const;
 
     // Modes.
@@ -196,6 +198,7 @@ private:
     Screens& m_screens;
     Opening m_opening;
     BoardHistory m_history;
+    std::string m_said; ///< what the status line says while the pointer is elsewhere
 
     int m_dragSource = 0;
     std::string m_draggedTeam;

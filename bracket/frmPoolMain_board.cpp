@@ -63,7 +63,7 @@ void frmPoolMain::PressBackground()
 void frmPoolMain::explainPosition(int position)
 {
     if (position < 0) {
-        status.clear();
+        status = m_said;
         return;
     }
     const std::string& team = lblRegion[static_cast<std::size_t>(position)].text;

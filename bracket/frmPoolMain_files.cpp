@@ -58,7 +58,6 @@ void frmPoolMain::NewSelection()
     m_history = std::move(history);
     m_history.remember(before);
     offerHistory();
-    status = "A new selection: click the winners forward, then enter initials, name and the final's total points.";
 }
 
 void frmPoolMain::OpenSelection()
@@ -89,7 +88,7 @@ void frmPoolMain::showSelection(const std::filesystem::path& file)
     m_history.clear();
     offerHistory();
     describeDocument();
-    status = "Opened " + shown(file.filename()) + ".";
+    say("Opened " + shown(file.filename()) + ".");
 }
 
 void frmPoolMain::SaveSelection()
@@ -148,7 +147,7 @@ void frmPoolMain::saveResults()
     if (!file || !SaveSelections(*file, m_platform.dialogs, m_state.selectionLines))
         return;
     unsaved = false;
-    status = "The results are saved.";
+    say("The results are saved.");
 }
 
 void frmPoolMain::saveUnder(const std::filesystem::path& chosen)
@@ -207,9 +206,9 @@ bool frmPoolMain::writeSelection(const std::filesystem::path& file, SaveKind kin
     m_state.handOver = PlayerHandOver{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};
     unsaved = false;
     describeDocument();
-    status = "Saved " + shown(file.filename()) + ".";
-    if (!isSameFile(file, m_folder.folder() / file.filename()))
-        status += " Only files in the program's folder are scored; this one is elsewhere.";
+    const bool scored = isSameFile(file, m_folder.folder() / file.filename());
+    say("Saved " + shown(file.filename()) +
+        (scored ? "." : ". Only files in the program's folder are scored; this one is elsewhere."));
     return true;
 }
 

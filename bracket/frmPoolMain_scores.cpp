@@ -68,7 +68,7 @@ void frmPoolMain::enterResultsMode()
     m_history.clear();
     offerHistory();
     describeDocument();
-    status = "Game results: click the real winners forward and save.";
+    sayWhatToDo();
 }
 
 void frmPoolMain::lockFields(bool locked)
@@ -117,7 +117,7 @@ void frmPoolMain::showVerdict(const std::string& score)
     cmdDefaultColors.isDefault = true;
     lockFields(true);
     mnuSaveSelection.enabled = false;
-    status = "Green = right, red X wrong; picks that are still open stay blue.";
+    say("Green = right, red X wrong; picks that are still open stay blue.");
 }
 
 void frmPoolMain::DefaultColors()
@@ -127,7 +127,7 @@ void frmPoolMain::DefaultColors()
     mnuScoreSelections.enabled = true;
     mnuSaveSelection.enabled = true;
     lockFields(false);
-    status.clear();
+    sayWhatToDo();
 }
 
 void frmPoolMain::hideDefaultColors()
