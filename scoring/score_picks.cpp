@@ -15,33 +15,64 @@ namespace {
 constexpr std::size_t kFirst = selection_line::kFirstTeam;
 constexpr std::size_t kLast = selection_line::kChampion;
 
-/// First pass, from the first slot on: a team's loss is always met at a lower slot than any later pick of it. Written
-/// without branches, which right and wrong picks would make unpredictable.
-void scoreDecidedGames(const NumberedPair& pair, const Payoffs& payoffs, NumberedScore& score)
+/// First pass, from the first slot on: a team's loss is always met at a lower slot than any later pick of it.
+class DecidedGames
 {
-    const auto& slots = bracketSlots();
-    const std::array<std::int32_t, kRounds + 1> earned{0,          payoffs[0], payoffs[1], payoffs[2],
-                                                       payoffs[3], payoffs[4], payoffs[5]};
-    std::array<bool, 256> isOut{}; // by team number
-    isOut[kNoTeam] = true;         // an empty pick cannot win either
-    int good = 0;
-    int bad = 0;
-    for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
-        const TeamNumber pick = pair.picks[slot];
-        const TeamNumber result = pair.results[slot];
+public:
+    DecidedGames(const NumberedPair& pair, const Payoffs& payoffs, NumberedScore& score) : m_pair{pair}, m_score{score}
+    {
+        std::ranges::copy(payoffs, m_payoffOfRound.begin() + 1);
+        m_isOut[kNoTeam] = true; // an empty pick cannot win either
+    }
+
+    void scoreAll()
+    {
+        for (std::size_t region = 0; region < kRegions; ++region) {
+            const std::size_t firstRow = kFirst + region * kRegionBlock;
+            scoreRows(firstRow);
+            for (std::size_t slot = firstRow + kRowsPerRegion; slot < firstRow + kRegionBlock; ++slot)
+                scoreSlot(slot);
+        }
+        for (std::size_t slot = kFirst + kSemifinalA; slot <= kLast; ++slot)
+            scoreSlot(slot);
+    }
+
+private:
+    /// The rows of the starting field: nearly always the same in both brackets, and then done in one go.
+    void scoreRows(std::size_t firstRow)
+    {
+        const auto picks = m_pair.picks.begin() + firstRow;
+        const auto results = m_pair.results.begin() + firstRow;
+        const bool isComplete = std::find(results, results + kRowsPerRegion, kNoTeam) == results + kRowsPerRegion;
+        if (isComplete && std::equal(picks, picks + kRowsPerRegion, results))
+            std::fill_n(m_score.status.begin() + firstRow, kRowsPerRegion, Verdict::Good);
+        else
+            for (std::size_t slot = firstRow; slot < firstRow + kRowsPerRegion; ++slot)
+                scoreSlot(slot);
+    }
+
+    /// Without branches, which right and wrong picks would make unpredictable.
+    void scoreSlot(std::size_t slot)
+    {
+        const TeamNumber pick = m_pair.picks[slot];
+        const TeamNumber result = m_pair.results[slot];
+        const std::size_t round = m_slots[slot].round;
         const bool isDecided = result != kNoTeam;
         const bool isRight = isDecided & (pick == result);
-        isOut[pick] |= isDecided & !isRight;
-        const bool isBad = !isRight & isOut[pick];
-        const std::size_t round = slots[slot].round;
-        score.points += isRight ? earned[round] : 0;
-        good += isRight & (round != 0);
-        bad += isBad;
-        score.status[slot] = isRight ? Verdict::Good : isBad ? Verdict::Bad : Verdict::Open;
+        m_isOut[pick] |= isDecided & !isRight;
+        const bool isBad = !isRight & m_isOut[pick];
+        m_score.points += isRight * m_payoffOfRound[round];
+        m_score.goodPicks = static_cast<std::int16_t>(m_score.goodPicks + (isRight & (round != 0)));
+        m_score.badPicks = static_cast<std::int16_t>(m_score.badPicks + isBad);
+        m_score.status[slot] = isRight ? Verdict::Good : isBad ? Verdict::Bad : Verdict::Open;
     }
-    score.goodPicks = static_cast<std::int16_t>(good);
-    score.badPicks = static_cast<std::int16_t>(bad);
-}
+
+    const NumberedPair& m_pair;
+    NumberedScore& m_score;
+    const std::array<BracketSlot, 128>& m_slots = bracketSlots();
+    std::array<std::int32_t, kRounds + 1> m_payoffOfRound{}; ///< nothing for the rows of the starting field
+    std::array<bool, 256> m_isOut{};                         ///< by team number
+};
 
 bool isAlive(Verdict verdict) { return verdict == Verdict::Good || verdict == Verdict::Possible; }
 
@@ -50,9 +81,9 @@ void addPossiblePoints(const Payoffs& payoffs, NumberedScore& score)
 {
     const auto& slots = bracketSlots();
     for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
-        const auto& [round, feeders] = slots[slot];
-        if (round == 0 || score.status[slot] != Verdict::Open)
+        if (score.status[slot] != Verdict::Open || slots[slot].round == 0)
             continue;
+        const auto& [round, feeders] = slots[slot];
         if (round > 1 && !isAlive(score.status[feeders[0]]) && !isAlive(score.status[feeders[1]]))
             continue;
         score.possible += payoffs[static_cast<std::size_t>(round - 1)];
@@ -97,7 +128,7 @@ const std::string& runnerUp(const SelectionLines& picks)
 NumberedScore scoreNumbered(const NumberedPair& pair, const Payoffs& payoffs)
 {
     NumberedScore score;
-    scoreDecidedGames(pair, payoffs, score);
+    DecidedGames{pair, payoffs, score}.scoreAll();
     addPossiblePoints(payoffs, score);
     return score;
 }
