@@ -1,0 +1,120 @@
+// bench/scoring_bench.cpp - scoring from memory, and the score display with 1,000 and 10,000 players.
+#include "demo/sample_pool.h"
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
+#include "model/replace_file.h"
+#include "model/selection_file.h"
+#include "scoring/frmPoolMisc.h"
+#include "scoring/score_picks.h"
+
+#include <benchmark/benchmark.h>
+#include <fmt/format.h>
+#include <random>
+
+namespace tallyhoop {
+namespace {
+
+constexpr Payoffs kPayoffs{1, 2, 4, 8, 12, 16};
+
+/// Brackets over the sample field, each game's winner left to chance.
+std::vector<SelectionLines> randomBrackets(std::size_t count)
+{
+    std::mt19937 random{2000};
+    std::vector<SelectionLines> brackets(count, demo::sampleResults());
+    for (SelectionLines& lines : brackets)
+        for (std::size_t slot = 1; slot <= 127; ++slot)
+            if (bracketSlots()[slot].round != 0)
+                lines[slot] = lines[bracketSlots()[slot].feeders[random() % 2]];
+    return brackets;
+}
+
+/// The inner scoring: brackets numbered beforehand.
+void ScoreNumbered(benchmark::State& state)
+{
+    std::vector<NumberedPair> pairs;
+    for (const SelectionLines& picks : randomBrackets(10'000))
+        pairs.push_back(numbered(picks, demo::sampleResults()));
+    std::size_t next = 0;
+    for (auto step : state) {
+        benchmark::DoNotOptimize(scoreNumbered(pairs[next], kPayoffs));
+        next = next + 1 == pairs.size() ? 0 : next + 1;
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(ScoreNumbered);
+
+/// Names as text, verdict and eliminated teams included.
+void ScorePicks(benchmark::State& state)
+{
+    const std::vector<SelectionLines> brackets = randomBrackets(10'000);
+    const SelectionLines results = demo::sampleResults();
+    std::size_t next = 0;
+    for (auto step : state) {
+        benchmark::DoNotOptimize(scorePicks(brackets[next], results, kPayoffs));
+        next = next + 1 == brackets.size() ? 0 : next + 1;
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(ScorePicks);
+
+/// A score display on a folder with this many selections.
+class ScoreDisplay
+{
+public:
+    explicit ScoreDisplay(std::int64_t players)
+    {
+        board.onBoard = demo::sampleResults();
+        const std::vector<SelectionLines> brackets = randomBrackets(static_cast<std::size_t>(players));
+        for (std::size_t i = 0; i < brackets.size(); ++i)
+            scratch.put(fmt::format("Player {:05}_PX.THC", i), selectionFile(brackets[i]));
+        screen.load();
+    }
+
+    void dragHeading(std::size_t from, std::size_t to)
+    {
+        screen.msgScoreDisplay.columnPressed(from);
+        screen.msgScoreDisplay.columnReleased(to);
+    }
+
+    test::ScratchFolder scratch;
+    DataFolder folder{scratch.folder()};
+    test::FakePlatform platform;
+    modTallyhoop shared;
+    test::FakeScreens screens;
+    test::FakeBoard board{shared};
+    frmPoolMisc screen{folder, platform.services, shared, screens, board};
+};
+
+/// The reference for Calculate: the same files, read and thrown away.
+void ReadTheFiles(benchmark::State& state)
+{
+    const ScoreDisplay display{state.range(0)};
+    for (auto step : state)
+        for (const FolderFile& file : display.folder.files(".THC"))
+            benchmark::DoNotOptimize(readFile(file.path));
+}
+BENCHMARK(ReadTheFiles)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
+
+void Calculate(benchmark::State& state)
+{
+    ScoreDisplay display{state.range(0)};
+    for (auto step : state)
+        display.screen.cmdOk.click();
+}
+BENCHMARK(Calculate)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
+
+/// One heading to the front and back: two sorts, by score and by file name.
+void DragAHeading(benchmark::State& state)
+{
+    ScoreDisplay display{state.range(0)};
+    display.screen.cmdOk.click();
+    for (auto step : state) {
+        display.dragHeading(2, 0);
+        display.dragHeading(0, 2);
+    }
+}
+BENCHMARK(DragAHeading)->Arg(1'000)->Arg(10'000)->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace tallyhoop
