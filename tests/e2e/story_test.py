@@ -201,6 +201,14 @@ class AnOwnPool(Story):
         path = dict.fromkeys([47, 55, 59, 61, 124, 126], "Michigan St.")
         expected = selection({17: "Wisconsin", 24: "Wisconsin", **path}, "JS", "Smith", "165")
         self.assertEqual(lines(self.program.read("Smith_js.THC")), expected)
+        # The player list comes by itself, with name and file in place.
+        self.shows("txtName", "Smith,js")
+        self.shows("txtFileName", "SMITH_JS.THC")
+        self.program.type("txtEmail", "smith@example.org")
+        self.program.click("cmdAdd")
+        self.program.wait(lambda: self.program.visible("lblTitle"), "the board coming back")
+        record = f'"{"Smith,js":25}","{"SMITH_JS.THC":33}","{"smith@example.org":43}","{"":14}"'
+        self.assertEqual(lines(self.program.read("PLAYERNAMES.CSV"))[1:], [record])
         self.assertEqual(self.program.errors(), "")
 
 
