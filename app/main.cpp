@@ -2,6 +2,7 @@
 
 #include "app/start_up.h"
 #include "app/wiring.h"
+#include "model/help_display.h"
 #include "ui/qt/desk.h"
 #include "ui/qt/look.h"
 #include "ui/qt/main_frame.h"
@@ -52,6 +53,7 @@ int main(int argc, char** argv)
 
     qt::ScreenHost host{desk, frame};
     registerScreens(host, folder, platform, state);
+    desk.helpWanted = [&](const ui::Screen& screen) { showHelp(folder, platform, screen.helpTopic); };
     frame.closeWanted = [&] { host.endProgram(); };
     frame.open();
     QTimer::singleShot(0, &frame, [&] { startUp(folder, platform, host); });

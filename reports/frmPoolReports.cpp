@@ -40,6 +40,7 @@ frmPoolReports::frmPoolReports(const DataFolder& folder, const ui::Platform& pla
       m_board{board},
       m_maker{folder, platform, board}
 {
+    helpTopic = "reports";
     for (std::size_t i = 0; i < kReports; ++i)
         chkOptions[i].caption = reportTable()[i].caption;
     letThePersonChoose(optDestination, kDestinations);

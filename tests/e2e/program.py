@@ -29,6 +29,14 @@ def centre(rect):
     return x + width // 2, y + height // 2
 
 
+def where_to_press(widget):
+    """The middle of a widget; of a check box or option button its mark, as the widget is wider than what reacts."""
+    x, y, _, height = widget["rect"]
+    if widget["class"] in ("QCheckBox", "QRadioButton"):
+        return x + 9, y + height // 2
+    return centre(widget["rect"])
+
+
 class Failed(AssertionError):
     """A step of the story could not be taken."""
 
@@ -240,14 +248,14 @@ class Program:
         self.release(point, button)
 
     def click(self, name):
-        self.click_at(centre(self._reachable(name)["rect"]))
+        self.click_at(where_to_press(self._reachable(name)))
 
     def right_click(self, name):
-        self.click_at(centre(self._reachable(name)["rect"]), button=3)
+        self.click_at(where_to_press(self._reachable(name)), button=3)
 
     def drag(self, name, target):
         """Presses on one widget, moves in steps, lets go on another."""
-        self.drag_between(centre(self._reachable(name)["rect"]), centre(self._reachable(target)["rect"]))
+        self.drag_between(where_to_press(self._reachable(name)), where_to_press(self._reachable(target)))
 
     def drag_between(self, start, end):
         self.press(start)

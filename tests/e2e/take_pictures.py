@@ -4,7 +4,7 @@
 import pathlib
 import subprocess
 
-from program import Program
+from program import Program, centre
 
 PICTURES = pathlib.Path(__file__).parents[2] / "docs/pictures"
 PLAYER = "Demo Prophet_DP.THC"
@@ -29,6 +29,14 @@ def open_player(program):
     shows(program, "txtPlayerName", "Demo Prophet")
 
 
+def sort_by_score(program):
+    """Drags the heading to the front; the file names then stand in the second column."""
+    headings = program.table("msgScoreDisplay")["headings"]
+    first = headings[0]["rect"]
+    program.drag_between(centre(headings[2]["rect"]), (first[0] + 4, centre(first)[1]))
+    program.wait(lambda: program.rows("msgScoreDisplay")[0][0] == "80", "the best first")
+
+
 def main():
     PICTURES.mkdir(parents=True, exist_ok=True)
     with Program() as program:
@@ -47,6 +55,22 @@ def main():
         program.wait(lambda: program.text("txtPointScore"), "the score")
         program.move((1360, 764))
         take(program, "board-scored")
+        program.menu("mnuOptions", "mnuGameResults")
+        shows(program, "txtPlayerName", "FinalResults")
+        program.menu("mnuOptions", "mnuScoreSelections")
+        program.click("cmdOk")
+        program.wait(lambda: program.rows("msgScoreDisplay"), "the scores")
+        sort_by_score(program)
+        program.click_at(centre(program.table("msgScoreDisplay")["rects"][0][1]))
+        program.wait(lambda: program.colour("lblRegion_16") == "#00ff00", "the marks")
+        take(program, "scores")
+        program.click("cmdExit")
+        program.menu("mnuReports")
+        for index in range(7):
+            program.click(f"chkOptions_{index}")
+        program.click("optDestination_1")
+        program.wait(lambda: program.widget("optDestination_1")["checked"], "the destination")
+        take(program, "reports")
 
 
 if __name__ == "__main__":

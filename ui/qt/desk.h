@@ -77,6 +77,9 @@ public:
     /// Called after every push, such as for the frame's title.
     std::function<void()> pushed;
 
+    /// F1 on a screen that has no help menu; the window of a modal dialog is no place to ask from.
+    std::function<void(const ui::Screen&)> helpWanted;
+
 private:
     struct Parked {
         std::unique_ptr<QWidget> page;

@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextEdit>
 
@@ -143,6 +144,11 @@ QJsonObject describeWidget(QWidget* widget)
     }
     if (const auto* push = qobject_cast<const QPushButton*>(widget)) {
         told.insert(QStringLiteral("default"), push->isDefault());
+    }
+    if (const auto* pages = qobject_cast<const QTextEdit*>(widget)) {
+        const QRect view = pages->viewport()->rect();
+        const QTextCursor top = pages->cursorForPosition(QPoint(view.width() / 4, pages->fontMetrics().height()));
+        told.insert(QStringLiteral("topLine"), top.block().text());
     }
     if (const auto* edit = qobject_cast<const QLineEdit*>(widget)) {
         told.insert(QStringLiteral("readOnly"), edit->isReadOnly());
