@@ -1,0 +1,139 @@
+// tests/qt/views/score_display_view_test.cpp - do the mouse and the keys on the scores reach the model, and come back?
+#include "ui/qt/views/score_display_view.h"
+
+#include "demo/sample_pool.h"
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
+
+#include <QHeaderView>
+#include <QTableView>
+#include <QTest>
+#include <gmock/gmock.h>
+
+namespace tallyhoop::qt {
+namespace {
+
+using testing::ElementsAre;
+
+class ScoreDisplayViewTest : public testing::Test
+{
+protected:
+    ScoreDisplayViewTest()
+    {
+        EXPECT_TRUE(demo::installSamplePool(folder));
+        board.onBoard = demo::sampleResults();
+        scores.load();
+        view.show();
+        view.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
+        desk.push();
+    }
+
+    QTableView& table() const { return *view.findChild<QTableView*>(QStringLiteral("msgScoreDisplay")); }
+
+    void press(const char* button)
+    {
+        QTest::mouseClick(view.findChild<QPushButton*>(QString::fromLatin1(button)), Qt::LeftButton);
+    }
+
+    QPoint headingAt(int column) const
+    {
+        const QHeaderView& header = *table().horizontalHeader();
+        return {header.sectionViewportPosition(column) + header.sectionSize(column) / 2, header.height() / 2};
+    }
+
+    void dragHeading(int from, int to)
+    {
+        QWidget* header = table().horizontalHeader()->viewport();
+        QTest::mousePress(header, Qt::LeftButton, {}, headingAt(from));
+        QTest::mouseMove(header, headingAt(to));
+        QTest::mouseRelease(header, Qt::LeftButton, {}, headingAt(to));
+    }
+
+    void pressCell(int row, int column)
+    {
+        const QModelIndex cell = table().model()->index(row, column);
+        QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, table().visualRect(cell).center());
+    }
+
+    /// A column's texts as shown, from the top.
+    std::vector<std::string> shown(int column) const
+    {
+        std::vector<std::string> texts;
+        for (int row = 0; row < table().model()->rowCount(); ++row)
+            texts.push_back(table().model()->index(row, column).data().toString().toStdString());
+        return texts;
+    }
+
+    std::string heading(int column) const
+    {
+        return table().model()->headerData(column, Qt::Horizontal).toString().toStdString();
+    }
+
+    test::ScratchFolder scratch;
+    DataFolder folder{scratch.folder()};
+    test::FakePlatform platform;
+    modTallyhoop state;
+    test::FakeScreens screens;
+    test::FakeBoard board{state};
+    frmPoolMisc scores{folder, platform.services, state, screens, board};
+    Desk desk;
+    ScoreDisplayView view{scores, desk};
+};
+
+TEST_F(ScoreDisplayViewTest, ShowsEveryControl)
+{
+    EXPECT_EQ(view.controlsWithoutWidget(), std::vector<std::string>{});
+    EXPECT_FALSE(view.findChild<QWidget*>(QStringLiteral("filList"))->isVisible());
+    EXPECT_EQ(view.windowTitle(), QStringLiteral("Display Scores (Total, Possible)"));
+}
+
+TEST_F(ScoreDisplayViewTest, CalculatesAtThePressOfTheButton)
+{
+    EXPECT_EQ(table().model()->rowCount(), 0);
+    press("cmdOk");
+    EXPECT_THAT(shown(0), ElementsAre("Demo Favorite_DF.THC", "Demo Halfway_DH.THC", "Demo Longshot_DL.THC",
+                                      "Demo Prophet_DP.THC"));
+    EXPECT_THAT(shown(2), ElementsAre("59", "55", "31", "80"));
+    EXPECT_THAT(shown(3), ElementsAre("71", "67", "31", "120"));
+}
+
+TEST_F(ScoreDisplayViewTest, SortsByAHeadingThatIsDraggedToTheFront)
+{
+    press("cmdOk");
+    dragHeading(2, 0);
+    EXPECT_EQ(heading(0), "Score");
+    EXPECT_EQ(heading(1), "File Name");
+    EXPECT_THAT(shown(0), ElementsAre("80", "59", "55", "31"));
+    EXPECT_EQ(scores.msgScoreDisplay.columns[0].heading, "Score");
+}
+
+TEST_F(ScoreDisplayViewTest, MarksTheBoardWhenAFileNameIsPressedAndOnlyThen)
+{
+    press("cmdOk");
+    board.calls.clear();
+    pressCell(0, 2);
+    EXPECT_TRUE(board.calls.empty());
+    pressCell(0, 0);
+    EXPECT_THAT(board.calls, ElementsAre("ClearMarks", "captureBoard", "MarkScores"));
+}
+
+TEST_F(ScoreDisplayViewTest, MarksTheBoardWithTheKeyboardToo)
+{
+    press("cmdOk");
+    table().setFocus();
+    table().setCurrentIndex(table().model()->index(1, 0));
+    board.calls.clear();
+    QTest::keyClick(&table(), Qt::Key_Space);
+    EXPECT_THAT(board.calls, ElementsAre("ClearMarks", "captureBoard", "MarkScores"));
+}
+
+TEST_F(ScoreDisplayViewTest, LeavesOnEscape)
+{
+    QTest::keyClick(&view, Qt::Key_Escape);
+    EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::ScoreDisplay));
+}
+
+} // namespace
+} // namespace tallyhoop::qt
