@@ -1,0 +1,237 @@
+// The setup screen in its window.
+#include "ui/qt/views/setup_view.h"
+
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace tallyhoop::qt {
+namespace {
+
+using test::crlf;
+
+class SetupViewTest : public ::testing::Test
+{
+protected:
+    SetupViewTest()
+    {
+        files.put("NCAALIST.THS",
+                  crlf({"*START*", "Akron", "Duke", "Duquesne", "Iowa", "Iowa St.", "Kansas", "*END*"}));
+        view = std::make_unique<SetupView>(setup, desk);
+        desk.runInside(setup, [this] { setup.load(); });
+        view->resize(1366, 720);
+        view->show();
+        QApplication::setActiveWindow(view.get());
+        QApplication::processEvents();
+    }
+
+    template <class Widget>
+    Widget& widget(const ui::Control& control)
+    {
+        return *qobject_cast<Widget*>(view->widgetOf(control));
+    }
+
+    QLineEdit& team(std::size_t index) { return widget<QLineEdit>(setup.txtRegion[index]); }
+    QListView& list() { return widget<QListView>(setup.lstTeamNames); }
+
+    /// Presses a key where the focus is, as a keyboard does.
+    void press(int key) { QTest::keyClick(view->focusWidget(), static_cast<Qt::Key>(key)); }
+    void type(const QString& text) { QTest::keyClicks(view->focusWidget(), text); }
+
+    void pressRow(int row)
+    {
+        const QRect place = list().visualRect(list().model()->index(row, 0));
+        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, place.center());
+    }
+
+    test::ScratchFolder files;
+    DataFolder folder = files.folder();
+    test::FakePlatform computer;
+    test::FakeScreens screens;
+    modTallyhoop state;
+    frmPoolEntry setup{folder, computer.services, state, screens};
+    Desk desk;
+    std::unique_ptr<SetupView> view;
+};
+
+TEST_F(SetupViewTest, ShowsEveryControl)
+{
+    EXPECT_EQ(view->controlsWithoutWidget(), std::vector<std::string>{});
+    EXPECT_EQ(team(0).text(), "TEAM1");
+    EXPECT_EQ(team(63).text(), "TEAM64");
+    EXPECT_EQ(widget<QLabel>(setup.lblSeed[17]).text(), "16");
+    EXPECT_EQ(widget<QLineEdit>(setup.TxtInfo[0]).text(), "2001 NCAA Tournament");
+    EXPECT_TRUE(widget<QLineEdit>(setup.txtInfo6[3]).toolTip().contains("Points for each win in Regional Finals"));
+}
+
+TEST_F(SetupViewTest, FitsASmallScreen)
+{
+    // 768 lines less the title bar and a panel of the desktop.
+    EXPECT_LE(view->minimumSizeHint().width(), 1366);
+    EXPECT_LE(view->minimumSizeHint().height(), 700);
+}
+
+TEST_F(SetupViewTest, ClipsAndCoversNothing)
+{
+    std::vector<std::pair<QWidget*, QRect>> placed;
+    for (const ui::Control* control : setup.controls()) {
+        QWidget* shown = view->widgetOf(*control);
+        if (!shown || !shown->isVisible())
+            continue;
+        const QRect place{shown->mapTo(view.get(), QPoint{0, 0}), shown->size()};
+        EXPECT_TRUE(view->rect().contains(place)) << control->name;
+        EXPECT_GE(shown->height(), std::min(shown->sizeHint().height(), shown->maximumHeight())) << control->name;
+        for (const auto& [other, where] : placed)
+            EXPECT_FALSE(where.intersects(place)) << control->name << " and " << other->objectName().toStdString();
+        placed.emplace_back(shown, place);
+    }
+    EXPECT_GT(placed.size(), 150U);
+}
+
+TEST_F(SetupViewTest, ArrangesTheRegionsAsTheBoardDoes)
+{
+    const auto corner = [this](std::size_t box) { return team(box).mapTo(view.get(), QPoint{0, 0}); };
+    EXPECT_LT(corner(0).y(), corner(16).y()); // 1 above 2
+    EXPECT_EQ(corner(0).x(), corner(16).x());
+    EXPECT_LT(corner(0).x(), corner(32).x()); // 3 to the right of 1
+    EXPECT_EQ(corner(0).y(), corner(32).y());
+    EXPECT_EQ(corner(32).x(), corner(48).x()); // 4 below 3
+    EXPECT_EQ(corner(16).y(), corner(48).y());
+}
+
+TEST_F(SetupViewTest, TabGoesThroughTheBoxesInTheirOrder)
+{
+    ASSERT_EQ(view->focusWidget(), &team(0));
+    for (int tab = 1; tab <= 83; ++tab) {
+        press(Qt::Key_Tab);
+        EXPECT_EQ(view->focusWidget(), view->widgetOf(*setup.controlAtTab(tab))) << tab;
+    }
+}
+
+TEST_F(SetupViewTest, TypingAheadCompletesTheBoxAndSelectsTheRest)
+{
+    type("du");
+    EXPECT_EQ(team(0).text(), "Duke");
+    EXPECT_EQ(team(0).selectedText(), "ke");
+    EXPECT_EQ(setup.txtRegion[0].text, "Duke");
+    EXPECT_EQ(list().currentIndex().row(), 1);
+    type("x");
+    EXPECT_EQ(team(0).text(), "Duke");
+    type("q");
+    EXPECT_EQ(team(0).text(), "Duquesne");
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(team(0).text(), "Duke");
+    press(Qt::Key_Delete);
+    EXPECT_EQ(team(0).text(), "");
+}
+
+TEST_F(SetupViewTest, EnterGoesToTheNextBoxWhereTypingReplacesTheText)
+{
+    type("iowa");
+    press(Qt::Key_Return);
+    EXPECT_EQ(view->focusWidget(), &team(1));
+    type("k");
+    press(Qt::Key_Enter);
+    EXPECT_EQ(team(0).text(), "Iowa");
+    EXPECT_EQ(team(1).text(), "Kansas");
+    EXPECT_EQ(view->focusWidget(), &team(2));
+}
+
+TEST_F(SetupViewTest, AWholeFieldIsEnteredWithTheKeyboardAlone)
+{
+    const QStringList names{"Akron", "Duke", "Duquesne", "Iowa", "Iowa St.", "Kansas"};
+    for (int i = 0; i < 64; ++i) {
+        type(names[i % 6].toLower());
+        press(Qt::Key_Return);
+    }
+    for (int i = 0; i < 64; ++i)
+        EXPECT_EQ(team(static_cast<std::size_t>(i)).text(), names[i % 6]) << i;
+    EXPECT_EQ(view->focusWidget(), &team(0));
+}
+
+TEST_F(SetupViewTest, AnArrowKeyGoesToTheListAndEnterComesBackWithTheName)
+{
+    press(Qt::Key_Down);
+    EXPECT_EQ(view->focusWidget(), &list());
+    EXPECT_EQ(team(0).text(), "");
+    EXPECT_EQ(team(0).palette().color(QPalette::Base), (QColor{0x80, 0xFF, 0x80}));
+    EXPECT_EQ(list().currentIndex().row(), 0);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    EXPECT_EQ(team(0).text(), "Duke");
+    EXPECT_EQ(view->focusWidget(), &team(1));
+    EXPECT_NE(team(0).palette().color(QPalette::Base), (QColor{0x80, 0xFF, 0x80}));
+    EXPECT_FALSE(list().selectionModel()->hasSelection());
+}
+
+TEST_F(SetupViewTest, AMousePressOnTheListMarksTheBoxThatEnterFills)
+{
+    press(Qt::Key_Tab);
+    pressRow(5);
+    EXPECT_EQ(view->focusWidget(), &list());
+    EXPECT_EQ(team(1).palette().color(QPalette::Base), (QColor{0x80, 0xFF, 0x80}));
+    press(Qt::Key_Return);
+    EXPECT_EQ(team(1).text(), "Kansas");
+    EXPECT_EQ(view->focusWidget(), &team(2));
+}
+
+TEST_F(SetupViewTest, WhatACutLeavesBehindIsDropped)
+{
+    type("iowa ");
+    ASSERT_EQ(team(0).text(), "Iowa St.");
+    QTest::keyClick(&team(0), Qt::Key_X, Qt::ControlModifier); // cuts "St."
+    EXPECT_EQ(team(0).text(), "");
+    EXPECT_EQ(setup.txtRegion[0].text, "");
+}
+
+TEST_F(SetupViewTest, APastedBlockFillsTheFollowingBoxes)
+{
+    QApplication::clipboard()->setText("kansas\nNowhere\nDUKE\n");
+    QTest::keyClick(&team(0), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(team(0).text(), "Kansas");
+    EXPECT_EQ(team(1).text(), "TEAM2");
+    EXPECT_EQ(team(2).text(), "Duke");
+    EXPECT_EQ(computer.dialogs.captionsShown(), std::vector<std::string>{"Team Names Pasted"});
+}
+
+TEST_F(SetupViewTest, OverrideModeTakesAnyText)
+{
+    widget<QPushButton>(setup.cmdOverride).click();
+    EXPECT_FALSE(list().isEnabled());
+    EXPECT_EQ(view->focusWidget(), &team(0));
+    team(0).selectAll();
+    type("Utopia");
+    press(Qt::Key_Return);
+    EXPECT_EQ(setup.txtRegion[0].text, "Utopia");
+    EXPECT_EQ(state.teamNames.newNames, std::vector<std::string>{"Utopia"});
+    EXPECT_EQ(view->focusWidget(), &team(1));
+}
+
+TEST_F(SetupViewTest, CommentsHoldSeveralLines)
+{
+    auto& comment = widget<QPlainTextEdit>(setup.txtComment1);
+    comment.setFocus();
+    type("one");
+    press(Qt::Key_Return);
+    type("two");
+    EXPECT_EQ(setup.txtComment1.text, "one\r\ntwo");
+    EXPECT_EQ(setup.status, "There are changes that are not saved yet.");
+}
+
+TEST_F(SetupViewTest, EscapeDoesNotLeaveTheScreen)
+{
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(screens.unloads.empty());
+}
+
+} // namespace
+} // namespace tallyhoop::qt
