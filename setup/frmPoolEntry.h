@@ -45,17 +45,19 @@ public:
     ui::ControlArray<ui::TextBox, kRounds> txtInfo6{this, "txtInfo6"}; ///< payoffs of rounds 1..6
     ui::Command cmdFinalize{this, "cmdFinalize", "Finalize Tournament", [this] { finalize(); }};
 
-    ui::MenuEntry mnuFile{this, "mnuFile", "File"};
-    ui::MenuEntry mnuSaveStartingField{this, "mnuSaveStartingField", "Save", [this] { saveStartingField(); }, "Ctrl+S"};
-    ui::MenuEntry mnuEnd{this, "mnuEnd", "Exit", [this] { leave(); }};
-    ui::MenuEntry mnuOptions{this, "mnuOptions", "Options"};
-    ui::MenuEntry mnuSeating{this, "mnuSeating", "Seeding Entry", [this] { enterSeeds(); }};
-    ui::MenuEntry mnuDemo{this, "mnuDemo", "DEMO Mode"};
-    ui::MenuEntry mnuDemoSet{this, "mnuDemoSet", "DEMO-Start", [this] { startDemoMode(); }};
-    ui::MenuEntry mnuDemoReset{this, "mnuDemoReset", "DEMO-Reset", [this] { resetDemoMode(); }};
-    ui::MenuEntry mnuHelp{this, "mnuHelp", "Help"};
-    ui::MenuEntry mnuHelpDisplay{this, "mnuHelpDisplay", "Help Display", [this] { showHelpText(); }, "F1"};
-    ui::MenuEntry mnuHelpAbout{this, "mnuHelpAbout", "About Tallyhoop", [this] { m_platform.dialogs.about(); }};
+    // Alt+D is the Delete button, so the demo menu answers to another letter than on the board.
+    ui::MenuEntry mnuFile{this, "mnuFile", "&File"};
+    ui::MenuEntry mnuSaveStartingField{this, "mnuSaveStartingField", "&Save", [this] { saveStartingField(); },
+                                       "Ctrl+S"};
+    ui::MenuEntry mnuEnd{this, "mnuEnd", "E&xit", [this] { leave(); }};
+    ui::MenuEntry mnuOptions{this, "mnuOptions", "&Options"};
+    ui::MenuEntry mnuSeating{this, "mnuSeating", "&Seeding Entry", [this] { enterSeeds(); }};
+    ui::MenuEntry mnuDemo{this, "mnuDemo", "DE&MO Mode"};
+    ui::MenuEntry mnuDemoSet{this, "mnuDemoSet", "DEMO-&Start", [this] { startDemoMode(); }};
+    ui::MenuEntry mnuDemoReset{this, "mnuDemoReset", "DEMO-&Reset", [this] { resetDemoMode(); }};
+    ui::MenuEntry mnuHelp{this, "mnuHelp", "&Help"};
+    ui::MenuEntry mnuHelpDisplay{this, "mnuHelpDisplay", "&Help Display", [this] { showHelpText(); }, "F1"};
+    ui::MenuEntry mnuHelpAbout{this, "mnuHelpAbout", "&About Tallyhoop", [this] { m_platform.dialogs.about(); }};
 
     bool OverrideMode = false;      ///< team names are typed freely instead of picked from the list
     std::int16_t LastTeamBox = 0;   ///< tab position (= index) of the team box that had the focus last
