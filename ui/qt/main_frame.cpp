@@ -12,6 +12,7 @@ namespace tallyhoop::qt {
 
 namespace {
 
+constexpr const char* kProgram = "Tallyhoop";
 constexpr QSize kSmallest{1024, 640}; ///< leaves room for a task bar and a title on 1366x768
 constexpr QSize kComfortable{1280, 860};
 
@@ -59,16 +60,21 @@ void MainFrame::showPage(Page& page)
 
 Page* MainFrame::visiblePage() const { return qobject_cast<Page*>(m_stack->currentWidget()); }
 
+/// @returns what a page adds to the program's name: the open document, or which screen it is
+static QString subjectOf(const ui::Screen& screen)
+{
+    const QString subject = toQString(screen.document.empty() ? screen.caption : screen.document);
+    return subject == QLatin1String{kProgram} ? QString{} : QLatin1String{" - "} + titleText(subject);
+}
+
+// The mark of unsaved changes is written out: Qt's own would stand in the title's text as a placeholder.
 void MainFrame::refreshTitle()
 {
-    QString title = QStringLiteral("Tallyhoop");
-    const Page* page = visiblePage();
-    if (page && !page->screen().document.empty())
-        title += QLatin1String{" - "} + titleText(toQString(page->screen().document));
-    title += QLatin1String{"[*]"};
+    QString title = QLatin1String{kProgram};
+    if (const Page* page = visiblePage())
+        title += subjectOf(page->screen()) + QLatin1String{page->screen().unsaved ? "*" : ""};
     if (title != windowTitle())
         setWindowTitle(title);
-    setWindowModified(page && page->screen().unsaved);
 }
 
 void MainFrame::closeEvent(QCloseEvent* event)

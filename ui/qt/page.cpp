@@ -17,7 +17,6 @@ Page::Page(ui::Screen& screen, Desk& desk) : m_screen{screen}, m_desk{desk}
     setObjectName(toQString(screen.name));
     setContextMenuPolicy(Qt::NoContextMenu);
     follow(screen.caption, [this](const std::string& caption) { setWindowTitle(titleText(toQString(caption))); });
-    follow(screen.unsaved, [this](bool unsaved) { setWindowModified(unsaved); });
     buildMenuBar();
 
     auto* status = new QLabel;

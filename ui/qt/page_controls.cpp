@@ -35,6 +35,7 @@ QPushButton* Page::add(ui::Command& command)
 QCheckBox* Page::add(ui::CheckBox& box)
 {
     auto* widget = new QCheckBox{this};
+    widget->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed); // a press anywhere on it ticks it
     followCommonParts(box, *widget);
     follow(box.caption, [widget](const std::string& caption) { widget->setText(toQString(caption)); });
     mirror(
@@ -55,6 +56,7 @@ QRadioButton* Page::add(ui::OptionButton& option)
 QRadioButton* Page::addToGroup(ui::OptionButton& option, QButtonGroup& group)
 {
     auto* button = new QRadioButton{this};
+    button->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed); // a press anywhere on it selects it
     group.addButton(button);
     followCommonParts(option, *button);
     follow(option.caption, [button](const std::string& caption) { button->setText(toQString(caption)); });
