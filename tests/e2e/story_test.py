@@ -4,6 +4,7 @@ import unittest
 
 from pool_2000 import selection, setup_file
 from program import Program
+from sample_pool import install
 
 BLUE, GREEN, RED = "#0000ff", "#00ff00", "#ff0000"
 PROPHET = "Demo Prophet_DP.THC"
@@ -32,16 +33,6 @@ class Story(unittest.TestCase):
         self.program.key("Return")
         self.program.wait(lambda: self.program.modal().get("class") != "QFileDialog", "the save dialog going away")
 
-    def start_demo(self):
-        """Takes the offer of the first start; its OK may only be pressed once the installer is through."""
-        self.program.start()
-        offer = self.program.answer("OK", "** DEMO MODE OPTION **")
-        self.program.box("STALLYHOOP DEMOSTRATION MODE")
-        self.program.wait(lambda: "TALLYHOOP.INI" in self.program.files(), "the sample pool")
-        pause = self.program.answer("OK", "STALLYHOOP DEMOSTRATION MODE")
-        self.shows("lblTitle", "2000 NCAA Tournament")
-        return offer, pause
-
 
 class FromTheFirstStart(Story):
     def test_the_demo_is_offered_scored_changed_and_found_again(self):
@@ -54,7 +45,7 @@ class FromTheFirstStart(Story):
         self.assertEqual(self.program.errors(), "")
 
     def first_start_installs_the_sample_pool(self):
-        offer, pause = self.start_demo()
+        offer, pause = install(self.program)
         self.assertEqual(offer["text"].splitlines(), [
             "It looks like you are just starting to work ",
             "with Tallyhoop..  A DEMO Mode is offered",
@@ -148,7 +139,7 @@ class FromTheFirstStart(Story):
 
 class InDemoMode(Story):
     def test_a_new_selection_is_refused(self):
-        self.start_demo()
+        install(self.program)
         before = self.program.files()
         self.program.type("txtPlayerInitials", "JS")
         self.program.type("txtPlayerName", "Smith")
