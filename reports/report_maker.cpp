@@ -128,6 +128,7 @@ MadeReport ReportMaker::makeTeamSelection(const Request& request)
     const std::optional<ReadPool> pool = readPlayers(request);
     if (!pool)
         return cancelled(request.kind);
+    const Work work{m_platform.progress, request.kind.name, 1}; // sorting all picks takes a moment
     const std::vector<std::string> entries = pickEntries(*pool);
     if (isSummary)
         return outcome(request.kind, teamSelectionSummaryLines(request.title, entries));
