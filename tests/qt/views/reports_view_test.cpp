@@ -1,0 +1,121 @@
+// tests/qt/views/reports_view_test.cpp - do ticks, choices and typing reach the reports screen, and does it show
+// itself?
+#include "ui/qt/views/reports_view.h"
+
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
+
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace tallyhoop::qt {
+namespace {
+
+class ReportsViewTest : public testing::Test
+{
+protected:
+    ReportsViewTest()
+    {
+        scratch.put("Adams_AB.THC", "");
+        scratch.put("Baker_C.THC", "");
+        state.setupLines[64] = "Office Pool";
+        reports.load();
+        view.show();
+        desk.push();
+    }
+
+    template <class Widget>
+    Widget* widget(const char* name) const
+    {
+        auto* found = view.findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_NE(found, nullptr) << name;
+        return found;
+    }
+
+    test::ScratchFolder scratch;
+    DataFolder folder{scratch.folder()};
+    test::FakePlatform platform;
+    modTallyhoop state;
+    test::FakeScreens screens;
+    test::FakeBoard board{state};
+    frmPoolReports reports{folder, platform.services, state, screens, board};
+    Desk desk;
+    ReportsView view{reports, desk};
+};
+
+TEST_F(ReportsViewTest, ShowsEveryControl) { EXPECT_EQ(view.controlsWithoutWidget(), std::vector<std::string>{}); }
+
+TEST_F(ReportsViewTest, FitsASmallScreen)
+{
+    EXPECT_LE(view.minimumSizeHint().width(), 1024);
+    EXPECT_LE(view.minimumSizeHint().height(), 700);
+}
+
+TEST_F(ReportsViewTest, TitlesItsFrames)
+{
+    EXPECT_EQ(widget<QGroupBox>("fraMultipleOutput")->title(), QStringLiteral("Multiple Output Options"));
+    EXPECT_EQ(widget<QGroupBox>("fraPrinterOnly")->title(), QStringLiteral("Printer Only Options"));
+    EXPECT_EQ(widget<QGroupBox>("fraCustomReports")->title(), QStringLiteral("Custom Reports Option"));
+}
+
+TEST_F(ReportsViewTest, TakesTicksChoicesAndTheTitleToTheModel)
+{
+    QTest::mouseClick(widget<QCheckBox>("chkOptions_3"), Qt::LeftButton);
+    QTest::mouseClick(widget<QRadioButton>("optDestination_1"), Qt::LeftButton, {}, QPoint{8, 8});
+    widget<QLineEdit>("txtReportTitle")->selectAll();
+    QTest::keyClicks(widget<QLineEdit>("txtReportTitle"), QStringLiteral("Second Week"));
+    view.pull();
+
+    EXPECT_TRUE(reports.chkOptions[3].ticked);
+    EXPECT_FALSE(reports.optDestination[0].selected);
+    EXPECT_TRUE(reports.optDestination[1].selected);
+    EXPECT_EQ(reports.txtReportTitle.text, "Second Week");
+}
+
+TEST_F(ReportsViewTest, ShowsTheModelsTicksAndTitle)
+{
+    reports.chkOptions[0].ticked = true;
+    reports.txtReportTitle.text = "M\xE4rz";
+    ui::selectOption(reports.optDestination, 2);
+    desk.push();
+
+    EXPECT_TRUE(widget<QCheckBox>("chkOptions_0")->isChecked());
+    EXPECT_EQ(widget<QLineEdit>("txtReportTitle")->text(), QString::fromUtf8("M\u00E4rz"));
+    EXPECT_TRUE(widget<QRadioButton>("optDestination_2")->isChecked());
+    EXPECT_FALSE(widget<QRadioButton>("optDestination_0")->isChecked());
+}
+
+TEST_F(ReportsViewTest, StartsWithNeitherPrintoutAndKeepsThemApartFromTheDestinations)
+{
+    EXPECT_FALSE(widget<QRadioButton>("optSelected_0")->isChecked());
+    EXPECT_FALSE(widget<QRadioButton>("optSelected_1")->isChecked());
+
+    QTest::mouseClick(widget<QRadioButton>("optSelected_1"), Qt::LeftButton, {}, QPoint{8, 8});
+
+    EXPECT_TRUE(reports.optSelected[1].selected);
+    EXPECT_TRUE(reports.optDestination[0].selected);
+}
+
+TEST_F(ReportsViewTest, ListsTheFilesAndTakesTheChosenOne)
+{
+    auto* const list = widget<QListView>("filList");
+    ASSERT_EQ(list->model()->rowCount(), 2);
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(list->model()->index(1, 0)).center());
+
+    EXPECT_EQ(reports.filList.selectedText(), "Baker_C.THC");
+}
+
+TEST_F(ReportsViewTest, PressesReachTheCommands)
+{
+    QTest::mouseClick(widget<QPushButton>("cmdDefaultPrinter"), Qt::LeftButton);
+    EXPECT_EQ(widget<QPushButton>("cmdDefaultPrinter")->text(), QStringLiteral("Select non default printer"));
+
+    QTest::mouseClick(widget<QPushButton>("cmdExit"), Qt::LeftButton);
+    EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Reports});
+}
+
+} // namespace
+} // namespace tallyhoop::qt
