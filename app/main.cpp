@@ -54,7 +54,6 @@ int main(int argc, char** argv)
     qt::ScreenHost host{desk, frame};
     registerScreens(host, folder, platform, state);
     desk.helpWanted = [&](const ui::Screen& screen) { showHelp(folder, platform, screen.helpTopic); };
-    frame.closeWanted = [&] { host.endProgram(); };
     frame.open();
     QTimer::singleShot(0, &frame, [&] { startUp(folder, platform, host); });
     return QApplication::exec();

@@ -20,10 +20,6 @@ struct Program {
         add(ScreenKind::ScoreDisplay, Placement::OwnWindow);
         add(ScreenKind::SeedPositions, Placement::Modal);
         host.ended = [this] { ended = true; };
-        frame.closeWanted = [this] {
-            if (desk.accepts(nullptr))
-                host.endProgram();
-        };
         frame.open();
     }
 

@@ -1,11 +1,10 @@
 #include "ui/qt/look.h"
 
-#include "ui/qt/text.h"
+#include "ui/qt/style.h"
 
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPainter>
-#include <QStyleFactory>
 #include <algorithm>
 #include <cmath>
 
@@ -29,23 +28,16 @@ double luminance(const QColor& colour)
     return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
 }
 
-// What the style draws by default is kept; only rhythm is added: a little more air in boxes, buttons and lists.
-constexpr const char* kStyleSheet = R"(
-QMenuBar { padding: 2px 4px; }
-QMenuBar::item { padding: 4px 9px; border-radius: 4px; background: transparent; }
-QMenuBar::item:selected { background: palette(highlight); color: palette(highlighted-text); }
-QMenuBar::item:disabled { color: palette(mid); }
-QStatusBar::item { border: none; }
-QToolTip { padding: 3px; }
-)";
+// What Qt makes up where no desktop tells its colours.
+constexpr QColor kNobodysGround{0xef, 0xef, 0xef};
 
 } // namespace
 
-void apply(QApplication& application)
+void apply(QApplication&)
 {
-    if (QStyle* fusion = QStyleFactory::create(QStringLiteral("Fusion")))
-        QApplication::setStyle(fusion);
-    application.setStyleSheet(QLatin1String{kStyleSheet});
+    QApplication::setStyle(new Style);
+    if (QApplication::palette().color(QPalette::Window) == kNobodysGround)
+        QApplication::setPalette(Style::calmPalette());
 }
 
 QFont titleFont() { return scaled(1.5, QFont::DemiBold); }

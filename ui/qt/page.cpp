@@ -26,6 +26,7 @@ Page::Page(ui::Screen& screen, Desk& desk) : m_screen{screen}, m_desk{desk}
         // A page that never has anything to say keeps the room for its controls.
         if (!text.empty() && !status->parentWidget()) {
             statusBar()->setSizeGripEnabled(false);
+            status->setContentsMargins(look::kGap, 0, look::kGap, 0);
             statusBar()->addWidget(status, 1);
             statusBar()->show();
         }

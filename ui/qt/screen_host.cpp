@@ -38,6 +38,10 @@ ScreenHost::ScreenHost(Desk& desk, MainFrame& frame) : m_desk{desk}, m_frame{fra
 {
     m_desk.setFrame(&frame);
     m_desk.pushed = [this] { m_frame.refreshTitle(); };
+    m_frame.closeWanted = [this] {
+        if (m_desk.accepts(nullptr))
+            endProgram();
+    };
     ended = [] { QApplication::quit(); };
 }
 

@@ -27,6 +27,7 @@ public:
     using MakeScreen = std::function<std::unique_ptr<ui::Screen>(Opening)>;
     using MakeView = std::function<std::unique_ptr<Page>(ui::Screen&, Desk&)>;
 
+    /// Takes over what the frame's close button does: endProgram(), unless something is modal.
     ScreenHost(Desk& desk, MainFrame& frame);
     ~ScreenHost() override;
 

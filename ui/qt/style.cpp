@@ -1,0 +1,244 @@
+#include "ui/qt/style.h"
+
+#include "ui/qt/look.h"
+
+#include <QPainter>
+#include <QPainterPath>
+#include <QPushButton>
+#include <QStyleOption>
+#include <algorithm>
+#include <cmath>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr double kRound = 4; ///< radius of corners, in device-independent pixels
+
+/// A colour between two: 0 is the first, 1 the second.
+QColor between(const QColor& first, const QColor& second, double share)
+{
+    const auto mix = [share](double a, double b) { return static_cast<float>(a + (b - a) * share); };
+    return QColor::fromRgbF(mix(first.redF(), second.redF()), mix(first.greenF(), second.greenF()),
+                            mix(first.blueF(), second.blueF()));
+}
+
+QColor lineColour(const QPalette& palette)
+{
+    return between(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.3);
+}
+
+void drawBox(QPainter& painter, const QRect& place, const QBrush& fill, const QColor& line, double width)
+{
+    const double inset = width / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(fill);
+    painter.setPen(QPen{line, width});
+    painter.drawRoundedRect(QRectF{place}.adjusted(inset, inset, -inset, -inset), kRound, kRound);
+    painter.restore();
+}
+
+void drawButton(const QStyleOption& option, QPainter& painter)
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    const bool pressed = option.state.testFlag(QStyle::State_Sunken) || option.state.testFlag(QStyle::State_On);
+    const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
+    const bool isDefault = button && button->features.testFlag(QStyleOptionButton::DefaultButton);
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
+    const QColor accent = option.palette.color(QPalette::Highlight);
+    QColor fill = option.palette.color(QPalette::Button);
+    if (enabled && pressed)
+        fill = between(fill, accent, 0.25);
+    else if (enabled && hovered)
+        fill = between(fill, accent, 0.1);
+    const bool marked = enabled && (isDefault || focused);
+    drawBox(painter, option.rect, fill, marked ? accent : lineColour(option.palette), marked ? 2 : 1);
+}
+
+void drawLineEdit(const QStyleOption& option, QPainter& painter, bool filled)
+{
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
+    const QBrush fill = filled ? option.palette.brush(QPalette::Base) : QBrush{Qt::NoBrush};
+    drawBox(painter, option.rect, fill,
+            focused ? option.palette.color(QPalette::Highlight) : lineColour(option.palette), focused ? 2 : 1);
+}
+
+/// A coloured disc or triangle with a sign in it, as message boxes have it.
+QPixmap signPixmap(QStyle::StandardPixmap which, int size)
+{
+    QPixmap pixmap{size, size};
+    pixmap.fill(Qt::transparent);
+    QPainter painter{&pixmap};
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(size / 48.0, size / 48.0);
+    painter.setPen(Qt::NoPen);
+    QString sign;
+    QRectF place{0, 0, 48, 48};
+    QColor ink = Qt::white;
+    if (which == QStyle::SP_MessageBoxWarning) {
+        painter.setBrush(QColor{0xf2, 0xb0, 0x1e});
+        painter.setPen(QPen{QColor{0xf2, 0xb0, 0x1e}, 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
+        painter.drawPolygon(QPolygonF{{QPointF{24, 7}, QPointF{43, 41}, QPointF{5, 41}}});
+        sign = QStringLiteral("!");
+        place.setTop(9);
+        ink = QColor{0x1c, 0x1f, 0x24};
+    } else {
+        const bool critical = which == QStyle::SP_MessageBoxCritical;
+        painter.setBrush(critical ? QColor{0xc0, 0x39, 0x2b} : QColor{0x0b, 0x57, 0xa4});
+        painter.drawEllipse(QRectF{3, 3, 42, 42});
+        sign = critical ? QStringLiteral("\u00d7")
+                        : QString{which == QStyle::SP_MessageBoxQuestion ? QLatin1Char{'?'} : QLatin1Char{'i'}};
+    }
+    QFont font = painter.font();
+    font.setPixelSize(30);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(ink);
+    painter.drawText(place, Qt::AlignCenter, sign);
+    return pixmap;
+}
+
+} // namespace
+
+Style::Style() : QProxyStyle{QStringLiteral("Fusion")} {}
+
+QPalette Style::calmPalette()
+{
+    const QColor ink{0x1c, 0x1f, 0x24};
+    const QColor paleInk{0x5b, 0x64, 0x70};
+    const QColor ground{0xf3, 0xf4, 0xf7};
+    const QColor accent{0x0b, 0x57, 0xa4};
+    QPalette palette{ground};
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor{0xf0, 0xf3, 0xf8});
+    palette.setColor(QPalette::Button, Qt::white);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        palette.setColor(role, ink);
+    palette.setColor(QPalette::ToolTipBase, QColor{0xff, 0xfe, 0xf2});
+    palette.setColor(QPalette::PlaceholderText, paleInk);
+    palette.setColor(QPalette::Highlight, accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, accent);
+    palette.setColor(QPalette::Mid, QColor{0xb8, 0xbe, 0xc8});
+    palette.setColor(QPalette::Dark, QColor{0x9a, 0xa1, 0xad});
+    palette.setColor(QPalette::Light, Qt::white);
+    palette.setColor(QPalette::Midlight, QColor{0xe4, 0xe7, 0xec});
+    palette.setColor(QPalette::Shadow, QColor{0x6b, 0x72, 0x7d});
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor{0x8a, 0x91, 0x9c});
+    palette.setColor(QPalette::Disabled, QPalette::Base, ground);
+    palette.setColor(QPalette::Disabled, QPalette::Button, ground);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor{0xb8, 0xbe, 0xc8});
+    return palette;
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const
+{
+    switch (element) {
+    case PE_PanelButtonCommand:
+        drawButton(*option, *painter);
+        return;
+    case PE_PanelLineEdit:
+        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
+            drawLineEdit(*option, *painter, true);
+            return;
+        }
+        break;
+    case PE_FrameLineEdit:
+        drawLineEdit(*option, *painter, false);
+        return;
+    case PE_FrameFocusRect:
+        if (qobject_cast<const QPushButton*>(widget))
+            return; // its outline tells already
+        break;
+    default:
+        break;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                              const QWidget* widget) const
+{
+    QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
+    switch (type) {
+    case CT_PushButton:
+        result += QSize{2 * look::kGap, look::kTight};
+        break;
+    case CT_LineEdit:
+        result += QSize{0, look::kTight};
+        break;
+    case CT_ItemViewItem:
+        result += QSize{0, look::kTight};
+        break;
+    case CT_MenuItem:
+        result += QSize{look::kGap, look::kTight};
+        break;
+    case CT_MenuBarItem:
+        result += QSize{look::kGap, look::kTight};
+        break;
+    default:
+        break;
+    }
+    return result;
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* returnData) const
+{
+    switch (hint) {
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
+    case SH_EtchDisabledText:
+        return 0;
+    case SH_MessageBox_CenterButtons:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_MessageBoxIconSize:
+        return 48;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+        return look::kSection - look::kTight;
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+        return look::kGap;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_MessageBoxInformation:
+    case SP_MessageBoxWarning:
+    case SP_MessageBoxCritical:
+    case SP_MessageBoxQuestion: {
+        QIcon signs;
+        for (const int size : {16, 32, 48, 72, 96, 144})
+            signs.addPixmap(signPixmap(icon, size));
+        return signs;
+    }
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
+}
+
+} // namespace tallyhoop::qt

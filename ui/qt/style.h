@@ -1,0 +1,29 @@
+// ui/qt/style.h - how our widgets are drawn: flat, with round corners and some air, in the palette's own colours.
+#pragma once
+
+#include <QPalette>
+#include <QProxyStyle>
+
+namespace tallyhoop::qt {
+
+class Style : public QProxyStyle
+{
+    Q_OBJECT
+
+public:
+    Style();
+
+    /// The colours used where the platform has none of its own.
+    static QPalette calmPalette();
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                           const QWidget* widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override;
+    QIcon standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const override;
+};
+
+} // namespace tallyhoop::qt
