@@ -3,6 +3,7 @@
 
 #include "model/text.h"
 #include "model/windows1252.h"
+#include "players/field_text.h"
 #include "players/selection_of_player.h"
 
 #include <algorithm>
@@ -31,31 +32,6 @@ const ui::Message kBothDeleted{kTitle,
                                "The player record and the Pool Selections\r\n"
                                "will both be deleted if you continue, Ok??", // sic
                                ui::Buttons::OkCancel, ui::Icon::Question};
-
-/// What cannot stand in a field of the file: a quote would end the field, a line break the record.
-bool fitsIntoField(std::string_view text) { return text.find_first_of("\"\r\n") == std::string_view::npos; }
-
-std::string madeFit(std::string_view text)
-{
-    std::string fit;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool secondOfPair = text[i] == '\n' && i > 0 && text[i - 1] == '\r';
-        if (secondOfPair)
-            continue;
-        fit += text[i] == '"' ? '\'' : text[i] == '\r' || text[i] == '\n' ? ' ' : text[i];
-    }
-    return fit;
-}
-
-/// Does what pasting does: the text takes the place of what is selected, the caret stands behind it.
-void insertAtCaret(ui::TextBox& box, std::string_view text)
-{
-    const auto start = std::min(static_cast<std::size_t>(std::max(box.selectionStart, 0)), box.text.size());
-    const auto length = static_cast<std::size_t>(std::max(box.selectionLength, 0));
-    box.text.replace(start, length, text);
-    box.selectionStart = static_cast<int>(start + text.size());
-    box.selectionLength = 0;
-}
 
 } // namespace
 
