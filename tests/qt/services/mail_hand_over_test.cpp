@@ -119,11 +119,12 @@ TEST(MailRoutes, PreferThunderbirdWhenItIsTheHandlerOrWhenThereIsNone)
               (Routes{MailRoute::Thunderbird, MailRoute::XdgEmail, MailRoute::MessageFile}));
     EXPECT_EQ(mailRoutes("org.mozilla.Thunderbird.desktop", true, false),
               (Routes{MailRoute::Thunderbird, MailRoute::MessageFile}));
-    EXPECT_EQ(mailRoutes("", true, true), (Routes{MailRoute::Thunderbird, MailRoute::MessageFile}));
+    EXPECT_EQ(mailRoutes("", true, true), (Routes{MailRoute::Thunderbird, MailRoute::XdgEmail, MailRoute::MessageFile}));
 }
 
-TEST(MailRoutes, UseXdgEmailForOtherHandlers)
+TEST(MailRoutes, UseXdgEmailOtherwise)
 {
+    EXPECT_EQ(mailRoutes("", false, true), (Routes{MailRoute::XdgEmail, MailRoute::MessageFile}));
     EXPECT_EQ(mailRoutes("org.kde.kmail2.desktop", true, true), (Routes{MailRoute::XdgEmail, MailRoute::MessageFile}));
     EXPECT_EQ(mailRoutes("thunderbird.desktop", false, true), (Routes{MailRoute::XdgEmail, MailRoute::MessageFile}));
 }
@@ -131,7 +132,7 @@ TEST(MailRoutes, UseXdgEmailForOtherHandlers)
 TEST(MailRoutes, WriteAMessageFileWhereAttachmentsWouldBeDropped)
 {
     EXPECT_EQ(mailRoutes("firefox-esr.desktop", true, true), Routes{MailRoute::MessageFile});
-    EXPECT_EQ(mailRoutes("", false, true), Routes{MailRoute::MessageFile});
+    EXPECT_EQ(mailRoutes("", false, false), Routes{MailRoute::MessageFile});
     EXPECT_EQ(mailRoutes("org.kde.kmail2.desktop", true, false), Routes{MailRoute::MessageFile});
 }
 

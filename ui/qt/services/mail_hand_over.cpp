@@ -99,7 +99,7 @@ std::vector<MailRoute> mailRoutes(const std::string& handler, bool hasThunderbir
     std::vector<MailRoute> routes;
     if (hasThunderbird && (handler.empty() || contains(handler, "thunderbird")))
         routes.push_back(MailRoute::Thunderbird);
-    if (hasXdgEmail && !handler.empty() && !isBrowser(handler))
+    if (hasXdgEmail && !isBrowser(handler))
         routes.push_back(MailRoute::XdgEmail);
     routes.push_back(MailRoute::MessageFile);
     return routes;

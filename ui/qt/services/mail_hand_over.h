@@ -23,9 +23,8 @@ enum class MailRoute {
 /// set
 /// @param hasThunderbird whether it can be started
 /// @param hasXdgEmail    the same for xdg-email
-/// @returns the ways to try, in this order. A browser as handler, and no handler at all, would make xdg-email open a
-/// web
-///          page and drop the attachments, so these go straight to the message file
+/// @returns the ways to try, in this order. With a web browser as handler xdg-email would open a page and drop the
+///          attachments, so that goes straight to the message file
 std::vector<MailRoute> mailRoutes(const std::string& handler, bool hasThunderbird, bool hasXdgEmail);
 
 /// Attachments are handed over for certain, or the person is told where they are: mail programs that would drop them
