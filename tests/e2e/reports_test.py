@@ -1,9 +1,15 @@
-"""The reports screen in the real program: all seven reports of the sample pool, to files."""
+"""The reports screen in the real program: all seven reports of the sample pool, to files and as PDF."""
 
+import pathlib
+import subprocess
+import sys
 import unittest
 
 from program import Program
 from sample_pool import install
+
+sys.path.append(str(pathlib.Path(__file__).parents[1] / "approved/messy"))
+import reckon  # a second reckoning of the reports, which shares nothing with the program
 
 # The widths are 17, 20 and 12, so a line has 17 + 20 + 12 + 44 = 93 characters; the two titles have 20 each and stand
 # behind 93 / 2 - 20 / 2 = 36.5 blanks, rounded to the even 36. Good and bad picks: 28 + 10 + 4 + 2 and 16; 29 + 7 + 2 + 1
@@ -23,6 +29,34 @@ STANDINGS = [
 ]
 
 
+def lines_of(program, name):
+    return program.read(name).decode("cp1252").split("\r\n")[:-1]
+
+
+def reckoned(program):
+    """The bytes that the seven report files of a program folder must have, by number."""
+    reckon.TITLE = "2000 NCAA Tournament"
+
+    def numbered(name):  # lines are counted from 1
+        return [""] + lines_of(program, name)
+
+    players = sorted((name for name in program.files() if name.upper().endswith(".THC")), key=reckon.fold)
+    pool = [(name, numbered(name)) for name in players]
+    results = numbered("TALLYHOOP.THS")
+    four = ["", *(results[winner] for winner in (31, 62, 93, 124))]
+    reports = [reckon.standings(pool, results), reckon.listing(lines_of(program, "PLAYERNAMES.CSV")),
+               reckon.summary(pool), reckon.detail(pool), reckon.player_detail(pool),
+               reckon.by_player(pool, results, four), reckon.by_team(pool, results, four)]
+    return {number: "".join(line + "\r\n" for line in lines).encode("cp1252")
+            for number, lines in enumerate(reports, 1)}
+
+
+def pages(text):
+    """The non-empty lines of each page, without trailing blanks; pages without any are left out."""
+    sheets = [[line.rstrip(" ") for line in sheet.splitlines() if line.strip(" ")] for sheet in text.split("\f")]
+    return [sheet for sheet in sheets if sheet]
+
+
 class Reports(unittest.TestCase):
     def setUp(self):
         self.program = self.enterContext(Program())
@@ -34,26 +68,48 @@ class Reports(unittest.TestCase):
             self.program.click(f"chkOptions_{report}")
             self.program.wait(lambda box=f"chkOptions_{report}": self.program.widget(box)["checked"], "the tick")
 
-    def lines(self, number):
-        return self.program.read(f"RPTOPT{number}.TXT").decode("cp1252").split("\r\n")[:-1]
-
-    def test_all_seven_go_to_their_files(self):
-        self.tick(*range(7))
+    def create(self):
         self.program.click("optDestination_1")
         self.program.click("cmdPrintSelections")
+
+    def test_all_seven_go_to_their_files(self):
+        expected = reckoned(self.program)
+        self.tick(*range(7))
+        self.create()
         self.program.wait(lambda: "RPTOPT7.TXT" in self.program.files(), "the last report")
         self.program.wait(lambda: self.program.read("TEMPPRT.TXT") == self.program.read("RPTOPT7.TXT"), "its end")
         self.assertEqual(self.program.modal(), {})
-        self.assertEqual(self.lines(1), STANDINGS)
-        subtitles = ["Tournament Standings", "Player Listing", "Team Selection Summary", "Team Selection Detail",
-                     "Player Selection Detail", "Projected Results by Player", "Projected Results by Team"]
-        for number, subtitle in enumerate(subtitles, 1):
-            self.assertIn(subtitle, [line.strip() for line in self.lines(number)])
-        self.assertIn("Maximum Points = 120", "".join(self.lines(6)))
+        self.assertEqual(lines_of(self.program, "RPTOPT1.TXT"), STANDINGS)
+        for number in range(1, 8):
+            self.assertEqual(self.program.read(f"RPTOPT{number}.TXT"), expected[number], f"report {number}")
+        self.assertEqual(self.program.errors(), "")
+
+    def test_reports_saved_as_pdf_keep_their_columns_and_pages(self):
+        expected = reckoned(self.program)
+        self.tick(0, 3, 4)  # one page; four pages upright; the widest, a page for each player
+        self.program.click("cmdSavePdf")
+        for number in (1, 4, 5):
+            self.program.box("Save as PDF: " + {1: "Tournament Standings", 4: "Team Selection Detail",
+                                                5: "Player Selection Detail"}[number])
+            self.program.file_dialog(f"Report {number}")
+            name = f"Report {number}.PDF"
+            self.program.wait(lambda: name in self.program.files(), name)
+        self.program.wait(lambda: not self.program.modal(), "the end of saving")
+        for number in (1, 4, 5):
+            text = expected[number].decode("cp1252").replace("\r\n", "\n")
+            self.assertEqual(self.printed(f"Report {number}.PDF"), pages(text), f"report {number}")
+        self.assertNotIn("TEMPPRT.TXT", self.program.files())
+
+    def printed(self, name):
+        """What a PDF says, without its left margin."""
+        told = subprocess.run(["pdftotext", "-layout", "-fixed", "6", self.program.folder / name, "-"],
+                              capture_output=True, check=True, text=True).stdout
+        sheets = pages(told)
+        margin = min(len(line) - len(line.lstrip(" ")) for sheet in sheets for line in sheet)
+        return [[line[margin:] for line in sheet] for sheet in sheets]
 
     def test_ticking_nothing_is_told_and_makes_nothing(self):
-        self.program.click("optDestination_1")
-        self.program.click("cmdPrintSelections")
+        self.create()
         box = self.program.answer("OK", "Tallyhoop - frmPoolReports, PrintSelections_Click ")
         self.assertEqual(box["text"].splitlines(), ["You will need to select one of the Report Selections before",
                                                     'choosing the "Create Selected Reports" Command Button'])
