@@ -16,6 +16,24 @@ void frmPoolMain::arrangeMenus()
     mnuDemo.children = {&mnuDemoSet, &mnuDemoReset};
     mnuHelp.children = {&mnuHelpDisplay, &mnuHelpAbout};
     menuBar = {&mnuFile, &mnuEdit, &mnuOptions, &mnuSetup, &mnuReports, &mnuDemo, &mnuHelp};
+
+    mnuNewSelection.icon = "new";
+    mnuOpenSelection.icon = "open";
+    mnuSaveSelection.icon = "save";
+    mnuPrintPreview.icon = "preview";
+    mnuPrintForm.icon = "print";
+    mnuExit.icon = "exit";
+    mnuUndo.icon = "undo";
+    mnuRedo.icon = "redo";
+    mnuScoreSelections.icon = "score";
+    mnuGameResults.icon = "results";
+    mnuHighSeed.icon = "assist";
+    mnuEditNames.icon = "people";
+    mnuSetupOptions.icon = "setup";
+    mnuDemoSet.icon = "demo";
+    mnuDemoReset.icon = "reset";
+    mnuHelpDisplay.icon = "help";
+    mnuHelpAbout.icon = "about";
 }
 
 void frmPoolMain::leaveScoreDisplay() { m_screens.unload(ScreenKind::ScoreDisplay); }

@@ -103,6 +103,14 @@ void frmPoolEntry::arrangeMenus()
     mnuDemo.children = {&mnuDemoSet, &mnuDemoReset};
     mnuHelp.children = {&mnuHelpDisplay, &mnuHelpAbout};
     menuBar = {&mnuFile, &mnuOptions, &mnuDemo, &mnuHelp};
+
+    mnuSaveStartingField.icon = "save";
+    mnuEnd.icon = "exit";
+    mnuSeating.icon = "seeds";
+    mnuDemoSet.icon = "demo";
+    mnuDemoReset.icon = "reset";
+    mnuHelpDisplay.icon = "help";
+    mnuHelpAbout.icon = "about";
 }
 
 void frmPoolEntry::describeBoxes()

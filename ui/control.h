@@ -136,7 +136,7 @@ struct MenuEntry : Control {
 
     std::string caption;              ///< an `&` marks the mnemonic
     std::string shortcut;             ///< such as "Ctrl+N"; empty = none
-    std::string icon;                 ///< name of a menu icon; empty = none
+    std::string icon;                 ///< name of a menu icon, such as "open"; empty = none
     std::function<void()> action;
     std::vector<MenuEntry*> children; ///< nullptr = a separator
 

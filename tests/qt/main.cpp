@@ -1,4 +1,6 @@
 // tests/qt/main.cpp - runs the tests of the window side inside a Qt application.
+#include "ui/qt/look.h"
+
 #include <QApplication>
 #include <gtest/gtest.h>
 
@@ -8,6 +10,7 @@ int main(int argc, char** argv)
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application{argc, argv};
+    tallyhoop::qt::look::apply(application); // the resources of the icons, and the style people see
     QApplication::setQuitOnLastWindowClosed(false);
     return RUN_ALL_TESTS();
 }

@@ -131,8 +131,8 @@ TEST(PrintPdf, WithoutAnyPrinterAPrintoutFailsWithWords)
 {
     Desk desk;
     QtPrinter printer{desk};
-    printer.printer().setOutputFormat(QPrinter::PdfFormat); // what Qt turns to when there is none
     printer.printer().setOutputFileName({});
+    printer.printer().setOutputFormat(QPrinter::PdfFormat); // what Qt turns to when there is none
     const auto outcome = printer.print(ui::TextPrintout{"Report", {"a line"}, {"Courier New", 10}});
     ASSERT_FALSE(outcome);
     EXPECT_EQ(outcome.failure().message, "No printer is installed.");

@@ -1,12 +1,17 @@
 #include "ui/qt/look.h"
 
+#include "ui/qt/line_icon.h"
 #include "ui/qt/style.h"
+#include "ui/qt/text.h"
 
 #include <QApplication>
 #include <QFontDatabase>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+
+// Resources of a static library are found only when they are asked for by name, outside of every namespace.
+static void loadResources() { Q_INIT_RESOURCE(icons); }
 
 namespace tallyhoop::qt::look {
 
@@ -35,9 +40,11 @@ constexpr QColor kNobodysGround{0xef, 0xef, 0xef};
 
 void apply(QApplication&)
 {
+    loadResources();
     QApplication::setStyle(new Style);
     if (QApplication::palette().color(QPalette::Window) == kNobodysGround)
         QApplication::setPalette(Style::calmPalette());
+    QApplication::setWindowIcon(lineIcon(QStringLiteral(":/tallyhoop.svg")));
 }
 
 QFont titleFont() { return scaled(1.5, QFont::DemiBold); }
@@ -100,7 +107,10 @@ QGroupBox* group(const QString& title, QLayout* content)
 
 QColor toQColor(ui::Colour colour) { return QColor{colour.red, colour.green, colour.blue}; }
 
-QIcon menuIcon(std::string_view) { return {}; }
+QIcon menuIcon(std::string_view name)
+{
+    return lineIcon(QLatin1String{":/icons/"} + toQString(name) + QLatin1String{".svg"});
+}
 
 void setGround(QPalette& palette, const QColor& ground)
 {

@@ -13,7 +13,9 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr double kRound = 4; ///< radius of corners, in device-independent pixels
+constexpr double kRound = 4;  ///< radius of corners, in device-independent pixels
+constexpr int kAir = 2;       ///< what a box or a button is higher than Qt makes it: 64 boxes fit a small screen
+constexpr int kTextInset = 3; ///< how far a box's text stands from where Qt puts it
 
 /// A colour between two: 0 is the first, 1 the second.
 QColor between(const QColor& first, const QColor& second, double share)
@@ -168,10 +170,10 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
     switch (type) {
     case CT_PushButton:
-        result += QSize{2 * look::kGap, look::kTight};
+        result += QSize{2 * look::kGap, kAir};
         break;
     case CT_LineEdit:
-        result += QSize{0, look::kTight};
+        result += QSize{2 * kTextInset, kAir};
         break;
     case CT_ItemViewItem:
         result += QSize{0, look::kTight};
@@ -186,6 +188,12 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
         break;
     }
     return result;
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    const QRect place = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? place.adjusted(kTextInset, 0, -kTextInset, 0) : place;
 }
 
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,

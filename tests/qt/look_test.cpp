@@ -1,0 +1,66 @@
+#include "ui/qt/look.h"
+
+#include "ui/qt/style.h"
+
+#include <QApplication>
+#include <QImage>
+#include <gtest/gtest.h>
+
+using namespace tallyhoop::qt;
+
+namespace {
+
+int paintedPixels(const QImage& image, const QColor& ink)
+{
+    int count = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            count += image.pixelColor(x, y) == ink;
+    return count;
+}
+
+} // namespace
+
+TEST(Look, TextCanBeReadOnEveryGroundOfTheCalmPalette)
+{
+    const QPalette palette = Style::calmPalette();
+    const std::vector<std::pair<QPalette::ColorRole, QPalette::ColorRole>> pairs{
+        {QPalette::WindowText, QPalette::Window},         {QPalette::Text, QPalette::Base},
+        {QPalette::Text, QPalette::AlternateBase},        {QPalette::ButtonText, QPalette::Button},
+        {QPalette::HighlightedText, QPalette::Highlight}, {QPalette::PlaceholderText, QPalette::Window},
+        {QPalette::PlaceholderText, QPalette::Base},      {QPalette::Link, QPalette::Base},
+        {QPalette::ToolTipText, QPalette::ToolTipBase}};
+    for (const auto& [text, ground] : pairs)
+        EXPECT_GE(look::contrast(palette.color(text), palette.color(ground)), 4.5) << text << " on " << ground;
+}
+
+TEST(Look, ContrastIsMeasuredAsTheRatioOfLuminances)
+{
+    EXPECT_DOUBLE_EQ(look::contrast(Qt::black, Qt::white), 21.0);
+    EXPECT_DOUBLE_EQ(look::contrast(Qt::white, Qt::black), 21.0);
+    EXPECT_DOUBLE_EQ(look::contrast(Qt::red, Qt::red), 1.0);
+    EXPECT_NEAR(look::contrast(QColor{0, 0, 255}, Qt::white), 8.59, 0.01); // (1.0 + 0.05) / (0.0722 + 0.05)
+}
+
+TEST(Look, MenuIconsAreDrawnInThePalettesTextColour)
+{
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::WindowText, QColor{0xee, 0xee, 0xee});
+    QApplication::setPalette(dark);
+    const QImage drawn = look::menuIcon("open").pixmap(64, 64).toImage();
+    QApplication::setPalette(before);
+    EXPECT_GT(paintedPixels(drawn, QColor(0xee, 0xee, 0xee)), 100);
+}
+
+TEST(Look, AnUnknownMenuIconIsNone)
+{
+    EXPECT_TRUE(look::menuIcon("no such icon").isNull());
+    EXPECT_TRUE(look::menuIcon("").isNull());
+}
+
+TEST(Look, TheProgramHasAnIcon)
+{
+    EXPECT_FALSE(QApplication::windowIcon().isNull());
+    EXPECT_FALSE(QApplication::windowIcon().pixmap(48, 48).isNull());
+}
