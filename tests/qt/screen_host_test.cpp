@@ -59,6 +59,23 @@ TEST(ScreenHost, ShowsAStackedScreenInTheFrameAfterItsLoad)
     EXPECT_TRUE(program.page(ScreenKind::Board).name->hasFocus());
 }
 
+TEST(ScreenHost, APageEnteringTheFrameKeepsTheFocusItsScreenChose)
+{
+    class Chooser : public SampleScreen
+    {
+        void load() override { focused = &txtOther; } // not the first in the tab order
+    };
+    Program program;
+    program.host.registerScreen<SampleScreen>(
+        ScreenKind::Reports, Placement::Stacked, [](Opening) { return std::make_unique<Chooser>(); },
+        [](SampleScreen& screen, Desk& onDesk) { return std::make_unique<SamplePage>(screen, onDesk); });
+    activate(program.frame);
+    program.host.load(ScreenKind::Board);
+    program.host.load(ScreenKind::Reports);
+    EXPECT_TRUE(program.page(ScreenKind::Reports).other->hasFocus());
+    EXPECT_EQ(program.screen(ScreenKind::Reports).focused, &program.screen(ScreenKind::Reports).txtOther);
+}
+
 TEST(ScreenHost, TheScreenBelowComesBackWhenTheOneAboveIsUnloaded)
 {
     Program program;
