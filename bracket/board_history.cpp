@@ -39,6 +39,13 @@ std::optional<BoardSnapshot> BoardHistory::redo(BoardSnapshot current)
     return step(m_future, m_past, std::move(current));
 }
 
+void BoardHistory::boardWasSaved()
+{
+    for (auto* const boards : {&m_past, &m_future})
+        for (BoardSnapshot& board : *boards)
+            board.unsaved = true;
+}
+
 void BoardHistory::clear()
 {
     m_past.clear();

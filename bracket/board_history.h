@@ -20,6 +20,7 @@ struct BoardSnapshot {
     std::filesystem::path openedFile;
     bool resultsMode = false;
     bool unsaved = false;
+    int sheet = 0; ///< New takes a fresh one; what is typed belongs to a sheet, not to its picks
 
     friend bool operator==(const BoardSnapshot&, const BoardSnapshot&) = default;
 };
@@ -34,6 +35,9 @@ public:
     /// @returns the board to go back to; nothing when there is none
     std::optional<BoardSnapshot> undo(BoardSnapshot current);
     std::optional<BoardSnapshot> redo(BoardSnapshot current);
+
+    /// The board as it is now was written to its file: every other board differs from what the file holds.
+    void boardWasSaved();
 
     bool canUndo() const { return !m_past.empty(); }
     bool canRedo() const { return !m_future.empty(); }

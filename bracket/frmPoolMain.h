@@ -198,6 +198,7 @@ private:
     Screens& m_screens;
     Opening m_opening;
     BoardHistory m_history;
+    int m_sheet = 0;    ///< counts the boards that New began
     std::string m_said; ///< what the status line says while the pointer is elsewhere
 
     int m_dragSource = 0;

@@ -15,7 +15,8 @@ BoardSnapshot frmPoolMain::snapshot() const
             txtPointScore.text,
             m_state.selectionFile.OpenedFile,
             m_resultsMode,
-            unsaved};
+            unsaved,
+            m_sheet};
 }
 
 void frmPoolMain::remember()
@@ -45,10 +46,17 @@ void frmPoolMain::redo()
 
 void frmPoolMain::restore(const BoardSnapshot& board)
 {
-    txtPlayerInitials.text = board.initials;
-    txtPlayerName.text = board.name;
-    txtFinalPoints.text = board.finalPoints;
-    txtPointScore.text = board.pointScore;
+    const bool otherSheet = board.sheet != m_sheet;
+    const bool typedSince =
+        !otherSheet && (txtPlayerInitials.text != board.initials || txtPlayerName.text != board.name ||
+                        txtFinalPoints.text != board.finalPoints);
+    if (otherSheet) {
+        m_sheet = board.sheet;
+        txtPlayerInitials.text = board.initials;
+        txtPlayerName.text = board.name;
+        txtFinalPoints.text = board.finalPoints;
+        txtPointScore.text = board.pointScore;
+    }
     m_state.selectionFile.OpenedFile = board.openedFile;
     if (board.resultsMode != m_resultsMode) {
         m_resultsMode = board.resultsMode;
@@ -59,7 +67,7 @@ void frmPoolMain::restore(const BoardSnapshot& board)
             lockResultsFields();
     }
     setTeams(board.teams);
-    unsaved = board.unsaved;
+    unsaved = board.unsaved || typedSince;
     offerHistory();
     describeDocument();
 }

@@ -57,6 +57,7 @@ void frmPoolMain::NewSelection()
     // The load forgets the past; a person who chose New by mistake wants it back.
     m_history = std::move(history);
     m_history.remember(before);
+    ++m_sheet;
     offerHistory();
 }
 
@@ -147,6 +148,7 @@ void frmPoolMain::saveResults()
     if (!file || !SaveSelections(*file, m_platform.dialogs, m_state.selectionLines))
         return;
     unsaved = false;
+    m_history.boardWasSaved();
     say("The results are saved.");
 }
 
@@ -205,6 +207,7 @@ bool frmPoolMain::writeSelection(const std::filesystem::path& file, SaveKind kin
     m_state.selectionFile.OpenedFile = file;
     m_state.handOver = PlayerHandOver{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};
     unsaved = false;
+    m_history.boardWasSaved();
     describeDocument();
     const bool scored = isSameFile(file, m_folder.folder() / file.filename());
     say("Saved " + shown(file.filename()) +

@@ -269,6 +269,36 @@ TEST_F(frmPoolMainBoard, UndoAndRedoStepThroughTheChanges)
     EXPECT_FALSE(board->mnuRedo.enabled);
 }
 
+TEST_F(frmPoolMainBoard, UndoOfAPickKeepsWhatWasTypedSince)
+{
+    loadFinalized();
+    click(0);
+    fill("JS", "Smith", "150");
+    board->txtPlayerName.edited();
+    board->undo();
+    EXPECT_EQ(at(16), "");
+    EXPECT_EQ(board->txtPlayerInitials.text, "JS");
+    EXPECT_EQ(board->txtPlayerName.text, "Smith");
+    EXPECT_EQ(board->txtFinalPoints.text, "150");
+    EXPECT_TRUE(board->unsaved);
+}
+
+TEST_F(frmPoolMainBoard, UndoBehindASaveIsUnsavedWork)
+{
+    loadFinalized();
+    const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));
+    board->showSelection(file);
+    click(0);
+    platform.dialogs.pick(file);
+    board->SaveSelection();
+    ASSERT_FALSE(board->unsaved);
+    board->undo();
+    EXPECT_EQ(at(16), "");
+    EXPECT_TRUE(board->unsaved);
+    board->redo();
+    EXPECT_FALSE(board->unsaved);
+}
+
 TEST_F(frmPoolMainBoard, UndoIsImpossibleWhileTheVerdictIsShown)
 {
     loadFinalized();
