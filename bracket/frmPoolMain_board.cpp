@@ -122,8 +122,10 @@ void frmPoolMain::ClearMarks()
     mnuHighSeed.enabled = true;
     for (std::size_t i = 0; i < lblRegion.size(); ++i)
         lblRegion[i].colour = kTeamColour;
-    for (std::size_t i = 0; i < lblResult.size(); ++i)
+    for (std::size_t i = 0; i < lblResult.size(); ++i) {
         lblResult[i].text.clear();
+        lblResult[i].colour = kTeamColour;
+    }
     describePositions();
     offerHistory();
 }

@@ -31,7 +31,7 @@ QVBoxLayout* named(QWidget* name, QWidget* field, int width)
 
 } // namespace
 
-BoardView::BoardView(frmPoolMain& board, Desk& desk) : Page{board, desk}
+BoardView::BoardView(frmPoolMain& board, Desk& desk) : Page{board, desk}, m_board{board}
 {
     auto* const whole = new QVBoxLayout;
     whole->setSpacing(0);
@@ -39,6 +39,12 @@ BoardView::BoardView(frmPoolMain& board, Desk& desk) : Page{board, desk}
     whole->addWidget(makeStrip(board));
     setContent(whole);
     whole->setContentsMargins(0, 0, 0, 0);
+}
+
+/// The canvas keeps the presses on the bracket; what comes here was made on the form itself.
+void BoardView::mousePressEvent(QMouseEvent*)
+{
+    run([this] { m_board.PressBackground(); });
 }
 
 QWidget* BoardView::makeStrip(frmPoolMain& board)

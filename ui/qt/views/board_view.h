@@ -13,8 +13,13 @@ class BoardView : public Page
 public:
     BoardView(frmPoolMain& board, Desk& desk);
 
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+
 private:
     QWidget* makeStrip(frmPoolMain& board);
+
+    frmPoolMain& m_board;
 };
 
 } // namespace tallyhoop::qt

@@ -23,12 +23,10 @@ constexpr ui::Colour kTeamColour{0, 0, 255};
 
 QRect toQRect(const ui::Rectangle& place) { return QRectF{place.x, place.y, place.width, place.height}.toRect(); }
 
-/// Shows a label's text; an empty one has no colour to carry and keeps the ground of an open place.
 std::function<void(const ui::Label&)> showOn(SlotLabel* widget)
 {
     return [widget](const ui::Label& label) {
-        const ui::Colour colour = label.text.empty() ? kTeamColour : label.colour.value_or(kTeamColour);
-        widget->show(toQString(label.text), look::toQColor(colour));
+        widget->show(toQString(label.text), look::toQColor(label.colour.value_or(kTeamColour)));
     };
 }
 
@@ -222,12 +220,15 @@ void BracketCanvas::mousePressEvent(QMouseEvent* event)
     }
     const MouseButton button = event->button() == Qt::LeftButton ? MouseButton::Left : MouseButton::Right;
     m_page.run([this, position, button] { m_board.PressPosition(position, button); });
+    m_dragged->hide(); // a right press in the middle of a drag ends it
     m_pressed = m_board.isDragging();
     m_pressedAt = event->pos();
 }
 
 void BracketCanvas::mouseMoveEvent(QMouseEvent* event)
 {
+    if (m_pressed && !event->buttons().testFlag(Qt::LeftButton))
+        loseDrag();
     if (!m_pressed)
         hover(positionAt(event->pos()));
     else if (m_dragged->isVisible() ||
@@ -259,6 +260,14 @@ void BracketCanvas::mouseReleaseEvent(QMouseEvent* event)
         else
             m_board.DropOnPosition(position);
     });
+}
+
+/// A box that opened in the middle of a drag got the release in our place.
+void BracketCanvas::loseDrag()
+{
+    m_pressed = false;
+    m_dragged->hide();
+    m_page.run([this] { m_board.cancelDrag(); });
 }
 
 void BracketCanvas::leaveEvent(QEvent*) { hover(-1); }

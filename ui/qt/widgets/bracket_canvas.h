@@ -44,6 +44,7 @@ private:
     int positionAt(const QPoint& point) const;
     void hover(int position);
     void showDrag(const QPoint& point);
+    void loseDrag();
     void emphasise();
 
     frmPoolMain& m_board;

@@ -2,6 +2,7 @@
 
 #include "bracket/board_drawing.h"
 #include "ui/qt/look.h"
+#include "ui/qt/text.h"
 
 #include <QFocusEvent>
 #include <QHelpEvent>
@@ -112,7 +113,7 @@ bool SlotLabel::event(QEvent* event)
     if (event->type() != QEvent::ToolTip || m_part == Part::Row)
         return QAbstractButton::event(event);
     if (isElided())
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), text().toHtmlEscaped(), this);
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(text()), this);
     else
         QToolTip::hideText();
     return true;

@@ -1,0 +1,173 @@
+// tests/qt/views/board_view_test.cpp - do the mouse and the tool tips of the bracket do what its places mean?
+#include "ui/qt/views/board_view.h"
+
+#include "demo/sample_pool.h"
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
+#include "model/setup_file.h"
+
+#include <QAbstractButton>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QTest>
+#include <QToolTip>
+
+namespace tallyhoop::qt {
+namespace {
+
+class BoardViewTest : public testing::Test
+{
+protected:
+    BoardViewTest()
+    {
+        EXPECT_TRUE(demo::installSamplePool(folder));
+        board.load();
+        view.resize(1366, 740);
+        view.show();
+        view.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
+        desk.push();
+    }
+
+    template <class Widget = QWidget>
+    Widget& find(const QString& name) const
+    {
+        return *view.findChild<Widget*>(name);
+    }
+
+    QAbstractButton& place(int position) const
+    {
+        return find<QAbstractButton>(QStringLiteral("lblRegion_%1").arg(position));
+    }
+
+    std::string& team(int position) { return board.lblRegion[static_cast<std::size_t>(position)].text; }
+
+    /// A point of another widget as the bracket sees it.
+    QPoint onBracket(const QWidget& widget) const
+    {
+        return widget.mapTo(&find(QStringLiteral("bracketCanvas")), widget.rect().center());
+    }
+
+    void pressAndDrag(const QWidget& from, QPoint to)
+    {
+        QWidget& bracket = find(QStringLiteral("bracketCanvas"));
+        QTest::mousePress(&bracket, Qt::LeftButton, {}, onBracket(from));
+        QMouseEvent move{QEvent::MouseMove, to, bracket.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {}};
+        QApplication::sendEvent(&bracket, &move);
+    }
+
+    void release(QPoint at) { QTest::mouseRelease(&find(QStringLiteral("bracketCanvas")), Qt::LeftButton, {}, at); }
+
+    /// What comes up under a pointer that rests on a place.
+    QString tipOf(QAbstractButton& widget)
+    {
+        QToolTip::hideText();
+        EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+        const QPoint middle = widget.rect().center();
+        QHelpEvent rest{QEvent::ToolTip, middle, widget.mapToGlobal(middle)};
+        QApplication::sendEvent(&widget, &rest);
+        return QToolTip::text();
+    }
+
+    test::ScratchFolder scratch;
+    DataFolder folder{scratch.folder()};
+    test::FakePlatform platform;
+    modTallyhoop state;
+    test::FakeScreens screens;
+    frmPoolMain board{folder, platform.services, state, screens};
+    Desk desk;
+    BoardView view{board, desk};
+};
+
+TEST_F(BoardViewTest, ShowsEveryControl) { EXPECT_EQ(view.controlsWithoutWidget(), std::vector<std::string>{}); }
+
+TEST_F(BoardViewTest, ADragCarriesTheNameAndLandsWhereItIsLetGo)
+{
+    pressAndDrag(place(0), onBracket(place(24)));
+    EXPECT_TRUE(find(QStringLiteral("draggedTeam")).isVisible());
+    EXPECT_EQ(find<QLabel>(QStringLiteral("draggedTeam")).text(), QStringLiteral("Arizona"));
+    release(onBracket(place(24)));
+    EXPECT_FALSE(find(QStringLiteral("draggedTeam")).isVisible());
+    EXPECT_EQ(team(16), "Arizona");
+    EXPECT_EQ(team(24), "Arizona");
+}
+
+TEST_F(BoardViewTest, ADropBesideThePlacesDoesNothing)
+{
+    pressAndDrag(place(0), onBracket(find(QStringLiteral("lblTitle"))));
+    release(onBracket(find(QStringLiteral("lblTitle"))));
+    EXPECT_FALSE(find(QStringLiteral("draggedTeam")).isVisible());
+    EXPECT_FALSE(board.isDragging());
+    EXPECT_EQ(team(16), "");
+}
+
+TEST_F(BoardViewTest, ARightPressInTheMiddleOfADragEndsItWithoutATrace)
+{
+    pressAndDrag(place(0), onBracket(place(24)));
+    QTest::mousePress(&find(QStringLiteral("bracketCanvas")), Qt::RightButton, {}, onBracket(place(24)));
+    EXPECT_FALSE(find(QStringLiteral("draggedTeam")).isVisible());
+    release(onBracket(place(24)));
+    EXPECT_EQ(team(24), "");
+}
+
+TEST_F(BoardViewTest, ADragWhoseReleaseGotLostIsOver)
+{
+    pressAndDrag(place(0), onBracket(place(24)));
+    QWidget& bracket = find(QStringLiteral("bracketCanvas"));
+    const QPoint to = onBracket(place(24));
+    QMouseEvent move{QEvent::MouseMove, to, bracket.mapToGlobal(to), Qt::NoButton, Qt::NoButton, {}};
+    QApplication::sendEvent(&bracket, &move);
+    EXPECT_FALSE(find(QStringLiteral("draggedTeam")).isVisible());
+    EXPECT_FALSE(board.isDragging());
+    release(to);
+    EXPECT_EQ(team(24), "");
+}
+
+TEST_F(BoardViewTest, PressesOnTheFormAndOnDisabledLabelsRaiseTheScoreDisplay)
+{
+    board.setScoreDisplayOpen(true);
+    desk.push();
+    ASSERT_FALSE(place(0).isEnabled());
+    QTest::mouseClick(&find(QStringLiteral("bracketCanvas")), Qt::LeftButton, {}, onBracket(place(0)));
+    QTest::mouseClick(&find(QStringLiteral("bracketCanvas")), Qt::LeftButton, {}, {1, 1});
+    // Below the bracket, beside the fields.
+    QTest::mouseClick(find(QStringLiteral("txtPlayerName")).parentWidget(), Qt::LeftButton, {}, {2, 2});
+    const std::vector<ScreenKind> thrice(3, ScreenKind::ScoreDisplay);
+    EXPECT_EQ(screens.raised, thrice);
+    EXPECT_EQ(team(16), "");
+}
+
+TEST_F(BoardViewTest, ACutNameIsWholeInItsToolTipLetterForLetter)
+{
+    const std::string longName(300, 'W');
+    team(16) = "A&M";
+    desk.push();
+    EXPECT_EQ(tipOf(place(16)), QString{});
+    team(16) = "A&M <b> " + longName;
+    desk.push();
+    EXPECT_EQ(place(16).text(), QString::fromStdString(team(16)));
+    EXPECT_EQ(tipOf(place(16)),
+              QStringLiteral("<qt>A&amp;M &lt;b&gt; ") + QString::fromStdString(longName) + QStringLiteral("</qt>"));
+    EXPECT_EQ(tipOf(place(0)), QStringLiteral("<qt>Left Click or Drag to Select</qt>"));
+}
+
+TEST_F(BoardViewTest, AnEmptyPickThatIsWrongIsRedLikeItsMark)
+{
+    state.verdict.SlotStatus[17] = Verdict::Bad;
+    board.MarkScores();
+    desk.push();
+    const auto ink = [](const QWidget& widget) { return widget.palette().color(QPalette::WindowText); };
+    EXPECT_EQ(place(16).text(), QString{});
+    EXPECT_EQ(ink(place(16)), QColor(255, 0, 0));
+    EXPECT_EQ(find<QAbstractButton>(QStringLiteral("lblResult_0")).text(), QStringLiteral("X"));
+    EXPECT_EQ(ink(find(QStringLiteral("lblResult_0"))), QColor(255, 0, 0));
+    EXPECT_EQ(ink(place(17)), QColor(0, 0, 255));
+    board.ClearMarks();
+    desk.push();
+    EXPECT_EQ(ink(place(16)), QColor(0, 0, 255));
+    EXPECT_EQ(ink(find(QStringLiteral("lblResult_0"))), QColor(0, 0, 255));
+}
+
+} // namespace
+} // namespace tallyhoop::qt
