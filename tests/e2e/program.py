@@ -111,6 +111,7 @@ class Program:
             "PATH": os.environ.get("PATH", "/usr/bin:/bin"), "LC_ALL": "C.UTF-8", "HOME": str(home),
             "XDG_RUNTIME_DIR": str(runtime), "QT_QPA_PLATFORM": self._platform,
             "QT_PLUGIN_PATH": str(BUILD / "tests/e2e/plugins"), "QT_QPA_GENERIC_PLUGINS": "tallyhoopinspector",
+            "CUPS_SERVER": str(self._scratch / "no-printers"),  # no test may print on a printer of this machine
             "TALLYHOOP_INSPECTOR_SOCKET": str(socket_path), **self._more_environment}
         if self._display:
             environment["DISPLAY"] = self._display.name

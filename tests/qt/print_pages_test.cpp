@@ -127,6 +127,20 @@ TEST(PrintPdf, AChosenPdfFileIsWrittenWholeAndAFailureIsTold)
     EXPECT_FALSE(refused.failure().message.empty());
 }
 
+TEST(PrintPdf, AChosenPdfFileServesOnePrintoutAndIsNeverReplacedByTheNext)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    Desk desk;
+    QtPrinter printer{desk};
+    printer.printer().setOutputFormat(QPrinter::PdfFormat);
+    printer.printer().setOutputFileName(fromPath(scratch.path() / "out.pdf"));
+    EXPECT_TRUE(printer.print(ui::TextPrintout{"First", {"the first"}, {"Courier New", 10}}));
+
+    EXPECT_FALSE(printer.print(ui::TextPrintout{"Second", {"the second"}, {"Courier New", 10}}));
+
+    EXPECT_TRUE(textOf(scratch.path() / "out.pdf").contains(QStringLiteral("the first")));
+}
+
 TEST(PrintPdf, WithoutAnyPrinterAPrintoutFailsWithWords)
 {
     Desk desk;

@@ -67,6 +67,7 @@ std::vector<std::string> QtPrinter::fontNames()
 bool QtPrinter::choosePrinter()
 {
     const Question question{m_desk};
+    printer().setDocName({}); // or the dialog would name a file after the printout before
     QPrintDialog dialog{&printer(), m_desk.windowForDialogs()};
     // Every printout is printed whole: no ranges.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
@@ -102,7 +103,9 @@ Result<Done> QtPrinter::printOut(const Printout& printout)
         // Without any printer Qt turns to PDF of its own accord, and to nowhere.
         if (device.outputFileName().isEmpty())
             return Failure{"No printer is installed."};
-        return writePdf(printout, toPath(device.outputFileName()));
+        Result<Done> written = writePdf(printout, toPath(device.outputFileName()));
+        device.setOutputFileName({}); // back to the printer: the next printout must not replace this file unasked
+        return written;
     }
     if (!paintPages(device, printout) || device.printerState() == QPrinter::Error)
         return Failure{"The printer " + fromQString(device.printerName()) + " does not take the pages."};

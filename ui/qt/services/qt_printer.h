@@ -23,7 +23,8 @@ public:
     std::optional<ui::PrinterFont> chooseFont() override;
     int pageWidthTwips(ui::Orientation orientation) override;
 
-    /// A printout to a PDF file, chosen in the printer's dialog, is written whole or not at all.
+    /// A printout to a PDF file, chosen in the printer's dialog, is written whole or not at all;
+    /// that choice is for one printout.
     Result<Done> print(const ui::TextPrintout& printout) override;
     Result<Done> print(const ui::DrawingPrintout& printout) override;
     Result<Done> savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file) override;
