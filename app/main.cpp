@@ -15,6 +15,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QSettings>
 #include <QTimer>
 
 using namespace tallyhoop;
@@ -36,6 +37,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(TALLYHOOP_VERSION);
     QApplication::setQuitOnLastWindowClosed(false); // the screens decide, last loaded first
     qt::look::apply(application);
+    // Qt's file dialog would keep notes about itself in the person's home; this program keeps everything in its folder.
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ":/kept-nowhere");
 
     const DataFolder folder = programFolder();
     modTallyhoop state;

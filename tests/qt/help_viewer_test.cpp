@@ -3,10 +3,12 @@
 #include "ui/qt/services/qt_help_viewer.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <QTreeWidget>
 #include <gtest/gtest.h>
 
@@ -87,6 +89,21 @@ TEST(HelpViewer, OneWindowServesEveryCall)
     const HelpWindow* first = help.window();
     ASSERT_TRUE(help.show("files"));
     EXPECT_EQ(help.window(), first);
+}
+
+TEST(HelpViewer, AskedForInAModalDialogItCanBeReadThere)
+{
+    Help help;
+    ASSERT_TRUE(help.show());
+    QDialog dialog;
+    QTimer::singleShot(0, &dialog, [&] {
+        EXPECT_TRUE(help.show("files"));
+        EXPECT_EQ(help.window()->parentWidget(), &dialog);
+        dialog.accept();
+    });
+    dialog.exec();
+    ASSERT_TRUE(help.show());
+    EXPECT_EQ(help.window()->parentWidget(), nullptr);
 }
 
 TEST(HelpViewer, FollowsTheContentsAndALink)

@@ -230,7 +230,7 @@ void Page::keyPressEvent(QKeyEvent* event)
     const ui::Key key = keyOf(event->key());
     if (key == ui::Key::Escape)
         run([this] { m_screen.closeRequested(); });
-    else if (event->key() == Qt::Key_F1 && m_desk.helpWanted && !window()->isModal())
+    else if (event->key() == Qt::Key_F1 && m_desk.helpWanted)
         run([this] { m_desk.helpWanted(m_screen); });
     else if (key != ui::Key::Enter || !pressDefault())
         QMainWindow::keyPressEvent(event);

@@ -5,6 +5,7 @@
 #include "ui/qt/services/help_window.h"
 #include "ui/qt/text.h"
 
+#include <QApplication>
 #include <algorithm>
 
 namespace tallyhoop::qt {
@@ -21,8 +22,13 @@ Result<Done> QtHelpViewer::show(const std::filesystem::path& helpFile, const std
     if (std::ranges::all_of(*html, [](char c) { return c == ' ' || c == '\r' || c == '\n' || c == '\t'; }))
         return Failure{fromQString(fromPath(helpFile)) + " is empty."};
 
+    // A modal dialog blocks every window but its own: asked for from there, the help must be one of them.
+    QWidget* modal = QApplication::activeModalWidget();
+    QWidget* owner = modal ? modal : m_frame.data();
+    if (m_window && m_window->parentWidget() != owner)
+        delete m_window.data();
     if (!m_window)
-        m_window = new HelpWindow{m_frame};
+        m_window = new HelpWindow{owner};
     m_window->setHelp(QByteArray::fromStdString(*html));
     if (m_window->isMinimized())
         m_window->showNormal();
