@@ -112,11 +112,22 @@ QIcon menuIcon(std::string_view name)
     return lineIcon(QLatin1String{":/icons/"} + toQString(name) + QLatin1String{".svg"});
 }
 
+namespace {
+
+QColor halfway(const QColor& one, const QColor& other)
+{
+    return {(one.red() + other.red()) / 2, (one.green() + other.green()) / 2, (one.blue() + other.blue()) / 2};
+}
+
+} // namespace
+
 void setGround(QPalette& palette, const QColor& ground)
 {
     const bool dark = contrast(ground, Qt::white) > contrast(ground, Qt::black);
+    const QColor text = dark ? Qt::white : Qt::black;
     palette.setColor(QPalette::Base, ground);
-    palette.setColor(QPalette::Text, dark ? Qt::white : Qt::black);
+    palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::Disabled, QPalette::Text, halfway(text, ground));
 }
 
 double contrast(const QColor& one, const QColor& other)

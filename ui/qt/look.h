@@ -48,6 +48,7 @@ QColor toQColor(ui::Colour colour);
 QIcon menuIcon(std::string_view name);
 
 /// Gives boxes and lists a ground of this colour, and their text whichever of black and white reads better on it.
+/// While they are disabled their text is paler.
 void setGround(QPalette& palette, const QColor& ground);
 
 /// Contrast between two colours, 1..21.

@@ -218,6 +218,17 @@ TEST_F(SetupViewTest, OverrideModeTakesAnyText)
     EXPECT_EQ(view->focusWidget(), &team(1));
 }
 
+TEST_F(SetupViewTest, TheListLooksDisabledWhileSelectingIsOverridden)
+{
+    const auto text = [this] { return list().palette().color(QPalette::Text); };
+    EXPECT_EQ(text(), QColor(Qt::black));
+    widget<QPushButton>(setup.cmdOverride).click();
+    EXPECT_EQ(text(), (QColor{0x40, 0x7F, 0x40})); // halfway to the green ground
+    EXPECT_EQ(list().palette().color(QPalette::Base), (QColor{0x80, 0xFF, 0x80}));
+    widget<QPushButton>(setup.cmdOverride).click();
+    EXPECT_EQ(text(), QColor(Qt::black));
+}
+
 TEST_F(SetupViewTest, CommentsHoldSeveralLines)
 {
     auto& comment = widget<QPlainTextEdit>(setup.txtComment1);
