@@ -29,6 +29,17 @@ constexpr const char* kSavePrompt = "You have added or changed the Team Names ..
                                     "Do you want to save these changes made to\r\n"
                                     "the list of team names?";
 
+/// Sorts a name in, but next to an equal one wherever that stands: a changed name keeps its row, which can lead the
+/// search for the sorted place astray, and the file is freed only of doubles that are neighbours.
+/// @returns the row's index
+std::size_t insertTeam(std::vector<std::string>& rows, const std::string& team)
+{
+    const auto same = std::ranges::find(rows, team);
+    if (same == rows.end())
+        return insertSorted(rows, team);
+    return static_cast<std::size_t>(rows.insert(same, team) - rows.begin());
+}
+
 } // namespace
 
 void frmPoolEntry::addName()
@@ -36,7 +47,7 @@ void frmPoolEntry::addName()
     const std::string team = m_platform.dialogs.ask({kAdditionCaption, kAdditionPrompt, {}});
     if (team.empty())
         return;
-    const auto row = static_cast<int>(insertSorted(lstTeamNames.rows, team));
+    const auto row = static_cast<int>(insertTeam(lstTeamNames.rows, team));
     if (lstTeamNames.selected && row <= *lstTeamNames.selected)
         ++*lstTeamNames.selected; // the same name stays selected
     m_state.teamNames.changed = true;
@@ -93,7 +104,7 @@ bool frmPoolEntry::saveTeamNames()
     if (answer == ui::Answer::Yes) {
         std::vector<std::string> rows = lstTeamNames.rows;
         for (const std::string& team : m_state.teamNames.newNames)
-            insertSorted(rows, team);
+            insertTeam(rows, team);
         if (!WriteTeamNames(m_folder, m_platform.dialogs, rows))
             return false;
         lstTeamNames.rows = std::move(rows);

@@ -208,6 +208,18 @@ TEST_F(frmPoolEntryNames, SavingOnExitSortsTypedNamesInAndWritesOneThatWasThereA
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
 }
 
+TEST_F(frmPoolEntryNames, ATypedNameIsWrittenOnceAlsoWhenAChangedNameStandsOutOfOrder)
+{
+    frmPoolEntry& screen = loaded();
+    pressRow(4); // Iowa St., in the middle, where a search for a sorted place looks first
+    dialogs().type("Ames").answer(Answer::Yes);
+    click(screen.cmdChangeName);
+    typeFreely(0, "Duke");
+    screen.mnuEnd.click();
+    EXPECT_EQ(files.get("NCAALIST.THS"), crlf({"*START*", "Akron", "Duke", "Duquesne", "Iowa", "Ames", "Kansas", "LSU",
+                                               "Ohio", "Texas", "*END*"}));
+}
+
 TEST_F(frmPoolEntryNames, AnsweringNoOnExitLosesTypedNames)
 {
     loaded();
