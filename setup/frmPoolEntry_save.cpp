@@ -44,6 +44,10 @@ void frmPoolEntry::finalize()
 {
     FinalizeState = "1";
     cmdFinalize.enabled = false;
+    // A disabled button cannot keep the focus. Left alone it would go on to the list, where pressing Enter once more
+    // would put the list's missing selection into a team box.
+    if (focused == &cmdFinalize)
+        focused = controlAtTab(cmdFinalize.tabIndex - 1);
     showStatus();
 }
 

@@ -83,8 +83,9 @@ class TheFieldOf2000(unittest.TestCase):
         self.assertNotIn("POOLSTART.THS", self.program.files())
 
     def finalize(self):
-        while not self.program.widget("cmdFinalize")["focus"]:
-            self.program.key("Shift+Tab")
+        self.focus_is_on("txtInfo6_5")
+        self.program.key("Tab")
+        self.focus_is_on("cmdFinalize")
         self.program.key("Space")
         self.program.wait(lambda: not self.program.enabled("cmdFinalize"), "Finalize Tournament being pressed")
         self.program.key("Ctrl+S")

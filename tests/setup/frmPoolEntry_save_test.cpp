@@ -107,6 +107,16 @@ TEST_F(frmPoolEntrySave, FinalizeArmsTheNextSaveAndDisablesItself)
     EXPECT_NE(screen.status.find("Finalize Tournament takes effect with File, Save."), std::string::npos);
 }
 
+TEST_F(frmPoolEntrySave, EnterPressedTwiceOnFinalizeEmptiesNoTeamBox)
+{
+    frmPoolEntry& screen = loaded();
+    const std::vector<std::string> before = teams(0, 64);
+    click(screen.cmdFinalize);
+    EXPECT_EQ(screen.focused, &screen.txtInfo6[5]);
+    press(ui::Key::Enter);
+    EXPECT_EQ(teams(0, 64), before);
+}
+
 TEST_F(frmPoolEntrySave, FinalizingRefusesAnEmptyTeamName)
 {
     frmPoolEntry& screen = loaded();

@@ -240,6 +240,16 @@ TEST_F(SetupViewTest, CommentsHoldSeveralLines)
     EXPECT_EQ(setup.status, "There are changes that are not saved yet.");
 }
 
+TEST_F(SetupViewTest, EnterPressedTwiceOnFinalizeEmptiesNoTeamBox)
+{
+    widget<QPushButton>(setup.cmdFinalize).setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(setup.FinalizeState, "1");
+    EXPECT_EQ(view->focusWidget(), view->widgetOf(setup.txtInfo6[5]));
+    press(Qt::Key_Return);
+    EXPECT_EQ(team(0).text(), "TEAM1");
+}
+
 TEST_F(SetupViewTest, EscapeDoesNotLeaveTheScreen)
 {
     press(Qt::Key_Escape);
