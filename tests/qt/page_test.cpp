@@ -125,6 +125,20 @@ TEST(Page, SelectingAnOptionDeselectsTheOthersInTheModelToo)
     EXPECT_FALSE(shown.screen.optChoice[2].selected);
 }
 
+TEST(Page, OptionsAddedSinglyFormOneGroup)
+{
+    Desk desk;
+    SampleScreen screen;
+    Page page{screen, desk};
+    QRadioButton* first = page.add(screen.optChoice[0]);
+    QRadioButton* second = page.add(screen.optChoice[1]);
+    first->click();
+    second->click();
+    EXPECT_FALSE(first->isChecked());
+    EXPECT_FALSE(screen.optChoice[0].selected);
+    EXPECT_TRUE(screen.optChoice[1].selected);
+}
+
 TEST(Page, BuildsItsMenuBarFromTheScreensMenus)
 {
     Shown shown;

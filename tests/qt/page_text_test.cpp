@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTextCursor>
 #include <gtest/gtest.h>
 
@@ -177,4 +179,34 @@ TEST(PageText, ALineBreakPastedIntoOneLineBecomesABlank)
     shown.page.notes->setFocus();
     QTest::keyClick(shown.page.notes, Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(shown.screen.txtNotes.text, "one\r\ntwo\r\n");
+}
+
+TEST(PageText, DroppedTextTakesTheSamePathAsPastedText)
+{
+    Shown shown;
+    std::string offered;
+    shown.screen.pasteRule = [&](ui::TextBox&, const std::string& text) {
+        offered = text;
+        return text == "consumed";
+    };
+    QMimeData data;
+    for (const char* text : {"consumed", "kept"}) {
+        data.setText(QLatin1String{text});
+        QDropEvent drop{QPointF{5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
+        QApplication::sendEvent(shown.page.name, &drop);
+        EXPECT_EQ(offered, text);
+    }
+    EXPECT_EQ(shown.screen.txtName.text, "kept");
+}
+
+TEST(PageText, ALockedBoxTakesNoPastedTextAndAsksNobody)
+{
+    Shown shown;
+    shown.desk.run(shown.screen, [&] { shown.screen.txtName.locked = true; });
+    bool asked = false;
+    shown.screen.pasteRule = [&](ui::TextBox&, const std::string&) { return asked = true; };
+    QApplication::clipboard()->setText(QStringLiteral("text"));
+    QTest::keyClick(shown.page.name, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_FALSE(asked);
+    EXPECT_EQ(shown.screen.txtName.text, "");
 }

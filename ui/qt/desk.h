@@ -77,7 +77,7 @@ public:
     /// Called after every push, such as for the frame's title.
     std::function<void()> pushed;
 
-    /// F1 on a screen that has no help menu; the window of a modal dialog is no place to ask from.
+    /// F1 on a screen that has no help menu.
     std::function<void(const ui::Screen&)> helpWanted;
 
 private:
