@@ -2,7 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDropEvent>
+#include <QDragEnterEvent>
 #include <QMimeData>
 #include <QTextCursor>
 #include <gtest/gtest.h>
@@ -192,6 +192,8 @@ TEST(PageText, DroppedTextTakesTheSamePathAsPastedText)
     QMimeData data;
     for (const char* text : {"consumed", "kept"}) {
         data.setText(QLatin1String{text});
+        QDragEnterEvent enter{{5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
+        QApplication::sendEvent(shown.page.name, &enter); // a drop goes to the widget that was entered
         QDropEvent drop{QPointF{5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
         QApplication::sendEvent(shown.page.name, &drop);
         EXPECT_EQ(offered, text);
