@@ -11,6 +11,7 @@
 #include "ui/screen.h"
 
 #include <array>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -70,6 +71,7 @@ private:
     // The output step.
     Result<Done> OutputReport(std::string_view reportKey, const ReportLines& lines);
     void printReport(const ReportKind& kind, const ReportLines& lines);
+    void deliverBusily(const char* what, const std::function<Result<Done>()>& deliver);
     void previewSelectedReports();
     void saveSelectedReportsAsPdf();
     void saveAsPdf(const ReportKind& kind, const ReportLines& lines);

@@ -3,6 +3,7 @@
 #include "model/printing_trouble.h"
 #include "model/text_file.h"
 #include "model/windows1252.h"
+#include "model/work.h"
 #include "reports/frmPoolReports.h"
 #include "reports/report_output.h"
 
@@ -36,7 +37,18 @@ void frmPoolReports::printReport(const ReportKind& kind, const ReportLines& line
     const std::optional<PrinterSetup> setup = setUpPrinter(m_platform, showDialog, kind.orientation);
     if (!setup)
         return;
-    if (!m_platform.printer.print(textPrintout(kind.name, lines, *setup, m_platform.printer)))
+    deliverBusily(kind.name,
+                  [&] { return m_platform.printer.print(textPrintout(kind.name, lines, *setup, m_platform.printer)); });
+}
+
+/// Thousands of pages take a moment to paint; the pointer is normal again before a failure is told.
+void frmPoolReports::deliverBusily(const char* what, const std::function<Result<Done>()>& deliver)
+{
+    const Result<Done> delivered = [&] {
+        const Work work{m_platform.progress, what, 1};
+        return deliver();
+    }();
+    if (!delivered)
         showPrintingTrouble(m_platform.dialogs);
 }
 
@@ -83,8 +95,9 @@ void frmPoolReports::saveAsPdf(const ReportKind& kind, const ReportLines& lines)
     const std::optional<PrinterSetup> setup = setUpPrinter(m_platform, false, kind.orientation);
     if (!setup)
         return;
-    if (!m_platform.printer.savePdf(textPrintout(kind.name, lines, *setup, m_platform.printer), *file))
-        showPrintingTrouble(m_platform.dialogs);
+    deliverBusily(kind.name, [&] {
+        return m_platform.printer.savePdf(textPrintout(kind.name, lines, *setup, m_platform.printer), *file);
+    });
 }
 
 /// @returns the file to write, its name ending in .PDF; nothing when the person does not want it after all

@@ -4,6 +4,7 @@
 #include "fakes/fake_dialogs.h"
 #include "ui/platform.h"
 
+#include <functional>
 #include <set>
 
 namespace tallyhoop::test {
@@ -16,6 +17,7 @@ public:
     std::optional<ui::PrinterFont> chosenFont;
     int pageWidth = 11840;
     std::optional<Failure> trouble; ///< every printout fails with it
+    std::function<void()> whilePrinting;
 
     int printerDialogs = 0;
     int fontDialogs = 0;
@@ -47,7 +49,12 @@ public:
     void preview(const ui::DrawingPrintout& printout) override { previewedDrawings.push_back(printout); }
 
 private:
-    Result<Done> outcome() const { return trouble ? Result<Done>{*trouble} : Result<Done>{Done{}}; }
+    Result<Done> outcome() const
+    {
+        if (whilePrinting)
+            whilePrinting();
+        return trouble ? Result<Done>{*trouble} : Result<Done>{Done{}};
+    }
 };
 
 class FakeMail : public ui::Mail

@@ -139,6 +139,25 @@ TEST_F(ReportsOutput, ReportsAPrintingFailureAndKeepsTheTick)
     EXPECT_TRUE(isTicked(kStandings));
 }
 
+TEST_F(ReportsOutput, IsBusyWhileItPrintsAndNoLongerWhenAFailureIsTold)
+{
+    tick({kStandings});
+    platform.printer.trouble = Failure{"out of paper"};
+    int busy = 0;
+    platform.printer.whilePrinting = [&] { busy += platform.progress.begun - platform.progress.ended; };
+    platform.dialogs.whileShown = [this](const ui::Message&) {
+        EXPECT_EQ(platform.progress.begun, platform.progress.ended);
+    };
+
+    create(kPrinter);
+    EXPECT_EQ(busy, 1);
+
+    platform.dialogs.pick(folder.path() / "standings.PDF");
+    screen.cmdSavePdf.click();
+    EXPECT_EQ(busy, 2);
+    EXPECT_EQ(platform.dialogs.shown, (std::vector{kPrintingFailed, kPrintingFailed}));
+}
+
 TEST_F(ReportsOutput, ShowsTickedReportsInAPreviewWithoutWritingOrPrintingAnything)
 {
     tick({kStandings, kByTeam});
