@@ -5,7 +5,7 @@ import subprocess
 import sys
 import unittest
 
-from program import Program
+from program import Program, centre
 from sample_pool import install
 
 sys.path.append(str(pathlib.Path(__file__).parents[1] / "approved/messy"))
@@ -114,6 +114,37 @@ class Reports(unittest.TestCase):
         self.assertEqual(box["text"].splitlines(), ["You will need to select one of the Report Selections before",
                                                     'choosing the "Create Selected Reports" Command Button'])
         self.assertNotIn("TEMPPRT.TXT", self.program.files())
+
+    def test_a_scored_selection_is_printed_by_the_board_once_everything_is_chosen(self):
+        self.program.click("cmdSelectedPrintouts")
+        box = self.program.answer("OK", "Tallyhoop - frmPoolReports, cmdSelectedPrintouts")
+        self.assertEqual(box["text"].splitlines(), ["You need to make a selection from one of the two options",
+                                                    "for selected printouts.  Please try again."])
+        self.program.click("optSelected_0")
+        self.program.click("cmdSelectedPrintouts")
+        box = self.program.answer("OK", "Tallyhoop - frmPoolReports, cmdSelectedPrintouts")
+        self.assertEqual(box["text"].splitlines(), ["You must select one of the entries from the list ",
+                                                    "of File Names for display.", "",
+                                                    "Make a selection and then retry."])
+        self.assertTrue(self.program.visible("optSelected_0"))
+        self.program.click_at(centre(self.program.table("filList")["rects"][3][0]))
+        self.program.click("cmdSelectedPrintouts")
+        self.program.answer("Cancel", "Print")
+        self.assertFalse(self.program.visible("optSelected_0"))
+        self.assertEqual(self.program.text("txtPlayerName"), "Demo Prophet")
+        self.assertEqual(self.program.text("txtPointScore"), "Points: 80 / 120")
+        self.program.menu("mnuReports")
+        self.program.wait(lambda: self.program.visible("optSelected_0"), "the reports coming back")
+        self.assertFalse(self.program.widget("optSelected_0")["checked"])
+        self.assertFalse(self.program.widget("optSelected_1")["checked"])
+
+    def test_custom_reporting_opens_the_scores_in_front_of_the_results(self):
+        self.program.click("cmdCustomReport")
+        self.program.wait(lambda: self.program.visible("msgScoreDisplay"), "the scores")
+        self.assertFalse(self.program.visible("cmdCustomReport"))
+        self.assertEqual(self.program.text("txtPlayerName"), "FinalResults")
+        self.program.wait(lambda: any(window["active"] and window["name"] == "frmPoolMisc"
+                                      for window in self.program.windows()), "the scores in front")
 
 
 if __name__ == "__main__":
