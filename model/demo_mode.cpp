@@ -28,6 +28,9 @@ ui::Message askBeforeEntering()
         ui::Buttons::OkCancel, ui::Icon::Question};
 }
 
+/// Says which file or folder is in the way before the system's reason.
+Failure failureAt(const std::string& path, const Failure& failure) { return Failure{path + "\r\n" + failure.message}; }
+
 ui::Message trouble(const std::string& what, const Failure& failure)
 {
     return {kCaption, what + "\r\n \r\n" + failure.message, ui::Buttons::Ok, ui::Icon::Critical};
@@ -46,9 +49,9 @@ std::optional<Failure> obstacle(const std::filesystem::path& installer, const Da
                                 const ui::Platform& platform)
 {
     if (const Result<Done> checked = platform.programs.check(installer); !checked)
-        return Failure{shown(installer) + "\r\n" + checked.failure().message};
+        return failureAt(shown(installer), checked.failure());
     if (const Result<Done> checked = folder.checkWritable(); !checked)
-        return Failure{shown(folder.folder()) + "\r\n" + checked.failure().message};
+        return failureAt(shown(folder.folder()), checked.failure());
     return std::nullopt;
 }
 
@@ -59,7 +62,7 @@ Result<Done> clearDemoDataFiles(const DataFolder& folder)
     Result<Done> outcome = Done{};
     for (const char* name : demoDataFiles())
         if (const Result<Done> removed = folder.remove(name); !removed && outcome)
-            outcome = Failure{folder.shownPathOf(name) + "\r\n" + removed.failure().message};
+            outcome = failureAt(folder.shownPathOf(name), removed.failure());
     return outcome;
 }
 
@@ -77,7 +80,8 @@ bool startDemo(const DataFolder& folder, const ui::Platform& platform)
         return false;
     }
     if (const Result<Done> started = platform.programs.start(installer); !started) {
-        platform.dialogs.show(trouble("Demonstration mode could not be started.", started.failure()));
+        platform.dialogs.show(
+            trouble("Demonstration mode could not be started.", failureAt(shown(installer), started.failure())));
         return false;
     }
     platform.dialogs.show(kContinueInDemo);

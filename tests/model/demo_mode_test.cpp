@@ -131,7 +131,9 @@ TEST(StartDemo, SaysThatTheInstallerFailedToStartAfterAll)
     pool.platform.programs.startTrouble = Failure{"Out of memory"};
     EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
     ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
-    EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode could not be started.\r\n \r\nOut of memory");
+    EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode could not be started.\r\n \r\n" +
+                                                       (pool.scratch.path() / "DEMOSET.EXE").string() +
+                                                       "\r\nOut of memory");
     EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
 }
 

@@ -18,14 +18,9 @@ namespace {
 
 constexpr qint64 kRefresh = 50; ///< milliseconds between two looks at it
 
-Failure failureOf(const std::filesystem::path& program, const QString& reason)
+Failure failureOf(std::errc reason)
 {
-    return Failure{fromQString(fromPath(program)) + ": " + fromQString(reason)};
-}
-
-Failure failureOf(const std::filesystem::path& program, std::errc reason)
-{
-    return failureOf(program, QString::fromStdString(std::make_error_code(reason).message()));
+    return Failure{fromQString(QString::fromStdString(std::make_error_code(reason).message()))};
 }
 
 } // namespace
@@ -34,11 +29,11 @@ Result<Done> QtPrograms::check(const std::filesystem::path& program)
 {
     const QFileInfo file{fromPath(program)};
     if (!file.exists())
-        return failureOf(program, std::errc::no_such_file_or_directory);
+        return failureOf(std::errc::no_such_file_or_directory);
     if (file.isDir())
-        return failureOf(program, std::errc::is_a_directory);
+        return failureOf(std::errc::is_a_directory);
     if (!file.isExecutable())
-        return failureOf(program, std::errc::permission_denied);
+        return failureOf(std::errc::permission_denied);
     return Done{};
 }
 
@@ -60,7 +55,7 @@ Result<Done> QtPrograms::start(const std::filesystem::path& program)
         [](QProcess::CreateProcessArguments* arguments) { arguments->flags |= kNoWindow; });
 #endif
     if (!process.startDetached())
-        return failureOf(program, process.errorString());
+        return Failure{fromQString(process.errorString())};
     return Done{};
 }
 
