@@ -170,6 +170,8 @@ void frmPoolMain::applyOpening()
     if (m_opening == Opening::Plain)
         return;
     const bool entered = m_opening == Opening::DemoEntered;
+    // A hasty OK finds the sample field there and the settings not yet; the way back must be open all the same.
+    mnuDemo.enabled = true;
     mnuDemoReset.enabled = entered;
     mnuDemoSet.enabled = !entered;
     lblDemoMode.visible = entered;

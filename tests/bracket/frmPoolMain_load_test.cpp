@@ -126,6 +126,14 @@ TEST_F(frmPoolMainLoad, ShowsDemoStateAfterTheDemoCommandsWhateverTheFilesSay)
     EXPECT_TRUE(board->lblDemoMode.visible);
 }
 
+TEST_F(frmPoolMainLoad, LetsDemoModeBeLeftThoughItsSettingsWereNotWrittenYet)
+{
+    putSetup("1");
+    load(Opening::DemoEntered);
+    EXPECT_TRUE(board->mnuDemo.enabled);
+    EXPECT_TRUE(board->mnuDemoReset.enabled);
+}
+
 TEST_F(frmPoolMainLoad, StartsAfreshWhenDemoModeIsLeft)
 {
     load(Opening::DemoLeft);
