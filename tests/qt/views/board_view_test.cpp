@@ -60,7 +60,7 @@ protected:
     void release(QPoint at) { QTest::mouseRelease(&find(QStringLiteral("bracketCanvas")), Qt::LeftButton, {}, at); }
 
     /// What comes up under a pointer that rests on a place.
-    QString tipOf(QAbstractButton& widget)
+    QString tipOf(QWidget& widget)
     {
         QToolTip::hideText();
         EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
@@ -81,6 +81,18 @@ protected:
 };
 
 TEST_F(BoardViewTest, ShowsEveryControl) { EXPECT_EQ(view.controlsWithoutWidget(), std::vector<std::string>{}); }
+
+TEST_F(BoardViewTest, APlaceAndItsMarkerTouchAtEverySize)
+{
+    for (int width = 1030; width < 1050; ++width) {
+        view.resize(width, 700);
+        for (int game = 0; game < kGames; ++game) {
+            const int position = index(gamePositions()[static_cast<std::size_t>(game)]);
+            const QWidget& marker = find(QStringLiteral("lblResult_%1").arg(game));
+            ASSERT_EQ(place(position).geometry().right() + 1, marker.geometry().left()) << width << ", game " << game;
+        }
+    }
+}
 
 TEST_F(BoardViewTest, ADragCarriesTheNameAndLandsWhereItIsLetGo)
 {
@@ -150,6 +162,23 @@ TEST_F(BoardViewTest, ACutNameIsWholeInItsToolTipLetterForLetter)
     EXPECT_EQ(tipOf(place(16)),
               QStringLiteral("<qt>A&amp;M &lt;b&gt; ") + QString::fromStdString(longName) + QStringLiteral("</qt>"));
     EXPECT_EQ(tipOf(place(0)), QStringLiteral("<qt>Left Click or Drag to Select</qt>"));
+}
+
+TEST_F(BoardViewTest, ATitleThatDoesNotFitShowsItsBeginningAndIsWholeInItsToolTip)
+{
+    auto& title = find<QLabel>(QStringLiteral("lblTitle"));
+    board.lblTitle.text = "Smith & Sons " + std::string(300, 'W');
+    desk.push();
+    EXPECT_EQ(title.text(), QString::fromStdString(board.lblTitle.text));
+    EXPECT_EQ(tipOf(title),
+              QStringLiteral("<qt>Smith &amp; Sons ") + QString(300, QLatin1Char{'W'}) + QStringLiteral("</qt>"));
+    const QImage cut = title.grab().toImage();
+    board.lblTitle.text = "Jones & Sons " + std::string(300, 'W');
+    desk.push();
+    EXPECT_NE(title.grab().toImage(), cut) << "the beginning is not to be seen";
+    board.lblTitle.text = "Smith & Sons";
+    desk.push();
+    EXPECT_EQ(tipOf(title), QString{});
 }
 
 TEST_F(BoardViewTest, AnEmptyPickThatIsWrongIsRedLikeItsMark)

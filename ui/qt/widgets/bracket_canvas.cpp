@@ -3,6 +3,7 @@
 #include "ui/qt/look.h"
 #include "ui/qt/paint_drawing.h"
 #include "ui/qt/text.h"
+#include "ui/qt/widgets/elided_label.h"
 #include "ui/qt/widgets/slot_label.h"
 
 #include <QApplication>
@@ -21,7 +22,14 @@ constexpr double kSmallestText = 8;
 constexpr double kShrinkFloor = 0.86; ///< names that would need even smaller letters are cut instead
 constexpr ui::Colour kTeamColour{0, 0, 255};
 
-QRect toQRect(const ui::Rectangle& place) { return QRectF{place.x, place.y, place.width, place.height}.toRect(); }
+/// Rounds the edges, so that neighbours that touch still touch: a place and its marker are one box for the eye.
+QRect toQRect(const ui::Rectangle& place)
+{
+    const auto edge = [](double value) { return static_cast<int>(std::lround(value)); };
+    const QPoint topLeft{edge(place.x), edge(place.y)};
+    const QPoint behind{edge(place.x + place.width), edge(place.y + place.height)};
+    return {topLeft, behind - QPoint{1, 1}};
+}
 
 std::function<void(const ui::Label&)> showOn(SlotLabel* widget)
 {
@@ -52,10 +60,10 @@ BracketCanvas::BracketCanvas(frmPoolMain& board, Page& page) : m_board{board}, m
 
 QLabel* BracketCanvas::placed(ui::Label& label, Qt::Alignment alignment)
 {
-    QLabel* const widget = m_page.add(label);
-    widget->setParent(this);
+    auto* const widget = new ElidedLabel{this};
+    widget->setTextFormat(Qt::PlainText);
     widget->setAlignment(alignment);
-    return widget;
+    return m_page.adopt(label, widget, [widget](const ui::Label& shown) { widget->setText(toQString(shown.text)); });
 }
 
 ui::Label& BracketCanvas::pointsOf(std::size_t caption)
