@@ -170,6 +170,7 @@ private:
     QButtonGroup* newOptionGroup();
     QRadioButton* addToGroup(ui::OptionButton& option, QButtonGroup& group);
     void edited(ui::TextBox& box);
+    void keepSelectionThroughClick(QLineEdit& edit, const QEvent& event);
 
     void buildMenuBar();
     QAction* addEntry(ui::MenuEntry& entry, QWidget& holder);
@@ -202,6 +203,8 @@ private:
     ui::Control* m_focusSeen = nullptr;
     ui::Control* m_focusReported = nullptr;
     QButtonGroup* m_singleOptions = nullptr;
+    const QLineEdit* m_clickedInto = nullptr; ///< got its focus by the mouse press that is on its way
+    bool m_selectedOnFocus = false;           ///< and the screen selected text in it for that
     bool m_pushing = false;
     bool m_tabsChanged = false;
 };

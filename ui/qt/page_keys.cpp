@@ -112,6 +112,8 @@ bool Page::eventFilter(QObject* watched, QEvent* event)
         return true;
     auto* box = dynamic_cast<ui::TextBox*>(&control);
     auto* edit = qobject_cast<QLineEdit*>(watched);
+    if (edit)
+        keepSelectionThroughClick(*edit, *event);
     if (box && edit && !edit->isReadOnly() && filterPaste(*box, *edit, *event))
         return true;
     return QMainWindow::eventFilter(watched, event);

@@ -4,9 +4,12 @@
 #include "ui/qt/text.h"
 #include "ui/qt/widgets/lines_edit.h"
 
+#include <QFocusEvent>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <algorithm>
+#include <utility>
 
 namespace tallyhoop::qt {
 
@@ -217,6 +220,28 @@ QPlainTextEdit* Page::addLines(ui::TextBox& box)
         edited(box);
     });
     return edit;
+}
+
+/// A screen may select the text of a box that gets the focus, so that typing replaces it. The click that brought the
+/// focus would put the caret into the middle instead; only the next click is about the caret.
+void Page::keepSelectionThroughClick(QLineEdit& edit, const QEvent& event)
+{
+    switch (event.type()) {
+    case QEvent::FocusIn:
+        m_clickedInto = static_cast<const QFocusEvent&>(event).reason() == Qt::MouseFocusReason ? &edit : nullptr;
+        break;
+    case QEvent::MouseButtonPress:
+        // A box that loses the focus drops its selection: what is selected now was selected for this focus.
+        m_selectedOnFocus = std::exchange(m_clickedInto, nullptr) == &edit && edit.hasSelectedText() &&
+                            static_cast<const QMouseEvent&>(event).button() == Qt::LeftButton;
+        break;
+    case QEvent::MouseButtonRelease:
+        if (std::exchange(m_selectedOnFocus, false) && !edit.hasSelectedText()) // else the mouse has selected a part
+            QMetaObject::invokeMethod(&edit, &QLineEdit::selectAll, Qt::QueuedConnection);
+        break;
+    default:
+        break;
+    }
 }
 
 void Page::edited(ui::TextBox& box) { run(box.edited); }

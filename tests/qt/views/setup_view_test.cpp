@@ -136,6 +136,38 @@ TEST_F(SetupViewTest, TypingAheadCompletesTheBoxAndSelectsTheRest)
     EXPECT_EQ(team(0).text(), "");
 }
 
+TEST_F(SetupViewTest, TypingReplacesTheTextOfABoxThatWasClickedInto)
+{
+    const QPoint middle{20, team(5).height() / 2}; // within "TEAM6"
+    QTest::mouseClick(&team(5), Qt::LeftButton, {}, middle);
+    QApplication::processEvents();
+    EXPECT_EQ(team(5).selectedText(), "TEAM6");
+    type("duk");
+    EXPECT_EQ(team(5).text(), "Duke");
+    QTest::mouseClick(&team(5), Qt::LeftButton, {}, middle); // now for the caret
+    QApplication::processEvents();
+    EXPECT_FALSE(team(5).hasSelectedText());
+}
+
+TEST_F(SetupViewTest, WhatTheMouseSelectsWithItsFirstPressStaysSelected)
+{
+    const int line = team(5).height() / 2;
+    QTest::mousePress(&team(5), Qt::LeftButton, {}, {2, line});
+    QTest::mouseMove(&team(5), {25, line});
+    QTest::mouseRelease(&team(5), Qt::LeftButton, {}, {25, line});
+    QApplication::processEvents();
+    EXPECT_TRUE(team(5).hasSelectedText());
+    EXPECT_LT(team(5).selectedText().size(), 5);
+}
+
+TEST_F(SetupViewTest, AClickIntoABoxWithoutSuchARulePutsTheCaretThere)
+{
+    auto& title = widget<QLineEdit>(setup.TxtInfo[0]);
+    QTest::mouseClick(&title, Qt::LeftButton, {}, {40, title.height() / 2});
+    QApplication::processEvents();
+    EXPECT_FALSE(title.hasSelectedText());
+}
+
 TEST_F(SetupViewTest, EnterGoesToTheNextBoxWhereTypingReplacesTheText)
 {
     type("iowa");
