@@ -60,17 +60,17 @@ std::optional<std::filesystem::path> selectionFileOf(const DataFolder& folder, s
         if (file && isSelectionFile(*file))
             return file;
     }
-    return name.size() == kFileNameWidth ? onlyFileBeginningWith(folder, name) : std::nullopt;
+    // The blank that pads a short name and the one that a long name was cut at look the same.
+    return onlyFileBeginningWith(folder, fitted(name, kFileNameWidth));
 }
 
 bool recordStandsFor(const DataFolder& folder, std::string_view recorded, std::string_view fileName)
 {
     const std::string name = trimTrailingBlanks(recorded);
-    const bool mayBeCut = name.size() == kFileNameWidth && !endsWithFolded(name, file_name::kSelectionEnding);
-    if (!mayBeCut)
+    const bool cut = fileName.size() > kFileNameWidth && !endsWithFolded(name, file_name::kSelectionEnding) &&
+                     startsWithFolded(fileName, fitted(name, kFileNameWidth));
+    if (!cut)
         return !name.empty() && equalFolded(withoutEnding(name), withoutEnding(fileName));
-    if (!startsWithFolded(fileName, name))
-        return false;
     const std::optional<std::filesystem::path> file = selectionFileOf(folder, name);
     return file && equalFolded(shown(file->filename()), fileName);
 }

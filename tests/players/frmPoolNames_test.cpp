@@ -456,6 +456,25 @@ TEST_F(frmPoolNamesTest, AFullRecordStandsForTheOneFileThatBeginsWithIt)
     EXPECT_FALSE(scratch.has(longName));
 }
 
+TEST_F(frmPoolNamesTest, ARecordCutAtABlankStandsForItsFileToo)
+{
+    const std::string longName = "Featherstonehaugh-Warburton Beau Jr_FB.THC"; // the 33rd character is the second blank
+    scratch.put(longName, "a bracket");
+    scratch.put("PLAYERNAMES.CSV", playerFile({csv("Featherstonehaugh", "FEATHERSTONEHAUGH-WARBURTON BEAU")}));
+    frmPoolNames& names = openAfterSave(SaveKind::NewFile, longName, "Featherstonehaugh,FB");
+    EXPECT_TRUE(names.lstNames.rows.empty()) << "its record was not found";
+    names.cmdCancel.click();
+
+    state.handOver.reset();
+    frmPoolNames& later = open();
+    select(0);
+    platform.dialogs.answer(ui::Answer::Ok);
+    later.cmdDelete.click();
+    EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kBothDeleted});
+    later.cmdExit.click();
+    EXPECT_FALSE(scratch.has(longName));
+}
+
 TEST_F(frmPoolNamesTest, AFullRecordThatSeveralFilesBeginWithStandsForNone)
 {
     const std::string start = "Montgomery-Featherstonehaugh_Wilh"; // 33 characters
