@@ -135,6 +135,7 @@ QPalette Style::calmPalette()
     palette.setColor(QPalette::Disabled, QPalette::Base, ground);
     palette.setColor(QPalette::Disabled, QPalette::Button, ground);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor{0xb8, 0xbe, 0xc8});
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, ink); // White could not be read on it.
     return palette;
 }
 
