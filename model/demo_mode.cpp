@@ -2,10 +2,13 @@
 #include "model/demo_mode.h"
 
 #include "model/file_names.h"
+#include "model/settings_file.h"
 #include "model/text.h"
 
+#include <chrono>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace tallyhoop {
@@ -55,6 +58,17 @@ std::optional<Failure> obstacle(const std::filesystem::path& installer, const Da
     return std::nullopt;
 }
 
+/// The person's OK mostly comes long after the installer has finished. One that comes at once must not find half a
+/// pool: the settings file is written last. An installer that fails is given up after a while.
+void waitForSamplePool(const DataFolder& folder)
+{
+    using namespace std::chrono_literals;
+    constexpr auto kStep = 10ms;
+    constexpr auto kLongest = 10s;
+    for (auto waited = 0ms; waited < kLongest && !demoModeIsOn(folder); waited += kStep)
+        std::this_thread::sleep_for(kStep);
+}
+
 } // namespace
 
 Result<Done> clearDemoDataFiles(const DataFolder& folder)
@@ -85,6 +99,7 @@ bool startDemo(const DataFolder& folder, const ui::Platform& platform)
         return false;
     }
     platform.dialogs.show(kContinueInDemo);
+    waitForSamplePool(folder);
     return true;
 }
 

@@ -16,7 +16,7 @@ inline constexpr std::array<const char*, 4> kDemoSelectionFiles = {
 /// @returns a failure naming the first file that could not be deleted; the others are deleted all the same
 Result<Done> clearDemoDataFiles(const DataFolder& folder);
 
-/// Clears the data files, starts the installer and waits for the person's OK. When the installer cannot be started or
+/// Clears the data files, starts the installer and waits for the person's OK and for the sample pool to be there. When the installer cannot be started or
 /// the folder cannot be written, says so and deletes nothing.
 /// @returns whether the sample pool was asked for
 bool startDemo(const DataFolder& folder, const ui::Platform& platform);

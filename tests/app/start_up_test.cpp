@@ -53,6 +53,7 @@ TEST_F(StartUp, OffersTheDemonstrationAfterTheBoardIsVisible)
 TEST_F(StartUp, InstallsTheSamplePoolAndReloadsTheBoardOnOk)
 {
     scratch.put(file_name::kDemoInstaller, "");
+    platform.programs.whenStarted = [&] { scratch.put(file_name::kSettings, "1\r\n"); };
     platform.dialogs.answer(ui::Answer::Ok);
     start();
     EXPECT_EQ(platform.programs.started, std::vector{scratch.path() / "DEMOSET.EXE"});

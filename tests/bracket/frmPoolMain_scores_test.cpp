@@ -236,6 +236,7 @@ TEST_F(frmPoolMainScores, EnteringDemoModeReloadsTheBoard)
 {
     scratch.put(file_name::kDemoInstaller, "");
     load();
+    platform.programs.whenStarted = [&] { putDemoMode(); };
     platform.dialogs.answer(ui::Answer::Ok);
     board->mnuDemoSet.click();
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);

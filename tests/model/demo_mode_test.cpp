@@ -6,6 +6,7 @@
 #include "model/settings_file.h"
 
 #include <gtest/gtest.h>
+#include <thread>
 
 namespace tallyhoop {
 namespace {
@@ -87,6 +88,22 @@ TEST(StartDemo, ClearsStartsTheInstallerAndWaitsForOk)
     EXPECT_TRUE(pool.scratch.has("Own_O.THC"));
 }
 
+TEST(StartDemo, LetsASlowInstallerFinishAfterAHastyOk)
+{
+    Pool pool;
+    std::thread installer;
+    pool.platform.dialogs.whileShown = [&](const ui::Message&) {
+        installer = std::thread{[&pool] {
+            pool.scratch.put("POOLSTART.THS", "*START*\r\n*END*\r\n");
+            pool.scratch.put("TALLYHOOP.INI", "1\r\n");
+        }};
+    };
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(pool.scratch.has("POOLSTART.THS"));
+    EXPECT_TRUE(demoModeIsOn(pool.scratch.folder()));
+    installer.join();
+}
+
 TEST(StartDemo, DeletesNothingWhenTheInstallerCannotBeStarted)
 {
     Pool pool;
@@ -141,6 +158,10 @@ TEST(EnterDemo, AsksFirst)
 {
     Pool pool;
     pool.platform.dialogs.answer(ui::Answer::Ok);
+    pool.platform.programs.whenStarted = [&pool] {
+        EXPECT_TRUE(pool.isCleared());
+        pool.scratch.put("TALLYHOOP.INI", "1\r\n");
+    };
     EXPECT_TRUE(enterDemo(pool.scratch.folder(), pool.platform.services));
     const ui::Message question{"** DEMO MODE SET **",
                                "You have selected to enter DEMO MODE\r\n"
@@ -152,7 +173,7 @@ TEST(EnterDemo, AsksFirst)
                                "Do you want to enter DEMO Mode?",
                                ui::Buttons::OkCancel, ui::Icon::Question};
     EXPECT_EQ(pool.platform.dialogs.shown, (std::vector<ui::Message>{question, kContinueInDemo}));
-    EXPECT_TRUE(pool.isCleared());
+    EXPECT_TRUE(pool.scratch.has("TALLYHOOP.INI"));
 }
 
 TEST(EnterDemo, ChangesNothingOnCancel)

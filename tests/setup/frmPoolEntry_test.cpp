@@ -239,6 +239,7 @@ TEST_F(frmPoolEntryTest, SaysSoWhenTheHelpFileCannotBeShown)
 TEST_F(frmPoolEntryTest, DemoStartReloadsThisScreenAfterTheQuestion)
 {
     frmPoolEntry& screen = loaded();
+    computer.programs.whenStarted = [this] { files.put("TALLYHOOP.INI", "1\r\n"); };
     dialogs().answer(Answer::Ok);
     screen.mnuDemoSet.click();
     EXPECT_EQ(dialogs().captionsShown(),
