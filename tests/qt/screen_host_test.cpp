@@ -194,25 +194,11 @@ TEST(ScreenHost, ClosingTheFrameUnloadsEverythingLastLoadedFirst)
         [&](Opening) { return std::make_unique<Order>(order, program.host); },
         [](Order& screen, Desk& desk) { return std::make_unique<SamplePage>(screen, desk); });
     program.host.load(ScreenKind::PlayerNames);
-    program.host.bringToFront(ScreenKind::Board);
     program.frame.close();
     EXPECT_EQ(order, std::vector<std::string>{"first"});
     EXPECT_TRUE(program.ended);
     EXPECT_FALSE(program.host.isLoaded(ScreenKind::Board));
     EXPECT_FALSE(program.frame.isVisible());
-}
-
-TEST(ScreenHost, TheFramesCloseButtonAsksTheScreenInFrontOfTheBoard)
-{
-    Program program;
-    program.host.load(ScreenKind::Board);
-    program.host.load(ScreenKind::Reports);
-    program.screen(ScreenKind::Reports).log.clear();
-    program.frame.close();
-    EXPECT_EQ(program.screen(ScreenKind::Reports).log, std::vector<std::string>{"close"});
-    EXPECT_TRUE(program.host.isLoaded(ScreenKind::Board));
-    EXPECT_FALSE(program.ended);
-    EXPECT_TRUE(program.frame.isVisible());
 }
 
 TEST(ScreenHost, TheFrameNamesTheScreenOrItsDocumentAndMarksUnsavedChanges)

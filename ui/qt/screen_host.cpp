@@ -38,7 +38,10 @@ ScreenHost::ScreenHost(Desk& desk, MainFrame& frame) : m_desk{desk}, m_frame{fra
 {
     m_desk.setFrame(&frame);
     m_desk.pushed = [this] { m_frame.refreshTitle(); };
-    m_frame.closeWanted = [this] { closeFrame(); };
+    m_frame.closeWanted = [this] {
+        if (m_desk.accepts(nullptr))
+            endProgram();
+    };
     ended = [] { QApplication::quit(); };
 }
 
@@ -211,15 +214,6 @@ void ScreenHost::bringToFront(ScreenKind kind)
         window->showNormal();
     window->raise();
     window->activateWindow();
-}
-
-void ScreenHost::closeFrame()
-{
-    Page* visible = m_frame.visiblePage();
-    if (visible && visible != page(ScreenKind::Board))
-        visible->run([visible] { visible->screen().closeRequested(); });
-    else if (m_desk.accepts(nullptr))
-        endProgram();
 }
 
 void ScreenHost::endProgram()

@@ -27,8 +27,7 @@ public:
     using MakeScreen = std::function<std::unique_ptr<ui::Screen>(Opening)>;
     using MakeView = std::function<std::unique_ptr<Page>(ui::Screen&, Desk&)>;
 
-    /// Takes over what the frame's close button does, unless something is modal: endProgram() from the board, a screen
-    /// in front of it decides for itself.
+    /// Takes over what the frame's close button does: endProgram(), unless something is modal.
     ScreenHost(Desk& desk, MainFrame& frame);
     ~ScreenHost() override;
 
@@ -86,7 +85,6 @@ private:
     void runModal(Loaded& one);
     void takeApart(Loaded& gone);
     void showLastStacked();
-    void closeFrame();
 
     Desk& m_desk;
     MainFrame& m_frame;
