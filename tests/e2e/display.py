@@ -7,6 +7,10 @@ import tempfile
 import time
 
 
+# Whatever a test starts ends with it, also when the test itself is killed.
+ENDING_WITH_US = ["setpriv", "--pdeathsig", "TERM"]
+
+
 class Display:
     """One Xvfb with openbox, on a display number that the server picks itself."""
 
@@ -15,7 +19,8 @@ class Display:
         told, tell = os.pipe()
         # Without -noreset the server starts afresh whenever its last client leaves, and takes newcomers down with it.
         self._server = subprocess.Popen(
-            ["Xvfb", "-displayfd", str(tell), "-screen", "0", f"{width}x{height}x24", "-nolisten", "tcp", "-noreset"],
+            [*ENDING_WITH_US, "Xvfb", "-displayfd", str(tell), "-screen", "0", f"{width}x{height}x24",
+             "-nolisten", "tcp", "-noreset"],
             pass_fds=[tell], stdout=self._log, stderr=self._log)
         os.close(tell)
         with os.fdopen(told) as number:
@@ -23,7 +28,7 @@ class Display:
         if not answer:
             raise RuntimeError("Xvfb did not start")
         self.name = ":" + answer
-        self._manager = subprocess.Popen(["openbox", "--sm-disable"], env=self.environment(),
+        self._manager = subprocess.Popen([*ENDING_WITH_US, "openbox", "--sm-disable"], env=self.environment(),
                                          stdout=self._log, stderr=self._log)
         # A window that comes before the window manager never gets the keyboard.
         end = time.monotonic() + 30

@@ -11,7 +11,7 @@ import subprocess
 import tempfile
 import time
 
-from display import Display
+from display import ENDING_WITH_US, Display
 from inspector import Inspector
 
 BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
@@ -118,7 +118,7 @@ class Program:
         executable = self._executable or self.folder / "tallyhoop"
         self.folder.mkdir(parents=True, exist_ok=True)
         with open(self._errors, "ab") as errors:
-            self._process = subprocess.Popen([str(executable)], cwd=self._scratch, env=environment,
+            self._process = subprocess.Popen([*ENDING_WITH_US, str(executable)], cwd=self._scratch, env=environment,
                                              stdin=subprocess.DEVNULL, stdout=errors, stderr=errors)
         self._inspector = Inspector(str(socket_path))
         self._inspector.connect(lambda: self._process.poll() is None, PATIENCE)
@@ -137,7 +137,8 @@ class Program:
 
     def close(self):
         """Closes the frame as the window manager's close button does, and waits for the end."""
-        self.wait(lambda: any(window["active"] and not window["modal"] for window in self.windows()), "the frame in front")
+        self.wait(lambda: any(window["active"] and not window["modal"] for window in self.windows()),
+                  "the frame in front")
         self._display.key("Alt+F4")
         return self.wait_for_end()
 
