@@ -164,6 +164,14 @@ protected:
 private:
     using Widgets = std::vector<std::pair<ui::Control*, QWidget*>>;
 
+    /// The box in which an input method is composing a text, and what it held before.
+    struct Composing {
+        QLineEdit* edit = nullptr;
+        QString text;
+        int selectionStart = -1;
+        int selectionLength = 0;
+    };
+
     void followCommonParts(ui::Control& control, QWidget& widget);
     QLineEdit* addLine(ui::TextBox& box);
     QPlainTextEdit* addLines(ui::TextBox& box);
@@ -178,6 +186,7 @@ private:
 
     bool filterKey(ui::Control& control, QKeyEvent& event);
     bool filterInputMethod(ui::Control& control, QEvent& event);
+    void endComposing();
     bool filterPaste(ui::TextBox& box, QLineEdit& edit, QEvent& event);
     bool filterContextMenu(ui::TextBox& box, QLineEdit& edit, QEvent& event);
     bool filterGridKey(ui::Grid& grid, QTableView& view, int key, bool moveColumn);
@@ -204,7 +213,8 @@ private:
     ui::Control* m_focusReported = nullptr;
     QButtonGroup* m_singleOptions = nullptr;
     const QLineEdit* m_clickedInto = nullptr; ///< got its focus by the mouse press that is on its way
-    bool m_selectedOnFocus = false;           ///< and the screen selected text in it for that
+    Composing m_composing;
+    bool m_selectedOnFocus = false; ///< and the screen selected text in it for that
     bool m_pushing = false;
     bool m_tabsChanged = false;
 };

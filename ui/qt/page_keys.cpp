@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QTableView>
+#include <utility>
 
 namespace tallyhoop::qt {
 
@@ -114,6 +115,8 @@ bool Page::eventFilter(QObject* watched, QEvent* event)
     auto* edit = qobject_cast<QLineEdit*>(watched);
     if (edit)
         keepSelectionThroughClick(*edit, *event);
+    if (edit && m_composing.edit == edit && event->type() == QEvent::FocusOut)
+        endComposing();
     if (box && edit && !edit->isReadOnly() && filterPaste(*box, *edit, *event))
         return true;
     return QMainWindow::eventFilter(watched, event);
@@ -154,7 +157,14 @@ bool Page::filterKey(ui::Control& control, QKeyEvent& event)
 
 bool Page::filterInputMethod(ui::Control& control, QEvent& event)
 {
-    const QString commit = static_cast<QInputMethodEvent&>(event).commitString();
+    const auto& composition = static_cast<QInputMethodEvent&>(event);
+    const QString commit = composition.commitString();
+    if (auto* edit = qobject_cast<QLineEdit*>(widgetOf(control))) {
+        if (m_composing.edit == edit && (!commit.isEmpty() || composition.preeditString().isEmpty()))
+            endComposing();
+        else if (m_composing.edit != edit && commit.isEmpty() && !composition.preeditString().isEmpty())
+            m_composing = {edit, edit->text(), edit->selectionStart(), edit->selectionLength()};
+    }
     if (commit.isEmpty())
         return false;
     std::string kept;
@@ -176,6 +186,21 @@ bool Page::filterInputMethod(ui::Control& control, QEvent& event)
     QApplication::sendEvent(widget, &rest);
     widget->installEventFilter(this);
     return true;
+}
+
+/// A box drops its selected text as soon as a composition begins in it, before any rule knows what will come of it. The
+/// rules get to see the box as it was then, as they do when a key brings the character at once.
+void Page::endComposing()
+{
+    const Composing was = std::exchange(m_composing, {});
+    if (was.selectionStart < 0 || was.edit->text() == was.text)
+        return;
+    was.edit->removeEventFilter(this);
+    QInputMethodEvent nothing;
+    QApplication::sendEvent(was.edit, &nothing);
+    was.edit->installEventFilter(this);
+    was.edit->setText(was.text);
+    was.edit->setSelection(was.selectionStart, was.selectionLength);
 }
 
 bool Page::filterPaste(ui::TextBox& box, QLineEdit& edit, QEvent& event)

@@ -183,6 +183,8 @@ QLineEdit* Page::addLine(ui::TextBox& box)
     m_pulls.push_back([&box, edit, seen] { pullText(box, *edit, *seen); });
     onPush([&box, edit, seen] { pushText(box, *edit, *seen); });
     connect(edit, &QLineEdit::textEdited, this, [this, edit, &box] {
+        if (m_composing.edit == edit)
+            return; // the selection made room for what is being composed
         showAsSaved(*edit);
         edited(box);
     });

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -46,6 +47,20 @@ protected:
     /// Presses a key where the focus is, as a keyboard does.
     void press(int key) { QTest::keyClick(view->focusWidget(), static_cast<Qt::Key>(key)); }
     void type(const QString& text) { QTest::keyClicks(view->focusWidget(), text); }
+
+    /// An input method shows a text it is still composing; an empty one gives it up.
+    void compose(const QString& text)
+    {
+        QInputMethodEvent event{text, {}};
+        QApplication::sendEvent(view->focusWidget(), &event);
+    }
+
+    void commit(const QString& text)
+    {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QApplication::sendEvent(view->focusWidget(), &event);
+    }
 
     void pressRow(int row)
     {
@@ -270,6 +285,35 @@ TEST_F(SetupViewTest, CommentsHoldSeveralLines)
     type("two");
     EXPECT_EQ(setup.txtComment1.text, "one\r\ntwo");
     EXPECT_EQ(setup.status, "There are changes that are not saved yet.");
+}
+
+TEST_F(SetupViewTest, AnInputMethodThatComposesLettersGoesOnWithTheTypedBeginning)
+{
+    type("du");
+    compose("q");
+    commit("q");
+    EXPECT_EQ(team(0).text(), "Duquesne");
+    EXPECT_EQ(team(0).selectedText(), "uesne");
+    compose("u");
+    compose("");
+    EXPECT_EQ(team(0).text(), "Duquesne"); // given up
+    EXPECT_EQ(setup.txtRegion[0].text, "Duquesne");
+    compose("x");
+    commit("x");
+    EXPECT_EQ(team(0).text(), "Duquesne"); // leads nowhere
+    compose("e");
+    press(Qt::Key_Tab);
+    EXPECT_EQ(team(0).text(), "Duquesne");
+}
+
+TEST_F(SetupViewTest, AComposedTextReplacesTheSelectedOneWhileSelectingIsOverridden)
+{
+    widget<QPushButton>(setup.cmdOverride).click();
+    team(0).setSelection(1, 3); // of TEAM1
+    compose("o");
+    commit("o");
+    EXPECT_EQ(team(0).text(), "To1");
+    EXPECT_EQ(setup.txtRegion[0].text, "To1");
 }
 
 TEST_F(SetupViewTest, EnterPressedTwiceOnFinalizeEmptiesNoTeamBox)
