@@ -21,8 +21,35 @@ constexpr const char* kFirstRoundTip = "Left Click or Drag to Select";
 constexpr std::array<const char*, 10> kRoundNames = {
     "1st round:", "2nd round:",     "Regional semi:",  "Regional final:", "1st round:",
     "2nd round:", "Regional semi:", "Regional final:", "Semi-final:",     "Final game:"};
-constexpr std::array<const char*, 7> kSpokenRounds = {
-    "first round", "second round", "third round", "regional final", "region winner", "semi-final winner", "champion"};
+constexpr std::array<const char*, kRounds> kSpokenRounds = {"first round",    "second round", "regional semi-final",
+                                                            "regional final", "semi-final",   "final"};
+
+std::string withoutBlanks(const std::string& text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? std::string{} : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// @returns "winner of second round, game 3": the games of a column are counted downwards, region by region
+std::string spokenGame(Position position)
+{
+    const int round = roundOf(position);
+    std::string spoken = std::string{"winner of "} + kSpokenRounds[static_cast<std::size_t>(round - 1)];
+    const bool inRegion = regionOf(position) >= 0;
+    const int games = inRegion ? kRowsPerRegion >> round : index(position) == kChampion ? 1 : 2;
+    const int firstOfColumn = inRegion ? 2 * kRowsPerRegion - (2 * kRowsPerRegion >> round) : 0;
+    if (games > 1)
+        spoken += ", game " + std::to_string(index(position) % kRegionBlock - firstOfColumn + 1);
+    return spoken;
+}
+
+/// @returns the marker as it is seen, and what it means
+std::string spokenVerdict(const std::string& marker)
+{
+    if (marker.empty())
+        return {};
+    return marker + (marker == "=" ? " right pick" : " wrong pick");
+}
 
 } // namespace
 
@@ -56,6 +83,12 @@ void frmPoolMain::describeControls()
         comment->multiLine = true;
         comment->locked = true;
         comment->tabStop = false;
+    }
+    for (std::size_t round = 0; round < lblInfo.size(); ++round) {
+        const std::string spoken = std::string{"Points for a win in the "} + kSpokenRounds[round];
+        lblInfo[round].spokenHint = spoken;
+        if (round < lblInfoRight.size())
+            lblInfoRight[round].spokenHint = spoken;
     }
     txtComment1.spokenName = "First comment of the organiser";
     txtComment2.spokenName = "Second comment of the organiser";
@@ -245,19 +278,18 @@ void frmPoolMain::describePositions()
     for (int i = 0; i < kPositions; ++i) {
         ui::Label& label = lblRegion[static_cast<std::size_t>(i)];
         const int region = regionOf(Position{i});
-        const int round = roundOf(Position{i});
         std::string place = region < 0 ? "" : lblRegionTitle[static_cast<std::size_t>(region)].text + ", ";
-        if (round == 0) {
+        if (isFirstRound(Position{i})) {
             const int row = i % kRegionBlock;
-            const std::string& seed = txtSeed[static_cast<std::size_t>(kRowsPerRegion * region + row)].text;
-            place += "first round, row " + std::to_string(row + 1) + ", seed " + seed;
+            ui::TextBox& seed = txtSeed[static_cast<std::size_t>(kRowsPerRegion * region + row)];
+            seed.spokenName = "Seed of " + place + "row " + std::to_string(row + 1);
+            place += "first round, row " + std::to_string(row + 1) + ", seed " + withoutBlanks(seed.text);
         } else {
-            place += "winner of " + std::string{kSpokenRounds[static_cast<std::size_t>(round - 1)]};
-            const int game = gameOf(Position{i});
-            const std::string& marker = lblResult[static_cast<std::size_t>(game)].text;
-            lblResult[static_cast<std::size_t>(game)].spokenName = marker;
-            if (!marker.empty())
-                place += marker == "=" ? ", right pick" : ", wrong pick";
+            place += spokenGame(Position{i});
+            ui::Label& marker = lblResult[static_cast<std::size_t>(gameOf(Position{i}))];
+            marker.spokenName = spokenVerdict(marker.text);
+            if (!marker.text.empty())
+                place += ", " + marker.spokenName;
         }
         label.spokenName = place + ": " + (label.text.empty() ? "no team" : label.text);
     }

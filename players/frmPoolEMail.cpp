@@ -80,6 +80,9 @@ frmPoolEMail::frmPoolEMail(const DataFolder& folder, const ui::Platform& platfor
     lstPlayerNames.spokenName = "Players";
     lstPlayerNames.doubleClicked = [this] { addSelectedPlayer(); };
     lstTo.spokenName = "Recipients";
+    txtEntry.spokenName = lblEntry.text;
+    txtSubject.spokenName = "Subject";
+    txtMessage.spokenName = "EMail message";
     txtMessage.multiLine = true;
     cmdFreeEntry.toolTip = "Type addresses of people who are not players";
     cmdUseList.toolTip = "Find players by typing the beginning of their names";

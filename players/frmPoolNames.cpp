@@ -48,6 +48,10 @@ frmPoolNames::frmPoolNames(const DataFolder& folder, const ui::Platform& platfor
     txtFileName.tabStop = false;
     cmdChange.toolTip = "Store the CHANGEs made";
     cmdDelete.toolTip = "Select to DELETE selected record";
+    txtName.spokenName = "Name: last, initials";
+    txtFileName.spokenName = "File name";
+    txtEmail.spokenName = "EMail address";
+    txtPhone.spokenName = "Phone number";
     lstNames.fixedPitch = true;
     lstNames.spokenName = "Players";
     lstNames.chosen = [this] {

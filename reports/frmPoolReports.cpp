@@ -46,6 +46,15 @@ frmPoolReports::frmPoolReports(const DataFolder& folder, const ui::Platform& pla
     letThePersonChoose(optDestination, kDestinations);
     letThePersonChoose(optSelected, kPrintouts);
     ui::selectOption(optDestination, 0);
+    cmdPrintSelections.mnemonic = 's';
+    cmdDefaultPrinter.mnemonic = 'd';
+    cmdPreview.mnemonic = 'p';
+    cmdSavePdf.mnemonic = 'f';
+    cmdSelectedPrintouts.mnemonic = 'c';
+    cmdPreviewBoard.mnemonic = 'b';
+    cmdSaveBoardPdf.mnemonic = 'a';
+    cmdCustomReport.mnemonic = 'g';
+    cmdExit.mnemonic = 'x';
     filList.spokenName = "Player selection files";
     txtReportTitle.spokenName = "Report title";
 }

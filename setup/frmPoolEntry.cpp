@@ -132,6 +132,8 @@ void frmPoolEntry::describeBoxes()
     txtComment1.spokenName = "Comment 1";
     txtComment2.spokenName = "Comment 2";
     txtComment1.edited = txtComment2.edited = [this] { showStatus(); };
+    cmdClear.mnemonic = 'l';
+    cmdFinalize.mnemonic = 'n';
     lstTeamNames.spokenName = "Team names";
     lstTeamNames.chosen = [this] { markLastTeamBox(true); };
 }

@@ -57,6 +57,8 @@ frmPoolSeatings::frmPoolSeatings(frmPoolEntry& setup, const ui::Platform& platfo
     }
     cmdComplete.tabIndex = kRowsPerRegion;
     cmdComplete.isDefault = true;
+    cmdComplete.mnemonic = 'o'; // Escape cancels as well, so the C is the cancelling one's
+    cmdCancel.mnemonic = 'c';
     cmdCancel.tabIndex = kRowsPerRegion + 1;
 }
 

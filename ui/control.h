@@ -64,6 +64,7 @@ struct Command : Control {
     Command(Screen* screen, std::string_view name, std::string caption, std::function<void()> action = {});
 
     std::string caption;    ///< ours, not data: an `&` marks the mnemonic
+    char mnemonic = 0;      ///< the letter that Alt presses where the caption marks none; 0 = none, or marked there
     bool isDefault = false; ///< Enter presses it
     std::function<void()> action;
 

@@ -34,6 +34,16 @@ TEST(QtText, LineBreaksBecomeTheWidgetsAndComeBack)
     EXPECT_EQ(withCrLf("\r\r\n\n"), "\r\n\r\n\r\n");
 }
 
+TEST(QtText, MarksTheMnemonicOfACaptionThatHasNone)
+{
+    EXPECT_EQ(withMnemonic(QStringLiteral("Create Selected Reports"), 's'), QStringLiteral("Create &Selected Reports"));
+    EXPECT_EQ(withMnemonic(QStringLiteral("Complete"), 'o'), QStringLiteral("C&omplete"));
+    EXPECT_EQ(withMnemonic(QStringLiteral("Preview"), 'p'), QStringLiteral("&Preview"));
+    EXPECT_EQ(withMnemonic(QStringLiteral("De&lete"), 'd'), QStringLiteral("De&lete"));
+    EXPECT_EQ(withMnemonic(QStringLiteral("Preview"), 'z'), QStringLiteral("Preview"));
+    EXPECT_EQ(withMnemonic(QStringLiteral("Preview"), 0), QStringLiteral("Preview"));
+}
+
 TEST(QtText, DataIsNeitherMarkupNorMnemonicNorMark)
 {
     EXPECT_EQ(withoutMnemonics(QStringLiteral("A&M")), QStringLiteral("A&&M"));

@@ -26,7 +26,9 @@ QPushButton* Page::add(ui::Command& command)
     // In a dialog every button would otherwise answer Enter; the page does that by the model's isDefault.
     button->setAutoDefault(false);
     followCommonParts(command, *button);
-    follow(command.caption, [button](const std::string& caption) { button->setText(toQString(caption)); });
+    follow(command.caption, [button, &command](const std::string& caption) {
+        button->setText(withMnemonic(toQString(caption), command.mnemonic));
+    });
     follow(command.isDefault, [button](bool isDefault) { button->setDefault(isDefault); });
     connect(button, &QPushButton::clicked, this, [this, &command] { run([&command] { command.click(); }); });
     return button;

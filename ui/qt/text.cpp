@@ -61,6 +61,18 @@ std::string withCrLf(std::string_view text)
 
 QString withoutMnemonics(const QString& data) { return QString{data}.replace(QLatin1Char{'&'}, QLatin1String{"&&"}); }
 
+QString withMnemonic(QString caption, char mnemonic)
+{
+    const QLatin1Char mark{'&'};
+    if (mnemonic == 0 || caption.contains(mark))
+        return caption;
+    const QLatin1Char letter{mnemonic};
+    const auto atWord =
+        (QLatin1Char{' '} + caption).indexOf(QLatin1Char{' '} + QString{letter}, 0, Qt::CaseInsensitive);
+    const auto at = atWord >= 0 ? atWord : caption.indexOf(letter, 0, Qt::CaseInsensitive);
+    return at >= 0 ? caption.insert(at, mark) : caption;
+}
+
 QString plainToolTip(const QString& data)
 {
     if (data.isEmpty())

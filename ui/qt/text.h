@@ -27,6 +27,11 @@ std::string withCrLf(std::string_view text);
 /// @returns data as a label with mnemonics shows it unharmed: every `&` doubled
 QString withoutMnemonics(const QString& data);
 
+/// @param mnemonic a letter, 0 = none
+/// @returns the caption with this letter marked, at the beginning of a word if it can be; unchanged when it is not
+/// there or a letter is marked already
+QString withMnemonic(QString caption, char mnemonic);
+
 /// @returns plain data as a tool tip that Qt cannot take for markup; empty stays empty
 QString plainToolTip(const QString& data);
 

@@ -111,7 +111,7 @@ TEST_F(ReportsViewTest, ListsTheFilesAndTakesTheChosenOne)
 TEST_F(ReportsViewTest, PressesReachTheCommands)
 {
     QTest::mouseClick(widget<QPushButton>("cmdDefaultPrinter"), Qt::LeftButton);
-    EXPECT_EQ(widget<QPushButton>("cmdDefaultPrinter")->text(), QStringLiteral("Select non default printer"));
+    EXPECT_EQ(widget<QPushButton>("cmdDefaultPrinter")->text(), QStringLiteral("Select non &default printer"));
 
     QTest::mouseClick(widget<QPushButton>("cmdExit"), Qt::LeftButton);
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Reports});

@@ -4,6 +4,7 @@
 #include "ui/qt/look.h"
 #include "ui/qt/text.h"
 
+#include <QAccessibleWidget>
 #include <QFocusEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
@@ -25,10 +26,20 @@ QColor groundOf(const QColor& colour)
     return look::toQColor(groundFor({part(colour.red()), part(colour.green()), part(colour.blue())}));
 }
 
+/// A marker cannot be pressed, whatever its class says.
+QAccessibleInterface* speakForMarker(const QString&, QObject* object)
+{
+    auto* const label = qobject_cast<SlotLabel*>(object);
+    const bool marker = label && label->part() == SlotLabel::Part::Marker;
+    return marker ? new QAccessibleWidget{label, QAccessible::StaticText} : nullptr;
+}
+
 } // namespace
 
 SlotLabel::SlotLabel(Part part, QWidget* parent) : QAbstractButton{parent}, m_part{part}
 {
+    static const bool kInstalled = (QAccessible::installFactory(&speakForMarker), true);
+    static_cast<void>(kInstalled);
     setMouseTracking(true);
     if (part == Part::Marker)
         setFocusPolicy(Qt::NoFocus);
@@ -108,14 +119,21 @@ void SlotLabel::paintEvent(QPaintEvent*)
     }
 }
 
+QString SlotLabel::tip() const
+{
+    if (!isElided())
+        return m_part == Part::Row ? toolTip() : QString{};
+    return plainToolTip(text()) + (toolTip().isEmpty() ? QString{} : QLatin1String{"<br>"} + toolTip());
+}
+
 bool SlotLabel::event(QEvent* event)
 {
-    if (event->type() != QEvent::ToolTip || m_part == Part::Row)
+    if (event->type() != QEvent::ToolTip)
         return QAbstractButton::event(event);
-    if (isElided())
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(text()), this);
-    else
+    if (const QString shown = tip(); shown.isEmpty())
         QToolTip::hideText();
+    else
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), shown, this);
     return true;
 }
 
