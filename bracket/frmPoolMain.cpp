@@ -30,6 +30,13 @@ std::string withoutBlanks(const std::string& text)
     return first == std::string::npos ? std::string{} : text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
+/// @returns a region's title, less the word that every listener knows: "West Region" is "West"
+std::string spokenRegion(const std::string& title)
+{
+    constexpr std::string_view kRegion = " Region";
+    return title.ends_with(kRegion) ? title.substr(0, title.size() - kRegion.size()) : title;
+}
+
 /// @returns "winner of second round, game 3": the games of a column are counted downwards, region by region
 std::string spokenGame(Position position)
 {
@@ -278,7 +285,8 @@ void frmPoolMain::describePositions()
     for (int i = 0; i < kPositions; ++i) {
         ui::Label& label = lblRegion[static_cast<std::size_t>(i)];
         const int region = regionOf(Position{i});
-        std::string place = region < 0 ? "" : lblRegionTitle[static_cast<std::size_t>(region)].text + ", ";
+        std::string place =
+            region < 0 ? "" : spokenRegion(lblRegionTitle[static_cast<std::size_t>(region)].text) + ", ";
         if (isFirstRound(Position{i})) {
             const int row = i % kRegionBlock;
             ui::TextBox& seed = txtSeed[static_cast<std::size_t>(kRowsPerRegion * region + row)];

@@ -158,21 +158,21 @@ TEST_F(frmPoolMainBoard, TellsVerdictsToThoseWhoCannotSeeColours)
     state.verdict.SlotStatus[17] = Verdict::Good;
     state.verdict.SlotStatus[25] = Verdict::Bad;
     board->MarkScores();
-    EXPECT_EQ(board->lblRegion[16].spokenName, "West Region, winner of first round, game 1, = right pick: R1T0");
-    EXPECT_EQ(board->lblRegion[24].spokenName, "West Region, winner of second round, game 1, X wrong pick: R1T0");
+    EXPECT_EQ(board->lblRegion[16].spokenName, "West, winner of first round, game 1, = right pick: R1T0");
+    EXPECT_EQ(board->lblRegion[24].spokenName, "West, winner of second round, game 1, X wrong pick: R1T0");
     EXPECT_EQ(board->lblResult[0].spokenName, "= right pick");
     board->ClearMarks();
-    EXPECT_EQ(board->lblRegion[16].spokenName, "West Region, winner of first round, game 1: R1T0");
+    EXPECT_EQ(board->lblRegion[16].spokenName, "West, winner of first round, game 1: R1T0");
     EXPECT_EQ(board->lblResult[0].spokenName, "");
 }
 
 TEST_F(frmPoolMainBoard, TellsEachPlaceApartByItsName)
 {
     loadFinalized();
-    EXPECT_EQ(board->lblRegion[2].spokenName, "West Region, first round, row 3, seed 8: R1T2");
-    EXPECT_EQ(board->lblRegion[23].spokenName, "West Region, winner of first round, game 8: no team");
-    EXPECT_EQ(board->lblRegion[29].spokenName, "West Region, winner of regional semi-final, game 2: no team");
-    EXPECT_EQ(board->lblRegion[30].spokenName, "West Region, winner of regional final: no team");
+    EXPECT_EQ(board->lblRegion[2].spokenName, "West, first round, row 3, seed 8: R1T2");
+    EXPECT_EQ(board->lblRegion[23].spokenName, "West, winner of first round, game 8: no team");
+    EXPECT_EQ(board->lblRegion[29].spokenName, "West, winner of regional semi-final, game 2: no team");
+    EXPECT_EQ(board->lblRegion[30].spokenName, "West, winner of regional final: no team");
     EXPECT_EQ(board->lblRegion[125].spokenName, "winner of semi-final, game 2: no team");
     EXPECT_EQ(board->lblRegion[126].spokenName, "winner of final: no team");
     std::set<std::string> names;

@@ -1,0 +1,180 @@
+// tests/qt/accessibility_test.cpp - every screen, for those who listen to it, use the keyboard, or need it large.
+#include "app/wiring.h"
+#include "bracket/frmPoolMain.h"
+#include "demo/sample_pool.h"
+#include "fakes/fake_platform.h"
+#include "fakes/scratch_folder.h"
+#include "qt/screen_walk.h"
+#include "scoring/frmPoolMisc.h"
+#include "ui/qt/look.h"
+#include "ui/qt/main_frame.h"
+#include "ui/qt/screen_host.h"
+#include "ui/qt/style.h"
+
+#include <QAccessible>
+#include <QAccessibleActionInterface>
+#include <QApplication>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace tallyhoop::qt {
+namespace {
+
+/// As desktops have it at night.
+QPalette darkPalette()
+{
+    QPalette palette{QColor{0x31, 0x36, 0x3b}, QColor{0x2a, 0x2e, 0x32}};
+    palette.setColor(QPalette::Base, QColor{0x1b, 0x1e, 0x20});
+    palette.setColor(QPalette::AlternateBase, QColor{0x23, 0x26, 0x29});
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::HighlightedText})
+        palette.setColor(role, QColor{0xfc, 0xfc, 0xfc});
+    palette.setColor(QPalette::PlaceholderText, QColor{0xa1, 0xa9, 0xb1});
+    palette.setColor(QPalette::Highlight, QColor{0x1d, 0x6f, 0xa5});
+    palette.setColor(QPalette::ToolTipBase, QColor{0x31, 0x36, 0x3b});
+    return palette;
+}
+
+enum class Light { Day, Night };
+
+/// The program on a small display with the sample pool.
+class Accessibility : public testing::TestWithParam<Light>
+{
+protected:
+    Accessibility()
+    {
+        QApplication::setStyle(new Style);
+        QApplication::setPalette(GetParam() == Light::Day ? Style::calmPalette() : darkPalette());
+        EXPECT_TRUE(demo::installSamplePool(folder));
+        registerScreens(host, folder, platform.services, state);
+        frame.resize(1366, 768 - kDesktop);
+        frame.show();
+        host.load(ScreenKind::Board);
+    }
+
+    ~Accessibility() override { QApplication::setPalette(m_before); }
+
+    /// Fails for whatever is wrong with this screen as it is now.
+    void examine(ScreenKind kind)
+    {
+        desk.push();
+        QApplication::processEvents();
+        Page* page = host.page(kind);
+        ASSERT_NE(page, nullptr);
+        ASSERT_TRUE(page->isVisible());
+        EXPECT_LE(page->window()->width(), 1366);
+        EXPECT_LE(page->window()->height(), 768 - kDesktop);
+        const ScreenWalk walk{*page};
+        EXPECT_EQ(walk.namelessControls().join('\n').toStdString(), "");
+        EXPECT_EQ(walk.wrongRoles().join('\n').toStdString(), "");
+        EXPECT_EQ(walk.mnemonicTroubles().join('\n').toStdString(), "");
+        EXPECT_EQ(walk.clippedTexts().join('\n').toStdString(), "");
+        EXPECT_EQ(walk.paleTexts().join('\n').toStdString(), "");
+    }
+
+    /// Loads a modal screen, examines it and leaves it.
+    void examineModal(ScreenKind kind)
+    {
+        QTimer::singleShot(0, qApp, [&] {
+            examine(kind);
+            desk.runInside(*host.screen(kind), [&] { host.unload(kind); });
+        });
+        host.load(kind);
+        EXPECT_FALSE(host.isLoaded(kind));
+    }
+
+    frmPoolMain& board() { return *host.find<frmPoolMain>(ScreenKind::Board); }
+
+    void onBoard(const std::function<void()>& command) { desk.runInside(board(), command); }
+
+    static constexpr int kDesktop = 60; ///< a title bar and a panel
+
+    const QPalette m_before = QApplication::palette();
+    test::ScratchFolder scratch;
+    DataFolder folder{scratch.folder()};
+    test::FakePlatform platform;
+    modTallyhoop state;
+    MainFrame frame;
+    Desk desk{&frame};
+    ScreenHost host{desk, frame};
+};
+
+TEST_P(Accessibility, OfTheColours) { EXPECT_EQ(paleRoles(QApplication::palette()).join('\n').toStdString(), ""); }
+
+TEST_P(Accessibility, OfTheBoard) { examine(ScreenKind::Board); }
+
+TEST_P(Accessibility, OfAScoredSelection)
+{
+    onBoard([&] {
+        board().showSelection(scratch.path() / "Demo Prophet_DP.THC");
+        board().ScoreSelections();
+    });
+    ASSERT_TRUE(board().marksShown());
+    examine(ScreenKind::Board);
+    EXPECT_EQ(host.page(ScreenKind::Board)->widgetOf(board().lblRegion[16])->palette().color(QPalette::WindowText),
+              (QColor{0, 255, 0}));
+    EXPECT_EQ(host.page(ScreenKind::Board)->widgetOf(board().lblRegion[18])->palette().color(QPalette::WindowText),
+              (QColor{255, 0, 0}));
+}
+
+TEST_P(Accessibility, OfTheScores)
+{
+    onBoard([&] {
+        board().EnterGameResults();
+        board().ScoreSelections();
+    });
+    auto* const scores = host.find<frmPoolMisc>(ScreenKind::ScoreDisplay);
+    ASSERT_NE(scores, nullptr);
+    desk.runInside(*scores, [&] { scores->cmdOk.click(); });
+    ASSERT_EQ(scores->msgScoreDisplay.rows.size(), 4U);
+    examine(ScreenKind::ScoreDisplay);
+    examine(ScreenKind::Board);
+}
+
+TEST_P(Accessibility, OfTheReports)
+{
+    onBoard([&] { board().mnuReports.click(); });
+    examine(ScreenKind::Reports);
+}
+
+TEST_P(Accessibility, OfThePlayerList)
+{
+    onBoard([&] { board().mnuEditNames.click(); });
+    examine(ScreenKind::PlayerNames);
+}
+
+TEST_P(Accessibility, OfTheSetup)
+{
+    onBoard([&] { board().mnuSetupOptions.click(); });
+    examine(ScreenKind::Setup);
+}
+
+TEST_P(Accessibility, OfTheSeedPositions)
+{
+    onBoard([&] { board().mnuSetupOptions.click(); });
+    examineModal(ScreenKind::SeedPositions);
+}
+
+TEST_P(Accessibility, OfTheMail) { examineModal(ScreenKind::EMail); }
+
+TEST_P(Accessibility, OfAPlaceThatAnAssistiveToolPresses)
+{
+    QWidget* const place = host.page(ScreenKind::Board)->widgetOf(board().lblRegion[2]);
+    QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(place);
+    ASSERT_NE(seen, nullptr);
+    EXPECT_EQ(seen->text(QAccessible::Name).toStdString(), "West, first round, row 3, seed 8: Wisconsin");
+    ASSERT_NE(seen->actionInterface(), nullptr);
+    seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return board().lblRegion[17].text == "Wisconsin"; }));
+    desk.push();
+    QWidget* const winner = host.page(ScreenKind::Board)->widgetOf(board().lblRegion[17]);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(winner)->text(QAccessible::Name).toStdString(),
+              "West, winner of first round, game 2: Wisconsin");
+}
+
+INSTANTIATE_TEST_SUITE_P(ByDayAndNight, Accessibility, testing::Values(Light::Day, Light::Night),
+                         [](const auto& light) { return light.param == Light::Day ? "Light" : "Dark"; });
+
+} // namespace
+} // namespace tallyhoop::qt
