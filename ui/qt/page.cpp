@@ -19,18 +19,12 @@ Page::Page(ui::Screen& screen, Desk& desk) : m_screen{screen}, m_desk{desk}
     follow(screen.caption, [this](const std::string& caption) { setWindowTitle(titleText(toQString(caption))); });
     buildMenuBar();
 
-    auto* status = new QLabel;
-    status->setObjectName(QStringLiteral("status"));
-    status->setTextFormat(Qt::PlainText);
-    follow(screen.status, [this, status](const std::string& text) {
-        // A page that never has anything to say keeps the room for its controls.
-        if (!text.empty() && !status->parentWidget()) {
-            statusBar()->setSizeGripEnabled(false);
-            status->setContentsMargins(look::kGap, 0, look::kGap, 0);
-            statusBar()->addWidget(status, 1);
-            statusBar()->show();
-        }
-        status->setText(toQString(text));
+    // A page that never has anything to say keeps the room for its controls.
+    follow(screen.status, [this, status = static_cast<QLabel*>(nullptr)](const std::string& text) mutable {
+        if (!status && !text.empty())
+            status = newStatus();
+        if (status)
+            status->setText(toQString(text));
     });
     connect(qApp, &QApplication::focusChanged, this, [this] {
         ui::Control* now = focusedControl();
@@ -45,6 +39,18 @@ Page::~Page()
     m_desk.detach(*this);
     // Widgets report lost focus while they are destroyed; nobody must be told then.
     QObject::disconnect(qApp, nullptr, this, nullptr);
+}
+
+QLabel* Page::newStatus()
+{
+    auto* status = new QLabel{this};
+    status->setObjectName(QStringLiteral("status"));
+    status->setTextFormat(Qt::PlainText);
+    status->setContentsMargins(look::kGap, 0, look::kGap, 0);
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addWidget(status, 1);
+    statusBar()->show();
+    return status;
 }
 
 void Page::setContent(QLayout* layout)

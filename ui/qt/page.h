@@ -172,6 +172,7 @@ private:
         int selectionLength = 0;
     };
 
+    QLabel* newStatus();
     void followCommonParts(ui::Control& control, QWidget& widget);
     QLineEdit* addLine(ui::TextBox& box);
     QPlainTextEdit* addLines(ui::TextBox& box);
