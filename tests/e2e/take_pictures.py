@@ -1,18 +1,46 @@
 #!/usr/bin/env python3
-"""Takes the pictures of the README anew: python3 -B take_pictures.py (the program has to be built)."""
+"""Takes pictures of every screen by day and by night: python3 -B take_pictures.py (the program has to be built).
+
+The files go to docs/pictures, the dark ones under names that end with -dark. Give a folder and a scale to look at other
+sizes: python3 -B take_pictures.py /somewhere 1.5
+"""
 
 import pathlib
 import subprocess
+import sys
+import tempfile
 
 from program import Program, centre
 
-PICTURES = pathlib.Path(__file__).parents[2] / "docs/pictures"
+PICTURES = pathlib.Path(sys.argv[1] if sys.argv[1:] else pathlib.Path(__file__).parents[2] / "docs/pictures")
+SCALE = sys.argv[2] if sys.argv[2:] else "1"
 PLAYER = "Demo Prophet_DP.THC"
+
+# What a desktop tells its programs at night; Qt reads it where the session says that the desktop is KDE's.
+NIGHT = """[Colors:Window]
+BackgroundNormal=49,54,59
+ForegroundNormal=252,252,252
+[Colors:View]
+BackgroundNormal=27,30,32
+BackgroundAlternate=35,38,41
+ForegroundNormal=252,252,252
+ForegroundInactive=161,169,177
+[Colors:Button]
+BackgroundNormal=49,54,59
+BackgroundAlternate=42,46,50
+ForegroundNormal=252,252,252
+[Colors:Selection]
+BackgroundNormal=29,111,165
+ForegroundNormal=252,252,252
+[Colors:Tooltip]
+BackgroundNormal=49,54,59
+ForegroundNormal=252,252,252
+"""
 
 
 def take(program, name):
     """Saves what is on the display; few colours keep the files small."""
-    path = PICTURES / f"{name}.png"
+    path = PICTURES / f"{name}{program.suffix}.png"
     program.screenshot(path)
     subprocess.run(["convert", path, "-strip", "+dither", "-colors", "128", "-define", "png:compression-level=9", path],
                    check=True)
@@ -37,40 +65,84 @@ def sort_by_score(program):
     program.wait(lambda: program.rows("msgScoreDisplay")[0][0] == "80", "the best first")
 
 
+def take_all(program):
+    program.start()
+    program.box("** DEMO MODE OPTION **")
+    take(program, "first-start")
+    program.answer("OK")
+    program.box()
+    program.wait(lambda: "TALLYHOOP.INI" in program.files(), "the sample pool")
+    program.answer("OK")
+    shows(program, "lblTitle", "2000 NCAA Tournament")
+    open_player(program)
+    program.move((1360, 764))
+    take(program, "board")
+    program.menu("mnuFile")
+    program.wait(lambda: program.action("mnuExit")["rect"], "the menu")
+    take(program, "menu")
+    program.key("Escape")
+    program.menu("mnuOptions", "mnuScoreSelections")
+    program.wait(lambda: program.text("txtPointScore"), "the score")
+    program.move((1360, 764))
+    take(program, "board-scored")
+    take_scores(program)
+    take_reports(program)
+    program.menu("mnuOptions", "mnuEditNames")
+    program.wait(lambda: len(program.rows("lstNames")) == 4, "the players")
+    take(program, "players")
+    program.click("cmdCancel")
+    program.menu("mnuSetup", "mnuSetupOptions")
+    program.wait(lambda: program.visible("cmdFinalize"), "the setup")
+    take(program, "setup")
+    program.menu("mnuOptions", "mnuSeating")
+    program.wait(lambda: program.visible("cmdComplete"), "the seed positions")
+    program.box()
+    take(program, "seeds")
+
+
+def take_scores(program):
+    program.menu("mnuOptions", "mnuGameResults")
+    shows(program, "txtPlayerName", "FinalResults")
+    program.menu("mnuOptions", "mnuScoreSelections")
+    program.click("cmdOk")
+    program.wait(lambda: program.rows("msgScoreDisplay"), "the scores")
+    sort_by_score(program)
+    program.click_at(centre(program.table("msgScoreDisplay")["rects"][0][1]))
+    program.wait(lambda: program.colour("lblRegion_16") == "#00ff00", "the marks")
+    take(program, "scores")
+    program.click("cmdExit")
+
+
+def take_reports(program):
+    program.menu("mnuReports")
+    program.click("chkOptions_0")
+    program.click("optDestination_2")
+    program.wait(lambda: program.widget("optDestination_2")["checked"], "the destination")
+    program.click("cmdPrintSelections")
+    program.wait(lambda: program.visible("cmdSend"), "the mail")
+    program.box()
+    take(program, "email")
+    program.key("Escape")
+    program.wait(lambda: not program.modal(), "the mail going away")
+    for index in range(1, 7):
+        program.click(f"chkOptions_{index}")
+    if not program.widget("chkOptions_0")["checked"]:
+        program.click("chkOptions_0")
+    program.click("optDestination_1")
+    program.wait(lambda: program.widget("optDestination_1")["checked"], "the destination")
+    take(program, "reports")
+    program.click("cmdExit")
+
+
 def main():
     PICTURES.mkdir(parents=True, exist_ok=True)
-    with Program() as program:
-        program.start()
-        program.box("** DEMO MODE OPTION **")
-        take(program, "first-start")
-        program.answer("OK")
-        program.box()
-        program.wait(lambda: "TALLYHOOP.INI" in program.files(), "the sample pool")
-        program.answer("OK")
-        shows(program, "lblTitle", "2000 NCAA Tournament")
-        open_player(program)
-        program.move((1360, 764))
-        take(program, "board")
-        program.menu("mnuOptions", "mnuScoreSelections")
-        program.wait(lambda: program.text("txtPointScore"), "the score")
-        program.move((1360, 764))
-        take(program, "board-scored")
-        program.menu("mnuOptions", "mnuGameResults")
-        shows(program, "txtPlayerName", "FinalResults")
-        program.menu("mnuOptions", "mnuScoreSelections")
-        program.click("cmdOk")
-        program.wait(lambda: program.rows("msgScoreDisplay"), "the scores")
-        sort_by_score(program)
-        program.click_at(centre(program.table("msgScoreDisplay")["rects"][0][1]))
-        program.wait(lambda: program.colour("lblRegion_16") == "#00ff00", "the marks")
-        take(program, "scores")
-        program.click("cmdExit")
-        program.menu("mnuReports")
-        for index in range(7):
-            program.click(f"chkOptions_{index}")
-        program.click("optDestination_1")
-        program.wait(lambda: program.widget("optDestination_1")["checked"], "the destination")
-        take(program, "reports")
+    with tempfile.TemporaryDirectory() as settings:
+        (pathlib.Path(settings) / "kdeglobals").write_text(NIGHT)
+        night = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": settings}
+        for suffix, environment in (("", {}), ("-dark", night)):
+            with Program(environment={"QT_SCALE_FACTOR": SCALE, **environment}) as program:
+                program.suffix = suffix
+                take_all(program)
 
 
 if __name__ == "__main__":
