@@ -34,6 +34,29 @@ TEST(Look, TextCanBeReadOnEveryGroundOfTheCalmPalette)
         EXPECT_GE(look::contrast(palette.color(text), palette.color(ground)), 4.5) << text << " on " << ground;
 }
 
+TEST(Look, WhatADarkDesktopDoesNotNameIsMadeVisible)
+{
+    QPalette dark{QColor{49, 54, 59}};
+    dark.setColor(QPalette::WindowText, QColor{252, 252, 252});
+    dark.setColor(QPalette::PlaceholderText, QColor{0, 0, 0, 128});
+    dark.setColor(QPalette::Mid, QColor{40, 44, 48});
+    dark.setColor(QPalette::Disabled, QPalette::Text, QColor{60, 64, 68});
+    const QPalette mended = Style::mendedRoles(dark);
+    const QColor ground = dark.color(QPalette::Window);
+    EXPECT_GE(look::contrast(mended.color(QPalette::PlaceholderText), ground), 4.5);
+    EXPECT_GE(look::contrast(mended.color(QPalette::Mid), ground), 1.5);
+    EXPECT_GE(look::contrast(mended.color(QPalette::Disabled, QPalette::Text), ground), 2);
+    EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::WindowText)) << "what is seen stays the platform's";
+}
+
+TEST(Look, APaletteThatIsSeenNeedsNoMending)
+{
+    const QPalette mended = Style::mendedRoles(Style::calmPalette());
+    EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::PlaceholderText));
+    EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::Mid));
+    EXPECT_FALSE(mended.isBrushSet(QPalette::Disabled, QPalette::Text));
+}
+
 TEST(Look, ContrastIsMeasuredAsTheRatioOfLuminances)
 {
     EXPECT_DOUBLE_EQ(look::contrast(Qt::black, Qt::white), 21.0);

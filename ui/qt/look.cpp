@@ -44,6 +44,8 @@ void apply(QApplication&)
     QApplication::setStyle(new Style);
     if (QApplication::palette().color(QPalette::Window) == kNobodysGround)
         QApplication::setPalette(Style::calmPalette());
+    else
+        QApplication::setPalette(Style::mendedRoles(QApplication::palette()));
     QApplication::setWindowIcon(lineIcon(QStringLiteral(":/tallyhoop.svg")));
 }
 

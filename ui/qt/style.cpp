@@ -139,6 +139,26 @@ QPalette Style::calmPalette()
     return palette;
 }
 
+QPalette Style::mendedRoles(const QPalette& platform)
+{
+    const QColor ground = platform.color(QPalette::Window);
+    const QColor ink = platform.color(QPalette::WindowText);
+    const auto seen = [&](QColor colour) {
+        const double share = colour.alphaF();
+        colour.setAlpha(255);
+        return look::contrast(between(ground, colour, share), ground);
+    };
+    QPalette mended;
+    if (seen(platform.color(QPalette::PlaceholderText)) < 4.5)
+        mended.setColor(QPalette::PlaceholderText, between(ground, ink, 0.7));
+    if (seen(platform.color(QPalette::Mid)) < 1.5)
+        mended.setColor(QPalette::Mid, between(ground, ink, 0.35));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        if (seen(platform.color(QPalette::Disabled, role)) < 2)
+            mended.setColor(QPalette::Disabled, role, between(ground, ink, 0.45));
+    return mended;
+}
+
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                           const QWidget* widget) const
 {

@@ -16,6 +16,10 @@ public:
     /// The colours used where the platform has none of its own.
     static QPalette calmPalette();
 
+    /// Some desktops name their main colours only, and Qt fills up with what suits a light ground.
+    /// @returns a palette in which just those roles are set that cannot be seen on the ground of this one
+    static QPalette mendedRoles(const QPalette& platform);
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
