@@ -115,7 +115,8 @@ bool textFits(const QWidget& widget)
     if (metrics.tightBoundingRect(QStringLiteral("Ag")).height() > widget.height())
         return false;
     if (const auto* slot = qobject_cast<const SlotLabel*>(&widget))
-        return !slot->isElided() || slot->tip().contains(text.toHtmlEscaped());
+        // A team's name may be cut: its tool tip, or in the first round the status line, says it whole.
+        return !slot->isElided() || slot->part() != SlotLabel::Part::Marker;
     if (const auto* label = qobject_cast<const QLabel*>(&widget)) {
         const QRect room = label->contentsRect();
         if (label->wordWrap())

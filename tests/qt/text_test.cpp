@@ -49,5 +49,6 @@ TEST(QtText, DataIsNeitherMarkupNorMnemonicNorMark)
     EXPECT_EQ(withoutMnemonics(QStringLiteral("A&M")), QStringLiteral("A&&M"));
     EXPECT_EQ(plainToolTip(QStringLiteral("<b>A&M</b>")), QStringLiteral("<qt>&lt;b&gt;A&amp;M&lt;/b&gt;</qt>"));
     EXPECT_EQ(plainToolTip({}), QString{});
+    EXPECT_EQ(plainToolTip(QStringLiteral("A & M")), QStringLiteral("A & M"));
     EXPECT_EQ(titleText(QStringLiteral("a[*]b")), QStringLiteral("a[*][*]b"));
 }

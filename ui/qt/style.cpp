@@ -30,6 +30,22 @@ QColor lineColour(const QPalette& palette)
     return between(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.3);
 }
 
+/// For outlines that are all there is to see of a control, such as a box that is not ticked.
+QColor strongLineColour(const QPalette& palette)
+{
+    return between(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.55);
+}
+
+void drawRing(QPainter& painter, const QRect& place, const QColor& line)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(line);
+    painter.drawEllipse(QRectF{place}.adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+}
+
 void drawBox(QPainter& painter, const QRect& place, const QBrush& fill, const QColor& line, double width)
 {
     const double inset = width / 2;
@@ -174,6 +190,14 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         break;
     case PE_FrameLineEdit:
         drawLineEdit(*option, *painter, false);
+        return;
+    case PE_IndicatorCheckBox:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        drawBox(*painter, option->rect, Qt::NoBrush, strongLineColour(option->palette), 1);
+        return;
+    case PE_IndicatorRadioButton:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        drawRing(*painter, option->rect, strongLineColour(option->palette));
         return;
     case PE_FrameFocusRect:
         if (qobject_cast<const QPushButton*>(widget))

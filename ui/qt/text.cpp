@@ -3,6 +3,7 @@
 #include "model/windows1252.h"
 
 #include <QList>
+#include <QTextDocument>
 
 namespace tallyhoop::qt {
 
@@ -75,8 +76,10 @@ QString withMnemonic(QString caption, char mnemonic)
 
 QString plainToolTip(const QString& data)
 {
-    if (data.isEmpty())
-        return {};
+    constexpr qsizetype kLongestLine = 80;
+    // Only what Qt would take for markup, or would not break into lines, needs a disguise.
+    if (data.size() <= kLongestLine && !Qt::mightBeRichText(data))
+        return data;
     const QString lines = data.toHtmlEscaped().replace(QLatin1Char{'\n'}, QLatin1String{"<br>"});
     return QLatin1String{"<qt>"} + lines + QLatin1String{"</qt>"};
 }

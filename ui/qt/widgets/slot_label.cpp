@@ -119,21 +119,14 @@ void SlotLabel::paintEvent(QPaintEvent*)
     }
 }
 
-QString SlotLabel::tip() const
-{
-    if (!isElided())
-        return m_part == Part::Row ? toolTip() : QString{};
-    return plainToolTip(text()) + (toolTip().isEmpty() ? QString{} : QLatin1String{"<br>"} + toolTip());
-}
-
 bool SlotLabel::event(QEvent* event)
 {
-    if (event->type() != QEvent::ToolTip)
+    if (event->type() != QEvent::ToolTip || m_part == Part::Row)
         return QAbstractButton::event(event);
-    if (const QString shown = tip(); shown.isEmpty())
-        QToolTip::hideText();
+    if (isElided())
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(text()), this);
     else
-        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), shown, this);
+        QToolTip::hideText();
     return true;
 }
 

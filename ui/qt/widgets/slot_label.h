@@ -30,9 +30,6 @@ public:
     /// @returns whether the name is cut when painted
     bool isElided() const;
 
-    /// @returns the tool tip as shown: a name that is cut comes first
-    QString tip() const;
-
     Part part() const { return m_part; }
 
 protected:
