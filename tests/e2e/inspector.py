@@ -1,8 +1,13 @@
 """The test's side of the inspector plugin: one line of JSON asks, one line of JSON answers."""
 
+import contextlib
 import json
 import socket
 import time
+
+
+class Ended(RuntimeError):
+    """The program has ended: nobody answers any more."""
 
 
 class Inspector:
@@ -28,16 +33,20 @@ class Inspector:
                 time.sleep(0.02)
 
     def ask(self, question, name="", **more):
-        self._lines.write(json.dumps({"ask": question, "name": name, **more}) + "\n")
-        self._lines.flush()
-        line = self._lines.readline()
+        try:
+            self._lines.write(json.dumps({"ask": question, "name": name, **more}) + "\n")
+            self._lines.flush()
+            line = self._lines.readline()
+        except ConnectionError:
+            line = ""
         if not line:
-            raise RuntimeError("the program has ended")
+            raise Ended("the program has ended")
         return json.loads(line)
 
     def close(self):
         if self._lines:
-            self._lines.close()
+            with contextlib.suppress(ConnectionError):  # what could not be sent to a program that has ended
+                self._lines.close()
         if self._socket:
             self._socket.close()
         self._socket = self._lines = None

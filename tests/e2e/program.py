@@ -12,11 +12,13 @@ import tempfile
 import time
 
 from display import ENDING_WITH_US, Display
-from inspector import Inspector
+from inspector import Ended, Inspector
 
 BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
 CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
+
+LOST_KEY = PATIENCE / 6  # seconds after which a key that nobody received is pressed again
 
 
 def plain(caption):
@@ -336,8 +338,23 @@ class Program:
             with_hand()
         else:
             self._inspector.ask("inject", **inside)
-        self.wait(lambda: not self.is_running() or self._inspector.ask("counts")[counter] > before,
-                  f"{counter} reaching the program")
+
+        again = time.monotonic() + LOST_KEY
+
+        def received():
+            nonlocal again
+            try:
+                if not self.is_running() or self._inspector.ask("counts")[counter] > before:
+                    return True
+            except Ended:
+                return True  # what was done ended the program
+            # A key pressed while the focus is on its way from one window to the next reaches neither.
+            if self._display and counter == "keys" and time.monotonic() > again:
+                again = time.monotonic() + LOST_KEY
+                with_hand()
+            return False
+
+        self.wait(received, f"{counter} reaching the program")
 
     def _leave_evidence(self):
         if self._display and self.is_running():
