@@ -39,11 +39,16 @@ std::optional<BoardSnapshot> BoardHistory::redo(BoardSnapshot current)
     return step(m_future, m_past, std::move(current));
 }
 
-void BoardHistory::boardWasSaved()
+void BoardHistory::boardWasSaved(int sheet, const std::filesystem::path& file)
 {
-    for (auto* const boards : {&m_past, &m_future})
-        for (BoardSnapshot& board : *boards)
+    for (auto* const boards : {&m_past, &m_future}) {
+        for (BoardSnapshot& board : *boards) {
+            if (board.sheet != sheet)
+                continue;
             board.unsaved = true;
+            board.openedFile = file;
+        }
+    }
 }
 
 void BoardHistory::clear()

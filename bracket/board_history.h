@@ -20,7 +20,7 @@ struct BoardSnapshot {
     std::filesystem::path openedFile;
     bool resultsMode = false;
     bool unsaved = false;
-    int sheet = 0; ///< New takes a fresh one; what is typed belongs to a sheet, not to its picks
+    int sheet = 0; ///< New takes a fresh one; what is typed, and the file, belong to a sheet, not to its picks
 
     friend bool operator==(const BoardSnapshot&, const BoardSnapshot&) = default;
 };
@@ -36,8 +36,9 @@ public:
     std::optional<BoardSnapshot> undo(BoardSnapshot current);
     std::optional<BoardSnapshot> redo(BoardSnapshot current);
 
-    /// The board as it is now was written to its file: every other board differs from what the file holds.
-    void boardWasSaved();
+    /// The board as it is now was written to a file: it is that of its sheet now, and the sheet's other boards differ
+    /// from what the file holds.
+    void boardWasSaved(int sheet, const std::filesystem::path& file);
 
     bool canUndo() const { return !m_past.empty(); }
     bool canRedo() const { return !m_future.empty(); }

@@ -148,7 +148,7 @@ void frmPoolMain::saveResults()
     if (!file || !SaveSelections(*file, m_platform.dialogs, m_state.selectionLines))
         return;
     unsaved = false;
-    m_history.boardWasSaved();
+    m_history.boardWasSaved(m_sheet, m_state.selectionFile.OpenedFile);
     say("The results are saved.");
 }
 
@@ -207,7 +207,7 @@ bool frmPoolMain::writeSelection(const std::filesystem::path& file, SaveKind kin
     m_state.selectionFile.OpenedFile = file;
     m_state.handOver = PlayerHandOver{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};
     unsaved = false;
-    m_history.boardWasSaved();
+    m_history.boardWasSaved(m_sheet, m_state.selectionFile.OpenedFile);
     describeDocument();
     const bool scored = isSameFile(file, m_folder.folder() / file.filename());
     say("Saved " + shown(file.filename()) +

@@ -320,6 +320,25 @@ TEST_F(frmPoolMainBoard, UndoBehindASaveIsUnsavedWork)
     EXPECT_FALSE(board->unsaved);
 }
 
+TEST_F(frmPoolMainBoard, UndoBehindTheFirstSaveKeepsTheFile)
+{
+    loadFinalized();
+    board->txtPlayerInitials.text = "JS";
+    board->txtPlayerName.text = "Smith";
+    board->txtFinalPoints.text = "150";
+    click(0);
+    const std::filesystem::path file = scratch.path() / "Smith_JS.THC";
+    platform.dialogs.pick(file);
+    board->SaveSelection();
+    board->undo();
+    EXPECT_EQ(at(16), "");
+    EXPECT_EQ(state.selectionFile.OpenedFile, file);
+    EXPECT_TRUE(board->unsaved);
+    platform.dialogs.pick(file);
+    board->SaveSelection();
+    EXPECT_TRUE(platform.dialogs.shown.empty()) << "saving under its own name asks nothing";
+}
+
 TEST_F(frmPoolMainBoard, UndoIsImpossibleWhileTheVerdictIsShown)
 {
     loadFinalized();
