@@ -3,6 +3,7 @@
 Nothing here waits a fixed time: every step waits until what it needs is there, and fails telling what it saw instead.
 """
 
+import contextlib
 import os
 import pathlib
 import shutil
@@ -141,7 +142,11 @@ class Program:
         """Closes the frame as the window manager's close button does, and waits for the end."""
         self.wait(lambda: any(window["active"] and not window["modal"] for window in self.windows()),
                   "the frame in front")
-        self._display.key("Alt+F4")
+        end = time.monotonic() + PATIENCE
+        while time.monotonic() < end:
+            self._display.key("Alt+F4")
+            with contextlib.suppress(subprocess.TimeoutExpired):  # the key was lost: once more
+                return self._process.wait(LOST_KEY)
         return self.wait_for_end()
 
     def stop(self):
