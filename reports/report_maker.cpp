@@ -88,18 +88,14 @@ MadeReport ReportMaker::make(const ReportKind& kind, const std::string& title, s
 
 MadeReport ReportMaker::makeStandings(const Request& request)
 {
-    if (auto missing = missingInput(request, "\"Tournament Standings Report\" cannot be prepared."))
-        return *missing;
-    const SelectionLines results = readResults();
-    const std::optional<ReadPool> pool = readPlayers(request);
-    if (!pool)
-        return cancelled(request.kind);
-    const Result<Payoffs> payoffs = m_board.payoffs();
-    if (!payoffs)
-        return failed(request.kind, payoffs.failure().message);
+    ScoringInput input;
+    if (auto trouble = openResults(request, "\"Tournament Standings Report\" cannot be prepared.", input))
+        return *trouble;
+    if (auto trouble = openPool(request, input))
+        return *trouble;
 
-    Work work{m_platform.progress, request.kind.name, pool->players.size()};
-    const Result<std::vector<ScoreLine>> scores = scorePool(*pool, results, *payoffs, work);
+    Work work{m_platform.progress, request.kind.name, input.pool.players.size()};
+    const auto scores = scorePool(input.pool, input.results, input.payoffs, work);
     if (!scores)
         return failed(request.kind, scores.failure().message);
     if (work.cancelled())
@@ -154,46 +150,28 @@ MadeReport ReportMaker::makePlayerSelectionDetail(const Request& request)
 
 MadeReport ReportMaker::makeResultsByPlayer(const Request& request)
 {
-    if (auto missing = missingInput(request, "\"Projected Results by Player\" report cannot be prepared."))
-        return *missing;
-    const SelectionLines results = readResults();
-    FinalFour finalFour;
-    if (auto trouble = finalFourTrouble(results, finalFour))
+    ScoringInput input;
+    if (auto trouble = openProjection(request, "\"Projected Results by Player\" report cannot be prepared.", input))
         return *trouble;
-    const std::optional<ReadPool> pool = readPlayers(request);
-    if (!pool)
-        return cancelled(request.kind);
-    const Result<Payoffs> payoffs = m_board.payoffs();
-    if (!payoffs)
-        return failed(request.kind, payoffs.failure().message);
 
-    const ByFinal<FinalOutcome> outcomes = finalOutcomes(results, finalFour);
-    Work work{m_platform.progress, request.kind.name, pool->players.size()};
-    const auto rows = resultsByPlayerRows(*pool, results, outcomes, *payoffs, work);
+    const ByFinal<FinalOutcome> outcomes = finalOutcomes(input.results, input.finalFour);
+    Work work{m_platform.progress, request.kind.name, input.pool.players.size()};
+    const auto rows = resultsByPlayerRows(input.pool, input.results, outcomes, input.payoffs, work);
     if (!rows)
         return failed(request.kind, rows.failure().message);
     if (work.cancelled())
         return cancelled(request.kind);
-    return outcome(request.kind, resultsByPlayerLines(request.title, finalFour, outcomes, *rows));
+    return outcome(request.kind, resultsByPlayerLines(request.title, input.finalFour, outcomes, *rows));
 }
 
 MadeReport ReportMaker::makeResultsByTeam(const Request& request)
 {
-    if (auto missing = missingInput(request, "\"Projected Results by Team\" report cannot be prepared."))
-        return *missing;
-    const SelectionLines results = readResults();
-    FinalFour finalFour;
-    if (auto trouble = finalFourTrouble(results, finalFour))
+    ScoringInput input;
+    if (auto trouble = openProjection(request, "\"Projected Results by Team\" report cannot be prepared.", input))
         return *trouble;
-    const std::optional<ReadPool> pool = readPlayers(request);
-    if (!pool)
-        return cancelled(request.kind);
-    const Result<Payoffs> payoffs = m_board.payoffs();
-    if (!payoffs)
-        return failed(request.kind, payoffs.failure().message);
 
-    Work work{m_platform.progress, request.kind.name, finalFour.size() * pool->players.size()};
-    const auto outcomes = resultsByTeamOutcomes(*pool, results, finalFour, *payoffs, work);
+    Work work{m_platform.progress, request.kind.name, input.finalFour.size() * input.pool.players.size()};
+    const auto outcomes = resultsByTeamOutcomes(input.pool, input.results, input.finalFour, input.payoffs, work);
     if (!outcomes)
         return failed(request.kind, outcomes.failure().message);
     if (work.cancelled())
@@ -201,20 +179,37 @@ MadeReport ReportMaker::makeResultsByTeam(const Request& request)
     return outcome(request.kind, resultsByTeamLines(request.title, *outcomes));
 }
 
-std::optional<NoReport> ReportMaker::missingInput(const Request& request, const char* reportAsNamed) const
+std::optional<NoReport> ReportMaker::openResults(const Request& request, const char* reportAsNamed, ScoringInput& input)
 {
     if (request.files.empty())
         return failed(request.kind, std::string{kNoFiles} + reportAsNamed);
     if (!m_folder.exists(file_name::kResults))
         return failed(request.kind, kNoResults);
+    ReadSelections(*m_folder.pathOf(file_name::kResults), m_platform.dialogs, input.results);
     return std::nullopt;
 }
 
-SelectionLines ReportMaker::readResults()
+std::optional<NoReport> ReportMaker::openPool(const Request& request, ScoringInput& input)
 {
-    SelectionLines results;
-    ReadSelections(*m_folder.pathOf(file_name::kResults), m_platform.dialogs, results);
-    return results;
+    std::optional<ReadPool> pool = readPlayers(request);
+    if (!pool)
+        return cancelled(request.kind);
+    const Result<Payoffs> payoffs = m_board.payoffs();
+    if (!payoffs)
+        return failed(request.kind, payoffs.failure().message);
+    input.pool = std::move(*pool);
+    input.payoffs = *payoffs;
+    return std::nullopt;
+}
+
+std::optional<NoReport> ReportMaker::openProjection(const Request& request, const char* reportAsNamed,
+                                                    ScoringInput& input)
+{
+    if (auto trouble = openResults(request, reportAsNamed, input))
+        return trouble;
+    if (auto trouble = finalFourTrouble(input.results, input.finalFour))
+        return trouble;
+    return openPool(request, input);
 }
 
 std::optional<ReadPool> ReportMaker::readPlayers(const Request& request)

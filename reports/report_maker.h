@@ -3,6 +3,8 @@
 
 #include "model/data_folder.h"
 #include "model/screens.h"
+#include "model/selection_file.h"
+#include "reports/final_four.h"
 #include "reports/read_pool.h"
 #include "reports/report_layout.h"
 #include "reports/report_table.h"
@@ -52,8 +54,19 @@ private:
     MadeReport makeResultsByPlayer(const Request& request);
     MadeReport makeResultsByTeam(const Request& request);
 
-    std::optional<NoReport> missingInput(const Request& request, const char* reportAsNamed) const;
-    SelectionLines readResults();
+    /// What every report that scores reads first.
+    struct ScoringInput {
+        SelectionLines results;
+        FinalFour finalFour; ///< known for projections only
+        ReadPool pool;
+        Payoffs payoffs;
+    };
+
+    /// The readers of that input say why there can be no report, or nothing and fill what they are given.
+    std::optional<NoReport> openResults(const Request& request, const char* reportAsNamed, ScoringInput& input);
+    std::optional<NoReport> openPool(const Request& request, ScoringInput& input);
+    std::optional<NoReport> openProjection(const Request& request, const char* reportAsNamed, ScoringInput& input);
+
     std::optional<ReadPool> readPlayers(const Request& request);
 
     const DataFolder& m_folder;
