@@ -70,7 +70,8 @@ void frmPoolMain::demoSet()
 void frmPoolMain::demoReset()
 {
     leaveScoreDisplay();
-    leaveDemo(m_folder, m_platform);
+    if (!leaveDemo(m_folder, m_platform))
+        return;
     m_screens.unload(ScreenKind::Board);
     m_screens.load(ScreenKind::Board, Opening::DemoLeft);
 }

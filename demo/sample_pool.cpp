@@ -102,7 +102,7 @@ std::vector<SampleFile> sampleFiles()
                                   {file_name::kPlayerNames, playerList()}};
     for (const SamplePlayer& samplePlayer : samplePlayers())
         files.push_back({samplePlayer.fileName, selectionFile(samplePlayer.lines)});
-    files.push_back({file_name::kSettings, "1\r\n"});
+    files.push_back({file_name::kSettings, demoSettings(files)});
     return files;
 }
 

@@ -4,6 +4,7 @@
 #include "model/data_folder.h"
 #include "model/lines.h"
 #include "model/player_names_file.h"
+#include "model/settings_file.h"
 #include "ui/result.h"
 
 #include <array>
@@ -19,11 +20,7 @@ struct SamplePlayer {
     PlayerRecord record;    ///< the file's name in capitals, as the program enters it
 };
 
-/// A file to be written: bare name and content.
-struct SampleFile {
-    std::string name;
-    std::string bytes;
-};
+using SampleFile = DemoFile;
 
 /// The field, finalized.
 SetupLines sampleSetup();
@@ -34,7 +31,8 @@ SelectionLines sampleResults();
 /// In the alphabetical order of the player list.
 std::array<SamplePlayer, 4> samplePlayers();
 
-/// Every file of the pool in the order in which they are to be written: the one that switches demo mode on comes last.
+/// Every file of the pool in the order in which they are to be written: the one that switches demo mode on and marks
+/// the others comes last.
 std::vector<SampleFile> sampleFiles();
 
 /// Writes the sample pool into a folder, each file whole.

@@ -2,12 +2,15 @@
 #include "model/demo_mode.h"
 
 #include "model/file_names.h"
+#include "model/player_names_file.h"
+#include "model/pool_backup.h"
+#include "model/replace_file.h"
 #include "model/settings_file.h"
 #include "model/text.h"
 
 #include <chrono>
-#include <optional>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -31,6 +34,22 @@ ui::Message askBeforeEntering()
         ui::Buttons::OkCancel, ui::Icon::Question};
 }
 
+ui::Message whereOwnFilesAre(const char* what, const std::filesystem::path& backup)
+{
+    return {kCaption, joinLines({what, "They have been moved to the folder:", " ", shown(backup)}), ui::Buttons::Ok,
+            ui::Icon::Information};
+}
+
+ui::Message ownPoolIsIn(const std::filesystem::path& backup)
+{
+    return whereOwnFilesAre("The files of the pool that was here are kept.", backup);
+}
+
+ui::Message ownChangesAreIn(const std::filesystem::path& backup)
+{
+    return whereOwnFilesAre("Files that you changed or added in DEMO Mode are kept.", backup);
+}
+
 /// Says which file or folder is in the way before the system's reason.
 Failure failureAt(const std::string& path, const Failure& failure) { return Failure{path + "\r\n" + failure.message}; }
 
@@ -39,12 +58,42 @@ ui::Message trouble(const std::string& what, const Failure& failure)
     return {kCaption, what + "\r\n \r\n" + failure.message, ui::Buttons::Ok, ui::Icon::Critical};
 }
 
+/// The settings come last: as long as one of the others is there, they say whose it is.
 std::vector<const char*> demoDataFiles()
 {
-    std::vector<const char*> names{file_name::kSettings, file_name::kSetup, file_name::kResults,
-                                   file_name::kPlayerNames};
+    std::vector<const char*> names{file_name::kSetup, file_name::kResults, file_name::kPlayerNames};
     names.insert(names.end(), kDemoSelectionFiles.begin(), kDemoSelectionFiles.end());
+    names.push_back(file_name::kSettings);
     return names;
+}
+
+/// A file that cannot be read counts as the person's own. What is no file cannot be kept; the clearing names it.
+bool isOwnFile(const DataFolder& folder, std::string_view name, std::string_view settings)
+{
+    std::error_code ignored;
+    const std::optional<std::filesystem::path> file = folder.pathOf(name);
+    if (!file || !std::filesystem::is_regular_file(*file, ignored))
+        return false;
+    const Result<std::string> bytes = readFile(*file);
+    if (!bytes)
+        return true;
+    if (name == file_name::kSettings)
+        return !settingsSayDemo(*bytes);
+    if (name == file_name::kPlayerNames && *bytes == playerNamesFile({}))
+        return false;
+    return !settingsMark(settings, name, *bytes);
+}
+
+/// Starts the installer in a folder that is clear now.
+/// @returns what went wrong, if anything
+std::optional<ui::Message> clearAndInstall(const DataFolder& folder, const std::filesystem::path& installer,
+                                           ui::Programs& programs)
+{
+    if (const Result<Done> cleared = clearDemoDataFiles(folder); !cleared)
+        return trouble("Demonstration mode cannot be started: a file could not be deleted.", cleared.failure());
+    if (const Result<Done> started = programs.start(installer); !started)
+        return trouble("Demonstration mode could not be started.", failureAt(shown(installer), started.failure()));
+    return std::nullopt;
 }
 
 /// @returns why the sample pool could not be installed now, if so: to be asked before anything is deleted
@@ -71,6 +120,21 @@ void waitForSamplePool(const DataFolder& folder)
 
 } // namespace
 
+Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& folder, const ui::Clock& clock)
+{
+    const Result<std::string> settings = folder.read(file_name::kSettings);
+    std::vector<std::string> own;
+    for (const char* name : demoDataFiles())
+        if (isOwnFile(folder, name, settings ? std::string_view{*settings} : std::string_view{}))
+            own.emplace_back(name);
+    if (own.empty())
+        return std::optional<std::filesystem::path>{};
+    const Result<std::filesystem::path> backup = backUp(folder, own, clock.now());
+    if (!backup)
+        return backup.failure();
+    return std::optional{*backup};
+}
+
 Result<Done> clearDemoDataFiles(const DataFolder& folder)
 {
     Result<Done> outcome = Done{};
@@ -88,17 +152,17 @@ bool startDemo(const DataFolder& folder, const ui::Platform& platform)
         platform.dialogs.show(trouble("Demonstration mode cannot be started. Nothing was changed.", *failure));
         return false;
     }
-    if (const Result<Done> cleared = clearDemoDataFiles(folder); !cleared) {
-        platform.dialogs.show(
-            trouble("Demonstration mode cannot be started: a file could not be deleted.", cleared.failure()));
+    const Result<std::optional<std::filesystem::path>> backup = keepOwnFiles(folder, platform.clock);
+    if (!backup) {
+        platform.dialogs.show(trouble("Demonstration mode cannot be started. Nothing was changed.", backup.failure()));
         return false;
     }
-    if (const Result<Done> started = platform.programs.start(installer); !started) {
-        platform.dialogs.show(
-            trouble("Demonstration mode could not be started.", failureAt(shown(installer), started.failure())));
+    const std::optional<ui::Message> failure = clearAndInstall(folder, installer, platform.programs);
+    platform.dialogs.show(failure.value_or(kContinueInDemo));
+    if (*backup)
+        platform.dialogs.show(ownPoolIsIn(**backup));
+    if (failure)
         return false;
-    }
-    platform.dialogs.show(kContinueInDemo);
     waitForSamplePool(folder);
     return true;
 }
@@ -110,11 +174,19 @@ bool enterDemo(const DataFolder& folder, const ui::Platform& platform)
     return startDemo(folder, platform);
 }
 
-void leaveDemo(const DataFolder& folder, const ui::Platform& platform)
+bool leaveDemo(const DataFolder& folder, const ui::Platform& platform)
 {
+    const Result<std::optional<std::filesystem::path>> backup = keepOwnFiles(folder, platform.clock);
+    if (!backup) {
+        platform.dialogs.show(trouble("Demonstration mode cannot be left. Nothing was changed.", backup.failure()));
+        return false;
+    }
     if (const Result<Done> cleared = clearDemoDataFiles(folder); !cleared)
         platform.dialogs.show(trouble("A file of the demonstration could not be deleted.", cleared.failure()));
     platform.dialogs.show(kContinueNormally);
+    if (*backup)
+        platform.dialogs.show(ownChangesAreIn(**backup));
+    return true;
 }
 
 } // namespace tallyhoop

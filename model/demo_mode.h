@@ -5,26 +5,36 @@
 #include "ui/platform.h"
 
 #include <array>
+#include <filesystem>
+#include <optional>
 
 namespace tallyhoop {
 
 /// The sample players' selection files: few, fixed, and unlikely names for real players.
-inline constexpr std::array<const char*, 4> kDemoSelectionFiles = {
-    "Demo Favorite_DF.THC", "Demo Halfway_DH.THC", "Demo Longshot_DL.THC", "Demo Prophet_DP.THC"};
+inline constexpr std::array<const char*, 4> kDemoSelectionFiles = {"Demo Favorite_DF.THC", "Demo Halfway_DH.THC",
+                                                                   "Demo Longshot_DL.THC", "Demo Prophet_DP.THC"};
+
+/// Copies what clearDemoDataFiles() is about to delete into a dated subfolder, each file whole: all that the demo did
+/// not bring as it is now. The settings of demo mode and a player list without players are nothing to keep.
+/// @returns the subfolder; nothing when there is nothing to keep; or a failure, with nothing changed
+Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& folder, const ui::Clock& clock);
 
 /// Deletes the settings, setup, results and player files and the sample selections, as far as they exist.
 /// @returns a failure naming the first file that could not be deleted; the others are deleted all the same
 Result<Done> clearDemoDataFiles(const DataFolder& folder);
 
-/// Clears the data files, starts the installer and waits for the person's OK and for the sample pool to be there. When the installer cannot be started or
-/// the folder cannot be written, says so and deletes nothing.
+/// Keeps the person's own files, clears the data files, starts the installer, waits for the person's OK, says where the
+/// own files are, and waits for the sample pool to be there. When the installer cannot be started, the folder cannot be
+/// written or a file cannot be kept, says so and deletes nothing.
 /// @returns whether the sample pool was asked for
 bool startDemo(const DataFolder& folder, const ui::Platform& platform);
 
 /// The question before demo mode is entered. @returns whether the person wants it and it was started
 bool enterDemo(const DataFolder& folder, const ui::Platform& platform);
 
-/// Deletes the sample pool and says that normal operation follows.
-void leaveDemo(const DataFolder& folder, const ui::Platform& platform);
+/// Deletes the sample pool, says that normal operation follows and where the files are that the person has changed or
+/// added meanwhile. When one of those cannot be kept, says so and deletes nothing.
+/// @returns whether demo mode was left
+bool leaveDemo(const DataFolder& folder, const ui::Platform& platform);
 
 } // namespace tallyhoop

@@ -120,15 +120,15 @@ std::error_code keepModeOf(const fs::path& target, int descriptor)
                                                                                                 : lastError();
 }
 
-/// Makes the rename itself last. The file is in place already, so a failure here is none of the caller's.
+} // namespace
+
+// The names are in place already, so a failure here is none of the caller's.
 void flushFolder(const fs::path& folder)
 {
     const Descriptor descriptor{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
     if (descriptor.isOpen())
         uninterrupted([&] { return ::fsync(descriptor.number()); });
 }
-
-} // namespace
 
 std::error_code replaceThrough(const fs::path& temporary, const fs::path& target, std::string_view bytes)
 {

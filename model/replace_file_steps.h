@@ -14,4 +14,8 @@ namespace tallyhoop {
 std::error_code replaceThrough(const std::filesystem::path& temporary, const std::filesystem::path& target,
                                std::string_view bytes);
 
+/// Makes the names in a folder last: what was created or renamed there is there after a power cut, as far as the system
+/// can promise it.
+void flushFolder(const std::filesystem::path& folder);
+
 } // namespace tallyhoop

@@ -64,6 +64,9 @@ std::error_code replaceThrough(const fs::path& temporary, const fs::path& target
     return error;
 }
 
+// Windows writes names through by itself and has no call for a folder.
+void flushFolder(const fs::path& /*folder*/) {}
+
 } // namespace tallyhoop
 
 #endif

@@ -265,8 +265,8 @@ void frmPoolEntry::startDemoMode()
 
 void frmPoolEntry::resetDemoMode()
 {
-    leaveDemo(m_folder, m_platform);
-    reload(Opening::DemoLeft);
+    if (leaveDemo(m_folder, m_platform))
+        reload(Opening::DemoLeft);
 }
 
 void frmPoolEntry::reload(Opening opening)

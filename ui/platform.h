@@ -39,6 +39,9 @@ class Clock
 public:
     virtual ~Clock() = default;
     virtual std::chrono::year_month_day today() const = 0;
+
+    /// The date and time of day on the clock on the wall.
+    virtual std::chrono::local_seconds now() const = 0;
 };
 
 /// Busy pointer and, when work takes long, a progress window that can be cancelled.

@@ -253,6 +253,21 @@ TEST_F(frmPoolMainScores, LeavingDemoModeAsksNothingAndReloadsTheBoard)
     EXPECT_EQ(screens.loads.back(), (FakeScreens::Load{ScreenKind::Board, Opening::DemoLeft}));
 }
 
+TEST_F(frmPoolMainScores, TheBoardStaysWhenDemoModeCannotBeLeft)
+{
+    putDemoMode();
+    loadFinalized();
+    const std::filesystem::path setup = scratch.path() / file_name::kSetup;
+    std::filesystem::resize_file(setup, (64u << 20) + 1); // more than the program reads, so it cannot be kept
+    const std::size_t loadsBefore = screens.loads.size();
+    board->mnuDemoReset.click();
+    EXPECT_TRUE(scratch.has(file_name::kSetup));
+    EXPECT_TRUE(scratch.has(file_name::kSettings));
+    EXPECT_EQ(screens.loads.size(), loadsBefore);
+    EXPECT_TRUE(board->lblDemoMode.visible);
+    EXPECT_TRUE(board->mnuDemoReset.enabled);
+}
+
 TEST_F(frmPoolMainScores, AMissingHelpFileIsExplained)
 {
     load();

@@ -3,7 +3,7 @@
 #include "demo/sample_pool.h"
 
 #include "demo/sample_brackets.h"
-#include "fakes/fake_dialogs.h"
+#include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
 #include "model/demo_mode.h"
 #include "model/file_names.h"
@@ -210,7 +210,17 @@ TEST(SamplePool, SwitchesDemoModeOnWithItsLastFile)
     const std::vector<demo::SampleFile> files = demo::sampleFiles();
     ASSERT_EQ(files.size(), 8u);
     EXPECT_EQ(files.back().name, file_name::kSettings);
-    EXPECT_EQ(files.back().bytes, "1\r\n");
+    EXPECT_THAT(files.back().bytes, testing::StartsWith("1\r\n"));
+}
+
+TEST(SamplePool, MarksEveryOtherFileAsTheDemos)
+{
+    const std::vector<demo::SampleFile> files = demo::sampleFiles();
+    for (const demo::SampleFile& file : files) {
+        const bool isSettings = file.name == file_name::kSettings;
+        EXPECT_EQ(settingsMark(files.back().bytes, file.name, file.bytes), !isSettings) << file.name;
+        EXPECT_FALSE(settingsMark(files.back().bytes, file.name, file.bytes + "changed")) << file.name;
+    }
 }
 
 TEST(SamplePoolInstall, RefusesAFolderThatHasAPool)
@@ -256,6 +266,16 @@ TEST(SamplePoolInstall, TakesEverythingBackWhenAFileCannotBeWritten)
 
     std::filesystem::remove(scratch.path() / ".TALLYHOOP.INI.tmp~");
     EXPECT_TRUE(demo::installSamplePool(scratch.folder())) << "once the trouble is gone it works";
+}
+
+TEST(SamplePoolInstall, LeavesNothingToKeepWhenTheDemoIsLeftUntouched)
+{
+    const test::ScratchFolder scratch;
+    test::FakePlatform platform;
+    ASSERT_TRUE(demo::installSamplePool(scratch.folder()));
+    EXPECT_TRUE(leaveDemo(scratch.folder(), platform.services));
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_TRUE(std::filesystem::is_empty(scratch.path()));
 }
 
 TEST(SamplePoolInstall, FailsInAFolderThatIsGone)

@@ -131,7 +131,9 @@ class FakeClock : public ui::Clock
 {
 public:
     std::chrono::year_month_day day{std::chrono::year{2001}, std::chrono::March, std::chrono::day{5}};
+    std::chrono::seconds timeOfDay = std::chrono::hours{10} + std::chrono::minutes{15} + std::chrono::seconds{30};
     std::chrono::year_month_day today() const override { return day; }
+    std::chrono::local_seconds now() const override { return std::chrono::local_days{day} + timeOfDay; }
 };
 
 class FakeProgress : public ui::Progress

@@ -4,7 +4,7 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDate>
+#include <QDateTime>
 #include <QFile>
 #include <QProgressDialog>
 #include <QTest>
@@ -71,6 +71,19 @@ TEST(QtClock, TellsTheLocalDate)
     EXPECT_EQ(static_cast<int>(today.year()), date.year());
     EXPECT_EQ(static_cast<unsigned>(today.month()), static_cast<unsigned>(date.month()));
     EXPECT_EQ(static_cast<unsigned>(today.day()), static_cast<unsigned>(date.day()));
+}
+
+TEST(QtClock, TellsTheTimeOnTheWall)
+{
+    const auto wall = [] {
+        const QDateTime now = QDateTime::currentDateTime();
+        return now.date().toJulianDay() * 86400 + now.time().msecsSinceStartOfDay() / 1000;
+    };
+    constexpr qint64 kJulianDayOf1970 = 2440588;
+    const qint64 before = wall();
+    const qint64 told = QtClock{}.now().time_since_epoch().count() + kJulianDayOf1970 * 86400;
+    EXPECT_LE(before, told);
+    EXPECT_LE(told, wall());
 }
 
 TEST(QtClipboard, TakesTextWithItsLineBreaks)

@@ -273,6 +273,18 @@ TEST_F(frmPoolEntryTest, DemoResetDeletesTheSampleAndReloadsThisScreen)
     EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Setup, Opening::DemoLeft}}));
 }
 
+TEST_F(frmPoolEntryTest, StaysInDemoModeWhenItCannotBeLeft)
+{
+    files.put("TALLYHOOP.INI", "1\r\n");
+    std::filesystem::resize_file(files.put("TALLYHOOP.THS", ""), (64u << 20) + 1); // too large to be read and kept
+    frmPoolEntry& screen = loaded();
+    screen.mnuDemoReset.click();
+    EXPECT_TRUE(files.has("TALLYHOOP.INI"));
+    EXPECT_TRUE(files.has("TALLYHOOP.THS"));
+    EXPECT_TRUE(screens.loads.empty());
+    EXPECT_TRUE(screens.unloads.empty());
+}
+
 TEST_F(frmPoolEntryTest, KnowsRightAfterADemoCommandWhatTheFilesMayNotSayYet)
 {
     const frmPoolEntry& entered = loaded(Opening::DemoEntered); // the installer has not written TALLYHOOP.INI yet

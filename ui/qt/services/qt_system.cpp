@@ -5,7 +5,7 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDate>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QLabel>
 #include <QProcess>
@@ -64,6 +64,16 @@ std::chrono::year_month_day QtClock::today() const
     const QDate date = QDate::currentDate();
     return {std::chrono::year{date.year()}, std::chrono::month{static_cast<unsigned>(date.month())},
             std::chrono::day{static_cast<unsigned>(date.day())}};
+}
+
+std::chrono::local_seconds QtClock::now() const
+{
+    const QDateTime moment = QDateTime::currentDateTime(); // asked once: midnight must not come in between
+    const QDate date = moment.date();
+    const std::chrono::year_month_day day{std::chrono::year{date.year()},
+                                          std::chrono::month{static_cast<unsigned>(date.month())},
+                                          std::chrono::day{static_cast<unsigned>(date.day())}};
+    return std::chrono::local_days{day} + std::chrono::seconds{moment.time().msecsSinceStartOfDay() / 1000};
 }
 
 void QtClipboard::put(const std::string& text) { QApplication::clipboard()->setText(toLines(text)); }

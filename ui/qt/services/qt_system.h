@@ -23,6 +23,7 @@ class QtClock : public ui::Clock
 {
 public:
     std::chrono::year_month_day today() const override;
+    std::chrono::local_seconds now() const override;
 };
 
 class QtClipboard : public ui::Clipboard
