@@ -26,7 +26,8 @@ public:
             const std::string name = "Player" + std::to_string(i * 7919 % players) + ",X";
             records.push_back({name, name + ".THC", name + "@example.org", "555-0100"});
         }
-        savePlayerNames(folder, platform.dialogs, records);
+        KnownFiles known;
+        savePlayerNames(folder, platform.dialogs, known, records);
     }
     ~Pool() { std::filesystem::remove_all(m_path); }
     Pool(const Pool&) = delete;

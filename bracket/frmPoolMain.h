@@ -11,6 +11,7 @@
 #include "bracket/board_history.h"
 #include "bracket/bracket_rules.h"
 #include "model/data_folder.h"
+#include "model/known_files.h"
 #include "model/mod_tallyhoop.h"
 #include "model/screens.h"
 #include "ui/platform.h"
@@ -198,6 +199,7 @@ private:
     Screens& m_screens;
     Opening m_opening;
     BoardHistory m_history;
+    KnownFiles m_known; ///< the selections and the results that were shown or saved
     int m_sheet = 0;    ///< counts the boards that New began
     std::string m_said; ///< what the status line says while the pointer is elsewhere
 

@@ -74,6 +74,7 @@ void frmPoolMain::OpenSelection()
 void frmPoolMain::showSelection(const std::filesystem::path& file)
 {
     dropHandOver();
+    m_known.note(file);
     ReadSelections(file, m_platform.dialogs, m_state.selectionLines);
     showBoard(m_state.selectionLines);
     m_state.selectionFile.OpenedFile = file;
@@ -145,7 +146,7 @@ void frmPoolMain::saveResults()
 {
     captureBoard();
     const auto file = m_folder.pathOf(file_name::kResults);
-    if (!file || !SaveSelections(*file, m_platform.dialogs, m_state.selectionLines))
+    if (!file || !SaveSelections(*file, m_platform.dialogs, m_known, m_state.selectionLines))
         return;
     unsaved = false;
     m_history.boardWasSaved(m_sheet, m_state.selectionFile.OpenedFile);
@@ -202,7 +203,7 @@ void frmPoolMain::saveNew(const std::filesystem::path& chosen)
 bool frmPoolMain::writeSelection(const std::filesystem::path& file, SaveKind kind)
 {
     captureBoard();
-    if (!SaveSelections(file, m_platform.dialogs, m_state.selectionLines))
+    if (!SaveSelections(file, m_platform.dialogs, m_known, m_state.selectionLines))
         return false;
     m_state.selectionFile.OpenedFile = file;
     m_state.handOver = PlayerHandOver{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};

@@ -22,9 +22,10 @@ void frmPoolMain::EnterGameResults()
 {
     leaveScoreDisplay();
     dropHandOver();
-    const auto file = m_folder.pathOf(file_name::kResults);
-    if (file && resultsExist()) {
-        ReadSelections(*file, m_platform.dialogs, m_state.selectionLines);
+    const std::filesystem::path file = m_folder.pathTo(file_name::kResults);
+    m_known.note(file);
+    if (resultsExist()) {
+        ReadSelections(file, m_platform.dialogs, m_state.selectionLines);
         showBoard(m_state.selectionLines);
         completeResults();
     } else {

@@ -86,6 +86,8 @@ std::optional<fs::path> DataFolder::pathOf(std::string_view name) const
     return m_folder / nativeName(name);
 }
 
+fs::path DataFolder::pathTo(std::string_view name) const { return *pathOf(name); }
+
 bool DataFolder::exists(std::string_view name) const
 {
     return isBareName(name) && findEntry(m_folder, name).has_value();

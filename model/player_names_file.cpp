@@ -143,14 +143,17 @@ bool validatePlayerNames(const DataFolder& folder, ui::Dialogs& dialogs)
     return false;
 }
 
-bool createPlayerNames(const DataFolder& folder, ui::Dialogs& dialogs) { return savePlayerNames(folder, dialogs, {}); }
-
-bool savePlayerNames(const DataFolder& folder, ui::Dialogs& dialogs, std::span<const PlayerRecord> records)
+bool createPlayerNames(const DataFolder& folder, ui::Dialogs& dialogs)
 {
-    if (folder.write(file_name::kPlayerNames, playerNamesFile(records)))
-        return true;
-    dialogs.show(writingTrouble(folder.shownPathOf(file_name::kPlayerNames), kCheckSpace));
-    return false;
+    KnownFiles nothingKnown; // the caller has just seen that there is no file
+    return savePlayerNames(folder, dialogs, nothingKnown, {});
+}
+
+bool savePlayerNames(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known,
+                     std::span<const PlayerRecord> records)
+{
+    return known.replace(folder.pathTo(file_name::kPlayerNames), playerNamesFile(records), dialogs,
+                         writingTrouble(folder.shownPathOf(file_name::kPlayerNames), kCheckSpace));
 }
 
 std::vector<PlayerRecord> readPlayerNames(const DataFolder& folder)

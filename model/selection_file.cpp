@@ -69,12 +69,11 @@ void showReadingTrouble(const std::filesystem::path& file, ui::Dialogs& dialogs)
                   ui::Buttons::Ok, ui::Icon::Critical});
 }
 
-bool SaveSelections(const std::filesystem::path& file, ui::Dialogs& dialogs, const SelectionLines& lines)
+bool SaveSelections(const std::filesystem::path& file, ui::Dialogs& dialogs, KnownFiles& known,
+                    const SelectionLines& lines)
 {
-    if (replaceFile(file, selectionFile(lines)))
-        return true;
-    dialogs.show(writingTrouble(shown(file), " Check your selection and retry."));
-    return false;
+    return known.replace(file, selectionFile(lines), dialogs,
+                         writingTrouble(shown(file), " Check your selection and retry."));
 }
 
 std::string proposedFileName(std::string_view playerName, std::string_view initials)

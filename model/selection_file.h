@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/data_folder.h"
+#include "model/known_files.h"
 #include "model/lines.h"
 #include "ui/dialogs.h"
 #include "ui/result.h"
@@ -12,8 +13,8 @@
 
 namespace tallyhoop {
 
-/// Reads a selection file's bytes: line n into entry n, 1..131. The trouble is set when there are more or fewer lines or
-/// line 131 is not the end marker; the lines read so far are there all the same.
+/// Reads a selection file's bytes: line n into entry n, 1..131. The trouble is set when there are more or fewer lines
+/// or line 131 is not the end marker; the lines read so far are there all the same.
 Read<SelectionLines> readSelection(std::string_view bytes);
 
 /// Reads a selection file from disk; a missing or unreadable file gives empty lines and the trouble.
@@ -29,9 +30,11 @@ void ReadSelections(const std::filesystem::path& file, ui::Dialogs& dialogs, Sel
 /// Shows the reader's message for a file that was read with trouble.
 void showReadingTrouble(const std::filesystem::path& file, ui::Dialogs& dialogs);
 
-/// Replaces a file by these lines; a failure shows "** ERROR IN WRITING FILE **" and leaves the old file.
+/// Replaces a file by these lines; asks first when somebody else has changed it since it was noted. A failure shows
+/// "** ERROR IN WRITING FILE **" and leaves the old file.
 /// @returns whether the file was written
-bool SaveSelections(const std::filesystem::path& file, ui::Dialogs& dialogs, const SelectionLines& lines);
+bool SaveSelections(const std::filesystem::path& file, ui::Dialogs& dialogs, KnownFiles& known,
+                    const SelectionLines& lines);
 
 /// @returns the name a player's file is first proposed under, such as "Smith_JS.THC", fit for a file name
 std::string proposedFileName(std::string_view playerName, std::string_view initials);

@@ -66,12 +66,10 @@ void ReadStartingField(const DataFolder& folder, ui::Dialogs& dialogs, modTallyh
     state.currentTitle = state.setupLines[setup_line::kTitle];
 }
 
-bool WriteStartingField(const DataFolder& folder, ui::Dialogs& dialogs, const SetupLines& lines)
+bool WriteStartingField(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known, const SetupLines& lines)
 {
-    if (folder.write(file_name::kSetup, setupFile(lines)))
-        return true;
-    dialogs.show(writingTrouble(folder.shownPathOf(file_name::kSetup), kCheckSpace));
-    return false;
+    return known.replace(folder.pathTo(file_name::kSetup), setupFile(lines), dialogs,
+                         writingTrouble(folder.shownPathOf(file_name::kSetup), kCheckSpace));
 }
 
 } // namespace tallyhoop

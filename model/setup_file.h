@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/data_folder.h"
+#include "model/known_files.h"
 #include "model/lines.h"
 #include "model/mod_tallyhoop.h"
 #include "ui/dialogs.h"
@@ -27,7 +28,8 @@ std::string setupFile(const SetupLines& lines);
 /// damaged) and copies the title.
 void ReadStartingField(const DataFolder& folder, ui::Dialogs& dialogs, modTallyhoop& state);
 
-/// Replaces POOLSTART.THS. A failure shows "** ERROR IN WRITING FILE **" with the path. @returns whether it was written
-bool WriteStartingField(const DataFolder& folder, ui::Dialogs& dialogs, const SetupLines& lines);
+/// Replaces POOLSTART.THS; asks first when somebody else has changed it since it was noted. A failure shows "** ERROR
+/// IN WRITING FILE **" with the path. @returns whether it was written
+bool WriteStartingField(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known, const SetupLines& lines);
 
 } // namespace tallyhoop

@@ -52,12 +52,11 @@ std::optional<std::vector<std::string>> ReadTeamNames(const DataFolder& folder, 
     return std::nullopt;
 }
 
-bool WriteTeamNames(const DataFolder& folder, ui::Dialogs& dialogs, std::span<const std::string> names)
+bool WriteTeamNames(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known,
+                    std::span<const std::string> names)
 {
-    if (folder.write(file_name::kTeamNames, teamNameListFile(names)))
-        return true;
-    dialogs.show(writingTrouble(folder.shownPathOf(file_name::kTeamNames), kCheckSpace));
-    return false;
+    return known.replace(folder.pathTo(file_name::kTeamNames), teamNameListFile(names), dialogs,
+                         writingTrouble(folder.shownPathOf(file_name::kTeamNames), kCheckSpace));
 }
 
 } // namespace tallyhoop

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/data_folder.h"
+#include "model/known_files.h"
 #include "ui/dialogs.h"
 #include "ui/result.h"
 
@@ -24,7 +25,9 @@ std::string teamNameListFile(std::span<const std::string> names);
 /// @returns the names; nothing on failure
 std::optional<std::vector<std::string>> ReadTeamNames(const DataFolder& folder, ui::Dialogs& dialogs);
 
-/// Replaces NCAALIST.THS; a failure shows "** ERROR IN WRITING FILE **" with the path. @returns whether it was written
-bool WriteTeamNames(const DataFolder& folder, ui::Dialogs& dialogs, std::span<const std::string> names);
+/// Replaces NCAALIST.THS; asks first when somebody else has changed it since it was noted. A failure shows "** ERROR IN
+/// WRITING FILE **" with the path. @returns whether it was written
+bool WriteTeamNames(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known,
+                    std::span<const std::string> names);
 
 } // namespace tallyhoop

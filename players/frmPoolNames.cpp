@@ -1,6 +1,7 @@
 // players/frmPoolNames.cpp - the player list from the screen to the disk.
 #include "players/frmPoolNames.h"
 
+#include "model/file_names.h"
 #include "model/text.h"
 #include "model/windows1252.h"
 #include "players/field_text.h"
@@ -69,6 +70,7 @@ frmPoolNames::frmPoolNames(const DataFolder& folder, const ui::Platform& platfor
 
 void frmPoolNames::load()
 {
+    m_known.note(m_folder.pathTo(file_name::kPlayerNames));
     const bool sound = validatePlayerNames(m_folder, m_dialogs);
     if (m_state.handOver) {
         txtFileName.text = recordedFileName(m_folder, m_state.handOver->file);
@@ -214,7 +216,7 @@ void frmPoolNames::finish(std::vector<std::string> rows)
     records.reserve(rows.size());
     for (const std::string& row : rows)
         records.push_back(parsePlayerRow(row));
-    if (!savePlayerNames(m_folder, m_dialogs, records))
+    if (!savePlayerNames(m_folder, m_dialogs, m_known, records))
         return;
     lstNames.rows = std::move(rows);
     lstNames.selected.reset();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/data_folder.h"
+#include "model/known_files.h"
 #include "model/mod_tallyhoop.h"
 #include "model/player_names_file.h"
 #include "model/screens.h"
@@ -72,6 +73,7 @@ private:
     ui::Dialogs& m_dialogs;
     modTallyhoop& m_state;
     Screens& m_screens;
+    KnownFiles m_known; ///< the player list as it was read
 
     SaveKind m_mode = SaveKind::None;                      ///< None = opened without a player to enter
     bool m_changed = false;                                ///< set by every add, change and delete

@@ -2,6 +2,7 @@
 #include "setup/frmPoolEntry.h"
 
 #include "model/demo_mode.h"
+#include "model/file_names.h"
 #include "model/help_display.h"
 #include "model/numbers.h"
 #include "model/settings_file.h"
@@ -142,6 +143,7 @@ void frmPoolEntry::load()
 {
     m_state.teamNames = {};
     OverrideMode = false;
+    m_known.note(m_folder.pathTo(file_name::kSetup));
     ReadStartingField(m_folder, m_platform.dialogs, m_state);
     showSetup();
     showTeamNames();
@@ -179,6 +181,7 @@ void frmPoolEntry::showSeeds()
 
 void frmPoolEntry::showTeamNames()
 {
+    m_known.note(m_folder.pathTo(file_name::kTeamNames));
     const auto names = ReadTeamNames(m_folder, m_platform.dialogs);
     m_teamListIsRead = names.has_value();
     lstTeamNames.rows.clear();

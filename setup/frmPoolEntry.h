@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/data_folder.h"
+#include "model/known_files.h"
 #include "model/screens.h"
 #include "players/clsBoxSearch.h"
 #include "ui/platform.h"
@@ -127,6 +128,7 @@ private:
     Screens& m_screens;
     Opening m_opening;
     clsBoxSearch m_search;
+    KnownFiles m_known;            ///< the field and the list of team names as they were read
     SetupLines m_saved{};          ///< what the screen held when it was loaded or saved last
     bool m_teamListIsRead = false; ///< NCAALIST.THS was there and whole
 };

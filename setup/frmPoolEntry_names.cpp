@@ -105,7 +105,7 @@ bool frmPoolEntry::saveTeamNames()
         std::vector<std::string> rows = lstTeamNames.rows;
         for (const std::string& team : m_state.teamNames.newNames)
             insertTeam(rows, team);
-        if (!WriteTeamNames(m_folder, m_platform.dialogs, rows))
+        if (!WriteTeamNames(m_folder, m_platform.dialogs, m_known, rows))
             return false;
         lstTeamNames.rows = std::move(rows);
     }

@@ -61,7 +61,7 @@ void frmPoolEntry::saveStartingField()
         return;
     }
     const SetupLines lines = linesOnScreen();
-    if (!WriteStartingField(m_folder, m_platform.dialogs, lines))
+    if (!WriteStartingField(m_folder, m_platform.dialogs, m_known, lines))
         return;
     m_saved = lines;
     showStatus();

@@ -256,7 +256,9 @@ TEST(SavePlayerNames, WritesHeaderAndRecordsInOrder)
 {
     Validation v;
     v.scratch.put("PLAYERNAMES.CSV", std::string(5000, 'x'));
-    EXPECT_TRUE(savePlayerNames(v.scratch.folder(), v.dialogs, std::vector<PlayerRecord>{kSmith, PlayerRecord{}}));
+    KnownFiles known;
+    EXPECT_TRUE(
+        savePlayerNames(v.scratch.folder(), v.dialogs, known, std::vector<PlayerRecord>{kSmith, PlayerRecord{}}));
     const std::string empty =
         '"' + blanks(25) + "\",\"" + blanks(33) + "\",\"" + blanks(43) + "\",\"" + blanks(14) + '"';
     EXPECT_EQ(v.scratch.get("PLAYERNAMES.CSV"), crlf({kHeader, kSmithLine, empty}));

@@ -147,7 +147,8 @@ TEST(SaveSelections, IsReadBackAsItWas)
         lines[line] = "text " + std::to_string(line);
     lines[5] = "";
     lines[6] = " St. John's & <b>\xC9t\xE9\x81 ";
-    EXPECT_TRUE(SaveSelections(scratch.path() / "A.THC", dialogs, lines));
+    KnownFiles known;
+    EXPECT_TRUE(SaveSelections(scratch.path() / "A.THC", dialogs, known, lines));
     SelectionLines back{};
     ReadSelections(scratch.path() / "A.THC", dialogs, back);
     EXPECT_EQ(back[0], "");
@@ -176,7 +177,8 @@ TEST(SaveSelections, SaysWhereItFailedAndLeavesTheOldFile)
     const ScratchFolder scratch;
     FakeDialogs dialogs;
     fs::create_directory(scratch.path() / "A.THC");
-    EXPECT_FALSE(SaveSelections(scratch.path() / "A.THC", dialogs, SelectionLines{}));
+    KnownFiles known;
+    EXPECT_FALSE(SaveSelections(scratch.path() / "A.THC", dialogs, known, SelectionLines{}));
     EXPECT_EQ(dialogs.shown,
               (std::vector<ui::Message>{{"** ERROR IN WRITING FILE **",
                                          "There is a problem writing file: " + (scratch.path() / "A.THC").string() +

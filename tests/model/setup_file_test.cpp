@@ -192,7 +192,8 @@ TEST(WriteStartingField, WritesNinetySixLines)
 {
     const ScratchFolder scratch;
     FakeDialogs dialogs;
-    EXPECT_TRUE(WriteStartingField(scratch.folder(), dialogs, numberedSetup()));
+    KnownFiles known;
+    EXPECT_TRUE(WriteStartingField(scratch.folder(), dialogs, known, numberedSetup()));
     std::string expected = "*START*\r\n";
     for (int i = 0; i <= 93; ++i)
         expected += "entry " + std::to_string(i) + "\r\n";
@@ -207,7 +208,8 @@ TEST(WriteStartingField, PutsATwoLineCommentOnOneLine)
     Reading r;
     SetupLines lines = defaultSetupLines();
     lines[setup_line::kComment1] = encodeLineBreaks("a\r\nb");
-    EXPECT_TRUE(WriteStartingField(r.scratch.folder(), r.dialogs, lines));
+    KnownFiles known;
+    EXPECT_TRUE(WriteStartingField(r.scratch.folder(), r.dialogs, known, lines));
     EXPECT_NE(r.scratch.get("POOLSTART.THS").find("\r\na|b\r\n"), std::string::npos);
     r.read();
     EXPECT_EQ(decodeLineBreaks(r.state.setupLines[setup_line::kComment1]), "a\r\nb");
@@ -220,7 +222,8 @@ TEST(WriteStartingField, IsReadBackAsItWas)
     lines[7] = "\xC9t\xE9 <b>&\"/ ";
     lines[8] = "";
     lines[setup_line::kEnd] = "*END*";
-    EXPECT_TRUE(WriteStartingField(r.scratch.folder(), r.dialogs, lines));
+    KnownFiles known;
+    EXPECT_TRUE(WriteStartingField(r.scratch.folder(), r.dialogs, known, lines));
     r.read();
     for (std::size_t i = 0; i <= setup_line::kEnd; ++i)
         EXPECT_EQ(r.state.setupLines[i], lines[i]);
@@ -233,7 +236,8 @@ TEST(WriteStartingField, SaysWhereItFailed)
     const ScratchFolder scratch;
     FakeDialogs dialogs;
     const DataFolder gone{scratch.path() / "gone"};
-    EXPECT_FALSE(WriteStartingField(gone, dialogs, defaultSetupLines()));
+    KnownFiles known;
+    EXPECT_FALSE(WriteStartingField(gone, dialogs, known, defaultSetupLines()));
     EXPECT_EQ(dialogs.shown,
               (std::vector<ui::Message>{{"** ERROR IN WRITING FILE **",
                                          "There is a problem writing file: " + (scratch.path() / "gone").string() +

@@ -97,7 +97,8 @@ TEST(WriteTeamNames, ReplacesTheFile)
     const ScratchFolder scratch;
     FakeDialogs dialogs;
     scratch.put("NcaaList.ths", std::string(5000, 'x'));
-    EXPECT_TRUE(WriteTeamNames(scratch.folder(), dialogs, Names{"Duke"}));
+    KnownFiles known;
+    EXPECT_TRUE(WriteTeamNames(scratch.folder(), dialogs, known, Names{"Duke"}));
     EXPECT_EQ(scratch.get("NcaaList.ths"), crlf({"*START*", "Duke", "*END*"}));
     EXPECT_TRUE(dialogs.shown.empty());
 }
@@ -106,7 +107,8 @@ TEST(WriteTeamNames, SaysWhereItFailed)
 {
     const ScratchFolder scratch;
     FakeDialogs dialogs;
-    EXPECT_FALSE(WriteTeamNames(DataFolder{scratch.path() / "gone"}, dialogs, Names{"Duke"}));
+    KnownFiles known;
+    EXPECT_FALSE(WriteTeamNames(DataFolder{scratch.path() / "gone"}, dialogs, known, Names{"Duke"}));
     EXPECT_EQ(dialogs.shown,
               (std::vector<ui::Message>{{"** ERROR IN WRITING FILE **",
                                          "There is a problem writing file: " + (scratch.path() / "gone").string() +
