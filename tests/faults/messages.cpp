@@ -1,0 +1,80 @@
+#include "faults/messages.h"
+
+#include <string>
+
+namespace tallyhoop::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+ui::Message writingProblem(const fs::path& file, const char* advice)
+{
+    return {"** ERROR IN WRITING FILE **", "There is a problem writing file: " + file.string() + "\r\n" + advice,
+            ui::Buttons::Ok, ui::Icon::Critical};
+}
+
+} // namespace
+
+ui::Message checkSpace(const fs::path& file)
+{
+    return writingProblem(file, " Check for adequate space in the Application Directory");
+}
+
+ui::Message checkSelection(const fs::path& file) { return writingProblem(file, " Check your selection and retry."); }
+
+std::vector<ui::Message> teamListTrouble(const fs::path& folder)
+{
+    const ui::Message offer{"TEAM NAMES Changed / Added",
+                            "You have added or changed the Team Names ...\r\n"
+                            "Do you want to save these changes made to\r\n"
+                            "the list of team names?",
+                            ui::Buttons::YesNo, ui::Icon::Question};
+    return {offer, checkSpace(folder / "NCAALIST.THS")};
+}
+
+ui::Message spoiltPlayerList(const fs::path& folder)
+{
+    return {"** ERROR Found in PLAYERNAMES.CSV file **",
+            "There is a problem found with the file containing your player names.\r\n"
+            "Possibly someone has edited this file with another program.\r\n\r\n"
+            "The file: " +
+                (folder / "PLAYERNAMES.TXT").string() +
+                "\r\n"
+                " is a copy of the original file with the error records identified.\r\n\r\n"
+                "You can either go back to a backup copy of this file or attempt\r\n"
+                "to correct the error(s) in this copy and then rename it to\r\n"
+                "PLAYERNAMES.CSV.\r\n\r\n"
+                "See the help file for additional instructions",
+            ui::Buttons::Ok, ui::Icon::Critical};
+}
+
+std::vector<ui::Message> reportTrouble(ReportId id, const fs::path& folder, const Fault& fault)
+{
+    if (!fault.hidesFolder)
+        return {reportFailure(reportKind(id), fault.reason)};
+    const std::string noFiles = "There aren't any Player Selection files saved,  so the\r\n";
+    const auto noReport = [&](const char* report) { return reportFailure(reportKind(id), noFiles + report); };
+    switch (id) {
+    case ReportId::TournamentStandings:
+        return {noReport("\"Tournament Standings Report\" cannot be prepared.")};
+    case ReportId::PlayerListing:
+        return {spoiltPlayerList(folder), reportFailure(reportKind(id), "Problems found with PLAYERNAMES.CSV file\r\n"
+                                                                        "This condition must be corrected, "
+                                                                        "See Help content")};
+    case ReportId::TeamSelectionSummary:
+    case ReportId::TeamSelectionDetail:
+        return {{"Tallyhoop - TeamSelSetup", noFiles + "Team Selection Reports cannot be prepared.", ui::Buttons::Ok,
+                 ui::Icon::Exclamation}};
+    case ReportId::PlayerSelectionDetail:
+        return {{reportKind(id).failureTitle, noFiles + "\"Player Selection Detail\" report cannot be prepared.",
+                 ui::Buttons::Ok, ui::Icon::None}};
+    case ReportId::ResultsByPlayer:
+        return {noReport("\"Projected Results by Player\" report cannot be prepared.")};
+    case ReportId::ResultsByTeam:
+        return {noReport("\"Projected Results by Team\" report cannot be prepared.")};
+    }
+    return {};
+}
+
+} // namespace tallyhoop::test

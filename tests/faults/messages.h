@@ -1,0 +1,27 @@
+// tests/faults/messages.h - what the person is told when a file could not be written, word for word.
+#pragma once
+
+#include "faults/faults.h"
+#include "reports/report_table.h"
+#include "ui/dialogs.h"
+
+#include <filesystem>
+#include <vector>
+
+namespace tallyhoop::test {
+
+/// For the files that the program itself names.
+ui::Message checkSpace(const std::filesystem::path& file);
+
+/// For selections and results.
+ui::Message checkSelection(const std::filesystem::path& file);
+
+/// The offer to save the changed names, and that it failed.
+std::vector<ui::Message> teamListTrouble(const std::filesystem::path& folder);
+
+ui::Message spoiltPlayerList(const std::filesystem::path& folder);
+
+/// A report whose folder has vanished finds no selections, or no player list, before it comes to writing.
+std::vector<ui::Message> reportTrouble(ReportId id, const std::filesystem::path& folder, const Fault& fault);
+
+} // namespace tallyhoop::test

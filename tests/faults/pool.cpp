@@ -1,0 +1,69 @@
+#include "faults/writers.h"
+#include "model/file_names.h"
+#include "model/setup_file.h"
+#include "reports/report_pool.h"
+#include "reports/report_table.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+namespace tallyhoop::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+} // namespace
+
+void putPool(const ScratchFolder& folder)
+{
+    putFourPlayers(folder);
+    SetupLines setup = defaultSetupLines();
+    setup[setup_line::kFinalized] = "1";
+    folder.put(file_name::kSetup, setupFile(setup));
+    folder.put(file_name::kTeamNames, crlf({"*START*", "Akron", "Duke", "Texas", "*END*"}));
+    folder.put(file_name::kWorkFile, "an older report");
+    for (const ReportKind& kind : reportTable())
+        folder.put(kind.file, "an older report");
+}
+
+std::vector<std::pair<std::string, std::string>> filesIn(const fs::path& folder)
+{
+    std::vector<std::pair<std::string, std::string>> files;
+    for (const fs::directory_entry& entry : fs::directory_iterator{folder}) {
+        const std::string name = entry.path().filename().string();
+        if (name == kFiller)
+            continue;
+        if (entry.is_directory()) {
+            files.emplace_back(name + "/", "");
+            continue;
+        }
+        std::ifstream stream{entry.path(), std::ios::binary};
+        files.emplace_back(name, std::string{std::istreambuf_iterator<char>{stream}, {}});
+    }
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+std::string textOf(const ui::Screen& screen)
+{
+    std::string text;
+    const auto add = [&text](const std::string& name, const std::string& value) {
+        text += name + " = " + value + "\n";
+    };
+    for (const ui::Control* control : screen.controls()) {
+        if (const auto* label = dynamic_cast<const ui::Label*>(control))
+            add(label->name, label->text);
+        else if (const auto* box = dynamic_cast<const ui::TextBox*>(control))
+            add(box->name, box->text);
+        else if (const auto* list = dynamic_cast<const ui::ListBox*>(control)) {
+            for (const std::string& row : list->rows)
+                add(list->name, row);
+            add(list->name, list->selected ? std::to_string(*list->selected) : "-");
+        }
+    }
+    return text;
+}
+
+} // namespace tallyhoop::test

@@ -1,0 +1,266 @@
+#include "faults/writers.h"
+
+#include "bracket/frmPoolMain.h"
+#include "faults/messages.h"
+#include "model/file_names.h"
+#include "players/frmPoolNames.h"
+#include "reports/frmPoolReports.h"
+#include "setup/frmPoolEntry.h"
+
+#include <fstream>
+
+namespace tallyhoop::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kSelection = "Adams_AB.THC";
+constexpr const char* kNewSelection = "Evans_GH.THC";
+
+template <class ScreenKindOfWriter>
+class ScreenWriter : public Writer
+{
+public:
+    using Writer::Writer;
+    std::string onScreen() const override { return textOf(*screen); }
+
+protected:
+    std::unique_ptr<ScreenKindOfWriter> screen;
+
+    void answerIfAsked(std::optional<ui::Answer> answer)
+    {
+        if (answer)
+            platform.dialogs.answer(*answer);
+    }
+};
+
+class SetupWriter : public ScreenWriter<frmPoolEntry>
+{
+public:
+    explicit SetupWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
+    {
+        screen = std::make_unique<frmPoolEntry>(folder, platform.services, state, screens);
+        screen->load();
+        screen->TxtInfo[0].text = "A new title";
+    }
+    void save(std::optional<ui::Answer> mayReplace) override
+    {
+        answerIfAsked(mayReplace);
+        screen->mnuSaveStartingField.click();
+    }
+};
+
+class TeamListWriter : public ScreenWriter<frmPoolEntry>
+{
+public:
+    explicit TeamListWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
+    {
+        screen = std::make_unique<frmPoolEntry>(folder, platform.services, state, screens);
+        screen->load();
+        platform.dialogs.type("Gonzaga");
+        screen->cmdAddName.click();
+    }
+    void save(std::optional<ui::Answer> mayReplace) override
+    {
+        platform.dialogs.answer(ui::Answer::Yes); // save the changed names?
+        answerIfAsked(mayReplace);
+        screen->mnuEnd.click();
+    }
+};
+
+class BoardWriter : public ScreenWriter<frmPoolMain>
+{
+public:
+    explicit BoardWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
+    {
+        screen = std::make_unique<frmPoolMain>(folder, platform.services, state, screens);
+        screen->load();
+    }
+
+protected:
+    void enter(const char* initials, const char* name)
+    {
+        screen->txtPlayerInitials.text = initials;
+        screen->txtPlayerName.text = name;
+        enterPoints();
+    }
+    void enterPoints()
+    {
+        screen->txtFinalPoints.text = "177";
+        screen->txtFinalPoints.edited();
+    }
+};
+
+class ResultsWriter : public BoardWriter
+{
+public:
+    explicit ResultsWriter(const fs::path& folderPath) : BoardWriter{folderPath}
+    {
+        screen->EnterGameResults();
+        enterPoints();
+    }
+    void save(std::optional<ui::Answer> mayReplace) override
+    {
+        answerIfAsked(mayReplace);
+        screen->SaveSelection();
+    }
+};
+
+class SelectionWriter : public BoardWriter
+{
+public:
+    explicit SelectionWriter(const fs::path& folderPath) : BoardWriter{folderPath}
+    {
+        screen->showSelection(folder.folder() / kSelection);
+        enterPoints();
+    }
+    void save(std::optional<ui::Answer> mayReplace) override
+    {
+        platform.dialogs.pick(folder.folder() / kSelection);
+        answerIfAsked(mayReplace);
+        screen->SaveSelection();
+    }
+};
+
+class NewSelectionWriter : public BoardWriter
+{
+public:
+    explicit NewSelectionWriter(const fs::path& folderPath) : BoardWriter{folderPath}
+    {
+        screen->NewSelection();
+        enter("GH", "Evans");
+    }
+    void save(std::optional<ui::Answer> mayReplace) override
+    {
+        platform.dialogs.pick(folder.folder() / kNewSelection);
+        answerIfAsked(mayReplace);
+        screen->SaveSelection();
+    }
+};
+
+class PlayerListWriter : public ScreenWriter<frmPoolNames>
+{
+public:
+    explicit PlayerListWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
+    {
+        screen = std::make_unique<frmPoolNames>(folder, platform.services, state, screens);
+        screen->load();
+        screen->txtName.text = "Evans,GH";
+        screen->txtEmail.text = "evans@example.org";
+    }
+    void save(std::optional<ui::Answer> mayReplace) override
+    {
+        answerIfAsked(mayReplace);
+        screen->cmdAdd.click();
+    }
+};
+
+/// The copy is written while the player list is read: a player list that somebody has spoilt.
+class AnnotatedCopyWriter : public Writer
+{
+public:
+    explicit AnnotatedCopyWriter(const fs::path& folderPath) : Writer{folderPath}
+    {
+        std::ofstream{folderPath / file_name::kPlayerNames, std::ios::app | std::ios::binary} << "spoilt line\r\n";
+    }
+    void save(std::optional<ui::Answer> /*mayReplace*/) override
+    {
+        frmPoolNames names{folder, platform.services, state, screens};
+        names.load();
+        EXPECT_FALSE(names.cmdAdd.enabled);
+    }
+    std::string onScreen() const override { return {}; }
+};
+
+template <std::size_t Index, std::size_t Destination>
+class ReportWriter : public ScreenWriter<frmPoolReports>
+{
+public:
+    explicit ReportWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
+    {
+        screen = std::make_unique<frmPoolReports>(folder, platform.services, state, screens, board);
+        screen->load();
+        screen->txtReportTitle.text = "A new title";
+        ui::selectOption(screen->optDestination, Destination);
+    }
+    void save(std::optional<ui::Answer> /*mayReplace*/) override
+    {
+        screen->chkOptions[Index].ticked = true;
+        screen->cmdPrintSelections.click();
+    }
+    std::string onScreen() const override
+    {
+        // The chosen files are listed anew before every report.
+        return screen->txtReportTitle.text;
+    }
+};
+
+constexpr std::size_t kToPrinter = 0;
+constexpr std::size_t kToFile = 1;
+
+template <class Kind>
+std::unique_ptr<Writer> opened(const fs::path& folder)
+{
+    return std::make_unique<Kind>(folder);
+}
+
+template <const char* const& Name>
+std::vector<ui::Message> troubleWith(const fs::path& folder, const Fault& /*fault*/)
+{
+    return {checkSpace(folder / Name)};
+}
+
+template <ReportId Id>
+std::vector<ui::Message> troubleOfReport(const fs::path& folder, const Fault& fault)
+{
+    return reportTrouble(Id, folder, fault);
+}
+
+template <ReportId Id>
+WriterKind reportFile(const char* name)
+{
+    constexpr auto kIndex = static_cast<std::size_t>(Id);
+    return {name,
+            reportTable()[kIndex].file,
+            "A new title",
+            true,
+            false,
+            opened<ReportWriter<kIndex, kToFile>>,
+            troubleOfReport<Id>};
+}
+
+} // namespace
+
+const std::vector<WriterKind>& allWriters()
+{
+    static const std::vector<WriterKind> writers{
+        {"Setup", file_name::kSetup, "A new title", true, true, opened<SetupWriter>, troubleWith<file_name::kSetup>},
+        {"Results", file_name::kResults, "\r\n177\r\n", true, true, opened<ResultsWriter>,
+         [](const fs::path& folder, const Fault&) {
+             return std::vector{checkSelection(folder / file_name::kResults)};
+         }},
+        {"Selection", kSelection, "\r\n177\r\n", true, true, opened<SelectionWriter>,
+         [](const fs::path& folder, const Fault&) { return std::vector{checkSelection(folder / kSelection)}; }},
+        {"NewSelection", kNewSelection, "\r\n177\r\n", false, false, opened<NewSelectionWriter>,
+         [](const fs::path& folder, const Fault&) { return std::vector{checkSelection(folder / kNewSelection)}; }},
+        {"PlayerList", file_name::kPlayerNames, "Evans,GH", true, true, opened<PlayerListWriter>,
+         troubleWith<file_name::kPlayerNames>},
+        {"AnnotatedCopy", file_name::kPlayerNamesErrors, "spoilt line", true, false, opened<AnnotatedCopyWriter>,
+         [](const fs::path& folder, const Fault&) { return std::vector{spoiltPlayerList(folder)}; }},
+        {"TeamList", file_name::kTeamNames, "Gonzaga", true, true, opened<TeamListWriter>,
+         [](const fs::path& folder, const Fault&) { return teamListTrouble(folder); }},
+        {"WorkFile", file_name::kWorkFile, "A new title", true, false, opened<ReportWriter<0, kToPrinter>>,
+         troubleOfReport<ReportId::TournamentStandings>},
+        reportFile<ReportId::TournamentStandings>("TournamentStandings"),
+        reportFile<ReportId::PlayerListing>("PlayerListing"),
+        reportFile<ReportId::TeamSelectionSummary>("TeamSelectionSummary"),
+        reportFile<ReportId::TeamSelectionDetail>("TeamSelectionDetail"),
+        reportFile<ReportId::PlayerSelectionDetail>("PlayerSelectionDetail"),
+        reportFile<ReportId::ResultsByPlayer>("ResultsByPlayer"),
+        reportFile<ReportId::ResultsByTeam>("ResultsByTeam"),
+    };
+    return writers;
+}
+
+} // namespace tallyhoop::test
