@@ -1,0 +1,66 @@
+// bench/large_pool.cpp - random brackets, and the files of a pool of them.
+#include "bench/large_pool.h"
+
+#include "demo/sample_pool.h"
+#include "model/file_names.h"
+#include "model/player_names_file.h"
+#include "model/selection_file.h"
+#include "model/setup_file.h"
+#include "scoring/numbered_bracket.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <fmt/format.h>
+#include <fstream>
+#include <random>
+#include <string>
+
+namespace tallyhoop::bench {
+
+namespace {
+
+void put(const std::filesystem::path& file, std::string_view bytes)
+{
+    std::ofstream stream{file, std::ios::binary};
+    stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    if (stream.flush())
+        return;
+    std::fputs(fmt::format("cannot write {}\n", file.string()).c_str(), stderr);
+    std::exit(1);
+}
+
+} // namespace
+
+std::vector<SelectionLines> randomBrackets(std::size_t count)
+{
+    std::mt19937 random{2000};
+    std::vector<SelectionLines> brackets(count, demo::sampleResults());
+    for (SelectionLines& lines : brackets)
+        for (std::size_t slot = 1; slot <= 127; ++slot)
+            if (bracketSlots()[slot].round != 0)
+                lines[slot] = lines[bracketSlots()[slot].feeders[random() % 2]];
+    return brackets;
+}
+
+void makeLargePool(const std::filesystem::path& folder, std::size_t players)
+{
+    std::filesystem::create_directories(folder);
+    std::vector<SelectionLines> brackets = randomBrackets(players);
+    std::vector<PlayerRecord> records;
+    for (std::size_t i = 0; i < players; ++i) {
+        // Scattered, so that there is something to sort.
+        const std::string name = fmt::format("Player{:05}", i * 7919 % 100'003);
+        const std::string fileName = name + "_PX.THC";
+        SelectionLines& lines = brackets[i];
+        lines[selection_line::kInitials] = "PX";
+        lines[selection_line::kName] = name;
+        lines[selection_line::kFinalPoints] = fmt::format("{}", 100 + i % 100);
+        put(folder / fileName, selectionFile(lines));
+        records.push_back({name, fileName, name + "@example.org", "555-0100"});
+    }
+    put(folder / file_name::kSetup, setupFile(demo::sampleSetup()));
+    put(folder / file_name::kResults, selectionFile(demo::sampleResults()));
+    put(folder / file_name::kPlayerNames, playerNamesFile(records));
+}
+
+} // namespace tallyhoop::bench
