@@ -4,9 +4,6 @@
 #include "model/replace_file_steps.h"
 #include "model/windows1252.h"
 
-#include <array>
-#include <cerrno>
-#include <fstream>
 #include <string>
 
 namespace tallyhoop {
@@ -93,20 +90,9 @@ Result<std::string> readFile(const fs::path& file)
     if (!fs::is_regular_file(status))
         return failureOf(fs::is_directory(status) ? std::errc::is_a_directory : std::errc::invalid_argument);
 
-    errno = 0;
-    std::ifstream stream{file, std::ios::binary};
-    if (!stream)
-        return failureOf(std::error_code{errno != 0 ? errno : EIO, std::generic_category()});
     std::string bytes;
-    std::array<char, 1 << 16> chunk{};
-    do {
-        stream.read(chunk.data(), static_cast<std::streamsize>(chunk.size()));
-        bytes.append(chunk.data(), static_cast<std::size_t>(stream.gcount()));
-        if (bytes.size() > kMostBytes)
-            return failureOf(std::errc::file_too_large);
-    } while (stream);
-    if (stream.bad())
-        return failureOf(std::errc::io_error);
+    if (error = readAll(file, kMostBytes, bytes); error)
+        return failureOf(error);
     return bytes;
 }
 

@@ -1,4 +1,4 @@
-// model/replace_file_posix.cpp - writing, flushing and renaming on Linux and its kin.
+// model/replace_file_posix.cpp - writing, flushing and renaming, and reading, on Linux and its kin.
 #ifndef _WIN32
 
 #include "model/replace_file_steps.h"
@@ -145,6 +145,31 @@ std::error_code replaceThrough(const fs::path& temporary, const fs::path& target
     else
         flushFolder(target.parent_path());
     return error;
+}
+
+std::error_code readAll(const fs::path& file, std::size_t mostBytes, std::string& bytes)
+{
+    // A stream would cost more than the reading itself where thousands of small files are read.
+    constexpr std::size_t kRoomForMost = 4096;
+    const Descriptor descriptor{uninterrupted([&] { return ::open(file.c_str(), O_RDONLY | O_CLOEXEC); })};
+    if (!descriptor.isOpen())
+        return lastError();
+    bytes.resize(kRoomForMost);
+    for (std::size_t size = 0;;) {
+        const ssize_t got =
+            uninterrupted([&] { return ::read(descriptor.number(), bytes.data() + size, bytes.size() - size); });
+        if (got > 0)
+            size += static_cast<std::size_t>(got);
+        if (got <= 0 || size > mostBytes) {
+            const std::error_code error = got < 0   ? lastError()
+                                          : got > 0 ? std::make_error_code(std::errc::file_too_large)
+                                                    : std::error_code{};
+            bytes.resize(size);
+            return error;
+        }
+        if (size == bytes.size())
+            bytes.resize(2 * size);
+    }
 }
 
 } // namespace tallyhoop

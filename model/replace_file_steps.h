@@ -1,7 +1,9 @@
-// model/replace_file_steps.h - the part of replacing a file that differs between systems.
+// model/replace_file_steps.h - the part of replacing and reading a file that differs between systems.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <system_error>
 
@@ -17,5 +19,10 @@ std::error_code replaceThrough(const std::filesystem::path& temporary, const std
 /// Makes the names in a folder last: what was created or renamed there is there after a power cut, as far as the system
 /// can promise it.
 void flushFolder(const std::filesystem::path& folder);
+
+/// Reads a whole file.
+/// @param bytes receives it; on an error what was read before
+/// @returns no error, or why it could not be read; "file too large" beyond `mostBytes`
+std::error_code readAll(const std::filesystem::path& file, std::size_t mostBytes, std::string& bytes);
 
 } // namespace tallyhoop

@@ -1,4 +1,4 @@
-// model/replace_file_windows.cpp - writing, flushing and renaming on Windows.
+// model/replace_file_windows.cpp - writing, flushing and renaming, and reading, on Windows.
 #ifdef _WIN32
 
 #include "model/replace_file_steps.h"
@@ -10,6 +10,9 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
+#include <cerrno>
+#include <fstream>
 
 namespace tallyhoop {
 namespace {
@@ -66,6 +69,22 @@ std::error_code replaceThrough(const fs::path& temporary, const fs::path& target
 
 // Windows writes names through by itself and has no call for a folder.
 void flushFolder(const fs::path& /*folder*/) {}
+
+std::error_code readAll(const fs::path& file, std::size_t mostBytes, std::string& bytes)
+{
+    errno = 0;
+    std::ifstream stream{file, std::ios::binary};
+    if (!stream)
+        return {errno != 0 ? errno : EIO, std::generic_category()};
+    std::array<char, 1 << 16> chunk;
+    do {
+        stream.read(chunk.data(), static_cast<std::streamsize>(chunk.size()));
+        bytes.append(chunk.data(), static_cast<std::size_t>(stream.gcount()));
+        if (bytes.size() > mostBytes)
+            return std::make_error_code(std::errc::file_too_large);
+    } while (stream);
+    return stream.bad() ? std::make_error_code(std::errc::io_error) : std::error_code{};
+}
 
 } // namespace tallyhoop
 

@@ -16,13 +16,13 @@ namespace {
 
 constexpr std::size_t kFileLines = 131;
 
-std::optional<Failure> troubleWith(const std::vector<std::string>& fileLines)
+std::optional<Failure> troubleWith(const SelectionLines& lines, std::size_t count)
 {
-    if (fileLines.size() > kFileLines)
+    if (count > kFileLines)
         return Failure{"The file has more than 131 lines."};
-    if (fileLines.size() < kFileLines)
+    if (count < kFileLines)
         return Failure{"The file has fewer than 131 lines."};
-    if (fileLines.back() != kEndMarker)
+    if (lines[selection_line::kEnd] != kEndMarker)
         return Failure{"Line 131 of the file is not the end marker."};
     return std::nullopt;
 }
@@ -31,11 +31,11 @@ std::optional<Failure> troubleWith(const std::vector<std::string>& fileLines)
 
 Read<SelectionLines> readSelection(std::string_view bytes)
 {
-    std::vector<std::string> fileLines = linesOf(bytes);
     Read<SelectionLines> read;
-    read.trouble = troubleWith(fileLines);
-    const std::size_t fitting = std::min(fileLines.size(), kFileLines);
-    std::move(fileLines.begin(), fileLines.begin() + static_cast<std::ptrdiff_t>(fitting), read.value.begin() + 1);
+    std::size_t count = 0;
+    while (!bytes.empty() && count < kFileLines)
+        read.value[++count] = takeLine(bytes);
+    read.trouble = troubleWith(read.value, bytes.empty() ? count : kFileLines + 1);
     return read;
 }
 

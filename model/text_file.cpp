@@ -1,19 +1,27 @@
 // model/text_file.cpp - text files as lines.
 #include "model/text_file.h"
 
+#include <algorithm>
+
 namespace tallyhoop {
+
+std::string_view takeLine(std::string_view& bytes)
+{
+    // A plain walk: lines are short, and a search for one of two characters has more to prepare than to do.
+    std::size_t end = 0;
+    while (end < bytes.size() && bytes[end] != '\r' && bytes[end] != '\n')
+        ++end;
+    const std::string_view line = bytes.substr(0, end);
+    const bool isPair = bytes.substr(end, 2) == "\r\n";
+    bytes.remove_prefix(std::min(bytes.size(), end + (isPair ? 2 : 1)));
+    return line;
+}
 
 std::vector<std::string> linesOf(std::string_view bytes)
 {
     std::vector<std::string> lines;
-    while (!bytes.empty()) {
-        const std::size_t end = bytes.find_first_of("\r\n");
-        lines.emplace_back(bytes.substr(0, end));
-        if (end == std::string_view::npos)
-            break;
-        const bool isPair = bytes.substr(end, 2) == "\r\n";
-        bytes.remove_prefix(end + (isPair ? 2 : 1));
-    }
+    while (!bytes.empty())
+        lines.emplace_back(takeLine(bytes));
     return lines;
 }
 

@@ -256,6 +256,17 @@ TEST(ReadFile, GivesEveryByte)
     EXPECT_EQ(*readFile(scratch.put("B", "")), "");
 }
 
+TEST(ReadFile, GivesFilesOfEverySizeWhole)
+{
+    const ScratchFolder scratch;
+    for (const std::size_t size : {0, 1, 4095, 4096, 4097, 8192, 100'000}) {
+        std::string bytes;
+        for (std::size_t i = 0; i < size; ++i)
+            bytes.push_back(static_cast<char>(i * 7 % 256));
+        EXPECT_EQ(*readFile(scratch.put("FILE", bytes)), bytes) << size;
+    }
+}
+
 TEST(ReadFile, SaysWhyItFailed)
 {
     const ScratchFolder scratch;
