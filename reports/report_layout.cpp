@@ -56,7 +56,12 @@ Result<Done> addCentredPageHead(ReportLines& lines, long long (*centre)(std::siz
     return Done{};
 }
 
-void sortWorkRows(std::vector<std::string>& rows) { std::stable_sort(rows.begin(), rows.end(), FoldedLess{}); }
+void sortWorkRows(std::vector<std::string>& rows)
+{
+    // Rows of players often come in order: their files are listed by name.
+    if (!std::is_sorted(rows.begin(), rows.end(), FoldedLess{}))
+        std::stable_sort(rows.begin(), rows.end(), FoldedLess{});
+}
 
 std::vector<std::string> workRowFields(std::string_view row, char separator, std::size_t count)
 {

@@ -4,6 +4,12 @@
 #include "model/bracket_position.h"
 #include "model/numbers.h"
 #include "model/text.h"
+#include "model/windows1252.h"
+
+#include <algorithm>
+#include <iterator>
+#include <map>
+#include <utility>
 
 namespace tallyhoop {
 
@@ -13,11 +19,52 @@ constexpr std::size_t kPageWidth = 74;
 constexpr std::size_t kTeamColumn = 29;
 constexpr std::size_t kHeadingIndent = 27;
 
+/// Sorts hundreds of thousands of entries team by team: sorting them all at once would wait for the memory at nearly
+/// every comparison.
+class PicksByTeam
+{
+public:
+    explicit PicksByTeam(const ReadPool& pool)
+    {
+        // An entry ends its team with a comma. With commas of their own, teams can stand between entries of another.
+        for (const PoolEntry& player : pool.players)
+            for (std::size_t slot = 1; slot <= selection_line::kChampion; ++slot)
+                m_mixed = m_mixed || player.lines[slot].find(',') != std::string::npos;
+    }
+
+    void add(const std::string& team, std::string entry)
+    {
+        m_entries[m_mixed ? std::string{} : team + ","].push_back(std::move(entry));
+        ++m_count;
+    }
+
+    /// @returns all entries, ascending without regard to case, equal ones in order of arrival
+    std::vector<std::string> sorted()
+    {
+        std::vector<std::string> all;
+        all.reserve(m_count);
+        for (auto& [team, entries] : m_entries) {
+            sortWorkRows(entries);
+            std::ranges::move(entries, std::back_inserter(all));
+            entries = {};
+        }
+        return all;
+    }
+
+private:
+    std::map<std::string, std::vector<std::string>, FoldedLess> m_entries; ///< by the text before the player's label
+    std::size_t m_count = 0;
+    bool m_mixed = false;
+};
+
 } // namespace
 
 std::string pickEntry(std::string_view team, std::string_view playerLabel, int category)
 {
-    return std::string{team} + "," + std::string{playerLabel} + "," + std::to_string(category);
+    std::string entry;
+    entry.reserve(team.size() + playerLabel.size() + 3);
+    entry.append(team).append(",").append(playerLabel).append(",").append(std::to_string(category));
+    return entry;
 }
 
 Result<Pick> parsePickEntry(std::string_view entry)
@@ -37,19 +84,17 @@ Result<Pick> parsePickEntry(std::string_view entry)
 
 std::vector<std::string> pickEntries(const ReadPool& pool)
 {
-    std::vector<std::string> entries;
-    entries.reserve(pool.players.size() * static_cast<std::size_t>(kGames));
+    PicksByTeam picks{pool};
     for (const PoolEntry& player : pool.players) {
         const std::string label = player.lines[selection_line::kName] + "_" + player.lines[selection_line::kInitials];
         for (int slot = 1; slot <= kPositions; ++slot) {
             const int category = roundOf(positionOf(Slot{slot}));
             const std::string& team = player.lines[static_cast<std::size_t>(slot)];
             if (category > 0 && !team.empty())
-                entries.push_back(pickEntry(team, label, category));
+                picks.add(team, pickEntry(team, label, category));
         }
     }
-    sortWorkRows(entries);
-    return entries;
+    return picks.sorted();
 }
 
 Result<Done> addTeamSelectionHead(ReportLines& lines, std::string_view title, std::string_view reportName)

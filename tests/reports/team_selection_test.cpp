@@ -46,6 +46,33 @@ ReportLines detail(const std::vector<std::string>& entries, std::string_view tit
 
 TEST(PickEntry, PacksTeamPlayerAndCategory) { EXPECT_EQ(pickEntry("DUKE", "Smith_JS", 6), "DUKE,Smith_JS,6"); }
 
+TEST(PickEntries, StandInOrderWithoutRegardToCase)
+{
+    ReadPool pool;
+    for (const auto& [name, pick] : {std::pair{"Zoe", "Duke"}, {"Adam", "DUKE"}, {"Mia", "Duke St"}, {"Ben", "Ball"}}) {
+        PoolEntry& player = pool.players.emplace_back();
+        player.lines[selection_line::kName] = name;
+        player.lines[selection_line::kInitials] = "X";
+        player.lines[selection_line::kChampion] = pick;
+    }
+
+    EXPECT_EQ(pickEntries(pool),
+              (std::vector<std::string>{"Ball,Ben_X,6", "Duke St,Mia_X,6", "DUKE,Adam_X,6", "Duke,Zoe_X,6"}));
+}
+
+TEST(PickEntries, AreSortedAsTheyArePackedAlsoWhenATeamHoldsAComma)
+{
+    ReadPool pool;
+    for (const auto& [name, pick] : {std::pair{"B", "A"}, {"x", "A,A"}, {"A", "A"}, {"x", "A,C"}}) {
+        PoolEntry& player = pool.players.emplace_back();
+        player.lines[selection_line::kName] = name;
+        player.lines[selection_line::kChampion] = pick;
+    }
+
+    // A comma comes before an underscore.
+    EXPECT_EQ(pickEntries(pool), (std::vector<std::string>{"A,A,x_,6", "A,A_,6", "A,B_,6", "A,C,x_,6"}));
+}
+
 TEST(PickEntry, IsSplitAgain)
 {
     const Result<Pick> pick = parsePickEntry("DUKE,Smith_JS,6");
