@@ -40,6 +40,7 @@ void MainFrame::open()
 void MainFrame::addPage(Page& page)
 {
     page.setWindowFlags(Qt::Widget);
+    page.resize(m_stack->size()); // laid out once, not for a size that nobody will see
     m_stack->addWidget(&page);
     showPage(page);
 }

@@ -92,6 +92,8 @@ void BracketCanvas::makeHeads()
 
 void BracketCanvas::makeSeeds()
 {
+    QPalette throughToTheBoard; // a style sheet for each of them would be felt at the start
+    throughToTheBoard.setColor(QPalette::Base, Qt::transparent);
     for (std::size_t i = 0; i < m_seeds.size(); ++i) {
         auto* const seed = qobject_cast<QLineEdit*>(m_page.add(m_board.txtSeed[i]));
         seed->setParent(this);
@@ -100,7 +102,7 @@ void BracketCanvas::makeSeeds()
         seed->setAlignment(i < kTeams / 2 ? Qt::AlignRight : Qt::AlignLeft);
         seed->setFocusPolicy(Qt::NoFocus);
         seed->setAttribute(Qt::WA_TransparentForMouseEvents);
-        seed->setStyleSheet("background: transparent");
+        seed->setPalette(throughToTheBoard);
         m_seeds[i] = seed;
     }
 }
