@@ -1,4 +1,5 @@
 // bench/scoring_bench.cpp - scoring from memory, and the score display with 1,000 and 10,000 players.
+#include "bench/large_pool.h"
 #include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
@@ -10,24 +11,13 @@
 
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
-#include <random>
 
 namespace tallyhoop {
 namespace {
 
-constexpr Payoffs kPayoffs{1, 2, 4, 8, 12, 16};
+using bench::randomBrackets;
 
-/// Brackets over the sample field, each game's winner left to chance.
-std::vector<SelectionLines> randomBrackets(std::size_t count)
-{
-    std::mt19937 random{2000};
-    std::vector<SelectionLines> brackets(count, demo::sampleResults());
-    for (SelectionLines& lines : brackets)
-        for (std::size_t slot = 1; slot <= 127; ++slot)
-            if (bracketSlots()[slot].round != 0)
-                lines[slot] = lines[bracketSlots()[slot].feeders[random() % 2]];
-    return brackets;
-}
+constexpr Payoffs kPayoffs{1, 2, 4, 8, 12, 16};
 
 /// The inner scoring: brackets numbered beforehand.
 void ScoreNumbered(benchmark::State& state)

@@ -1,0 +1,44 @@
+#!/usr/bin/env bash
+# Builds the benchmarks and runs all of them, as bench/README.md tells; about ten minutes on a computer of its own.
+# "smoke" as the only argument runs each once on a tiny pool: does it still work? Then TALLYHOOP_BUILD names the build.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+smoke=()
+google=()
+if [ "${1:-}" = smoke ]; then
+    smoke=(--rounds 1 --players 10)
+    google=(--benchmark_min_time=0.001 --benchmark_filter='Score(Numbered|Picks)$')
+else
+    cmake --preset release -DTALLYHOOP_BENCH=ON
+    cmake --build build
+fi
+build="${TALLYHOOP_BUILD:-build}"
+export TALLYHOOP_BUILD="$build"
+
+# Qt wants a folder of its own; without one it says so at every start.
+XDG_RUNTIME_DIR="$(mktemp -d)"
+export XDG_RUNTIME_DIR
+trap 'rm -rf "$XDG_RUNTIME_DIR"' EXIT
+export QT_LOGGING_RULES="qt.qpa.*=false"
+
+measure() {
+    echo "== $*"
+    python3 -B "bench/$1.py" "${@:2}" "${smoke[@]}"
+}
+
+"$build/bench/tallyhoop_scoring_bench" "${google[@]}"
+measure reports
+if [ -x "$build/bench/tallyhoop_windows_bench" ]; then
+    measure standings
+    measure scores
+    measure start
+    measure clicks
+    measure lists
+    if [ "${1:-}" != smoke ]; then
+        for script in start clicks; do
+            echo "== $script --platform xcb, on Xvfb"
+            xvfb-run -a -s "-screen 0 1600x1000x24" python3 -B "bench/$script.py" --platform xcb
+        done
+    fi
+fi
