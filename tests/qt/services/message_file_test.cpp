@@ -104,6 +104,14 @@ TEST_F(MessageFile, EncodesALongSubjectInUtf8WordsOfWholeCharacters)
     EXPECT_EQ(found["subject"], subject);
 }
 
+TEST_F(MessageFile, KeepsASubjectThatLooksEncodedOrHasBlanksAroundIt)
+{
+    for (const std::string subject : {"=?UTF-8?B?aGk=?=", " two  blanks  ", "100%n =?x"}) {
+        read(messageFile({.recipients = {}, .subject = subject, .body = {}, .files = {}}, std::vector<AttachedText>{}));
+        EXPECT_EQ(found["subject"], subject);
+    }
+}
+
 TEST_F(MessageFile, TakesNamesWithTheirAddressesAndSeveralAtOnce)
 {
     read(messageFile({.recipients = {"\"Smith, J\" <js@example.org>", "Zo\xC3\xAB M <zoe@example.org>",

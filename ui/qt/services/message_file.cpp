@@ -40,6 +40,12 @@ bool isAscii(std::string_view text)
                                   "abcdefghijklmnopqrstuvwxyz{|}~") == std::string_view::npos;
 }
 
+/// @returns whether a header holds the text as it is: no blank that a reader would drop, nothing it would decode
+bool isPlainHeader(std::string_view text)
+{
+    return isAscii(text) && text.find("=?") == std::string_view::npos && !text.starts_with(' ') && !text.ends_with(' ');
+}
+
 /// @returns how many bytes from `start`, at most `most`, end between two characters
 std::size_t wholeCharacters(std::string_view utf8, std::size_t start, std::size_t most)
 {
@@ -68,9 +74,10 @@ std::string encodedWords(const std::string& utf8)
 void setSubject(GMimeMessage* message, const std::string& subject)
 {
     g_mime_message_set_subject(message, subject.c_str(), kCharset);
-    if (isAscii(subject))
+    if (isPlainHeader(subject))
         return;
-    // The library would choose between two encodings by length; receivers know this one best.
+    // The library would choose between two encodings by length, and leave alone what looks encoded already; receivers
+    // know this one best.
     GMimeHeaderList* headers = g_mime_object_get_header_list(GMIME_OBJECT(message));
     g_mime_header_set_raw_value(g_mime_header_list_get_header(headers, "Subject"),
                                 (" " + encodedWords(subject) + "\n").c_str());
