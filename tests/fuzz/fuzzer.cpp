@@ -1,5 +1,5 @@
-// tests/fuzz/fuzzer.cpp - one reader under libFuzzer; built once for each, named by TALLYHOOP_FUZZ_READER.
-#include "fuzz/readers.h"
+// tests/fuzz/fuzzer.cpp - one target under libFuzzer; built once for each, named by TALLYHOOP_FUZZ_TARGET.
+#include "fuzz/targets.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -9,7 +9,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view bytes{reinterpret_cast<const char*>(data), size};
-    if (const std::optional<std::string> complaint = tallyhoop::fuzz::TALLYHOOP_FUZZ_READER(bytes)) {
+    if (const tallyhoop::fuzz::Complaint complaint = tallyhoop::fuzz::TALLYHOOP_FUZZ_TARGET(bytes)) {
         std::fprintf(stderr, "%s\n", complaint->c_str());
         std::abort();
     }

@@ -1,5 +1,5 @@
 // tests/fuzz/readers.cpp - what must hold of every reader, whatever the bytes.
-#include "fuzz/readers.h"
+#include "fuzz/targets.h"
 
 #include "model/numbers.h"
 #include "model/player_names_file.h"
@@ -16,8 +16,6 @@
 
 namespace tallyhoop::fuzz {
 namespace {
-
-using Complaint = std::optional<std::string>;
 
 /// What the helpers must stand that every screen applies to a field that was read.
 Complaint field(const std::string& text)
