@@ -19,6 +19,8 @@ BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).pa
 CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
 
+SANITIZERS = "AddressSanitizer", "LeakSanitizer", "runtime error:"  # what a sanitized program complains with
+
 LOST_KEY = PATIENCE / 6  # seconds after which a key that nobody received is pressed again
 
 
@@ -71,7 +73,10 @@ class Program:
         self.stop()
         if self._display:
             self._display.close()
+        errors = self.errors()
         shutil.rmtree(self._scratch, ignore_errors=True)
+        if error is None and any(sign in errors for sign in SANITIZERS):
+            raise Failed(errors)
 
     # --- the program folder ---
 
