@@ -7,11 +7,16 @@
 #include "ui/qt/look.h"
 #include "ui/qt/main_frame.h"
 #include "ui/qt/screen_host.h"
-#include "ui/qt/services/mail_hand_over.h"
 #include "ui/qt/services/qt_dialogs.h"
 #include "ui/qt/services/qt_help_viewer.h"
 #include "ui/qt/services/qt_printer.h"
 #include "ui/qt/services/qt_system.h"
+
+#ifdef _WIN32
+#include "ui/qt/services/simple_mapi_mail.h"
+#else
+#include "ui/qt/services/mail_hand_over.h"
+#endif
 
 #include <QApplication>
 #include <QFile>
@@ -46,7 +51,11 @@ int main(int argc, char** argv)
     qt::Desk desk{&frame};
     qt::QtDialogs dialogs{desk};
     qt::QtPrinter printer{desk};
+#ifdef _WIN32
+    qt::SimpleMapiMail mail;
+#else
     qt::MailHandOver mail{folder};
+#endif
     qt::QtHelpViewer help{&frame};
     qt::QtPrograms programs;
     qt::QtClock clock;
@@ -56,7 +65,7 @@ int main(int argc, char** argv)
 
     qt::ScreenHost host{desk, frame};
     registerScreens(host, folder, platform, state);
-    desk.helpWanted = [&](const ui::Screen& screen) { showHelp(folder, platform, screen.helpTopic); };
+    desk.helpWanted = [&](const std::string& topic) { showHelp(folder, platform, topic); };
     frame.open();
     QTimer::singleShot(0, &frame, [&] { startUp(folder, platform, host); });
     return QApplication::exec();

@@ -2,6 +2,7 @@
 
 #include "model/demo_mode.h"
 #include "model/file_names.h"
+#include "model/help_topics.h"
 
 namespace tallyhoop {
 
@@ -24,7 +25,7 @@ void startUp(const DataFolder& folder, const ui::Platform& platform, Screens& sc
     screens.load(ScreenKind::Board);
     if (folder.exists(file_name::kSetup))
         return;
-    const ui::Message offer{kOfferCaption, kOfferText, ui::Buttons::OkCancel, ui::Icon::Question};
+    const ui::Message offer{kOfferCaption, kOfferText, ui::Buttons::OkCancel, ui::Icon::Question, help_topic::kDemo};
     if (platform.dialogs.show(offer) == ui::Answer::Cancel || !startDemo(folder, platform))
         return;
     screens.unload(ScreenKind::Board);

@@ -21,43 +21,6 @@ constexpr const char* kFirstRoundTip = "Left Click or Drag to Select";
 constexpr std::array<const char*, 10> kRoundNames = {
     "1st round:", "2nd round:",     "Regional semi:",  "Regional final:", "1st round:",
     "2nd round:", "Regional semi:", "Regional final:", "Semi-final:",     "Final game:"};
-constexpr std::array<const char*, kRounds> kSpokenRounds = {"first round",    "second round", "regional semi-final",
-                                                            "regional final", "semi-final",   "final"};
-
-std::string withoutBlanks(const std::string& text)
-{
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == std::string::npos ? std::string{} : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
-/// @returns a region's title, less the word that every listener knows: "West Region" is "West"
-std::string spokenRegion(const std::string& title)
-{
-    constexpr std::string_view kRegion = " Region";
-    return title.ends_with(kRegion) ? title.substr(0, title.size() - kRegion.size()) : title;
-}
-
-/// @returns "winner of second round, game 3": the games of a column are counted downwards, region by region
-std::string spokenGame(Position position)
-{
-    const int round = roundOf(position);
-    std::string spoken = std::string{"winner of "} + kSpokenRounds[static_cast<std::size_t>(round - 1)];
-    const bool inRegion = regionOf(position) >= 0;
-    const int games = inRegion ? kRowsPerRegion >> round : index(position) == kChampion ? 1 : 2;
-    const int firstOfColumn = inRegion ? 2 * kRowsPerRegion - (2 * kRowsPerRegion >> round) : 0;
-    if (games > 1)
-        spoken += ", game " + std::to_string(index(position) % kRegionBlock - firstOfColumn + 1);
-    return spoken;
-}
-
-/// @returns the marker as it is seen, and what it means
-std::string spokenVerdict(const std::string& marker)
-{
-    if (marker.empty())
-        return {};
-    return marker + (marker == "=" ? " right pick" : " wrong pick");
-}
-
 } // namespace
 
 frmPoolMain::frmPoolMain(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
@@ -69,7 +32,6 @@ frmPoolMain::frmPoolMain(const DataFolder& folder, const ui::Platform& platform,
       m_screens{screens},
       m_opening{opening}
 {
-    helpTopic = "selections";
     describeControls();
     arrangeMenus();
 }
@@ -91,25 +53,13 @@ void frmPoolMain::describeControls()
         comment->locked = true;
         comment->tabStop = false;
     }
-    for (std::size_t round = 0; round < lblInfo.size(); ++round) {
-        const std::string spoken = std::string{"Points for a win in the "} + kSpokenRounds[round];
-        lblInfo[round].spokenHint = spoken;
-        if (round < lblInfoRight.size())
-            lblInfoRight[round].spokenHint = spoken;
-    }
-    txtComment1.spokenName = "First comment of the organiser";
-    txtComment2.spokenName = "Second comment of the organiser";
     txtPlayerInitials.tabIndex = 140;
-    txtPlayerInitials.spokenName = "Player's initials";
     txtPlayerName.tabIndex = 141;
-    txtPlayerName.spokenName = "Player's name";
     txtFinalPoints.tabIndex = 143;
-    txtFinalPoints.spokenName = "Predict total points in Championship game";
     txtPointScore.locked = true;
     txtPointScore.tabStop = false;
-    txtPointScore.spokenName = "Score of this selection";
     hideDefaultColors();
-    cmdDefaultColors.toolTip = "Back to the normal colours, so that picks can be changed again";
+    putControlsIntoWords();
     focused = &txtPlayerInitials;
 }
 
@@ -139,22 +89,6 @@ void frmPoolMain::loadBoard()
     offerHistory();
     describeDocument();
     sayWhatToDo();
-}
-
-void frmPoolMain::say(const std::string& text)
-{
-    m_said = text;
-    status = text;
-}
-
-void frmPoolMain::sayWhatToDo()
-{
-    if (!isFinalized(m_state.setupLines))
-        say("The field is not finalized yet: see Setup, Setup Pool Options.");
-    else if (m_resultsMode)
-        say("Game results: click the real winners forward and save.");
-    else
-        say("Click the winners forward, then enter initials, name and the final's total points.");
 }
 
 void frmPoolMain::fillFromSetup()
@@ -225,7 +159,7 @@ void frmPoolMain::applyOpening()
 void frmPoolMain::readPlayerNames()
 {
     if (m_folder.exists(file_name::kPlayerNames))
-        validatePlayerNames(m_folder, m_platform.dialogs);
+        m_playersFaulty = !validatePlayerNames(m_folder, m_platform.dialogs);
     else if (!m_toldAboutFolder)
         m_toldAboutFolder = !createPlayerNames(m_folder, m_platform.dialogs);
 }
@@ -278,38 +212,6 @@ void frmPoolMain::clearBoard()
     txtPointScore.text.clear();
     lockFields(false);
     describePositions();
-}
-
-void frmPoolMain::describePositions()
-{
-    for (int i = 0; i < kPositions; ++i) {
-        ui::Label& label = lblRegion[static_cast<std::size_t>(i)];
-        const int region = regionOf(Position{i});
-        std::string place =
-            region < 0 ? "" : spokenRegion(lblRegionTitle[static_cast<std::size_t>(region)].text) + ", ";
-        if (isFirstRound(Position{i})) {
-            const int row = i % kRegionBlock;
-            ui::TextBox& seed = txtSeed[static_cast<std::size_t>(kRowsPerRegion * region + row)];
-            seed.spokenName = "Seed of " + place + "row " + std::to_string(row + 1);
-            place += "first round, row " + std::to_string(row + 1) + ", seed " + withoutBlanks(seed.text);
-        } else {
-            place += spokenGame(Position{i});
-            ui::Label& marker = lblResult[static_cast<std::size_t>(gameOf(Position{i}))];
-            marker.spokenName = spokenVerdict(marker.text);
-            if (!marker.text.empty())
-                place += ", " + marker.spokenName;
-        }
-        label.spokenName = place + ": " + (label.text.empty() ? "no team" : label.text);
-    }
-}
-
-void frmPoolMain::describeDocument()
-{
-    const auto& opened = m_state.selectionFile.OpenedFile;
-    if (m_resultsMode)
-        document = "Game results";
-    else
-        document = opened.empty() ? std::string{} : shown(opened.filename());
 }
 
 } // namespace tallyhoop

@@ -6,6 +6,7 @@
 // frmPoolMain_files.cpp    New, Open, Save
 // frmPoolMain_menus.cpp    the menus, and the commands that lead elsewhere
 // frmPoolMain_scores.cpp   game results, scoring, printing
+// frmPoolMain_words.cpp    what is spoken and explained
 #pragma once
 
 #include "bracket/board_history.h"
@@ -96,9 +97,6 @@ public:
     /// The drag ended beside the labels.
     void cancelDrag() { m_dragging = false; }
 
-    /// Says in the status line what a press on a position does; -1 = the pointer is elsewhere.
-    void explainPosition(int position);
-
     /// @returns the places that the team at a position stands on, along its way from the first round; empty for no team
     std::vector<int> pathOf(int position) const;
 
@@ -128,6 +126,7 @@ public:
     ui::Drawing drawing() const override;
 
     // Screen
+    std::string helpTopic() const override;
     void load() override;
     void unloading() override;
     bool keyPressed(ui::Control& control, const ui::KeyPress& press) override;
@@ -136,6 +135,7 @@ public:
 private:
     // Loading and showing.
     void describeControls();
+    void putControlsIntoWords();
     void arrangeMenus();
     void loadBoard();
     void fillFromSetup();
@@ -148,8 +148,10 @@ private:
     TeamNamesOnBoard teams() const;
     void setTeams(const TeamNamesOnBoard& names);
     void describePositions();
+    void explainPositions();
+    std::string explanationOf(int position) const;
+    std::string explanationOfMark(int position) const;
     void describeDocument();
-    void say(const std::string& text);
     void sayWhatToDo();
     bool resultsExist() const;
 
@@ -201,7 +203,6 @@ private:
     BoardHistory m_history;
     KnownFiles m_known; ///< the selections and the results that were shown or saved
     int m_sheet = 0;    ///< counts the boards that New began
-    std::string m_said; ///< what the status line says while the pointer is elsewhere
 
     int m_dragSource = 0;
     std::string m_draggedTeam;
@@ -209,6 +210,7 @@ private:
     bool m_marksShown = false;
     bool m_scoreDisplayOpen = false;
     bool m_resultsMode = false;
+    bool m_playersFaulty = false;   ///< PLAYERNAMES.CSV has to be repaired
     bool m_toldAboutFolder = false; ///< a folder that cannot be written is mentioned once
 };
 

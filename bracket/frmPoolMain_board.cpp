@@ -60,27 +60,6 @@ void frmPoolMain::PressBackground()
         m_screens.bringToFront(ScreenKind::ScoreDisplay);
 }
 
-void frmPoolMain::explainPosition(int position)
-{
-    if (position < 0) {
-        status = m_said;
-        return;
-    }
-    const std::string& team = lblRegion[static_cast<std::size_t>(position)].text;
-    if (m_scoreDisplayOpen)
-        status = "The score display is open; close it to change the bracket.";
-    else if (m_marksShown)
-        status = "The picks are marked; choose Default Colors to change them again.";
-    else if (team.empty())
-        status = "Nobody stands here yet.";
-    else if (position == kChampion)
-        status = team + " wins the tournament. A right click takes the team away.";
-    else if (isFirstRound(Position{position}))
-        status = "Click to send " + team + " to the next round, or drag it as far as it goes.";
-    else
-        status = "Click to send " + team + " to the next round, drag it further, or right click to take it away.";
-}
-
 std::vector<int> frmPoolMain::pathOf(int position) const
 {
     const std::string& team = lblRegion[static_cast<std::size_t>(position)].text;
@@ -192,7 +171,6 @@ void frmPoolMain::gotFocus(ui::Control& control)
         return;
     for (std::size_t i = 0; i < lblRegion.size(); ++i)
         lblRegion[i].tabStop = i == *position;
-    explainPosition(static_cast<int>(*position));
 }
 
 } // namespace tallyhoop

@@ -65,6 +65,7 @@ void frmPoolMain::restore(const BoardSnapshot& board)
         mnuScoreSelections.enabled = m_resultsMode || resultsExist();
         if (m_resultsMode)
             lockResultsFields();
+        sayWhatToDo();
     }
     setTeams(board.teams);
     unsaved = board.unsaved || typedSince;

@@ -90,7 +90,7 @@ void frmPoolMain::showSelection(const std::filesystem::path& file)
     m_history.clear();
     offerHistory();
     describeDocument();
-    say("Opened " + shown(file.filename()) + ".");
+    hint = "Opened " + shown(file.filename()) + ".";
 }
 
 void frmPoolMain::SaveSelection()
@@ -150,7 +150,7 @@ void frmPoolMain::saveResults()
         return;
     unsaved = false;
     m_history.boardWasSaved(m_sheet, m_state.selectionFile.OpenedFile);
-    say("The results are saved.");
+    hint = "The results are saved.";
 }
 
 void frmPoolMain::saveUnder(const std::filesystem::path& chosen)
@@ -211,8 +211,8 @@ bool frmPoolMain::writeSelection(const std::filesystem::path& file, SaveKind kin
     m_history.boardWasSaved(m_sheet, m_state.selectionFile.OpenedFile);
     describeDocument();
     const bool scored = isSameFile(file, m_folder.folder() / file.filename());
-    say("Saved " + shown(file.filename()) +
-        (scored ? "." : ". Only files in the program's folder are scored; this one is elsewhere."));
+    hint = "Saved " + shown(file.filename()) +
+           (scored ? "." : ". Only files in the program's folder are scored; this one is elsewhere.");
     return true;
 }
 

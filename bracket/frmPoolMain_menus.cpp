@@ -2,6 +2,8 @@
 
 #include "model/demo_mode.h"
 #include "model/help_display.h"
+#include "model/help_topics.h"
+#include "model/setup_file.h"
 
 namespace tallyhoop {
 
@@ -76,6 +78,22 @@ void frmPoolMain::demoReset()
     m_screens.load(ScreenKind::Board, Opening::DemoLeft);
 }
 
-void frmPoolMain::displayHelp() { showHelp(m_folder, m_platform, helpTopic); }
+void frmPoolMain::displayHelp() { showHelp(m_folder, m_platform, helpTopic()); }
+
+std::string frmPoolMain::helpTopic() const
+{
+    if (m_scoreDisplayOpen)
+        return help_topic::kScoreList;
+    if (m_marksShown)
+        return help_topic::kScores;
+    if (m_resultsMode)
+        return help_topic::kResults;
+    if (m_playersFaulty)
+        return help_topic::kRepair;
+    const bool untouched = m_state.selectionFile.OpenedFile.empty() && !unsaved;
+    if (lblDemoMode.visible && untouched)
+        return help_topic::kDemo;
+    return isFinalized(m_state.setupLines) ? help_topic::kSelections : help_topic::kStart;
+}
 
 } // namespace tallyhoop

@@ -118,7 +118,7 @@ void frmPoolMain::showVerdict(const std::string& score)
     cmdDefaultColors.isDefault = true;
     lockFields(true);
     mnuSaveSelection.enabled = false;
-    say("Green = right, red X wrong; picks that are still open stay blue.");
+    hint = "Green = right, red X wrong; picks that are still open stay blue.";
 }
 
 void frmPoolMain::DefaultColors()
@@ -145,8 +145,10 @@ void frmPoolMain::setScoreDisplayOpen(bool open)
     for (ui::Control* control : controls())
         if (dynamic_cast<ui::Label*>(control) != nullptr || dynamic_cast<ui::TextBox*>(control) != nullptr)
             control->enabled = !open;
-    if (!open)
-        ClearMarks();
+    if (open)
+        explainPositions();
+    else
+        ClearMarks(); // which describes the places anew
     offerHistory();
 }
 

@@ -3,6 +3,7 @@
 
 #include "model/file_messages.h"
 #include "model/file_names.h"
+#include "model/help_topics.h"
 #include "model/text.h"
 #include "model/text_file.h"
 
@@ -63,7 +64,7 @@ ui::Message faultyPlayerNames(const std::string& shownCopy)
                        "You can either go back to a backup copy of this file or attempt",
                        "to correct the error(s) in this copy and then rename it to", "PLAYERNAMES.CSV.", "",
                        "See the help file for additional instructions"}),
-            ui::Buttons::Ok, ui::Icon::Critical};
+            ui::Buttons::Ok, ui::Icon::Critical, help_topic::kRepair};
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // players/frmPoolEMail.cpp - from typed names to a list of addresses.
 #include "players/frmPoolEMail.h"
 
+#include "model/help_topics.h"
 #include "model/text.h"
 #include "model/windows1252.h"
 
@@ -17,7 +18,7 @@ constexpr const char* kCaption = "Tallyhoop - EMail Selections";
 const ui::Message kFaultyPlayerNames{kCaption,
                                      "Problems found with PLAYERNAMES.CSV file\r\n"
                                      "This condition must be corrected, See Help content",
-                                     ui::Buttons::Ok, ui::Icon::Critical};
+                                     ui::Buttons::Ok, ui::Icon::Critical, help_topic::kRepair};
 const ui::Message kSomebodyWithoutAddress{kCaption,
                                           "You have selected the \"EMail All\" option and there\r\n"
                                           "is at least one player name without an EMail address.\r\n"
@@ -75,7 +76,6 @@ frmPoolEMail::frmPoolEMail(const DataFolder& folder, const ui::Platform& platfor
       m_state{state},
       m_screens{screens}
 {
-    helpTopic = "email";
     lstPlayerNames.fixedPitch = true;
     lstPlayerNames.spokenName = "Players";
     lstPlayerNames.doubleClicked = [this] { addSelectedPlayer(); };
@@ -86,6 +86,15 @@ frmPoolEMail::frmPoolEMail(const DataFolder& folder, const ui::Platform& platfor
     txtMessage.multiLine = true;
     cmdFreeEntry.toolTip = "Type addresses of people who are not players";
     cmdUseList.toolTip = "Find players by typing the beginning of their names";
+    cmdFreeEntry.explanation = cmdFreeEntry.toolTip + ".";
+    cmdUseList.explanation = cmdUseList.toolTip + ".";
+    lstPlayerNames.explanation = "A double click, or Enter in the box above, adds the player's address.";
+    lstTo.explanation = "Who gets the message.";
+    cmdDelete.explanation = "Takes the selected address out again.";
+    txtSubject.explanation = "The message's subject.";
+    txtMessage.explanation = "What the message says; the reports are attached to it.";
+    cmdSend.explanation = "Hands the message to your mail program, where you send it.";
+    cmdExit.explanation = "Sends nothing; the report files stay in the program's folder.";
 
     int tab = 0;
     for (ui::Control* control :
@@ -95,12 +104,15 @@ frmPoolEMail::frmPoolEMail(const DataFolder& folder, const ui::Platform& platfor
     setFreeEntry(false);
 }
 
+std::string frmPoolEMail::helpTopic() const { return m_playersFaulty ? help_topic::kRepair : help_topic::kEmail; }
+
 void frmPoolEMail::load()
 {
     m_state.mailDraft.subject.clear();
     m_state.mailDraft.message.clear();
     countRecipients();
     if (!validatePlayerNames(m_folder, m_dialogs)) {
+        m_playersFaulty = true;
         m_dialogs.show(kFaultyPlayerNames);
         return;
     }

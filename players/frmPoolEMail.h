@@ -39,6 +39,7 @@ public:
     ui::Command cmdSend{this, "cmdSend", "&Send Email", [this] { sendEmail(); }};
     ui::Command cmdExit{this, "cmdExit", "E&xit/Cancel", [this] { cancel(); }};
 
+    std::string helpTopic() const override;
     void load() override;
     void closeRequested() override;
     bool keyPressed(ui::Control& control, const ui::KeyPress& press) override;
@@ -63,6 +64,7 @@ private:
     Screens& m_screens;
 
     std::vector<std::string> m_addresses; ///< by row of lstPlayerNames, without trailing blanks; empty = none
+    bool m_playersFaulty = false;         ///< PLAYERNAMES.CSV has to be repaired
     bool m_freeEntry = false;             ///< addresses are typed, not looked up
     clsBoxSearch m_search;
 };

@@ -2,6 +2,7 @@
 #include "players/frmPoolNames.h"
 
 #include "model/file_names.h"
+#include "model/help_topics.h"
 #include "model/text.h"
 #include "model/windows1252.h"
 #include "players/field_text.h"
@@ -44,7 +45,6 @@ frmPoolNames::frmPoolNames(const DataFolder& folder, const ui::Platform& platfor
       m_state{state},
       m_screens{screens}
 {
-    helpTopic = "players";
     txtFileName.locked = true;
     txtFileName.tabStop = false;
     cmdChange.toolTip = "Store the CHANGEs made";
@@ -53,6 +53,7 @@ frmPoolNames::frmPoolNames(const DataFolder& folder, const ui::Platform& platfor
     txtFileName.spokenName = "File name";
     txtEmail.spokenName = "EMail address";
     txtPhone.spokenName = "Phone number";
+    explainControls();
     lstNames.fixedPitch = true;
     lstNames.spokenName = "Players";
     lstNames.chosen = [this] {
@@ -68,6 +69,22 @@ frmPoolNames::frmPoolNames(const DataFolder& folder, const ui::Platform& platfor
     focused = &txtName;
 }
 
+void frmPoolNames::explainControls()
+{
+    txtName.explanation = "Last name, a comma, initials: the list is in the order of the names.";
+    txtFileName.explanation = "The player's selection file.";
+    txtEmail.explanation = "Where reports are sent.";
+    txtPhone.explanation = "Stands in the list and in the Player Listing.";
+    lstNames.explanation = "Select a player to see the record in the boxes above.";
+    cmdAdd.explanation = "Adds what stands in the boxes as a new player, saves the list and closes it.";
+    cmdChange.explanation = "Puts what stands in the boxes into the selected row.";
+    cmdDelete.explanation = "Deletes the selected player and, when you leave with Done, the selection file.";
+    cmdCancel.explanation = "Leaves and forgets what was added, changed and deleted.";
+    cmdExit.explanation = "Saves the list and leaves.";
+}
+
+std::string frmPoolNames::helpTopic() const { return m_listFaulty ? help_topic::kRepair : help_topic::kPlayers; }
+
 void frmPoolNames::load()
 {
     m_known.note(m_folder.pathTo(file_name::kPlayerNames));
@@ -76,7 +93,8 @@ void frmPoolNames::load()
         txtFileName.text = recordedFileName(m_folder, m_state.handOver->file);
         txtName.text = m_state.handOver->LastPlayer;
     }
-    if (!sound) {
+    m_listFaulty = !sound;
+    if (m_listFaulty) {
         // The faulty file must not be replaced by what little could be read of it.
         for (ui::Command* command : {&cmdAdd, &cmdChange, &cmdDelete})
             command->enabled = false;

@@ -42,6 +42,7 @@ public:
     ui::Command cmdCancel{this, "cmdCancel", "&Cancel", [this] { close(); }};
     ui::Command cmdExit{this, "cmdExit", "&Done", [this] { done(); }};
 
+    std::string helpTopic() const override;
     void load() override;
     void closeRequested() override;
     void unloading() override;
@@ -49,6 +50,7 @@ public:
     bool pasted(ui::TextBox& box, const std::string& text) override;
 
 private:
+    void explainControls();
     void fillList();
     void takeHandOver(const PlayerHandOver& handOver);
     void takeRowOut(int row, const std::string& playerName);
@@ -76,6 +78,7 @@ private:
     KnownFiles m_known; ///< the player list as it was read
 
     SaveKind m_mode = SaveKind::None;                      ///< None = opened without a player to enter
+    bool m_listFaulty = false;                             ///< PLAYERNAMES.CSV has to be repaired
     bool m_changed = false;                                ///< set by every add, change and delete
     bool m_boxesHoldRecord = false;                        ///< the boxes hold a record that no row holds
     std::vector<std::filesystem::path> m_pendingDeletions; ///< selection files to delete once the list is written

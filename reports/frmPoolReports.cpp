@@ -2,6 +2,7 @@
 #include "reports/frmPoolReports.h"
 
 #include "model/file_names.h"
+#include "model/help_topics.h"
 #include "model/lines.h"
 
 #include <algorithm>
@@ -12,6 +13,11 @@ namespace {
 
 constexpr std::array kDestinations{"Printer", "File", "Email", "Email All Participants"};
 constexpr std::array kPrintouts{"Scored Player Selections (Select File at right --->)", "Tournament Results Sheet"};
+constexpr std::array kDestinationHints{
+    "Prints the reports.", "Writes RPTOPT1.TXT to RPTOPT7.TXT into the program's folder.",
+    "Writes the files and sends them to people you choose.", "Writes the files and sends them to all players."};
+constexpr std::array kPrintoutHints{"The bracket of the player selected at the right, marked right and wrong.",
+                                    "The board with the results entered so far."};
 constexpr const char* kNothingTickedTitle = "Tallyhoop - frmPoolReports, PrintSelections_Click "; // sic: the blank
 constexpr const char* kNothingTicked = "You will need to select one of the Report Selections before\r\n"
                                        "choosing the \"Create Selected Reports\" Command Button";
@@ -40,7 +46,6 @@ frmPoolReports::frmPoolReports(const DataFolder& folder, const ui::Platform& pla
       m_board{board},
       m_maker{folder, platform, board}
 {
-    helpTopic = "reports";
     for (std::size_t i = 0; i < kReports; ++i)
         chkOptions[i].caption = reportTable()[i].caption;
     letThePersonChoose(optDestination, kDestinations);
@@ -55,9 +60,33 @@ frmPoolReports::frmPoolReports(const DataFolder& folder, const ui::Platform& pla
     cmdSaveBoardPdf.mnemonic = 'a';
     cmdCustomReport.mnemonic = 'g';
     cmdExit.mnemonic = 'x';
+    explainControls();
     filList.spokenName = "Player selection files";
     txtReportTitle.spokenName = "Report title";
 }
+
+void frmPoolReports::explainControls()
+{
+    for (std::size_t i = 0; i < kReports; ++i)
+        chkOptions[i].explanation = reportTable()[i].explanation;
+    for (std::size_t i = 0; i < kDestinations.size(); ++i)
+        optDestination[i].explanation = kDestinationHints[i];
+    for (std::size_t i = 0; i < kPrintouts.size(); ++i)
+        optSelected[i].explanation = kPrintoutHints[i];
+    txtReportTitle.explanation = "Heads the reports; the field's own title stays as it is.";
+    cmdPrintSelections.explanation = "Makes the ticked reports and brings them to their destination.";
+    cmdDefaultPrinter.explanation = "Press to change: the default printer, or one that you choose for each report.";
+    cmdPreview.explanation = "Shows the ticked reports as they will be printed.";
+    cmdSavePdf.explanation = "Saves each ticked report as a PDF file.";
+    filList.explanation = "The player whose scored bracket is printed.";
+    cmdSelectedPrintouts.explanation = "Prints the chosen sheet and goes back to the board.";
+    cmdPreviewBoard.explanation = "Shows the board as it will be printed.";
+    cmdSaveBoardPdf.explanation = "Saves the board as a PDF file.";
+    cmdCustomReport.explanation = "Puts the results on the board and opens the list of all scores.";
+    cmdExit.explanation = "Back to the board.";
+}
+
+std::string frmPoolReports::helpTopic() const { return m_refusalTopic.empty() ? help_topic::kReports : m_refusalTopic; }
 
 void frmPoolReports::load()
 {
@@ -92,6 +121,7 @@ void frmPoolReports::createSelectedReports()
     readDestination();
     listFiles();
     m_made.fill(false);
+    m_refusalTopic.clear();
     bool anyTicked = false;
     for (std::size_t index = 0; index < kReports; ++index) {
         if (!chkOptions[index].ticked)
@@ -146,6 +176,7 @@ std::optional<ReportLines> frmPoolReports::makeReport(std::size_t index, bool& c
 void frmPoolReports::refuse(std::size_t index, const NoReport& reason)
 {
     m_platform.dialogs.show(reason.message);
+    m_refusalTopic = reason.message.helpTopic;
     if (reason.untick)
         chkOptions[index].ticked = false;
 }

@@ -24,6 +24,7 @@ public:
     frmPoolReports(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
                    BracketBoard& board);
 
+    std::string helpTopic() const override;
     void load() override;
     void closeRequested() override;
     void unloading() override;
@@ -56,6 +57,7 @@ public:
 private:
     enum class Delivery { Done, Failed, Cancelled };
 
+    void explainControls();
     void listFiles();
 
     // Creating reports.
@@ -106,6 +108,7 @@ private:
     bool toEmail = false;
     bool mblnSelectEMailAll = false;
     bool useDefaultPrinter = true;
+    std::string m_refusalTopic;          ///< help topic of the run's last refusal; empty = none of its own
     std::array<bool, kReports> m_made{}; ///< by the run at hand: only these may be mailed
 };
 

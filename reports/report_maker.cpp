@@ -2,6 +2,7 @@
 #include "reports/report_maker.h"
 
 #include "model/file_names.h"
+#include "model/help_topics.h"
 #include "model/player_names_file.h"
 #include "model/selection_file.h"
 #include "model/text_file.h"
@@ -105,8 +106,11 @@ MadeReport ReportMaker::makeStandings(const Request& request)
 
 MadeReport ReportMaker::makePlayerListing(const Request& request)
 {
-    if (!validatePlayerNames(m_folder, m_platform.dialogs))
-        return failed(request.kind, kFaultyPlayerNames);
+    if (!validatePlayerNames(m_folder, m_platform.dialogs)) {
+        NoReport refusal = failed(request.kind, kFaultyPlayerNames);
+        refusal.message.helpTopic = help_topic::kRepair;
+        return refusal;
+    }
     const Result<std::string> bytes = m_folder.read(file_name::kPlayerNames);
     if (!bytes)
         return failed(request.kind, bytes.failure().message);

@@ -31,6 +31,7 @@ struct ReportKind {
     const char* caption;      ///< its check box
     const char* name;         ///< as people call it
     const char* failureTitle; ///< caption of the message when it cannot be made
+    const char* explanation;  ///< what it tells, in one sentence
 };
 
 const std::array<ReportKind, kReports>& reportTable();

@@ -2,6 +2,7 @@
 #include "scoring/frmPoolMisc.h"
 
 #include "model/file_names.h"
+#include "model/help_topics.h"
 #include "model/printer_setup.h"
 #include "model/printing_trouble.h"
 #include "model/windows1252.h"
@@ -29,16 +30,21 @@ frmPoolMisc::frmPoolMisc(const DataFolder& folder, const ui::Platform& platform,
       m_screens{screens},
       m_board{board}
 {
-    helpTopic = "scores";
     cmdOk.isDefault = true;
     filList.visible = false;
     msgScoreDisplay.spokenName = "Scores";
-    msgScoreDisplay.spokenHint = "Drag a heading to another place to sort by it. Click a file name to mark that "
-                                 "player's picks on the bracket.";
+    msgScoreDisplay.explanation =
+        "Drag a heading to another place to sort by it; click a file name to mark those picks on the board.";
+    cmdOk.explanation = "Scores every selection in the program's folder against the results on the board.";
+    cmdPrint.explanation = "Prints the list in its present order.";
+    cmdCopy.explanation = "Puts the list on the clipboard, ready for a spreadsheet.";
+    cmdExit.explanation = "Back to the board.";
     msgScoreDisplay.cellPressed = [this](std::size_t row, std::size_t column) { cellClicked(row, column); };
     msgScoreDisplay.columnPressed = [this](std::size_t column) { msgScoreDisplay.headingPressed = column; };
     msgScoreDisplay.columnReleased = [this](std::optional<std::size_t> column) { headingDropped(column); };
 }
+
+std::string frmPoolMisc::helpTopic() const { return help_topic::kScoreList; }
 
 void frmPoolMisc::load()
 {

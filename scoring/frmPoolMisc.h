@@ -20,6 +20,7 @@ public:
     frmPoolMisc(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
                 BracketBoard& board);
 
+    std::string helpTopic() const override;
     void load() override;
     void closeRequested() override;
     void unloading() override;

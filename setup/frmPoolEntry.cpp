@@ -4,6 +4,7 @@
 #include "model/demo_mode.h"
 #include "model/file_names.h"
 #include "model/help_display.h"
+#include "model/help_topics.h"
 #include "model/numbers.h"
 #include "model/settings_file.h"
 #include "model/setup_file.h"
@@ -23,18 +24,6 @@ constexpr const char* kDesignComment = "Enter any comments or instructions";
 constexpr ui::Colour kLightGreen{0x80, 0xFF, 0x80};
 
 constexpr std::array<const char*, kRounds> kDesignPayoffs = {"1", "2", "4", "8", "12", "16"};
-constexpr std::array<const char*, kRounds> kPayoffHints = {
-    "Points for each win in 1st round",     "Points for each win in 2nd round",
-    "Points for each win in 3rd round",     "Points for each win in Regional Finals",
-    "Points for each winner in Semifinals", "Points for selecting winner in FINAL GAME",
-};
-
-constexpr const char* kSavedStatus = "There are no unsaved changes.";
-constexpr const char* kUnsavedStatus = "There are changes that are not saved yet.";
-constexpr const char* kFinalizeStatus = "Finalize Tournament takes effect with File, Save.";
-constexpr const char* kNoListStatus =
-    "There is no list of team names: choose Override Selecting Team Names to type them.";
-
 enum TabPosition {
     kFirstRegionTab = 64,
     kTitleTab = 68,
@@ -50,13 +39,6 @@ enum TabPosition {
     kClearTab,
 };
 
-void say(std::string& status, const char* sentence)
-{
-    if (!status.empty())
-        status += "  ";
-    status += sentence;
-}
-
 } // namespace
 
 frmPoolEntry::frmPoolEntry(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state,
@@ -68,7 +50,6 @@ frmPoolEntry::frmPoolEntry(const DataFolder& folder, const ui::Platform& platfor
       m_screens{screens},
       m_opening{opening}
 {
-    helpTopic = "setup";
     lstTeamNames.background = kLightGreen;
     txtComment1.multiLine = txtComment2.multiLine = true;
     txtComment1.text = txtComment2.text = kDesignComment;
@@ -122,8 +103,6 @@ void frmPoolEntry::describeBoxes()
     }
     for (std::size_t round = 0; round < txtInfo6.size(); ++round) {
         txtInfo6[round].text = kDesignPayoffs[round];
-        txtInfo6[round].toolTip = kPayoffHints[round];
-        txtInfo6[round].spokenName = kPayoffHints[round];
         txtInfo6[round].edited = [this] { showStatus(); };
     }
     for (std::size_t i = 0; i < TxtInfo.size(); ++i) {
@@ -133,6 +112,7 @@ void frmPoolEntry::describeBoxes()
     txtComment1.spokenName = "Comment 1";
     txtComment2.spokenName = "Comment 2";
     txtComment1.edited = txtComment2.edited = [this] { showStatus(); };
+    explainBoxes();
     cmdClear.mnemonic = 'l';
     cmdFinalize.mnemonic = 'n';
     lstTeamNames.spokenName = "Team names";
@@ -211,17 +191,6 @@ void frmPoolEntry::showDemoMode()
     }
 }
 
-void frmPoolEntry::showStatus()
-{
-    status.clear();
-    if (!m_teamListIsRead)
-        say(status, kNoListStatus);
-    // Never empty: a line that comes and goes would move everything above it.
-    say(status, linesOnScreen() == m_saved ? kSavedStatus : kUnsavedStatus);
-    if (FinalizeState == "1")
-        say(status, kFinalizeStatus);
-}
-
 void frmPoolEntry::toggleOverride()
 {
     OverrideMode = !OverrideMode;
@@ -230,6 +199,7 @@ void frmPoolEntry::toggleOverride()
     cmdAddName.enabled = !OverrideMode;
     cmdChangeName.enabled = !OverrideMode;
     cmdDeleteName.enabled = !OverrideMode;
+    explainBoxes();
     focused = controlAtTab(LastTeamBox);
 }
 
@@ -279,6 +249,9 @@ void frmPoolEntry::reload(Opening opening)
     m_screens.load(ScreenKind::Setup, opening);
 }
 
-void frmPoolEntry::showHelpText() { showHelp(m_folder, m_platform, helpTopic); }
+void frmPoolEntry::showHelpText() { showHelp(m_folder, m_platform, helpTopic()); }
+
+// The sample field is there to be looked at: what can and cannot be done with it stands under demo mode.
+std::string frmPoolEntry::helpTopic() const { return lblDemoMode.visible ? help_topic::kDemo : help_topic::kSetup; }
 
 } // namespace tallyhoop

@@ -64,6 +64,7 @@ public:
     std::int16_t LastTeamBox = 0;   ///< tab position (= index) of the team box that had the focus last
     std::string FinalizeState{"0"}; ///< "1" once Finalize Tournament is pressed; what the next save writes
 
+    std::string helpTopic() const override;
     void load() override;
     void unloading() override;
     void closeRequested() override;
@@ -83,7 +84,6 @@ private:
     void showSetup();
     void showTeamNames();
     void showDemoMode();
-    void showStatus();
     void toggleOverride();
     void clearTeamNames();
     void enterSeeds();
@@ -121,6 +121,10 @@ private:
     bool finalizingIsConfirmed();
     void refuse(ui::Control& box, const char* title, const char* text);
     SetupLines linesOnScreen() const;
+
+    // frmPoolEntry_words.cpp
+    void explainBoxes();
+    void showStatus();
 
     const DataFolder& m_folder;
     ui::Platform m_platform;

@@ -1,6 +1,7 @@
 // setup/frmPoolEntry_save.cpp - the setup screen: finalizing the field and saving it.
 #include "setup/frmPoolEntry.h"
 
+#include "model/help_topics.h"
 #include "model/numbers.h"
 #include "model/settings_file.h"
 #include "model/setup_file.h"
@@ -57,7 +58,8 @@ void frmPoolEntry::saveStartingField()
     if (finalizing && !(isComplete() && finalizingIsConfirmed()))
         return;
     if (demoModeIsOn(m_folder)) {
-        m_platform.dialogs.show({kDemoCaption, kDemoRefusal, ui::Buttons::Ok, ui::Icon::Exclamation});
+        m_platform.dialogs.show(
+            {kDemoCaption, kDemoRefusal, ui::Buttons::Ok, ui::Icon::Exclamation, help_topic::kDemo});
         return;
     }
     const SetupLines lines = linesOnScreen();

@@ -1,6 +1,7 @@
 // setup/frmPoolSeatings.cpp - entering the seeds of the first-round rows.
 #include "setup/frmPoolSeatings.h"
 
+#include "model/help_topics.h"
 #include "model/numbers.h"
 
 #include <algorithm>
@@ -49,18 +50,22 @@ frmPoolSeatings::frmPoolSeatings(frmPoolEntry& setup, const ui::Platform& platfo
                                  Screens& screens)
     : Screen{"frmPoolSeatings", kCaption}, m_setup{setup}, m_platform{platform}, m_state{state}, m_screens{screens}
 {
-    helpTopic = setup.helpTopic;
     for (std::size_t row = 0; row < txtSeed.size(); ++row) {
         lblRegion[row].text = "Team" + std::to_string(row + 1);
         txtSeed[row].tabIndex = static_cast<int>(row);
         txtSeed[row].maxLength = kLongestSeed;
+        txtSeed[row].explanation = "1 to 16, each number once.";
     }
     cmdComplete.tabIndex = kRowsPerRegion;
     cmdComplete.isDefault = true;
     cmdComplete.mnemonic = 'o'; // Escape cancels as well, so the C is the cancelling one's
     cmdCancel.mnemonic = 'c';
+    cmdComplete.explanation = "Takes these seeds over; save the field to keep them.";
+    cmdCancel.explanation = "Leaves the seeds as they were.";
     cmdCancel.tabIndex = kRowsPerRegion + 1;
 }
+
+std::string frmPoolSeatings::helpTopic() const { return help_topic::kSeeds; }
 
 void frmPoolSeatings::load()
 {

@@ -19,6 +19,7 @@ public:
     ui::Command cmdComplete{this, "cmdComplete", "Complete", [this] { complete(); }};
     ui::Command cmdCancel{this, "cmdCancel", "Cancel", [this] { cancel(); }};
 
+    std::string helpTopic() const override;
     void load() override;
     void closeRequested() override;
 

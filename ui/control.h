@@ -1,8 +1,8 @@
 // ui/control.h - what a screen shows, as plain values.
 //
 // A command reads and assigns these fields; nobody is notified. After each command the desk of the window side compares
-// every field with what was last shown and pushes the differences; before each command it pulls in what the person typed,
-// ticked, selected or focused. All texts are Windows-1252 bytes, one byte per character.
+// every field with what was last shown and pushes the differences; before each command it pulls in what the person
+// typed, ticked, selected or focused. All texts are Windows-1252 bytes, one byte per character.
 #pragma once
 
 #include "ui/colour.h"
@@ -27,14 +27,15 @@ struct Control {
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
-    const std::string name;  ///< the widget's objectName; members of arrays are "lblRegion_12"
+    const std::string name; ///< the widget's objectName; members of arrays are "lblRegion_12"
     bool enabled = true;
     bool visible = true;
     int tabIndex = -1;       ///< place in the tab order; -1 = after those that have one, in order of declaration
     bool tabStop = true;     ///< false = reached by a click only
     std::string toolTip;     ///< empty = none
     std::string spokenName;  ///< what a screen reader says; empty = the widget's own text says enough
-    std::string spokenHint;  ///< the screen reader's longer description; empty = none
+    std::string explanation; ///< what this place does, for the status line while the pointer or the focus is here
+    std::string spokenHint;  ///< the screen reader's longer description; empty = the explanation
 };
 
 /// A line of text the person cannot change. The text is data: never markup, `&` never a mnemonic.
@@ -124,7 +125,7 @@ struct Grid : Control {
     std::vector<GridColumn> columns;
     std::vector<std::vector<std::string>> rows; ///< data rows, each with columns.size() cells
     std::optional<std::size_t> headingPressed;  ///< the heading that is being dragged, if any
-    unsigned revision = 0;                      ///< increase after changing rows or columns: tables are compared by this
+    unsigned revision = 0; ///< increase after changing rows or columns: tables are compared by this
     std::function<void(std::size_t row, std::size_t column)> cellPressed;
     std::function<void(std::size_t column)> columnPressed;                 ///< a press on a heading
     std::function<void(std::optional<std::size_t> column)> columnReleased; ///< its release; nothing = outside the grid
@@ -135,9 +136,9 @@ struct MenuEntry : Control {
     MenuEntry(Screen* screen, std::string_view name, std::string caption, std::function<void()> action = {},
               std::string shortcut = {});
 
-    std::string caption;              ///< an `&` marks the mnemonic
-    std::string shortcut;             ///< such as "Ctrl+N"; empty = none
-    std::string icon;                 ///< name of a menu icon, such as "open"; empty = none
+    std::string caption;  ///< an `&` marks the mnemonic
+    std::string shortcut; ///< such as "Ctrl+N"; empty = none
+    std::string icon;     ///< name of a menu icon, such as "open"; empty = none
     std::function<void()> action;
     std::vector<MenuEntry*> children; ///< nullptr = a separator
 

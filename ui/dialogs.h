@@ -18,6 +18,7 @@ struct Message {
     std::string text;
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
+    std::string helpTopic = {}; ///< where F1 leads while it is shown; empty = to the topic of the screen behind it
 
     friend bool operator==(const Message&, const Message&) = default;
 };
@@ -32,10 +33,10 @@ struct Question {
 /// A file dialog.
 struct FileChoice {
     std::string caption;
-    std::string filterName;          ///< as shown, such as "PoolSelections (*.THC)"
-    std::string pattern;             ///< such as "*.THC", matched in any case
+    std::string filterName; ///< as shown, such as "PoolSelections (*.THC)"
+    std::string pattern;    ///< such as "*.THC", matched in any case
     std::filesystem::path folder;
-    std::string proposedName;        ///< a bare name; empty = none
+    std::string proposedName; ///< a bare name; empty = none
 };
 
 class Dialogs

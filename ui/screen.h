@@ -22,12 +22,15 @@ public:
 
     const std::string name;
     std::string caption;
-    std::string document;             ///< what is open, for the frame's title bar; empty = nothing worth naming
-    bool unsaved = false;             ///< there are changes that no file holds yet
-    std::string status;               ///< the status line; empty = nothing to say
-    std::string helpTopic;            ///< anchor of the help topic that fits this screen
-    std::vector<MenuEntry*> menuBar;  ///< menus and plain commands, left to right
-    Control* focused = nullptr;       ///< who has the focus; assign to move it
+    std::string document;            ///< what is open, for the frame's title bar; empty = nothing worth naming
+    bool unsaved = false;            ///< there are changes that no file holds yet
+    std::string status;              ///< how things stand, always shown in the status line; empty = nothing to say
+    std::string hint;                ///< what to do now, shown until a control explains itself; empty = nothing to say
+    std::vector<MenuEntry*> menuBar; ///< menus and plain commands, left to right
+    Control* focused = nullptr;      ///< who has the focus; assign to move it
+
+    /// @returns the anchor of the help topic that fits the screen as it is now; empty = the help's beginning
+    virtual std::string helpTopic() const { return {}; }
 
     /// Runs once the window exists, before it is first seen. Messages may be shown.
     virtual void load() {}

@@ -249,6 +249,42 @@ TEST_F(frmPoolMainBoard, TheBracketIsOneStopOfTheTabOrder)
         EXPECT_EQ(board->lblRegion[i].tabStop, i == 24);
 }
 
+TEST_F(frmPoolMainBoard, EachPlaceSaysWhatCanBeDoneThere)
+{
+    loadFinalized();
+    const auto said = [&](std::size_t position) { return board->lblRegion[position].explanation; };
+    EXPECT_EQ(said(0), "Click or press Space to send R1T0 to the next round, or drag it as far as it goes.");
+    EXPECT_EQ(said(16), "Nobody stands here yet: click or drag a team that can get here.");
+    drag(0, 126);
+    EXPECT_EQ(said(16), "Click or press Space to send R1T0 on, drag it further; right click or Delete takes it away.");
+    EXPECT_EQ(said(126), "R1T0 wins the tournament. A right click or Delete takes the team away.");
+    rightPress(16);
+    EXPECT_EQ(said(126), "Nobody stands here yet: click or drag a team that can get here.");
+    board->setScoreDisplayOpen(true);
+    EXPECT_EQ(said(0), "The list of scores is open; close it to change the bracket.");
+    board->setScoreDisplayOpen(false);
+    EXPECT_EQ(said(0), "Click or press Space to send R1T0 to the next round, or drag it as far as it goes.");
+}
+
+TEST_F(frmPoolMainBoard, AMarkedPlaceSaysWhatItIsWorth)
+{
+    loadFinalized();
+    drag(0, 24); // the winner of its first two games
+    state.verdict.SlotStatus[17] = Verdict::Good;
+    state.verdict.SlotStatus[25] = Verdict::Bad;
+    state.verdict.SlotStatus[26] = Verdict::Bad;
+    board->MarkScores();
+    const auto said = [&](std::size_t position) { return board->lblRegion[position].explanation; };
+    EXPECT_EQ(said(16), "A right pick: 1 point earned."); // the default payoffs: 1, 2, 4, 8, 12, 16
+    EXPECT_EQ(said(24), "A wrong pick: 2 points lost.");
+    EXPECT_EQ(said(25), "Nobody was picked: 2 points lost.");
+    EXPECT_EQ(said(126), "Not decided yet: worth 16 points.");
+    EXPECT_EQ(said(0), "The picks are marked; choose Default Colors to change them again.");
+    EXPECT_EQ(board->lblResult[0].explanation, said(16));
+    board->ClearMarks();
+    EXPECT_EQ(said(25), "Nobody stands here yet: click or drag a team that can get here.");
+}
+
 TEST_F(frmPoolMainBoard, HighSeedsFillsTheRegionsAndLeavesTheFinals)
 {
     loadFinalized();

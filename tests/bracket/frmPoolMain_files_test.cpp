@@ -229,7 +229,7 @@ TEST_F(frmPoolMainFiles, ASaveElsewhereSaysThatOnlyTheFolderIsScored)
     platform.dialogs.pick(elsewhere.path() / "Smith_JS.THC");
     save();
     EXPECT_TRUE(elsewhere.has("Smith_JS.THC"));
-    EXPECT_NE(board->status.find("Only files in the program's folder are scored"), std::string::npos);
+    EXPECT_NE(board->hint.find("Only files in the program's folder are scored"), std::string::npos);
 }
 
 TEST_F(frmPoolMainFiles, OpenShowsTheFileAndUnlocksTheFields)

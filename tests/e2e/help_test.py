@@ -36,10 +36,15 @@ class Help(unittest.TestCase):
         self.program.wait(lambda: self.program.visible("lstNames"), "the player list")
         self.help_opens_at("The player list")
         self.program.click("cmdCancel")
+        self.program.menu("mnuOptions", "mnuScoreSelections")
+        self.program.wait(lambda: self.program.visible("cmdDefaultColors"), "the marks")
+        self.help_opens_at("Scores, and what \N{LEFT DOUBLE QUOTATION MARK}possible\N{RIGHT DOUBLE QUOTATION MARK} means")
         self.program.menu("mnuOptions", "mnuGameResults")
+        self.program.wait(lambda: self.program.text("txtPlayerName") == "FinalResults", "the results")
+        self.help_opens_at("Entering the results")
         self.program.menu("mnuOptions", "mnuScoreSelections")
         self.program.wait(lambda: self.program.visible("msgScoreDisplay"), "the scores")
-        self.help_opens_at("Scores, and what \N{LEFT DOUBLE QUOTATION MARK}possible\N{RIGHT DOUBLE QUOTATION MARK} means")
+        self.help_opens_at("The list of all scores")
 
     def test_a_missing_help_file_is_told(self):
         (self.program.folder / "TALLYHOOP.HLP").unlink()
@@ -48,6 +53,25 @@ class Help(unittest.TestCase):
         self.assertEqual(box["text"].splitlines(), ["Trouble loading the help file, make sure that ",
                                                     "TALLYHOOP.HLP is present in the same directory ",
                                                     "as the application program."])
+
+
+class HelpBeforeThereIsAPool(unittest.TestCase):
+    help_opens_at = Help.help_opens_at
+
+    def test_a_message_that_mentions_the_help_leads_there(self):
+        self.program = self.enterContext(Program())
+        self.program.start()
+        self.program.box("** DEMO MODE OPTION **")
+        self.help_opens_at("Demo mode")
+        self.program.answer("Cancel", "** DEMO MODE OPTION **")
+        self.program.wait(lambda: not self.program.modal(), "the board")
+        self.help_opens_at("Getting started in five minutes")
+        self.program.menu("mnuSetup", "mnuSetupOptions")
+        self.program.wait(lambda: self.program.visible("cmdFinalize"), "the setup")
+        self.help_opens_at("Setting up a pool")
+        self.program.menu("mnuOptions", "mnuSeating")
+        self.program.wait(lambda: self.program.visible("cmdComplete"), "the seeds")
+        self.help_opens_at("Seeds")
 
 
 class HelpFile(unittest.TestCase):
@@ -59,10 +83,9 @@ class HelpFile(unittest.TestCase):
 
     def test_every_topic_that_the_program_asks_for_is_there(self):
         text = HELP.read_text(encoding="utf-8")
-        asked = set()
-        for source in SOURCE.glob("*/frmPool*.cpp"):
-            asked |= set(re.findall(r'helpTopic = "(\w+)"', source.read_text(encoding="utf-8")))
-        self.assertGreaterEqual(len(asked), 5)
+        topics = (SOURCE / "model/help_topics.h").read_text(encoding="utf-8")
+        asked = set(re.findall(r'char\* k\w+ = "(\w+)"', topics))
+        self.assertGreaterEqual(len(asked), 12)
         self.assertEqual(asked - set(re.findall(r'id="(\w+)"', text)), set())
 
     def test_the_records_to_be_copied_have_the_right_columns(self):

@@ -47,7 +47,7 @@ struct Validation {
                                  "\r\n"
                                  "See the help file for additional instructions";
         EXPECT_EQ(dialogs.shown, (std::vector<ui::Message>{{"** ERROR Found in PLAYERNAMES.CSV file **", text,
-                                                            ui::Buttons::Ok, ui::Icon::Critical}}));
+                                                            ui::Buttons::Ok, ui::Icon::Critical, "repair"}}));
     }
 };
 

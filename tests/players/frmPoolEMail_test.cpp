@@ -119,7 +119,7 @@ TEST_F(frmPoolEMailTest, AFaultyPlayerListLeavesTheListsEmpty)
     EXPECT_EQ(platform.dialogs.shown[1], (ui::Message{kCaption,
                                                       "Problems found with PLAYERNAMES.CSV file\r\n"
                                                       "This condition must be corrected, See Help content",
-                                                      ui::Buttons::Ok, ui::Icon::Critical}));
+                                                      ui::Buttons::Ok, ui::Icon::Critical, "repair"}));
     EXPECT_TRUE(mail.lstPlayerNames.rows.empty());
     EXPECT_TRUE(mail.lstTo.rows.empty());
 }

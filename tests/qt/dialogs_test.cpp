@@ -56,6 +56,33 @@ TEST(QtDialogs, AMessageShowsItsCaptionTextIconAndButtons)
               ui::Answer::Ok);
 }
 
+TEST(QtDialogs, F1ShowsTheTopicOfTheMessageOrOfTheScreenBehindIt)
+{
+    class Topical : public SampleScreen
+    {
+        std::string helpTopic() const override { return "screen"; }
+    };
+    Desk desk;
+    Topical screen;
+    SamplePage page{screen, desk};
+    page.show();
+    QtDialogs dialogs{desk};
+    std::vector<std::string> topics;
+    desk.helpWanted = [&](const std::string& topic) { topics.push_back(topic); };
+    const auto askForHelp = [](QMessageBox& box) {
+        activate(box);
+        QTest::keyClick(&box, Qt::Key_F1);
+        box.button(QMessageBox::Ok)->click();
+    };
+    desk.run(screen, [&] {
+        withNext<QMessageBox>(askForHelp);
+        dialogs.show({"A caption", "See Help", ui::Buttons::Ok, ui::Icon::None, "message"});
+        withNext<QMessageBox>(askForHelp);
+        dialogs.show({"A caption", "A text"});
+    });
+    EXPECT_EQ(topics, (std::vector<std::string>{"message", "screen"}));
+}
+
 TEST(QtDialogs, EscapeMeansNoOrCancelOrOkWhenThereIsOnlyOk)
 {
     Asking asking;

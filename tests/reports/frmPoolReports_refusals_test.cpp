@@ -152,9 +152,11 @@ TEST_F(ReportsScreen, RefusesThePlayerListingOfAFaultyList)
 
     ASSERT_EQ(platform.dialogs.shown.size(), 2u);
     EXPECT_EQ(platform.dialogs.shown[0].caption, "** ERROR Found in PLAYERNAMES.CSV file **");
-    EXPECT_EQ(platform.dialogs.shown[1], critical("TALLYHOOP - frmPoolReports, Player Listing",
-                                                  "Problems found with PLAYERNAMES.CSV file\r\n"
-                                                  "This condition must be corrected, See Help content"));
+    ui::Message refusal = critical("TALLYHOOP - frmPoolReports, Player Listing",
+                                   "Problems found with PLAYERNAMES.CSV file\r\n"
+                                   "This condition must be corrected, See Help content");
+    refusal.helpTopic = "repair";
+    EXPECT_EQ(platform.dialogs.shown[1], refusal);
     EXPECT_FALSE(isTicked(kListing));
     EXPECT_FALSE(anyReportWritten());
 }

@@ -250,7 +250,7 @@ TEST_F(frmPoolEntrySave, DemoModeRefusesTheSave)
                                                           " \r\n"
                                                           "See Help for information on DEMO MODE or select\r\n"
                                                           "Menu: MENU Mode / DEMO-Reset to exit DEMO MODE.",
-                                                          ui::Buttons::Ok, ui::Icon::Exclamation}}));
+                                                          ui::Buttons::Ok, ui::Icon::Exclamation, "demo"}}));
     EXPECT_FALSE(files.has("POOLSTART.THS"));
 }
 

@@ -12,6 +12,7 @@
 #include <QWidget>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace tallyhoop::qt {
@@ -77,8 +78,11 @@ public:
     /// Called after every push, such as for the frame's title.
     std::function<void()> pushed;
 
-    /// F1 on a screen that has no help menu.
-    std::function<void(const ui::Screen&)> helpWanted;
+    /// F1 where no help menu hears it: shows this topic.
+    std::function<void(const std::string& topic)> helpWanted;
+
+    /// @returns the help topic of the screen that asks a modal question now; empty when none is running
+    std::string runningTopic() const { return m_running.empty() ? std::string{} : m_running.back()->helpTopic(); }
 
 private:
     struct Parked {

@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QStatusBar>
 #include <algorithm>
 #include <limits>
 
@@ -19,12 +18,17 @@ Page::Page(ui::Screen& screen, Desk& desk) : m_screen{screen}, m_desk{desk}
     follow(screen.caption, [this](const std::string& caption) { setWindowTitle(titleText(toQString(caption))); });
     buildMenuBar();
 
-    // A page that never has anything to say keeps the room for its controls.
-    follow(screen.status, [this, status = static_cast<QLabel*>(nullptr)](const std::string& text) mutable {
-        if (!status && !text.empty())
-            status = newStatus();
-        if (status)
-            status->setText(toQString(text));
+    follow(screen.status, [this](const std::string& text) {
+        if (!text.empty())
+            makeStatusLine();
+        if (m_status)
+            m_status->setText(toQString(text));
+    });
+    follow(screen.hint, [this](const std::string& text) {
+        if (!text.empty())
+            makeStatusLine();
+        m_focusMoved = false;
+        m_pointed = nullptr;
     });
     connect(qApp, &QApplication::focusChanged, this, [this] {
         ui::Control* now = focusedControl();
@@ -39,18 +43,6 @@ Page::~Page()
     m_desk.detach(*this);
     // Widgets report lost focus while they are destroyed; nobody must be told then.
     QObject::disconnect(qApp, nullptr, this, nullptr);
-}
-
-QLabel* Page::newStatus()
-{
-    auto* status = new QLabel{this};
-    status->setObjectName(QStringLiteral("status"));
-    status->setTextFormat(Qt::PlainText);
-    status->setContentsMargins(look::kGap, 0, look::kGap, 0);
-    statusBar()->setSizeGripEnabled(false);
-    statusBar()->addWidget(status, 1);
-    statusBar()->show();
-    return status;
 }
 
 void Page::setContent(QLayout* layout)
@@ -88,7 +80,7 @@ void Page::followCommonParts(ui::Control& control, QWidget& widget)
     });
     follow(control.toolTip, [&widget](const std::string& tip) { widget.setToolTip(plainToolTip(toLines(tip))); });
     follow(control.spokenName, [&widget](const std::string& name) { widget.setAccessibleName(toQString(name)); });
-    follow(control.spokenHint, [&widget](const std::string& hint) { widget.setAccessibleDescription(toLines(hint)); });
+    followExplanation(control, widget);
     const bool byTab = (widget.focusPolicy() & Qt::TabFocus) != 0;
     const Qt::FocusPolicy policy = widget.focusPolicy();
     follow(control.tabStop, [this, &widget, byTab, policy](bool tabStop) {
@@ -137,6 +129,7 @@ void Page::push()
     if (m_tabsChanged)
         orderTabs();
     pushFocus();
+    explain();
     m_pushing = before;
 }
 
@@ -167,6 +160,8 @@ bool Page::reportFocus()
     if (!isVisible() || !now || now == m_focusReported)
         return false;
     ui::Control* before = std::exchange(m_focusReported, now);
+    m_focusMoved = before != nullptr;
+    m_pointed = nullptr;
     if (before)
         m_screen.lostFocus(*before);
     m_screen.gotFocus(*now);

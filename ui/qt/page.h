@@ -35,6 +35,8 @@ class QPlainTextEdit;
 
 namespace tallyhoop::qt {
 
+class ElidedLabel;
+
 class Page : public QMainWindow
 {
     Q_OBJECT
@@ -172,7 +174,10 @@ private:
         int selectionLength = 0;
     };
 
-    QLabel* newStatus();
+    void makeStatusLine();
+    void followExplanation(ui::Control& control, QWidget& widget);
+    void pointerCameOrWent(const ui::Control& control, const QEvent& event);
+    void explain();
     void followCommonParts(ui::Control& control, QWidget& widget);
     QLineEdit* addLine(ui::TextBox& box);
     QPlainTextEdit* addLines(ui::TextBox& box);
@@ -212,6 +217,10 @@ private:
     std::vector<std::function<void()>> m_pushes;
     ui::Control* m_focusSeen = nullptr;
     ui::Control* m_focusReported = nullptr;
+    ElidedLabel* m_explanation = nullptr; ///< the line below the page, once there is something to say
+    QLabel* m_status = nullptr;           ///< the right end of that line
+    const ui::Control* m_pointed = nullptr;
+    bool m_focusMoved = false; ///< since the screen's hint was new
     QButtonGroup* m_singleOptions = nullptr;
     const QLineEdit* m_clickedInto = nullptr; ///< got its focus by the mouse press that is on its way
     Composing m_composing;

@@ -107,6 +107,7 @@ bool Page::eventFilter(QObject* watched, QEvent* event)
     if (at == m_controls.end())
         return QMainWindow::eventFilter(watched, event);
     ui::Control& control = *at->second;
+    pointerCameOrWent(control, *event);
     if (event->type() == QEvent::KeyPress && filterKey(control, static_cast<QKeyEvent&>(*event)))
         return true;
     if (event->type() == QEvent::InputMethod && filterInputMethod(control, *event))
@@ -258,7 +259,7 @@ void Page::keyPressEvent(QKeyEvent* event)
     if (key == ui::Key::Escape)
         run([this] { m_screen.closeRequested(); });
     else if (event->key() == Qt::Key_F1 && m_desk.helpWanted)
-        run([this] { m_desk.helpWanted(m_screen); });
+        run([this] { m_desk.helpWanted(m_screen.helpTopic()); });
     else if (key != ui::Key::Enter || !pressDefault())
         QMainWindow::keyPressEvent(event);
 }

@@ -27,7 +27,8 @@ protected:
         view.show();
         view.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&view));
-        desk.push();
+        find(QStringLiteral("txtPlayerInitials")).setFocus(); // as in the program
+        desk.runInside(board, {});
     }
 
     template <class Widget = QWidget>
@@ -181,6 +182,41 @@ TEST_F(BoardViewTest, ATitleThatDoesNotFitShowsItsBeginningAndIsWholeInItsToolTi
     board.lblTitle.text = "Smith & Sons";
     desk.push();
     EXPECT_EQ(tipOf(title), QString{});
+}
+
+TEST_F(BoardViewTest, TheStatusLineFollowsThePointerAndTheArrowKeys)
+{
+    const auto& line = find<QLabel>(QStringLiteral("explanation"));
+    desk.runInside(board, [&] { board.hint = "Begin here."; });
+    EXPECT_EQ(line.text(), QStringLiteral("Begin here."));
+    const QPointF middle = place(31).rect().center();
+    QEnterEvent enter{middle, middle, place(31).mapToGlobal(middle)};
+    QApplication::sendEvent(&place(31), &enter);
+    EXPECT_EQ(line.text(), QString::fromStdString(board.lblRegion[31].explanation));
+    place(0).setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(line.text().contains(QStringLiteral("Arizona"))) << line.text().toStdString();
+    QTest::keyClick(&place(0), Qt::Key_Down);
+    EXPECT_TRUE(line.text().contains(QStringLiteral("Jackson St."))) << line.text().toStdString();
+    QTest::keyClick(&place(1), Qt::Key_Right);
+    EXPECT_TRUE(line.text().startsWith(QStringLiteral("Nobody stands here yet")));
+    QTest::keyClick(&place(16), Qt::Key_Left);
+    QTest::keyClick(&place(0), Qt::Key_Space);
+    QTest::keyClick(&place(0), Qt::Key_Right);
+    EXPECT_TRUE(line.text().startsWith(QStringLiteral("Click or press Space to send Arizona on")));
+    QTest::keyClick(&place(16), Qt::Key_Delete);
+    EXPECT_TRUE(line.text().startsWith(QStringLiteral("Nobody stands here yet"))) << "the place has changed";
+}
+
+TEST_F(BoardViewTest, APlaceReachedByKeysShowsTheWayOfItsTeam)
+{
+    board.PressPosition(0, MouseButton::Left);
+    board.DropOnPosition(24);
+    desk.push();
+    const QImage before = place(24).grab().toImage();
+    place(0).setFocus(Qt::TabFocusReason);
+    EXPECT_NE(place(24).grab().toImage(), before);
+    find(QStringLiteral("txtPlayerName")).setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(place(24).grab().toImage(), before);
 }
 
 TEST_F(BoardViewTest, AnEmptyPickThatIsWrongIsRedLikeItsMark)

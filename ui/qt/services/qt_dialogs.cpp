@@ -11,6 +11,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QShortcut>
 
 namespace tallyhoop::qt {
 
@@ -91,7 +92,18 @@ ui::Answer QtDialogs::show(const ui::Message& message)
     box.setText(toLines(message.text));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     addButtons(box, message.buttons);
+    offerHelp(box, message.helpTopic.empty() ? m_desk.runningTopic() : message.helpTopic);
     return answerOf(box.exec());
+}
+
+/// A message that sends people to the help lets them read it at once.
+void QtDialogs::offerHelp(QMessageBox& box, const std::string& topic)
+{
+    auto* key = new QShortcut{QKeySequence{Qt::Key_F1}, &box};
+    QObject::connect(key, &QShortcut::activated, &box, [this, topic] {
+        if (m_desk.helpWanted)
+            m_desk.helpWanted(topic);
+    });
 }
 
 std::string QtDialogs::ask(const ui::Question& asked)

@@ -4,7 +4,7 @@
 #include "ui/dialogs.h"
 #include "ui/qt/desk.h"
 
-class QFileDialog;
+class QMessageBox;
 
 namespace tallyhoop::qt {
 
@@ -20,6 +20,7 @@ public:
     void about() override;
 
 private:
+    void offerHelp(QMessageBox& box, const std::string& topic);
     std::optional<std::filesystem::path> choose(const ui::FileChoice& choice, bool save);
 
     Desk& m_desk;

@@ -287,16 +287,22 @@ void BracketCanvas::hover(int position)
     if (position == m_hovered)
         return;
     m_hovered = position;
-    m_page.run([this, position] { m_board.explainPosition(position); });
     emphasise();
 }
 
-/// A drag shows where it may land; otherwise the pointer shows how far the team under it has come.
+int BracketCanvas::reachedByKeys() const
+{
+    const auto at = std::ranges::find_if(m_places, [](const SlotLabel* place) { return place->isReachedByKeys(); });
+    return at == m_places.end() ? -1 : static_cast<int>(at - m_places.begin());
+}
+
+/// A drag shows where it may land; otherwise the pointer, or the focus, shows how far the team there has come.
 void BracketCanvas::emphasise()
 {
     using Emphasis = SlotLabel::Emphasis;
     const bool dragging = m_dragged->isVisible() && m_board.isDragging();
-    const std::vector<int> path = dragging || m_hovered < 0 ? std::vector<int>{} : m_board.pathOf(m_hovered);
+    const int shown = m_hovered < 0 ? reachedByKeys() : m_hovered;
+    const std::vector<int> path = dragging || shown < 0 ? std::vector<int>{} : m_board.pathOf(shown);
     for (int position = 0; position < kPositions; ++position) {
         Emphasis emphasis = Emphasis::None;
         if (dragging && m_board.mayDropOn(position))

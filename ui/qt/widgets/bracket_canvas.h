@@ -45,6 +45,7 @@ private:
     void hover(int position);
     void showDrag(const QPoint& point);
     void loseDrag();
+    int reachedByKeys() const;
     void emphasise();
 
     frmPoolMain& m_board;

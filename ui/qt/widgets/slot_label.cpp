@@ -113,7 +113,7 @@ void SlotLabel::paintEvent(QPaintEvent*)
     const QString cut = fontMetrics().elidedText(text(), Qt::ElideRight, textPlace().width());
     const Qt::Alignment alignment = m_part == Part::Marker ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft;
     painter.drawText(textPlace(), static_cast<int>(alignment) | Qt::TextSingleLine, cut);
-    if (hasFocus() && m_reachedByKeys) {
+    if (isReachedByKeys()) {
         painter.setPen(QPen{m_colour, 1, Qt::DashLine});
         painter.drawRect(rect().adjusted(2, 1, -2, -3));
     }

@@ -27,6 +27,9 @@ public:
 
     QSize sizeHint() const override;
 
+    /// @returns whether it has the focus, and not from a mouse press
+    bool isReachedByKeys() const { return hasFocus() && m_reachedByKeys; }
+
     /// @returns whether the name is cut when painted
     bool isElided() const;
 

@@ -1,0 +1,104 @@
+// tests/help/help_links_test.cpp - does every link of the help, and everything in the program that sends people there,
+// lead to a topic?
+#include "help/help_file.h"
+#include "model/help_topics.h"
+#include "model/text_file.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <iterator>
+#include <regex>
+#include <set>
+
+namespace tallyhoop::test {
+
+namespace {
+
+using testing::HasSubstr;
+
+/// The C++ files of the program itself.
+std::vector<std::filesystem::path> sources()
+{
+    std::vector<std::filesystem::path> files;
+    for (const char* room : {"app", "bracket", "demo", "model", "players", "reports", "scoring", "setup", "ui"})
+        for (const auto& entry :
+             std::filesystem::recursive_directory_iterator{std::filesystem::path{TALLYHOOP_SOURCE_DIR} / room})
+            if (entry.path().extension() == ".cpp")
+                files.push_back(entry.path());
+    return files;
+}
+
+std::string contentOf(const std::filesystem::path& file)
+{
+    std::ifstream stream{file, std::ios::binary};
+    return {std::istreambuf_iterator<char>{stream}, {}};
+}
+
+} // namespace
+
+TEST(HelpLinks, EveryLinkLeadsToATopic)
+{
+    const auto topics = helpTopics();
+    for (const std::string& link : linksOf(helpText()))
+        EXPECT_TRUE(topics.contains(link)) << link;
+}
+
+TEST(HelpLinks, EveryTopicCanBeReachedFromTheFirst)
+{
+    const auto topics = helpTopics();
+    std::set<std::string> reached{help_topic::kStart};
+    std::vector<std::string> toFollow{help_topic::kStart};
+    while (!toFollow.empty()) {
+        const std::string topic = toFollow.back();
+        toFollow.pop_back();
+        for (const std::string& link : linksOf(topics.at(topic)))
+            if (reached.insert(link).second)
+                toFollow.push_back(link);
+    }
+    for (const auto& [topic, text] : topics)
+        EXPECT_TRUE(reached.contains(topic)) << topic;
+}
+
+TEST(HelpLinks, EveryTopicThatTheProgramNamesIsThere)
+{
+    const auto topics = helpTopics();
+    for (const char* topic : help_topic::kAll)
+        EXPECT_TRUE(topics.contains(topic)) << topic;
+}
+
+TEST(HelpLinks, EveryTopicBeginsWithItsHeading)
+{
+    EXPECT_EQ(between(helpText(), " id=\"", "\"").size(),
+              between(helpText(), "<h1 id=\"", "\"").size() + between(helpText(), "<h2 id=\"", "\"").size());
+}
+
+TEST(HelpLinks, EveryMessageThatSendsPeopleToTheHelpNamesItsTopic)
+{
+    // A file whose messages mention the help also says which topic F1 shows while they are there.
+    const std::regex mention{R"(See (the )?[Hh]elp|in HELP)"};
+    std::set<std::string> mentioning;
+    for (const auto& file : sources()) {
+        const std::string code = contentOf(file);
+        if (!std::regex_search(code, mention))
+            continue;
+        mentioning.insert(file.filename().string());
+        EXPECT_THAT(code, HasSubstr("help_topic::k")) << file;
+    }
+    EXPECT_EQ(mentioning, (std::set<std::string>{"frmPoolEMail.cpp", "frmPoolEntry_save.cpp", "player_names_file.cpp",
+                                                 "report_maker.cpp", "start_up.cpp"}));
+}
+
+TEST(HelpLinks, TheTopicsThatMessagesNameAnswerThem)
+{
+    const auto topics = helpTopics();
+    EXPECT_THAT(topics.at(help_topic::kDemo), HasSubstr("DEMO-Reset"));
+    EXPECT_THAT(topics.at(help_topic::kDemo), HasSubstr("saving the field is refused"));
+    const std::string& repair = topics.at(help_topic::kRepair);
+    for (const char* word : {"PLAYERNAMES.CSV", "PLAYERNAMES.TXT", "backup", "**Following Record was too long**",
+                             "** Following record too short**", "**Formatting of following record incorrect**"})
+        EXPECT_THAT(repair, HasSubstr(word));
+}
+
+} // namespace tallyhoop::test

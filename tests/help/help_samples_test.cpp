@@ -1,0 +1,95 @@
+// tests/help/help_samples_test.cpp - what the help shows and counts, compared with the program on the sample pool.
+#include "bracket/frmPoolMain.h"
+#include "demo/sample_pool.h"
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
+#include "help/help_file.h"
+#include "model/file_names.h"
+#include "model/setup_file.h"
+#include "model/text.h"
+#include "model/text_file.h"
+#include "reports/frmPoolReports.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+
+namespace tallyhoop::test {
+
+namespace {
+
+class HelpSamples : public testing::Test
+{
+protected:
+    HelpSamples() { EXPECT_TRUE(demo::installSamplePool(folder)); }
+
+    /// Makes every report as a text file.
+    void makeReports()
+    {
+        frmPoolMain board{folder, platform.services, state, screens};
+        board.load();
+        frmPoolReports reports{folder, platform.services, state, screens, board};
+        reports.load();
+        for (std::size_t i = 0; i < kReports; ++i)
+            reports.chkOptions[i].ticked = true;
+        ui::selectOption(reports.optDestination, 1);
+        reports.cmdPrintSelections.click();
+    }
+
+    ScratchFolder scratch;
+    DataFolder folder = scratch.folder();
+    FakePlatform platform;
+    FakeScreens screens;
+    modTallyhoop state;
+};
+
+} // namespace
+
+TEST_F(HelpSamples, OfTheReportsAreWhatTheSamplePoolGives)
+{
+    makeReports();
+    for (const ReportKind& kind : reportTable()) {
+        const std::vector<std::string> sample = sampleUnder(kind.caption);
+        ASSERT_FALSE(sample.empty()) << kind.caption;
+        std::vector<std::string> report = linesOf(scratch.get(kind.file));
+        for (std::string& line : report)
+            line = trimTrailingBlanks(line);
+        auto from = report.begin();
+        for (const std::string& line : sample) { // in their order, others may stand between them
+            const auto at = std::find(from, report.end(), line);
+            ASSERT_NE(at, report.end()) << kind.file << " has no line: " << line;
+            from = at + 1;
+        }
+    }
+}
+
+TEST_F(HelpSamples, OfTheScoresAreWhatTheBoardSays)
+{
+    const std::string help = helpText();
+    for (const auto& [file, score] :
+         {std::pair{"Demo Prophet_DP.THC", "80 / 120"}, std::pair{"Demo Favorite_DF.THC", "59 / 71"},
+          std::pair{"Demo Halfway_DH.THC", "55 / 67"}, std::pair{"Demo Longshot_DL.THC", "31 / 31"}}) {
+        frmPoolMain board{folder, platform.services, state, screens};
+        board.load();
+        board.showSelection(scratch.path() / file);
+        board.ScoreSelections();
+        EXPECT_EQ(board.txtPointScore.text, std::string{"Points: "} + score);
+        EXPECT_THAT(help, testing::HasSubstr(std::string{">"} + score + "</td>")) << file;
+    }
+}
+
+TEST_F(HelpSamples, OfAFinalizedFieldHasItsMarkOnLine95)
+{
+    EXPECT_THAT(helpText(), testing::HasSubstr("change line 95 from 1 to 0"));
+    std::vector<std::string> lines = linesOf(scratch.get(file_name::kSetup));
+    ASSERT_EQ(lines.at(94), "1");
+    lines[94] = "0";
+    scratch.put(file_name::kSetup, joinLines(lines) + "\r\n");
+    scratch.put(file_name::kSettings, "0\r\n");
+    frmPoolMain board{folder, platform.services, state, screens};
+    board.load();
+    EXPECT_TRUE(board.mnuSetup.enabled);
+    EXPECT_EQ(board.lblTitle.text, "2000 NCAA Tournament");
+}
+
+} // namespace tallyhoop::test

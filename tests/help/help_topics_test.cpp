@@ -1,0 +1,174 @@
+// tests/help/help_topics_test.cpp - which topic F1 shows on each screen, in each of its states.
+#include "bracket/frmPoolMain.h"
+#include "demo/sample_pool.h"
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
+#include "model/file_names.h"
+#include "model/help_topics.h"
+#include "model/setup_file.h"
+#include "players/frmPoolEMail.h"
+#include "players/frmPoolNames.h"
+#include "reports/frmPoolReports.h"
+#include "scoring/frmPoolMisc.h"
+#include "setup/frmPoolSeatings.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyhoop::test {
+
+namespace {
+
+class HelpTopic : public testing::Test
+{
+protected:
+    /// A pool of the organiser's own: the sample's files without demo mode.
+    void putOwnPool()
+    {
+        ASSERT_TRUE(demo::installSamplePool(folder));
+        ASSERT_TRUE(folder.remove(file_name::kSettings));
+    }
+
+    void putFaultyPlayerList() { scratch.put(file_name::kPlayerNames, "saved by a spreadsheet\r\n"); }
+
+    frmPoolMain& board()
+    {
+        if (!m_board) {
+            m_board = std::make_unique<frmPoolMain>(folder, platform.services, state, screens);
+            m_board->load();
+        }
+        return *m_board;
+    }
+
+    ScratchFolder scratch;
+    DataFolder folder = scratch.folder();
+    FakePlatform platform;
+    FakeScreens screens;
+    modTallyhoop state;
+    std::unique_ptr<frmPoolMain> m_board;
+};
+
+} // namespace
+
+TEST_F(HelpTopic, OfABoardWithoutAFieldIsHowToStart) { EXPECT_EQ(board().helpTopic(), "start"); }
+
+TEST_F(HelpTopic, OfABoardIsHowToEnterSelections)
+{
+    putOwnPool();
+    EXPECT_EQ(board().helpTopic(), "selections");
+    board().showSelection(scratch.path() / "Demo Prophet_DP.THC");
+    EXPECT_EQ(board().helpTopic(), "selections");
+}
+
+TEST_F(HelpTopic, OfTheSamplePoolIsDemoModeUntilThereIsABracketToWorkOn)
+{
+    ASSERT_TRUE(demo::installSamplePool(folder));
+    EXPECT_EQ(board().helpTopic(), "demo");
+    board().showSelection(scratch.path() / "Demo Prophet_DP.THC");
+    EXPECT_EQ(board().helpTopic(), "selections");
+    board().NewSelection();
+    EXPECT_EQ(board().helpTopic(), "demo");
+    board().PressPosition(0, MouseButton::Left);
+    board().DropOnPosition(0);
+    EXPECT_EQ(board().helpTopic(), "selections");
+}
+
+TEST_F(HelpTopic, OfGameResultsIsHowToEnterThem)
+{
+    putOwnPool();
+    board().EnterGameResults();
+    EXPECT_EQ(board().helpTopic(), "results");
+    board().NewSelection();
+    EXPECT_EQ(board().helpTopic(), "selections");
+}
+
+TEST_F(HelpTopic, OfAScoredSelectionIsWhatTheMarksMean)
+{
+    putOwnPool();
+    board().showSelection(scratch.path() / "Demo Prophet_DP.THC");
+    board().ScoreSelections();
+    EXPECT_EQ(board().helpTopic(), "scores");
+    board().DefaultColors();
+    EXPECT_EQ(board().helpTopic(), "selections");
+}
+
+TEST_F(HelpTopic, OfTheListOfScoresIsHowToReadItAlsoOnTheBoardBehindIt)
+{
+    putOwnPool();
+    board().EnterGameResults();
+    frmPoolMisc scores{folder, platform.services, state, screens, board()};
+    scores.load();
+    EXPECT_EQ(scores.helpTopic(), "ranking");
+    EXPECT_EQ(board().helpTopic(), "ranking");
+    scores.unloading();
+    EXPECT_EQ(board().helpTopic(), "results");
+}
+
+TEST_F(HelpTopic, OfABoardWithAFaultyPlayerListIsHowToRepairIt)
+{
+    putOwnPool();
+    putFaultyPlayerList();
+    EXPECT_EQ(board().helpTopic(), "repair");
+    EXPECT_EQ(platform.dialogs.shown.at(0).helpTopic, "repair");
+    board().EnterGameResults();
+    EXPECT_EQ(board().helpTopic(), "results");
+}
+
+TEST_F(HelpTopic, OfTheSetupIsHowToSetUpAndInDemoModeWhyItCannotBeSaved)
+{
+    frmPoolEntry setup{folder, platform.services, state, screens, Opening::Plain};
+    EXPECT_EQ((setup.load(), setup.helpTopic()), "setup");
+    frmPoolSeatings seeds{setup, platform.services, state, screens};
+    seeds.load();
+    EXPECT_EQ(seeds.helpTopic(), "seeds");
+
+    ASSERT_TRUE(demo::installSamplePool(folder));
+    frmPoolEntry sample{folder, platform.services, state, screens, Opening::Plain};
+    sample.load();
+    EXPECT_EQ(sample.helpTopic(), "demo");
+    frmPoolSeatings sampleSeeds{sample, platform.services, state, screens};
+    EXPECT_EQ(sampleSeeds.helpTopic(), "seeds");
+}
+
+TEST_F(HelpTopic, OfThePlayerListIsTheListOrItsRepair)
+{
+    putOwnPool();
+    frmPoolNames sound{folder, platform.services, state, screens};
+    sound.load();
+    EXPECT_EQ(sound.helpTopic(), "players");
+    putFaultyPlayerList();
+    frmPoolNames faulty{folder, platform.services, state, screens};
+    faulty.load();
+    EXPECT_EQ(faulty.helpTopic(), "repair");
+}
+
+TEST_F(HelpTopic, OfTheEMailDialogIsEMailOrTheRepairOfItsPlayers)
+{
+    putOwnPool();
+    frmPoolEMail sound{folder, platform.services, state, screens};
+    sound.load();
+    EXPECT_EQ(sound.helpTopic(), "email");
+    putFaultyPlayerList();
+    frmPoolEMail faulty{folder, platform.services, state, screens};
+    faulty.load();
+    EXPECT_EQ(faulty.helpTopic(), "repair");
+    EXPECT_EQ(platform.dialogs.shown.back().helpTopic, "repair");
+}
+
+TEST_F(HelpTopic, OfTheReportsIsTheReportsUnlessOneFailedForAReasonOfItsOwn)
+{
+    putOwnPool();
+    frmPoolReports reports{folder, platform.services, state, screens, board()};
+    reports.load();
+    EXPECT_EQ(reports.helpTopic(), "reports");
+    putFaultyPlayerList();
+    reports.chkOptions[1].ticked = true;
+    ui::selectOption(reports.optDestination, 1);
+    reports.cmdPrintSelections.click();
+    EXPECT_EQ(reports.helpTopic(), "repair");
+    reports.chkOptions[0].ticked = true;
+    reports.cmdPrintSelections.click();
+    EXPECT_EQ(reports.helpTopic(), "reports");
+}
+
+} // namespace tallyhoop::test

@@ -1,0 +1,143 @@
+// tests/qt/page_status_test.cpp - the line below a page, as the pointer, the focus and the screen change it.
+#include "qt/sample_screen.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QStatusBar>
+
+using namespace tallyhoop;
+using namespace tallyhoop::qt;
+using namespace tallyhoop::qt::test;
+
+namespace {
+
+class Explained : public SampleScreen
+{
+public:
+    Explained()
+    {
+        hint = "Type a name.";
+        txtName.explanation = "Who it is.";
+        txtOther.explanation = "Who else it is.";
+        cmdOk.explanation = "Goes on.";
+        lblTitle.explanation = "Heads it all.";
+    }
+};
+
+struct StatusLine : testing::Test {
+    StatusLine()
+    {
+        screen.focused = &screen.txtName;
+        page.show();
+        activate(page);
+        desk.runInside(screen, {});
+    }
+
+    QString shown() const { return page.findChild<QLabel*>(QStringLiteral("explanation"))->text(); }
+
+    void pointerComesTo(QWidget& widget)
+    {
+        const QPointF middle = widget.rect().center();
+        QEnterEvent enter{middle, middle, widget.mapToGlobal(middle)};
+        QApplication::sendEvent(&widget, &enter);
+    }
+
+    void pointerLeaves(QWidget& widget)
+    {
+        QEvent leave{QEvent::Leave};
+        QApplication::sendEvent(&widget, &leave);
+    }
+
+    Desk desk;
+    Explained screen;
+    SamplePage page{screen, desk};
+};
+
+} // namespace
+
+TEST_F(StatusLine, SaysWhatToDoAtFirst) { EXPECT_EQ(shown(), QStringLiteral("Type a name.")); }
+
+TEST_F(StatusLine, FollowsThePointer)
+{
+    pointerComesTo(*page.ok);
+    EXPECT_EQ(shown(), QStringLiteral("Goes on."));
+    pointerLeaves(*page.ok);
+    EXPECT_EQ(shown(), QStringLiteral("Type a name."));
+    pointerComesTo(*page.title);
+    EXPECT_EQ(shown(), QStringLiteral("Heads it all."));
+    pointerComesTo(*page.all);
+    EXPECT_EQ(shown(), QStringLiteral("Type a name.")) << "what explains nothing leaves the line to the screen";
+}
+
+TEST_F(StatusLine, ExplainsADisabledControlToo)
+{
+    desk.run(screen, [&] { screen.cmdOk.enabled = false; });
+    pointerComesTo(*page.ok);
+    EXPECT_EQ(shown(), QStringLiteral("Goes on."));
+}
+
+TEST_F(StatusLine, FollowsTheFocusThatTabMoves)
+{
+    QTest::keyClick(page.name, Qt::Key_Tab);
+    EXPECT_EQ(shown(), QStringLiteral("Who else it is."));
+    QTest::keyClick(page.other, Qt::Key_Tab); // to the notes, which explain nothing
+    EXPECT_EQ(shown(), QStringLiteral("Type a name."));
+    QTest::keyClick(page.notes, Qt::Key_Tab);
+    EXPECT_EQ(shown(), QStringLiteral("Goes on."));
+    QTest::keyClick(page.ok, Qt::Key_Backtab, Qt::ShiftModifier);
+    QTest::keyClick(page.notes, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(shown(), QStringLiteral("Who else it is."));
+}
+
+TEST_F(StatusLine, TheFocusThatMovesWinsOverAPointerThatRests)
+{
+    pointerComesTo(*page.ok);
+    QTest::keyClick(page.name, Qt::Key_Tab);
+    EXPECT_EQ(shown(), QStringLiteral("Who else it is."));
+    pointerComesTo(*page.title);
+    EXPECT_EQ(shown(), QStringLiteral("Heads it all."));
+}
+
+TEST_F(StatusLine, WhatTheScreenHasToSayAnewIsSeenUntilSomethingMoves)
+{
+    QTest::keyClick(page.name, Qt::Key_Tab);
+    desk.run(screen, [&] { screen.hint = "It is saved."; });
+    EXPECT_EQ(shown(), QStringLiteral("It is saved."));
+    QTest::keyClick(page.other, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(shown(), QStringLiteral("Who it is."));
+}
+
+TEST_F(StatusLine, AnExplanationThatChangesIsShownAtOnce)
+{
+    pointerComesTo(*page.ok);
+    desk.run(screen, [&] { screen.cmdOk.explanation = "Ends it."; });
+    EXPECT_EQ(shown(), QStringLiteral("Ends it."));
+}
+
+TEST_F(StatusLine, HowThingsStandIsAlwaysThere)
+{
+    desk.run(screen, [&] { screen.status = "3 players"; });
+    pointerComesTo(*page.ok);
+    EXPECT_EQ(page.findChild<QLabel*>(QStringLiteral("status"))->text(), QStringLiteral("3 players"));
+    EXPECT_EQ(shown(), QStringLiteral("Goes on."));
+}
+
+TEST_F(StatusLine, ALongSentenceDoesNotMakeTheWindowWider)
+{
+    const int width = page.minimumSizeHint().width();
+    desk.run(screen, [&] { screen.hint = std::string(500, 'W'); });
+    EXPECT_EQ(page.minimumSizeHint().width(), width);
+}
+
+TEST_F(StatusLine, IsSpokenWithTheControl)
+{
+    EXPECT_EQ(page.ok->accessibleDescription(), QStringLiteral("Goes on."));
+    desk.run(screen, [&] { screen.cmdOk.spokenHint = "Goes on, slowly."; });
+    EXPECT_EQ(page.ok->accessibleDescription(), QStringLiteral("Goes on, slowly."));
+}
+
+TEST(PageWithoutExplanations, HasNoStatusLine)
+{
+    Shown shown;
+    EXPECT_EQ(shown.page.findChild<QStatusBar*>(), nullptr);
+}

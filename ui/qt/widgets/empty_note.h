@@ -1,0 +1,26 @@
+// ui/qt/widgets/empty_note.h - what stands in a list or table that has no rows, so that it does not look broken.
+#pragma once
+
+#include <QAbstractItemView>
+#include <QLabel>
+
+namespace tallyhoop::qt {
+
+/// A pale sentence in the middle of a view, there as long as the view's model has no rows.
+class EmptyNote : public QLabel
+{
+    Q_OBJECT
+
+public:
+    EmptyNote(const QString& text, QAbstractItemView& view);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void place();
+
+    QAbstractItemView& m_view;
+};
+
+} // namespace tallyhoop::qt
