@@ -4,6 +4,8 @@
 
 #include <QApplication>
 #include <QImage>
+#include <QPainter>
+#include <QStyleOption>
 #include <gtest/gtest.h>
 
 using namespace tallyhoop::qt;
@@ -55,6 +57,62 @@ TEST(Look, APaletteThatIsSeenNeedsNoMending)
     EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::PlaceholderText));
     EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::Mid));
     EXPECT_FALSE(mended.isBrushSet(QPalette::Disabled, QPalette::Text));
+}
+
+TEST(Look, WhatTheDesktopTellsIsMendedEachTime)
+{
+    Style style;
+    QPalette night{QColor{49, 54, 59}};
+    night.setColor(QPalette::WindowText, QColor{252, 252, 252});
+    night.setColor(QPalette::Mid, QColor{40, 44, 48});
+    night.setColor(QPalette::Disabled, QPalette::ButtonText, QColor{70, 74, 78});
+    const QColor ground = night.color(QPalette::Window);
+    style.polish(night);
+    EXPECT_GE(look::contrast(night.color(QPalette::Mid), ground), 1.5);
+    EXPECT_GE(look::contrast(night.color(QPalette::Disabled, QPalette::ButtonText), ground), 3);
+    EXPECT_EQ(night.color(QPalette::WindowText), (QColor{252, 252, 252}));
+
+    QPalette day{QColor{0xfa, 0xfa, 0xfa}};
+    day.setColor(QPalette::WindowText, Qt::black);
+    const QColor disabled{0x70, 0x70, 0x70};
+    day.setColor(QPalette::Disabled, QPalette::ButtonText, disabled);
+    style.polish(day);
+    EXPECT_EQ(day.color(QPalette::Disabled, QPalette::ButtonText), disabled) << "what is seen stays the desktop's";
+
+    QPalette nobodys{QColor{0xef, 0xef, 0xef}};
+    style.polish(nobodys);
+    EXPECT_EQ(nobodys, Style::calmPalette());
+}
+
+TEST(Look, TheApplicationFollowsAChangeOfTheStylesPalette)
+{
+    // Qt asks the style about the desktop's palette whenever that changes; a new style is such a moment.
+    QPalette before = QApplication::palette();
+    QApplication::setPalette(QPalette{});
+    QApplication::setStyle(new Style);
+    EXPECT_EQ(QApplication::palette().color(QPalette::Window), Style::calmPalette().color(QPalette::Window));
+    EXPECT_EQ(QApplication::palette().color(QPalette::Disabled, QPalette::ButtonText),
+              Style::calmPalette().color(QPalette::Disabled, QPalette::ButtonText));
+    QApplication::setPalette(before);
+}
+
+TEST(Look, ListsAndBoxesOfSeveralLinesHaveAnOutlineOnEveryGround)
+{
+    Style style;
+    for (const QColor& ground : {QColor{0xf3, 0xf4, 0xf7}, QColor{49, 54, 59}}) {
+        QStyleOptionFrame option;
+        option.rect = {0, 0, 40, 30};
+        option.palette = QPalette{ground};
+        option.palette.setColor(QPalette::WindowText, ground.lightness() > 128 ? Qt::black : Qt::white);
+        QImage image{40, 30, QImage::Format_RGB32};
+        image.fill(ground);
+        QPainter painter{&image};
+        style.drawPrimitive(QStyle::PE_Frame, &option, &painter, nullptr);
+        painter.end();
+        for (const QPoint& edge : {QPoint{0, 15}, QPoint{39, 15}, QPoint{20, 0}, QPoint{20, 29}})
+            EXPECT_GE(look::contrast(image.pixelColor(edge), ground), 1.8) << ground.name().toStdString();
+        EXPECT_EQ(image.pixelColor(20, 15), ground);
+    }
 }
 
 TEST(Look, ContrastIsMeasuredAsTheRatioOfLuminances)

@@ -1,5 +1,7 @@
 #include "qt/sample_screen.h"
 
+#include "ui/qt/widgets/empty_note.h"
+
 #include <QHeaderView>
 #include <gtest/gtest.h>
 
@@ -167,4 +169,27 @@ TEST(PageGrid, TheKeyboardPressesCellsAndMovesColumns)
     QTest::keyClick(shown.page.scores, Qt::Key_Left, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(shown.screen.log, (std::vector<std::string>{"cell 0,1", "press 1", "release 0"}));
     EXPECT_EQ(shown.page.scores->currentIndex().column(), 0);
+}
+
+TEST(EmptyNote, IsThereAsLongAsThereAreNoRows)
+{
+    Shown shown;
+    auto* const inList = new EmptyNote{QStringLiteral("Nobody <yet> & nothing"), *shown.page.rows};
+    auto* const inTable = new EmptyNote{QStringLiteral("No scores"), *shown.page.scores};
+    EXPECT_TRUE(inList->isVisibleTo(shown.page.rows));
+    EXPECT_TRUE(inTable->isVisibleTo(shown.page.scores));
+    EXPECT_EQ(inList->textFormat(), Qt::PlainText);
+    EXPECT_EQ(inList->size(), shown.page.rows->viewport()->size());
+
+    shown.desk.run(shown.screen, [&] {
+        shown.screen.lstRows.rows = {"ADAMS, B"};
+        shown.screen.grdScores.columns = {{"Score"}};
+        shown.screen.grdScores.rows = {{"80"}};
+        ++shown.screen.grdScores.revision;
+    });
+    EXPECT_FALSE(inList->isVisibleTo(shown.page.rows));
+    EXPECT_FALSE(inTable->isVisibleTo(shown.page.scores));
+
+    shown.desk.run(shown.screen, [&] { shown.screen.lstRows.rows.clear(); });
+    EXPECT_TRUE(inList->isVisibleTo(shown.page.rows));
 }

@@ -33,19 +33,12 @@ double luminance(const QColor& colour)
     return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
 }
 
-// What Qt makes up where no desktop tells its colours.
-constexpr QColor kNobodysGround{0xef, 0xef, 0xef};
-
 } // namespace
 
 void apply(QApplication&)
 {
     loadResources();
-    QApplication::setStyle(new Style);
-    if (QApplication::palette().color(QPalette::Window) == kNobodysGround)
-        QApplication::setPalette(Style::calmPalette());
-    else
-        QApplication::setPalette(Style::mendedRoles(QApplication::palette()));
+    QApplication::setStyle(new Style); // whose polish() mends the palette, now and whenever the desktop changes it
     QApplication::setWindowIcon(lineIcon(QStringLiteral(":/tallyhoop.svg")));
 }
 
@@ -129,6 +122,7 @@ void setGround(QPalette& palette, const QColor& ground)
     const QColor text = dark ? Qt::white : Qt::black;
     palette.setColor(QPalette::Base, ground);
     palette.setColor(QPalette::Text, text);
+    palette.setColor(QPalette::PlaceholderText, text); // anything paler could hardly be read on most grounds
     palette.setColor(QPalette::Disabled, QPalette::Text, halfway(text, ground));
 }
 

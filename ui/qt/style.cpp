@@ -1,7 +1,9 @@
 #include "ui/qt/style.h"
 
 #include "ui/qt/look.h"
+#include "ui/qt/message_sign.h"
 
+#include <QApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
@@ -15,7 +17,11 @@ namespace {
 
 constexpr double kRound = 4;  ///< radius of corners, in device-independent pixels
 constexpr int kAir = 2;       ///< what a box or a button is higher than Qt makes it: 64 boxes fit a small screen
+constexpr int kTitleGap = 3;  ///< between a group's title and its frame
 constexpr int kTextInset = 3; ///< how far a box's text stands from where Qt puts it
+
+// What Qt makes up where no desktop tells its colours.
+constexpr QColor kNobodysGround{0xef, 0xef, 0xef};
 
 /// A colour between two: 0 is the first, 1 the second.
 QColor between(const QColor& first, const QColor& second, double share)
@@ -25,9 +31,12 @@ QColor between(const QColor& first, const QColor& second, double share)
                             mix(first.blueF(), second.blueF()));
 }
 
+/// Outlines; on a dark ground the same share of ink is seen less.
 QColor lineColour(const QPalette& palette)
 {
-    return between(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.3);
+    const QColor ground = palette.color(QPalette::Window);
+    const bool dark = look::contrast(ground, Qt::white) > look::contrast(ground, Qt::black);
+    return between(ground, palette.color(QPalette::Active, QPalette::WindowText), dark ? 0.4 : 0.3);
 }
 
 /// For outlines that are all there is to see of a control, such as a box that is not ticked.
@@ -83,39 +92,22 @@ void drawLineEdit(const QStyleOption& option, QPainter& painter, bool filled)
             focused ? option.palette.color(QPalette::Highlight) : lineColour(option.palette), focused ? 2 : 1);
 }
 
-/// A coloured disc or triangle with a sign in it, as message boxes have it.
-QPixmap signPixmap(QStyle::StandardPixmap which, int size)
+/// @returns how far below a group's upper edge its frame begins
+int groupTitleHeight(const QStyleOption& option)
 {
-    QPixmap pixmap{size, size};
-    pixmap.fill(Qt::transparent);
-    QPainter painter{&pixmap};
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(size / 48.0, size / 48.0);
-    painter.setPen(Qt::NoPen);
-    QString sign;
-    QRectF place{0, 0, 48, 48};
-    QColor ink = Qt::white;
-    if (which == QStyle::SP_MessageBoxWarning) {
-        painter.setBrush(QColor{0xf2, 0xb0, 0x1e});
-        painter.setPen(QPen{QColor{0xf2, 0xb0, 0x1e}, 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
-        painter.drawPolygon(QPolygonF{{QPointF{24, 7}, QPointF{43, 41}, QPointF{5, 41}}});
-        sign = QStringLiteral("!");
-        place.setTop(9);
-        ink = QColor{0x1c, 0x1f, 0x24};
-    } else {
-        const bool critical = which == QStyle::SP_MessageBoxCritical;
-        painter.setBrush(critical ? QColor{0xc0, 0x39, 0x2b} : QColor{0x0b, 0x57, 0xa4});
-        painter.drawEllipse(QRectF{3, 3, 42, 42});
-        sign = critical ? QStringLiteral("\u00d7")
-                        : QString{which == QStyle::SP_MessageBoxQuestion ? QLatin1Char{'?'} : QLatin1Char{'i'}};
-    }
-    QFont font = painter.font();
-    font.setPixelSize(30);
-    font.setBold(true);
-    painter.setFont(font);
-    painter.setPen(ink);
-    painter.drawText(place, Qt::AlignCenter, sign);
-    return pixmap;
+    return kTitleGap + std::max(option.fontMetrics.height(),
+                                QApplication::style()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight));
+}
+
+/// The frame of lists and of boxes of several lines: their ground is square, so it is too.
+void drawFrame(const QStyleOption& option, QPainter& painter)
+{
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
+    painter.save();
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(focused ? option.palette.color(QPalette::Highlight) : lineColour(option.palette));
+    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+    painter.restore();
 }
 
 } // namespace
@@ -147,7 +139,7 @@ QPalette Style::calmPalette()
     palette.setColor(QPalette::Midlight, QColor{0xe4, 0xe7, 0xec});
     palette.setColor(QPalette::Shadow, QColor{0x6b, 0x72, 0x7d});
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, QColor{0x8a, 0x91, 0x9c});
+        palette.setColor(QPalette::Disabled, role, QColor{0x7c, 0x84, 0x90});
     palette.setColor(QPalette::Disabled, QPalette::Base, ground);
     palette.setColor(QPalette::Disabled, QPalette::Button, ground);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor{0xb8, 0xbe, 0xc8});
@@ -170,9 +162,18 @@ QPalette Style::mendedRoles(const QPalette& platform)
     if (seen(platform.color(QPalette::Mid)) < 1.5)
         mended.setColor(QPalette::Mid, between(ground, ink, 0.35));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        if (seen(platform.color(QPalette::Disabled, role)) < 2)
-            mended.setColor(QPalette::Disabled, role, between(ground, ink, 0.45));
+        if (seen(platform.color(QPalette::Disabled, role)) < 3)
+            mended.setColor(QPalette::Disabled, role, between(ground, ink, 0.55));
     return mended;
+}
+
+void Style::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    if (palette.color(QPalette::Window) == kNobodysGround)
+        palette = calmPalette();
+    else
+        palette = mendedRoles(palette).resolve(palette);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -198,6 +199,14 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_IndicatorRadioButton:
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         drawRing(*painter, option->rect, strongLineColour(option->palette));
+        return;
+    case PE_Frame:
+    case PE_FrameMenu:
+        drawFrame(*option, *painter);
+        return;
+    case PE_FrameGroupBox:
+        drawBox(*painter, option->rect.adjusted(0, groupTitleHeight(*option), 0, 0), Qt::NoBrush,
+                lineColour(option->palette), 1);
         return;
     case PE_FrameFocusRect:
         if (qobject_cast<const QPushButton*>(widget))
@@ -261,6 +270,9 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     switch (metric) {
     case PM_MessageBoxIconSize:
         return 48;
+    case PM_FocusFrameHMargin: // what stands beside the text of a cell; neighbours need not touch
+    case PM_HeaderMargin:
+        return look::kTight + 1;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
@@ -283,12 +295,8 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const
     case SP_MessageBoxInformation:
     case SP_MessageBoxWarning:
     case SP_MessageBoxCritical:
-    case SP_MessageBoxQuestion: {
-        QIcon signs;
-        for (const int size : {16, 32, 48, 72, 96, 144})
-            signs.addPixmap(signPixmap(icon, size));
-        return signs;
-    }
+    case SP_MessageBoxQuestion:
+        return messageSign(icon);
     default:
         return QProxyStyle::standardIcon(icon, option, widget);
     }

@@ -20,6 +20,10 @@ public:
     /// @returns a palette in which just those roles are set that cannot be seen on the ground of this one
     static QPalette mendedRoles(const QPalette& platform);
 
+    /// Called for the desktop's palette, at the start and after every change of it.
+    void polish(QPalette& palette) override;
+    using QProxyStyle::polish;
+
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,

@@ -2,6 +2,7 @@
 #include "ui/qt/views/email_view.h"
 
 #include "ui/qt/look.h"
+#include "ui/qt/widgets/empty_note.h"
 
 #include <QGridLayout>
 
@@ -45,6 +46,7 @@ QLayout* EmailView::players(frmPoolEMail& mail)
 
     QListView* list = add(mail.lstPlayerNames);
     setSmallest(*list, kPlayerCharacters);
+    new EmptyNote{tr("No players to choose from."), *list};
 
     QVBoxLayout* column = look::column();
     column->addWidget(add(mail.lblEntry));
@@ -62,6 +64,7 @@ QLayout* EmailView::recipients(frmPoolEMail& mail)
 
     QListView* list = add(mail.lstTo);
     setSmallest(*list, kAddressCharacters);
+    new EmptyNote{tr("Nobody yet: press Enter on a player, or type an address."), *list};
 
     QVBoxLayout* column = look::column();
     column->addWidget(add(mail.lblTo));

@@ -2,6 +2,7 @@
 #include "ui/qt/views/player_names_view.h"
 
 #include "ui/qt/look.h"
+#include "ui/qt/widgets/empty_note.h"
 
 #include <QGridLayout>
 #include <QStyle>
@@ -86,6 +87,7 @@ QLayout* PlayerNamesView::list(frmPoolNames& names)
     QVBoxLayout* column = look::column(look::kTight);
     QListView* players = add(names.lstNames);
     players->setAlternatingRowColors(true);
+    new EmptyNote{tr("No players yet. The list opens by itself whenever a new selection has been saved."), *players};
     column->addWidget(columnHeading(*players));
     column->addWidget(players, 1);
     return column;

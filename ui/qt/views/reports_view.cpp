@@ -3,6 +3,7 @@
 
 #include "ui/qt/look.h"
 #include "ui/qt/text.h"
+#include "ui/qt/widgets/empty_note.h"
 
 namespace tallyhoop::qt {
 
@@ -109,13 +110,14 @@ QLayout* ReportsView::printouts(frmPoolReports& reports)
     commands->addWidget(add(reports.cmdSaveBoardPdf));
     commands->addStretch(1);
 
-    auto* const left = look::column();
+    auto* const left = look::column(look::kTight);
     for (QRadioButton* const printout : addOptions(reports.optSelected))
         left->addWidget(printout);
     left->addStretch(1);
     left->addLayout(commands);
 
     QListView* const files = add(reports.filList);
+    new EmptyNote{tr("No selections saved yet."), *files};
     const QFontMetrics metrics = files->fontMetrics();
     files->setMinimumSize(metrics.averageCharWidth() * kFileCharacters, metrics.lineSpacing() * kFileRows);
 

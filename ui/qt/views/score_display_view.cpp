@@ -1,6 +1,7 @@
 #include "ui/qt/views/score_display_view.h"
 
 #include "ui/qt/look.h"
+#include "ui/qt/widgets/empty_note.h"
 
 namespace tallyhoop::qt {
 
@@ -22,7 +23,9 @@ ScoreDisplayView::ScoreDisplayView(frmPoolMisc& scores, Desk& desk) : Page{score
 
     auto* const whole = look::column();
     whole->addWidget(add(scores.lblInformation));
-    whole->addWidget(add(scores.msgScoreDisplay), 1);
+    QTableView* const table = add(scores.msgScoreDisplay);
+    new EmptyNote{tr("No scores yet: press the long button below. Each saved selection gets a row."), *table};
+    whole->addWidget(table, 1);
     whole->addLayout(commands);
     whole->addWidget(add(scores.filList)); // hidden
     setContent(whole);

@@ -2,6 +2,7 @@
 #include "ui/qt/views/setup_view.h"
 
 #include "ui/qt/look.h"
+#include "ui/qt/widgets/empty_note.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -152,6 +153,7 @@ QWidget* SetupView::teamNames()
     auto* column = look::column(look::kTight);
     QListView* list = add(m_setup.lstTeamNames);
     list->setMinimumWidth(kListWidth);
+    new EmptyNote{tr("There is no list of team names."), *list};
     column->addWidget(list, 1);
     QLabel* explanation = add(m_setup.lblChangeNames);
     explanation->setFont(look::smallFont());
