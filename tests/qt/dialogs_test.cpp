@@ -138,6 +138,7 @@ TEST(QtDialogs, AnInputBoxGivesWhatWasTypedOrNothing)
         const auto* prompt = dialog.findChild<QLabel*>();
         EXPECT_EQ(prompt->text(), QStringLiteral("New name for A&M <b>:"));
         EXPECT_EQ(prompt->textFormat(), Qt::PlainText);
+        EXPECT_EQ(prompt->buddy(), nullptr) << "the ampersand would be a mnemonic";
         EXPECT_EQ(dialog.textValue(), QStringLiteral("A&M"));
         auto* edit = dialog.findChild<QLineEdit*>();
         edit->selectAll();

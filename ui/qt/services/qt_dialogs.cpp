@@ -9,6 +9,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QShortcut>
@@ -111,14 +112,18 @@ std::string QtDialogs::ask(const ui::Question& asked)
     const Question question{m_desk};
     QInputDialog dialog{m_desk.windowForDialogs()};
     dialog.setWindowTitle(captionOf(asked.caption));
-    dialog.setLabelText(toLines(asked.prompt));
     dialog.setTextValue(toQString(asked.proposal));
+    dialog.setLabelText({});
+    static_cast<void>(dialog.sizeHint()); // lays it out: until then it would make the label a mnemonic once more
     const auto labels = dialog.findChildren<QLabel*>();
     for (QLabel* label : labels) {
         // A prompt may quote a name: it is neither markup nor a mnemonic.
         label->setTextFormat(Qt::PlainText);
         label->setBuddy(nullptr);
     }
+    dialog.setLabelText(toLines(asked.prompt));
+    if (auto* line = dialog.findChild<QLineEdit*>())
+        line->setAccessibleName(toLines(asked.prompt));
     return dialog.exec() == QDialog::Accepted ? fromQString(dialog.textValue()) : std::string{};
 }
 
