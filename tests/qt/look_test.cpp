@@ -38,7 +38,7 @@ TEST(Look, TextCanBeReadOnEveryGroundOfTheCalmPalette)
 
 TEST(Look, WhatADarkDesktopDoesNotNameIsMadeVisible)
 {
-    QPalette dark{QColor{49, 54, 59}};
+    QPalette dark{QColor{49, 54, 59}}; // its base is dark too
     dark.setColor(QPalette::WindowText, QColor{252, 252, 252});
     dark.setColor(QPalette::PlaceholderText, QColor{0, 0, 0, 128});
     dark.setColor(QPalette::Mid, QColor{40, 44, 48});
@@ -47,7 +47,8 @@ TEST(Look, WhatADarkDesktopDoesNotNameIsMadeVisible)
     const QColor ground = dark.color(QPalette::Window);
     EXPECT_GE(look::contrast(mended.color(QPalette::PlaceholderText), ground), 4.5);
     EXPECT_GE(look::contrast(mended.color(QPalette::Mid), ground), 1.5);
-    EXPECT_GE(look::contrast(mended.color(QPalette::Disabled, QPalette::Text), ground), 2);
+    EXPECT_GE(look::contrast(mended.color(QPalette::Disabled, QPalette::Text), ground), 3);
+    EXPECT_GE(look::contrast(mended.color(QPalette::Link), dark.color(QPalette::Base)), 4.5) << "Qt's is deep blue";
     EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::WindowText)) << "what is seen stays the platform's";
 }
 
@@ -55,6 +56,7 @@ TEST(Look, APaletteThatIsSeenNeedsNoMending)
 {
     const QPalette mended = Style::mendedRoles(Style::calmPalette());
     EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::PlaceholderText));
+    EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::Link));
     EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::Mid));
     EXPECT_FALSE(mended.isBrushSet(QPalette::Disabled, QPalette::Text));
 }

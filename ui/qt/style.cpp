@@ -22,6 +22,8 @@ constexpr int kTextInset = 3; ///< how far a box's text stands from where Qt put
 
 // What Qt makes up where no desktop tells its colours.
 constexpr QColor kNobodysGround{0xef, 0xef, 0xef};
+constexpr QColor kLinkByDay{0x0b, 0x57, 0xa4};
+constexpr QColor kLinkByNight{0x7a, 0xb8, 0xf5};
 
 /// A colour between two: 0 is the first, 1 the second.
 QColor between(const QColor& first, const QColor& second, double share)
@@ -159,6 +161,8 @@ QPalette Style::mendedRoles(const QPalette& platform)
     QPalette mended;
     if (seen(platform.color(QPalette::PlaceholderText)) < 4.5)
         mended.setColor(QPalette::PlaceholderText, between(ground, ink, 0.7));
+    if (look::contrast(platform.color(QPalette::Link), platform.color(QPalette::Base)) < 4.5)
+        mended.setColor(QPalette::Link, ground.lightness() < 128 ? kLinkByNight : kLinkByDay);
     if (seen(platform.color(QPalette::Mid)) < 1.5)
         mended.setColor(QPalette::Mid, between(ground, ink, 0.35));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
