@@ -21,11 +21,20 @@ constexpr int kBlockRole = Qt::UserRole; ///< where a contents entry's heading s
 constexpr int kDeepestHeading = 3;
 const QString kSource = QStringLiteral("help.html");
 
+/// A button of the tool bar with its mnemonic: Qt shows one only in a text that is meant for buttons.
+QAction* addButton(QToolBar& bar, const QString& caption)
+{
+    QAction* action = bar.addAction(caption);
+    action->setIconText(caption);
+    return action;
+}
+
 } // namespace
 
 HelpText::HelpText(QWidget* parent) : QTextBrowser{parent}
 {
     setObjectName(QStringLiteral("helpText"));
+    setAccessibleName(QStringLiteral("Help"));
     setOpenExternalLinks(true);
     document()->setDocumentMargin(look::kSection);
 }
@@ -89,11 +98,13 @@ void HelpWindow::buildToolBar()
     auto* bar = addToolBar(QStringLiteral("Help"));
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-    QAction* back = bar->addAction(QStringLiteral("Back"), m_text, &QTextBrowser::backward);
+    QAction* back = addButton(*bar, QStringLiteral("&Back"));
+    connect(back, &QAction::triggered, m_text, &QTextBrowser::backward);
     back->setShortcut(QKeySequence::Back);
     back->setEnabled(false);
     connect(m_text, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
-    QAction* forward = bar->addAction(QStringLiteral("Forward"), m_text, &QTextBrowser::forward);
+    QAction* forward = addButton(*bar, QStringLiteral("&Forward"));
+    connect(forward, &QAction::triggered, m_text, &QTextBrowser::forward);
     forward->setShortcut(QKeySequence::Forward);
     forward->setEnabled(false);
     connect(m_text, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
@@ -111,9 +122,11 @@ void HelpWindow::buildToolBar()
     m_matchCount->setAlignment(Qt::AlignCenter);
     bar->addWidget(m_search);
     bar->addWidget(m_matchCount);
-    m_previous = bar->addAction(QStringLiteral("Previous"), this, [this] { step(-1); });
+    m_previous = addButton(*bar, QStringLiteral("&Previous"));
+    connect(m_previous, &QAction::triggered, this, [this] { step(-1); });
     m_previous->setShortcut(QKeySequence::FindPrevious);
-    m_next = bar->addAction(QStringLiteral("Next"), this, [this] { step(1); });
+    m_next = addButton(*bar, QStringLiteral("&Next"));
+    connect(m_next, &QAction::triggered, this, [this] { step(1); });
     m_next->setShortcut(QKeySequence::FindNext);
     connect(m_search, &QLineEdit::textChanged, this, &HelpWindow::search);
     connect(m_search, &QLineEdit::returnPressed, this, [this] { step(1); });

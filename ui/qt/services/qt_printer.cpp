@@ -7,9 +7,11 @@
 #include "ui/qt/text.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
@@ -137,6 +139,11 @@ void QtPrinter::showPreview(const Printout& printout)
     for (QAction* action : actions)
         if (action->text() == QLatin1String{"Print"}) // it would print past our checks
             action->setVisible(false);
+    // Qt leaves its page number and its zoom without a name.
+    for (QLineEdit* number : dialog.findChildren<QLineEdit*>())
+        number->setAccessibleName(QStringLiteral("Page"));
+    for (QComboBox* zoom : dialog.findChildren<QComboBox*>())
+        zoom->setAccessibleName(QStringLiteral("Zoom"));
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
                      [&printout](QPrinter* device) { static_cast<void>(paintPages(*device, printout)); });
     const QSize room = (parent ? parent->screen() : dialog.screen())->availableSize();
