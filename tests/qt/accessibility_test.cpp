@@ -4,12 +4,10 @@
 #include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
-#include "qt/screen_walk.h"
+#include "qt/accessibility.h"
 #include "scoring/frmPoolMisc.h"
-#include "ui/qt/look.h"
 #include "ui/qt/main_frame.h"
 #include "ui/qt/screen_host.h"
-#include "ui/qt/style.h"
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
@@ -21,39 +19,18 @@
 namespace tallyhoop::qt {
 namespace {
 
-/// As desktops have it at night.
-QPalette darkPalette()
-{
-    QPalette palette{QColor{0x31, 0x36, 0x3b}, QColor{0x2a, 0x2e, 0x32}};
-    palette.setColor(QPalette::Base, QColor{0x1b, 0x1e, 0x20});
-    palette.setColor(QPalette::AlternateBase, QColor{0x23, 0x26, 0x29});
-    for (const QPalette::ColorRole role :
-         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::HighlightedText})
-        palette.setColor(role, QColor{0xfc, 0xfc, 0xfc});
-    palette.setColor(QPalette::PlaceholderText, QColor{0xa1, 0xa9, 0xb1});
-    palette.setColor(QPalette::Highlight, QColor{0x1d, 0x6f, 0xa5});
-    palette.setColor(QPalette::ToolTipBase, QColor{0x31, 0x36, 0x3b});
-    return palette;
-}
-
-enum class Light { Day, Night };
-
 /// The program on a small display with the sample pool.
 class Accessibility : public testing::TestWithParam<Light>
 {
 protected:
     Accessibility()
     {
-        QApplication::setStyle(new Style);
-        QApplication::setPalette(GetParam() == Light::Day ? Style::calmPalette() : darkPalette());
         EXPECT_TRUE(demo::installSamplePool(folder));
         registerScreens(host, folder, platform.services, state);
         frame.resize(1366, 768 - kDesktop);
         frame.show();
         host.load(ScreenKind::Board);
     }
-
-    ~Accessibility() override { QApplication::setPalette(m_before); }
 
     /// Fails for whatever is wrong with this screen as it is now.
     void examine(ScreenKind kind)
@@ -65,12 +42,7 @@ protected:
         ASSERT_TRUE(page->isVisible());
         EXPECT_LE(page->window()->width(), 1366);
         EXPECT_LE(page->window()->height(), 768 - kDesktop);
-        const ScreenWalk walk{*page};
-        EXPECT_EQ(walk.namelessControls().join('\n').toStdString(), "");
-        EXPECT_EQ(walk.wrongRoles().join('\n').toStdString(), "");
-        EXPECT_EQ(walk.mnemonicTroubles().join('\n').toStdString(), "");
-        EXPECT_EQ(walk.clippedTexts().join('\n').toStdString(), "");
-        EXPECT_EQ(walk.paleTexts().join('\n').toStdString(), "");
+        EXPECT_EQ(troublesOf(*page), "");
     }
 
     /// Loads a modal screen, examines it and leaves it.
@@ -90,7 +62,7 @@ protected:
 
     static constexpr int kDesktop = 60; ///< a title bar and a panel
 
-    const QPalette m_before = QApplication::palette();
+    Lit lit{GetParam()};
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     test::FakePlatform platform;
@@ -164,6 +136,8 @@ TEST_P(Accessibility, OfAPlaceThatAnAssistiveToolPresses)
     QAccessibleInterface* const seen = QAccessible::queryAccessibleInterface(place);
     ASSERT_NE(seen, nullptr);
     EXPECT_EQ(seen->text(QAccessible::Name).toStdString(), "West, first round, row 3, seed 8: Wisconsin");
+    EXPECT_EQ(seen->text(QAccessible::Description).toStdString(),
+              "Space sends the team to the next round. The arrow keys follow the bracket.");
     ASSERT_NE(seen->actionInterface(), nullptr);
     seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(QTest::qWaitFor([&] { return board().lblRegion[17].text == "Wisconsin"; }));
@@ -174,7 +148,7 @@ TEST_P(Accessibility, OfAPlaceThatAnAssistiveToolPresses)
 }
 
 INSTANTIATE_TEST_SUITE_P(ByDayAndNight, Accessibility, testing::Values(Light::Day, Light::Night),
-                         [](const auto& light) { return light.param == Light::Day ? "Light" : "Dark"; });
+                         [](const auto& light) { return lightName(light); });
 
 } // namespace
 } // namespace tallyhoop::qt

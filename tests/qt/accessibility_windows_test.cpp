@@ -1,0 +1,102 @@
+// tests/qt/accessibility_windows_test.cpp - the help, boxes and dialogs, for those who listen to them, use the
+// keyboard, or need them large.
+#include "qt/accessibility.h"
+#include "ui/qt/desk.h"
+#include "ui/qt/main_frame.h"
+#include "ui/qt/services/help_window.h"
+#include "ui/qt/services/qt_dialogs.h"
+#include "ui/qt/services/qt_help_viewer.h"
+#include "ui/qt/services/qt_printer.h"
+
+#include <QDialog>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+namespace tallyhoop::qt {
+namespace {
+
+class AccessibilityOfWindows : public testing::TestWithParam<Light>
+{
+protected:
+    AccessibilityOfWindows()
+    {
+        frame.resize(1366, 708);
+        frame.show();
+    }
+
+    /// Walks through the next dialog that opens, and leaves it.
+    void examineNext()
+    {
+        QTimer::singleShot(0, qApp, [this] {
+            auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            QApplication::processEvents();
+            EXPECT_LE(dialog->minimumSizeHint().width(), 1366); // what is larger takes what the display has
+            EXPECT_LE(dialog->minimumSizeHint().height(), 708);
+            EXPECT_EQ(troublesOf(*dialog), "");
+            examined = true;
+            dialog->reject();
+        });
+    }
+
+    ~AccessibilityOfWindows() override { EXPECT_TRUE(examined); }
+
+    Lit lit{GetParam()};
+    MainFrame frame;
+    Desk desk{&frame};
+    QtDialogs dialogs{desk};
+    QtPrinter printer{desk};
+    bool examined = false;
+};
+
+TEST_P(AccessibilityOfWindows, TheHelp)
+{
+    QtHelpViewer help{&frame};
+    ASSERT_TRUE(help.show(TALLYHOOP_HELP_FILE, "scores"));
+    auto* const window = frame.findChild<HelpWindow*>();
+    ASSERT_NE(window, nullptr);
+    QApplication::processEvents();
+    EXPECT_EQ(troublesOf(*window), "");
+    window->findChild<QLineEdit*>(QStringLiteral("helpSearch"))->setText(QStringLiteral("folder"));
+    QApplication::processEvents();
+    EXPECT_EQ(troublesOf(*window), "");
+    examined = true;
+}
+
+TEST_P(AccessibilityOfWindows, MessageBoxes)
+{
+    using ui::Buttons;
+    using ui::Icon;
+    const std::string text = "It looks like you are just starting to work \r\nwith Tallyhoop.\r\n \r\nDo you want to "
+                             "initiate DEMO Mode?";
+    for (const Buttons buttons : {Buttons::Ok, Buttons::OkCancel, Buttons::YesNo})
+        for (const Icon icon : {Icon::None, Icon::Information, Icon::Question, Icon::Exclamation, Icon::Critical}) {
+            examineNext();
+            dialogs.show({"** DEMO MODE OPTION **", text, buttons, icon});
+        }
+}
+
+TEST_P(AccessibilityOfWindows, TheInputBox)
+{
+    examineNext();
+    dialogs.ask({"CHANGE TEAM NAME", "Enter the new name for \"Texas A&M\":", "Texas A&M"});
+}
+
+TEST_P(AccessibilityOfWindows, TheAboutBox)
+{
+    examineNext();
+    dialogs.about();
+}
+
+TEST_P(AccessibilityOfWindows, ThePreview)
+{
+    examineNext();
+    printer.preview(ui::TextPrintout{"Report", {"one", "\f", "two"}, {"Courier New", 10}});
+}
+
+INSTANTIATE_TEST_SUITE_P(ByDayAndNight, AccessibilityOfWindows, testing::Values(Light::Day, Light::Night),
+                         [](const auto& light) { return lightName(light); });
+
+} // namespace
+} // namespace tallyhoop::qt
