@@ -12,9 +12,13 @@ ENDING_WITH_US = ["setpriv", "--pdeathsig", "TERM"]
 
 
 class Display:
-    """One Xvfb with openbox, on a display number that the server picks itself."""
+    """One Xvfb with openbox, on a display number that the server picks itself.
 
-    def __init__(self, width=1366, height=768):
+    Positions are told as a program takes them that makes everything larger by the scale.
+    """
+
+    def __init__(self, width=1366, height=768, scale=1):
+        self._scale = scale
         self._log = tempfile.TemporaryFile()
         told, tell = os.pipe()
         # Without -noreset the server starts afresh whenever its last client leaves, and takes newcomers down with it.
@@ -52,7 +56,7 @@ class Display:
         subprocess.run(["xdotool", *map(str, words)], env=self.environment(), check=True)
 
     def move(self, x, y):
-        self._do("mousemove", x, y)
+        self._do("mousemove", round(x * self._scale), round(y * self._scale))
 
     def press(self, button=1):
         self._do("mousedown", button)

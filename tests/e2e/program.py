@@ -20,6 +20,7 @@ CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
 
 SANITIZERS = "AddressSanitizer", "LeakSanitizer", "runtime error:"  # what a sanitized program complains with
+NOBODY = 65534  # the number of the user who owns nothing
 
 LOST_KEY = PATIENCE / 6  # seconds after which a key that nobody received is pressed again
 
@@ -51,13 +52,22 @@ class Program:
 
     _laid_out = None  # the folder as installed, made once and copied for each program
 
-    def __init__(self, folder=None, executable=None, platform="xcb", environment=None):
+    def __init__(self, folder=None, executable=None, platform="xcb", environment=None, home=None, as_user=(),
+                 size=(1366, 768), scale=1):
+        """home: where an installed program makes its folder itself; as_user: the words that start a command as somebody
+        else; scale: how many pixels of the display the program takes for one of its own."""
         self._scratch = pathlib.Path(tempfile.mkdtemp(prefix="tallyhoop-e2e-"))
+        self._home = pathlib.Path(home) if home else self._scratch / "home"
         self.folder = pathlib.Path(folder) if folder else self._scratch / "pool"
+        if home:
+            self.folder = self._home / "Tallyhoop"
+        self._as_user = as_user
         self._executable = executable
         self._platform = platform
-        self._more_environment = environment or {}
-        self._display = Display() if platform == "xcb" else None
+        self._more_environment = dict(environment or {})
+        if scale != 1:
+            self._more_environment["QT_SCALE_FACTOR"] = str(scale)
+        self._display = Display(*size, scale) if platform == "xcb" else None
         self._process = None
         self._inspector = None
         self._errors = self._scratch / "errors.txt"
@@ -111,23 +121,29 @@ class Program:
             self._inspector.close()  # of the run before
         socket_path = self._scratch / "inspector"
         socket_path.unlink(missing_ok=True)
-        home = self._scratch / "home"
         runtime = self._scratch / "runtime"
-        home.mkdir(exist_ok=True)
+        plugins = self._scratch / "plugins"
+        self._home.mkdir(exist_ok=True)
         runtime.mkdir(mode=0o700, exist_ok=True)
+        # A copy: not everybody may look into the folder of the build.
+        shutil.copytree(BUILD / "tests/e2e/plugins", plugins, dirs_exist_ok=True)
+        if self._as_user:
+            for folder in (self._scratch, self._home, runtime):
+                os.chown(folder, NOBODY, NOBODY)
         environment = {
-            "PATH": os.environ.get("PATH", "/usr/bin:/bin"), "LC_ALL": "C.UTF-8", "HOME": str(home),
+            "PATH": os.environ.get("PATH", "/usr/bin:/bin"), "LC_ALL": "C.UTF-8", "HOME": str(self._home),
             "XDG_RUNTIME_DIR": str(runtime), "QT_QPA_PLATFORM": self._platform,
-            "QT_PLUGIN_PATH": str(BUILD / "tests/e2e/plugins"), "QT_QPA_GENERIC_PLUGINS": "tallyhoopinspector",
+            "QT_PLUGIN_PATH": str(plugins), "QT_QPA_GENERIC_PLUGINS": "tallyhoopinspector",
             "CUPS_SERVER": str(self._scratch / "no-printers"),  # no test may print on a printer of this machine
             "TALLYHOOP_INSPECTOR_SOCKET": str(socket_path), **self._more_environment}
         if self._display:
             environment["DISPLAY"] = self._display.name
         executable = self._executable or self.folder / "tallyhoop"
-        self.folder.mkdir(parents=True, exist_ok=True)
+        if self.folder.parent != self._home:
+            self.folder.mkdir(parents=True, exist_ok=True)
         with open(self._errors, "ab") as errors:
-            self._process = subprocess.Popen([*ENDING_WITH_US, str(executable)], cwd=self._scratch, env=environment,
-                                             stdin=subprocess.DEVNULL, stdout=errors, stderr=errors)
+            self._process = subprocess.Popen([*self._as_user, *ENDING_WITH_US, str(executable)], cwd=self._scratch,
+                                             env=environment, stdin=subprocess.DEVNULL, stdout=errors, stderr=errors)
         self._inspector = Inspector(str(socket_path))
         self._inspector.connect(lambda: self._process.poll() is None, PATIENCE)
         self.wait(lambda: any(window["active"] for window in self.windows()), "a window with the focus")
