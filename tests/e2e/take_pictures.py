@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Takes pictures of every screen by day and by night: python3 -B take_pictures.py (the program has to be built).
 
-The files go to docs/pictures, the dark ones under names that end with -dark. Give a folder and a scale to look at other
-sizes: python3 -B take_pictures.py /somewhere 1.5
+The files go to docs/pictures, the dark ones under names that end with -dark. Give a folder, and perhaps a display and a
+scale, to look at other sizes: python3 -B take_pictures.py /somewhere 1920x1080 1.5
 """
 
 import pathlib
@@ -13,7 +13,8 @@ import tempfile
 from program import Program, centre
 
 PICTURES = pathlib.Path(sys.argv[1] if sys.argv[1:] else pathlib.Path(__file__).parents[2] / "docs/pictures")
-SCALE = sys.argv[2] if sys.argv[2:] else "1"
+SIZE = tuple(map(int, sys.argv[2].split("x"))) if sys.argv[2:] else (1366, 768)
+SCALE = float(sys.argv[3]) if sys.argv[3:] else 1
 PLAYER = "Demo Prophet_DP.THC"
 
 # What a desktop tells its programs at night; Qt reads it where the session says that the desktop is KDE's.
@@ -47,6 +48,11 @@ def take(program, name):
     print(path)
 
 
+def out_of_the_way(program):
+    """The pointer goes where it makes nothing look different."""
+    program.move((SIZE[0] / SCALE - 6, SIZE[1] / SCALE - 4))
+
+
 def shows(program, name, text):
     program.wait(lambda: program.text(name) == text, f"{name} showing {text!r}")
 
@@ -75,7 +81,7 @@ def take_all(program):
     program.answer("OK")
     shows(program, "lblTitle", "2000 NCAA Tournament")
     open_player(program)
-    program.move((1360, 764))
+    out_of_the_way(program)
     take(program, "board")
     program.menu("mnuFile")
     program.wait(lambda: program.action("mnuExit")["rect"], "the menu")
@@ -83,8 +89,9 @@ def take_all(program):
     program.key("Escape")
     program.menu("mnuOptions", "mnuScoreSelections")
     program.wait(lambda: program.text("txtPointScore"), "the score")
-    program.move((1360, 764))
+    out_of_the_way(program)
     take(program, "board-scored")
+    take_help(program)
     take_scores(program)
     take_reports(program)
     program.menu("mnuOptions", "mnuEditNames")
@@ -98,6 +105,18 @@ def take_all(program):
     program.wait(lambda: program.visible("cmdComplete"), "the seed positions")
     program.box()
     take(program, "seeds")
+
+
+def take_help(program):
+    program.key("F1")
+    program.wait(lambda: program.has("helpText") and program.widget("helpText")["focus"], "the help")
+    take(program, "help")
+    program.key("Escape")
+    program.wait(lambda: not program.has("helpText"), "the help going away")
+    program.menu("mnuHelp", "mnuHelpAbout")
+    program.box("About Tallyhoop")
+    take(program, "about")
+    program.answer("OK")
 
 
 def take_scores(program):
@@ -131,6 +150,12 @@ def take_reports(program):
     program.click("optDestination_1")
     program.wait(lambda: program.widget("optDestination_1")["checked"], "the destination")
     take(program, "reports")
+    program.click("cmdPreview")
+    program.wait(lambda: program.modal().get("class") == "QPrintPreviewDialog", "the preview")
+    program.box()
+    take(program, "preview")
+    program.key("Escape")
+    program.wait(lambda: not program.modal(), "the preview going away")
     program.click("cmdExit")
 
 
@@ -140,7 +165,7 @@ def main():
         (pathlib.Path(settings) / "kdeglobals").write_text(NIGHT)
         night = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": settings}
         for suffix, environment in (("", {}), ("-dark", night)):
-            with Program(environment={"QT_SCALE_FACTOR": SCALE, **environment}) as program:
+            with Program(environment=environment, size=SIZE, scale=SCALE) as program:
                 program.suffix = suffix
                 take_all(program)
 
