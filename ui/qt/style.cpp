@@ -68,6 +68,17 @@ void drawBox(QPainter& painter, const QRect& place, const QBrush& fill, const QC
     painter.restore();
 }
 
+/// Areas, not lines: at odd fractions of pixels lines at the edge get lost.
+void drawFrame(const QStyleOption& option, QPainter& painter)
+{
+    const QRect& place = option.rect;
+    const QColor line = lineColour(option.palette);
+    painter.fillRect(QRect{place.left(), place.top(), place.width(), 1}, line);
+    painter.fillRect(QRect{place.left(), place.bottom(), place.width(), 1}, line);
+    painter.fillRect(QRect{place.left(), place.top(), 1, place.height()}, line);
+    painter.fillRect(QRect{place.right(), place.top(), 1, place.height()}, line);
+}
+
 void drawButton(const QStyleOption& option, QPainter& painter)
 {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
@@ -190,6 +201,12 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_PanelLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
             drawLineEdit(*option, *painter, true);
+            return;
+        }
+        break;
+    case PE_Frame:
+        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
+            drawFrame(*option, *painter);
             return;
         }
         break;

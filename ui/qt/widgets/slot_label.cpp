@@ -77,18 +77,12 @@ QSize SlotLabel::sizeHint() const
 
 QRect SlotLabel::textPlace() const { return m_part == Part::Marker ? rect() : rect().adjusted(kInset, 0, -1, 0); }
 
-/// A marker continues its place: one box for the eye, its inner edges outside both widgets.
-QRect SlotLabel::outline() const
+/// A marker continues its place: one box for the eye, whose inner edges nobody draws.
+QRect SlotLabel::inside(int edge) const
 {
-    switch (m_part) {
-    case Part::Winner:
-        return rect().adjusted(0, 0, kInset, -1);
-    case Part::Marker:
-        return rect().adjusted(-kInset, 0, -1, -1);
-    case Part::Row:
-        break;
-    }
-    return rect().adjusted(0, 0, -1, -1);
+    const int left = m_part == Part::Marker ? 0 : edge;
+    const int right = m_part == Part::Winner ? 0 : edge;
+    return rect().adjusted(left, edge, -right, -edge);
 }
 
 bool SlotLabel::isElided() const { return fontMetrics().horizontalAdvance(text()) > textPlace().width(); }
@@ -96,19 +90,14 @@ bool SlotLabel::isElided() const { return fontMetrics().horizontalAdvance(text()
 void SlotLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter{this};
-    painter.fillRect(rect(), groundOf(m_colour));
-    switch (m_emphasis) {
-    case Emphasis::None:
-        painter.setPen(kOutline);
-        break;
-    case Emphasis::OnPath:
-        painter.setPen(QPen{kPathOutline, 2});
-        break;
-    case Emphasis::MayLand:
-        painter.setPen(QPen{kLandOutline, 2});
-        break;
-    }
-    painter.drawRect(outline());
+    QColor outline = kOutline;
+    if (m_emphasis == Emphasis::OnPath)
+        outline = kPathOutline;
+    else if (m_emphasis == Emphasis::MayLand)
+        outline = kLandOutline;
+    // Areas, not lines: at odd fractions of pixels lines at the edge get lost.
+    painter.fillRect(rect(), outline);
+    painter.fillRect(inside(m_emphasis == Emphasis::None ? 1 : 2), groundOf(m_colour));
     painter.setPen(m_colour);
     const QString cut = fontMetrics().elidedText(text(), Qt::ElideRight, textPlace().width());
     const Qt::Alignment alignment = m_part == Part::Marker ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft;

@@ -49,7 +49,7 @@ protected:
 
 private:
     QRect textPlace() const;
-    QRect outline() const;
+    QRect inside(int edge) const;
 
     Part m_part;
     QColor m_colour;
