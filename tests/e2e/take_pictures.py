@@ -50,7 +50,8 @@ def take(program, name):
 
 def out_of_the_way(program):
     """The pointer goes where it makes nothing look different."""
-    program.move((SIZE[0] / SCALE - 6, SIZE[1] / SCALE - 4))
+    [frame] = [window["rect"] for window in program.windows() if window["name"] == "frmPoolMIDI"]
+    program.move((frame[0] + frame[2] - 6, frame[1] + frame[3] - 4))
 
 
 def shows(program, name, text):
@@ -154,8 +155,10 @@ def take_reports(program):
     program.wait(lambda: program.modal().get("class") == "QPrintPreviewDialog", "the preview")
     program.box()
     take(program, "preview")
-    program.key("Escape")
-    program.wait(lambda: not program.modal(), "the preview going away")
+    for _ in range(7):  # one for each report
+        title = program.box()["title"]
+        program.key("Escape")
+        program.wait(lambda: program.modal().get("title") != title, "the preview going away")
     program.click("cmdExit")
 
 
