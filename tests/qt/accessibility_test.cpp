@@ -137,7 +137,7 @@ TEST_P(Accessibility, OfAPlaceThatAnAssistiveToolPresses)
     ASSERT_NE(seen, nullptr);
     EXPECT_EQ(seen->text(QAccessible::Name).toStdString(), "West, first round, row 3, seed 8: Wisconsin");
     EXPECT_EQ(seen->text(QAccessible::Description).toStdString(),
-              "Space sends the team to the next round. The arrow keys follow the bracket.");
+              "Click or press Space to send Wisconsin to the next round, or drag it as far as it goes.");
     ASSERT_NE(seen->actionInterface(), nullptr);
     seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(QTest::qWaitFor([&] { return board().lblRegion[17].text == "Wisconsin"; }));

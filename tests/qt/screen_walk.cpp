@@ -85,6 +85,14 @@ void reach(QAccessibleInterface* from, QSet<const QObject*>& reached)
         reach(from->child(child), reached);
 }
 
+/// A note that stands in a list instead of its rows: a screen reader comes to the list only, which has to say it.
+bool saidByItsList(const QWidget& widget)
+{
+    const QWidget* list = widget.parentWidget() ? widget.parentWidget()->parentWidget() : nullptr;
+    return list && list->inherits("QAbstractItemView") &&
+           spoken(*list, QAccessible::Description).startsWith(paintedText(widget));
+}
+
 /// What a control does beyond what its kind lets people expect.
 bool hasWaysOfItsOwn(const ui::Control& control, const QWidget& widget)
 {
@@ -166,7 +174,7 @@ QStringList ScreenWalk::namelessControls() const
             return;
         if (spoken(widget, QAccessible::Name).isEmpty())
             nameless << walkedName(widget);
-        else if (!reached.contains(&widget))
+        else if (!reached.contains(&widget) && !saidByItsList(widget))
             nameless << walkedName(widget) + QStringLiteral(" cannot be come to");
     });
     return nameless;
@@ -209,7 +217,8 @@ QStringList ScreenWalk::undescribedControls() const
         return undescribed;
     for (const ui::Control* control : m_page->screen().controls()) {
         const QWidget* widget = m_page->widgetOf(*control);
-        if (widget && widget->isVisible() && hasWaysOfItsOwn(*control, *widget) && control->spokenHint.empty())
+        if (widget && widget->isVisible() && hasWaysOfItsOwn(*control, *widget) && control->spokenHint.empty() &&
+            control->explanation.empty())
             undescribed << walkedName(*widget);
     }
     return undescribed;

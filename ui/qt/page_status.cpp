@@ -44,7 +44,9 @@ void Page::followExplanation(ui::Control& control, QWidget& widget)
             makeStatusLine();
     });
     onPush([&control, &widget, spoken = std::string{}]() mutable {
-        const std::string& hint = control.spokenHint.empty() ? control.explanation : control.spokenHint;
+        // Left to itself Qt reads the markup of a tool tip aloud.
+        const std::string& tip = control.explanation.empty() ? control.toolTip : control.explanation;
+        const std::string& hint = control.spokenHint.empty() ? tip : control.spokenHint;
         if (hint == spoken)
             return;
         spoken = hint;

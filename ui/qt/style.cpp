@@ -68,17 +68,6 @@ void drawBox(QPainter& painter, const QRect& place, const QBrush& fill, const QC
     painter.restore();
 }
 
-/// Areas, not lines: at odd fractions of pixels lines at the edge get lost.
-void drawFrame(const QStyleOption& option, QPainter& painter)
-{
-    const QRect& place = option.rect;
-    const QColor line = lineColour(option.palette);
-    painter.fillRect(QRect{place.left(), place.top(), place.width(), 1}, line);
-    painter.fillRect(QRect{place.left(), place.bottom(), place.width(), 1}, line);
-    painter.fillRect(QRect{place.left(), place.top(), 1, place.height()}, line);
-    painter.fillRect(QRect{place.right(), place.top(), 1, place.height()}, line);
-}
-
 void drawButton(const QStyleOption& option, QPainter& painter)
 {
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
@@ -116,11 +105,13 @@ int groupTitleHeight(const QStyleOption& option)
 void drawFrame(const QStyleOption& option, QPainter& painter)
 {
     const bool focused = option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
-    painter.save();
-    painter.setBrush(Qt::NoBrush);
-    painter.setPen(focused ? option.palette.color(QPalette::Highlight) : lineColour(option.palette));
-    painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
-    painter.restore();
+    const QColor line = focused ? option.palette.color(QPalette::Highlight) : lineColour(option.palette);
+    const QRect& place = option.rect;
+    // Areas, not lines: at odd fractions of pixels lines at the edge get lost.
+    for (const QRect& edge :
+         {QRect{place.left(), place.top(), place.width(), 1}, QRect{place.left(), place.bottom(), place.width(), 1},
+          QRect{place.left(), place.top(), 1, place.height()}, QRect{place.right(), place.top(), 1, place.height()}})
+        painter.fillRect(edge, line);
 }
 
 } // namespace
@@ -201,12 +192,6 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_PanelLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
             drawLineEdit(*option, *painter, true);
-            return;
-        }
-        break;
-    case PE_Frame:
-        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
-            drawFrame(*option, *painter);
             return;
         }
         break;

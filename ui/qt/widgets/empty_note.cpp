@@ -33,7 +33,13 @@ bool EmptyNote::eventFilter(QObject* watched, QEvent* event)
 void EmptyNote::place()
 {
     setGeometry(m_view.viewport()->rect());
-    setVisible(m_view.model()->rowCount() == 0);
+    const bool empty = m_view.model()->rowCount() == 0;
+    setVisible(empty);
+    // A screen reader comes to the list only: the list says the note too, before what else is said of it.
+    QString description = m_view.accessibleDescription();
+    if (const QString said = text() + QLatin1Char{' '}; description.startsWith(said))
+        description.remove(0, said.size());
+    m_view.setAccessibleDescription(empty ? text() + QLatin1Char{' '} + description : description);
 }
 
 } // namespace tallyhoop::qt
