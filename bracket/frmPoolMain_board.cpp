@@ -88,7 +88,7 @@ void frmPoolMain::MarkScores()
             continue;
         const bool good = verdict == Verdict::Good;
         lblRegion[position].colour = good ? kGoodColour : kBadColour;
-        lblResult[game].text = good ? "=" : "X";
+        lblResult[game].text = std::string(1, good ? '=' : 'X'); // GCC 12 warns of an overlap in assigning literals
         lblResult[game].colour = lblRegion[position].colour;
     }
     describePositions();
