@@ -6,8 +6,8 @@ exec </dev/null
 . scripts/packages.sh
 . scripts/build.sh
 
-install_packages build screen test
-build_preset release build -DTALLYHOOP_TESTS=ON
+install_packages build screen test bench
+build_preset release build -DTALLYHOOP_TESTS=ON -DTALLYHOOP_BENCH=ON
 build_preset sanitizers build-sanitizers -DTALLYHOOP_TESTS=ON
 
 # One run over both builds, so that one summary tells it all.

@@ -10,10 +10,13 @@ if [ "${1:-}" = smoke ]; then
     smoke=(--rounds 1 --players 10)
     google=(--benchmark_min_time=0.001 --benchmark_filter='Score(Numbered|Picks)$')
 else
-    cmake --preset release -DTALLYHOOP_BENCH=ON
-    cmake --build build
+    . scripts/packages.sh
+    . scripts/build.sh
+    install_packages build screen test bench
+    build_preset release build -DTALLYHOOP_TESTS=ON -DTALLYHOOP_BENCH=ON -- tallyhoop demoset bench/all
+    TALLYHOOP_BUILD=build
 fi
-build="${TALLYHOOP_BUILD:-build}"
+build="$TALLYHOOP_BUILD"
 export TALLYHOOP_BUILD="$build"
 
 # Qt wants a folder of its own; without one it says so at every start.

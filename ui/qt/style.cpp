@@ -303,6 +303,8 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const
     case SP_MessageBoxCritical:
     case SP_MessageBoxQuestion:
         return messageSign(icon);
+    case SP_ToolBarHorizontalExtensionButton: // every menu bar has one ready; Qt's own would load a picture for it
+        return look::menuIcon("more");
     default:
         return QProxyStyle::standardIcon(icon, option, widget);
     }
