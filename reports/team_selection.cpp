@@ -19,8 +19,8 @@ constexpr std::size_t kPageWidth = 74;
 constexpr std::size_t kTeamColumn = 29;
 constexpr std::size_t kHeadingIndent = 27;
 
-/// Sorts hundreds of thousands of entries team by team: sorting them all at once would wait for the memory at nearly
-/// every comparison.
+/// Packs and sorts hundreds of thousands of picks team by team: entries that are compared with each other should lie
+/// close together, or sorting waits for the memory at every comparison.
 class PicksByTeam
 {
 public:
@@ -32,27 +32,37 @@ public:
                 m_mixed = m_mixed || player.lines[slot].find(',') != std::string::npos;
     }
 
-    void add(const std::string& team, std::string entry)
+    /// @param team, label are kept by address
+    void add(const std::string& team, const std::string& label, int category)
     {
-        m_entries[m_mixed ? std::string{} : team + ","].push_back(std::move(entry));
+        m_picks[m_mixed ? std::string{} : team + ","].push_back({&team, &label, category});
         ++m_count;
     }
 
     /// @returns all entries, ascending without regard to case, equal ones in order of arrival
-    std::vector<std::string> sorted()
+    std::vector<std::string> sortedEntries() const
     {
         std::vector<std::string> all;
         all.reserve(m_count);
-        for (auto& [team, entries] : m_entries) {
+        for (const auto& [team, picks] : m_picks) {
+            std::vector<std::string> entries;
+            entries.reserve(picks.size());
+            for (const Unpacked& pick : picks)
+                entries.push_back(pickEntry(*pick.team, *pick.label, pick.category));
             sortWorkRows(entries);
             std::ranges::move(entries, std::back_inserter(all));
-            entries = {};
         }
         return all;
     }
 
 private:
-    std::map<std::string, std::vector<std::string>, FoldedLess> m_entries; ///< by the text before the player's label
+    struct Unpacked {
+        const std::string* team;
+        const std::string* label;
+        int category;
+    };
+
+    std::map<std::string, std::vector<Unpacked>, FoldedLess> m_picks; ///< by the text before the player's label
     std::size_t m_count = 0;
     bool m_mixed = false;
 };
@@ -84,17 +94,19 @@ Result<Pick> parsePickEntry(std::string_view entry)
 
 std::vector<std::string> pickEntries(const ReadPool& pool)
 {
+    std::vector<std::string> labels;
+    labels.reserve(pool.players.size()); // the picks point to them
     PicksByTeam picks{pool};
     for (const PoolEntry& player : pool.players) {
-        const std::string label = player.lines[selection_line::kName] + "_" + player.lines[selection_line::kInitials];
+        labels.push_back(player.lines[selection_line::kName] + "_" + player.lines[selection_line::kInitials]);
         for (int slot = 1; slot <= kPositions; ++slot) {
             const int category = roundOf(positionOf(Slot{slot}));
             const std::string& team = player.lines[static_cast<std::size_t>(slot)];
             if (category > 0 && !team.empty())
-                picks.add(team, pickEntry(team, label, category));
+                picks.add(team, labels.back(), category);
         }
     }
-    return picks.sorted();
+    return picks.sortedEntries();
 }
 
 Result<Done> addTeamSelectionHead(ReportLines& lines, std::string_view title, std::string_view reportName)
