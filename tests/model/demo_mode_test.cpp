@@ -1,93 +1,13 @@
 // tests/model/demo_mode_test.cpp - entering and leaving demo mode, and what stays when that fails.
-#include "model/demo_mode.h"
-
-#include "fakes/fake_platform.h"
-#include "fakes/scratch_folder.h"
-#include "model/player_names_file.h"
-#include "model/settings_file.h"
+#include "model/demo_pool.h"
 
 #include <gtest/gtest.h>
 #include <thread>
 
-namespace tallyhoop {
+namespace tallyhoop::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::FakePlatform;
-using test::ScratchFolder;
-
-constexpr const char* kCaption = "STALLYHOOP DEMOSTRATION MODE"; // sic
-const ui::Message kContinueInDemo{kCaption, "Select the OK Key to Continue in Demonstration Mode", ui::Buttons::Ok,
-                                  ui::Icon::Information};
-const ui::Message kContinueNormally{kCaption, "Select the OK Key to Continue Normal Operation of Program",
-                                    ui::Buttons::Ok, ui::Icon::Information};
-
-constexpr const char* kBackup = "Backup 2001-03-05 101530"; // the fake clock's moment
-
-ui::Message whereBox(const char* first, const fs::path& backup)
-{
-    return {kCaption, std::string{first} + "\r\nThey have been moved to the folder:\r\n \r\n" + backup.string(),
-            ui::Buttons::Ok, ui::Icon::Information};
-}
-
-ui::Message ownPoolIsIn(const fs::path& backup)
-{
-    return whereBox("The files of the pool that was here are kept.", backup);
-}
-
-ui::Message ownChangesAreIn(const fs::path& backup)
-{
-    return whereBox("Files that you changed or added in DEMO Mode are kept.", backup);
-}
-
-/// @returns the names of a folder's files and subfolders, sorted
-std::vector<std::string> entriesOf(const fs::path& folder)
-{
-    std::vector<std::string> names;
-    for (const fs::directory_entry& entry : fs::directory_iterator{folder})
-        names.push_back(entry.path().filename().string());
-    std::sort(names.begin(), names.end());
-    return names;
-}
-
-/// A folder with the demo as an installer leaves it.
-struct InstalledDemo {
-    ScratchFolder scratch;
-    FakePlatform platform;
-
-    InstalledDemo()
-    {
-        std::vector<DemoFile> files{{"POOLSTART.THS", "sample field"},
-                                    {"TALLYHOOP.THS", "sample results"},
-                                    {"PLAYERNAMES.CSV", "sample players"}};
-        for (const char* name : kDemoSelectionFiles)
-            files.push_back({name, std::string{"picks of "} + name});
-        for (const DemoFile& file : files)
-            scratch.put(file.name, file.bytes);
-        scratch.put("TALLYHOOP.INI", demoSettings(files));
-    }
-};
-
-/// A folder with a pool of one's own: what demo mode replaces, and what it must not touch.
-struct Pool {
-    ScratchFolder scratch;
-    FakePlatform platform;
-
-    Pool()
-    {
-        for (const char* name : {"POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV", "NCAALIST.THS", "Own_O.THC"})
-            scratch.put(name, "own");
-    }
-    bool isUntouched() const
-    {
-        return scratch.has("POOLSTART.THS") && scratch.has("TALLYHOOP.THS") && scratch.has("PLAYERNAMES.CSV") &&
-               scratch.has("NCAALIST.THS") && scratch.has("Own_O.THC");
-    }
-    bool isCleared() const
-    {
-        return !scratch.has("POOLSTART.THS") && !scratch.has("TALLYHOOP.THS") && !scratch.has("PLAYERNAMES.CSV");
-    }
-};
 
 TEST(ClearDemoDataFiles, DeletesThePoolAndTheSampleSelectionsOnly)
 {
@@ -203,73 +123,6 @@ TEST(StartDemo, SaysThatTheInstallerFailedToStartAfterAll)
     EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
 }
 
-TEST(StartDemo, MovesAPoolOfOnesOwnIntoADatedSubfolder)
-{
-    Pool pool;
-    pool.scratch.put("Demo Halfway_DH.THC", "a real player of this name");
-    pool.scratch.put("TALLYHOOP.INI", "0\r\n");
-    pool.platform.programs.whenStarted = [&pool] {
-        EXPECT_EQ(entriesOf(pool.scratch.path()), (std::vector<std::string>{kBackup, "NCAALIST.THS", "Own_O.THC"}));
-        pool.scratch.put("TALLYHOOP.INI", "1\r\n");
-    };
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
-    EXPECT_EQ(entriesOf(pool.scratch.path() / kBackup),
-              (std::vector<std::string>{"Demo Halfway_DH.THC", "PLAYERNAMES.CSV", "POOLSTART.THS", "TALLYHOOP.INI",
-                                        "TALLYHOOP.THS"}));
-    EXPECT_EQ(pool.scratch.get(std::string{kBackup} + "/PLAYERNAMES.CSV"), "own");
-}
-
-TEST(StartDemo, SaysNothingMoreOnAFirstStart)
-{
-    const ScratchFolder scratch;
-    FakePlatform platform;
-    scratch.put("PLAYERNAMES.CSV", playerNamesFile({})); // what the program itself puts into an empty folder
-    platform.programs.whenStarted = [&scratch] {
-        EXPECT_FALSE(scratch.has("PLAYERNAMES.CSV"));
-        scratch.put("TALLYHOOP.INI", "1\r\n");
-    };
-    EXPECT_TRUE(startDemo(scratch.folder(), platform.services));
-    EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kContinueInDemo});
-    EXPECT_EQ(entriesOf(scratch.path()), std::vector<std::string>{"TALLYHOOP.INI"});
-}
-
-TEST(StartDemo, KeepsTwoPoolsOfTheSameSecondApart)
-{
-    Pool pool;
-    pool.platform.programs.whenStarted = [&pool] { pool.scratch.put("TALLYHOOP.INI", "1\r\n"); };
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
-    pool.scratch.put("POOLSTART.THS", "copied back, and changed");
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
-    EXPECT_EQ(pool.scratch.get(std::string{kBackup} + "/POOLSTART.THS"), "own");
-    EXPECT_EQ(pool.scratch.get(std::string{kBackup} + " (2)/POOLSTART.THS"), "copied back, and changed");
-    EXPECT_EQ(pool.platform.dialogs.shown.back(), ownPoolIsIn(pool.scratch.path() / (std::string{kBackup} + " (2)")));
-}
-
-TEST(StartDemo, ReplacesAnUntouchedDemoWithoutKeepingIt)
-{
-    InstalledDemo demo;
-    demo.platform.programs.whenStarted = [&demo] { demo.scratch.put("TALLYHOOP.INI", "1\r\n"); };
-    EXPECT_TRUE(startDemo(demo.scratch.folder(), demo.platform.services));
-    EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueInDemo});
-    EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{"TALLYHOOP.INI"});
-}
-
-TEST(StartDemo, RemovesNothingWhenThePoolCannotBeKept)
-{
-    Pool pool;
-    const fs::path file = pool.scratch.path() / "TALLYHOOP.THS";
-    fs::resize_file(file, (64u << 20) + 1); // more than the program reads, for root too
-    EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
-    EXPECT_TRUE(pool.isUntouched());
-    EXPECT_TRUE(pool.platform.programs.started.empty());
-    EXPECT_EQ(entriesOf(pool.scratch.path()).size(), 5u) << "and nothing half done is left";
-    ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
-    EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode cannot be started. Nothing was changed.\r\n"
-                                                   " \r\n" +
-                                                       file.string() + "\r\nFile too large");
-    EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
-}
-
 TEST(EnterDemo, AsksFirst)
 {
     Pool pool;
@@ -338,41 +191,5 @@ TEST(LeaveDemo, SaysWhichFileStayed)
     EXPECT_EQ(pool.platform.dialogs.shown[1], kContinueNormally);
 }
 
-TEST(LeaveDemo, DeletesAnUntouchedDemoWithoutAWordMore)
-{
-    InstalledDemo demo;
-    demo.scratch.put("Own_O.THC", "own");
-    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services));
-    EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{"Own_O.THC"});
-    EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
-}
-
-TEST(LeaveDemo, KeepsWhatThePersonChangedMeanwhile)
-{
-    InstalledDemo demo;
-    demo.scratch.put("TALLYHOOP.THS", "my results");
-    demo.scratch.put("Demo Prophet_DP.THC", "my picks");
-    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services));
-    EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{kBackup});
-    EXPECT_EQ(entriesOf(demo.scratch.path() / kBackup),
-              (std::vector<std::string>{"Demo Prophet_DP.THC", "TALLYHOOP.THS"}));
-    EXPECT_EQ(demo.scratch.get(std::string{kBackup} + "/TALLYHOOP.THS"), "my results");
-    EXPECT_EQ(demo.platform.dialogs.shown,
-              (std::vector<ui::Message>{kContinueNormally, ownChangesAreIn(demo.scratch.path() / kBackup)}));
-}
-
-TEST(LeaveDemo, RemovesNothingAndStaysOnWhenAChangedFileCannotBeKept)
-{
-    InstalledDemo demo;
-    fs::resize_file(demo.scratch.path() / "TALLYHOOP.THS", (64u << 20) + 1); // more than the program reads
-    EXPECT_FALSE(leaveDemo(demo.scratch.folder(), demo.platform.services));
-    EXPECT_EQ(entriesOf(demo.scratch.path()).size(), 8u);
-    EXPECT_TRUE(demoModeIsOn(demo.scratch.folder()));
-    ASSERT_EQ(demo.platform.dialogs.shown.size(), 1u);
-    EXPECT_EQ(demo.platform.dialogs.shown[0].text, "Demonstration mode cannot be left. Nothing was changed.\r\n \r\n" +
-                                                       (demo.scratch.path() / "TALLYHOOP.THS").string() +
-                                                       "\r\nFile too large");
-}
-
 } // namespace
-} // namespace tallyhoop
+} // namespace tallyhoop::test
