@@ -1,0 +1,105 @@
+#include "hands.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTest>
+#include <algorithm>
+#include <array>
+
+namespace saver {
+namespace {
+
+[[noreturn]] void giveUp(const QString& what) { qFatal("saver: %s", qPrintable(what)); }
+
+QWidget* visibleWidget(const QString& name)
+{
+    const QWidgetList widgets = QApplication::allWidgets();
+    const auto found = std::find_if(widgets.begin(), widgets.end(), [&](const QWidget* widget) {
+        return widget->objectName() == name && widget->isVisible();
+    });
+    return found == widgets.end() ? nullptr : *found;
+}
+
+template <class Kind>
+Kind& reachable(const char* name)
+{
+    auto* widget = qobject_cast<Kind*>(visibleWidget(QString::fromLatin1(name)));
+    if (widget == nullptr || !widget->isEnabled()) {
+        giveUp(QStringLiteral("nothing to use is called ") + QLatin1String(name));
+    }
+    return *widget;
+}
+
+void press(const QMessageBox& box)
+{
+    for (const auto wanted : {QMessageBox::Yes, QMessageBox::Ok}) {
+        if (QAbstractButton* button = box.button(wanted); button != nullptr) {
+            button->click();
+            return;
+        }
+    }
+    giveUp(QStringLiteral("nothing to press in ") + box.windowTitle());
+}
+
+} // namespace
+
+void choose(const char* entry)
+{
+    for (const QWidget* widget : QApplication::allWidgets()) {
+        for (QAction* action : widget->actions()) {
+            if (action->objectName() == QLatin1String(entry) && action->isEnabled() && action->isVisible()) {
+                action->trigger();
+                return;
+            }
+        }
+    }
+    giveUp(QStringLiteral("no menu entry can be chosen that is called ") + QLatin1String(entry));
+}
+
+void click(const char* button) { reachable<QAbstractButton>(button).click(); }
+
+void type(const char* box, const QString& text)
+{
+    auto& edit = reachable<QLineEdit>(box);
+    edit.setFocus();
+    edit.selectAll();
+    QTest::keyClicks(&edit, text);
+}
+
+bool isVisible(const char* name) { return visibleWidget(QString::fromLatin1(name)) != nullptr; }
+
+void answerFrontBox(const QString& text, const QString& file, const std::function<void(const QString&)>& tell)
+{
+    QWidget* front = QApplication::activeModalWidget();
+    if (front == nullptr || !front->isVisible()) {
+        return;
+    }
+    if (auto* choice = qobject_cast<QFileDialog*>(front); choice != nullptr) {
+        if (choice->acceptMode() == QFileDialog::AcceptOpen) {
+            choice->selectFile(file);
+        }
+        QMetaObject::invokeMethod(choice, "accept");
+        return;
+    }
+    if (auto* line = qobject_cast<QInputDialog*>(front); line != nullptr) {
+        line->setTextValue(text);
+        line->accept();
+        return;
+    }
+    if (auto* box = qobject_cast<QMessageBox*>(front); box != nullptr) {
+        tell(box->windowTitle());
+        press(*box);
+        return;
+    }
+    if (isVisible("cmdSend")) {
+        type("txtSubject", text);
+        click("cmdSend");
+    }
+}
+
+} // namespace saver

@@ -1,0 +1,23 @@
+// tests/kill/saver/hands.h - presses and typing inside the real program, by the names of its widgets and menu entries.
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace saver {
+
+/// Chooses a menu entry. A name that nothing enabled bears ends the program with a word: the test must not go on idly.
+void choose(const char* entry);
+void click(const char* button);
+
+/// Replaces what stands in an entry field.
+void type(const char* box, const QString& text);
+
+bool isVisible(const char* name);
+
+/// Answers whatever box is in front as a person who wants to save: Yes, OK, the proposed file. Tells its title.
+/// @param text what is typed into a box that asks for a line
+/// @param file the file that is chosen in a dialog that opens one
+void answerFrontBox(const QString& text, const QString& file, const std::function<void(const QString&)>& tell);
+
+} // namespace saver

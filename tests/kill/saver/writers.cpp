@@ -1,0 +1,108 @@
+#include "writers.h"
+
+#include "hands.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QSaveFile>
+#include <array>
+
+namespace saver {
+namespace {
+
+void nothing() {}
+
+void saveSetup(int round)
+{
+    type("TxtInfo_0", mark(round));
+    type("TxtInfo_4", mark(round));
+    choose("mnuSaveStartingField");
+}
+
+void saveBoard(int round)
+{
+    constexpr int kLeast = 100;
+    type("txtFinalPoints", QString::number(kLeast + round % kLeast));
+    choose("mnuSaveSelection");
+}
+
+void addPlayer(int round)
+{
+    choose("mnuEditNames");
+    type("txtName", mark(round));
+    click("cmdAdd");
+}
+
+void addTeam(int /*round*/)
+{
+    choose("mnuSetupOptions");
+    click("cmdAddName"); // the box that asks for it is answered with the round's mark
+    choose("mnuEnd");
+}
+
+/// Somebody spoils the list, and the program points out where.
+void spoilPlayerList(int round)
+{
+    QFile intact(QApplication::applicationDirPath() + QStringLiteral("/intact.csv"));
+    QSaveFile list(QApplication::applicationDirPath() + QStringLiteral("/PLAYERNAMES.CSV"));
+    if (!intact.open(QIODevice::ReadOnly) || !list.open(QIODevice::WriteOnly)) {
+        qFatal("saver: the player list cannot be spoilt");
+    }
+    list.write(intact.readAll() + mark(round).toLatin1() + "\r\n");
+    list.commit();
+    choose("mnuEditNames");
+    click("cmdCancel");
+}
+
+template <char Report, char Destination>
+void prepareReport()
+{
+    choose("mnuReports");
+    click((std::string("chkOptions_") + Report).c_str());
+    click((std::string("optDestination_") + Destination).c_str());
+}
+
+void makeReport(int round)
+{
+    type("txtReportTitle", mark(round));
+    click("cmdPrintSelections");
+}
+
+const std::array<Writer, 16> kWriters{{
+    {"setup", [] { choose("mnuSetupOptions"); }, saveSetup},
+    {"results", [] { choose("mnuGameResults"); }, saveBoard},
+    {"selection", [] { choose("mnuOpenSelection"); }, saveBoard},
+    {"players", nothing, addPlayer},
+    {"annotated", nothing, spoilPlayerList},
+    {"teams", nothing, addTeam},
+    {"report1", prepareReport<'0', '1'>, makeReport},
+    {"report2", prepareReport<'1', '1'>, makeReport},
+    {"report3", prepareReport<'2', '1'>, makeReport},
+    {"report4", prepareReport<'3', '1'>, makeReport},
+    {"report5", prepareReport<'4', '1'>, makeReport},
+    {"report6", prepareReport<'5', '1'>, makeReport},
+    {"report7", prepareReport<'6', '1'>, makeReport},
+    {"message", prepareReport<'1', '3'>, makeReport},
+    {"pdf", [] { choose("mnuReports"); }, [](int) { click("cmdSaveBoardPdf"); }},
+    {"backup", nothing, [](int) { choose("mnuDemoSet"); }},
+}};
+
+} // namespace
+
+const Writer* findWriter(const QString& name)
+{
+    for (const Writer& writer : kWriters) {
+        if (name == QLatin1String(writer.name)) {
+            return &writer;
+        }
+    }
+    return nullptr;
+}
+
+QString mark(int round)
+{
+    constexpr int kLengths = 7;
+    return QStringLiteral("MARK%1").arg(round, 6, 10, QLatin1Char('0')) + QString(round % kLengths, QLatin1Char('x'));
+}
+
+} // namespace saver

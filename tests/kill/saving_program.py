@@ -1,0 +1,151 @@
+"""The real program in a folder of its own, saving on order: see saver/saver.cpp."""
+
+import os
+import pathlib
+import re
+import shutil
+import signal
+import subprocess
+import tempfile
+import threading
+
+BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
+CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
+PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 120))  # seconds; only a failing test ever waits that long
+OPENED = "Demo Prophet_DP.THC"  # a player of the sample pool
+
+
+class Broken(AssertionError):
+    """Something was lost, or the program complained."""
+
+
+class Pool:
+    """A folder with the program and a pool of four players."""
+
+    def __init__(self, finalized):
+        self._scratch = tempfile.TemporaryDirectory(prefix="tallyhoop-kill-")
+        self.scratch = pathlib.Path(self._scratch.name)
+        self.folder = self.scratch / "pool"
+        subprocess.run([CMAKE, "--install", BUILD, "--prefix", self.folder, "--component", "program"],
+                       check=True, stdout=subprocess.DEVNULL)
+        subprocess.run([self.folder / "DEMOSET.EXE"], check=True)
+        (self.folder / "TALLYHOOP.INI").unlink()  # from now on it is somebody's own
+        if not finalized:
+            field = self.read("POOLSTART.THS")
+            self.write("POOLSTART.THS", re.sub(rb"1\r\n\*END\*\r\n$", b"0\r\n*END*\r\n", field))
+        self.opener()
+        self.pristine = {file.name: file.read_bytes() for file in self.folder.iterdir()}
+
+    def opener(self):
+        """A desktop without any mail program but one that opens message files."""
+        programs = self.scratch / "programs"
+        programs.mkdir()
+        gio = programs / "gio"
+        gio.write_text("#!/bin/sh\nexit 0\n")
+        gio.chmod(0o755)
+
+    def read(self, name):
+        return (self.folder / name).read_bytes()
+
+    def write(self, name, content):
+        (self.folder / name).write_bytes(content)
+
+    def names(self):
+        return {file.name for file in self.folder.iterdir()}
+
+    def reset(self):
+        """Every data file as it was in the beginning; the programs, and what a kill left of a save, are left alone."""
+        for entry in self.folder.iterdir():
+            if entry.is_dir():
+                shutil.rmtree(entry)
+            elif entry.name not in self.pristine and not entry.name.endswith(".tmp~"):
+                entry.unlink()
+        for name, content in self.pristine.items():
+            path = self.folder / name
+            if not path.exists() or (not os.access(path, os.X_OK) and path.read_bytes() != content):
+                path.write_bytes(content)
+
+    def close(self):
+        self._scratch.cleanup()
+
+
+class SavingProgram:
+    """The program, started without a display and obeying. Use as a context manager."""
+
+    def __init__(self, pool, writer, allowed_boxes=()):
+        self._pool = pool
+        self._writer = writer
+        self._allowed = set(allowed_boxes)
+        self._process = None
+
+    def __enter__(self):
+        orders, self._order_end = os.pipe()
+        told_end, tell = os.pipe()
+        environment = {
+            "PATH": str(self._pool.scratch / "programs"), "LC_ALL": "C.UTF-8", "HOME": str(self._pool.scratch),
+            "XDG_RUNTIME_DIR": str(self._pool.scratch), "QT_QPA_PLATFORM": "offscreen",
+            "QT_PLUGIN_PATH": str(BUILD / "tests/kill/plugins"), "QT_QPA_GENERIC_PLUGINS": "tallyhoopsaver",
+            "CUPS_SERVER": str(self._pool.scratch / "no-printers"),
+            "LD_PRELOAD": str(BUILD / "tests/kill/libtallyhoop_killer.so"),
+            "TALLYHOOP_SAVER": self._writer, "TALLYHOOP_SAVER_ORDERS": str(orders),
+            "TALLYHOOP_SAVER_TOLD": str(tell), "TALLYHOOP_SAVER_OPENS": str(self._pool.folder / OPENED)}
+        self._errors = tempfile.TemporaryFile()
+        self._process = subprocess.Popen([str(self._pool.folder / "tallyhoop")], env=environment,
+                                         pass_fds=[orders, tell], stdin=subprocess.DEVNULL, stdout=self._errors,
+                                         stderr=self._errors, cwd="/")
+        os.close(orders)
+        os.close(tell)
+        self._told = os.fdopen(told_end, encoding="utf-8")
+        boxes = self.wait_for("ready")[1]
+        if boxes - {"Tallyhoop"} - self._allowed:
+            raise Broken(f"{self._writer}: the program started with {boxes}")
+        return self
+
+    def __exit__(self, kind, error, trace):
+        os.close(self._order_end)
+        self._told.close()
+        self._process.kill()
+        self._process.wait()
+        self._errors.close()
+
+    def order(self, text):
+        os.write(self._order_end, (text + "\n").encode())
+
+    def wait_for(self, word):
+        """What follows the word, and the titles of the boxes that came before it."""
+        patience = threading.Timer(PATIENCE, self._process.kill)
+        patience.start()
+        try:
+            return self._wait_for(word)
+        finally:
+            patience.cancel()
+
+    def _wait_for(self, word):
+        boxes = set()
+        for line in self._told:
+            line = line.rstrip("\n")
+            if line.startswith("box "):
+                boxes.add(line[4:])
+                if boxes - self._allowed:
+                    raise Broken(f"{self._writer}: unexpected box {line[4:]!r}")
+            elif line.split(" ")[0] == word:
+                return line[len(word):].strip(), boxes
+        self._errors.seek(0)
+        raise Broken(f"{self._writer}: ended before {word!r}: {self._errors.read().decode(errors='replace')}")
+
+    def save(self, number):
+        self.order(f"once {number}")
+        self.wait_for("saved")
+
+    def kill(self):
+        """Kills the program itself; it is not to be used any more."""
+        self._process.send_signal(signal.SIGKILL)
+        self._process.wait()
+
+    def child(self, order):
+        """Lets the program fork a child that obeys; its process number."""
+        self.order(order)
+        return int(self.wait_for("child")[0])
+
+    def child_status(self):
+        return int(self.wait_for("gone")[0])

@@ -1,0 +1,78 @@
+"""What each writer writes, and when a file of its is whole."""
+
+import email
+import email.policy
+import re
+
+MARK = re.compile(rb" *MARK\d+x*")  # titles are centred: the blanks differ with the length
+POINTS = re.compile(rb"\r\n1\d\d(\r\n\*END\*\r\n)\Z")
+CHANGED = "** FILE HAS BEEN CHANGED **"
+DEMO = "STALLYHOOP DEMOSTRATION MODE"  # sic
+
+
+def without_marks(content):
+    return MARK.sub(b"MARK", content)
+
+
+def without_points(content):
+    return POINTS.sub(rb"\r\n1NN\1", content)
+
+
+def without_marked_lines(content):
+    if not content.endswith(b"\r\n"):
+        return content
+    return b"".join(line for line in content.splitlines(keepends=True) if not MARK.search(line))
+
+
+def pdf(content):
+    """A PDF is whole when it says at its end where its table is, and the table is there."""
+    end = re.search(rb"startxref\n(\d+) ?\n%%EOF\n\Z", content)
+    whole = content.startswith(b"%PDF-") and end and content[int(end[1]):].startswith(b"xref\n")
+    return b"whole" if whole else content
+
+
+def message(content):
+    """A message is whole when each of its parts is, the attached report included."""
+    parsed = email.message_from_bytes(content, policy=email.policy.default)
+    parts = list(parsed.walk())
+    attached = [part.get_content() for part in parts if part.get_filename()]
+    if any(part.defects for part in parts) or len(attached) != 1 or not content.endswith(b"--\r\n"):
+        return content
+    text = attached[0] if isinstance(attached[0], bytes) else attached[0].encode("cp1252")
+    return without_marks(text)
+
+
+class Writer:
+    def __init__(self, name, files, comparable, finalized=True, boxes=(), own_files=()):
+        self.name = name
+        self.files = files            # that it writes
+        self.comparable = comparable  # what all whole versions of a file have in common
+        self.finalized = finalized    # the pool that it needs
+        self.boxes = {CHANGED, *boxes}
+        self.own_files = own_files    # that must never be in neither of two places
+
+
+def report(number):
+    return Writer(f"report{number}", [f"RPTOPT{number}.TXT", "TEMPPRT.TXT"], without_marks)
+
+
+WRITERS = {writer.name: writer for writer in [
+    Writer("setup", ["POOLSTART.THS"], without_marks, finalized=False),
+    Writer("results", ["TALLYHOOP.THS"], without_points),
+    Writer("selection", ["Demo Prophet_DP.THC"], without_points),
+    Writer("players", ["PLAYERNAMES.CSV"], without_marked_lines),
+    Writer("annotated", ["PLAYERNAMES.TXT"], without_marks, boxes=["** ERROR Found in PLAYERNAMES.CSV file **"]),
+    Writer("teams", ["NCAALIST.THS"], without_marked_lines, finalized=False, boxes=["TEAM NAMES Changed / Added"]),
+    *[report(number) for number in range(1, 8)],
+    Writer("message", ["TALLYHOOP.EML", "RPTOPT2.TXT"], None),
+    Writer("pdf", ["Bracket.PDF"], pdf, boxes=["Tallyhoop"]),
+    Writer("installer", [], lambda content: content),
+    Writer("backup", [], None, finalized=False, boxes=["** DEMO MODE SET **", DEMO],
+           own_files=["POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV"]),
+]}
+
+
+def comparable(writer, name, content):
+    if writer.comparable:
+        return writer.comparable(content)
+    return message(content) if name.endswith(".EML") else without_marks(content)
