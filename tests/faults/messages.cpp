@@ -8,6 +8,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* kHowToRepair = "repair"; // the help topic
+
 ui::Message writingProblem(const fs::path& file, const char* advice)
 {
     return {"** ERROR IN WRITING FILE **", "There is a problem writing file: " + file.string() + "\r\n" + advice,
@@ -46,7 +48,7 @@ ui::Message spoiltPlayerList(const fs::path& folder)
                 "to correct the error(s) in this copy and then rename it to\r\n"
                 "PLAYERNAMES.CSV.\r\n\r\n"
                 "See the help file for additional instructions",
-            ui::Buttons::Ok, ui::Icon::Critical};
+            ui::Buttons::Ok, ui::Icon::Critical, kHowToRepair};
 }
 
 std::vector<ui::Message> reportTrouble(ReportId id, const fs::path& folder, const Fault& fault)
@@ -59,9 +61,11 @@ std::vector<ui::Message> reportTrouble(ReportId id, const fs::path& folder, cons
     case ReportId::TournamentStandings:
         return {noReport("\"Tournament Standings Report\" cannot be prepared.")};
     case ReportId::PlayerListing:
-        return {spoiltPlayerList(folder), reportFailure(reportKind(id), "Problems found with PLAYERNAMES.CSV file\r\n"
-                                                                        "This condition must be corrected, "
-                                                                        "See Help content")};
+        return {spoiltPlayerList(folder),
+                {reportKind(id).failureTitle,
+                 "Problems found with PLAYERNAMES.CSV file\r\n"
+                 "This condition must be corrected, See Help content",
+                 ui::Buttons::Ok, ui::Icon::Critical, kHowToRepair}};
     case ReportId::TeamSelectionSummary:
     case ReportId::TeamSelectionDetail:
         return {{"Tallyhoop - TeamSelSetup", noFiles + "Team Selection Reports cannot be prepared.", ui::Buttons::Ok,
