@@ -2,9 +2,11 @@
 #include "model/data_folder.h"
 
 #include "model/replace_file.h"
+#include "model/text.h"
 #include "model/windows1252.h"
 
 #include <algorithm>
+#include <array>
 #include <exception>
 #include <system_error>
 #include <utility>
@@ -50,6 +52,19 @@ std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name)
             found = entry.path();
     });
     return found;
+}
+
+/// @returns how long the part is that Windows takes for a device, whatever follows behind the first point; 0 = none
+std::size_t deviceLength(std::string_view name)
+{
+    const std::string stem = trimTrailingBlanks(name.substr(0, name.find('.')));
+    constexpr std::array<std::string_view, 4> kDevices = {"CON", "PRN", "AUX", "NUL"};
+    constexpr std::array<std::string_view, 2> kNumbered = {"COM", "LPT"};
+    const bool device = std::ranges::any_of(kDevices, [&](std::string_view one) { return equalFolded(stem, one); });
+    const bool numbered =
+        stem.size() == 4 && stem.back() >= '0' && stem.back() <= '9' &&
+        std::ranges::any_of(kNumbered, [&](std::string_view one) { return startsWithFolded(stem, one); });
+    return device || numbered ? stem.size() : 0;
 }
 
 Failure refusedName(std::string_view name)
@@ -183,6 +198,8 @@ std::string withoutUnsafeCharacters(std::string_view name)
     for (char& character : safe)
         if (static_cast<unsigned char>(character) < ' ' || kUnsafe.find(character) != std::string_view::npos)
             character = '_';
+    if (const std::size_t device = deviceLength(safe); device > 0)
+        safe.insert(device, 1, '_');
     return safe;
 }
 

@@ -75,7 +75,7 @@ bool isBareName(std::string_view name);
 /// @returns true when both are the same file, or would be: same folder, same name without regard to case
 bool isSameFile(const std::filesystem::path& left, const std::filesystem::path& right);
 
-/// Replaces what cannot stand in a file name by "_"; for names that are proposed to the person.
+/// Replaces what cannot stand in a proposed file name by "_", and keeps away from devices: "AUX.THC" gives "AUX_.THC".
 std::string withoutUnsafeCharacters(std::string_view name);
 
 } // namespace tallyhoop

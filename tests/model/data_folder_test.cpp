@@ -233,5 +233,15 @@ TEST(WithoutUnsafeCharacters, ReplacesWhatCannotStandInAFileName)
     EXPECT_EQ(withoutUnsafeCharacters("O'Brien & S\xF6hne Jr._JS"), "O'Brien & S\xF6hne Jr._JS");
 }
 
+TEST(WithoutUnsafeCharacters, KeepsAwayFromTheDevicesOfWindows)
+{
+    EXPECT_EQ(withoutUnsafeCharacters("CON"), "CON_");
+    EXPECT_EQ(withoutUnsafeCharacters("aux.THC_AB.THC"), "aux_.THC_AB.THC");
+    EXPECT_EQ(withoutUnsafeCharacters("Com1 .txt"), "Com1_ .txt");
+    EXPECT_EQ(withoutUnsafeCharacters("Conrad.THC"), "Conrad.THC");
+    EXPECT_EQ(withoutUnsafeCharacters("COM_1.THC"), "COM_1.THC");
+    EXPECT_EQ(withoutUnsafeCharacters("CON_JS.THC"), "CON_JS.THC");
+}
+
 } // namespace
 } // namespace tallyhoop
