@@ -73,7 +73,7 @@ class Display:
                                                      for word in words))
 
     def type(self, text):
-        self._do("type", "--clearmodifiers", "--delay", "4", text)
+        self._do("type", "--clearmodifiers", "--delay", "4", "--", text)
 
     def screenshot(self, path):
         subprocess.run(["import", "-silent", "-window", "root", path], env=self.environment(), check=True)

@@ -1,0 +1,104 @@
+// tests/weapons/folder_test.cpp - no name, wherever it comes from, leads out of the program's folder.
+#include "weapons/weapons.h"
+
+#include "fakes/scratch_folder.h"
+#include "model/selection_file.h"
+#include "model/windows1252.h"
+#include "players/selection_of_player.h"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+namespace tallyhoop::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// As Windows sees it: the name of a device, whatever follows behind a point.
+bool isDevice(const std::string& name)
+{
+    const std::string stem = name.substr(0, name.find_first_of(". "));
+    for (const char* device : {"CON", "PRN", "AUX", "NUL", "COM1", "LPT1"})
+        if (equalFolded(stem, device))
+            return true;
+    return false;
+}
+
+class WeaponsAsFileNames : public testing::TestWithParam<Weapon>
+{
+protected:
+    const std::string& weapon() const { return GetParam().text; }
+
+    /// The folder, and everything around it, as paths relative to what is around it.
+    std::vector<std::string> everything() const
+    {
+        std::vector<std::string> found;
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator{scratch.path()})
+            found.push_back(entry.path().lexically_relative(scratch.path()).native());
+        std::ranges::sort(found);
+        return found;
+    }
+
+    ScratchFolder scratch;
+    DataFolder folder{[this] {
+        fs::create_directory(scratch.path() / "pool");
+        scratch.put("outside", "not of the pool");
+        scratch.put("outside.THC", "not of the pool");
+        return scratch.path() / "pool";
+    }()};
+};
+
+TEST_P(WeaponsAsFileNames, StayInTheFolderOrAreRefused)
+{
+    for (const std::string& name :
+         {weapon(), weapon() + ".THC", "x/" + weapon(), weapon() + std::string{"\0.THC", 5}}) {
+        const std::optional<fs::path> path = folder.pathOf(name);
+        if (!path)
+            continue;
+        EXPECT_EQ(path->parent_path(), folder.folder());
+        std::error_code tooLong;
+        const fs::path canonical = fs::weakly_canonical(*path, tooLong);
+        EXPECT_TRUE(tooLong || canonical.parent_path() == fs::canonical(folder.folder())) << canonical;
+    }
+}
+
+TEST_P(WeaponsAsFileNames, AreWrittenInTheFolderOrNotAtAll)
+{
+    const std::vector<std::string> before = everything();
+    const bool written = static_cast<bool>(folder.write(weapon(), "x"));
+    std::vector<std::string> after = everything();
+    if (written) {
+        const std::string made = "pool/" + toUtf8(weapon());
+        EXPECT_EQ(std::erase(after, made), 1) << "not where it belongs";
+        EXPECT_TRUE(folder.remove(weapon()));
+        EXPECT_EQ(everything(), before);
+    }
+    EXPECT_EQ(after, before);
+}
+
+TEST_P(WeaponsAsFileNames, AreProposedAsBareNames)
+{
+    for (const std::string& name :
+         {proposedFileName(weapon(), weapon()), proposedFileName("", weapon()), proposedFileName(weapon(), "")}) {
+        EXPECT_TRUE(isBareName(name)) << name;
+        EXPECT_TRUE(endsWithFolded(name, ".THC")) << name;
+        EXPECT_FALSE(isDevice(name)) << name;
+        EXPECT_LE(toUtf8(name).size(), 255u);
+        EXPECT_EQ(name.find_first_of("\\/:*?\"<>|\x07\x08\x0C\x1B\t\x7F"), std::string::npos) << name;
+        EXPECT_TRUE(folder.write(name, "x")) << name;
+        EXPECT_EQ(folder.files(".THC").size(), 1u);
+        EXPECT_TRUE(folder.remove(name));
+    }
+}
+
+TEST_P(WeaponsAsFileNames, InTheRecordOfAPlayerStandForNoFileOutside)
+{
+    for (const std::string& recorded : {weapon(), weapon() + ".THC", "../" + weapon(), std::string{"../outside.THC"}})
+        EXPECT_EQ(selectionFileOf(folder, recorded), std::nullopt) << recorded;
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, WeaponsAsFileNames, testing::ValuesIn(weapons()),
+                         [](const auto& values) { return values.param.kind; });
+
+} // namespace
+} // namespace tallyhoop::test

@@ -1,0 +1,105 @@
+// tests/weapons/reports_test.cpp - reports and messages take every name as it is, and write nothing but their own
+// files.
+#include "weapons/weapons.h"
+
+#include "model/player_names_file.h"
+#include "reports/reports_screen.h"
+
+#include <algorithm>
+
+namespace tallyhoop::test {
+namespace {
+
+class WeaponsInReports : public ReportsScreen, public testing::WithParamInterface<Weapon>
+{
+protected:
+    const std::string& weapon() const { return GetParam().text; }
+
+    /// The four players, one of whom bears the name, sends a team of the name on, and picked it as champion.
+    void putPool()
+    {
+        for (PoolEntry player : fourPlayers().players) {
+            std::ranges::replace(player.lines, teamName(kWest, 5), weapon());
+            if (player.fileName == "Clark_D.THC") {
+                player.lines[selection_line::kName] = weapon();
+                player.lines[selection_line::kInitials] = weapon();
+                player.lines[selection_line::kChampion] = weapon();
+                player.fileName = proposedFileName(weapon(), weapon());
+            }
+            ASSERT_TRUE(dataFolder.write(player.fileName, selectionFile(player.lines)));
+        }
+        SelectionLines results = fourPlayersResults().lines;
+        std::ranges::replace(results, teamName(kWest, 5), weapon());
+        folder.put("TALLYHOOP.THS", selectionFile(results));
+        folder.put("PLAYERNAMES.CSV",
+                   playerNamesFile(std::vector<PlayerRecord>{{weapon(), weapon(), weapon(), weapon()}}));
+    }
+
+    std::vector<std::string> names() const
+    {
+        std::vector<std::string> found;
+        for (const std::filesystem::directory_entry& entry : std::filesystem::directory_iterator{folder.path()})
+            found.push_back(entry.path().filename().native());
+        std::ranges::sort(found);
+        return found;
+    }
+
+    /// Whether the layouts have room for it and none of their separators is in it.
+    bool isOrdinary() const
+    {
+        return weapon().size() <= 29 && weapon().find_first_of(",;") == std::string::npos && weapon() != "   ";
+    }
+};
+
+TEST_P(WeaponsInReports, StandThereLetterForLetter)
+{
+    putPool();
+    std::vector<std::string> expected = names();
+    tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam});
+    create(kFile);
+
+    // Nothing but report files has come, whatever the names say.
+    for (const std::string& name : names()) {
+        const bool report = name == "TEMPPRT.TXT" || (name.starts_with("RPTOPT") && name.ends_with(".TXT"));
+        EXPECT_TRUE(report || std::erase(expected, name) == 1) << name;
+    }
+    EXPECT_TRUE(expected.empty()) << "a file of the pool is gone";
+
+    if (!isOrdinary())
+        return;
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+    for (const char* report : {"RPTOPT1.TXT", "RPTOPT3.TXT", "RPTOPT4.TXT"})
+        EXPECT_NE(folder.get(report).find(weapon()), std::string::npos) << report;
+    EXPECT_NE(folder.get("RPTOPT5.TXT").find(weapon().substr(0, 14)), std::string::npos);
+}
+
+TEST_P(WeaponsInReports, AreTheTitleAndNothingElse)
+{
+    putFourPlayers(folder);
+    screen.txtReportTitle.text = weapon();
+    tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam});
+    create(kFile);
+    EXPECT_NE(folder.get("RPTOPT1.TXT").find(weapon()), std::string::npos);
+    EXPECT_NE(folder.get("RPTOPT2.TXT").find(weapon()), std::string::npos);
+}
+
+TEST_P(WeaponsInReports, ReachTheMailProgramAsTheyAre)
+{
+    putFourPlayers(folder);
+    tick({kListing});
+    sendFromTheDialog({.recipients = {weapon()}, .subject = weapon(), .message = weapon()});
+    create(kEmail);
+    ASSERT_EQ(platform.mail.sent.size(), 1u);
+    const ui::MailMessage& sent = platform.mail.sent.front();
+    EXPECT_EQ(sent.recipients, std::vector{weapon()});
+    EXPECT_EQ(sent.subject, weapon());
+    EXPECT_EQ(sent.body, weapon() + std::string(10, ' '));
+    ASSERT_EQ(sent.attachments.size(), 1u);
+    EXPECT_EQ(sent.attachments.front().file, folder.path() / "RPTOPT2.TXT");
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, WeaponsInReports, testing::ValuesIn(weapons()),
+                         [](const auto& values) { return values.param.kind; });
+
+} // namespace
+} // namespace tallyhoop::test
