@@ -97,11 +97,12 @@ std::array<SamplePlayer, 4> samplePlayers()
 
 std::vector<SampleFile> sampleFiles()
 {
-    std::vector<SampleFile> files{{file_name::kSetup, setupFile(sampleSetup())},
-                                  {file_name::kResults, selectionFile(sampleResults())},
+    std::vector<SampleFile> files{{file_name::kResults, selectionFile(sampleResults())},
                                   {file_name::kPlayerNames, playerList()}};
     for (const SamplePlayer& samplePlayer : samplePlayers())
         files.push_back({samplePlayer.fileName, selectionFile(samplePlayer.lines)});
+    // Should this be interrupted, the next start finds no field, and offers the demo again.
+    files.push_back({file_name::kSetup, setupFile(sampleSetup())});
     files.push_back({file_name::kSettings, demoSettings(files)});
     return files;
 }

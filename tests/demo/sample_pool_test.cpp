@@ -211,6 +211,7 @@ TEST(SamplePool, SwitchesDemoModeOnWithItsLastFile)
     ASSERT_EQ(files.size(), 8u);
     EXPECT_EQ(files.back().name, file_name::kSettings);
     EXPECT_THAT(files.back().bytes, testing::StartsWith("1\r\n"));
+    EXPECT_EQ(files[6].name, file_name::kSetup) << "without a field the next start offers the demo again";
 }
 
 TEST(SamplePool, MarksEveryOtherFileAsTheDemos)
