@@ -1,7 +1,7 @@
 // bench/large_pool.cpp - random brackets, and the files of a pool of them.
 #include "bench/large_pool.h"
 
-#include "demo/sample_pool.h"
+#include "model/sample_pool.h"
 #include "model/file_names.h"
 #include "model/player_names_file.h"
 #include "model/selection_file.h"

@@ -1,6 +1,6 @@
 // bench/scoring_bench.cpp - scoring from memory, and the score display with 1,000 and 10,000 players.
 #include "bench/large_pool.h"
-#include "demo/sample_pool.h"
+#include "model/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"

@@ -11,6 +11,7 @@
 #include "scoring/score_picks.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tallyhoop {
 
@@ -154,6 +155,7 @@ void frmPoolMain::applyOpening()
     m_state.setupLines[setup_line::kFinalized] = "0";
     mnuScoreSelections.enabled = false;
     mnuGameResults.enabled = false;
+    status = std::exchange(m_state.notice, {});
 }
 
 void frmPoolMain::readPlayerNames()

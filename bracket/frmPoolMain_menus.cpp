@@ -72,7 +72,7 @@ void frmPoolMain::demoSet()
 void frmPoolMain::demoReset()
 {
     leaveScoreDisplay();
-    if (!leaveDemo(m_folder, m_platform))
+    if (!leaveDemo(m_folder, m_platform, m_state.notice))
         return;
     m_screens.unload(ScreenKind::Board);
     m_screens.load(ScreenKind::Board, Opening::DemoLeft);

@@ -1,5 +1,5 @@
 // demo/main.cpp - DEMOSET.EXE: puts the sample pool into the folder in which this program lies.
-#include "demo/sample_pool.h"
+#include "model/sample_pool.h"
 #include "model/windows1252.h"
 
 #include <cstdlib>

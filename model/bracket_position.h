@@ -15,9 +15,9 @@ inline constexpr int kTeams = 64;
 inline constexpr int kGames = 63;
 inline constexpr int kRounds = 6;
 inline constexpr int kPositions = 127;
-inline constexpr int kRegionBlock = 31;  ///< positions of one region
-inline constexpr int kSemifinalA = 124;  ///< winner of regions 1 and 2
-inline constexpr int kSemifinalB = 125;  ///< winner of regions 3 and 4
+inline constexpr int kRegionBlock = 31; ///< positions of one region
+inline constexpr int kSemifinalA = 124; ///< winner of regions 1 and 2
+inline constexpr int kSemifinalB = 125; ///< winner of regions 3 and 4
 inline constexpr int kChampion = 126;
 inline constexpr int kChampionEnd = 999; ///< what follows the champion: nothing
 

@@ -5,6 +5,7 @@
 #include "model/player_names_file.h"
 #include "model/pool_backup.h"
 #include "model/replace_file.h"
+#include "model/sample_pool.h"
 #include "model/settings_file.h"
 #include "model/text.h"
 
@@ -34,20 +35,12 @@ ui::Message askBeforeEntering()
         ui::Buttons::OkCancel, ui::Icon::Question};
 }
 
-ui::Message whereOwnFilesAre(const char* what, const std::filesystem::path& backup)
-{
-    return {kCaption, joinLines({what, "They have been moved to the folder:", " ", shown(backup)}), ui::Buttons::Ok,
-            ui::Icon::Information};
-}
-
 ui::Message ownPoolIsIn(const std::filesystem::path& backup)
 {
-    return whereOwnFilesAre("The files of the pool that was here are kept.", backup);
-}
-
-ui::Message ownChangesAreIn(const std::filesystem::path& backup)
-{
-    return whereOwnFilesAre("Files that you changed or added in DEMO Mode are kept.", backup);
+    return {kCaption,
+            joinLines({"The files of the pool that was here are kept.", "They have been moved to the folder:", " ",
+                       shown(backup)}),
+            ui::Buttons::Ok, ui::Icon::Information};
 }
 
 /// Says which file or folder is in the way before the system's reason.
@@ -58,7 +51,7 @@ ui::Message trouble(const std::string& what, const Failure& failure)
     return {kCaption, what + "\r\n \r\n" + failure.message, ui::Buttons::Ok, ui::Icon::Critical};
 }
 
-/// The settings come last: as long as one of the others is there, they say whose it is.
+/// The settings come last: a clearing that was cut short leaves demo mode on, and can be asked for again.
 std::vector<const char*> demoDataFiles()
 {
     std::vector<const char*> names{file_name::kSetup, file_name::kResults, file_name::kPlayerNames};
@@ -68,7 +61,7 @@ std::vector<const char*> demoDataFiles()
 }
 
 /// A file that cannot be read counts as the person's own. What is no file cannot be kept; the clearing names it.
-bool isOwnFile(const DataFolder& folder, std::string_view name, std::string_view settings)
+bool isOwnFile(const DataFolder& folder, std::string_view name)
 {
     std::error_code ignored;
     const std::optional<std::filesystem::path> file = folder.pathOf(name);
@@ -81,7 +74,7 @@ bool isOwnFile(const DataFolder& folder, std::string_view name, std::string_view
         return !settingsSayDemo(*bytes);
     if (name == file_name::kPlayerNames && *bytes == playerNamesFile({}))
         return false;
-    return !settingsMark(settings, name, *bytes);
+    return !demo::isSampleFile(name, *bytes);
 }
 
 /// Starts the installer in a folder that is clear now.
@@ -122,10 +115,9 @@ void waitForSamplePool(const DataFolder& folder)
 
 Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& folder, const ui::Clock& clock)
 {
-    const Result<std::string> settings = folder.read(file_name::kSettings);
     std::vector<std::string> own;
     for (const char* name : demoDataFiles())
-        if (isOwnFile(folder, name, settings ? std::string_view{*settings} : std::string_view{}))
+        if (isOwnFile(folder, name))
             own.emplace_back(name);
     if (own.empty())
         return std::optional<std::filesystem::path>{};
@@ -174,7 +166,7 @@ bool enterDemo(const DataFolder& folder, const ui::Platform& platform)
     return startDemo(folder, platform);
 }
 
-bool leaveDemo(const DataFolder& folder, const ui::Platform& platform)
+bool leaveDemo(const DataFolder& folder, const ui::Platform& platform, std::string& notice)
 {
     const Result<std::optional<std::filesystem::path>> backup = keepOwnFiles(folder, platform.clock);
     if (!backup) {
@@ -185,7 +177,7 @@ bool leaveDemo(const DataFolder& folder, const ui::Platform& platform)
         platform.dialogs.show(trouble("A file of the demonstration could not be deleted.", cleared.failure()));
     platform.dialogs.show(kContinueNormally);
     if (*backup)
-        platform.dialogs.show(ownChangesAreIn(**backup));
+        notice = "Files that you changed in demo mode are kept in the folder " + shown((*backup)->filename()) + ".";
     return true;
 }
 

@@ -7,6 +7,7 @@
 #include <array>
 #include <filesystem>
 #include <optional>
+#include <string>
 
 namespace tallyhoop {
 
@@ -32,9 +33,10 @@ bool startDemo(const DataFolder& folder, const ui::Platform& platform);
 /// The question before demo mode is entered. @returns whether the person wants it and it was started
 bool enterDemo(const DataFolder& folder, const ui::Platform& platform);
 
-/// Deletes the sample pool, says that normal operation follows and where the files are that the person has changed or
-/// added meanwhile. When one of those cannot be kept, says so and deletes nothing.
+/// Deletes the sample pool and says that normal operation follows. What the person has changed meanwhile is kept; when
+/// it cannot be, says so and deletes nothing.
+/// @param notice becomes a sentence for the status line when there was something to keep
 /// @returns whether demo mode was left
-bool leaveDemo(const DataFolder& folder, const ui::Platform& platform);
+bool leaveDemo(const DataFolder& folder, const ui::Platform& platform, std::string& notice);
 
 } // namespace tallyhoop

@@ -16,7 +16,7 @@ inline constexpr const char* kEndMarker = "*END*";
 using SetupLines = std::array<std::string, 101>;
 
 namespace setup_line {
-inline constexpr std::size_t kTeam = 0;      ///< 0..63: team of region i / 16, row i % 16
+inline constexpr std::size_t kTeam = 0; ///< 0..63: team of region i / 16, row i % 16
 inline constexpr std::size_t kTitle = 64;
 inline constexpr std::size_t kRegion = 65;   ///< 65..68
 inline constexpr std::size_t kPayoff = 69;   ///< 69..74: rounds 1..6, decimal text
@@ -31,9 +31,9 @@ inline constexpr std::size_t kEnd = 94;
 using SelectionLines = std::array<std::string, 132>;
 
 namespace selection_line {
-inline constexpr std::size_t kFirstTeam = 1;     ///< 1..127: the team at position index - 1, empty = none
+inline constexpr std::size_t kFirstTeam = 1; ///< 1..127: the team at position index - 1, empty = none
 inline constexpr std::size_t kChampion = 127;
-inline constexpr std::size_t kInitials = 128;    ///< upper case
+inline constexpr std::size_t kInitials = 128; ///< upper case
 inline constexpr std::size_t kName = 129;
 inline constexpr std::size_t kFinalPoints = 130; ///< predicted total points of the final game, decimal text
 inline constexpr std::size_t kEnd = 131;

@@ -40,10 +40,10 @@ struct SelectionFileState {
     std::filesystem::path OpenedFile; ///< the file last opened or saved; empty after New Selection and at start
 };
 
-/// What a save leaves for the player names screen: the player to enter in the list. Taken when that screen opens, dropped
-/// when it closes or when the board turns to another selection.
+/// What a save leaves for the player names screen: the player to enter in the list. Taken when that screen opens,
+/// dropped when it closes or when the board turns to another selection.
 struct PlayerHandOver {
-    std::string LastPlayer;        ///< name, comma, initials: "Smith,JS"
+    std::string LastPlayer; ///< name, comma, initials: "Smith,JS"
     std::filesystem::path file;
     SaveKind LastSaveKind = SaveKind::None;
 };
@@ -73,6 +73,7 @@ struct modTallyhoop {
     std::optional<PlayerHandOver> handOver;
     TeamNames teamNames;
     MailDraft mailDraft;
+    std::string notice; ///< for the status line of the screen that is loaded next, which takes it; mostly empty
 };
 
 } // namespace tallyhoop

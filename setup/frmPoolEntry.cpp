@@ -12,6 +12,8 @@
 #include "model/text.h"
 
 #include <array>
+#include <string_view>
+#include <utility>
 
 namespace tallyhoop {
 
@@ -129,6 +131,7 @@ void frmPoolEntry::load()
     showTeamNames();
     showDemoMode();
     m_saved = linesOnScreen();
+    m_notice = std::exchange(m_state.notice, {});
     showStatus();
     focused = &txtRegion[0];
 }
@@ -238,7 +241,7 @@ void frmPoolEntry::startDemoMode()
 
 void frmPoolEntry::resetDemoMode()
 {
-    if (leaveDemo(m_folder, m_platform))
+    if (leaveDemo(m_folder, m_platform, m_state.notice))
         reload(Opening::DemoLeft);
 }
 

@@ -134,6 +134,7 @@ private:
     clsBoxSearch m_search;
     KnownFiles m_known;            ///< the field and the list of team names as they were read
     SetupLines m_saved{};          ///< what the screen held when it was loaded or saved last
+    std::string m_notice;          ///< what the screen that was here before left to be said
     bool m_teamListIsRead = false; ///< NCAALIST.THS was there and whole
 };
 

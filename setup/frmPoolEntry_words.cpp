@@ -20,7 +20,7 @@ constexpr const char* kFinalizeStatus = "Finalize Tournament takes effect with F
 constexpr const char* kNoListStatus =
     "There is no list of team names: choose Override Selecting Team Names to type them.";
 
-void say(std::string& status, const char* sentence)
+void say(std::string& status, std::string_view sentence)
 {
     if (!status.empty())
         status += "  ";
@@ -63,6 +63,8 @@ void frmPoolEntry::showStatus()
     say(status, linesOnScreen() == m_saved ? kSavedStatus : kUnsavedStatus);
     if (FinalizeState == "1")
         say(status, kFinalizeStatus);
+    if (!m_notice.empty())
+        say(status, m_notice);
 }
 
 } // namespace tallyhoop

@@ -146,6 +146,14 @@ TEST_F(frmPoolMainLoad, StartsAfreshWhenDemoModeIsLeft)
     EXPECT_EQ(state.setupLines[setup_line::kFinalized], "0");
 }
 
+TEST_F(frmPoolMainLoad, SaysOnceWhereChangesMadeInDemoModeAreKept)
+{
+    state.notice = "Files that you changed in demo mode are kept in Backup.";
+    load(Opening::DemoLeft);
+    EXPECT_EQ(board->status, "Files that you changed in demo mode are kept in Backup.");
+    EXPECT_EQ(state.notice, "");
+}
+
 TEST_F(frmPoolMainLoad, ListsTheThreeFieldsAtTheirTabPositions)
 {
     load();

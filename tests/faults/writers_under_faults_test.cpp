@@ -1,6 +1,6 @@
 // tests/faults/writers_under_faults_test.cpp - every writer under every fault: the person is told, nothing is lost, and
 // the next save works.
-#include "demo/sample_pool.h"
+#include "model/sample_pool.h"
 #include "faults/own_process.h"
 #include "faults/writers.h"
 #include "model/demo_mode.h"

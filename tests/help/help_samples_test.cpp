@@ -1,11 +1,11 @@
 // tests/help/help_samples_test.cpp - what the help shows and counts, compared with the program on the sample pool.
 #include "bracket/frmPoolMain.h"
-#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "help/help_file.h"
 #include "model/file_names.h"
+#include "model/sample_pool.h"
 #include "model/setup_file.h"
 #include "model/text.h"
 #include "model/text_file.h"

@@ -1,11 +1,11 @@
 // tests/help/help_topics_test.cpp - which topic F1 shows on each screen, in each of its states.
 #include "bracket/frmPoolMain.h"
-#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "model/file_names.h"
 #include "model/help_topics.h"
+#include "model/sample_pool.h"
 #include "model/setup_file.h"
 #include "players/frmPoolEMail.h"
 #include "players/frmPoolNames.h"

@@ -80,9 +80,10 @@ TEST(LeaveDemo, DeletesAnUntouchedDemoWithoutAWordMore)
 {
     InstalledDemo demo;
     demo.scratch.put("Own_O.THC", "own");
-    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services));
+    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services, demo.notice));
     EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{"Own_O.THC"});
     EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+    EXPECT_EQ(demo.notice, "");
 }
 
 TEST(LeaveDemo, KeepsWhatThePersonChangedMeanwhile)
@@ -90,20 +91,20 @@ TEST(LeaveDemo, KeepsWhatThePersonChangedMeanwhile)
     InstalledDemo demo;
     demo.scratch.put("TALLYHOOP.THS", "my results");
     demo.scratch.put("Demo Prophet_DP.THC", "my picks");
-    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services));
+    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services, demo.notice));
     EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{kBackup});
     EXPECT_EQ(entriesOf(demo.scratch.path() / kBackup),
               (std::vector<std::string>{"Demo Prophet_DP.THC", "TALLYHOOP.THS"}));
     EXPECT_EQ(demo.scratch.get(std::string{kBackup} + "/TALLYHOOP.THS"), "my results");
-    EXPECT_EQ(demo.platform.dialogs.shown,
-              (std::vector<ui::Message>{kContinueNormally, ownChangesAreIn(demo.scratch.path() / kBackup)}));
+    EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+    EXPECT_EQ(demo.notice, kOwnChangesAreKept);
 }
 
 TEST(LeaveDemo, RemovesNothingAndStaysOnWhenAChangedFileCannotBeKept)
 {
     InstalledDemo demo;
     fs::resize_file(demo.scratch.path() / "TALLYHOOP.THS", (64u << 20) + 1); // more than the program reads
-    EXPECT_FALSE(leaveDemo(demo.scratch.folder(), demo.platform.services));
+    EXPECT_FALSE(leaveDemo(demo.scratch.folder(), demo.platform.services, demo.notice));
     EXPECT_EQ(entriesOf(demo.scratch.path()).size(), 8u);
     EXPECT_TRUE(demoModeIsOn(demo.scratch.folder()));
     ASSERT_EQ(demo.platform.dialogs.shown.size(), 1u);

@@ -159,20 +159,20 @@ TEST(LeaveDemo, ClearsWithoutAskingAndSaysWhatFollows)
 {
     Pool pool;
     pool.scratch.put("tallyhoop.ini", "1\r\n");
-    EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services, pool.notice));
     EXPECT_TRUE(pool.isCleared());
     EXPECT_FALSE(demoModeIsOn(pool.scratch.folder()));
-    EXPECT_EQ(pool.platform.dialogs.shown,
-              (std::vector<ui::Message>{kContinueNormally, ownChangesAreIn(pool.scratch.path() / kBackup)}))
-        << "settings without marks leave open whose these files are";
+    EXPECT_EQ(pool.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+    EXPECT_EQ(pool.notice, kOwnChangesAreKept);
 }
 
 TEST(LeaveDemo, DeletesNothingWhenThereAreNoDemoFiles)
 {
     const ScratchFolder scratch;
     FakePlatform platform;
+    std::string notice;
     scratch.put("Own_O.THC", "own");
-    EXPECT_TRUE(leaveDemo(scratch.folder(), platform.services));
+    EXPECT_TRUE(leaveDemo(scratch.folder(), platform.services, notice));
     EXPECT_TRUE(scratch.has("Own_O.THC"));
     EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
 }
@@ -183,8 +183,8 @@ TEST(LeaveDemo, SaysWhichFileStayed)
     fs::create_directory(pool.scratch.path() / "POOLSTART.THS.d");
     fs::remove(pool.scratch.path() / "POOLSTART.THS");
     fs::rename(pool.scratch.path() / "POOLSTART.THS.d", pool.scratch.path() / "POOLSTART.THS");
-    EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services));
-    ASSERT_EQ(pool.platform.dialogs.shown.size(), 3u);
+    EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services, pool.notice));
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
     EXPECT_EQ(pool.platform.dialogs.shown[0].text, "A file of the demonstration could not be deleted.\r\n \r\n" +
                                                        (pool.scratch.path() / "POOLSTART.THS").string() +
                                                        "\r\nIs a directory");

@@ -4,6 +4,7 @@
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
 #include "model/demo_mode.h"
+#include "model/sample_pool.h"
 #include "model/settings_file.h"
 
 #include <algorithm>
@@ -21,21 +22,16 @@ inline const ui::Message kContinueNormally{kCaption, "Select the OK Key to Conti
 
 inline constexpr const char* kBackup = "Backup 2001-03-05 101530"; // the fake clock's moment
 
-inline ui::Message whereBox(const char* first, const std::filesystem::path& backup)
+inline ui::Message ownPoolIsIn(const std::filesystem::path& backup)
 {
-    return {kCaption, std::string{first} + "\r\nThey have been moved to the folder:\r\n \r\n" + backup.string(),
+    return {kCaption,
+            "The files of the pool that was here are kept.\r\nThey have been moved to the folder:\r\n \r\n" +
+                backup.string(),
             ui::Buttons::Ok, ui::Icon::Information};
 }
 
-inline ui::Message ownPoolIsIn(const std::filesystem::path& backup)
-{
-    return whereBox("The files of the pool that was here are kept.", backup);
-}
-
-inline ui::Message ownChangesAreIn(const std::filesystem::path& backup)
-{
-    return whereBox("Files that you changed or added in DEMO Mode are kept.", backup);
-}
+inline constexpr const char* kOwnChangesAreKept =
+    "Files that you changed in demo mode are kept in the folder Backup 2001-03-05 101530.";
 
 /// @returns the names of a folder's files and subfolders, sorted
 inline std::vector<std::string> entriesOf(const std::filesystem::path& folder)
@@ -51,17 +47,12 @@ inline std::vector<std::string> entriesOf(const std::filesystem::path& folder)
 struct InstalledDemo {
     ScratchFolder scratch;
     FakePlatform platform;
+    std::string notice;
 
     InstalledDemo()
     {
-        std::vector<DemoFile> files{{"POOLSTART.THS", "sample field"},
-                                    {"TALLYHOOP.THS", "sample results"},
-                                    {"PLAYERNAMES.CSV", "sample players"}};
-        for (const char* name : kDemoSelectionFiles)
-            files.push_back({name, std::string{"picks of "} + name});
-        for (const DemoFile& file : files)
+        for (const demo::SampleFile& file : demo::sampleFiles())
             scratch.put(file.name, file.bytes);
-        scratch.put("TALLYHOOP.INI", demoSettings(files));
     }
 };
 
@@ -69,6 +60,7 @@ struct InstalledDemo {
 struct Pool {
     ScratchFolder scratch;
     FakePlatform platform;
+    std::string notice;
 
     Pool()
     {

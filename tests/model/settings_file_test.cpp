@@ -54,32 +54,5 @@ TEST(DemoModeIsOn, IsReadAnewEveryTime)
     EXPECT_TRUE(demoModeIsOn(folder));
 }
 
-TEST(DemoSettings, SwitchDemoModeOnAndMarkTheFiles)
-{
-    const std::string settings = demoSettings({{"POOLSTART.THS", "a"}, {"Demo Halfway_DH.THC", ""}});
-    // FNV-1a of "a" and of nothing, as published with the algorithm.
-    EXPECT_EQ(settings,
-              test::crlf({"1", "af63dc4c8601ec8c-1 POOLSTART.THS", "cbf29ce484222325-0 Demo Halfway_DH.THC"}));
-    EXPECT_TRUE(settingsSayDemo(settings));
-}
-
-TEST(DemoSettings, KnowAFileThatIsAsTheDemoBroughtIt)
-{
-    const std::string settings = demoSettings({{"POOLSTART.THS", "field"}, {"TALLYHOOP.THS", "results"}});
-    EXPECT_TRUE(settingsMark(settings, "POOLSTART.THS", "field"));
-    EXPECT_TRUE(settingsMark(settings, "poolstart.ths", "field"));
-    EXPECT_FALSE(settingsMark(settings, "POOLSTART.THS", "Field"));
-    EXPECT_FALSE(settingsMark(settings, "POOLSTART.THS", "results"));
-    EXPECT_FALSE(settingsMark(settings, "PLAYERNAMES.CSV", "field"));
-}
-
-TEST(DemoSettings, MarkNothingWhileDemoModeIsOff)
-{
-    const std::string settings = demoSettings({{"POOLSTART.THS", "field"}});
-    EXPECT_FALSE(settingsMark("0" + settings.substr(1), "POOLSTART.THS", "field"));
-    EXPECT_FALSE(settingsMark("", "POOLSTART.THS", "field"));
-    EXPECT_FALSE(settingsMark("1\r\n", "POOLSTART.THS", "field"));
-}
-
 } // namespace
 } // namespace tallyhoop

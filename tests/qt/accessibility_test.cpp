@@ -1,7 +1,7 @@
 // tests/qt/accessibility_test.cpp - every screen, for those who listen to it, use the keyboard, or need it large.
 #include "app/wiring.h"
 #include "bracket/frmPoolMain.h"
-#include "demo/sample_pool.h"
+#include "model/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
 #include "qt/accessibility.h"

@@ -273,6 +273,14 @@ TEST_F(frmPoolEntryTest, DemoResetDeletesTheSampleAndReloadsThisScreen)
     EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Setup, Opening::DemoLeft}}));
 }
 
+TEST_F(frmPoolEntryTest, SaysWhereChangesMadeInDemoModeAreKept)
+{
+    state.notice = "Files that you changed in demo mode are kept in Backup.";
+    const frmPoolEntry& screen = loaded(Opening::DemoLeft);
+    EXPECT_NE(screen.status.find("kept in Backup."), std::string::npos) << screen.status;
+    EXPECT_EQ(state.notice, "");
+}
+
 TEST_F(frmPoolEntryTest, StaysInDemoModeWhenItCannotBeLeft)
 {
     files.put("TALLYHOOP.INI", "1\r\n");

@@ -1,10 +1,10 @@
 // tests/qt/views/board_view_test.cpp - do the mouse and the tool tips of the bracket do what its places mean?
 #include "ui/qt/views/board_view.h"
 
-#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
+#include "model/sample_pool.h"
 #include "model/setup_file.h"
 
 #include <QAbstractButton>

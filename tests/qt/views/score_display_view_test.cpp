@@ -1,10 +1,10 @@
 // tests/qt/views/score_display_view_test.cpp - do the mouse and the keys on the scores reach the model, and come back?
 #include "ui/qt/views/score_display_view.h"
 
-#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
+#include "model/sample_pool.h"
 
 #include <QHeaderView>
 #include <QTableView>

@@ -1,14 +1,15 @@
-// demo/sample_pool.cpp - puts the sample pool together and into a folder.
-#include "demo/sample_pool.h"
+// model/sample_pool.cpp - puts the sample pool together and into a folder.
+#include "model/sample_pool.h"
 
-#include "demo/sample_brackets.h"
 #include "model/demo_mode.h"
 #include "model/file_names.h"
+#include "model/sample_brackets.h"
 #include "model/selection_file.h"
 #include "model/setup_file.h"
 #include "model/text_file.h"
 #include "model/windows1252.h"
 
+#include <algorithm>
 #include <span>
 
 namespace tallyhoop::demo {
@@ -103,8 +104,15 @@ std::vector<SampleFile> sampleFiles()
         files.push_back({samplePlayer.fileName, selectionFile(samplePlayer.lines)});
     // Should this be interrupted, the next start finds no field, and offers the demo again.
     files.push_back({file_name::kSetup, setupFile(sampleSetup())});
-    files.push_back({file_name::kSettings, demoSettings(files)});
+    files.push_back({file_name::kSettings, "1\r\n"});
     return files;
+}
+
+bool isSampleFile(std::string_view name, std::string_view bytes)
+{
+    static const std::vector<SampleFile> kFiles = sampleFiles();
+    return std::ranges::any_of(
+        kFiles, [&](const SampleFile& file) { return equalFolded(file.name, name) && file.bytes == bytes; });
 }
 
 Result<Done> installSamplePool(const DataFolder& folder)

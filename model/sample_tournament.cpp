@@ -1,5 +1,5 @@
-// demo/sample_tournament.cpp - the field of 64 and its winners.
-#include "demo/sample_tournament.h"
+// model/sample_tournament.cpp - the field of 64 and its winners.
+#include "model/sample_tournament.h"
 
 #include <cstddef>
 #include <string>

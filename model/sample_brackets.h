@@ -1,8 +1,8 @@
-// demo/sample_brackets.h - the brackets of the four sample players, so different that every report has something to
+// model/sample_brackets.h - the brackets of the four sample players, so different that every report has something to
 // show.
 #pragma once
 
-#include "demo/sample_tournament.h"
+#include "model/sample_tournament.h"
 
 namespace tallyhoop::demo {
 

@@ -1,5 +1,5 @@
-// demo/sample_brackets.cpp - the four brackets, winner by winner.
-#include "demo/sample_brackets.h"
+// model/sample_brackets.cpp - the four brackets, winner by winner.
+#include "model/sample_brackets.h"
 
 namespace tallyhoop::demo {
 

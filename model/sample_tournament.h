@@ -1,4 +1,4 @@
-// demo/sample_tournament.h - the tournament of the sample pool: the field of 2000 and what its games brought.
+// model/sample_tournament.h - the tournament of the sample pool: the field of 2000 and what its games brought.
 #pragma once
 
 #include "model/bracket_position.h"

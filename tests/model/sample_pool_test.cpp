@@ -1,13 +1,13 @@
-// tests/demo/sample_pool_test.cpp - the sample pool is a real pool: consistent, readable, and scored as worked out
+// tests/model/sample_pool_test.cpp - the sample pool is a real pool: consistent, readable, and scored as worked out
 // here.
-#include "demo/sample_pool.h"
+#include "model/sample_pool.h"
 
-#include "demo/sample_brackets.h"
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
 #include "model/demo_mode.h"
 #include "model/file_names.h"
 #include "model/numbers.h"
+#include "model/sample_brackets.h"
 #include "model/selection_file.h"
 #include "model/settings_file.h"
 #include "model/setup_file.h"
@@ -210,18 +210,18 @@ TEST(SamplePool, SwitchesDemoModeOnWithItsLastFile)
     const std::vector<demo::SampleFile> files = demo::sampleFiles();
     ASSERT_EQ(files.size(), 8u);
     EXPECT_EQ(files.back().name, file_name::kSettings);
-    EXPECT_THAT(files.back().bytes, testing::StartsWith("1\r\n"));
+    EXPECT_EQ(files.back().bytes, "1\r\n");
     EXPECT_EQ(files[6].name, file_name::kSetup) << "without a field the next start offers the demo again";
 }
 
-TEST(SamplePool, MarksEveryOtherFileAsTheDemos)
+TEST(SamplePool, KnowsItsFilesByNameAndContent)
 {
-    const std::vector<demo::SampleFile> files = demo::sampleFiles();
-    for (const demo::SampleFile& file : files) {
-        const bool isSettings = file.name == file_name::kSettings;
-        EXPECT_EQ(settingsMark(files.back().bytes, file.name, file.bytes), !isSettings) << file.name;
-        EXPECT_FALSE(settingsMark(files.back().bytes, file.name, file.bytes + "changed")) << file.name;
+    for (const demo::SampleFile& file : demo::sampleFiles()) {
+        EXPECT_TRUE(demo::isSampleFile(file.name, file.bytes)) << file.name;
+        EXPECT_FALSE(demo::isSampleFile(file.name, file.bytes + "changed")) << file.name;
+        EXPECT_FALSE(demo::isSampleFile("Own_O.THC", file.bytes)) << file.name;
     }
+    EXPECT_TRUE(demo::isSampleFile("tallyhoop.ths", demo::sampleFiles().front().bytes));
 }
 
 TEST(SamplePoolInstall, RefusesAFolderThatHasAPool)
@@ -274,8 +274,10 @@ TEST(SamplePoolInstall, LeavesNothingToKeepWhenTheDemoIsLeftUntouched)
     const test::ScratchFolder scratch;
     test::FakePlatform platform;
     ASSERT_TRUE(demo::installSamplePool(scratch.folder()));
-    EXPECT_TRUE(leaveDemo(scratch.folder(), platform.services));
+    std::string notice;
+    EXPECT_TRUE(leaveDemo(scratch.folder(), platform.services, notice));
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(notice, "");
     EXPECT_TRUE(std::filesystem::is_empty(scratch.path()));
 }
 
