@@ -36,7 +36,7 @@ const ui::Message kSelectBeforeDelete{"Tallyhoop - PoolEmail, cmdDelete",
                                       "\r\n"
                                       "Make a selection and then retry.",
                                       ui::Buttons::Ok, ui::Icon::Exclamation};
-const ui::Message kNoRecipients{"Tallyhoop - PoolEmail, cmdSend_Click",
+const ui::Message kNoRecipients{"Tallyhoop - PoolEMail, cmdSend_Click",
                                 "No \"SendTo\" names were defined, You can cancel\r\n"
                                 "and complete these entries or if you continue, your\r\n"
                                 "mail system will prompt you with another opportunity to complete these.",

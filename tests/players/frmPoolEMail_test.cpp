@@ -25,7 +25,7 @@ const ui::Message kSomebodyWithoutAddress{kCaption,
                                           "is at least one player name without an EMail address.\r\n\r\n"
                                           "Print a Player Listing to locate the missing EMail address.",
                                           ui::Buttons::Ok, ui::Icon::None};
-const ui::Message kNoRecipients{"Tallyhoop - PoolEmail, cmdSend_Click",
+const ui::Message kNoRecipients{"Tallyhoop - PoolEMail, cmdSend_Click",
                                 "No \"SendTo\" names were defined, You can cancel\r\n"
                                 "and complete these entries or if you continue, your\r\n"
                                 "mail system will prompt you with another opportunity to complete these.",
