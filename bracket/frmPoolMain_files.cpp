@@ -28,15 +28,16 @@ constexpr double kMostPoints = 250;
 /// letters.
 std::filesystem::path meantFile(std::filesystem::path chosen)
 {
-    std::string name = shown(chosen.filename());
-    if (!endsWithFolded(name, file_name::kSelectionEnding)) {
+    if (!endsWithFolded(shown(chosen.filename()), file_name::kSelectionEnding))
         chosen += file_name::kSelectionEnding;
-        name += file_name::kSelectionEnding;
-    }
     std::error_code missing;
     if (std::filesystem::exists(chosen, missing))
         return chosen;
-    return DataFolder{chosen.parent_path()}.pathOf(name).value_or(chosen);
+    const DataFolder folder{chosen.parent_path()};
+    const std::string name = shown(chosen.filename());
+    // A letter that our code page lacks is shown as "?": such a name means itself only.
+    const bool isShownWhole = name.find('?') == std::string::npos;
+    return isShownWhole && folder.exists(name) ? folder.pathOf(name).value_or(chosen) : chosen;
 }
 
 ui::Message question(std::string text) { return {"", std::move(text), ui::Buttons::YesNo, ui::Icon::Question}; }

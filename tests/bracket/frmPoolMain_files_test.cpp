@@ -1,5 +1,7 @@
 #include "bracket/board_fixture.h"
 
+#include <fstream>
+
 namespace tallyhoop::test {
 
 class frmPoolMainFiles : public BoardTest
@@ -185,6 +187,18 @@ TEST_F(frmPoolMainFiles, TheEndingIsAppendedUnlessItIsThere)
     platform.dialogs.pick(scratch.path() / "Smith Jr._JS");
     save();
     EXPECT_TRUE(scratch.has("Smith Jr._JS.THC"));
+}
+
+TEST_F(frmPoolMainFiles, ANameWithLettersThatOurCodePageLacksIsSavedUnderItself)
+{
+    const std::filesystem::path chosen = scratch.path() / u8"Łukasz_L.THC";
+    std::ofstream{scratch.path() / u8"Ńukasz_L.THC"} << "somebody else's";
+    loadFinalized();
+    fill("L", "Lukasz", "99");
+    platform.dialogs.pick(chosen);
+    save();
+    EXPECT_TRUE(std::filesystem::exists(chosen));
+    EXPECT_TRUE(platform.dialogs.shown.empty()) << "asked whether to replace another file";
 }
 
 TEST_F(frmPoolMainFiles, DemoModeRefusesNewFilesAndNewNames)
