@@ -99,8 +99,8 @@ void frmPoolMain::ScoreSelections()
         m_platform.dialogs.show({kNoResultsCaption, kNoResultsText, ui::Buttons::Ok, ui::Icon::Exclamation});
         return;
     }
-    const auto score =
-        ScoreSelection(ScoreCaller::Bracket, file_name::kResults, m_folder, m_platform.dialogs, *this, m_state);
+    const FolderFile results{file_name::kResults, *m_folder.pathOf(file_name::kResults)};
+    const auto score = ScoreSelection(ScoreCaller::Bracket, results, m_platform.dialogs, *this, m_state);
     if (!score) {
         m_platform.dialogs.show({"", score.failure().message, ui::Buttons::Ok, ui::Icon::Critical});
         mnuScoreSelections.enabled = true;

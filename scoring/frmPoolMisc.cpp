@@ -5,12 +5,14 @@
 #include "model/help_topics.h"
 #include "model/printer_setup.h"
 #include "model/printing_trouble.h"
+#include "model/selection_file.h"
 #include "model/windows1252.h"
 #include "model/work.h"
 #include "scoring/score_grid.h"
 #include "scoring/score_printout.h"
 #include "scoring/score_selection.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tallyhoop {
@@ -64,13 +66,12 @@ void frmPoolMisc::unloading()
 
 void frmPoolMisc::exit() { m_screens.unload(ScreenKind::ScoreDisplay); }
 
-std::vector<FolderFile> frmPoolMisc::listFiles()
+void frmPoolMisc::listFiles()
 {
-    std::vector<FolderFile> files = m_folder.files(file_name::kSelectionEnding);
+    m_files = m_folder.files(file_name::kSelectionEnding);
     filList.rows.clear();
-    for (const FolderFile& file : files)
+    for (const FolderFile& file : m_files)
         filList.rows.push_back(file.name);
-    return files;
 }
 
 void frmPoolMisc::showTable(Rows rows)
@@ -84,14 +85,14 @@ void frmPoolMisc::showTable(Rows rows)
 void frmPoolMisc::calculate()
 {
     m_board.ClearMarks();
-    const std::vector<FolderFile> files = listFiles();
+    listFiles();
     m_board.captureBoard(); // the results on the board count, saved or not
     const Result<Payoffs> payoffs = m_board.payoffs();
     if (!payoffs) {
         showFailure(payoffs.failure());
         return;
     }
-    if (std::optional<Rows> rows = scoreEverybody(files, *payoffs))
+    if (std::optional<Rows> rows = scoreEverybody(m_files, *payoffs))
         showTable(std::move(*rows));
     else
         m_platform.dialogs.show(kCancelled);
@@ -126,8 +127,12 @@ void frmPoolMisc::cellClicked(std::size_t row, std::size_t column)
 void frmPoolMisc::markSelection(const std::string& fileName)
 {
     m_board.ClearMarks();
+    // The path is the listed one: a name as it is shown may not lead back to its file.
+    const auto file = std::ranges::find(m_files, fileName, &FolderFile::name);
+    if (file == m_files.end()) // a cell that only ends like a file name
+        return showReadingTrouble(fileName, m_platform.dialogs);
     const Result<ScoreLine> score =
-        ScoreSelection(ScoreCaller::ScoreDisplay, fileName, m_folder, m_platform.dialogs, m_board, m_state);
+        ScoreSelection(ScoreCaller::ScoreDisplay, *file, m_platform.dialogs, m_board, m_state);
     if (score)
         m_board.MarkScores();
     else

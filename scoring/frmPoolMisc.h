@@ -45,7 +45,7 @@ private:
     /// @returns a row per player; nothing when the person cancelled
     std::optional<Rows> scoreEverybody(const std::vector<FolderFile>& files, const Payoffs& payoffs);
 
-    std::vector<FolderFile> listFiles();
+    void listFiles();
     void showTable(Rows rows);
     void cellClicked(std::size_t row, std::size_t column);
     void headingDropped(std::optional<std::size_t> target);
@@ -57,6 +57,7 @@ private:
     modTallyhoop& m_state;
     Screens& m_screens;
     BracketBoard& m_board;
+    std::vector<FolderFile> m_files; ///< what filList lists
 };
 
 } // namespace tallyhoop

@@ -7,17 +7,6 @@ namespace tallyhoop {
 
 namespace {
 
-/// @returns the file's lines; trouble is told to the person and what was read stands
-SelectionLines linesOfFile(const std::string& fileName, const DataFolder& folder, ui::Dialogs& dialogs)
-{
-    SelectionLines lines;
-    if (const auto path = folder.pathOf(fileName))
-        ReadSelections(*path, dialogs, lines);
-    else
-        showReadingTrouble(fileName, dialogs);
-    return lines;
-}
-
 /// The board's picks against the results of a file.
 Result<ScoreLine> scoreBoard(const std::string& fileName, const SelectionLines& results, const Payoffs& payoffs,
                              modTallyhoop& state)
@@ -41,17 +30,18 @@ Result<ScoreLine> scoreFile(const FolderFile& file, const SelectionLines& result
     return scoreLine(file.name, picks, results, payoffs, verdict);
 }
 
-Result<ScoreLine> ScoreSelection(ScoreCaller caller, const std::string& fileName, const DataFolder& folder,
-                                 ui::Dialogs& dialogs, BracketBoard& board, modTallyhoop& state)
+Result<ScoreLine> ScoreSelection(ScoreCaller caller, const FolderFile& file, ui::Dialogs& dialogs, BracketBoard& board,
+                                 modTallyhoop& state)
 {
     board.captureBoard();
     const Result<Payoffs> payoffs = board.payoffs();
     if (!payoffs)
         return payoffs.failure();
-    const SelectionLines fromFile = linesOfFile(fileName, folder, dialogs);
+    SelectionLines fromFile;
+    ReadSelections(file.path, dialogs, fromFile);
     return caller == ScoreCaller::Bracket
-               ? scoreBoard(fileName, fromFile, *payoffs, state)
-               : scoreLine(fileName, fromFile, state.selectionLines, *payoffs, state.verdict);
+               ? scoreBoard(file.name, fromFile, *payoffs, state)
+               : scoreLine(file.name, fromFile, state.selectionLines, *payoffs, state.verdict);
 }
 
 } // namespace tallyhoop

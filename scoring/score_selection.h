@@ -7,8 +7,6 @@
 #include "scoring/score_picks.h"
 #include "ui/dialogs.h"
 
-#include <string>
-
 namespace tallyhoop {
 
 /// Who asks for a score: it decides which of the file and the shared lines are the picks and which the results.
@@ -23,11 +21,11 @@ enum class ScoreCaller {
 Result<ScoreLine> scoreFile(const FolderFile& file, const SelectionLines& results, const Payoffs& payoffs,
                             ui::Dialogs& dialogs, ScoredVerdict& verdict);
 
-/// Captures the board into the shared lines, reads a file of the program's folder, scores one against the other, and
-/// puts the shared lines back. The shared verdict is rewritten.
-/// @param fileName bare name; a file that cannot be read is reported by its reader and scored as far as it was read
+/// Captures the board into the shared lines, reads a file, scores one against the other, and puts the shared lines
+/// back. The shared verdict is rewritten.
+/// @param file one that cannot be read is reported by its reader and scored as far as it was read
 /// @returns a failure when a number does not fit 16 bits
-Result<ScoreLine> ScoreSelection(ScoreCaller caller, const std::string& fileName, const DataFolder& folder,
-                                 ui::Dialogs& dialogs, BracketBoard& board, modTallyhoop& state);
+Result<ScoreLine> ScoreSelection(ScoreCaller caller, const FolderFile& file, ui::Dialogs& dialogs, BracketBoard& board,
+                                 modTallyhoop& state);
 
 } // namespace tallyhoop

