@@ -86,6 +86,7 @@ void frmPoolMain::loadBoard()
     readPlayerNames();
     describePositions();
     unsaved = false;
+    status.clear();
     m_history.clear();
     offerHistory();
     describeDocument();
