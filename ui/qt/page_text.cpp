@@ -75,7 +75,9 @@ void setText(QLineEdit& edit, const ui::TextBox& box)
 {
     // Qt would cut a text from a file that is longer than what may be typed.
     constexpr int kNoLimit = 32767;
-    edit.setMaxLength(box.maxLength > 0 ? std::max(box.maxLength, static_cast<int>(box.text.size())) : kNoLimit);
+    const int most = box.maxLength > 0 ? std::max(box.maxLength, static_cast<int>(box.text.size())) : kNoLimit;
+    if (edit.maxLength() != most) // setting it forgets what can be undone
+        edit.setMaxLength(most);
     if (textOf(edit) != box.text)
         edit.setText(toQString(box.text));
 }

@@ -106,6 +106,26 @@ TEST_F(BoardViewTest, ADragCarriesTheNameAndLandsWhereItIsLetGo)
     EXPECT_EQ(team(24), "Arizona");
 }
 
+TEST_F(BoardViewTest, AClickOnATeamLeavesTheKeyboardInTheField)
+{
+    auto& initials = find(QStringLiteral("txtPlayerInitials"));
+    initials.setFocus();
+    QTest::mouseClick(&place(0), Qt::LeftButton);
+    QTest::mouseClick(&place(16), Qt::LeftButton);
+    EXPECT_TRUE(initials.hasFocus());
+    QTest::keyClick(&initials, Qt::Key_Return);
+    EXPECT_TRUE(find(QStringLiteral("txtPlayerName")).hasFocus());
+}
+
+TEST_F(BoardViewTest, TheArrowKeysStillReachPlacesThatTabPassesBy)
+{
+    place(0).setFocus();
+    QTest::keyClick(&place(0), Qt::Key_Down);
+    EXPECT_TRUE(place(1).hasFocus());
+    EXPECT_TRUE(place(1).focusPolicy() & Qt::TabFocus) << "the bracket is one stop: the place that had the focus last";
+    EXPECT_FALSE(place(0).focusPolicy() & Qt::TabFocus);
+}
+
 TEST_F(BoardViewTest, ADropBesideThePlacesDoesNothing)
 {
     pressAndDrag(place(0), onBracket(find(QStringLiteral("lblTitle"))));

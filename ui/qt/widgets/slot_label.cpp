@@ -41,8 +41,8 @@ SlotLabel::SlotLabel(Part part, QWidget* parent) : QAbstractButton{parent}, m_pa
     static const bool kInstalled = (QAccessible::installFactory(&speakForMarker), true);
     static_cast<void>(kInstalled);
     setMouseTracking(true);
-    if (part == Part::Marker)
-        setFocusPolicy(Qt::NoFocus);
+    // A click picks a team and leaves the keyboard where it is: in the field that is being filled in.
+    setFocusPolicy(part == Part::Marker ? Qt::NoFocus : Qt::TabFocus);
 }
 
 void SlotLabel::show(const QString& text, const QColor& colour)
