@@ -89,7 +89,7 @@ void frmPoolMain::describePositions()
         if (isFirstRound(Position{i})) {
             const int row = i % kRegionBlock;
             ui::TextBox& seed = txtSeed[static_cast<std::size_t>(kRowsPerRegion * region + row)];
-            seed.spokenName = "Seed of " + place + "row " + std::to_string(row + 1) + ": " + withoutBlanks(seed.text);
+            seed.spokenName = "Seed of " + place + "row " + std::to_string(row + 1);
             place += "first round, row " + std::to_string(row + 1) + ", seed " + withoutBlanks(seed.text);
         } else {
             place += spokenGame(Position{i});

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QFontMetricsF>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -89,18 +90,19 @@ void BracketCanvas::makeHeads()
         caption->setAutoFillBackground(true);
 }
 
-/// Nobody types into them here, so labels do: 64 text boxes would be felt at the start, and at every click.
 void BracketCanvas::makeSeeds()
 {
-    constexpr int kBesideTheName = 2;
+    QPalette throughToTheBoard; // a style sheet for each of them would be felt at the start
+    throughToTheBoard.setColor(QPalette::Base, Qt::transparent);
     for (std::size_t i = 0; i < m_seeds.size(); ++i) {
-        ui::TextBox& shown = m_board.txtSeed[i];
-        auto* const seed = m_page.adopt(shown, new QLabel{this});
-        seed->setTextFormat(Qt::PlainText);
-        seed->setContentsMargins(kBesideTheName, 0, kBesideTheName, 0);
-        seed->setAlignment(Qt::AlignVCenter | (i < kTeams / 2 ? Qt::AlignRight : Qt::AlignLeft));
+        auto* const seed = qobject_cast<QLineEdit*>(m_page.add(m_board.txtSeed[i]));
+        seed->setParent(this);
+        seed->setFrame(false);
+        seed->setMinimumSize(0, 0);
+        seed->setAlignment(i < kTeams / 2 ? Qt::AlignRight : Qt::AlignLeft);
+        seed->setFocusPolicy(Qt::NoFocus);
         seed->setAttribute(Qt::WA_TransparentForMouseEvents);
-        m_page.follow(shown.text, [seed](const std::string& text) { seed->setText(toQString(text)); });
+        seed->setPalette(throughToTheBoard);
         m_seeds[i] = seed;
     }
 }
