@@ -217,6 +217,8 @@ void frmPoolEMail::setFreeEntry(bool on)
     m_freeEntry = on;
     cmdFreeEntry.enabled = !on;
     cmdUseList.enabled = on;
+    txtEntry.explanation = on ? "Type an address, and press Enter to add it."
+                              : "Type the first letters of a player's name, and press Enter to add the address.";
     focused = &txtEntry;
 }
 

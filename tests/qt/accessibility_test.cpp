@@ -14,6 +14,7 @@
 #include <QApplication>
 #include <QTest>
 #include <QTimer>
+#include <array>
 #include <gtest/gtest.h>
 
 namespace tallyhoop::qt {
