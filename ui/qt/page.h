@@ -191,6 +191,7 @@ private:
     void followEntry(ui::MenuEntry& entry, QAction& action);
 
     bool filterKey(ui::Control& control, QKeyEvent& event);
+    bool leavesToMenu(const QLineEdit& edit, QKeyEvent& key) const;
     bool filterInputMethod(ui::Control& control, QEvent& event);
     void endComposing();
     bool filterPaste(ui::TextBox& box, QLineEdit& edit, QEvent& event);
@@ -222,6 +223,7 @@ private:
     const ui::Control* m_pointed = nullptr;
     bool m_focusMoved = false; ///< since the screen's hint was new
     QButtonGroup* m_singleOptions = nullptr;
+    const QLineEdit* m_typedInto = nullptr;   ///< unless something else was done since
     const QLineEdit* m_clickedInto = nullptr; ///< got its focus by the mouse press that is on its way
     Composing m_composing;
     bool m_selectedOnFocus = false; ///< and the screen selected text in it for that

@@ -92,6 +92,14 @@ bool isModifier(int key)
            key == Qt::Key_AltGr || key == Qt::Key_CapsLock || key == Qt::Key_NumLock;
 }
 
+/// @returns whether a key would undo or redo in the box itself; Qt would give every box its key, even for nothing
+bool isForBox(const QLineEdit& edit, QKeyEvent& key)
+{
+    if (key.matches(QKeySequence::Undo))
+        return edit.isUndoAvailable(); // of a locked box never
+    return edit.isRedoAvailable();
+}
+
 bool isNavigation(int key)
 {
     const ui::Key meaning = keyOf(key);
@@ -114,6 +122,10 @@ bool Page::eventFilter(QObject* watched, QEvent* event)
         return true;
     auto* box = dynamic_cast<ui::TextBox*>(&control);
     auto* edit = qobject_cast<QLineEdit*>(watched);
+    if (event->type() == QEvent::MouseButtonPress && !edit)
+        m_typedInto = nullptr;
+    if (edit && event->type() == QEvent::ShortcutOverride && leavesToMenu(*edit, static_cast<QKeyEvent&>(*event)))
+        return true;
     if (edit)
         keepSelectionThroughClick(*edit, *event);
     if (edit && m_composing.edit == edit && event->type() == QEvent::FocusOut)
@@ -121,6 +133,18 @@ bool Page::eventFilter(QObject* watched, QEvent* event)
     if (box && edit && !edit->isReadOnly() && filterPaste(*box, *edit, *event))
         return true;
     return QMainWindow::eventFilter(watched, event);
+}
+
+/// Undo and redo belong to the box as long as it was typed into last, then to the screen's menu: the step taken last is
+/// the one to take back. Where the menu has nothing, the key still comes to the box.
+bool Page::leavesToMenu(const QLineEdit& edit, QKeyEvent& key) const
+{
+    if (!key.matches(QKeySequence::Undo) && !key.matches(QKeySequence::Redo))
+        return false;
+    if (m_typedInto == &edit && isForBox(edit, key))
+        return false;
+    key.ignore();
+    return true;
 }
 
 bool Page::pressed(ui::Control& control, const ui::KeyPress& press)

@@ -26,7 +26,10 @@ QAction* Page::addEntry(ui::MenuEntry& entry, QWidget& holder)
     QAction* action = nullptr;
     if (entry.children.empty()) {
         action = new QAction{&holder};
-        connect(action, &QAction::triggered, this, [this, &entry] { run([&entry] { entry.click(); }); });
+        connect(action, &QAction::triggered, this, [this, &entry] {
+            m_typedInto = nullptr;
+            run([&entry] { entry.click(); });
+        });
     } else {
         auto* menu = new QMenu{&holder};
         for (ui::MenuEntry* child : entry.children)

@@ -187,6 +187,7 @@ QLineEdit* Page::addLine(ui::TextBox& box)
     connect(edit, &QLineEdit::textEdited, this, [this, edit, &box] {
         if (m_composing.edit == edit)
             return; // the selection made room for what is being composed
+        m_typedInto = edit;
         showAsSaved(*edit);
         edited(box);
     });

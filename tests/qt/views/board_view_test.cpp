@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QTest>
 #include <QToolTip>
 
@@ -115,6 +116,49 @@ TEST_F(BoardViewTest, AClickOnATeamLeavesTheKeyboardInTheField)
     EXPECT_TRUE(initials.hasFocus());
     QTest::keyClick(&initials, Qt::Key_Return);
     EXPECT_TRUE(find(QStringLiteral("txtPlayerName")).hasFocus());
+}
+
+TEST_F(BoardViewTest, UndoAndRedoReachTheBracketWhileTheKeyboardIsInAField)
+{
+    auto& initials = find(QStringLiteral("txtPlayerInitials"));
+    QTest::mouseClick(&place(0), Qt::LeftButton);
+    ASSERT_EQ(team(16), "Arizona");
+    ASSERT_TRUE(initials.hasFocus());
+    QTest::keyClick(&initials, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(team(16), "");
+    QTest::keyClick(&initials, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(team(16), "Arizona");
+}
+
+TEST_F(BoardViewTest, UndoTakesBackWhatCameLastWhetherItWasTypedOrClicked)
+{
+    auto& initials = find<QLineEdit>(QStringLiteral("txtPlayerInitials"));
+    const auto undo = [&] { QTest::keyClick(&initials, Qt::Key_Z, Qt::ControlModifier); };
+    QTest::mouseClick(&place(0), Qt::LeftButton);
+    QTest::keyClick(&initials, Qt::Key_J);
+    ASSERT_EQ(initials.text(), QStringLiteral("j"));
+
+    undo(); // typed last
+    EXPECT_EQ(initials.text(), QString{});
+    EXPECT_EQ(team(16), "Arizona");
+    undo();
+    EXPECT_EQ(team(16), "");
+
+    QTest::keyClick(&initials, Qt::Key_J);
+    QTest::mouseClick(&place(0), Qt::LeftButton);
+    undo(); // clicked last
+    EXPECT_EQ(team(16), "");
+    EXPECT_EQ(initials.text(), QStringLiteral("j"));
+}
+
+TEST_F(BoardViewTest, UndoBringsBackTheBoardThatNewHasEmptiedWhileTheKeyboardIsInAField)
+{
+    auto& initials = find<QLineEdit>(QStringLiteral("txtPlayerInitials"));
+    QTest::keyClick(&initials, Qt::Key_J);
+    QTest::keyClick(&initials, Qt::Key_N, Qt::ControlModifier);
+    ASSERT_EQ(initials.text(), QString{});
+    QTest::keyClick(&initials, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(initials.text(), QStringLiteral("j"));
 }
 
 TEST_F(BoardViewTest, TheArrowKeysStillReachPlacesThatTabPassesBy)
