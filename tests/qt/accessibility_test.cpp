@@ -1,9 +1,9 @@
 // tests/qt/accessibility_test.cpp - every screen, for those who listen to it, use the keyboard, or need it large.
 #include "app/wiring.h"
 #include "bracket/frmPoolMain.h"
-#include "model/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
+#include "model/sample_pool.h"
 #include "qt/accessibility.h"
 #include "scoring/frmPoolMisc.h"
 #include "ui/qt/main_frame.h"
@@ -44,6 +44,20 @@ protected:
         EXPECT_LE(page->window()->width(), 1366);
         EXPECT_LE(page->window()->height(), 768 - kDesktop);
         EXPECT_EQ(troublesOf(*page), "");
+        EXPECT_EQ(unexplained(*page), "");
+    }
+
+    /// What the keyboard reaches, and the line at the bottom says nothing about.
+    static std::string unexplained(const Page& page)
+    {
+        std::string names;
+        for (const ui::Control* control : page.screen().controls()) {
+            const QWidget* const widget = page.widgetOf(*control);
+            const bool reached = widget && widget->isVisible() && widget->focusPolicy() & Qt::TabFocus;
+            if (reached && control->explanation.empty())
+                names += control->name + "\n";
+        }
+        return names;
     }
 
     /// Loads a modal screen, examines it and leaves it.
@@ -89,6 +103,22 @@ TEST_P(Accessibility, OfAScoredSelection)
               (QColor{0, 255, 0}));
     EXPECT_EQ(host.page(ScreenKind::Board)->widgetOf(board().lblRegion[18])->palette().color(QPalette::WindowText),
               (QColor{255, 0, 0}));
+}
+
+TEST_P(Accessibility, OfTheLongestNamesOfTheList)
+{
+    // Given the longest names that come with the program, in the narrowest places: winners with their marks.
+    onBoard([&] {
+        constexpr std::array kLongest{"UT Rio Grande Valley", "Missouri-Kansas City", "Fairleigh Dickinson",
+                                      "Charleston Southern"};
+        for (std::size_t i = 0; i < board().lblRegion.size(); ++i)
+            board().lblRegion[i].text = kLongest[i % kLongest.size()];
+        for (std::size_t i = 0; i < board().lblResult.size(); ++i) {
+            board().lblResult[i].text = "X";
+            board().lblResult[i].spokenName = "X wrong pick";
+        }
+    });
+    examine(ScreenKind::Board);
 }
 
 TEST_P(Accessibility, OfTheScores)

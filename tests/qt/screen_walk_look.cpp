@@ -37,9 +37,6 @@ bool labelFits(const QLabel& label)
            metrics.tightBoundingRect(label.text()).height() <= room.height();
 }
 
-/// A team's name may be cut where something else says it whole: a tool tip, or in the first round the status line.
-bool slotFits(const SlotLabel& slot) { return !slot.isElided() || slot.part() != SlotLabel::Part::Marker; }
-
 bool lineFits(const QLineEdit& line)
 {
     const int edges = line.hasFrame() ? 2 * line.style()->pixelMetric(QStyle::PM_DefaultFrameWidth) : 0;
@@ -52,7 +49,7 @@ bool textFits(const QWidget& widget)
     if (widget.fontMetrics().tightBoundingRect(QStringLiteral("Ag")).height() > widget.height())
         return false;
     if (const auto* slot = qobject_cast<const SlotLabel*>(&widget))
-        return slotFits(*slot);
+        return !slot->isElided();
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
         return labelFits(*label);
     if (const auto* line = qobject_cast<const QLineEdit*>(&widget))

@@ -16,6 +16,7 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr int kInset = 4;
+constexpr int kNarrowest = 70; ///< percent of a letter's width, with which names can still be read with ease
 const QColor kOutline{150, 155, 168};
 const QColor kPathOutline{240, 150, 20};
 const QColor kLandOutline{30, 150, 90};
@@ -85,7 +86,19 @@ QRect SlotLabel::inside(int edge) const
     return rect().adjusted(left, edge, -right, -edge);
 }
 
-bool SlotLabel::isElided() const { return fontMetrics().horizontalAdvance(text()) > textPlace().width(); }
+bool SlotLabel::isElided() const { return QFontMetrics{fittingFont()}.horizontalAdvance(text()) > textPlace().width(); }
+
+/// The font in letters as narrow as the name needs, within reason: a whole name says more than most of one.
+QFont SlotLabel::fittingFont() const
+{
+    QFont fitting = font();
+    const int room = textPlace().width();
+    for (int stretch = 100; stretch > kNarrowest && QFontMetrics{fitting}.horizontalAdvance(text()) > room;) {
+        stretch -= 5;
+        fitting.setStretch(stretch);
+    }
+    return fitting;
+}
 
 void SlotLabel::paintEvent(QPaintEvent*)
 {
@@ -99,7 +112,9 @@ void SlotLabel::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), outline);
     painter.fillRect(inside(m_emphasis == Emphasis::None ? 1 : 2), groundOf(m_colour));
     painter.setPen(m_colour);
-    const QString cut = fontMetrics().elidedText(text(), Qt::ElideRight, textPlace().width());
+    const QFont fitting = fittingFont();
+    const QString cut = QFontMetrics{fitting}.elidedText(text(), Qt::ElideRight, textPlace().width());
+    painter.setFont(fitting);
     const Qt::Alignment alignment = m_part == Part::Marker ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft;
     painter.drawText(textPlace(), static_cast<int>(alignment) | Qt::TextSingleLine, cut);
     if (isReachedByKeys()) {

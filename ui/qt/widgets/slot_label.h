@@ -30,7 +30,7 @@ public:
     /// @returns whether it has the focus, and not from a mouse press
     bool isReachedByKeys() const { return hasFocus() && m_reachedByKeys; }
 
-    /// @returns whether the name is cut when painted
+    /// @returns whether the name is cut when painted: too long for its place even in narrow letters
     bool isElided() const;
 
     Part part() const { return m_part; }
@@ -49,6 +49,7 @@ protected:
 
 private:
     QRect textPlace() const;
+    QFont fittingFont() const;
     QRect inside(int edge) const;
 
     Part m_part;
