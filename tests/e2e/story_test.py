@@ -3,7 +3,7 @@
 import unittest
 
 from pool_2000 import selection, setup_file
-from program import Program
+from program import Program, centre
 from sample_pool import install
 
 BLUE, GREEN, RED = "#0000ff", "#00ff00", "#ff0000"
@@ -160,6 +160,18 @@ class InDemoMode(Story):
         for entry in ("mnuNewSelection", "mnuOpenSelection", "mnuSaveSelection", "mnuScoreSelections", "mnuGameResults",
                       "mnuReports"):
             self.assertFalse(self.program.action(entry)["enabled"], entry)
+
+
+class OnALargeDisplay(unittest.TestCase):
+    def test_the_window_stands_in_the_middle_and_the_first_question_over_it(self):
+        with Program(size=(1920, 1080)) as program:
+            program.start()
+            question = centre(program.box("** DEMO MODE OPTION **")["rect"])
+            [frame] = [window["rect"] for window in program.windows() if window["name"] == "frmPoolMIDI"]
+            self.assertEqual(frame[2:], [1280, 860])
+            for place, middle in ((centre(frame), (960, 540)), (question, centre(frame))):
+                self.assertAlmostEqual(place[0], middle[0], delta=60)
+                self.assertAlmostEqual(place[1], middle[1], delta=60)
 
 
 class AnOwnPool(Story):

@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QScreen>
 #include <QStackedWidget>
+#include <QStyle>
 
 namespace tallyhoop::qt {
 
@@ -29,8 +30,9 @@ MainFrame::MainFrame() : m_stack{new QStackedWidget}
 
 void MainFrame::open()
 {
-    resize(kComfortable);
-    const QSize available = screen()->availableSize();
+    const QRect available = screen()->availableGeometry();
+    // In the middle, and known before it is shown: what is asked at the start stands over it.
+    setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, kComfortable, available));
     if (available.width() < kComfortable.width() + 100 || available.height() < kComfortable.height() + 60)
         showMaximized();
     else
