@@ -82,6 +82,15 @@ TEST(HelpViewer, OpensAtATopic)
     EXPECT_EQ(help.part<HelpText>("helpText").verticalScrollBar()->value(), 0);
 }
 
+TEST(HelpViewer, GoesBackOnlyToWhatWasRead)
+{
+    Help help;
+    ASSERT_TRUE(help.show("files"));
+    EXPECT_FALSE(help.part<HelpText>("helpText").isBackwardAvailable());
+    ASSERT_TRUE(help.show("start"));
+    EXPECT_TRUE(help.part<HelpText>("helpText").isBackwardAvailable());
+}
+
 TEST(HelpViewer, OneWindowServesEveryCall)
 {
     Help help;

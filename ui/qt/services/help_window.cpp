@@ -19,6 +19,9 @@ namespace {
 
 constexpr int kBlockRole = Qt::UserRole; ///< where a contents entry's heading stands: the text block's number
 constexpr int kDeepestHeading = 3;
+constexpr int kContentsWidth = 260;
+constexpr int kTextWidth = 760; ///< the lines of the widest usual report, without scrolling sideways
+constexpr int kHeight = 680;
 const QString kSource = QStringLiteral("help.html");
 
 /// A button of the tool bar with its mnemonic: Qt shows one only in a text that is meant for buttons.
@@ -86,11 +89,11 @@ HelpWindow::HelpWindow(QWidget* parent)
     halves->addWidget(m_contents);
     halves->addWidget(m_text);
     halves->setStretchFactor(1, 1);
-    halves->setSizes({260, 640});
+    halves->setSizes({kContentsWidth, kTextWidth});
     setCentralWidget(halves);
     buildToolBar();
     m_text->setFocus();
-    resize(900, 680);
+    resize(kContentsWidth + kTextWidth, kHeight);
 }
 
 void HelpWindow::buildToolBar()
@@ -149,6 +152,8 @@ void HelpWindow::setHelp(const QByteArray& html)
 }
 
 void HelpWindow::showTopic(const QString& topic) { m_text->showTopic(topic); }
+
+void HelpWindow::forgetWay() { m_text->clearHistory(); }
 
 void HelpWindow::fillContents()
 {

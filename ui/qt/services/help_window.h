@@ -44,6 +44,7 @@ public:
     /// @param html UTF-8
     void setHelp(const QByteArray& html);
     void showTopic(const QString& topic);
+    void forgetWay(); ///< of what was read before: Back then has nowhere to go
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

@@ -27,7 +27,8 @@ Result<Done> QtHelpViewer::show(const std::filesystem::path& helpFile, const std
     QWidget* owner = modal ? modal : m_frame.data();
     if (m_window && m_window->parentWidget() != owner)
         delete m_window.data();
-    if (!m_window)
+    const bool first = !m_window;
+    if (first)
         m_window = new HelpWindow{owner};
     m_window->setHelp(QByteArray::fromStdString(*html));
     if (m_window->isMinimized())
@@ -37,6 +38,8 @@ Result<Done> QtHelpViewer::show(const std::filesystem::path& helpFile, const std
     m_window->activateWindow();
     // After it is shown: a place in the text is known only when the text has its width.
     m_window->showTopic(toQString(topic));
+    if (first)
+        m_window->forgetWay();
     return Done{};
 }
 
