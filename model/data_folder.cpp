@@ -187,8 +187,13 @@ bool isSameFile(const fs::path& left, const fs::path& right)
         return true;
     const fs::path fullLeft = fullPath(left);
     const fs::path fullRight = fullPath(right);
-    return fullLeft.parent_path() == fullRight.parent_path() &&
-           equalFolded(shown(fullLeft.filename()), shown(fullRight.filename()));
+    if (fullLeft.parent_path() != fullRight.parent_path())
+        return false;
+    // A letter that our code page lacks is shown as "?": only the very name tells such files apart.
+    const std::string nameLeft = shown(fullLeft.filename());
+    const bool isShownWhole = nameLeft.find('?') == std::string::npos;
+    return isShownWhole ? equalFolded(nameLeft, shown(fullRight.filename()))
+                        : fullLeft.filename() == fullRight.filename();
 }
 
 std::string withoutUnsafeCharacters(std::string_view name)

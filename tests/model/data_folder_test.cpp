@@ -215,6 +215,12 @@ TEST(IsSameFile, IgnoresCase)
     EXPECT_FALSE(isSameFile("/pool/Smith_JS.THC", "/other/Smith_JS.THC"));
 }
 
+TEST(IsSameFile, TellsApartNamesWhoseLettersOurCodePageLacks)
+{
+    EXPECT_FALSE(isSameFile(fs::path{"/pool"} / u8"Łukasz_L.THC", fs::path{"/pool"} / u8"Ńukasz_L.THC"));
+    EXPECT_TRUE(isSameFile(fs::path{"/pool"} / u8"Łukasz_L.THC", fs::path{"/pool/x/.."} / u8"Łukasz_L.THC"));
+}
+
 TEST(IsSameFile, SeesThroughDetoursAndLinks)
 {
     const ScratchFolder scratch;
