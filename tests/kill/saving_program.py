@@ -9,7 +9,7 @@ import subprocess
 import tempfile
 import threading
 
-BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
+BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build")).resolve()
 CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 120))  # seconds; only a failing test ever waits that long
 OPENED = "Demo Prophet_DP.THC"  # a player of the sample pool
