@@ -3,6 +3,7 @@
 #include "app/start_up.h"
 #include "app/wiring.h"
 #include "model/help_display.h"
+#include "model/replace_file.h"
 #include "ui/qt/desk.h"
 #include "ui/qt/look.h"
 #include "ui/qt/main_frame.h"
@@ -37,6 +38,7 @@ DataFolder programFolder()
 
 int main(int argc, char** argv)
 {
+    outliveFileSizeLimits();
     QApplication application{argc, argv};
     QApplication::setApplicationName("Tallyhoop");
     QApplication::setApplicationVersion(TALLYHOOP_VERSION);

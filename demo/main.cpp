@@ -1,4 +1,5 @@
 // demo/main.cpp - DEMOSET.EXE: puts the sample pool into the folder in which this program lies.
+#include "model/replace_file.h"
 #include "model/sample_pool.h"
 #include "model/windows1252.h"
 
@@ -31,6 +32,7 @@ std::filesystem::path ownFolder()
 
 int main()
 {
+    tallyhoop::outliveFileSizeLimits();
     try {
         const tallyhoop::DataFolder folder{ownFolder()};
         const tallyhoop::Result<tallyhoop::Done> installed = tallyhoop::demo::installSamplePool(folder);

@@ -13,6 +13,10 @@ namespace tallyhoop {
 /// @returns a failure with the system's reason; then the old file is untouched and the temporary is gone
 Result<Done> replaceFile(const std::filesystem::path& file, std::string_view bytes);
 
+/// Has a limit on the size of files met like a full disk: by a failed write, not by the end of the program. To be
+/// called once, before anything is written.
+void outliveFileSizeLimits();
+
 /// Reads a whole file.
 /// @returns a failure with the system's reason when it is missing, not a file, or unreadable
 Result<std::string> readFile(const std::filesystem::path& file);

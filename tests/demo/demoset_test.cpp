@@ -21,11 +21,13 @@ struct DemosetTest : testing::Test {
         fs::copy_file(TALLYHOOP_DEMOSET, folder / "DEMOSET.EXE");
     }
 
-    /// Starts it from somewhere else. @returns whether it says that it succeeded
-    bool start() const
+    /// Starts it from somewhere else.
+    /// @param before what the shell does before
+    /// @returns whether it says that it succeeded
+    bool start(const std::string& before = "cd /") const
     {
-        const std::string command =
-            "cd / && \"" + (folder / "DEMOSET.EXE").string() + "\" 2>\"" + (scratch.path() / "words").string() + "\"";
+        const std::string command = before + " && \"" + (folder / "DEMOSET.EXE").string() + "\" 2>\"" +
+                                    (scratch.path() / "words").string() + "\"";
         return std::system(command.c_str()) == 0;
     }
 };
@@ -46,6 +48,13 @@ TEST_F(DemosetTest, RefusesAFolderThatHasAFieldAndSaysSo)
     EXPECT_EQ(scratch.get("a pool's folder/POOLSTART.THS"), "mine");
     EXPECT_EQ(std::distance(fs::directory_iterator{folder}, {}), 2);
     EXPECT_THAT(scratch.get("words"), testing::HasSubstr("POOLSTART.THS"));
+}
+
+TEST_F(DemosetTest, LeavesNothingBehindWhereFilesMayNotGrow)
+{
+    EXPECT_FALSE(start("ulimit -f 1")) << "a block: half a kilobyte or one, less than the sample field";
+    EXPECT_EQ(std::distance(fs::directory_iterator{folder}, {}), 1) << "itself";
+    EXPECT_THAT(scratch.get("words"), testing::HasSubstr("could not be written"));
 }
 
 } // namespace
