@@ -116,9 +116,17 @@ void waitForSamplePool(const DataFolder& folder)
 Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& folder, const ui::Clock& clock)
 {
     std::vector<std::string> own;
-    for (const char* name : demoDataFiles())
+    std::vector<std::string> all;
+    std::error_code ignored;
+    for (const char* name : demoDataFiles()) {
         if (isOwnFile(folder, name))
             own.emplace_back(name);
+        if (const auto file = folder.pathOf(name); file && std::filesystem::is_regular_file(*file, ignored))
+            all.emplace_back(name);
+    }
+    // A pool of one's own stays together, even where one of its files is like the demo's.
+    if (!own.empty() && !demoModeIsOn(folder))
+        own = all;
     if (own.empty())
         return std::optional<std::filesystem::path>{};
     const Result<std::filesystem::path> backup = backUp(folder, own, clock.now());

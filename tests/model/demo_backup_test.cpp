@@ -9,6 +9,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
+TEST(StartDemo, KeepsAPoolOfOnesOwnWholeEvenWhereAFileIsLikeTheDemos)
+{
+    Pool pool;
+    const demo::SampleFile results = demo::sampleFiles().front();
+    pool.scratch.put(results.name, results.bytes);
+    pool.platform.programs.whenStarted = [&pool] { pool.scratch.put("TALLYHOOP.INI", "1\r\n"); };
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(entriesOf(pool.scratch.path() / kBackup),
+              (std::vector<std::string>{"PLAYERNAMES.CSV", "POOLSTART.THS", "TALLYHOOP.THS"}));
+}
+
 TEST(StartDemo, MovesAPoolOfOnesOwnIntoADatedSubfolder)
 {
     Pool pool;
