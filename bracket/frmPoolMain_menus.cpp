@@ -62,11 +62,12 @@ void frmPoolMain::openReports()
 
 void frmPoolMain::demoSet()
 {
-    if (!enterDemo(m_folder, m_platform))
+    const std::optional<Opening> opening = enterDemo(m_folder, m_platform);
+    if (!opening)
         return;
     leaveScoreDisplay();
     m_screens.unload(ScreenKind::Board);
-    m_screens.load(ScreenKind::Board, Opening::DemoEntered);
+    m_screens.load(ScreenKind::Board, *opening);
 }
 
 void frmPoolMain::demoReset()

@@ -8,11 +8,11 @@
 #include "model/sample_pool.h"
 #include "model/settings_file.h"
 #include "model/text.h"
+#include "model/work.h"
 
 #include <chrono>
 #include <string>
 #include <string_view>
-#include <thread>
 #include <vector>
 
 namespace tallyhoop {
@@ -101,14 +101,22 @@ std::optional<Failure> obstacle(const std::filesystem::path& installer, const Da
 }
 
 /// The person's OK mostly comes long after the installer has finished. One that comes at once must not find half a
-/// pool: the settings file is written last. An installer that fails is given up after a while.
-void waitForSamplePool(const DataFolder& folder)
+/// pool: the settings file is written last.
+/// @returns why there is no sample pool, if so
+std::optional<Failure> waitForSamplePool(const DataFolder& folder, const ui::Platform& platform)
 {
     using namespace std::chrono_literals;
     constexpr auto kStep = 10ms;
-    constexpr auto kLongest = 10s;
-    for (auto waited = 0ms; waited < kLongest && !demoModeIsOn(folder); waited += kStep)
-        std::this_thread::sleep_for(kStep);
+    constexpr int kMostSteps = 1000;
+    Work work{platform.progress, "Installing the sample pool", kMostSteps};
+    do {
+        const std::optional<Result<Done>> end = platform.programs.waitForEnd(kStep);
+        if (demoModeIsOn(folder)) // asked after the end: the last file may have come just before it
+            return std::nullopt;
+        if (end)
+            return *end ? Failure{"It has ended without writing a sample pool."} : end->failure();
+    } while (work.step() && work.done() < kMostSteps);
+    return Failure{"It has not finished."};
 }
 
 } // namespace
@@ -144,33 +152,36 @@ Result<Done> clearDemoDataFiles(const DataFolder& folder)
     return outcome;
 }
 
-bool startDemo(const DataFolder& folder, const ui::Platform& platform)
+std::optional<Opening> startDemo(const DataFolder& folder, const ui::Platform& platform)
 {
     const std::filesystem::path installer =
         folder.pathOf(file_name::kDemoInstaller).value_or(folder.folder() / file_name::kDemoInstaller);
     if (const std::optional<Failure> failure = obstacle(installer, folder, platform)) {
         platform.dialogs.show(trouble("Demonstration mode cannot be started. Nothing was changed.", *failure));
-        return false;
+        return std::nullopt;
     }
     const Result<std::optional<std::filesystem::path>> backup = keepOwnFiles(folder, platform.clock);
     if (!backup) {
         platform.dialogs.show(trouble("Demonstration mode cannot be started. Nothing was changed.", backup.failure()));
-        return false;
+        return std::nullopt;
     }
     const std::optional<ui::Message> failure = clearAndInstall(folder, installer, platform.programs);
     platform.dialogs.show(failure.value_or(kContinueInDemo));
     if (*backup)
         platform.dialogs.show(ownPoolIsIn(**backup));
     if (failure)
-        return false;
-    waitForSamplePool(folder);
-    return true;
+        return Opening::Plain;
+    const std::optional<Failure> noPool = waitForSamplePool(folder, platform);
+    if (!noPool)
+        return Opening::DemoEntered;
+    platform.dialogs.show(trouble("The sample pool could not be installed.", failureAt(shown(installer), *noPool)));
+    return Opening::Plain;
 }
 
-bool enterDemo(const DataFolder& folder, const ui::Platform& platform)
+std::optional<Opening> enterDemo(const DataFolder& folder, const ui::Platform& platform)
 {
     if (platform.dialogs.show(askBeforeEntering()) == ui::Answer::Cancel)
-        return false;
+        return std::nullopt;
     return startDemo(folder, platform);
 }
 

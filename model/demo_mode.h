@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/data_folder.h"
+#include "model/screens.h"
 #include "ui/platform.h"
 
 #include <array>
@@ -26,12 +27,13 @@ Result<Done> clearDemoDataFiles(const DataFolder& folder);
 
 /// Keeps the person's own files, clears the data files, starts the installer, waits for the person's OK, says where the
 /// own files are, and waits for the sample pool to be there. When the installer cannot be started, the folder cannot be
-/// written or a file cannot be kept, says so and deletes nothing.
-/// @returns whether the sample pool was asked for
-bool startDemo(const DataFolder& folder, const ui::Platform& platform);
+/// written or a file cannot be kept, says so and deletes nothing. When the sample pool does not come, says that too.
+/// @returns how the screen is to be loaded anew: in demo mode, or plainly, when the files are gone and no sample pool
+///          has come; nothing when the files are as they were
+std::optional<Opening> startDemo(const DataFolder& folder, const ui::Platform& platform);
 
-/// The question before demo mode is entered. @returns whether the person wants it and it was started
-bool enterDemo(const DataFolder& folder, const ui::Platform& platform);
+/// The question before demo mode is entered. @returns as startDemo(); nothing when the person does not want it
+std::optional<Opening> enterDemo(const DataFolder& folder, const ui::Platform& platform);
 
 /// Deletes the sample pool and says that normal operation follows. What the person has changed meanwhile is kept; when
 /// it cannot be, says so and deletes nothing.

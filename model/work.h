@@ -22,6 +22,9 @@ public:
     /// One more step is done. @returns false when the person has cancelled; so does every later step
     bool step();
 
+    /// @returns the number of steps done
+    int done() const { return m_done; }
+
     bool cancelled() const { return m_cancelled; }
 
 private:

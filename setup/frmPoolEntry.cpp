@@ -235,8 +235,8 @@ void frmPoolEntry::unloading()
 
 void frmPoolEntry::startDemoMode()
 {
-    if (enterDemo(m_folder, m_platform))
-        reload(Opening::DemoEntered);
+    if (const std::optional<Opening> opening = enterDemo(m_folder, m_platform))
+        reload(*opening);
 }
 
 void frmPoolEntry::resetDemoMode()

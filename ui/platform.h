@@ -8,6 +8,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <optional>
 #include <string>
 
 namespace tallyhoop::ui {
@@ -23,7 +24,8 @@ public:
     virtual Result<Done> show(const std::filesystem::path& helpFile, const std::string& topic) = 0;
 };
 
-/// Starts other programs: directly, without a shell or a search path, with a hidden window, never waited for.
+/// Starts other programs, one after another: directly, without a shell or a search path, with a hidden window. They go
+/// on when this program ends.
 class Programs
 {
 public:
@@ -32,6 +34,11 @@ public:
     /// @returns a failure with the system's reason when the program is missing or may not be started
     virtual Result<Done> check(const std::filesystem::path& program) = 0;
     virtual Result<Done> start(const std::filesystem::path& program) = 0;
+
+    /// Waits for the end of the program that was started last, but no longer than so long.
+    /// @returns nothing while it runs, or when none was started; a failure, with what the program says of it, when it
+    ///          has failed
+    virtual std::optional<Result<Done>> waitForEnd(std::chrono::milliseconds atMost) = 0;
 };
 
 class Clock

@@ -73,6 +73,15 @@ TEST_F(StartUp, LeavesTheBoardAsItIsWhenTheInstallerCannotBeStarted)
     EXPECT_EQ(screens.loads, std::vector{kBoard});
 }
 
+TEST_F(StartUp, ShowsWhatIsThereWhenNoSamplePoolComes)
+{
+    platform.programs.end = Failure{"No space left on device"};
+    platform.dialogs.answer(ui::Answer::Ok);
+    start();
+    EXPECT_EQ(platform.dialogs.shown.back().icon, ui::Icon::Critical);
+    EXPECT_EQ(screens.loads, (std::vector{kBoard, kBoard}));
+}
+
 TEST_F(StartUp, RepeatsTheOfferForAsLongAsNoFieldWasSaved)
 {
     platform.dialogs.answer(ui::Answer::Cancel).answer(ui::Answer::Cancel);

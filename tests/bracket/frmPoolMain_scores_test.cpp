@@ -243,6 +243,16 @@ TEST_F(frmPoolMainScores, EnteringDemoModeReloadsTheBoard)
     EXPECT_EQ(screens.loads.back(), (FakeScreens::Load{ScreenKind::Board, Opening::DemoEntered}));
 }
 
+TEST_F(frmPoolMainScores, ADemoThatDidNotComeReloadsTheBoardPlainly)
+{
+    load();
+    platform.programs.end = Failure{"No space left on device"};
+    platform.dialogs.answer(ui::Answer::Ok);
+    board->mnuDemoSet.click();
+    EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
+    EXPECT_EQ(screens.loads.back(), (FakeScreens::Load{ScreenKind::Board, Opening::Plain}));
+}
+
 TEST_F(frmPoolMainScores, LeavingDemoModeAsksNothingAndReloadsTheBoard)
 {
     putDemoMode();

@@ -28,11 +28,27 @@ public:
     std::vector<std::filesystem::path> pdfs;
 
     std::vector<std::string> fontNames() override { return fonts; }
-    bool choosePrinter() override { ++printerDialogs; return dialogAccepted; }
-    std::optional<ui::PrinterFont> chooseFont() override { ++fontDialogs; return chosenFont; }
+    bool choosePrinter() override
+    {
+        ++printerDialogs;
+        return dialogAccepted;
+    }
+    std::optional<ui::PrinterFont> chooseFont() override
+    {
+        ++fontDialogs;
+        return chosenFont;
+    }
     int pageWidthTwips(ui::Orientation) override { return pageWidth; }
-    Result<Done> print(const ui::TextPrintout& printout) override { texts.push_back(printout); return outcome(); }
-    Result<Done> print(const ui::DrawingPrintout& printout) override { drawings.push_back(printout); return outcome(); }
+    Result<Done> print(const ui::TextPrintout& printout) override
+    {
+        texts.push_back(printout);
+        return outcome();
+    }
+    Result<Done> print(const ui::DrawingPrintout& printout) override
+    {
+        drawings.push_back(printout);
+        return outcome();
+    }
     Result<Done> savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file) override
     {
         texts.push_back(printout);
@@ -111,6 +127,8 @@ public:
     std::optional<Failure> startTrouble;
     std::vector<std::filesystem::path> started;
     std::function<void()> whenStarted; ///< what the program does
+    std::function<void()> whileWaitedFor;
+    std::optional<Result<Done>> end; ///< how the started program has ended
 
     Result<Done> check(const std::filesystem::path&) override
     {
@@ -124,6 +142,12 @@ public:
         if (whenStarted)
             whenStarted();
         return Done{};
+    }
+    std::optional<Result<Done>> waitForEnd(std::chrono::milliseconds) override
+    {
+        if (whileWaitedFor)
+            whileWaitedFor();
+        return end;
     }
 };
 

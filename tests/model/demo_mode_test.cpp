@@ -2,12 +2,19 @@
 #include "model/demo_pool.h"
 
 #include <gtest/gtest.h>
-#include <thread>
 
 namespace tallyhoop::test {
 namespace {
 
 namespace fs = std::filesystem;
+
+ui::Message noSamplePool(const Pool& pool, const std::string& reason)
+{
+    return {kCaption,
+            "The sample pool could not be installed.\r\n \r\n" + (pool.scratch.path() / "DEMOSET.EXE").string() +
+                "\r\n" + reason,
+            ui::Buttons::Ok, ui::Icon::Critical};
+}
 
 TEST(ClearDemoDataFiles, DeletesThePoolAndTheSampleSelectionsOnly)
 {
@@ -55,19 +62,70 @@ TEST(StartDemo, ClearsStartsTheInstallerAndWaitsForOk)
 TEST(StartDemo, LetsASlowInstallerFinishAfterAHastyOk)
 {
     Pool pool;
-    std::thread installer;
-    pool.platform.dialogs.whileShown = [&](const ui::Message& message) {
-        if (message != ownPoolIsIn(pool.scratch.path() / kBackup))
-            return;
-        installer = std::thread{[&pool] {
+    int looks = 0;
+    pool.platform.programs.whileWaitedFor = [&] {
+        ++looks;
+        if (looks == 2)
             pool.scratch.put("POOLSTART.THS", "*START*\r\n*END*\r\n");
-            pool.scratch.put("TALLYHOOP.INI", "1\r\n");
-        }};
+        if (looks == 3)
+            pool.scratch.put("TALLYHOOP.INI", "1\r\n"); // the last file
     };
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
-    EXPECT_TRUE(pool.scratch.has("POOLSTART.THS"));
-    EXPECT_TRUE(demoModeIsOn(pool.scratch.folder()));
-    installer.join();
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::DemoEntered);
+    EXPECT_EQ(looks, 3);
+    EXPECT_EQ(pool.platform.dialogs.shown,
+              (std::vector<ui::Message>{kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup)}));
+}
+
+TEST(StartDemo, TellsAtOnceThatTheInstallerHasFailedAndWhy)
+{
+    Pool pool;
+    int looks = 0;
+    pool.platform.programs.whileWaitedFor = [&] { ++looks; };
+    pool.platform.programs.end = Failure{"The sample pool could not be written.\r\nNo space left on device"};
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(pool.platform.dialogs.shown,
+              (std::vector<ui::Message>{kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup),
+                                        noSamplePool(pool, "The sample pool could not be written.\r\n"
+                                                           "No space left on device")}));
+}
+
+TEST(StartDemo, TellsThatTheInstallerHasEndedWithoutASamplePool)
+{
+    Pool pool;
+    pool.platform.programs.end = Done{};
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has ended without writing a sample pool."));
+}
+
+TEST(StartDemo, TakesTheSamplePoolOfAnInstallerThatHasEnded)
+{
+    Pool pool;
+    pool.platform.programs.whenStarted = [&pool] { pool.scratch.put("TALLYHOOP.INI", "1\r\n"); };
+    pool.platform.programs.end = Done{};
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::DemoEntered);
+}
+
+TEST(StartDemo, GivesAnInstallerUpThatDoesNotFinish)
+{
+    Pool pool;
+    int looks = 0;
+    pool.platform.programs.whileWaitedFor = [&] { ++looks; };
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_EQ(looks, 1000) << "a hundredth of a second each";
+    EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has not finished."));
+}
+
+TEST(StartDemo, GivesTheInstallerUpWhenThePersonDoes)
+{
+    Pool pool;
+    pool.platform.progress.cancelAt = 70;
+    int looks = 0;
+    pool.platform.programs.whileWaitedFor = [&] { ++looks; };
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_EQ(looks, 70);
+    EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has not finished."));
+    EXPECT_EQ(pool.platform.progress.ended, pool.platform.progress.begun);
 }
 
 TEST(StartDemo, DeletesNothingWhenTheInstallerCannotBeStarted)
@@ -103,7 +161,7 @@ TEST(StartDemo, DoesNotStartTheInstallerOverAFileThatCouldNotBeDeleted)
 {
     Pool pool;
     fs::create_directory(pool.scratch.path() / "TALLYHOOP.INI");
-    EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
     EXPECT_TRUE(pool.platform.programs.started.empty());
     ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
     EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
@@ -114,7 +172,7 @@ TEST(StartDemo, SaysThatTheInstallerFailedToStartAfterAll)
 {
     Pool pool;
     pool.platform.programs.startTrouble = Failure{"Out of memory"};
-    EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
     ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
     EXPECT_EQ(pool.platform.dialogs.shown[1], ownPoolIsIn(pool.scratch.path() / kBackup));
     EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode could not be started.\r\n \r\n" +

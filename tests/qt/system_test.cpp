@@ -15,6 +15,10 @@ using namespace tallyhoop::qt;
 
 namespace {
 
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 30s; ///< only a failing test ever waits that long
+
 void makeExecutable(const std::filesystem::path& file)
 {
     std::filesystem::permissions(file, std::filesystem::perms::owner_all);
@@ -62,6 +66,62 @@ TEST(QtPrograms, AProgramOfNoKnownKindFailsToStart)
     makeExecutable(file);
     QtPrograms programs;
     EXPECT_FALSE(programs.start(file));
+}
+
+TEST(QtPrograms, NothingIsToldOfAProgramThatStillRuns)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    const auto file = scratch.put("patient", "#!/bin/sh\nuntil [ -e go ]; do sleep 0.01; done\ntouch gone\n");
+    makeExecutable(file);
+    {
+        QtPrograms programs;
+        EXPECT_FALSE(programs.waitForEnd(0ms)) << "none was started";
+        ASSERT_TRUE(programs.start(file));
+        EXPECT_FALSE(programs.waitForEnd(1ms));
+    }
+    scratch.put("go", "");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scratch.has("gone"); })) << "it goes on without us";
+}
+
+TEST(QtPrograms, AProgramThatSucceedsIsDone)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    const auto file = scratch.put("good", "#!/bin/sh\necho all is well >&2\n");
+    makeExecutable(file);
+    QtPrograms programs;
+    ASSERT_TRUE(programs.start(file));
+    const auto end = programs.waitForEnd(kPatience);
+    ASSERT_TRUE(end.has_value());
+    EXPECT_TRUE(*end);
+    EXPECT_TRUE(*programs.waitForEnd(0ms)) << "and it can be asked again";
+}
+
+TEST(QtPrograms, AProgramThatFailsTellsWhy)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    const auto file = scratch.put("bad", "#!/bin/sh\nprintf 'caf\\303\\251\\r\\nis closed\\n' >&2\nexit 1\n");
+    makeExecutable(file);
+    QtPrograms programs;
+    ASSERT_TRUE(programs.start(file));
+    const auto end = programs.waitForEnd(kPatience);
+    ASSERT_TRUE(end.has_value());
+    ASSERT_FALSE(*end);
+    EXPECT_EQ(end->failure().message, "caf\xE9\r\nis closed");
+}
+
+TEST(QtPrograms, AProgramThatFailsWithoutAWordFailsAllTheSame)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    for (const char* last : {"exit 3", "kill -9 $$"}) {
+        const auto file = scratch.put("bad", std::string{"#!/bin/sh\n"} + last + "\n");
+        makeExecutable(file);
+        QtPrograms programs;
+        ASSERT_TRUE(programs.start(file));
+        const auto end = programs.waitForEnd(kPatience);
+        ASSERT_TRUE(end.has_value());
+        ASSERT_FALSE(*end) << last;
+        EXPECT_EQ(end->failure().message, "It ended without saying why.");
+    }
 }
 
 TEST(QtClock, TellsTheLocalDate)

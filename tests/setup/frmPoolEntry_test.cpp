@@ -249,6 +249,16 @@ TEST_F(frmPoolEntryTest, DemoStartReloadsThisScreenAfterTheQuestion)
     EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Setup, Opening::DemoEntered}}));
 }
 
+TEST_F(frmPoolEntryTest, DemoStartReloadsThisScreenPlainlyWhenNoSamplePoolComes)
+{
+    frmPoolEntry& screen = loaded();
+    computer.programs.end = Failure{"No space left on device"};
+    dialogs().answer(Answer::Ok);
+    screen.mnuDemoSet.click();
+    EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
+    EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Setup, Opening::Plain}}));
+}
+
 TEST_F(frmPoolEntryTest, DemoStartDoesNothingOnCancel)
 {
     files.put("POOLSTART.THS", tellingSetup());

@@ -18,12 +18,26 @@ namespace {
 
 constexpr qint64 kRefresh = 50; ///< milliseconds between two looks at it
 
+/// A program that is left to itself when nobody looks after it any more.
+class Started : public QProcess
+{
+public:
+    Started() = default;
+    ~Started() override { setProcessState(NotRunning); } // or it would be killed
+    Started(const Started&) = delete;
+    Started& operator=(const Started&) = delete;
+};
+
 Failure failureOf(std::errc reason)
 {
     return Failure{fromQString(QString::fromStdString(std::make_error_code(reason).message()))};
 }
 
 } // namespace
+
+QtPrograms::QtPrograms() = default;
+
+QtPrograms::~QtPrograms() = default;
 
 Result<Done> QtPrograms::check(const std::filesystem::path& program)
 {
@@ -43,20 +57,34 @@ Result<Done> QtPrograms::start(const std::filesystem::path& program)
         return ready;
     // An absolute path: the system must not look for it anywhere else.
     const QFileInfo file{fromPath(program)};
-    QProcess process;
-    process.setProgram(file.absoluteFilePath());
-    process.setWorkingDirectory(file.absolutePath());
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
+    m_started = std::make_unique<Started>();
+    m_started->setProgram(file.absoluteFilePath());
+    m_started->setWorkingDirectory(file.absolutePath());
+    m_started->setStandardInputFile(QProcess::nullDevice());
+    m_started->setStandardOutputFile(QProcess::nullDevice());
 #ifdef Q_OS_WIN
     constexpr unsigned long kNoWindow = 0x08000000;
-    process.setCreateProcessArgumentsModifier(
+    m_started->setCreateProcessArgumentsModifier(
         [](QProcess::CreateProcessArguments* arguments) { arguments->flags |= kNoWindow; });
 #endif
-    if (!process.startDetached())
-        return Failure{fromQString(process.errorString())};
-    return Done{};
+    m_started->start(QIODevice::ReadOnly);
+    if (m_started->waitForStarted())
+        return Done{};
+    Failure failure{fromQString(m_started->errorString())};
+    m_started.reset();
+    return failure;
+}
+
+std::optional<Result<Done>> QtPrograms::waitForEnd(std::chrono::milliseconds atMost)
+{
+    if (!m_started)
+        return std::nullopt;
+    if (m_started->state() != QProcess::NotRunning && !m_started->waitForFinished(static_cast<int>(atMost.count())))
+        return std::nullopt;
+    if (m_started->exitStatus() == QProcess::NormalExit && m_started->exitCode() == 0)
+        return Done{};
+    const QString errors = QString::fromUtf8(m_started->readAllStandardError()).trimmed();
+    return Failure{errors.isEmpty() ? "It ended without saying why." : withCrLf(fromQString(errors))};
 }
 
 std::chrono::year_month_day QtClock::today() const

@@ -8,6 +8,7 @@
 #include <memory>
 #include <optional>
 
+class QProcess;
 class QProgressDialog;
 
 namespace tallyhoop::qt {
@@ -15,8 +16,15 @@ namespace tallyhoop::qt {
 class QtPrograms : public ui::Programs
 {
 public:
+    QtPrograms();
+    ~QtPrograms() override;
+
     Result<Done> check(const std::filesystem::path& program) override;
     Result<Done> start(const std::filesystem::path& program) override;
+    std::optional<Result<Done>> waitForEnd(std::chrono::milliseconds atMost) override;
+
+private:
+    std::unique_ptr<QProcess> m_started;
 };
 
 class QtClock : public ui::Clock
