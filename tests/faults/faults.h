@@ -19,8 +19,9 @@ struct Fault {
     void (*strike)(const std::filesystem::path& folder, const std::filesystem::path& target);
     void (*mend)(const std::filesystem::path& folder, const std::filesystem::path& target);
 
-    bool wantsTarget = false; ///< strikes a file that is there already
-    bool hidesFolder = false; ///< nothing can be read either
+    bool wantsTarget = false;     ///< strikes a file that is there already
+    bool hidesFolder = false;     ///< nothing can be read either
+    bool takesEmptyFiles = false; ///< only bytes have no room
 };
 
 inline void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.name; }

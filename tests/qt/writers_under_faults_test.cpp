@@ -1,13 +1,18 @@
 // tests/qt/writers_under_faults_test.cpp - PDF files and the message file under every fault of the disk.
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "faults/faults.h"
 #include "faults/own_process.h"
+#include "model/player_names_file.h"
+#include "reports/frmPoolReports.h"
 #include "ui/qt/desk.h"
 #include "ui/qt/services/mail_hand_over.h"
 #include "ui/qt/services/qt_printer.h"
 
 #include <QByteArray>
 #include <fstream>
+#include <functional>
 #include <gmock/gmock.h>
 #include <iterator>
 #include <map>
@@ -19,43 +24,104 @@ namespace fs = std::filesystem;
 using test::Fault;
 using test::ScratchFolder;
 
+/// The reports screen with this computer's printer and mail; the fault strikes once the reports are made.
+struct Reports {
+    explicit Reports(const fs::path& path) : folder{path}
+    {
+        fake.dialogs.whileShown = [this](const ui::Message& message) {
+            if (message.buttons == ui::Buttons::YesNo && strike)
+                strike();
+        };
+        screens.whenLoaded = [this](ScreenKind) {
+            state.mailDraft.recipients = {"smith@example.org"};
+            state.mailDraft.subject = "Standings";
+            state.mailDraft.message = "Hi";
+            if (strike)
+                strike();
+        };
+        screen.load();
+        screen.txtReportTitle.text = "A title";
+        screen.chkOptions[static_cast<std::size_t>(ReportId::PlayerListing)].ticked = true;
+        ui::selectOption(screen.optDestination, 2);
+    }
+
+    std::string onScreen() const
+    {
+        return screen.txtReportTitle.text + (screen.chkOptions[1].ticked ? " ticked" : " not ticked") +
+               (screen.optDestination[2].selected ? " to e-mail" : "");
+    }
+
+    DataFolder folder;
+    test::FakePlatform fake;
+    Desk desk;
+    QtPrinter printer{desk};
+    MailHandOver mail{folder};
+    ui::Platform services{fake.dialogs,  printer,    mail,          fake.help,
+                          fake.programs, fake.clock, fake.progress, fake.clipboard};
+    modTallyhoop state;
+    test::FakeScreens screens;
+    test::FakeBoard board{state};
+    frmPoolReports screen{folder, services, state, screens, board};
+    std::function<void()> strike;
+};
+
 /// One service that writes a file, and the file.
 struct Writer {
     const char* name;
     const char* file;
-    Result<Done> (*write)(const fs::path& folder);
+    void (*press)(Reports& reports, const fs::path& target);
+    std::vector<ui::Message> (*success)(const fs::path& target);
+    ui::Message (*trouble)(const fs::path& folder, const Fault& fault);
     const char* begin; ///< of the new file
     const char* end;
 };
 
-Result<Done> writeReportPdf(const fs::path& folder)
+void saveReportPdf(Reports& reports, const fs::path& target)
 {
-    Desk desk;
-    QtPrinter printer{desk};
-    return printer.savePdf(ui::TextPrintout{"Report", {"a line"}, {"Courier New", 10}, ui::Orientation::Portrait, 0},
-                           folder / "Report.PDF");
+    reports.fake.dialogs.pick(target).answer(ui::Answer::Yes);
+    reports.screen.cmdSavePdf.click();
 }
 
-Result<Done> writeBoardPdf(const fs::path& folder)
+void saveBoardPdf(Reports& reports, const fs::path& target)
 {
-    Desk desk;
-    QtPrinter printer{desk};
-    return printer.savePdf(ui::DrawingPrintout{"Board", {}, ui::Orientation::Landscape}, folder / "Bracket.PDF");
+    reports.fake.dialogs.pick(target).answer(ui::Answer::Yes);
+    reports.screen.cmdSaveBoardPdf.click();
 }
 
-Result<Done> writeMessage(const fs::path& folder)
+void sendMail(Reports& reports, const fs::path& /*target*/) { reports.screen.cmdPrintSelections.click(); }
+
+std::vector<ui::Message> offerToReplace(const fs::path& target)
 {
-    MailHandOver mail{DataFolder{folder}};
-    return mail.send({.recipients = {"smith@example.org"},
-                      .subject = "Standings",
-                      .body = "Hi          ",
-                      .placeholders = 10,
-                      .attachments = {{folder / "RPTOPT1.TXT", 2}}});
+    return {{"", "Do you want to replace the existing file ?\r\n" + target.string(), ui::Buttons::YesNo,
+             ui::Icon::Question}};
 }
 
-const std::vector<Writer> kWriters{{"ReportPdf", "Report.PDF", writeReportPdf, "%PDF-", "%%EOF\n"},
-                                   {"BoardPdf", "Bracket.PDF", writeBoardPdf, "%PDF-", "%%EOF\n"},
-                                   {"MessageFile", kMessageFile, writeMessage, "X-Unsent: 1", "--\r\n"}};
+std::vector<ui::Message> nothingSaid(const fs::path& /*target*/) { return {}; }
+
+/// A PDF file is a printout, and fails as one.
+ui::Message printingTrouble(const fs::path& /*folder*/, const Fault& /*fault*/)
+{
+    return {"",
+            "Error in attempting to print to the printer\r\n"
+            "Check you printer for proper attachment", // sic
+            ui::Buttons::Ok, ui::Icon::Critical};
+}
+
+ui::Message mailTrouble(const fs::path& folder, const Fault& fault)
+{
+    const std::string report = (folder / "RPTOPT2.TXT").string();
+    const std::string reason = fault.hidesFolder ? "The file " + report + " is not there." : fault.reason;
+    return {"Tallyhoop - frmPoolReports, MailReports",
+            "The message could not be handed to a mail program.\r\n" + reason +
+                "\r\n\r\nYou can attach the files yourself:\r\n\r\nRPTOPT2.TXT\r\n\r\nThey are in the folder " +
+                folder.string(),
+            ui::Buttons::Ok, ui::Icon::Exclamation};
+}
+
+const std::vector<Writer> kWriters{
+    {"ReportPdf", "Report.PDF", saveReportPdf, offerToReplace, printingTrouble, "%PDF-", "%%EOF\n"},
+    {"BoardPdf", "Bracket.PDF", saveBoardPdf, offerToReplace, printingTrouble, "%PDF-", "%%EOF\n"},
+    {"MessageFile", kMessageFile, sendMail, nothingSaid, mailTrouble, "X-Unsent: 1", "--\r\n"}};
 
 void PrintTo(const Writer& writer, std::ostream* out) { *out << writer.name; }
 
@@ -95,18 +161,28 @@ TEST_P(ServicesUnderFaults, LoseNothingAndWorkAgainOnceItIsMended)
     test::inOwnProcess([this]() -> std::string {
         if (std::string cannot = fault.arrange(scratch.path()); !cannot.empty())
             return cannot;
-        scratch.put("RPTOPT1.TXT", "a report\r\n");
+        scratch.put("PLAYERNAMES.CSV", playerNamesFile(std::vector<PlayerRecord>{{"Smith,JS", "", "", ""}}));
         const fs::path target = scratch.put(writer.file, "an older file");
-        const auto before = filesIn(scratch.path());
+        Reports reports{scratch.path()};
+        std::map<std::string, std::string> before;
+        reports.strike = [&] {
+            before = filesIn(scratch.path());
+            fault.strike(scratch.path(), target);
+        };
+        const std::string shownBefore = reports.onScreen();
+        std::vector<ui::Message> expected = writer.success(target);
+        expected.push_back(writer.trouble(scratch.path(), fault));
 
-        fault.strike(scratch.path(), target);
-        const Result<Done> inVain = writer.write(scratch.path());
+        writer.press(reports, target);
         fault.mend(scratch.path(), target);
-        EXPECT_FALSE(inVain);
+        EXPECT_EQ(reports.fake.dialogs.shown, expected);
         EXPECT_EQ(filesIn(scratch.path()), before);
+        EXPECT_EQ(reports.onScreen(), shownBefore);
 
-        const Result<Done> atLast = writer.write(scratch.path());
-        EXPECT_TRUE(atLast) << (atLast ? std::string{} : atLast.failure().message);
+        reports.strike = nullptr;
+        reports.fake.dialogs.shown.clear();
+        writer.press(reports, target);
+        EXPECT_EQ(reports.fake.dialogs.shown, writer.success(target));
         EXPECT_THAT(scratch.get(writer.file), testing::HasSubstr(writer.begin));
         EXPECT_THAT(scratch.get(writer.file), testing::EndsWith(writer.end));
         EXPECT_EQ(filesIn(scratch.path()).size(), before.size());
