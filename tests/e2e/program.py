@@ -152,6 +152,9 @@ class Program:
     def is_running(self):
         return self._process is not None and self._process.poll() is None
 
+    def process_id(self):
+        return self._process.pid
+
     def wait_for_end(self):
         """Waits until the program has ended by itself; its exit code."""
         try:
