@@ -1,10 +1,10 @@
 // bench/scoring_bench.cpp - scoring from memory, and the score display with 1,000 and 10,000 players.
 #include "bench/large_pool.h"
-#include "model/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "model/replace_file.h"
+#include "model/sample_pool.h"
 #include "model/selection_file.h"
 #include "scoring/frmPoolMisc.h"
 #include "scoring/score_picks.h"
@@ -22,9 +22,10 @@ constexpr Payoffs kPayoffs{1, 2, 4, 8, 12, 16};
 /// The inner scoring: brackets numbered beforehand.
 void ScoreNumbered(benchmark::State& state)
 {
+    const SelectionLines results = demo::sampleResults();
     std::vector<NumberedPair> pairs;
     for (const SelectionLines& picks : randomBrackets(10'000))
-        pairs.push_back(numbered(picks, demo::sampleResults()));
+        pairs.push_back(NumberedResults{results}.pairWith(picks));
     std::size_t next = 0;
     for (auto step : state) {
         benchmark::DoNotOptimize(scoreNumbered(pairs[next], kPayoffs));
@@ -34,14 +35,30 @@ void ScoreNumbered(benchmark::State& state)
 }
 BENCHMARK(ScoreNumbered);
 
+/// What scoring does first when names are texts.
+void NumberThePicks(benchmark::State& state)
+{
+    const std::vector<SelectionLines> brackets = randomBrackets(10'000);
+    const SelectionLines results = demo::sampleResults();
+    const NumberedResults numbered{results};
+    std::size_t next = 0;
+    for (auto step : state) {
+        benchmark::DoNotOptimize(numbered.pairWith(brackets[next]));
+        next = next + 1 == brackets.size() ? 0 : next + 1;
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(NumberThePicks);
+
 /// Names as text, verdict and eliminated teams included.
 void ScorePicks(benchmark::State& state)
 {
     const std::vector<SelectionLines> brackets = randomBrackets(10'000);
     const SelectionLines results = demo::sampleResults();
+    const Scoring scoring{results, kPayoffs};
     std::size_t next = 0;
     for (auto step : state) {
-        benchmark::DoNotOptimize(scorePicks(brackets[next], results, kPayoffs));
+        benchmark::DoNotOptimize(scoring.score(brackets[next]));
         next = next + 1 == brackets.size() ? 0 : next + 1;
     }
     state.SetItemsProcessed(state.iterations());

@@ -27,9 +27,10 @@ Result<std::vector<ScoreLine>> scorePool(const ReadPool& pool, const SelectionLi
 {
     std::vector<ScoreLine> scores;
     scores.reserve(pool.players.size());
+    const Scoring scoring{results, payoffs};
     ScoredVerdict verdict;
     for (const PoolEntry& player : pool.players) {
-        const Result<ScoreLine> score = scoreLine(player.fileName, player.lines, results, payoffs, verdict);
+        const Result<ScoreLine> score = scoring.line(player.fileName, player.lines, verdict);
         if (!score)
             return score.failure();
         scores.push_back(*score);

@@ -115,19 +115,28 @@ private:
     int m_lineOfPage = 0;
 };
 
+/// The scoring of every outcome that can still happen.
+ByFinal<Scoring> scoringsOf(const ByFinal<FinalOutcome>& outcomes, const Payoffs& payoffs)
+{
+    ByFinal<Scoring> scorings;
+    for (std::size_t team = 0; team < outcomes.size(); ++team)
+        for (std::size_t opponent = 0; opponent < outcomes[team].size(); ++opponent)
+            if (const std::optional<FinalOutcome>& outcome = outcomes[team][opponent])
+                scorings[team][opponent].emplace(outcome->results, payoffs);
+    return scorings;
+}
+
 /// Scores one player under every outcome that can still happen.
-Result<ByFinal<int>> projectedPoints(const PoolEntry& player, const ByFinal<FinalOutcome>& outcomes,
-                                     const Payoffs& payoffs)
+Result<ByFinal<int>> projectedPoints(const PoolEntry& player, const ByFinal<Scoring>& scorings)
 {
     ByFinal<int> points;
     ScoredVerdict verdict;
-    for (std::size_t team = 0; team < outcomes.size(); ++team) {
-        for (std::size_t opponent = 0; opponent < outcomes[team].size(); ++opponent) {
-            const std::optional<FinalOutcome>& outcome = outcomes[team][opponent];
-            if (!outcome)
+    for (std::size_t team = 0; team < scorings.size(); ++team) {
+        for (std::size_t opponent = 0; opponent < scorings[team].size(); ++opponent) {
+            const std::optional<Scoring>& scoring = scorings[team][opponent];
+            if (!scoring)
                 continue;
-            const Result<ScoreLine> score =
-                scoreLine(player.fileName, player.lines, outcome->results, payoffs, verdict);
+            const Result<ScoreLine> score = scoring->line(player.fileName, player.lines, verdict);
             if (!score)
                 return score.failure();
             points[team][opponent] = score->MaxPoints;
@@ -157,12 +166,14 @@ Result<std::vector<ResultsByPlayerRow>> resultsByPlayerRows(const ReadPool& pool
 {
     std::vector<ResultsByPlayerRow> rows;
     rows.reserve(pool.players.size());
+    const Scoring scoring{results, payoffs};
+    const ByFinal<Scoring> projections = scoringsOf(outcomes, payoffs);
     ScoredVerdict verdict;
     for (const PoolEntry& player : pool.players) {
-        const Result<ScoreLine> now = scoreLine(player.fileName, player.lines, results, payoffs, verdict);
+        const Result<ScoreLine> now = scoring.line(player.fileName, player.lines, verdict);
         if (!now)
             return now.failure();
-        const Result<ByFinal<int>> projected = projectedPoints(player, outcomes, payoffs);
+        const Result<ByFinal<int>> projected = projectedPoints(player, projections);
         if (!projected)
             return projected.failure();
         rows.push_back({player.fileName, now->WinningPick, now->RunnerUpPick, now->Points, now->MaxPoints, *projected});

@@ -102,11 +102,11 @@ std::optional<frmPoolMisc::Rows> frmPoolMisc::scoreEverybody(const std::vector<F
                                                              const Payoffs& payoffs)
 {
     Work work{m_platform.progress, "Calculating the scores", files.size()};
+    const Scoring scoring{m_state.selectionLines, payoffs};
     Rows rows;
     rows.reserve(files.size());
     for (const FolderFile& file : files) {
-        const Result<ScoreLine> score =
-            scoreFile(file, m_state.selectionLines, payoffs, m_platform.dialogs, m_state.verdict);
+        const Result<ScoreLine> score = scoreFile(file, scoring, m_platform.dialogs, m_state.verdict);
         if (score)
             rows.push_back(cellsOf(*score));
         else

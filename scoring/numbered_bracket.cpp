@@ -3,7 +3,9 @@
 
 #include "model/bracket_position.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace tallyhoop {
@@ -13,61 +15,16 @@ namespace {
 constexpr std::size_t kFirst = selection_line::kFirstTeam;
 constexpr std::size_t kLast = selection_line::kChampion;
 
-/// The names met so far; the n-th has the number n. They are kept in chains of names that look alike at a glance, since
-/// comparing each with all others would cost more than the scoring itself.
-class KnownNames
+/// A name has the number of the first line that holds it. Those that only the picks hold come behind the results' ones.
+constexpr std::size_t kOnlyPicked = kLast;
+
+/// @returns the first line before the given one that holds its name; nullopt when none does
+std::optional<std::size_t> earlier(const SelectionLines& lines, std::size_t slot)
 {
-public:
-    /// @param name not empty; kept by address
-    TeamNumber numberOf(const std::string& name)
-    {
-        TeamNumber& first = m_firstOfChain[glance(name)];
-        for (TeamNumber number = first; number != kNoTeam; number = m_nextInChain[number])
-            if (*m_names[number] == name)
-                return number;
-        ++m_count;
-        m_names[m_count] = &name;
-        m_nextInChain[m_count] = first;
-        return first = m_count;
-    }
-
-private:
-    static std::size_t glance(const std::string& name)
-    {
-        const auto byte = [&](std::size_t at) {
-            return static_cast<std::size_t>(static_cast<unsigned char>(name[at]));
-        };
-        return (name.size() * 31 + byte(0) * 7 + byte(name.size() / 2) * 13 + byte(name.size() - 1) * 17) % 256;
-    }
-
-    std::array<TeamNumber, 256> m_firstOfChain{};
-    std::array<TeamNumber, 256> m_nextInChain{};
-    std::array<const std::string*, 256> m_names; ///< the first m_count of 1.. are set
-    TeamNumber m_count = 0;
-};
-
-/// Numbers one bracket. Searching the names met so far is the exception: a winner nearly always repeats the name of one
-/// of the two that met, and anything else that of the same line in the bracket numbered before.
-/// @param before another bracket; those of its lines count that have a number already
-void number(const SelectionLines& lines, NumberedBracket& numbers, const SelectionLines& before,
-            const NumberedBracket& numbersBefore, KnownNames& known)
-{
-    const auto& slots = bracketSlots();
-    for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
-        const std::string& name = lines[slot];
-        const bool isGame = slots[slot].round != 0;
-        const auto [upper, lower] = slots[slot].feeders;
-        if (name.empty())
-            numbers[slot] = kNoTeam;
-        else if (isGame && name == lines[upper])
-            numbers[slot] = numbers[upper];
-        else if (isGame && name == lines[lower])
-            numbers[slot] = numbers[lower];
-        else if (numbersBefore[slot] != kNoTeam && name == before[slot])
-            numbers[slot] = numbersBefore[slot];
-        else
-            numbers[slot] = known.numberOf(name);
-    }
+    const auto begin = lines.begin() + kFirst;
+    const auto end = lines.begin() + static_cast<std::ptrdiff_t>(slot);
+    const auto found = std::find(begin, end, lines[slot]);
+    return found == end ? std::nullopt : std::optional{static_cast<std::size_t>(found - lines.begin())};
 }
 
 std::array<BracketSlot, 128> makeSlots()
@@ -85,13 +42,43 @@ std::array<BracketSlot, 128> makeSlots()
 
 } // namespace
 
-NumberedPair numbered(const SelectionLines& picks, const SelectionLines& results)
+NumberedResults::NumberedResults(const SelectionLines& results) : m_lines{results}
 {
-    NumberedPair pair;
-    KnownNames known;
-    number(results, pair.results, picks, pair.picks, known); // no pick has a number yet
-    number(picks, pair.picks, results, pair.results, known);
+    for (std::size_t slot = kFirst; slot <= kLast; ++slot)
+        if (!results[slot].empty())
+            m_numbers[slot] = static_cast<TeamNumber>(earlier(results, slot).value_or(slot));
+}
+
+NumberedPair NumberedResults::pairWith(const SelectionLines& picks) const
+{
+    NumberedPair pair{{}, m_numbers};
+    const auto& slots = bracketSlots();
+    for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
+        // Nearly always a row is the results' own, and a winner is one of the two that met: searching is the exception.
+        const auto [upper, lower] = slots[slot].feeders;
+        const bool isGame = slots[slot].round != 0;
+        if (picks[slot].empty())
+            continue;
+        if (isGame && picks[slot] == picks[upper])
+            pair.picks[slot] = pair.picks[upper];
+        else if (isGame && picks[slot] == picks[lower])
+            pair.picks[slot] = pair.picks[lower];
+        else if (picks[slot] == m_lines[slot])
+            pair.picks[slot] = m_numbers[slot];
+        else
+            pair.picks[slot] = numberOf(picks, slot);
+    }
     return pair;
+}
+
+TeamNumber NumberedResults::numberOf(const SelectionLines& picks, std::size_t slot) const
+{
+    const auto begin = m_lines.begin() + kFirst;
+    const auto end = m_lines.begin() + kLast + 1;
+    const auto found = std::find(begin, end, picks[slot]);
+    if (found != end)
+        return static_cast<TeamNumber>(found - m_lines.begin());
+    return static_cast<TeamNumber>(kOnlyPicked + earlier(picks, slot).value_or(slot));
 }
 
 const std::array<BracketSlot, 128>& bracketSlots()

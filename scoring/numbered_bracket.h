@@ -21,8 +21,22 @@ struct NumberedPair {
     NumberedBracket results{};
 };
 
-/// Numbers the names of lines 1..127. Names are compared exactly.
-NumberedPair numbered(const SelectionLines& picks, const SelectionLines& results);
+/// Results with their names numbered, once for all the brackets that are held against them.
+class NumberedResults
+{
+public:
+    /// @param results lines 1..127 count; to be kept unchanged as long as this is used
+    explicit NumberedResults(const SelectionLines& results);
+
+    /// @param picks lines 1..127. Names are compared exactly.
+    NumberedPair pairWith(const SelectionLines& picks) const;
+
+private:
+    TeamNumber numberOf(const SelectionLines& picks, std::size_t slot) const;
+
+    const SelectionLines& m_lines;
+    NumberedBracket m_numbers{};
+};
 
 /// One line of a bracket, and which two lines meet for it.
 struct BracketSlot {

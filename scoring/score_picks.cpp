@@ -92,20 +92,24 @@ void addPossiblePoints(const Payoffs& payoffs, NumberedScore& score)
     }
 }
 
-/// @returns the teams picked for a game they did not win, each once, in order of their loss
-std::vector<std::string> eliminatedTeams(const SelectionLines& picks, const NumberedPair& pair)
+/// @param[out] teams the teams picked for a game they did not win, each once, in order of their loss
+void listEliminatedTeams(const SelectionLines& picks, const NumberedPair& pair, std::vector<std::string>& teams)
 {
-    std::vector<std::string> teams;
-    std::array<bool, 256> listed{};
+    // The slots first, without branches, and then as many names at once.
+    std::array<std::size_t, 128> slots;
+    std::size_t count = 0;
+    std::array<bool, 256> isListed{};
+    isListed[kNoTeam] = true;
     for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
         const TeamNumber pick = pair.picks[slot];
-        const bool lost = pair.results[slot] != kNoTeam && pair.results[slot] != pick;
-        if (lost && pick != kNoTeam && !listed[pick]) {
-            listed[pick] = true;
-            teams.push_back(picks[slot]);
-        }
+        const bool lost = (pair.results[slot] != kNoTeam) & (pair.results[slot] != pick);
+        slots[count] = slot;
+        count += lost & !isListed[pick];
+        isListed[pick] |= lost;
     }
-    return teams;
+    teams.resize(count);
+    for (std::size_t team = 0; team < count; ++team)
+        teams[team] = picks[slots[team]];
 }
 
 Result<std::int16_t> sixteenBits(std::int32_t points, const std::string& fileName)
@@ -133,20 +137,21 @@ NumberedScore scoreNumbered(const NumberedPair& pair, const Payoffs& payoffs)
     return score;
 }
 
-ScoredPicks scorePicks(const SelectionLines& picks, const SelectionLines& results, const Payoffs& payoffs)
+Scoring::Scoring(const SelectionLines& results, const Payoffs& payoffs) : m_results{results}, m_payoffs{payoffs} {}
+
+ScoredPicks Scoring::score(const SelectionLines& picks) const
 {
-    const NumberedPair pair = numbered(picks, results);
-    const NumberedScore score = scoreNumbered(pair, payoffs);
+    const NumberedPair pair = m_results.pairWith(picks);
+    const NumberedScore score = scoreNumbered(pair, m_payoffs);
     ScoredPicks scored{score.points, score.possible, score.goodPicks, score.badPicks, {}};
     std::copy(score.status.begin(), score.status.end(), scored.verdict.SlotStatus.begin());
-    scored.verdict.EliminatedTeams = eliminatedTeams(picks, pair);
+    listEliminatedTeams(picks, pair, scored.verdict.EliminatedTeams);
     return scored;
 }
 
-Result<ScoreLine> scoreLine(const std::string& fileName, const SelectionLines& picks, const SelectionLines& results,
-                            const Payoffs& payoffs, ScoredVerdict& verdict)
+Result<ScoreLine> Scoring::line(const std::string& fileName, const SelectionLines& picks, ScoredVerdict& verdict) const
 {
-    ScoredPicks scored = scorePicks(picks, results, payoffs);
+    ScoredPicks scored = score(picks);
     verdict = std::move(scored.verdict);
 
     const Result<std::int16_t> points = sixteenBits(scored.points, fileName);

@@ -46,20 +46,31 @@ struct NumberedScore {
     std::array<Verdict, 128> status{}; ///< by slot 1..127
 };
 
-/// Scores numbered picks: the inner part of scorePicks(), for those who keep brackets numbered.
+/// Scores numbered picks: the inner part of Scoring, for those who keep brackets numbered.
 NumberedScore scoreNumbered(const NumberedPair& pair, const Payoffs& payoffs);
 
-/// Scores picks against results.
-/// @param picks    lines 1..127: a team name for each slot, empty = no pick
-/// @param results  same shape; empty = game not yet played
-/// @param payoffs  whole points for a right pick in rounds 1..6
-/// @note Cannot fail: an unknown team name simply never matches. Names are compared exactly.
-ScoredPicks scorePicks(const SelectionLines& picks, const SelectionLines& results, const Payoffs& payoffs);
+/// Scores brackets against one set of results. Cannot fail: an unknown team name simply never matches. Names are
+/// compared exactly.
+class Scoring
+{
+public:
+    /// @param results lines 1..127: a team name for each slot, empty = game not yet played; to be kept unchanged as
+    /// long
+    ///                as this is used
+    /// @param payoffs whole points for a right pick in rounds 1..6
+    Scoring(const SelectionLines& results, const Payoffs& payoffs);
 
-/// Scores a player's lines and fills in the line that the score display and the reports show.
-/// @returns a failure when the tie-breaker or the points do not fit 16 bits
-Result<ScoreLine> scoreLine(const std::string& fileName, const SelectionLines& picks, const SelectionLines& results,
-                            const Payoffs& payoffs, ScoredVerdict& verdict);
+    /// @param picks lines 1..127, empty = no pick
+    ScoredPicks score(const SelectionLines& picks) const;
+
+    /// Scores a player's lines and fills in the line that the score display and the reports show.
+    /// @returns a failure when the tie-breaker or the points do not fit 16 bits
+    Result<ScoreLine> line(const std::string& fileName, const SelectionLines& picks, ScoredVerdict& verdict) const;
+
+private:
+    NumberedResults m_results;
+    Payoffs m_payoffs;
+};
 
 /// @returns the six payoffs from their texts, rounds 1..6; a failure when one does not fit 16 bits
 Result<Payoffs> payoffsOf(const std::array<std::string, 6>& texts);

@@ -11,7 +11,7 @@ namespace {
 Result<ScoreLine> scoreBoard(const std::string& fileName, const SelectionLines& results, const Payoffs& payoffs,
                              modTallyhoop& state)
 {
-    const Result<ScoreLine> scored = scoreLine(fileName, state.selectionLines, results, payoffs, state.verdict);
+    const Result<ScoreLine> scored = Scoring{results, payoffs}.line(fileName, state.selectionLines, state.verdict);
     if (!scored)
         return scored;
     // The player's name is always taken from the file that was read, here the results.
@@ -22,12 +22,12 @@ Result<ScoreLine> scoreBoard(const std::string& fileName, const SelectionLines& 
 
 } // namespace
 
-Result<ScoreLine> scoreFile(const FolderFile& file, const SelectionLines& results, const Payoffs& payoffs,
-                            ui::Dialogs& dialogs, ScoredVerdict& verdict)
+Result<ScoreLine> scoreFile(const FolderFile& file, const Scoring& scoring, ui::Dialogs& dialogs,
+                            ScoredVerdict& verdict)
 {
     SelectionLines picks;
     ReadSelections(file.path, dialogs, picks);
-    return scoreLine(file.name, picks, results, payoffs, verdict);
+    return scoring.line(file.name, picks, verdict);
 }
 
 Result<ScoreLine> ScoreSelection(ScoreCaller caller, const FolderFile& file, ui::Dialogs& dialogs, BracketBoard& board,
@@ -41,7 +41,7 @@ Result<ScoreLine> ScoreSelection(ScoreCaller caller, const FolderFile& file, ui:
     ReadSelections(file.path, dialogs, fromFile);
     return caller == ScoreCaller::Bracket
                ? scoreBoard(file.name, fromFile, *payoffs, state)
-               : scoreLine(file.name, fromFile, state.selectionLines, *payoffs, state.verdict);
+               : Scoring{state.selectionLines, *payoffs}.line(file.name, fromFile, state.verdict);
 }
 
 } // namespace tallyhoop

@@ -15,11 +15,11 @@ enum class ScoreCaller {
     ScoreDisplay, ///< the board holds the results, the file the picks
 };
 
-/// Scores one player's file, whatever the results. A file that cannot be read is reported by its reader and scored as
-/// far as it was read. The verdict is rewritten.
+/// Scores one player's file. One that cannot be read is reported by its reader and scored as far as it was read. The
+/// verdict is rewritten.
 /// @returns a failure when a number does not fit 16 bits
-Result<ScoreLine> scoreFile(const FolderFile& file, const SelectionLines& results, const Payoffs& payoffs,
-                            ui::Dialogs& dialogs, ScoredVerdict& verdict);
+Result<ScoreLine> scoreFile(const FolderFile& file, const Scoring& scoring, ui::Dialogs& dialogs,
+                            ScoredVerdict& verdict);
 
 /// Captures the board into the shared lines, reads a file, scores one against the other, and puts the shared lines
 /// back. The shared verdict is rewritten.

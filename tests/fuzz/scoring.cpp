@@ -70,10 +70,10 @@ Complaint scoring(std::string_view bytes)
     const SelectionLines results = lines.bracket();
 
     const ScoredPicks expected = test::scoreNaively(picks, results, *payoffs);
-    if (Complaint complaint = compare(scorePicks(picks, results, *payoffs), expected))
+    if (Complaint complaint = compare(Scoring{results, *payoffs}.score(picks), expected))
         return complaint;
     ScoredVerdict verdict;
-    const Result<ScoreLine> line = scoreLine("A.THC", picks, results, *payoffs, verdict);
+    const Result<ScoreLine> line = Scoring{results, *payoffs}.line("A.THC", picks, verdict);
     const bool isUsable =
         fits(expected.points) && fits(expected.points + expected.possible) && wholeNumber(finalPoints);
     if (static_cast<bool>(line) != isUsable)

@@ -52,7 +52,7 @@ struct ExpectedScore {
 void expectScore(const SelectionLines& lines, const ExpectedScore& expected)
 {
     constexpr Payoffs kPayoffs{1, 2, 4, 8, 12, 16};
-    const ScoredPicks scored = scorePicks(lines, demo::sampleResults(), kPayoffs);
+    const ScoredPicks scored = Scoring{demo::sampleResults(), kPayoffs}.score(lines);
     EXPECT_EQ(scored.points, expected.points);
     EXPECT_EQ(scored.points + scored.possible, expected.maximum);
     EXPECT_EQ(scored.goodPicks, expected.good);

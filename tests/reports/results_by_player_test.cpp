@@ -136,7 +136,7 @@ TEST_F(ResultsByPlayer, ProjectPointsThatAreAllEarnedBecauseAllGamesAreDecided)
         for (std::size_t team = 0; team < 4; ++team)
             for (std::size_t opponent = 0; opponent < 2; ++opponent) {
                 const ScoredPicks scored =
-                    scorePicks(pool.players[player].lines, outcomes[team][opponent]->results, kUsualPayoffs);
+                    Scoring{outcomes[team][opponent]->results, kUsualPayoffs}.score(pool.players[player].lines);
                 EXPECT_EQ(scored.possible, 0);
                 EXPECT_EQ(*made[player].projected[team][opponent], scored.points);
             }

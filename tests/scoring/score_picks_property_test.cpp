@@ -72,7 +72,7 @@ private:
 
 void expectSameScore(const SelectionLines& picks, const SelectionLines& results, const Payoffs& payoffs)
 {
-    const ScoredPicks scored = scorePicks(picks, results, payoffs);
+    const ScoredPicks scored = Scoring{results, payoffs}.score(picks);
     const ScoredPicks expected = test::scoreNaively(picks, results, payoffs);
     ASSERT_EQ(scored.points, expected.points);
     ASSERT_EQ(scored.possible, expected.possible);
@@ -124,7 +124,7 @@ TEST(ScorePicksProperty, TellsAsManyNamesApartAsTwoBracketsCanHold)
         results.at(slot) = "result " + std::to_string(slot);
     }
     picks[0] = "result 1"; // line 0 is no place of a bracket
-    const ScoredPicks scored = scorePicks(picks, results, {1, 2, 4, 8, 12, 16});
+    const ScoredPicks scored = Scoring{results, {1, 2, 4, 8, 12, 16}}.score(picks);
     EXPECT_EQ(scored.badPicks, 127);
     EXPECT_EQ(scored.verdict.EliminatedTeams.size(), 127u);
     EXPECT_EQ(scored.verdict.EliminatedTeams.front(), "pick 1");

@@ -23,7 +23,7 @@ constexpr Payoffs kUsual{1, 2, 4, 8, 12, 16};
 ScoreLine lineOf(const SelectionLines& picks, const SelectionLines& results)
 {
     ScoredVerdict verdict;
-    const Result<ScoreLine> line = scoreLine("Smith_JS.THC", picks, results, kUsual, verdict);
+    const Result<ScoreLine> line = Scoring{results, kUsual}.line("Smith_JS.THC", picks, verdict);
     EXPECT_TRUE(line) << (line ? "" : line.failure().message);
     return line ? *line : ScoreLine{};
 }
@@ -68,14 +68,14 @@ TEST(ScorePicks, CountTheGamesOfTheLastRegionAndOfTheFinals)
     // Only the first game of region 4 (slot 110) and everything behind slot 124 is decided.
     SelectionLines results = without(everyUpperTeamWins(), 1, 109);
     results = without(results, 111, 123);
-    const ScoredPicks scored = scorePicks(everyUpperTeamWins(), results, kUsual);
+    const ScoredPicks scored = Scoring{results, kUsual}.score(everyUpperTeamWins());
     EXPECT_EQ(scored.goodPicks, 5) << "slots 110, 124, 125, 126, 127";
     EXPECT_EQ(scored.points, 1 + 8 + 12 + 12 + 16);
 }
 
 TEST(ScorePicks, NeverCountTheStartingFieldThoughItsRowsAreGood)
 {
-    const ScoredPicks scored = scorePicks(startingField(), startingField(), kUsual);
+    const ScoredPicks scored = Scoring{startingField(), kUsual}.score(startingField());
     EXPECT_EQ(scored.goodPicks, 0);
     EXPECT_EQ(scored.points, 0);
     EXPECT_EQ(scored.verdict.SlotStatus[1], Verdict::Good);
@@ -103,7 +103,7 @@ TEST(ScorePicks, CountAnEmptyPickInADecidedGameBadOnceAndEliminateNobody)
     picks[17].clear();
     SelectionLines results = startingField();
     results[17] = "Team 1";
-    const ScoredPicks scored = scorePicks(picks, results, kUsual);
+    const ScoredPicks scored = Scoring{results, kUsual}.score(picks);
     EXPECT_EQ(scored.badPicks, 1);
     EXPECT_THAT(scored.verdict.EliminatedTeams, IsEmpty());
     EXPECT_EQ(scored.possible, 168 - 1);
@@ -114,7 +114,7 @@ TEST(ScorePicks, TurnTheLaterPicksOfATeamThatLostBad)
     // Team 1 was picked for slots 17, 25, 29, 31, 125 and 127 and loses its first game.
     SelectionLines results = startingField();
     results[17] = "Team 2";
-    const ScoredPicks scored = scorePicks(everyUpperTeamWins(), results, kUsual);
+    const ScoredPicks scored = Scoring{results, kUsual}.score(everyUpperTeamWins());
     EXPECT_EQ(scored.points, 0);
     EXPECT_EQ(scored.possible, 168 - (1 + 2 + 4 + 8 + 12 + 16));
     EXPECT_EQ(scored.badPicks, 6);
@@ -131,7 +131,7 @@ TEST(ScorePicks, NameEachEliminatedTeamOnceInOrderOfItsLoss)
     results[17] = "Team 2";
     results[18] = "Team 4";
     results[25] = "Team 2";
-    const ScoredPicks scored = scorePicks(everyUpperTeamWins(), results, kUsual);
+    const ScoredPicks scored = Scoring{results, kUsual}.score(everyUpperTeamWins());
     EXPECT_THAT(scored.verdict.EliminatedTeams, ElementsAre("Team 1", "Team 3"));
 }
 
@@ -143,7 +143,7 @@ TEST(ScorePicks, LeaveAPickOpenThatBothEntrantsCannotReach)
     SelectionLines results = startingField();
     results[17] = "Team 2"; // picked: Team 1
     results[18] = "Team 4"; // picked: Team 3
-    const ScoredPicks scored = scorePicks(picks, results, kUsual);
+    const ScoredPicks scored = Scoring{results, kUsual}.score(picks);
     EXPECT_EQ(scored.verdict.SlotStatus[25], Verdict::Open);
     EXPECT_EQ(scored.badPicks, 2 + 4) << "slots 17 and 18, and Team 1 in 29, 31, 125 and 127";
     EXPECT_EQ(scored.possible, 168 - (1 + 1) - 2 - (4 + 8 + 12 + 16));
@@ -152,7 +152,7 @@ TEST(ScorePicks, LeaveAPickOpenThatBothEntrantsCannotReach)
 TEST(ScorePicks, KeepTheChampionOpenThoughItsPointsArePossible)
 {
     const SelectionLines results = without(everyUpperTeamWins(), 127, 127);
-    const ScoredPicks scored = scorePicks(everyUpperTeamWins(), results, kUsual);
+    const ScoredPicks scored = Scoring{results, kUsual}.score(everyUpperTeamWins());
     EXPECT_EQ(scored.points, 152);
     EXPECT_EQ(scored.possible, 16);
     EXPECT_EQ(scored.verdict.SlotStatus[127], Verdict::Open);
@@ -163,7 +163,7 @@ TEST(ScorePicks, FollowALongChainOfGoodAndPossiblePicks)
 {
     // Region 1 is played through; the champion comes from there.
     const SelectionLines results = without(everyUpperTeamWins(), 32, 127);
-    const ScoredPicks scored = scorePicks(everyUpperTeamWins(), results, kUsual);
+    const ScoredPicks scored = Scoring{results, kUsual}.score(everyUpperTeamWins());
     EXPECT_EQ(scored.points, 8 * 1 + 4 * 2 + 2 * 4 + 8);
     EXPECT_EQ(scored.possible, 168 - 32);
     EXPECT_EQ(scored.goodPicks, 15);
@@ -174,7 +174,7 @@ TEST(ScorePicks, CompareNamesExactly)
     SelectionLines results = everyUpperTeamWins();
     results[17] = "TEAM 1";
     results[18] = "Team 3 ";
-    const ScoredPicks scored = scorePicks(everyUpperTeamWins(), results, kUsual);
+    const ScoredPicks scored = Scoring{results, kUsual}.score(everyUpperTeamWins());
     EXPECT_EQ(scored.verdict.SlotStatus[17], Verdict::Bad);
     EXPECT_EQ(scored.verdict.SlotStatus[18], Verdict::Bad);
     EXPECT_EQ(scored.points, 166);
@@ -187,7 +187,7 @@ TEST(ScorePicks, OfUnknownTeamsNeverMatch)
     picks[25] = "Nobody";
     SelectionLines results = startingField();
     results[17] = "Team 1";
-    const ScoredPicks scored = scorePicks(picks, results, kUsual);
+    const ScoredPicks scored = Scoring{results, kUsual}.score(picks);
     EXPECT_EQ(scored.badPicks, 2);
     EXPECT_THAT(scored.verdict.EliminatedTeams, ElementsAre("Nobody"));
 }
@@ -229,7 +229,7 @@ TEST(ScoreLine, FailsOnATieBreakerBeyondSixteenBitsAndNamesTheFile)
     SelectionLines picks = everyUpperTeamWins();
     picks[selection_line::kFinalPoints] = "32768";
     ScoredVerdict verdict;
-    const Result<ScoreLine> line = scoreLine("Smith_JS.THC", picks, startingField(), kUsual, verdict);
+    const Result<ScoreLine> line = Scoring{startingField(), kUsual}.line("Smith_JS.THC", picks, verdict);
     ASSERT_FALSE(line);
     EXPECT_THAT(line.failure().message, HasSubstr("Smith_JS.THC"));
 }
@@ -239,9 +239,9 @@ TEST(ScoreLine, FailsOnPointsBeyondSixteenBits)
     ScoredVerdict verdict;
     const Payoffs huge{600, 600, 600, 600, 600, 600}; // 63 games make 37,800
     const SelectionLines picks = everyUpperTeamWins();
-    EXPECT_FALSE(scoreLine("Smith_JS.THC", picks, everyUpperTeamWins(), huge, verdict)) << "earned";
-    EXPECT_FALSE(scoreLine("Smith_JS.THC", picks, startingField(), huge, verdict)) << "possible";
-    EXPECT_TRUE(scoreLine("Smith_JS.THC", picks, everyLowerTeamWins(), huge, verdict)) << "neither";
+    EXPECT_FALSE(Scoring(everyUpperTeamWins(), huge).line("Smith_JS.THC", picks, verdict)) << "earned";
+    EXPECT_FALSE(Scoring(startingField(), huge).line("Smith_JS.THC", picks, verdict)) << "possible";
+    EXPECT_TRUE(Scoring(everyLowerTeamWins(), huge).line("Smith_JS.THC", picks, verdict)) << "neither";
 }
 
 TEST(PayoffsOf, ReadsLeadingNumbers)
