@@ -1,5 +1,7 @@
 """The real program in a folder of its own, saving on order: see saver/saver.cpp."""
 
+import contextlib
+import ctypes
 import os
 import pathlib
 import re
@@ -11,12 +13,37 @@ import threading
 
 BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build")).resolve()
 CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
-PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 120))  # seconds; only a failing test ever waits that long
+PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 300))  # seconds; only a failing test ever waits that long
 OPENED = "Demo Prophet_DP.THC"  # a player of the sample pool
 
 
 class Broken(AssertionError):
     """Something was lost, or the program complained."""
+
+
+_started = set()  # process numbers of the programs that are obeying
+_PR_SET_CHILD_SUBREAPER = 36
+
+
+def adopt_orphans():
+    """From now on what a killed program had started is ours."""
+    if ctypes.CDLL(None, use_errno=True).prctl(_PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) != 0:
+        raise OSError(ctypes.get_errno(), "the orphans of killed programs cannot be waited for")
+
+
+def children():
+    found = set()
+    for thread in pathlib.Path("/proc/self/task").iterdir():
+        with contextlib.suppress(FileNotFoundError):  # it has just ended
+            found.update(int(number) for number in (thread / "children").read_text().split())
+    return found
+
+
+def wait_for_orphans():
+    """Returns when nothing writes any more that a killed program had started: the demo installer."""
+    while orphans := children() - _started:
+        for orphan in orphans:
+            os.waitpid(orphan, 0)
 
 
 class Pool:
@@ -29,6 +56,7 @@ class Pool:
         subprocess.run([CMAKE, "--install", BUILD, "--prefix", self.folder, "--component", "program"],
                        check=True, stdout=subprocess.DEVNULL)
         subprocess.run([self.folder / "DEMOSET.EXE"], check=True)
+        self.demo = {file.name: file.read_bytes() for file in self.folder.iterdir() if not self.is_program(file)}
         (self.folder / "TALLYHOOP.INI").unlink()  # from now on it is somebody's own
         if not finalized:
             field = self.read("POOLSTART.THS")
@@ -43,6 +71,10 @@ class Pool:
         gio = programs / "gio"
         gio.write_text("#!/bin/sh\nexit 0\n")
         gio.chmod(0o755)
+
+    @staticmethod
+    def is_program(file):
+        return os.access(file, os.X_OK)
 
     def read(self, name):
         return (self.folder / name).read_bytes()
@@ -62,7 +94,7 @@ class Pool:
                 entry.unlink()
         for name, content in self.pristine.items():
             path = self.folder / name
-            if not path.exists() or (not os.access(path, os.X_OK) and path.read_bytes() != content):
+            if not path.exists() or (not self.is_program(path) and path.read_bytes() != content):
                 path.write_bytes(content)
 
     def close(self):
@@ -70,12 +102,16 @@ class Pool:
 
 
 class SavingProgram:
-    """The program, started without a display and obeying. Use as a context manager."""
+    """The program, started without a display and obeying. Use as a context manager.
 
-    def __init__(self, pool, writer, allowed_boxes=()):
+    It has to start with exactly the boxes starts_with (their titles); later it may show the allowed ones.
+    """
+
+    def __init__(self, pool, writer, allowed_boxes=(), starts_with=()):
         self._pool = pool
         self._writer = writer
-        self._allowed = set(allowed_boxes)
+        self._starts_with = set(starts_with)
+        self._allowed = set(allowed_boxes) | self._starts_with
         self._process = None
 
     def __enter__(self):
@@ -93,19 +129,23 @@ class SavingProgram:
         self._process = subprocess.Popen([str(self._pool.folder / "tallyhoop")], env=environment,
                                          pass_fds=[orders, tell], stdin=subprocess.DEVNULL, stdout=self._errors,
                                          stderr=self._errors, cwd="/")
+        _started.add(self._process.pid)
         os.close(orders)
         os.close(tell)
         self._told = os.fdopen(told_end, encoding="utf-8")
-        boxes = self.wait_for("ready")[1]
-        if boxes - {"Tallyhoop"} - self._allowed:
-            raise Broken(f"{self._writer}: the program started with {boxes}")
+        try:
+            boxes = self.wait_for("ready")[1]
+            if boxes != self._starts_with:
+                raise Broken(f"{self._writer}: the program started with {boxes or 'no box'}")
+        except BaseException:
+            self.__exit__(None, None, None)
+            raise
         return self
 
     def __exit__(self, kind, error, trace):
         os.close(self._order_end)
         self._told.close()
-        self._process.kill()
-        self._process.wait()
+        self.kill()
         self._errors.close()
 
     def order(self, text):
@@ -136,11 +176,14 @@ class SavingProgram:
     def save(self, number):
         self.order(f"once {number}")
         self.wait_for("saved")
+        wait_for_orphans()
 
     def kill(self):
         """Kills the program itself; it is not to be used any more."""
         self._process.send_signal(signal.SIGKILL)
         self._process.wait()
+        _started.discard(self._process.pid)
+        wait_for_orphans()
 
     def child(self, order):
         """Lets the program fork a child that obeys; its process number."""
@@ -148,4 +191,6 @@ class SavingProgram:
         return int(self.wait_for("child")[0])
 
     def child_status(self):
-        return int(self.wait_for("gone")[0])
+        status = int(self.wait_for("gone")[0])
+        wait_for_orphans()
+        return status

@@ -7,6 +7,8 @@ import re
 MARK = re.compile(rb" *MARK\d+x*")  # titles are centred: the blanks differ with the length
 POINTS = re.compile(rb"\r\n1\d\d(\r\n\*END\*\r\n)\Z")
 CHANGED = "** FILE HAS BEEN CHANGED **"
+FAULTY_LIST = "** ERROR Found in PLAYERNAMES.CSV file **"
+OFFER = "** DEMO MODE OPTION **"
 DEMO = "STALLYHOOP DEMOSTRATION MODE"  # sic
 
 
@@ -49,7 +51,7 @@ class Writer:
         self.comparable = comparable  # what all whole versions of a file have in common
         self.finalized = finalized    # the pool that it needs
         self.boxes = {CHANGED, *boxes}
-        self.own_files = own_files    # that must never be in neither of two places
+        self.own_files = own_files    # that must always be in the folder or in a dated one
 
 
 def report(number):
@@ -61,14 +63,15 @@ WRITERS = {writer.name: writer for writer in [
     Writer("results", ["TALLYHOOP.THS"], without_points),
     Writer("selection", ["Demo Prophet_DP.THC"], without_points),
     Writer("players", ["PLAYERNAMES.CSV"], without_marked_lines),
-    Writer("annotated", ["PLAYERNAMES.TXT"], without_marks, boxes=["** ERROR Found in PLAYERNAMES.CSV file **"]),
+    Writer("annotated", ["PLAYERNAMES.TXT"], without_marks, boxes=[FAULTY_LIST]),
     Writer("teams", ["NCAALIST.THS"], without_marked_lines, finalized=False, boxes=["TEAM NAMES Changed / Added"]),
     *[report(number) for number in range(1, 8)],
     Writer("message", ["TALLYHOOP.EML", "RPTOPT2.TXT"], None),
     Writer("pdf", ["Bracket.PDF"], pdf, boxes=["Tallyhoop"]),
     Writer("installer", [], lambda content: content),
     Writer("backup", [], None, finalized=False, boxes=["** DEMO MODE SET **", DEMO],
-           own_files=["POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV"]),
+           own_files=["POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV", "Demo Favorite_DF.THC",
+                      "Demo Halfway_DH.THC", "Demo Longshot_DL.THC", "Demo Prophet_DP.THC"]),
 ]}
 
 

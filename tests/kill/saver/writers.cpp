@@ -68,7 +68,8 @@ void makeReport(int round)
     click("cmdPrintSelections");
 }
 
-const std::array<Writer, 16> kWriters{{
+const std::array<Writer, 17> kWriters{{
+    {"nothing", nothing, [](int) {}},
     {"setup", [] { choose("mnuSetupOptions"); }, saveSetup},
     {"results", [] { choose("mnuGameResults"); }, saveBoard},
     {"selection", [] { choose("mnuOpenSelection"); }, saveBoard},
