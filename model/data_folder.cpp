@@ -41,16 +41,31 @@ void forEachEntry(const fs::path& folder, Visit visit)
         visit(*entry);
 }
 
-/// @returns the entry of this name; of several that differ from it only in case the first in byte order
+/// A letter that our code page lacks is shown as "?".
+bool isShownWhole(const fs::path& name)
+{
+    const std::string text = shown(name);
+    return text.find('?') == std::string::npos || nativeName(text) == name;
+}
+
+/// @returns the entry of this name; of several that differ from it only in case the first in byte order. An entry whose
+///          name cannot be shown whole is meant only when no other looks alike: none is better than a wrong one.
 std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name)
 {
     if (fs::path exact = folder / nativeName(name); isThere(exact))
         return exact;
     std::optional<fs::path> found;
+    std::vector<fs::path> lookalikes;
     forEachEntry(folder, [&](const fs::directory_entry& entry) {
-        if (equalFolded(shown(entry.path().filename()), name) && (!found || entry.path() < *found))
+        if (!equalFolded(shown(entry.path().filename()), name))
+            return;
+        if (!isShownWhole(entry.path().filename()))
+            lookalikes.push_back(entry.path());
+        else if (!found || entry.path() < *found)
             found = entry.path();
     });
+    if (!found && lookalikes.size() == 1)
+        found = lookalikes.front();
     return found;
 }
 
@@ -58,11 +73,12 @@ std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name)
 std::size_t deviceLength(std::string_view name)
 {
     const std::string stem = trimTrailingBlanks(name.substr(0, name.find('.')));
-    constexpr std::array<std::string_view, 4> kDevices = {"CON", "PRN", "AUX", "NUL"};
+    constexpr std::array<std::string_view, 6> kDevices = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
     constexpr std::array<std::string_view, 2> kNumbered = {"COM", "LPT"};
     const bool device = std::ranges::any_of(kDevices, [&](std::string_view one) { return equalFolded(stem, one); });
+    constexpr std::string_view kDigits = "0123456789\xB9\xB2\xB3"; // raised 1, 2 and 3 count as well
     const bool numbered =
-        stem.size() == 4 && stem.back() >= '0' && stem.back() <= '9' &&
+        stem.size() == 4 && kDigits.find(stem.back()) != std::string_view::npos &&
         std::ranges::any_of(kNumbered, [&](std::string_view one) { return startsWithFolded(stem, one); });
     return device || numbered ? stem.size() : 0;
 }
@@ -189,11 +205,9 @@ bool isSameFile(const fs::path& left, const fs::path& right)
     const fs::path fullRight = fullPath(right);
     if (fullLeft.parent_path() != fullRight.parent_path())
         return false;
-    // A letter that our code page lacks is shown as "?": only the very name tells such files apart.
-    const std::string nameLeft = shown(fullLeft.filename());
-    const bool isShownWhole = nameLeft.find('?') == std::string::npos;
-    return isShownWhole ? equalFolded(nameLeft, shown(fullRight.filename()))
-                        : fullLeft.filename() == fullRight.filename();
+    if (!isShownWhole(fullLeft.filename()) || !isShownWhole(fullRight.filename()))
+        return fullLeft.filename() == fullRight.filename();
+    return equalFolded(shown(fullLeft.filename()), shown(fullRight.filename()));
 }
 
 std::string withoutUnsafeCharacters(std::string_view name)

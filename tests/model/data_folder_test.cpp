@@ -3,6 +3,7 @@
 
 #include "fakes/scratch_folder.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 
@@ -66,6 +67,39 @@ TEST(DataFolderPathOf, WritesAccentedLettersAsTheSystemDoes)
     scratch.put("REN\xC3\x89_R.THC", "");
     EXPECT_EQ(scratch.folder().pathOf("ren\xE9_r.thc"), scratch.path() / "REN\xC3\x89_R.THC");
 }
+
+TEST(DataFolderPathOf, FindsTheOnlyFileWhoseLettersItCannotShow)
+{
+    const ScratchFolder scratch;
+    scratch.put("Lukasz_L.THC", "");
+    const fs::path file = scratch.path() / u8"Łukasz_L.THC";
+    std::ofstream{file} << "one";
+    EXPECT_EQ(scratch.folder().pathOf("?ukasz_l.thc"), file);
+    EXPECT_TRUE(scratch.folder().exists("?ukasz_L.THC"));
+}
+
+TEST(DataFolderPathOf, FindsNoneOfTwoFilesThatLookAlike)
+{
+    const ScratchFolder scratch;
+    std::ofstream{scratch.path() / u8"Łukasz_L.THC"} << "one";
+    std::ofstream{scratch.path() / u8"Ńukasz_L.THC"} << "two";
+    EXPECT_FALSE(scratch.folder().exists("?ukasz_L.THC"));
+    EXPECT_FALSE(scratch.folder().read("?ukasz_L.THC"));
+    EXPECT_TRUE(scratch.folder().remove("?ukasz_L.THC"));
+    EXPECT_EQ(namesOf(scratch.folder().files(".THC")), (Names{"?ukasz_L.THC", "?ukasz_L.THC"})) << "both are there";
+}
+
+#ifndef _WIN32 // where no name may hold a question mark
+TEST(DataFolderPathOf, PrefersTheFileThatIsCalledSo)
+{
+    const ScratchFolder scratch;
+    std::ofstream{scratch.path() / u8"Łukasz_L.THC"} << "one";
+    const fs::path file = scratch.put("?UKASZ_L.THC", "two");
+    EXPECT_EQ(scratch.folder().pathOf("?ukasz_L.THC"), file);
+    EXPECT_FALSE(isSameFile(file, scratch.path() / u8"Łukasz_L.THC"));
+    EXPECT_TRUE(isSameFile(file, scratch.path() / "?ukasz_l.thc"));
+}
+#endif
 
 TEST(DataFolderPathOf, RefusesWhatIsNoBareName)
 {
@@ -244,6 +278,12 @@ TEST(WithoutUnsafeCharacters, KeepsAwayFromTheDevicesOfWindows)
     EXPECT_EQ(withoutUnsafeCharacters("CON"), "CON_");
     EXPECT_EQ(withoutUnsafeCharacters("aux.THC_AB.THC"), "aux_.THC_AB.THC");
     EXPECT_EQ(withoutUnsafeCharacters("Com1 .txt"), "Com1_ .txt");
+    EXPECT_EQ(withoutUnsafeCharacters("COM\xB9.THC"), "COM\xB9_.THC");
+    EXPECT_EQ(withoutUnsafeCharacters("com\xB2"), "com\xB2_");
+    EXPECT_EQ(withoutUnsafeCharacters("Lpt\xB3"), "Lpt\xB3_");
+    EXPECT_EQ(withoutUnsafeCharacters("CONIN$.THC"), "CONIN$_.THC");
+    EXPECT_EQ(withoutUnsafeCharacters("conout$"), "conout$_");
+    EXPECT_EQ(withoutUnsafeCharacters("COM\xBD.THC"), "COM\xBD.THC"); // one half is no digit
     EXPECT_EQ(withoutUnsafeCharacters("Conrad.THC"), "Conrad.THC");
     EXPECT_EQ(withoutUnsafeCharacters("COM_1.THC"), "COM_1.THC");
     EXPECT_EQ(withoutUnsafeCharacters("CON_JS.THC"), "CON_JS.THC");

@@ -33,18 +33,21 @@ TEST_P(WeaponsOnTheBoard, AreThePlayersNameAndNothingElse)
     EXPECT_EQ(board->txtPlayerName.text, name());
 }
 
-TEST_P(WeaponsOnTheBoard, AreATeamLikeAnyOther)
+TEST_P(WeaponsOnTheBoard, AreATeamAndASeedLikeAnyOther)
 {
     SetupLines lines = defaultSetupLines();
     for (int i = 0; i < kTeams; ++i)
         lines[static_cast<std::size_t>(i)] = team(i / 16, i % 16);
     lines[0] = weapon();
+    lines[setup_line::kSeed] = weapon();
     lines[setup_line::kTitle] = weapon();
     lines[setup_line::kFinalized] = "1";
     scratch.put(file_name::kSetup, setupFile(lines));
     load();
     EXPECT_EQ(at(0), weapon());
     EXPECT_EQ(board->lblTitle.text, weapon());
+    for (const std::size_t region : {0, 1, 2, 3})
+        EXPECT_EQ(board->txtSeed[region * kRowsPerRegion].text, weapon());
     click(0);
     EXPECT_EQ(at(16), weapon());
     drag(0, 126);

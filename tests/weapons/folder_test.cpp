@@ -7,6 +7,7 @@
 #include "players/selection_of_player.h"
 
 #include <algorithm>
+#include <fstream>
 #include <gtest/gtest.h>
 
 namespace tallyhoop::test {
@@ -18,7 +19,8 @@ namespace fs = std::filesystem;
 bool isDevice(const std::string& name)
 {
     const std::string stem = name.substr(0, name.find_first_of(". "));
-    for (const char* device : {"CON", "PRN", "AUX", "NUL", "COM1", "LPT1"})
+    for (const char* device : {"CON", "PRN", "AUX", "NUL", "COM1", "LPT1", "COM\xB9", "COM\xB2", "COM\xB3", "LPT\xB9",
+                               "LPT\xB2", "LPT\xB3", "CONIN$", "CONOUT$"})
         if (equalFolded(stem, device))
             return true;
     return false;
@@ -99,6 +101,18 @@ TEST_P(WeaponsAsFileNames, InTheRecordOfAPlayerStandForNoFileOutside)
 
 INSTANTIATE_TEST_SUITE_P(Each, WeaponsAsFileNames, testing::ValuesIn(weapons()),
                          [](const auto& values) { return values.param.kind; });
+
+TEST(WeaponsOnTheDisk, MarksThatTurnANameAroundAreShownAsWhatTheyAreNot)
+{
+    const ScratchFolder scratch;
+    const fs::path turned = scratch.path() / u8"Smith\u202ECHT.exe_\u200F\u2066.THC";
+    std::ofstream{turned} << "x";
+    const std::vector<FolderFile> files = scratch.folder().files(".THC");
+    ASSERT_EQ(files.size(), 1u);
+    EXPECT_EQ(files.front().name, "Smith?CHT.exe_??.THC");
+    EXPECT_EQ(files.front().path, turned);
+    EXPECT_EQ(fromUtf8("\u202E\u200F\u2066"), "???");
+}
 
 } // namespace
 } // namespace tallyhoop::test

@@ -37,6 +37,11 @@ inline const std::vector<Weapon>& weapons()
         {"DeviceNul", "nul"},
         {"DeviceAux", "AUX.THC"},
         {"DevicePort", "COM1.txt"},
+        {"DeviceRaisedPort", "com\xB9.txt"}, // Windows takes the raised 1, 2 and 3 for digits
+        {"DeviceRaisedPrinter", "LPT\xB3"},
+        {"DeviceConsole", "conin$"},
+        {"RightToLeft", "\xE2\x80\xAE"
+                        "exe.CHT\xE2\x80\x8F\xE2\x81\xA6"}, // the bytes of UTF-8, which ours are not
         {"TitleMark", "window[*]title"},
         {"Controls", "bell\x07"
                      "back\x08"
