@@ -118,17 +118,25 @@ void frmPoolEntry::describeBoxes()
     cmdClear.mnemonic = 'l';
     cmdFinalize.mnemonic = 'n';
     lstTeamNames.spokenName = "Team names";
-    lstTeamNames.chosen = [this] { markLastTeamBox(true); };
+    lstTeamNames.pressed = [this] { markLastTeamBox(true); };
 }
 
 void frmPoolEntry::load()
 {
     m_state.teamNames = {};
     OverrideMode = false;
+    showTeamNames();
+    showPool();
+}
+
+/// Shows the field and the demo mode that the folder holds now.
+void frmPoolEntry::showPool()
+{
     m_known.note(m_folder.pathTo(file_name::kSetup));
     ReadStartingField(m_folder, m_platform.dialogs, m_state);
+    FinalizeState = "0";
+    cmdFinalize.enabled = true;
     showSetup();
-    showTeamNames();
     showDemoMode();
     m_saved = linesOnScreen();
     m_notice = std::exchange(m_state.notice, {});
@@ -247,7 +255,12 @@ void frmPoolEntry::resetDemoMode()
 
 void frmPoolEntry::reload(Opening opening)
 {
-    saveTeamNames();
+    if (!saveTeamNames()) {
+        // Names that could not be written stay here, beside the pool that is there now.
+        m_opening = opening;
+        showPool();
+        return;
+    }
     m_screens.unload(ScreenKind::Setup);
     m_screens.load(ScreenKind::Setup, opening);
 }

@@ -81,6 +81,7 @@ private:
     void arrangeTabs();
     void arrangeMenus();
     void describeBoxes();
+    void showPool();
     void showSetup();
     void showTeamNames();
     void showDemoMode();

@@ -100,6 +100,7 @@ struct ListBox : Control {
     bool fixedPitch = false;          ///< rows are laid out in columns
     std::optional<Colour> background; ///< nothing = the palette's
     std::function<void()> chosen;     ///< called after the person selected a row
+    std::function<void()> pressed;    ///< called after a left mouse press anywhere on it, also where no row is
     std::function<void()> doubleClicked;
 
     /// @returns the selected row's text, empty when none is selected

@@ -97,7 +97,7 @@ bool saidByItsList(const QWidget& widget)
 bool hasWaysOfItsOwn(const ui::Control& control, const QWidget& widget)
 {
     if (const auto* list = dynamic_cast<const ui::ListBox*>(&control))
-        return list->doubleClicked || list->chosen;
+        return list->doubleClicked || list->chosen || list->pressed;
     if (const auto* grid = dynamic_cast<const ui::Grid*>(&control))
         return static_cast<bool>(grid->cellPressed);
     const auto* slot = qobject_cast<const SlotLabel*>(&widget);

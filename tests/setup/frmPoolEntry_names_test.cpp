@@ -1,4 +1,5 @@
 // The setup screen: maintaining the list of team names.
+#include "model/setup_file.h"
 #include "setup/setup_fixture.h"
 
 namespace tallyhoop::test {
@@ -280,6 +281,40 @@ TEST_F(frmPoolEntryNames, TheQuestionAlsoComesWhenADemoCommandReloadsTheScreen)
     made->mnuDemoReset.click();
     EXPECT_NE(files.get("NCAALIST.THS").find("\r\nUtopia\r\n"), std::string::npos);
     EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Setup, Opening::DemoLeft}}));
+}
+
+TEST_F(frmPoolEntryNames, ADemoCommandKeepsTheScreenAndTheNamesThatCannotBeWritten)
+{
+    files.put("TALLYHOOP.INI", "1\r\n");
+    SetupLines sample = defaultSetupLines();
+    sample[setup_line::kTeam] = "Sample";
+    files.put("POOLSTART.THS", setupFile(sample));
+    frmPoolEntry& screen = loaded();
+    click(screen.cmdFinalize);
+    typeFreely(0, "Utopia");
+    std::filesystem::remove(files.path() / "NCAALIST.THS");
+    std::filesystem::create_directories(files.path() / "NCAALIST.THS" / "in the way");
+    dialogs().answer(Answer::Yes);
+    screen.mnuDemoReset.click();
+    EXPECT_EQ(dialogs().shown.back().caption, "** ERROR IN WRITING FILE **");
+    EXPECT_TRUE(screens.unloads.empty());
+    EXPECT_TRUE(screens.loads.empty());
+    EXPECT_EQ(state.teamNames.newNames, std::vector<std::string>{"Utopia"});
+    EXPECT_EQ(screen.lstTeamNames.rows, kSmallList);
+
+    // Everything else is as on a screen that is loaded anew.
+    EXPECT_EQ(screen.txtRegion[0].text, "TEAM1");
+    EXPECT_FALSE(screen.lblDemoMode.visible);
+    EXPECT_FALSE(screen.mnuDemoReset.enabled);
+    EXPECT_TRUE(screen.mnuDemoSet.enabled);
+    EXPECT_EQ(screen.FinalizeState, "0");
+    EXPECT_TRUE(screen.cmdFinalize.enabled);
+
+    // And the names can still be saved.
+    std::filesystem::remove_all(files.path() / "NCAALIST.THS");
+    dialogs().answer(Answer::Yes);
+    screen.mnuEnd.click();
+    EXPECT_NE(files.get("NCAALIST.THS").find("\r\nUtopia\r\n"), std::string::npos);
 }
 
 } // namespace

@@ -101,7 +101,7 @@ protected:
     {
         focus(made->lstTeamNames);
         made->lstTeamNames.selected = row;
-        made->lstTeamNames.chosen();
+        made->lstTeamNames.pressed();
     }
 
     /// Types into a box that takes any text.

@@ -73,6 +73,10 @@ QListView* Page::add(ui::ListBox& list)
         if (!m_pushing)
             run(selectedRow(*view) ? list.chosen : std::function<void()>{});
     };
+    view->pressedAnywhere = [this, &list] {
+        if (list.pressed)
+            run(list.pressed);
+    };
     connect(view, &QListView::doubleClicked, this, [this, &list] { run(list.doubleClicked); });
     return view;
 }

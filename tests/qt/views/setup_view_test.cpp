@@ -233,6 +233,26 @@ TEST_F(SetupViewTest, AMousePressOnTheListMarksTheBoxThatEnterFills)
     EXPECT_EQ(view->focusWidget(), &team(2));
 }
 
+TEST_F(SetupViewTest, APressBesideTheRowsMarksTheBoxAsWell)
+{
+    press(Qt::Key_Tab);
+    QWidget& ground = *list().viewport();
+    const QPoint beside{ground.width() / 2, ground.height() - 2};
+    ASSERT_FALSE(list().indexAt(beside).isValid());
+    QTest::mouseClick(&ground, Qt::LeftButton, {}, beside);
+    EXPECT_EQ(view->focusWidget(), &list());
+    EXPECT_EQ(team(1).palette().color(QPalette::Base), (QColor{0x80, 0xFF, 0x80}));
+}
+
+TEST_F(SetupViewTest, APressWithTheOtherButtonMarksNothing)
+{
+    press(Qt::Key_Tab);
+    const QColor ground = team(1).palette().color(QPalette::Base);
+    QTest::mouseClick(list().viewport(), Qt::RightButton, {}, list().visualRect(list().model()->index(5, 0)).center());
+    EXPECT_EQ(view->focusWidget(), &list());
+    EXPECT_EQ(team(1).palette().color(QPalette::Base), ground);
+}
+
 TEST_F(SetupViewTest, WhatACutLeavesBehindIsDropped)
 {
     type("iowa ");

@@ -1,5 +1,7 @@
 #include "ui/qt/widgets/rows_view.h"
 
+#include <QMouseEvent>
+
 namespace tallyhoop::qt {
 
 RowsView::RowsView(QWidget* parent) : QListView{parent}
@@ -17,6 +19,8 @@ void RowsView::mousePressEvent(QMouseEvent* event)
 {
     m_changedByPress = false;
     QListView::mousePressEvent(event);
+    if (event->button() == Qt::LeftButton && pressedAnywhere)
+        pressedAnywhere();
 }
 
 void RowsView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected)

@@ -16,6 +16,9 @@ public:
     /// The selection changed, or a press on the selected row chose it again; also when the model is being shown.
     std::function<void()> rowChosen;
 
+    /// The left button went down, on a row or beside them all; after the row was chosen.
+    std::function<void()> pressedAnywhere;
+
 protected:
     void mousePressEvent(QMouseEvent* event) override;
     void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
