@@ -188,12 +188,12 @@ void BracketCanvas::chooseFonts()
     use(m_places, letters(1, false));
     m_places[kChampion]->setFont(letters(1.3, true));
     use(m_markers, letters(1, true));
-    use(m_seeds, letters(0.86, false));
+    use(m_seeds, letters(0.9, false));
     use(m_roundNames, letters(0.9, false));
-    use(m_roundPoints, letters(0.95, true));
+    use(m_roundPoints, letters(0.9, true));
     use(m_regionTitles, letters(1.3, true));
     m_title->setFont(letters(1.9, true));
-    m_demoMode->setFont(letters(1.2, true));
+    m_demoMode->setFont(letters(1.3, true));
     m_champion->setFont(letters(0.9, true));
 }
 

@@ -94,7 +94,7 @@ QFont SlotLabel::fittingFont() const
     QFont fitting = font();
     const int room = textPlace().width();
     for (int stretch = 100; stretch > kNarrowest && QFontMetrics{fitting}.horizontalAdvance(text()) > room;) {
-        stretch -= 5;
+        stretch -= 10; // few steps: each is a font of its own
         fitting.setStretch(stretch);
     }
     return fitting;
