@@ -92,24 +92,25 @@ void addPossiblePoints(const Payoffs& payoffs, NumberedScore& score)
     }
 }
 
-/// @param[out] teams the teams picked for a game they did not win, each once, in order of their loss
-void listEliminatedTeams(const SelectionLines& picks, const NumberedPair& pair, std::vector<std::string>& teams)
+/// @returns the teams picked for a game they did not win, each once, in order of their loss
+std::vector<std::string> eliminatedTeams(const SelectionLines& picks, const NumberedPair& pair)
 {
-    // The slots first, without branches, and then as many names at once.
-    std::array<std::size_t, 128> slots;
+    std::array<std::size_t, 128> losses{}; // slots; the names then come into a list that fits them
     std::size_t count = 0;
     std::array<bool, 256> isListed{};
-    isListed[kNoTeam] = true;
     for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
         const TeamNumber pick = pair.picks[slot];
-        const bool lost = (pair.results[slot] != kNoTeam) & (pair.results[slot] != pick);
-        slots[count] = slot;
-        count += lost & !isListed[pick];
-        isListed[pick] |= lost;
+        const bool lost = pair.results[slot] != kNoTeam && pair.results[slot] != pick;
+        if (lost && pick != kNoTeam && !isListed[pick]) {
+            isListed[pick] = true;
+            losses[count++] = slot;
+        }
     }
-    teams.resize(count);
-    for (std::size_t team = 0; team < count; ++team)
-        teams[team] = picks[slots[team]];
+    std::vector<std::string> teams;
+    teams.reserve(count);
+    for (std::size_t loss = 0; loss < count; ++loss)
+        teams.push_back(picks[losses[loss]]);
+    return teams;
 }
 
 Result<std::int16_t> sixteenBits(std::int32_t points, const std::string& fileName)
@@ -145,7 +146,7 @@ ScoredPicks Scoring::score(const SelectionLines& picks) const
     const NumberedScore score = scoreNumbered(pair, m_payoffs);
     ScoredPicks scored{score.points, score.possible, score.goodPicks, score.badPicks, {}};
     std::copy(score.status.begin(), score.status.end(), scored.verdict.SlotStatus.begin());
-    listEliminatedTeams(picks, pair, scored.verdict.EliminatedTeams);
+    scored.verdict.EliminatedTeams = eliminatedTeams(picks, pair);
     return scored;
 }
 
