@@ -146,6 +146,7 @@ class Victim:
         left = {f".{name}.tmp~" for name in self.writer.files} & self.pool.names()
         if left:
             raise Broken(f"{left} outlived the next save")
+        self.pool.reset()
 
     # --- ways to kill ---
 
