@@ -1,44 +1,18 @@
-#include "fakes/scratch_folder.h"
-#include "qt/sample_screen.h"
-#include "ui/qt/paths.h"
-#include "ui/qt/services/qt_dialogs.h"
+#include "qt/asking.h"
 #include "ui/qt/services/qt_printer.h"
 
 #include <QAbstractButton>
-#include <QDialogButtonBox>
-#include <QFileDialog>
 #include <QFontDialog>
 #include <QInputDialog>
-#include <QListView>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
-#include <QTimer>
 #include <gtest/gtest.h>
 
 using namespace tallyhoop;
 using namespace tallyhoop::qt;
 using namespace tallyhoop::qt::test;
-
-namespace {
-
-/// Does something with the dialog that opens next.
-template <class Kind>
-void withNext(const std::function<void(Kind&)>& act)
-{
-    QTimer::singleShot(0, qApp, [act] {
-        auto* dialog = qobject_cast<Kind*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr) << "another dialog is open, or none";
-        act(*dialog);
-    });
-}
-
-struct Asking : Shown {
-    QtDialogs dialogs{desk};
-};
-
-} // namespace
 
 TEST(QtDialogs, AMessageShowsItsCaptionTextIconAndButtons)
 {
@@ -150,44 +124,16 @@ TEST(QtDialogs, AnInputBoxGivesWhatWasTypedOrNothing)
     EXPECT_EQ(asking.dialogs.ask({"Change", "prompt", "A&M"}), "");
 }
 
-TEST(QtDialogs, FilesAreOfferedWithoutRegardToCase)
+TEST(QtDialogs, ALineThatIsFarTooLongLosesItsMiddle)
 {
-    const tallyhoop::test::ScratchFolder scratch;
-    scratch.put("Upper_A.THC", "");
-    scratch.put("lower_b.thc", "");
-    scratch.put("other.txt", "");
     Asking asking;
-    QStringList names;
-    QTimer::singleShot(0, qApp, [&] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_EQ(dialog->selectedNameFilter(), QStringLiteral("PoolSelections (*.THC)"));
-        auto* list = dialog->findChild<QListView*>(QStringLiteral("listView"));
-        EXPECT_TRUE(QTest::qWaitFor([&] { return list->model()->rowCount(list->rootIndex()) == 2; }));
-        for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
-            names.append(list->model()->index(row, 0, list->rootIndex()).data().toString());
-        dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QStringLiteral("lower_b.thc"));
-        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->click();
+    withNext<QMessageBox>([&](QMessageBox& box) {
+        const QString middleGone = QString(200, QLatin1Char('a')) + QStringLiteral(" ... ") +
+                                   QString(200, QLatin1Char('b')) + QStringLiteral("\nshort");
+        EXPECT_EQ(box.text(), middleGone);
+        box.accept();
     });
-    const auto chosen = asking.dialogs.openFile({"Open", "PoolSelections (*.THC)", "*.THC", scratch.path(), ""});
-    EXPECT_EQ(chosen, scratch.path() / "lower_b.thc");
-    names.sort(Qt::CaseInsensitive);
-    EXPECT_EQ(names, (QStringList{QStringLiteral("lower_b.thc"), QStringLiteral("Upper_A.THC")}));
-}
-
-TEST(QtDialogs, SavingProposesANameAndNeverAsksAboutReplacing)
-{
-    const tallyhoop::test::ScratchFolder scratch;
-    scratch.put("Smith_JS.THC", "old");
-    Asking asking;
-    withNext<QFileDialog>([](QFileDialog& dialog) {
-        EXPECT_EQ(dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->text(), QStringLiteral("Smith_JS.THC"));
-        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
-    });
-    EXPECT_EQ(asking.dialogs.saveFile({"Save", "PoolSelections (*.THC)", "*.THC", scratch.path(), "Smith_JS.THC"}),
-              scratch.path() / "Smith_JS.THC");
-    withNext<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
-    EXPECT_EQ(asking.dialogs.saveFile({"Save", "", "*.THC", scratch.path(), ""}), std::nullopt);
+    asking.dialogs.show({"", std::string(300, 'a') + std::string(300, 'b') + "\r\nshort"});
 }
 
 TEST(QtDialogs, TheAboutBoxNamesTheProgram)

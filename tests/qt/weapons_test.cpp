@@ -1,131 +1,19 @@
 // tests/qt/weapons_test.cpp - every screen over a pool full of such names: they are shown, and nothing else happens.
-#include "weapons/weapons.h"
+#include "qt/weapons_program.h"
 
-#include "app/wiring.h"
-#include "bracket/frmPoolMain.h"
-#include "fakes/fake_platform.h"
-#include "fakes/scratch_folder.h"
-#include "model/file_names.h"
-#include "model/player_names_file.h"
-#include "model/selection_file.h"
-#include "model/setup_file.h"
 #include "scoring/frmPoolMisc.h"
-#include "ui/qt/main_frame.h"
-#include "ui/qt/screen_host.h"
+#include "setup/frmPoolEntry.h"
+#include "setup/frmPoolSeatings.h"
 #include "ui/qt/services/outgoing_mail.h"
-#include "ui/qt/text.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
 #include <QByteArray>
-#include <QLabel>
-#include <QTextDocumentFragment>
-#include <QTimer>
+#include <QLineEdit>
+#include <QPlainTextEdit>
 #include <algorithm>
-#include <gtest/gtest.h>
 #include <map>
 
 namespace tallyhoop::qt {
 namespace {
-
-using test::Weapon;
-
-/// The program with a pool whose title, regions, teams, seeds, comments and players all bear one name.
-class WeaponsOnScreens : public testing::TestWithParam<Weapon>
-{
-protected:
-    WeaponsOnScreens()
-    {
-        putPool();
-        registerScreens(host, folder, platform.services, state);
-        frame.resize(1200, 800);
-        frame.show();
-        host.load(ScreenKind::Board);
-    }
-
-    const std::string& weapon() const { return GetParam().text; }
-
-    void putPool()
-    {
-        SetupLines setup = defaultSetupLines();
-        for (std::size_t i = 0; i < 64; ++i)
-            setup.at(i) = i % 2 == 0 ? weapon() : "Team " + std::to_string(i);
-        for (const std::size_t line : {64, 65, 66, 67, 68, 75, 91, 92})
-            setup.at(line) = weapon();
-        setup[setup_line::kFinalized] = "1";
-        scratch.put(file_name::kSetup, setupFile(setup));
-
-        SelectionLines lines;
-        for (int i = 0; i < kPositions; ++i)
-            lines.at(static_cast<std::size_t>(i) + 1) = i % 2 == 0 ? weapon() : "Team " + std::to_string(i);
-        lines[selection_line::kName] = weapon();
-        lines[selection_line::kInitials] = weapon();
-        lines[selection_line::kFinalPoints] = "150";
-        EXPECT_TRUE(folder.write(fileName, selectionFile(lines)));
-        scratch.put(file_name::kResults, selectionFile(lines));
-        scratch.put(file_name::kPlayerNames,
-                    playerNamesFile(std::vector<PlayerRecord>{{weapon(), weapon(), weapon(), weapon()}}));
-    }
-
-    /// Looks at every widget of a screen.
-    void examine(ScreenKind kind)
-    {
-        desk.push();
-        QApplication::processEvents();
-        Page* const page = host.page(kind);
-        ASSERT_NE(page, nullptr);
-        EXPECT_EQ(page->windowTitle().remove(QStringLiteral("[*]")),
-                  toQString(page->screen().caption).remove(QStringLiteral("[*]")));
-        for (const QLabel* label : page->findChildren<QLabel*>()) {
-            EXPECT_TRUE(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()))
-                << label->objectName().toStdString() << " would show markup";
-        }
-        for (const QAbstractButton* button : page->findChildren<QAbstractButton*>()) {
-            EXPECT_TRUE(button->shortcut().isEmpty() || !button->text().contains(toQString(weapon())))
-                << button->objectName().toStdString() << " has a mnemonic that comes from a name";
-        }
-        for (const QAction* action : page->findChildren<QAction*>()) {
-            EXPECT_FALSE(weapon().size() > 3 && action->text().contains(toQString(weapon())))
-                << action->objectName().toStdString();
-        }
-        examineToolTips(*page);
-    }
-
-    void examineToolTips(const Page& page)
-    {
-        for (const ui::Control* control : page.screen().controls()) {
-            const QWidget* widget = page.widgetOf(*control);
-            if (widget == nullptr || control->toolTip.empty())
-                continue;
-            const QString tip = widget->toolTip();
-            const QString seen = Qt::mightBeRichText(tip) ? QTextDocumentFragment::fromHtml(tip).toPlainText() : tip;
-            EXPECT_EQ(seen.simplified(), toLines(control->toolTip).simplified()) << control->name;
-        }
-    }
-
-    void examineModal(ScreenKind kind)
-    {
-        QTimer::singleShot(0, qApp, [&] {
-            examine(kind);
-            desk.runInside(*host.screen(kind), [&] { host.unload(kind); });
-        });
-        host.load(kind);
-        EXPECT_FALSE(host.isLoaded(kind));
-    }
-
-    frmPoolMain& board() { return *host.find<frmPoolMain>(ScreenKind::Board); }
-    void onBoard(const std::function<void()>& command) { desk.runInside(board(), command); }
-
-    test::ScratchFolder scratch;
-    DataFolder folder{scratch.folder()};
-    const std::string fileName = proposedFileName(weapon(), weapon());
-    test::FakePlatform platform;
-    modTallyhoop state;
-    MainFrame frame;
-    Desk desk{&frame};
-    ScreenHost host{desk, frame};
-};
 
 TEST_P(WeaponsOnScreens, AreTextOnTheBoard)
 {
@@ -170,6 +58,47 @@ TEST_P(WeaponsOnScreens, AreTextInTheSetup)
 {
     host.load(ScreenKind::Setup);
     examine(ScreenKind::Setup);
+    const auto& setup = *host.find<frmPoolEntry>(ScreenKind::Setup);
+    const Page& page = *host.page(ScreenKind::Setup);
+    const auto line = [&page](const ui::Control& control) {
+        return qobject_cast<QLineEdit*>(page.widgetOf(control))->text().toStdString();
+    };
+    const std::string shown = toQString(weapon()).toStdString();
+    for (std::size_t team = 0; team < setup.txtRegion.size(); team += 2) {
+        EXPECT_EQ(line(setup.txtRegion[team]), shown) << team;
+        EXPECT_EQ(line(setup.txtRegion[team + 1]), "Team " + std::to_string(team + 1));
+    }
+    for (std::size_t i = 0; i < setup.TxtInfo.size(); ++i)
+        EXPECT_EQ(line(setup.TxtInfo[i]), shown) << i;
+    for (std::size_t i = 0; i < setup.lblSeed.size(); i += 2)
+        EXPECT_EQ(qobject_cast<QLabel*>(page.widgetOf(setup.lblSeed[i]))->text().toStdString(), shown) << i;
+    for (const ui::TextBox* comment : {&setup.txtComment1, &setup.txtComment2}) {
+        QString lines = toQString(weapon());
+        lines.replace(QLatin1Char{'|'}, QLatin1Char{'\n'}); // which stands for a line break in the file
+        EXPECT_EQ(qobject_cast<QPlainTextEdit*>(page.widgetOf(*comment))->toPlainText().toStdString(),
+                  lines.toStdString());
+    }
+}
+
+TEST_P(WeaponsOnScreens, AreTextAmongTheSeedsAndNumbersNever)
+{
+    host.load(ScreenKind::Setup);
+    QTimer::singleShot(0, qApp, [&] {
+        examine(ScreenKind::SeedPositions);
+        auto& seeds = *host.find<frmPoolSeatings>(ScreenKind::SeedPositions);
+        const Page& page = *host.page(ScreenKind::SeedPositions);
+        for (std::size_t row = 0; row < kRowsPerRegion; row += 2) {
+            EXPECT_EQ(qobject_cast<QLineEdit*>(page.widgetOf(seeds.txtSeed[row]))->text().toStdString(),
+                      toQString(weapon()).toStdString());
+            EXPECT_EQ(seeds.lblRegion[row].text, weapon());
+        }
+        desk.runInside(seeds, [&] { seeds.cmdComplete.click(); });
+        EXPECT_EQ(platform.dialogs.shown.back().caption, "SEED Entry ERROR");
+        desk.runInside(seeds, [&] { seeds.cmdCancel.click(); });
+    });
+    host.load(ScreenKind::SeedPositions);
+    EXPECT_FALSE(host.isLoaded(ScreenKind::SeedPositions));
+    EXPECT_EQ(host.find<frmPoolEntry>(ScreenKind::Setup)->lblSeed[0].text, weapon());
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, WeaponsOnScreens, testing::ValuesIn(test::weapons()),

@@ -1,26 +1,56 @@
 #include "ui/qt/services/qt_dialogs.h"
 
 #include "ui/qt/look.h"
-#include "ui/qt/paths.h"
+#include "ui/qt/services/file_dialog.h"
 #include "ui/qt/services/question.h"
 #include "ui/qt/text.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QShortcut>
+#include <algorithm>
 
 namespace tallyhoop::qt {
 
 namespace {
 
+constexpr qsizetype kMessageEnd = 200; ///< a path fits as a rule
+constexpr qsizetype kPromptEnd = 40;   ///< an input box does not break words
+
 QString captionOf(const std::string& caption)
 {
     return caption.empty() ? QStringLiteral("Tallyhoop") : titleText(toQString(caption));
+}
+
+/// A text that fits a display, whatever names are in it: of a line that is far too long the middle is left out.
+/// @param end how many characters stay at either end of it
+QString shownText(const std::string& text, qsizetype end)
+{
+    QStringList lines = toLines(text).split(QLatin1Char{'\n'});
+    for (QString& line : lines)
+        if (line.size() > 2 * end)
+            line = line.left(end) + QStringLiteral(" ... ") + line.right(end);
+    return lines.join(QLatin1Char{'\n'});
+}
+
+bool isWide(const QString& text)
+{
+    constexpr qsizetype kWide = 60;
+    const QStringList lines = text.split(QLatin1Char{'\n'});
+    return std::ranges::any_of(lines, [](const QString& line) { return line.size() > kWide; });
+}
+
+/// One line of text never holds a line break, wherever it was pasted from.
+std::string oneLine(const QString& typed)
+{
+    QString line = toLines(fromLines(typed));
+    while (line.endsWith(QLatin1Char{'\n'}))
+        line.chop(1);
+    return fromQString(line.replace(QLatin1Char{'\n'}, QLatin1Char{' '}));
 }
 
 QMessageBox::Icon toQt(ui::Icon icon)
@@ -90,7 +120,7 @@ ui::Answer QtDialogs::show(const ui::Message& message)
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(captionOf(message.caption));
     box.setIcon(toQt(message.icon));
-    box.setText(toLines(message.text));
+    box.setText(shownText(message.text, kMessageEnd));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     addButtons(box, message.buttons);
     offerHelp(box, message.helpTopic.empty() ? m_desk.runningTopic() : message.helpTopic);
@@ -121,10 +151,13 @@ std::string QtDialogs::ask(const ui::Question& asked)
         label->setTextFormat(Qt::PlainText);
         label->setBuddy(nullptr);
     }
-    dialog.setLabelText(toLines(asked.prompt));
+    const QString prompt = shownText(asked.prompt, kPromptEnd);
+    for (QLabel* label : labels)
+        label->setWordWrap(isWide(prompt));
+    dialog.setLabelText(prompt);
     if (auto* line = dialog.findChild<QLineEdit*>())
-        line->setAccessibleName(toLines(asked.prompt));
-    return dialog.exec() == QDialog::Accepted ? fromQString(dialog.textValue()) : std::string{};
+        line->setAccessibleName(prompt);
+    return dialog.exec() == QDialog::Accepted ? oneLine(dialog.textValue()) : std::string{};
 }
 
 std::optional<std::filesystem::path> QtDialogs::openFile(const ui::FileChoice& choice) { return choose(choice, false); }
@@ -134,17 +167,11 @@ std::optional<std::filesystem::path> QtDialogs::saveFile(const ui::FileChoice& c
 std::optional<std::filesystem::path> QtDialogs::choose(const ui::FileChoice& choice, bool save)
 {
     const Question question{m_desk};
-    QFileDialog dialog{m_desk.windowForDialogs(), captionOf(choice.caption), fromPath(choice.folder)};
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    dialog.setAcceptMode(save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
-    dialog.setFileMode(save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    FileDialog dialog{m_desk.windowForDialogs(), captionOf(choice.caption), choice.folder, save};
     dialog.setNameFilter(nameFilter(choice)); // Qt matches it in any case
     if (!choice.proposedName.empty())
         dialog.selectFile(toQString(choice.proposedName));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    return toPath(dialog.selectedFiles().constFirst());
+    return dialog.exec() == QDialog::Accepted ? dialog.chosen() : std::nullopt;
 }
 
 void QtDialogs::about()

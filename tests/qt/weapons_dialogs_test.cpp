@@ -1,0 +1,198 @@
+// tests/qt/weapons_dialogs_test.cpp - such names in message boxes, input boxes, file dialogs and the preview.
+#include "weapons/weapons.h"
+
+#include "fakes/scratch_folder.h"
+#include "model/data_folder.h"
+#include "qt/sample_screen.h"
+#include "ui/qt/paths.h"
+#include "ui/qt/services/help_window.h"
+#include "ui/qt/services/qt_dialogs.h"
+#include "ui/qt/services/qt_printer.h"
+#include "ui/qt/text.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
+#include <QScreen>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+namespace tallyhoop::qt {
+namespace {
+
+namespace fs = std::filesystem;
+using tallyhoop::test::Weapon;
+
+class WeaponsInDialogs : public testing::TestWithParam<Weapon>
+{
+protected:
+    const std::string& weapon() const { return GetParam().text; }
+    QString shownWeapon() const { return toQString(weapon()); }
+
+    /// Does something with the dialog that opens next, which has to fit the display and to leave text alone.
+    template <class Kind, class Act>
+    void withNext(Act act)
+    {
+        QTimer::singleShot(0, qApp, [this, act] {
+            auto* const dialog = qobject_cast<Kind*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr) << "another dialog is open, or none";
+            QApplication::processEvents();
+            EXPECT_LE(dialog->width(), dialog->screen()->availableGeometry().width());
+            EXPECT_LE(dialog->height(), dialog->screen()->availableGeometry().height());
+            for (const QLabel* label : dialog->template findChildren<QLabel*>())
+                EXPECT_TRUE(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()))
+                    << label->text().toStdString() << " would show markup";
+            seen = true;
+            act(*dialog);
+        });
+    }
+
+    /// A person types a name into a file dialog and accepts it, and gives up when that is not enough.
+    std::optional<fs::path> fileTyped(bool save, const std::string& proposal, const std::optional<QString>& typed)
+    {
+        QTimer giveUp;
+        giveUp.setInterval(0);
+        QObject::connect(&giveUp, &QTimer::timeout, [] {
+            if (auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()))
+                dialog->reject(); // first the box that says that there is no such file, then the dialog itself
+        });
+        withNext<QFileDialog>([&](QFileDialog& dialog) {
+            auto& name = *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+            if (typed)
+                name.setText(*typed);
+            else
+                EXPECT_EQ(name.text(), toQString(proposal));
+            giveUp.start();
+            dialog.findChild<QDialogButtonBox*>()
+                ->button(save ? QDialogButtonBox::Save : QDialogButtonBox::Open)
+                ->click();
+        });
+        const ui::FileChoice choice{"Files", "PoolSelections (*.THC)", "*.THC", folder(), proposal};
+        return save ? dialogs.saveFile(choice) : dialogs.openFile(choice);
+    }
+
+    fs::path folder() const { return scratch.path() / "pool"; }
+
+    WeaponsInDialogs() { fs::create_directory(folder()); }
+    ~WeaponsInDialogs() override { EXPECT_TRUE(seen); }
+
+    tallyhoop::test::ScratchFolder scratch;
+    test::Shown shown;
+    QtDialogs dialogs{shown.desk};
+    bool seen = false;
+};
+
+TEST_P(WeaponsInDialogs, AreTextInAMessage)
+{
+    withNext<QMessageBox>([this](QMessageBox& box) {
+        if (weapon().size() <= 400)
+            EXPECT_EQ(box.text(), QStringLiteral("The name is:\n") + shownWeapon());
+        else
+            EXPECT_EQ(box.text(), QStringLiteral("The name is:\n") + shownWeapon().left(200) + QStringLiteral(" ... ") +
+                                      shownWeapon().right(200));
+        EXPECT_EQ(box.windowTitle().replace(QStringLiteral("[*][*]"), QStringLiteral("[*]")), shownWeapon());
+        box.accept();
+    });
+    dialogs.show({weapon(), "The name is:\r\n" + weapon(), ui::Buttons::Ok, ui::Icon::Critical});
+}
+
+TEST_P(WeaponsInDialogs, AreTextInAnInputBoxAndComeBackFromIt)
+{
+    withNext<QInputDialog>([this](QInputDialog& dialog) {
+        auto& line = *dialog.findChild<QLineEdit*>();
+        EXPECT_EQ(line.text(), shownWeapon());
+        QApplication::clipboard()->setText(shownWeapon());
+        line.selectAll();
+        QTest::keyClick(&line, Qt::Key_V, Qt::ControlModifier);
+        dialog.accept();
+    });
+    EXPECT_EQ(dialogs.ask({weapon(), "The name is:\r\n" + weapon(), weapon()}), weapon());
+    QApplication::clipboard()->clear();
+}
+
+TEST_P(WeaponsInDialogs, AreSavedUnderTheProposedNameInTheFolder)
+{
+    const std::string proposal = withoutUnsafeCharacters(weapon().substr(0, 100) + "_AB.THC");
+    if (proposal.find('?') != std::string::npos)
+        return;
+    const auto chosen = fileTyped(true, proposal, {});
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(*chosen, folder() / toPath(toQString(proposal)));
+}
+
+TEST_P(WeaponsInDialogs, AreNothingButAPathWhenTheyAreTypedToSave)
+{
+    const std::optional<fs::path> chosen = fileTyped(true, "", shownWeapon());
+    if (!chosen)
+        return; // a folder, or longer than a name may be
+    const fs::path typed = toPath(shownWeapon());
+    EXPECT_EQ(chosen->lexically_normal(), (folder() / typed).lexically_normal());
+}
+
+TEST_P(WeaponsInDialogs, OpenNoFileThatIsNotThere)
+{
+    scratch.put("outside.THC", "not of the pool");
+    const std::optional<fs::path> chosen = fileTyped(false, "", shownWeapon());
+    if (weapon() == "/etc/passwd") { // which a person may well open
+        EXPECT_EQ(chosen, fs::path{weapon()});
+    } else {
+        EXPECT_FALSE(chosen) << *chosen;
+    }
+}
+
+TEST_P(WeaponsInDialogs, AreTextInThePreviewAndItsBoxes)
+{
+    QtPrinter printer{shown.desk};
+    withNext<QPrintPreviewDialog>([this](QPrintPreviewDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle().replace(QStringLiteral("[*][*]"), QStringLiteral("[*]")),
+                  QStringLiteral("Preview - ") + shownWeapon());
+        for (QLineEdit* box : dialog.findChildren<QLineEdit*>()) {
+            box->setFocus();
+            box->setText(shownWeapon());
+            QTest::keyClick(box, Qt::Key_Return);
+        }
+        QApplication::processEvents();
+        EXPECT_EQ(dialog.findChild<QPrintPreviewWidget*>()->pageCount(), 1);
+        dialog.reject();
+    });
+    printer.preview(ui::TextPrintout{weapon(), {weapon(), "the next line"}, {"Courier New", 10}});
+}
+
+TEST_P(WeaponsInDialogs, AreSearchedForInTheHelpAsTheyAre)
+{
+    seen = true;
+    HelpWindow help{nullptr};
+    help.setHelp("<h1>Bold</h1><p>Write &lt;b&gt;bold&lt;/b&gt; to the pool.</p>");
+    help.show();
+    auto& box = *help.findChild<QLineEdit*>(QStringLiteral("helpSearch"));
+    box.setText(shownWeapon());
+    QTest::keyClick(&box, Qt::Key_Return);
+    EXPECT_EQ(box.text(), shownWeapon());
+    EXPECT_TRUE(help.isVisible());
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, WeaponsInDialogs, testing::ValuesIn(tallyhoop::test::weapons()),
+                         [](const auto& values) { return values.param.kind; });
+
+TEST(WeaponsTypedIntoAnInputBox, LoseLineBreaksAndMarksThatTurnTextAround)
+{
+    test::Shown shown;
+    QtDialogs dialogs{shown.desk};
+    QTimer::singleShot(0, qApp, [] {
+        auto& dialog = *qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
+        QApplication::clipboard()->setText(QStringLiteral("one\ntwo\u202Eeerht\u2029four"));
+        QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_V, Qt::ControlModifier);
+        dialog.accept();
+    });
+    EXPECT_EQ(dialogs.ask({"Name Addition", "Enter the new name", ""}), "one two?eerht four");
+    QApplication::clipboard()->clear();
+}
+
+} // namespace
+} // namespace tallyhoop::qt

@@ -1,0 +1,102 @@
+// tests/qt/weapons_printed_test.cpp - such names on paper: the text of the PDF files is read back.
+#include "weapons/weapons.h"
+
+#include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
+#include "qt/weapons_program.h"
+#include "ui/qt/paths.h"
+#include "ui/qt/services/qt_printer.h"
+
+#include <QProcess>
+#include <algorithm>
+
+namespace tallyhoop::qt {
+namespace {
+
+class WeaponsPrinted : public testing::TestWithParam<Weapon>
+{
+protected:
+    const std::string& weapon() const { return GetParam().text; }
+
+    /// Whether each of its characters has a shape on paper. Unassigned ones and controls have none.
+    bool hasShape() const
+    {
+        return std::ranges::all_of(weapon(), [](char byte) {
+            const QChar character = toQString({&byte, 1}).front();
+            return character.isPrint() && character.category() != QChar::Other_Format;
+        });
+    }
+
+    QString saved(const auto& printout) const
+    {
+        Desk desk;
+        QtPrinter printer{desk};
+        EXPECT_TRUE(printer.savePdf(printout, pdf));
+        return said(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), fromPath(pdf), QStringLiteral("-")});
+    }
+
+    static QString said(const QString& program, const QStringList& arguments)
+    {
+        QProcess process;
+        process.start(program, arguments);
+        EXPECT_TRUE(process.waitForFinished()) << program.toStdString() << " (poppler-utils) is needed";
+        return QString::fromUtf8(process.readAllStandardOutput());
+    }
+
+    int pages() const
+    {
+        const QStringList about = said(QStringLiteral("pdfinfo"), {fromPath(pdf)}).split(QLatin1Char{'\n'});
+        for (const QString& line : about)
+            if (line.startsWith(QStringLiteral("Pages:")))
+                return line.mid(6).toInt();
+        return 0;
+    }
+
+    test::ScratchFolder scratch;
+    const std::filesystem::path pdf = scratch.path() / "paper.pdf";
+};
+
+TEST_P(WeaponsPrinted, AreALineOfAReport)
+{
+    const QString text = saved(ui::TextPrintout{weapon(),
+                                                {"the line before", weapon(), "the line behind", "\f", "page two"},
+                                                {"Courier New", 10},
+                                                ui::Orientation::Portrait,
+                                                0});
+    EXPECT_TRUE(text.contains(QStringLiteral("the line before")));
+    EXPECT_TRUE(text.contains(QStringLiteral("the line behind")));
+    EXPECT_TRUE(text.contains(QStringLiteral("page two")));
+    // A line that begins with a form feed starts a page and is not printed, as in every report.
+    EXPECT_EQ(pages(), weapon().starts_with('\f') ? 3 : 2);
+    if (hasShape() && weapon().size() <= 80) {
+        EXPECT_TRUE(text.simplified().contains(toQString(weapon()).simplified())) << text.toStdString();
+    }
+}
+
+TEST_P(WeaponsPrinted, AreTeamsOfThePrintedBoard)
+{
+    test::FakePlatform platform;
+    modTallyhoop state;
+    test::FakeScreens screens;
+    SetupLines setup = defaultSetupLines();
+    setup[0] = weapon();
+    setup[setup_line::kFinalized] = "1";
+    scratch.put(file_name::kSetup, setupFile(setup));
+    const DataFolder folder = scratch.folder();
+    frmPoolMain board{folder, platform.services, state, screens};
+    board.load();
+    const QString text = saved(ui::DrawingPrintout{weapon(), board.drawing(), ui::Orientation::Landscape});
+    EXPECT_EQ(pages(), 1);
+    EXPECT_TRUE(text.contains(QStringLiteral("TEAM2"))) << "the next team";
+    if (hasShape()) {
+        constexpr qsizetype kSurelyFits = 8;
+        EXPECT_TRUE(text.simplified().contains(toQString(weapon()).left(kSurelyFits).simplified()))
+            << text.toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, WeaponsPrinted, testing::ValuesIn(test::weapons()),
+                         [](const auto& values) { return values.param.kind; });
+
+} // namespace
+} // namespace tallyhoop::qt

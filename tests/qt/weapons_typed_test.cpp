@@ -1,0 +1,185 @@
+// tests/qt/weapons_typed_test.cpp - such names pasted into every box of every window: each is text, and the window
+// stays as it is.
+#include "qt/weapons_program.h"
+
+#include "model/sample_pool.h"
+#include "model/windows1252.h"
+
+#include <QClipboard>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTest>
+#include <algorithm>
+#include <array>
+#include <map>
+#include <set>
+
+namespace tallyhoop::qt {
+namespace {
+
+/// What a person pastes, and what a box has to hold then.
+struct Pasted {
+    std::string kind;
+    QString text;
+    std::string line;  ///< in a box of one line
+    std::string lines; ///< in a box of several
+};
+
+void PrintTo(const Pasted& pasted, std::ostream* out) { *out << pasted.kind; }
+
+std::vector<Pasted> allPasted()
+{
+    using namespace std::string_literals;
+    std::vector<Pasted> all{
+        {"RightToLeftOverride", QStringLiteral("Smith\u202EHCT.exe"), "Smith?HCT.exe", "Smith?HCT.exe"},
+        {"RightToLeftMark", QStringLiteral("\u200FJones\u200F"), "?Jones?", "?Jones?"},
+        {"RightToLeftIsolate", QStringLiteral("\u2066Clark\u2069 & Co"), "?Clark? & Co", "?Clark? & Co"},
+        {"Hebrew", QStringLiteral("\u05E9\u05DC\u05D5\u05DD"), "????", "????"},
+        {"Emoji", QStringLiteral("\U0001F3C0 ball"), "? ball", "? ball"},
+        {"AccentInTwoPieces", QStringLiteral("Rene\u0301"), "Ren\xE9", "Ren\xE9"},
+        {"Lines", QStringLiteral("one\ntwo\u2029three"), "one two three", "one\r\ntwo\r\nthree"},
+    };
+    for (const Weapon& weapon : test::weapons())
+        all.push_back({"File" + weapon.kind, toQString(weapon.text), weapon.text, weapon.text});
+    return all;
+}
+
+/// Boxes with rules of their own about what they take.
+bool isChoosy(const ui::Control& box)
+{
+    static const std::set<std::string> kPlayerFields{"txtName", "txtFileName", "txtEmail", "txtPhone"};
+    return box.name.starts_with("txtRegion_") || box.name.starts_with("txtSeed_") || kPlayerFields.contains(box.name);
+}
+
+class WeaponsPasted : public testing::TestWithParam<Pasted>
+{
+protected:
+    WeaponsPasted()
+    {
+        EXPECT_TRUE(demo::installSamplePool(folder));
+        registerScreens(host, folder, platform.services, state);
+        frame.resize(1366, 708);
+        frame.show();
+        host.load(ScreenKind::Board);
+        QApplication::clipboard()->setText(GetParam().text);
+    }
+    ~WeaponsPasted() override { QApplication::clipboard()->clear(); }
+
+    static QString textOf(const QWidget& widget)
+    {
+        if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
+            return line->text();
+        return qobject_cast<const QPlainTextEdit*>(&widget)->document()->toRawText();
+    }
+
+    void pasteInto(const ui::TextBox& box, QWidget& widget)
+    {
+        widget.setFocus();
+        QTest::keyClick(&widget, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(&widget, Qt::Key_V, Qt::ControlModifier);
+        if (!isChoosy(box)) {
+            EXPECT_EQ(box.text, box.multiLine ? GetParam().lines : GetParam().line) << box.name;
+        }
+        for (const QChar character : textOf(widget)) {
+            const bool ends = box.multiLine && character == QChar::ParagraphSeparator;
+            EXPECT_TRUE(ends || byteOf(character.unicode())) << box.name << " holds what cannot be saved";
+            EXPECT_TRUE(box.multiLine || (character != QLatin1Char{'\n'} && character != QLatin1Char{'\r'}))
+                << box.name << " holds a line break";
+        }
+    }
+
+    /// Every box of the screen that a person can write into.
+    /// @returns how many they are
+    int pasteEverywhere(ScreenKind kind)
+    {
+        const Page& page = *host.page(kind);
+        const QRect before = page.window()->geometry();
+        const auto placesBefore = places(page);
+        int boxes = 0;
+        for (ui::Control* control : page.screen().controls()) {
+            const auto* box = dynamic_cast<ui::TextBox*>(control);
+            QWidget* const widget = page.widgetOf(*control);
+            if (box == nullptr || widget == nullptr || !widget->isVisible() || !widget->isEnabled() || box->locked)
+                continue;
+            ++boxes;
+            pasteInto(*box, *widget);
+        }
+        QApplication::processEvents();
+        EXPECT_TRUE(host.isLoaded(kind));
+        EXPECT_EQ(page.window()->geometry(), before);
+        EXPECT_EQ(places(page), placesBefore);
+        EXPECT_FALSE(page.window()->grab().isNull());
+        for (const QLabel* label : page.findChildren<QLabel*>())
+            EXPECT_TRUE(label->textFormat() == Qt::PlainText || !Qt::mightBeRichText(label->text()))
+                << label->objectName().toStdString() << " would show markup";
+        return boxes;
+    }
+
+    /// Where the controls stand on their page.
+    static std::map<std::string, std::array<int, 4>> places(const Page& page)
+    {
+        std::map<std::string, std::array<int, 4>> all;
+        for (const ui::Control* control : page.screen().controls())
+            if (const QWidget* widget = page.widgetOf(*control); widget && widget->isVisible())
+                all[control->name] = {widget->x(), widget->y(), widget->width(), widget->height()};
+        return all;
+    }
+
+    int pasteIntoModal(ScreenKind kind)
+    {
+        int boxes = 0;
+        QTimer::singleShot(0, qApp, [&] {
+            boxes = pasteEverywhere(kind);
+            desk.runInside(*host.screen(kind), [&] { host.unload(kind); });
+        });
+        host.load(kind);
+        return boxes;
+    }
+
+    test::ScratchFolder scratch;
+    DataFolder folder{scratch.folder()};
+    test::FakePlatform platform;
+    modTallyhoop state;
+    MainFrame frame;
+    Desk desk{&frame};
+    ScreenHost host{desk, frame};
+};
+
+TEST_P(WeaponsPasted, AreTextOnTheBoard)
+{
+    auto& board = *host.find<frmPoolMain>(ScreenKind::Board);
+    desk.runInside(board, [&] { board.showSelection(scratch.path() / "Demo Prophet_DP.THC"); });
+    EXPECT_EQ(pasteEverywhere(ScreenKind::Board), 3);
+}
+
+TEST_P(WeaponsPasted, AreTextAmongTheReports)
+{
+    host.load(ScreenKind::Reports);
+    EXPECT_EQ(pasteEverywhere(ScreenKind::Reports), 1);
+}
+
+TEST_P(WeaponsPasted, AreTextInThePlayerList)
+{
+    host.load(ScreenKind::PlayerNames);
+    EXPECT_EQ(pasteEverywhere(ScreenKind::PlayerNames), 3);
+}
+
+TEST_P(WeaponsPasted, AreTextInTheMail) { EXPECT_EQ(pasteIntoModal(ScreenKind::EMail), 3); }
+
+TEST_P(WeaponsPasted, AreTextInTheSetup)
+{
+    host.load(ScreenKind::Setup);
+    EXPECT_EQ(pasteEverywhere(ScreenKind::Setup), 64 + 5 + 6 + 2);
+}
+
+TEST_P(WeaponsPasted, AreTextAmongTheSeeds)
+{
+    host.load(ScreenKind::Setup);
+    EXPECT_EQ(pasteIntoModal(ScreenKind::SeedPositions), 16);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, WeaponsPasted, testing::ValuesIn(allPasted()),
+                         [](const auto& values) { return values.param.kind; });
+
+} // namespace
+} // namespace tallyhoop::qt
