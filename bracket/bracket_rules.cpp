@@ -43,7 +43,8 @@ void carryAlongPath(TeamNamesOnBoard& teams, int source, int target, const std::
 
 void ClearTeamForward(TeamNamesOnBoard& teams, const std::string& team, int start)
 {
-    const std::string cleared = team; // the caller may name a place of the board that is emptied on the way
+    // The caller may name a place of the board that is emptied on the way: only a copy stays what it is.
+    const std::string cleared = team; // NOLINT(performance-unnecessary-copy-initialization)
     for (int position = start; position <= kChampion; position = next(position))
         if (teams[at(position)] == cleared)
             teams[at(position)].clear();
@@ -68,7 +69,8 @@ bool isOnPath(int source, int target)
 
 void dropOnPosition(TeamNamesOnBoard& teams, int source, int target, const std::string& draggedTeam)
 {
-    const std::string team = draggedTeam; // the caller may name a place of the board
+    // The caller may name a place of the board.
+    const std::string team = draggedTeam; // NOLINT(performance-unnecessary-copy-initialization)
     if (source == target)
         advanceOneRound(teams, target, team);
     else if (isOnPath(source, target))

@@ -170,7 +170,7 @@ private:
     // Saving.
     bool mayBeSaved();
     void refuse(ui::TextBox& box, const std::string& text);
-    bool finalPointsPass();
+    bool finalPointsPass() const;
     void saveResults();
     void saveUnder(const std::filesystem::path& chosen);
     void saveOpenedAs(const std::filesystem::path& chosen);

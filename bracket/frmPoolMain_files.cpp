@@ -130,7 +130,7 @@ bool frmPoolMain::mayBeSaved()
 }
 
 /// Results may be saved before the final game is played: only the upper bound holds for them.
-bool frmPoolMain::finalPointsPass()
+bool frmPoolMain::finalPointsPass() const
 {
     const double points = leadingNumber(txtFinalPoints.text);
     return points <= kMostPoints && (m_resultsMode || points >= kFewestPoints);

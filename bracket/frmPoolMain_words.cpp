@@ -138,6 +138,7 @@ std::string frmPoolMain::explanationOfMark(int position) const
         return "Not decided yet: worth " + points + ".";
     if (mark == "=")
         return "A right pick: " + points + " earned.";
+    // cppcheck-suppress unreadVariable  ; the next line reads it
     const bool picked = !lblRegion[static_cast<std::size_t>(position)].text.empty();
     return std::string{picked ? "A wrong pick: " : "Nobody was picked: "} + points + " lost.";
 }

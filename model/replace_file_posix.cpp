@@ -173,7 +173,7 @@ std::error_code readAll(const fs::path& file, std::size_t mostBytes, std::string
     }
 }
 
-void outliveFileSizeLimits() { std::signal(SIGXFSZ, SIG_IGN); }
+void outliveFileSizeLimits() { static_cast<void>(std::signal(SIGXFSZ, SIG_IGN)); }
 
 } // namespace tallyhoop
 

@@ -52,7 +52,7 @@ std::optional<NoReport> finalFourTrouble(const SelectionLines& results, FinalFou
     return NoReport{{kFinalFourTitle, text, ui::Buttons::Ok, ui::Icon::Exclamation}};
 }
 
-MadeReport outcome(const ReportKind& kind, Result<ReportLines> lines)
+MadeReport outcome(const ReportKind& kind, const Result<ReportLines>& lines)
 {
     if (!lines)
         return failed(kind, lines.failure().message);

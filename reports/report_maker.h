@@ -59,7 +59,7 @@ private:
         SelectionLines results;
         FinalFour finalFour; ///< known for projections only
         ReadPool pool;
-        Payoffs payoffs;
+        Payoffs payoffs{};
     };
 
     /// The readers of that input say why there can be no report, or nothing and fill what they are given.

@@ -59,8 +59,8 @@ private:
         const std::size_t round = m_slots[slot].round;
         const bool isDecided = result != kNoTeam;
         const bool isRight = isDecided & (pick == result);
-        m_isOut[pick] |= isDecided & !isRight;
-        const bool isBad = !isRight & m_isOut[pick];
+        m_isOut[pick] |= isDecided & (!isRight);
+        const bool isBad = (!isRight) & m_isOut[pick];
         m_score.points += isRight * m_payoffOfRound[round];
         m_score.goodPicks = static_cast<std::int16_t>(m_score.goodPicks + (isRight & (round != 0)));
         m_score.badPicks = static_cast<std::int16_t>(m_score.badPicks + isBad);

@@ -104,6 +104,7 @@ void Desk::beforeModal() { push(); }
 
 void Desk::pull()
 {
+    // NOLINTNEXTLINE(modernize-loop-convert): pages may come and go meanwhile
     for (std::size_t i = 0; i < m_pages.size(); ++i)
         m_pages[i]->pull();
 }
@@ -114,6 +115,7 @@ void Desk::push()
     if (m_pushing)
         return;
     m_pushing = true;
+    // NOLINTNEXTLINE(modernize-loop-convert): pages may come and go meanwhile
     for (std::size_t i = 0; i < m_pages.size(); ++i)
         m_pages[i]->push();
     m_pushing = false;

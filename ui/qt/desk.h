@@ -27,6 +27,8 @@ public:
     /// @param frame the main frame: parent of dialogs when the running screen has no visible window
     explicit Desk(QWidget* frame = nullptr);
     ~Desk() override;
+    Desk(const Desk&) = delete;
+    Desk& operator=(const Desk&) = delete;
 
     void setFrame(QWidget* frame) { m_frame = frame; }
 

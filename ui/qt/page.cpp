@@ -85,7 +85,7 @@ void Page::followCommonParts(ui::Control& control, QWidget& widget)
     const Qt::FocusPolicy policy = widget.focusPolicy();
     follow(control.tabStop, [this, &widget, byTab, policy](bool tabStop) {
         if (byTab)
-            widget.setFocusPolicy(tabStop ? policy : policy & Qt::ClickFocus ? Qt::ClickFocus : Qt::NoFocus);
+            widget.setFocusPolicy(tabStop ? policy : ((policy & Qt::ClickFocus) != 0 ? Qt::ClickFocus : Qt::NoFocus));
         m_tabsChanged = true;
     });
     follow(control.tabIndex, [this](int) { m_tabsChanged = true; });

@@ -45,6 +45,8 @@ public:
     /// Makes an empty page and, from the screen's menus, its menu bar; attaches it to the desk.
     Page(ui::Screen& screen, Desk& desk);
     ~Page() override;
+    Page(const Page&) = delete;
+    Page& operator=(const Page&) = delete;
 
     ui::Screen& screen() const { return m_screen; }
     Desk& desk() const { return m_desk; }
@@ -83,7 +85,7 @@ public:
     Widget* adopt(ui::Label& label, Widget* widget, std::function<void(const ui::Label&)> apply)
     {
         followCommonParts(label, *widget);
-        onPush([this, &label, apply = std::move(apply), text = std::optional<std::string>{},
+        onPush([&label, apply = std::move(apply), text = std::optional<std::string>{},
                 colour = std::optional<ui::Colour>{}]() mutable {
             if (text && *text == label.text && colour == label.colour)
                 return;

@@ -182,7 +182,7 @@ QLineEdit* Page::addLine(ui::TextBox& box)
     });
     follow(box.background, [edit, &box](const auto&) { showGround(box, *edit); });
     auto seen = std::make_shared<Seen>();
-    m_pulls.push_back([&box, edit, seen] { pullText(box, *edit, *seen); });
+    m_pulls.emplace_back([&box, edit, seen] { pullText(box, *edit, *seen); });
     onPush([&box, edit, seen] { pushText(box, *edit, *seen); });
     connect(edit, &QLineEdit::textEdited, this, [this, edit, &box] {
         if (m_composing.edit == edit)
@@ -205,7 +205,7 @@ QPlainTextEdit* Page::addLines(ui::TextBox& box)
     });
     follow(box.background, [edit, &box](const auto&) { showGround(box, *edit); });
     auto seen = std::make_shared<Seen>();
-    m_pulls.push_back([&box, edit, seen] { pullText(box, *edit, *seen); });
+    m_pulls.emplace_back([&box, edit, seen] { pullText(box, *edit, *seen); });
     onPush([&box, edit, seen] { pushText(box, *edit, *seen); });
     edit->pasted = [this, &box](const QString& text) {
         bool consumed = false;

@@ -30,6 +30,8 @@ public:
     /// Takes over what the frame's close button does: endProgram(), unless something is modal.
     ScreenHost(Desk& desk, MainFrame& frame);
     ~ScreenHost() override;
+    ScreenHost(const ScreenHost&) = delete;
+    ScreenHost& operator=(const ScreenHost&) = delete;
 
     /// Tells how a screen is made and shown. `Kind` is the screen's class:
     ///     host.registerScreen<frmPoolMain>(ScreenKind::Board, Placement::Stacked,
@@ -66,7 +68,7 @@ public:
 
 private:
     struct Recipe {
-        Placement placement;
+        Placement placement{};
         MakeScreen makeScreen;
         MakeView makeView;
     };

@@ -239,8 +239,6 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
         result += QSize{0, look::kTight};
         break;
     case CT_MenuItem:
-        result += QSize{look::kGap, look::kTight};
-        break;
     case CT_MenuBarItem:
         result += QSize{look::kGap, look::kTight};
         break;
@@ -261,9 +259,7 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
 {
     switch (hint) {
     case SH_DialogButtonBox_ButtonsHaveIcons:
-        return 0;
     case SH_EtchDisabledText:
-        return 0;
     case SH_MessageBox_CenterButtons:
         return 0;
     default:

@@ -68,6 +68,7 @@ QString withMnemonic(QString caption, char mnemonic)
     if (mnemonic == 0 || caption.contains(mark))
         return caption;
     const QLatin1Char letter{mnemonic};
+    // cppcheck-suppress redundantAssignment  ; there is one assignment
     const auto atWord =
         (QLatin1Char{' '} + caption).indexOf(QLatin1Char{' '} + QString{letter}, 0, Qt::CaseInsensitive);
     const auto at = atWord >= 0 ? atWord : caption.indexOf(letter, 0, Qt::CaseInsensitive);

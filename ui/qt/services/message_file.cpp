@@ -64,6 +64,7 @@ std::string encodedWords(const std::string& utf8)
         const std::size_t length = wholeCharacters(utf8, start, kBytesPerWord);
         const auto* bytes = reinterpret_cast<const guchar*>(utf8.data() + start);
         gchar* base64 = g_base64_encode(bytes, length);
+        // cppcheck-suppress knownConditionTrueFalse  ; it is empty at first only
         words += (words.empty() ? "=?UTF-8?B?" : "\n =?UTF-8?B?") + std::string{base64} + "?=";
         g_free(base64);
         start += length;

@@ -108,6 +108,7 @@ QString nameFilter(const ui::FileChoice& choice)
 {
     const QString name = toQString(choice.filterName);
     const QString pattern = QLatin1Char{'('} + toQString(choice.pattern) + QLatin1Char{')'};
+    // cppcheck-suppress ignoredReturnValue  ; it is not ignored
     return name.contains(pattern) ? name : name + QLatin1Char{' '} + pattern;
 }
 

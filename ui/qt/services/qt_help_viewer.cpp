@@ -25,8 +25,10 @@ Result<Done> QtHelpViewer::show(const std::filesystem::path& helpFile, const std
     // A modal dialog blocks every window but its own: asked for from there, the help must be one of them.
     QWidget* modal = QApplication::activeModalWidget();
     QWidget* owner = modal ? modal : m_frame.data();
-    if (m_window && m_window->parentWidget() != owner)
+    if (m_window && m_window->parentWidget() != owner) {
         delete m_window.data();
+        m_window.clear();
+    }
     const bool first = !m_window;
     if (first)
         m_window = new HelpWindow{owner};

@@ -16,6 +16,8 @@ public:
     /// @param frame owns the help window
     explicit QtHelpViewer(QWidget* frame);
     ~QtHelpViewer() override;
+    QtHelpViewer(const QtHelpViewer&) = delete;
+    QtHelpViewer& operator=(const QtHelpViewer&) = delete;
 
     Result<Done> show(const std::filesystem::path& helpFile, const std::string& topic) override;
 

@@ -16,6 +16,8 @@ class QtPrinter : public ui::Printer
 public:
     explicit QtPrinter(Desk& desk);
     ~QtPrinter() override;
+    QtPrinter(const QtPrinter&) = delete;
+    QtPrinter& operator=(const QtPrinter&) = delete;
 
     /// The installed families, and "Courier New" when that name resolves to a face of its widths.
     std::vector<std::string> fontNames() override;

@@ -112,7 +112,7 @@ QtProgress::~QtProgress()
 {
     if (m_nesting > 0) {
         m_nesting = 1;
-        end();
+        QtProgress::end();
     }
 }
 

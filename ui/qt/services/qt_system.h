@@ -18,6 +18,8 @@ class QtPrograms : public ui::Programs
 public:
     QtPrograms();
     ~QtPrograms() override;
+    QtPrograms(const QtPrograms&) = delete;
+    QtPrograms& operator=(const QtPrograms&) = delete;
 
     Result<Done> check(const std::filesystem::path& program) override;
     Result<Done> start(const std::filesystem::path& program) override;
@@ -47,6 +49,8 @@ public:
     /// @param patience milliseconds of work before the window opens
     explicit QtProgress(Desk& desk, int patience = 500);
     ~QtProgress() override;
+    QtProgress(const QtProgress&) = delete;
+    QtProgress& operator=(const QtProgress&) = delete;
 
     void begin(const std::string& what, int steps) override;
     bool advance(int stepsDone) override;

@@ -117,7 +117,7 @@ void compose(const ui::MailMessage& message, ClientMessage& client)
 
 SimpleMapiMail::~SimpleMapiMail()
 {
-    signOff();
+    SimpleMapiMail::signOff();
     if (m_library != nullptr)
         FreeLibrary(static_cast<HMODULE>(m_library));
 }
