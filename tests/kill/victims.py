@@ -200,7 +200,12 @@ class Victim:
         if status != 0:
             raise Broken(f"the child ended with {status}")
         self.kills -= 1  # the last one survived
+        self.check_that_kills_met()
         self.start_afresh()
+
+    def check_that_kills_met(self):
+        if self.replaced == 0 or self.interrupted == 0:
+            raise Broken("no kill met the writing")
 
     def report(self):
         return (f"{self.writer.name:10} {self.kills:5} kills  {self.replaced:5} files replaced  "
@@ -257,3 +262,4 @@ class Installer(Victim):
             call += 1
         if status != 0:
             raise Broken(f"the installer ended with {status}")
+        self.check_that_kills_met()

@@ -1,13 +1,14 @@
 // tests/kill/killer/killer.cpp - stands between the program and the system's calls about files, and kills the program
 // at a chosen one: before it happens, or, when it writes, after half of it.
 //
-// Loaded with LD_PRELOAD. Counts from tallyhoopKillAtCall() on, or from the start when TALLYHOOP_KILL_AT_CALL says
-// which.
+// Loaded with LD_PRELOAD. After tallyhoopKillAtCall(), or from the start when TALLYHOOP_KILL_AT_CALL says which, counts
+// from the first call on that names a temporary file: what a dialog looks at before differs from time to time.
 #include <csignal>
 #include <cstdarg>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -17,6 +18,7 @@
 namespace {
 
 int callsLeft = 0; // 0 = nobody is to be killed
+bool isSaving = false;
 
 __attribute__((constructor)) void readOrder()
 {
@@ -31,12 +33,21 @@ __attribute__((constructor)) void readOrder()
         ::pause();
 }
 
-bool isLast() { return callsLeft > 0 && --callsLeft == 0; }
+/// A file dialog looks at its folder in a thread of its own, now sooner and now later: such calls are not counted.
+bool isMainThread() { return ::gettid() == ::getpid(); }
+
+bool isLast() { return callsLeft > 0 && isSaving && isMainThread() && --callsLeft == 0; }
 
 void passOrDie()
 {
     if (isLast())
         die();
+}
+
+void passOrDie(const char* path)
+{
+    isSaving = isSaving || (callsLeft > 0 && isMainThread() && std::strstr(path, ".tmp~") != nullptr);
+    passOrDie();
 }
 
 /// Words that the program exchanges with the test and with itself are no files.
@@ -77,7 +88,7 @@ int open(const char* path, int flags, ...)
     va_start(rest, flags);
     const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
     va_end(rest);
-    passOrDie();
+    passOrDie(path);
     return real(path, flags, mode);
 }
 
@@ -88,7 +99,7 @@ int open64(const char* path, int flags, ...)
     va_start(rest, flags);
     const mode_t mode = (flags & O_CREAT) != 0 ? va_arg(rest, mode_t) : 0;
     va_end(rest);
-    passOrDie();
+    passOrDie(path);
     return real(path, flags, mode);
 }
 
@@ -124,35 +135,35 @@ int close(int descriptor)
 int rename(const char* from, const char* to)
 {
     static const auto real = next<int (*)(const char*, const char*)>("rename");
-    passOrDie();
+    passOrDie(from);
     return real(from, to);
 }
 
 int unlink(const char* path)
 {
     static const auto real = next<int (*)(const char*)>("unlink");
-    passOrDie();
+    passOrDie(path);
     return real(path);
 }
 
 int unlinkat(int folder, const char* path, int flags)
 {
     static const auto real = next<int (*)(int, const char*, int)>("unlinkat");
-    passOrDie();
+    passOrDie(path);
     return real(folder, path, flags);
 }
 
 int remove(const char* path)
 {
     static const auto real = next<int (*)(const char*)>("remove");
-    passOrDie();
+    passOrDie(path);
     return real(path);
 }
 
 int mkdir(const char* path, mode_t mode)
 {
     static const auto real = next<int (*)(const char*, mode_t)>("mkdir");
-    passOrDie();
+    passOrDie(path);
     return real(path, mode);
 }
 }
