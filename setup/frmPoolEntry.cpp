@@ -125,8 +125,9 @@ void frmPoolEntry::load()
 {
     m_state.teamNames = {};
     OverrideMode = false;
-    showTeamNames();
     showPool();
+    showTeamNames(); // second: its message follows that about the field
+    showStatus();
 }
 
 /// Shows the field and the demo mode that the folder holds now.

@@ -54,6 +54,17 @@ TEST_F(frmPoolEntryTest, HasTheTabOrderThatItsKeyRulesRelyOn)
     EXPECT_EQ(screen.controlAtTab(78), &screen.lstTeamNames);
 }
 
+TEST_F(frmPoolEntryTest, ReportsADamagedFieldBeforeADamagedTeamList)
+{
+    files.put("POOLSTART.THS", "damaged");
+    files.put("NCAALIST.THS", "damaged");
+    loaded();
+    ASSERT_EQ(dialogs().shown.size(), 2u);
+    EXPECT_EQ(dialogs().shown[0].text, "Problem with file, will use default values");
+    EXPECT_EQ(dialogs().shown[1].text,
+              "Problem locating or Reading NCAALIST.THS file\r\n\r\nMODULE: modTallyhoop - ReadTeamNames");
+}
+
 TEST_F(frmPoolEntryTest, ShowsTheSetupFile)
 {
     files.put("POOLSTART.THS", tellingSetup());
