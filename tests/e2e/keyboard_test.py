@@ -60,7 +60,7 @@ class Keyboard(unittest.TestCase):
         return told
 
     def file_dialog(self, path=None):
-        self.program.wait(lambda: self.program.modal().get("class") == "QFileDialog", "a file dialog")
+        self.program.wait(lambda: self.program.modal().get("name") == "QFileDialog", "a file dialog")
         self.program.box()
         self.focused("fileNameEdit")
         if path:
@@ -68,7 +68,7 @@ class Keyboard(unittest.TestCase):
             self.program.type_text(str(path))
             self.shows("fileNameEdit", str(path))
         self.keys("Return")
-        self.program.wait(lambda: self.program.modal().get("class") != "QFileDialog", "the file dialog going away")
+        self.program.wait(lambda: self.program.modal().get("name") != "QFileDialog", "the file dialog going away")
 
     def mnemonic(self, name):
         caption = self.program.text(name)
@@ -136,7 +136,7 @@ class Keyboard(unittest.TestCase):
     def save_the_selection(self):
         before = lines(self.program.read(PROPHET))
         self.keys("Ctrl+S")
-        self.program.wait(lambda: self.program.modal().get("class") == "QFileDialog", "the save dialog")
+        self.program.wait(lambda: self.program.modal().get("name") == "QFileDialog", "the save dialog")
         self.shows("fileNameEdit", PROPHET)
         self.file_dialog()
         self.program.wait(lambda: lines(self.program.read(PROPHET)) != before, "the file being saved")

@@ -347,7 +347,7 @@ class Program:
 
     def file_dialog(self, name):
         """Waits for a file dialog, types the path (a bare name lies in the program folder) and accepts it."""
-        self.wait(lambda: self.modal().get("class") == "QFileDialog", "a file dialog")
+        self.wait(lambda: self.modal().get("name") == "QFileDialog", "a file dialog")
         self.box()
         self.type("fileNameEdit", str(self.folder / name))
         self.key("Return")

@@ -27,11 +27,11 @@ class Story(unittest.TestCase):
         self.program.wait(lambda: not self.program.modal(), f"{name} being open")
 
     def accept_proposed_name(self, name):
-        self.program.wait(lambda: self.program.modal().get("class") == "QFileDialog", "the save dialog")
+        self.program.wait(lambda: self.program.modal().get("name") == "QFileDialog", "the save dialog")
         self.shows("fileNameEdit", name)
         self.program.wait(lambda: self.program.modal()["active"], "the save dialog having the focus")
         self.program.key("Return")
-        self.program.wait(lambda: self.program.modal().get("class") != "QFileDialog", "the save dialog going away")
+        self.program.wait(lambda: self.program.modal().get("name") != "QFileDialog", "the save dialog going away")
 
 
 class FromTheFirstStart(Story):

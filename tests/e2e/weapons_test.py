@@ -67,7 +67,7 @@ class Weapons(unittest.TestCase):
         self.program.type("txtPlayerName", PLAYER)
         self.program.type("txtFinalPoints", "150")
         self.program.menu("mnuFile", "mnuSaveSelection")
-        self.program.wait(lambda: self.program.modal().get("class") == "QFileDialog", "the save dialog")
+        self.program.wait(lambda: self.program.modal().get("name") == "QFileDialog", "the save dialog")
         self.shows("fileNameEdit", PLAYER_FILE)
         self.program.wait(lambda: self.program.modal()["active"], "the save dialog having the focus")
         self.program.key("Return")
