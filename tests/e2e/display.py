@@ -1,7 +1,9 @@
 """A virtual display with a window manager, and a hand on its mouse and keyboard."""
 
+import contextlib
 import os
 import shutil
+import signal
 import subprocess
 import tempfile
 import time
@@ -51,6 +53,15 @@ class Display:
             process.terminate()
             process.wait()
         self._log.close()
+
+    @contextlib.contextmanager
+    def without_manager(self):
+        """The window manager takes its time: no window comes to the screen meanwhile."""
+        self._manager.send_signal(signal.SIGSTOP)
+        try:
+            yield
+        finally:
+            self._manager.send_signal(signal.SIGCONT)
 
     def _do(self, *words):
         subprocess.run(["xdotool", *map(str, words)], env=self.environment(), check=True)

@@ -60,6 +60,22 @@ class HarnessWithoutADisplay(HarnessOnADisplay):
     platform = "offscreen"
 
 
+class HarnessWhileAWindowIsOnItsWay(unittest.TestCase):
+    def test_nothing_is_pressed_before_the_window_manager_has_shown_the_box(self):
+        program = self.enterContext(Program(executable=BUILD / "tests/e2e/tallyhoop_e2e_dummy")).start()
+        self.assertTrue(program.reachable("cmdGreet"))
+        with program.without_window_manager():
+            program.key("Ctrl+J")
+            program.wait(lambda: program.visible("qt_msgbox_label"), "the box, as the program has it")
+            self.assertFalse(program.reachable("qt_msgbox_label"))
+            self.assertFalse(program.reachable("cmdGreet"))
+        program.click("qt_msgbox_label")
+        self.assertTrue(program.modal()["active"])
+        program.key("Escape")
+        program.wait(lambda: program.text("lblSaid") == "no", "the answer")
+        self.assertTrue(program.reachable("cmdGreet"))
+
+
 class HarnessEnding(unittest.TestCase):
     def test_the_window_managers_close_ends_the_program(self):
         with Program(executable=BUILD / "tests/e2e/tallyhoop_e2e_dummy") as program:

@@ -223,6 +223,15 @@ class Program:
     def has(self, name):
         return self._inspector.ask("widget", name)["found"]
 
+    def reachable(self, name):
+        """Whether a press on the widget would reach it."""
+        told = self._inspector.ask("widget", name)
+        return told["found"] and told["reachable"]
+
+    def without_window_manager(self):
+        """While this context lasts, new windows do not come to the screen."""
+        return self._display.without_manager()
+
     def visible(self, name):
         told = self._inspector.ask("widget", name)
         return told["found"] and told["visible"]
@@ -298,12 +307,12 @@ class Program:
         self.release(end)
 
     def key(self, key):
-        if self._display:
-            self.wait(lambda: any(window["active"] for window in self.windows()), "a window with the focus")
+        self._listening()
         self._act("keys", lambda: self._display.key(key), key=key)
 
     def type_text(self, text):
         """Types wherever the focus is."""
+        self._listening()
         if self._display:
             self._display.type(text)
         else:
@@ -357,8 +366,14 @@ class Program:
     def _reachable(self, name):
         def there():
             told = self._inspector.ask("widget", name)
-            return told if told["found"] and told["visible"] else None
-        return self.wait(there, f"{name} being on the screen")
+            return told if told["found"] and told["reachable"] else None
+        return self.wait(there, f"{name} being on the screen, to be pressed")
+
+    def _listening(self):
+        """Waits until keys reach somebody: a modal window that is still on its way to the screen hears none."""
+        if self._display:
+            self.wait(lambda: any(window["active"] and window["reachable"] for window in self.windows()),
+                      "a window with the focus")
 
     def _act(self, counter, with_hand, **inside):
         """Does one thing, and waits until the program has received it."""

@@ -105,6 +105,26 @@ QRect rectOf(const QWidget* container, QAction* action)
     return qobject_cast<const QMenu*>(container)->actionGeometry(action);
 }
 
+/// Whether a press on the middle of the widget would reach it. A window that has been shown but not yet been given the
+/// focus may still be on its way: where it says it is, there is another one. And beside a modal window all others are
+/// deaf.
+bool isReachable(const QWidget* widget)
+{
+    const QWidget* window = widget->window();
+    if (!widget->isVisible()) {
+        return false;
+    }
+    if (window->windowType() == Qt::Popup) { // never gets the focus, and every press
+        return true;
+    }
+    const QWidget* modal = QApplication::activeModalWidget();
+    const QWidget* owner = window;
+    while (modal != nullptr && owner != nullptr && owner != modal) {
+        owner = owner->parentWidget() != nullptr ? owner->parentWidget()->window() : nullptr;
+    }
+    return owner != nullptr && (window->isActiveWindow() || window->property(kHasArrived).toBool());
+}
+
 } // namespace
 
 QWidget* findWidget(const QString& name)
@@ -130,6 +150,7 @@ QJsonObject describeWidget(QWidget* widget)
                      {QStringLiteral("class"), QString::fromLatin1(widget->metaObject()->className())},
                      {QStringLiteral("rect"), onScreen(widget, widget->rect())},
                      {QStringLiteral("visible"), widget->isVisible()},
+                     {QStringLiteral("reachable"), isReachable(widget)},
                      {QStringLiteral("enabled"), widget->isEnabled()},
                      {QStringLiteral("focus"), widget->hasFocus()},
                      {QStringLiteral("tabStop"), (widget->focusPolicy() & Qt::TabFocus) != 0},
@@ -169,6 +190,7 @@ QJsonArray describeWindows()
                             {QStringLiteral("title"), window->windowTitle()},
                             {QStringLiteral("modal"), window->isModal()},
                             {QStringLiteral("active"), window->isActiveWindow()},
+                            {QStringLiteral("reachable"), isReachable(window)},
                             {QStringLiteral("modified"), window->isWindowModified()},
                             {QStringLiteral("rect"), onScreen(window, window->rect())}});
         }
@@ -211,7 +233,7 @@ QJsonObject describeAction(const QString& name)
         if (action->objectName() != name && !(action->menu() != nullptr && action->menu()->objectName() == name)) {
             return;
         }
-        const bool clickable = container->isVisible() && action->isVisible();
+        const bool clickable = isReachable(container) && action->isVisible();
         if (!told.value(QStringLiteral("found")).toBool() || clickable) {
             told = describe(action);
         }

@@ -6,6 +6,9 @@
 
 namespace inspector {
 
+/// A property of a window: whether it has had the focus since it was shown. Only then does it stand where it stays.
+inline constexpr const char* kHasArrived = "tallyhoopHasArrived";
+
 /// The widget of that object name that a person would mean: a visible one before a hidden one, one in the active window
 /// before others. Null when there is none.
 QWidget* findWidget(const QString& name);

@@ -39,10 +39,23 @@ public:
             m_releases += event->type() == QEvent::MouseButtonRelease ? 1 : 0;
             m_moves += event->type() == QEvent::MouseMove ? 1 : 0;
         }
+        if (event->type() == QEvent::Show && !event->spontaneous()) {
+            noteArrival(*receiver, false);
+        } else if (event->type() == QEvent::WindowActivate) {
+            noteArrival(*receiver, true);
+        }
         return false;
     }
 
 private:
+    static void noteArrival(QObject& receiver, bool hasArrived)
+    {
+        const auto* widget = qobject_cast<QWidget*>(&receiver);
+        if (widget != nullptr && widget->isWindow()) {
+            receiver.setProperty(kHasArrived, hasArrived);
+        }
+    }
+
     int m_presses = 0;
     int m_releases = 0;
     int m_moves = 0;
