@@ -136,6 +136,7 @@ private:
     // Loading and showing.
     void describeControls();
     void putControlsIntoWords();
+    void explainMenus();
     void arrangeMenus();
     void loadBoard();
     void fillFromSetup();

@@ -67,6 +67,30 @@ void frmPoolMain::putControlsIntoWords()
     txtPointScore.explanation = "Points earned / the most that is still possible.";
     cmdDefaultColors.toolTip = "Back to the normal colours, so that picks can be changed again";
     cmdDefaultColors.explanation = cmdDefaultColors.toolTip + ".";
+    explainMenus();
+}
+
+void frmPoolMain::explainMenus()
+{
+    mnuNewSelection.explanation = "Empties the board for another player's selection.";
+    mnuOpenSelection.explanation = "Shows a selection that was saved before.";
+    mnuSaveSelection.explanation = "Saves the selection, or the results, as they stand on the board.";
+    mnuPrintPreview.explanation = "Shows the board as it will be printed.";
+    mnuPrintForm.explanation = "Prints the board on one page.";
+    mnuExit.explanation = "Ends the program.";
+    mnuUndo.explanation = "Takes the last change of the bracket back.";
+    mnuRedo.explanation = "Makes the change again that was taken back last.";
+    mnuScoreSelections.explanation = "Marks right and wrong picks; from the results it opens the list of all scores.";
+    mnuGameResults.explanation = "Shows the real results, to enter the winners as they become known.";
+    mnuEntryAssist.explanation = "Help with filling the board in.";
+    mnuHighSeed.explanation = "Fills open games with the better seed.";
+    mnuEditNames.explanation = "Opens the list of players with their e-mail addresses.";
+    mnuSetupOptions.explanation = "Opens the field, the titles, the payoffs and the comments.";
+    mnuReports.explanation = "Opens the reports: to the printer, to files or by e-mail.";
+    mnuDemoSet.explanation = "Shows a sample pool, to try everything out.";
+    mnuDemoReset.explanation = "Takes the sample pool away again.";
+    mnuHelpDisplay.explanation = "Shows the help on what is on the screen.";
+    mnuHelpAbout.explanation = "Tells the program's version.";
 }
 
 void frmPoolMain::sayWhatToDo()

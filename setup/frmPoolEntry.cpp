@@ -95,6 +95,7 @@ void frmPoolEntry::arrangeMenus()
     mnuDemoReset.icon = "reset";
     mnuHelpDisplay.icon = "help";
     mnuHelpAbout.icon = "about";
+    explainMenus();
 }
 
 void frmPoolEntry::describeBoxes()

@@ -125,6 +125,7 @@ private:
 
     // frmPoolEntry_words.cpp
     void explainBoxes();
+    void explainMenus();
     void showStatus();
 
     const DataFolder& m_folder;

@@ -55,6 +55,17 @@ void frmPoolEntry::explainBoxes()
     cmdFinalize.explanation = "Declares the field complete; once that is saved it cannot be changed any more.";
 }
 
+void frmPoolEntry::explainMenus()
+{
+    mnuSaveStartingField.explanation = "Saves everything on this screen but the list of team names.";
+    mnuEnd.explanation = "Goes back to the board; what was not saved is dropped.";
+    mnuSeating.explanation = "Opens the seed numbers of the sixteen rows of a region.";
+    mnuDemoSet.explanation = "Shows a sample pool, to try everything out.";
+    mnuDemoReset.explanation = "Takes the sample pool away again.";
+    mnuHelpDisplay.explanation = "Shows the help on what is on the screen.";
+    mnuHelpAbout.explanation = "Tells the program's version.";
+}
+
 void frmPoolEntry::showStatus()
 {
     status.clear();

@@ -3,6 +3,8 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QMenu>
+#include <QMenuBar>
 #include <QStatusBar>
 
 using namespace tallyhoop;
@@ -21,6 +23,8 @@ public:
         txtOther.explanation = "Who else it is.";
         cmdOk.explanation = "Goes on.";
         lblTitle.explanation = "Heads it all.";
+        mnuOpen.explanation = "Opens <b>a file</b>.";
+        mnuExit.explanation = "Ends it all.";
     }
 };
 
@@ -112,6 +116,21 @@ TEST_F(StatusLine, AnExplanationThatChangesIsShownAtOnce)
     pointerComesTo(*page.ok);
     desk.run(screen, [&] { screen.cmdOk.explanation = "Ends it."; });
     EXPECT_EQ(shown(), QStringLiteral("Ends it."));
+}
+
+TEST_F(StatusLine, FollowsTheEntriesOfAMenuByKeyAndByPointer)
+{
+    auto& file = *page.actionOf(screen.mnuFile)->menu();
+    QTest::mouseClick(page.menuBar(), Qt::LeftButton, {},
+                      page.menuBar()->actionGeometry(page.actionOf(screen.mnuFile)).center());
+    ASSERT_TRUE(file.isVisible());
+    QTest::keyClick(&file, Qt::Key_Down);
+    ASSERT_EQ(file.activeAction(), page.actionOf(screen.mnuOpen));
+    EXPECT_EQ(shown(), QStringLiteral("Opens <b>a file</b>."));
+    QTest::mouseMove(&file, file.actionGeometry(page.actionOf(screen.mnuExit)).center());
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown() == QStringLiteral("Ends it all."); }));
+    file.close();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return shown() == QStringLiteral("Type a name."); }));
 }
 
 TEST_F(StatusLine, HowThingsStandIsAlwaysThere)

@@ -161,6 +161,7 @@ public:
     void focusFirst();
 
 protected:
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
@@ -223,6 +224,7 @@ private:
     ElidedLabel* m_explanation = nullptr; ///< the line below the page, once there is something to say
     QLabel* m_status = nullptr;           ///< the right end of that line
     const ui::Control* m_pointed = nullptr;
+    QString m_entryExplained; ///< what the menu entry says that is about to be chosen; empty = none
     bool m_focusMoved = false; ///< since the screen's hint was new
     QButtonGroup* m_singleOptions = nullptr;
     const QLineEdit* m_typedInto = nullptr;   ///< unless something else was done since

@@ -53,6 +53,11 @@ void Page::followEntry(ui::MenuEntry& entry, QAction& action)
         action.setShortcut(QKeySequence{toQString(keys), QKeySequence::PortableText});
     });
     follow(entry.icon, [&action](const std::string& icon) { action.setIcon(look::menuIcon(icon)); });
+    follow(entry.explanation, [this, &action](const std::string& text) {
+        if (!text.empty())
+            makeStatusLine();
+        action.setStatusTip(toQString(text));
+    });
     follow(entry.toolTip, [&action](const std::string& tip) { action.setToolTip(plainToolTip(toLines(tip))); });
 }
 

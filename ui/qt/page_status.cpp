@@ -7,6 +7,7 @@
 
 #include <QEvent>
 #include <QStatusBar>
+#include <QStatusTipEvent>
 
 namespace tallyhoop::qt {
 
@@ -65,6 +66,16 @@ void Page::pointerCameOrWent(const ui::Control& control, const QEvent& event)
     explain();
 }
 
+/// A menu tells of the entry that the pointer or a key has come to, and tells nothing when it closes.
+bool Page::event(QEvent* event)
+{
+    if (event->type() != QEvent::StatusTip)
+        return QMainWindow::event(event);
+    m_entryExplained = static_cast<QStatusTipEvent*>(event)->tip();
+    explain();
+    return true;
+}
+
 /// What happened last counts: the pointer came to a place, the focus moved, the screen had something new to say.
 void Page::explain()
 {
@@ -80,7 +91,8 @@ void Page::explain()
         text = m_screen.hint;
     if (text.empty() && focus)
         text = focus->explanation;
-    if (const QString shown = toQString(text); shown != m_explanation->text())
+    const QString shown = m_entryExplained.isEmpty() ? toQString(text) : m_entryExplained;
+    if (shown != m_explanation->text())
         m_explanation->setText(shown);
 }
 
