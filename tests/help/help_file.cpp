@@ -66,11 +66,12 @@ std::vector<std::string> sampleUnder(const std::string& heading)
     if (at == std::string::npos)
         return {};
     const std::string section = text.substr(at, text.find("<h2", at) - at);
-    const std::vector<std::string> samples = between(section, "<pre>\n", "</pre>");
+    const std::vector<std::string> samples = between(section, "<pre", "</pre>");
     if (samples.empty())
         return {};
+    const std::string& sample = samples.front();
     std::vector<std::string> lines;
-    for (const std::string& line : linesOf(plain(samples.front())))
+    for (const std::string& line : linesOf(plain(sample.substr(sample.find(">\n") + 2))))
         lines.push_back(trimTrailingBlanks(line));
     return lines;
 }
