@@ -21,6 +21,10 @@ namespace {
 
 const ui::Message kCancelled{"", "The scores were not calculated.", ui::Buttons::Ok, ui::Icon::Information};
 
+constexpr const char* kNotYet = "No scores yet: press the long button below. Each saved selection gets a row.";
+constexpr const char* kNoSelections = "No selections are saved in the program's folder, so there are no scores.";
+constexpr const char* kNoneReadable = "None of the saved selections could be scored.";
+
 } // namespace
 
 frmPoolMisc::frmPoolMisc(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
@@ -35,6 +39,7 @@ frmPoolMisc::frmPoolMisc(const DataFolder& folder, const ui::Platform& platform,
     cmdOk.isDefault = true;
     filList.visible = false;
     msgScoreDisplay.spokenName = "Scores";
+    msgScoreDisplay.emptyNote = kNotYet;
     msgScoreDisplay.explanation =
         "Drag a heading to another place to sort by it; click a file name to mark those picks on the board.";
     cmdOk.explanation = "Scores every selection in the program's folder against the results on the board.";
@@ -92,10 +97,12 @@ void frmPoolMisc::calculate()
         showFailure(payoffs.failure());
         return;
     }
-    if (std::optional<Rows> rows = scoreEverybody(m_files, *payoffs))
+    if (std::optional<Rows> rows = scoreEverybody(m_files, *payoffs)) {
+        msgScoreDisplay.emptyNote = m_files.empty() ? kNoSelections : kNoneReadable;
         showTable(std::move(*rows));
-    else
+    } else {
         m_platform.dialogs.show(kCancelled);
+    }
 }
 
 std::optional<frmPoolMisc::Rows> frmPoolMisc::scoreEverybody(const std::vector<FolderFile>& files,

@@ -190,6 +190,13 @@ TEST(EmptyNote, IsThereAsLongAsThereAreNoRows)
     EXPECT_FALSE(inList->isVisibleTo(shown.page.rows));
     EXPECT_FALSE(inTable->isVisibleTo(shown.page.scores));
 
+    inList->say(QStringLiteral("All have left"));
+    EXPECT_FALSE(inList->isVisibleTo(shown.page.rows)) << "somebody is there";
     shown.desk.run(shown.screen, [&] { shown.screen.lstRows.rows.clear(); });
     EXPECT_TRUE(inList->isVisibleTo(shown.page.rows));
+    EXPECT_EQ(inList->text(), QStringLiteral("All have left"));
+    EXPECT_TRUE(shown.page.rows->accessibleDescription().startsWith(QStringLiteral("All have left ")));
+    inList->say(QStringLiteral("Nobody"));
+    EXPECT_TRUE(shown.page.rows->accessibleDescription().startsWith(QStringLiteral("Nobody ")));
+    EXPECT_FALSE(shown.page.rows->accessibleDescription().contains(QStringLiteral("All have left")));
 }

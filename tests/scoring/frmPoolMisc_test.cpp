@@ -91,6 +91,29 @@ TEST_F(ScoreDisplay, ShowsItsHeadingsAndHoldsTheBoardWhenItOpens)
     EXPECT_EQ(screen.lblInformation.text, "Select a Heading Column and drag to another position to change sequence");
 }
 
+TEST_F(ScoreDisplay, SaysWhyThereIsNoRow)
+{
+    screen.load();
+    EXPECT_EQ(screen.msgScoreDisplay.emptyNote,
+              "No scores yet: press the long button below. Each saved selection gets a row.");
+    screen.cmdOk.click();
+    EXPECT_THAT(screen.msgScoreDisplay.rows, IsEmpty());
+    EXPECT_EQ(screen.msgScoreDisplay.emptyNote,
+              "No selections are saved in the program's folder, so there are no scores.");
+}
+
+TEST_F(ScoreDisplay, SaysThatNothingCouldBeScored)
+{
+    putThreePlayers();
+    EXPECT_TRUE(folder.remove("Adams_QA.THC"));
+    EXPECT_TRUE(folder.remove("Brown_TB.THC"));
+    board.shownPayoffs = Payoffs{32767, 32767, 32767, 32767, 32767, 32767}; // twice that is too much for a score
+    screen.load();
+    screen.cmdOk.click();
+    EXPECT_THAT(screen.msgScoreDisplay.rows, IsEmpty());
+    EXPECT_EQ(screen.msgScoreDisplay.emptyNote, "None of the saved selections could be scored.");
+}
+
 TEST_F(ScoreDisplay, CalculatesARowForEveryPlayerInTheOrderOfTheFiles)
 {
     putThreePlayers();

@@ -1,6 +1,7 @@
 #include "ui/qt/views/score_display_view.h"
 
 #include "ui/qt/look.h"
+#include "ui/qt/text.h"
 #include "ui/qt/widgets/empty_note.h"
 
 namespace tallyhoop::qt {
@@ -24,7 +25,8 @@ ScoreDisplayView::ScoreDisplayView(frmPoolMisc& scores, Desk& desk) : Page{score
     auto* const whole = look::column();
     whole->addWidget(add(scores.lblInformation));
     QTableView* const table = add(scores.msgScoreDisplay);
-    new EmptyNote{tr("No scores yet: press the long button below. Each saved selection gets a row."), *table};
+    auto* const note = new EmptyNote{QString{}, *table};
+    follow(scores.msgScoreDisplay.emptyNote, [note](const std::string& text) { note->say(toQString(text)); });
     whole->addWidget(table, 1);
     whole->addLayout(commands);
     whole->addWidget(add(scores.filList)); // hidden

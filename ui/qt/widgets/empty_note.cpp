@@ -30,12 +30,24 @@ bool EmptyNote::eventFilter(QObject* watched, QEvent* event)
     return QLabel::eventFilter(watched, event);
 }
 
+void EmptyNote::say(const QString& text)
+{
+    describe(false);
+    setText(text);
+    place();
+}
+
 void EmptyNote::place()
 {
     setGeometry(m_view.viewport()->rect());
     const bool empty = m_view.model()->rowCount() == 0;
     setVisible(empty);
-    // A screen reader comes to the list only: the list says the note too, before what else is said of it.
+    describe(empty);
+}
+
+/// A screen reader comes to the list only: the list says the note too, before what else is said of it.
+void EmptyNote::describe(bool empty)
+{
     QString description = m_view.accessibleDescription();
     if (const QString said = text() + QLatin1Char{' '}; description.startsWith(said))
         description.remove(0, said.size());

@@ -14,11 +14,15 @@ class EmptyNote : public QLabel
 public:
     EmptyNote(const QString& text, QAbstractItemView& view);
 
+    /// Puts another sentence there.
+    void say(const QString& text);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void place();
+    void describe(bool empty);
 
     QAbstractItemView& m_view;
 };
