@@ -66,6 +66,7 @@ protected:
     void examineModal(ScreenKind kind)
     {
         QTimer::singleShot(0, qApp, [&] {
+            host.page(kind)->window()->resize(1000, 700); // the offscreen display is smaller than any meant here
             examine(kind);
             desk.runInside(*host.screen(kind), [&] { host.unload(kind); });
         });

@@ -2,6 +2,7 @@
 
 #include "ui/qt/page.h"
 #include "ui/qt/text.h"
+#include "ui/qt/widgets/page_area.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -23,7 +24,7 @@ MainFrame::MainFrame() : m_stack{new QStackedWidget}
 {
     setObjectName(QStringLiteral("frmPoolMIDI"));
     setContextMenuPolicy(Qt::NoContextMenu);
-    setMinimumSize(kSmallest);
+    setMinimumSize(kSmallest.boundedTo(roomForWindow(*this))); // pages scroll on a display that is smaller
     setCentralWidget(m_stack);
     refreshTitle();
 }

@@ -2,6 +2,7 @@
 
 #include "ui/qt/look.h"
 #include "ui/qt/text.h"
+#include "ui/qt/widgets/page_area.h"
 
 #include <QAction>
 #include <QApplication>
@@ -50,7 +51,7 @@ void Page::setContent(QLayout* layout)
     auto* content = new QWidget;
     look::pageMargins(*layout);
     content->setLayout(layout);
-    setCentralWidget(content);
+    setCentralWidget(new PageArea{content});
 }
 
 void Page::onPush(std::function<void()> apply)

@@ -1,6 +1,7 @@
 #include "ui/qt/services/help_window.h"
 
 #include "ui/qt/look.h"
+#include "ui/qt/widgets/page_area.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QAction>
@@ -93,7 +94,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     setCentralWidget(halves);
     buildToolBar();
     m_text->setFocus();
-    resize(kContentsWidth + kTextWidth, kHeight);
+    resize(QSize{kContentsWidth + kTextWidth, kHeight}.boundedTo(roomForWindow(*this)));
 }
 
 void HelpWindow::buildToolBar()

@@ -3,6 +3,7 @@
 #include "ui/qt/look.h"
 #include "ui/qt/text.h"
 #include "ui/qt/widgets/empty_note.h"
+#include "ui/qt/widgets/page_area.h"
 
 namespace tallyhoop::qt {
 
@@ -31,7 +32,7 @@ ScoreDisplayView::ScoreDisplayView(frmPoolMisc& scores, Desk& desk) : Page{score
     whole->addLayout(commands);
     whole->addWidget(add(scores.filList)); // hidden
     setContent(whole);
-    resize(kWidth, kHeight);
+    resize(QSize{kWidth, kHeight}.boundedTo(roomForWindow(*this)));
 }
 
 } // namespace tallyhoop::qt

@@ -19,6 +19,7 @@ namespace {
 constexpr int kHalf = kRowsPerRegion / 2; ///< rows per column of a region: all sixteen would not fit a small screen
 constexpr int kPayoffBox = 38;            ///< width in pixels: room for two digits
 constexpr int kListWidth = 250;
+constexpr int kTeamWidth = 100;      ///< where it gets narrower, the page scrolls
 constexpr int kCommentHeight = 44;   ///< at least two lines
 constexpr int kLargestComment = 110; ///< what is left over is better used by the regions
 constexpr int kHeadLines = 2;        ///< of a region's grid: its title and a gap
@@ -101,7 +102,9 @@ QWidget* SetupView::region(std::size_t region)
         QLabel* seed = add(m_setup.lblSeed[index]);
         seed->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         grid->addWidget(seed, place, column);
-        grid->addWidget(add(m_setup.txtRegion[index]), place, column + 1);
+        QWidget* team = add(m_setup.txtRegion[index]);
+        team->setMinimumWidth(kTeamWidth);
+        grid->addWidget(team, place, column + 1);
         if (line + 1 == kHalf)
             continue;
         // Pairings stand apart, the more the more room there is.

@@ -21,7 +21,7 @@ class BracketCanvas : public QWidget
 public:
     BracketCanvas(frmPoolMain& board, Page& page);
 
-    QSize minimumSizeHint() const override { return {900, 440}; }
+    QSize minimumSizeHint() const override { return {960, 440}; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
