@@ -134,6 +134,7 @@ TEST_P(Accessibility, OfTheScores)
     ASSERT_NE(scores, nullptr);
     desk.runInside(*scores, [&] { scores->cmdOk.click(); });
     ASSERT_EQ(scores->msgScoreDisplay.rows.size(), 4U);
+    host.page(ScreenKind::ScoreDisplay)->window()->resize(840, 420); // as on a display that has room for it
     examine(ScreenKind::ScoreDisplay);
     examine(ScreenKind::Board);
 }
