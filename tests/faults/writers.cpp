@@ -182,7 +182,9 @@ public:
         screen = std::make_unique<frmPoolReports>(folder, platform.services, state, screens, board);
         screen->load();
         screen->txtReportTitle.text = "A new title";
+        screen->cmdDefaultPrinter.click(); // so that nothing is as it was at first
         ui::selectOption(screen->optDestination, Destination);
+        ui::selectOption(screen->optSelected, 1);
     }
     void save(std::optional<ui::Answer> /*mayReplace*/) override
     {
@@ -191,8 +193,15 @@ public:
     }
     std::string onScreen() const override
     {
-        // The chosen files are listed anew before every report.
-        return screen->txtReportTitle.text;
+        // The chosen files are listed anew before every report, and a report that failed loses its own tick.
+        std::string all = screen->txtReportTitle.text + "\n" + screen->cmdDefaultPrinter.caption + "\n";
+        for (std::size_t i = 0; i < screen->optDestination.size(); ++i)
+            all += screen->optDestination[i].selected ? '*' : '-';
+        for (std::size_t i = 0; i < screen->optSelected.size(); ++i)
+            all += screen->optSelected[i].selected ? '*' : '-';
+        for (std::size_t i = 0; i < screen->chkOptions.size(); ++i)
+            all += i != Index && screen->chkOptions[i].ticked ? '*' : '-';
+        return all;
     }
 };
 
