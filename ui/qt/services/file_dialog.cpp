@@ -93,7 +93,7 @@ void FileDialog::acceptQuoted()
         m_save ? fs::is_directory(file.parent_path(), ignored) && !fs::is_directory(file, ignored) : isFile(file);
     if (possible) {
         m_quoted = file;
-        QDialog::accept();
+        done(Accepted); // past what Qt makes of the name
         return;
     }
     QMessageBox box{QMessageBox::Warning, windowTitle(), typed() + QStringLiteral("\nThere is no such file or folder."),
