@@ -25,6 +25,9 @@ PageArea::PageArea(QWidget* content)
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { follow(now); });
 }
 
+/// What is in it goes after it, and then loses the focus: nobody is left to follow that.
+PageArea::~PageArea() { disconnect(qApp, nullptr, this, nullptr); }
+
 QSize PageArea::within(QSize wanted) const
 {
     const QSize room = roomForWindow(*this) - kMenuAndStatus;

@@ -12,6 +12,9 @@ class PageArea : public QScrollArea
 
 public:
     explicit PageArea(QWidget* content);
+    ~PageArea() override;
+    PageArea(const PageArea&) = delete;
+    PageArea& operator=(const PageArea&) = delete;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
