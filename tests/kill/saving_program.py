@@ -128,7 +128,7 @@ class SavingProgram:
         self._errors = tempfile.TemporaryFile()
         self._process = subprocess.Popen([str(self._pool.folder / "tallyhoop")], env=environment,
                                          pass_fds=[orders, tell], stdin=subprocess.DEVNULL, stdout=self._errors,
-                                         stderr=self._errors, cwd="/")
+                                         stderr=self._errors, cwd="/", start_new_session=True)
         _started.add(self._process.pid)
         os.close(orders)
         os.close(tell)
@@ -153,7 +153,8 @@ class SavingProgram:
 
     def wait_for(self, word):
         """What follows the word, and the titles of the boxes that came before it."""
-        patience = threading.Timer(PATIENCE, self._process.kill)
+        # A child that it has forked would keep the pipe open.
+        patience = threading.Timer(PATIENCE, os.killpg, (self._process.pid, signal.SIGKILL))
         patience.start()
         try:
             return self._wait_for(word)

@@ -11,6 +11,7 @@
 #include "writers.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QGenericPlugin>
 #include <QTimer>
 #include <cstdio>
@@ -20,6 +21,19 @@
 
 namespace saver {
 namespace {
+
+/// Keeps a program from painting. Qt shares large areas out among threads, which a forked child has not got: it would
+/// wait for them for ever.
+class Blindfold : public QObject
+{
+public:
+    Blindfold() { QApplication::instance()->installEventFilter(this); }
+
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        return event->type() == QEvent::Paint || event->type() == QEvent::UpdateRequest;
+    }
+};
 
 class Saver : public QObject
 {
@@ -98,6 +112,7 @@ private:
     {
         const pid_t child = ::fork();
         if (child == 0) {
+            const Blindfold blindfold;
             act();
             ::_exit(0);
         }
