@@ -19,6 +19,18 @@ using bench::randomBrackets;
 
 constexpr Payoffs kPayoffs{1, 2, 4, 8, 12, 16};
 
+/// Times what is done with one item after another, over and over; they are counted.
+template <class Item, class Act>
+void inTurn(benchmark::State& state, const std::vector<Item>& items, Act act)
+{
+    std::size_t next = 0;
+    for (auto step : state) {
+        benchmark::DoNotOptimize(act(items[next]));
+        next = next + 1 == items.size() ? 0 : next + 1;
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+
 /// The inner scoring: brackets numbered beforehand.
 void ScoreNumbered(benchmark::State& state)
 {
@@ -26,12 +38,7 @@ void ScoreNumbered(benchmark::State& state)
     std::vector<NumberedPair> pairs;
     for (const SelectionLines& picks : randomBrackets(10'000))
         pairs.push_back(NumberedResults{results}.pairWith(picks));
-    std::size_t next = 0;
-    for (auto step : state) {
-        benchmark::DoNotOptimize(scoreNumbered(pairs[next], kPayoffs));
-        next = next + 1 == pairs.size() ? 0 : next + 1;
-    }
-    state.SetItemsProcessed(state.iterations());
+    inTurn(state, pairs, [](const NumberedPair& pair) { return scoreNumbered(pair, kPayoffs); });
 }
 BENCHMARK(ScoreNumbered);
 
@@ -41,12 +48,7 @@ void NumberThePicks(benchmark::State& state)
     const std::vector<SelectionLines> brackets = randomBrackets(10'000);
     const SelectionLines results = demo::sampleResults();
     const NumberedResults numbered{results};
-    std::size_t next = 0;
-    for (auto step : state) {
-        benchmark::DoNotOptimize(numbered.pairWith(brackets[next]));
-        next = next + 1 == brackets.size() ? 0 : next + 1;
-    }
-    state.SetItemsProcessed(state.iterations());
+    inTurn(state, brackets, [&](const SelectionLines& picks) { return numbered.pairWith(picks); });
 }
 BENCHMARK(NumberThePicks);
 
@@ -56,12 +58,7 @@ void ScorePicks(benchmark::State& state)
     const std::vector<SelectionLines> brackets = randomBrackets(10'000);
     const SelectionLines results = demo::sampleResults();
     const Scoring scoring{results, kPayoffs};
-    std::size_t next = 0;
-    for (auto step : state) {
-        benchmark::DoNotOptimize(scoring.score(brackets[next]));
-        next = next + 1 == brackets.size() ? 0 : next + 1;
-    }
-    state.SetItemsProcessed(state.iterations());
+    inTurn(state, brackets, [&](const SelectionLines& picks) { return scoring.score(picks); });
 }
 BENCHMARK(ScorePicks);
 
