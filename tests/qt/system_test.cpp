@@ -24,6 +24,16 @@ void makeExecutable(const std::filesystem::path& file)
     std::filesystem::permissions(file, std::filesystem::perms::owner_all);
 }
 
+/// @returns what comes of a program that is nothing but these lines
+std::optional<Result<Done>> endOf(QtPrograms& programs, const std::string& lines)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    const auto file = scratch.put("program", "#!/bin/sh\n" + lines);
+    makeExecutable(file);
+    EXPECT_TRUE(programs.start(file));
+    return programs.waitForEnd(kPatience);
+}
+
 } // namespace
 
 TEST(QtPrograms, AMissingProgramIsRefusedWithTheSystemsReason)
@@ -85,12 +95,8 @@ TEST(QtPrograms, NothingIsToldOfAProgramThatStillRuns)
 
 TEST(QtPrograms, AProgramThatSucceedsIsDone)
 {
-    const tallyhoop::test::ScratchFolder scratch;
-    const auto file = scratch.put("good", "#!/bin/sh\necho all is well >&2\n");
-    makeExecutable(file);
     QtPrograms programs;
-    ASSERT_TRUE(programs.start(file));
-    const auto end = programs.waitForEnd(kPatience);
+    const auto end = endOf(programs, "echo all is well >&2\n");
     ASSERT_TRUE(end.has_value());
     EXPECT_TRUE(*end);
     EXPECT_TRUE(*programs.waitForEnd(0ms)) << "and it can be asked again";
@@ -98,12 +104,8 @@ TEST(QtPrograms, AProgramThatSucceedsIsDone)
 
 TEST(QtPrograms, AProgramThatFailsTellsWhy)
 {
-    const tallyhoop::test::ScratchFolder scratch;
-    const auto file = scratch.put("bad", "#!/bin/sh\nprintf 'caf\\303\\251\\r\\nis closed\\n' >&2\nexit 1\n");
-    makeExecutable(file);
     QtPrograms programs;
-    ASSERT_TRUE(programs.start(file));
-    const auto end = programs.waitForEnd(kPatience);
+    const auto end = endOf(programs, "printf 'caf\\303\\251\\r\\nis closed\\n' >&2\nexit 1\n");
     ASSERT_TRUE(end.has_value());
     ASSERT_FALSE(*end);
     EXPECT_EQ(end->failure().message, "caf\xE9\r\nis closed");
@@ -111,13 +113,9 @@ TEST(QtPrograms, AProgramThatFailsTellsWhy)
 
 TEST(QtPrograms, AProgramThatFailsWithoutAWordFailsAllTheSame)
 {
-    const tallyhoop::test::ScratchFolder scratch;
-    for (const char* last : {"exit 3", "kill -9 $$"}) {
-        const auto file = scratch.put("bad", std::string{"#!/bin/sh\n"} + last + "\n");
-        makeExecutable(file);
+    for (const char* last : {"exit 3\n", "kill -9 $$\n"}) {
         QtPrograms programs;
-        ASSERT_TRUE(programs.start(file));
-        const auto end = programs.waitForEnd(kPatience);
+        const auto end = endOf(programs, last);
         ASSERT_TRUE(end.has_value());
         ASSERT_FALSE(*end) << last;
         EXPECT_EQ(end->failure().message, "It ended without saying why.");
