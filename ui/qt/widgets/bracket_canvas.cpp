@@ -19,6 +19,7 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr double kSmallestText = 8;
+constexpr int kLineEditMargin = 2;    ///< what Qt keeps free at either side of a line of text
 constexpr double kShrinkFloor = 0.86; ///< names that would need even smaller letters are cut instead
 constexpr ui::Colour kTeamColour{0, 0, 255};
 
@@ -98,6 +99,7 @@ void BracketCanvas::makeSeeds()
         auto* const seed = qobject_cast<QLineEdit*>(m_page.add(m_board.txtSeed[i]));
         seed->setParent(this);
         seed->setFrame(false);
+        seed->setTextMargins(-kLineEditMargin, 0, -kLineEditMargin, 0); // two digits need all of the narrowest place
         seed->setMinimumSize(0, 0);
         seed->setAlignment(i < kTeams / 2 ? Qt::AlignRight : Qt::AlignLeft);
         seed->setFocusPolicy(Qt::NoFocus);
