@@ -2,21 +2,21 @@
 
 #include "app/start_up.h"
 #include "app/wiring.h"
-#include "model/help_display.h"
-#include "model/replace_file.h"
-#include "ui/qt/desk.h"
-#include "ui/qt/look.h"
-#include "ui/qt/main_frame.h"
-#include "ui/qt/screen_host.h"
-#include "ui/qt/services/qt_dialogs.h"
-#include "ui/qt/services/qt_help_viewer.h"
-#include "ui/qt/services/qt_printer.h"
-#include "ui/qt/services/qt_system.h"
+#include "files/replace_file.h"
+#include "qt/desk.h"
+#include "qt/look.h"
+#include "qt/main_frame.h"
+#include "qt/screen_host.h"
+#include "qt/services/qt_dialogs.h"
+#include "qt/services/qt_help_viewer.h"
+#include "qt/services/qt_printer.h"
+#include "qt/services/qt_system.h"
+#include "screens/help_display.h"
 
 #ifdef _WIN32
-#include "ui/qt/services/simple_mapi_mail.h"
+#include "qt/services/simple_mapi_mail.h"
 #else
-#include "ui/qt/services/mail_hand_over.h"
+#include "qt/services/mail_hand_over.h"
 #endif
 
 #include <QApplication>

@@ -1,8 +1,8 @@
 #include "app/start_up.h"
 
-#include "model/demo_mode.h"
-#include "model/file_names.h"
-#include "model/help_topics.h"
+#include "files/file_names.h"
+#include "screens/demo_mode.h"
+#include "screens/help_topics.h"
 
 namespace tallyhoop {
 

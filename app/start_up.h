@@ -1,8 +1,8 @@
 // app/start_up.h - what happens when the program starts, before the person does anything.
 #pragma once
 
-#include "model/data_folder.h"
-#include "model/screens.h"
+#include "files/data_folder.h"
+#include "screens/screens.h"
 #include "ui/platform.h"
 
 namespace tallyhoop {

@@ -1,19 +1,19 @@
 #include "app/wiring.h"
 
-#include "bracket/frmPoolMain.h"
-#include "players/frmPoolEMail.h"
-#include "players/frmPoolNames.h"
-#include "reports/frmPoolReports.h"
-#include "scoring/frmPoolMisc.h"
-#include "setup/frmPoolEntry.h"
-#include "setup/frmPoolSeatings.h"
-#include "ui/qt/views/board_view.h"
-#include "ui/qt/views/email_view.h"
-#include "ui/qt/views/player_names_view.h"
-#include "ui/qt/views/reports_view.h"
-#include "ui/qt/views/score_display_view.h"
-#include "ui/qt/views/seed_positions_view.h"
-#include "ui/qt/views/setup_view.h"
+#include "qt/views/board_view.h"
+#include "qt/views/email_view.h"
+#include "qt/views/player_names_view.h"
+#include "qt/views/reports_view.h"
+#include "qt/views/score_display_view.h"
+#include "qt/views/seed_positions_view.h"
+#include "qt/views/setup_view.h"
+#include "screens/board/board_screen.h"
+#include "screens/players/email_screen.h"
+#include "screens/players/players_screen.h"
+#include "screens/reports/reports_screen.h"
+#include "screens/scores/scores_screen.h"
+#include "screens/setup/seeds_screen.h"
+#include "screens/setup/setup_screen.h"
 
 #include <memory>
 
@@ -34,37 +34,37 @@ void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::P
 {
     using qt::Placement;
     // Screens that work on the board or on the setup are loaded while it is, and unloaded before it.
-    const auto board = [&host]() -> BracketBoard& { return *host.find<frmPoolMain>(ScreenKind::Board); };
-    const auto setup = [&host]() -> frmPoolEntry& { return *host.find<frmPoolEntry>(ScreenKind::Setup); };
+    const auto board = [&host]() -> BracketBoard& { return *host.find<BoardScreen>(ScreenKind::Board); };
+    const auto setup = [&host]() -> SetupScreen& { return *host.find<SetupScreen>(ScreenKind::Setup); };
 
-    host.registerScreen<frmPoolMain>(
+    host.registerScreen<BoardScreen>(
         ScreenKind::Board, Placement::Stacked,
-        [&](Opening opening) { return std::make_unique<frmPoolMain>(folder, platform, state, host, opening); },
-        shownBy<qt::BoardView, frmPoolMain>());
-    host.registerScreen<frmPoolMisc>(
+        [&](Opening opening) { return std::make_unique<BoardScreen>(folder, platform, state, host, opening); },
+        shownBy<qt::BoardView, BoardScreen>());
+    host.registerScreen<ScoresScreen>(
         ScreenKind::ScoreDisplay, Placement::OwnWindow,
-        [&, board](Opening) { return std::make_unique<frmPoolMisc>(folder, platform, state, host, board()); },
-        shownBy<qt::ScoreDisplayView, frmPoolMisc>());
-    host.registerScreen<frmPoolEntry>(
+        [&, board](Opening) { return std::make_unique<ScoresScreen>(folder, platform, state, host, board()); },
+        shownBy<qt::ScoreDisplayView, ScoresScreen>());
+    host.registerScreen<SetupScreen>(
         ScreenKind::Setup, Placement::Stacked,
-        [&](Opening opening) { return std::make_unique<frmPoolEntry>(folder, platform, state, host, opening); },
-        shownBy<qt::SetupView, frmPoolEntry>());
-    host.registerScreen<frmPoolSeatings>(
+        [&](Opening opening) { return std::make_unique<SetupScreen>(folder, platform, state, host, opening); },
+        shownBy<qt::SetupView, SetupScreen>());
+    host.registerScreen<SeedsScreen>(
         ScreenKind::SeedPositions, Placement::Modal,
-        [&, setup](Opening) { return std::make_unique<frmPoolSeatings>(setup(), platform, state, host); },
-        shownBy<qt::SeedPositionsView, frmPoolSeatings>());
-    host.registerScreen<frmPoolReports>(
+        [&, setup](Opening) { return std::make_unique<SeedsScreen>(setup(), platform, state, host); },
+        shownBy<qt::SeedPositionsView, SeedsScreen>());
+    host.registerScreen<ReportsScreen>(
         ScreenKind::Reports, Placement::Stacked,
-        [&, board](Opening) { return std::make_unique<frmPoolReports>(folder, platform, state, host, board()); },
-        shownBy<qt::ReportsView, frmPoolReports>());
-    host.registerScreen<frmPoolNames>(
+        [&, board](Opening) { return std::make_unique<ReportsScreen>(folder, platform, state, host, board()); },
+        shownBy<qt::ReportsView, ReportsScreen>());
+    host.registerScreen<PlayersScreen>(
         ScreenKind::PlayerNames, Placement::Stacked,
-        [&](Opening) { return std::make_unique<frmPoolNames>(folder, platform, state, host); },
-        shownBy<qt::PlayerNamesView, frmPoolNames>());
-    host.registerScreen<frmPoolEMail>(
+        [&](Opening) { return std::make_unique<PlayersScreen>(folder, platform, state, host); },
+        shownBy<qt::PlayerNamesView, PlayersScreen>());
+    host.registerScreen<EmailScreen>(
         ScreenKind::EMail, Placement::Modal,
-        [&](Opening) { return std::make_unique<frmPoolEMail>(folder, platform, state, host); },
-        shownBy<qt::EmailView, frmPoolEMail>());
+        [&](Opening) { return std::make_unique<EmailScreen>(folder, platform, state, host); },
+        shownBy<qt::EmailView, EmailScreen>());
 }
 
 } // namespace tallyhoop

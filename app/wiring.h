@@ -1,10 +1,10 @@
 // app/wiring.h - which class stands behind each screen, and what it is handed.
 #pragma once
 
-#include "model/data_folder.h"
-#include "model/mod_tallyhoop.h"
+#include "files/data_folder.h"
+#include "qt/screen_host.h"
+#include "screens/mod_tallyhoop.h"
 #include "ui/platform.h"
-#include "ui/qt/screen_host.h"
 
 namespace tallyhoop {
 

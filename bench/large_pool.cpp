@@ -1,12 +1,12 @@
 // bench/large_pool.cpp - random brackets, and the files of a pool of them.
 #include "bench/large_pool.h"
 
-#include "model/sample_pool.h"
-#include "model/file_names.h"
-#include "model/player_names_file.h"
-#include "model/selection_file.h"
-#include "model/setup_file.h"
-#include "scoring/numbered_bracket.h"
+#include "demo/sample_pool.h"
+#include "files/file_names.h"
+#include "files/player_names_file.h"
+#include "files/selection_file.h"
+#include "files/setup_file.h"
+#include "pool/numbered_bracket.h"
 
 #include <cstdio>
 #include <cstdlib>

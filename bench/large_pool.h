@@ -1,7 +1,7 @@
 // bench/large_pool.h - a pool far larger than an office: made up, the same every time.
 #pragma once
 
-#include "model/lines.h"
+#include "pool/pool_lines.h"
 
 #include <cstddef>
 #include <filesystem>

@@ -1,9 +1,9 @@
 // bench/players_bench.cpp - the player list and the e-mail dialog with 1,000 and 10,000 players: opening, and one key.
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
-#include "model/player_names_file.h"
-#include "players/frmPoolEMail.h"
-#include "players/frmPoolNames.h"
+#include "files/player_names_file.h"
+#include "screens/players/email_screen.h"
+#include "screens/players/players_screen.h"
 
 #include <benchmark/benchmark.h>
 #include <filesystem>
@@ -48,7 +48,7 @@ void OpenPlayerList(benchmark::State& state)
     Pool pool{state.range(0)};
     for (auto step : state) {
         (void)step;
-        frmPoolNames names{pool.folder, pool.platform.services, pool.state, pool.screens};
+        PlayersScreen names{pool.folder, pool.platform.services, pool.state, pool.screens};
         names.load();
         benchmark::DoNotOptimize(names.lstNames.rows.size());
     }
@@ -59,7 +59,7 @@ void OpenEmail(benchmark::State& state)
     Pool pool{state.range(0)};
     for (auto step : state) {
         (void)step;
-        frmPoolEMail mail{pool.folder, pool.platform.services, pool.state, pool.screens};
+        EmailScreen mail{pool.folder, pool.platform.services, pool.state, pool.screens};
         mail.load();
         benchmark::DoNotOptimize(mail.lstPlayerNames.rows.size());
     }
@@ -69,7 +69,7 @@ void OpenEmail(benchmark::State& state)
 void TypeOneKey(benchmark::State& state)
 {
     Pool pool{state.range(0)};
-    frmPoolEMail mail{pool.folder, pool.platform.services, pool.state, pool.screens};
+    EmailScreen mail{pool.folder, pool.platform.services, pool.state, pool.screens};
     mail.load();
     for (auto step : state) {
         (void)step;

@@ -4,7 +4,7 @@
 // Prints the seconds it took, those of the processor, the peak memory in KiB, and every message that was shown.
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
-#include "reports/frmPoolReports.h"
+#include "screens/reports/reports_screen.h"
 
 #include <charconv>
 #include <chrono>
@@ -46,7 +46,7 @@ int main(int argc, char** argv)
     state.setupLines[setup_line::kTitle] = "Office Pool";
     test::FakeBoard board{state};
     test::FakeScreens screens;
-    frmPoolReports reports{folder, platform.services, state, screens, board};
+    ReportsScreen reports{folder, platform.services, state, screens, board};
     reports.load();
     ui::selectOption(reports.optDestination, 1); // to the report's file
     reports.chkOptions[report].ticked = any;

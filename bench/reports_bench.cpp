@@ -3,9 +3,9 @@
 // Run all in one go and compare: what a report costs beyond reading is the ratio, whatever the machine.
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
-#include "model/replace_file.h"
-#include "reports/report_maker.h"
+#include "files/replace_file.h"
 #include "reports/report_pool.h"
+#include "screens/reports/report_maker.h"
 
 #include <benchmark/benchmark.h>
 

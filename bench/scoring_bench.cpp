@@ -1,13 +1,13 @@
 // bench/scoring_bench.cpp - scoring from memory, and the score display with 1,000 and 10,000 players.
 #include "bench/large_pool.h"
+#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "model/replace_file.h"
-#include "model/sample_pool.h"
-#include "model/selection_file.h"
-#include "scoring/frmPoolMisc.h"
-#include "scoring/score_picks.h"
+#include "files/replace_file.h"
+#include "files/selection_file.h"
+#include "pool/scoring.h"
+#include "screens/scores/scores_screen.h"
 
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
@@ -87,7 +87,7 @@ public:
     modTallyhoop shared;
     test::FakeScreens screens;
     test::FakeBoard board{shared};
-    frmPoolMisc screen{folder, platform.services, shared, screens, board};
+    ScoresScreen screen{folder, platform.services, shared, screens, board};
 };
 
 /// The reference for Calculate: the same files, read and thrown away.

@@ -6,13 +6,13 @@
 // line of its own: what, milliseconds until it was painted, milliseconds of processor time.
 #include "app/start_up.h"
 #include "app/wiring.h"
-#include "bracket/frmPoolMain.h"
-#include "ui/qt/look.h"
-#include "ui/qt/services/mail_hand_over.h"
-#include "ui/qt/services/qt_dialogs.h"
-#include "ui/qt/services/qt_help_viewer.h"
-#include "ui/qt/services/qt_printer.h"
-#include "ui/qt/services/qt_system.h"
+#include "qt/look.h"
+#include "qt/services/mail_hand_over.h"
+#include "qt/services/qt_dialogs.h"
+#include "qt/services/qt_help_viewer.h"
+#include "qt/services/qt_printer.h"
+#include "qt/services/qt_system.h"
+#include "screens/board/board_screen.h"
 
 #include <QAbstractScrollArea>
 #include <QApplication>
@@ -153,7 +153,7 @@ void standings(Program& program)
 
 void scores(Program& program)
 {
-    program.host.find<frmPoolMain>(ScreenKind::Board)->EnterGameResults();
+    program.host.find<BoardScreen>(ScreenKind::Board)->EnterGameResults();
     program.desk.push();
     program.host.load(ScreenKind::ScoreDisplay);
     auto& grid = program.find<QTableView>(ScreenKind::ScoreDisplay, "msgScoreDisplay");
@@ -177,7 +177,7 @@ void scores(Program& program)
 /// Clicks all over a bracket that fills up and is cleared again: every click changes something.
 void clicks(Program& program)
 {
-    auto& board = *program.host.find<frmPoolMain>(ScreenKind::Board);
+    auto& board = *program.host.find<BoardScreen>(ScreenKind::Board);
     QWidget& canvas = program.find(ScreenKind::Board, "bracketCanvas");
     const auto click = [&](int position, Qt::MouseButton button) {
         const std::string name = "lblRegion_" + std::to_string(position);

@@ -1,7 +1,7 @@
 // demo/main.cpp - DEMOSET.EXE: puts the sample pool into the folder in which this program lies.
-#include "model/replace_file.h"
-#include "model/sample_pool.h"
-#include "model/windows1252.h"
+#include "base/windows1252.h"
+#include "demo/sample_pool.h"
+#include "files/replace_file.h"
 
 #include <cstdlib>
 #include <exception>

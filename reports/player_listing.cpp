@@ -1,8 +1,8 @@
 // reports/player_listing.cpp - measures the four columns, then lays out header and players.
 #include "reports/player_listing.h"
 
-#include "model/player_names_file.h"
-#include "model/text.h"
+#include "base/text.h"
+#include "files/player_names_file.h"
 
 #include <algorithm>
 

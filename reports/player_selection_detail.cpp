@@ -1,9 +1,9 @@
 // reports/player_selection_detail.cpp - who goes how far, and where each name is printed.
 #include "reports/player_selection_detail.h"
 
-#include "model/bracket_position.h"
-#include "model/text.h"
-#include "model/windows1252.h"
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "pool/position.h"
 
 #include <algorithm>
 

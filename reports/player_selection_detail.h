@@ -1,9 +1,9 @@
 // reports/player_selection_detail.h - every player's whole bracket as a table, one page each.
 #pragma once
 
-#include "reports/read_pool.h"
+#include "base/result.h"
+#include "files/read_pool.h"
 #include "reports/report_layout.h"
-#include "ui/result.h"
 
 #include <array>
 #include <span>

@@ -1,9 +1,9 @@
 // reports/report_layout.cpp - the arithmetic and the few lines that all text reports share.
 #include "reports/report_layout.h"
 
-#include "model/numbers.h"
-#include "model/text.h"
-#include "model/windows1252.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "base/windows1252.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,7 +3,7 @@
 // Reports are fixed-pitch: a width is a count of characters, and a character is a byte.
 #pragma once
 
-#include "ui/result.h"
+#include "base/result.h"
 
 #include <cstddef>
 #include <string>

@@ -1,8 +1,8 @@
 // reports/results_by_player.cpp - projects, scores and lays out the results by player.
 #include "reports/results_by_player.h"
 
-#include "model/numbers.h"
-#include "model/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 // reports/results_by_player.h - for every player, the points under each of the eight ways the tournament can still end.
 #pragma once
 
-#include "reports/final_four.h"
-#include "reports/read_pool.h"
+#include "base/result.h"
+#include "files/read_pool.h"
+#include "pool/projection.h"
 #include "reports/report_layout.h"
-#include "ui/result.h"
 
 #include <array>
 #include <optional>

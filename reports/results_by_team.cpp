@@ -1,8 +1,8 @@
 // reports/results_by_team.cpp - projects, packs, sorts and lays out the results by team.
 #include "reports/results_by_team.h"
 
-#include "model/numbers.h"
-#include "model/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 // reports/results_by_team.h - for each region winner, where every player would end up if that team won the title.
 #pragma once
 
-#include "reports/final_four.h"
-#include "reports/read_pool.h"
+#include "base/result.h"
+#include "files/read_pool.h"
+#include "pool/projection.h"
 #include "reports/report_layout.h"
-#include "ui/result.h"
 
 #include <span>
 #include <string>

@@ -1,9 +1,9 @@
 // reports/standings.cpp - packs, sorts and lays out the standings.
 #include "reports/standings.h"
 
-#include "model/bracket_position.h"
-#include "model/numbers.h"
-#include "model/text.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "pool/position.h"
 
 #include <algorithm>
 #include <vector>

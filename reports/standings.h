@@ -1,9 +1,9 @@
 // reports/standings.h - the tournament standings: every player, most points first.
 #pragma once
 
+#include "base/result.h"
+#include "pool/scoring.h"
 #include "reports/report_layout.h"
-#include "scoring/score_picks.h"
-#include "ui/result.h"
 
 #include <span>
 #include <string>

@@ -1,10 +1,10 @@
 // reports/team_selection.cpp - packs the picks of all players, one entry each, and lays out a row of counts.
 #include "reports/team_selection.h"
 
-#include "model/bracket_position.h"
-#include "model/numbers.h"
-#include "model/text.h"
-#include "model/windows1252.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "pool/position.h"
 
 #include <algorithm>
 #include <iterator>

@@ -2,9 +2,9 @@
 // counts looks. The summary counts how many players send each team into each round; the detail says which players do.
 #pragma once
 
-#include "reports/read_pool.h"
+#include "base/result.h"
+#include "files/read_pool.h"
 #include "reports/report_layout.h"
-#include "ui/result.h"
 
 #include <array>
 #include <string>

@@ -1,7 +1,7 @@
 // reports/team_selection_detail.cpp - one line per team, one indented row per player below it.
 #include "reports/team_selection_detail.h"
 
-#include "model/text.h"
+#include "base/text.h"
 #include "reports/report_table.h"
 
 namespace tallyhoop {

@@ -8,7 +8,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-rooms=(app bracket demo model players reports scoring setup ui)
+rooms=(app base demo files pool qt reports screens ui)
 
 # needs TOOL: what is not there has not looked at anything.
 needs() {
@@ -30,8 +30,8 @@ check() {
     cppcheck --std=c++20 --language=c++ --library=qt --quiet --error-exitcode=1 --inline-suppr \
         --enable=warning,performance,portability,style \
         --suppress=missingIncludeSystem --suppress=useStlAlgorithm --suppress=shadowFunction \
-        --suppress=noExplicitConstructor:ui/result.h --suppress=unusedStructMember \
-        --suppress=constParameter:ui/qt/page_text.cpp --suppress=constParameter:ui/qt/services/help_window.cpp \
+        --suppress=noExplicitConstructor:base/result.h --suppress=unusedStructMember \
+        --suppress=constParameter:qt/page_text.cpp --suppress=constParameter:qt/services/help_window.cpp \
         --suppress=constStatement:ui/control.h --suppress=unmatchedSuppression \
         --template='{file}:{line}: {severity}: {message} [{id}]' -I. "${rooms[@]}"
 }

@@ -1,7 +1,7 @@
 // ui/mail.h - handing a message to the person's own mail client.
 #pragma once
 
-#include "ui/result.h"
+#include "base/result.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -20,8 +20,8 @@ struct Attachment {
 struct MailMessage {
     std::vector<std::string> recipients; ///< addresses in the order chosen; empty = the client asks
     std::string subject;
-    std::string body;                    ///< lines separated by CR LF; ends in `placeholders` blanks
-    std::size_t placeholders = 0;        ///< trailing blanks of the body that attachments may stand on
+    std::string body;             ///< lines separated by CR LF; ends in `placeholders` blanks
+    std::size_t placeholders = 0; ///< trailing blanks of the body that attachments may stand on
     std::vector<Attachment> attachments;
 };
 

@@ -1,10 +1,10 @@
 // ui/platform.h - the services the screens ask of the computer they run on.
 #pragma once
 
+#include "base/result.h"
 #include "ui/dialogs.h"
 #include "ui/mail.h"
 #include "ui/printer.h"
-#include "ui/result.h"
 
 #include <chrono>
 #include <filesystem>

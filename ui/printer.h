@@ -1,8 +1,8 @@
 // ui/printer.h - what the program asks of a printer.
 #pragma once
 
+#include "base/result.h"
 #include "ui/drawing.h"
-#include "ui/result.h"
 
 #include <filesystem>
 #include <optional>

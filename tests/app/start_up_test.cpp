@@ -3,7 +3,7 @@
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "model/file_names.h"
+#include "files/file_names.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // tests/demo/demoset_test.cpp - the installer itself, started in a folder of its own.
+#include "demo/sample_pool.h"
 #include "fakes/scratch_folder.h"
-#include "model/sample_pool.h"
 
 #include <cstdlib>
 #include <filesystem>

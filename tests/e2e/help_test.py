@@ -83,7 +83,7 @@ class HelpFile(unittest.TestCase):
 
     def test_every_topic_that_the_program_asks_for_is_there(self):
         text = HELP.read_text(encoding="utf-8")
-        topics = (SOURCE / "model/help_topics.h").read_text(encoding="utf-8")
+        topics = (SOURCE / "screens/help_topics.h").read_text(encoding="utf-8")
         asked = set(re.findall(r'char\* k\w+ = "(\w+)"', topics))
         self.assertGreaterEqual(len(asked), 12)
         self.assertEqual(asked - set(re.findall(r'id="(\w+)"', text)), set())

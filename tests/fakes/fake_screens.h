@@ -1,7 +1,7 @@
 // tests/fakes/fake_screens.h - screens and a board that only remember what they were asked.
 #pragma once
 
-#include "model/screens.h"
+#include "screens/screens.h"
 
 #include <functional>
 #include <set>
@@ -47,15 +47,19 @@ class FakeBoard : public BracketBoard
 public:
     explicit FakeBoard(modTallyhoop& state) : m_state{state} {}
 
-    SelectionLines onBoard{};                      ///< what captureBoard() copies
+    SelectionLines onBoard{}; ///< what captureBoard() copies
     Result<Payoffs> shownPayoffs{Payoffs{1, 2, 4, 8, 12, 16}};
     bool reportsEnabled = true;
     bool scoreDisplayOpen = false;
-    std::vector<std::string> calls;                ///< names of the operations, in order
+    std::vector<std::string> calls; ///< names of the operations, in order
     std::vector<std::filesystem::path> selectionsShown;
     ui::Drawing picture;
 
-    void captureBoard() override { calls.emplace_back("captureBoard"); m_state.selectionLines = onBoard; }
+    void captureBoard() override
+    {
+        calls.emplace_back("captureBoard");
+        m_state.selectionLines = onBoard;
+    }
     Result<Payoffs> payoffs() const override { return shownPayoffs; }
     void MarkScores() override { calls.emplace_back("MarkScores"); }
     void ClearMarks() override { calls.emplace_back("ClearMarks"); }

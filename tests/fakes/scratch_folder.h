@@ -1,7 +1,7 @@
 // tests/fakes/scratch_folder.h - a folder of a test's own, gone when the test ends.
 #pragma once
 
-#include "model/data_folder.h"
+#include "files/data_folder.h"
 
 #include <filesystem>
 #include <string>

@@ -1,7 +1,7 @@
 // tests/faults/changed_meanwhile_test.cpp - two programs on one folder: a file that the other one has changed is not
 // replaced unasked.
 #include "faults/writers.h"
-#include "model/file_messages.h"
+#include "screens/file_messages.h"
 
 #include <gmock/gmock.h>
 

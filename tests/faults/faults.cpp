@@ -1,6 +1,6 @@
 #include "faults/faults.h"
 
-#include "model/replace_file.h"
+#include "files/replace_file.h"
 
 #include <cerrno>
 #include <csignal>

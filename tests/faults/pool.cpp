@@ -1,6 +1,6 @@
 #include "faults/writers.h"
-#include "model/file_names.h"
-#include "model/setup_file.h"
+#include "files/file_names.h"
+#include "files/setup_file.h"
 #include "reports/report_pool.h"
 #include "reports/report_table.h"
 

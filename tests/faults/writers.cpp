@@ -1,11 +1,11 @@
 #include "faults/writers.h"
 
-#include "bracket/frmPoolMain.h"
 #include "faults/messages.h"
-#include "model/file_names.h"
-#include "players/frmPoolNames.h"
-#include "reports/frmPoolReports.h"
-#include "setup/frmPoolEntry.h"
+#include "files/file_names.h"
+#include "screens/board/board_screen.h"
+#include "screens/players/players_screen.h"
+#include "screens/reports/reports_screen.h"
+#include "screens/setup/setup_screen.h"
 
 #include <fstream>
 
@@ -35,12 +35,12 @@ protected:
     }
 };
 
-class SetupWriter : public ScreenWriter<frmPoolEntry>
+class SetupWriter : public ScreenWriter<SetupScreen>
 {
 public:
     explicit SetupWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<frmPoolEntry>(folder, platform.services, state, screens);
+        screen = std::make_unique<SetupScreen>(folder, platform.services, state, screens);
         screen->load();
         screen->TxtInfo[0].text = "A new title";
     }
@@ -51,12 +51,12 @@ public:
     }
 };
 
-class TeamListWriter : public ScreenWriter<frmPoolEntry>
+class TeamListWriter : public ScreenWriter<SetupScreen>
 {
 public:
     explicit TeamListWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<frmPoolEntry>(folder, platform.services, state, screens);
+        screen = std::make_unique<SetupScreen>(folder, platform.services, state, screens);
         screen->load();
         platform.dialogs.type("Gonzaga");
         screen->cmdAddName.click();
@@ -69,12 +69,12 @@ public:
     }
 };
 
-class BoardWriter : public ScreenWriter<frmPoolMain>
+class BoardWriter : public ScreenWriter<BoardScreen>
 {
 public:
     explicit BoardWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<frmPoolMain>(folder, platform.services, state, screens);
+        screen = std::make_unique<BoardScreen>(folder, platform.services, state, screens);
         screen->load();
     }
 
@@ -139,12 +139,12 @@ public:
     }
 };
 
-class PlayerListWriter : public ScreenWriter<frmPoolNames>
+class PlayerListWriter : public ScreenWriter<PlayersScreen>
 {
 public:
     explicit PlayerListWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<frmPoolNames>(folder, platform.services, state, screens);
+        screen = std::make_unique<PlayersScreen>(folder, platform.services, state, screens);
         screen->load();
         screen->txtName.text = "Evans,GH";
         screen->txtEmail.text = "evans@example.org";
@@ -166,7 +166,7 @@ public:
     }
     void save(std::optional<ui::Answer> /*mayReplace*/) override
     {
-        frmPoolNames names{folder, platform.services, state, screens};
+        PlayersScreen names{folder, platform.services, state, screens};
         names.load();
         EXPECT_FALSE(names.cmdAdd.enabled);
     }
@@ -174,12 +174,12 @@ public:
 };
 
 template <std::size_t Index, std::size_t Destination>
-class ReportWriter : public ScreenWriter<frmPoolReports>
+class ReportWriter : public ScreenWriter<ReportsScreen>
 {
 public:
     explicit ReportWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<frmPoolReports>(folder, platform.services, state, screens, board);
+        screen = std::make_unique<ReportsScreen>(folder, platform.services, state, screens, board);
         screen->load();
         screen->txtReportTitle.text = "A new title";
         screen->cmdDefaultPrinter.click(); // so that nothing is as it was at first

@@ -5,8 +5,8 @@
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "faults/faults.h"
-#include "model/data_folder.h"
-#include "model/mod_tallyhoop.h"
+#include "files/data_folder.h"
+#include "screens/mod_tallyhoop.h"
 #include "ui/screen.h"
 
 #include <filesystem>

@@ -1,10 +1,10 @@
 // tests/faults/writers_under_faults_test.cpp - every writer under every fault: the person is told, nothing is lost, and
 // the next save works.
+#include "demo/sample_pool.h"
 #include "faults/own_process.h"
 #include "faults/writers.h"
-#include "model/demo_mode.h"
-#include "model/file_names.h"
-#include "model/sample_pool.h"
+#include "files/file_names.h"
+#include "screens/demo_mode.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>

@@ -1,10 +1,10 @@
 // tests/fuzz/fuzzed_pool.cpp - takes bytes apart into a pool.
 #include "fuzz/fuzzed_pool.h"
 
-#include "model/selection_file.h"
-#include "model/text.h"
-#include "model/text_file.h"
-#include "scoring/sample_brackets.h"
+#include "base/lines.h"
+#include "base/text.h"
+#include "files/selection_file.h"
+#include "pool/sample_brackets.h"
 
 #include <algorithm>
 

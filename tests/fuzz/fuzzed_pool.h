@@ -1,7 +1,7 @@
 // tests/fuzz/fuzzed_pool.h - a pool made of arbitrary bytes, for the reports.
 #pragma once
 
-#include "reports/read_pool.h"
+#include "files/read_pool.h"
 
 #include <functional>
 #include <string>

@@ -1,9 +1,9 @@
 // tests/fuzz/list_search.cpp - arbitrary keys in an entry box, compared with the rules told once more.
 #include "fuzz/targets.h"
 
-#include "model/text.h"
-#include "model/windows1252.h"
-#include "players/clsBoxSearch.h"
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "screens/list_search.h"
 
 #include <cstdint>
 #include <vector>
@@ -106,7 +106,7 @@ public:
         const std::string typed = m_source.text;
         std::int16_t keyCode = byte;
         const Seen before = seen(keyCode);
-        clsBoxSearch{}.FindIndexStr(m_source, typed, keyCode, m_box.hasTarget ? &m_target : nullptr);
+        ListSearch{}.FindIndexStr(m_source, typed, keyCode, m_box.hasTarget ? &m_target : nullptr);
         if (seen(keyCode) != expected(before, m_box, typed, m_rows))
             return "a key did something else than the rules say";
         if (keyCode != 0)

@@ -1,8 +1,8 @@
 // tests/fuzz/message_file.cpp - a message of arbitrary texts, written as a file and read again by the library's parser.
 #include "fuzz/targets.h"
 
-#include "model/text.h"
-#include "ui/qt/services/message_file.h"
+#include "base/text.h"
+#include "qt/services/message_file.h"
 
 #include <algorithm>
 #include <gmime/gmime.h>

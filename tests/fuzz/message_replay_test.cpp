@@ -1,7 +1,7 @@
 // tests/fuzz/message_replay_test.cpp - every file of the fuzzers' corpora as a message, in every build with windows.
 #include "fuzz/targets.h"
 
-#include "model/replace_file.h"
+#include "files/replace_file.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

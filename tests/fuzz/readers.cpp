@@ -1,15 +1,15 @@
 // tests/fuzz/readers.cpp - what must hold of every reader, whatever the bytes.
 #include "fuzz/targets.h"
 
-#include "model/numbers.h"
-#include "model/player_names_file.h"
-#include "model/selection_file.h"
-#include "model/settings_file.h"
-#include "model/setup_file.h"
-#include "model/team_name_list_file.h"
-#include "model/text.h"
-#include "model/text_file.h"
-#include "model/windows1252.h"
+#include "base/lines.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "files/player_names_file.h"
+#include "files/selection_file.h"
+#include "files/settings_file.h"
+#include "files/setup_file.h"
+#include "files/team_name_list_file.h"
 
 #include <algorithm>
 #include <vector>

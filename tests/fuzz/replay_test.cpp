@@ -1,7 +1,7 @@
 // tests/fuzz/replay_test.cpp - every file of the fuzzers' corpora through everything that is fuzzed, in every build.
 #include "fuzz/targets.h"
 
-#include "model/replace_file.h"
+#include "files/replace_file.h"
 
 #include <filesystem>
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // tests/fuzz/report_pages.cpp - takes a report apart again.
 #include "fuzz/report_pages.h"
 
-#include "model/text_file.h"
+#include "base/lines.h"
 
 #include <algorithm>
 

@@ -2,12 +2,12 @@
 #include "fuzz/fuzzed_pool.h"
 #include "fuzz/report_pages.h"
 
+#include "base/text.h"
 #include "fakes/no_progress.h"
-#include "model/text.h"
+#include "pool/naive_scorer.h"
 #include "reports/results_by_player.h"
 #include "reports/results_by_team.h"
 #include "reports/standings.h"
-#include "scoring/naive_scorer.h"
 
 #include <algorithm>
 #include <fmt/format.h>

@@ -1,10 +1,10 @@
 // tests/fuzz/scoring.cpp - two brackets of arbitrary lines, scored by the program and by the naive scorer.
 #include "fuzz/targets.h"
 
-#include "model/numbers.h"
-#include "model/text.h"
-#include "scoring/naive_scorer.h"
-#include "scoring/score_picks.h"
+#include "base/numbers.h"
+#include "base/text.h"
+#include "pool/naive_scorer.h"
+#include "pool/scoring.h"
 
 #include <array>
 #include <cstdint>

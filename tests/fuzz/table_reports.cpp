@@ -2,13 +2,13 @@
 #include "fuzz/fuzzed_pool.h"
 #include "fuzz/report_pages.h"
 
-#include "model/player_names_file.h"
-#include "model/text.h"
-#include "model/windows1252.h"
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "files/player_names_file.h"
+#include "pool/sample_brackets.h"
 #include "reports/player_listing.h"
 #include "reports/player_selection_detail.h"
 #include "reports/team_selection_detail.h"
-#include "scoring/sample_brackets.h"
 
 #include <algorithm>
 #include <array>

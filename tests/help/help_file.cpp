@@ -1,7 +1,7 @@
 #include "help/help_file.h"
 
-#include "model/text.h"
-#include "model/text_file.h"
+#include "base/lines.h"
+#include "base/text.h"
 
 #include <filesystem>
 #include <fstream>

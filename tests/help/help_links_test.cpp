@@ -1,8 +1,8 @@
 // tests/help/help_links_test.cpp - does every link of the help, and everything in the program that sends people there,
 // lead to a topic?
+#include "base/lines.h"
 #include "help/help_file.h"
-#include "model/help_topics.h"
-#include "model/text_file.h"
+#include "screens/help_topics.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -22,7 +22,7 @@ using testing::HasSubstr;
 std::vector<std::filesystem::path> sources()
 {
     std::vector<std::filesystem::path> files;
-    for (const char* room : {"app", "bracket", "demo", "model", "players", "reports", "scoring", "setup", "ui"})
+    for (const char* room : {"app", "base", "demo", "files", "pool", "qt", "reports", "screens", "ui"})
         for (const auto& entry :
              std::filesystem::recursive_directory_iterator{std::filesystem::path{TALLYHOOP_SOURCE_DIR} / room})
             if (entry.path().extension() == ".cpp")
@@ -86,8 +86,8 @@ TEST(HelpLinks, EveryMessageThatSendsPeopleToTheHelpNamesItsTopic)
         mentioning.insert(file.filename().string());
         EXPECT_THAT(code, HasSubstr("help_topic::k")) << file;
     }
-    EXPECT_EQ(mentioning, (std::set<std::string>{"frmPoolEMail.cpp", "frmPoolEntry_save.cpp", "player_names_file.cpp",
-                                                 "report_maker.cpp", "start_up.cpp"}));
+    EXPECT_EQ(mentioning, (std::set<std::string>{"email_screen.cpp", "player_names_file.cpp", "report_maker.cpp",
+                                                 "setup_screen_save.cpp", "start_up.cpp"}));
 }
 
 TEST(HelpLinks, TheTopicsThatMessagesNameAnswerThem)

@@ -1,15 +1,15 @@
 // tests/help/help_samples_test.cpp - what the help shows and counts, compared with the program on the sample pool.
-#include "bracket/frmPoolMain.h"
+#include "base/lines.h"
+#include "base/text.h"
+#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
+#include "files/file_names.h"
+#include "files/setup_file.h"
 #include "help/help_file.h"
-#include "model/file_names.h"
-#include "model/sample_pool.h"
-#include "model/setup_file.h"
-#include "model/text.h"
-#include "model/text_file.h"
-#include "reports/frmPoolReports.h"
+#include "screens/board/board_screen.h"
+#include "screens/reports/reports_screen.h"
 
 #include <algorithm>
 #include <gmock/gmock.h>
@@ -26,9 +26,9 @@ protected:
     /// Makes every report as a text file.
     void makeReports()
     {
-        frmPoolMain board{folder, platform.services, state, screens};
+        BoardScreen board{folder, platform.services, state, screens};
         board.load();
-        frmPoolReports reports{folder, platform.services, state, screens, board};
+        ReportsScreen reports{folder, platform.services, state, screens, board};
         reports.load();
         for (std::size_t i = 0; i < kReports; ++i)
             reports.chkOptions[i].ticked = true;
@@ -69,7 +69,7 @@ TEST_F(HelpSamples, OfTheScoresAreWhatTheBoardSays)
     for (const auto& [file, score] :
          {std::pair{"Demo Prophet_DP.THC", "80 / 120"}, std::pair{"Demo Favorite_DF.THC", "59 / 71"},
           std::pair{"Demo Halfway_DH.THC", "55 / 67"}, std::pair{"Demo Longshot_DL.THC", "31 / 31"}}) {
-        frmPoolMain board{folder, platform.services, state, screens};
+        BoardScreen board{folder, platform.services, state, screens};
         board.load();
         board.showSelection(scratch.path() / file);
         board.ScoreSelections();
@@ -86,7 +86,7 @@ TEST_F(HelpSamples, OfAFinalizedFieldHasItsMarkOnLine95)
     lines[94] = "0";
     scratch.put(file_name::kSetup, joinLines(lines) + "\r\n");
     scratch.put(file_name::kSettings, "0\r\n");
-    frmPoolMain board{folder, platform.services, state, screens};
+    BoardScreen board{folder, platform.services, state, screens};
     board.load();
     EXPECT_TRUE(board.mnuSetup.enabled);
     EXPECT_EQ(board.lblTitle.text, "2000 NCAA Tournament");

@@ -1,17 +1,17 @@
 // tests/help/help_topics_test.cpp - which topic F1 shows on each screen, in each of its states.
-#include "bracket/frmPoolMain.h"
+#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "model/file_names.h"
-#include "model/help_topics.h"
-#include "model/sample_pool.h"
-#include "model/setup_file.h"
-#include "players/frmPoolEMail.h"
-#include "players/frmPoolNames.h"
-#include "reports/frmPoolReports.h"
-#include "scoring/frmPoolMisc.h"
-#include "setup/frmPoolSeatings.h"
+#include "files/file_names.h"
+#include "files/setup_file.h"
+#include "screens/board/board_screen.h"
+#include "screens/help_topics.h"
+#include "screens/players/email_screen.h"
+#include "screens/players/players_screen.h"
+#include "screens/reports/reports_screen.h"
+#include "screens/scores/scores_screen.h"
+#include "screens/setup/seeds_screen.h"
 
 #include <gtest/gtest.h>
 
@@ -31,10 +31,10 @@ protected:
 
     void putFaultyPlayerList() { scratch.put(file_name::kPlayerNames, "saved by a spreadsheet\r\n"); }
 
-    frmPoolMain& board()
+    BoardScreen& board()
     {
         if (!m_board) {
-            m_board = std::make_unique<frmPoolMain>(folder, platform.services, state, screens);
+            m_board = std::make_unique<BoardScreen>(folder, platform.services, state, screens);
             m_board->load();
         }
         return *m_board;
@@ -45,7 +45,7 @@ protected:
     FakePlatform platform;
     FakeScreens screens;
     modTallyhoop state;
-    std::unique_ptr<frmPoolMain> m_board;
+    std::unique_ptr<BoardScreen> m_board;
 };
 
 } // namespace
@@ -96,7 +96,7 @@ TEST_F(HelpTopic, OfTheListOfScoresIsHowToReadItAlsoOnTheBoardBehindIt)
 {
     putOwnPool();
     board().EnterGameResults();
-    frmPoolMisc scores{folder, platform.services, state, screens, board()};
+    ScoresScreen scores{folder, platform.services, state, screens, board()};
     scores.load();
     EXPECT_EQ(scores.helpTopic(), "ranking");
     EXPECT_EQ(board().helpTopic(), "ranking");
@@ -116,28 +116,28 @@ TEST_F(HelpTopic, OfABoardWithAFaultyPlayerListIsHowToRepairIt)
 
 TEST_F(HelpTopic, OfTheSetupIsHowToSetUpAndInDemoModeWhyItCannotBeSaved)
 {
-    frmPoolEntry setup{folder, platform.services, state, screens, Opening::Plain};
+    SetupScreen setup{folder, platform.services, state, screens, Opening::Plain};
     EXPECT_EQ((setup.load(), setup.helpTopic()), "setup");
-    frmPoolSeatings seeds{setup, platform.services, state, screens};
+    SeedsScreen seeds{setup, platform.services, state, screens};
     seeds.load();
     EXPECT_EQ(seeds.helpTopic(), "seeds");
 
     ASSERT_TRUE(demo::installSamplePool(folder));
-    frmPoolEntry sample{folder, platform.services, state, screens, Opening::Plain};
+    SetupScreen sample{folder, platform.services, state, screens, Opening::Plain};
     sample.load();
     EXPECT_EQ(sample.helpTopic(), "demo");
-    frmPoolSeatings sampleSeeds{sample, platform.services, state, screens};
+    SeedsScreen sampleSeeds{sample, platform.services, state, screens};
     EXPECT_EQ(sampleSeeds.helpTopic(), "seeds");
 }
 
 TEST_F(HelpTopic, OfThePlayerListIsTheListOrItsRepair)
 {
     putOwnPool();
-    frmPoolNames sound{folder, platform.services, state, screens};
+    PlayersScreen sound{folder, platform.services, state, screens};
     sound.load();
     EXPECT_EQ(sound.helpTopic(), "players");
     putFaultyPlayerList();
-    frmPoolNames faulty{folder, platform.services, state, screens};
+    PlayersScreen faulty{folder, platform.services, state, screens};
     faulty.load();
     EXPECT_EQ(faulty.helpTopic(), "repair");
 }
@@ -145,11 +145,11 @@ TEST_F(HelpTopic, OfThePlayerListIsTheListOrItsRepair)
 TEST_F(HelpTopic, OfTheEMailDialogIsEMailOrTheRepairOfItsPlayers)
 {
     putOwnPool();
-    frmPoolEMail sound{folder, platform.services, state, screens};
+    EmailScreen sound{folder, platform.services, state, screens};
     sound.load();
     EXPECT_EQ(sound.helpTopic(), "email");
     putFaultyPlayerList();
-    frmPoolEMail faulty{folder, platform.services, state, screens};
+    EmailScreen faulty{folder, platform.services, state, screens};
     faulty.load();
     EXPECT_EQ(faulty.helpTopic(), "repair");
     EXPECT_EQ(platform.dialogs.shown.back().helpTopic, "repair");
@@ -158,7 +158,7 @@ TEST_F(HelpTopic, OfTheEMailDialogIsEMailOrTheRepairOfItsPlayers)
 TEST_F(HelpTopic, OfTheReportsIsTheReportsUnlessOneFailedForAReasonOfItsOwn)
 {
     putOwnPool();
-    frmPoolReports reports{folder, platform.services, state, screens, board()};
+    ReportsScreen reports{folder, platform.services, state, screens, board()};
     reports.load();
     EXPECT_EQ(reports.helpTopic(), "reports");
     putFaultyPlayerList();

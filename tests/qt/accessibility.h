@@ -2,7 +2,7 @@
 #pragma once
 
 #include "qt/screen_walk.h"
-#include "ui/qt/style.h"
+#include "qt/style.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -1,13 +1,13 @@
 // tests/qt/accessibility_test.cpp - every screen, for those who listen to it, use the keyboard, or need it large.
 #include "app/wiring.h"
-#include "bracket/frmPoolMain.h"
+#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
-#include "model/sample_pool.h"
 #include "qt/accessibility.h"
-#include "scoring/frmPoolMisc.h"
-#include "ui/qt/main_frame.h"
-#include "ui/qt/screen_host.h"
+#include "qt/main_frame.h"
+#include "qt/screen_host.h"
+#include "screens/board/board_screen.h"
+#include "screens/scores/scores_screen.h"
 
 #include <QAccessible>
 #include <QAccessibleActionInterface>
@@ -74,7 +74,7 @@ protected:
         EXPECT_FALSE(host.isLoaded(kind));
     }
 
-    frmPoolMain& board() { return *host.find<frmPoolMain>(ScreenKind::Board); }
+    BoardScreen& board() { return *host.find<BoardScreen>(ScreenKind::Board); }
 
     void onBoard(const std::function<void()>& command) { desk.runInside(board(), command); }
 
@@ -130,7 +130,7 @@ TEST_P(Accessibility, OfTheScores)
         board().EnterGameResults();
         board().ScoreSelections();
     });
-    auto* const scores = host.find<frmPoolMisc>(ScreenKind::ScoreDisplay);
+    auto* const scores = host.find<ScoresScreen>(ScreenKind::ScoreDisplay);
     ASSERT_NE(scores, nullptr);
     desk.runInside(*scores, [&] { scores->cmdOk.click(); });
     ASSERT_EQ(scores->msgScoreDisplay.rows.size(), 4U);

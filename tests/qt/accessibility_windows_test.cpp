@@ -1,12 +1,12 @@
 // tests/qt/accessibility_windows_test.cpp - the help, boxes and dialogs, for those who listen to them, use the
 // keyboard, or need them large.
 #include "qt/accessibility.h"
-#include "ui/qt/desk.h"
-#include "ui/qt/main_frame.h"
-#include "ui/qt/services/help_window.h"
-#include "ui/qt/services/qt_dialogs.h"
-#include "ui/qt/services/qt_help_viewer.h"
-#include "ui/qt/services/qt_printer.h"
+#include "qt/desk.h"
+#include "qt/main_frame.h"
+#include "qt/services/help_window.h"
+#include "qt/services/qt_dialogs.h"
+#include "qt/services/qt_help_viewer.h"
+#include "qt/services/qt_printer.h"
 
 #include <QDialog>
 #include <QLineEdit>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "qt/sample_screen.h"
-#include "ui/qt/services/qt_dialogs.h"
+#include "qt/services/qt_dialogs.h"
 
 #include <QApplication>
 #include <QTimer>

@@ -1,5 +1,5 @@
 #include "qt/asking.h"
-#include "ui/qt/services/qt_printer.h"
+#include "qt/services/qt_printer.h"
 
 #include <QAbstractButton>
 #include <QFontDialog>

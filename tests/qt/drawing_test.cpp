@@ -1,4 +1,4 @@
-#include "ui/qt/paint_drawing.h"
+#include "qt/paint_drawing.h"
 
 #include <QImage>
 #include <gtest/gtest.h>

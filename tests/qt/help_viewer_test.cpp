@@ -1,6 +1,6 @@
 #include "fakes/scratch_folder.h"
-#include "ui/qt/services/help_window.h"
-#include "ui/qt/services/qt_help_viewer.h"
+#include "qt/services/help_window.h"
+#include "qt/services/qt_help_viewer.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -1,6 +1,6 @@
-#include "ui/qt/look.h"
+#include "qt/look.h"
 
-#include "ui/qt/style.h"
+#include "qt/style.h"
 
 #include <QApplication>
 #include <QImage>

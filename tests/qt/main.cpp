@@ -1,5 +1,5 @@
 // tests/qt/main.cpp - runs the tests of the window side inside a Qt application.
-#include "ui/qt/look.h"
+#include "qt/look.h"
 
 #include <QApplication>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // tests/qt/page_area_test.cpp - a page on a display that is too small for it: everything can still be reached.
-#include "ui/qt/widgets/page_area.h"
+#include "qt/widgets/page_area.h"
 
+#include "qt/main_frame.h"
 #include "qt/sample_screen.h"
-#include "ui/qt/main_frame.h"
 
 #include <QScreen>
 #include <QScrollBar>

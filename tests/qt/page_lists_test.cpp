@@ -1,6 +1,6 @@
 #include "qt/sample_screen.h"
 
-#include "ui/qt/widgets/empty_note.h"
+#include "qt/widgets/empty_note.h"
 
 #include <QHeaderView>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "fakes/scratch_folder.h"
-#include "ui/qt/desk.h"
-#include "ui/qt/paths.h"
-#include "ui/qt/print_pages.h"
-#include "ui/qt/services/qt_printer.h"
+#include "qt/desk.h"
+#include "qt/paths.h"
+#include "qt/print_pages.h"
+#include "qt/services/qt_printer.h"
 
 #include <QFontMetricsF>
 #include <QPageSize>

@@ -1,15 +1,15 @@
 // tests/qt/report_pdf_test.cpp - every report as a PDF: its columns, its pages and its font.
 //
 // The approved reports are printed, and the text is read back out of the PDF and compared with them.
+#include "base/lines.h"
 #include "fakes/scratch_folder.h"
-#include "model/printer_setup.h"
-#include "model/text_file.h"
-#include "reports/report_output.h"
+#include "qt/desk.h"
+#include "qt/paths.h"
+#include "qt/services/qt_printer.h"
+#include "qt/text.h"
 #include "reports/report_table.h"
-#include "ui/qt/desk.h"
-#include "ui/qt/paths.h"
-#include "ui/qt/services/qt_printer.h"
-#include "ui/qt/text.h"
+#include "screens/printer_setup.h"
+#include "screens/reports/report_output.h"
 
 #include <QPageSize>
 #include <QPrinter>

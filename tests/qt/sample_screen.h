@@ -1,8 +1,8 @@
 // tests/qt/sample_screen.h - a small screen with one control of every kind, and the page that shows it.
 #pragma once
 
-#include "ui/qt/desk.h"
-#include "ui/qt/page.h"
+#include "qt/desk.h"
+#include "qt/page.h"
 #include "ui/screen.h"
 
 #include <QLineEdit>

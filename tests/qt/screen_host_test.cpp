@@ -1,5 +1,5 @@
 #include "qt/sample_screen.h"
-#include "ui/qt/screen_host.h"
+#include "qt/screen_host.h"
 
 #include <QDialog>
 #include <QTimer>

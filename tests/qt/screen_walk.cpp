@@ -1,7 +1,7 @@
 // tests/qt/screen_walk.cpp - the way through a window by ear: names, roles and descriptions.
 #include "qt/screen_walk.h"
 
-#include "ui/qt/widgets/slot_label.h"
+#include "qt/widgets/slot_label.h"
 
 #include <QAccessible>
 #include <QLineEdit>

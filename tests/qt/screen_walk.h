@@ -1,7 +1,7 @@
 // tests/qt/screen_walk.h - looks at a window as people do who cannot see it, use no mouse, or need large letters.
 #pragma once
 
-#include "ui/qt/page.h"
+#include "qt/page.h"
 
 #include <QImage>
 #include <QPalette>

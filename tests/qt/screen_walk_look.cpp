@@ -1,8 +1,8 @@
 // tests/qt/screen_walk_look.cpp - the way through a window by eye: texts that do not fit, and texts that are too pale.
 #include "qt/screen_walk.h"
 
-#include "ui/qt/look.h"
-#include "ui/qt/widgets/slot_label.h"
+#include "qt/look.h"
+#include "qt/widgets/slot_label.h"
 
 #include <QComboBox>
 #include <QGroupBox>

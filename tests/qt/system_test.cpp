@@ -1,6 +1,6 @@
 #include "fakes/scratch_folder.h"
-#include "ui/qt/paths.h"
-#include "ui/qt/services/qt_system.h"
+#include "qt/paths.h"
+#include "qt/services/qt_system.h"
 
 #include <QApplication>
 #include <QClipboard>

@@ -1,4 +1,4 @@
-#include "ui/qt/text.h"
+#include "qt/text.h"
 
 #include <QLineEdit>
 #include <gtest/gtest.h>

@@ -2,13 +2,13 @@
 #include "weapons/weapons.h"
 
 #include "fakes/scratch_folder.h"
-#include "model/data_folder.h"
+#include "files/data_folder.h"
+#include "qt/paths.h"
 #include "qt/sample_screen.h"
-#include "ui/qt/paths.h"
-#include "ui/qt/services/help_window.h"
-#include "ui/qt/services/qt_dialogs.h"
-#include "ui/qt/services/qt_printer.h"
-#include "ui/qt/text.h"
+#include "qt/services/help_window.h"
+#include "qt/services/qt_dialogs.h"
+#include "qt/services/qt_printer.h"
+#include "qt/text.h"
 
 #include <QClipboard>
 #include <QComboBox>

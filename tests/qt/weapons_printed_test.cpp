@@ -3,9 +3,9 @@
 
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
+#include "qt/paths.h"
+#include "qt/services/qt_printer.h"
 #include "qt/weapons_program.h"
-#include "ui/qt/paths.h"
-#include "ui/qt/services/qt_printer.h"
 
 #include <QProcess>
 #include <algorithm>
@@ -83,7 +83,7 @@ TEST_P(WeaponsPrinted, AreTeamsOfThePrintedBoard)
     setup[setup_line::kFinalized] = "1";
     scratch.put(file_name::kSetup, setupFile(setup));
     const DataFolder folder = scratch.folder();
-    frmPoolMain board{folder, platform.services, state, screens};
+    BoardScreen board{folder, platform.services, state, screens};
     board.load();
     const QString text = saved(ui::DrawingPrintout{weapon(), board.drawing(), ui::Orientation::Landscape});
     EXPECT_EQ(pages(), 1);

@@ -2,16 +2,16 @@
 #pragma once
 
 #include "app/wiring.h"
-#include "bracket/frmPoolMain.h"
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
-#include "model/file_names.h"
-#include "model/player_names_file.h"
-#include "model/selection_file.h"
-#include "model/setup_file.h"
-#include "ui/qt/main_frame.h"
-#include "ui/qt/screen_host.h"
-#include "ui/qt/text.h"
+#include "files/file_names.h"
+#include "files/player_names_file.h"
+#include "files/selection_file.h"
+#include "files/setup_file.h"
+#include "qt/main_frame.h"
+#include "qt/screen_host.h"
+#include "qt/text.h"
+#include "screens/board/board_screen.h"
 #include "weapons/weapons.h"
 
 #include <QAbstractButton>
@@ -114,7 +114,7 @@ protected:
         EXPECT_FALSE(host.isLoaded(kind));
     }
 
-    frmPoolMain& board() { return *host.find<frmPoolMain>(ScreenKind::Board); }
+    BoardScreen& board() { return *host.find<BoardScreen>(ScreenKind::Board); }
     void onBoard(const std::function<void()>& command) { desk.runInside(board(), command); }
 
     test::ScratchFolder scratch;

@@ -1,10 +1,10 @@
 // tests/qt/weapons_test.cpp - every screen over a pool full of such names: they are shown, and nothing else happens.
 #include "qt/weapons_program.h"
 
-#include "scoring/frmPoolMisc.h"
-#include "setup/frmPoolEntry.h"
-#include "setup/frmPoolSeatings.h"
-#include "ui/qt/services/outgoing_mail.h"
+#include "qt/services/outgoing_mail.h"
+#include "screens/scores/scores_screen.h"
+#include "screens/setup/seeds_screen.h"
+#include "screens/setup/setup_screen.h"
 
 #include <QByteArray>
 #include <QLineEdit>
@@ -32,7 +32,7 @@ TEST_P(WeaponsOnScreens, AreTextWhenTheyAreScored)
         board().EnterGameResults();
         board().ScoreSelections();
     });
-    auto* const scores = host.find<frmPoolMisc>(ScreenKind::ScoreDisplay);
+    auto* const scores = host.find<ScoresScreen>(ScreenKind::ScoreDisplay);
     ASSERT_NE(scores, nullptr);
     desk.runInside(*scores, [&] { scores->cmdOk.click(); });
     ASSERT_EQ(scores->msgScoreDisplay.rows.size(), 1U);
@@ -58,7 +58,7 @@ TEST_P(WeaponsOnScreens, AreTextInTheSetup)
 {
     host.load(ScreenKind::Setup);
     examine(ScreenKind::Setup);
-    const auto& setup = *host.find<frmPoolEntry>(ScreenKind::Setup);
+    const auto& setup = *host.find<SetupScreen>(ScreenKind::Setup);
     const Page& page = *host.page(ScreenKind::Setup);
     const auto line = [&page](const ui::Control& control) {
         return qobject_cast<QLineEdit*>(page.widgetOf(control))->text().toStdString();
@@ -85,7 +85,7 @@ TEST_P(WeaponsOnScreens, AreTextAmongTheSeedsAndNumbersNever)
     host.load(ScreenKind::Setup);
     QTimer::singleShot(0, qApp, [&] {
         examine(ScreenKind::SeedPositions);
-        auto& seeds = *host.find<frmPoolSeatings>(ScreenKind::SeedPositions);
+        auto& seeds = *host.find<SeedsScreen>(ScreenKind::SeedPositions);
         const Page& page = *host.page(ScreenKind::SeedPositions);
         for (std::size_t row = 0; row < kRowsPerRegion; row += 2) {
             EXPECT_EQ(qobject_cast<QLineEdit*>(page.widgetOf(seeds.txtSeed[row]))->text().toStdString(),
@@ -98,7 +98,7 @@ TEST_P(WeaponsOnScreens, AreTextAmongTheSeedsAndNumbersNever)
     });
     host.load(ScreenKind::SeedPositions);
     EXPECT_FALSE(host.isLoaded(ScreenKind::SeedPositions));
-    EXPECT_EQ(host.find<frmPoolEntry>(ScreenKind::Setup)->lblSeed[0].text, weapon());
+    EXPECT_EQ(host.find<SetupScreen>(ScreenKind::Setup)->lblSeed[0].text, weapon());
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, WeaponsOnScreens, testing::ValuesIn(test::weapons()),

@@ -2,8 +2,8 @@
 // stays as it is.
 #include "qt/weapons_program.h"
 
-#include "model/sample_pool.h"
-#include "model/windows1252.h"
+#include "base/windows1252.h"
+#include "demo/sample_pool.h"
 
 #include <QClipboard>
 #include <QLineEdit>
@@ -147,7 +147,7 @@ protected:
 
 TEST_P(WeaponsPasted, AreTextOnTheBoard)
 {
-    auto& board = *host.find<frmPoolMain>(ScreenKind::Board);
+    auto& board = *host.find<BoardScreen>(ScreenKind::Board);
     desk.runInside(board, [&] { board.showSelection(scratch.path() / "Demo Prophet_DP.THC"); });
     EXPECT_EQ(pasteEverywhere(ScreenKind::Board), 3);
 }

@@ -4,11 +4,11 @@
 #include "fakes/scratch_folder.h"
 #include "faults/faults.h"
 #include "faults/own_process.h"
-#include "model/player_names_file.h"
-#include "reports/frmPoolReports.h"
-#include "ui/qt/desk.h"
-#include "ui/qt/services/mail_hand_over.h"
-#include "ui/qt/services/qt_printer.h"
+#include "files/player_names_file.h"
+#include "qt/desk.h"
+#include "qt/services/mail_hand_over.h"
+#include "qt/services/qt_printer.h"
+#include "screens/reports/reports_screen.h"
 
 #include <QByteArray>
 #include <fstream>
@@ -61,7 +61,7 @@ struct Reports {
     modTallyhoop state;
     test::FakeScreens screens;
     test::FakeBoard board{state};
-    frmPoolReports screen{folder, services, state, screens, board};
+    ReportsScreen screen{folder, services, state, screens, board};
     std::function<void()> strike;
 };
 

@@ -1,11 +1,11 @@
 // tests/reports/approved_reports_test.cpp - whole reports, byte for byte, through the screen that makes them.
 //
 // What is expected was not taken from the program: tests/approved/WORKSHEET.md says how each file came about.
+#include "base/lines.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
-#include "model/text_file.h"
-#include "reports/frmPoolReports.h"
 #include "reports/report_pool.h"
+#include "screens/reports/reports_screen.h"
 
 #include <fstream>
 #include <gtest/gtest.h>
@@ -41,7 +41,7 @@ void createAllReports(const ScratchFolder& folder, const std::string& title)
     FakeScreens screens;
     FakeBoard board{state};
     const DataFolder dataFolder = folder.folder();
-    frmPoolReports screen{dataFolder, platform.services, state, screens, board};
+    ReportsScreen screen{dataFolder, platform.services, state, screens, board};
     screen.load();
     screen.txtReportTitle.text = title;
     for (std::size_t i = 0; i < kReports; ++i)

@@ -1,7 +1,7 @@
 // tests/reports/player_listing_test.cpp - columns and pages of the player listing.
 #include "reports/player_listing.h"
 
-#include "model/player_names_file.h"
+#include "files/player_names_file.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -6,9 +6,9 @@
 #pragma once
 
 #include "fakes/scratch_folder.h"
-#include "model/lines.h"
-#include "model/selection_file.h"
-#include "reports/read_pool.h"
+#include "files/read_pool.h"
+#include "files/selection_file.h"
+#include "pool/pool_lines.h"
 
 #include <array>
 #include <cstddef>

@@ -1,7 +1,7 @@
 // tests/weapons/board_test.cpp - a player who bears such a name is saved in the folder, opened again and scored.
 #include "weapons/weapons.h"
 
-#include "bracket/board_fixture.h"
+#include "screens/board/board_fixture.h"
 
 namespace tallyhoop::test {
 namespace {

@@ -1,13 +1,13 @@
 // tests/weapons/files_test.cpp - whatever stands in one field of a file, it comes back, and the other fields with it.
 #include "weapons/weapons.h"
 
-#include "model/player_names_file.h"
-#include "model/selection_file.h"
-#include "model/setup_file.h"
-#include "model/team_name_list_file.h"
-#include "model/text.h"
-#include "model/text_file.h"
-#include "model/windows1252.h"
+#include "base/lines.h"
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "files/player_names_file.h"
+#include "files/selection_file.h"
+#include "files/setup_file.h"
+#include "files/team_name_list_file.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 // tests/weapons/folder_test.cpp - no name, wherever it comes from, leads out of the program's folder.
 #include "weapons/weapons.h"
 
+#include "base/windows1252.h"
 #include "fakes/scratch_folder.h"
-#include "model/selection_file.h"
-#include "model/windows1252.h"
-#include "players/selection_of_player.h"
+#include "files/selection_file.h"
+#include "files/selection_of_player.h"
 
 #include <algorithm>
 #include <fstream>

@@ -2,15 +2,15 @@
 // files.
 #include "weapons/weapons.h"
 
-#include "model/player_names_file.h"
-#include "reports/reports_screen.h"
+#include "files/player_names_file.h"
+#include "screens/reports/reports_screen_fixture.h"
 
 #include <algorithm>
 
 namespace tallyhoop::test {
 namespace {
 
-class WeaponsInReports : public ReportsScreen, public testing::WithParamInterface<Weapon>
+class WeaponsInReports : public ReportsScreenTest, public testing::WithParamInterface<Weapon>
 {
 protected:
     const std::string& weapon() const { return GetParam().text; }

@@ -1,9 +1,9 @@
 // tests/qt/services/file_dialog_test.cpp - choosing a file: what is offered, and what a typed name means.
-#include "ui/qt/services/file_dialog.h"
+#include "qt/services/file_dialog.h"
 
 #include "fakes/scratch_folder.h"
 #include "qt/asking.h"
-#include "ui/qt/paths.h"
+#include "qt/paths.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>

@@ -1,5 +1,5 @@
 // tests/qt/services/mail_hand_over_test.cpp - which client gets a message, on desktops of the test's own making.
-#include "ui/qt/services/mail_hand_over.h"
+#include "qt/services/mail_hand_over.h"
 
 #include "fakes/scratch_folder.h"
 
@@ -119,7 +119,8 @@ TEST(MailRoutes, PreferThunderbirdWhenItIsTheHandlerOrWhenThereIsNone)
               (Routes{MailRoute::Thunderbird, MailRoute::XdgEmail, MailRoute::MessageFile}));
     EXPECT_EQ(mailRoutes("org.mozilla.Thunderbird.desktop", true, false),
               (Routes{MailRoute::Thunderbird, MailRoute::MessageFile}));
-    EXPECT_EQ(mailRoutes("", true, true), (Routes{MailRoute::Thunderbird, MailRoute::XdgEmail, MailRoute::MessageFile}));
+    EXPECT_EQ(mailRoutes("", true, true),
+              (Routes{MailRoute::Thunderbird, MailRoute::XdgEmail, MailRoute::MessageFile}));
 }
 
 TEST(MailRoutes, UseXdgEmailOtherwise)

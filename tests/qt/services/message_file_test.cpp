@@ -1,5 +1,5 @@
 // tests/qt/services/message_file_test.cpp - the message file, read back by a parser that is not ours.
-#include "ui/qt/services/message_file.h"
+#include "qt/services/message_file.h"
 
 #include "fakes/scratch_folder.h"
 

@@ -1,5 +1,5 @@
 // tests/qt/services/outgoing_mail_test.cpp - the arguments that tell a message to a client, byte for byte.
-#include "ui/qt/services/outgoing_mail.h"
+#include "qt/services/outgoing_mail.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 // tests/qt/views/board_view_test.cpp - do the mouse and the tool tips of the bracket do what its places mean?
-#include "ui/qt/views/board_view.h"
+#include "qt/views/board_view.h"
 
+#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "model/sample_pool.h"
-#include "model/setup_file.h"
+#include "files/setup_file.h"
 
 #include <QAbstractButton>
 #include <QHelpEvent>
@@ -77,7 +77,7 @@ protected:
     test::FakePlatform platform;
     modTallyhoop state;
     test::FakeScreens screens;
-    frmPoolMain board{folder, platform.services, state, screens};
+    BoardScreen board{folder, platform.services, state, screens};
     Desk desk;
     BoardView view{board, desk};
 };

@@ -1,11 +1,11 @@
 // tests/qt/views/email_view_test.cpp - does the e-mail dialog on screen reach the model, and the model the screen?
-#include "ui/qt/views/email_view.h"
+#include "qt/views/email_view.h"
 
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "players/player_file.h"
-#include "ui/qt/widgets/page_area.h"
+#include "qt/widgets/page_area.h"
+#include "screens/players/player_file.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -55,7 +55,7 @@ protected:
     test::FakePlatform platform;
     modTallyhoop state;
     test::FakeScreens screens;
-    frmPoolEMail mail{folder, platform.services, state, screens};
+    EmailScreen mail{folder, platform.services, state, screens};
     Desk desk;
     EmailView view{mail, desk};
 };

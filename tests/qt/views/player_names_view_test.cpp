@@ -1,11 +1,11 @@
 // tests/qt/views/player_names_view_test.cpp - does the player list on screen reach the model, and the model the screen?
-#include "ui/qt/views/player_names_view.h"
+#include "qt/views/player_names_view.h"
 
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "players/player_file.h"
-#include "ui/qt/widgets/page_area.h"
+#include "qt/widgets/page_area.h"
+#include "screens/players/player_file.h"
 
 #include <QLineEdit>
 #include <QTest>
@@ -54,7 +54,7 @@ protected:
     test::FakePlatform platform;
     modTallyhoop state;
     test::FakeScreens screens;
-    frmPoolNames names{folder, platform.services, state, screens};
+    PlayersScreen names{folder, platform.services, state, screens};
     Desk desk;
     PlayerNamesView view{names, desk};
 };

@@ -1,11 +1,11 @@
 // tests/qt/views/reports_view_test.cpp - do ticks, choices and typing reach the reports screen, and does it show
 // itself?
-#include "ui/qt/views/reports_view.h"
+#include "qt/views/reports_view.h"
 
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "ui/qt/widgets/page_area.h"
+#include "qt/widgets/page_area.h"
 
 #include <QGroupBox>
 #include <QLineEdit>
@@ -42,7 +42,7 @@ protected:
     modTallyhoop state;
     test::FakeScreens screens;
     test::FakeBoard board{state};
-    frmPoolReports reports{folder, platform.services, state, screens, board};
+    ReportsScreen reports{folder, platform.services, state, screens, board};
     Desk desk;
     ReportsView view{reports, desk};
 };

@@ -1,10 +1,10 @@
 // tests/qt/views/score_display_view_test.cpp - do the mouse and the keys on the scores reach the model, and come back?
-#include "ui/qt/views/score_display_view.h"
+#include "qt/views/score_display_view.h"
 
+#include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "model/sample_pool.h"
 
 #include <QHeaderView>
 #include <QTableView>
@@ -77,7 +77,7 @@ protected:
     modTallyhoop state;
     test::FakeScreens screens;
     test::FakeBoard board{state};
-    frmPoolMisc scores{folder, platform.services, state, screens, board};
+    ScoresScreen scores{folder, platform.services, state, screens, board};
     Desk desk;
     ScoreDisplayView view{scores, desk};
 };

@@ -1,10 +1,10 @@
 // The seed positions screen in its window.
-#include "ui/qt/views/seed_positions_view.h"
+#include "qt/views/seed_positions_view.h"
 
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "ui/qt/views/setup_view.h"
+#include "qt/views/setup_view.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -39,8 +39,8 @@ protected:
     test::FakePlatform computer;
     test::FakeScreens screens;
     modTallyhoop state;
-    frmPoolEntry setup{folder, computer.services, state, screens};
-    frmPoolSeatings seats{setup, computer.services, state, screens};
+    SetupScreen setup{folder, computer.services, state, screens};
+    SeedsScreen seats{setup, computer.services, state, screens};
     Desk desk;
     std::unique_ptr<SetupView> setupView;
     std::unique_ptr<SeedPositionsView> view;

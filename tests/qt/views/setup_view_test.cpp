@@ -1,10 +1,10 @@
 // The setup screen in its window.
-#include "ui/qt/views/setup_view.h"
+#include "qt/views/setup_view.h"
 
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "ui/qt/widgets/page_area.h"
+#include "qt/widgets/page_area.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -74,7 +74,7 @@ protected:
     test::FakePlatform computer;
     test::FakeScreens screens;
     modTallyhoop state;
-    frmPoolEntry setup{folder, computer.services, state, screens};
+    SetupScreen setup{folder, computer.services, state, screens};
     Desk desk;
     std::unique_ptr<SetupView> view;
 };

@@ -1,0 +1,134 @@
+// demo/sample_pool.cpp - puts the sample pool together and into a folder.
+#include "demo/sample_pool.h"
+
+#include "base/lines.h"
+#include "base/windows1252.h"
+#include "demo/sample_brackets.h"
+#include "files/file_names.h"
+#include "files/selection_file.h"
+#include "files/setup_file.h"
+#include "screens/demo_mode.h"
+
+#include <algorithm>
+#include <span>
+
+namespace tallyhoop::demo {
+
+namespace {
+
+SelectionLines selectionOf(const Winners& winners, const std::string& initials, const std::string& name,
+                           const std::string& finalPoints)
+{
+    SelectionLines lines = bracketOf(winners);
+    lines[selection_line::kInitials] = initials;
+    lines[selection_line::kName] = name;
+    lines[selection_line::kFinalPoints] = finalPoints;
+    lines[selection_line::kEnd] = kEndMarker;
+    return lines;
+}
+
+SamplePlayer player(const std::string& fileName, const SelectionLines& lines, const std::string& email,
+                    const std::string& phone)
+{
+    const std::string listedName = lines[selection_line::kName] + "," + lines[selection_line::kInitials];
+    return {fileName, lines, {listedName, upperCase(fileName), email, phone}};
+}
+
+std::string playerList()
+{
+    std::vector<PlayerRecord> records;
+    for (const SamplePlayer& samplePlayer : samplePlayers())
+        records.push_back(samplePlayer.record);
+    return playerNamesFile(records);
+}
+
+/// A fresh start of the program leaves a player list without players; that is nothing to lose.
+bool isEmptyPlayerList(const DataFolder& folder, const std::string& name)
+{
+    if (name != file_name::kPlayerNames)
+        return false;
+    const Result<std::string> bytes = folder.read(name);
+    return bytes && *bytes == playerNamesFile({});
+}
+
+Result<Done> checkNoPool(const DataFolder& folder, std::span<const SampleFile> files)
+{
+    for (const SampleFile& file : files)
+        if (folder.exists(file.name) && !isEmptyPlayerList(folder, file.name))
+            return Failure{"This folder already has a pool: " + folder.shownPathOf(file.name)};
+    return Done{};
+}
+
+/// What was not there before is taken away again.
+void takeBack(const DataFolder& folder, std::span<const SampleFile> written)
+{
+    for (const SampleFile& file : written)
+        (void)folder.remove(file.name); // the failure that led here is the one to report
+}
+
+} // namespace
+
+SetupLines sampleSetup()
+{
+    SetupLines lines = defaultSetupLines();
+    for (std::size_t team = 0; team < kSampleField.size(); ++team)
+        lines[setup_line::kTeam + team] = kSampleField[team];
+    lines[setup_line::kTitle] = "2000 NCAA Tournament";
+    lines[setup_line::kComment1] = "A sample pool: the tournament of 2000.";
+    lines[setup_line::kComment2] = "Its last three games are still to be entered.";
+    lines[setup_line::kFinalized] = "1";
+    return lines;
+}
+
+SelectionLines sampleResults() { return selectionOf(kSampleResults, "A", "FinalResults", ""); }
+
+std::array<SamplePlayer, 4> samplePlayers()
+{
+    // The files' names are what the program proposes: the player's name, "_" and the initials.
+    const auto& [favorite, halfway, longshot, prophet] = kDemoSelectionFiles;
+    return {player(favorite, selectionOf(favouritesBracket(), "DF", "Demo Favorite", "152"), "favorite@example.org",
+                   "555-0101"),
+            player(halfway, selectionOf(incompleteBracket(), "DH", "Demo Halfway", "145"), "halfway@example.org",
+                   "555-0102"),
+            player(longshot, selectionOf(upsetLoversBracket(), "DL", "Demo Longshot", "131"), "longshot@example.org",
+                   "555-0103"),
+            player(prophet, selectionOf(rightChampionsBracket(), "DP", "Demo Prophet", "160"), "prophet@example.org",
+                   "555-0104")};
+}
+
+std::vector<SampleFile> sampleFiles()
+{
+    std::vector<SampleFile> files{{file_name::kResults, selectionFile(sampleResults())},
+                                  {file_name::kPlayerNames, playerList()}};
+    for (const SamplePlayer& samplePlayer : samplePlayers())
+        files.push_back({samplePlayer.fileName, selectionFile(samplePlayer.lines)});
+    // Should this be interrupted, the next start finds no field, and offers the demo again.
+    files.push_back({file_name::kSetup, setupFile(sampleSetup())});
+    files.push_back({file_name::kSettings, "1\r\n"});
+    return files;
+}
+
+bool isSampleFile(std::string_view name, std::string_view bytes)
+{
+    static const std::vector<SampleFile> kFiles = sampleFiles();
+    return std::ranges::any_of(
+        kFiles, [&](const SampleFile& file) { return equalFolded(file.name, name) && file.bytes == bytes; });
+}
+
+Result<Done> installSamplePool(const DataFolder& folder)
+{
+    const std::vector<SampleFile> files = sampleFiles();
+    if (const Result<Done> free = checkNoPool(folder, files); !free)
+        return free;
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const Result<Done> written = folder.write(files[i].name, files[i].bytes);
+        if (written)
+            continue;
+        takeBack(folder, std::span{files}.first(i));
+        return Failure{"The sample pool could not be written: " + folder.shownPathOf(files[i].name) + "\r\n" +
+                       written.failure().message};
+    }
+    return Done{};
+}
+
+} // namespace tallyhoop::demo

@@ -1,0 +1,83 @@
+// demo/sample_tournament.cpp - the field of 64 and its winners.
+#include "demo/sample_tournament.h"
+
+#include <cstddef>
+#include <string>
+
+namespace tallyhoop::demo {
+
+namespace {
+
+constexpr RegionWinners kWest{
+    .round1 = {"Arizona", "Wisconsin", "Texas", "LSU", "Purdue", "Oklahoma", "Gonzaga", "St. John's"},
+    .round2 = {"Wisconsin", "LSU", "Purdue", "Gonzaga"},
+    .round3 = {"Wisconsin", "Purdue"},
+    .winner = "Wisconsin"};
+
+constexpr RegionWinners kMidwest{
+    .round1 = {"Michigan St.", "Utah", "Kentucky", "Syracuse", "UCLA", "Maryland", "Auburn", "Iowa St."},
+    .round2 = {"Michigan St.", "Syracuse", "UCLA", "Iowa St."},
+    .round3 = {"Michigan St.", "Iowa St."},
+    .winner = "Michigan St."};
+
+constexpr RegionWinners kEast{
+    .round1 = {"Duke", "Kansas", "Florida", "Illinois", "Pepperdine", "Oklahoma St.", "Seton Hall", "Temple"},
+    .round2 = {"Duke", "Florida", "Oklahoma St.", "Seton Hall"},
+    .round3 = {"Florida", "Oklahoma St."},
+    .winner = "Florida"};
+
+constexpr RegionWinners kSouth{.round1 = {"Stanford", "North Carolina", "Connecticut", "Tennessee", "Miami (FL)",
+                                          "Ohio St.", "Tulsa", "Cincinnati"},
+                               .round2 = {"North Carolina", "Tennessee", "Miami (FL)", "Tulsa"},
+                               .round3 = {"North Carolina", "Tulsa"},
+                               .winner = "North Carolina"};
+
+} // namespace
+
+const std::array<std::string_view, kTeams> kSampleField = {
+    // West
+    "Arizona", "Jackson St.", "Wisconsin", "Fresno St.", "Texas", "Indiana St.", "LSU", "SE Missouri St.", "Purdue",
+    "Dayton", "Oklahoma", "Winthrop", "Louisville", "Gonzaga", "St. John's", "Northern Arizona",
+    // Midwest
+    "Michigan St.", "Valparaiso", "Utah", "St. Louis", "Kentucky", "St. Bonaventure", "Syracuse", "Samford", "UCLA",
+    "Ball St.", "Maryland", "Iona", "Auburn", "Creighton", "Iowa St.", "Central Conn. St.",
+    // East
+    "Duke", "Lamar", "Kansas", "DePaul", "Florida", "Butler", "Illinois", "Pennsylvania", "Indiana", "Pepperdine",
+    "Oklahoma St.", "Hofstra", "Oregon", "Seton Hall", "Temple", "Lafayette",
+    // South
+    "Stanford", "S. Carolina St.", "North Carolina", "Missouri", "Connecticut", "Utah St.", "Tennessee",
+    "Louisiana-Lafayette", "Miami (FL)", "Arkansas", "Ohio St.", "Appalachian St.", "Tulsa", "UNLV", "Cincinnati",
+    "UNC Wilmington"};
+
+const Winners kSampleResults{
+    .regions = {kWest, kMidwest, kEast, kSouth}, .semifinalA = {}, .semifinalB = {}, .champion = {}};
+
+SelectionLines bracketOf(const Winners& winners)
+{
+    SelectionLines lines;
+    const auto line = [&lines](int position) -> std::string& {
+        return lines.at(static_cast<std::size_t>(index(slotOf(Position{position}))));
+    };
+    const auto fill = [&line](int position, const auto& names) {
+        for (const std::string_view name : names)
+            line(position++) = name;
+    };
+    for (std::size_t team = 0; team < kSampleField.size(); ++team) {
+        const int row = static_cast<int>(team);
+        line(index(firstRoundPosition(row / kRowsPerRegion, row % kRowsPerRegion))) = kSampleField[team];
+    }
+    for (std::size_t region = 0; region < winners.regions.size(); ++region) {
+        const RegionWinners& won = winners.regions[region];
+        const int base = static_cast<int>(region) * kRegionBlock;
+        fill(base + 16, won.round1);
+        fill(base + 24, won.round2);
+        fill(base + 28, won.round3);
+        line(base + 30) = won.winner;
+    }
+    line(kSemifinalA) = winners.semifinalA;
+    line(kSemifinalB) = winners.semifinalB;
+    line(kChampion) = winners.champion;
+    return lines;
+}
+
+} // namespace tallyhoop::demo

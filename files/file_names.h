@@ -1,0 +1,17 @@
+// files/file_names.h - the fixed names of the program's files, and the endings of the others.
+#pragma once
+
+namespace tallyhoop::file_name {
+
+inline constexpr const char* kSetup = "POOLSTART.THS";
+inline constexpr const char* kResults = "TALLYHOOP.THS";
+inline constexpr const char* kTeamNames = "NCAALIST.THS";
+inline constexpr const char* kPlayerNames = "PLAYERNAMES.CSV";
+inline constexpr const char* kPlayerNamesErrors = "PLAYERNAMES.TXT";
+inline constexpr const char* kSettings = "TALLYHOOP.INI";
+inline constexpr const char* kHelp = "TALLYHOOP.HLP";
+inline constexpr const char* kDemoInstaller = "DEMOSET.EXE";
+inline constexpr const char* kWorkFile = "TEMPPRT.TXT";
+inline constexpr const char* kSelectionEnding = ".THC";
+
+} // namespace tallyhoop::file_name

@@ -1,0 +1,52 @@
+// files/known_files.h - what files held when a screen took them: so that nobody else's changes are replaced unasked.
+//
+// Two programs can work in one folder, and people have editors. Contents are compared, not times: a copied folder has
+// new times, and two saves can fall into one tick of the clock.
+#pragma once
+
+#include "base/result.h"
+#include "ui/dialogs.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyhoop {
+
+class KnownFiles
+{
+public:
+    /// Notes what the file holds now, also that it is not there. To be called before the file is read for a screen:
+    /// what changes in between is then noticed.
+    void note(const std::filesystem::path& file);
+
+    /// Replaces a file, or creates it, as a whole, and notes what it holds from then on. When somebody else has changed
+    /// or created it since it was noted, asks first; only Yes proceeds. Nothing is asked about a file that was never
+    /// noted, that has vanished, or that holds these very bytes already.
+    /// @param trouble is shown when the file cannot be written
+    /// @returns whether the file holds the bytes now; if not, it is as it was
+    bool replace(const std::filesystem::path& file, std::string_view bytes, ui::Dialogs& dialogs,
+                 const ui::Message& trouble);
+
+private:
+    struct Content {
+        bool isThere = false;
+        std::string bytes; ///< empty also when the file cannot be read
+
+        friend bool operator==(const Content&, const Content&) = default;
+    };
+    struct Known {
+        std::filesystem::path file;
+        Content content;
+    };
+
+    static Content contentOf(const std::filesystem::path& file);
+    void note(const std::filesystem::path& file, Content content);
+    bool mayReplace(const std::filesystem::path& file, std::string_view bytes, ui::Dialogs& dialogs) const;
+
+    std::vector<Known> m_known; ///< one entry for each file
+};
+
+} // namespace tallyhoop

@@ -1,0 +1,102 @@
+// files/pool_backup.cpp - gathers the files in a hidden folder, which one rename then makes the backup.
+#include "files/pool_backup.h"
+
+#include "base/windows1252.h"
+#include "files/replace_file.h"
+#include "files/replace_file_steps.h"
+
+#include <fmt/format.h>
+#include <optional>
+#include <system_error>
+
+namespace tallyhoop {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A fixed name: what a crash leaves behind is swept away by the next backup.
+constexpr const char* kGathering = ".Backup.tmp~";
+
+Failure failureAt(const fs::path& path, const std::string& reason) { return Failure{shown(path) + "\r\n" + reason}; }
+
+Failure failureAt(const fs::path& path, std::error_code error) { return failureAt(path, fromUtf8(error.message())); }
+
+std::string backupName(std::chrono::local_seconds now)
+{
+    const auto midnight = std::chrono::floor<std::chrono::days>(now);
+    const std::chrono::year_month_day day{midnight};
+    const std::chrono::hh_mm_ss time{now - midnight};
+    return fmt::format("Backup {:04}-{:02}-{:02} {:02}{:02}{:02}", static_cast<int>(day.year()),
+                       static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day()), time.hours().count(),
+                       time.minutes().count(), time.seconds().count());
+}
+
+/// What a file system cannot keep of these is no reason to keep nothing.
+void keepTimeAndMode(const fs::path& source, const fs::path& copy)
+{
+    std::error_code ignored;
+    if (const fs::file_time_type time = fs::last_write_time(source, ignored); !ignored)
+        fs::last_write_time(copy, time, ignored);
+    if (const fs::file_status status = fs::status(source, ignored); !ignored)
+        fs::permissions(copy, status.permissions(), ignored);
+}
+
+Result<Done> copyInto(const fs::path& gathering, const fs::path& source)
+{
+    const Result<std::string> bytes = readFile(source);
+    if (!bytes)
+        return failureAt(source, bytes.failure().message);
+    const fs::path copy = gathering / source.filename();
+    if (const Result<Done> written = replaceFile(copy, *bytes); !written)
+        return failureAt(copy, written.failure().message);
+    keepTimeAndMode(source, copy);
+    return Done{};
+}
+
+Result<Done> gather(const DataFolder& folder, const std::vector<std::string>& names, const fs::path& gathering)
+{
+    std::error_code error;
+    fs::remove_all(gathering, error);
+    if (!error)
+        fs::create_directory(gathering, error);
+    if (error)
+        return failureAt(gathering, error);
+    for (const std::string& name : names)
+        if (const std::optional<fs::path> source = folder.pathOf(name))
+            if (Result<Done> copied = copyInto(gathering, *source); !copied)
+                return copied;
+    return Done{};
+}
+
+/// @returns a subfolder that is not there yet
+fs::path freeName(const DataFolder& folder, const std::string& name)
+{
+    std::string candidate = name;
+    for (int number = 2; folder.exists(candidate); ++number)
+        candidate = name + " (" + std::to_string(number) + ")";
+    return folder.folder() / candidate;
+}
+
+} // namespace
+
+Result<fs::path> backUp(const DataFolder& folder, const std::vector<std::string>& names, std::chrono::local_seconds now)
+{
+    const fs::path gathering = folder.folder() / kGathering;
+    const fs::path backup = freeName(folder, backupName(now));
+    Result<Done> kept = gather(folder, names, gathering);
+    if (kept) {
+        std::error_code error;
+        fs::rename(gathering, backup, error);
+        if (error)
+            kept = failureAt(backup, error);
+    }
+    if (!kept) {
+        std::error_code ignored;
+        fs::remove_all(gathering, ignored);
+        return kept.failure();
+    }
+    flushFolder(folder.folder());
+    return backup;
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,99 @@
+// files/replace_file.cpp - which file is replaced and by way of which temporary; and reading a file whole.
+#include "files/replace_file.h"
+
+#include "base/windows1252.h"
+#include "files/replace_file_steps.h"
+
+#include <string>
+
+namespace tallyhoop {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// No file of ours comes near; a larger one is somebody else's and would only fill the memory.
+constexpr std::size_t kMostBytes = 64u << 20;
+
+Failure failureOf(std::error_code error) { return Failure{fromUtf8(error.message())}; }
+
+Failure failureOf(std::errc error) { return failureOf(std::make_error_code(error)); }
+
+/// Follows symbolic links, also to a file that is not there yet: replacing the link itself would cut it off.
+fs::path behindLinks(fs::path file, std::error_code& error)
+{
+    constexpr int kMostLinks = 40;
+    for (int links = 0; links < kMostLinks; ++links) {
+        std::error_code notThere;
+        if (!fs::is_symlink(fs::symlink_status(file, notThere)))
+            return file;
+        const fs::path next = fs::read_symlink(file, error);
+        if (error)
+            return file;
+        file = next.is_absolute() ? next : file.parent_path() / next;
+    }
+    error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
+    return file;
+}
+
+/// A fixed name: what a crash leaves behind is overwritten by the next save. Hidden, and no pattern of ours matches it.
+fs::path temporaryBeside(const fs::path& target)
+{
+    constexpr std::size_t kMostUnits = 255; // longest name that file systems take
+    const fs::path::string_type before = fs::path{"."}.native();
+    const fs::path::string_type behind = fs::path{".tmp~"}.native();
+    const fs::path::string_type name = target.filename().native().substr(0, kMostUnits - before.size() - behind.size());
+    return target.parent_path() / fs::path{before + name + behind};
+}
+
+/// Replacing something that is no file by a file would destroy it.
+std::error_code checkKind(const fs::path& target)
+{
+    std::error_code notThere;
+    const fs::file_status status = fs::status(target, notThere);
+    if (fs::is_directory(status))
+        return std::make_error_code(std::errc::is_a_directory);
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        return std::make_error_code(std::errc::invalid_argument);
+    return {};
+}
+
+std::error_code replace(const fs::path& file, std::string_view bytes)
+{
+    std::error_code error;
+    const fs::path full = fs::absolute(file, error);
+    if (error)
+        return error;
+    const fs::path target = behindLinks(full, error);
+    if (error)
+        return error;
+    if (error = checkKind(target); error)
+        return error;
+    return replaceThrough(temporaryBeside(target), target, bytes);
+}
+
+} // namespace
+
+Result<Done> replaceFile(const fs::path& file, std::string_view bytes)
+{
+    if (const std::error_code error = replace(file, bytes); error)
+        return failureOf(error);
+    return Done{};
+}
+
+Result<std::string> readFile(const fs::path& file)
+{
+    std::error_code error;
+    const fs::file_status status = fs::status(file, error);
+    if (!fs::exists(status))
+        return error ? failureOf(error) : failureOf(std::errc::no_such_file_or_directory);
+    // Opening a pipe would wait for its other end.
+    if (!fs::is_regular_file(status))
+        return failureOf(fs::is_directory(status) ? std::errc::is_a_directory : std::errc::invalid_argument);
+
+    std::string bytes;
+    if (error = readAll(file, kMostBytes, bytes); error)
+        return failureOf(error);
+    return bytes;
+}
+
+} // namespace tallyhoop

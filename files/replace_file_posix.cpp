@@ -1,0 +1,180 @@
+// files/replace_file_posix.cpp - writing, flushing and renaming, and reading, on Linux and its kin.
+#ifndef _WIN32
+
+#include "files/replace_file_steps.h"
+
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <optional>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace tallyhoop {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::error_code lastError() { return {errno, std::generic_category()}; }
+
+/// Calls a system function again as long as a signal interrupts it.
+template <class Call>
+auto uninterrupted(Call call)
+{
+    auto outcome = call();
+    while (outcome < 0 && errno == EINTR)
+        outcome = call();
+    return outcome;
+}
+
+/// An open file or folder, closed at the end of its life.
+class Descriptor
+{
+public:
+    explicit Descriptor(int number) : m_number{number} {}
+    ~Descriptor()
+    {
+        if (isOpen())
+            ::close(m_number);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    bool isOpen() const { return m_number >= 0; }
+    int number() const { return m_number; }
+
+private:
+    int m_number;
+};
+
+bool isStillAt(const fs::path& path, int descriptor)
+{
+    struct stat open {
+    };
+    struct stat there {
+    };
+    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &there) == 0 && open.st_dev == there.st_dev &&
+           open.st_ino == there.st_ino;
+}
+
+/// Opens the temporary file for us alone: the demo installer may be writing the same file of the same folder right now.
+/// @returns -1 and errno when it cannot be opened
+int openForUsAlone(const fs::path& temporary)
+{
+    for (;;) {
+        const int descriptor = uninterrupted(
+            [&] { return ::open(temporary.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666); });
+        if (descriptor < 0)
+            return -1;
+        // A file system without locks is used without them.
+        uninterrupted([&] { return ::flock(descriptor, LOCK_EX); });
+        // While we waited, the other one has put this very file in place, or taken it away.
+        if (isStillAt(temporary, descriptor))
+            return descriptor;
+        ::close(descriptor);
+    }
+}
+
+std::error_code writeAll(int descriptor, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t written = uninterrupted([&] { return ::write(descriptor, bytes.data(), bytes.size()); });
+        if (written < 0)
+            return lastError();
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return {};
+}
+
+/// Some network file systems speak of a full disk only when a file is closed. Closing a copy keeps our lock.
+std::error_code checkClosing(int descriptor)
+{
+    const int copy = ::fcntl(descriptor, F_DUPFD_CLOEXEC, 0);
+    if (copy < 0)
+        return lastError();
+    return ::close(copy) == 0 || errno == EINTR ? std::error_code{} : lastError();
+}
+
+std::error_code fill(int descriptor, std::string_view bytes)
+{
+    if (::ftruncate(descriptor, 0) != 0)
+        return lastError();
+    if (const std::error_code error = writeAll(descriptor, bytes); error)
+        return error;
+    if (uninterrupted([&] { return ::fsync(descriptor); }) != 0)
+        return lastError();
+    return checkClosing(descriptor);
+}
+
+/// A rename would replace a write-protected file too; writing into it would not, and the protection has its reason.
+std::error_code keepModeOf(const fs::path& target, int descriptor)
+{
+    struct stat old {
+    };
+    if (::stat(target.c_str(), &old) != 0)
+        return {};
+    if (::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
+        return lastError();
+    // A file system that knows no modes has none to keep.
+    return ::fchmod(descriptor, old.st_mode & 07777) == 0 || errno == EPERM || errno == ENOTSUP ? std::error_code{}
+                                                                                                : lastError();
+}
+
+} // namespace
+
+// The names are in place already, so a failure here is none of the caller's.
+void flushFolder(const fs::path& folder)
+{
+    const Descriptor descriptor{::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+    if (descriptor.isOpen())
+        uninterrupted([&] { return ::fsync(descriptor.number()); });
+}
+
+std::error_code replaceThrough(const fs::path& temporary, const fs::path& target, std::string_view bytes)
+{
+    const Descriptor descriptor{openForUsAlone(temporary)};
+    if (!descriptor.isOpen())
+        return lastError();
+    std::error_code error = keepModeOf(target, descriptor.number());
+    if (!error)
+        error = fill(descriptor.number(), bytes);
+    if (!error && ::rename(temporary.c_str(), target.c_str()) != 0)
+        error = lastError();
+    if (error)
+        ::unlink(temporary.c_str());
+    else
+        flushFolder(target.parent_path());
+    return error;
+}
+
+std::error_code readAll(const fs::path& file, std::size_t mostBytes, std::string& bytes)
+{
+    // A stream would cost more than the reading itself where thousands of small files are read.
+    constexpr std::size_t kRoomForMost = 4096;
+    const Descriptor descriptor{uninterrupted([&] { return ::open(file.c_str(), O_RDONLY | O_CLOEXEC); })};
+    if (!descriptor.isOpen())
+        return lastError();
+    bytes.resize(kRoomForMost);
+    for (std::size_t size = 0;;) {
+        const ssize_t got =
+            uninterrupted([&] { return ::read(descriptor.number(), bytes.data() + size, bytes.size() - size); });
+        if (got > 0)
+            size += static_cast<std::size_t>(got);
+        if (got <= 0 || size > mostBytes) {
+            const std::error_code error = got < 0   ? lastError()
+                                          : got > 0 ? std::make_error_code(std::errc::file_too_large)
+                                                    : std::error_code{};
+            bytes.resize(size);
+            return error;
+        }
+        if (size == bytes.size())
+            bytes.resize(2 * size);
+    }
+}
+
+void outliveFileSizeLimits() { static_cast<void>(std::signal(SIGXFSZ, SIG_IGN)); }
+
+} // namespace tallyhoop
+
+#endif

@@ -1,0 +1,32 @@
+// files/selection_of_player.h - which selection file a record of the player list stands for.
+//
+// A record holds 33 characters of the file's name, in capitals; the file itself may be written in any case and be
+// longer.
+#pragma once
+
+#include "files/data_folder.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tallyhoop {
+
+/// @returns how a record names a selection file: relative to the program's folder when it is inside, in capitals
+std::string recordedFileName(const DataFolder& folder, const std::filesystem::path& file);
+
+/// Finds the selection file that a record's file name stands for. A name that fills its 33 characters may have been
+/// cut: it stands for the one selection file that begins with it.
+/// @param recorded the field, trailing blanks allowed
+/// @returns nothing when there is no such file, when several begin with a full name, and for every name that is not a
+///          bare name of a selection file: whatever a record says, nothing else of the folder, and nothing outside of
+///          it, is ever found
+std::optional<std::filesystem::path> selectionFileOf(const DataFolder& folder, std::string_view recorded);
+
+/// Whether a record belongs to a file, compared without the final ".THC" and without regard to case.
+/// @param recorded the field, trailing blanks allowed
+/// @param fileName as recordedFileName() gives it
+bool recordStandsFor(const DataFolder& folder, std::string_view recorded, std::string_view fileName);
+
+} // namespace tallyhoop

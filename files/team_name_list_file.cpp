@@ -1,0 +1,62 @@
+// files/team_name_list_file.cpp - NCAALIST.THS: the maintained list of team names.
+#include "files/team_name_list_file.h"
+
+#include "base/lines.h"
+#include "files/file_names.h"
+#include "pool/pool_lines.h"
+#include "screens/file_messages.h"
+
+#include <utility>
+
+namespace tallyhoop {
+namespace {
+
+const ui::Message kUnreadableList = {
+    "", "Problem locating or Reading NCAALIST.THS file\r\n\r\nMODULE: modTallyhoop - ReadTeamNames", ui::Buttons::Ok,
+    ui::Icon::Critical};
+
+} // namespace
+
+Result<std::vector<std::string>> readTeamNameList(std::string_view bytes)
+{
+    std::vector<std::string> lines = linesOf(bytes);
+    if (lines.empty() || !lines.front().starts_with(kStartMarker))
+        return Failure{"The list does not begin with its start marker."};
+    if (lines.size() == 1 || lines.back() != kEndMarker)
+        return Failure{"The list does not end with its end marker."};
+    lines.pop_back();
+    lines.erase(lines.begin());
+    return lines;
+}
+
+std::string teamNameListFile(std::span<const std::string> names)
+{
+    std::vector<std::string> lines{kStartMarker};
+    std::string lastWritten;
+    for (const std::string& name : names) {
+        if (name == lastWritten)
+            continue;
+        lines.push_back(name);
+        lastWritten = name;
+    }
+    lines.emplace_back(kEndMarker);
+    return fileOf(lines);
+}
+
+std::optional<std::vector<std::string>> ReadTeamNames(const DataFolder& folder, ui::Dialogs& dialogs)
+{
+    if (const Result<std::string> bytes = folder.read(file_name::kTeamNames))
+        if (const Result<std::vector<std::string>> names = readTeamNameList(*bytes))
+            return *names;
+    dialogs.show(kUnreadableList);
+    return std::nullopt;
+}
+
+bool WriteTeamNames(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known,
+                    std::span<const std::string> names)
+{
+    return known.replace(folder.pathTo(file_name::kTeamNames), teamNameListFile(names), dialogs,
+                         writingTrouble(folder.shownPathOf(file_name::kTeamNames), kCheckSpace));
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,12 @@
+// qt/line_icon.h - icons drawn from SVG at any size, their lines in the palette's text colour.
+#pragma once
+
+#include <QIcon>
+
+namespace tallyhoop::qt {
+
+/// @param resource an SVG picture; what it draws in "currentColor" follows the palette
+/// @returns a null icon when there is no such picture
+QIcon lineIcon(const QString& resource);
+
+} // namespace tallyhoop::qt

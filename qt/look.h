@@ -1,0 +1,57 @@
+// qt/look.h - the spacing and type scale that every view shares, and what else makes them look alike.
+#pragma once
+
+#include "ui/colour.h"
+
+#include <QBoxLayout>
+#include <QColor>
+#include <QFont>
+#include <QGroupBox>
+#include <QIcon>
+#include <QLabel>
+#include <QPalette>
+#include <string_view>
+
+class QApplication;
+
+namespace tallyhoop::qt::look {
+
+inline constexpr int kTight = 4;    ///< between things that belong together, in device-independent pixels
+inline constexpr int kGap = 8;      ///< between controls
+inline constexpr int kSection = 16; ///< between groups, and around a page
+
+/// Sets the application's style and font once, light or dark as the platform's palette says.
+void apply(QApplication& application);
+
+/// Type scale, relative to the application's font.
+QFont titleFont();
+QFont headingFont();
+QFont smallFont();
+QFont boldFont();
+QFont fixedFont();
+
+/// @returns a caption of the view itself (not a control): plain text, in the scale's font
+QLabel* heading(const QString& text);
+QLabel* hint(const QString& text); ///< smaller, and paler than the text around it; wraps
+
+/// Layouts with the scale's spacing; the margins are 0 for a part, kSection around a page.
+QVBoxLayout* column(int spacing = kGap);
+QHBoxLayout* row(int spacing = kGap);
+void pageMargins(QLayout& layout);
+
+/// @returns a titled group around this layout
+QGroupBox* group(const QString& title, QLayout* content);
+
+QColor toQColor(ui::Colour colour);
+
+/// @returns a line icon drawn in the palette's text colour, null when there is none of this name
+QIcon menuIcon(std::string_view name);
+
+/// Gives boxes and lists a ground of this colour, and their text whichever of black and white reads better on it.
+/// While they are disabled their text is paler.
+void setGround(QPalette& palette, const QColor& ground);
+
+/// Contrast between two colours, 1..21.
+double contrast(const QColor& one, const QColor& other);
+
+} // namespace tallyhoop::qt::look

@@ -1,0 +1,17 @@
+// qt/paint_drawing.h - paints a Drawing: on the printer, in a PDF and as a widget's background alike.
+#pragma once
+
+#include "ui/drawing.h"
+
+#include <QPainter>
+
+namespace tallyhoop::qt {
+
+/// Paints in the drawing's own units; the caller has scaled the painter. Vectors and text only, never pixels. A caption
+/// that does not fit its place is elided.
+void paintDrawing(QPainter& painter, const ui::Drawing& drawing);
+
+/// Scales and centres a drawing in this rectangle and paints it.
+void paintDrawing(QPainter& painter, const ui::Drawing& drawing, const QRectF& target);
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,28 @@
+// qt/paths.h - paths between Qt and the core: byte for byte, never through the texts' encoding.
+#pragma once
+
+#include <QFile>
+#include <QString>
+#include <filesystem>
+
+namespace tallyhoop::qt {
+
+inline QString fromPath(const std::filesystem::path& path)
+{
+#ifdef _WIN32
+    return QString::fromStdWString(path.native());
+#else
+    return QFile::decodeName(QByteArray::fromStdString(path.native()));
+#endif
+}
+
+inline std::filesystem::path toPath(const QString& path)
+{
+#ifdef _WIN32
+    return std::filesystem::path{path.toStdWString()};
+#else
+    return std::filesystem::path{QFile::encodeName(path).toStdString()};
+#endif
+}
+
+} // namespace tallyhoop::qt

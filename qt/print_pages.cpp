@@ -1,0 +1,152 @@
+#include "qt/print_pages.h"
+
+#include "qt/paint_drawing.h"
+#include "qt/text.h"
+
+#include <QBuffer>
+#include <QFontMetricsF>
+#include <QPdfWriter>
+#include <cmath>
+#include <utility>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr double kTwipsPerPoint = 20;
+constexpr double kTwipsPerInch = 1440;
+constexpr double kTightest = 10 * kTwipsPerPoint; ///< the smallest distance of two lines
+constexpr char kFormFeed = '\f';
+// What is lost to the computer's arithmetic must not push the last line to another sheet.
+constexpr double kTolerance = 0.01;
+
+std::vector<std::vector<std::string>> reportPages(const std::vector<std::string>& lines)
+{
+    std::vector<std::vector<std::string>> pages(1);
+    for (const std::string& line : lines) {
+        if (!line.empty() && line.front() == kFormFeed)
+            pages.emplace_back();
+        else
+            pages.back().push_back(line);
+    }
+    std::erase_if(pages, [](const auto& page) { return page.empty(); });
+    return pages;
+}
+
+std::size_t linesPerSheet(double height, double spacing)
+{
+    const double lines = std::floor(height / spacing + kTolerance);
+    return lines < 1 ? 1 : static_cast<std::size_t>(lines);
+}
+
+/// The font in twips: one unit of the painter is one twip.
+QFont fontOf(const ui::PrinterFont& wanted)
+{
+    QFont font{toQString(wanted.name)};
+    font.setStyleHint(QFont::TypeWriter);
+    font.setPixelSize(static_cast<int>(std::lround(wanted.points * kTwipsPerPoint)));
+    font.setBold(wanted.bold);
+    font.setItalic(wanted.italic);
+    font.setKerning(false);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    return font;
+}
+
+QSizeF printableTwips(const QPageLayout& layout)
+{
+    return layout.paintRect(QPageLayout::Point).size() * kTwipsPerPoint;
+}
+
+void scaleToTwips(QPainter& painter)
+{
+    painter.scale(painter.device()->logicalDpiX() / kTwipsPerInch, painter.device()->logicalDpiY() / kTwipsPerInch);
+}
+
+template <class Printout>
+QByteArray pdfOf(const Printout& printout, QPageLayout layout)
+{
+    layout.setOrientation(printout.orientation == ui::Orientation::Landscape ? QPageLayout::Landscape
+                                                                             : QPageLayout::Portrait);
+    QByteArray bytes;
+    QBuffer buffer{&bytes};
+    if (!buffer.open(QIODevice::WriteOnly))
+        return {};
+    bool painted = false;
+    {
+        QPdfWriter writer{&buffer};
+        writer.setResolution(static_cast<int>(kTwipsPerInch));
+        writer.setPageLayout(layout);
+        writer.setTitle(toQString(printout.title));
+        writer.setCreator(QStringLiteral("Tallyhoop"));
+        painted = paintPages(writer, printout);
+    }
+    return painted ? bytes : QByteArray{};
+}
+
+} // namespace
+
+std::vector<Sheet> layOut(const std::vector<std::string>& lines, double height, double natural)
+{
+    std::vector<Sheet> sheets;
+    for (std::vector<std::string>& page : reportPages(lines)) {
+        const double tight = height / static_cast<double>(page.size());
+        if (tight >= std::min(natural, kTightest) - kTolerance) {
+            sheets.push_back({std::move(page), std::min(natural, tight)});
+            continue;
+        }
+        const std::size_t most = linesPerSheet(height, natural);
+        for (std::size_t i = 0; i < page.size(); ++i) {
+            if (i % most == 0)
+                sheets.push_back({{}, natural});
+            sheets.back().lines.push_back(std::move(page[i]));
+        }
+    }
+    if (sheets.empty())
+        sheets.push_back({{}, natural});
+    return sheets;
+}
+
+bool paintPages(QPagedPaintDevice& device, const ui::TextPrintout& printout)
+{
+    QPainter painter;
+    if (!painter.begin(&device))
+        return false;
+    scaleToTwips(painter);
+    const QFont font = fontOf(printout.font);
+    painter.setFont(font);
+    const QFontMetricsF metrics{font, &device};
+    const std::vector<Sheet> sheets =
+        layOut(printout.lines, printableTwips(device.pageLayout()).height(), metrics.lineSpacing());
+    bool first = true;
+    for (const Sheet& sheet : sheets) {
+        if (!std::exchange(first, false) && !device.newPage())
+            return false;
+        double baseline = metrics.ascent();
+        for (const std::string& line : sheet.lines) {
+            painter.drawText(QPointF{static_cast<double>(printout.originTwips), baseline}, toQString(line));
+            baseline += sheet.spacing;
+        }
+    }
+    return painter.end();
+}
+
+bool paintPages(QPagedPaintDevice& device, const ui::DrawingPrintout& printout)
+{
+    QPainter painter;
+    if (!painter.begin(&device))
+        return false;
+    scaleToTwips(painter);
+    paintDrawing(painter, printout.drawing, QRectF{QPointF{}, printableTwips(device.pageLayout())});
+    return painter.end();
+}
+
+int printableWidthTwips(const QPageLayout& layout)
+{
+    return static_cast<int>(std::lround(printableTwips(layout).width()));
+}
+
+QByteArray toPdf(const ui::TextPrintout& printout, const QPageLayout& layout) { return pdfOf(printout, layout); }
+
+QByteArray toPdf(const ui::DrawingPrintout& printout, const QPageLayout& layout) { return pdfOf(printout, layout); }
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,39 @@
+// qt/print_pages.h - lays printouts out on sheets and paints them: on a printer, in a PDF, in a preview alike.
+#pragma once
+
+#include "ui/printer.h"
+
+#include <QByteArray>
+#include <QPageLayout>
+#include <QPagedPaintDevice>
+#include <QPainter>
+#include <vector>
+
+namespace tallyhoop::qt {
+
+/// Lines that share a sheet, and how far apart they stand, in twips (1440 to the inch).
+struct Sheet {
+    std::vector<std::string> lines;
+    double spacing = 0;
+};
+
+/// Divides lines into sheets. A form feed ends a page of the report. A page that is too long for a sheet at the natural
+/// spacing is set tighter, down to 10 points a line; if that does not help it keeps the natural spacing and goes on on
+/// another sheet. Pages without lines are left out; there is always one sheet.
+/// @param height  of the printable area, twips
+/// @param natural the font's own line spacing, twips
+std::vector<Sheet> layOut(const std::vector<std::string>& lines, double height, double natural);
+
+/// Paints onto sheets of the device, whose page layout and orientation are set already.
+/// @returns false when the device gives no (further) page
+bool paintPages(QPagedPaintDevice& device, const ui::TextPrintout& printout);
+bool paintPages(QPagedPaintDevice& device, const ui::DrawingPrintout& printout);
+
+/// @returns the width of the printable area in twips
+int printableWidthTwips(const QPageLayout& layout);
+
+/// @returns the printout as a PDF file, empty when that failed
+QByteArray toPdf(const ui::TextPrintout& printout, const QPageLayout& layout);
+QByteArray toPdf(const ui::DrawingPrintout& printout, const QPageLayout& layout);
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,97 @@
+// qt/screen_host.h - loads and unloads screens: in the frame's stack, in a window beside it, or modally.
+//
+// It knows no screen by name: app/ registers how each is made and shown.
+#pragma once
+
+#include "qt/desk.h"
+#include "qt/main_frame.h"
+#include "qt/page.h"
+#include "screens/screens.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+namespace tallyhoop::qt {
+
+enum class Placement {
+    Stacked,   ///< a page of the main frame
+    OwnWindow, ///< a window of its own beside the frame, owned by it
+    Modal,     ///< a dialog; load() returns when it has closed
+};
+
+class ScreenHost : public Screens
+{
+public:
+    using MakeScreen = std::function<std::unique_ptr<ui::Screen>(Opening)>;
+    using MakeView = std::function<std::unique_ptr<Page>(ui::Screen&, Desk&)>;
+
+    /// Takes over what the frame's close button does: endProgram(), unless something is modal.
+    ScreenHost(Desk& desk, MainFrame& frame);
+    ~ScreenHost() override;
+    ScreenHost(const ScreenHost&) = delete;
+    ScreenHost& operator=(const ScreenHost&) = delete;
+
+    /// Tells how a screen is made and shown. `Kind` is the screen's class:
+    ///     host.registerScreen<BoardScreen>(ScreenKind::Board, Placement::Stacked,
+    ///         [&](Opening opening) { return std::make_unique<BoardScreen>(...); },
+    ///         [](BoardScreen& screen, Desk& desk) { return std::make_unique<BoardView>(screen, desk); });
+    template <class Kind, class Make, class View>
+    void registerScreen(ScreenKind kind, Placement placement, Make makeScreen, View makeView)
+    {
+        registerScreen(kind, placement, MakeScreen{std::move(makeScreen)},
+                       MakeView{[makeView = std::move(makeView)](ui::Screen& screen, Desk& desk) {
+                           return makeView(static_cast<Kind&>(screen), desk);
+                       }});
+    }
+    void registerScreen(ScreenKind kind, Placement placement, MakeScreen makeScreen, MakeView makeView);
+
+    /// Screens. Inside a command or outside of one. The model's load() runs when its page exists, before it is shown.
+    void load(ScreenKind kind, Opening opening = Opening::Plain) override;
+    void unload(ScreenKind kind) override;
+    bool isLoaded(ScreenKind kind) const override;
+    void bringToFront(ScreenKind kind) override;
+    void endProgram() override;
+
+    /// @returns the model, nullptr when it is not loaded (parked ones are not)
+    ui::Screen* screen(ScreenKind kind) const;
+    template <class Kind>
+    Kind* find(ScreenKind kind) const
+    {
+        return static_cast<Kind*>(screen(kind));
+    }
+    Page* page(ScreenKind kind) const;
+
+    /// Called when endProgram() has unloaded everything; the default quits the application.
+    std::function<void()> ended;
+
+private:
+    struct Recipe {
+        Placement placement{};
+        MakeScreen makeScreen;
+        MakeView makeView;
+    };
+    struct Loaded {
+        ScreenKind kind{};
+        Placement placement{};
+        std::unique_ptr<ui::Screen> screen;
+        std::unique_ptr<QWidget> window; ///< the page, or the dialog around it
+        Page* page = nullptr;
+        bool unloading = false;
+    };
+
+    Loaded* loaded(ScreenKind kind) const;
+    bool isStill(ScreenKind kind, const ui::Screen& screen) const;
+    void show(Loaded& one);
+    void runModal(Loaded& one);
+    void takeApart(Loaded& gone);
+    void showLastStacked();
+
+    Desk& m_desk;
+    MainFrame& m_frame;
+    std::map<ScreenKind, Recipe> m_recipes;
+    std::vector<std::unique_ptr<Loaded>> m_loaded; ///< in order of loading
+};
+
+} // namespace tallyhoop::qt

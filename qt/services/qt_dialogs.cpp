@@ -1,0 +1,194 @@
+#include "qt/services/qt_dialogs.h"
+
+#include "qt/look.h"
+#include "qt/services/file_dialog.h"
+#include "qt/services/question.h"
+#include "qt/text.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QShortcut>
+#include <algorithm>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr qsizetype kMessageEnd = 200; ///< a path fits as a rule
+constexpr qsizetype kPromptEnd = 40;   ///< an input box does not break words
+
+QString captionOf(const std::string& caption)
+{
+    return caption.empty() ? QStringLiteral("Tallyhoop") : titleText(toQString(caption));
+}
+
+/// A text that fits a display, whatever names are in it: of a line that is far too long the middle is left out.
+/// @param end how many characters stay at either end of it
+QString shownText(const std::string& text, qsizetype end)
+{
+    QStringList lines = toLines(text).split(QLatin1Char{'\n'});
+    for (QString& line : lines)
+        if (line.size() > 2 * end)
+            line = line.left(end) + QStringLiteral(" ... ") + line.right(end);
+    return lines.join(QLatin1Char{'\n'});
+}
+
+bool isWide(const QString& text)
+{
+    constexpr qsizetype kWide = 60;
+    const QStringList lines = text.split(QLatin1Char{'\n'});
+    return std::ranges::any_of(lines, [](const QString& line) { return line.size() > kWide; });
+}
+
+/// One line of text never holds a line break, wherever it was pasted from.
+std::string oneLine(const QString& typed)
+{
+    QString line = toLines(fromLines(typed));
+    while (line.endsWith(QLatin1Char{'\n'}))
+        line.chop(1);
+    return fromQString(line.replace(QLatin1Char{'\n'}, QLatin1Char{' '}));
+}
+
+QMessageBox::Icon toQt(ui::Icon icon)
+{
+    switch (icon) {
+    case ui::Icon::Information:
+        return QMessageBox::Information;
+    case ui::Icon::Question:
+        return QMessageBox::Question;
+    case ui::Icon::Exclamation:
+        return QMessageBox::Warning;
+    case ui::Icon::Critical:
+        return QMessageBox::Critical;
+    case ui::Icon::None:
+        break;
+    }
+    return QMessageBox::NoIcon;
+}
+
+void addButtons(QMessageBox& box, ui::Buttons buttons)
+{
+    switch (buttons) {
+    case ui::Buttons::Ok:
+        box.setStandardButtons(QMessageBox::Ok);
+        box.setEscapeButton(QMessageBox::Ok);
+        break;
+    case ui::Buttons::OkCancel:
+        box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        box.setEscapeButton(QMessageBox::Cancel);
+        box.setDefaultButton(QMessageBox::Ok);
+        break;
+    case ui::Buttons::YesNo:
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setEscapeButton(QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes);
+        break;
+    }
+}
+
+ui::Answer answerOf(int button)
+{
+    switch (button) {
+    case QMessageBox::Cancel:
+        return ui::Answer::Cancel;
+    case QMessageBox::Yes:
+        return ui::Answer::Yes;
+    case QMessageBox::No:
+        return ui::Answer::No;
+    default:
+        return ui::Answer::Ok;
+    }
+}
+
+QString nameFilter(const ui::FileChoice& choice)
+{
+    const QString name = toQString(choice.filterName);
+    const QString pattern = QLatin1Char{'('} + toQString(choice.pattern) + QLatin1Char{')'};
+    // cppcheck-suppress ignoredReturnValue  ; it is not ignored
+    return name.contains(pattern) ? name : name + QLatin1Char{' '} + pattern;
+}
+
+} // namespace
+
+ui::Answer QtDialogs::show(const ui::Message& message)
+{
+    const Question question{m_desk};
+    QMessageBox box{m_desk.windowForDialogs()};
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(captionOf(message.caption));
+    box.setIcon(toQt(message.icon));
+    box.setText(shownText(message.text, kMessageEnd));
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    addButtons(box, message.buttons);
+    offerHelp(box, message.helpTopic.empty() ? m_desk.runningTopic() : message.helpTopic);
+    return answerOf(box.exec());
+}
+
+/// A message that sends people to the help lets them read it at once.
+void QtDialogs::offerHelp(QMessageBox& box, const std::string& topic)
+{
+    auto* key = new QShortcut{QKeySequence{Qt::Key_F1}, &box};
+    QObject::connect(key, &QShortcut::activated, &box, [this, topic] {
+        if (m_desk.helpWanted)
+            m_desk.helpWanted(topic);
+    });
+}
+
+std::string QtDialogs::ask(const ui::Question& asked)
+{
+    const Question question{m_desk};
+    QInputDialog dialog{m_desk.windowForDialogs()};
+    dialog.setWindowTitle(captionOf(asked.caption));
+    dialog.setTextValue(toQString(asked.proposal));
+    dialog.setLabelText({});
+    static_cast<void>(dialog.sizeHint()); // lays it out: until then it would make the label a mnemonic once more
+    const auto labels = dialog.findChildren<QLabel*>();
+    for (QLabel* label : labels) {
+        // A prompt may quote a name: it is neither markup nor a mnemonic.
+        label->setTextFormat(Qt::PlainText);
+        label->setBuddy(nullptr);
+    }
+    const QString prompt = shownText(asked.prompt, kPromptEnd);
+    for (QLabel* label : labels)
+        label->setWordWrap(isWide(prompt));
+    dialog.setLabelText(prompt);
+    if (auto* line = dialog.findChild<QLineEdit*>())
+        line->setAccessibleName(prompt);
+    return dialog.exec() == QDialog::Accepted ? oneLine(dialog.textValue()) : std::string{};
+}
+
+std::optional<std::filesystem::path> QtDialogs::openFile(const ui::FileChoice& choice) { return choose(choice, false); }
+
+std::optional<std::filesystem::path> QtDialogs::saveFile(const ui::FileChoice& choice) { return choose(choice, true); }
+
+std::optional<std::filesystem::path> QtDialogs::choose(const ui::FileChoice& choice, bool save)
+{
+    const Question question{m_desk};
+    FileDialog dialog{m_desk.windowForDialogs(), captionOf(choice.caption), choice.folder, save};
+    dialog.setNameFilter(nameFilter(choice)); // Qt matches it in any case
+    if (!choice.proposedName.empty())
+        dialog.selectFile(toQString(choice.proposedName));
+    return dialog.exec() == QDialog::Accepted ? dialog.chosen() : std::nullopt;
+}
+
+void QtDialogs::about()
+{
+    const Question question{m_desk};
+    QMessageBox box{m_desk.windowForDialogs()};
+    box.setTextFormat(Qt::PlainText);
+    box.setWindowTitle(QStringLiteral("About Tallyhoop"));
+    const QIcon icon = QApplication::windowIcon();
+    if (!icon.isNull())
+        box.setIconPixmap(icon.pixmap(64, 64));
+    box.setText(QStringLiteral("Tallyhoop ") + QApplication::applicationVersion());
+    box.setInformativeText(QStringLiteral("Runs an office pool on the 64-team college basketball tournament: brackets, "
+                                          "results, scores and reports."));
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+}
+
+} // namespace tallyhoop::qt

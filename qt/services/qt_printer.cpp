@@ -1,0 +1,172 @@
+#include "qt/services/qt_printer.h"
+
+#include "files/replace_file.h"
+#include "qt/paths.h"
+#include "qt/print_pages.h"
+#include "qt/services/question.h"
+#include "qt/text.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QFontDialog>
+#include <QFontInfo>
+#include <QLineEdit>
+#include <QPrintDialog>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+#include <QScreen>
+#include <algorithm>
+#include <array>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr int kTwipsPerInch = 1440;
+constexpr const char* kReportFont = "Courier New";
+
+// Faces with exactly its widths: fontconfig hands them out under its name.
+bool reportFontIsThere()
+{
+    const QString resolved = QFontInfo{QFont{QLatin1String{kReportFont}, 10}}.family();
+    const std::array faces{"Courier New", "Liberation Mono", "Cousine"};
+    return std::ranges::any_of(faces, [&](const char* face) { return resolved == QLatin1String{face}; });
+}
+
+QPageLayout::Orientation toQt(ui::Orientation orientation)
+{
+    return orientation == ui::Orientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
+}
+
+} // namespace
+
+QtPrinter::QtPrinter(Desk& desk) : m_desk{desk} {}
+
+QtPrinter::~QtPrinter() = default;
+
+QPrinter& QtPrinter::printer()
+{
+    if (!m_printer) {
+        m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        m_printer->setResolution(kTwipsPerInch);
+        m_printer->setCreator(QStringLiteral("Tallyhoop"));
+    }
+    return *m_printer;
+}
+
+std::vector<std::string> QtPrinter::fontNames()
+{
+    std::vector<std::string> names;
+    const QStringList families = QFontDatabase::families();
+    for (const QString& family : families)
+        names.push_back(fromQString(family));
+    if (std::ranges::find(names, kReportFont) == names.end() && reportFontIsThere())
+        names.emplace_back(kReportFont);
+    return names;
+}
+
+bool QtPrinter::choosePrinter()
+{
+    const Question question{m_desk};
+    printer().setDocName({}); // or the dialog would name a file after the printout before
+    QPrintDialog dialog{&printer(), m_desk.windowForDialogs()};
+    // Every printout is printed whole: no ranges.
+    dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
+    return dialog.exec() == QDialog::Accepted;
+}
+
+std::optional<ui::PrinterFont> QtPrinter::chooseFont()
+{
+    const Question question{m_desk};
+    QFontDialog dialog{QFont{QLatin1String{kReportFont}, 10}, m_desk.windowForDialogs()};
+    dialog.setOptions(QFontDialog::DontUseNativeDialog | QFontDialog::MonospacedFonts);
+    if (dialog.exec() != QDialog::Accepted)
+        return std::nullopt;
+    const QFont font = dialog.selectedFont();
+    return ui::PrinterFont{fromQString(font.family()), font.pointSizeF(), font.bold(), font.italic()};
+}
+
+int QtPrinter::pageWidthTwips(ui::Orientation orientation)
+{
+    QPageLayout layout = printer().pageLayout();
+    layout.setOrientation(toQt(orientation));
+    return printableWidthTwips(layout);
+}
+
+template <class Printout>
+Result<Done> QtPrinter::printOut(const Printout& printout)
+{
+    QPrinter& device = printer();
+    device.setDocName(toQString(printout.title));
+    // The dialog may have come back with another one.
+    device.setPageOrientation(toQt(printout.orientation));
+    if (device.outputFormat() == QPrinter::PdfFormat) {
+        // Without any printer Qt turns to PDF of its own accord, and to nowhere.
+        if (device.outputFileName().isEmpty())
+            return Failure{"No printer is installed."};
+        Result<Done> written = writePdf(printout, toPath(device.outputFileName()));
+        device.setOutputFileName({}); // back to the printer: the next printout must not replace this file unasked
+        return written;
+    }
+    if (!paintPages(device, printout) || device.printerState() == QPrinter::Error)
+        return Failure{"The printer " + fromQString(device.printerName()) + " does not take the pages."};
+    return Done{};
+}
+
+template <class Printout>
+Result<Done> QtPrinter::writePdf(const Printout& printout, const std::filesystem::path& file)
+{
+    const QByteArray bytes = toPdf(printout, printer().pageLayout());
+    if (bytes.isEmpty())
+        return Failure{"The pages could not be made."};
+    // In memory first: Qt does not notice a disk that is full.
+    return replaceFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+}
+
+template <class Printout>
+void QtPrinter::showPreview(const Printout& printout)
+{
+    const Question question{m_desk};
+    QPrinter shown{QPrinter::HighResolution};
+    shown.setResolution(kTwipsPerInch);
+    shown.setPageLayout(printer().pageLayout());
+    shown.setPageOrientation(toQt(printout.orientation));
+    QWidget* parent = m_desk.windowForDialogs();
+    QPrintPreviewDialog dialog{&shown, parent};
+    dialog.setWindowTitle(QStringLiteral("Preview - ") + titleText(toQString(printout.title)));
+    const auto actions = dialog.findChildren<QAction*>();
+    for (QAction* action : actions)
+        if (action->text() == QLatin1String{"Print"}) // it would print past our checks
+            action->setVisible(false);
+    // Qt leaves its page number and its zoom without a name.
+    for (QLineEdit* number : dialog.findChildren<QLineEdit*>())
+        number->setAccessibleName(QStringLiteral("Page"));
+    for (QComboBox* zoom : dialog.findChildren<QComboBox*>())
+        zoom->setAccessibleName(QStringLiteral("Zoom"));
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
+                     [&printout](QPrinter* device) { static_cast<void>(paintPages(*device, printout)); });
+    const QSize room = (parent ? parent->screen() : dialog.screen())->availableSize();
+    dialog.resize(std::min(1000, room.width() - 60), std::min(900, room.height() - 60));
+    dialog.exec();
+}
+
+Result<Done> QtPrinter::print(const ui::TextPrintout& printout) { return printOut(printout); }
+
+Result<Done> QtPrinter::print(const ui::DrawingPrintout& printout) { return printOut(printout); }
+
+Result<Done> QtPrinter::savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file)
+{
+    return writePdf(printout, file);
+}
+
+Result<Done> QtPrinter::savePdf(const ui::DrawingPrintout& printout, const std::filesystem::path& file)
+{
+    return writePdf(printout, file);
+}
+
+void QtPrinter::preview(const ui::TextPrintout& printout) { showPreview(printout); }
+
+void QtPrinter::preview(const ui::DrawingPrintout& printout) { showPreview(printout); }
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,52 @@
+// qt/services/qt_printer.h - printing, PDF and preview of printouts.
+#pragma once
+
+#include "qt/desk.h"
+#include "ui/printer.h"
+
+#include <QPageLayout>
+#include <memory>
+
+class QPrinter;
+
+namespace tallyhoop::qt {
+
+class QtPrinter : public ui::Printer
+{
+public:
+    explicit QtPrinter(Desk& desk);
+    ~QtPrinter() override;
+    QtPrinter(const QtPrinter&) = delete;
+    QtPrinter& operator=(const QtPrinter&) = delete;
+
+    /// The installed families, and "Courier New" when that name resolves to a face of its widths.
+    std::vector<std::string> fontNames() override;
+    bool choosePrinter() override;
+    std::optional<ui::PrinterFont> chooseFont() override;
+    int pageWidthTwips(ui::Orientation orientation) override;
+
+    /// A printout to a PDF file, chosen in the printer's dialog, is written whole or not at all;
+    /// that choice is for one printout.
+    Result<Done> print(const ui::TextPrintout& printout) override;
+    Result<Done> print(const ui::DrawingPrintout& printout) override;
+    Result<Done> savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file) override;
+    Result<Done> savePdf(const ui::DrawingPrintout& printout, const std::filesystem::path& file) override;
+    void preview(const ui::TextPrintout& printout) override;
+    void preview(const ui::DrawingPrintout& printout) override;
+
+    /// The printer as last chosen.
+    QPrinter& printer();
+
+private:
+    template <class Printout>
+    Result<Done> printOut(const Printout& printout);
+    template <class Printout>
+    Result<Done> writePdf(const Printout& printout, const std::filesystem::path& file);
+    template <class Printout>
+    void showPreview(const Printout& printout);
+
+    Desk& m_desk;
+    std::unique_ptr<QPrinter> m_printer; ///< made when first needed
+};
+
+} // namespace tallyhoop::qt

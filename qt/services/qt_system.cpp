@@ -1,0 +1,174 @@
+#include "qt/services/qt_system.h"
+
+#include "qt/paths.h"
+#include "qt/text.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDateTime>
+#include <QFileInfo>
+#include <QLabel>
+#include <QProcess>
+#include <QProgressDialog>
+#include <system_error>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr qint64 kRefresh = 50; ///< milliseconds between two looks at it
+
+/// A program that is left to itself when nobody looks after it any more.
+class Started : public QProcess
+{
+public:
+    Started() = default;
+    ~Started() override { setProcessState(NotRunning); } // or it would be killed
+    Started(const Started&) = delete;
+    Started& operator=(const Started&) = delete;
+};
+
+Failure failureOf(std::errc reason)
+{
+    return Failure{fromQString(QString::fromStdString(std::make_error_code(reason).message()))};
+}
+
+} // namespace
+
+QtPrograms::QtPrograms() = default;
+
+QtPrograms::~QtPrograms() = default;
+
+Result<Done> QtPrograms::check(const std::filesystem::path& program)
+{
+    const QFileInfo file{fromPath(program)};
+    if (!file.exists())
+        return failureOf(std::errc::no_such_file_or_directory);
+    if (file.isDir())
+        return failureOf(std::errc::is_a_directory);
+    if (!file.isExecutable())
+        return failureOf(std::errc::permission_denied);
+    return Done{};
+}
+
+Result<Done> QtPrograms::start(const std::filesystem::path& program)
+{
+    if (auto ready = check(program); !ready)
+        return ready;
+    // An absolute path: the system must not look for it anywhere else.
+    const QFileInfo file{fromPath(program)};
+    m_started = std::make_unique<Started>();
+    m_started->setProgram(file.absoluteFilePath());
+    m_started->setWorkingDirectory(file.absolutePath());
+    m_started->setStandardInputFile(QProcess::nullDevice());
+    m_started->setStandardOutputFile(QProcess::nullDevice());
+#ifdef Q_OS_WIN
+    constexpr unsigned long kNoWindow = 0x08000000;
+    m_started->setCreateProcessArgumentsModifier(
+        [](QProcess::CreateProcessArguments* arguments) { arguments->flags |= kNoWindow; });
+#endif
+    m_started->start(QIODevice::ReadOnly);
+    if (m_started->waitForStarted())
+        return Done{};
+    Failure failure{fromQString(m_started->errorString())};
+    m_started.reset();
+    return failure;
+}
+
+std::optional<Result<Done>> QtPrograms::waitForEnd(std::chrono::milliseconds atMost)
+{
+    if (!m_started)
+        return std::nullopt;
+    if (m_started->state() != QProcess::NotRunning && !m_started->waitForFinished(static_cast<int>(atMost.count())))
+        return std::nullopt;
+    if (m_started->exitStatus() == QProcess::NormalExit && m_started->exitCode() == 0)
+        return Done{};
+    const QString errors = QString::fromUtf8(m_started->readAllStandardError()).trimmed();
+    return Failure{errors.isEmpty() ? "It ended without saying why." : withCrLf(fromQString(errors))};
+}
+
+std::chrono::year_month_day QtClock::today() const
+{
+    const QDate date = QDate::currentDate();
+    return {std::chrono::year{date.year()}, std::chrono::month{static_cast<unsigned>(date.month())},
+            std::chrono::day{static_cast<unsigned>(date.day())}};
+}
+
+std::chrono::local_seconds QtClock::now() const
+{
+    const QDateTime moment = QDateTime::currentDateTime(); // asked once: midnight must not come in between
+    const QDate date = moment.date();
+    const std::chrono::year_month_day day{std::chrono::year{date.year()},
+                                          std::chrono::month{static_cast<unsigned>(date.month())},
+                                          std::chrono::day{static_cast<unsigned>(date.day())}};
+    return std::chrono::local_days{day} + std::chrono::seconds{moment.time().msecsSinceStartOfDay() / 1000};
+}
+
+void QtClipboard::put(const std::string& text) { QApplication::clipboard()->setText(toLines(text)); }
+
+QtProgress::QtProgress(Desk& desk, int patience) : m_desk{desk}, m_patience{patience} {}
+
+QtProgress::~QtProgress()
+{
+    if (m_nesting > 0) {
+        m_nesting = 1;
+        QtProgress::end();
+    }
+}
+
+void QtProgress::begin(const std::string& what, int steps)
+{
+    if (m_nesting++ > 0)
+        return; // work inside longer work shares its window
+    m_what = what;
+    m_steps = steps;
+    m_since.start();
+    m_lastLook = 0;
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+}
+
+bool QtProgress::advance(int stepsDone)
+{
+    if (m_nesting == 0 || m_nesting > 1)
+        return !m_window || !m_window->wasCanceled();
+    const qint64 now = m_since.elapsed();
+    if (!m_window && now >= m_patience)
+        openWindow();
+    if (!m_window)
+        return true;
+    if (now - m_lastLook >= kRefresh) {
+        m_lastLook = now;
+        m_window->setValue(stepsDone); // a modal progress window processes events here
+    }
+    return !m_window->wasCanceled();
+}
+
+void QtProgress::openWindow()
+{
+    m_desk.beforeModal();
+    m_modal.emplace(m_desk);
+    m_window = std::make_unique<QProgressDialog>(m_desk.windowForDialogs());
+    auto* label = new QLabel;
+    label->setTextFormat(Qt::PlainText);
+    label->setText(toLines(m_what));
+    m_window->setLabel(label);
+    m_window->setWindowTitle(QStringLiteral("Tallyhoop"));
+    m_window->setWindowModality(Qt::ApplicationModal);
+    m_window->setAutoReset(false);
+    m_window->setAutoClose(false);
+    m_window->setMinimumDuration(0);
+    m_window->setRange(0, m_steps);
+    m_window->show();
+    QApplication::changeOverrideCursor(Qt::BusyCursor);
+}
+
+void QtProgress::end()
+{
+    if (m_nesting == 0 || --m_nesting > 0)
+        return;
+    m_window.reset();
+    m_modal.reset();
+    QApplication::restoreOverrideCursor();
+}
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,309 @@
+#include "qt/style.h"
+
+#include "qt/look.h"
+#include "qt/message_sign.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPushButton>
+#include <QStyleOption>
+#include <algorithm>
+#include <cmath>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr double kRound = 4;  ///< radius of corners, in device-independent pixels
+constexpr int kAir = 2;       ///< what a box or a button is higher than Qt makes it: 64 boxes fit a small screen
+constexpr int kTitleGap = 3;  ///< between a group's title and its frame
+constexpr int kTextInset = 3; ///< how far a box's text stands from where Qt puts it
+
+// What Qt makes up where no desktop tells its colours.
+constexpr QColor kNobodysGround{0xef, 0xef, 0xef};
+constexpr QColor kLinkByDay{0x0b, 0x57, 0xa4};
+constexpr QColor kLinkByNight{0x7a, 0xb8, 0xf5};
+
+/// A colour between two: 0 is the first, 1 the second.
+QColor between(const QColor& first, const QColor& second, double share)
+{
+    const auto mix = [share](double a, double b) { return static_cast<float>(a + (b - a) * share); };
+    return QColor::fromRgbF(mix(first.redF(), second.redF()), mix(first.greenF(), second.greenF()),
+                            mix(first.blueF(), second.blueF()));
+}
+
+/// Outlines; on a dark ground the same share of ink is seen less.
+QColor lineColour(const QPalette& palette)
+{
+    const QColor ground = palette.color(QPalette::Window);
+    const bool dark = look::contrast(ground, Qt::white) > look::contrast(ground, Qt::black);
+    return between(ground, palette.color(QPalette::Active, QPalette::WindowText), dark ? 0.4 : 0.3);
+}
+
+/// For outlines that are all there is to see of a control, such as a box that is not ticked.
+QColor strongLineColour(const QPalette& palette)
+{
+    return between(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.55);
+}
+
+void drawRing(QPainter& painter, const QRect& place, const QColor& line)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(line);
+    painter.drawEllipse(QRectF{place}.adjusted(0.5, 0.5, -0.5, -0.5));
+    painter.restore();
+}
+
+void drawBox(QPainter& painter, const QRect& place, const QBrush& fill, const QColor& line, double width)
+{
+    const double inset = width / 2;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(fill);
+    painter.setPen(QPen{line, width});
+    painter.drawRoundedRect(QRectF{place}.adjusted(inset, inset, -inset, -inset), kRound, kRound);
+    painter.restore();
+}
+
+void drawButton(const QStyleOption& option, QPainter& painter)
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
+    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+    const bool pressed = option.state.testFlag(QStyle::State_Sunken) || option.state.testFlag(QStyle::State_On);
+    const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
+    const bool isDefault = button && button->features.testFlag(QStyleOptionButton::DefaultButton);
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
+    const QColor accent = option.palette.color(QPalette::Highlight);
+    QColor fill = option.palette.color(QPalette::Button);
+    if (enabled && pressed)
+        fill = between(fill, accent, 0.25);
+    else if (enabled && hovered)
+        fill = between(fill, accent, 0.1);
+    const bool marked = enabled && (isDefault || focused);
+    drawBox(painter, option.rect, fill, marked ? accent : lineColour(option.palette), marked ? 2 : 1);
+}
+
+void drawLineEdit(const QStyleOption& option, QPainter& painter, bool filled)
+{
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
+    const QBrush fill = filled ? option.palette.brush(QPalette::Base) : QBrush{Qt::NoBrush};
+    drawBox(painter, option.rect, fill,
+            focused ? option.palette.color(QPalette::Highlight) : lineColour(option.palette), focused ? 2 : 1);
+}
+
+/// @returns how far below a group's upper edge its frame begins
+int groupTitleHeight(const QStyleOption& option)
+{
+    return kTitleGap + std::max(option.fontMetrics.height(),
+                                QApplication::style()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight));
+}
+
+/// The frame of lists and of boxes of several lines: their ground is square, so it is too.
+void drawFrame(const QStyleOption& option, QPainter& painter)
+{
+    const bool focused = option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
+    const QColor line = focused ? option.palette.color(QPalette::Highlight) : lineColour(option.palette);
+    const QRect& place = option.rect;
+    // Areas, not lines: at odd fractions of pixels lines at the edge get lost.
+    for (const QRect& edge :
+         {QRect{place.left(), place.top(), place.width(), 1}, QRect{place.left(), place.bottom(), place.width(), 1},
+          QRect{place.left(), place.top(), 1, place.height()}, QRect{place.right(), place.top(), 1, place.height()}})
+        painter.fillRect(edge, line);
+}
+
+} // namespace
+
+Style::Style() : QProxyStyle{QStringLiteral("Fusion")} {}
+
+QPalette Style::calmPalette()
+{
+    const QColor ink{0x1c, 0x1f, 0x24};
+    const QColor paleInk{0x5b, 0x64, 0x70};
+    const QColor ground{0xf3, 0xf4, 0xf7};
+    const QColor accent{0x0b, 0x57, 0xa4};
+    QPalette palette{ground};
+    palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor{0xf0, 0xf3, 0xf8});
+    palette.setColor(QPalette::Button, Qt::white);
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        palette.setColor(role, ink);
+    palette.setColor(QPalette::ToolTipBase, QColor{0xff, 0xfe, 0xf2});
+    palette.setColor(QPalette::PlaceholderText, paleInk);
+    palette.setColor(QPalette::Highlight, accent);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, accent);
+    palette.setColor(QPalette::Mid, QColor{0xb8, 0xbe, 0xc8});
+    palette.setColor(QPalette::Dark, QColor{0x9a, 0xa1, 0xad});
+    palette.setColor(QPalette::Light, Qt::white);
+    palette.setColor(QPalette::Midlight, QColor{0xe4, 0xe7, 0xec});
+    palette.setColor(QPalette::Shadow, QColor{0x6b, 0x72, 0x7d});
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor{0x7c, 0x84, 0x90});
+    palette.setColor(QPalette::Disabled, QPalette::Base, ground);
+    palette.setColor(QPalette::Disabled, QPalette::Button, ground);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor{0xb8, 0xbe, 0xc8});
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, ink); // White could not be read on it.
+    return palette;
+}
+
+QPalette Style::mendedRoles(const QPalette& platform)
+{
+    const QColor ground = platform.color(QPalette::Window);
+    const QColor ink = platform.color(QPalette::WindowText);
+    const auto seen = [&](QColor colour) {
+        const double share = colour.alphaF();
+        colour.setAlpha(255);
+        return look::contrast(between(ground, colour, share), ground);
+    };
+    QPalette mended;
+    if (seen(platform.color(QPalette::PlaceholderText)) < 4.5)
+        mended.setColor(QPalette::PlaceholderText, between(ground, ink, 0.7));
+    if (look::contrast(platform.color(QPalette::Link), platform.color(QPalette::Base)) < 4.5)
+        mended.setColor(QPalette::Link, ground.lightness() < 128 ? kLinkByNight : kLinkByDay);
+    if (seen(platform.color(QPalette::Mid)) < 1.5)
+        mended.setColor(QPalette::Mid, between(ground, ink, 0.35));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        if (seen(platform.color(QPalette::Disabled, role)) < 3)
+            mended.setColor(QPalette::Disabled, role, between(ground, ink, 0.55));
+    return mended;
+}
+
+void Style::polish(QPalette& palette)
+{
+    QProxyStyle::polish(palette);
+    if (palette.color(QPalette::Window) == kNobodysGround)
+        palette = calmPalette();
+    else
+        palette = mendedRoles(palette).resolve(palette);
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const
+{
+    switch (element) {
+    case PE_PanelButtonCommand:
+        drawButton(*option, *painter);
+        return;
+    case PE_PanelLineEdit:
+        if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
+            drawLineEdit(*option, *painter, true);
+            return;
+        }
+        break;
+    case PE_FrameLineEdit:
+        drawLineEdit(*option, *painter, false);
+        return;
+    case PE_IndicatorCheckBox:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        drawBox(*painter, option->rect, Qt::NoBrush, strongLineColour(option->palette), 1);
+        return;
+    case PE_IndicatorRadioButton:
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        drawRing(*painter, option->rect, strongLineColour(option->palette));
+        return;
+    case PE_Frame:
+    case PE_FrameMenu:
+        drawFrame(*option, *painter);
+        return;
+    case PE_FrameGroupBox:
+        drawBox(*painter, option->rect.adjusted(0, groupTitleHeight(*option), 0, 0), Qt::NoBrush,
+                lineColour(option->palette), 1);
+        return;
+    case PE_FrameFocusRect:
+        if (qobject_cast<const QPushButton*>(widget))
+            return; // its outline tells already
+        break;
+    default:
+        break;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                              const QWidget* widget) const
+{
+    QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
+    switch (type) {
+    case CT_PushButton:
+        result += QSize{2 * look::kGap, kAir};
+        break;
+    case CT_LineEdit:
+        result += QSize{2 * kTextInset, kAir};
+        break;
+    case CT_ItemViewItem:
+        result += QSize{0, look::kTight};
+        break;
+    case CT_MenuItem:
+    case CT_MenuBarItem:
+        result += QSize{look::kGap, look::kTight};
+        break;
+    default:
+        break;
+    }
+    return result;
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    const QRect place = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? place.adjusted(kTextInset, 0, -kTextInset, 0) : place;
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* returnData) const
+{
+    switch (hint) {
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+    case SH_EtchDisabledText:
+    case SH_MessageBox_CenterButtons:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (metric) {
+    case PM_MessageBoxIconSize:
+        return 48;
+    case PM_FocusFrameHMargin: // what stands beside the text of a cell; neighbours need not touch
+    case PM_HeaderMargin:
+        return look::kTight + 1;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+        return look::kSection - look::kTight;
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+        return look::kGap;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const QWidget* widget) const
+{
+    switch (icon) {
+    case SP_MessageBoxInformation:
+    case SP_MessageBoxWarning:
+    case SP_MessageBoxCritical:
+    case SP_MessageBoxQuestion:
+        return messageSign(icon);
+    case SP_ToolBarHorizontalExtensionButton: // every menu bar has one ready; Qt's own would load a picture for it
+        return look::menuIcon("more");
+    default:
+        return QProxyStyle::standardIcon(icon, option, widget);
+    }
+}
+
+} // namespace tallyhoop::qt

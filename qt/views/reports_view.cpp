@@ -1,0 +1,138 @@
+// qt/views/reports_view.cpp - reports and their destination above, printouts of the board below, the way out last.
+#include "qt/views/reports_view.h"
+
+#include "qt/look.h"
+#include "qt/text.h"
+#include "qt/widgets/empty_note.h"
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr int kWidest = 960; ///< wider lines would tear apart what belongs together
+constexpr int kFileRows = 7;
+constexpr int kFileCharacters = 34;
+
+QLabel* strong(QLabel* label)
+{
+    label->setFont(look::boldFont());
+    return label;
+}
+
+} // namespace
+
+ReportsView::ReportsView(ReportsScreen& reports, Desk& desk) : Page{reports, desk}
+{
+    auto* const groups = look::column(look::kSection);
+    groups->addWidget(frame(reports.fraMultipleOutput, textReports(reports)));
+    groups->addWidget(frame(reports.fraPrinterOnly, printouts(reports)), 1);
+    groups->addWidget(frame(reports.fraCustomReports, customReports(reports)));
+
+    auto* const leaving = look::row();
+    leaving->addStretch(1);
+    leaving->addWidget(add(reports.cmdExit));
+    groups->addLayout(leaving);
+
+    auto* const block = new QWidget;
+    block->setLayout(groups);
+    block->setMaximumWidth(kWidest);
+    groups->setContentsMargins(0, 0, 0, 0);
+
+    auto* const page = look::row();
+    page->addStretch(1);
+    page->addWidget(block, 100);
+    page->addStretch(1);
+    setContent(page);
+}
+
+QWidget* ReportsView::frame(ui::Label& title, QLayout* content)
+{
+    QGroupBox* const box = look::group({}, content);
+    return adopt(title, box, [box](const ui::Label& label) { box->setTitle(toQString(label.text)); });
+}
+
+QLayout* ReportsView::textReports(ReportsScreen& reports)
+{
+    auto* const choices = look::row(look::kSection);
+    choices->addLayout(selections(reports), 3);
+    choices->addLayout(destinations(reports), 2);
+
+    auto* const title = look::row();
+    title->addWidget(add(reports.lblReportTitle));
+    title->addWidget(add(reports.txtReportTitle), 1);
+
+    auto* const commands = look::row();
+    commands->addWidget(add(reports.cmdPrintSelections));
+    commands->addSpacing(look::kSection);
+    commands->addWidget(add(reports.cmdPreview));
+    commands->addWidget(add(reports.cmdSavePdf));
+    commands->addStretch(1);
+
+    auto* const whole = look::column(look::kSection);
+    whole->addLayout(choices);
+    whole->addLayout(title);
+    whole->addLayout(commands);
+    return whole;
+}
+
+QLayout* ReportsView::selections(ReportsScreen& reports)
+{
+    auto* const column = look::column(look::kTight);
+    column->addWidget(strong(add(reports.lblReportSelections)));
+    for (std::size_t i = 0; i < reports.chkOptions.size(); ++i)
+        column->addWidget(add(reports.chkOptions[i]));
+    column->addStretch(1);
+    return column;
+}
+
+QLayout* ReportsView::destinations(ReportsScreen& reports)
+{
+    auto* const printer = look::row();
+    printer->addWidget(add(reports.cmdDefaultPrinter));
+    printer->addStretch(1);
+
+    auto* const column = look::column(look::kTight);
+    column->addWidget(strong(add(reports.lblDestination)));
+    for (QRadioButton* const destination : addOptions(reports.optDestination))
+        column->addWidget(destination);
+    column->addSpacing(look::kGap);
+    column->addLayout(printer);
+    column->addStretch(1);
+    return column;
+}
+
+QLayout* ReportsView::printouts(ReportsScreen& reports)
+{
+    auto* const commands = look::row();
+    commands->addWidget(add(reports.cmdSelectedPrintouts));
+    commands->addSpacing(look::kSection);
+    commands->addWidget(add(reports.cmdPreviewBoard));
+    commands->addWidget(add(reports.cmdSaveBoardPdf));
+    commands->addStretch(1);
+
+    auto* const left = look::column(look::kTight);
+    for (QRadioButton* const printout : addOptions(reports.optSelected))
+        left->addWidget(printout);
+    left->addStretch(1);
+    left->addLayout(commands);
+
+    QListView* const files = add(reports.filList);
+    new EmptyNote{tr("No selections saved yet."), *files};
+    const QFontMetrics metrics = files->fontMetrics();
+    files->setMinimumSize(metrics.averageCharWidth() * kFileCharacters, metrics.lineSpacing() * kFileRows);
+
+    auto* const whole = look::row(look::kSection);
+    whole->addLayout(left, 3);
+    whole->addWidget(files, 2);
+    return whole;
+}
+
+QLayout* ReportsView::customReports(ReportsScreen& reports)
+{
+    auto* const row = look::row();
+    row->addWidget(add(reports.cmdCustomReport));
+    row->addWidget(look::hint(tr("Enter results on the board and sort the players' scores as you like.")), 1);
+    return row;
+}
+
+} // namespace tallyhoop::qt

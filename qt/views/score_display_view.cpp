@@ -1,0 +1,38 @@
+#include "qt/views/score_display_view.h"
+
+#include "qt/look.h"
+#include "qt/text.h"
+#include "qt/widgets/empty_note.h"
+#include "qt/widgets/page_area.h"
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr int kWidth = 840; ///< every column at its own width
+constexpr int kHeight = 420;
+
+} // namespace
+
+ScoreDisplayView::ScoreDisplayView(ScoresScreen& scores, Desk& desk) : Page{scores, desk}
+{
+    auto* const commands = look::row();
+    commands->addWidget(add(scores.cmdOk));
+    commands->addStretch();
+    commands->addWidget(add(scores.cmdPrint));
+    commands->addWidget(add(scores.cmdCopy));
+    commands->addWidget(add(scores.cmdExit));
+
+    auto* const whole = look::column();
+    whole->addWidget(add(scores.lblInformation));
+    QTableView* const table = add(scores.msgScoreDisplay);
+    auto* const note = new EmptyNote{QString{}, *table};
+    follow(scores.msgScoreDisplay.emptyNote, [note](const std::string& text) { note->say(toQString(text)); });
+    whole->addWidget(table, 1);
+    whole->addLayout(commands);
+    whole->addWidget(add(scores.filList)); // hidden
+    setContent(whole);
+    resize(QSize{kWidth, kHeight}.boundedTo(roomForWindow(*this)));
+}
+
+} // namespace tallyhoop::qt

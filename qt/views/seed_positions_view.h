@@ -1,0 +1,15 @@
+// qt/views/seed_positions_view.h - the seed positions screen's page: sixteen rows of seed and team.
+#pragma once
+
+#include "qt/page.h"
+#include "screens/setup/seeds_screen.h"
+
+namespace tallyhoop::qt {
+
+class SeedPositionsView : public Page
+{
+public:
+    SeedPositionsView(SeedsScreen& seats, Desk& desk);
+};
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,320 @@
+#include "qt/widgets/bracket_canvas.h"
+
+#include "qt/look.h"
+#include "qt/paint_drawing.h"
+#include "qt/text.h"
+#include "qt/widgets/elided_label.h"
+#include "qt/widgets/slot_label.h"
+
+#include <QApplication>
+#include <QFontMetricsF>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr double kSmallestText = 8;
+constexpr int kLineEditMargin = 2;    ///< what Qt keeps free at either side of a line of text
+constexpr double kShrinkFloor = 0.86; ///< names that would need even smaller letters are cut instead
+constexpr ui::Colour kTeamColour{0, 0, 255};
+
+/// Rounds the edges, so that neighbours that touch still touch: a place and its marker are one box for the eye.
+QRect toQRect(const ui::Rectangle& place)
+{
+    const auto edge = [](double value) { return static_cast<int>(std::lround(value)); };
+    const QPoint topLeft{edge(place.x), edge(place.y)};
+    const QPoint behind{edge(place.x + place.width), edge(place.y + place.height)};
+    return {topLeft, behind - QPoint{1, 1}};
+}
+
+std::function<void(const ui::Label&)> showOn(SlotLabel* widget)
+{
+    return [widget](const ui::Label& label) {
+        widget->show(toQString(label.text), look::toQColor(label.colour.value_or(kTeamColour)));
+    };
+}
+
+} // namespace
+
+BracketCanvas::BracketCanvas(BoardScreen& board, Page& page) : m_board{board}, m_page{page}
+{
+    setObjectName("bracketCanvas");
+    setMouseTracking(true);
+    makeHeads();
+    makeSeeds();
+    makePlaces();
+    makeMarkers();
+    m_dragged = new QLabel{this};
+    m_dragged->setObjectName("draggedTeam");
+    m_dragged->setTextFormat(Qt::PlainText);
+    m_dragged->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_dragged->setAutoFillBackground(true);
+    m_dragged->setFrameShape(QFrame::Box);
+    m_dragged->hide();
+    page.onPush([this] { emphasise(); });
+}
+
+QLabel* BracketCanvas::placed(ui::Label& label, Qt::Alignment alignment)
+{
+    auto* const widget = new ElidedLabel{this};
+    widget->setTextFormat(Qt::PlainText);
+    widget->setAlignment(alignment);
+    return m_page.adopt(label, widget, [widget](const ui::Label& shown) { widget->setText(toQString(shown.text)); });
+}
+
+ui::Label& BracketCanvas::pointsOf(std::size_t caption)
+{
+    if (caption < 4)
+        return m_board.lblInfo[caption];
+    return caption < 8 ? m_board.lblInfoRight[caption - 4] : m_board.lblInfo[caption - 4];
+}
+
+void BracketCanvas::makeHeads()
+{
+    m_title = placed(m_board.lblTitle, Qt::AlignCenter);
+    m_demoMode = placed(m_board.lblDemoMode, Qt::AlignVCenter | Qt::AlignLeft);
+    m_champion = placed(m_board.lblChampion, Qt::AlignCenter);
+    for (std::size_t i = 0; i < m_regionTitles.size(); ++i)
+        m_regionTitles[i] = placed(m_board.lblRegionTitle[i], Qt::AlignCenter);
+    for (std::size_t i = 0; i < kRoundCaptions; ++i) {
+        m_roundNames[i] = placed(m_board.lblRoundName[i], Qt::AlignVCenter | Qt::AlignRight);
+        m_roundPoints[i] = placed(pointsOf(i), Qt::AlignVCenter | Qt::AlignLeft);
+        m_roundPoints[i]->setIndent(look::kTight);
+    }
+    // Lines run through the middle: these captions interrupt them.
+    for (QLabel* caption : {m_champion, m_roundNames[8], m_roundPoints[8], m_roundNames[9], m_roundPoints[9]})
+        caption->setAutoFillBackground(true);
+}
+
+void BracketCanvas::makeSeeds()
+{
+    QPalette throughToTheBoard; // a style sheet for each of them would be felt at the start
+    throughToTheBoard.setColor(QPalette::Base, Qt::transparent);
+    for (std::size_t i = 0; i < m_seeds.size(); ++i) {
+        auto* const seed = qobject_cast<QLineEdit*>(m_page.add(m_board.txtSeed[i]));
+        seed->setParent(this);
+        seed->setFrame(false);
+        seed->setTextMargins(-kLineEditMargin, 0, -kLineEditMargin, 0); // two digits need all of the narrowest place
+        seed->setMinimumSize(0, 0);
+        seed->setAlignment(i < kTeams / 2 ? Qt::AlignRight : Qt::AlignLeft);
+        seed->setFocusPolicy(Qt::NoFocus);
+        seed->setAttribute(Qt::WA_TransparentForMouseEvents);
+        seed->setPalette(throughToTheBoard);
+        m_seeds[i] = seed;
+    }
+}
+
+void BracketCanvas::makePlaces()
+{
+    for (std::size_t i = 0; i < m_places.size(); ++i) {
+        const bool row = isFirstRound(Position{static_cast<int>(i)});
+        auto* const place = new SlotLabel{row ? SlotLabel::Part::Row : SlotLabel::Part::Winner, this};
+        m_page.adopt(m_board.lblRegion[i], place, showOn(place));
+        connect(place, &QAbstractButton::clicked, this, [this, i] {
+            m_page.run([this, i] {
+                m_board.PressPosition(static_cast<int>(i), MouseButton::Left);
+                m_board.DropOnPosition(static_cast<int>(i));
+            });
+        });
+        m_places[i] = place;
+    }
+}
+
+void BracketCanvas::makeMarkers()
+{
+    for (std::size_t i = 0; i < m_markers.size(); ++i) {
+        m_markers[i] = new SlotLabel{SlotLabel::Part::Marker, this};
+        m_page.adopt(m_board.lblResult[i], m_markers[i], showOn(m_markers[i]));
+        m_markers[i]->setFocusPolicy(Qt::NoFocus);
+    }
+}
+
+void BracketCanvas::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layOut();
+}
+
+void BracketCanvas::layOut()
+{
+    m_geometry = layOutBoard(std::max(1, width()), std::max(1, height()));
+    const auto place = [](auto& widgets, const auto& places) {
+        for (std::size_t i = 0; i < places.size(); ++i)
+            widgets[i]->setGeometry(toQRect(places[i]));
+    };
+    m_title->setGeometry(toQRect(m_geometry.title));
+    m_demoMode->setGeometry(toQRect(m_geometry.demoMode));
+    m_champion->setGeometry(toQRect(m_geometry.championCaption));
+    place(m_regionTitles, m_geometry.regionTitles);
+    place(m_roundNames, m_geometry.roundCaptions);
+    place(m_roundPoints, m_geometry.roundPoints);
+    place(m_seeds, m_geometry.seeds);
+    place(m_places, m_geometry.positions);
+    place(m_markers, m_geometry.results);
+    chooseFonts();
+}
+
+/// Letters as large as the rows allow, a little smaller when that lets the longest first-round name fit.
+double BracketCanvas::fittingSize() const
+{
+    const double size = std::max(kSmallestText, m_geometry.textSize);
+    QFont trial = font();
+    trial.setPixelSize(static_cast<int>(size));
+    const QFontMetricsF metrics{trial};
+    double widest = 1;
+    for (std::size_t i = 0; i < m_places.size(); ++i)
+        if (isFirstRound(Position{static_cast<int>(i)}))
+            widest = std::max(widest, metrics.horizontalAdvance(toQString(m_board.lblRegion[i].text)));
+    const double room = m_geometry.positions[0].width - 6;
+    return std::max({kSmallestText, size * kShrinkFloor, std::min(size, size * room / widest)});
+}
+
+void BracketCanvas::chooseFonts()
+{
+    const double size = fittingSize();
+    const auto letters = [&](double share, bool bold) {
+        QFont scaled = font();
+        scaled.setPixelSize(static_cast<int>(std::lround(size * share)));
+        scaled.setBold(bold);
+        return scaled;
+    };
+    const auto use = [](const auto& widgets, const QFont& scaled) {
+        for (QWidget* widget : widgets)
+            widget->setFont(scaled);
+    };
+    use(m_places, letters(1, false));
+    m_places[kChampion]->setFont(letters(1.3, true));
+    use(m_markers, letters(1, true));
+    use(m_seeds, letters(0.9, false));
+    use(m_roundNames, letters(0.9, false));
+    use(m_roundPoints, letters(0.9, true));
+    use(m_regionTitles, letters(1.3, true));
+    m_title->setFont(letters(1.9, true));
+    m_demoMode->setFont(letters(1.3, true));
+    m_champion->setFont(letters(0.9, true));
+}
+
+void BracketCanvas::paintEvent(QPaintEvent*)
+{
+    const QColor ink = palette().color(QPalette::Mid);
+    const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+    ui::Drawing lines;
+    lines.width = width();
+    lines.height = height();
+    lines.strokes = m_geometry.connectors;
+    for (ui::Stroke& line : lines.strokes)
+        line.colour = {part(ink.red()), part(ink.green()), part(ink.blue())};
+    QPainter painter{this};
+    paintDrawing(painter, lines);
+}
+
+int BracketCanvas::positionAt(const QPoint& point) const
+{
+    const auto at =
+        std::ranges::find_if(m_places, [&](const SlotLabel* place) { return place->geometry().contains(point); });
+    return at == m_places.end() ? -1 : static_cast<int>(at - m_places.begin());
+}
+
+// Labels ignore the mouse, so every press on the bracket comes here, whether its label is enabled or not.
+void BracketCanvas::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton)
+        return;
+    const int position = positionAt(event->pos());
+    if (position < 0) {
+        m_page.run([this] { m_board.PressBackground(); });
+        return;
+    }
+    const MouseButton button = event->button() == Qt::LeftButton ? MouseButton::Left : MouseButton::Right;
+    m_page.run([this, position, button] { m_board.PressPosition(position, button); });
+    m_dragged->hide(); // a right press in the middle of a drag ends it
+    m_pressed = m_board.isDragging();
+    m_pressedAt = event->pos();
+}
+
+void BracketCanvas::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_pressed && !event->buttons().testFlag(Qt::LeftButton))
+        loseDrag();
+    if (!m_pressed)
+        hover(positionAt(event->pos()));
+    else if (m_dragged->isVisible() ||
+             (event->pos() - m_pressedAt).manhattanLength() >= QApplication::startDragDistance())
+        showDrag(event->pos());
+}
+
+void BracketCanvas::showDrag(const QPoint& point)
+{
+    m_dragged->setText(toQString(m_board.draggedTeam()));
+    m_dragged->setFont(m_places[0]->font());
+    m_dragged->adjustSize();
+    m_dragged->move(point + QPoint{10, 6});
+    m_dragged->setVisible(!m_dragged->text().isEmpty());
+    m_dragged->raise();
+    emphasise();
+}
+
+void BracketCanvas::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || !m_pressed)
+        return;
+    m_pressed = false;
+    m_dragged->hide();
+    const int position = positionAt(event->pos());
+    m_page.run([this, position] {
+        if (position < 0)
+            m_board.cancelDrag();
+        else
+            m_board.DropOnPosition(position);
+    });
+}
+
+/// A box that opened in the middle of a drag got the release in our place.
+void BracketCanvas::loseDrag()
+{
+    m_pressed = false;
+    m_dragged->hide();
+    m_page.run([this] { m_board.cancelDrag(); });
+}
+
+void BracketCanvas::leaveEvent(QEvent*) { hover(-1); }
+
+void BracketCanvas::hover(int position)
+{
+    if (position == m_hovered)
+        return;
+    m_hovered = position;
+    emphasise();
+}
+
+int BracketCanvas::reachedByKeys() const
+{
+    const auto at = std::ranges::find_if(m_places, [](const SlotLabel* place) { return place->isReachedByKeys(); });
+    return at == m_places.end() ? -1 : static_cast<int>(at - m_places.begin());
+}
+
+/// A drag shows where it may land; otherwise the pointer, or the focus, shows how far the team there has come.
+void BracketCanvas::emphasise()
+{
+    using Emphasis = SlotLabel::Emphasis;
+    const bool dragging = m_dragged->isVisible() && m_board.isDragging();
+    const int shown = m_hovered < 0 ? reachedByKeys() : m_hovered;
+    const std::vector<int> path = dragging || shown < 0 ? std::vector<int>{} : m_board.pathOf(shown);
+    for (int position = 0; position < kPositions; ++position) {
+        Emphasis emphasis = Emphasis::None;
+        if (dragging && m_board.mayDropOn(position))
+            emphasis = Emphasis::MayLand;
+        else if (std::ranges::find(path, position) != path.end())
+            emphasis = Emphasis::OnPath;
+        m_places[static_cast<std::size_t>(position)]->setEmphasis(emphasis);
+        if (const int game = gameOf(Position{position}); game >= 0)
+            m_markers[static_cast<std::size_t>(game)]->setEmphasis(emphasis);
+    }
+}
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,71 @@
+// qt/widgets/bracket_canvas.h - the bracket on screen: labels where the geometry says, connectors behind them, and
+// the mouse reported to the board.
+#pragma once
+
+#include "qt/page.h"
+#include "screens/board/board_geometry.h"
+#include "screens/board/board_screen.h"
+
+#include <QLabel>
+#include <QWidget>
+#include <array>
+
+namespace tallyhoop::qt {
+
+class SlotLabel;
+
+class BracketCanvas : public QWidget
+{
+    Q_OBJECT
+
+public:
+    BracketCanvas(BoardScreen& board, Page& page);
+
+    QSize minimumSizeHint() const override { return {960, 440}; }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+private:
+    void makeHeads();
+    void makeSeeds();
+    void makePlaces();
+    void makeMarkers();
+    QLabel* placed(ui::Label& label, Qt::Alignment alignment);
+    ui::Label& pointsOf(std::size_t caption);
+    void layOut();
+    void chooseFonts();
+    double fittingSize() const;
+    int positionAt(const QPoint& point) const;
+    void hover(int position);
+    void showDrag(const QPoint& point);
+    void loseDrag();
+    int reachedByKeys() const;
+    void emphasise();
+
+    BoardScreen& m_board;
+    Page& m_page;
+    BoardGeometry m_geometry;
+
+    QLabel* m_title = nullptr;
+    QLabel* m_demoMode = nullptr;
+    QLabel* m_champion = nullptr;
+    QLabel* m_dragged = nullptr; ///< the name under the pointer
+    std::array<QLabel*, kRegions> m_regionTitles{};
+    std::array<QLabel*, kRoundCaptions> m_roundNames{};
+    std::array<QLabel*, kRoundCaptions> m_roundPoints{};
+    std::array<QWidget*, kTeams> m_seeds{};
+    std::array<SlotLabel*, kPositions> m_places{};
+    std::array<SlotLabel*, kGames> m_markers{};
+
+    QPoint m_pressedAt;
+    bool m_pressed = false; ///< a left press on a place is held
+    int m_hovered = -1;
+};
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,30 @@
+// qt/widgets/empty_note.h - what stands in a list or table that has no rows, so that it does not look broken.
+#pragma once
+
+#include <QAbstractItemView>
+#include <QLabel>
+
+namespace tallyhoop::qt {
+
+/// A pale sentence in the middle of a view, there as long as the view's model has no rows.
+class EmptyNote : public QLabel
+{
+    Q_OBJECT
+
+public:
+    EmptyNote(const QString& text, QAbstractItemView& view);
+
+    /// Puts another sentence there.
+    void say(const QString& text);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void place();
+    void describe(bool empty);
+
+    QAbstractItemView& m_view;
+};
+
+} // namespace tallyhoop::qt

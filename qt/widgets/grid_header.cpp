@@ -1,0 +1,81 @@
+#include "qt/widgets/grid_header.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace tallyhoop::qt {
+
+GridHeader::GridHeader() : QHeaderView{Qt::Horizontal}
+{
+    // The view's own moving would change the order behind the model's back.
+    setSectionsMovable(false);
+    setSectionsClickable(true);
+    setHighlightSections(false);
+    setSectionResizeMode(QHeaderView::Fixed);
+    setStretchLastSection(true);
+    setCursor(Qt::OpenHandCursor);
+}
+
+std::optional<std::size_t> GridHeader::columnUnder(const QMouseEvent& event) const
+{
+    const QWidget* grid = parentWidget();
+    const QPoint place = event.position().toPoint();
+    if (!grid || !grid->rect().contains(viewport()->mapTo(grid, place)))
+        return std::nullopt;
+    const int column = logicalIndexAt(place.x());
+    return column < 0 ? std::nullopt : std::optional{static_cast<std::size_t>(column)};
+}
+
+void GridHeader::mousePressEvent(QMouseEvent* event)
+{
+    const auto column = columnUnder(*event);
+    if (event->button() != Qt::LeftButton || !column)
+        return;
+    m_dragged = static_cast<int>(*column);
+    setCursor(Qt::ClosedHandCursor);
+    if (columnPressed)
+        columnPressed(*column);
+}
+
+void GridHeader::mouseMoveEvent(QMouseEvent* event)
+{
+    if (m_dragged < 0)
+        return;
+    const auto column = columnUnder(*event);
+    setTarget(column ? static_cast<int>(*column) : -1);
+}
+
+void GridHeader::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || m_dragged < 0)
+        return;
+    m_dragged = -1;
+    setTarget(-1);
+    setCursor(Qt::OpenHandCursor);
+    if (columnReleased)
+        columnReleased(columnUnder(*event));
+}
+
+void GridHeader::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void GridHeader::setTarget(int column)
+{
+    if (column == m_target)
+        return;
+    m_target = column;
+    viewport()->update();
+}
+
+void GridHeader::paintEvent(QPaintEvent* event)
+{
+    QHeaderView::paintEvent(event);
+    if (m_dragged < 0 || m_target < 0 || m_target == m_dragged)
+        return;
+    constexpr int kBar = 3;
+    QPainter painter{viewport()};
+    const int left = sectionViewportPosition(m_target);
+    const int x = m_target > m_dragged ? left + sectionSize(m_target) - kBar : left;
+    painter.fillRect(x, 0, kBar, height(), palette().highlight());
+}
+
+} // namespace tallyhoop::qt

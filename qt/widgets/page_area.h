@@ -1,0 +1,33 @@
+// qt/widgets/page_area.h - what a page shows, which scrolls where a display is too small for it.
+#pragma once
+
+#include <QScrollArea>
+
+namespace tallyhoop::qt {
+
+/// Takes the room that its content needs, but never more than a window can have on this display.
+class PageArea : public QScrollArea
+{
+    Q_OBJECT
+
+public:
+    explicit PageArea(QWidget* content);
+    ~PageArea() override;
+    PageArea(const PageArea&) = delete;
+    PageArea& operator=(const PageArea&) = delete;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    QSize within(QSize wanted) const;
+    void follow(QWidget* focused);
+};
+
+/// @returns the room for a window without its frame on the display of a widget
+QSize roomForWindow(const QWidget& widget);
+
+} // namespace tallyhoop::qt

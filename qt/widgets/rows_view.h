@@ -1,0 +1,30 @@
+// qt/widgets/rows_view.h - the view of a list box: tells when the person chooses a row, also the selected one again.
+#pragma once
+
+#include <QListView>
+#include <functional>
+
+namespace tallyhoop::qt {
+
+class RowsView : public QListView
+{
+    Q_OBJECT
+
+public:
+    explicit RowsView(QWidget* parent);
+
+    /// The selection changed, or a press on the selected row chose it again; also when the model is being shown.
+    std::function<void()> rowChosen;
+
+    /// The left button went down, on a row or beside them all; after the row was chosen.
+    std::function<void()> pressedAnywhere;
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+private:
+    bool m_changedByPress = false;
+};
+
+} // namespace tallyhoop::qt

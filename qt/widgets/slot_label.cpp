@@ -1,0 +1,153 @@
+#include "qt/widgets/slot_label.h"
+
+#include "qt/look.h"
+#include "qt/text.h"
+#include "screens/board/board_drawing.h"
+
+#include <QAccessibleWidget>
+#include <QFocusEvent>
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+
+namespace tallyhoop::qt {
+
+namespace {
+
+constexpr int kInset = 4;
+constexpr int kNarrowest = 70; ///< percent of a letter's width, with which names can still be read with ease
+const QColor kOutline{150, 155, 168};
+const QColor kPathOutline{240, 150, 20};
+const QColor kLandOutline{30, 150, 90};
+
+QColor groundOf(const QColor& colour)
+{
+    const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+    return look::toQColor(groundFor({part(colour.red()), part(colour.green()), part(colour.blue())}));
+}
+
+/// A marker cannot be pressed, whatever its class says.
+QAccessibleInterface* speakForMarker(const QString&, QObject* object)
+{
+    auto* const label = qobject_cast<SlotLabel*>(object);
+    const bool marker = label && label->part() == SlotLabel::Part::Marker;
+    return marker ? new QAccessibleWidget{label, QAccessible::StaticText} : nullptr;
+}
+
+} // namespace
+
+SlotLabel::SlotLabel(Part part, QWidget* parent) : QAbstractButton{parent}, m_part{part}
+{
+    static const bool kInstalled = (QAccessible::installFactory(&speakForMarker), true);
+    static_cast<void>(kInstalled);
+    setMouseTracking(true);
+    // A click picks a team and leaves the keyboard where it is: in the field that is being filled in.
+    setFocusPolicy(part == Part::Marker ? Qt::NoFocus : Qt::TabFocus);
+}
+
+void SlotLabel::show(const QString& text, const QColor& colour)
+{
+    setText(text);
+    setShortcut({}); // an ampersand in a name is no mnemonic
+    m_colour = colour;
+    // Whoever asks for the colours of the text and its ground asks the palette.
+    QPalette colours = palette();
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
+            colours.setColor(group, role, colour);
+        for (const auto role : {QPalette::Window, QPalette::Button})
+            colours.setColor(group, role, groundOf(colour));
+    }
+    setPalette(colours);
+    update();
+}
+
+void SlotLabel::setEmphasis(Emphasis emphasis)
+{
+    if (m_emphasis == emphasis)
+        return;
+    m_emphasis = emphasis;
+    update();
+}
+
+QSize SlotLabel::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(text()) + 2 * kInset, fontMetrics().height()};
+}
+
+QRect SlotLabel::textPlace() const { return m_part == Part::Marker ? rect() : rect().adjusted(kInset, 0, -1, 0); }
+
+/// A marker continues its place: one box for the eye, whose inner edges nobody draws.
+QRect SlotLabel::inside(int edge) const
+{
+    const int left = m_part == Part::Marker ? 0 : edge;
+    const int right = m_part == Part::Winner ? 0 : edge;
+    return rect().adjusted(left, edge, -right, -edge);
+}
+
+bool SlotLabel::isElided() const { return QFontMetrics{fittingFont()}.horizontalAdvance(text()) > textPlace().width(); }
+
+/// The font in letters as narrow as the name needs, within reason: a whole name says more than most of one.
+QFont SlotLabel::fittingFont() const
+{
+    QFont fitting = font();
+    const int room = textPlace().width();
+    for (int stretch = 100; stretch > kNarrowest && QFontMetrics{fitting}.horizontalAdvance(text()) > room;) {
+        stretch -= 10; // few steps: each is a font of its own
+        fitting.setStretch(stretch);
+    }
+    return fitting;
+}
+
+void SlotLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter{this};
+    QColor outline = kOutline;
+    if (m_emphasis == Emphasis::OnPath)
+        outline = kPathOutline;
+    else if (m_emphasis == Emphasis::MayLand)
+        outline = kLandOutline;
+    // Areas, not lines: at odd fractions of pixels lines at the edge get lost.
+    painter.fillRect(rect(), outline);
+    painter.fillRect(inside(m_emphasis == Emphasis::None ? 1 : 2), groundOf(m_colour));
+    painter.setPen(m_colour);
+    const QFont fitting = fittingFont();
+    const QString cut = QFontMetrics{fitting}.elidedText(text(), Qt::ElideRight, textPlace().width());
+    painter.setFont(fitting);
+    const Qt::Alignment alignment = m_part == Part::Marker ? Qt::AlignCenter : Qt::AlignVCenter | Qt::AlignLeft;
+    painter.drawText(textPlace(), static_cast<int>(alignment) | Qt::TextSingleLine, cut);
+    if (isReachedByKeys()) {
+        painter.setPen(QPen{m_colour, 1, Qt::DashLine});
+        painter.drawRect(rect().adjusted(2, 1, -2, -3));
+    }
+}
+
+bool SlotLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || m_part == Part::Row)
+        return QAbstractButton::event(event);
+    if (isElided())
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(text()), this);
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+void SlotLabel::focusInEvent(QFocusEvent* event)
+{
+    m_reachedByKeys = event->reason() != Qt::MouseFocusReason;
+    QAbstractButton::focusInEvent(event);
+}
+
+void SlotLabel::mousePressEvent(QMouseEvent* event) { event->ignore(); }
+
+void SlotLabel::mouseMoveEvent(QMouseEvent* event) { event->ignore(); }
+
+void SlotLabel::mouseReleaseEvent(QMouseEvent* event) { event->ignore(); }
+
+void SlotLabel::keyPressEvent(QKeyEvent* event) { event->ignore(); }
+
+void SlotLabel::keyReleaseEvent(QKeyEvent* event) { event->ignore(); }
+
+} // namespace tallyhoop::qt

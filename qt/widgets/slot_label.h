@@ -1,0 +1,61 @@
+// qt/widgets/slot_label.h - one place of the bracket: a team name on a ground that carries its colour.
+#pragma once
+
+#include <QAbstractButton>
+
+namespace tallyhoop::qt {
+
+/// Shows a text that is elided when it does not fit; text() stays whole. Presses are the canvas's business, also while
+/// the label is disabled: a press there still means something. Assistive tools press it through clicked().
+class SlotLabel : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    enum class Part {
+        Row,    ///< a first-round row: a box of its own, with a tool tip of its own
+        Winner, ///< a winner's place, continued by its marker
+        Marker,
+    };
+
+    SlotLabel(Part part, QWidget* parent);
+
+    void show(const QString& text, const QColor& colour);
+
+    enum class Emphasis { None, OnPath, MayLand };
+    void setEmphasis(Emphasis emphasis);
+
+    QSize sizeHint() const override;
+
+    /// @returns whether it has the focus, and not from a mouse press
+    bool isReachedByKeys() const { return hasFocus() && m_reachedByKeys; }
+
+    /// @returns whether the name is cut when painted: too long for its place even in narrow letters
+    bool isElided() const;
+
+    Part part() const { return m_part; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+
+    // Mouse and key rules live in the canvas and the core; a button's own would act twice.
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void keyReleaseEvent(QKeyEvent* event) override;
+
+private:
+    QRect textPlace() const;
+    QFont fittingFont() const;
+    QRect inside(int edge) const;
+
+    Part m_part;
+    QColor m_colour;
+    Emphasis m_emphasis = Emphasis::None;
+    bool m_reachedByKeys = false; ///< only then is the focus worth a frame of its own
+};
+
+} // namespace tallyhoop::qt

@@ -1,0 +1,258 @@
+#include "screens/board/board_geometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr int kRowsDown = 2 * kRowsPerRegion; ///< two regions stand above one another
+constexpr double kSeedShare = 0.19;           ///< width of a seed, in columns
+constexpr double kMarkerShare = 0.14;         ///< width of a marker, in columns
+constexpr double kFirstColumnShare = 1.24;    ///< seed and team of the first column
+constexpr double kCentreShare = 0.16;         ///< half the room between the halves, in columns
+
+/// The measures from which every rectangle follows.
+struct Measures {
+    double width, height;
+    double margin, gap;      ///< at the edges; between columns
+    double top, regionGap;   ///< room above the first row; between upper and lower region
+    double column, row, box; ///< width of a column; distance of two rows; height of a place
+    double textSize;
+};
+
+Measures measure(double width, double height)
+{
+    Measures m{};
+    m.width = width;
+    m.height = height;
+    m.margin = std::max(4.0, width * 0.006);
+    m.gap = width * 0.0085;
+    m.top = height * 0.094;
+    m.regionGap = height * 0.026;
+    m.row = (height - m.top - m.regionGap - m.margin) / kRowsDown;
+    m.box = m.row * 0.9;
+    m.column = (width / 2 - m.margin - 5 * m.gap) / (kFirstColumnShare + 4 + kCentreShare);
+    m.textSize = std::min(m.row * 0.72, m.column * 0.102);
+    return m;
+}
+
+ui::Rectangle mirrored(const ui::Rectangle& place, double width)
+{
+    return {width - place.right(), place.y, place.width, place.height};
+}
+
+/// Left edge of the column that holds the winners of round 1..4 in the left half; 0 is the first round.
+double columnLeft(const Measures& m, int round)
+{
+    if (round == 0)
+        return m.margin;
+    return m.margin + kFirstColumnShare * m.column + m.gap + (round - 1) * (m.column + m.gap);
+}
+
+/// Middle height of row 0..15, which may lie between two rows, of the upper (0) or lower (1) region.
+double rowCentre(const Measures& m, int lower, double row)
+{
+    return m.top + lower * (kRowsPerRegion * m.row + m.regionGap) + (row + 0.5) * m.row;
+}
+
+/// A place inside a region of the left half.
+ui::Rectangle placeInRegion(const Measures& m, int lower, int offset)
+{
+    if (offset < kRowsPerRegion) {
+        const double left = columnLeft(m, 0) + kSeedShare * m.column;
+        return {left, rowCentre(m, lower, offset) - m.box / 2, (kFirstColumnShare - kSeedShare) * m.column, m.box};
+    }
+    int round = 1;
+    int first = kRowsPerRegion;
+    for (int games = 8; offset >= first + games; games /= 2) {
+        first += games;
+        ++round;
+    }
+    const double rowsPerGame = std::pow(2, round);
+    const double row = (offset - first + 0.5) * rowsPerGame - 0.5;
+    return {columnLeft(m, round), rowCentre(m, lower, row) - m.box / 2, m.column, m.box};
+}
+
+void placeRegions(const Measures& m, BoardGeometry& board)
+{
+    for (int region = 0; region < kRegions; ++region) {
+        const bool right = region >= 2;
+        const auto side = [&](const ui::Rectangle& place) { return right ? mirrored(place, m.width) : place; };
+        for (int offset = 0; offset < kRegionBlock; ++offset)
+            board.positions[static_cast<std::size_t>(kRegionBlock * region + offset)] =
+                side(placeInRegion(m, region % 2, offset));
+        for (int row = 0; row < kRowsPerRegion; ++row)
+            board.seeds[static_cast<std::size_t>(kRowsPerRegion * region + row)] =
+                side({columnLeft(m, 0), rowCentre(m, region % 2, row) - m.box / 2, kSeedShare * m.column, m.box});
+        board.regionTitles[static_cast<std::size_t>(region)] =
+            side({columnLeft(m, 3), rowCentre(m, region % 2, 0) - m.row / 2, 1.5 * m.column + m.gap, 1.7 * m.row});
+    }
+}
+
+void placeFinals(const Measures& m, BoardGeometry& board)
+{
+    const double middle = m.top + (m.height - m.top - m.margin) / 2;
+    const double champion = middle - 4.6 * m.row;
+    const ui::Rectangle semifinal{columnLeft(m, 4), middle - m.box / 2, m.column, m.box};
+    const double width = 1.5 * m.column;
+    board.positions[kSemifinalA] = semifinal;
+    board.positions[kSemifinalB] = mirrored(semifinal, m.width);
+    board.positions[kChampion] = {m.width / 2 - width / 2, champion - 0.7 * m.row, width, 1.4 * m.row};
+    board.championCaption = {m.width / 2 - width / 3, champion - 2.0 * m.row, 2 * width / 3, 1.1 * m.row};
+}
+
+void placeMarkers(const Measures& m, BoardGeometry& board)
+{
+    const auto& games = gamePositions();
+    for (std::size_t game = 0; game < games.size(); ++game) {
+        ui::Rectangle& place = board.positions[static_cast<std::size_t>(index(games[game]))];
+        const double width = kMarkerShare * m.column;
+        place.width -= width;
+        board.results[game] = {place.right(), place.y, width, place.height};
+    }
+}
+
+/// A round's name and its points side by side, together centred in a strip.
+void placeRound(BoardGeometry& board, std::size_t caption, const ui::Rectangle& strip)
+{
+    const double name = strip.width * 0.68;
+    board.roundCaptions[caption] = {strip.x, strip.y, name, strip.height};
+    board.roundPoints[caption] = {strip.x + name, strip.y, strip.width - name, strip.height};
+}
+
+void placeHeads(const Measures& m, BoardGeometry& board)
+{
+    const double headHeight = m.top * 0.34;
+    board.title = {m.width * 0.2, m.top * 0.06, m.width * 0.6, m.top * 0.54};
+    board.demoMode = {m.margin, m.top * 0.06, m.width * 0.19, m.top * 0.54};
+    for (int round = 1; round <= 4; ++round) {
+        const ui::Rectangle strip{columnLeft(m, round), m.top - headHeight * 1.06, m.column, headHeight};
+        placeRound(board, static_cast<std::size_t>(round - 1), strip);
+        placeRound(board, static_cast<std::size_t>(round + 3), mirrored(strip, m.width));
+    }
+    const ui::Rectangle& semifinal = board.positions[kSemifinalA];
+    const double centre = m.width / 2;
+    placeRound(board, 8, {centre - 0.6 * m.column, semifinal.bottom() + 0.25 * m.row, 1.2 * m.column, m.row * 1.1});
+    const ui::Rectangle& champion = board.positions[kChampion];
+    placeRound(board, 9, {centre - 0.75 * m.column, champion.bottom() + 0.1 * m.row, 1.5 * m.column, m.row * 1.1});
+}
+
+/// The whole place of a position, its marker included.
+ui::Rectangle wholePlace(const BoardGeometry& board, int position)
+{
+    ui::Rectangle place = board.positions[static_cast<std::size_t>(position)];
+    const int game = gameOf(Position{position});
+    if (game >= 0)
+        place.width += board.results[static_cast<std::size_t>(game)].width;
+    return place;
+}
+
+/// The bracket that joins two entrants with the place of their winner, all in the left half or all in the right one.
+void joinInRegion(const Measures& m, BoardGeometry& board, int position)
+{
+    const auto [first, second] = bracketMap().feeders(position);
+    const ui::Rectangle upper = wholePlace(board, first);
+    const ui::Rectangle lower = wholePlace(board, second);
+    const ui::Rectangle winner = wholePlace(board, position);
+    const bool right = regionOf(Position{position}) >= 2;
+    const double from = right ? upper.x : upper.right();
+    const double bend = right ? upper.x - m.gap / 2 : upper.right() + m.gap / 2;
+    const double to = right ? winner.right() : winner.x;
+    board.connectors.push_back({from, upper.centreY(), bend, upper.centreY(), {}});
+    board.connectors.push_back({from, lower.centreY(), bend, lower.centreY(), {}});
+    board.connectors.push_back({bend, upper.centreY(), bend, lower.centreY(), {}});
+    board.connectors.push_back({bend, winner.centreY(), to, winner.centreY(), {}});
+}
+
+/// The region winners stand above and below their semi-final, in the same column: the line runs along the inner edge.
+void joinSemifinal(const Measures& m, BoardGeometry& board, int position)
+{
+    const bool right = position == kSemifinalB;
+    const auto [first, second] = bracketMap().feeders(position);
+    const ui::Rectangle upper = wholePlace(board, first);
+    const ui::Rectangle lower = wholePlace(board, second);
+    const ui::Rectangle winner = wholePlace(board, position);
+    const double edge = right ? winner.x : winner.right();
+    const double bend = right ? edge - m.gap / 2 : edge + m.gap / 2;
+    for (const double y : {upper.centreY(), winner.centreY(), lower.centreY()})
+        board.connectors.push_back({edge, y, bend, y, {}});
+    board.connectors.push_back({bend, upper.centreY(), bend, lower.centreY(), {}});
+}
+
+void joinFinal(BoardGeometry& board)
+{
+    const ui::Rectangle champion = wholePlace(board, kChampion);
+    for (const int entrant : {kSemifinalA, kSemifinalB}) {
+        const ui::Rectangle place = wholePlace(board, entrant);
+        const double edge = entrant == kSemifinalA ? champion.x : champion.right();
+        board.connectors.push_back({place.centreX(), place.y, place.centreX(), champion.centreY(), {}});
+        board.connectors.push_back({place.centreX(), champion.centreY(), edge, champion.centreY(), {}});
+    }
+}
+
+/// How far a place lies in a direction, and how far off the line; nothing useful when it lies the other way.
+struct Reach {
+    double ahead, aside;
+};
+
+Reach reach(const ui::Rectangle& from, const ui::Rectangle& to, Direction direction)
+{
+    const double dx = to.centreX() - from.centreX();
+    const double dy = to.centreY() - from.centreY();
+    switch (direction) {
+    case Direction::Up:
+        return {-dy, std::abs(dx)};
+    case Direction::Down:
+        return {dy, std::abs(dx)};
+    case Direction::Left:
+        return {-dx, std::abs(dy)};
+    case Direction::Right:
+        break;
+    }
+    return {dx, std::abs(dy)};
+}
+
+} // namespace
+
+BoardGeometry layOutBoard(double width, double height)
+{
+    const Measures m = measure(width, height);
+    BoardGeometry board;
+    board.textSize = m.textSize;
+    placeRegions(m, board);
+    placeFinals(m, board);
+    placeMarkers(m, board);
+    placeHeads(m, board);
+    for (const Position position : gamePositions())
+        if (index(position) < kSemifinalA)
+            joinInRegion(m, board, index(position));
+    joinSemifinal(m, board, kSemifinalA);
+    joinSemifinal(m, board, kSemifinalB);
+    joinFinal(board);
+    return board;
+}
+
+int neighbour(const BoardGeometry& geometry, int position, Direction direction)
+{
+    const ui::Rectangle from = wholePlace(geometry, position);
+    // Up and down stay in the column; left and right may leave the row, because the next round stands between two rows.
+    const bool vertical = direction == Direction::Up || direction == Direction::Down;
+    const double minimum = vertical ? 1.0 : from.width / 3;
+    int nearest = position;
+    double best = 0;
+    for (int candidate = 0; candidate < kPositions; ++candidate) {
+        const auto [ahead, aside] = reach(from, wholePlace(geometry, candidate), direction);
+        if (candidate == position || ahead < minimum || (vertical && aside > 0.95 * from.width))
+            continue;
+        const double distance = vertical ? ahead + 1000 * aside : 20 * ahead + aside;
+        if (nearest == position || distance < best) {
+            nearest = candidate;
+            best = distance;
+        }
+    }
+    return nearest;
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,44 @@
+// screens/board/board_geometry.h - where everything of the bracket stands: one arrangement for the screen and for
+// paper.
+//
+// Region 1 stands top left, 2 bottom left, 3 top right, 4 bottom right; the right half is the left one mirrored. The
+// semi-final winners and the champion stand in the middle.
+#pragma once
+
+#include "pool/position.h"
+#include "ui/drawing.h"
+
+#include <array>
+#include <vector>
+
+namespace tallyhoop {
+
+/// How many captions tell the rounds: rounds 1..4 on the left, then 1..4 on the right, the semi-final, the final.
+inline constexpr std::size_t kRoundCaptions = 10;
+
+struct BoardGeometry {
+    double textSize = 0; ///< height of the letters of a team name
+
+    ui::Rectangle title;
+    ui::Rectangle demoMode;
+    std::array<ui::Rectangle, kRegions> regionTitles;
+    std::array<ui::Rectangle, kPositions> positions;
+    std::array<ui::Rectangle, kGames> results; ///< the markers, inside the places they belong to
+    std::array<ui::Rectangle, kTeams> seeds;
+    std::array<ui::Rectangle, kRoundCaptions> roundCaptions;
+    std::array<ui::Rectangle, kRoundCaptions> roundPoints; ///< rounds 1..4 left, 1..4 right, semi-final, final
+    ui::Rectangle championCaption;
+    std::vector<ui::Stroke> connectors; ///< black; whoever draws them chooses the colour
+};
+
+/// Lays the bracket out in an area of this size.
+/// @param width, height in the caller's units, at least 1
+BoardGeometry layOutBoard(double width, double height);
+
+/// Which way an arrow key goes.
+enum class Direction { Up, Down, Left, Right };
+
+/// @returns the position that an arrow key reaches from here along the picture; the same one at the edge
+int neighbour(const BoardGeometry& geometry, int position, Direction direction);
+
+} // namespace tallyhoop

@@ -1,0 +1,203 @@
+// screens/demo_mode.cpp - entering and leaving demo mode.
+#include "screens/demo_mode.h"
+
+#include "base/text.h"
+#include "demo/sample_pool.h"
+#include "files/file_names.h"
+#include "files/player_names_file.h"
+#include "files/pool_backup.h"
+#include "files/replace_file.h"
+#include "files/settings_file.h"
+#include "ui/work.h"
+
+#include <chrono>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tallyhoop {
+namespace {
+
+constexpr const char* kCaption = "STALLYHOOP DEMOSTRATION MODE"; // sic
+
+const ui::Message kContinueInDemo = {kCaption, "Select the OK Key to Continue in Demonstration Mode", ui::Buttons::Ok,
+                                     ui::Icon::Information};
+const ui::Message kContinueNormally = {kCaption, "Select the OK Key to Continue Normal Operation of Program",
+                                       ui::Buttons::Ok, ui::Icon::Information};
+
+ui::Message askBeforeEntering()
+{
+    return {
+        "** DEMO MODE SET **",
+        joinLines({"You have selected to enter DEMO MODE", " ", "If you continue, any setup activity INCLUDING the ",
+                   "files defining the starting tournament teams and", "the special comments will be deleted..", " ",
+                   "Do you want to enter DEMO Mode?"}),
+        ui::Buttons::OkCancel, ui::Icon::Question};
+}
+
+ui::Message ownPoolIsIn(const std::filesystem::path& backup)
+{
+    return {kCaption,
+            joinLines({"The files of the pool that was here are kept.", "They have been moved to the folder:", " ",
+                       shown(backup)}),
+            ui::Buttons::Ok, ui::Icon::Information};
+}
+
+/// Says which file or folder is in the way before the system's reason.
+Failure failureAt(const std::string& path, const Failure& failure) { return Failure{path + "\r\n" + failure.message}; }
+
+ui::Message trouble(const std::string& what, const Failure& failure)
+{
+    return {kCaption, what + "\r\n \r\n" + failure.message, ui::Buttons::Ok, ui::Icon::Critical};
+}
+
+/// The settings come last: a clearing that was cut short leaves demo mode on, and can be asked for again.
+std::vector<const char*> demoDataFiles()
+{
+    std::vector<const char*> names{file_name::kSetup, file_name::kResults, file_name::kPlayerNames};
+    names.insert(names.end(), kDemoSelectionFiles.begin(), kDemoSelectionFiles.end());
+    names.push_back(file_name::kSettings);
+    return names;
+}
+
+/// A file that cannot be read counts as the person's own. What is no file cannot be kept; the clearing names it.
+bool isOwnFile(const DataFolder& folder, std::string_view name)
+{
+    std::error_code ignored;
+    const std::optional<std::filesystem::path> file = folder.pathOf(name);
+    if (!file || !std::filesystem::is_regular_file(*file, ignored))
+        return false;
+    const Result<std::string> bytes = readFile(*file);
+    if (!bytes)
+        return true;
+    if (name == file_name::kSettings)
+        return !settingsSayDemo(*bytes);
+    if (name == file_name::kPlayerNames && *bytes == playerNamesFile({}))
+        return false;
+    return !demo::isSampleFile(name, *bytes);
+}
+
+/// Starts the installer in a folder that is clear now.
+/// @returns what went wrong, if anything
+std::optional<ui::Message> clearAndInstall(const DataFolder& folder, const std::filesystem::path& installer,
+                                           ui::Programs& programs)
+{
+    if (const Result<Done> cleared = clearDemoDataFiles(folder); !cleared)
+        return trouble("Demonstration mode cannot be started: a file could not be deleted.", cleared.failure());
+    if (const Result<Done> started = programs.start(installer); !started)
+        return trouble("Demonstration mode could not be started.", failureAt(shown(installer), started.failure()));
+    return std::nullopt;
+}
+
+/// @returns why the sample pool could not be installed now, if so: to be asked before anything is deleted
+std::optional<Failure> obstacle(const std::filesystem::path& installer, const DataFolder& folder,
+                                const ui::Platform& platform)
+{
+    if (const Result<Done> checked = platform.programs.check(installer); !checked)
+        return failureAt(shown(installer), checked.failure());
+    if (const Result<Done> checked = folder.checkWritable(); !checked)
+        return failureAt(shown(folder.folder()), checked.failure());
+    return std::nullopt;
+}
+
+/// The person's OK mostly comes long after the installer has finished. One that comes at once must not find half a
+/// pool: the settings file is written last.
+/// @returns why there is no sample pool, if so
+std::optional<Failure> waitForSamplePool(const DataFolder& folder, const ui::Platform& platform)
+{
+    using namespace std::chrono_literals;
+    constexpr auto kStep = 10ms;
+    constexpr int kMostSteps = 1000;
+    Work work{platform.progress, "Installing the sample pool", kMostSteps};
+    do {
+        const std::optional<Result<Done>> end = platform.programs.waitForEnd(kStep);
+        if (demoModeIsOn(folder)) // asked after the end: the last file may have come just before it
+            return std::nullopt;
+        if (end)
+            return *end ? Failure{"It has ended without writing a sample pool."} : end->failure();
+    } while (work.step() && work.done() < kMostSteps);
+    return Failure{"It has not finished."};
+}
+
+} // namespace
+
+Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& folder, const ui::Clock& clock)
+{
+    std::vector<std::string> own;
+    std::vector<std::string> all;
+    std::error_code ignored;
+    for (const char* name : demoDataFiles()) {
+        if (isOwnFile(folder, name))
+            own.emplace_back(name);
+        if (const auto file = folder.pathOf(name); file && std::filesystem::is_regular_file(*file, ignored))
+            all.emplace_back(name);
+    }
+    // A pool of one's own stays together, even where one of its files is like the demo's.
+    if (!own.empty() && !demoModeIsOn(folder))
+        own = all;
+    if (own.empty())
+        return std::optional<std::filesystem::path>{};
+    const Result<std::filesystem::path> backup = backUp(folder, own, clock.now());
+    if (!backup)
+        return backup.failure();
+    return std::optional{*backup};
+}
+
+Result<Done> clearDemoDataFiles(const DataFolder& folder)
+{
+    Result<Done> outcome = Done{};
+    for (const char* name : demoDataFiles())
+        if (const Result<Done> removed = folder.remove(name); !removed && outcome)
+            outcome = failureAt(folder.shownPathOf(name), removed.failure());
+    return outcome;
+}
+
+std::optional<Opening> startDemo(const DataFolder& folder, const ui::Platform& platform)
+{
+    const std::filesystem::path installer =
+        folder.pathOf(file_name::kDemoInstaller).value_or(folder.folder() / file_name::kDemoInstaller);
+    if (const std::optional<Failure> failure = obstacle(installer, folder, platform)) {
+        platform.dialogs.show(trouble("Demonstration mode cannot be started. Nothing was changed.", *failure));
+        return std::nullopt;
+    }
+    const Result<std::optional<std::filesystem::path>> backup = keepOwnFiles(folder, platform.clock);
+    if (!backup) {
+        platform.dialogs.show(trouble("Demonstration mode cannot be started. Nothing was changed.", backup.failure()));
+        return std::nullopt;
+    }
+    const std::optional<ui::Message> failure = clearAndInstall(folder, installer, platform.programs);
+    platform.dialogs.show(failure.value_or(kContinueInDemo));
+    if (*backup)
+        platform.dialogs.show(ownPoolIsIn(**backup));
+    if (failure)
+        return Opening::Plain;
+    const std::optional<Failure> noPool = waitForSamplePool(folder, platform);
+    if (!noPool)
+        return Opening::DemoEntered;
+    platform.dialogs.show(trouble("The sample pool could not be installed.", failureAt(shown(installer), *noPool)));
+    return Opening::Plain;
+}
+
+std::optional<Opening> enterDemo(const DataFolder& folder, const ui::Platform& platform)
+{
+    if (platform.dialogs.show(askBeforeEntering()) == ui::Answer::Cancel)
+        return std::nullopt;
+    return startDemo(folder, platform);
+}
+
+bool leaveDemo(const DataFolder& folder, const ui::Platform& platform, std::string& notice)
+{
+    const Result<std::optional<std::filesystem::path>> backup = keepOwnFiles(folder, platform.clock);
+    if (!backup) {
+        platform.dialogs.show(trouble("Demonstration mode cannot be left. Nothing was changed.", backup.failure()));
+        return false;
+    }
+    if (const Result<Done> cleared = clearDemoDataFiles(folder); !cleared)
+        platform.dialogs.show(trouble("A file of the demonstration could not be deleted.", cleared.failure()));
+    platform.dialogs.show(kContinueNormally);
+    if (*backup)
+        notice = "Files that you changed in demo mode are kept in the folder " + shown((*backup)->filename()) + ".";
+    return true;
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,263 @@
+// screens/players/email_screen.cpp - from typed names to a list of addresses.
+#include "screens/players/email_screen.h"
+
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "screens/help_topics.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr const char* kCaption = "Tallyhoop - EMail Selections";
+
+const ui::Message kFaultyPlayerNames{kCaption,
+                                     "Problems found with PLAYERNAMES.CSV file\r\n"
+                                     "This condition must be corrected, See Help content",
+                                     ui::Buttons::Ok, ui::Icon::Critical, help_topic::kRepair};
+const ui::Message kSomebodyWithoutAddress{kCaption,
+                                          "You have selected the \"EMail All\" option and there\r\n"
+                                          "is at least one player name without an EMail address.\r\n"
+                                          "\r\n"
+                                          "Print a Player Listing to locate the missing EMail address.",
+                                          ui::Buttons::Ok, ui::Icon::None};
+const ui::Message kNoAddress{"Tallyhoop - frmPoolEMail, Form_KeyPress",
+                             "EMail address does not exist for this player. You must either\r\n"
+                             "enter the EMail manually or select the \"Edit Names File\" menu\r\n"
+                             "option from the main form & add this EMail address.",
+                             ui::Buttons::Ok, ui::Icon::Exclamation};
+const ui::Message kSelectBeforeDelete{"Tallyhoop - PoolEmail, cmdDelete",
+                                      "You must select one of the entries from the list \r\n"
+                                      "of EMail address selections.\r\n"
+                                      "\r\n"
+                                      "Make a selection and then retry.",
+                                      ui::Buttons::Ok, ui::Icon::Exclamation};
+const ui::Message kNoRecipients{"Tallyhoop - PoolEMail, cmdSend_Click",
+                                "No \"SendTo\" names were defined, You can cancel\r\n"
+                                "and complete these entries or if you continue, your\r\n"
+                                "mail system will prompt you with another opportunity to complete these.",
+                                ui::Buttons::OkCancel, ui::Icon::Question};
+
+std::string withoutOuterBlanks(std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string_view::npos ? std::string{} : trimTrailingBlanks(text.substr(first));
+}
+
+std::string addressOf(const PlayerRecord& record) { return withoutOuterBlanks(record.email); }
+
+std::string listRow(const PlayerRecord& record)
+{
+    return fitted(record.name, kNameWidth) + "  (" + addressOf(record) + ")";
+}
+
+/// @returns the character code that the list search knows a key by, 0 for keys it leaves alone
+std::int16_t keyCodeOf(const ui::KeyPress& press)
+{
+    if (press.control || press.alt)
+        return 0; // a shortcut, not text
+    if (press.key == ui::Key::Backspace)
+        return 8;
+    return press.key == ui::Key::Character ? static_cast<std::int16_t>(static_cast<unsigned char>(press.character))
+                                           : std::int16_t{0};
+}
+
+} // namespace
+
+EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens)
+    : ui::Screen{"frmPoolEMail", kCaption},
+      m_folder{folder},
+      m_dialogs{platform.dialogs},
+      m_state{state},
+      m_screens{screens}
+{
+    lstPlayerNames.fixedPitch = true;
+    lstPlayerNames.spokenName = "Players";
+    lstPlayerNames.doubleClicked = [this] { addSelectedPlayer(); };
+    lstTo.spokenName = "Recipients";
+    txtEntry.spokenName = lblEntry.text;
+    txtSubject.spokenName = "Subject";
+    txtMessage.spokenName = "EMail message";
+    txtMessage.multiLine = true;
+    cmdFreeEntry.toolTip = "Type addresses of people who are not players";
+    cmdUseList.toolTip = "Find players by typing the beginning of their names";
+    cmdFreeEntry.explanation = cmdFreeEntry.toolTip + ".";
+    cmdUseList.explanation = cmdUseList.toolTip + ".";
+    lstPlayerNames.explanation = "A double click, or Enter in the box above, adds the player's address.";
+    lstTo.explanation = "Who gets the message.";
+    cmdDelete.explanation = "Takes the selected address out again.";
+    txtSubject.explanation = "The message's subject.";
+    txtMessage.explanation = "What the message says; the reports are attached to it.";
+    cmdSend.explanation = "Hands the message to your mail program, where you send it.";
+    cmdExit.explanation = "Sends nothing; the report files stay in the program's folder.";
+
+    int tab = 0;
+    for (ui::Control* control :
+         std::initializer_list<ui::Control*>{&txtEntry, &cmdFreeEntry, &cmdUseList, &lstPlayerNames, &lstTo, &cmdDelete,
+                                             &txtSubject, &txtMessage, &cmdSend, &cmdExit})
+        control->tabIndex = tab++;
+    setFreeEntry(false);
+}
+
+std::string EmailScreen::helpTopic() const { return m_playersFaulty ? help_topic::kRepair : help_topic::kEmail; }
+
+void EmailScreen::load()
+{
+    m_state.mailDraft.subject.clear();
+    m_state.mailDraft.message.clear();
+    countRecipients();
+    if (!validatePlayerNames(m_folder, m_dialogs)) {
+        m_playersFaulty = true;
+        m_dialogs.show(kFaultyPlayerNames);
+        return;
+    }
+    const std::vector<PlayerRecord> records = readPlayerNames(m_folder);
+    fillPlayers(records);
+    if (m_state.mailDraft.emailAll)
+        addressEverybody(records);
+}
+
+void EmailScreen::fillPlayers(std::span<const PlayerRecord> records)
+{
+    // Each row keeps the address of its own record: a name may hold a parenthesis of its own.
+    std::vector<std::pair<std::string, std::string>> players;
+    players.reserve(records.size());
+    for (const PlayerRecord& record : records)
+        players.emplace_back(listRow(record), addressOf(record));
+    std::ranges::stable_sort(players, FoldedLess{}, &std::pair<std::string, std::string>::first);
+    for (auto& [row, address] : players) {
+        lstPlayerNames.rows.push_back(std::move(row));
+        m_addresses.push_back(std::move(address));
+    }
+}
+
+void EmailScreen::addressEverybody(std::span<const PlayerRecord> records)
+{
+    for (const PlayerRecord& record : records)
+        if (std::string address = addressOf(record); !address.empty())
+            lstTo.rows.push_back(std::move(address));
+    countRecipients();
+    if (lstTo.rows.size() < records.size())
+        m_dialogs.show(kSomebodyWithoutAddress);
+}
+
+bool EmailScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
+{
+    const bool inEntry = &control == &txtEntry;
+    if (press.key == ui::Key::Enter && (inEntry || &control == &lstPlayerNames)) {
+        enter();
+        return true;
+    }
+    return inEntry && !m_freeEntry && searchList(press);
+}
+
+/// @returns true when the search dealt with the key
+bool EmailScreen::searchList(const ui::KeyPress& press)
+{
+    std::int16_t keyCode = keyCodeOf(press);
+    if (keyCode == 0)
+        return false;
+    SearchSource source{.text = txtEntry.text,
+                        .selectionStart = txtEntry.selectionStart,
+                        .selectionLength = txtEntry.selectionLength,
+                        .ownList = {}};
+    SearchList list{.rows = lstPlayerNames.rows, .selected = lstPlayerNames.selected};
+    m_search.FindIndexStr(source, txtEntry.text, keyCode, &list);
+    txtEntry.text = std::move(source.text);
+    txtEntry.selectionStart = source.selectionStart;
+    txtEntry.selectionLength = source.selectionLength;
+    lstPlayerNames.selected = list.selected;
+    return keyCode == 0;
+}
+
+/// Text that did not come through the search (pasted, or accented letters): the selected row must not be another
+/// player's than the one the box names, because Enter would address it.
+void EmailScreen::entryEdited()
+{
+    if (!m_freeEntry && !txtEntry.text.empty())
+        lstPlayerNames.selected = findRow(lstPlayerNames.rows, txtEntry.text);
+}
+
+void EmailScreen::enter()
+{
+    if (!m_freeEntry) {
+        if (addSelectedPlayer())
+            txtEntry.text.clear();
+        return;
+    }
+    if (std::string address = withoutOuterBlanks(txtEntry.text); !address.empty()) {
+        lstTo.rows.push_back(std::move(address));
+        countRecipients();
+    }
+    txtEntry.text.clear();
+}
+
+/// @returns whether an address was added
+bool EmailScreen::addSelectedPlayer()
+{
+    if (!lstPlayerNames.selected)
+        return false;
+    const std::string& address = m_addresses.at(static_cast<std::size_t>(*lstPlayerNames.selected));
+    if (address.empty()) {
+        m_dialogs.show(kNoAddress);
+        return false;
+    }
+    lstTo.rows.push_back(address);
+    countRecipients();
+    return true;
+}
+
+void EmailScreen::setFreeEntry(bool on)
+{
+    m_freeEntry = on;
+    cmdFreeEntry.enabled = !on;
+    cmdUseList.enabled = on;
+    txtEntry.explanation = on ? "Type an address, and press Enter to add it."
+                              : "Type the first letters of a player's name, and press Enter to add the address.";
+    focused = &txtEntry;
+}
+
+void EmailScreen::matchList()
+{
+    setFreeEntry(false);
+    txtEntry.text.clear();
+}
+
+void EmailScreen::deleteRecipient()
+{
+    if (!lstTo.selected) {
+        m_dialogs.show(kSelectBeforeDelete);
+        return;
+    }
+    lstTo.rows.erase(lstTo.rows.begin() + *lstTo.selected);
+    lstTo.selected.reset();
+    focused = &txtEntry;
+    countRecipients();
+}
+
+void EmailScreen::sendEmail()
+{
+    if (lstTo.rows.empty() && m_dialogs.show(kNoRecipients) == ui::Answer::Cancel)
+        return;
+    MailDraft& draft = m_state.mailDraft;
+    draft.recipients = lstTo.rows;
+    draft.message = txtMessage.text;
+    draft.subject = txtSubject.text;
+    m_screens.unload(ScreenKind::EMail);
+}
+
+void EmailScreen::cancel()
+{
+    m_state.mailDraft.cancelled = true;
+    m_screens.unload(ScreenKind::EMail);
+}
+
+void EmailScreen::closeRequested() { cancel(); }
+
+void EmailScreen::countRecipients() { lblTo.text = "Send To: (" + std::to_string(lstTo.rows.size()) + ")"; }
+
+} // namespace tallyhoop

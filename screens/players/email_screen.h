@@ -1,0 +1,72 @@
+// screens/players/email_screen.h - the dialog that gathers recipients, subject and message of an e-mail.
+#pragma once
+
+#include "files/data_folder.h"
+#include "files/player_names_file.h"
+#include "screens/list_search.h"
+#include "screens/mod_tallyhoop.h"
+#include "screens/screens.h"
+#include "ui/platform.h"
+#include "ui/screen.h"
+
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tallyhoop {
+
+/// Modal. The request (`emailAll`) is read from the shared mail draft, and the result is left there: recipients,
+/// subject and message on Send Email, the cancelled flag alone on Exit/Cancel. Nothing is sent from here.
+class EmailScreen : public ui::Screen
+{
+public:
+    EmailScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens);
+
+    ui::Label lblEntry{this, "lblEntry", "Enter Email Addresses"};
+    ui::TextBox txtEntry{this, "txtEntry", [this] { entryEdited(); }};
+    ui::Command cmdFreeEntry{this, "cmdFreeEntry", "&Not In List Below", [this] { setFreeEntry(true); }};
+    ui::Command cmdUseList{this, "cmdUseList", "Match &List Below", [this] { matchList(); }};
+    ui::ListBox lstPlayerNames{this, "lstPlayerNames"}; ///< alphabetical; row i is the player of address i
+    ui::Label lblTo{this, "lblTo"};
+    ui::ListBox lstTo{this, "lstTo"}; ///< addresses in the order added
+    ui::Command cmdDelete{this, "cmdDelete", "&Delete Email Selected", [this] { deleteRecipient(); }};
+    ui::Label lblSubject{this, "lblSubject", "Subject:"};
+    ui::TextBox txtSubject{this, "txtSubject"};
+    ui::Label lblMessage{this, "lblMessage", "Enter Email Message:"};
+    ui::TextBox txtMessage{this, "txtMessage"};
+    ui::Command cmdSend{this, "cmdSend", "&Send Email", [this] { sendEmail(); }};
+    ui::Command cmdExit{this, "cmdExit", "E&xit/Cancel", [this] { cancel(); }};
+
+    std::string helpTopic() const override;
+    void load() override;
+    void closeRequested() override;
+    bool keyPressed(ui::Control& control, const ui::KeyPress& press) override;
+
+private:
+    void fillPlayers(std::span<const PlayerRecord> records);
+    void addressEverybody(std::span<const PlayerRecord> records);
+    bool searchList(const ui::KeyPress& press);
+    void entryEdited();
+    void enter();
+    bool addSelectedPlayer();
+    void setFreeEntry(bool on);
+    void matchList();
+    void deleteRecipient();
+    void sendEmail();
+    void cancel();
+    void countRecipients();
+
+    const DataFolder& m_folder;
+    ui::Dialogs& m_dialogs;
+    modTallyhoop& m_state;
+    Screens& m_screens;
+
+    std::vector<std::string> m_addresses; ///< by row of lstPlayerNames, without trailing blanks; empty = none
+    bool m_playersFaulty = false;         ///< PLAYERNAMES.CSV has to be repaired
+    bool m_freeEntry = false;             ///< addresses are typed, not looked up
+    ListSearch m_search;
+};
+
+} // namespace tallyhoop

@@ -1,0 +1,87 @@
+// screens/players/players_screen.h - the screen that maintains the pool's list of players.
+#pragma once
+
+#include "files/data_folder.h"
+#include "files/known_files.h"
+#include "files/player_names_file.h"
+#include "screens/mod_tallyhoop.h"
+#include "screens/screens.h"
+#include "ui/platform.h"
+#include "ui/screen.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace tallyhoop {
+
+/// Shows the players of PLAYERNAMES.CSV in alphabetical order; adds, changes and deletes records, and with a record the
+/// player's selection file. Nothing reaches the disk before Done (or Add Record): until then Cancel drops everything.
+///
+/// When a save on the board left a player to enter, the screen opens in one of three modes: a new player to add ("A"),
+/// the player's own record taken out of the list into the boxes ("O"), or the record selected and everything but
+/// Complete Changes and Cancel disabled ("C").
+class PlayersScreen : public ui::Screen
+{
+public:
+    PlayersScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens);
+
+    ui::Label lblName{this, "lblName", "Name (Last, IN):"};
+    ui::TextBox txtName{this, "txtName"};
+    ui::Label lblFileName{this, "lblFileName", "FileName:"};
+    ui::TextBox txtFileName{this, "txtFileName"};
+    ui::Label lblFileNameNote{this, "lblFileNameNote", "The File Name cannot be changed"};
+    ui::Label lblEmail{this, "lblEmail", "EMail Address:"};
+    ui::TextBox txtEmail{this, "txtEmail"};
+    ui::Label lblPhone{this, "lblPhone", "Phone No:"};
+    ui::TextBox txtPhone{this, "txtPhone"};
+    ui::ListBox lstNames{this, "lstNames"}; ///< rows as playerRow() makes them
+    ui::Command cmdAdd{this, "cmdAdd", "&Add Record", [this] { addRecord(); }};
+    ui::Command cmdChange{this, "cmdChange", "Complete C&hanges", [this] { completeChanges(); }};
+    ui::Command cmdDelete{this, "cmdDelete", "De&lete Selection", [this] { deleteSelection(); }};
+    ui::Command cmdCancel{this, "cmdCancel", "&Cancel", [this] { close(); }};
+    ui::Command cmdExit{this, "cmdExit", "&Done", [this] { done(); }};
+
+    std::string helpTopic() const override;
+    void load() override;
+    void closeRequested() override;
+    void unloading() override;
+    bool keyPressed(ui::Control& control, const ui::KeyPress& press) override;
+    bool pasted(ui::TextBox& box, const std::string& text) override;
+
+private:
+    void explainControls();
+    void fillList();
+    void takeHandOver(const PlayerHandOver& handOver);
+    void takeRowOut(int row, const std::string& playerName);
+    void enterListMode();
+    void showSelectedRow();
+    void addRecord();
+    void completeChanges();
+    void deleteSelection();
+    void done();
+    void finish(std::vector<std::string> rows);
+    void close();
+
+    std::string rowFromBoxes();
+    void fillBoxes(const PlayerRecord& record);
+    void emptyBoxes();
+    void putBoxesBack();
+    void removeSelectedRow();
+    void changed();
+    void countPlayers();
+
+    const DataFolder& m_folder;
+    ui::Dialogs& m_dialogs;
+    modTallyhoop& m_state;
+    Screens& m_screens;
+    KnownFiles m_known; ///< the player list as it was read
+
+    SaveKind m_mode = SaveKind::None;                      ///< None = opened without a player to enter
+    bool m_listFaulty = false;                             ///< PLAYERNAMES.CSV has to be repaired
+    bool m_changed = false;                                ///< set by every add, change and delete
+    bool m_boxesHoldRecord = false;                        ///< the boxes hold a record that no row holds
+    std::vector<std::filesystem::path> m_pendingDeletions; ///< selection files to delete once the list is written
+};
+
+} // namespace tallyhoop

@@ -1,0 +1,64 @@
+// screens/reports/reports_screen_printouts.cpp - the printouts that the bracket board makes of itself, and the score
+// display.
+#include "files/file_names.h"
+#include "screens/reports/reports_screen.h"
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr const char* kTitle = "Tallyhoop - frmPoolReports, cmdSelectedPrintouts";
+constexpr const char* kNoOption = "You need to make a selection from one of the two options\r\n"
+                                  "for selected printouts.  Please try again.";
+constexpr const char* kNoResults = "Game Results have not been entered, this option\r\n"
+                                   "is NOT valid until this activity has been completed";
+constexpr const char* kNoFile = "You must select one of the entries from the list \r\n"
+                                "of File Names for display.\r\n"
+                                "\r\n"
+                                "Make a selection and then retry.";
+
+ui::Message refusal(const char* text) { return {kTitle, text, ui::Buttons::Ok, ui::Icon::Exclamation}; }
+
+} // namespace
+
+void ReportsScreen::createSelectedPrintout()
+{
+    const bool wantsSelection = optSelected[0].selected;
+    const bool wantsResults = optSelected[1].selected;
+    if (!wantsSelection && !wantsResults)
+        m_platform.dialogs.show(refusal(kNoOption));
+    else if (!m_folder.exists(file_name::kResults))
+        m_platform.dialogs.show(refusal(kNoResults));
+    else if (wantsResults)
+        printResultsSheet();
+    else if (!filList.selected)
+        m_platform.dialogs.show(refusal(kNoFile));
+    else
+        printScoredSelection();
+}
+
+void ReportsScreen::printResultsSheet()
+{
+    m_screens.unload(ScreenKind::Reports);
+    m_board.EnterGameResults();
+    m_board.PrintForm();
+}
+
+void ReportsScreen::printScoredSelection()
+{
+    const std::filesystem::path file = m_files.at(static_cast<std::size_t>(*filList.selected)).path;
+    m_screens.bringToFront(ScreenKind::Board);
+    m_screens.unload(ScreenKind::Reports);
+    m_board.showSelection(file);
+    m_board.ScoreSelections();
+    m_board.PrintForm();
+}
+
+void ReportsScreen::gotoCustomReporting()
+{
+    m_screens.unload(ScreenKind::Reports);
+    m_board.EnterGameResults();
+    m_screens.load(ScreenKind::ScoreDisplay);
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,11 @@
+// tests/pool/naive_scorer.h - scoring once more, slow and simple-minded, to check the real one against.
+#pragma once
+
+#include "pool/scoring.h"
+
+namespace tallyhoop::test {
+
+/// Answers the question for each slot on its own, with texts and recursion, remembering nothing.
+ScoredPicks scoreNaively(const SelectionLines& picks, const SelectionLines& results, const Payoffs& payoffs);
+
+} // namespace tallyhoop::test

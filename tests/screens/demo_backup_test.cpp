@@ -1,0 +1,128 @@
+// tests/screens/demo_backup_test.cpp - what demo mode keeps: a pool of one's own, and what was changed in the demo.
+#include "files/player_names_file.h"
+#include "screens/demo_pool.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyhoop::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+TEST(StartDemo, KeepsAPoolOfOnesOwnWholeEvenWhereAFileIsLikeTheDemos)
+{
+    Pool pool;
+    const demo::SampleFile results = demo::sampleFiles().front();
+    pool.scratch.put(results.name, results.bytes);
+    pool.platform.programs.whenStarted = [&pool] { pool.scratch.put("TALLYHOOP.INI", "1\r\n"); };
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(entriesOf(pool.scratch.path() / kBackup),
+              (std::vector<std::string>{"PLAYERNAMES.CSV", "POOLSTART.THS", "TALLYHOOP.THS"}));
+}
+
+TEST(StartDemo, MovesAPoolOfOnesOwnIntoADatedSubfolder)
+{
+    Pool pool;
+    pool.scratch.put("Demo Halfway_DH.THC", "a real player of this name");
+    pool.scratch.put("TALLYHOOP.INI", "0\r\n");
+    pool.platform.programs.whenStarted = [&pool] {
+        EXPECT_EQ(entriesOf(pool.scratch.path()), (std::vector<std::string>{kBackup, "NCAALIST.THS", "Own_O.THC"}));
+        pool.scratch.put("TALLYHOOP.INI", "1\r\n");
+    };
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(entriesOf(pool.scratch.path() / kBackup),
+              (std::vector<std::string>{"Demo Halfway_DH.THC", "PLAYERNAMES.CSV", "POOLSTART.THS", "TALLYHOOP.INI",
+                                        "TALLYHOOP.THS"}));
+    EXPECT_EQ(pool.scratch.get(std::string{kBackup} + "/PLAYERNAMES.CSV"), "own");
+}
+
+TEST(StartDemo, SaysNothingMoreOnAFirstStart)
+{
+    const ScratchFolder scratch;
+    FakePlatform platform;
+    scratch.put("PLAYERNAMES.CSV", playerNamesFile({})); // what the program itself puts into an empty folder
+    platform.programs.whenStarted = [&scratch] {
+        EXPECT_FALSE(scratch.has("PLAYERNAMES.CSV"));
+        scratch.put("TALLYHOOP.INI", "1\r\n");
+    };
+    EXPECT_TRUE(startDemo(scratch.folder(), platform.services));
+    EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kContinueInDemo});
+    EXPECT_EQ(entriesOf(scratch.path()), std::vector<std::string>{"TALLYHOOP.INI"});
+}
+
+TEST(StartDemo, KeepsTwoPoolsOfTheSameSecondApart)
+{
+    Pool pool;
+    pool.platform.programs.whenStarted = [&pool] { pool.scratch.put("TALLYHOOP.INI", "1\r\n"); };
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    pool.scratch.put("POOLSTART.THS", "copied back, and changed");
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(pool.scratch.get(std::string{kBackup} + "/POOLSTART.THS"), "own");
+    EXPECT_EQ(pool.scratch.get(std::string{kBackup} + " (2)/POOLSTART.THS"), "copied back, and changed");
+    EXPECT_EQ(pool.platform.dialogs.shown.back(), ownPoolIsIn(pool.scratch.path() / (std::string{kBackup} + " (2)")));
+}
+
+TEST(StartDemo, ReplacesAnUntouchedDemoWithoutKeepingIt)
+{
+    InstalledDemo demo;
+    demo.platform.programs.whenStarted = [&demo] { demo.scratch.put("TALLYHOOP.INI", "1\r\n"); };
+    EXPECT_TRUE(startDemo(demo.scratch.folder(), demo.platform.services));
+    EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueInDemo});
+    EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{"TALLYHOOP.INI"});
+}
+
+TEST(StartDemo, RemovesNothingWhenThePoolCannotBeKept)
+{
+    Pool pool;
+    const fs::path file = pool.scratch.path() / "TALLYHOOP.THS";
+    fs::resize_file(file, (64u << 20) + 1); // more than the program reads, for root too
+    EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(pool.isUntouched());
+    EXPECT_TRUE(pool.platform.programs.started.empty());
+    EXPECT_EQ(entriesOf(pool.scratch.path()).size(), 5u) << "and nothing half done is left";
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode cannot be started. Nothing was changed.\r\n"
+                                                   " \r\n" +
+                                                       file.string() + "\r\nFile too large");
+    EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
+}
+
+TEST(LeaveDemo, DeletesAnUntouchedDemoWithoutAWordMore)
+{
+    InstalledDemo demo;
+    demo.scratch.put("Own_O.THC", "own");
+    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services, demo.notice));
+    EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{"Own_O.THC"});
+    EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+    EXPECT_EQ(demo.notice, "");
+}
+
+TEST(LeaveDemo, KeepsWhatThePersonChangedMeanwhile)
+{
+    InstalledDemo demo;
+    demo.scratch.put("TALLYHOOP.THS", "my results");
+    demo.scratch.put("Demo Prophet_DP.THC", "my picks");
+    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services, demo.notice));
+    EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{kBackup});
+    EXPECT_EQ(entriesOf(demo.scratch.path() / kBackup),
+              (std::vector<std::string>{"Demo Prophet_DP.THC", "TALLYHOOP.THS"}));
+    EXPECT_EQ(demo.scratch.get(std::string{kBackup} + "/TALLYHOOP.THS"), "my results");
+    EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+    EXPECT_EQ(demo.notice, kOwnChangesAreKept);
+}
+
+TEST(LeaveDemo, RemovesNothingAndStaysOnWhenAChangedFileCannotBeKept)
+{
+    InstalledDemo demo;
+    fs::resize_file(demo.scratch.path() / "TALLYHOOP.THS", (64u << 20) + 1); // more than the program reads
+    EXPECT_FALSE(leaveDemo(demo.scratch.folder(), demo.platform.services, demo.notice));
+    EXPECT_EQ(entriesOf(demo.scratch.path()).size(), 8u);
+    EXPECT_TRUE(demoModeIsOn(demo.scratch.folder()));
+    ASSERT_EQ(demo.platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(demo.platform.dialogs.shown[0].text, "Demonstration mode cannot be left. Nothing was changed.\r\n \r\n" +
+                                                       (demo.scratch.path() / "TALLYHOOP.THS").string() +
+                                                       "\r\nFile too large");
+}
+
+} // namespace
+} // namespace tallyhoop::test

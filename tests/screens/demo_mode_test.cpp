@@ -1,0 +1,253 @@
+// tests/screens/demo_mode_test.cpp - entering and leaving demo mode, and what stays when that fails.
+#include "screens/demo_pool.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyhoop::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+ui::Message noSamplePool(const Pool& pool, const std::string& reason)
+{
+    return {kCaption,
+            "The sample pool could not be installed.\r\n \r\n" + (pool.scratch.path() / "DEMOSET.EXE").string() +
+                "\r\n" + reason,
+            ui::Buttons::Ok, ui::Icon::Critical};
+}
+
+TEST(ClearDemoDataFiles, DeletesThePoolAndTheSampleSelectionsOnly)
+{
+    Pool pool;
+    pool.scratch.put("TALLYHOOP.INI", "1\r\n");
+    for (const char* name : kDemoSelectionFiles)
+        pool.scratch.put(name, "sample");
+    EXPECT_TRUE(clearDemoDataFiles(pool.scratch.folder()));
+    EXPECT_EQ(entriesOf(pool.scratch.path()), (std::vector<std::string>{"NCAALIST.THS", "Own_O.THC"}));
+}
+
+TEST(ClearDemoDataFiles, SucceedsWhenThereAreNone)
+{
+    const ScratchFolder scratch;
+    EXPECT_TRUE(clearDemoDataFiles(scratch.folder()));
+}
+
+TEST(ClearDemoDataFiles, NamesTheFirstFileItCouldNotDeleteAndDeletesTheOthers)
+{
+    Pool pool;
+    fs::create_directory(pool.scratch.path() / "TALLYHOOP.INI");
+    const Result<Done> outcome = clearDemoDataFiles(pool.scratch.folder());
+    ASSERT_FALSE(outcome);
+    EXPECT_EQ(outcome.failure().message, (pool.scratch.path() / "TALLYHOOP.INI").string() + "\r\nIs a directory");
+    EXPECT_TRUE(pool.isCleared());
+}
+
+TEST(StartDemo, ClearsStartsTheInstallerAndWaitsForOk)
+{
+    Pool pool;
+    pool.platform.programs.whenStarted = [&pool] {
+        EXPECT_TRUE(pool.isCleared()) << "the installer must find a cleared folder";
+        EXPECT_TRUE(pool.platform.dialogs.shown.empty());
+        pool.scratch.put("TALLYHOOP.INI", "1\r\n");
+    };
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(pool.platform.programs.started, std::vector<fs::path>{pool.scratch.path() / "DEMOSET.EXE"});
+    EXPECT_EQ(pool.platform.dialogs.shown,
+              (std::vector<ui::Message>{kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup)}));
+    EXPECT_TRUE(demoModeIsOn(pool.scratch.folder()));
+    EXPECT_TRUE(pool.scratch.has("NCAALIST.THS"));
+    EXPECT_TRUE(pool.scratch.has("Own_O.THC"));
+}
+
+TEST(StartDemo, LetsASlowInstallerFinishAfterAHastyOk)
+{
+    Pool pool;
+    int looks = 0;
+    pool.platform.programs.whileWaitedFor = [&] {
+        ++looks;
+        if (looks == 2)
+            pool.scratch.put("POOLSTART.THS", "*START*\r\n*END*\r\n");
+        if (looks == 3)
+            pool.scratch.put("TALLYHOOP.INI", "1\r\n"); // the last file
+    };
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::DemoEntered);
+    EXPECT_EQ(looks, 3);
+    EXPECT_EQ(pool.platform.dialogs.shown,
+              (std::vector<ui::Message>{kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup)}));
+}
+
+TEST(StartDemo, TellsAtOnceThatTheInstallerHasFailedAndWhy)
+{
+    Pool pool;
+    int looks = 0;
+    pool.platform.programs.whileWaitedFor = [&] { ++looks; };
+    pool.platform.programs.end = Failure{"The sample pool could not be written.\r\nNo space left on device"};
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(pool.platform.dialogs.shown,
+              (std::vector<ui::Message>{kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup),
+                                        noSamplePool(pool, "The sample pool could not be written.\r\n"
+                                                           "No space left on device")}));
+}
+
+TEST(StartDemo, TellsThatTheInstallerHasEndedWithoutASamplePool)
+{
+    Pool pool;
+    pool.platform.programs.end = Done{};
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has ended without writing a sample pool."));
+}
+
+TEST(StartDemo, TakesTheSamplePoolOfAnInstallerThatHasEnded)
+{
+    Pool pool;
+    pool.platform.programs.whenStarted = [&pool] { pool.scratch.put("TALLYHOOP.INI", "1\r\n"); };
+    pool.platform.programs.end = Done{};
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::DemoEntered);
+}
+
+TEST(StartDemo, GivesAnInstallerUpThatDoesNotFinish)
+{
+    Pool pool;
+    int looks = 0;
+    pool.platform.programs.whileWaitedFor = [&] { ++looks; };
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_EQ(looks, 1000) << "a hundredth of a second each";
+    EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has not finished."));
+}
+
+TEST(StartDemo, GivesTheInstallerUpWhenThePersonDoes)
+{
+    Pool pool;
+    pool.platform.progress.cancelAt = 70;
+    int looks = 0;
+    pool.platform.programs.whileWaitedFor = [&] { ++looks; };
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_EQ(looks, 70);
+    EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has not finished."));
+    EXPECT_EQ(pool.platform.progress.ended, pool.platform.progress.begun);
+}
+
+TEST(StartDemo, DeletesNothingWhenTheInstallerCannotBeStarted)
+{
+    Pool pool;
+    pool.platform.programs.checkTrouble = Failure{"Permission denied"};
+    EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(pool.isUntouched());
+    EXPECT_TRUE(pool.platform.programs.started.empty());
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
+    const ui::Message& message = pool.platform.dialogs.shown[0];
+    EXPECT_EQ(message.caption, kCaption);
+    EXPECT_EQ(message.icon, ui::Icon::Critical);
+    EXPECT_EQ(message.buttons, ui::Buttons::Ok);
+    EXPECT_EQ(message.text, "Demonstration mode cannot be started. Nothing was changed.\r\n \r\n" +
+                                (pool.scratch.path() / "DEMOSET.EXE").string() + "\r\nPermission denied");
+}
+
+TEST(StartDemo, StartsNothingWhenTheFolderCannotBeWritten)
+{
+    const ScratchFolder scratch;
+    FakePlatform platform;
+    const DataFolder gone{scratch.path() / "gone"};
+    EXPECT_FALSE(startDemo(gone, platform.services));
+    EXPECT_TRUE(platform.programs.started.empty());
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.shown[0].caption, kCaption);
+    EXPECT_EQ(platform.dialogs.shown[0].text, "Demonstration mode cannot be started. Nothing was changed.\r\n \r\n" +
+                                                  gone.folder().string() + "\r\nNo such file or directory");
+}
+
+TEST(StartDemo, DoesNotStartTheInstallerOverAFileThatCouldNotBeDeleted)
+{
+    Pool pool;
+    fs::create_directory(pool.scratch.path() / "TALLYHOOP.INI");
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_TRUE(pool.platform.programs.started.empty());
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
+    EXPECT_EQ(pool.platform.dialogs.shown[1], ownPoolIsIn(pool.scratch.path() / kBackup)) << "part of it is gone";
+}
+
+TEST(StartDemo, SaysThatTheInstallerFailedToStartAfterAll)
+{
+    Pool pool;
+    pool.platform.programs.startTrouble = Failure{"Out of memory"};
+    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(pool.platform.dialogs.shown[1], ownPoolIsIn(pool.scratch.path() / kBackup));
+    EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode could not be started.\r\n \r\n" +
+                                                       (pool.scratch.path() / "DEMOSET.EXE").string() +
+                                                       "\r\nOut of memory");
+    EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
+}
+
+TEST(EnterDemo, AsksFirst)
+{
+    Pool pool;
+    pool.platform.dialogs.answer(ui::Answer::Ok);
+    pool.platform.programs.whenStarted = [&pool] {
+        EXPECT_TRUE(pool.isCleared());
+        pool.scratch.put("TALLYHOOP.INI", "1\r\n");
+    };
+    EXPECT_TRUE(enterDemo(pool.scratch.folder(), pool.platform.services));
+    const ui::Message question{"** DEMO MODE SET **",
+                               "You have selected to enter DEMO MODE\r\n"
+                               " \r\n"
+                               "If you continue, any setup activity INCLUDING the \r\n"
+                               "files defining the starting tournament teams and\r\n"
+                               "the special comments will be deleted..\r\n"
+                               " \r\n"
+                               "Do you want to enter DEMO Mode?",
+                               ui::Buttons::OkCancel, ui::Icon::Question};
+    EXPECT_EQ(pool.platform.dialogs.shown,
+              (std::vector<ui::Message>{question, kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup)}));
+    EXPECT_TRUE(pool.scratch.has("TALLYHOOP.INI"));
+}
+
+TEST(EnterDemo, ChangesNothingOnCancel)
+{
+    Pool pool;
+    pool.platform.dialogs.answer(ui::Answer::Cancel);
+    EXPECT_FALSE(enterDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(pool.isUntouched());
+    EXPECT_TRUE(pool.platform.programs.started.empty());
+}
+
+TEST(LeaveDemo, ClearsWithoutAskingAndSaysWhatFollows)
+{
+    Pool pool;
+    pool.scratch.put("tallyhoop.ini", "1\r\n");
+    EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services, pool.notice));
+    EXPECT_TRUE(pool.isCleared());
+    EXPECT_FALSE(demoModeIsOn(pool.scratch.folder()));
+    EXPECT_EQ(pool.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+    EXPECT_EQ(pool.notice, kOwnChangesAreKept);
+}
+
+TEST(LeaveDemo, DeletesNothingWhenThereAreNoDemoFiles)
+{
+    const ScratchFolder scratch;
+    FakePlatform platform;
+    std::string notice;
+    scratch.put("Own_O.THC", "own");
+    EXPECT_TRUE(leaveDemo(scratch.folder(), platform.services, notice));
+    EXPECT_TRUE(scratch.has("Own_O.THC"));
+    EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+}
+
+TEST(LeaveDemo, SaysWhichFileStayed)
+{
+    Pool pool;
+    fs::create_directory(pool.scratch.path() / "POOLSTART.THS.d");
+    fs::remove(pool.scratch.path() / "POOLSTART.THS");
+    fs::rename(pool.scratch.path() / "POOLSTART.THS.d", pool.scratch.path() / "POOLSTART.THS");
+    EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services, pool.notice));
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(pool.platform.dialogs.shown[0].text, "A file of the demonstration could not be deleted.\r\n \r\n" +
+                                                       (pool.scratch.path() / "POOLSTART.THS").string() +
+                                                       "\r\nIs a directory");
+    EXPECT_EQ(pool.platform.dialogs.shown[1], kContinueNormally);
+}
+
+} // namespace
+} // namespace tallyhoop::test

@@ -1,0 +1,189 @@
+// tests/screens/reports/reports_screen_mail_test.cpp - reports by e-mail.
+#include "screens/reports/reports_screen_fixture.h"
+
+namespace tallyhoop::test {
+namespace {
+
+struct ReportsMail : ReportsScreenTest {
+    ReportsMail()
+    {
+        putFourPlayers(folder);
+        screen.load();
+        sendFromTheDialog({{"a@example.org", "b@example.org"}, "Standings", "Hello all", false, false});
+    }
+
+    std::vector<std::string> attachedNames() const
+    {
+        std::vector<std::string> names;
+        for (const ui::Attachment& attachment : platform.mail.sent.at(0).attachments)
+            names.push_back(attachment.file.filename().string());
+        return names;
+    }
+};
+
+TEST_F(ReportsMail, SendsOneMessageWithAllReports)
+{
+    tick({kStandings, kTeamSummary, kByTeam});
+
+    create(kEmail);
+
+    EXPECT_EQ(screens.loads, (std::vector{FakeScreens::Load{ScreenKind::EMail, Opening::Plain}}));
+    ASSERT_EQ(platform.mail.sent.size(), 1u);
+    const ui::MailMessage& message = platform.mail.sent[0];
+    EXPECT_EQ(message.recipients, (std::vector<std::string>{"a@example.org", "b@example.org"}));
+    EXPECT_EQ(message.subject, "Standings");
+    EXPECT_EQ(message.body, "Hello all          ");
+    EXPECT_EQ(message.placeholders, 10u);
+    EXPECT_EQ(attachedNames(), (std::vector<std::string>{"RPTOPT1.TXT", "RPTOPT3.TXT", "RPTOPT7.TXT"}));
+    EXPECT_EQ(message.attachments[0].position, 11u); // 19 - 8
+    EXPECT_EQ(message.attachments[1].position, 12u);
+    EXPECT_EQ(message.attachments[2].position, 13u);
+    EXPECT_EQ(message.attachments[0].file, folder.path() / "RPTOPT1.TXT");
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+}
+
+TEST_F(ReportsMail, HasTheReportFilesReadyBeforeTheDialogOpens)
+{
+    tick({kStandings, kByTeam});
+    screens.whenLoaded = [this](ScreenKind) {
+        EXPECT_TRUE(folder.has("RPTOPT1.TXT"));
+        EXPECT_TRUE(folder.has("RPTOPT7.TXT"));
+        EXPECT_EQ(platform.progress.begun, platform.progress.ended);
+        state.mailDraft.cancelled = true;
+    };
+
+    create(kEmail);
+
+    EXPECT_TRUE(platform.mail.sent.empty());
+}
+
+TEST_F(ReportsMail, TellsTheDialogWhetherEverybodyIsToBeAddressed)
+{
+    tick({kStandings});
+
+    create(kEmail);
+    EXPECT_FALSE(requested.emailAll);
+
+    create(kEmailAll);
+    EXPECT_TRUE(requested.emailAll);
+    EXPECT_TRUE(requested.recipients.empty());
+}
+
+TEST_F(ReportsMail, LeavesOutAReportThatFailed)
+{
+    std::filesystem::remove(folder.path() / "TALLYHOOP.THS");
+    folder.put("RPTOPT1.TXT", "last week's");
+    tick({kStandings, kTeamSummary});
+
+    create(kEmail);
+
+    EXPECT_FALSE(isTicked(kStandings));
+    EXPECT_EQ(attachedNames(), std::vector<std::string>{"RPTOPT3.TXT"});
+}
+
+TEST_F(ReportsMail, NeverAttachesTheOlderFileOfAReportThatFailedButStaysTicked)
+{
+    for (const PoolEntry& player : fourPlayers().players)
+        std::filesystem::remove(folder.path() / player.fileName);
+    folder.put("RPTOPT5.TXT", "last week's");
+    tick({kListing, kPlayerDetail});
+
+    create(kEmail);
+
+    EXPECT_TRUE(isTicked(kPlayerDetail));
+    EXPECT_EQ(attachedNames(), std::vector<std::string>{"RPTOPT2.TXT"});
+}
+
+TEST_F(ReportsMail, ShowsNoDialogWhenEveryReportFailed)
+{
+    std::filesystem::remove(folder.path() / "TALLYHOOP.THS");
+    tick({kStandings, kByTeam});
+
+    create(kEmailAll);
+
+    EXPECT_TRUE(screens.loads.empty());
+    EXPECT_TRUE(platform.mail.sent.empty());
+    EXPECT_EQ(platform.dialogs.shown.size(), 2u);
+}
+
+TEST_F(ReportsMail, EndsSilentlyWhenTheDialogIsCancelled)
+{
+    sendFromTheDialog({{}, {}, {}, true, false});
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_FALSE(state.mailDraft.cancelled);
+    EXPECT_EQ(platform.mail.signOns, 0);
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+}
+
+TEST_F(ReportsMail, SignsOnAndOffAroundTheMessage)
+{
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_EQ(platform.mail.signOns, 1);
+    EXPECT_EQ(platform.mail.signOffs, 1);
+    EXPECT_FALSE(platform.mail.open);
+}
+
+TEST_F(ReportsMail, UsesASessionThatIsStillOpen)
+{
+    platform.mail.open = true;
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_EQ(platform.mail.signOns, 0);
+    EXPECT_EQ(platform.mail.signOffs, 1);
+}
+
+TEST_F(ReportsMail, EmptiesTheRecipientsBehindIt)
+{
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_TRUE(state.mailDraft.recipients.empty());
+}
+
+TEST_F(ReportsMail, SaysSoWhenThereIsNoMailSystem)
+{
+    platform.mail.signOnTrouble = Failure{"No mail client was found."};
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_EQ(platform.dialogs.shown,
+              std::vector{exclamation("Tallyhoop - frmPoolReports, MailReports", "No mail client was found.")});
+    EXPECT_TRUE(platform.mail.sent.empty());
+    EXPECT_TRUE(folder.has("RPTOPT1.TXT"));
+}
+
+TEST_F(ReportsMail, SaysSoWhenTheMessageCouldNotBeHandedOverAndSignsOff)
+{
+    platform.mail.sendTrouble = Failure{"The mail client did not start."};
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_EQ(platform.dialogs.shown,
+              std::vector{exclamation("Tallyhoop - frmPoolReports, MailReports", "The mail client did not start.")});
+    EXPECT_EQ(platform.mail.signOffs, 1);
+    EXPECT_TRUE(folder.has("RPTOPT1.TXT"));
+}
+
+TEST_F(ReportsMail, CarriesAllSevenReports)
+{
+    tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam});
+
+    create(kEmailAll);
+
+    EXPECT_EQ(attachedNames(), (std::vector<std::string>{"RPTOPT1.TXT", "RPTOPT2.TXT", "RPTOPT3.TXT", "RPTOPT4.TXT",
+                                                         "RPTOPT5.TXT", "RPTOPT6.TXT", "RPTOPT7.TXT"}));
+}
+
+} // namespace
+} // namespace tallyhoop::test

@@ -1,0 +1,268 @@
+// tests/screens/reports/reports_screen_output_test.cpp - reports to the printer, to a preview and to PDF.
+#include "screens/reports/reports_screen_fixture.h"
+
+#include <algorithm>
+
+namespace tallyhoop::test {
+namespace {
+
+const ui::Message kPrintingFailed{
+    "", "Error in attempting to print to the printer\r\nCheck you printer for proper attachment", ui::Buttons::Ok,
+    ui::Icon::Critical};
+
+struct ReportsOutput : ReportsScreenTest {
+    ReportsOutput()
+    {
+        putFourPlayers(folder);
+        screen.load();
+    }
+};
+
+TEST_F(ReportsOutput, PrintsEachTickedReportInItsOrientation)
+{
+    tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam});
+
+    create(kPrinter);
+
+    const auto across = ui::Orientation::Landscape;
+    const auto upright = ui::Orientation::Portrait;
+    std::vector<ui::Orientation> orientations;
+    for (const ui::TextPrintout& printout : platform.printer.texts)
+        orientations.push_back(printout.orientation);
+    EXPECT_EQ(orientations, (std::vector{across, across, upright, upright, across, upright, upright}));
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+}
+
+TEST_F(ReportsOutput, PrintsTheLinesOfTheWorkFileAndLeavesTheReportFileAlone)
+{
+    folder.put("RPTOPT1.TXT", "older");
+    tick({kStandings});
+
+    create(kPrinter);
+
+    ASSERT_EQ(platform.printer.texts.size(), 1u);
+    const ui::TextPrintout& printout = platform.printer.texts[0];
+    EXPECT_EQ(printout.font, (ui::PrinterFont{"Courier New", 10}));
+    ASSERT_EQ(printout.lines.size(), 11u);
+    EXPECT_EQ(printout.lines[3], " ");
+    std::string bytes;
+    for (const std::string& line : printout.lines)
+        bytes += line + "\r\n";
+    EXPECT_EQ(folder.get("TEMPPRT.TXT"), bytes);
+    EXPECT_EQ(folder.get("RPTOPT1.TXT"), "older");
+}
+
+TEST_F(ReportsOutput, CentresTheBlockOfTextOnThePage)
+{
+    tick({kStandings});
+
+    create(kPrinter);
+
+    // The longest line is the second heading, 78 characters: (11840 - 720 - 9360) / 2
+    ASSERT_EQ(platform.printer.texts.size(), 1u);
+    EXPECT_EQ(platform.printer.texts[0].originTwips, 880);
+}
+
+TEST_F(ReportsOutput, StaysAtTheLeftEdgeWhenAReportIsWiderThanThePage)
+{
+    platform.printer.pageWidth = 9000;
+    tick({kStandings});
+
+    create(kPrinter);
+
+    ASSERT_EQ(platform.printer.texts.size(), 1u);
+    EXPECT_EQ(platform.printer.texts[0].originTwips, 0);
+}
+
+TEST_F(ReportsOutput, HandsFormFeedsOverAsLinesOfTheirOwn)
+{
+    tick({kPlayerDetail});
+
+    create(kPrinter);
+
+    ASSERT_EQ(platform.printer.texts.size(), 1u);
+    EXPECT_EQ(std::ranges::count(platform.printer.texts[0].lines, "\f"), 3);
+}
+
+TEST_F(ReportsOutput, AsksForAPrinterBeforeEveryReportOnceTheDefaultPrinterIsNotWanted)
+{
+    tick({kStandings, kListing});
+    create(kPrinter);
+    EXPECT_EQ(platform.printer.printerDialogs, 0);
+
+    screen.cmdDefaultPrinter.click();
+    EXPECT_EQ(screen.cmdDefaultPrinter.caption, "Select non default printer");
+    create(kPrinter);
+    EXPECT_EQ(platform.printer.printerDialogs, 2);
+
+    screen.cmdDefaultPrinter.click();
+    EXPECT_EQ(screen.cmdDefaultPrinter.caption, "Use default printer");
+    create(kPrinter);
+    EXPECT_EQ(platform.printer.printerDialogs, 2);
+}
+
+TEST_F(ReportsOutput, GoesOnQuietlyWithTheNextReportWhenThePrinterDialogIsCancelled)
+{
+    screen.cmdDefaultPrinter.click();
+    platform.printer.dialogAccepted = false;
+    tick({kStandings, kListing});
+
+    create(kPrinter);
+
+    EXPECT_EQ(platform.printer.printerDialogs, 2);
+    EXPECT_TRUE(platform.printer.texts.empty());
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+    EXPECT_TRUE(isTicked(kStandings));
+}
+
+TEST_F(ReportsOutput, PrintsInTheFontThatIsChosenWhenCourierNewIsMissing)
+{
+    platform.printer.fonts = {"Arial"};
+    platform.printer.chosenFont = ui::PrinterFont{"Fixed", 9};
+    tick({kStandings});
+
+    create(kPrinter);
+
+    ASSERT_EQ(platform.printer.texts.size(), 1u);
+    EXPECT_EQ(platform.printer.texts[0].font.name, "Fixed");
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+}
+
+TEST_F(ReportsOutput, ReportsAPrintingFailureAndKeepsTheTick)
+{
+    platform.printer.trouble = Failure{"out of paper"};
+    tick({kStandings});
+
+    create(kPrinter);
+
+    EXPECT_EQ(platform.dialogs.shown, std::vector{kPrintingFailed});
+    EXPECT_TRUE(isTicked(kStandings));
+}
+
+TEST_F(ReportsOutput, IsBusyWhileItPrintsAndNoLongerWhenAFailureIsTold)
+{
+    tick({kStandings});
+    platform.printer.trouble = Failure{"out of paper"};
+    int busy = 0;
+    platform.printer.whilePrinting = [&] { busy += platform.progress.begun - platform.progress.ended; };
+    platform.dialogs.whileShown = [this](const ui::Message&) {
+        EXPECT_EQ(platform.progress.begun, platform.progress.ended);
+    };
+
+    create(kPrinter);
+    EXPECT_EQ(busy, 1);
+
+    platform.dialogs.pick(folder.path() / "standings.PDF");
+    screen.cmdSavePdf.click();
+    EXPECT_EQ(busy, 2);
+    EXPECT_EQ(platform.dialogs.shown, (std::vector{kPrintingFailed, kPrintingFailed}));
+}
+
+TEST_F(ReportsOutput, ShowsTickedReportsInAPreviewWithoutWritingOrPrintingAnything)
+{
+    tick({kStandings, kByTeam});
+
+    screen.cmdPreview.click();
+
+    ASSERT_EQ(platform.printer.previewedTexts.size(), 2u);
+    EXPECT_EQ(platform.printer.previewedTexts[0].lines.size(), 11u);
+    EXPECT_EQ(platform.printer.previewedTexts[0].orientation, ui::Orientation::Landscape);
+    EXPECT_EQ(platform.printer.previewedTexts[0].originTwips, 880);
+    EXPECT_TRUE(platform.printer.texts.empty());
+    EXPECT_EQ(platform.printer.printerDialogs, 0);
+    EXPECT_FALSE(anyReportWritten());
+}
+
+TEST_F(ReportsOutput, ExplainsThatAPreviewNeedsATick)
+{
+    screen.cmdPreview.click();
+
+    EXPECT_EQ(platform.dialogs.shown,
+              std::vector{exclamation("Tallyhoop - frmPoolReports, Preview",
+                                      "You will need to select one of the Report Selections before\r\n"
+                                      "choosing the \"Preview\" Command Button")});
+}
+
+TEST_F(ReportsOutput, ShowsTheReasonWhenAPreviewedReportCannotBeMade)
+{
+    std::filesystem::remove(folder.path() / "TALLYHOOP.THS");
+    tick({kStandings});
+
+    screen.cmdPreview.click();
+
+    EXPECT_EQ(platform.dialogs.captionsShown(),
+              std::vector<std::string>{"Tallyhoop - frmPoolReports, Tournament Standings"});
+    EXPECT_FALSE(isTicked(kStandings));
+    EXPECT_TRUE(platform.printer.previewedTexts.empty());
+}
+
+TEST_F(ReportsOutput, SavesEachTickedReportAsThePdfThatThePersonNames)
+{
+    tick({kStandings, kTeamDetail});
+    platform.dialogs.pick(folder.path() / "standings.pdf").pick(folder.path() / "teams");
+
+    screen.cmdSavePdf.click();
+
+    EXPECT_EQ(platform.printer.pdfs, (std::vector{folder.path() / "standings.pdf", folder.path() / "teams.PDF"}));
+    ASSERT_EQ(platform.dialogs.fileChoices.size(), 2u);
+    EXPECT_EQ(platform.dialogs.fileChoices[0].proposedName, "RPTOPT1.PDF");
+    EXPECT_EQ(platform.dialogs.fileChoices[0].folder, folder.path());
+    EXPECT_EQ(platform.dialogs.fileChoices[1].proposedName, "RPTOPT4.PDF");
+    EXPECT_EQ(platform.printer.texts[0].orientation, ui::Orientation::Landscape);
+    EXPECT_EQ(platform.printer.texts[1].orientation, ui::Orientation::Portrait);
+}
+
+TEST_F(ReportsOutput, SavesNoPdfWhenThePersonCancels)
+{
+    tick({kStandings});
+    platform.dialogs.pick(std::nullopt);
+
+    screen.cmdSavePdf.click();
+
+    EXPECT_TRUE(platform.printer.pdfs.empty());
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+}
+
+TEST_F(ReportsOutput, AsksBeforeItReplacesAPdf)
+{
+    const std::filesystem::path file = folder.put("old.pdf", "old");
+    tick({kStandings});
+
+    platform.dialogs.pick(file).answer(ui::Answer::No);
+    screen.cmdSavePdf.click();
+    EXPECT_TRUE(platform.printer.pdfs.empty());
+    EXPECT_EQ(platform.dialogs.shown[0],
+              (ui::Message{"", "Do you want to replace the existing file ?\r\n" + shown(file), ui::Buttons::YesNo,
+                           ui::Icon::Question}));
+
+    platform.dialogs.pick(file).answer(ui::Answer::Yes);
+    screen.cmdSavePdf.click();
+    EXPECT_EQ(platform.printer.pdfs, std::vector{file});
+}
+
+TEST_F(ReportsOutput, ReportsAPdfThatCouldNotBeWritten)
+{
+    platform.printer.trouble = Failure{"disk full"};
+    tick({kStandings});
+    platform.dialogs.pick(folder.path() / "standings.pdf");
+
+    screen.cmdSavePdf.click();
+
+    EXPECT_EQ(platform.dialogs.shown, std::vector{kPrintingFailed});
+}
+
+TEST_F(ReportsOutput, PreviewsAndSavesTheBoard)
+{
+    platform.dialogs.pick(folder.path() / "board.pdf");
+
+    screen.cmdPreviewBoard.click();
+    screen.cmdSaveBoardPdf.click();
+
+    ASSERT_EQ(platform.printer.previewedDrawings.size(), 1u);
+    EXPECT_EQ(platform.printer.previewedDrawings[0].orientation, ui::Orientation::Landscape);
+    EXPECT_EQ(platform.printer.pdfs, std::vector{folder.path() / "board.pdf"});
+    EXPECT_EQ(platform.printer.drawings.size(), 1u);
+}
+
+} // namespace
+} // namespace tallyhoop::test

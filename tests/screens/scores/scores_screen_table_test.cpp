@@ -1,0 +1,189 @@
+// tests/screens/scores/scores_screen_table_test.cpp - the table of scores: dragged headings, clicked cells, paper,
+// clipboard.
+#include "screens/scores/scores_screen_fixture.h"
+
+namespace tallyhoop::test {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+TEST_F(ScoreDisplay, RestoresTheOriginalColumnsWhenCalculatingAgain)
+{
+    putThreePlayers();
+    screen.load();
+    screen.cmdOk.click();
+    dragHeading(2, 0);
+    screen.cmdOk.click();
+    EXPECT_THAT(headings(), ElementsAre("File Name", "Player Name", "Score", "-MAX-", "Winning Pick"));
+    EXPECT_THAT(column(0), ElementsAre("Adams_QA.THC", "Brown_TB.THC", "Smith_JS.THC"));
+}
+
+TEST_F(ScoreDisplay, SortsByScoreDownwardsWhenThatHeadingIsDraggedToTheFront)
+{
+    putThreePlayers();
+    putPlayer("Clark_TC.THC", "TC", "Clark", everyUpperTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    dragHeading(2, 0); // the first row holds 0 for Adams: upwards
+    EXPECT_THAT(column(0), ElementsAre("0", "8", "32", "32"));
+
+    screen.cmdOk.click();
+    dragHeading(3, 0); // the maximum: 136, 144, 168, 168
+    EXPECT_THAT(headings(), ElementsAre("-MAX-", "File Name", "Player Name", "Score", "Winning Pick"));
+    EXPECT_THAT(column(0), ElementsAre("168", "168", "144", "136"));
+    EXPECT_THAT(column(1), ElementsAre("Clark_TC.THC", "Smith_JS.THC", "Brown_TB.THC", "Adams_QA.THC"))
+        << "equal in every number: the order of arrival";
+}
+
+TEST_F(ScoreDisplay, OrdersEqualScoresByTheFollowingColumns)
+{
+    putPlayer("A_A.THC", "A", "A", without(everyUpperTeamWins(), 127, 127)); // 32 of 152
+    putPlayer("B_B.THC", "B", "B", everyUpperTeamWins());                    // 32 of 168
+    screen.load();
+    screen.cmdOk.click();
+    dragHeading(2, 0);
+    EXPECT_THAT(column(0), ElementsAre("32", "32"));
+    EXPECT_THAT(column(1), ElementsAre("B_B.THC", "A_A.THC")) << "the maximum decides: names count as 0";
+}
+
+TEST_F(ScoreDisplay, SortsAgainInThePresentOrderOnAPressAndReleaseOfOneHeading)
+{
+    putThreePlayers();
+    screen.load();
+    screen.cmdOk.click();
+    dragHeading(1, 0); // player name to the front
+    EXPECT_THAT(column(0), ElementsAre("JS, Smith", "QA, Adams", "TB, Brown"));
+    dragHeading(3, 3);
+    EXPECT_THAT(column(0), ElementsAre("JS, Smith", "QA, Adams", "TB, Brown"));
+    EXPECT_EQ(screen.msgScoreDisplay.headingPressed, std::nullopt);
+}
+
+TEST_F(ScoreDisplay, LeavesTheOrderAloneWhenAHeadingIsDroppedOutside)
+{
+    putThreePlayers();
+    screen.load();
+    screen.cmdOk.click();
+    const auto rows = screen.msgScoreDisplay.rows;
+    screen.msgScoreDisplay.columnPressed(2);
+    EXPECT_EQ(screen.msgScoreDisplay.headingPressed, 2u);
+    screen.msgScoreDisplay.columnReleased(std::nullopt);
+    EXPECT_EQ(screen.msgScoreDisplay.rows, rows);
+    EXPECT_EQ(headings().front(), "File Name");
+    EXPECT_EQ(screen.msgScoreDisplay.headingPressed, std::nullopt);
+
+    screen.msgScoreDisplay.columnReleased(1); // a release that nothing was pressed for
+    EXPECT_EQ(screen.msgScoreDisplay.rows, rows);
+}
+
+TEST_F(ScoreDisplay, MarksThePlayersVerdictWhenAFileNameIsClicked)
+{
+    putThreePlayers();
+    screen.load();
+    screen.cmdOk.click();
+    const std::size_t before = board.calls.size();
+    screen.msgScoreDisplay.cellPressed(0, 0); // Adams
+    EXPECT_THAT(boardCallsSince(before), ElementsAre("ClearMarks", "captureBoard", "MarkScores"));
+    EXPECT_EQ(state.verdict.SlotStatus[17], Verdict::Bad);
+    screen.msgScoreDisplay.cellPressed(2, 0); // Smith
+    EXPECT_EQ(state.verdict.SlotStatus[17], Verdict::Good);
+}
+
+TEST_F(ScoreDisplay, DoesNothingWhenAnotherCellIsClicked)
+{
+    putThreePlayers();
+    screen.load();
+    screen.cmdOk.click();
+    const std::size_t before = board.calls.size();
+    for (const std::size_t other : {1u, 2u, 3u, 4u})
+        screen.msgScoreDisplay.cellPressed(0, other);
+    EXPECT_THAT(boardCallsSince(before), IsEmpty());
+}
+
+TEST_F(ScoreDisplay, KnowsAFileNameInWhateverColumnAndCaseItStands)
+{
+    putPlayer("zorn_z.thc", "Z", "Zorn", everyUpperTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    dragHeading(0, 4); // to the end
+    const std::size_t before = board.calls.size();
+    screen.msgScoreDisplay.cellPressed(0, 4);
+    EXPECT_THAT(boardCallsSince(before), ElementsAre("ClearMarks", "captureBoard", "MarkScores"));
+}
+
+TEST_F(ScoreDisplay, MarksAFileWhoseNameWouldNotStandForAFileOfTheFolder)
+{
+    putPlayer("Team: Red\\_X.THC", "X", "Red", everyUpperTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    screen.msgScoreDisplay.cellPressed(0, 0);
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+    EXPECT_EQ(state.verdict.SlotStatus[17], Verdict::Good);
+}
+
+TEST_F(ScoreDisplay, NeverReadsOutsideTheFolderForACellThatLooksLikeAFileName)
+{
+    std::filesystem::create_directory(scratch.path() / "sub");
+    scratch.put("sub/X.THC", selectionFile(everyUpperTeamWins()));
+    putPlayer("Smith_JS.THC", "JS", "sub/X.THC", everyUpperTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    ASSERT_THAT(screen.msgScoreDisplay.rows[0], ::testing::Contains("JS, sub/X.THC"));
+    const std::size_t before = board.calls.size();
+    for (std::size_t column = 1; column < 5; ++column)
+        screen.msgScoreDisplay.cellPressed(0, column);
+    EXPECT_THAT(boardCallsSince(before), ElementsAre("ClearMarks"));
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+}
+
+TEST_F(ScoreDisplay, PrintsTheTableInCourierNewPortraitWithoutAsking)
+{
+    putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    screen.cmdPrint.click();
+    EXPECT_EQ(platform.printer.printerDialogs, 0);
+    ASSERT_EQ(platform.printer.texts.size(), 1u);
+    const ui::TextPrintout& printout = platform.printer.texts[0];
+    EXPECT_EQ(printout.font, (ui::PrinterFont{"Courier New", 10, false, false}));
+    EXPECT_EQ(printout.orientation, ui::Orientation::Portrait);
+    EXPECT_THAT(printout.lines, ElementsAre("                TALLYHOOP POINT SUMMARY: 5-March-01", "", "",
+                                            "     File Name     Player Name   Score   -MAX-  Winning Pick", "",
+                                            "     Smith_JS.THC  JS, Smith        32     168  Team 1      "));
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+}
+
+TEST_F(ScoreDisplay, PrintsNothingWhenTheFontDialogIsCancelled)
+{
+    platform.printer.fonts.clear();
+    screen.load();
+    screen.cmdPrint.click();
+    EXPECT_EQ(platform.printer.fontDialogs, 1);
+    EXPECT_THAT(platform.printer.texts, IsEmpty());
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u) << "the missing font, and no word about the cancel";
+}
+
+TEST_F(ScoreDisplay, SaysWhenPrintingFails)
+{
+    platform.printer.trouble = Failure{"no printer"};
+    screen.load();
+    screen.cmdPrint.click();
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.shown[0].caption, "");
+    EXPECT_EQ(platform.dialogs.shown[0].text, "Error in attempting to print to the printer\r\n"
+                                              "Check you printer for proper attachment");
+}
+
+TEST_F(ScoreDisplay, CopiesTheTableForASpreadsheet)
+{
+    putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    dragHeading(2, 0);
+    screen.cmdCopy.click();
+    EXPECT_EQ(platform.clipboard.text, "Score\tFile Name\tPlayer Name\t-MAX-\tWinning Pick\r\n"
+                                       "32\tSmith_JS.THC\tJS, Smith\t168\tTeam 1\r\n");
+}
+
+} // namespace
+} // namespace tallyhoop::test

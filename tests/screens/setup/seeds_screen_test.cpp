@@ -1,0 +1,141 @@
+// Entering the seeds of the first-round rows.
+#include "screens/setup/seeds_screen.h"
+
+#include "screens/setup/setup_fixture.h"
+
+namespace tallyhoop::test {
+namespace {
+
+class SeedsScreenTest : public SetupFixture
+{
+protected:
+    std::unique_ptr<SeedsScreen> seats;
+
+    SeedsScreen& opened()
+    {
+        loaded();
+        seats = std::make_unique<SeedsScreen>(*made, computer.services, state, screens);
+        seats->load();
+        return *seats;
+    }
+
+    std::vector<std::string> seedsBeside(std::size_t region) const
+    {
+        std::vector<std::string> texts;
+        for (std::size_t row = 0; row < 16; ++row)
+            texts.push_back(made->lblSeed[16 * region + row].text);
+        return texts;
+    }
+};
+
+const std::vector<std::string> kDefaults = {" 1", "16", " 8", " 9", " 5", "12", " 4", "13",
+                                            " 6", "11", " 3", "14", " 7", "10", " 2", "15"};
+const std::vector<std::string> kPlainDefaults = {"1", "16", "8", "9",  "5", "12", "4", "13",
+                                                 "6", "11", "3", "14", "7", "10", "2", "15"};
+
+TEST_F(SeedsScreenTest, ShowsTheSeedsAndTheFirstRegionsTeams)
+{
+    loaded().txtRegion[3].text = "Duke"; // as on the screen, saved or not
+    SeedsScreen screen{*made, computer.services, state, screens};
+    EXPECT_EQ(screen.caption, "Seed Positions Entry");
+    EXPECT_EQ(screen.lblRegion[15].text, "Team16");
+    screen.load();
+    EXPECT_EQ(screen.txtSeed[0].text, " 1");
+    EXPECT_EQ(screen.txtSeed[15].text, "15");
+    EXPECT_EQ(screen.lblRegion[0].text, "TEAM1");
+    EXPECT_EQ(screen.lblRegion[3].text, "Duke");
+    EXPECT_EQ(screen.txtSeed[0].maxLength, 4);
+}
+
+TEST_F(SeedsScreenTest, TheDefaultsPassAndLoseTheirLeadingBlanks)
+{
+    opened().cmdComplete.click();
+    EXPECT_TRUE(dialogs().shown.empty());
+    for (const std::size_t region : {0U, 1U, 2U, 3U})
+        EXPECT_EQ(seedsBeside(region), kPlainDefaults);
+    for (std::size_t row = 0; row < 16; ++row)
+        EXPECT_EQ(state.seedLabels[row], kPlainDefaults[row]);
+    EXPECT_EQ(screens.unloads, std::vector{ScreenKind::SeedPositions});
+    EXPECT_EQ(made->status, "There are changes that are not saved yet.");
+}
+
+TEST_F(SeedsScreenTest, NewSeedsAreWrittenOnlyWhenTheSetupIsSaved)
+{
+    opened();
+    for (std::size_t row = 0; row < 16; ++row)
+        seats->txtSeed[row].text = std::to_string(16 - row);
+    seats->txtSeed[9].text = " 07 "; // row 9 holds 16 - 9
+    seats->cmdComplete.click();
+    EXPECT_FALSE(files.has("POOLSTART.THS"));
+    made->mnuSaveStartingField.click();
+    EXPECT_NE(files.get("POOLSTART.THS")
+                  .find("\r\n16\r\n15\r\n14\r\n13\r\n12\r\n11\r\n10\r\n9\r\n8\r\n7\r\n6\r\n5\r\n4\r\n3\r\n2\r\n1\r\n"),
+              std::string::npos);
+}
+
+TEST_F(SeedsScreenTest, RefusesInvalidSeedsAndStaysOpenAsTyped)
+{
+    for (const char* seed : {"5", "0", "17", "", "x", "16.4", "0.6", "-1"}) {
+        opened(); // row 4 already holds 5
+        dialogs().shown.clear();
+        screens.unloads.clear();
+        seats->txtSeed[7].text = seed;
+        seats->cmdComplete.click();
+        EXPECT_EQ(dialogs().shown,
+                  (std::vector<ui::Message>{{"SEED Entry ERROR",
+                                             "You have entered invalid entries for the SEED postions.\r\n"
+                                             "Numbers must be between 1 & 16 without duplicating",
+                                             ui::Buttons::Ok, ui::Icon::None}}))
+            << seed;
+        EXPECT_TRUE(screens.unloads.empty());
+        EXPECT_EQ(seats->txtSeed[7].text, seed);
+        EXPECT_EQ(seedsBeside(0), kDefaults);
+        EXPECT_EQ(state.seedLabels[7], "13");
+    }
+}
+
+TEST_F(SeedsScreenTest, AFractionCountsAsTheNearestWholeNumber)
+{
+    opened();
+    seats->txtSeed[0].text = "1.4";
+    seats->cmdComplete.click();
+    EXPECT_TRUE(dialogs().shown.empty());
+    EXPECT_EQ(made->lblSeed[48].text, "1");
+
+    opened();
+    seats->txtSeed[0].text = "1.4";
+    seats->txtSeed[14].text = "1"; // was 2
+    seats->cmdComplete.click();
+    EXPECT_EQ(dialogs().captionsShown(), std::vector<std::string>{"SEED Entry ERROR"});
+}
+
+TEST_F(SeedsScreenTest, HalvesGoToTheEvenNumber)
+{
+    opened();
+    seats->txtSeed[14].text = "2.5"; // 2, which it was
+    seats->txtSeed[10].text = "3";
+    seats->cmdComplete.click();
+    EXPECT_TRUE(dialogs().shown.empty());
+    EXPECT_EQ(made->lblSeed[14].text, "2");
+}
+
+TEST_F(SeedsScreenTest, CancelAndTheCloseButtonChangeNothing)
+{
+    for (const bool byButton : {true, false}) {
+        opened();
+        screens.unloads.clear();
+        seats->txtSeed[0].text = "2";
+        seats->txtSeed[14].text = "1";
+        if (byButton)
+            seats->cmdCancel.click();
+        else
+            seats->closeRequested();
+        EXPECT_EQ(seedsBeside(0), kDefaults);
+        EXPECT_EQ(seedsBeside(3), kDefaults);
+        EXPECT_EQ(state.seedLabels[0], " 1");
+        EXPECT_EQ(screens.unloads, std::vector{ScreenKind::SeedPositions});
+    }
+}
+
+} // namespace
+} // namespace tallyhoop::test
