@@ -39,5 +39,5 @@ cd Tallyhoop
 if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
     exec ./tallyhoop
 fi
-unset QT_QPA_PLATFORM # a platform without windows would leave nothing to look at
+unset QT_QPA_PLATFORM # a platform without windows would show nothing
 run_on_virtual_display ./tallyhoop "$picture"

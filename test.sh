@@ -10,7 +10,7 @@ install_packages build screen test bench
 build_preset release build -DTALLYHOOP_TESTS=ON -DTALLYHOOP_BENCH=ON
 build_preset sanitizers build-sanitizers -DTALLYHOOP_TESTS=ON
 
-# One run over both builds, so that one summary tells it all.
+# One run over both builds, so that there is one summary.
 mkdir -p build-tests
 cat >build-tests/CTestTestfile.cmake <<TESTS
 subdirs("$PWD/build" "$PWD/build-sanitizers")

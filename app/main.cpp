@@ -48,7 +48,7 @@ int main(int argc, char** argv)
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ":/kept-nowhere");
 
     const DataFolder folder = programFolder();
-    modTallyhoop state;
+    SharedValues shared;
     qt::MainFrame frame;
     qt::Desk desk{&frame};
     qt::QtDialogs dialogs{desk};
@@ -66,7 +66,7 @@ int main(int argc, char** argv)
     const ui::Platform platform{dialogs, printer, mail, help, programs, clock, progress, clipboard};
 
     qt::ScreenHost host{desk, frame};
-    registerScreens(host, folder, platform, state);
+    registerScreens(host, folder, platform, shared);
     desk.helpWanted = [&](const std::string& topic) { showHelp(folder, platform, topic); };
     frame.open();
     QTimer::singleShot(0, &frame, [&] { startUp(folder, platform, host); });

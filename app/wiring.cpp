@@ -30,40 +30,53 @@ auto shownBy()
 
 } // namespace
 
-void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state)
+void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::Platform& platform, SharedValues& shared)
 {
     using qt::Placement;
     // Screens that work on the board or on the setup are loaded while it is, and unloaded before it.
-    const auto board = [&host]() -> BracketBoard& { return *host.find<BoardScreen>(ScreenKind::Board); };
+    const auto board = [&host]() -> BoardScreen& { return *host.find<BoardScreen>(ScreenKind::Board); };
     const auto setup = [&host]() -> SetupScreen& { return *host.find<SetupScreen>(ScreenKind::Setup); };
 
     host.registerScreen<BoardScreen>(
         ScreenKind::Board, Placement::Stacked,
-        [&](Opening opening) { return std::make_unique<BoardScreen>(folder, platform, state, host, opening); },
+        [&](const std::string& notice) {
+            return std::make_unique<BoardScreen>(
+                folder, platform, host, BoardScreen::Shared{shared.field, shared.savedPlayer, shared.listedVerdicts},
+                notice);
+        },
         shownBy<qt::BoardView, BoardScreen>());
     host.registerScreen<ScoresScreen>(
-        ScreenKind::ScoreDisplay, Placement::OwnWindow,
-        [&, board](Opening) { return std::make_unique<ScoresScreen>(folder, platform, state, host, board()); },
+        ScreenKind::Scores, Placement::OwnWindow,
+        [&, board](const std::string&) {
+            return std::make_unique<ScoresScreen>(folder, platform, host, shared.field, board().bracket(),
+                                                  shared.listedVerdicts);
+        },
         shownBy<qt::ScoreDisplayView, ScoresScreen>());
     host.registerScreen<SetupScreen>(
         ScreenKind::Setup, Placement::Stacked,
-        [&](Opening opening) { return std::make_unique<SetupScreen>(folder, platform, state, host, opening); },
+        [&](const std::string& notice) {
+            return std::make_unique<SetupScreen>(folder, platform, host, shared.field, notice);
+        },
         shownBy<qt::SetupView, SetupScreen>());
     host.registerScreen<SeedsScreen>(
-        ScreenKind::SeedPositions, Placement::Modal,
-        [&, setup](Opening) { return std::make_unique<SeedsScreen>(setup(), platform, state, host); },
+        ScreenKind::Seeds, Placement::Modal,
+        [&, setup](const std::string&) {
+            return std::make_unique<SeedsScreen>(setup().teamsOfFirstRegion(), setup().seeds(), platform.dialogs, host);
+        },
         shownBy<qt::SeedPositionsView, SeedsScreen>());
     host.registerScreen<ReportsScreen>(
         ScreenKind::Reports, Placement::Stacked,
-        [&, board](Opening) { return std::make_unique<ReportsScreen>(folder, platform, state, host, board()); },
+        [&, board](const std::string&) {
+            return std::make_unique<ReportsScreen>(folder, platform, host, shared.field, shared.mailDraft, board());
+        },
         shownBy<qt::ReportsView, ReportsScreen>());
     host.registerScreen<PlayersScreen>(
-        ScreenKind::PlayerNames, Placement::Stacked,
-        [&](Opening) { return std::make_unique<PlayersScreen>(folder, platform, state, host); },
+        ScreenKind::Players, Placement::Stacked,
+        [&](const std::string&) { return std::make_unique<PlayersScreen>(folder, platform, host, shared.savedPlayer); },
         shownBy<qt::PlayerNamesView, PlayersScreen>());
     host.registerScreen<EmailScreen>(
-        ScreenKind::EMail, Placement::Modal,
-        [&](Opening) { return std::make_unique<EmailScreen>(folder, platform, state, host); },
+        ScreenKind::Email, Placement::Modal,
+        [&](const std::string&) { return std::make_unique<EmailScreen>(folder, platform, host, shared.mailDraft); },
         shownBy<qt::EmailView, EmailScreen>());
 }
 

@@ -1,14 +1,27 @@
-// app/wiring.h - which class stands behind each screen, and what it is handed.
+// app/wiring.h - which class is behind each screen, and what it is handed.
 #pragma once
 
 #include "files/data_folder.h"
+#include "pool/field.h"
+#include "pool/scoring.h"
 #include "qt/screen_host.h"
-#include "screens/mod_tallyhoop.h"
+#include "screens/hand_overs.h"
 #include "ui/platform.h"
+
+#include <optional>
 
 namespace tallyhoop {
 
+/// What outlives a screen. Nobody gets all of it: each value is handed to the screens that need it.
+struct SharedValues {
+    Field field;                            ///< the open field
+    std::optional<SavedPlayer> savedPlayer; ///< from the board to the player list
+    std::optional<Verdicts> listedVerdicts; ///< from the list of scores to the board
+    MailDraft mailDraft;                    ///< between the reports and the e-mail dialog
+};
+
 /// Registers every screen with the host. All arguments must outlive the host's screens.
-void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state);
+void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::Platform& platform,
+                     SharedValues& shared);
 
 } // namespace tallyhoop

@@ -23,7 +23,7 @@ long long roundHalfEven(double value);
 /// @returns a failure naming the text when it does not fit -32768..32767
 Result<std::int16_t> wholeNumber(std::string_view text);
 
-/// Three digits with leading zeros, "007"; a minus sign stands before them, "-064"; a longer number widens.
+/// Three digits with leading zeros, "007"; a minus sign comes before them, "-064"; a longer number widens.
 std::string threeDigits(long long value);
 
 /// Right-aligned in three characters, "  7"; a longer number widens.

@@ -34,11 +34,11 @@ std::string repeated(char character, std::size_t count);
 /// Splits at every separator; an empty text gives one empty piece.
 std::vector<std::string> split(std::string_view text, char separator);
 
-/// Puts a row where it belongs in a list kept in ascending case-insensitive order, behind equal ones.
+/// Puts a row where it belongs in a list kept in ascending case-insensitive order, after equal ones.
 /// @returns the row's index
 std::size_t insertSorted(std::vector<std::string>& rows, std::string row);
 
-/// Joins lines with CR LF, none behind the last.
+/// Joins lines with CR LF, none after the last.
 std::string joinLines(const std::vector<std::string>& lines);
 
 } // namespace tallyhoop

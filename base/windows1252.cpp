@@ -59,7 +59,7 @@ Lead leadOf(unsigned char byte)
     return {};
 }
 
-/// Takes one character and moves on behind it. A broken sequence moves on by the bytes that belong to it.
+/// Takes one character and moves on after it. A broken sequence moves on by the bytes that belong to it.
 std::optional<char32_t> nextCharacter(std::string_view utf8, std::size_t& place)
 {
     const Lead lead = leadOf(byteAt(utf8, place++));
@@ -77,7 +77,7 @@ std::optional<char32_t> nextCharacter(std::string_view utf8, std::size_t& place)
 /// @returns the small letter of an accented capital, the byte itself when it is none
 constexpr unsigned char foldedAccent(unsigned char byte)
 {
-    constexpr unsigned char kTimes = 0xD7; // stands among the capitals and is none
+    constexpr unsigned char kTimes = 0xD7; // is among the capitals and is none
     if (byte >= 0xC0 && byte <= 0xDE && byte != kTimes)
         return static_cast<unsigned char>(byte + 0x20);
     if (byte == 0x8A || byte == 0x8C || byte == 0x8E)
@@ -183,9 +183,9 @@ bool startsWithFolded(std::string_view text, std::string_view prefix)
     return text.size() >= prefix.size() && compareFolded(text.substr(0, prefix.size()), prefix) == 0;
 }
 
-bool endsWithFolded(std::string_view text, std::string_view ending)
+bool endsWithFolded(std::string_view text, std::string_view end)
 {
-    return text.size() >= ending.size() && compareFolded(text.substr(text.size() - ending.size()), ending) == 0;
+    return text.size() >= end.size() && compareFolded(text.substr(text.size() - end.size()), end) == 0;
 }
 
 } // namespace tallyhoop

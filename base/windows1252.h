@@ -34,7 +34,7 @@ int compareFolded(std::string_view left, std::string_view right);
 
 bool equalFolded(std::string_view left, std::string_view right);
 bool startsWithFolded(std::string_view text, std::string_view prefix);
-bool endsWithFolded(std::string_view text, std::string_view ending);
+bool endsWithFolded(std::string_view text, std::string_view end);
 
 /// Orders texts for sorted lists; equal keys are left in order of arrival by stable sorts.
 struct FoldedLess {

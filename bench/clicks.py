@@ -9,6 +9,6 @@ with measure.pool(arguments.players, arguments.folder) as folder:
         for _ in range(arguments.rounds):
             windows.begin()
         clicks = measure.of(windows.rest(), "click")
-measure.tell("click to repaint", clicks)
+measure.show("click to repaint", clicks)
 measure.tell_ratio("median, milliseconds", measure.median(clicks), 5)
 measure.tell_ratio("99th percentile", measure.percentile(clicks, 0.99), 16)

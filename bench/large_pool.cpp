@@ -6,7 +6,6 @@
 #include "files/player_names_file.h"
 #include "files/selection_file.h"
 #include "files/setup_file.h"
-#include "pool/numbered_bracket.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -31,34 +30,29 @@ void put(const std::filesystem::path& file, std::string_view bytes)
 
 } // namespace
 
-std::vector<SelectionLines> randomBrackets(std::size_t count)
+std::vector<Bracket> randomBrackets(std::size_t count)
 {
     std::mt19937 random{2000};
-    std::vector<SelectionLines> brackets(count, demo::sampleResults());
-    for (SelectionLines& lines : brackets)
-        for (std::size_t slot = 1; slot <= 127; ++slot)
-            if (bracketSlots()[slot].round != 0)
-                lines[slot] = lines[bracketSlots()[slot].feeders[random() % 2]];
+    std::vector<Bracket> brackets(count, demo::sampleResults().picks);
+    for (Bracket& bracket : brackets)
+        for (const Position game : gamePositions())
+            bracket.copy((*feeders(game))[random() % 2], game);
     return brackets;
 }
 
 void makeLargePool(const std::filesystem::path& folder, std::size_t players)
 {
     std::filesystem::create_directories(folder);
-    std::vector<SelectionLines> brackets = randomBrackets(players);
+    const std::vector<Bracket> brackets = randomBrackets(players);
     std::vector<PlayerRecord> records;
     for (std::size_t i = 0; i < players; ++i) {
         // Scattered, so that there is something to sort.
         const std::string name = fmt::format("Player{:05}", i * 7919 % 100'003);
         const std::string fileName = name + "_PX.THC";
-        SelectionLines& lines = brackets[i];
-        lines[selection_line::kInitials] = "PX";
-        lines[selection_line::kName] = name;
-        lines[selection_line::kFinalPoints] = fmt::format("{}", 100 + i % 100);
-        put(folder / fileName, selectionFile(lines));
+        put(folder / fileName, selectionFile({brackets[i], "PX", name, fmt::format("{}", 100 + i % 100), fileName}));
         records.push_back({name, fileName, name + "@example.org", "555-0100"});
     }
-    put(folder / file_name::kSetup, setupFile(demo::sampleSetup()));
+    put(folder / file_name::kSetup, setupFile(demo::sampleField()));
     put(folder / file_name::kResults, selectionFile(demo::sampleResults()));
     put(folder / file_name::kPlayerNames, playerNamesFile(records));
 }

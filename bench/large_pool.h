@@ -1,7 +1,7 @@
 // bench/large_pool.h - a pool far larger than an office: made up, the same every time.
 #pragma once
 
-#include "pool/pool_lines.h"
+#include "pool/bracket.h"
 
 #include <cstddef>
 #include <filesystem>
@@ -10,7 +10,7 @@
 namespace tallyhoop::bench {
 
 /// Brackets over the sample field, each game's winner left to chance; the same ones on every computer.
-std::vector<SelectionLines> randomBrackets(std::size_t count);
+std::vector<Bracket> randomBrackets(std::size_t count);
 
 /// Fills a folder, which may be there already, with a finalized field, results up to the Final Four, a list of this
 /// many players and a selection of each. Ends the program with a message when a file cannot be written.

@@ -12,5 +12,5 @@ with measure.pool(arguments.players, arguments.folder) as folder:
             figures = windows.rest()
         for what, most in (("open", 100), ("key", 20)):
             pairs = measure.of(figures, what)
-            measure.tell(f"{screen}: {what}", pairs)
+            measure.show(f"{screen}: {what}", pairs)
             measure.tell_ratio("... median, milliseconds", measure.median(pairs), most)

@@ -1,7 +1,7 @@
-"""What the scripts share: a large pool in a folder of its own, the reference, rounds in turn, and how they are told.
+"""What the scripts share: a large pool in a folder of its own, the reference, rounds in turn, and how the figures are printed.
 
 On a busy machine only figures of one run can be compared: what is measured and what it is measured against take turns,
-round by round, and the medians are compared. The processor time beside the wall time tells how much of it was waiting.
+round by round, and the medians are compared. The processor time beside the wall time shows how much of it was waiting.
 """
 
 import argparse
@@ -103,7 +103,7 @@ def percentile(pairs, share):
     return walls[min(len(walls) - 1, int(len(walls) * share))]
 
 
-def tell(name, pairs):
+def show(name, pairs):
     walls = [wall for wall, _ in pairs]
     print(f"{name:<24} median {median(pairs):8.2f} ms   least {min(walls):8.2f} ms   "
           f"processor {median(pairs, 1):8.2f} ms   ({len(pairs)} rounds)")

@@ -1,9 +1,10 @@
-// bench/report_once.cpp - makes one report, or none, in a process of its own, so that its peak memory can be told:
+// bench/report_once.cpp - makes one report, or none, in a process of its own, so that its peak memory is known:
 // folder of the pool, the report's place in the table ("none" only opens the screen).
 //
 // Prints the seconds it took, those of the processor, the peak memory in KiB, and every message that was shown.
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
+#include "files/setup_file.h"
 #include "screens/reports/reports_screen.h"
 
 #include <charconv>
@@ -18,7 +19,7 @@ namespace {
 
 using namespace tallyhoop;
 
-/// Of this process alone: what the system tells of children may be the memory of the parent they were forked from.
+/// Of this process alone: what the system says of children may be the memory of the parent they were forked from.
 long peakKilobytes()
 {
     std::ifstream status{"/proc/self/status"};
@@ -42,11 +43,11 @@ int main(int argc, char** argv)
 
     const DataFolder folder{argv[1]};
     test::FakePlatform platform;
-    modTallyhoop state;
-    state.setupLines[setup_line::kTitle] = "Office Pool";
-    test::FakeBoard board{state};
+    test::FakeBoard board;
     test::FakeScreens screens;
-    ReportsScreen reports{folder, platform.services, state, screens, board};
+    MailDraft draft;
+    const Field field = readField(folder).value;
+    ReportsScreen reports{folder, platform.services, screens, field, draft, board};
     reports.load();
     ui::selectOption(reports.optDestination, 1); // to the report's file
     reports.chkOptions[report].ticked = any;

@@ -2,7 +2,6 @@
 //
 // Run all in one go and compare: what a report costs beyond reading is the ratio, whatever the machine.
 #include "fakes/fake_platform.h"
-#include "fakes/fake_screens.h"
 #include "files/replace_file.h"
 #include "reports/report_pool.h"
 #include "screens/reports/report_maker.h"
@@ -22,13 +21,13 @@ struct LargePool {
 
     LargePool()
     {
-        const ReadPool four = fourPlayers();
+        const std::vector<Entry> four = fourPlayers();
         for (int i = 0; i < kPlayers; ++i) {
-            SelectionLines lines = four.players[static_cast<std::size_t>(i % 4)].lines;
-            lines[selection_line::kName] = "Player " + std::to_string(i);
-            folder.put("Player " + std::to_string(i) + "_AB.THC", selectionFile(lines));
+            Entry entry = four[static_cast<std::size_t>(i % 4)];
+            entry.name = "Player " + std::to_string(i);
+            folder.put(entry.name + "_AB.THC", selectionFile(entry));
         }
-        folder.put("TALLYHOOP.THS", fourPlayersResults().file());
+        folder.put("TALLYHOOP.THS", selectionFile(fourPlayersResults()));
         files = dataFolder.files(".THC");
     }
 };
@@ -52,9 +51,8 @@ void makingReport(benchmark::State& state)
 {
     const LargePool& pool = largePool();
     FakePlatform platform;
-    modTallyhoop shared;
-    FakeBoard board{shared};
-    ReportMaker maker{pool.dataFolder, platform.services, board};
+    const Field field = defaultField();
+    ReportMaker maker{pool.dataFolder, platform.services, field};
     const ReportKind& kind = reportTable()[static_cast<std::size_t>(state.range(0))];
     for (auto _ : state) {
         MadeReport made = maker.make(kind, "Office Pool 2001", pool.files);

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Builds the benchmarks and runs all of them, as bench/README.md tells; about ten minutes on a computer of its own.
-# "smoke" as the only argument runs each once on a tiny pool: does it still work? Then TALLYHOOP_BUILD names the build.
+# Builds the benchmarks and runs all of them, as bench/README.md describes; about ten minutes on an idle computer.
+# With "smoke" as the only argument it runs each once on a tiny pool, to check that it works; TALLYHOOP_BUILD names the
+# build.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -19,7 +20,7 @@ fi
 build="$TALLYHOOP_BUILD"
 export TALLYHOOP_BUILD="$build"
 
-# Qt wants a folder of its own; without one it says so at every start.
+# Qt needs this folder; without it, it prints a warning at every start.
 XDG_RUNTIME_DIR="$(mktemp -d)"
 export XDG_RUNTIME_DIR
 trap 'rm -rf "$XDG_RUNTIME_DIR"' EXIT

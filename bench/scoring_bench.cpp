@@ -11,6 +11,10 @@
 
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
 
 namespace tallyhoop {
 namespace {
@@ -18,6 +22,29 @@ namespace {
 using bench::randomBrackets;
 
 constexpr Payoffs kPayoffs{1, 2, 4, 8, 12, 16};
+
+const Bracket& results()
+{
+    static const Bracket bracket = demo::sampleResults().picks;
+    return bracket;
+}
+
+ByPosition<std::string_view> teamsOf(const Bracket& bracket)
+{
+    ByPosition<std::string_view> teams;
+    for (const Position position : allPositions())
+        teams[position] = bracket.at(position);
+    return teams;
+}
+
+/// Brackets as files give them: numbered like the results.
+std::vector<Bracket> bracketsOfFiles()
+{
+    std::vector<Bracket> brackets = randomBrackets(10'000);
+    for (Bracket& bracket : brackets)
+        bracket = Bracket::of(teamsOf(bracket), results());
+    return brackets;
+}
 
 /// Times what is done with one item after another, over and over; they are counted.
 template <class Item, class Act>
@@ -31,34 +58,47 @@ void inTurn(benchmark::State& state, const std::vector<Item>& items, Act act)
     state.SetItemsProcessed(state.iterations());
 }
 
-/// The inner scoring: brackets numbered beforehand.
+/// As every report and the score display do: the brackets have the numbers of the results.
 void ScoreNumbered(benchmark::State& state)
 {
-    const SelectionLines results = demo::sampleResults();
-    std::vector<NumberedPair> pairs;
-    for (const SelectionLines& picks : randomBrackets(10'000))
-        pairs.push_back(NumberedResults{results}.pairWith(picks));
-    inTurn(state, pairs, [](const NumberedPair& pair) { return scoreNumbered(pair, kPayoffs); });
+    inTurn(state, bracketsOfFiles(), [](const Bracket& picks) { return score(picks, results(), kPayoffs); });
 }
 BENCHMARK(ScoreNumbered);
 
-/// What scoring does first when names are texts.
-void NumberThePicks(benchmark::State& state)
+/// Brackets with a table of names of their own, as one with an unknown team has.
+void ScoreWithOwnTable(benchmark::State& state)
 {
-    const std::vector<SelectionLines> brackets = randomBrackets(10'000);
-    const SelectionLines results = demo::sampleResults();
-    const NumberedResults numbered{results};
-    inTurn(state, brackets, [&](const SelectionLines& picks) { return numbered.pairWith(picks); });
+    std::vector<Bracket> brackets = randomBrackets(10'000);
+    for (Bracket& bracket : brackets)
+        bracket = Bracket::of(teamsOf(bracket));
+    inTurn(state, brackets, [](const Bracket& picks) { return score(picks, results(), kPayoffs); });
 }
-BENCHMARK(NumberThePicks);
+BENCHMARK(ScoreWithOwnTable);
 
-/// Names as text, verdict and eliminated teams included.
+/// The bytes of 10,000 files, without the disk.
+std::vector<std::string> filesOf(const std::vector<Bracket>& brackets)
+{
+    std::vector<std::string> files;
+    files.reserve(brackets.size());
+    for (const Bracket& bracket : brackets)
+        files.push_back(selectionFile({bracket, "PX", "Player", "140", ""}));
+    return files;
+}
+
+/// From the bytes of a file to a numbered bracket.
+void ReadAPick(benchmark::State& state)
+{
+    inTurn(state, filesOf(randomBrackets(10'000)),
+           [](const std::string& bytes) { return readSelection(bytes, results()); });
+}
+BENCHMARK(ReadAPick);
+
+/// The same, and scored.
 void ScorePicks(benchmark::State& state)
 {
-    const std::vector<SelectionLines> brackets = randomBrackets(10'000);
-    const SelectionLines results = demo::sampleResults();
-    const Scoring scoring{results, kPayoffs};
-    inTurn(state, brackets, [&](const SelectionLines& picks) { return scoring.score(picks); });
+    inTurn(state, filesOf(randomBrackets(10'000)), [](const std::string& bytes) {
+        return score(readSelection(bytes, results()).value.picks, results(), kPayoffs);
+    });
 }
 BENCHMARK(ScorePicks);
 
@@ -68,10 +108,9 @@ class ScoreDisplay
 public:
     explicit ScoreDisplay(std::int64_t players)
     {
-        board.onBoard = demo::sampleResults();
-        const std::vector<SelectionLines> brackets = randomBrackets(static_cast<std::size_t>(players));
+        const std::vector<Bracket> brackets = randomBrackets(static_cast<std::size_t>(players));
         for (std::size_t i = 0; i < brackets.size(); ++i)
-            scratch.put(fmt::format("Player {:05}_PX.THC", i), selectionFile(brackets[i]));
+            scratch.put(fmt::format("Player {:05}_PX.THC", i), selectionFile({brackets[i], "", "", "", ""}));
         screen.load();
     }
 
@@ -84,10 +123,10 @@ public:
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     test::FakePlatform platform;
-    modTallyhoop shared;
     test::FakeScreens screens;
-    test::FakeBoard board{shared};
-    ScoresScreen screen{folder, platform.services, shared, screens, board};
+    Field field = demo::sampleField();
+    std::optional<Verdicts> verdicts;
+    ScoresScreen screen{folder, platform.services, screens, field, results(), verdicts};
 };
 
 /// The reference for Calculate: the same files, read and thrown away.

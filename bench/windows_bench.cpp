@@ -36,7 +36,7 @@ class Program
 public:
     explicit Program(const std::filesystem::path& path) : folder{path}
     {
-        registerScreens(host, folder, platform, state);
+        registerScreens(host, folder, platform, shared);
         frame.open();
         startUp(folder, platform, host);
         settle();
@@ -61,7 +61,7 @@ public:
     }
 
     const DataFolder folder;
-    modTallyhoop state;
+    SharedValues shared;
     MainFrame frame;
     Desk desk{&frame};
     QtDialogs dialogs{desk};
@@ -153,11 +153,11 @@ void standings(Program& program)
 
 void scores(Program& program)
 {
-    program.host.find<BoardScreen>(ScreenKind::Board)->EnterGameResults();
+    program.host.find<BoardScreen>(ScreenKind::Board)->enterGameResults();
     program.desk.push();
-    program.host.load(ScreenKind::ScoreDisplay);
-    auto& grid = program.find<QTableView>(ScreenKind::ScoreDisplay, "msgScoreDisplay");
-    auto& calculate = program.find<QPushButton>(ScreenKind::ScoreDisplay, "cmdOk");
+    program.host.load(ScreenKind::Scores);
+    auto& grid = program.find<QTableView>(ScreenKind::Scores, "msgScoreDisplay");
+    auto& calculate = program.find<QPushButton>(ScreenKind::Scores, "cmdOk");
     QWidget& heading = *grid.horizontalHeader()->viewport();
     const auto middleOf = [&](int column) {
         const QHeaderView& header = *grid.horizontalHeader();
@@ -179,8 +179,8 @@ void clicks(Program& program)
 {
     auto& board = *program.host.find<BoardScreen>(ScreenKind::Board);
     QWidget& canvas = program.find(ScreenKind::Board, "bracketCanvas");
-    const auto click = [&](int position, Qt::MouseButton button) {
-        const std::string name = "lblRegion_" + std::to_string(position);
+    const auto click = [&](Position position, Qt::MouseButton button) {
+        const std::string name = "lblRegion_" + std::to_string(index(position));
         const QPoint place = program.find(ScreenKind::Board, name.c_str()).geometry().center();
         measurePainted("click", canvas, [&] {
             QTest::mousePress(&canvas, button, {}, place);
@@ -188,13 +188,15 @@ void clicks(Program& program)
         });
     };
     while (awaitRound())
-        for (int position = 0; position < kChampion; ++position) {
-            const auto target = static_cast<std::size_t>(bracketMap().NextPosition(position));
-            const auto& from = board.lblRegion[static_cast<std::size_t>(position)].text;
-            if (!from.empty() && board.lblRegion[target].text != from)
+        for (const Position position : allPositions()) {
+            const std::optional<Position> target = next(position);
+            if (!target)
+                continue;
+            const Bracket& bracket = board.bracket();
+            if (!bracket.isEmpty(position) && bracket.at(*target) != bracket.at(position))
                 click(position, Qt::LeftButton);
-            if (position % 9 == 0 && !board.lblRegion[target].text.empty())
-                click(static_cast<int>(target), Qt::RightButton);
+            if (index(position) % 9 == 0 && !bracket.isEmpty(*target))
+                click(*target, Qt::RightButton);
         }
 }
 
@@ -209,13 +211,13 @@ void names(Program& program)
 {
     while (awaitRound()) {
         measure("open", [&] {
-            program.host.load(ScreenKind::PlayerNames);
-            PaintWatch watch{*program.find<QAbstractScrollArea>(ScreenKind::PlayerNames, "lstNames").viewport()};
+            program.host.load(ScreenKind::Players);
+            PaintWatch watch{*program.find<QAbstractScrollArea>(ScreenKind::Players, "lstNames").viewport()};
             watch.wait();
         });
-        auto& name = program.find(ScreenKind::PlayerNames, "txtName");
+        auto& name = program.find(ScreenKind::Players, "txtName");
         typeInto(name, "player0999", "key", name);
-        program.host.unload(ScreenKind::PlayerNames);
+        program.host.unload(ScreenKind::Players);
     }
 }
 
@@ -226,15 +228,15 @@ void email(Program& program)
         const double processorBegin = processorSeconds();
         // The dialog runs a loop of its own.
         QTimer::singleShot(0, qApp, [&] {
-            auto& players = program.find<QAbstractScrollArea>(ScreenKind::EMail, "lstPlayerNames");
+            auto& players = program.find<QAbstractScrollArea>(ScreenKind::Email, "lstPlayerNames");
             PaintWatch{*players.viewport()}.wait();
             const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begin;
             std::cout << "open " << took.count() << ' ' << (processorSeconds() - processorBegin) * 1000 << std::endl;
-            auto& entry = program.find(ScreenKind::EMail, "txtEntry");
+            auto& entry = program.find(ScreenKind::Email, "txtEntry");
             typeInto(entry, "player0999", "key", entry);
-            program.host.unload(ScreenKind::EMail);
+            program.host.unload(ScreenKind::Email);
         });
-        program.host.load(ScreenKind::EMail);
+        program.host.load(ScreenKind::Email);
     }
 }
 

@@ -1,5 +1,5 @@
-# cmake/hardening.cmake - the flags that Debian builds its packages with: a slip of ours ends the program instead of doing
-# what the author of a data file has in mind.
+# cmake/hardening.cmake - the flags that Debian builds its packages with: a memory error ends the program instead of doing
+# what the author of a malicious data file intends.
 #
 # Optimised builds for Linux only: the checked functions of the C library need optimisation, and the sanitizers bring
 # checks of their own.
@@ -20,7 +20,8 @@ function(harden)
         return()
     endif()
     foreach(target ${ARGN})
-        # Objects for an executable at any address; those that use Qt get the -fPIC it wants from Qt, which comes later.
+        # Position-independent executables; objects that use Qt get the -fPIC that it needs from Qt's own flags, which
+        # follow these.
         target_compile_options(${target} PRIVATE
             -fPIE
             -fstack-protector-strong

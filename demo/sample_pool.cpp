@@ -7,7 +7,6 @@
 #include "files/file_names.h"
 #include "files/selection_file.h"
 #include "files/setup_file.h"
-#include "screens/demo_mode.h"
 
 #include <algorithm>
 #include <span>
@@ -16,22 +15,11 @@ namespace tallyhoop::demo {
 
 namespace {
 
-SelectionLines selectionOf(const Winners& winners, const std::string& initials, const std::string& name,
-                           const std::string& finalPoints)
+SamplePlayer player(const char* fileName, const Winners& picks, const std::string& initials, const std::string& name,
+                    const std::string& finalPoints, const std::string& email, const std::string& phone)
 {
-    SelectionLines lines = bracketOf(winners);
-    lines[selection_line::kInitials] = initials;
-    lines[selection_line::kName] = name;
-    lines[selection_line::kFinalPoints] = finalPoints;
-    lines[selection_line::kEnd] = kEndMarker;
-    return lines;
-}
-
-SamplePlayer player(const std::string& fileName, const SelectionLines& lines, const std::string& email,
-                    const std::string& phone)
-{
-    const std::string listedName = lines[selection_line::kName] + "," + lines[selection_line::kInitials];
-    return {fileName, lines, {listedName, upperCase(fileName), email, phone}};
+    return {{bracketOf(picks), initials, name, finalPoints, fileName},
+            {name + "," + initials, upperCase(fileName), email, phone}};
 }
 
 std::string playerList()
@@ -68,32 +56,28 @@ void takeBack(const DataFolder& folder, std::span<const SampleFile> written)
 
 } // namespace
 
-SetupLines sampleSetup()
+Field sampleField()
 {
-    SetupLines lines = defaultSetupLines();
-    for (std::size_t team = 0; team < kSampleField.size(); ++team)
-        lines[setup_line::kTeam + team] = kSampleField[team];
-    lines[setup_line::kTitle] = "2000 NCAA Tournament";
-    lines[setup_line::kComment1] = "A sample pool: the tournament of 2000.";
-    lines[setup_line::kComment2] = "Its last three games are still to be entered.";
-    lines[setup_line::kFinalized] = "1";
-    return lines;
+    Field field = defaultField();
+    for (const TeamRow row : allTeamRows())
+        field.teams[row] = kSampleField.at(static_cast<std::size_t>(index(row)));
+    field.title = "2000 NCAA Tournament";
+    field.comment1 = "A sample pool: the tournament of 2000.";
+    field.comment2 = "Its last three games are still to be entered.";
+    field.finalized = "1";
+    return field;
 }
 
-SelectionLines sampleResults() { return selectionOf(kSampleResults, "A", "FinalResults", ""); }
+Entry sampleResults() { return {bracketOf(kSampleResults), "A", "FinalResults", "", ""}; }
 
 std::array<SamplePlayer, 4> samplePlayers()
 {
     // The files' names are what the program proposes: the player's name, "_" and the initials.
-    const auto& [favorite, halfway, longshot, prophet] = kDemoSelectionFiles;
-    return {player(favorite, selectionOf(favouritesBracket(), "DF", "Demo Favorite", "152"), "favorite@example.org",
-                   "555-0101"),
-            player(halfway, selectionOf(incompleteBracket(), "DH", "Demo Halfway", "145"), "halfway@example.org",
-                   "555-0102"),
-            player(longshot, selectionOf(upsetLoversBracket(), "DL", "Demo Longshot", "131"), "longshot@example.org",
-                   "555-0103"),
-            player(prophet, selectionOf(rightChampionsBracket(), "DP", "Demo Prophet", "160"), "prophet@example.org",
-                   "555-0104")};
+    const auto& [favorite, halfway, longshot, prophet] = kSelectionFiles;
+    return {player(favorite, favouritesBracket(), "DF", "Demo Favorite", "152", "favorite@example.org", "555-0101"),
+            player(halfway, incompleteBracket(), "DH", "Demo Halfway", "145", "halfway@example.org", "555-0102"),
+            player(longshot, upsetLoversBracket(), "DL", "Demo Longshot", "131", "longshot@example.org", "555-0103"),
+            player(prophet, rightChampionsBracket(), "DP", "Demo Prophet", "160", "prophet@example.org", "555-0104")};
 }
 
 std::vector<SampleFile> sampleFiles()
@@ -101,9 +85,9 @@ std::vector<SampleFile> sampleFiles()
     std::vector<SampleFile> files{{file_name::kResults, selectionFile(sampleResults())},
                                   {file_name::kPlayerNames, playerList()}};
     for (const SamplePlayer& samplePlayer : samplePlayers())
-        files.push_back({samplePlayer.fileName, selectionFile(samplePlayer.lines)});
+        files.push_back({samplePlayer.entry.fileName, selectionFile(samplePlayer.entry)});
     // Should this be interrupted, the next start finds no field, and offers the demo again.
-    files.push_back({file_name::kSetup, setupFile(sampleSetup())});
+    files.push_back({file_name::kSetup, setupFile(sampleField())});
     files.push_back({file_name::kSettings, "1\r\n"});
     return files;
 }

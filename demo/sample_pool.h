@@ -4,7 +4,7 @@
 #include "base/result.h"
 #include "files/data_folder.h"
 #include "files/player_names_file.h"
-#include "pool/pool_lines.h"
+#include "pool/entry.h"
 
 #include <array>
 #include <string>
@@ -13,11 +13,14 @@
 
 namespace tallyhoop::demo {
 
-/// An invented player: the entry in the player list, and the selection in the file of `fileName`.
+/// The sample players' selection files: few, fixed, and unlikely names for real players.
+inline constexpr std::array<const char*, 4> kSelectionFiles = {"Demo Favorite_DF.THC", "Demo Halfway_DH.THC",
+                                                               "Demo Longshot_DL.THC", "Demo Prophet_DP.THC"};
+
+/// An invented player: the selection, and the record in the player list.
 struct SamplePlayer {
-    std::string fileName;   ///< bare name, as the file is called
-    SelectionLines lines{}; ///< picks, initials, name and tie-breaker
-    PlayerRecord record;    ///< the file's name in capitals, as the program enters it
+    Entry entry;         ///< its file name is the bare name of the file
+    PlayerRecord record; ///< the file's name in capitals, as the program enters it
 };
 
 /// A file to be written: bare name and content.
@@ -27,10 +30,10 @@ struct SampleFile {
 };
 
 /// The field, finalized.
-SetupLines sampleSetup();
+Field sampleField();
 
 /// The results up to and including the regional finals.
-SelectionLines sampleResults();
+Entry sampleResults();
 
 /// In the alphabetical order of the player list.
 std::array<SamplePlayer, 4> samplePlayers();

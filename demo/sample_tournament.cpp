@@ -52,32 +52,27 @@ const std::array<std::string_view, kTeams> kSampleField = {
 const Winners kSampleResults{
     .regions = {kWest, kMidwest, kEast, kSouth}, .semifinalA = {}, .semifinalB = {}, .champion = {}};
 
-SelectionLines bracketOf(const Winners& winners)
+Bracket bracketOf(const Winners& winners)
 {
-    SelectionLines lines;
-    const auto line = [&lines](int position) -> std::string& {
-        return lines.at(static_cast<std::size_t>(index(slotOf(Position{position}))));
-    };
-    const auto fill = [&line](int position, const auto& names) {
-        for (const std::string_view name : names)
-            line(position++) = name;
-    };
-    for (std::size_t team = 0; team < kSampleField.size(); ++team) {
-        const int row = static_cast<int>(team);
-        line(index(firstRoundPosition(row / kRowsPerRegion, row % kRowsPerRegion))) = kSampleField[team];
+    ByPosition<std::string_view> teams;
+    for (const TeamRow row : allTeamRows())
+        teams[positionOf(row)] = kSampleField.at(static_cast<std::size_t>(index(row)));
+    for (int region = 0; region < kRegions; ++region) {
+        const RegionWinners& won = winners.regions.at(static_cast<std::size_t>(region));
+        auto game = gamesOfRegion(region).begin();
+        const auto fill = [&](const auto& names) {
+            for (const std::string_view name : names)
+                teams[*game++] = name;
+        };
+        fill(won.round1);
+        fill(won.round2);
+        fill(won.round3);
+        teams[*game] = won.winner;
     }
-    for (std::size_t region = 0; region < winners.regions.size(); ++region) {
-        const RegionWinners& won = winners.regions[region];
-        const int base = static_cast<int>(region) * kRegionBlock;
-        fill(base + 16, won.round1);
-        fill(base + 24, won.round2);
-        fill(base + 28, won.round3);
-        line(base + 30) = won.winner;
-    }
-    line(kSemifinalA) = winners.semifinalA;
-    line(kSemifinalB) = winners.semifinalB;
-    line(kChampion) = winners.champion;
-    return lines;
+    teams[kSemifinalA] = winners.semifinalA;
+    teams[kSemifinalB] = winners.semifinalB;
+    teams[kChampion] = winners.champion;
+    return Bracket::of(teams);
 }
 
 } // namespace tallyhoop::demo

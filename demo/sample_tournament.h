@@ -1,8 +1,7 @@
 // demo/sample_tournament.h - the tournament of the sample pool: the field of 2000 and what its games brought.
 #pragma once
 
-#include "pool/pool_lines.h"
-#include "pool/position.h"
+#include "pool/bracket.h"
 
 #include <array>
 #include <string_view>
@@ -17,7 +16,7 @@ struct RegionWinners {
     std::string_view winner{};
 };
 
-/// Everything behind the starting field.
+/// Everything after the starting field.
 struct Winners {
     std::array<RegionWinners, kRegions> regions{};
     std::string_view semifinalA{}; ///< of the first two regions
@@ -31,7 +30,7 @@ extern const std::array<std::string_view, kTeams> kSampleField;
 /// What really happened up to and including the regional finals; the last three games are left open to be tried.
 extern const Winners kSampleResults;
 
-/// @returns lines 1..127 for these winners over the sample field; lines 128..130 are empty
-SelectionLines bracketOf(const Winners& winners);
+/// @returns these winners over the sample field
+Bracket bracketOf(const Winners& winners);
 
 } // namespace tallyhoop::demo

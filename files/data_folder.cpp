@@ -16,7 +16,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Tells whether we may write here; beside it the replacing makes a temporary of its own.
+/// Shows whether we may write here; beside it the replacing makes a temporary of its own.
 constexpr const char* kWriteCheck = ".tallyhoop-check";
 
 /// @returns the system's own form of a name
@@ -69,7 +69,7 @@ std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name)
     return found;
 }
 
-/// @returns how long the part is that Windows takes for a device, whatever follows behind the first point; 0 = none
+/// @returns how long the part is that Windows takes for a device, whatever follows the first point; 0 = none
 std::size_t deviceLength(std::string_view name)
 {
     const std::string stem = trimTrailingBlanks(name.substr(0, name.find('.')));

@@ -69,13 +69,14 @@ private:
 /// @returns a path as text for people and for fields of files; never opened
 std::string shown(const std::filesystem::path& path);
 
-/// @returns true for a name that may stand for a file of the folder
+/// @returns true for a name that a file of the folder may have
 bool isBareName(std::string_view name);
 
 /// @returns true when both are the same file, or would be: same folder, same name without regard to case
 bool isSameFile(const std::filesystem::path& left, const std::filesystem::path& right);
 
-/// Replaces what cannot stand in a proposed file name by "_", and keeps away from devices: "AUX.THC" gives "AUX_.THC".
+/// Replaces what cannot be part of a proposed file name by "_", and keeps away from devices: "AUX.THC" gives
+/// "AUX_.THC".
 std::string withoutUnsafeCharacters(std::string_view name);
 
 } // namespace tallyhoop

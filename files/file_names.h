@@ -1,5 +1,12 @@
-// files/file_names.h - the fixed names of the program's files, and the endings of the others.
+// files/file_names.h - the fixed names of the program's files, the extension of the others, and the marker lines.
 #pragma once
+
+namespace tallyhoop {
+
+inline constexpr const char* kStartMarker = "*START*";
+inline constexpr const char* kEndMarker = "*END*";
+
+} // namespace tallyhoop
 
 namespace tallyhoop::file_name {
 
@@ -12,6 +19,6 @@ inline constexpr const char* kSettings = "TALLYHOOP.INI";
 inline constexpr const char* kHelp = "TALLYHOOP.HLP";
 inline constexpr const char* kDemoInstaller = "DEMOSET.EXE";
 inline constexpr const char* kWorkFile = "TEMPPRT.TXT";
-inline constexpr const char* kSelectionEnding = ".THC";
+inline constexpr const char* kSelectionExtension = ".THC";
 
 } // namespace tallyhoop::file_name

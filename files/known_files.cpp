@@ -1,9 +1,8 @@
-// files/known_files.cpp - comparing a file with what it held, and asking before somebody else's changes are replaced.
+// files/known_files.cpp - comparing a file with what it held.
 #include "files/known_files.h"
 
 #include "files/data_folder.h"
 #include "files/replace_file.h"
-#include "screens/file_messages.h"
 
 #include <algorithm>
 #include <system_error>
@@ -31,28 +30,21 @@ void KnownFiles::note(const std::filesystem::path& file, Content content)
         *known = {file, std::move(content)};
 }
 
-bool KnownFiles::mayReplace(const std::filesystem::path& file, std::string_view bytes, ui::Dialogs& dialogs) const
+bool KnownFiles::wouldUndoChanges(const std::filesystem::path& file, std::string_view bytes) const
 {
     const auto known = std::ranges::find_if(m_known, [&](const Known& entry) { return isSameFile(entry.file, file); });
     if (known == m_known.end())
-        return true;
+        return false;
     const Content now = contentOf(file);
-    if (!now.isThere || now == known->content || now.bytes == bytes)
-        return true;
-    return dialogs.show(changedMeanwhile(shown(file))) == ui::Answer::Yes;
+    return now.isThere && now != known->content && now.bytes != bytes;
 }
 
-bool KnownFiles::replace(const std::filesystem::path& file, std::string_view bytes, ui::Dialogs& dialogs,
-                         const ui::Message& trouble)
+Result<Done> KnownFiles::replace(const std::filesystem::path& file, std::string_view bytes)
 {
-    if (!mayReplace(file, bytes, dialogs))
-        return false;
-    if (!replaceFile(file, bytes)) {
-        dialogs.show(trouble);
-        return false;
-    }
-    note(file, {true, std::string{bytes}});
-    return true;
+    Result<Done> replaced = replaceFile(file, bytes);
+    if (replaced)
+        note(file, {true, std::string{bytes}});
+    return replaced;
 }
 
 } // namespace tallyhoop

@@ -1,11 +1,11 @@
-// files/known_files.h - what files held when a screen took them: so that nobody else's changes are replaced unasked.
+// files/known_files.h - what files held when a screen took them: so that a screen can ask before somebody else's
+// changes are replaced.
 //
 // Two programs can work in one folder, and people have editors. Contents are compared, not times: a copied folder has
 // new times, and two saves can fall into one tick of the clock.
 #pragma once
 
 #include "base/result.h"
-#include "ui/dialogs.h"
 
 #include <filesystem>
 #include <optional>
@@ -22,13 +22,13 @@ public:
     /// what changes in between is then noticed.
     void note(const std::filesystem::path& file);
 
-    /// Replaces a file, or creates it, as a whole, and notes what it holds from then on. When somebody else has changed
-    /// or created it since it was noted, asks first; only Yes proceeds. Nothing is asked about a file that was never
-    /// noted, that has vanished, or that holds these very bytes already.
-    /// @param trouble is shown when the file cannot be written
-    /// @returns whether the file holds the bytes now; if not, it is as it was
-    bool replace(const std::filesystem::path& file, std::string_view bytes, ui::Dialogs& dialogs,
-                 const ui::Message& trouble);
+    /// Whether replacing the file by these bytes would undo what somebody else has done to it: it was changed or
+    /// created since it was noted. Not so for a file that was never noted, that has vanished, or that holds these very
+    /// bytes.
+    bool wouldUndoChanges(const std::filesystem::path& file, std::string_view bytes) const;
+
+    /// Replaces a file, or creates it, as a whole, and notes what it holds from then on; on a failure it is as it was.
+    Result<Done> replace(const std::filesystem::path& file, std::string_view bytes);
 
 private:
     struct Content {
@@ -44,7 +44,6 @@ private:
 
     static Content contentOf(const std::filesystem::path& file);
     void note(const std::filesystem::path& file, Content content);
-    bool mayReplace(const std::filesystem::path& file, std::string_view bytes, ui::Dialogs& dialogs) const;
 
     std::vector<Known> m_known; ///< one entry for each file
 };

@@ -4,8 +4,6 @@
 #include "base/lines.h"
 #include "base/text.h"
 #include "files/file_names.h"
-#include "screens/file_messages.h"
-#include "screens/help_topics.h"
 
 #include <algorithm>
 #include <array>
@@ -55,16 +53,15 @@ std::string fieldText(std::string_view text, std::size_t width)
     return fitted(field, width);
 }
 
-ui::Message faultyPlayerNames(const std::string& shownCopy)
+Failure faultyPlayerNames(const std::string& shownCopy)
 {
-    return {"** ERROR Found in PLAYERNAMES.CSV file **",
-            joinLines({"There is a problem found with the file containing your player names.",
-                       "Possibly someone has edited this file with another program.", "", "The file: " + shownCopy,
-                       " is a copy of the original file with the error records identified.", "",
-                       "You can either go back to a backup copy of this file or attempt",
-                       "to correct the error(s) in this copy and then rename it to", "PLAYERNAMES.CSV.", "",
-                       "See the help file for additional instructions"}),
-            ui::Buttons::Ok, ui::Icon::Critical, help_topic::kRepair};
+    return Failure{
+        joinLines({"There is a problem found with the file containing your player names.",
+                   "Possibly someone has edited this file with another program.", "", "The file: " + shownCopy,
+                   " is a copy of the original file with the error records identified.", "",
+                   "You can either go back to a backup copy of this file or attempt",
+                   "to correct the error(s) in this copy and then rename it to", "PLAYERNAMES.CSV.", "",
+                   "See the help file for additional instructions"})};
 }
 
 } // namespace
@@ -127,7 +124,7 @@ PlayerRecord parsePlayerRow(std::string_view row)
             piece(row, kPhoneStart, kPhoneWidth)};
 }
 
-bool validatePlayerNames(const DataFolder& folder, ui::Dialogs& dialogs)
+Result<Done> checkPlayerNames(const DataFolder& folder)
 {
     const Result<std::string> bytes = folder.read(file_name::kPlayerNames);
     if (bytes) {
@@ -135,26 +132,12 @@ bool validatePlayerNames(const DataFolder& folder, ui::Dialogs& dialogs)
         if (!copy) {
             // Left over from a file that has been put right since; one that cannot be deleted does no harm.
             static_cast<void>(folder.remove(file_name::kPlayerNamesErrors));
-            return true;
+            return Done{};
         }
         // Without the copy the message is still true of the file itself.
         static_cast<void>(folder.write(file_name::kPlayerNamesErrors, fileOf(*copy)));
     }
-    dialogs.show(faultyPlayerNames(folder.shownPathOf(file_name::kPlayerNamesErrors)));
-    return false;
-}
-
-bool createPlayerNames(const DataFolder& folder, ui::Dialogs& dialogs)
-{
-    KnownFiles nothingKnown; // the caller has just seen that there is no file
-    return savePlayerNames(folder, dialogs, nothingKnown, {});
-}
-
-bool savePlayerNames(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known,
-                     std::span<const PlayerRecord> records)
-{
-    return known.replace(folder.pathTo(file_name::kPlayerNames), playerNamesFile(records), dialogs,
-                         writingTrouble(folder.shownPathOf(file_name::kPlayerNames), kCheckSpace));
+    return faultyPlayerNames(folder.shownPathOf(file_name::kPlayerNamesErrors));
 }
 
 std::vector<PlayerRecord> readPlayerNames(const DataFolder& folder)

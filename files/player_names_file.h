@@ -3,8 +3,6 @@
 
 #include "base/result.h"
 #include "files/data_folder.h"
-#include "files/known_files.h"
-#include "ui/dialogs.h"
 
 #include <optional>
 #include <span>
@@ -57,21 +55,12 @@ std::string playerRow(const PlayerRecord& record);
 /// Takes the fields of a row made by playerRow().
 PlayerRecord parsePlayerRow(std::string_view row);
 
-/// Checks every record of PLAYERNAMES.CSV. When one is faulty, writes the annotated copy PLAYERNAMES.TXT (if that can
-/// be written) and shows "** ERROR Found in PLAYERNAMES.CSV file **"; a file that cannot be read gives the message
-/// alone. Never changes PLAYERNAMES.CSV.
-/// @returns true when every record is well formed; then no PLAYERNAMES.TXT remains
-bool validatePlayerNames(const DataFolder& folder, ui::Dialogs& dialogs);
+/// Checks every record of PLAYERNAMES.CSV. When one is faulty, writes the annotated copy PLAYERNAMES.TXT, if that can
+/// be written; when none is, no PLAYERNAMES.TXT remains. Never changes PLAYERNAMES.CSV.
+/// @returns a failure that says what to do about a faulty record or an unreadable file
+Result<Done> checkPlayerNames(const DataFolder& folder);
 
-/// Creates PLAYERNAMES.CSV with its header only; a failure shows "** ERROR IN WRITING FILE **".
-bool createPlayerNames(const DataFolder& folder, ui::Dialogs& dialogs);
-
-/// Replaces PLAYERNAMES.CSV as a whole by the header and these records, with the same message on failure; asks first
-/// when somebody else has changed it since it was noted. @returns whether it was written
-bool savePlayerNames(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known,
-                     std::span<const PlayerRecord> records);
-
-/// @returns the records behind the header, in file order; empty when the file cannot be read
+/// @returns the records after the header, in file order; empty when the file cannot be read
 std::vector<PlayerRecord> readPlayerNames(const DataFolder& folder);
 
 } // namespace tallyhoop

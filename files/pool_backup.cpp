@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A fixed name: what a crash leaves behind is swept away by the next backup.
+/// A fixed name: what a crash leaves is swept away by the next backup.
 constexpr const char* kGathering = ".Backup.tmp~";
 
 Failure failureAt(const fs::path& path, const std::string& reason) { return Failure{shown(path) + "\r\n" + reason}; }

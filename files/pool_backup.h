@@ -12,9 +12,9 @@
 namespace tallyhoop {
 
 /// Copies files of the folder, with their times and modes, into a new subfolder such as "Backup 2026-11-20 101530". An
-/// existing one is never added to: then " (2)", " (3)" ... stands behind the name. The subfolder appears with all its
+/// existing one is never added to: then " (2)", " (3)" ... follows the name. The subfolder appears with all its
 /// files or, whatever happens meanwhile, not at all; the files themselves stay where they are.
-/// @param names bare names of files that are there, at least one; a symbolic link is kept as the file behind it
+/// @param names bare names of files that are there, at least one; a symbolic link is kept as the file that it leads to
 /// @param now   local time, for the subfolder's name
 /// @returns the subfolder; or a failure that names the file or folder in the way, with nothing changed
 Result<std::filesystem::path> backUp(const DataFolder& folder, const std::vector<std::string>& names,

@@ -19,7 +19,7 @@ Failure failureOf(std::error_code error) { return Failure{fromUtf8(error.message
 Failure failureOf(std::errc error) { return failureOf(std::make_error_code(error)); }
 
 /// Follows symbolic links, also to a file that is not there yet: replacing the link itself would cut it off.
-fs::path behindLinks(fs::path file, std::error_code& error)
+fs::path withoutLinks(fs::path file, std::error_code& error)
 {
     constexpr int kMostLinks = 40;
     for (int links = 0; links < kMostLinks; ++links) {
@@ -35,14 +35,14 @@ fs::path behindLinks(fs::path file, std::error_code& error)
     return file;
 }
 
-/// A fixed name: what a crash leaves behind is overwritten by the next save. Hidden, and no pattern of ours matches it.
+/// A fixed name: what a crash leaves is overwritten by the next save. Hidden, and no pattern of ours matches it.
 fs::path temporaryBeside(const fs::path& target)
 {
     constexpr std::size_t kMostUnits = 255; // longest name that file systems take
     const fs::path::string_type before = fs::path{"."}.native();
-    const fs::path::string_type behind = fs::path{".tmp~"}.native();
-    const fs::path::string_type name = target.filename().native().substr(0, kMostUnits - before.size() - behind.size());
-    return target.parent_path() / fs::path{before + name + behind};
+    const fs::path::string_type after = fs::path{".tmp~"}.native();
+    const fs::path::string_type name = target.filename().native().substr(0, kMostUnits - before.size() - after.size());
+    return target.parent_path() / fs::path{before + name + after};
 }
 
 /// Replacing something that is no file by a file would destroy it.
@@ -63,7 +63,7 @@ std::error_code replace(const fs::path& file, std::string_view bytes)
     const fs::path full = fs::absolute(file, error);
     if (error)
         return error;
-    const fs::path target = behindLinks(full, error);
+    const fs::path target = withoutLinks(full, error);
     if (error)
         return error;
     if (error = checkKind(target); error)

@@ -11,7 +11,7 @@ namespace tallyhoop {
 
 /// Writes the bytes to the temporary file, flushes them to the disk and lets it take the target's place.
 /// @param target    a full path without symbolic links at its end; it may not exist yet
-/// @param temporary a path in the same folder; what stands there is overwritten
+/// @param temporary a path in the same folder; what is there is overwritten
 /// @returns no error, or why the target is as it was; then the temporary is gone
 std::error_code replaceThrough(const std::filesystem::path& temporary, const std::filesystem::path& target,
                                std::string_view bytes);

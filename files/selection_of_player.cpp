@@ -14,8 +14,8 @@ namespace {
 
 std::string_view withoutEnding(std::string_view name)
 {
-    const std::string_view ending = file_name::kSelectionEnding;
-    return endsWithFolded(name, ending) ? name.substr(0, name.size() - ending.size()) : name;
+    const std::string_view extension = file_name::kSelectionExtension;
+    return endsWithFolded(name, extension) ? name.substr(0, name.size() - extension.size()) : name;
 }
 
 bool isSelectionFile(const std::filesystem::path& file)
@@ -28,7 +28,7 @@ bool isSelectionFile(const std::filesystem::path& file)
 std::optional<std::filesystem::path> onlyFileBeginningWith(const DataFolder& folder, std::string_view beginning)
 {
     std::optional<std::filesystem::path> found;
-    for (const FolderFile& file : folder.files(file_name::kSelectionEnding)) {
+    for (const FolderFile& file : folder.files(file_name::kSelectionExtension)) {
         if (!startsWithFolded(file.name, beginning))
             continue;
         if (found)
@@ -55,7 +55,7 @@ std::optional<std::filesystem::path> selectionFileOf(const DataFolder& folder, s
     const std::string name = trimTrailingBlanks(recorded);
     if (!isBareName(name))
         return std::nullopt;
-    if (endsWithFolded(name, file_name::kSelectionEnding)) {
+    if (endsWithFolded(name, file_name::kSelectionExtension)) {
         const std::optional<std::filesystem::path> file = folder.pathOf(name);
         if (file && isSelectionFile(*file))
             return file;
@@ -67,7 +67,7 @@ std::optional<std::filesystem::path> selectionFileOf(const DataFolder& folder, s
 bool recordStandsFor(const DataFolder& folder, std::string_view recorded, std::string_view fileName)
 {
     const std::string name = trimTrailingBlanks(recorded);
-    const bool cut = fileName.size() > kFileNameWidth && !endsWithFolded(name, file_name::kSelectionEnding) &&
+    const bool cut = fileName.size() > kFileNameWidth && !endsWithFolded(name, file_name::kSelectionExtension) &&
                      startsWithFolded(fileName, fitted(name, kFileNameWidth));
     if (!cut)
         return !name.empty() && equalFolded(withoutEnding(name), withoutEnding(fileName));

@@ -1,4 +1,4 @@
-// files/selection_of_player.h - which selection file a record of the player list stands for.
+// files/selection_of_player.h - which selection file a record of the player list means.
 //
 // A record holds 33 characters of the file's name, in capitals; the file itself may be written in any case and be
 // longer.
@@ -16,8 +16,8 @@ namespace tallyhoop {
 /// @returns how a record names a selection file: relative to the program's folder when it is inside, in capitals
 std::string recordedFileName(const DataFolder& folder, const std::filesystem::path& file);
 
-/// Finds the selection file that a record's file name stands for. A name that fills its 33 characters may have been
-/// cut: it stands for the one selection file that begins with it.
+/// Finds the selection file that a record's file name means. A name that fills its 33 characters may have been
+/// cut: it means the one selection file that begins with it.
 /// @param recorded the field, trailing blanks allowed
 /// @returns nothing when there is no such file, when several begin with a full name, and for every name that is not a
 ///          bare name of a selection file: whatever a record says, nothing else of the folder, and nothing outside of

@@ -1,75 +1,88 @@
-// files/setup_file.cpp - POOLSTART.THS: the starting field and the pool's options.
+// files/setup_file.cpp - POOLSTART.THS: a line for each text of the field, between two markers.
 #include "files/setup_file.h"
 
 #include "base/lines.h"
+#include "base/text.h"
 #include "files/file_names.h"
-#include "screens/file_messages.h"
 
 #include <algorithm>
-#include <span>
-#include <string>
-#include <utility>
+#include <array>
 #include <vector>
 
 namespace tallyhoop {
+
 namespace {
 
-const ui::Message kDamagedSetup = {"", "Problem with file, will use default values", ui::Buttons::Ok,
-                                   ui::Icon::Critical};
+constexpr std::size_t kFieldLines = 94; ///< between the markers
+constexpr std::size_t kMostLines = 101; ///< after the start marker; more is no setup file
 
-SetupReading judge(std::span<const std::string> fileLines)
+using Lines = std::vector<std::string>;
+
+Lines linesOfField(const Field& field)
 {
-    if (fileLines.empty())
-        return SetupReading::DefaultsQuietly;
-    if (fileLines.front() != kStartMarker)
-        return SetupReading::DefaultsLoudly;
-    const std::size_t behindMarker = fileLines.size() - 1;
-    if (behindMarker == 0 || behindMarker > std::tuple_size_v<SetupLines>)
-        return SetupReading::DefaultsQuietly;
-    return fileLines.back() == kEndMarker ? SetupReading::Taken : SetupReading::DefaultsLoudly;
+    Lines lines{field.teams.values.begin(), field.teams.values.end()};
+    lines.push_back(field.title);
+    lines.insert(lines.end(), field.regionTitles.begin(), field.regionTitles.end());
+    lines.insert(lines.end(), field.payoffs.texts().begin(), field.payoffs.texts().end());
+    lines.insert(lines.end(), field.seeds.begin(), field.seeds.end());
+    lines.insert(lines.end(), {encodeLineBreaks(field.comment1), encodeLineBreaks(field.comment2), field.finalized});
+    return lines;
 }
 
-void takeDefaults(SetupLines& lines)
+Field fieldOfLines(const Lines& lines)
 {
-    SetupLines defaults = defaultSetupLines();
-    std::move(defaults.begin(), defaults.begin() + setup_line::kEnd + 1, lines.begin());
+    auto line = lines.begin();
+    const auto take = [&line](auto& texts) {
+        for (std::string& text : texts)
+            text = *line++;
+    };
+    Field field;
+    take(field.teams.values);
+    field.title = *line++;
+    take(field.regionTitles);
+    std::array<std::string, kRounds> payoffs;
+    take(payoffs);
+    field.payoffs = PayoffTexts{payoffs};
+    take(field.seeds);
+    field.comment1 = decodeLineBreaks(*line++);
+    field.comment2 = decodeLineBreaks(*line++);
+    field.finalized = *line++;
+    return field;
 }
+
+Read<Field> damaged() { return {defaultField(), Failure{"Problem with file, will use default values"}}; }
 
 } // namespace
 
-SetupReading readSetup(std::string_view bytes, SetupLines& lines)
+Read<Field> readSetup(std::string_view bytes, const Field& before)
 {
-    std::vector<std::string> fileLines = linesOf(bytes);
-    const SetupReading reading = judge(fileLines);
-    if (reading == SetupReading::Taken)
-        std::move(fileLines.begin() + 1, fileLines.end(), lines.begin());
-    else
-        takeDefaults(lines);
-    return reading;
+    const Lines fileLines = linesOf(bytes);
+    if (fileLines.empty())
+        return {defaultField(), {}};
+    if (fileLines.front() != kStartMarker)
+        return damaged();
+    const std::size_t afterMarker = fileLines.size() - 1;
+    if (afterMarker == 0 || afterMarker > kMostLines)
+        return {defaultField(), {}};
+    if (fileLines.back() != kEndMarker)
+        return damaged();
+    Lines lines = linesOfField(before);
+    std::copy_n(fileLines.begin() + 1, std::min(afterMarker, kFieldLines), lines.begin());
+    return {fieldOfLines(lines), {}};
 }
 
-std::string setupFile(const SetupLines& lines)
-{
-    std::vector<std::string> fileLines{kStartMarker};
-    fileLines.insert(fileLines.end(), lines.begin(), lines.begin() + setup_line::kEnd);
-    fileLines.emplace_back(kEndMarker);
-    return fileOf(fileLines);
-}
-
-void ReadStartingField(const DataFolder& folder, ui::Dialogs& dialogs, modTallyhoop& state)
+Read<Field> readField(const DataFolder& folder, const Field& before)
 {
     const Result<std::string> bytes = folder.read(file_name::kSetup);
-    if (!bytes)
-        takeDefaults(state.setupLines); // the normal case at the very first start: nothing to say
-    else if (readSetup(*bytes, state.setupLines) == SetupReading::DefaultsLoudly)
-        dialogs.show(kDamagedSetup);
-    state.currentTitle = state.setupLines[setup_line::kTitle];
+    return bytes ? readSetup(*bytes, before) : Read<Field>{defaultField(), {}};
 }
 
-bool WriteStartingField(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known, const SetupLines& lines)
+std::string setupFile(const Field& field)
 {
-    return known.replace(folder.pathTo(file_name::kSetup), setupFile(lines), dialogs,
-                         writingTrouble(folder.shownPathOf(file_name::kSetup), kCheckSpace));
+    Lines lines = linesOfField(field);
+    lines.insert(lines.begin(), kStartMarker);
+    lines.emplace_back(kEndMarker);
+    return fileOf(lines);
 }
 
 } // namespace tallyhoop

@@ -1,35 +1,25 @@
 // files/setup_file.h - POOLSTART.THS: the starting field and the pool's options.
 #pragma once
 
+#include "base/result.h"
 #include "files/data_folder.h"
-#include "files/known_files.h"
-#include "pool/pool_lines.h"
-#include "screens/mod_tallyhoop.h"
-#include "ui/dialogs.h"
+#include "pool/field.h"
 
+#include <string>
 #include <string_view>
 
 namespace tallyhoop {
 
-enum class SetupReading {
-    Taken,           ///< the lines are the file's
-    DefaultsQuietly, ///< no usable file: the defaults, without a word
-    DefaultsLoudly,  ///< a damaged file: the defaults, and the person should know
-};
+/// Reads a setup file's bytes. A short file is taken as far as it goes, when it ends with its end marker. One that
+/// holds nothing, or far too much, gives the default field; a damaged one does, too, and the trouble is set.
+/// @param before what the fields hold that a short file lacks
+Read<Field> readSetup(std::string_view bytes, const Field& before = {});
 
-/// Reads a setup file's bytes over the lines: entries beyond the last line read keep what they held.
-/// Whatever is not taken gives the defaults in entries 0..94.
-SetupReading readSetup(std::string_view bytes, SetupLines& lines);
+/// Reads the folder's field; one that is missing or cannot be opened is the default field without any trouble, for that
+/// is how every pool begins.
+Read<Field> readField(const DataFolder& folder, const Field& before = {});
 
-/// @returns the file of these lines: start marker, entries 0..93, end marker
-std::string setupFile(const SetupLines& lines);
-
-/// Reads POOLSTART.THS into the shared setup lines (defaults when it is missing or damaged, with a message when it is
-/// damaged) and copies the title.
-void ReadStartingField(const DataFolder& folder, ui::Dialogs& dialogs, modTallyhoop& state);
-
-/// Replaces POOLSTART.THS; asks first when somebody else has changed it since it was noted. A failure shows "** ERROR
-/// IN WRITING FILE **" with the path. @returns whether it was written
-bool WriteStartingField(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known, const SetupLines& lines);
+/// @returns the bytes of a field's file
+std::string setupFile(const Field& field);
 
 } // namespace tallyhoop

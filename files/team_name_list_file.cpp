@@ -1,19 +1,17 @@
-// files/team_name_list_file.cpp - NCAALIST.THS: the maintained list of team names.
+// files/team_name_list_file.cpp - NCAALIST.THS: a name on each line, between two markers.
 #include "files/team_name_list_file.h"
 
 #include "base/lines.h"
 #include "files/file_names.h"
-#include "pool/pool_lines.h"
-#include "screens/file_messages.h"
 
 #include <utility>
 
 namespace tallyhoop {
+
 namespace {
 
-const ui::Message kUnreadableList = {
-    "", "Problem locating or Reading NCAALIST.THS file\r\n\r\nMODULE: modTallyhoop - ReadTeamNames", ui::Buttons::Ok,
-    ui::Icon::Critical};
+constexpr const char* kUnreadableList =
+    "Problem locating or Reading NCAALIST.THS file\r\n\r\nMODULE: modTallyhoop - ReadTeamNames";
 
 } // namespace
 
@@ -43,20 +41,12 @@ std::string teamNameListFile(std::span<const std::string> names)
     return fileOf(lines);
 }
 
-std::optional<std::vector<std::string>> ReadTeamNames(const DataFolder& folder, ui::Dialogs& dialogs)
+Result<std::vector<std::string>> readTeamNames(const DataFolder& folder)
 {
     if (const Result<std::string> bytes = folder.read(file_name::kTeamNames))
-        if (const Result<std::vector<std::string>> names = readTeamNameList(*bytes))
-            return *names;
-    dialogs.show(kUnreadableList);
-    return std::nullopt;
-}
-
-bool WriteTeamNames(const DataFolder& folder, ui::Dialogs& dialogs, KnownFiles& known,
-                    std::span<const std::string> names)
-{
-    return known.replace(folder.pathTo(file_name::kTeamNames), teamNameListFile(names), dialogs,
-                         writingTrouble(folder.shownPathOf(file_name::kTeamNames), kCheckSpace));
+        if (Result<std::vector<std::string>> names = readTeamNameList(*bytes))
+            return names;
+    return Failure{kUnreadableList};
 }
 
 } // namespace tallyhoop

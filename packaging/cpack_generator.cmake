@@ -1,4 +1,4 @@
-# Read by cpack once for each kind of package: which parts go into it, and where they stand there.
+# Read by cpack once for each kind of package: which parts go into it, and where they are in it.
 if(CPACK_GENERATOR STREQUAL "DEB")
     set(CPACK_PACKAGING_INSTALL_PREFIX /)
     set(CPACK_INSTALL_CMAKE_PROJECTS

@@ -1,99 +1,100 @@
 // pool/moves.cpp - the rules of moving teams, without any screen.
 #include "pool/moves.h"
 
-#include <algorithm>
+#include <string>
+#include <utility>
 
 namespace tallyhoop {
 
 namespace {
 
-constexpr std::size_t at(int position) { return static_cast<std::size_t>(position); }
-
-int next(int position) { return bracketMap().NextPosition(position); }
-
-/// Makes room for a team: removes the team that stands at a position from there on, if it is another one.
-void displace(TeamNamesOnBoard& teams, int position, const std::string& newTeam, int clearedFrom)
+/// Makes room for a team: removes the one that is at a position from a place on, if it is another.
+Bracket displaced(Bracket bracket, Position position, std::string_view newTeam, std::optional<Position> clearedFrom)
 {
-    const std::string displaced = teams[at(position)]; // a copy: the walk may empty the place it stands on
-    if (!displaced.empty() && displaced != newTeam)
-        ClearTeamForward(teams, displaced, clearedFrom);
+    const std::string old = bracket.at(position); // a copy: the bracket that it is part of changes
+    if (old.empty() || old == newTeam)
+        return bracket;
+    return withoutTeamFrom(std::move(bracket), clearedFrom, old);
 }
 
-void advanceOneRound(TeamNamesOnBoard& teams, int position, const std::string& draggedTeam)
+Bracket carriedOneRound(const Bracket& bracket, Position from, std::string_view team)
 {
-    if (position == kChampion)
-        return;
-    const int winner = next(position);
-    displace(teams, winner, draggedTeam, winner);
-    teams[at(winner)] = teams[at(position)];
+    const std::optional<Position> winner = next(from);
+    if (!winner)
+        return bracket;
+    Bracket after = displaced(bracket, *winner, team, winner);
+    after.copy(from, *winner);
+    return after;
 }
 
-void carryAlongPath(TeamNamesOnBoard& teams, int source, int target, const std::string& draggedTeam)
+Bracket carriedAlongPath(const Bracket& bracket, Position source, Position target, std::string_view team)
 {
-    // Behind the champion there is nothing that a displaced team could still stand in.
-    if (target < kChampion)
-        displace(teams, target, draggedTeam, next(target));
-    for (int position = source; position < target;) {
-        position = next(position);
-        teams[at(position)] = draggedTeam;
-    }
+    Bracket after = displaced(bracket, target, team, next(target));
+    for (std::optional<Position> position = next(source); position && *position <= target; position = next(*position))
+        after.put(*position, team);
+    return after;
 }
 
 } // namespace
 
-void ClearTeamForward(TeamNamesOnBoard& teams, const std::string& team, int start)
+Bracket withoutTeamFrom(Bracket bracket, std::optional<Position> start, std::string_view team)
 {
-    // The caller may name a place of the board that is emptied on the way: only a copy stays what it is.
-    const std::string cleared = team; // NOLINT(performance-unnecessary-copy-initialization)
-    for (int position = start; position <= kChampion; position = next(position))
-        if (teams[at(position)] == cleared)
-            teams[at(position)].clear();
+    for (std::optional<Position> position = start; position; position = next(*position))
+        if (bracket.at(*position) == team)
+            bracket.clear(*position);
+    return bracket;
 }
 
-void clearPosition(TeamNamesOnBoard& teams, int position)
+Bracket cleared(Bracket bracket, Position position)
 {
-    if (isFirstRound(Position{position}))
-        return;
-    if (!teams[at(position)].empty())
-        ClearTeamForward(teams, teams[at(position)], next(position));
-    teams[at(position)].clear();
+    if (isFirstRound(position))
+        return bracket;
+    const std::string team = bracket.at(position);
+    bracket.clear(position);
+    return team.empty() ? bracket : withoutTeamFrom(std::move(bracket), next(position), team);
 }
 
-bool isOnPath(int source, int target)
-{
-    int position = source;
-    while (position < target)
-        position = next(position);
-    return position == target;
-}
+Bracket advanced(const Bracket& bracket, Position from) { return carriedOneRound(bracket, from, bracket.at(from)); }
 
-void dropOnPosition(TeamNamesOnBoard& teams, int source, int target, const std::string& draggedTeam)
+Bracket dropped(const Bracket& bracket, Position source, Position target, std::string_view team)
 {
-    // The caller may name a place of the board.
-    const std::string team = draggedTeam; // NOLINT(performance-unnecessary-copy-initialization)
     if (source == target)
-        advanceOneRound(teams, target, team);
-    else if (isOnPath(source, target))
-        carryAlongPath(teams, source, target, team);
+        return carriedOneRound(bracket, source, team);
+    return isOnPath(source, target) ? carriedAlongPath(bracket, source, target, team) : bracket;
 }
 
-void selectHighSeeds(TeamNamesOnBoard& teams, const std::array<std::int16_t, kTeams>& seeds)
+Bracket withHighSeeds(Bracket bracket, const ByTeamRow<std::int16_t>& seeds)
 {
-    std::array<std::int16_t, kPositions> seedAt{};
-    for (int row = 0; row < kTeams; ++row)
-        seedAt[at(index(firstRoundPosition(row / kRowsPerRegion, row % kRowsPerRegion)))] = seeds[at(row)];
-
+    ByPosition<std::int16_t> seedAt;
+    for (const TeamRow row : allTeamRows())
+        seedAt[positionOf(row)] = seeds[row];
+    // In the order of the positions both entrants of a game are decided before the game itself.
     for (int region = 0; region < kRegions; ++region) {
-        // In position order both entrants of a game are decided before the game itself.
-        const int firstEntrant = index(firstRoundPosition(region, 0));
-        for (int upper = firstEntrant; upper < firstEntrant + kRegionBlock - 1; upper += 2) {
-            const int lower = upper + 1;
-            const int better = seedAt[at(upper)] >= seedAt[at(lower)] ? lower : upper;
-            const int winner = next(upper);
-            teams[at(winner)] = teams[at(better)];
-            seedAt[at(winner)] = seedAt[at(better)];
+        for (const Position winner : gamesOfRegion(region)) {
+            const auto [upper, lower] = *feeders(winner);
+            const Position better = seedAt[upper] >= seedAt[lower] ? lower : upper;
+            bracket.copy(better, winner);
+            seedAt[winner] = seedAt[better];
         }
     }
+    return bracket;
+}
+
+std::vector<Position> pathOf(const Bracket& bracket, Position position)
+{
+    const TeamNumber team = bracket.numbers()[position];
+    std::vector<Position> path;
+    if (team == kNoTeam)
+        return path;
+    for (const TeamRow row : allTeamRows()) {
+        if (bracket.numbers()[positionOf(row)] != team || !isOnPath(positionOf(row), position))
+            continue;
+        for (std::optional<Position> place = positionOf(row); place; place = next(*place))
+            if (bracket.numbers()[*place] == team)
+                path.push_back(*place);
+        break;
+    }
+    return path;
 }
 
 } // namespace tallyhoop

@@ -1,39 +1,76 @@
-// pool/position.cpp - the table that says where every winner goes, and what follows from it.
+// pool/position.cpp - the shape of the bracket, calculated once.
 #include "pool/position.h"
 
 namespace tallyhoop {
+
 namespace {
 
+constexpr int kRegionBlock = 31;  ///< positions of one region
 constexpr int kRegionWinner = 30; ///< offset of a region's winner in its block
 
-constexpr std::size_t at(int position) { return static_cast<std::size_t>(position); }
+/// Where each round's winners begin in a region's block: rounds 0 (the teams) to 4.
+constexpr std::array<int, 5> kRoundStart{0, 16, 24, 28, kRegionWinner};
+
+constexpr std::size_t at(int number) { return static_cast<std::size_t>(number); }
+
+constexpr bool isInRegion(Position position) { return position < kSemifinalA; }
+
+template <class Id, std::size_t N>
+std::array<Id, N> numbered()
+{
+    std::array<Id, N> ids{};
+    for (std::size_t i = 0; i < N; ++i)
+        ids.at(i) = Id{static_cast<int>(i)};
+    return ids;
+}
 
 std::array<Position, kGames> findGamePositions()
 {
     std::array<Position, kGames> games{};
     std::size_t game = 0;
-    for (int position = 0; position < kPositions; ++position)
-        if (!isFirstRound(Position{position}))
-            games.at(game++) = Position{position};
+    for (const Position position : allPositions())
+        if (!isFirstRound(position))
+            games.at(game++) = position;
     return games;
+}
+
+std::optional<Position> findNext(Position position)
+{
+    if (position == kChampion)
+        return std::nullopt;
+    if (!isInRegion(position))
+        return kChampion;
+    const int region = index(position) / kRegionBlock;
+    const int offset = index(position) % kRegionBlock;
+    if (offset == kRegionWinner)
+        return region < 2 ? kSemifinalA : kSemifinalB;
+    // Two neighbours meet; the winners of a block's places follow each other from the end of its teams on.
+    return Position{region * kRegionBlock + kRowsPerRegion + offset / 2};
+}
+
+using Feeders = std::array<Position, 2>;
+
+ByPosition<std::optional<Feeders>> findFeeders()
+{
+    ByPosition<std::optional<Feeders>> found;
+    for (const Position position : allPositions()) {
+        const std::optional<Position> winner = next(position);
+        if (!winner)
+            continue;
+        if (!found[*winner])
+            found[*winner] = Feeders{position, position};
+        else
+            found[*winner]->back() = position;
+    }
+    return found;
 }
 
 } // namespace
 
-int roundOf(Position position)
+const std::array<Position, kPositions>& allPositions()
 {
-    if (index(position) == kChampion)
-        return 6;
-    if (index(position) >= kSemifinalA)
-        return 5;
-    const int offset = index(position) % kRegionBlock;
-    if (offset < 16)
-        return 0;
-    if (offset < 24)
-        return 1;
-    if (offset < 28)
-        return 2;
-    return offset < kRegionWinner ? 3 : 4;
+    static const std::array<Position, kPositions> positions = numbered<Position, kPositions>();
+    return positions;
 }
 
 const std::array<Position, kGames>& gamePositions()
@@ -42,47 +79,101 @@ const std::array<Position, kGames>& gamePositions()
     return games;
 }
 
-int gameOf(Position position)
+const std::array<TeamRow, kTeams>& allTeamRows()
+{
+    static const std::array<TeamRow, kTeams> rows = numbered<TeamRow, kTeams>();
+    return rows;
+}
+
+std::span<const Position> teamsOfRegion(int region)
+{
+    return std::span{allPositions()}.subspan(at(kRegionBlock * region), kRowsPerRegion);
+}
+
+std::span<const Position> gamesOfRegion(int region)
+{
+    return std::span{allPositions()}.subspan(at(kRegionBlock * region + kRowsPerRegion), kRegionBlock - kRowsPerRegion);
+}
+
+std::span<const Position> finalGames() { return std::span{allPositions()}.subspan(at(index(kSemifinalA))); }
+
+Position firstRoundPosition(int region, int row) { return Position{kRegionBlock * region + row}; }
+
+Position positionOf(TeamRow row) { return firstRoundPosition(regionOf(row), rowInRegion(row)); }
+
+Position positionOf(Game game) { return gamePositions().at(at(index(game))); }
+
+std::optional<TeamRow> teamRowOf(Position position)
+{
+    if (!isFirstRound(position))
+        return std::nullopt;
+    return TeamRow{index(position) / kRegionBlock * kRowsPerRegion + index(position) % kRegionBlock};
+}
+
+int regionOf(TeamRow row) { return index(row) / kRowsPerRegion; }
+
+int rowInRegion(TeamRow row) { return index(row) % kRowsPerRegion; }
+
+std::optional<Game> gameOf(Position position)
 {
     if (isFirstRound(position))
-        return -1;
-    if (index(position) >= kSemifinalA)
-        return index(position) - kTeams;
-    return index(position) - kRowsPerRegion * (regionOf(position) + 1);
+        return std::nullopt;
+    const int teamsBefore = isInRegion(position) ? kRowsPerRegion * (index(position) / kRegionBlock + 1) : kTeams;
+    return Game{index(position) - teamsBefore};
 }
 
-BracketMap::BracketMap()
+bool isFirstRound(Position position) { return isInRegion(position) && index(position) % kRegionBlock < kRowsPerRegion; }
+
+int roundOf(Position position)
 {
-    for (int row = 0; row < kPositions; ++row)
-        m_rows[at(row)][0] = static_cast<std::int16_t>(row);
-    // Two neighbouring rows meet; the winners of a block's rows stand behind each other from offset 16 on.
-    for (int region = 0; region < kRegions; ++region)
-        for (int offset = 0; offset < kRegionWinner; ++offset) {
-            const int base = region * kRegionBlock;
-            m_rows[at(base + offset)][1] = static_cast<std::int16_t>(base + kRowsPerRegion + offset / 2);
-        }
-    for (int region = 0; region < kRegions; ++region)
-        m_rows[at(region * kRegionBlock + kRegionWinner)][1] =
-            static_cast<std::int16_t>(region < 2 ? kSemifinalA : kSemifinalB);
-    m_rows[kSemifinalA][1] = kChampion;
-    m_rows[kSemifinalB][1] = kChampion;
-    m_rows[kChampion][1] = kChampionEnd;
+    if (!isInRegion(position))
+        return position == kChampion ? 6 : 5;
+    const int offset = index(position) % kRegionBlock;
+    int round = 0;
+    while (round < 4 && offset >= kRoundStart.at(at(round + 1)))
+        ++round;
+    return round;
 }
 
-std::array<int, 2> BracketMap::feeders(int position) const
+std::optional<int> regionOf(Position position)
 {
-    std::array<int, 2> found{-1, -1};
-    std::size_t count = 0;
-    for (int row = 0; row < kPositions && count < found.size(); ++row)
-        if (m_rows[at(row)][1] == position)
-            found.at(count++) = row;
-    return found;
+    return isInRegion(position) ? std::optional{index(position) / kRegionBlock} : std::nullopt;
 }
 
-const BracketMap& bracketMap()
+Position regionWinner(int region) { return Position{kRegionBlock * region + kRegionWinner}; }
+
+int gameOfColumn(Position position)
 {
-    static const BracketMap map;
-    return map;
+    if (position == kChampion)
+        return 0;
+    if (!isInRegion(position))
+        return position == kSemifinalA ? 0 : 1;
+    return index(position) % kRegionBlock - kRoundStart.at(at(roundOf(position)));
+}
+
+std::optional<Position> next(Position position)
+{
+    static const auto all = [] {
+        ByPosition<std::optional<Position>> found;
+        for (const Position from : allPositions())
+            found[from] = findNext(from);
+        return found;
+    }();
+    return all[position];
+}
+
+std::optional<std::array<Position, 2>> feeders(Position position)
+{
+    static const ByPosition<std::optional<Feeders>> all = findFeeders();
+    return all[position];
+}
+
+bool isOnPath(Position source, Position target)
+{
+    std::optional<Position> position = source;
+    while (position && *position < target)
+        position = next(*position);
+    return position == target;
 }
 
 } // namespace tallyhoop

@@ -1,11 +1,13 @@
-// pool/position.h - the places of a 64-team bracket: four regions of 31, two semi-final winners, one champion.
+// pool/position.h - the places of a 64-team bracket, and every sum that is ever done with their numbers.
 //
-// A place is counted in two ways: as a position on the board, 0..126, and as a line of a selection, 1..127, one more.
+// Four regions of 31 places (16 teams, then the winners of four rounds), then two semi-final winners and the champion.
+// The numbers are those of the data files and of the controls; nobody outside of these two files calculates with them.
 #pragma once
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
+#include <optional>
+#include <span>
 
 namespace tallyhoop {
 
@@ -15,63 +17,93 @@ inline constexpr int kTeams = 64;
 inline constexpr int kGames = 63;
 inline constexpr int kRounds = 6;
 inline constexpr int kPositions = 127;
-inline constexpr int kRegionBlock = 31; ///< positions of one region
-inline constexpr int kSemifinalA = 124; ///< winner of regions 1 and 2
-inline constexpr int kSemifinalB = 125; ///< winner of regions 3 and 4
-inline constexpr int kChampion = 126;
-inline constexpr int kChampionEnd = 999; ///< what follows the champion: nothing
 
-enum class Position : int {}; ///< a place on the board, 0..126: the index of `lblRegion`
-enum class Slot : int {};     ///< a line of a selection, 1..127; slot s stands for position s - 1
+enum class Position : int {}; ///< a place of the bracket, 0..126: the index of `lblRegion`
+enum class Game : int {};     ///< 0..62, in the order of the places of their winners: the index of `lblResult`
+enum class TeamRow : int {};  ///< a row of the starting field, 0..63, region by region: the index of `txtSeed`
+
+inline constexpr Position kSemifinalA{124}; ///< winner of regions 1 and 2
+inline constexpr Position kSemifinalB{125}; ///< winner of regions 3 and 4
+inline constexpr Position kChampion{126};
 
 constexpr int index(Position position) { return static_cast<int>(position); }
-constexpr int index(Slot slot) { return static_cast<int>(slot); }
-constexpr Position positionOf(Slot slot) { return Position{index(slot) - 1}; }
-constexpr Slot slotOf(Position position) { return Slot{index(position) + 1}; }
+constexpr int index(Game game) { return static_cast<int>(game); }
+constexpr int index(TeamRow row) { return static_cast<int>(row); }
 
-/// @returns the position of the team in first-round row 0..15 of region 0..3
-constexpr Position firstRoundPosition(int region, int row) { return Position{kRegionBlock * region + row}; }
+/// A value for each of the N things that an enum counts, such as a verdict for each position.
+template <class Id, class T, std::size_t N>
+struct IndexedBy {
+    std::array<T, N> values{};
 
-/// @returns true for the 64 places that the setup fills
-constexpr bool isFirstRound(Position position)
-{
-    return index(position) < kSemifinalA && index(position) % kRegionBlock < kRowsPerRegion;
-}
-
-/// @returns the round 1..6 whose winner stands at a position, 0 for a first-round row
-int roundOf(Position position);
-
-/// @returns the region 0..3 of a position, -1 for the last three
-constexpr int regionOf(Position position)
-{
-    return index(position) < kSemifinalA ? index(position) / kRegionBlock : -1;
-}
-
-/// The 63 positions that hold a winner, ascending: `lblResult` i stands beside the i-th of them.
-const std::array<Position, kGames>& gamePositions();
-
-/// @returns which of the 63 games decides a position, -1 for a first-round row
-int gameOf(Position position);
-
-/// Where the winner of every place goes: 128 rows of (row, NextPosition).
-class BracketMap
-{
-public:
-    /// Fills the table; always with the same values.
-    BracketMap();
-
-    /// @param position 0..126; 127 is an unused row that gives 0
-    /// @returns the position that a team moves to from here, kChampionEnd behind the champion
-    int NextPosition(int position) const { return m_rows.at(static_cast<std::size_t>(position))[1]; }
-
-    /// @returns the two positions whose teams meet for this one; both -1 for a first-round row
-    std::array<int, 2> feeders(int position) const;
-
-private:
-    std::array<std::array<std::int16_t, 2>, 128> m_rows{};
+    constexpr T& operator[](Id id) { return values[static_cast<std::size_t>(id)]; }
+    constexpr const T& operator[](Id id) const { return values[static_cast<std::size_t>(id)]; }
+    friend bool operator==(const IndexedBy&, const IndexedBy&) = default;
 };
 
-/// The one table of the program.
-const BracketMap& bracketMap();
+template <class T>
+using ByPosition = IndexedBy<Position, T, kPositions>;
+template <class T>
+using ByGame = IndexedBy<Game, T, kGames>;
+template <class T>
+using ByTeamRow = IndexedBy<TeamRow, T, kTeams>;
+
+/// The 127 positions in the order of their numbers: no winner comes before the two that met for it.
+const std::array<Position, kPositions>& allPositions();
+
+/// The 63 positions that hold a winner, in the order of their games.
+const std::array<Position, kGames>& gamePositions();
+
+/// The 64 rows of the starting field.
+const std::array<TeamRow, kTeams>& allTeamRows();
+
+/// The 16 positions of a region's teams, the 15 of its winners, and the three that follow the regions, ascending.
+std::span<const Position> teamsOfRegion(int region);
+std::span<const Position> gamesOfRegion(int region);
+std::span<const Position> finalGames();
+
+/// @returns the position of the team in first-round row 0..15 of region 0..3
+Position firstRoundPosition(int region, int row);
+
+/// @returns the position that a row of the starting field fills
+Position positionOf(TeamRow row);
+
+/// @returns the position of a game's winner
+Position positionOf(Game game);
+
+/// @returns the row of the starting field that fills a position; nothing for the place of a winner
+std::optional<TeamRow> teamRowOf(Position position);
+
+/// @returns the region 0..3 and the first-round row 0..15 of a row of the starting field
+int regionOf(TeamRow row);
+int rowInRegion(TeamRow row);
+
+/// @returns the game that decides a position, nothing for a first-round row
+std::optional<Game> gameOf(Position position);
+
+/// @returns true for the 64 places that the setup fills
+bool isFirstRound(Position position);
+
+/// @returns the round 1..6 whose winner a position holds, 0 for a first-round row
+int roundOf(Position position);
+
+/// @returns the region 0..3 of a position; nothing for the last three
+std::optional<int> regionOf(Position position);
+
+/// @returns the position that holds the winner of a region 0..3
+Position regionWinner(int region);
+
+/// @returns which game of its column a winner comes from, counted from 0: from the top of its region, or of the two
+///          semi-finals
+int gameOfColumn(Position position);
+
+/// @returns where a team goes that wins from here; nothing after the champion
+std::optional<Position> next(Position position);
+
+/// @returns the two positions whose teams meet for this one, the upper first; nothing for a first-round row
+std::optional<std::array<Position, 2>> feeders(Position position);
+
+/// @returns true when a team at `source` may be carried to `target`: it is the same place or lies ahead on the way to
+///          the championship
+bool isOnPath(Position source, Position target);
 
 } // namespace tallyhoop

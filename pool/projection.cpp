@@ -5,68 +5,72 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr std::array<std::size_t, 4> kRegionWinners{31, 62, 93, 124};
-constexpr std::size_t kSemifinalLineA = 125;
-constexpr std::size_t kSemifinalLineB = 126;
-constexpr std::size_t kChampionLine = selection_line::kChampion;
-
-/// The lines that matter to a team: its own semi-final, the other one, and who may come out of that.
+/// The places that matter to a team: its own semi-final, the other one, and who may come out of that.
 struct Half {
-    std::size_t ownSemifinal;
-    std::size_t otherSemifinal;
-    std::array<std::size_t, 2> opponents;
+    Position ownSemifinal;
+    Position otherSemifinal;
+    std::array<Position, 2> opponents;
 };
 
-constexpr Half kFirstHalf{kSemifinalLineA, kSemifinalLineB, {93, 124}};
-constexpr Half kSecondHalf{kSemifinalLineB, kSemifinalLineA, {31, 62}};
-
-std::optional<Half> halfOf(const SelectionLines& results, const std::string& team)
+std::optional<Half> halfOf(const Bracket& results, const std::string& team)
 {
-    if (team == results[31] || team == results[62])
-        return kFirstHalf;
-    if (team == results[93] || team == results[124])
-        return kSecondHalf;
+    const auto wins = [&](int region) { return team == results.at(regionWinner(region)); };
+    if (wins(0) || wins(1))
+        return Half{kSemifinalA, kSemifinalB, {regionWinner(2), regionWinner(3)}};
+    if (wins(2) || wins(3))
+        return Half{kSemifinalB, kSemifinalA, {regionWinner(0), regionWinner(1)}};
     return std::nullopt;
 }
 
-bool isOpenOrHolds(const std::string& line, const std::string& team) { return line.empty() || line == team; }
+bool isOpenOrHolds(const Bracket& bracket, Position position, const std::string& team)
+{
+    return bracket.isEmpty(position) || bracket.at(position) == team;
+}
 
 } // namespace
 
-FinalFourState ChkFinalFour(const SelectionLines& results, FinalFour& finalFour)
+FinalFourState finalFourState(const Bracket& results)
 {
-    for (std::size_t i = 0; i < kRegionWinners.size(); ++i) {
-        const std::string& winner = results[kRegionWinners[i]];
-        if (winner.empty())
+    for (int region = 0; region < kRegions; ++region)
+        if (results.isEmpty(regionWinner(region)))
             return FinalFourState::Incomplete;
-        finalFour[i + 1] = winner;
-    }
-    return results[kChampionLine].empty() ? FinalFourState::Known : FinalFourState::ChampionKnown;
+    return results.isEmpty(kChampion) ? FinalFourState::Known : FinalFourState::ChampionKnown;
 }
 
-std::optional<SelectionLines> ProjectWinner(const SelectionLines& results, const FinalFour& finalFour, std::size_t team,
-                                            FinalOpponent opponent)
+FinalFour finalFourOf(const Bracket& results)
 {
-    SelectionLines projected = results;
-    const std::string& winner = finalFour.at(team);
-    if (const std::optional<Half> half = halfOf(results, winner);
-        half && isOpenOrHolds(projected[half->ownSemifinal], winner)) {
-        projected[half->ownSemifinal] = winner;
-        projected[kChampionLine] = winner;
+    FinalFour winners;
+    for (int region = 0; region < kRegions; ++region)
+        winners.at(static_cast<std::size_t>(region)) = results.at(regionWinner(region));
+    return winners;
+}
+
+std::optional<Bracket> projectWinner(const Bracket& results, const std::string& team, FinalOpponent opponent)
+{
+    Bracket projected = results;
+    if (const std::optional<Half> half = halfOf(results, team);
+        half && isOpenOrHolds(projected, half->ownSemifinal, team)) {
+        projected.put(half->ownSemifinal, team);
+        projected.put(kChampion, team);
         if (opponent == FinalOpponent::Open)
             return projected;
-        const std::string& loser = results[half->opponents[opponent == FinalOpponent::First ? 0 : 1]];
-        if (!isOpenOrHolds(projected[half->otherSemifinal], loser))
+        const std::string& loser = results.at(half->opponents[opponent == FinalOpponent::First ? 0 : 1]);
+        if (!isOpenOrHolds(projected, half->otherSemifinal, loser))
             return std::nullopt;
-        projected[half->otherSemifinal] = loser;
+        projected.put(half->otherSemifinal, loser);
         return projected;
     }
-    // A name that two regions share may stand in the other semi-final already.
-    const bool isFinalist = winner == projected[kSemifinalLineA] || winner == projected[kSemifinalLineB];
-    if (!projected[kChampionLine].empty() || !isFinalist)
+    // A name that two regions share may be in the other semi-final already.
+    const bool isFinalist = team == projected.at(kSemifinalA) || team == projected.at(kSemifinalB);
+    if (!projected.isEmpty(kChampion) || !isFinalist)
         return std::nullopt;
-    projected[kChampionLine] = winner;
+    projected.put(kChampion, team);
     return projected;
+}
+
+const std::string& finalOpponent(const Bracket& projected, int region)
+{
+    return projected.at(region < 2 ? kSemifinalB : kSemifinalA);
 }
 
 } // namespace tallyhoop

@@ -1,7 +1,7 @@
 // pool/projection.h - how the tournament can still end once the four region winners are known.
 #pragma once
 
-#include "pool/pool_lines.h"
+#include "pool/bracket.h"
 
 #include <array>
 #include <optional>
@@ -9,9 +9,8 @@
 
 namespace tallyhoop {
 
-/// The region winners, entries 1..4; entry 0 is never filled. 1 and 2 meet in the first semi-final, 3 and 4 in the
-/// other.
-using FinalFour = std::array<std::string, 5>;
+/// The winners of regions 1..4. The first two meet in one semi-final, the others in the other.
+using FinalFour = std::array<std::string, kRegions>;
 
 enum class FinalFourState {
     Known,         ///< all four are there and the champion is not
@@ -19,22 +18,25 @@ enum class FinalFourState {
     ChampionKnown, ///< nothing is left to project
 };
 
-/// Takes the region winners out of the results.
-/// @param finalFour receives those found before the first that is missing
-FinalFourState ChkFinalFour(const SelectionLines& results, FinalFour& finalFour);
+FinalFourState finalFourState(const Bracket& results);
+
+/// @returns the region winners; empty texts for those that are missing
+FinalFour finalFourOf(const Bracket& results);
 
 /// How a projection treats the final opponent.
 enum class FinalOpponent {
-    Open = 0,   ///< the other semi-final stays as it is
-    First = 1,  ///< the other half's first region winner
-    Second = 2, ///< the other half's second region winner
+    Open,   ///< the other semi-final stays as it is
+    First,  ///< the first region winner of the other half
+    Second, ///< the second region winner of the other half
 };
 
 /// Fills in the missing last games so that a region winner wins out.
 /// @param results the real results
-/// @param team    1..4, an entry of finalFour
+/// @param team    a region's winner
 /// @returns the projected results; nothing when it can no longer happen
-std::optional<SelectionLines> ProjectWinner(const SelectionLines& results, const FinalFour& finalFour, std::size_t team,
-                                            FinalOpponent opponent);
+std::optional<Bracket> projectWinner(const Bracket& results, const std::string& team, FinalOpponent opponent);
+
+/// @returns who would be the opponent in the final under a projection that the winner of this region 0..3 wins
+const std::string& finalOpponent(const Bracket& projected, int region);
 
 } // namespace tallyhoop

@@ -4,59 +4,73 @@
 #include "base/numbers.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <array>
 #include <limits>
-#include <utility>
 
 namespace tallyhoop {
 
 namespace {
 
-constexpr std::size_t kFirst = selection_line::kFirstTeam;
-constexpr std::size_t kLast = selection_line::kChampion;
+/// What scoring asks of a position, side by side in memory.
+struct Place {
+    std::uint8_t round = 0; ///< 0 for the rows of the starting field
+    std::array<Position, 2> feeders{};
+};
 
-/// First pass, from the first slot on: a team's loss is always met at a lower slot than any later pick of it.
+const ByPosition<Place>& places()
+{
+    static const auto all = [] {
+        ByPosition<Place> made;
+        for (const Position game : gamePositions())
+            made[game] = {static_cast<std::uint8_t>(roundOf(game)), *feeders(game)};
+        return made;
+    }();
+    return all;
+}
+
+/// First pass, in the order of the positions: a team's loss is always met before any later pick of it.
 class DecidedGames
 {
 public:
-    DecidedGames(const NumberedPair& pair, const Payoffs& payoffs, NumberedScore& score) : m_pair{pair}, m_score{score}
+    DecidedGames(const ByPosition<TeamNumber>& picks, const ByPosition<TeamNumber>& results, const Payoffs& payoffs,
+                 Score& score)
+        : m_picks{picks}, m_results{results}, m_score{score}
     {
         std::ranges::copy(payoffs, m_payoffOfRound.begin() + 1);
-        m_isOut[kNoTeam] = true; // an empty pick cannot win either
+        m_isOut[kNoTeam] = true; // no pick cannot win either
     }
 
     void scoreAll()
     {
-        for (std::size_t region = 0; region < kRegions; ++region) {
-            const std::size_t firstRow = kFirst + region * kRegionBlock;
-            scoreRows(firstRow);
-            for (std::size_t slot = firstRow + kRowsPerRegion; slot < firstRow + kRegionBlock; ++slot)
-                scoreSlot(slot);
+        for (int region = 0; region < kRegions; ++region) {
+            scoreTeams(teamsOfRegion(region));
+            for (const Position game : gamesOfRegion(region))
+                scorePlace(game);
         }
-        for (std::size_t slot = kFirst + kSemifinalA; slot <= kLast; ++slot)
-            scoreSlot(slot);
+        for (const Position game : finalGames())
+            scorePlace(game);
     }
 
 private:
     /// The rows of the starting field: nearly always the same in both brackets, and then done in one go.
-    void scoreRows(std::size_t firstRow)
+    void scoreTeams(std::span<const Position> rows)
     {
-        const auto picks = m_pair.picks.begin() + firstRow;
-        const auto results = m_pair.results.begin() + firstRow;
-        const bool isComplete = std::find(results, results + kRowsPerRegion, kNoTeam) == results + kRowsPerRegion;
-        if (isComplete && std::equal(picks, picks + kRowsPerRegion, results))
-            std::fill_n(m_score.status.begin() + firstRow, kRowsPerRegion, Verdict::Good);
+        const auto first = static_cast<std::size_t>(index(rows.front()));
+        const std::span picks = std::span{m_picks.values}.subspan(first, kRowsPerRegion);
+        const std::span results = std::span{m_results.values}.subspan(first, kRowsPerRegion);
+        if (std::ranges::equal(picks, results) && std::ranges::find(results, kNoTeam) == results.end())
+            std::ranges::fill(std::span{m_score.verdicts.values}.subspan(first, kRowsPerRegion), Verdict::Good);
         else
-            for (std::size_t slot = firstRow; slot < firstRow + kRowsPerRegion; ++slot)
-                scoreSlot(slot);
+            for (const Position row : rows)
+                scorePlace(row);
     }
 
     /// Without branches, which right and wrong picks would make unpredictable.
-    void scoreSlot(std::size_t slot)
+    void scorePlace(Position position)
     {
-        const TeamNumber pick = m_pair.picks[slot];
-        const TeamNumber result = m_pair.results[slot];
-        const std::size_t round = m_slots[slot].round;
+        const TeamNumber pick = m_picks[position];
+        const TeamNumber result = m_results[position];
+        const std::size_t round = m_places[position].round;
         const bool isDecided = result != kNoTeam;
         const bool isRight = isDecided & (pick == result);
         m_isOut[pick] |= isDecided & (!isRight);
@@ -64,12 +78,13 @@ private:
         m_score.points += isRight * m_payoffOfRound[round];
         m_score.goodPicks = static_cast<std::int16_t>(m_score.goodPicks + (isRight & (round != 0)));
         m_score.badPicks = static_cast<std::int16_t>(m_score.badPicks + isBad);
-        m_score.status[slot] = isRight ? Verdict::Good : isBad ? Verdict::Bad : Verdict::Open;
+        m_score.verdicts[position] = isRight ? Verdict::Good : isBad ? Verdict::Bad : Verdict::Open;
     }
 
-    const NumberedPair& m_pair;
-    NumberedScore& m_score;
-    const std::array<BracketSlot, 128>& m_slots = bracketSlots();
+    const ByPosition<TeamNumber>& m_picks;
+    const ByPosition<TeamNumber>& m_results;
+    Score& m_score;
+    const ByPosition<Place>& m_places = places();
     std::array<std::int32_t, kRounds + 1> m_payoffOfRound{}; ///< nothing for the rows of the starting field
     std::array<bool, 256> m_isOut{};                         ///< by team number
 };
@@ -77,40 +92,19 @@ private:
 bool isAlive(Verdict verdict) { return verdict == Verdict::Good || verdict == Verdict::Possible; }
 
 /// Second pass: an open pick can still earn its points when one of the two picks before it can, or did.
-void addPossiblePoints(const Payoffs& payoffs, NumberedScore& score)
+void addPossiblePoints(const Payoffs& payoffs, Score& score)
 {
-    const auto& slots = bracketSlots();
-    for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
-        if (score.status[slot] != Verdict::Open || slots[slot].round == 0)
+    const ByPosition<Place>& all = places();
+    for (const Position game : gamePositions()) {
+        if (score.verdicts[game] != Verdict::Open)
             continue;
-        const auto& [round, feeders] = slots[slot];
-        if (round > 1 && !isAlive(score.status[feeders[0]]) && !isAlive(score.status[feeders[1]]))
+        const auto& [round, feeders] = all[game];
+        if (round > 1 && !isAlive(score.verdicts[feeders[0]]) && !isAlive(score.verdicts[feeders[1]]))
             continue;
         score.possible += payoffs[static_cast<std::size_t>(round - 1)];
-        if (slot != kLast) // on purpose: a champion that is still possible keeps the verdict Open
-            score.status[slot] = Verdict::Possible;
+        if (game != kChampion) // on purpose: a champion that is still possible keeps the verdict Open
+            score.verdicts[game] = Verdict::Possible;
     }
-}
-
-/// @returns the teams picked for a game they did not win, each once, in order of their loss
-std::vector<std::string> eliminatedTeams(const SelectionLines& picks, const NumberedPair& pair)
-{
-    std::array<std::size_t, 128> losses{}; // slots; the names then come into a list that fits them
-    std::size_t count = 0;
-    std::array<bool, 256> isListed{};
-    for (std::size_t slot = kFirst; slot <= kLast; ++slot) {
-        const TeamNumber pick = pair.picks[slot];
-        const bool lost = pair.results[slot] != kNoTeam && pair.results[slot] != pick;
-        if (lost && pick != kNoTeam && !isListed[pick]) {
-            isListed[pick] = true;
-            losses[count++] = slot;
-        }
-    }
-    std::vector<std::string> teams;
-    teams.reserve(count);
-    for (std::size_t loss = 0; loss < count; ++loss)
-        teams.push_back(picks[losses[loss]]);
-    return teams;
 }
 
 Result<std::int16_t> sixteenBits(std::int32_t points, const std::string& fileName)
@@ -121,74 +115,63 @@ Result<std::int16_t> sixteenBits(std::int32_t points, const std::string& fileNam
 }
 
 /// @returns the finalist who is not the champion
-const std::string& runnerUp(const SelectionLines& picks)
+const std::string& runnerUp(const Bracket& picks)
 {
-    constexpr std::size_t kFinalistA = kLast - 2;
-    constexpr std::size_t kFinalistB = kLast - 1;
-    return picks[kFinalistB] == picks[kLast] ? picks[kFinalistA] : picks[kFinalistB];
+    return picks.at(kSemifinalB) == picks.at(kChampion) ? picks.at(kSemifinalA) : picks.at(kSemifinalB);
 }
 
 } // namespace
 
-NumberedScore scoreNumbered(const NumberedPair& pair, const Payoffs& payoffs)
+Score score(const Bracket& picks, const Bracket& results, const Payoffs& payoffs)
 {
-    NumberedScore score;
-    DecidedGames{pair, payoffs, score}.scoreAll();
-    addPossiblePoints(payoffs, score);
-    return score;
-}
-
-Scoring::Scoring(const SelectionLines& results, const Payoffs& payoffs) : m_results{results}, m_payoffs{payoffs} {}
-
-ScoredPicks Scoring::score(const SelectionLines& picks) const
-{
-    const NumberedPair pair = m_results.pairWith(picks);
-    const NumberedScore score = scoreNumbered(pair, m_payoffs);
-    ScoredPicks scored{score.points, score.possible, score.goodPicks, score.badPicks, {}};
-    std::copy(score.status.begin(), score.status.end(), scored.verdict.SlotStatus.begin());
-    scored.verdict.EliminatedTeams = eliminatedTeams(picks, pair);
+    Score scored;
+    if (&picks.names() == &results.names())
+        DecidedGames{picks.numbers(), results.numbers(), payoffs, scored}.scoreAll();
+    else
+        DecidedGames{numbersIn(results.names(), picks), results.numbers(), payoffs, scored}.scoreAll();
+    addPossiblePoints(payoffs, scored);
     return scored;
 }
 
-Result<ScoreLine> Scoring::line(const std::string& fileName, const SelectionLines& picks, ScoredVerdict& verdict) const
+Result<PlayerScore> scoreEntry(const Entry& entry, const Bracket& results, const Payoffs& payoffs)
 {
-    ScoredPicks scored = score(picks);
-    verdict = std::move(scored.verdict);
-
-    const Result<std::int16_t> points = sixteenBits(scored.points, fileName);
+    const Score scored = score(entry.picks, results, payoffs);
+    const Result<std::int16_t> points = sixteenBits(scored.points, entry.fileName);
     if (!points)
         return points.failure();
-    const Result<std::int16_t> maximum = sixteenBits(scored.points + scored.possible, fileName);
+    const Result<std::int16_t> maximum = sixteenBits(scored.points + scored.possible, entry.fileName);
     if (!maximum)
         return maximum.failure();
-    const Result<std::int16_t> finalPoints = wholeNumber(picks[selection_line::kFinalPoints]);
+    const Result<std::int16_t> finalPoints = wholeNumber(entry.finalPoints);
     if (!finalPoints)
-        return Failure{"The predicted total points of " + fileName + " cannot be used. " +
+        return Failure{"The predicted total points of " + entry.fileName + " cannot be used. " +
                        finalPoints.failure().message};
-
-    ScoreLine line;
-    line.FileName = fileName;
-    line.PlayerName = picks[selection_line::kInitials] + ", " + picks[selection_line::kName];
-    line.Points = *points;
-    line.MaxPoints = *maximum;
-    line.GoodPicks = scored.goodPicks;
-    line.BadPicks = scored.badPicks;
-    line.WinningPick = picks[kLast];
-    line.RunnerUpPick = runnerUp(picks);
-    line.FinalPoints = *finalPoints;
-    return line;
+    return PlayerScore{entry.fileName,
+                       entry.initials + ", " + entry.name,
+                       *points,
+                       *maximum,
+                       scored.goodPicks,
+                       scored.badPicks,
+                       entry.picks.at(kChampion),
+                       runnerUp(entry.picks),
+                       *finalPoints,
+                       scored.verdicts};
 }
 
-Result<Payoffs> payoffsOf(const std::array<std::string, 6>& texts)
+Result<std::vector<PlayerScore>> scoreEntries(std::span<const Entry> entries, const Bracket& results,
+                                              const Payoffs& payoffs, const Step& step)
 {
-    Payoffs payoffs{};
-    for (std::size_t round = 0; round < texts.size(); ++round) {
-        const Result<std::int16_t> payoff = wholeNumber(texts[round]);
-        if (!payoff)
-            return payoff.failure();
-        payoffs[round] = *payoff;
+    std::vector<PlayerScore> scores;
+    scores.reserve(entries.size());
+    for (const Entry& entry : entries) {
+        const Result<PlayerScore> scored = scoreEntry(entry, results, payoffs);
+        if (!scored)
+            return scored.failure();
+        scores.push_back(*scored);
+        if (!step())
+            break;
     }
-    return payoffs;
+    return scores;
 }
 
 } // namespace tallyhoop

@@ -1,78 +1,67 @@
-// pool/scoring.h - the scoring of one bracket against the results, as a pure function.
+// pool/scoring.h - the score of one bracket against the results, and what became of each of its picks.
 #pragma once
 
 #include "base/result.h"
-#include "pool/numbered_bracket.h"
-#include "pool/pool_lines.h"
-#include "screens/mod_tallyhoop.h"
-#include "screens/screens.h"
+#include "base/step.h"
+#include "pool/entry.h"
+#include "pool/payoffs.h"
 
-#include <array>
 #include <cstdint>
+#include <span>
 #include <string>
+#include <vector>
 
 namespace tallyhoop {
 
-/// One player's score.
-struct ScoreLine {
-    std::string FileName;         ///< as it was given
-    std::string PlayerName;       ///< initials, ", ", name
-    std::int16_t Points = 0;      ///< earned so far
-    std::int16_t MaxPoints = 0;   ///< earned and still possible
-    std::int16_t GoodPicks = 0;   ///< games picked right
-    std::int16_t BadPicks = 0;    ///< slots with the verdict Bad
-    std::string WinningPick;      ///< the player's champion
-    std::string RunnerUpPick;     ///< the player's other finalist
-    std::int16_t FinalPoints = 0; ///< tie-breaker; 0 when there is none
-
-    friend bool operator==(const ScoreLine&, const ScoreLine&) = default;
+/// What became of a pick.
+enum class Verdict : std::uint8_t {
+    None,
+    Good,     ///< decided, and right (also every first-round row whose team is that of the results)
+    Bad,      ///< decided and wrong, or open and the team is out, or no pick
+    Open,     ///< not decided, and cannot earn points any longer
+    Possible, ///< not decided, and can still earn its points
 };
 
-/// Points and counts of one bracket, before names are attached.
-struct ScoredPicks {
-    std::int32_t points = 0;
-    std::int32_t possible = 0; ///< points that open games can still bring
+using Verdicts = ByPosition<Verdict>;
+
+/// Whole points; picks are counted in games (0..63), bad ones in places (0..127).
+struct Score {
+    std::int32_t points = 0;   ///< earned so far
+    std::int32_t possible = 0; ///< that open games can still bring
     std::int16_t goodPicks = 0;
     std::int16_t badPicks = 0;
-    ScoredVerdict verdict;
+    Verdicts verdicts;
+
+    friend bool operator==(const Score&, const Score&) = default;
 };
 
-/// What scoring finds out about numbered brackets.
-struct NumberedScore {
-    std::int32_t points = 0;
-    std::int32_t possible = 0;
+/// Scores picks against the results entered so far; a place where the results have nobody is a game not yet played.
+/// Cannot fail: a team that the results do not know simply never matches. Names are compared exactly.
+Score score(const Bracket& picks, const Bracket& results, const Payoffs& payoffs);
+
+/// A player's score as lists and reports show it, every number within 16 bits.
+struct PlayerScore {
+    std::string fileName;
+    std::string playerName; ///< initials, ", ", name
+    std::int16_t points = 0;
+    std::int16_t maxPoints = 0; ///< earned and still possible
     std::int16_t goodPicks = 0;
     std::int16_t badPicks = 0;
-    std::array<Verdict, 128> status{}; ///< by slot 1..127
+    std::string winningPick;      ///< the player's champion; empty = none
+    std::string runnerUpPick;     ///< the player's other finalist; empty = none
+    std::int16_t finalPoints = 0; ///< tie-breaker; 0 when there is none
+    Verdicts verdicts;
+
+    friend bool operator==(const PlayerScore&, const PlayerScore&) = default;
 };
 
-/// Scores numbered picks: the inner part of Scoring, for those who keep brackets numbered.
-NumberedScore scoreNumbered(const NumberedPair& pair, const Payoffs& payoffs);
+/// Scores an entry and adds the names.
+/// @returns a failure when the points or the tie-breaker do not fit 16 bits
+Result<PlayerScore> scoreEntry(const Entry& entry, const Bracket& results, const Payoffs& payoffs);
 
-/// Scores brackets against one set of results. Cannot fail: an unknown team name simply never matches. Names are
-/// compared exactly.
-class Scoring
-{
-public:
-    /// @param results lines 1..127: a team name for each slot, empty = game not yet played; to be kept unchanged as
-    /// long
-    ///                as this is used
-    /// @param payoffs whole points for a right pick in rounds 1..6
-    Scoring(const SelectionLines& results, const Payoffs& payoffs);
-
-    /// @param picks lines 1..127, empty = no pick
-    ScoredPicks score(const SelectionLines& picks) const;
-
-    /// Scores a player's lines and fills in the line that the score display and the reports show.
-    /// @returns a failure when the tie-breaker or the points do not fit 16 bits
-    Result<ScoreLine> line(const std::string& fileName, const SelectionLines& picks, ScoredVerdict& verdict) const;
-
-private:
-    NumberedResults m_results;
-    Payoffs m_payoffs;
-};
-
-/// @returns the six payoffs from their texts, rounds 1..6; a failure when one does not fit 16 bits
-Result<Payoffs> payoffsOf(const std::array<std::string, 6>& texts);
+/// Scores entries, one step of work each.
+/// @returns a score for each, in order, fewer when the work was stopped; a failure when a number does not fit 16 bits
+Result<std::vector<PlayerScore>> scoreEntries(std::span<const Entry> entries, const Bracket& results,
+                                              const Payoffs& payoffs, const Step& step = goOn);
 
 } // namespace tallyhoop

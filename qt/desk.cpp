@@ -13,7 +13,7 @@ namespace tallyhoop::qt {
 
 namespace {
 
-// A rule that moves the focus on every focus change would never come to rest.
+// A rule that moves the focus on every focus change would otherwise loop forever.
 constexpr int kMostFocusRounds = 8;
 
 } // namespace
@@ -53,7 +53,7 @@ void Desk::execute(ui::Screen& screen, const std::function<void()>& command)
     reportFocus(screen);
     m_running.pop_back();
     if (--m_depth == 0 && !m_parked.empty() && !m_clearingSoon) {
-        // The widget whose signal started the command is still on the stack: let it return first.
+        // The widget whose signal started the command is still on the call stack: let it return first.
         m_clearingSoon = true;
         QTimer::singleShot(0, this, [this] {
             m_clearingSoon = false;
@@ -91,10 +91,10 @@ void Desk::reportFocus(const ui::Screen& screen)
     // A command may have moved the focus; the screen's own rules for that run as if the person had done it.
     for (int round = 0; round < kMostFocusRounds; ++round) {
         Page* page = pageOf(screen);
-        bool told = false;
+        bool reported = false;
         if (page)
-            guarded([page, &told] { told = page->reportFocus(); });
-        if (!told)
+            guarded([page, &reported] { reported = page->reportFocus(); });
+        if (!reported)
             return;
         push();
     }
@@ -104,18 +104,20 @@ void Desk::beforeModal() { push(); }
 
 void Desk::pull()
 {
-    // NOLINTNEXTLINE(modernize-loop-convert): pages may come and go meanwhile
+    // NOLINTNEXTLINE(modernize-loop-convert): pages may be attached and detached meanwhile
     for (std::size_t i = 0; i < m_pages.size(); ++i)
         m_pages[i]->pull();
 }
 
 void Desk::push()
 {
-    // Showing a value can make a widget tell about it; that must not start the next push.
+    // Showing a value can make a widget emit a signal; that must not start another push.
     if (m_pushing)
         return;
     m_pushing = true;
-    // NOLINTNEXTLINE(modernize-loop-convert): pages may come and go meanwhile
+    for (const Page* page : m_pages)
+        page->screen().showState();
+    // NOLINTNEXTLINE(modernize-loop-convert): pages may be attached and detached meanwhile
     for (std::size_t i = 0; i < m_pages.size(); ++i)
         m_pages[i]->push();
     m_pushing = false;
@@ -160,7 +162,7 @@ void Desk::clearParked()
     while (m_depth == 0 && !m_parked.empty()) {
         Parked oldest = std::move(m_parked.front());
         m_parked.erase(m_parked.begin());
-        oldest.page.reset(); // before its model, which it shows
+        oldest.page.reset(); // before the model that it shows
     }
 }
 

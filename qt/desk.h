@@ -1,8 +1,9 @@
-// qt/desk.h - everything a person does goes over this desk: it keeps screens (values) and pages (widgets) alike.
+// qt/desk.h - everything a person does passes through the desk, which keeps screens (values) and pages (widgets) in
+// sync.
 //
 // A command is run between a pull and a push: what the person typed, ticked, selected or focused goes into the models
-// of all attached pages; after the command every field that differs is shown, on all of them, for a command may change
-// other screens too.
+// of all attached pages; after the command every screen derives its controls from its state, and every field that
+// differs is shown, on all pages, for a command may change other screens too.
 #pragma once
 
 #include "ui/screen.h"
@@ -39,7 +40,8 @@ public:
     /// The same for what the program itself does with a screen inside a command (loading, unloading): never dropped.
     void runInside(ui::Screen& screen, const std::function<void()>& command);
 
-    /// Whether something the person does may reach this screen now; nullptr = the frame itself (its close button).
+    /// @returns whether an action of the person may reach this screen now; nullptr = the frame itself (its close
+    /// button)
     bool accepts(const ui::Screen* screen) const;
 
     bool isRunning() const { return m_depth > 0; }
@@ -50,10 +52,10 @@ public:
     /// Pulls and pushes without a command, such as when a page comes to the front.
     void push();
 
-    /// @returns the window of the running screen, for dialogs to stand on; the frame when that is not visible
+    /// @returns the window of the running screen, as the parent of dialogs; the frame when that is not visible
     QWidget* windowForDialogs() const;
 
-    /// While one lives, commands of other screens are dropped. For message boxes (no screen) and modal screens.
+    /// While one exists, commands of other screens are dropped. For message boxes (no screen) and modal screens.
     class Modal
     {
     public:
@@ -66,7 +68,7 @@ public:
         Desk& m_desk;
     };
 
-    /// A page attaches itself when it is made and detaches when it goes.
+    /// A page attaches itself when it is made and detaches when it is destroyed.
     void attach(Page& page);
     void detach(Page& page);
 
@@ -74,13 +76,14 @@ public:
     /// outermost command has returned. @param page the page, or the window that holds it
     void park(std::unique_ptr<QWidget> page, std::unique_ptr<ui::Screen> screen);
 
-    /// Destroys what is parked, unless a command is running. Happens by itself; the end of the program calls it too.
+    /// Destroys what is parked, unless a command is running. Called automatically after the outermost command, and at
+    /// the end of the program.
     void clearParked();
 
     /// Called after every push, such as for the frame's title.
     std::function<void()> pushed;
 
-    /// F1 where no help menu hears it: shows this topic.
+    /// Shows this help topic, for F1 in places without a help menu.
     std::function<void(const std::string& topic)> helpWanted;
 
     /// @returns the help topic of the screen that asks a modal question now; empty when none is running

@@ -20,9 +20,9 @@ public:
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        const QColor ink = QApplication::palette().color(group, role);
+        const QColor textColour = QApplication::palette().color(group, role);
         QByteArray svg = m_svg;
-        svg.replace("currentColor", ink.name().toLatin1());
+        svg.replace("currentColor", textColour.name().toLatin1());
         QSvgRenderer{svg}.render(painter, place);
     }
 

@@ -38,7 +38,7 @@ double luminance(const QColor& colour)
 void apply(QApplication&)
 {
     loadResources();
-    QApplication::setStyle(new Style); // whose polish() mends the palette, now and whenever the desktop changes it
+    QApplication::setStyle(new Style); // whose polish() corrects the palette, now and whenever the desktop changes it
     QApplication::setWindowIcon(lineIcon(QStringLiteral(":/tallyhoop.svg")));
 }
 
@@ -116,14 +116,14 @@ QColor halfway(const QColor& one, const QColor& other)
 
 } // namespace
 
-void setGround(QPalette& palette, const QColor& ground)
+void setBackground(QPalette& palette, const QColor& background)
 {
-    const bool dark = contrast(ground, Qt::white) > contrast(ground, Qt::black);
+    const bool dark = contrast(background, Qt::white) > contrast(background, Qt::black);
     const QColor text = dark ? Qt::white : Qt::black;
-    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::Base, background);
     palette.setColor(QPalette::Text, text);
-    palette.setColor(QPalette::PlaceholderText, text); // anything paler could hardly be read on most grounds
-    palette.setColor(QPalette::Disabled, QPalette::Text, halfway(text, ground));
+    palette.setColor(QPalette::PlaceholderText, text); // a paler text would be unreadable on most backgrounds
+    palette.setColor(QPalette::Disabled, QPalette::Text, halfway(text, background));
 }
 
 double contrast(const QColor& one, const QColor& other)

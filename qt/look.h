@@ -1,4 +1,4 @@
-// qt/look.h - the spacing and type scale that every view shares, and what else makes them look alike.
+// qt/look.h - the spacing, fonts and colours that every view shares.
 #pragma once
 
 #include "ui/colour.h"
@@ -47,9 +47,9 @@ QColor toQColor(ui::Colour colour);
 /// @returns a line icon drawn in the palette's text colour, null when there is none of this name
 QIcon menuIcon(std::string_view name);
 
-/// Gives boxes and lists a ground of this colour, and their text whichever of black and white reads better on it.
-/// While they are disabled their text is paler.
-void setGround(QPalette& palette, const QColor& ground);
+/// Gives boxes and lists a background of this colour, and their text black or white, whichever has more contrast.
+/// Disabled text is paler.
+void setBackground(QPalette& palette, const QColor& background);
 
 /// Contrast between two colours, 1..21.
 double contrast(const QColor& one, const QColor& other);

@@ -32,7 +32,7 @@ MainFrame::MainFrame() : m_stack{new QStackedWidget}
 void MainFrame::open()
 {
     const QRect available = screen()->availableGeometry();
-    // In the middle, and known before it is shown: what is asked at the start stands over it.
+    // Centred before it is shown, because the first question appears centred over it.
     setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, kComfortable, available));
     if (available.width() < kComfortable.width() + 100 || available.height() < kComfortable.height() + 60)
         showMaximized();
@@ -43,7 +43,7 @@ void MainFrame::open()
 void MainFrame::addPage(Page& page)
 {
     page.setWindowFlags(Qt::Widget);
-    page.resize(m_stack->size()); // laid out once, not for a size that nobody will see
+    page.resize(m_stack->size()); // lays it out once, not first for a size that is never shown
     m_stack->addWidget(&page);
     showPage(page);
 }
@@ -71,7 +71,7 @@ static QString subjectOf(const ui::Screen& screen)
     return subject == QLatin1String{kProgram} ? QString{} : QLatin1String{" - "} + titleText(subject);
 }
 
-// The mark of unsaved changes is written out: Qt's own would stand in the title's text as a placeholder.
+// The mark of unsaved changes is written out: with Qt's own, the title's text would contain a placeholder.
 void MainFrame::refreshTitle()
 {
     QString title = QLatin1String{kProgram};

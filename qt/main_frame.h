@@ -20,13 +20,13 @@ public:
     /// Opens the frame: maximised on a small screen, at a comfortable size on a large one.
     void open();
 
-    /// The page is shown in front of those already there; whoever removes it owns it again.
+    /// The page is shown in front of the others; the caller of removePage() owns it again.
     void addPage(Page& page);
     void removePage(Page& page);
     void showPage(Page& page);
     Page* visiblePage() const;
 
-    /// Names the visible screen's document and its unsaved state in the title.
+    /// Shows the visible screen's document and its unsaved state in the title.
     void refreshTitle();
 
     /// The person wants to close the frame; it stays open unless this ends the program.

@@ -6,8 +6,8 @@ namespace tallyhoop::qt {
 
 namespace {
 
-/// A coloured disc or triangle with a sign in it, as message boxes have it.
-QPixmap signPixmap(QStyle::StandardPixmap which, int size)
+/// A coloured disc or triangle with a symbol in it, as message boxes have it.
+QPixmap iconPixmap(QStyle::StandardPixmap which, int size)
 {
     QPixmap pixmap{size, size};
     pixmap.fill(Qt::transparent);
@@ -15,40 +15,40 @@ QPixmap signPixmap(QStyle::StandardPixmap which, int size)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(size / 48.0, size / 48.0);
     painter.setPen(Qt::NoPen);
-    QString sign;
+    QString symbol;
     QRectF place{0, 0, 48, 48};
-    QColor ink = Qt::white;
+    QColor symbolColour = Qt::white;
     if (which == QStyle::SP_MessageBoxWarning) {
         painter.setBrush(QColor{0xf2, 0xb0, 0x1e});
         painter.setPen(QPen{QColor{0xf2, 0xb0, 0x1e}, 6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin});
         painter.drawPolygon(QPolygonF{{QPointF{24, 7}, QPointF{43, 41}, QPointF{5, 41}}});
-        sign = QStringLiteral("!");
+        symbol = QStringLiteral("!");
         place.setTop(9);
-        ink = QColor{0x1c, 0x1f, 0x24};
+        symbolColour = QColor{0x1c, 0x1f, 0x24};
     } else {
         const bool critical = which == QStyle::SP_MessageBoxCritical;
         painter.setBrush(critical ? QColor{0xc0, 0x39, 0x2b} : QColor{0x0b, 0x57, 0xa4});
         painter.drawEllipse(QRectF{3, 3, 42, 42});
-        sign = critical ? QStringLiteral("\u00d7")
-                        : QString{which == QStyle::SP_MessageBoxQuestion ? QLatin1Char{'?'} : QLatin1Char{'i'}};
+        symbol = critical ? QStringLiteral("\u00d7")
+                          : QString{which == QStyle::SP_MessageBoxQuestion ? QLatin1Char{'?'} : QLatin1Char{'i'}};
     }
     QFont font = painter.font();
     font.setPixelSize(30);
     font.setBold(true);
     painter.setFont(font);
-    painter.setPen(ink);
-    painter.drawText(place, Qt::AlignCenter, sign);
+    painter.setPen(symbolColour);
+    painter.drawText(place, Qt::AlignCenter, symbol);
     return pixmap;
 }
 
 } // namespace
 
-QIcon messageSign(QStyle::StandardPixmap which)
+QIcon messageIcon(QStyle::StandardPixmap which)
 {
-    QIcon signs;
+    QIcon icon;
     for (const int size : {16, 32, 48, 72, 96, 144})
-        signs.addPixmap(signPixmap(which, size));
-    return signs;
+        icon.addPixmap(iconPixmap(which, size));
+    return icon;
 }
 
 } // namespace tallyhoop::qt

@@ -1,4 +1,4 @@
-// qt/message_sign.h - the signs on message boxes, drawn by us.
+// qt/message_sign.h - the icons of message boxes, drawn by the program itself.
 #pragma once
 
 #include <QIcon>
@@ -6,7 +6,7 @@
 
 namespace tallyhoop::qt {
 
-/// @param which one of the four SP_MessageBox signs
-QIcon messageSign(QStyle::StandardPixmap which);
+/// @param which one of the four SP_MessageBox icons
+QIcon messageIcon(QStyle::StandardPixmap which);
 
 } // namespace tallyhoop::qt

@@ -34,7 +34,7 @@ Page::Page(ui::Screen& screen, Desk& desk) : m_screen{screen}, m_desk{desk}
     connect(qApp, &QApplication::focusChanged, this, [this] {
         ui::Control* now = focusedControl();
         if (!m_pushing && isVisible() && now && now != m_focusReported)
-            run({}); // whatever runs tells the screen about the focus when it has finished
+            run({}); // after a command the desk reports the focus to the screen
     });
     m_desk.attach(*this);
 }
@@ -42,7 +42,7 @@ Page::Page(ui::Screen& screen, Desk& desk) : m_screen{screen}, m_desk{desk}
 Page::~Page()
 {
     m_desk.detach(*this);
-    // Widgets report lost focus while they are destroyed; nobody must be told then.
+    // Widgets report lost focus while they are destroyed; that must not reach the screen.
     QObject::disconnect(qApp, nullptr, this, nullptr);
 }
 
@@ -149,7 +149,7 @@ void Page::pushFocus()
     if (wanted && m_screen.focused != focusedControl() && wanted->isEnabled())
         wanted->setFocus(Qt::OtherFocusReason);
     ui::Control* now = focusedControl();
-    // A hidden or disabled control cannot have the focus: the model learns who has it instead.
+    // A hidden or disabled control cannot have the focus: the model gets the control that has it instead.
     if (now && isVisible())
         m_screen.focused = now;
     m_focusSeen = now;
@@ -216,7 +216,7 @@ void Page::focusFirst()
 
 void Page::closeEvent(QCloseEvent* event)
 {
-    // The screen decides; when it goes it is unloaded, and its window with it.
+    // The screen decides; when it agrees, it is unloaded and its window is closed with it.
     event->ignore();
     run([this] { m_screen.closeRequested(); });
 }

@@ -1,10 +1,10 @@
-// qt/page.h - a screen's widgets, kept alike with its control models.
+// qt/page.h - a screen's widgets, kept in sync with its control models.
 //
 // A view derives from Page; its constructor is a layout and a list of add(...) calls:
 //
 //     layout->addWidget(add(board.txtPlayerName));
 //
-// The same page serves in the frame's stack, as a window of its own, or inside a modal dialog.
+// The same page works in the frame's stack, as a window of its own, and inside a modal dialog.
 #pragma once
 
 #include "qt/desk.h"
@@ -51,7 +51,7 @@ public:
     ui::Screen& screen() const { return m_screen; }
     Desk& desk() const { return m_desk; }
 
-    /// Makes the widget of a control, names it after the control, and keeps both alike.
+    /// Makes the widget of a control, names it after the control, and keeps both in sync.
     QLabel* add(ui::Label& label);  ///< plain text, never a mnemonic
     QWidget* add(ui::TextBox& box); ///< QLineEdit, or QPlainTextEdit when the box is multiLine
     QPushButton* add(ui::Command& command);
@@ -71,8 +71,8 @@ public:
         return buttons;
     }
 
-    /// Registers a widget that the view made itself: names it and keeps the common parts alike (enabled, visible, tool
-    /// tip, spoken name and hint, tab order, keys, focus). @returns the widget
+    /// Registers a widget that the view made itself: names it and keeps the common parts in sync (enabled, visible,
+    /// tool tip, spoken name and hint, tab order, keys, focus). @returns the widget
     template <class Widget>
     Widget* adopt(ui::Control& control, Widget* widget)
     {
@@ -80,17 +80,18 @@ public:
         return widget;
     }
 
-    /// The same for a label; `apply` is called now and whenever its text or colour differs from what was last applied.
+    /// The same for a label; `apply` is called now and whenever its text or one of its colours differs from what was
+    /// last applied.
     template <class Widget>
     Widget* adopt(ui::Label& label, Widget* widget, std::function<void(const ui::Label&)> apply)
     {
         followCommonParts(label, *widget);
         onPush([&label, apply = std::move(apply), text = std::optional<std::string>{},
-                colour = std::optional<ui::Colour>{}]() mutable {
-            if (text && *text == label.text && colour == label.colour)
+                colours = std::pair<std::optional<ui::Colour>, std::optional<ui::Colour>>{}]() mutable {
+            if (text && *text == label.text && colours == std::pair{label.colour, label.background})
                 return;
             text = label.text;
-            colour = label.colour;
+            colours = {label.colour, label.background};
             apply(label);
         });
         return widget;
@@ -108,8 +109,8 @@ public:
         });
     }
 
-    /// Keeps a value that the person can change too alike with the widget: what the person changed since it was last
-    /// seen is pulled, and what the model has otherwise is pushed. What nobody touched is never read back.
+    /// Keeps the widget in sync with a value that the person can change too: a change made in the widget since the last
+    /// sync is pulled, a change made in the model is pushed. A widget that was not touched is never read back.
     /// @param read  () -> T, what the widget shows
     /// @param write (const T&), shows it
     template <class T, class Read, class Write>
@@ -130,31 +131,31 @@ public:
         });
     }
 
-    /// Runs something with every push, and now.
+    /// Runs `apply` now and with every push.
     void onPush(std::function<void()> apply);
 
-    /// Runs a command of this screen over the desk.
+    /// Runs a command of this screen through the desk.
     void run(const std::function<void()>& command) { m_desk.run(m_screen, command); }
 
     /// Shows this layout as the page's content, with the look's margins.
     void setContent(QLayout* layout);
 
-    /// True while the model is being shown: signals of widgets then are not the person's doing.
+    /// True while the model is being shown: signals of widgets are then not caused by the person.
     bool isPushing() const { return m_pushing; }
 
     /// @returns the widget of a control, nullptr when it has none (menu entries have actions)
     QWidget* widgetOf(const ui::Control& control) const;
     QAction* actionOf(const ui::MenuEntry& entry) const;
 
-    /// @returns names of the screen's controls that the view forgot
+    /// @returns names of the screen's controls that the view did not add
     std::vector<std::string> controlsWithoutWidget() const;
 
-    /// What the desk asks for.
+    /// Called by the desk.
     void pull();
     void push();
 
-    /// Tells the screen when another of its controls has the focus than it was last told.
-    /// @returns whether there was something to tell
+    /// Reports the focus to the screen when it moved to another control since the last report.
+    /// @returns whether it had moved
     bool reportFocus();
 
     /// Gives the focus to the first control in the tab order unless the screen chose one.
@@ -221,16 +222,16 @@ private:
     std::vector<std::function<void()>> m_pushes;
     ui::Control* m_focusSeen = nullptr;
     ui::Control* m_focusReported = nullptr;
-    ElidedLabel* m_explanation = nullptr; ///< the line below the page, once there is something to say
+    ElidedLabel* m_explanation = nullptr; ///< the line below the page; null until there is a text for it
     QLabel* m_status = nullptr;           ///< the right end of that line
     const ui::Control* m_pointed = nullptr;
-    QString m_entryExplained;  ///< what the menu entry says that is about to be chosen; empty = none
-    bool m_focusMoved = false; ///< since the screen's hint was new
+    QString m_entryExplained;  ///< the explanation of the highlighted menu entry; empty = none
+    bool m_focusMoved = false; ///< since the screen's hint changed
     QButtonGroup* m_singleOptions = nullptr;
     const QLineEdit* m_typedInto = nullptr;   ///< unless something else was done since
-    const QLineEdit* m_clickedInto = nullptr; ///< got its focus by the mouse press that is on its way
+    const QLineEdit* m_clickedInto = nullptr; ///< got its focus by a mouse press that has not been delivered yet
     Composing m_composing;
-    bool m_selectedOnFocus = false; ///< and the screen selected text in it for that
+    bool m_selectedOnFocus = false; ///< the box that was clicked into got its focus, and the screen selected text in it
     bool m_pushing = false;
     bool m_tabsChanged = false;
 };

@@ -1,4 +1,4 @@
-// qt/page_controls.cpp - which widget stands for a label, button or tick, and what keeps the two alike.
+// qt/page_controls.cpp - the widgets of labels, buttons, tick boxes and options, kept in sync with their models.
 #include "qt/look.h"
 #include "qt/page.h"
 #include "qt/text.h"
@@ -23,7 +23,7 @@ QLabel* Page::add(ui::Label& label)
 QPushButton* Page::add(ui::Command& command)
 {
     auto* button = new QPushButton{this};
-    // In a dialog every button would otherwise answer Enter; the page does that by the model's isDefault.
+    // In a dialog every button would otherwise react to Enter; the page handles Enter itself, by the model's isDefault.
     button->setAutoDefault(false);
     followCommonParts(command, *button);
     follow(command.caption, [button, &command](const std::string& caption) {
@@ -65,7 +65,7 @@ QRadioButton* Page::addToGroup(ui::OptionButton& option, QButtonGroup& group)
     mirror(
         option.selected, [button] { return button->isChecked(); },
         [button, &group](bool selected) {
-            // An exclusive group refuses to have none selected; the model may.
+            // An exclusive group never has none selected; the model may.
             group.setExclusive(false);
             button->setChecked(selected);
             group.setExclusive(true);

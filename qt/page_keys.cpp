@@ -1,4 +1,4 @@
-// qt/page_keys.cpp - the way of keys, typed and pasted text from a widget to the screen's rules.
+// qt/page_keys.cpp - passes keys, typed and pasted text from a widget to the screen's rules.
 #include "qt/page.h"
 #include "qt/text.h"
 
@@ -92,11 +92,11 @@ bool isModifier(int key)
            key == Qt::Key_AltGr || key == Qt::Key_CapsLock || key == Qt::Key_NumLock;
 }
 
-/// @returns whether a key would undo or redo in the box itself; Qt would give every box its key, even for nothing
+/// @returns whether a key would undo or redo something in the box itself; Qt lets a box take the key in any case
 bool isForBox(const QLineEdit& edit, QKeyEvent& key)
 {
     if (key.matches(QKeySequence::Undo))
-        return edit.isUndoAvailable(); // of a locked box never
+        return edit.isUndoAvailable(); // never in a locked box
     return edit.isRedoAvailable();
 }
 
@@ -135,8 +135,8 @@ bool Page::eventFilter(QObject* watched, QEvent* event)
     return QMainWindow::eventFilter(watched, event);
 }
 
-/// Undo and redo belong to the box as long as it was typed into last, then to the screen's menu: the step taken last is
-/// the one to take back. Where the menu has nothing, the key still comes to the box.
+/// Undo and redo belong to the box while typing into it was the last thing done, otherwise to the screen's menu: what
+/// was done last is undone first. Where the menu has no such entry, the key still reaches the box.
 bool Page::leavesToMenu(const QLineEdit& edit, QKeyEvent& key) const
 {
     if (!key.matches(QKeySequence::Undo) && !key.matches(QKeySequence::Redo))
@@ -164,7 +164,7 @@ bool Page::filterKey(ui::Control& control, QKeyEvent& event)
     if (consumed)
         return true;
 
-    // The keyboard's way to what the mouse does on a grid: press the current cell, move its column.
+    // What the mouse does on a grid, with the keyboard: press the current cell, move its column.
     auto* grid = dynamic_cast<ui::Grid*>(&control);
     auto* table = qobject_cast<QTableView*>(widgetOf(control));
     const bool moveColumn = event.modifiers() == (Qt::ControlModifier | Qt::ShiftModifier);
@@ -173,7 +173,7 @@ bool Page::filterKey(ui::Control& control, QKeyEvent& event)
 
     auto* list = qobject_cast<QListView*>(widgetOf(control));
     if (list && isNavigation(event.key()) && !list->selectionModel()->hasSelection() && list->model()->rowCount() > 0) {
-        // Qt marks the first row unseen when a list gets the focus; without this the first press would pass it by.
+        // Qt makes the first row current, invisibly, when a list gets the focus; the first key would skip that row.
         list->setCurrentIndex(list->model()->index(0, 0));
         return true;
     }
@@ -203,7 +203,7 @@ bool Page::filterInputMethod(ui::Control& control, QEvent& event)
     }
     if (!consumed)
         return false;
-    // The rule has dealt with it; the widget only learns that the composition is over, and gets what was left.
+    // The rule has handled it; the widget only gets the end of the composition and the characters that were left.
     auto* widget = widgetOf(control);
     widget->removeEventFilter(this);
     QInputMethodEvent rest;
@@ -213,8 +213,8 @@ bool Page::filterInputMethod(ui::Control& control, QEvent& event)
     return true;
 }
 
-/// A box drops its selected text as soon as a composition begins in it, before any rule knows what will come of it. The
-/// rules get to see the box as it was then, as they do when a key brings the character at once.
+/// A box drops its selected text as soon as a composition begins in it, before any rule knows what will be typed. This
+/// restores the box as it was, so that the rules see the same as when a key brings the character at once.
 void Page::endComposing()
 {
     const Composing was = std::exchange(m_composing, {});

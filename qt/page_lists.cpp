@@ -54,13 +54,13 @@ QListView* Page::add(ui::ListBox& list)
     if (list.fixedPitch)
         view->setFont(look::fixedFont());
     followCommonParts(list, *view);
-    follow(list.background, [view](const std::optional<ui::Colour>& ground) {
+    follow(list.background, [view](const std::optional<ui::Colour>& background) {
         QPalette palette;
-        if (ground)
-            look::setGround(palette, look::toQColor(*ground));
+        if (background)
+            look::setBackground(palette, look::toQColor(*background));
         view->setPalette(palette);
     });
-    // The rows first: they take the selection with them when they change.
+    // The rows first: changing them clears the selection.
     onPush([&list, rows] {
         if (rows->rows() != list.rows)
             rows->setRows(list.rows);

@@ -43,7 +43,7 @@ QAction* Page::addEntry(ui::MenuEntry& entry, QWidget& holder)
 void Page::followEntry(ui::MenuEntry& entry, QAction& action)
 {
     action.setObjectName(toQString(entry.name));
-    // Qt would take "Exit" or "Setup" for the system's own entries and move them there.
+    // Otherwise Qt may take "Exit" or "Setup" for entries of the system's own menu and move them there.
     action.setMenuRole(QAction::NoRole);
     m_actions[&entry] = &action;
     follow(entry.caption, [&action](const std::string& caption) { action.setText(toQString(caption)); });

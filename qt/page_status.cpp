@@ -1,5 +1,5 @@
-// qt/page_status.cpp - the line below a page: what the place under the pointer or with the focus does, and at its
-// right end how things stand.
+// qt/page_status.cpp - the line below a page: explains the control under the pointer or with the focus, and shows the
+// screen's status at its right end.
 #include "qt/look.h"
 #include "qt/page.h"
 #include "qt/text.h"
@@ -13,11 +13,11 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kEdge = look::kSection - 2; ///< with the status bar's own 2: where the pages begin
+constexpr int kEdge = look::kSection - 2; ///< aligns with the page's margin; the status bar adds 2 of its own
 
 } // namespace
 
-/// A page that never has anything to say keeps the room for its controls.
+/// Made when the first text arrives, so that a page without any keeps the room for its controls.
 void Page::makeStatusLine()
 {
     if (m_explanation)
@@ -45,7 +45,7 @@ void Page::followExplanation(ui::Control& control, QWidget& widget)
             makeStatusLine();
     });
     onPush([&control, &widget, spoken = std::string{}]() mutable {
-        // Left to itself Qt reads the markup of a tool tip aloud.
+        // Without a description, assistive tools would get the tool tip with its markup.
         const std::string& tip = control.explanation.empty() ? control.toolTip : control.explanation;
         const std::string& hint = control.spokenHint.empty() ? tip : control.spokenHint;
         if (hint == spoken)
@@ -66,7 +66,7 @@ void Page::pointerCameOrWent(const ui::Control& control, const QEvent& event)
     explain();
 }
 
-/// A menu tells of the entry that the pointer or a key has come to, and tells nothing when it closes.
+/// A menu sends the explanation of the entry that the pointer or a key has reached, and an empty one when it closes.
 bool Page::event(QEvent* event)
 {
     if (event->type() != QEvent::StatusTip)
@@ -76,7 +76,7 @@ bool Page::event(QEvent* event)
     return true;
 }
 
-/// What happened last counts: the pointer came to a place, the focus moved, the screen had something new to say.
+/// The latest event decides: the pointer entered a control, the focus moved, or the screen set a new hint.
 void Page::explain()
 {
     if (!m_explanation)

@@ -1,4 +1,4 @@
-// qt/page_text.cpp - text boxes: text and caret go both ways, and what is seen is what is saved.
+// qt/page_text.cpp - text boxes: text and caret are kept in sync both ways, and what is shown is what is saved.
 #include "qt/look.h"
 #include "qt/page.h"
 #include "qt/text.h"
@@ -73,10 +73,10 @@ std::string textOf(const LinesEdit& edit) { return fromLines(edit.rawText()); }
 
 void setText(QLineEdit& edit, const ui::TextBox& box)
 {
-    // Qt would cut a text from a file that is longer than what may be typed.
+    // Otherwise Qt would cut a text from a file that is longer than what may be typed.
     constexpr int kNoLimit = 32767;
     const int most = box.maxLength > 0 ? std::max(box.maxLength, static_cast<int>(box.text.size())) : kNoLimit;
-    if (edit.maxLength() != most) // setting it forgets what can be undone
+    if (edit.maxLength() != most) // setting it clears the undo history
         edit.setMaxLength(most);
     if (textOf(edit) != box.text)
         edit.setText(toQString(box.text));
@@ -95,7 +95,7 @@ Selection withinText(const ui::TextBox& box)
     return {start, std::clamp(box.selectionLength, 0, size - start)};
 }
 
-/// What the widget held when it was last alike with the model.
+/// What the widget held when it was last in sync with the model.
 struct Seen {
     std::string text;
     Selection selection;
@@ -152,11 +152,11 @@ void showAsSaved(LinesEdit& edit)
     edit.select(static_cast<int>(caret), 0);
 }
 
-void showGround(const ui::TextBox& box, QWidget& edit)
+void showBackground(const ui::TextBox& box, QWidget& edit)
 {
     QPalette palette;
     if (box.background) {
-        look::setGround(palette, look::toQColor(*box.background));
+        look::setBackground(palette, look::toQColor(*box.background));
     } else if (box.locked) {
         palette.setColor(QPalette::Base, palette.color(QPalette::Window));
     }
@@ -178,15 +178,15 @@ QLineEdit* Page::addLine(ui::TextBox& box)
     followCommonParts(box, *edit);
     follow(box.locked, [edit, &box](bool locked) {
         edit->setReadOnly(locked);
-        showGround(box, *edit);
+        showBackground(box, *edit);
     });
-    follow(box.background, [edit, &box](const auto&) { showGround(box, *edit); });
+    follow(box.background, [edit, &box](const auto&) { showBackground(box, *edit); });
     auto seen = std::make_shared<Seen>();
     m_pulls.emplace_back([&box, edit, seen] { pullText(box, *edit, *seen); });
     onPush([&box, edit, seen] { pushText(box, *edit, *seen); });
     connect(edit, &QLineEdit::textEdited, this, [this, edit, &box] {
         if (m_composing.edit == edit)
-            return; // the selection made room for what is being composed
+            return; // only the selection was dropped, to make room for the composition
         m_typedInto = edit;
         showAsSaved(*edit);
         edited(box);
@@ -201,9 +201,9 @@ QPlainTextEdit* Page::addLines(ui::TextBox& box)
     followCommonParts(box, *edit);
     follow(box.locked, [edit, &box](bool locked) {
         edit->setReadOnly(locked);
-        showGround(box, *edit);
+        showBackground(box, *edit);
     });
-    follow(box.background, [edit, &box](const auto&) { showGround(box, *edit); });
+    follow(box.background, [edit, &box](const auto&) { showBackground(box, *edit); });
     auto seen = std::make_shared<Seen>();
     m_pulls.emplace_back([&box, edit, seen] { pullText(box, *edit, *seen); });
     onPush([&box, edit, seen] { pushText(box, *edit, *seen); });
@@ -227,8 +227,8 @@ QPlainTextEdit* Page::addLines(ui::TextBox& box)
     return edit;
 }
 
-/// A screen may select the text of a box that gets the focus, so that typing replaces it. The click that brought the
-/// focus would put the caret into the middle instead; only the next click is about the caret.
+/// A screen may select the text of a box that gets the focus, so that typing replaces it. The click that moved the
+/// focus would place the caret and clear that selection; only the next click may do so.
 void Page::keepSelectionThroughClick(QLineEdit& edit, const QEvent& event)
 {
     switch (event.type()) {

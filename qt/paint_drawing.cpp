@@ -27,7 +27,7 @@ Qt::Alignment toQt(ui::Alignment alignment)
     return Qt::AlignLeft;
 }
 
-// Letters of a whole number of large units, shrunk by the painter: their widths are then the same on every device.
+// Letters are measured at this large size and scaled by the painter, so that their widths are the same on every device.
 constexpr int kFontUnits = 64;
 
 void paintCaption(QPainter& painter, const ui::Caption& caption)

@@ -1,4 +1,4 @@
-// qt/paint_drawing.h - paints a Drawing: on the printer, in a PDF and as a widget's background alike.
+// qt/paint_drawing.h - paints a Drawing on the printer, in a PDF or as a widget's background.
 #pragma once
 
 #include "ui/drawing.h"

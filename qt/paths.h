@@ -1,4 +1,4 @@
-// qt/paths.h - paths between Qt and the core: byte for byte, never through the texts' encoding.
+// qt/paths.h - converts paths between Qt and the core byte for byte, never through the encoding of texts.
 #pragma once
 
 #include <QFile>

@@ -17,7 +17,7 @@ constexpr double kTwipsPerPoint = 20;
 constexpr double kTwipsPerInch = 1440;
 constexpr double kTightest = 10 * kTwipsPerPoint; ///< the smallest distance of two lines
 constexpr char kFormFeed = '\f';
-// What is lost to the computer's arithmetic must not push the last line to another sheet.
+// A rounding error must not push the last line to another sheet.
 constexpr double kTolerance = 0.01;
 
 std::vector<std::vector<std::string>> reportPages(const std::vector<std::string>& lines)

@@ -1,4 +1,4 @@
-// qt/print_pages.h - lays printouts out on sheets and paints them: on a printer, in a PDF, in a preview alike.
+// qt/print_pages.h - lays printouts out on sheets and paints them on a printer, in a PDF or in a preview.
 #pragma once
 
 #include "ui/printer.h"
@@ -11,15 +11,15 @@
 
 namespace tallyhoop::qt {
 
-/// Lines that share a sheet, and how far apart they stand, in twips (1440 to the inch).
+/// The lines of one sheet, and the distance between them in twips (1440 to the inch).
 struct Sheet {
     std::vector<std::string> lines;
     double spacing = 0;
 };
 
 /// Divides lines into sheets. A form feed ends a page of the report. A page that is too long for a sheet at the natural
-/// spacing is set tighter, down to 10 points a line; if that does not help it keeps the natural spacing and goes on on
-/// another sheet. Pages without lines are left out; there is always one sheet.
+/// spacing is set tighter, down to 10 points a line; if that is not enough it keeps the natural spacing and continues
+/// on another sheet. Pages without lines are left out; there is always at least one sheet.
 /// @param height  of the printable area, twips
 /// @param natural the font's own line spacing, twips
 std::vector<Sheet> layOut(const std::vector<std::string>& lines, double height, double natural);

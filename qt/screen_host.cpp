@@ -9,7 +9,7 @@ namespace tallyhoop::qt {
 
 namespace {
 
-/// The window around the page of a modal screen: its close button and Escape ask the screen.
+/// The window around the page of a modal screen: its close button and Escape go to the screen's closeRequested().
 class PageDialog : public QDialog
 {
 public:
@@ -52,7 +52,7 @@ ScreenHost::~ScreenHost()
         m_loaded.back()->window.reset();
         m_loaded.pop_back();
     }
-    m_desk.clearParked(); // a parked dialog still stands on the frame, which may go next
+    m_desk.clearParked(); // a parked dialog is still a child of the frame, which may be destroyed next
 }
 
 void ScreenHost::registerScreen(ScreenKind kind, Placement placement, MakeScreen makeScreen, MakeView makeView)
@@ -86,7 +86,7 @@ Page* ScreenHost::page(ScreenKind kind) const
     return one ? one->page : nullptr;
 }
 
-void ScreenHost::load(ScreenKind kind, Opening opening)
+void ScreenHost::load(ScreenKind kind, const std::string& notice)
 {
     const auto recipe = m_recipes.find(kind);
     if (recipe == m_recipes.end())
@@ -98,7 +98,7 @@ void ScreenHost::load(ScreenKind kind, Opening opening)
     auto made = std::make_unique<Loaded>();
     made->kind = kind;
     made->placement = recipe->second.placement;
-    made->screen = recipe->second.makeScreen(opening);
+    made->screen = recipe->second.makeScreen(notice);
     auto page = recipe->second.makeView(*made->screen, m_desk);
     made->page = page.get();
     made->window = std::move(page);
@@ -106,7 +106,7 @@ void ScreenHost::load(ScreenKind kind, Opening opening)
     m_loaded.push_back(std::move(made));
 
     m_desk.runInside(screen, [&screen] { screen.load(); });
-    // Its load may have gone elsewhere: then there is nothing to show.
+    // Its load() may have unloaded it again: then there is nothing to show.
     if (!isStill(kind, screen))
         return;
     loaded(kind)->page->focusFirst();
@@ -133,10 +133,10 @@ void ScreenHost::show(Loaded& one)
         runModal(one);
         return;
     }
-    // Under its new parent the page gave the focus to whoever came first.
+    // With its new parent the page gave the focus to its first widget.
     screen.focused = chosen;
     page.push();
-    // Shown now: the screen is told who has the focus.
+    // Now that it is shown, the focus is reported to the screen.
     m_desk.runInside(screen, {});
 }
 
@@ -154,7 +154,7 @@ void ScreenHost::runModal(Loaded& one)
     m_desk.beforeModal();
     const Desk::Modal modal{m_desk, &screen};
     shown.exec();
-    // Whoever closed it unloaded the screen; anything else is the end of the window all the same.
+    // Closing it unloads the screen as a rule; if the dialog ended in any other way, the screen is unloaded here.
     if (isStill(kind, screen))
         unload(kind);
 }
@@ -172,6 +172,7 @@ void ScreenHost::unload(ScreenKind kind)
     const std::unique_ptr<Loaded> gone = std::move(*at);
     m_loaded.erase(at);
     takeApart(*gone);
+    m_desk.push();
 }
 
 void ScreenHost::takeApart(Loaded& gone)

@@ -24,18 +24,18 @@ enum class Placement {
 class ScreenHost : public Screens
 {
 public:
-    using MakeScreen = std::function<std::unique_ptr<ui::Screen>(Opening)>;
+    using MakeScreen = std::function<std::unique_ptr<ui::Screen>(const std::string& notice)>;
     using MakeView = std::function<std::unique_ptr<Page>(ui::Screen&, Desk&)>;
 
-    /// Takes over what the frame's close button does: endProgram(), unless something is modal.
+    /// Handles the frame's close button: endProgram(), unless something is modal.
     ScreenHost(Desk& desk, MainFrame& frame);
     ~ScreenHost() override;
     ScreenHost(const ScreenHost&) = delete;
     ScreenHost& operator=(const ScreenHost&) = delete;
 
-    /// Tells how a screen is made and shown. `Kind` is the screen's class:
+    /// Registers how a screen is made and shown. `Kind` is the screen's class:
     ///     host.registerScreen<BoardScreen>(ScreenKind::Board, Placement::Stacked,
-    ///         [&](Opening opening) { return std::make_unique<BoardScreen>(...); },
+    ///         [&](const std::string& notice) { return std::make_unique<BoardScreen>(...); },
     ///         [](BoardScreen& screen, Desk& desk) { return std::make_unique<BoardView>(screen, desk); });
     template <class Kind, class Make, class View>
     void registerScreen(ScreenKind kind, Placement placement, Make makeScreen, View makeView)
@@ -47,8 +47,8 @@ public:
     }
     void registerScreen(ScreenKind kind, Placement placement, MakeScreen makeScreen, MakeView makeView);
 
-    /// Screens. Inside a command or outside of one. The model's load() runs when its page exists, before it is shown.
-    void load(ScreenKind kind, Opening opening = Opening::Plain) override;
+    /// As in Screens; inside or outside of a command. The model's load() runs when its page exists, before it is shown.
+    void load(ScreenKind kind, const std::string& notice = {}) override;
     void unload(ScreenKind kind) override;
     bool isLoaded(ScreenKind kind) const override;
     void bringToFront(ScreenKind kind) override;

@@ -16,14 +16,14 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr double kRound = 4;  ///< radius of corners, in device-independent pixels
-constexpr int kAir = 2;       ///< what a box or a button is higher than Qt makes it: 64 boxes fit a small screen
+constexpr int kPadding = 2;   ///< height added to a box or button; with no more, 64 boxes fit a small screen
 constexpr int kTitleGap = 3;  ///< between a group's title and its frame
-constexpr int kTextInset = 3; ///< how far a box's text stands from where Qt puts it
+constexpr int kTextInset = 3; ///< added on both sides of a box's text
 
-// What Qt makes up where no desktop tells its colours.
-constexpr QColor kNobodysGround{0xef, 0xef, 0xef};
-constexpr QColor kLinkByDay{0x0b, 0x57, 0xa4};
-constexpr QColor kLinkByNight{0x7a, 0xb8, 0xf5};
+// The window colour that Qt uses when no desktop defines one.
+constexpr QColor kQtDefaultBackground{0xef, 0xef, 0xef};
+constexpr QColor kLinkOnLight{0x0b, 0x57, 0xa4};
+constexpr QColor kLinkOnDark{0x7a, 0xb8, 0xf5};
 
 /// A colour between two: 0 is the first, 1 the second.
 QColor between(const QColor& first, const QColor& second, double share)
@@ -33,15 +33,15 @@ QColor between(const QColor& first, const QColor& second, double share)
                             mix(first.blueF(), second.blueF()));
 }
 
-/// Outlines; on a dark ground the same share of ink is seen less.
+/// For outlines. On a dark background the same share of the text colour has less contrast.
 QColor lineColour(const QPalette& palette)
 {
-    const QColor ground = palette.color(QPalette::Window);
-    const bool dark = look::contrast(ground, Qt::white) > look::contrast(ground, Qt::black);
-    return between(ground, palette.color(QPalette::Active, QPalette::WindowText), dark ? 0.4 : 0.3);
+    const QColor background = palette.color(QPalette::Window);
+    const bool dark = look::contrast(background, Qt::white) > look::contrast(background, Qt::black);
+    return between(background, palette.color(QPalette::Active, QPalette::WindowText), dark ? 0.4 : 0.3);
 }
 
-/// For outlines that are all there is to see of a control, such as a box that is not ticked.
+/// For outlines that are the only visible part of a control, such as an empty tick box.
 QColor strongLineColour(const QPalette& palette)
 {
     return between(palette.color(QPalette::Window), palette.color(QPalette::WindowText), 0.55);
@@ -101,13 +101,13 @@ int groupTitleHeight(const QStyleOption& option)
                                 QApplication::style()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight));
 }
 
-/// The frame of lists and of boxes of several lines: their ground is square, so it is too.
+/// The frame of lists and of boxes of several lines. Square, as their background is.
 void drawFrame(const QStyleOption& option, QPainter& painter)
 {
     const bool focused = option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
     const QColor line = focused ? option.palette.color(QPalette::Highlight) : lineColour(option.palette);
     const QRect& place = option.rect;
-    // Areas, not lines: at odd fractions of pixels lines at the edge get lost.
+    // Filled areas, not lines: with fractional scaling, lines at the edge can disappear.
     for (const QRect& edge :
          {QRect{place.left(), place.top(), place.width(), 1}, QRect{place.left(), place.bottom(), place.width(), 1},
           QRect{place.left(), place.top(), 1, place.height()}, QRect{place.right(), place.top(), 1, place.height()}})
@@ -120,20 +120,20 @@ Style::Style() : QProxyStyle{QStringLiteral("Fusion")} {}
 
 QPalette Style::calmPalette()
 {
-    const QColor ink{0x1c, 0x1f, 0x24};
-    const QColor paleInk{0x5b, 0x64, 0x70};
-    const QColor ground{0xf3, 0xf4, 0xf7};
+    const QColor textColour{0x1c, 0x1f, 0x24};
+    const QColor paleText{0x5b, 0x64, 0x70};
+    const QColor background{0xf3, 0xf4, 0xf7};
     const QColor accent{0x0b, 0x57, 0xa4};
-    QPalette palette{ground};
-    palette.setColor(QPalette::Window, ground);
+    QPalette palette{background};
+    palette.setColor(QPalette::Window, background);
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::AlternateBase, QColor{0xf0, 0xf3, 0xf8});
     palette.setColor(QPalette::Button, Qt::white);
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
-        palette.setColor(role, ink);
+        palette.setColor(role, textColour);
     palette.setColor(QPalette::ToolTipBase, QColor{0xff, 0xfe, 0xf2});
-    palette.setColor(QPalette::PlaceholderText, paleInk);
+    palette.setColor(QPalette::PlaceholderText, paleText);
     palette.setColor(QPalette::Highlight, accent);
     palette.setColor(QPalette::HighlightedText, Qt::white);
     palette.setColor(QPalette::Link, accent);
@@ -144,42 +144,42 @@ QPalette Style::calmPalette()
     palette.setColor(QPalette::Shadow, QColor{0x6b, 0x72, 0x7d});
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, QColor{0x7c, 0x84, 0x90});
-    palette.setColor(QPalette::Disabled, QPalette::Base, ground);
-    palette.setColor(QPalette::Disabled, QPalette::Button, ground);
+    palette.setColor(QPalette::Disabled, QPalette::Base, background);
+    palette.setColor(QPalette::Disabled, QPalette::Button, background);
     palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor{0xb8, 0xbe, 0xc8});
-    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, ink); // White could not be read on it.
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, textColour); // White would be unreadable here.
     return palette;
 }
 
-QPalette Style::mendedRoles(const QPalette& platform)
+QPalette Style::readableRoles(const QPalette& platform)
 {
-    const QColor ground = platform.color(QPalette::Window);
-    const QColor ink = platform.color(QPalette::WindowText);
-    const auto seen = [&](QColor colour) {
+    const QColor background = platform.color(QPalette::Window);
+    const QColor textColour = platform.color(QPalette::WindowText);
+    const auto contrastOf = [&](QColor colour) {
         const double share = colour.alphaF();
         colour.setAlpha(255);
-        return look::contrast(between(ground, colour, share), ground);
+        return look::contrast(between(background, colour, share), background);
     };
-    QPalette mended;
-    if (seen(platform.color(QPalette::PlaceholderText)) < 4.5)
-        mended.setColor(QPalette::PlaceholderText, between(ground, ink, 0.7));
+    QPalette readable;
+    if (contrastOf(platform.color(QPalette::PlaceholderText)) < 4.5)
+        readable.setColor(QPalette::PlaceholderText, between(background, textColour, 0.7));
     if (look::contrast(platform.color(QPalette::Link), platform.color(QPalette::Base)) < 4.5)
-        mended.setColor(QPalette::Link, ground.lightness() < 128 ? kLinkByNight : kLinkByDay);
-    if (seen(platform.color(QPalette::Mid)) < 1.5)
-        mended.setColor(QPalette::Mid, between(ground, ink, 0.35));
+        readable.setColor(QPalette::Link, background.lightness() < 128 ? kLinkOnDark : kLinkOnLight);
+    if (contrastOf(platform.color(QPalette::Mid)) < 1.5)
+        readable.setColor(QPalette::Mid, between(background, textColour, 0.35));
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        if (seen(platform.color(QPalette::Disabled, role)) < 3)
-            mended.setColor(QPalette::Disabled, role, between(ground, ink, 0.55));
-    return mended;
+        if (contrastOf(platform.color(QPalette::Disabled, role)) < 3)
+            readable.setColor(QPalette::Disabled, role, between(background, textColour, 0.55));
+    return readable;
 }
 
 void Style::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
-    if (palette.color(QPalette::Window) == kNobodysGround)
+    if (palette.color(QPalette::Window) == kQtDefaultBackground)
         palette = calmPalette();
     else
-        palette = mendedRoles(palette).resolve(palette);
+        palette = readableRoles(palette).resolve(palette);
 }
 
 void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
@@ -216,7 +216,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         return;
     case PE_FrameFocusRect:
         if (qobject_cast<const QPushButton*>(widget))
-            return; // its outline tells already
+            return; // its outline shows the focus already
         break;
     default:
         break;
@@ -230,10 +230,10 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
     QSize result = QProxyStyle::sizeFromContents(type, option, size, widget);
     switch (type) {
     case CT_PushButton:
-        result += QSize{2 * look::kGap, kAir};
+        result += QSize{2 * look::kGap, kPadding};
         break;
     case CT_LineEdit:
-        result += QSize{2 * kTextInset, kAir};
+        result += QSize{2 * kTextInset, kPadding};
         break;
     case CT_ItemViewItem:
         result += QSize{0, look::kTight};
@@ -272,7 +272,7 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option, const QWi
     switch (metric) {
     case PM_MessageBoxIconSize:
         return 48;
-    case PM_FocusFrameHMargin: // what stands beside the text of a cell; neighbours need not touch
+    case PM_FocusFrameHMargin: // space beside the text of a cell, so that neighbours do not touch
     case PM_HeaderMargin:
         return look::kTight + 1;
     case PM_ButtonShiftHorizontal:
@@ -298,8 +298,8 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const
     case SP_MessageBoxWarning:
     case SP_MessageBoxCritical:
     case SP_MessageBoxQuestion:
-        return messageSign(icon);
-    case SP_ToolBarHorizontalExtensionButton: // every menu bar has one ready; Qt's own would load a picture for it
+        return messageIcon(icon);
+    case SP_ToolBarHorizontalExtensionButton: // every menu bar prepares one; Qt's own icon would load a picture
         return look::menuIcon("more");
     default:
         return QProxyStyle::standardIcon(icon, option, widget);

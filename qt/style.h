@@ -1,4 +1,4 @@
-// qt/style.h - how our widgets are drawn: flat, with round corners and some air, in the palette's own colours.
+// qt/style.h - how our widgets are drawn: flat, with round corners and some padding, in the palette's own colours.
 #pragma once
 
 #include <QPalette>
@@ -16,9 +16,9 @@ public:
     /// The colours used where the platform has none of its own.
     static QPalette calmPalette();
 
-    /// Some desktops name their main colours only, and Qt fills up with what suits a light ground.
-    /// @returns a palette in which just those roles are set that cannot be seen on the ground of this one
-    static QPalette mendedRoles(const QPalette& platform);
+    /// Some desktops define their main colours only, and Qt fills in colours that suit a light background.
+    /// @returns a palette that sets just those roles which have too little contrast with this one's background
+    static QPalette readableRoles(const QPalette& platform);
 
     /// Called for the desktop's palette, at the start and after every change of it.
     void polish(QPalette& palette) override;

@@ -11,7 +11,7 @@ QString toQString(std::string_view text)
 {
     QString shown;
     shown.reserve(static_cast<qsizetype>(text.size()));
-    // Every character of Windows-1252 lies in the basic plane: one byte is one QChar, so positions are alike on both
+    // Every character of Windows-1252 is in the basic plane: one byte is one QChar, so positions are the same on both
     // sides.
     for (const char byte : text)
         shown.append(QChar{static_cast<char16_t>(unicodeOf(static_cast<unsigned char>(byte)))});
@@ -78,7 +78,7 @@ QString withMnemonic(QString caption, char mnemonic)
 QString plainToolTip(const QString& data)
 {
     constexpr qsizetype kLongestLine = 80;
-    // Only what Qt would take for markup, or would not break into lines, needs a disguise.
+    // Only a text that Qt would take for markup, or would not break into lines, needs conversion.
     if (data.size() <= kLongestLine && !Qt::mightBeRichText(data))
         return data;
     const QString lines = data.toHtmlEscaped().replace(QLatin1Char{'\n'}, QLatin1String{"<br>"});

@@ -1,4 +1,4 @@
-// qt/text.h - the one place where our texts become Qt's and come back.
+// qt/text.h - the one place that converts texts between the core and Qt.
 #pragma once
 
 #include <QString>
@@ -24,7 +24,7 @@ std::string fromLines(const QString& typed);
 /// @returns the text with every kind of line end turned into CR LF
 std::string withCrLf(std::string_view text);
 
-/// @returns data as a label with mnemonics shows it unharmed: every `&` doubled
+/// @returns data for a label that has mnemonics: every `&` doubled, so that it is shown as it is
 QString withoutMnemonics(const QString& data);
 
 /// @param mnemonic a letter, 0 = none

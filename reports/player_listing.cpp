@@ -1,8 +1,7 @@
-// reports/player_listing.cpp - measures the four columns, then lays out header and players.
+// reports/player_listing.cpp - measures the four columns, then lays out headings and players.
 #include "reports/player_listing.h"
 
 #include "base/text.h"
-#include "files/player_names_file.h"
 
 #include <algorithm>
 
@@ -10,7 +9,7 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr int kHeadAndColumnLines = 6;
+constexpr int kHeaderAndColumnLines = 6;
 constexpr int kLastLineOfPage = 47;
 constexpr const char* kGap = "    ";
 
@@ -23,11 +22,10 @@ struct Widths {
     std::size_t line() const { return name + fileName + email + phone + 12; }
 };
 
-Widths widthsOf(std::span<const std::string> playerLines)
+Widths widthsOf(std::span<const PlayerListingRow> players)
 {
     Widths widths;
-    for (const std::string& line : playerLines) {
-        const PlayerRecord player = parseRecord(line);
+    for (const PlayerListingRow& player : players) {
         widths.name = std::max(widths.name, lastNonBlank(player.name));
         widths.fileName = std::max(widths.fileName, lastNonBlank(player.fileName));
         widths.email = std::max(widths.email, lastNonBlank(player.email));
@@ -36,10 +34,10 @@ Widths widthsOf(std::span<const std::string> playerLines)
     return widths;
 }
 
-std::string rowLine(const PlayerRecord& player, const Widths& widths)
+std::string rowLine(const PlayerListingRow& row, const Widths& widths)
 {
-    return fitted(player.name, widths.name) + kGap + fitted(player.fileName, widths.fileName) + kGap +
-           fitted(player.email, widths.email) + kGap + fitted(player.phone, widths.phone);
+    return fitted(row.name, widths.name) + kGap + fitted(row.fileName, widths.fileName) + kGap +
+           fitted(row.email, widths.email) + kGap + fitted(row.phone, widths.phone);
 }
 
 std::string ruleLine(const Widths& widths)
@@ -48,36 +46,35 @@ std::string ruleLine(const Widths& widths)
            dashes(widths.phone);
 }
 
-void addHead(ReportLines& lines, std::string_view title, const Widths& widths)
+void addHeader(ReportLines& lines, std::string_view title, const Widths& widths)
 {
     constexpr std::string_view kName = "Player Listing";
-    addPageHead(lines, indentedOrFlush(centredTwice(widths.line(), title.size()), title),
-                indentedOrFlush(centredTwice(widths.line(), kName.size()), kName));
+    addPageHeader(lines, indentedOrFlush(centredTwice(widths.line(), title.size()), title),
+                  indentedOrFlush(centredTwice(widths.line(), kName.size()), kName));
 }
 
 } // namespace
 
-ReportLines playerListingLines(std::string_view title, std::span<const std::string> fileLines)
+ReportLines playerListingLines(std::string_view title, std::span<const PlayerListingRow> rows)
 {
     ReportLines lines;
-    if (fileLines.empty())
+    if (rows.empty())
         return lines;
 
-    const std::span<const std::string> players = fileLines.subspan(1);
+    const std::span<const PlayerListingRow> players = rows.subspan(1);
     const Widths widths = widthsOf(players);
-    const std::string columnHeader = rowLine(parseRecord(fileLines.front()), widths);
     int lineOfPage = 0;
     const auto startPage = [&] {
-        addHead(lines, title, widths);
-        lines.push_back(columnHeader);
+        addHeader(lines, title, widths);
+        lines.push_back(rowLine(rows.front(), widths));
         lines.push_back(ruleLine(widths));
-        lineOfPage = kHeadAndColumnLines;
+        lineOfPage = kHeaderAndColumnLines;
     };
     startPage(); // also for a list without players
-    for (const std::string& player : players) {
+    for (const PlayerListingRow& player : players) {
         if (lineOfPage == 0)
             startPage();
-        lines.push_back(rowLine(parseRecord(player), widths));
+        lines.push_back(rowLine(player, widths));
         if (++lineOfPage > kLastLineOfPage) {
             lineOfPage = 0;
             lines.emplace_back(kFormFeedLine);

@@ -9,9 +9,17 @@
 
 namespace tallyhoop {
 
-/// Lays the listing out, players in file order.
-/// @param title     centred on every page; one that is too wide starts at the left edge
-/// @param fileLines the lines of PLAYERNAMES.CSV, its header line first; none gives no lines
-ReportLines playerListingLines(std::string_view title, std::span<const std::string> fileLines);
+/// One line of the table: a player, or the column headings. Trailing blanks do not count.
+struct PlayerListingRow {
+    std::string name;
+    std::string fileName;
+    std::string email;
+    std::string phone;
+};
+
+/// Lays the listing out, players in the order given.
+/// @param title centred on every page; one that is too wide starts at the left edge
+/// @param rows  the column headings first, cut to the width of the players' entries; no rows at all give no lines
+ReportLines playerListingLines(std::string_view title, std::span<const PlayerListingRow> rows);
 
 } // namespace tallyhoop

@@ -35,7 +35,7 @@ std::string indentedOrFlush(long long count, std::string_view text)
 
 std::string dashes(std::size_t count) { return repeated('-', count); }
 
-void addPageHead(ReportLines& lines, std::string titleLine, std::string nameLine)
+void addPageHeader(ReportLines& lines, std::string titleLine, std::string nameLine)
 {
     lines.emplace_back(kBlankLine);
     lines.push_back(std::move(titleLine));
@@ -43,8 +43,8 @@ void addPageHead(ReportLines& lines, std::string titleLine, std::string nameLine
     lines.emplace_back(kBlankLine);
 }
 
-Result<Done> addCentredPageHead(ReportLines& lines, long long (*centre)(std::size_t, std::size_t), std::size_t width,
-                                std::string_view title, std::string_view name)
+Result<Done> addCentredPageHeader(ReportLines& lines, long long (*centre)(std::size_t, std::size_t), std::size_t width,
+                                  std::string_view title, std::string_view name)
 {
     Result<std::string> titleLine = indented(centre(width, title.size()), title);
     Result<std::string> nameLine = indented(centre(width, name.size()), name);
@@ -52,7 +52,7 @@ Result<Done> addCentredPageHead(ReportLines& lines, long long (*centre)(std::siz
         return titleLine.failure();
     if (!nameLine)
         return nameLine.failure();
-    addPageHead(lines, *titleLine, *nameLine);
+    addPageHeader(lines, *titleLine, *nameLine);
     return Done{};
 }
 

@@ -1,4 +1,4 @@
-// reports/report_layout.h - what the text reports share: centring, page heads, page breaks, rows kept in order.
+// reports/report_layout.h - what the text reports share: centring, page headers, page breaks, rows kept in order.
 //
 // Reports are fixed-pitch: a width is a count of characters, and a character is a byte.
 #pragma once
@@ -17,7 +17,7 @@ using ReportLines = std::vector<std::string>;
 
 inline constexpr const char* kBlankLine = " ";              ///< how reports write an empty line
 inline constexpr const char* kFormFeedLine = "\f";          ///< starts a new page
-inline constexpr const char* kNoSelection = "NO SELECTION"; ///< stands for a pick that was not made
+inline constexpr const char* kNoSelection = "NO SELECTION"; ///< is written for a pick that was not made
 
 /// Counts the blanks before a centred text: half the free width, rounded once, halves to even.
 /// @returns a negative count when the text is wider than the line
@@ -37,20 +37,20 @@ std::string indentedOrFlush(long long count, std::string_view text);
 /// @returns a row of dashes
 std::string dashes(std::size_t count);
 
-/// Writes the head of a page: an empty line, the title, the report's name and an empty line.
-void addPageHead(ReportLines& lines, std::string titleLine, std::string nameLine);
+/// Writes the header of a page: an empty line, the title, the report's name and an empty line.
+void addPageHeader(ReportLines& lines, std::string titleLine, std::string nameLine);
 
-/// Centres the title and the report's name in the same way and writes the head of a page.
+/// Centres the title and the report's name in the same way and writes the header of a page.
 /// @param centre one of the counting functions above
 /// @returns a failure when one of them is wider than the line
-Result<Done> addCentredPageHead(ReportLines& lines, long long (*centre)(std::size_t, std::size_t), std::size_t width,
-                                std::string_view title, std::string_view name);
+Result<Done> addCentredPageHeader(ReportLines& lines, long long (*centre)(std::size_t, std::size_t), std::size_t width,
+                                  std::string_view title, std::string_view name);
 
 /// Puts work rows into the order in which reports take them: ascending without regard to case, equal rows in order of
 /// arrival. Reports that run downwards read them from the back.
 void sortWorkRows(std::vector<std::string>& rows);
 
-/// Splits a packed work row. The separator is not escaped: one inside a name shifts the fields behind it.
+/// Splits a packed work row. The separator is not escaped: one inside a name shifts the fields after it.
 /// @returns exactly `count` fields: further pieces are lost, missing ones are empty
 std::vector<std::string> workRowFields(std::string_view row, char separator, std::size_t count);
 

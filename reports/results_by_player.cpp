@@ -3,6 +3,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "pool/scoring.h"
 
 #include <algorithm>
 
@@ -10,7 +11,7 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr int kHeadLines = 4;
+constexpr int kHeaderLines = 4;
 constexpr int kLastLineOfPage = 54;
 
 struct Widths {
@@ -25,11 +26,11 @@ Widths widthsOf(const FinalFour& finalFour, std::span<const ResultsByPlayerRow> 
     std::size_t pick = 0;
     for (const ResultsByPlayerRow& row : rows) {
         widths.file = std::max(widths.file, row.fileName.size());
-        // The champion's share is measured on the entry that is never filled; it only shifts the centring.
-        pick = std::max(pick, finalFour[0].size() + row.runnerUpPick.size() + 6);
+        // Of the final game, the champion counts with a width of 0. This page width only centres the header.
+        pick = std::max(pick, row.runnerUpPick.size() + 6);
     }
-    for (std::size_t i = 1; i < finalFour.size(); ++i)
-        widths.team = std::max(widths.team, finalFour[i].size());
+    for (const std::string& team : finalFour)
+        widths.team = std::max(widths.team, team.size());
     widths.file = std::max(widths.file, widths.team + 3);
     widths.page = std::max(widths.file + 2 + 23 + pick, widths.file + 2 + 14 + widths.team + 14);
     return widths;
@@ -59,11 +60,11 @@ public:
     Result<Done> add(const ResultsByPlayerRow& row)
     {
         if (m_lineOfPage == 0) {
-            const Result<Done> head =
-                addCentredPageHead(lines, centredOnce, m_widths.page, m_title, "Projected Results by Player");
-            if (!head)
-                return head;
-            m_lineOfPage = kHeadLines;
+            const Result<Done> header =
+                addCentredPageHeader(lines, centredOnce, m_widths.page, m_title, "Projected Results by Player");
+            if (!header)
+                return header;
+            m_lineOfPage = kHeaderLines;
         }
         if (const Result<Done> current = addCurrent(row); !current)
             return current;
@@ -96,14 +97,14 @@ private:
 
     void addOutcomes(const ResultsByPlayerRow& row, std::size_t team)
     {
-        const std::string name = fitted(m_finalFour[team + 1], m_widths.team);
+        const std::string name = fitted(m_finalFour[team], m_widths.team);
         const auto& [first, second] = m_outcomes[team];
         const auto& [firstPoints, secondPoints] = row.projected[team];
         if (first && firstPoints)
             lines.push_back("   " + name + outcomeText(*first, *firstPoints, m_widths.team));
         if (second && secondPoints) {
-            const std::string lead = "   " + (first ? blanks(name.size()) : name);
-            lines.push_back(lead + outcomeText(*second, *secondPoints, m_widths.team));
+            const std::string start = "   " + (first ? blanks(name.size()) : name);
+            lines.push_back(start + outcomeText(*second, *secondPoints, m_widths.team));
             m_lineOfPage += 2; // also when there is no first line: a page may then end early
         }
     }
@@ -115,31 +116,19 @@ private:
     int m_lineOfPage = 0;
 };
 
-/// The scoring of every outcome that can still happen.
-ByFinal<Scoring> scoringsOf(const ByFinal<FinalOutcome>& outcomes, const Payoffs& payoffs)
-{
-    ByFinal<Scoring> scorings;
-    for (std::size_t team = 0; team < outcomes.size(); ++team)
-        for (std::size_t opponent = 0; opponent < outcomes[team].size(); ++opponent)
-            if (const std::optional<FinalOutcome>& outcome = outcomes[team][opponent])
-                scorings[team][opponent].emplace(outcome->results, payoffs);
-    return scorings;
-}
-
 /// Scores one player under every outcome that can still happen.
-Result<ByFinal<int>> projectedPoints(const PoolEntry& player, const ByFinal<Scoring>& scorings)
+Result<ByFinal<int>> projectedPoints(const Entry& entry, const ByFinal<FinalOutcome>& outcomes, const Payoffs& payoffs)
 {
     ByFinal<int> points;
-    ScoredVerdict verdict;
-    for (std::size_t team = 0; team < scorings.size(); ++team) {
-        for (std::size_t opponent = 0; opponent < scorings[team].size(); ++opponent) {
-            const std::optional<Scoring>& scoring = scorings[team][opponent];
-            if (!scoring)
+    for (std::size_t team = 0; team < outcomes.size(); ++team) {
+        for (std::size_t opponent = 0; opponent < outcomes[team].size(); ++opponent) {
+            const std::optional<FinalOutcome>& outcome = outcomes[team][opponent];
+            if (!outcome)
                 continue;
-            const Result<ScoreLine> score = scoring->line(player.fileName, player.lines, verdict);
+            const Result<PlayerScore> score = scoreEntry(entry, outcome->results, payoffs);
             if (!score)
                 return score.failure();
-            points[team][opponent] = score->MaxPoints;
+            points[team][opponent] = score->maxPoints;
         }
     }
     return points;
@@ -147,37 +136,33 @@ Result<ByFinal<int>> projectedPoints(const PoolEntry& player, const ByFinal<Scor
 
 } // namespace
 
-ByFinal<FinalOutcome> finalOutcomes(const SelectionLines& results, const FinalFour& finalFour)
+ByFinal<FinalOutcome> finalOutcomes(const Bracket& results)
 {
     constexpr std::array kOpponents{FinalOpponent::First, FinalOpponent::Second};
+    const FinalFour finalFour = finalFourOf(results);
     ByFinal<FinalOutcome> outcomes;
-    for (std::size_t team = 0; team < outcomes.size(); ++team) {
-        const std::size_t otherSemifinal = team < 2 ? 126 : 125;
+    for (std::size_t team = 0; team < outcomes.size(); ++team)
         for (std::size_t i = 0; i < kOpponents.size(); ++i)
-            if (const auto projected = ProjectWinner(results, finalFour, team + 1, kOpponents[i]))
-                outcomes[team][i] = FinalOutcome{(*projected)[otherSemifinal], *projected};
-    }
+            if (const auto projected = projectWinner(results, finalFour[team], kOpponents[i]))
+                outcomes[team][i] = FinalOutcome{finalOpponent(*projected, static_cast<int>(team)), *projected};
     return outcomes;
 }
 
-Result<std::vector<ResultsByPlayerRow>> resultsByPlayerRows(const ReadPool& pool, const SelectionLines& results,
+Result<std::vector<ResultsByPlayerRow>> resultsByPlayerRows(std::span<const Entry> entries, const Bracket& results,
                                                             const ByFinal<FinalOutcome>& outcomes,
-                                                            const Payoffs& payoffs, Work& work)
+                                                            const Payoffs& payoffs, const Step& step)
 {
     std::vector<ResultsByPlayerRow> rows;
-    rows.reserve(pool.players.size());
-    const Scoring scoring{results, payoffs};
-    const ByFinal<Scoring> projections = scoringsOf(outcomes, payoffs);
-    ScoredVerdict verdict;
-    for (const PoolEntry& player : pool.players) {
-        const Result<ScoreLine> now = scoring.line(player.fileName, player.lines, verdict);
+    rows.reserve(entries.size());
+    for (const Entry& entry : entries) {
+        const Result<PlayerScore> now = scoreEntry(entry, results, payoffs);
         if (!now)
             return now.failure();
-        const Result<ByFinal<int>> projected = projectedPoints(player, projections);
+        const Result<ByFinal<int>> projected = projectedPoints(entry, outcomes, payoffs);
         if (!projected)
             return projected.failure();
-        rows.push_back({player.fileName, now->WinningPick, now->RunnerUpPick, now->Points, now->MaxPoints, *projected});
-        if (!work.step())
+        rows.push_back({entry.fileName, now->winningPick, now->runnerUpPick, now->points, now->maxPoints, *projected});
+        if (!step())
             break;
     }
     return rows;

@@ -2,7 +2,8 @@
 #pragma once
 
 #include "base/result.h"
-#include "files/read_pool.h"
+#include "base/step.h"
+#include "pool/entry.h"
 #include "pool/projection.h"
 #include "reports/report_layout.h"
 
@@ -15,17 +16,18 @@
 
 namespace tallyhoop {
 
-/// A way the tournament can still end: who wins over whom, and the results that would then stand.
+/// A way the tournament can still end: who loses the final, and the results it would then have.
 struct FinalOutcome {
     std::string opponent; ///< as the other semi-final holds it
-    SelectionLines results{};
+    Bracket results;
 };
 
-/// By region winner 1..4 (entries 0..3) and final opponent, first or second; nothing where it can no longer happen.
+/// By region winner 0..3 and final opponent, first or second; nothing where it can no longer happen.
 template <class T>
-using ByFinal = std::array<std::array<std::optional<T>, 2>, 4>;
+using ByFinal = std::array<std::array<std::optional<T>, 2>, kRegions>;
 
-ByFinal<FinalOutcome> finalOutcomes(const SelectionLines& results, const FinalFour& finalFour);
+/// @param results with all four region winners
+ByFinal<FinalOutcome> finalOutcomes(const Bracket& results);
 
 /// One player of the report. Points are whole points.
 struct ResultsByPlayerRow {
@@ -38,15 +40,15 @@ struct ResultsByPlayerRow {
 };
 
 /// Scores every player now and under every outcome, one step of work each.
-/// @returns rows in pool order, fewer when the work was cancelled; a failure when a number does not fit 16 bits
-Result<std::vector<ResultsByPlayerRow>> resultsByPlayerRows(const ReadPool& pool, const SelectionLines& results,
+/// @returns rows in the order of the entries, fewer when the work was stopped; a failure when a number does not fit 16
+///          bits
+Result<std::vector<ResultsByPlayerRow>> resultsByPlayerRows(std::span<const Entry> entries, const Bracket& results,
                                                             const ByFinal<FinalOutcome>& outcomes,
-                                                            const Payoffs& payoffs, Work& work);
+                                                            const Payoffs& payoffs, const Step& step = goOn);
 
 /// Lays the report out.
 /// @returns a failure when the title is wider than the page, and when the longest region winner's name has fewer than
-/// 11
-///          characters: the two points would not fit behind one another
+///          11 characters: the current and the maximum points would not fit on one line
 Result<ReportLines> resultsByPlayerLines(std::string_view title, const FinalFour& finalFour,
                                          const ByFinal<FinalOutcome>& outcomes,
                                          std::span<const ResultsByPlayerRow> rows);

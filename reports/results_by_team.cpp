@@ -1,8 +1,10 @@
 // reports/results_by_team.cpp - projects, packs, sorts and lays out the results by team.
+// Texts are kept letter for letter, odd spellings included.
 #include "reports/results_by_team.h"
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "pool/projection.h"
 
 #include <algorithm>
 
@@ -13,16 +15,16 @@ namespace {
 constexpr char kSeparator = ',';
 constexpr std::size_t kFields = 6;
 constexpr std::size_t kFileColumn = 24;
-constexpr int kHeadLines = 4;
-constexpr int kTeamHeadLines = 4;
+constexpr int kHeaderLines = 4;
+constexpr int kTeamHeaderLines = 4;
 constexpr int kContinuationLines = 6;
 constexpr int kLastLineOfPage = 62;
 constexpr int kLastLineForANewTeam = 50;
 
-void addColumnHeads(ReportLines& lines, std::size_t pickWidth)
+void addColumnHeadings(ReportLines& lines, std::size_t pickWidth)
 {
     lines.push_back(blanks(28) + "<-- Points -->  Points");
-    lines.push_back(blanks(29) + "Best   Shure   Current " + "Team Selections in Final"); // sic
+    lines.push_back(blanks(29) + "Best   Shure   Current " + "Team Selections in Final");
     lines.push_back(blanks(28) + "------  ------  ------  " + dashes(pickWidth + 6));
 }
 
@@ -34,7 +36,7 @@ std::string rowLine(const ResultsByTeamRow& row)
            "    " + orNoSelection(row.winningPick) + " over " + orNoSelection(row.runnerUpPick);
 }
 
-/// Writes a team's rows, from the most points down, with the head of a continuation page after a full one.
+/// Writes a team's rows, from the most points down, with the header of a continuation page after a full one.
 void addRows(ReportLines& lines, const TeamOutcome& outcome, int& lineOfPage)
 {
     for (auto workRow = outcome.workRows.rbegin(); workRow != outcome.workRows.rend(); ++workRow) {
@@ -45,18 +47,35 @@ void addRows(ReportLines& lines, const TeamOutcome& outcome, int& lineOfPage)
         lines.emplace_back(kBlankLine);
         lines.emplace_back(kBlankLine);
         lines.push_back("If " + outcome.team + " Wins (cont.):");
-        addColumnHeads(lines, outcome.pickWidth);
+        addColumnHeadings(lines, outcome.pickWidth);
         lineOfPage = kContinuationLines;
     }
 }
 
+/// Packs every player's score if a team wins, ascending.
+/// @param scores under the projection; no more than `now`
+/// @param pickWidth of the teams before it
+TeamOutcome outcomeOf(const std::string& team, std::span<const PlayerScore> scores, std::span<const PlayerScore> now,
+                      std::size_t pickWidth)
+{
+    TeamOutcome outcome{team, {}, pickWidth};
+    outcome.workRows.reserve(scores.size());
+    for (std::size_t player = 0; player < scores.size(); ++player) {
+        const PlayerScore& score = scores[player];
+        outcome.workRows.push_back(resultsByTeamWorkRow(score, now[player].points));
+        outcome.pickWidth = std::max(outcome.pickWidth, score.winningPick.size() + score.runnerUpPick.size());
+    }
+    sortWorkRows(outcome.workRows);
+    return outcome;
+}
+
 } // namespace
 
-std::string resultsByTeamWorkRow(const ScoreLine& projected, int currentPoints)
+std::string resultsByTeamWorkRow(const PlayerScore& projected, int currentPoints)
 {
-    return threeDigits(projected.MaxPoints) + kSeparator + projected.FileName + kSeparator +
-           threeDigits(projected.Points) + kSeparator + threeDigits(currentPoints) + kSeparator +
-           projected.WinningPick + kSeparator + projected.RunnerUpPick;
+    return threeDigits(projected.maxPoints) + kSeparator + projected.fileName + kSeparator +
+           threeDigits(projected.points) + kSeparator + threeDigits(currentPoints) + kSeparator +
+           projected.winningPick + kSeparator + projected.runnerUpPick;
 }
 
 ResultsByTeamRow resultsByTeamRow(std::string_view workRow)
@@ -65,31 +84,31 @@ ResultsByTeamRow resultsByTeamRow(std::string_view workRow)
     return {field[0], field[1], field[2], field[3], field[4], field[5]};
 }
 
-Result<std::vector<TeamOutcome>> resultsByTeamOutcomes(const ReadPool& pool, const SelectionLines& results,
-                                                       const FinalFour& finalFour, const Payoffs& payoffs, Work& work)
+Result<std::vector<TeamOutcome>> resultsByTeamOutcomes(std::span<const Entry> entries, const Bracket& results,
+                                                       const Payoffs& payoffs, const Step& step)
 {
-    const Result<std::vector<ScoreLine>> now = scorePool(pool, results, payoffs, work);
+    bool isStopped = false;
+    const Step watchedStep = [&] {
+        isStopped = !step();
+        return !isStopped;
+    };
+    const Result<std::vector<PlayerScore>> now = scoreEntries(entries, results, payoffs, watchedStep);
     if (!now)
         return now.failure();
 
     std::vector<TeamOutcome> outcomes;
     std::size_t pickWidth = 0;
-    for (std::size_t team = 1; team < finalFour.size() && !work.cancelled(); ++team) {
-        const auto projected = ProjectWinner(results, finalFour, team, FinalOpponent::Open);
+    for (const std::string& team : finalFourOf(results)) {
+        if (isStopped)
+            break;
+        const auto projected = projectWinner(results, team, FinalOpponent::Open);
         if (!projected)
             continue;
-        const Result<std::vector<ScoreLine>> scores = scorePool(pool, *projected, payoffs, work);
+        const Result<std::vector<PlayerScore>> scores = scoreEntries(entries, *projected, payoffs, watchedStep);
         if (!scores)
             return scores.failure();
-        TeamOutcome outcome{finalFour[team], {}, 0};
-        for (std::size_t player = 0; player < scores->size(); ++player) {
-            const ScoreLine& score = (*scores)[player];
-            outcome.workRows.push_back(resultsByTeamWorkRow(score, (*now)[player].Points));
-            pickWidth = std::max(pickWidth, score.WinningPick.size() + score.RunnerUpPick.size());
-        }
-        sortWorkRows(outcome.workRows);
-        outcome.pickWidth = pickWidth;
-        outcomes.push_back(std::move(outcome));
+        outcomes.push_back(outcomeOf(team, *scores, *now, pickWidth));
+        pickWidth = outcomes.back().pickWidth;
     }
     return outcomes;
 }
@@ -100,15 +119,15 @@ Result<ReportLines> resultsByTeamLines(std::string_view title, std::span<const T
     int lineOfPage = 0;
     for (const TeamOutcome& outcome : outcomes) {
         if (lineOfPage == 0) {
-            const Result<Done> head =
-                addCentredPageHead(lines, centredTwice, outcome.pickWidth + 58, title, "Projected Results by Team");
-            if (!head)
-                return head.failure();
-            lineOfPage = kHeadLines;
+            const Result<Done> header =
+                addCentredPageHeader(lines, centredTwice, outcome.pickWidth + 58, title, "Projected Results by Team");
+            if (!header)
+                return header.failure();
+            lineOfPage = kHeaderLines;
         }
         lines.push_back("If " + outcome.team + " Wins:");
-        addColumnHeads(lines, outcome.pickWidth);
-        lineOfPage += kTeamHeadLines;
+        addColumnHeadings(lines, outcome.pickWidth);
+        lineOfPage += kTeamHeaderLines;
         addRows(lines, outcome, lineOfPage);
         lines.emplace_back(kBlankLine);
         lines.emplace_back(kBlankLine);

@@ -2,8 +2,9 @@
 #pragma once
 
 #include "base/result.h"
-#include "files/read_pool.h"
-#include "pool/projection.h"
+#include "base/step.h"
+#include "pool/entry.h"
+#include "pool/scoring.h"
 #include "reports/report_layout.h"
 
 #include <span>
@@ -17,7 +18,7 @@ namespace tallyhoop {
 /// as three digits.
 /// @param projected     the score under the projection
 /// @param currentPoints points held now
-std::string resultsByTeamWorkRow(const ScoreLine& projected, int currentPoints);
+std::string resultsByTeamWorkRow(const PlayerScore& projected, int currentPoints);
 
 /// What comes out of a packed work row: texts, for a "," inside a name shifts what follows it.
 struct ResultsByTeamRow {
@@ -40,11 +41,11 @@ struct TeamOutcome {
 };
 
 /// Scores every player now and for every team that can still win; one step of work for each.
-/// @returns the teams in order, those without a chance left out; of no use when the work was cancelled; a failure when
-/// a
+/// @param results with all four region winners
+/// @returns the teams in order, those without a chance left out; of no use when the work was stopped; a failure when a
 ///          number does not fit 16 bits
-Result<std::vector<TeamOutcome>> resultsByTeamOutcomes(const ReadPool& pool, const SelectionLines& results,
-                                                       const FinalFour& finalFour, const Payoffs& payoffs, Work& work);
+Result<std::vector<TeamOutcome>> resultsByTeamOutcomes(std::span<const Entry> entries, const Bracket& results,
+                                                       const Payoffs& payoffs, const Step& step = goOn);
 
 /// Lays the report out: each team's rows from the best case down.
 /// @returns a failure when the title is wider than the page

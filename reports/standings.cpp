@@ -14,7 +14,7 @@ namespace {
 
 constexpr char kSeparator = ';';
 constexpr std::size_t kFields = 8;
-constexpr int kHeadLines = 7;
+constexpr int kHeaderLines = 7;
 constexpr int kLastLineOfPage = 47;
 
 struct Widths {
@@ -25,13 +25,13 @@ struct Widths {
     std::size_t line() const { return name + file + pick + 44; }
 };
 
-Widths widthsOf(std::span<const ScoreLine> scores)
+Widths widthsOf(std::span<const PlayerScore> scores)
 {
     Widths widths;
-    for (const ScoreLine& score : scores) {
-        widths.name = std::max(widths.name, score.PlayerName.size());
-        widths.file = std::max(widths.file, score.FileName.size());
-        widths.pick = std::max(widths.pick, score.WinningPick.size());
+    for (const PlayerScore& score : scores) {
+        widths.name = std::max(widths.name, score.playerName.size());
+        widths.file = std::max(widths.file, score.fileName.size());
+        widths.pick = std::max(widths.pick, score.winningPick.size());
     }
     return widths;
 }
@@ -45,11 +45,11 @@ std::string secondHeading(const Widths& widths)
            "Score Picks Picks Picks Breaker Winner Picked";
 }
 
-void addHead(ReportLines& lines, std::string_view title, const Widths& widths)
+void addHeader(ReportLines& lines, std::string_view title, const Widths& widths)
 {
     constexpr std::string_view kName = "Tournament Standings";
-    addPageHead(lines, indentedOrFlush(centredOnce(widths.line(), title.size()), title),
-                indentedOrFlush(centredOnce(widths.line(), kName.size()), kName));
+    addPageHeader(lines, indentedOrFlush(centredOnce(widths.line(), title.size()), title),
+                  indentedOrFlush(centredOnce(widths.line(), kName.size()), kName));
     lines.push_back("Points" + blanks(widths.name + widths.file + 6) + "Poss. Good   Bad  Open    Tie");
     lines.push_back(secondHeading(widths));
     lines.push_back("------ " + dashes(widths.name) + "   " + dashes(widths.file) +
@@ -77,11 +77,11 @@ std::string rowLine(const StandingsRow& row, int open, const Widths& widths)
 
 } // namespace
 
-std::string standingsWorkRow(const ScoreLine& score)
+std::string standingsWorkRow(const PlayerScore& score)
 {
-    return threeDigits(score.Points) + kSeparator + score.PlayerName + kSeparator + score.FileName + kSeparator +
-           threeDigits(score.MaxPoints) + kSeparator + threeDigits(score.GoodPicks) + kSeparator +
-           threeDigits(score.BadPicks) + kSeparator + score.WinningPick + kSeparator + threeDigits(score.FinalPoints);
+    return threeDigits(score.points) + kSeparator + score.playerName + kSeparator + score.fileName + kSeparator +
+           threeDigits(score.maxPoints) + kSeparator + threeDigits(score.goodPicks) + kSeparator +
+           threeDigits(score.badPicks) + kSeparator + score.winningPick + kSeparator + threeDigits(score.finalPoints);
 }
 
 StandingsRow standingsRow(std::string_view workRow)
@@ -90,10 +90,10 @@ StandingsRow standingsRow(std::string_view workRow)
     return {field[0], field[1], field[2], field[3], field[4], field[5], field[6], field[7]};
 }
 
-Result<ReportLines> standingsLines(std::string_view title, std::span<const ScoreLine> scores)
+Result<ReportLines> standingsLines(std::string_view title, std::span<const PlayerScore> scores)
 {
     std::vector<std::string> workRows;
-    for (const ScoreLine& score : scores)
+    for (const PlayerScore& score : scores)
         workRows.push_back(standingsWorkRow(score));
     sortWorkRows(workRows);
 
@@ -103,8 +103,8 @@ Result<ReportLines> standingsLines(std::string_view title, std::span<const Score
     // Read backwards: the rows are kept ascending, and the most points come first.
     for (auto workRow = workRows.rbegin(); workRow != workRows.rend(); ++workRow) {
         if (lineOfPage == 0) {
-            addHead(lines, title, widths);
-            lineOfPage = kHeadLines;
+            addHeader(lines, title, widths);
+            lineOfPage = kHeaderLines;
         }
         const StandingsRow row = standingsRow(*workRow);
         const Result<int> open = openPicks(row);

@@ -13,7 +13,7 @@ namespace tallyhoop {
 
 /// A player as a packed work row, fields separated by ";": points, player name, file name, most points, good picks, bad
 /// picks, champion, tie-breaker; numbers as three digits, so that their order as text is their order as numbers.
-std::string standingsWorkRow(const ScoreLine& score);
+std::string standingsWorkRow(const PlayerScore& score);
 
 /// What comes out of a packed work row: texts, for a ";" inside a name shifts what follows it.
 struct StandingsRow {
@@ -35,6 +35,6 @@ StandingsRow standingsRow(std::string_view workRow);
 /// @param title  centred on every page; one that is too wide starts at the left edge
 /// @param scores one per player, in any order
 /// @returns a failure when a shifted field holds a number of picks beyond 16 bits
-Result<ReportLines> standingsLines(std::string_view title, std::span<const ScoreLine> scores);
+Result<ReportLines> standingsLines(std::string_view title, std::span<const PlayerScore> scores);
 
 } // namespace tallyhoop

@@ -4,7 +4,6 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/windows1252.h"
-#include "pool/position.h"
 
 #include <algorithm>
 #include <iterator>
@@ -24,12 +23,13 @@ constexpr std::size_t kHeadingIndent = 27;
 class PicksByTeam
 {
 public:
-    explicit PicksByTeam(const ReadPool& pool)
+    explicit PicksByTeam(std::span<const Entry> entries)
     {
-        // An entry ends its team with a comma. With commas of their own, teams can stand between entries of another.
-        for (const PoolEntry& player : pool.players)
-            for (std::size_t slot = 1; slot <= selection_line::kChampion; ++slot)
-                m_mixed = m_mixed || player.lines[slot].find(',') != std::string::npos;
+        // A packed entry separates its team with a comma. With commas of their own, teams can come between those of
+        // another.
+        for (const Entry& entry : entries)
+            for (const Position game : gamePositions())
+                m_mixed = m_mixed || entry.picks.at(game).find(',') != std::string::npos;
     }
 
     /// @param team, label are kept by address
@@ -92,28 +92,25 @@ Result<Pick> parsePickEntry(std::string_view entry)
                 static_cast<std::size_t>(*category)};
 }
 
-std::vector<std::string> pickEntries(const ReadPool& pool)
+std::vector<std::string> pickEntries(std::span<const Entry> entries)
 {
     std::vector<std::string> labels;
-    labels.reserve(pool.players.size()); // the picks point to them
-    PicksByTeam picks{pool};
-    for (const PoolEntry& player : pool.players) {
-        labels.push_back(player.lines[selection_line::kName] + "_" + player.lines[selection_line::kInitials]);
-        for (int slot = 1; slot <= kPositions; ++slot) {
-            const int category = roundOf(positionOf(Slot{slot}));
-            const std::string& team = player.lines[static_cast<std::size_t>(slot)];
-            if (category > 0 && !team.empty())
-                picks.add(team, labels.back(), category);
-        }
+    labels.reserve(entries.size()); // the picks point to them
+    PicksByTeam picks{entries};
+    for (const Entry& entry : entries) {
+        labels.push_back(entry.name + "_" + entry.initials);
+        for (const Position game : gamePositions())
+            if (!entry.picks.isEmpty(game))
+                picks.add(entry.picks.at(game), labels.back(), roundOf(game));
     }
     return picks.sortedEntries();
 }
 
-Result<Done> addTeamSelectionHead(ReportLines& lines, std::string_view title, std::string_view reportName)
+Result<Done> addTeamSelectionHeader(ReportLines& lines, std::string_view title, std::string_view reportName)
 {
-    const Result<Done> head = addCentredPageHead(lines, centredTwice, kPageWidth, title, reportName);
-    if (!head)
-        return head;
+    const Result<Done> header = addCentredPageHeader(lines, centredTwice, kPageWidth, title, reportName);
+    if (!header)
+        return header;
     lines.push_back(blanks(kHeadingIndent) + "  2nd    3rd    4th   Region   Tour     Tour  ");
     lines.push_back(blanks(kHeadingIndent) + " Round  Round  Round  Finals  Finals  Champion");
     lines.push_back(countRule());

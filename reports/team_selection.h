@@ -3,10 +3,11 @@
 #pragma once
 
 #include "base/result.h"
-#include "files/read_pool.h"
+#include "pool/entry.h"
 #include "reports/report_layout.h"
 
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,14 +16,13 @@ namespace tallyhoop {
 
 /// Picks by category 1..6: 2nd round, 3rd round, 4th round, region finals, tournament finals, champion. Entry 0 takes
 /// what has no category and is never printed.
-using CategoryCounts = std::array<int, 7>;
+using CategoryCounts = std::array<int, kRounds + 1>;
 
 /// A pick as a packed work row: team, ",", player label (name, "_", initials), ",", category.
 std::string pickEntry(std::string_view team, std::string_view playerLabel, int category);
 
-/// What comes out of a packed pick entry. A "," inside a name shifts what follows: the team is the text before the
-/// first
-/// ",", the label the text between the first and the second, the category the leading number of all behind the second.
+/// What comes out of a packed pick entry. A "," inside a name shifts what follows: the team is the text up to the
+/// first ",", the label the text up to the second, the category the leading number of all that follows.
 struct Pick {
     std::string team;
     std::string playerLabel;
@@ -33,11 +33,11 @@ struct Pick {
 Result<Pick> parsePickEntry(std::string_view entry);
 
 /// Packs every pick of every player, ascending without regard to case.
-std::vector<std::string> pickEntries(const ReadPool& pool);
+std::vector<std::string> pickEntries(std::span<const Entry> entries);
 
-/// Writes the head of a page of either report: the page head and the three lines of column headings.
+/// Writes the header of a page of either report: the page header and the three lines of column headings.
 /// @returns a failure when the title is wider than the page
-Result<Done> addTeamSelectionHead(ReportLines& lines, std::string_view title, std::string_view reportName);
+Result<Done> addTeamSelectionHeader(ReportLines& lines, std::string_view title, std::string_view reportName);
 
 /// @returns the team's name padded to the column before the counts; a failure when it is longer than that column
 Result<std::string> teamColumn(const std::string& team);
@@ -49,7 +49,7 @@ std::string countColumns(const CategoryCounts& counts);
 std::string countRule();
 
 /// Lays out the summary.
-/// @param entries as pickEntries() gives them; none gives one page head alone
+/// @param entries as pickEntries() gives them; none gives one page header alone
 /// @returns a failure when the title or a team's name is too long, or an entry has no usable category
 Result<ReportLines> teamSelectionSummaryLines(std::string_view title, const std::vector<std::string>& entries);
 

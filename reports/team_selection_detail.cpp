@@ -2,110 +2,113 @@
 #include "reports/team_selection_detail.h"
 
 #include "base/text.h"
-#include "reports/report_table.h"
+
+#include <utility>
 
 namespace tallyhoop {
 
 namespace {
 
 constexpr std::size_t kPlayerColumn = 22;
-constexpr std::size_t kCountsBehindPlayer = 24;
-constexpr int kHeadLines = 7;
+constexpr std::size_t kCountsAfterPlayer = 24;
+constexpr int kHeaderLines = 7;
 constexpr int kLastLineOfPage = 63;
 
-ui::Message failed(const Failure& failure)
+/// Collects a player's picks of a team and writes their row once a pick of another player or team comes.
+class Detail
 {
-    return reportFailure(reportKind(ReportId::TeamSelectionDetail), failure.message);
-}
+public:
+    explicit Detail(std::string_view title) : m_title{title} {}
+
+    Result<Done> add(const Pick& pick)
+    {
+        // Players are told apart exactly, also those that differ only in case and follow one another.
+        if (pick.team != m_team || pick.playerLabel != m_playerLabel)
+            if (const Result<Done> written = writeRow(); !written)
+                return written;
+        m_team = pick.team;
+        m_playerLabel = pick.playerLabel;
+        ++m_counts[pick.category];
+        return Done{};
+    }
+
+    /// The last player's row, with the header of the first page where there was no pick at all.
+    Result<Done> close() { return writeRow(); }
+
+    ReportLines lines;
+
+private:
+    /// Writes nothing but a header that is due as long as there is no team.
+    Result<Done> writeRow()
+    {
+        if (m_lineOfPage == 0)
+            if (const Result<Done> page = startPage(); !page)
+                return page;
+        if (!m_team.empty())
+            if (const Result<Done> row = writePlayer(); !row)
+                return row;
+        m_counts = {};
+        return Done{};
+    }
+
+    Result<Done> writePlayer()
+    {
+        if (m_team != m_lastTeam)
+            if (const Result<Done> team = writeTeam(); !team)
+                return team;
+        lines.push_back(blanks(5) + fitted(fitted(m_playerLabel, kPlayerColumn), kCountsAfterPlayer) +
+                        countColumns(m_counts));
+        if (++m_lineOfPage > kLastLineOfPage) {
+            lines.emplace_back(kFormFeedLine);
+            m_lineOfPage = 0;
+        }
+        return Done{};
+    }
+
+    Result<Done> writeTeam()
+    {
+        const Result<std::string> column = teamColumn(m_team);
+        if (!column)
+            return column.failure();
+        lines.push_back(*column);
+        ++m_lineOfPage;
+        m_lastTeam = m_team;
+        return Done{};
+    }
+
+    Result<Done> startPage()
+    {
+        if (lines.empty()) {
+            lines.emplace_back(kBlankLine);
+            ++m_lineOfPage;
+        }
+        m_lineOfPage += kHeaderLines;
+        return addTeamSelectionHeader(lines, m_title, "Team Selection Detail");
+    }
+
+    std::string_view m_title;
+    std::string m_team; ///< of the next row; empty before the first team
+    std::string m_playerLabel;
+    CategoryCounts m_counts{};
+    std::string m_lastTeam; ///< whose line was written last
+    int m_lineOfPage = 0;
+};
 
 } // namespace
 
-std::optional<ui::Message> TeamSelectionDetailWriter::WriteTmSelDetail(std::string_view option)
+Result<ReportLines> teamSelectionDetailLines(std::string_view title, const std::vector<std::string>& entries)
 {
-    if (option == "Open" || option == "Close") {
-        if (option == "Open")
-            open();
-        return std::nullopt;
-    }
-    if (option != "Output")
-        return ui::Message{"Tallyhoop - WriteTmSelDetail Routine", "Error with the routine - Invalid Option request",
-                           ui::Buttons::Ok, ui::Icon::Exclamation};
-    const Result<Done> written = output();
-    counts = {};
-    return written ? std::nullopt : std::optional{failed(written.failure())};
-}
-
-void TeamSelectionDetailWriter::open()
-{
-    m_lines.clear();
-    m_lastTeam.clear();
-    m_lineOfPage = 0;
-    m_isFirstPage = true;
-}
-
-Result<Done> TeamSelectionDetailWriter::output()
-{
-    if (m_lineOfPage == 0)
-        if (const Result<Done> page = startPage(); !page)
-            return page;
-    if (team.empty())
-        return Done{};
-    if (team != m_lastTeam)
-        if (const Result<Done> written = writeTeam(); !written)
-            return written;
-    m_lines.push_back(blanks(5) + fitted(fitted(playerLabel, kPlayerColumn), kCountsBehindPlayer) +
-                      countColumns(counts));
-    if (++m_lineOfPage > kLastLineOfPage) {
-        m_lines.emplace_back(kFormFeedLine);
-        m_lineOfPage = 0;
-    }
-    return Done{};
-}
-
-Result<Done> TeamSelectionDetailWriter::startPage()
-{
-    if (m_isFirstPage) {
-        m_lines.emplace_back(kBlankLine);
-        ++m_lineOfPage;
-        m_isFirstPage = false;
-    }
-    m_lineOfPage += kHeadLines;
-    return addTeamSelectionHead(m_lines, m_title, "Team Selection Detail");
-}
-
-Result<Done> TeamSelectionDetailWriter::writeTeam()
-{
-    const Result<std::string> column = teamColumn(team);
-    if (!column)
-        return column.failure();
-    m_lines.push_back(*column);
-    ++m_lineOfPage;
-    m_lastTeam = team;
-    return Done{};
-}
-
-TeamSelectionDetail teamSelectionDetail(std::string_view title, const std::vector<std::string>& entries)
-{
-    TeamSelectionDetailWriter writer{title};
-    std::optional<ui::Message> trouble = writer.WriteTmSelDetail("Open");
-    for (std::size_t i = 0; i < entries.size() && !trouble; ++i) {
-        const Result<Pick> pick = parsePickEntry(entries[i]);
+    Detail detail{title};
+    for (const std::string& entry : entries) {
+        const Result<Pick> pick = parsePickEntry(entry);
         if (!pick)
-            return {{}, failed(pick.failure())};
-        // Players are told apart exactly, also those that differ only in case and stand together.
-        if (pick->team != writer.team || pick->playerLabel != writer.playerLabel)
-            trouble = writer.WriteTmSelDetail("Output");
-        writer.team = pick->team;
-        writer.playerLabel = pick->playerLabel;
-        ++writer.counts[pick->category];
+            return pick.failure();
+        if (const Result<Done> added = detail.add(*pick); !added)
+            return added.failure();
     }
-    if (!trouble)
-        trouble = writer.WriteTmSelDetail("Output"); // the last player has nobody behind to bring the row out
-    if (!trouble)
-        trouble = writer.WriteTmSelDetail("Close");
-    if (trouble)
-        return {{}, trouble};
-    return {writer.takeLines(), std::nullopt};
+    if (const Result<Done> closed = detail.close(); !closed)
+        return closed.failure();
+    return std::move(detail.lines);
 }
 
 } // namespace tallyhoop

@@ -30,11 +30,11 @@ public:
 private:
     Result<Done> changeTeam(const std::string& team)
     {
-        // The counter stands at its start until the first row of a page is written: the head must not come twice.
-        if (m_lineOfPage == kFirstLineOfPage && !m_hasHead) {
-            if (const Result<Done> head = addTeamSelectionHead(lines, m_title, "Team Selection Summary"); !head)
-                return head;
-            m_hasHead = true;
+        // The counter is at its start until the first row of a page is written: the header must not come twice.
+        if (m_lineOfPage == kFirstLineOfPage && !m_hasHeader) {
+            if (const Result<Done> header = addTeamSelectionHeader(lines, m_title, "Team Selection Summary"); !header)
+                return header;
+            m_hasHeader = true;
         }
         if (!m_isFirst)
             if (const Result<Done> row = addRow(); !row)
@@ -43,7 +43,7 @@ private:
             lines.emplace_back(kBlankLine);
             lines.emplace_back(kFormFeedLine);
             m_lineOfPage = kFirstLineOfPage;
-            m_hasHead = false;
+            m_hasHeader = false;
         }
         m_team = team;
         m_isFirst = false;
@@ -67,7 +67,7 @@ private:
     CategoryCounts m_counts{};
     int m_lineOfPage = kFirstLineOfPage;
     bool m_isFirst = true;
-    bool m_hasHead = false;
+    bool m_hasHeader = false;
 };
 
 } // namespace

@@ -55,7 +55,7 @@ ui::Message trouble(const std::string& what, const Failure& failure)
 std::vector<const char*> demoDataFiles()
 {
     std::vector<const char*> names{file_name::kSetup, file_name::kResults, file_name::kPlayerNames};
-    names.insert(names.end(), kDemoSelectionFiles.begin(), kDemoSelectionFiles.end());
+    names.insert(names.end(), demo::kSelectionFiles.begin(), demo::kSelectionFiles.end());
     names.push_back(file_name::kSettings);
     return names;
 }
@@ -152,52 +152,52 @@ Result<Done> clearDemoDataFiles(const DataFolder& folder)
     return outcome;
 }
 
-std::optional<Opening> startDemo(const DataFolder& folder, const ui::Platform& platform)
+bool startDemo(const DataFolder& folder, const ui::Platform& platform)
 {
     const std::filesystem::path installer =
         folder.pathOf(file_name::kDemoInstaller).value_or(folder.folder() / file_name::kDemoInstaller);
     if (const std::optional<Failure> failure = obstacle(installer, folder, platform)) {
         platform.dialogs.show(trouble("Demonstration mode cannot be started. Nothing was changed.", *failure));
-        return std::nullopt;
+        return false;
     }
     const Result<std::optional<std::filesystem::path>> backup = keepOwnFiles(folder, platform.clock);
     if (!backup) {
         platform.dialogs.show(trouble("Demonstration mode cannot be started. Nothing was changed.", backup.failure()));
-        return std::nullopt;
+        return false;
     }
     const std::optional<ui::Message> failure = clearAndInstall(folder, installer, platform.programs);
     platform.dialogs.show(failure.value_or(kContinueInDemo));
     if (*backup)
         platform.dialogs.show(ownPoolIsIn(**backup));
     if (failure)
-        return Opening::Plain;
+        return true;
     const std::optional<Failure> noPool = waitForSamplePool(folder, platform);
     if (!noPool)
-        return Opening::DemoEntered;
+        return true;
     platform.dialogs.show(trouble("The sample pool could not be installed.", failureAt(shown(installer), *noPool)));
-    return Opening::Plain;
+    return true;
 }
 
-std::optional<Opening> enterDemo(const DataFolder& folder, const ui::Platform& platform)
+bool enterDemo(const DataFolder& folder, const ui::Platform& platform)
 {
     if (platform.dialogs.show(askBeforeEntering()) == ui::Answer::Cancel)
-        return std::nullopt;
+        return false;
     return startDemo(folder, platform);
 }
 
-bool leaveDemo(const DataFolder& folder, const ui::Platform& platform, std::string& notice)
+std::optional<std::string> leaveDemo(const DataFolder& folder, const ui::Platform& platform)
 {
     const Result<std::optional<std::filesystem::path>> backup = keepOwnFiles(folder, platform.clock);
     if (!backup) {
         platform.dialogs.show(trouble("Demonstration mode cannot be left. Nothing was changed.", backup.failure()));
-        return false;
+        return std::nullopt;
     }
     if (const Result<Done> cleared = clearDemoDataFiles(folder); !cleared)
         platform.dialogs.show(trouble("A file of the demonstration could not be deleted.", cleared.failure()));
     platform.dialogs.show(kContinueNormally);
-    if (*backup)
-        notice = "Files that you changed in demo mode are kept in the folder " + shown((*backup)->filename()) + ".";
-    return true;
+    if (!*backup)
+        return std::string{};
+    return "Files that you changed in demo mode are kept in the folder " + shown((*backup)->filename()) + ".";
 }
 
 } // namespace tallyhoop

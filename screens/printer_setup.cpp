@@ -36,19 +36,14 @@ std::optional<ui::PrinterFont> fontForText(const ui::Platform& platform)
 
 } // namespace
 
-ui::Orientation orientationOf(std::string_view text)
-{
-    return text == "Landscape" ? ui::Orientation::Landscape : ui::Orientation::Portrait;
-}
-
-std::optional<PrinterSetup> setUpPrinter(const ui::Platform& platform, bool showDialog, std::string_view orientation)
+std::optional<PrinterSetup> setUpPrinter(const ui::Platform& platform, bool showDialog, ui::Orientation orientation)
 {
     if (showDialog && !platform.printer.choosePrinter())
         return std::nullopt;
     const std::optional<ui::PrinterFont> font = fontForText(platform);
     if (!font)
         return std::nullopt;
-    return PrinterSetup{*font, orientationOf(orientation)};
+    return PrinterSetup{*font, orientation};
 }
 
 } // namespace tallyhoop

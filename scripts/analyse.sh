@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Static analysis of the program's own code; fails when there is anything to say.
+# Static analysis of the program's own code; fails when there are any warnings.
 #
-#   scripts/analyse.sh                              everything, with what the build in build/ is compiled with
+#   scripts/analyse.sh                              everything, with the compile commands of the build in build/
 #   scripts/analyse.sh cppcheck                     cppcheck alone, which needs no build
 #   scripts/analyse.sh tidy BUILD [SHARE SHARES]    clang-tidy alone: on all sources, or on a share of them (1 4: the
 #                                                   first quarter)
@@ -10,19 +10,19 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 rooms=(app base demo files pool qt reports screens ui)
 
-# needs TOOL: what is not there has not looked at anything.
+# needs TOOL: fails when it is not installed.
 needs() {
     command -v "$1" >/dev/null && return
     echo "analyse.sh: $1 is not installed; its Debian package has the same name. Tests without it: ctest -LE analysis" >&2
     exit 1
 }
 
-# What cppcheck need not say:
+# Checks of cppcheck that are off:
 #   useStlAlgorithm        a loop of two lines reads as well
 #   shadowFunction         a local variable is called what it is, also where some function has that name
-#   noExplicitConstructor  a Result is made from its value or its failure without a word, on purpose
+#   noExplicitConstructor  a Result is made from its value or its failure implicitly, on purpose
 #   unusedStructMember     does not see members that are filled by an initialiser and read by name
-#   constParameter         the parameters of what a signal calls are the signal's
+#   constParameter         a slot has the parameters of its signal
 #   constStatement         takes an index in the body of a function of one line for a statement without effect
 #   unmatchedSuppression   a suppression that one version of cppcheck needs and another does not
 check() {
@@ -36,7 +36,7 @@ check() {
         --template='{file}:{line}: {severity}: {message} [{id}]' -I. "${rooms[@]}"
 }
 
-# What the program is made of in a build, one path per line. So what only Windows compiles is left out.
+# The sources that a build of the program compiles, one path per line. This leaves out the sources for Windows.
 sources_in() {
     sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$1/compile_commands.json" |
         grep -E "^$PWD/($(IFS='|' && echo "${rooms[*]}"))/" | sort -u
@@ -47,10 +47,10 @@ tidy() {
     local build=$1 share=${2:-1} shares=${3:-1} sources
     mapfile -t sources < <(sources_in "$build" | awk "NR % $shares == $share % $shares")
     if [ "${#sources[@]}" -eq 0 ]; then
-        echo "analyse.sh: $build tells of no sources in $PWD" >&2
+        echo "analyse.sh: $build lists no sources in $PWD" >&2
         exit 1
     fi
-    # How many warnings there are in the system's headers is of no interest.
+    # The number of warnings in the system's headers does not matter.
     clang-tidy -p "$build" --quiet "${sources[@]}" 2> >(grep -v 'warnings generated\.$' >&2)
 }
 

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# Runs the fuzzers of tests/fuzz, one after another, without touching the corpora that they begin with.
+# Runs the fuzzers of tests/fuzz, one after another, without changing the corpora that they begin with.
 #
-#   scripts/fuzz.sh MINUTES [TARGET ...]    each target, or all of them, for so many minutes
-#   scripts/fuzz.sh --merge [TARGET ...]    takes over into the corpora what reached something new
+#   scripts/fuzz.sh MINUTES [TARGET ...]    runs each of these targets, or all of them, for so many minutes
+#   scripts/fuzz.sh --merge [TARGET ...]    adds to the corpora the inputs that reached something new
 #
-# What they found interesting stays in build-fuzz/found/TARGET, and is where the next run goes on; an input that broke
-# something lies in build-fuzz/broken. Needs clang: the Debian packages clang, libclang-rt-14-dev and llvm.
+# Interesting inputs are kept in build-fuzz/found/TARGET, where the next run continues; an input that broke something is
+# in build-fuzz/broken. Needs clang: the Debian packages clang, libclang-rt-14-dev and llvm.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/build.sh

@@ -16,7 +16,7 @@ missing_packages() {
         <(dpkg-query -W -f='${Package} ${db:Status-Status}\n' 2>/dev/null | awk '$2 == "installed" { print $1 }' | sort -u)
 }
 
-# Installs what is missing for the given purposes; says what it does, and stays off the network when nothing is missing.
+# Installs what is missing for the given purposes; prints what it does, and does not use the network when nothing is missing.
 install_packages() {
     if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
         echo "This is not a Debian system: please see to it that the equivalents of these packages are installed:"

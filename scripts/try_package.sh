@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# Tries the Debian package in a whole system made from nothing: as root, with the network, some minutes and 1 GB of disk.
+# Tests the Debian package in a new, complete system; needs root, the network, some minutes and 1 GB of disk.
 #
 #     scripts/try_package.sh [SUITE [MIRROR]]
 #
-# The same goes on as in tests/e2e/package_test.py, but apt brings what the package depends on, and nothing else.
+# Runs tests/e2e/package_test.py there; apt installs what the package depends on, and nothing else.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/packages.sh
@@ -22,7 +22,7 @@ build_preset release build -DTALLYHOOP_TESTS=ON -- tallyhoop demoset package_tex
 work=$(mktemp -d "${TMPDIR:-/tmp}/tallyhoop-clean-root.XXXXXX")
 chmod 755 "$work"
 root=$work/root
-shared=$work/shared # stands at the same place inside and outside
+shared=$work/shared # at the same path inside and outside
 clean_up() {
     umount "$root$shared" "$root/proc" 2>/dev/null || true
     mountpoint -q "$root$shared" || rm -rf --one-file-system "$work"
@@ -39,8 +39,8 @@ echo "Installing the package with all that it depends on"
 inside() { chroot "$root" env DEBIAN_FRONTEND=noninteractive LC_ALL=C "$@"; }
 inside apt-get update -qq
 inside sh -c "apt-get install -y -qq --no-install-recommends $shared/*.deb"
-inside apt-get purge -y -qq tallyhoop # its dependencies stay; the test installs it once more
-inside apt-get install -y -qq --no-install-recommends libqt6network6 libqt6test6 # what the test looks through
+inside apt-get purge -y -qq tallyhoop # its dependencies stay; the test installs it again
+inside apt-get install -y -qq --no-install-recommends libqt6network6 libqt6test6 # for the test's inspector
 
 cd tests/e2e
 TMPDIR=$shared TALLYHOOP_BUILD=$OLDPWD/build TALLYHOOP_CLEAN_ROOT=$root python3 -B -m unittest -v package_test

@@ -1,7 +1,7 @@
-# Sourced by run.sh: shows a program on a virtual display that can be looked at over VNC, from this machine only.
+# Sourced by run.sh: shows a program on a virtual display that can be seen over VNC, from this machine only.
 
-# run_on_virtual_display PROGRAM PICTURE: starts PROGRAM in the present folder, saves a picture of its window, says how to
-# watch it, and waits until it ends. Everything started here ends with it.
+# run_on_virtual_display PROGRAM PICTURE: starts PROGRAM in the current folder, saves a picture of its window, explains how
+# to see it, and waits until it ends. Everything started here ends with it.
 run_on_virtual_display() {
     local program=$1 picture=$2
     session=$(mktemp -d "${TMPDIR:-/tmp}/tallyhoop-display.XXXXXX")
@@ -35,15 +35,15 @@ end_virtual_display() {
     rm -rf "$session"
 }
 
-# Xvfb picks a free display number itself and tells it once it is ready to be used.
+# Xvfb picks a free display number itself and reports it when it is ready.
 start_virtual_display() {
     local cookie number
     cookie=$(mcookie)
     export XAUTHORITY="$session/Xauthority"
     (umask 077 && : >"$XAUTHORITY")
-    xauth -q add :0 . "$cookie" # whatever the number: the server looks at the cookie alone
+    xauth -q add :0 . "$cookie" # any number will do: the server checks the cookie only
     mkfifo "$session/number"
-    # Without -noreset the server starts afresh whenever its last client leaves, and takes newcomers down with it.
+    # Without -noreset the server resets itself when its last client leaves, and disconnects new ones.
     Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -noreset -auth "$XAUTHORITY" \
         3>"$session/number" >"$session/xvfb.log" 2>&1 &
     helpers+=($!)
@@ -55,7 +55,7 @@ start_virtual_display() {
     export DISPLAY=":$number"
     unset WAYLAND_DISPLAY
     xauth -q add "$DISPLAY" . "$cookie"
-    # Without a window manager no window ever gets the keyboard, nor does one that comes before it.
+    # Without a window manager no window ever gets the keyboard, nor does one that is opened before it.
     openbox --sm-disable >"$session/openbox.log" 2>&1 &
     helpers+=($!)
     local tries
@@ -68,7 +68,7 @@ start_virtual_display() {
     return 1
 }
 
-# A password of its own for each run: VNC looks at eight characters only, so all of them are random.
+# A new password for each run: VNC uses eight characters only, so all of them are random.
 share_over_vnc() {
     local letters
     letters=$(head -c 512 /dev/urandom | LC_ALL=C tr -dc 'a-km-zA-HJ-NP-Z2-9')
@@ -87,7 +87,7 @@ share_over_vnc() {
     return 1
 }
 
-# Waits for a visible window of the program, and until there is more in it than a plain ground.
+# Waits for a visible window of the program, and until it shows more than a plain background.
 picture_when_painted() {
     local pid=$1 picture=$2 tries window
     for ((tries = 0; tries < 240; tries++)); do

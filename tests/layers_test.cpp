@@ -23,10 +23,10 @@ const Rooms kCore = {"base", "pool", "files", "reports", "ui", "screens", "demo"
 /// What each room may include beside itself.
 const std::map<std::string, Rooms> kMayInclude = {
     {"base", {}},
-    {"pool", {"base", "screens"}},
-    {"files", {"pool", "base", "ui", "screens"}},
-    {"reports", {"pool", "base", "files", "ui"}},
-    {"demo", {"files", "pool", "base", "screens"}},
+    {"pool", {"base"}},
+    {"files", {"pool", "base"}},
+    {"reports", {"pool", "base"}},
+    {"demo", {"files", "pool", "base"}},
     {"ui", {"base"}},
     {"screens", {"ui", "reports", "demo", "files", "pool", "base"}},
     {"qt", {"screens", "ui", "reports", "demo", "files", "pool", "base"}},

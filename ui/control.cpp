@@ -4,52 +4,56 @@
 
 namespace tallyhoop::ui {
 
-Control::Control(Screen* screen, std::string_view controlName) : name{controlName} { screen->list(*this); }
+Control::Control(Screen* owner, std::string_view controlName) : screen{*owner}, name{controlName}
+{
+    screen.list(*this);
+}
 
-Label::Label(Screen* screen, std::string_view controlName, std::string labelText)
-    : Control{screen, controlName}, text{std::move(labelText)}
+Label::Label(Screen* owner, std::string_view controlName, std::string labelText)
+    : Control{owner, controlName}, text{std::move(labelText)}
 {
 }
 
-TextBox::TextBox(Screen* screen, std::string_view controlName, std::function<void()> onEdited)
-    : Control{screen, controlName}, edited{std::move(onEdited)}
+TextBox::TextBox(Screen* owner, std::string_view controlName, std::function<void()> onEdited)
+    : Control{owner, controlName}, edited{std::move(onEdited)}
 {
 }
 
-Command::Command(Screen* screen, std::string_view controlName, std::string commandCaption,
-                 std::function<void()> onClick)
-    : Control{screen, controlName}, caption{std::move(commandCaption)}, action{std::move(onClick)}
+Command::Command(Screen* owner, std::string_view controlName, std::string commandCaption, std::function<void()> onClick)
+    : Control{owner, controlName}, caption{std::move(commandCaption)}, action{std::move(onClick)}
 {
 }
 
 void Command::click()
 {
-    if (enabled && visible && action)
-        action();
+    if (!enabled || !visible || !action)
+        return;
+    action();
+    screen.showState();
 }
 
-CheckBox::CheckBox(Screen* screen, std::string_view controlName, std::string boxCaption)
-    : Control{screen, controlName}, caption{std::move(boxCaption)}
+CheckBox::CheckBox(Screen* owner, std::string_view controlName, std::string boxCaption)
+    : Control{owner, controlName}, caption{std::move(boxCaption)}
 {
 }
 
-OptionButton::OptionButton(Screen* screen, std::string_view controlName, std::string buttonCaption)
-    : Control{screen, controlName}, caption{std::move(buttonCaption)}
+OptionButton::OptionButton(Screen* owner, std::string_view controlName, std::string buttonCaption)
+    : Control{owner, controlName}, caption{std::move(buttonCaption)}
 {
 }
 
-ListBox::ListBox(Screen* screen, std::string_view controlName) : Control{screen, controlName} {}
+ListBox::ListBox(Screen* owner, std::string_view controlName) : Control{owner, controlName} {}
 
 std::string ListBox::selectedText() const
 {
     return selected ? rows.at(static_cast<std::size_t>(*selected)) : std::string{};
 }
 
-Grid::Grid(Screen* screen, std::string_view controlName) : Control{screen, controlName} {}
+Grid::Grid(Screen* owner, std::string_view controlName) : Control{owner, controlName} {}
 
-MenuEntry::MenuEntry(Screen* screen, std::string_view controlName, std::string entryCaption,
+MenuEntry::MenuEntry(Screen* owner, std::string_view controlName, std::string entryCaption,
                      std::function<void()> onChosen, std::string keys)
-    : Control{screen, controlName},
+    : Control{owner, controlName},
       caption{std::move(entryCaption)},
       shortcut{std::move(keys)},
       action{std::move(onChosen)}
@@ -58,8 +62,10 @@ MenuEntry::MenuEntry(Screen* screen, std::string_view controlName, std::string e
 
 void MenuEntry::click()
 {
-    if (enabled && visible && action)
-        action();
+    if (!enabled || !visible || !action)
+        return;
+    action();
+    screen.showState();
 }
 
 } // namespace tallyhoop::ui

@@ -14,6 +14,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 namespace tallyhoop::ui {
@@ -22,11 +23,12 @@ class Screen;
 
 /// What every control has. Constructing one lists it with its screen.
 struct Control {
-    Control(Screen* screen, std::string_view name);
+    Control(Screen* owner, std::string_view name);
     virtual ~Control() = default;
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
+    Screen& screen;         ///< whose control it is
     const std::string name; ///< the widget's objectName; members of arrays are "lblRegion_12"
     bool enabled = true;
     bool visible = true;
@@ -40,15 +42,16 @@ struct Control {
 
 /// A line of text the person cannot change. The text is data: never markup, `&` never a mnemonic.
 struct Label : Control {
-    Label(Screen* screen, std::string_view name, std::string text = {});
+    Label(Screen* owner, std::string_view name, std::string text = {});
 
     std::string text;
-    std::optional<Colour> colour; ///< nothing = the palette's text colour
+    std::optional<Colour> colour;     ///< nothing = the palette's text colour
+    std::optional<Colour> background; ///< nothing = what lies below shows through
 };
 
 /// Text the person can edit unless it is locked. A one-line box never holds a line break; a multi-line one holds CR LF.
 struct TextBox : Control {
-    TextBox(Screen* screen, std::string_view name, std::function<void()> edited = {});
+    TextBox(Screen* owner, std::string_view name, std::function<void()> edited = {});
 
     std::string text;
     bool locked = false;
@@ -62,20 +65,20 @@ struct TextBox : Control {
 
 /// A push button.
 struct Command : Control {
-    Command(Screen* screen, std::string_view name, std::string caption, std::function<void()> action = {});
+    Command(Screen* owner, std::string_view name, std::string caption, std::function<void()> action = {});
 
     std::string caption;    ///< ours, not data: an `&` marks the mnemonic
     char mnemonic = 0;      ///< the letter that Alt presses where the caption marks none; 0 = none, or marked there
     bool isDefault = false; ///< Enter presses it
     std::function<void()> action;
 
-    /// Does what a press by the person does: nothing while disabled or hidden.
+    /// Does what a press by the person does: nothing while disabled or hidden. The screen then shows its new state.
     void click();
 };
 
 /// A box that is ticked or not.
 struct CheckBox : Control {
-    CheckBox(Screen* screen, std::string_view name, std::string caption = {});
+    CheckBox(Screen* owner, std::string_view name, std::string caption = {});
 
     std::string caption; ///< an `&` marks the mnemonic
     bool ticked = false;
@@ -84,7 +87,7 @@ struct CheckBox : Control {
 
 /// One of several choices of which at most one is selected; see selectOption().
 struct OptionButton : Control {
-    OptionButton(Screen* screen, std::string_view name, std::string caption = {});
+    OptionButton(Screen* owner, std::string_view name, std::string caption = {});
 
     std::string caption; ///< an `&` marks the mnemonic
     bool selected = false;
@@ -93,7 +96,7 @@ struct OptionButton : Control {
 
 /// Rows of text of which at most one is selected.
 struct ListBox : Control {
-    ListBox(Screen* screen, std::string_view name);
+    ListBox(Screen* owner, std::string_view name);
 
     std::vector<std::string> rows;
     std::optional<int> selected;      ///< row index; nothing = no row
@@ -121,7 +124,7 @@ struct GridColumn {
 /// A table with one heading row. Moving a column moves `columns` and the cells of every row alike, so that cell [r][c]
 /// always stands in the c-th column from the left.
 struct Grid : Control {
-    Grid(Screen* screen, std::string_view name);
+    Grid(Screen* owner, std::string_view name);
 
     std::vector<GridColumn> columns;
     std::vector<std::vector<std::string>> rows; ///< data rows, each with columns.size() cells
@@ -135,7 +138,7 @@ struct Grid : Control {
 
 /// An entry of a menu, or a menu when it has children.
 struct MenuEntry : Control {
-    MenuEntry(Screen* screen, std::string_view name, std::string caption, std::function<void()> action = {},
+    MenuEntry(Screen* owner, std::string_view name, std::string caption, std::function<void()> action = {},
               std::string shortcut = {});
 
     std::string caption;  ///< an `&` marks the mnemonic
@@ -144,7 +147,7 @@ struct MenuEntry : Control {
     std::function<void()> action;
     std::vector<MenuEntry*> children; ///< nullptr = a separator
 
-    /// Does what choosing it does: nothing while it is disabled or hidden.
+    /// Does what choosing it does: nothing while it is disabled or hidden. The screen then shows its new state.
     void click();
 };
 
@@ -153,15 +156,22 @@ template <class Kind, std::size_t N>
 class ControlArray
 {
 public:
-    ControlArray(Screen* screen, std::string_view name)
+    ControlArray(Screen* owner, std::string_view name)
     {
         for (std::size_t i = 0; i < N; ++i)
-            m_members[i] = std::make_unique<Kind>(screen, std::string{name} + "_" + std::to_string(i));
+            m_members[i] = std::make_unique<Kind>(owner, std::string{name} + "_" + std::to_string(i));
     }
 
     static constexpr std::size_t size() { return N; }
     Kind& operator[](std::size_t index) { return *m_members.at(index); }
     const Kind& operator[](std::size_t index) const { return *m_members.at(index); }
+
+    /// The same for an enum whose values are the places in the array.
+    template <class Id>
+    requires std::is_enum_v<Id> Kind& operator[](Id id) { return *m_members.at(static_cast<std::size_t>(id)); }
+    template <class Id>
+    requires std::is_enum_v<Id>
+    const Kind& operator[](Id id) const { return *m_members.at(static_cast<std::size_t>(id)); }
 
     /// @returns the place of this control in the array, nothing when it is not a member
     std::optional<std::size_t> indexOf(const Control& control) const

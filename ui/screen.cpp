@@ -10,19 +10,13 @@ Screen::Screen(std::string screenName, std::string screenCaption)
 {
 }
 
-bool Screen::keyPressed(Control&, const KeyPress&)
-{
-    return false;
-}
+bool Screen::keyPressed(Control&, const KeyPress&) { return false; }
 
 void Screen::gotFocus(Control&) {}
 
 void Screen::lostFocus(Control&) {}
 
-bool Screen::pasted(TextBox&, const std::string&)
-{
-    return false;
-}
+bool Screen::pasted(TextBox&, const std::string&) { return false; }
 
 Control* Screen::controlAtTab(int tabIndex) const
 {

@@ -32,6 +32,10 @@ public:
     /// @returns the anchor of the help topic that fits the screen as it is now; empty = the help's beginning
     virtual std::string helpTopic() const { return {}; }
 
+    /// Derives what the controls show from the screen's own values. Runs after each command, whoever's it was, and
+    /// before each question: no command has to remember what it made stale.
+    virtual void showState() {}
+
     /// Runs once the window exists, before it is first seen. Messages may be shown.
     virtual void load() {}
 

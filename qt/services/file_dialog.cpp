@@ -24,7 +24,7 @@ bool isFile(const fs::path& path)
     return fs::is_regular_file(path, ignored);
 }
 
-/// @returns the file of this name in another case; nothing when it is there as it is, or not at all
+/// @returns the file of this name in another case; nothing when the name exists as it is, or not at all
 std::optional<fs::path> inAnotherCase(const fs::path& file)
 {
     const QString name = fromPath(file.filename());
@@ -42,7 +42,7 @@ std::optional<fs::path> inAnotherCase(const fs::path& file)
 FileDialog::FileDialog(QWidget* parent, const QString& caption, const fs::path& folder, bool save)
     : QFileDialog{parent, caption, fromPath(folder)}, m_save{save}
 {
-    setOption(DontUseNativeDialog); // makes the line below
+    setOption(DontUseNativeDialog); // only Qt's own dialog has the line edit below
     setOption(DontConfirmOverwrite);
     setAcceptMode(save ? AcceptSave : AcceptOpen);
     setFileMode(save ? AnyFile : ExistingFile);
@@ -52,7 +52,7 @@ FileDialog::FileDialog(QWidget* parent, const QString& caption, const fs::path& 
         connect(m_name, &QLineEdit::textChanged, this, [this] {
             auto* open = findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
             if (inAnotherCase(typedPath()))
-                open->setEnabled(true); // Qt knows of no such file
+                open->setEnabled(true); // Qt disables it when it finds no such file
         });
 }
 
@@ -75,7 +75,7 @@ fs::path FileDialog::typedPath() const
     return (toPath(directory().absolutePath()) / toPath(typed())).lexically_normal();
 }
 
-/// Puts the name of the file that is meant in place of what was typed.
+/// Replaces what was typed by the name of the file that it means.
 void FileDialog::preferExistingName()
 {
     if (m_save)
@@ -84,7 +84,7 @@ void FileDialog::preferExistingName()
         m_name->setText(fromPath(*found));
 }
 
-/// Qt would take the quotation marks for separators of several names.
+/// Accepts a name with quotation marks in or around it, which Qt would take for separators of several names.
 void FileDialog::acceptQuoted()
 {
     const fs::path file = typedPath();
@@ -93,7 +93,7 @@ void FileDialog::acceptQuoted()
         m_save ? fs::is_directory(file.parent_path(), ignored) && !fs::is_directory(file, ignored) : isFile(file);
     if (possible) {
         m_quoted = file;
-        done(Accepted); // past what Qt makes of the name
+        done(Accepted); // without Qt's own interpretation of the name
         return;
     }
     QMessageBox box{QMessageBox::Warning, windowTitle(), typed() + QStringLiteral("\nThere is no such file or folder."),

@@ -1,4 +1,4 @@
-// qt/services/file_dialog.h - Qt's file dialog for one file, which takes a typed name for what it says.
+// qt/services/file_dialog.h - Qt's file dialog for one file, which takes a typed name literally.
 #pragma once
 
 #include <QFileDialog>

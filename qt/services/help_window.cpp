@@ -18,10 +18,10 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kBlockRole = Qt::UserRole; ///< where a contents entry's heading stands: the text block's number
+constexpr int kBlockRole = Qt::UserRole; ///< the number of the text block with a contents entry's heading
 constexpr int kDeepestHeading = 3;
 constexpr int kContentsWidth = 260;
-constexpr int kTextWidth = 760; ///< the lines of the widest usual report, without scrolling sideways
+constexpr int kTextWidth = 760; ///< fits the lines of the widest usual report without scrolling sideways
 constexpr int kHeight = 680;
 const QString kSource = QStringLiteral("help.html");
 
@@ -62,7 +62,7 @@ void HelpText::showTopic(const QString& topic)
 
 QVariant HelpText::loadResource(int type, const QUrl& name)
 {
-    // One file is all there is: nothing else is read from the disk.
+    // The help is one file in memory: nothing else is read from the disk.
     return type == QTextDocument::HtmlResource && name.path() == kSource ? m_html : QVariant{};
 }
 
@@ -81,7 +81,8 @@ HelpWindow::HelpWindow(QWidget* parent)
     m_contents->setAccessibleName(QStringLiteral("Contents"));
     m_contents->setHeaderHidden(true);
     connect(m_contents, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item, QTreeWidgetItem* before) {
-        if (before) // the tree's first look at the focus makes its first entry current: nobody asked for that
+        if (before) // when the tree first gets the focus it makes its first entry current, which is no choice of the
+                    // person
             goTo(item);
     });
     connect(m_contents, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { goTo(item); });
@@ -154,7 +155,7 @@ void HelpWindow::setHelp(const QByteArray& html)
 
 void HelpWindow::showTopic(const QString& topic) { m_text->showTopic(topic); }
 
-void HelpWindow::forgetWay() { m_text->clearHistory(); }
+void HelpWindow::clearHistory() { m_text->clearHistory(); }
 
 void HelpWindow::fillContents()
 {

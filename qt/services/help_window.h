@@ -14,7 +14,7 @@ class QTreeWidgetItem;
 
 namespace tallyhoop::qt {
 
-/// Shows one document from memory, so that its links and the way back work without further files.
+/// Shows one document from memory, so that its links and going back work without further files.
 class HelpText : public QTextBrowser
 {
     Q_OBJECT
@@ -44,7 +44,7 @@ public:
     /// @param html UTF-8
     void setHelp(const QByteArray& html);
     void showTopic(const QString& topic);
-    void forgetWay(); ///< of what was read before: Back then has nowhere to go
+    void clearHistory(); ///< so that Back does not lead to what was read before
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;

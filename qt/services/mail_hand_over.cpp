@@ -1,4 +1,4 @@
-// qt/services/mail_hand_over.cpp - which client, and how it is started.
+// qt/services/mail_hand_over.cpp - chooses the mail client and starts it.
 #include "qt/services/mail_hand_over.h"
 
 #include "base/windows1252.h"
@@ -79,7 +79,7 @@ std::optional<Failure> missingFile(const OutgoingMail& mail)
     return std::nullopt;
 }
 
-/// What the person can do by hand.
+/// What the person can do instead.
 Failure byHand(const Failure& reason, const OutgoingMail& mail)
 {
     std::string text = "The message could not be handed to a mail program.\r\n" + reason.message;
@@ -158,7 +158,7 @@ std::optional<Failure> MailHandOver::openMessageFile(const OutgoingMail& mail) c
     if (opener == "xdg-open")
         return start("xdg-open", {file});
 
-    // This one opens the file and ends at once, and it tells when nothing on this computer can.
+    // This one opens the file and ends at once; its exit code says whether any program could open it.
     QProcess process;
     process.start(installed("gio"), asQt({"open", file}), QIODevice::NotOpen);
     if (!process.waitForFinished(kAnswerMilliseconds))

@@ -24,15 +24,15 @@ enum class MailRoute {
 /// @param hasThunderbird whether it can be started
 /// @param hasXdgEmail    the same for xdg-email
 /// @returns the ways to try, in this order. With a web browser as handler xdg-email would open a page and drop the
-///          attachments, so that goes straight to the message file
+///          attachments, so only the message file is tried
 std::vector<MailRoute> mailRoutes(const std::string& handler, bool hasThunderbird, bool hasXdgEmail);
 
-/// Attachments are handed over for certain, or the person is told where they are: mail programs that would drop them
-/// without a word (a plain mailto address, the desktop portal) are not used.
+/// Attachments are always handed over, or the person is told where they are: ways that may drop them silently (a plain
+/// mailto address, the desktop portal) are not used.
 class MailHandOver : public ui::Mail
 {
 public:
-    /// @param folder where the message file is written when it comes to that
+    /// @param folder where the message file is written, if that way is used
     explicit MailHandOver(DataFolder folder);
 
     bool isOpen() const override { return m_open; }

@@ -1,4 +1,4 @@
-// qt/services/message_file.cpp - a draft made with gmime.
+// qt/services/message_file.cpp - makes a draft with gmime.
 #include "qt/services/message_file.h"
 
 #include "files/replace_file.h"
@@ -40,7 +40,7 @@ bool isAscii(std::string_view text)
                                   "abcdefghijklmnopqrstuvwxyz{|}~") == std::string_view::npos;
 }
 
-/// @returns whether a header holds the text as it is: no blank that a reader would drop, nothing it would decode
+/// @returns whether a header can hold the text as it is: no blank that a reader would drop, nothing it would decode
 bool isPlainHeader(std::string_view text)
 {
     return isAscii(text) && text.find("=?") == std::string_view::npos && !text.starts_with(' ') && !text.ends_with(' ');
@@ -77,8 +77,8 @@ void setSubject(GMimeMessage* message, const std::string& subject)
     g_mime_message_set_subject(message, subject.c_str(), kCharset);
     if (isPlainHeader(subject))
         return;
-    // The library would choose between two encodings by length, and leave alone what looks encoded already; receivers
-    // know this one best.
+    // Not the library's own encoding: it chooses between two by length, and leaves text unchanged that looks encoded
+    // already. This encoding is the one that receivers support best.
     GMimeHeaderList* headers = g_mime_object_get_header_list(GMIME_OBJECT(message));
     g_mime_header_set_raw_value(g_mime_header_list_get_header(headers, "Subject"),
                                 (" " + encodedWords(subject) + "\n").c_str());
@@ -159,7 +159,7 @@ std::string messageFile(const OutgoingMail& mail, std::span<const AttachedText> 
         addRecipient(g_mime_message_get_addresses(message.get(), GMIME_ADDRESS_TYPE_TO), recipient);
     setSubject(message.get(), mail.subject);
 
-    // Base64 for the text too: no line of it can look like a boundary, and no client changes it on the way.
+    // Base64 for the text too: no line of it can look like a boundary, and no client changes it in transit.
     const Owned<GMimeMultipart> multipart{g_mime_multipart_new_with_subtype("mixed")};
     g_mime_multipart_add(multipart.get(), GMIME_OBJECT(textPart(mail.body, "utf-8").get()));
     for (const AttachedText& attachment : attachments)

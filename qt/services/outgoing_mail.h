@@ -1,5 +1,5 @@
-// qt/services/outgoing_mail.h - a message as mail clients of a desktop take it, and the arguments that tell it to
-// them.
+// qt/services/outgoing_mail.h - a message in the form that mail clients of a desktop take, and the arguments that pass
+// it to them.
 //
 // Everything here is UTF-8. No shell is ever involved: an argument is one element of the list, quoted only for the
 // client that parses it.
@@ -14,7 +14,7 @@
 
 namespace tallyhoop::qt {
 
-/// A message without positions: attachments follow the text.
+/// A message in which all attachments follow the text.
 struct OutgoingMail {
     std::vector<std::string> recipients; ///< UTF-8, no control characters
     std::string subject;                 ///< UTF-8, no control characters

@@ -18,16 +18,16 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr qsizetype kMessageEnd = 200; ///< a path fits as a rule
-constexpr qsizetype kPromptEnd = 40;   ///< an input box does not break words
+constexpr qsizetype kMessageEnd = 200; ///< enough for most paths
+constexpr qsizetype kPromptEnd = 40;   ///< less, as an input box does not break words
 
 QString captionOf(const std::string& caption)
 {
     return caption.empty() ? QStringLiteral("Tallyhoop") : titleText(toQString(caption));
 }
 
-/// A text that fits a display, whatever names are in it: of a line that is far too long the middle is left out.
-/// @param end how many characters stay at either end of it
+/// @returns a text that fits a display, whatever names are in it: a line that is far too long loses its middle
+/// @param end how many characters are kept at either end of such a line
 QString shownText(const std::string& text, qsizetype end)
 {
     QStringList lines = toLines(text).split(QLatin1Char{'\n'});
@@ -128,7 +128,7 @@ ui::Answer QtDialogs::show(const ui::Message& message)
     return answerOf(box.exec());
 }
 
-/// A message that sends people to the help lets them read it at once.
+/// F1 opens the help while the message is shown.
 void QtDialogs::offerHelp(QMessageBox& box, const std::string& topic)
 {
     auto* key = new QShortcut{QKeySequence{Qt::Key_F1}, &box};

@@ -1,4 +1,4 @@
-// qt/services/qt_dialogs.h - message boxes, input boxes and file dialogs of Qt's own, plain text throughout.
+// qt/services/qt_dialogs.h - message boxes, input boxes and file dialogs made with Qt, all in plain text.
 #pragma once
 
 #include "qt/desk.h"

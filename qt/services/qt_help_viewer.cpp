@@ -22,7 +22,7 @@ Result<Done> QtHelpViewer::show(const std::filesystem::path& helpFile, const std
     if (std::ranges::all_of(*html, [](char c) { return c == ' ' || c == '\r' || c == '\n' || c == '\t'; }))
         return Failure{fromQString(fromPath(helpFile)) + " is empty."};
 
-    // A modal dialog blocks every window but its own: asked for from there, the help must be one of them.
+    // A modal dialog blocks every window but its children: opened from there, the help must be one of them.
     QWidget* modal = QApplication::activeModalWidget();
     QWidget* owner = modal ? modal : m_frame.data();
     if (m_window && m_window->parentWidget() != owner) {
@@ -38,10 +38,10 @@ Result<Done> QtHelpViewer::show(const std::filesystem::path& helpFile, const std
     m_window->show();
     m_window->raise();
     m_window->activateWindow();
-    // After it is shown: a place in the text is known only when the text has its width.
+    // After it is shown: positions in the text are known only when the text has its width.
     m_window->showTopic(toQString(topic));
     if (first)
-        m_window->forgetWay();
+        m_window->clearHistory();
     return Done{};
 }
 

@@ -26,7 +26,7 @@ namespace {
 constexpr int kTwipsPerInch = 1440;
 constexpr const char* kReportFont = "Courier New";
 
-// Faces with exactly its widths: fontconfig hands them out under its name.
+// Fonts with exactly its widths, which fontconfig substitutes for it.
 bool reportFontIsThere()
 {
     const QString resolved = QFontInfo{QFont{QLatin1String{kReportFont}, 10}}.family();
@@ -99,14 +99,14 @@ Result<Done> QtPrinter::printOut(const Printout& printout)
 {
     QPrinter& device = printer();
     device.setDocName(toQString(printout.title));
-    // The dialog may have come back with another one.
+    // The dialog may have changed the orientation.
     device.setPageOrientation(toQt(printout.orientation));
     if (device.outputFormat() == QPrinter::PdfFormat) {
-        // Without any printer Qt turns to PDF of its own accord, and to nowhere.
+        // Without any printer Qt switches to PDF by itself, without a file name.
         if (device.outputFileName().isEmpty())
             return Failure{"No printer is installed."};
         Result<Done> written = writePdf(printout, toPath(device.outputFileName()));
-        device.setOutputFileName({}); // back to the printer: the next printout must not replace this file unasked
+        device.setOutputFileName({}); // back to the printer: the next printout must not replace this file
         return written;
     }
     if (!paintPages(device, printout) || device.printerState() == QPrinter::Error)
@@ -137,9 +137,9 @@ void QtPrinter::showPreview(const Printout& printout)
     dialog.setWindowTitle(QStringLiteral("Preview - ") + titleText(toQString(printout.title)));
     const auto actions = dialog.findChildren<QAction*>();
     for (QAction* action : actions)
-        if (action->text() == QLatin1String{"Print"}) // it would print past our checks
+        if (action->text() == QLatin1String{"Print"}) // it would print without our checks
             action->setVisible(false);
-    // Qt leaves its page number and its zoom without a name.
+    // Qt gives its page number and its zoom no accessible name.
     for (QLineEdit* number : dialog.findChildren<QLineEdit*>())
         number->setAccessibleName(QStringLiteral("Page"));
     for (QComboBox* zoom : dialog.findChildren<QComboBox*>())

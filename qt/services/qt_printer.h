@@ -19,7 +19,7 @@ public:
     QtPrinter(const QtPrinter&) = delete;
     QtPrinter& operator=(const QtPrinter&) = delete;
 
-    /// The installed families, and "Courier New" when that name resolves to a face of its widths.
+    /// The installed families, and "Courier New" when that name resolves to a font of its widths.
     std::vector<std::string> fontNames() override;
     bool choosePrinter() override;
     std::optional<ui::PrinterFont> chooseFont() override;

@@ -16,9 +16,9 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr qint64 kRefresh = 50; ///< milliseconds between two looks at it
+constexpr qint64 kRefresh = 50; ///< milliseconds between two updates of the progress window
 
-/// A program that is left to itself when nobody looks after it any more.
+/// A program that keeps running when this object is destroyed.
 class Started : public QProcess
 {
 public:
@@ -55,7 +55,7 @@ Result<Done> QtPrograms::start(const std::filesystem::path& program)
 {
     if (auto ready = check(program); !ready)
         return ready;
-    // An absolute path: the system must not look for it anywhere else.
+    // An absolute path: the system must not search for it anywhere else.
     const QFileInfo file{fromPath(program)};
     m_started = std::make_unique<Started>();
     m_started->setProgram(file.absoluteFilePath());
@@ -96,7 +96,7 @@ std::chrono::year_month_day QtClock::today() const
 
 std::chrono::local_seconds QtClock::now() const
 {
-    const QDateTime moment = QDateTime::currentDateTime(); // asked once: midnight must not come in between
+    const QDateTime moment = QDateTime::currentDateTime(); // read once, because midnight may pass between two calls
     const QDate date = moment.date();
     const std::chrono::year_month_day day{std::chrono::year{date.year()},
                                           std::chrono::month{static_cast<unsigned>(date.month())},

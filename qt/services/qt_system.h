@@ -42,7 +42,7 @@ public:
     void put(const std::string& text) override;
 };
 
-/// A busy pointer from the start; after half a second a window with a bar and a Cancel button.
+/// Shows a busy pointer at once, and after half a second a window with a bar and a Cancel button.
 class QtProgress : public ui::Progress
 {
 public:

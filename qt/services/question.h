@@ -1,5 +1,5 @@
-// qt/services/question.h - what stands around every modal dialog: screens shown as they are, commands dropped, an
-// ordinary pointer.
+// qt/services/question.h - guards a modal dialog: before it screens show their latest state; while it is open, commands
+// are dropped and the pointer is the ordinary one.
 #pragma once
 
 #include "qt/desk.h"

@@ -6,7 +6,7 @@
 #include <system_error>
 #include <vector>
 #include <windows.h>
-// The line keeps the order: the next header needs the one above.
+// The comment keeps the order of the includes: the next header needs the one above.
 #include <mapi.h>
 
 namespace tallyhoop::qt {
@@ -58,7 +58,7 @@ Failure failureOf(ULONG code)
     }
 }
 
-/// A message as the client takes it; the pointers lead into the texts beside them.
+/// A message in the client's form; its pointers refer to the texts that it holds.
 struct ClientMessage {
     std::vector<std::string> names, addresses, paths, fileNames;
     std::string subject, body;

@@ -21,7 +21,7 @@ public:
     bool isOpen() const override { return m_session != 0; }
     Result<Done> signOn() override;
 
-    /// Waits until the client's window is closed. That the person closed it without sending is no failure.
+    /// Waits until the client's window is closed. Closing it without sending is no failure.
     Result<Done> send(const ui::MailMessage& message) override;
     void signOff() override;
 

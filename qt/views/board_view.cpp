@@ -17,7 +17,7 @@ constexpr int kPointsWidth = 90;
 constexpr int kScoreWidth = 170;
 constexpr int kStripHeight = 92;
 
-/// A field under its name.
+/// @returns a field with its name above it
 QVBoxLayout* named(QWidget* name, QWidget* field, int width)
 {
     QVBoxLayout* column = look::column(look::kTight);
@@ -41,10 +41,10 @@ BoardView::BoardView(BoardScreen& board, Desk& desk) : Page{board, desk}, m_boar
     whole->setContentsMargins(0, 0, 0, 0);
 }
 
-/// The canvas keeps the presses on the bracket; what comes here was made on the form itself.
+/// The canvas handles the presses on the bracket; those that arrive here were made beside it.
 void BoardView::mousePressEvent(QMouseEvent*)
 {
-    run([this] { m_board.PressBackground(); });
+    run([this] { m_board.pressBackground(); });
 }
 
 QWidget* BoardView::makeStrip(BoardScreen& board)

@@ -1,4 +1,4 @@
-// qt/views/board_view.h - the bracket board: the bracket above, the strip with the player's fields below.
+// qt/views/board_view.h - the page of the bracket board: the bracket above, the strip with the player's fields below.
 #pragma once
 
 #include "qt/page.h"

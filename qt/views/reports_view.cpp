@@ -1,4 +1,4 @@
-// qt/views/reports_view.cpp - reports and their destination above, printouts of the board below, the way out last.
+// qt/views/reports_view.cpp - reports and their destination above, printouts of the board below, the exit button last.
 #include "qt/views/reports_view.h"
 
 #include "qt/look.h"
@@ -9,7 +9,7 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kWidest = 960; ///< wider lines would tear apart what belongs together
+constexpr int kWidest = 960; ///< in wider lines, what belongs together would be too far apart
 constexpr int kFileRows = 7;
 constexpr int kFileCharacters = 34;
 

@@ -1,4 +1,4 @@
-// qt/views/reports_view.h - the reports screen as the person sees it.
+// qt/views/reports_view.h - the page of the reports screen.
 #pragma once
 
 #include "qt/page.h"

@@ -1,4 +1,4 @@
-// qt/views/score_display_view.h - the score display's window: the table above its commands.
+// qt/views/score_display_view.h - the page of the score display: the table above its commands.
 #pragma once
 
 #include "qt/page.h"

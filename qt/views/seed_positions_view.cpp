@@ -16,18 +16,18 @@ constexpr int kTeamWidth = 200; ///< for most team names
 
 } // namespace
 
-SeedPositionsView::SeedPositionsView(SeedsScreen& seats, Desk& desk) : Page{seats, desk}
+SeedPositionsView::SeedPositionsView(SeedsScreen& seeds, Desk& desk) : Page{seeds, desk}
 {
     auto* rows = new QGridLayout;
     rows->setHorizontalSpacing(look::kGap);
     rows->setVerticalSpacing(2);
-    for (std::size_t i = 0; i < seats.txtSeed.size(); ++i) {
+    for (std::size_t i = 0; i < seeds.txtSeed.size(); ++i) {
         const int row = static_cast<int>(i);
-        QWidget* seed = add(seats.txtSeed[i]);
+        QWidget* seed = add(seeds.txtSeed[i]);
         seed->setFixedWidth(kSeedBox);
-        QLabel* team = add(seats.lblRegion[i]);
+        QLabel* team = add(seeds.lblRegion[i]);
         team->setMinimumWidth(kTeamWidth);
-        // An empty line behind every first-round pairing.
+        // An empty line after every first-round pairing.
         rows->addWidget(seed, row + row / 2, 0);
         rows->addWidget(team, row + row / 2, 1);
         if (row % 2 == 1)
@@ -37,8 +37,8 @@ SeedPositionsView::SeedPositionsView(SeedsScreen& seats, Desk& desk) : Page{seat
 
     auto* buttons = look::row();
     buttons->addStretch(1);
-    buttons->addWidget(add(seats.cmdComplete));
-    buttons->addWidget(add(seats.cmdCancel));
+    buttons->addWidget(add(seeds.cmdComplete));
+    buttons->addWidget(add(seeds.cmdCancel));
 
     auto* content = look::column();
     content->addWidget(look::hint(tr("The seeds hold for the rows of all four regions.")));

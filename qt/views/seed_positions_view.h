@@ -9,7 +9,7 @@ namespace tallyhoop::qt {
 class SeedPositionsView : public Page
 {
 public:
-    SeedPositionsView(SeedsScreen& seats, Desk& desk);
+    SeedPositionsView(SeedsScreen& seeds, Desk& desk);
 };
 
 } // namespace tallyhoop::qt

@@ -22,7 +22,7 @@ constexpr int kListWidth = 250;
 constexpr int kTeamWidth = 100;      ///< where it gets narrower, the page scrolls
 constexpr int kCommentHeight = 44;   ///< at least two lines
 constexpr int kLargestComment = 110; ///< what is left over is better used by the regions
-constexpr int kHeadLines = 2;        ///< of a region's grid: its title and a gap
+constexpr int kHeaderLines = 2;      ///< of a region's grid: its title and a gap
 constexpr int kPairGap = 4;          ///< between first-round pairings, in pixels; within one there is none
 
 QFrame* panel(QLayout* content)
@@ -34,11 +34,11 @@ QFrame* panel(QLayout* content)
     return frame;
 }
 
-/// Spreads the runs of blanks between the six digits so that each stands over its box.
-/// @returns by how much the boxes have to be moved to the right to stand under the digits
+/// Spreads the runs of blanks between the six digits so that each is over its box.
+/// @returns by how much the boxes have to be moved to the right to be under the digits
 int spreadOver(QLabel& header, int boxWidth, int pitch)
 {
-    constexpr int kBlanks = 30; // between the first digit and the last, in five runs behind a first run of two
+    constexpr int kBlanks = 30; // between the first digit and the last, in five runs after a first run of two
     constexpr int kRuns = 5;
     const QFontMetricsF metrics{header.font()};
     const double blank = metrics.horizontalAdvance(QLatin1Char{' '});
@@ -86,18 +86,18 @@ QWidget* SetupView::region(std::size_t region)
     grid->setHorizontalSpacing(look::kTight);
     grid->setVerticalSpacing(0);
 
-    auto* head = look::row();
-    head->addWidget(look::hint(tr("Region %1").arg(region + 1)));
+    auto* header = look::row();
+    header->addWidget(look::hint(tr("Region %1").arg(region + 1)));
     QWidget* title = add(m_setup.TxtInfo[region + 1]);
     title->setFont(look::boldFont());
-    head->addWidget(title, 1);
-    grid->addLayout(head, 0, 0, 1, 5);
-    grid->setRowMinimumHeight(kHeadLines - 1, kPairGap);
+    header->addWidget(title, 1);
+    grid->addLayout(header, 0, 0, 1, 5);
+    grid->setRowMinimumHeight(kHeaderLines - 1, kPairGap);
 
     for (int row = 0; row < kRowsPerRegion; ++row) {
         const auto index = region * kRowsPerRegion + static_cast<std::size_t>(row);
         const int line = row % kHalf;
-        const int place = kHeadLines + 2 * line; // with an empty line behind each
+        const int place = kHeaderLines + 2 * line; // with an empty line after each
         const int column = row < kHalf ? 0 : 3;
         QLabel* seed = add(m_setup.lblSeed[index]);
         seed->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -107,7 +107,7 @@ QWidget* SetupView::region(std::size_t region)
         grid->addWidget(team, place, column + 1);
         if (line + 1 == kHalf)
             continue;
-        // Pairings stand apart, the more the more room there is.
+        // Pairings are apart, the more the more room there is.
         const bool betweenPairings = line % 2 == 1;
         grid->setRowMinimumHeight(place + 1, betweenPairings ? kPairGap : 0);
         grid->setRowStretch(place + 1, betweenPairings ? 2 : 1);

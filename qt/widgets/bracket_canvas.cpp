@@ -1,5 +1,6 @@
 #include "qt/widgets/bracket_canvas.h"
 
+#include "pool/moves.h"
 #include "qt/look.h"
 #include "qt/paint_drawing.h"
 #include "qt/text.h"
@@ -19,23 +20,24 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr double kSmallestText = 8;
-constexpr int kLineEditMargin = 2;    ///< what Qt keeps free at either side of a line of text
-constexpr double kShrinkFloor = 0.86; ///< names that would need even smaller letters are cut instead
-constexpr ui::Colour kTeamColour{0, 0, 255};
+constexpr int kLineEditMargin = 2;       ///< what Qt keeps free at either side of a line of text
+constexpr double kSmallestShrink = 0.86; ///< names that would need even smaller letters are cut instead
 
-/// Rounds the edges, so that neighbours that touch still touch: a place and its marker are one box for the eye.
+/// Rounds the edges, so that neighbours that touch still touch: a place and its marker look like one box.
 QRect toQRect(const ui::Rectangle& place)
 {
     const auto edge = [](double value) { return static_cast<int>(std::lround(value)); };
     const QPoint topLeft{edge(place.x), edge(place.y)};
-    const QPoint behind{edge(place.x + place.width), edge(place.y + place.height)};
-    return {topLeft, behind - QPoint{1, 1}};
+    const QPoint beyond{edge(place.x + place.width), edge(place.y + place.height)};
+    return {topLeft, beyond - QPoint{1, 1}};
 }
 
 std::function<void(const ui::Label&)> showOn(SlotLabel* widget)
 {
     return [widget](const ui::Label& label) {
-        widget->show(toQString(label.text), look::toQColor(label.colour.value_or(kTeamColour)));
+        const PickMark unmarked = markOf(Verdict::None);
+        widget->show(toQString(label.text), look::toQColor(label.colour.value_or(unmarked.colour)),
+                     look::toQColor(label.background.value_or(unmarked.background)));
     };
 }
 
@@ -45,7 +47,7 @@ BracketCanvas::BracketCanvas(BoardScreen& board, Page& page) : m_board{board}, m
 {
     setObjectName("bracketCanvas");
     setMouseTracking(true);
-    makeHeads();
+    makeHeaders();
     makeSeeds();
     makePlaces();
     makeMarkers();
@@ -67,14 +69,7 @@ QLabel* BracketCanvas::placed(ui::Label& label, Qt::Alignment alignment)
     return m_page.adopt(label, widget, [widget](const ui::Label& shown) { widget->setText(toQString(shown.text)); });
 }
 
-ui::Label& BracketCanvas::pointsOf(std::size_t caption)
-{
-    if (caption < 4)
-        return m_board.lblInfo[caption];
-    return caption < 8 ? m_board.lblInfoRight[caption - 4] : m_board.lblInfo[caption - 4];
-}
-
-void BracketCanvas::makeHeads()
+void BracketCanvas::makeHeaders()
 {
     m_title = placed(m_board.lblTitle, Qt::AlignCenter);
     m_demoMode = placed(m_board.lblDemoMode, Qt::AlignVCenter | Qt::AlignLeft);
@@ -83,7 +78,7 @@ void BracketCanvas::makeHeads()
         m_regionTitles[i] = placed(m_board.lblRegionTitle[i], Qt::AlignCenter);
     for (std::size_t i = 0; i < kRoundCaptions; ++i) {
         m_roundNames[i] = placed(m_board.lblRoundName[i], Qt::AlignVCenter | Qt::AlignRight);
-        m_roundPoints[i] = placed(pointsOf(i), Qt::AlignVCenter | Qt::AlignLeft);
+        m_roundPoints[i] = placed(m_board.pointsLabel(i), Qt::AlignVCenter | Qt::AlignLeft);
         m_roundPoints[i]->setIndent(look::kTight);
     }
     // Lines run through the middle: these captions interrupt them.
@@ -93,44 +88,46 @@ void BracketCanvas::makeHeads()
 
 void BracketCanvas::makeSeeds()
 {
-    QPalette throughToTheBoard; // a style sheet for each of them would be felt at the start
+    QPalette throughToTheBoard; // a style sheet for each box would slow the start
     throughToTheBoard.setColor(QPalette::Base, Qt::transparent);
-    for (std::size_t i = 0; i < m_seeds.size(); ++i) {
-        auto* const seed = qobject_cast<QLineEdit*>(m_page.add(m_board.txtSeed[i]));
+    for (const TeamRow row : allTeamRows()) {
+        auto* const seed = qobject_cast<QLineEdit*>(m_page.add(m_board.txtSeed[row]));
         seed->setParent(this);
         seed->setFrame(false);
         seed->setTextMargins(-kLineEditMargin, 0, -kLineEditMargin, 0); // two digits need all of the narrowest place
         seed->setMinimumSize(0, 0);
-        seed->setAlignment(i < kTeams / 2 ? Qt::AlignRight : Qt::AlignLeft);
+        seed->setAlignment(regionOf(row) < kRegions / 2 ? Qt::AlignRight : Qt::AlignLeft);
         seed->setFocusPolicy(Qt::NoFocus);
         seed->setAttribute(Qt::WA_TransparentForMouseEvents);
         seed->setPalette(throughToTheBoard);
-        m_seeds[i] = seed;
+        m_seeds[row] = seed;
     }
 }
 
 void BracketCanvas::makePlaces()
 {
-    for (std::size_t i = 0; i < m_places.size(); ++i) {
-        const bool row = isFirstRound(Position{static_cast<int>(i)});
-        auto* const place = new SlotLabel{row ? SlotLabel::Part::Row : SlotLabel::Part::Winner, this};
-        m_page.adopt(m_board.lblRegion[i], place, showOn(place));
-        connect(place, &QAbstractButton::clicked, this, [this, i] {
-            m_page.run([this, i] {
-                m_board.PressPosition(static_cast<int>(i), MouseButton::Left);
-                m_board.DropOnPosition(static_cast<int>(i));
+    for (const Position position : allPositions()) {
+        const bool isRow = isFirstRound(position);
+        auto* const place = new SlotLabel{isRow ? SlotLabel::Part::Row : SlotLabel::Part::Winner, this};
+        m_page.adopt(m_board.lblRegion[position], place, showOn(place));
+        connect(place, &QAbstractButton::clicked, this, [this, position] {
+            m_page.run([this, position] {
+                m_board.pressPosition(position, MouseButton::Left);
+                m_board.dropOnPosition(position);
             });
         });
-        m_places[i] = place;
+        m_places[position] = place;
     }
 }
 
 void BracketCanvas::makeMarkers()
 {
-    for (std::size_t i = 0; i < m_markers.size(); ++i) {
-        m_markers[i] = new SlotLabel{SlotLabel::Part::Marker, this};
-        m_page.adopt(m_board.lblResult[i], m_markers[i], showOn(m_markers[i]));
-        m_markers[i]->setFocusPolicy(Qt::NoFocus);
+    for (const Position position : gamePositions()) {
+        const Game game = *gameOf(position);
+        auto* const marker = new SlotLabel{SlotLabel::Part::Marker, this};
+        m_page.adopt(m_board.lblResult[game], marker, showOn(marker));
+        marker->setFocusPolicy(Qt::NoFocus);
+        m_markers[game] = marker;
     }
 }
 
@@ -153,9 +150,9 @@ void BracketCanvas::layOut()
     place(m_regionTitles, m_geometry.regionTitles);
     place(m_roundNames, m_geometry.roundCaptions);
     place(m_roundPoints, m_geometry.roundPoints);
-    place(m_seeds, m_geometry.seeds);
-    place(m_places, m_geometry.positions);
-    place(m_markers, m_geometry.results);
+    place(m_seeds.values, m_geometry.seeds.values);
+    place(m_places.values, m_geometry.positions.values);
+    place(m_markers.values, m_geometry.results.values);
     chooseFonts();
 }
 
@@ -167,11 +164,10 @@ double BracketCanvas::fittingSize() const
     trial.setPixelSize(static_cast<int>(size));
     const QFontMetricsF metrics{trial};
     double widest = 1;
-    for (std::size_t i = 0; i < m_places.size(); ++i)
-        if (isFirstRound(Position{static_cast<int>(i)}))
-            widest = std::max(widest, metrics.horizontalAdvance(toQString(m_board.lblRegion[i].text)));
-    const double room = m_geometry.positions[0].width - 6;
-    return std::max({kSmallestText, size * kShrinkFloor, std::min(size, size * room / widest)});
+    for (const TeamRow row : allTeamRows())
+        widest = std::max(widest, metrics.horizontalAdvance(toQString(m_board.lblRegion[positionOf(row)].text)));
+    const double room = m_geometry.positions[positionOf(allTeamRows().front())].width - 6;
+    return std::max({kSmallestText, size * kSmallestShrink, std::min(size, size * room / widest)});
 }
 
 void BracketCanvas::chooseFonts()
@@ -187,10 +183,10 @@ void BracketCanvas::chooseFonts()
         for (QWidget* widget : widgets)
             widget->setFont(scaled);
     };
-    use(m_places, letters(1, false));
+    use(m_places.values, letters(1, false));
     m_places[kChampion]->setFont(letters(1.3, true));
-    use(m_markers, letters(1, true));
-    use(m_seeds, letters(0.9, false));
+    use(m_markers.values, letters(1, true));
+    use(m_seeds.values, letters(0.9, false));
     use(m_roundNames, letters(0.9, false));
     use(m_roundPoints, letters(0.9, true));
     use(m_regionTitles, letters(1.3, true));
@@ -201,23 +197,23 @@ void BracketCanvas::chooseFonts()
 
 void BracketCanvas::paintEvent(QPaintEvent*)
 {
-    const QColor ink = palette().color(QPalette::Mid);
+    const QColor grey = palette().color(QPalette::Mid);
     const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
     ui::Drawing lines;
     lines.width = width();
     lines.height = height();
     lines.strokes = m_geometry.connectors;
     for (ui::Stroke& line : lines.strokes)
-        line.colour = {part(ink.red()), part(ink.green()), part(ink.blue())};
+        line.colour = {part(grey.red()), part(grey.green()), part(grey.blue())};
     QPainter painter{this};
     paintDrawing(painter, lines);
 }
 
-int BracketCanvas::positionAt(const QPoint& point) const
+std::optional<Position> BracketCanvas::positionAt(const QPoint& point) const
 {
-    const auto at =
-        std::ranges::find_if(m_places, [&](const SlotLabel* place) { return place->geometry().contains(point); });
-    return at == m_places.end() ? -1 : static_cast<int>(at - m_places.begin());
+    const auto at = std::ranges::find_if(
+        allPositions(), [&](Position position) { return m_places[position]->geometry().contains(point); });
+    return at == allPositions().end() ? std::nullopt : std::optional{*at};
 }
 
 // Labels ignore the mouse, so every press on the bracket comes here, whether its label is enabled or not.
@@ -225,13 +221,13 @@ void BracketCanvas::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton && event->button() != Qt::RightButton)
         return;
-    const int position = positionAt(event->pos());
-    if (position < 0) {
-        m_page.run([this] { m_board.PressBackground(); });
+    const std::optional<Position> position = positionAt(event->pos());
+    if (!position) {
+        m_page.run([this] { m_board.pressBackground(); });
         return;
     }
     const MouseButton button = event->button() == Qt::LeftButton ? MouseButton::Left : MouseButton::Right;
-    m_page.run([this, position, button] { m_board.PressPosition(position, button); });
+    m_page.run([this, position, button] { m_board.pressPosition(*position, button); });
     m_dragged->hide(); // a right press in the middle of a drag ends it
     m_pressed = m_board.isDragging();
     m_pressedAt = event->pos();
@@ -250,8 +246,8 @@ void BracketCanvas::mouseMoveEvent(QMouseEvent* event)
 
 void BracketCanvas::showDrag(const QPoint& point)
 {
-    m_dragged->setText(toQString(m_board.draggedTeam()));
-    m_dragged->setFont(m_places[0]->font());
+    m_dragged->setText(m_board.isDragging() ? toQString(m_board.draggedTeam()) : QString{});
+    m_dragged->setFont(m_places[allPositions().front()]->font());
     m_dragged->adjustSize();
     m_dragged->move(point + QPoint{10, 6});
     m_dragged->setVisible(!m_dragged->text().isEmpty());
@@ -265,16 +261,16 @@ void BracketCanvas::mouseReleaseEvent(QMouseEvent* event)
         return;
     m_pressed = false;
     m_dragged->hide();
-    const int position = positionAt(event->pos());
+    const std::optional<Position> position = positionAt(event->pos());
     m_page.run([this, position] {
-        if (position < 0)
-            m_board.cancelDrag();
+        if (position)
+            m_board.dropOnPosition(*position);
         else
-            m_board.DropOnPosition(position);
+            m_board.cancelDrag();
     });
 }
 
-/// A box that opened in the middle of a drag got the release in our place.
+/// A box that opened in the middle of a drag received the release of the button instead of the canvas.
 void BracketCanvas::loseDrag()
 {
     m_pressed = false;
@@ -282,9 +278,9 @@ void BracketCanvas::loseDrag()
     m_page.run([this] { m_board.cancelDrag(); });
 }
 
-void BracketCanvas::leaveEvent(QEvent*) { hover(-1); }
+void BracketCanvas::leaveEvent(QEvent*) { hover(std::nullopt); }
 
-void BracketCanvas::hover(int position)
+void BracketCanvas::hover(std::optional<Position> position)
 {
     if (position == m_hovered)
         return;
@@ -292,28 +288,30 @@ void BracketCanvas::hover(int position)
     emphasise();
 }
 
-int BracketCanvas::reachedByKeys() const
+std::optional<Position> BracketCanvas::reachedByKeys() const
 {
-    const auto at = std::ranges::find_if(m_places, [](const SlotLabel* place) { return place->isReachedByKeys(); });
-    return at == m_places.end() ? -1 : static_cast<int>(at - m_places.begin());
+    const auto at = std::ranges::find_if(allPositions(),
+                                         [this](Position position) { return m_places[position]->isReachedByKeys(); });
+    return at == allPositions().end() ? std::nullopt : std::optional{*at};
 }
 
-/// A drag shows where it may land; otherwise the pointer, or the focus, shows how far the team there has come.
+/// Emphasises the places where a dragged team may be dropped; otherwise the path of the team under the pointer or with
+/// the focus.
 void BracketCanvas::emphasise()
 {
     using Emphasis = SlotLabel::Emphasis;
     const bool dragging = m_dragged->isVisible() && m_board.isDragging();
-    const int shown = m_hovered < 0 ? reachedByKeys() : m_hovered;
-    const std::vector<int> path = dragging || shown < 0 ? std::vector<int>{} : m_board.pathOf(shown);
-    for (int position = 0; position < kPositions; ++position) {
+    const std::optional<Position> shown = m_hovered ? m_hovered : reachedByKeys();
+    const std::vector<Position> path = dragging || !shown ? std::vector<Position>{} : pathOf(m_board.bracket(), *shown);
+    for (const Position position : allPositions()) {
         Emphasis emphasis = Emphasis::None;
         if (dragging && m_board.mayDropOn(position))
             emphasis = Emphasis::MayLand;
         else if (std::ranges::find(path, position) != path.end())
             emphasis = Emphasis::OnPath;
-        m_places[static_cast<std::size_t>(position)]->setEmphasis(emphasis);
-        if (const int game = gameOf(Position{position}); game >= 0)
-            m_markers[static_cast<std::size_t>(game)]->setEmphasis(emphasis);
+        m_places[position]->setEmphasis(emphasis);
+        if (const std::optional<Game> game = gameOf(position))
+            m_markers[*game]->setEmphasis(emphasis);
     }
 }
 

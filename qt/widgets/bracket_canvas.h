@@ -1,5 +1,5 @@
-// qt/widgets/bracket_canvas.h - the bracket on screen: labels where the geometry says, connectors behind them, and
-// the mouse reported to the board.
+// qt/widgets/bracket_canvas.h - the bracket on screen: labels where the geometry says, connectors below them, and the
+// mouse reported to the board.
 #pragma once
 
 #include "qt/page.h"
@@ -9,6 +9,7 @@
 #include <QLabel>
 #include <QWidget>
 #include <array>
+#include <optional>
 
 namespace tallyhoop::qt {
 
@@ -32,20 +33,19 @@ protected:
     void leaveEvent(QEvent* event) override;
 
 private:
-    void makeHeads();
+    void makeHeaders();
     void makeSeeds();
     void makePlaces();
     void makeMarkers();
     QLabel* placed(ui::Label& label, Qt::Alignment alignment);
-    ui::Label& pointsOf(std::size_t caption);
     void layOut();
     void chooseFonts();
     double fittingSize() const;
-    int positionAt(const QPoint& point) const;
-    void hover(int position);
+    std::optional<Position> positionAt(const QPoint& point) const;
+    void hover(std::optional<Position> position);
     void showDrag(const QPoint& point);
     void loseDrag();
-    int reachedByKeys() const;
+    std::optional<Position> reachedByKeys() const;
     void emphasise();
 
     BoardScreen& m_board;
@@ -59,13 +59,13 @@ private:
     std::array<QLabel*, kRegions> m_regionTitles{};
     std::array<QLabel*, kRoundCaptions> m_roundNames{};
     std::array<QLabel*, kRoundCaptions> m_roundPoints{};
-    std::array<QWidget*, kTeams> m_seeds{};
-    std::array<SlotLabel*, kPositions> m_places{};
-    std::array<SlotLabel*, kGames> m_markers{};
+    ByTeamRow<QWidget*> m_seeds;
+    ByPosition<SlotLabel*> m_places;
+    ByGame<SlotLabel*> m_markers;
 
     QPoint m_pressedAt;
     bool m_pressed = false; ///< a left press on a place is held
-    int m_hovered = -1;
+    std::optional<Position> m_hovered;
 };
 
 } // namespace tallyhoop::qt

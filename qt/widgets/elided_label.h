@@ -1,12 +1,12 @@
-// qt/widgets/elided_label.h - a heading that may be longer than its place.
+// qt/widgets/elided_label.h - a label whose text may be longer than its place.
 #pragma once
 
 #include <QLabel>
 
 namespace tallyhoop::qt {
 
-/// Paints a plain text that does not fit from its beginning on, cut with an ellipsis; text() stays whole, and the whole
-/// text is the tool tip then.
+/// Paints the beginning of a plain text that does not fit, with an ellipsis; text() stays whole, and the whole text is
+/// then the tool tip.
 class ElidedLabel : public QLabel
 {
     Q_OBJECT

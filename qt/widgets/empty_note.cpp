@@ -12,7 +12,7 @@ EmptyNote::EmptyNote(const QString& text, QAbstractItemView& view) : QLabel{view
     setObjectName(QStringLiteral("emptyNote"));
     setTextFormat(Qt::PlainText);
     setText(text);
-    setFont(QApplication::font()); // a list may have its columns in fixed pitch; this is a sentence
+    setFont(QApplication::font()); // not the fixed pitch that a list may have for its columns
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);
     setMargin(look::kGap);
@@ -45,7 +45,7 @@ void EmptyNote::place()
     describe(empty);
 }
 
-/// A screen reader comes to the list only: the list says the note too, before what else is said of it.
+/// A screen reader reads the list only, so the list's description begins with the note.
 void EmptyNote::describe(bool empty)
 {
     QString description = m_view.accessibleDescription();

@@ -1,4 +1,4 @@
-// qt/widgets/empty_note.h - what stands in a list or table that has no rows, so that it does not look broken.
+// qt/widgets/empty_note.h - the text in a list or table that has no rows, so that it does not look broken.
 #pragma once
 
 #include <QAbstractItemView>
@@ -6,7 +6,7 @@
 
 namespace tallyhoop::qt {
 
-/// A pale sentence in the middle of a view, there as long as the view's model has no rows.
+/// A pale sentence in the middle of a view, visible while the view's model has no rows.
 class EmptyNote : public QLabel
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ class EmptyNote : public QLabel
 public:
     EmptyNote(const QString& text, QAbstractItemView& view);
 
-    /// Puts another sentence there.
+    /// Changes the sentence.
     void say(const QString& text);
 
 protected:

@@ -7,7 +7,7 @@ namespace tallyhoop::qt {
 
 GridHeader::GridHeader() : QHeaderView{Qt::Horizontal}
 {
-    // The view's own moving would change the order behind the model's back.
+    // If the view moved columns itself, their order would differ from the model's.
     setSectionsMovable(false);
     setSectionsClickable(true);
     setHighlightSections(false);

@@ -1,4 +1,4 @@
-// qt/widgets/grid_header.h - a heading row whose columns are dragged: it only reports, the model moves them.
+// qt/widgets/grid_header.h - a table header whose columns can be dragged: it only reports, the model moves them.
 #pragma once
 
 #include <QHeaderView>

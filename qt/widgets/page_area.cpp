@@ -20,12 +20,12 @@ PageArea::PageArea(QWidget* content)
     setFocusPolicy(Qt::NoFocus);
     setWidgetResizable(true);
     setWidget(content);
-    content->setAutoFillBackground(false); // the window's ground shows through, as without the area
+    content->setAutoFillBackground(false); // shows the window's background, as without the area
     viewport()->setAutoFillBackground(false);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { follow(now); });
 }
 
-/// What is in it goes after it, and then loses the focus: nobody is left to follow that.
+/// Its content is destroyed after it and then loses the focus, which must not reach follow() any more.
 PageArea::~PageArea() { disconnect(qApp, nullptr, this, nullptr); }
 
 QSize PageArea::within(QSize wanted) const
@@ -47,7 +47,7 @@ bool PageArea::eventFilter(QObject* watched, QEvent* event)
     return QScrollArea::eventFilter(watched, event);
 }
 
-/// Whoever gets the focus, by key or by the program, is to be seen.
+/// Scrolls to the widget that gets the focus, by a key or by the program.
 void PageArea::follow(QWidget* focused)
 {
     if (focused && widget()->isAncestorOf(focused))

@@ -1,4 +1,4 @@
-// qt/widgets/page_area.h - what a page shows, which scrolls where a display is too small for it.
+// qt/widgets/page_area.h - holds a page's content and scrolls it where the display is too small.
 #pragma once
 
 #include <QScrollArea>

@@ -1,4 +1,4 @@
-// qt/widgets/rows_view.h - the view of a list box: tells when the person chooses a row, also the selected one again.
+// qt/widgets/rows_view.h - the view of a list box: reports when the person chooses a row, also the selected one again.
 #pragma once
 
 #include <QListView>
@@ -16,7 +16,7 @@ public:
     /// The selection changed, or a press on the selected row chose it again; also when the model is being shown.
     std::function<void()> rowChosen;
 
-    /// The left button went down, on a row or beside them all; after the row was chosen.
+    /// The left button was pressed, on a row or beside all rows; called after the row was chosen.
     std::function<void()> pressedAnywhere;
 
 protected:

@@ -2,7 +2,6 @@
 
 #include "qt/look.h"
 #include "qt/text.h"
-#include "screens/board/board_drawing.h"
 
 #include <QAccessibleWidget>
 #include <QFocusEvent>
@@ -16,18 +15,12 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr int kInset = 4;
-constexpr int kNarrowest = 70; ///< percent of a letter's width, with which names can still be read with ease
+constexpr int kNarrowest = 70; ///< percent of a letter's width; names are still easy to read
 const QColor kOutline{150, 155, 168};
 const QColor kPathOutline{240, 150, 20};
 const QColor kLandOutline{30, 150, 90};
 
-QColor groundOf(const QColor& colour)
-{
-    const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
-    return look::toQColor(groundFor({part(colour.red()), part(colour.green()), part(colour.blue())}));
-}
-
-/// A marker cannot be pressed, whatever its class says.
+/// A marker cannot be pressed, though its class is a button.
 QAccessibleInterface* speakForMarker(const QString&, QObject* object)
 {
     auto* const label = qobject_cast<SlotLabel*>(object);
@@ -42,22 +35,23 @@ SlotLabel::SlotLabel(Part part, QWidget* parent) : QAbstractButton{parent}, m_pa
     static const bool kInstalled = (QAccessible::installFactory(&speakForMarker), true);
     static_cast<void>(kInstalled);
     setMouseTracking(true);
-    // A click picks a team and leaves the keyboard where it is: in the field that is being filled in.
+    // A click picks a team and leaves the focus where it is: in the field that is being filled in.
     setFocusPolicy(part == Part::Marker ? Qt::NoFocus : Qt::TabFocus);
 }
 
-void SlotLabel::show(const QString& text, const QColor& colour)
+void SlotLabel::show(const QString& text, const QColor& colour, const QColor& background)
 {
     setText(text);
     setShortcut({}); // an ampersand in a name is no mnemonic
     m_colour = colour;
-    // Whoever asks for the colours of the text and its ground asks the palette.
+    m_background = background;
+    // Tests and assistive tools read the colours of text and background from the palette.
     QPalette colours = palette();
     for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
             colours.setColor(group, role, colour);
         for (const auto role : {QPalette::Window, QPalette::Button})
-            colours.setColor(group, role, groundOf(colour));
+            colours.setColor(group, role, background);
     }
     setPalette(colours);
     update();
@@ -78,7 +72,7 @@ QSize SlotLabel::sizeHint() const
 
 QRect SlotLabel::textPlace() const { return m_part == Part::Marker ? rect() : rect().adjusted(kInset, 0, -1, 0); }
 
-/// A marker continues its place: one box for the eye, whose inner edges nobody draws.
+/// A marker continues its place: both look like one box, without the edges between them.
 QRect SlotLabel::inside(int edge) const
 {
     const int left = m_part == Part::Marker ? 0 : edge;
@@ -88,13 +82,13 @@ QRect SlotLabel::inside(int edge) const
 
 bool SlotLabel::isElided() const { return QFontMetrics{fittingFont()}.horizontalAdvance(text()) > textPlace().width(); }
 
-/// The font in letters as narrow as the name needs, within reason: a whole name says more than most of one.
+/// @returns the font, in letters as narrow as the name needs down to kNarrowest: a whole name is better than a cut one
 QFont SlotLabel::fittingFont() const
 {
     QFont fitting = font();
     const int room = textPlace().width();
     for (int stretch = 100; stretch > kNarrowest && QFontMetrics{fitting}.horizontalAdvance(text()) > room;) {
-        stretch -= 10; // few steps: each is a font of its own
+        stretch -= 10; // few steps, because each is a font of its own
         fitting.setStretch(stretch);
     }
     return fitting;
@@ -108,9 +102,9 @@ void SlotLabel::paintEvent(QPaintEvent*)
         outline = kPathOutline;
     else if (m_emphasis == Emphasis::MayLand)
         outline = kLandOutline;
-    // Areas, not lines: at odd fractions of pixels lines at the edge get lost.
+    // Filled areas, not lines: with fractional scaling, lines at the edge can disappear.
     painter.fillRect(rect(), outline);
-    painter.fillRect(inside(m_emphasis == Emphasis::None ? 1 : 2), groundOf(m_colour));
+    painter.fillRect(inside(m_emphasis == Emphasis::None ? 1 : 2), m_background);
     painter.setPen(m_colour);
     const QFont fitting = fittingFont();
     const QString cut = QFontMetrics{fitting}.elidedText(text(), Qt::ElideRight, textPlace().width());

@@ -1,12 +1,12 @@
-// qt/widgets/slot_label.h - one place of the bracket: a team name on a ground that carries its colour.
+// qt/widgets/slot_label.h - one place of the bracket: a team name on its background.
 #pragma once
 
 #include <QAbstractButton>
 
 namespace tallyhoop::qt {
 
-/// Shows a text that is elided when it does not fit; text() stays whole. Presses are the canvas's business, also while
-/// the label is disabled: a press there still means something. Assistive tools press it through clicked().
+/// Shows a text that is elided when it does not fit; text() stays whole. The canvas handles presses, also on a disabled
+/// label, where a press still has an effect. Assistive tools press it through clicked().
 class SlotLabel : public QAbstractButton
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ public:
 
     SlotLabel(Part part, QWidget* parent);
 
-    void show(const QString& text, const QColor& colour);
+    void show(const QString& text, const QColor& colour, const QColor& background);
 
     enum class Emphasis { None, OnPath, MayLand };
     void setEmphasis(Emphasis emphasis);
@@ -40,7 +40,7 @@ protected:
     bool event(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
 
-    // Mouse and key rules live in the canvas and the core; a button's own would act twice.
+    // Mouse and key rules are in the canvas and the core; a button's own would act a second time.
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -54,8 +54,9 @@ private:
 
     Part m_part;
     QColor m_colour;
+    QColor m_background;
     Emphasis m_emphasis = Emphasis::None;
-    bool m_reachedByKeys = false; ///< only then is the focus worth a frame of its own
+    bool m_reachedByKeys = false; ///< only then the focus gets a frame of its own
 };
 
 } // namespace tallyhoop::qt

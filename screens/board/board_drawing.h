@@ -1,16 +1,17 @@
 // screens/board/board_drawing.h - the board as a picture for paper.
 #pragma once
 
+#include "pool/entry.h"
+#include "screens/board/board_picture.h"
 #include "ui/drawing.h"
+
+#include <string>
 
 namespace tallyhoop {
 
-class BoardScreen;
-
-/// Draws the board as it is shown, marks included, on a landscape page of 1100 by 800 units.
-ui::Drawing drawBoard(const BoardScreen& board);
-
-/// @returns the ground on which a team name of this colour is read comfortably
-ui::Colour groundFor(ui::Colour textColour);
+/// Draws a board with whose it is, marks included, on a landscape page of 1100 by 800 units.
+/// @param player its picks are those of the picture
+/// @param score  the score text; empty = not scored
+ui::Drawing drawBoard(const BoardPicture& picture, const Entry& player, const std::string& score);
 
 } // namespace tallyhoop

@@ -7,7 +7,7 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr int kRowsDown = 2 * kRowsPerRegion; ///< two regions stand above one another
+constexpr int kRowsDown = 2 * kRowsPerRegion; ///< two regions are above one another
 constexpr double kSeedShare = 0.19;           ///< width of a seed, in columns
 constexpr double kMarkerShare = 0.14;         ///< width of a marker, in columns
 constexpr double kFirstColumnShare = 1.24;    ///< seed and team of the first column
@@ -57,21 +57,17 @@ double rowCentre(const Measures& m, int lower, double row)
     return m.top + lower * (kRowsPerRegion * m.row + m.regionGap) + (row + 0.5) * m.row;
 }
 
-/// A place inside a region of the left half.
-ui::Rectangle placeInRegion(const Measures& m, int lower, int offset)
+/// A place inside a region, as if that were in the left half.
+ui::Rectangle placeInRegion(const Measures& m, int lower, Position position)
 {
-    if (offset < kRowsPerRegion) {
+    if (const std::optional<TeamRow> row = teamRowOf(position)) {
         const double left = columnLeft(m, 0) + kSeedShare * m.column;
-        return {left, rowCentre(m, lower, offset) - m.box / 2, (kFirstColumnShare - kSeedShare) * m.column, m.box};
+        const double middle = rowCentre(m, lower, rowInRegion(*row));
+        return {left, middle - m.box / 2, (kFirstColumnShare - kSeedShare) * m.column, m.box};
     }
-    int round = 1;
-    int first = kRowsPerRegion;
-    for (int games = 8; offset >= first + games; games /= 2) {
-        first += games;
-        ++round;
-    }
+    const int round = roundOf(position);
     const double rowsPerGame = std::pow(2, round);
-    const double row = (offset - first + 0.5) * rowsPerGame - 0.5;
+    const double row = (gameOfColumn(position) + 0.5) * rowsPerGame - 0.5;
     return {columnLeft(m, round), rowCentre(m, lower, row) - m.box / 2, m.column, m.box};
 }
 
@@ -80,12 +76,14 @@ void placeRegions(const Measures& m, BoardGeometry& board)
     for (int region = 0; region < kRegions; ++region) {
         const bool right = region >= 2;
         const auto side = [&](const ui::Rectangle& place) { return right ? mirrored(place, m.width) : place; };
-        for (int offset = 0; offset < kRegionBlock; ++offset)
-            board.positions[static_cast<std::size_t>(kRegionBlock * region + offset)] =
-                side(placeInRegion(m, region % 2, offset));
-        for (int row = 0; row < kRowsPerRegion; ++row)
-            board.seeds[static_cast<std::size_t>(kRowsPerRegion * region + row)] =
-                side({columnLeft(m, 0), rowCentre(m, region % 2, row) - m.box / 2, kSeedShare * m.column, m.box});
+        for (const Position game : gamesOfRegion(region))
+            board.positions[game] = side(placeInRegion(m, region % 2, game));
+        for (const Position team : teamsOfRegion(region)) {
+            board.positions[team] = side(placeInRegion(m, region % 2, team));
+            const TeamRow row = *teamRowOf(team);
+            const double middle = rowCentre(m, region % 2, rowInRegion(row));
+            board.seeds[row] = side({columnLeft(m, 0), middle - m.box / 2, kSeedShare * m.column, m.box});
+        }
         board.regionTitles[static_cast<std::size_t>(region)] =
             side({columnLeft(m, 3), rowCentre(m, region % 2, 0) - m.row / 2, 1.5 * m.column + m.gap, 1.7 * m.row});
     }
@@ -105,12 +103,11 @@ void placeFinals(const Measures& m, BoardGeometry& board)
 
 void placeMarkers(const Measures& m, BoardGeometry& board)
 {
-    const auto& games = gamePositions();
-    for (std::size_t game = 0; game < games.size(); ++game) {
-        ui::Rectangle& place = board.positions[static_cast<std::size_t>(index(games[game]))];
+    for (const Position position : gamePositions()) {
+        ui::Rectangle& place = board.positions[position];
         const double width = kMarkerShare * m.column;
         place.width -= width;
-        board.results[game] = {place.right(), place.y, width, place.height};
+        board.results[*gameOf(position)] = {place.right(), place.y, width, place.height};
     }
 }
 
@@ -122,13 +119,13 @@ void placeRound(BoardGeometry& board, std::size_t caption, const ui::Rectangle& 
     board.roundPoints[caption] = {strip.x + name, strip.y, strip.width - name, strip.height};
 }
 
-void placeHeads(const Measures& m, BoardGeometry& board)
+void placeHeaders(const Measures& m, BoardGeometry& board)
 {
-    const double headHeight = m.top * 0.34;
+    const double headerHeight = m.top * 0.34;
     board.title = {m.width * 0.2, m.top * 0.06, m.width * 0.6, m.top * 0.54};
     board.demoMode = {m.margin, m.top * 0.06, m.width * 0.19, m.top * 0.54};
     for (int round = 1; round <= 4; ++round) {
-        const ui::Rectangle strip{columnLeft(m, round), m.top - headHeight * 1.06, m.column, headHeight};
+        const ui::Rectangle strip{columnLeft(m, round), m.top - headerHeight * 1.06, m.column, headerHeight};
         placeRound(board, static_cast<std::size_t>(round - 1), strip);
         placeRound(board, static_cast<std::size_t>(round + 3), mirrored(strip, m.width));
     }
@@ -140,23 +137,22 @@ void placeHeads(const Measures& m, BoardGeometry& board)
 }
 
 /// The whole place of a position, its marker included.
-ui::Rectangle wholePlace(const BoardGeometry& board, int position)
+ui::Rectangle wholePlace(const BoardGeometry& board, Position position)
 {
-    ui::Rectangle place = board.positions[static_cast<std::size_t>(position)];
-    const int game = gameOf(Position{position});
-    if (game >= 0)
-        place.width += board.results[static_cast<std::size_t>(game)].width;
+    ui::Rectangle place = board.positions[position];
+    if (const std::optional<Game> game = gameOf(position))
+        place.width += board.results[*game].width;
     return place;
 }
 
 /// The bracket that joins two entrants with the place of their winner, all in the left half or all in the right one.
-void joinInRegion(const Measures& m, BoardGeometry& board, int position)
+void joinInRegion(const Measures& m, BoardGeometry& board, Position position)
 {
-    const auto [first, second] = bracketMap().feeders(position);
+    const auto [first, second] = *feeders(position);
     const ui::Rectangle upper = wholePlace(board, first);
     const ui::Rectangle lower = wholePlace(board, second);
     const ui::Rectangle winner = wholePlace(board, position);
-    const bool right = regionOf(Position{position}) >= 2;
+    const bool right = *regionOf(position) >= 2;
     const double from = right ? upper.x : upper.right();
     const double bend = right ? upper.x - m.gap / 2 : upper.right() + m.gap / 2;
     const double to = right ? winner.right() : winner.x;
@@ -166,11 +162,11 @@ void joinInRegion(const Measures& m, BoardGeometry& board, int position)
     board.connectors.push_back({bend, winner.centreY(), to, winner.centreY(), {}});
 }
 
-/// The region winners stand above and below their semi-final, in the same column: the line runs along the inner edge.
-void joinSemifinal(const Measures& m, BoardGeometry& board, int position)
+/// The region winners are above and below their semi-final, in the same column: the line runs along the inner edge.
+void joinSemifinal(const Measures& m, BoardGeometry& board, Position position)
 {
     const bool right = position == kSemifinalB;
-    const auto [first, second] = bracketMap().feeders(position);
+    const auto [first, second] = *feeders(position);
     const ui::Rectangle upper = wholePlace(board, first);
     const ui::Rectangle lower = wholePlace(board, second);
     const ui::Rectangle winner = wholePlace(board, position);
@@ -184,7 +180,7 @@ void joinSemifinal(const Measures& m, BoardGeometry& board, int position)
 void joinFinal(BoardGeometry& board)
 {
     const ui::Rectangle champion = wholePlace(board, kChampion);
-    for (const int entrant : {kSemifinalA, kSemifinalB}) {
+    for (const Position entrant : {kSemifinalA, kSemifinalB}) {
         const ui::Rectangle place = wholePlace(board, entrant);
         const double edge = entrant == kSemifinalA ? champion.x : champion.right();
         board.connectors.push_back({place.centreX(), place.y, place.centreX(), champion.centreY(), {}});
@@ -224,25 +220,41 @@ BoardGeometry layOutBoard(double width, double height)
     placeRegions(m, board);
     placeFinals(m, board);
     placeMarkers(m, board);
-    placeHeads(m, board);
-    for (const Position position : gamePositions())
-        if (index(position) < kSemifinalA)
-            joinInRegion(m, board, index(position));
+    placeHeaders(m, board);
+    for (int region = 0; region < kRegions; ++region)
+        for (const Position game : gamesOfRegion(region))
+            joinInRegion(m, board, game);
     joinSemifinal(m, board, kSemifinalA);
     joinSemifinal(m, board, kSemifinalB);
     joinFinal(board);
     return board;
 }
 
-int neighbour(const BoardGeometry& geometry, int position, Direction direction)
+std::optional<Direction> directionOf(ui::Key key)
+{
+    switch (key) {
+    case ui::Key::Up:
+        return Direction::Up;
+    case ui::Key::Down:
+        return Direction::Down;
+    case ui::Key::Left:
+        return Direction::Left;
+    case ui::Key::Right:
+        return Direction::Right;
+    default:
+        return std::nullopt;
+    }
+}
+
+Position neighbour(const BoardGeometry& geometry, Position position, Direction direction)
 {
     const ui::Rectangle from = wholePlace(geometry, position);
-    // Up and down stay in the column; left and right may leave the row, because the next round stands between two rows.
+    // Up and down stay in the column; left and right may leave the row, because the next round is between two rows.
     const bool vertical = direction == Direction::Up || direction == Direction::Down;
     const double minimum = vertical ? 1.0 : from.width / 3;
-    int nearest = position;
+    Position nearest = position;
     double best = 0;
-    for (int candidate = 0; candidate < kPositions; ++candidate) {
+    for (const Position candidate : allPositions()) {
         const auto [ahead, aside] = reach(from, wholePlace(geometry, candidate), direction);
         if (candidate == position || ahead < minimum || (vertical && aside > 0.95 * from.width))
             continue;

@@ -1,19 +1,20 @@
-// screens/board/board_geometry.h - where everything of the bracket stands: one arrangement for the screen and for
-// paper.
+// screens/board/board_geometry.h - where everything of the bracket is: one arrangement for the screen and for paper.
 //
-// Region 1 stands top left, 2 bottom left, 3 top right, 4 bottom right; the right half is the left one mirrored. The
-// semi-final winners and the champion stand in the middle.
+// Region 1 is top left, 2 bottom left, 3 top right, 4 bottom right; the right half is the left one mirrored. The
+// semi-final winners and the champion are in the middle.
 #pragma once
 
 #include "pool/position.h"
 #include "ui/drawing.h"
+#include "ui/keys.h"
 
 #include <array>
+#include <optional>
 #include <vector>
 
 namespace tallyhoop {
 
-/// How many captions tell the rounds: rounds 1..4 on the left, then 1..4 on the right, the semi-final, the final.
+/// How many captions name the rounds: rounds 1..4 on the left, then 1..4 on the right, the semi-final, the final.
 inline constexpr std::size_t kRoundCaptions = 10;
 
 struct BoardGeometry {
@@ -22,9 +23,9 @@ struct BoardGeometry {
     ui::Rectangle title;
     ui::Rectangle demoMode;
     std::array<ui::Rectangle, kRegions> regionTitles;
-    std::array<ui::Rectangle, kPositions> positions;
-    std::array<ui::Rectangle, kGames> results; ///< the markers, inside the places they belong to
-    std::array<ui::Rectangle, kTeams> seeds;
+    ByPosition<ui::Rectangle> positions;
+    ByGame<ui::Rectangle> results; ///< the markers, right of the places they belong to
+    ByTeamRow<ui::Rectangle> seeds;
     std::array<ui::Rectangle, kRoundCaptions> roundCaptions;
     std::array<ui::Rectangle, kRoundCaptions> roundPoints; ///< rounds 1..4 left, 1..4 right, semi-final, final
     ui::Rectangle championCaption;
@@ -38,7 +39,10 @@ BoardGeometry layOutBoard(double width, double height);
 /// Which way an arrow key goes.
 enum class Direction { Up, Down, Left, Right };
 
+/// @returns the direction of an arrow key, nothing for any other key
+std::optional<Direction> directionOf(ui::Key key);
+
 /// @returns the position that an arrow key reaches from here along the picture; the same one at the edge
-int neighbour(const BoardGeometry& geometry, int position, Direction direction);
+Position neighbour(const BoardGeometry& geometry, Position position, Direction direction);
 
 } // namespace tallyhoop

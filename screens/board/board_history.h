@@ -1,7 +1,7 @@
 // screens/board/board_history.h - undo and redo on the board: whole boards, because one press can change a whole path.
 #pragma once
 
-#include "pool/moves.h"
+#include "pool/entry.h"
 
 #include <filesystem>
 #include <optional>
@@ -12,11 +12,8 @@ namespace tallyhoop {
 
 /// Everything on the board that a command of the editing kind can change.
 struct BoardSnapshot {
-    TeamNamesOnBoard teams;
-    std::string initials;
-    std::string name;
-    std::string finalPoints;
-    std::string pointScore;
+    Entry entry; ///< the picks, and what is typed beside them
+    std::string score;
     std::filesystem::path openedFile;
     bool resultsMode = false;
     bool unsaved = false;

@@ -1,220 +1,280 @@
 #include "screens/board/board_screen.h"
 
 #include "base/numbers.h"
-#include "base/text.h"
 #include "base/windows1252.h"
 #include "files/file_names.h"
 #include "files/player_names_file.h"
 #include "files/settings_file.h"
 #include "files/setup_file.h"
-#include "pool/scoring.h"
-#include "screens/demo_mode.h"
+#include "pool/moves.h"
+#include "screens/board/board_geometry.h"
+#include "screens/help_topics.h"
+#include "screens/saving.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace tallyhoop {
 
-namespace {
-
-constexpr ui::Colour kTeamColour{0, 0, 255};
-constexpr const char* kFirstRoundTip = "Left Click or Drag to Select";
-constexpr std::array<const char*, 10> kRoundNames = {
-    "1st round:", "2nd round:",     "Regional semi:",  "Regional final:", "1st round:",
-    "2nd round:", "Regional semi:", "Regional final:", "Semi-final:",     "Final game:"};
-} // namespace
-
-BoardScreen::BoardScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
-                         Opening opening)
+BoardScreen::BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared,
+                         std::string notice)
     : Screen{"frmPoolMain", "Tallyhoop"},
+      BracketPanel{this},
+      PlayerStrip{this, [this] { unsaved = true; }, [this] { unmarkPicks(); }},
+      BoardMenus{this, *this, {folder, platform, screens}},
       m_folder{folder},
       m_platform{platform},
-      m_state{state},
       m_screens{screens},
-      m_opening{opening}
+      m_shared{shared}
 {
-    describeControls();
-    arrangeMenus();
-}
-
-void BoardScreen::describeControls()
-{
-    for (std::size_t i = 0; i < kRoundNames.size(); ++i)
-        lblRoundName[i].text = kRoundNames[i];
-    for (std::size_t i = 0; i < kTeams; ++i) {
-        txtSeed[i].locked = true;
-        txtSeed[i].tabStop = false;
-    }
-    for (std::size_t i = 0; i < kPositions; ++i) {
-        lblRegion[i].colour = kTeamColour;
-        lblRegion[i].tabStop = i == 0;
-    }
-    for (ui::TextBox* comment : {&txtComment1, &txtComment2}) {
-        comment->multiLine = true;
-        comment->locked = true;
-        comment->tabStop = false;
-    }
-    txtPlayerInitials.tabIndex = 140;
-    txtPlayerName.tabIndex = 141;
-    txtFinalPoints.tabIndex = 143;
-    txtPointScore.locked = true;
-    txtPointScore.tabStop = false;
-    hideDefaultColors();
-    putControlsIntoWords();
+    status = std::move(notice);
     focused = &txtPlayerInitials;
 }
 
-void BoardScreen::load()
-{
-    loadBoard();
-    applyOpening();
-}
+void BoardScreen::load() { loadBoard(); }
 
-void BoardScreen::unloading() { dropHandOver(); }
+void BoardScreen::unloading() { m_shared.savedPlayer.reset(); }
 
+/// Begins a selection on the field that the folder holds now.
 void BoardScreen::loadBoard()
 {
-    m_resultsMode = false;
-    m_dragging = false;
-    m_state.selectionFile.OpenedFile.clear();
-    dropHandOver();
-    ReadStartingField(m_folder, m_platform.dialogs, m_state);
-    fillFromSetup();
-    applyFinalized();
-    applyDemoMode();
-    captureBoard();
-    readPlayerNames();
-    describePositions();
-    unsaved = false;
-    status.clear();
-    m_history.clear();
-    offerHistory();
-    describeDocument();
-    sayWhatToDo();
+    m_shared.savedPlayer.reset();
+    Read<Field> field = readField(m_folder, m_shared.field);
+    if (field.trouble)
+        showTrouble(m_platform.dialogs, *field.trouble);
+    m_shared.field = std::move(field.value);
+    m_demo = demoModeIsOn(m_folder);
+    showEntry({startingBracket(m_shared.field), {}, {}, {}, {}});
+    m_openedFile.clear();
+    beginUnmarked();
+    checkPlayerList();
 }
 
-void BoardScreen::fillFromSetup()
+void BoardScreen::checkPlayerList()
 {
-    const SetupLines& setup = m_state.setupLines;
-    for (int region = 0; region < kRegions; ++region) {
-        for (int row = 0; row < kRowsPerRegion; ++row) {
-            const auto team = static_cast<std::size_t>(kRowsPerRegion * region + row);
-            ui::Label& label = lblRegion[static_cast<std::size_t>(index(firstRoundPosition(region, row)))];
-            label.text = setup[setup_line::kTeam + team];
-            label.toolTip = kFirstRoundTip;
-            txtSeed[team].text = setup[setup_line::kSeed + static_cast<std::size_t>(row)];
-        }
-        const auto r = static_cast<std::size_t>(region);
-        lblRegionTitle[r].text = setup[setup_line::kRegion + r];
+    if (m_folder.exists(file_name::kPlayerNames)) {
+        m_playersFaulty = !playerListIsSound(m_platform.dialogs, m_folder);
+    } else if (!m_toldAboutFolder) {
+        KnownFiles nothingKnown; // there is no file that somebody could have changed
+        m_toldAboutFolder =
+            !saveDataFile(m_platform.dialogs, nothingKnown, m_folder, file_name::kPlayerNames, playerNamesFile({}));
     }
-    lblTitle.text = setup[setup_line::kTitle];
-    for (std::size_t round = 0; round < kRounds; ++round)
-        lblInfo[round].text = setup[setup_line::kPayoff + round];
-    for (std::size_t round = 0; round < lblInfoRight.size(); ++round)
-        lblInfoRight[round].text = lblInfo[round].text;
-    txtComment1.text = decodeLineBreaks(setup[setup_line::kComment1]);
-    txtComment2.text = decodeLineBreaks(setup[setup_line::kComment2]);
 }
 
-void BoardScreen::applyFinalized()
+void BoardScreen::showEntry(Entry entry)
 {
-    if (!isFinalized(m_state.setupLines)) {
-        for (ui::MenuEntry* entry : {&mnuScoreSelections, &mnuGameResults, &mnuNewSelection, &mnuOpenSelection,
-                                     &mnuSaveSelection, &mnuReports})
-            entry->enabled = false;
-        return;
-    }
-    if (!demoModeIsOn(m_folder)) {
-        mnuSetup.enabled = false;
-        mnuDemo.enabled = false;
-    }
-    mnuScoreSelections.enabled = resultsExist();
-    mnuReports.enabled = true;
+    showPlayer(entry);
+    m_bracket = std::move(entry.picks);
 }
 
-void BoardScreen::applyDemoMode()
+/// What is on the board now is new to it: no marks, no past.
+void BoardScreen::beginUnmarked()
 {
-    const bool on = demoModeIsOn(m_folder);
-    lblDemoMode.visible = on;
-    mnuDemoReset.enabled = on;
-    mnuDemoSet.enabled = !on && leadingNumber(m_state.setupLines[setup_line::kFinalized]) == 0;
-}
-
-/// A demo command left this board to show the new state, whatever its load could read so far.
-void BoardScreen::applyOpening()
-{
-    if (m_opening == Opening::Plain)
-        return;
-    const bool entered = m_opening == Opening::DemoEntered;
-    // A hasty OK finds the sample field there and the settings not yet; the way back must be open all the same.
-    mnuDemo.enabled = true;
-    mnuDemoReset.enabled = entered;
-    mnuDemoSet.enabled = !entered;
-    lblDemoMode.visible = entered;
-    if (entered)
-        return;
-    m_state.setupLines[setup_line::kFinalized] = "0";
-    mnuScoreSelections.enabled = false;
-    mnuGameResults.enabled = false;
-    status = std::exchange(m_state.notice, {});
-}
-
-void BoardScreen::readPlayerNames()
-{
-    if (m_folder.exists(file_name::kPlayerNames))
-        m_playersFaulty = !validatePlayerNames(m_folder, m_platform.dialogs);
-    else if (!m_toldAboutFolder)
-        m_toldAboutFolder = !createPlayerNames(m_folder, m_platform.dialogs);
-}
-
-bool BoardScreen::resultsExist() const { return m_folder.exists(file_name::kResults); }
-
-TeamNamesOnBoard BoardScreen::teams() const
-{
-    TeamNamesOnBoard names;
-    for (std::size_t i = 0; i < names.size(); ++i)
-        names[i] = lblRegion[i].text;
-    return names;
-}
-
-void BoardScreen::setTeams(const TeamNamesOnBoard& names)
-{
-    for (std::size_t i = 0; i < names.size(); ++i)
-        lblRegion[i].text = names[i];
-    describePositions();
-}
-
-void BoardScreen::captureBoard()
-{
-    SelectionLines& lines = m_state.selectionLines;
-    for (std::size_t i = 0; i < kPositions; ++i)
-        lines[selection_line::kFirstTeam + i] = lblRegion[i].text;
-    lines[selection_line::kInitials] = upperCase(txtPlayerInitials.text);
-    lines[selection_line::kName] = txtPlayerName.text;
-    lines[selection_line::kFinalPoints] = txtFinalPoints.text;
-}
-
-void BoardScreen::showBoard(const SelectionLines& lines)
-{
-    TeamNamesOnBoard names;
-    for (std::size_t i = 0; i < names.size(); ++i)
-        names[i] = lines[selection_line::kFirstTeam + i];
-    txtPlayerInitials.text = lines[selection_line::kInitials];
-    txtPlayerName.text = lines[selection_line::kName];
-    txtFinalPoints.text = lines[selection_line::kFinalPoints];
-    setTeams(names);
-}
-
-void BoardScreen::clearBoard()
-{
-    for (const Position position : gamePositions())
-        lblRegion[static_cast<std::size_t>(index(position))].text.clear();
-    txtPlayerInitials.text.clear();
-    txtPlayerName.text.clear();
-    txtFinalPoints.text.clear();
+    m_drag.reset();
+    m_verdicts.reset();
     txtPointScore.text.clear();
-    lockFields(false);
-    describePositions();
+    m_resultsMode = false;
+    m_resultsThere = resultsExist();
+    unsaved = false;
+    m_history.clear();
+    m_news.clear();
+}
+
+const Verdicts* BoardScreen::shownVerdicts() const
+{
+    if (m_verdicts)
+        return &*m_verdicts;
+    return m_shared.listedVerdicts ? &*m_shared.listedVerdicts : nullptr;
+}
+
+BoardPicture BoardScreen::picture() const { return {m_shared.field, m_bracket, shownVerdicts(), m_demo}; }
+
+BoardState BoardScreen::state() const
+{
+    return {.finalized = m_shared.field.isFinalized(),
+            .demo = m_demo,
+            .mayStartDemo = m_shared.field.mayBeReplaced(),
+            .resultsMode = m_resultsMode,
+            .resultsThere = m_resultsThere,
+            .scored = m_verdicts.has_value(),
+            .marked = shownVerdicts() != nullptr,
+            .scoreListOpen = m_screens.isLoaded(ScreenKind::Scores),
+            .reportsOpen = m_screens.isLoaded(ScreenKind::Reports),
+            .canUndo = m_history.canUndo(),
+            .canRedo = m_history.canRedo()};
+}
+
+FieldLock BoardScreen::fieldLock() const
+{
+    if (m_verdicts)
+        return FieldLock::All;
+    return m_resultsMode ? FieldLock::Player : FieldLock::None;
+}
+
+void BoardScreen::showState()
+{
+    const BoardState now = state();
+    showBracket(picture(), now.scoreListOpen);
+    showStrip(m_shared.field, fieldLock(), now.scored, now.scoreListOpen);
+    enableMenus(now);
+    document = documentName();
+    hint = m_news.empty() ? whatToDo() : m_news;
+}
+
+std::string BoardScreen::documentName() const
+{
+    return m_resultsMode ? "Game results" : shown(m_openedFile.filename());
+}
+
+std::string BoardScreen::whatToDo() const
+{
+    if (!m_shared.field.isFinalized())
+        return "The field is not finalized yet: see Setup, Setup Pool Options.";
+    if (m_resultsMode)
+        return "Game results: click the real winners forward and save.";
+    return "Click the winners forward, then enter initials, name and the final's total points.";
+}
+
+/// The board as an entry, its texts as they are typed.
+Entry BoardScreen::typed() const
+{
+    return {m_bracket, txtPlayerInitials.text, txtPlayerName.text, txtFinalPoints.text, {}};
+}
+
+void BoardScreen::pressPosition(Position position, MouseButton button)
+{
+    m_drag.reset();
+    if (m_screens.isLoaded(ScreenKind::Scores))
+        m_screens.bringToFront(ScreenKind::Scores);
+    else if (shownVerdicts() != nullptr)
+        return; // nothing can be changed while the picks are marked
+    else if (button == MouseButton::Left)
+        m_drag = Drag{position, m_bracket.at(position)};
+    else
+        change(cleared(m_bracket, position));
+}
+
+void BoardScreen::dropOnPosition(Position position)
+{
+    if (const std::optional<Drag> drag = std::exchange(m_drag, std::nullopt))
+        change(dropped(m_bracket, drag->source, position, drag->team));
+}
+
+bool BoardScreen::mayDropOn(Position position) const { return m_drag && isOnPath(m_drag->source, position); }
+
+void BoardScreen::pressBackground()
+{
+    if (m_screens.isLoaded(ScreenKind::Scores))
+        m_screens.bringToFront(ScreenKind::Scores);
+}
+
+/// Every change of the bracket by the person comes here.
+void BoardScreen::change(const Bracket& after)
+{
+    if (after == m_bracket)
+        return;
+    m_history.remember(snapshot());
+    m_bracket = after;
+    unsaved = true;
+}
+
+void BoardScreen::selectHighSeeds()
+{
+    ByTeamRow<std::int16_t> seeds;
+    for (const TeamRow row : allTeamRows())
+        if (const Result<std::int16_t> seed = wholeNumber(m_shared.field.seedOf(row)))
+            seeds[row] = *seed;
+    change(withHighSeeds(m_bracket, seeds));
+}
+
+BoardSnapshot BoardScreen::snapshot() const
+{
+    return {typed(), txtPointScore.text, m_openedFile, m_resultsMode, unsaved, m_sheet};
+}
+
+void BoardScreen::undo()
+{
+    if (const auto board = m_history.undo(snapshot()))
+        restore(*board);
+}
+
+void BoardScreen::redo()
+{
+    if (const auto board = m_history.redo(snapshot()))
+        restore(*board);
+}
+
+/// What is typed belongs to the sheet: it comes back with another sheet only, and stays on the same one.
+void BoardScreen::restore(const BoardSnapshot& board)
+{
+    const bool typedSince = board.sheet == m_sheet && !holdsPlayer(board.entry);
+    if (board.sheet != m_sheet) {
+        m_sheet = board.sheet;
+        showPlayer(board.entry);
+        txtPointScore.text = board.score;
+    }
+    m_bracket = board.entry.picks;
+    m_openedFile = board.openedFile;
+    unsaved = board.unsaved || typedSince;
+    if (board.resultsMode == m_resultsMode)
+        return;
+    m_resultsMode = board.resultsMode;
+    m_resultsThere = resultsExist();
+    m_news.clear();
+}
+
+bool BoardScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
+{
+    if (press.key != ui::Key::Enter) {
+        const std::optional<Position> position = positionOfLabel(control);
+        return position && keyOnPosition(*position, press);
+    }
+    if (cmdDefaultColors.visible) {
+        cmdDefaultColors.click();
+        return true;
+    }
+    ui::Control* const following = afterEnter(control);
+    if (following != nullptr)
+        focused = following;
+    return following != nullptr;
+}
+
+/// The arrow keys follow the picture, Space does what a click does, Delete what a right press does.
+bool BoardScreen::keyOnPosition(Position position, const ui::KeyPress& press)
+{
+    static const BoardGeometry kPicture = layOutBoard(1366, 600);
+    const bool isSpace = press.key == ui::Key::Character && press.character == ' ' && !press.control && !press.alt;
+    if (const std::optional<Direction> direction = directionOf(press.key)) {
+        focused = &lblRegion[neighbour(kPicture, position, *direction)];
+    } else if (press.key == ui::Key::Delete || press.key == ui::Key::Backspace) {
+        pressPosition(position, MouseButton::Right);
+    } else if (isSpace) {
+        pressPosition(position, MouseButton::Left);
+        dropOnPosition(position);
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void BoardScreen::gotFocus(ui::Control& control)
+{
+    if (const std::optional<Position> position = positionOfLabel(control))
+        makeTabStop(*position);
+}
+
+std::string BoardScreen::helpTopic() const
+{
+    if (m_screens.isLoaded(ScreenKind::Scores))
+        return help_topic::kScoreList;
+    if (m_verdicts)
+        return help_topic::kScores;
+    if (m_resultsMode)
+        return help_topic::kResults;
+    if (m_playersFaulty)
+        return help_topic::kRepair;
+    if (m_demo && m_openedFile.empty() && !unsaved)
+        return help_topic::kDemo;
+    return m_shared.field.isFinalized() ? help_topic::kSelections : help_topic::kStart;
 }
 
 } // namespace tallyhoop

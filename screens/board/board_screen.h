@@ -1,23 +1,22 @@
 // screens/board/board_screen.h - the bracket board: a player's prediction or the real results, and the program's menus.
 //
-// BoardScreen.cpp          what the board shows, its load
-// BoardScreen_board.cpp    presses, drops, marks, keys
-// BoardScreen_edit.cpp     undo, redo, high seeds
-// BoardScreen_files.cpp    New, Open, Save
-// BoardScreen_menus.cpp    the menus, and the commands that lead elsewhere
-// BoardScreen_scores.cpp   game results, scoring, printing
-// BoardScreen_words.cpp    what is spoken and explained
+// board_screen.cpp        loading, showing, moving teams, keys, undo
+// board_screen_files.cpp  New, Open, Save, game results, scoring, printing
 #pragma once
 
 #include "files/data_folder.h"
 #include "files/known_files.h"
-#include "pool/moves.h"
 #include "screens/board/board_history.h"
-#include "screens/mod_tallyhoop.h"
+#include "screens/board/board_menus.h"
+#include "screens/board/bracket_panel.h"
+#include "screens/board/player_strip.h"
+#include "screens/board_printouts.h"
+#include "screens/hand_overs.h"
 #include "screens/screens.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,192 +24,125 @@ namespace tallyhoop {
 
 enum class MouseButton { Left, Right };
 
-class BoardScreen : public ui::Screen, public BracketBoard
+class BoardScreen : public ui::Screen,
+                    public BracketPanel,
+                    public PlayerStrip,
+                    public BoardMenus,
+                    public BoardPrintouts,
+                    private BoardCommands
 {
 public:
-    BoardScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
-                Opening opening = Opening::Plain);
+    /// What the board shares with other screens; everything outlives it.
+    struct Shared {
+        Field& field;                            ///< the open field, read anew when the board is loaded
+        std::optional<SavedPlayer>& savedPlayer; ///< left for the player list
+        std::optional<Verdicts>& listedVerdicts; ///< of the player chosen in the list of scores, whose picks are marked
+    };
 
-    // The bracket.
-    ui::Label lblTitle{this, "lblTitle"};
-    ui::ControlArray<ui::Label, kRegions> lblRegionTitle{this, "lblRegionTitle"};
-    ui::ControlArray<ui::Label, 10> lblRoundName{this, "lblRoundName"}; ///< "1st round:" ... left, right, last two
-    ui::ControlArray<ui::Label, 6> lblInfo{this, "lblInfo"};            ///< points of rounds 1..6
-    ui::ControlArray<ui::Label, 4> lblInfoRight{this, "lblInfoRight"};  ///< points of rounds 1..4 once more
-    ui::Label lblChampion{this, "lblChampion", "CHAMPION"};
-    ui::ControlArray<ui::TextBox, kTeams> txtSeed{this, "txtSeed"};
-    ui::ControlArray<ui::Label, kPositions> lblRegion{this, "lblRegion"};
-    ui::ControlArray<ui::Label, kGames> lblResult{this, "lblResult"};
-    ui::Label lblDemoMode{this, "lblDemoMode", "Demonstration Mode"};
-
-    // The strip below it.
-    ui::TextBox txtComment1{this, "txtComment1"};
-    ui::TextBox txtComment2{this, "txtComment2"};
-    ui::Label lblPlayerInitials{this, "lblPlayerInitials", "Initials"};
-    ui::Label lblPlayerName{this, "lblPlayerName", "Name"};
-    ui::Label lblFinalPoints{this, "lblFinalPoints", "Predict total points in Championship game"};
-    ui::TextBox txtPlayerInitials{this, "txtPlayerInitials", [this] { fieldEdited(); }};
-    ui::TextBox txtPlayerName{this, "txtPlayerName", [this] { fieldEdited(); }};
-    ui::TextBox txtFinalPoints{this, "txtFinalPoints", [this] { fieldEdited(); }};
-    ui::TextBox txtPointScore{this, "txtPointScore"};
-    ui::Command cmdDefaultColors{this, "cmdDefaultColors", "Default &Colors", [this] { DefaultColors(); }};
-
-    // The menus.
-    ui::MenuEntry mnuFile{this, "mnuFile", "&File"};
-    ui::MenuEntry mnuNewSelection{this, "mnuNewSelection", "&New Selection", [this] { NewSelection(); }, "Ctrl+N"};
-    ui::MenuEntry mnuOpenSelection{this, "mnuOpenSelection", "&Open Selection", [this] { OpenSelection(); }, "Ctrl+O"};
-    ui::MenuEntry mnuSaveSelection{this, "mnuSaveSelection", "&Save Selection", [this] { SaveSelection(); }, "Ctrl+S"};
-    ui::MenuEntry mnuPrintPreview{this, "mnuPrintPreview", "Print Pre&view", [this] { previewForm(); }};
-    ui::MenuEntry mnuPrintForm{this, "mnuPrintForm", "&Print Form", [this] { PrintForm(); }, "Ctrl+P"};
-    ui::MenuEntry mnuExit{this, "mnuExit", "E&xit", [this] { m_screens.endProgram(); }, "Ctrl+Q"};
-    ui::MenuEntry mnuEdit{this, "mnuEdit", "&Edit"};
-    ui::MenuEntry mnuUndo{this, "mnuUndo", "&Undo", [this] { undo(); }, "Ctrl+Z"};
-    ui::MenuEntry mnuRedo{this, "mnuRedo", "&Redo", [this] { redo(); }, "Ctrl+Shift+Z"};
-    ui::MenuEntry mnuOptions{this, "mnuOptions", "&Options"};
-    ui::MenuEntry mnuScoreSelections{this, "mnuScoreSelections", "&Score Selections", [this] { ScoreSelections(); }};
-    ui::MenuEntry mnuGameResults{this, "mnuGameResults", "Enter &Game Results", [this] { EnterGameResults(); }};
-    ui::MenuEntry mnuEntryAssist{this, "mnuEntryAssist", "Entry &Assist"};
-    ui::MenuEntry mnuHighSeed{this, "mnuHighSeed", "Select &High Seeds", [this] { SelectHighSeeds(); }};
-    ui::MenuEntry mnuEditNames{this, "mnuEditNames", "Edit &Names File", [this] { openPlayerNames(); }};
-    ui::MenuEntry mnuSetup{this, "mnuSetup", "&Setup"};
-    ui::MenuEntry mnuSetupOptions{this, "mnuSetupOptions", "Setup &Pool Options", [this] { openSetup(); }};
-    ui::MenuEntry mnuReports{this, "mnuReports", "&Reports", [this] { openReports(); }};
-    ui::MenuEntry mnuDemo{this, "mnuDemo", "&DEMO Mode"};
-    ui::MenuEntry mnuDemoSet{this, "mnuDemoSet", "DEMO-&Start", [this] { demoSet(); }};
-    ui::MenuEntry mnuDemoReset{this, "mnuDemoReset", "DEMO-&Reset", [this] { demoReset(); }};
-    ui::MenuEntry mnuHelp{this, "mnuHelp", "&Help"};
-    ui::MenuEntry mnuHelpDisplay{this, "mnuHelpDisplay", "&Help Display", [this] { displayHelp(); }, "F1"};
-    ui::MenuEntry mnuHelpAbout{this, "mnuHelpAbout", "&About Tallyhoop", [this] { m_platform.dialogs.about(); }};
+    /// @param notice a sentence for the status line; empty = none
+    BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared,
+                std::string notice = {});
 
     // What happens on the bracket.
-    void PressPosition(int position, MouseButton button);
-    void DropOnPosition(int position);
-    void PressBackground();
+    void pressPosition(Position position, MouseButton button);
+    void dropOnPosition(Position position);
+    void pressBackground();
 
     /// Whether the drag that is under way may end here; false when none is.
-    bool mayDropOn(int position) const;
-    bool isDragging() const { return m_dragging; }
+    bool mayDropOn(Position position) const;
+    bool isDragging() const { return m_drag.has_value(); }
 
-    /// The name that is being dragged.
-    const std::string& draggedTeam() const { return m_draggedTeam; }
+    /// @pre isDragging()
+    const std::string& draggedTeam() const { return m_drag->team; }
 
     /// The drag ended beside the labels.
-    void cancelDrag() { m_dragging = false; }
+    void cancelDrag() { m_drag.reset(); }
 
-    /// @returns the places that the team at a position stands on, along its way from the first round; empty for no team
-    std::vector<int> pathOf(int position) const;
+    /// What the board holds: a player's picks, or the results.
+    const Bracket& bracket() const { return m_bracket; }
 
-    bool marksShown() const { return m_marksShown; }
-    bool resultsMode() const { return m_resultsMode; }
-
-    // The commands.
-    void NewSelection();
-    void OpenSelection();
-    void SaveSelection();
-    void SelectHighSeeds();
-    void DefaultColors();
-    void undo();
-    void redo();
-
-    // BracketBoard
-    void captureBoard() override;
-    Result<Payoffs> payoffs() const override;
-    void MarkScores() override;
-    void ClearMarks() override;
-    void setScoreDisplayOpen(bool open) override;
-    void setReportsEnabled(bool enabled) override { mnuReports.enabled = enabled; }
-    void EnterGameResults() override;
-    void ScoreSelections() override;
-    void PrintForm() override;
-    void showSelection(const std::filesystem::path& file) override;
+    // BoardPrintouts
     ui::Drawing drawing() const override;
+    void enterGameResults() override;
+    void showScored(const std::filesystem::path& file) override;
+    void printForm() override;
 
     // Screen
     std::string helpTopic() const override;
+    void showState() override;
     void load() override;
     void unloading() override;
     bool keyPressed(ui::Control& control, const ui::KeyPress& press) override;
     void gotFocus(ui::Control& control) override;
 
 private:
-    // Loading and showing.
-    void describeControls();
-    void putControlsIntoWords();
-    void explainMenus();
-    void arrangeMenus();
+    /// A press that may become a drag.
+    struct Drag {
+        Position source{};
+        std::string team; ///< who was there when it was pressed
+    };
+
+    // BoardCommands
+    void newSelection() override;
+    void openSelection() override;
+    void saveSelection() override;
+    void previewForm() override;
+    void undo() override;
+    void redo() override;
+    void scoreSelections() override;
+    void selectHighSeeds() override;
+
+    // Showing.
+    BoardPicture picture() const;
+    const Verdicts* shownVerdicts() const;
+    BoardState state() const;
+    FieldLock fieldLock() const;
+    std::string documentName() const;
+    std::string whatToDo() const;
+    Entry typed() const;
+
+    // Changing.
     void loadBoard();
-    void fillFromSetup();
-    void applyFinalized();
-    void applyDemoMode();
-    void applyOpening();
-    void readPlayerNames();
-    void showBoard(const SelectionLines& lines);
-    void clearBoard();
-    TeamNamesOnBoard teams() const;
-    void setTeams(const TeamNamesOnBoard& names);
-    void describePositions();
-    void explainPositions();
-    std::string explanationOf(int position) const;
-    std::string explanationOfMark(int position) const;
-    void describeDocument();
-    void sayWhatToDo();
-    bool resultsExist() const;
-
-    // Modes.
-    void lockFields(bool locked);
-    void hideDefaultColors();
-    void leaveScoreDisplay();
-    void dropHandOver() { m_state.handOver.reset(); }
-    void fieldEdited();
-    void changed();
-    void changeTeams(const TeamNamesOnBoard& after);
-    void lockResultsFields();
-    bool enterKey(const ui::Control& control);
-    bool keyOnPosition(int position, const ui::KeyPress& press);
-
-    // Saving.
-    bool mayBeSaved();
-    void refuse(ui::TextBox& box, const std::string& text);
-    bool finalPointsPass() const;
-    void saveResults();
-    void saveUnder(const std::filesystem::path& chosen);
-    void saveOpenedAs(const std::filesystem::path& chosen);
-    void saveNew(const std::filesystem::path& chosen);
-    bool writeSelection(const std::filesystem::path& file, SaveKind kind);
-
-    // History.
+    void checkPlayerList();
+    void showEntry(Entry entry);
+    void beginUnmarked();
+    void change(const Bracket& after);
+    bool keyOnPosition(Position position, const ui::KeyPress& press);
     BoardSnapshot snapshot() const;
     void restore(const BoardSnapshot& board);
-    void remember();
-    void offerHistory();
 
-    void enterResultsMode();
-    void completeResults();
-    void showVerdict(const std::string& score);
-    void previewForm();
-    std::string printoutTitle() const;
-    void openPlayerNames();
-    void openSetup();
-    void openReports();
-    void demoSet();
-    void demoReset();
-    void displayHelp();
+    // Files.
+    bool resultsExist() const;
+    void showSelection(const std::filesystem::path& file);
+    Entry readEntry(const std::filesystem::path& file);
+    void completeResults(Entry& results) const;
+    bool mayBeSaved();
+    void refuse(ui::TextBox& box, const char* text);
+    void saveResults();
+    bool writeSelection(const std::filesystem::path& file, SaveKind kind);
+    bool writeEntry(const std::filesystem::path& file);
+    void markPicks();
+    void unmarkPicks();
+    void leaveScoreList() { m_screens.unload(ScreenKind::Scores); }
+    ui::DrawingPrintout printout() const;
 
     const DataFolder& m_folder;
     const ui::Platform& m_platform;
-    modTallyhoop& m_state;
     Screens& m_screens;
-    Opening m_opening;
-    BoardHistory m_history;
-    KnownFiles m_known; ///< the selections and the results that were shown or saved
-    int m_sheet = 0;    ///< counts the boards that New began
+    Shared m_shared;
 
-    int m_dragSource = 0;
-    std::string m_draggedTeam;
-    bool m_dragging = false;
-    bool m_marksShown = false;
-    bool m_scoreDisplayOpen = false;
-    bool m_resultsMode = false;
+    Bracket m_bracket;
+    std::optional<Verdicts> m_verdicts; ///< on the picks, while they are marked
+    std::filesystem::path m_openedFile; ///< opened or saved last; empty after New Selection and at the start
+    bool m_resultsMode = false;         ///< the board holds the results
+    bool m_resultsThere = false;        ///< a results file was there when it was last looked for
+    bool m_demo = false;
+    std::string m_news; ///< what the last command has done; empty = the hint says what to do
+
+    std::optional<Drag> m_drag;
+    BoardHistory m_history;
+    int m_sheet = 0;                ///< counts the boards that New began
+    KnownFiles m_known;             ///< the selections and the results that were shown or saved
     bool m_playersFaulty = false;   ///< PLAYERNAMES.CSV has to be repaired
     bool m_toldAboutFolder = false; ///< a folder that cannot be written is mentioned once
 };

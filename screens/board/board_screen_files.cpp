@@ -1,100 +1,82 @@
-#include "screens/board/board_screen.h"
-
-#include "base/numbers.h"
+// Texts are kept letter for letter, odd spellings included.
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "files/file_names.h"
 #include "files/selection_file.h"
-#include "files/settings_file.h"
+#include "pool/entry_check.h"
+#include "screens/board/board_drawing.h"
+#include "screens/board/board_screen.h"
+#include "screens/board/selection_saving.h"
+#include "screens/printing_trouble.h"
+#include "screens/saving.h"
+
+#include <utility>
 
 namespace tallyhoop {
 
 namespace {
 
-constexpr const char* kFilterName = "PoolSelections (*.THC)";
-constexpr const char* kPattern = "*.THC";
-constexpr const char* kNotFinalizedCaption = "INVALID REQUEST TO SAVE FILE";
+constexpr const char* kResultsInitials = "A";
+constexpr const char* kResultsName = "FinalResults";
 constexpr const char* kNotFinalizedText =
     "The SETUP OPTION must be completed and FINALIZED before a Pool Selection can be saved!";
-constexpr const char* kBlankCaption = "Required fields are BLANK or invalid";
-constexpr const char* kInitialsBlank = "Player Initails field is BLANK, this MUST be corrected!"; // sic
+constexpr const char* kInitialsBlank = "Player Initails field is BLANK, this MUST be corrected!";
 constexpr const char* kNameBlank = "Player Name field is BLANK, this MUST be corrected!";
 constexpr const char* kPointsInvalid =
     "Final Game - you must enter a valid prediction (between 50 & 250) for the total score of this game";
-constexpr double kFewestPoints = 50;
-constexpr double kMostPoints = 250;
+constexpr const char* kNoResultsText = "The file TALLYHOOP.THS is not present in the application directory!";
 
-/// The file that a person means by a chosen name: with our ending, and an existing one whatever the case of its
-/// letters.
-std::filesystem::path meantFile(std::filesystem::path chosen)
+void showRefusal(ui::Dialogs& dialogs, const char* caption, const char* text)
 {
-    if (!endsWithFolded(shown(chosen.filename()), file_name::kSelectionEnding))
-        chosen += file_name::kSelectionEnding;
-    std::error_code missing;
-    if (std::filesystem::exists(chosen, missing))
-        return chosen;
-    const DataFolder folder{chosen.parent_path()};
-    const std::string name = shown(chosen.filename());
-    // A letter that our code page lacks is shown as "?": such a name means itself only.
-    const bool isShownWhole = name.find('?') == std::string::npos;
-    return isShownWhole && folder.exists(name) ? folder.pathOf(name).value_or(chosen) : chosen;
+    dialogs.show({caption, text, ui::Buttons::Ok, ui::Icon::Exclamation});
 }
-
-ui::Message question(std::string text) { return {"", std::move(text), ui::Buttons::YesNo, ui::Icon::Question}; }
 
 } // namespace
 
-void BoardScreen::NewSelection()
+bool BoardScreen::resultsExist() const { return m_folder.exists(file_name::kResults); }
+
+void BoardScreen::newSelection()
 {
-    leaveScoreDisplay();
+    leaveScoreList();
     const BoardSnapshot before = snapshot();
     BoardHistory history = m_history;
-    clearBoard();
-    ClearMarks();
-    mnuGameResults.enabled = isFinalized(m_state.setupLines);
+    status.clear();
     loadBoard();
-    hideDefaultColors();
-    mnuSaveSelection.enabled = true;
     // The load forgets the past; a person who chose New by mistake wants it back.
     m_history = std::move(history);
     m_history.remember(before);
     ++m_sheet;
-    offerHistory();
 }
 
-void BoardScreen::OpenSelection()
+void BoardScreen::openSelection()
 {
-    const auto file =
-        m_platform.dialogs.openFile({"Open Selection", kFilterName, kPattern, m_folder.folder(), std::string{}});
+    const auto file = m_platform.dialogs.openFile(selectionChoice(m_folder, "Open Selection", {}));
     if (!file)
         return;
-    leaveScoreDisplay();
+    leaveScoreList();
     showSelection(*file);
 }
 
 void BoardScreen::showSelection(const std::filesystem::path& file)
 {
-    dropHandOver();
-    m_known.note(file);
-    ReadSelections(file, m_platform.dialogs, m_state.selectionLines);
-    showBoard(m_state.selectionLines);
-    m_state.selectionFile.OpenedFile = file;
-    m_resultsMode = false;
-    mnuGameResults.enabled = true;
-    mnuScoreSelections.enabled = resultsExist();
-    ClearMarks();
-    txtPointScore.text.clear();
-    lockFields(false);
-    hideDefaultColors();
-    mnuSaveSelection.enabled = true;
-    unsaved = false;
-    m_history.clear();
-    offerHistory();
-    describeDocument();
-    hint = "Opened " + shown(file.filename()) + ".";
+    m_shared.savedPlayer.reset();
+    showEntry(readEntry(file));
+    m_openedFile = file;
+    beginUnmarked();
+    m_news = "Opened " + shown(file.filename()) + ".";
 }
 
-void BoardScreen::SaveSelection()
+/// Reads a selection or the results to be shown: from now on nobody else's change of the file is overwritten unasked.
+Entry BoardScreen::readEntry(const std::filesystem::path& file)
+{
+    m_known.note(file);
+    Read<Entry> read = readSelectionFile(file, startingBracket(m_shared.field));
+    if (read.trouble)
+        showReadingTrouble(m_platform.dialogs, file);
+    return std::move(read.value);
+}
+
+void BoardScreen::saveSelection()
 {
     if (!mayBeSaved())
         return;
@@ -102,119 +84,161 @@ void BoardScreen::SaveSelection()
         saveResults();
         return;
     }
-    const auto chosen = m_platform.dialogs.saveFile({"Save Selection", kFilterName, kPattern, m_folder.folder(),
-                                                     proposedFileName(txtPlayerName.text, txtPlayerInitials.text)});
-    if (chosen)
-        saveUnder(meantFile(*chosen));
+    const bool isNew = m_openedFile.empty();
+    const std::optional<SaveTarget> target = askWhereToSave(m_platform.dialogs, m_folder, typed(), m_openedFile);
+    if (target && writeSelection(target->file, target->kind) && isNew)
+        m_screens.load(ScreenKind::Players);
 }
 
 bool BoardScreen::mayBeSaved()
 {
-    if (!isFinalized(m_state.setupLines)) {
-        m_platform.dialogs.show({kNotFinalizedCaption, kNotFinalizedText, ui::Buttons::Ok, ui::Icon::Exclamation});
+    if (!m_shared.field.isFinalized()) {
+        showRefusal(m_platform.dialogs, "INVALID REQUEST TO SAVE FILE", kNotFinalizedText);
         return false;
     }
-    if (isBlankField(txtPlayerInitials.text)) {
+    const auto fault = entryFault(typed(), m_resultsMode ? EntryKind::Results : EntryKind::Player);
+    if (fault == EntryFault::Initials)
         refuse(txtPlayerInitials, kInitialsBlank);
-        return false;
-    }
-    if (isBlankField(txtPlayerName.text)) {
+    else if (fault == EntryFault::Name)
         refuse(txtPlayerName, kNameBlank);
-        return false;
-    }
-    if (!finalPointsPass()) {
+    else if (fault == EntryFault::FinalPoints)
         refuse(txtFinalPoints, kPointsInvalid);
-        return false;
-    }
-    return true;
+    return !fault;
 }
 
-/// Results may be saved before the final game is played: only the upper bound holds for them.
-bool BoardScreen::finalPointsPass() const
-{
-    const double points = leadingNumber(txtFinalPoints.text);
-    return points <= kMostPoints && (m_resultsMode || points >= kFewestPoints);
-}
-
-void BoardScreen::refuse(ui::TextBox& box, const std::string& text)
+void BoardScreen::refuse(ui::TextBox& box, const char* text)
 {
     if (!box.locked)
         focused = &box;
-    m_platform.dialogs.show({kBlankCaption, text, ui::Buttons::Ok, ui::Icon::Exclamation});
+    showRefusal(m_platform.dialogs, "Required fields are BLANK or invalid", text);
 }
 
 void BoardScreen::saveResults()
 {
-    captureBoard();
-    const auto file = m_folder.pathOf(file_name::kResults);
-    if (!file || !SaveSelections(*file, m_platform.dialogs, m_known, m_state.selectionLines))
+    if (!writeEntry(m_folder.pathTo(file_name::kResults)))
         return;
-    unsaved = false;
-    m_history.boardWasSaved(m_sheet, m_state.selectionFile.OpenedFile);
-    hint = "The results are saved.";
-}
-
-void BoardScreen::saveUnder(const std::filesystem::path& chosen)
-{
-    if (m_state.selectionFile.OpenedFile.empty())
-        saveNew(chosen);
-    else
-        saveOpenedAs(chosen);
-}
-
-void BoardScreen::saveOpenedAs(const std::filesystem::path& chosen)
-{
-    const std::filesystem::path opened = m_state.selectionFile.OpenedFile;
-    if (isSameFile(chosen, opened)) {
-        writeSelection(opened, SaveKind::SameName);
-        return;
-    }
-    if (demoModeIsOn(m_folder)) {
-        m_platform.dialogs.show({"",
-                                 "You are not allowed to save a New File \r\n"
-                                 "Name when executing under DEMO Mode",
-                                 ui::Buttons::Ok, ui::Icon::Exclamation});
-        return;
-    }
-    const std::string text = "You opened the file:    " + shown(opened) + "\r\n" +
-                             "Now you are attempting to save this \r\n" + "  file under the name:    " + shown(chosen) +
-                             "\r\n\r\n" + "IS THIS CORRECT?";
-    if (m_platform.dialogs.show(question(text)) == ui::Answer::Yes)
-        writeSelection(chosen, SaveKind::NewFile);
-}
-
-void BoardScreen::saveNew(const std::filesystem::path& chosen)
-{
-    if (demoModeIsOn(m_folder)) {
-        m_platform.dialogs.show({"",
-                                 "You are not allowed to save a New File \r\n"
-                                 "when executing under DEMO Mode",
-                                 ui::Buttons::Ok, ui::Icon::Exclamation});
-        return;
-    }
-    std::error_code missing;
-    const bool exists = std::filesystem::exists(chosen, missing);
-    const std::string text = "Do you want to replace the existing file ?\r\n" + shown(chosen);
-    if (exists && m_platform.dialogs.show(question(text)) != ui::Answer::Yes)
-        return;
-    if (writeSelection(chosen, exists ? SaveKind::Replaced : SaveKind::NewFile))
-        m_screens.load(ScreenKind::PlayerNames);
+    m_history.boardWasSaved(m_sheet, m_openedFile);
+    m_news = "The results are saved.";
 }
 
 bool BoardScreen::writeSelection(const std::filesystem::path& file, SaveKind kind)
 {
-    captureBoard();
-    if (!SaveSelections(file, m_platform.dialogs, m_known, m_state.selectionLines))
+    if (!writeEntry(file))
         return false;
-    m_state.selectionFile.OpenedFile = file;
-    m_state.handOver = PlayerHandOver{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};
-    unsaved = false;
-    m_history.boardWasSaved(m_sheet, m_state.selectionFile.OpenedFile);
-    describeDocument();
+    m_openedFile = file;
+    m_history.boardWasSaved(m_sheet, m_openedFile);
+    m_shared.savedPlayer = SavedPlayer{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};
     const bool scored = isSameFile(file, m_folder.folder() / file.filename());
-    hint = "Saved " + shown(file.filename()) +
-           (scored ? "." : ". Only files in the program's folder are scored; this one is elsewhere.");
+    m_news = "Saved " + shown(file.filename()) +
+             (scored ? "." : ". Only files in the program's folder are scored; this one is elsewhere.");
     return true;
 }
+
+bool BoardScreen::writeEntry(const std::filesystem::path& file)
+{
+    Entry entry = typed();
+    entry.initials = upperCase(entry.initials);
+    if (!saveFile(m_platform.dialogs, m_known, file, selectionFile(entry), shown(file),
+                  " Check your selection and retry."))
+        return false;
+    unsaved = false;
+    return true;
+}
+
+void BoardScreen::enterGameResults()
+{
+    leaveScoreList();
+    m_shared.savedPlayer.reset();
+    const std::filesystem::path file = m_folder.pathTo(file_name::kResults);
+    if (resultsExist()) {
+        Entry results = readEntry(file);
+        completeResults(results);
+        showEntry(std::move(results));
+    } else {
+        m_known.note(file);
+        status.clear();
+        loadBoard();
+        showEntry({m_bracket, kResultsInitials, kResultsName, {}, {}});
+    }
+    beginUnmarked();
+    m_resultsMode = true;
+}
+
+/// A damaged results file may lack what saving needs; what is missing comes from the field and the fixed names.
+void BoardScreen::completeResults(Entry& results) const
+{
+    if (isBlankField(results.initials))
+        results.initials = kResultsInitials;
+    if (isBlankField(results.name))
+        results.name = kResultsName;
+    for (const TeamRow row : allTeamRows())
+        if (results.picks.isEmpty(positionOf(row)))
+            results.picks.put(positionOf(row), m_shared.field.teams[row]);
+}
+
+void BoardScreen::scoreSelections()
+{
+    m_drag.reset(); // neither the marks nor the list of scores let it end
+    if (m_resultsMode) {
+        m_screens.load(ScreenKind::Scores);
+        return;
+    }
+    m_resultsThere = resultsExist();
+    if (m_resultsThere)
+        markPicks();
+    else
+        showRefusal(m_platform.dialogs, "INVALID REQUEST TO LOAD FILE", kNoResultsText);
+}
+
+void BoardScreen::markPicks()
+{
+    const Result<Payoffs>& payoffs = m_shared.field.payoffs.points();
+    if (!payoffs) {
+        showTrouble(m_platform.dialogs, payoffs.failure());
+        return;
+    }
+    const std::filesystem::path file = m_folder.pathTo(file_name::kResults);
+    const Read<Entry> results = readSelectionFile(file, m_bracket);
+    if (results.trouble)
+        showReadingTrouble(m_platform.dialogs, file);
+    Entry entry = typed();
+    entry.fileName = file_name::kResults;
+    const Result<PlayerScore> score = scoreEntry(entry, results.value.picks, *payoffs);
+    if (!score) {
+        showTrouble(m_platform.dialogs, score.failure());
+        return;
+    }
+    m_verdicts = score->verdicts;
+    txtPointScore.text = "Points: " + std::to_string(score->points) + " / " + std::to_string(score->maxPoints);
+    m_news = "Green = right, red X wrong; picks that are still open stay blue.";
+}
+
+void BoardScreen::unmarkPicks()
+{
+    m_verdicts.reset();
+    m_news.clear();
+}
+
+void BoardScreen::showScored(const std::filesystem::path& file)
+{
+    showSelection(file);
+    scoreSelections();
+}
+
+ui::Drawing BoardScreen::drawing() const { return drawBoard(picture(), typed(), txtPointScore.text); }
+
+ui::DrawingPrintout BoardScreen::printout() const
+{
+    const std::string printed = documentName();
+    return {printed.empty() ? m_shared.field.title : printed, drawing(), ui::Orientation::Landscape};
+}
+
+void BoardScreen::printForm()
+{
+    if (m_platform.printer.choosePrinter() && !m_platform.printer.print(printout()))
+        showPrintingTrouble(m_platform.dialogs);
+}
+
+void BoardScreen::previewForm() { m_platform.printer.preview(printout()); }
 
 } // namespace tallyhoop

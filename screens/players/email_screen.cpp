@@ -4,15 +4,17 @@
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "screens/help_topics.h"
+#include "screens/list_search.h"
+#include "screens/saving.h"
 
 #include <algorithm>
-#include <cstdint>
 #include <utility>
 
 namespace tallyhoop {
 
 namespace {
 
+// Texts are kept letter for letter, odd spellings included.
 constexpr const char* kCaption = "Tallyhoop - EMail Selections";
 
 const ui::Message kFaultyPlayerNames{kCaption,
@@ -55,25 +57,14 @@ std::string listRow(const PlayerRecord& record)
     return fitted(record.name, kNameWidth) + "  (" + addressOf(record) + ")";
 }
 
-/// @returns the character code that the list search knows a key by, 0 for keys it leaves alone
-std::int16_t keyCodeOf(const ui::KeyPress& press)
-{
-    if (press.control || press.alt)
-        return 0; // a shortcut, not text
-    if (press.key == ui::Key::Backspace)
-        return 8;
-    return press.key == ui::Key::Character ? static_cast<std::int16_t>(static_cast<unsigned char>(press.character))
-                                           : std::int16_t{0};
-}
-
 } // namespace
 
-EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens)
+EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, MailDraft& draft)
     : ui::Screen{"frmPoolEMail", kCaption},
       m_folder{folder},
       m_dialogs{platform.dialogs},
-      m_state{state},
-      m_screens{screens}
+      m_screens{screens},
+      m_draft{draft}
 {
     lstPlayerNames.fixedPitch = true;
     lstPlayerNames.spokenName = "Players";
@@ -100,25 +91,34 @@ EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform,
          std::initializer_list<ui::Control*>{&txtEntry, &cmdFreeEntry, &cmdUseList, &lstPlayerNames, &lstTo, &cmdDelete,
                                              &txtSubject, &txtMessage, &cmdSend, &cmdExit})
         control->tabIndex = tab++;
-    setFreeEntry(false);
+    focused = &txtEntry;
 }
 
 std::string EmailScreen::helpTopic() const { return m_playersFaulty ? help_topic::kRepair : help_topic::kEmail; }
 
 void EmailScreen::load()
 {
-    m_state.mailDraft.subject.clear();
-    m_state.mailDraft.message.clear();
-    countRecipients();
-    if (!validatePlayerNames(m_folder, m_dialogs)) {
-        m_playersFaulty = true;
+    m_draft.subject.clear();
+    m_draft.message.clear();
+    m_playersFaulty = !playerListIsSound(m_dialogs, m_folder);
+    if (m_playersFaulty) {
         m_dialogs.show(kFaultyPlayerNames);
         return;
     }
     const std::vector<PlayerRecord> records = readPlayerNames(m_folder);
     fillPlayers(records);
-    if (m_state.mailDraft.emailAll)
+    if (m_draft.toEverybody)
         addressEverybody(records);
+}
+
+void EmailScreen::showState()
+{
+    lblTo.text = "Send To: (" + std::to_string(lstTo.rows.size()) + ")";
+    cmdFreeEntry.enabled = !m_freeEntry;
+    cmdUseList.enabled = m_freeEntry;
+    txtEntry.explanation = m_freeEntry
+                               ? "Type an address, and press Enter to add it."
+                               : "Type the first letters of a player's name, and press Enter to add the address.";
 }
 
 void EmailScreen::fillPlayers(std::span<const PlayerRecord> records)
@@ -140,7 +140,6 @@ void EmailScreen::addressEverybody(std::span<const PlayerRecord> records)
     for (const PlayerRecord& record : records)
         if (std::string address = addressOf(record); !address.empty())
             lstTo.rows.push_back(std::move(address));
-    countRecipients();
     if (lstTo.rows.size() < records.size())
         m_dialogs.show(kSomebodyWithoutAddress);
 }
@@ -152,26 +151,7 @@ bool EmailScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
         enter();
         return true;
     }
-    return inEntry && !m_freeEntry && searchList(press);
-}
-
-/// @returns true when the search dealt with the key
-bool EmailScreen::searchList(const ui::KeyPress& press)
-{
-    std::int16_t keyCode = keyCodeOf(press);
-    if (keyCode == 0)
-        return false;
-    SearchSource source{.text = txtEntry.text,
-                        .selectionStart = txtEntry.selectionStart,
-                        .selectionLength = txtEntry.selectionLength,
-                        .ownList = {}};
-    SearchList list{.rows = lstPlayerNames.rows, .selected = lstPlayerNames.selected};
-    m_search.FindIndexStr(source, txtEntry.text, keyCode, &list);
-    txtEntry.text = std::move(source.text);
-    txtEntry.selectionStart = source.selectionStart;
-    txtEntry.selectionLength = source.selectionLength;
-    lstPlayerNames.selected = list.selected;
-    return keyCode == 0;
+    return inEntry && !m_freeEntry && typeAhead(txtEntry, lstPlayerNames, press);
 }
 
 /// Text that did not come through the search (pasted, or accented letters): the selected row must not be another
@@ -189,10 +169,8 @@ void EmailScreen::enter()
             txtEntry.text.clear();
         return;
     }
-    if (std::string address = withoutOuterBlanks(txtEntry.text); !address.empty()) {
+    if (std::string address = withoutOuterBlanks(txtEntry.text); !address.empty())
         lstTo.rows.push_back(std::move(address));
-        countRecipients();
-    }
     txtEntry.text.clear();
 }
 
@@ -207,17 +185,12 @@ bool EmailScreen::addSelectedPlayer()
         return false;
     }
     lstTo.rows.push_back(address);
-    countRecipients();
     return true;
 }
 
 void EmailScreen::setFreeEntry(bool on)
 {
     m_freeEntry = on;
-    cmdFreeEntry.enabled = !on;
-    cmdUseList.enabled = on;
-    txtEntry.explanation = on ? "Type an address, and press Enter to add it."
-                              : "Type the first letters of a player's name, and press Enter to add the address.";
     focused = &txtEntry;
 }
 
@@ -236,28 +209,22 @@ void EmailScreen::deleteRecipient()
     lstTo.rows.erase(lstTo.rows.begin() + *lstTo.selected);
     lstTo.selected.reset();
     focused = &txtEntry;
-    countRecipients();
 }
 
 void EmailScreen::sendEmail()
 {
     if (lstTo.rows.empty() && m_dialogs.show(kNoRecipients) == ui::Answer::Cancel)
         return;
-    MailDraft& draft = m_state.mailDraft;
-    draft.recipients = lstTo.rows;
-    draft.message = txtMessage.text;
-    draft.subject = txtSubject.text;
-    m_screens.unload(ScreenKind::EMail);
+    m_draft.recipients = lstTo.rows;
+    m_draft.message = txtMessage.text;
+    m_draft.subject = txtSubject.text;
+    m_screens.unload(ScreenKind::Email);
 }
 
 void EmailScreen::cancel()
 {
-    m_state.mailDraft.cancelled = true;
-    m_screens.unload(ScreenKind::EMail);
+    m_draft.cancelled = true;
+    m_screens.unload(ScreenKind::Email);
 }
-
-void EmailScreen::closeRequested() { cancel(); }
-
-void EmailScreen::countRecipients() { lblTo.text = "Send To: (" + std::to_string(lstTo.rows.size()) + ")"; }
 
 } // namespace tallyhoop

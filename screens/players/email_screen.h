@@ -3,8 +3,7 @@
 
 #include "files/data_folder.h"
 #include "files/player_names_file.h"
-#include "screens/list_search.h"
-#include "screens/mod_tallyhoop.h"
+#include "screens/hand_overs.h"
 #include "screens/screens.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
@@ -17,12 +16,12 @@
 
 namespace tallyhoop {
 
-/// Modal. The request (`emailAll`) is read from the shared mail draft, and the result is left there: recipients,
-/// subject and message on Send Email, the cancelled flag alone on Exit/Cancel. Nothing is sent from here.
+/// Modal. The request is read from the mail draft, and the result is left there: recipients, subject and message on
+/// Send Email, the cancelled flag alone on Exit/Cancel. Nothing is sent from here.
 class EmailScreen : public ui::Screen
 {
 public:
-    EmailScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens);
+    EmailScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, MailDraft& draft);
 
     ui::Label lblEntry{this, "lblEntry", "Enter Email Addresses"};
     ui::TextBox txtEntry{this, "txtEntry", [this] { entryEdited(); }};
@@ -41,13 +40,13 @@ public:
 
     std::string helpTopic() const override;
     void load() override;
-    void closeRequested() override;
+    void showState() override;
+    void closeRequested() override { cancel(); }
     bool keyPressed(ui::Control& control, const ui::KeyPress& press) override;
 
 private:
     void fillPlayers(std::span<const PlayerRecord> records);
     void addressEverybody(std::span<const PlayerRecord> records);
-    bool searchList(const ui::KeyPress& press);
     void entryEdited();
     void enter();
     bool addSelectedPlayer();
@@ -56,17 +55,15 @@ private:
     void deleteRecipient();
     void sendEmail();
     void cancel();
-    void countRecipients();
 
     const DataFolder& m_folder;
     ui::Dialogs& m_dialogs;
-    modTallyhoop& m_state;
     Screens& m_screens;
+    MailDraft& m_draft;
 
     std::vector<std::string> m_addresses; ///< by row of lstPlayerNames, without trailing blanks; empty = none
     bool m_playersFaulty = false;         ///< PLAYERNAMES.CSV has to be repaired
     bool m_freeEntry = false;             ///< addresses are typed, not looked up
-    ListSearch m_search;
 };
 
 } // namespace tallyhoop

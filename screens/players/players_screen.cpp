@@ -7,6 +7,7 @@
 #include "files/selection_of_player.h"
 #include "screens/help_topics.h"
 #include "screens/players/field_text.h"
+#include "screens/saving.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -17,6 +18,7 @@ namespace tallyhoop {
 
 namespace {
 
+// Texts are kept letter for letter, odd spellings included.
 constexpr const char* kTitle = "Pool Names Maintenance";
 
 const ui::Message kSelectBeforeChange{kTitle, "** You need to select one record prior to CHANGE **", ui::Buttons::Ok,
@@ -32,18 +34,19 @@ const ui::Message kNoSelections{kTitle,
                                 ui::Buttons::OkCancel, ui::Icon::Question};
 const ui::Message kBothDeleted{kTitle,
                                "The player record and the Pool Selections\r\n"
-                               "will both be deleted if you continue, Ok??", // sic
+                               "will both be deleted if you continue, Ok??",
                                ui::Buttons::OkCancel, ui::Icon::Question};
+constexpr const char* kUnusableStatus = "The player list cannot be used until PLAYERNAMES.CSV is corrected";
 
 } // namespace
 
-PlayersScreen::PlayersScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state,
-                             Screens& screens)
+PlayersScreen::PlayersScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens,
+                             std::optional<SavedPlayer>& saved)
     : ui::Screen{"frmPoolNames", "PlayerName Edit"},
       m_folder{folder},
       m_dialogs{platform.dialogs},
-      m_state{state},
-      m_screens{screens}
+      m_screens{screens},
+      m_saved{saved}
 {
     txtFileName.locked = true;
     txtFileName.tabStop = false;
@@ -74,10 +77,10 @@ void PlayersScreen::explainControls()
     txtName.explanation = "Last name, a comma, initials: the list is in the order of the names.";
     txtFileName.explanation = "The player's selection file.";
     txtEmail.explanation = "Where reports are sent.";
-    txtPhone.explanation = "Stands in the list and in the Player Listing.";
+    txtPhone.explanation = "Shown in the list and in the Player Listing.";
     lstNames.explanation = "Select a player to see the record in the boxes above.";
-    cmdAdd.explanation = "Adds what stands in the boxes as a new player, saves the list and closes it.";
-    cmdChange.explanation = "Puts what stands in the boxes into the selected row.";
+    cmdAdd.explanation = "Adds what is in the boxes as a new player, saves the list and closes it.";
+    cmdChange.explanation = "Puts what is in the boxes into the selected row.";
     cmdDelete.explanation = "Deletes the selected player and, when you leave with Done, the selection file.";
     cmdCancel.explanation = "Leaves and forgets what was added, changed and deleted.";
     cmdExit.explanation = "Saves the list and leaves.";
@@ -88,23 +91,32 @@ std::string PlayersScreen::helpTopic() const { return m_listFaulty ? help_topic:
 void PlayersScreen::load()
 {
     m_known.note(m_folder.pathTo(file_name::kPlayerNames));
-    const bool sound = validatePlayerNames(m_folder, m_dialogs);
-    if (m_state.handOver) {
-        txtFileName.text = recordedFileName(m_folder, m_state.handOver->file);
-        txtName.text = m_state.handOver->LastPlayer;
+    m_listFaulty = !playerListIsSound(m_dialogs, m_folder);
+    if (m_saved) {
+        txtFileName.text = recordedFileName(m_folder, m_saved->file);
+        txtName.text = m_saved->name;
     }
-    m_listFaulty = !sound;
-    if (m_listFaulty) {
-        // The faulty file must not be replaced by what little could be read of it.
-        for (ui::Command* command : {&cmdAdd, &cmdChange, &cmdDelete})
-            command->enabled = false;
-        status = "The player list cannot be used until PLAYERNAMES.CSV is corrected";
+    if (m_listFaulty)
         return;
-    }
     fillList();
-    if (m_state.handOver)
-        takeHandOver(*m_state.handOver);
-    countPlayers();
+    if (m_saved)
+        enterSaved(*m_saved);
+}
+
+void PlayersScreen::showState()
+{
+    const bool onlyChange = m_mode == SaveKind::SameName;
+    // A faulty file must not be replaced by what little could be read of it.
+    cmdChange.enabled = !m_listFaulty;
+    cmdAdd.enabled = cmdDelete.enabled = !m_listFaulty && !onlyChange;
+    cmdExit.enabled = lstNames.enabled = !onlyChange;
+    cmdAdd.isDefault = m_mode == SaveKind::NewFile;
+    cmdChange.isDefault = m_mode == SaveKind::SameName;
+    cmdExit.isDefault = m_mode == SaveKind::Replaced;
+
+    unsaved = m_changed;
+    const std::size_t players = lstNames.rows.size();
+    status = m_listFaulty ? kUnusableStatus : std::to_string(players) + (players == 1 ? " player" : " players");
 }
 
 void PlayersScreen::fillList()
@@ -116,24 +128,25 @@ void PlayersScreen::fillList()
     lstNames.rows = std::move(rows);
 }
 
-void PlayersScreen::takeHandOver(const PlayerHandOver& handOver)
+void PlayersScreen::enterSaved(const SavedPlayer& saved)
 {
+    focused = &txtEmail;
     const auto row = std::ranges::find_if(lstNames.rows, [&](const std::string& text) {
         return recordStandsFor(m_folder, parsePlayerRow(text).fileName, txtFileName.text);
     });
     if (row == lstNames.rows.end()) {
         m_mode = SaveKind::NewFile;
-        cmdAdd.isDefault = true;
-        focused = &txtEmail;
         return;
     }
-    lstNames.selected = static_cast<int>(row - lstNames.rows.begin());
-    m_mode = handOver.LastSaveKind == SaveKind::SameName ? SaveKind::SameName : SaveKind::Replaced;
-    if (m_mode == SaveKind::SameName)
-        enterListMode();
-    else
-        takeRowOut(*lstNames.selected, handOver.LastPlayer);
-    focused = &txtEmail;
+    const auto index = static_cast<int>(row - lstNames.rows.begin());
+    if (saved.kind == SaveKind::SameName) {
+        m_mode = SaveKind::SameName;
+        lstNames.selected = index;
+        showSelectedRow();
+        return;
+    }
+    m_mode = SaveKind::Replaced;
+    takeRowOut(index, saved.name);
 }
 
 void PlayersScreen::takeRowOut(int row, const std::string& playerName)
@@ -142,20 +155,8 @@ void PlayersScreen::takeRowOut(int row, const std::string& playerName)
     fillBoxes(parsePlayerRow(*at));
     txtName.text = playerName;
     lstNames.rows.erase(at);
-    lstNames.selected.reset();
     m_boxesHoldRecord = true;
-    cmdExit.isDefault = true;
-    changed();
-}
-
-void PlayersScreen::enterListMode()
-{
-    showSelectedRow();
-    cmdChange.enabled = true;
-    cmdChange.isDefault = true;
-    for (ui::Command* command : {&cmdAdd, &cmdDelete, &cmdExit})
-        command->enabled = false;
-    lstNames.enabled = false;
+    m_changed = true;
 }
 
 void PlayersScreen::showSelectedRow()
@@ -168,7 +169,7 @@ void PlayersScreen::addRecord()
 {
     std::vector<std::string> rows = lstNames.rows;
     insertSorted(rows, rowFromBoxes());
-    changed();
+    m_changed = true;
     // Should the list not be written now, Done (or another row selected) still finds the record in the boxes.
     m_boxesHoldRecord = true;
     finish(std::move(rows));
@@ -189,7 +190,7 @@ void PlayersScreen::completeChanges()
         *row = rowFromBoxes();
     else
         rows.erase(row);
-    changed();
+    m_changed = true;
     if (m_mode == SaveKind::SameName) {
         finish(std::move(rows)); // The boxes stay filled until the list is written: another try needs them.
         return;
@@ -197,7 +198,6 @@ void PlayersScreen::completeChanges()
     lstNames.rows = std::move(rows);
     lstNames.selected.reset(); // The boxes are empty now: a second press must not take them for this row's.
     emptyBoxes();
-    countPlayers();
 }
 
 void PlayersScreen::deleteSelection()
@@ -234,7 +234,7 @@ void PlayersScreen::finish(std::vector<std::string> rows)
     records.reserve(rows.size());
     for (const std::string& row : rows)
         records.push_back(parsePlayerRow(row));
-    if (!savePlayerNames(m_folder, m_dialogs, m_known, records))
+    if (!saveDataFile(m_dialogs, m_known, m_folder, file_name::kPlayerNames, playerNamesFile(records)))
         return;
     lstNames.rows = std::move(rows);
     lstNames.selected.reset();
@@ -247,11 +247,7 @@ void PlayersScreen::finish(std::vector<std::string> rows)
     close();
 }
 
-void PlayersScreen::close() { m_screens.unload(ScreenKind::PlayerNames); }
-
-void PlayersScreen::closeRequested() { cmdCancel.click(); }
-
-void PlayersScreen::unloading() { m_state.handOver.reset(); }
+void PlayersScreen::close() { m_screens.unload(ScreenKind::Players); }
 
 bool PlayersScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
 {
@@ -286,8 +282,6 @@ void PlayersScreen::fillBoxes(const PlayerRecord& record)
     txtPhone.text = trimTrailingBlanks(record.phone);
 }
 
-void PlayersScreen::emptyBoxes() { fillBoxes({}); }
-
 /// The record in the boxes goes back into the list before they show another, so that no player vanishes.
 void PlayersScreen::putBoxesBack()
 {
@@ -297,7 +291,6 @@ void PlayersScreen::putBoxesBack()
     const auto at = static_cast<int>(insertSorted(lstNames.rows, rowFromBoxes()));
     if (lstNames.selected && at <= *lstNames.selected)
         ++*lstNames.selected;
-    countPlayers();
 }
 
 void PlayersScreen::removeSelectedRow()
@@ -305,20 +298,7 @@ void PlayersScreen::removeSelectedRow()
     lstNames.rows.erase(lstNames.rows.begin() + *lstNames.selected);
     lstNames.selected.reset();
     emptyBoxes();
-    changed();
-    countPlayers();
-}
-
-void PlayersScreen::changed()
-{
     m_changed = true;
-    unsaved = true;
-}
-
-void PlayersScreen::countPlayers()
-{
-    const std::size_t players = lstNames.rows.size();
-    status = std::to_string(players) + (players == 1 ? " player" : " players");
 }
 
 } // namespace tallyhoop

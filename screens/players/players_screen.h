@@ -4,12 +4,13 @@
 #include "files/data_folder.h"
 #include "files/known_files.h"
 #include "files/player_names_file.h"
-#include "screens/mod_tallyhoop.h"
+#include "screens/hand_overs.h"
 #include "screens/screens.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,13 +19,15 @@ namespace tallyhoop {
 /// Shows the players of PLAYERNAMES.CSV in alphabetical order; adds, changes and deletes records, and with a record the
 /// player's selection file. Nothing reaches the disk before Done (or Add Record): until then Cancel drops everything.
 ///
-/// When a save on the board left a player to enter, the screen opens in one of three modes: a new player to add ("A"),
-/// the player's own record taken out of the list into the boxes ("O"), or the record selected and everything but
-/// Complete Changes and Cancel disabled ("C").
+/// When a save on the board left a player to enter, the screen opens in one of three modes: a new player to add, the
+/// player's own record taken out of the list into the boxes, or, after a save under the same name, the record selected
+/// and everything but Complete Changes and Cancel disabled.
 class PlayersScreen : public ui::Screen
 {
 public:
-    PlayersScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens);
+    /// @param saved the player to enter, if any; nothing once the screen is unloaded
+    PlayersScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens,
+                  std::optional<SavedPlayer>& saved);
 
     ui::Label lblName{this, "lblName", "Name (Last, IN):"};
     ui::TextBox txtName{this, "txtName"};
@@ -44,17 +47,17 @@ public:
 
     std::string helpTopic() const override;
     void load() override;
-    void closeRequested() override;
-    void unloading() override;
+    void showState() override;
+    void closeRequested() override { close(); }
+    void unloading() override { m_saved.reset(); }
     bool keyPressed(ui::Control& control, const ui::KeyPress& press) override;
     bool pasted(ui::TextBox& box, const std::string& text) override;
 
 private:
     void explainControls();
     void fillList();
-    void takeHandOver(const PlayerHandOver& handOver);
+    void enterSaved(const SavedPlayer& saved);
     void takeRowOut(int row, const std::string& playerName);
-    void enterListMode();
     void showSelectedRow();
     void addRecord();
     void completeChanges();
@@ -65,19 +68,17 @@ private:
 
     std::string rowFromBoxes();
     void fillBoxes(const PlayerRecord& record);
-    void emptyBoxes();
+    void emptyBoxes() { fillBoxes({}); }
     void putBoxesBack();
     void removeSelectedRow();
-    void changed();
-    void countPlayers();
 
     const DataFolder& m_folder;
     ui::Dialogs& m_dialogs;
-    modTallyhoop& m_state;
     Screens& m_screens;
+    std::optional<SavedPlayer>& m_saved;
     KnownFiles m_known; ///< the player list as it was read
 
-    SaveKind m_mode = SaveKind::None;                      ///< None = opened without a player to enter
+    std::optional<SaveKind> m_mode;                        ///< nothing = opened without a player to enter
     bool m_listFaulty = false;                             ///< PLAYERNAMES.CSV has to be repaired
     bool m_changed = false;                                ///< set by every add, change and delete
     bool m_boxesHoldRecord = false;                        ///< the boxes hold a record that no row holds

@@ -1,11 +1,14 @@
 // screens/reports/report_maker.cpp - what each report checks and reads before it is laid out.
+// Texts are kept letter for letter, odd spellings included.
 #include "screens/reports/report_maker.h"
 
 #include "base/lines.h"
 #include "files/file_names.h"
 #include "files/player_names_file.h"
+#include "files/pool_files.h"
 #include "files/selection_file.h"
 #include "pool/projection.h"
+#include "pool/scoring.h"
 #include "reports/player_listing.h"
 #include "reports/player_selection_detail.h"
 #include "reports/results_by_player.h"
@@ -13,6 +16,8 @@
 #include "reports/standings.h"
 #include "reports/team_selection_detail.h"
 #include "screens/help_topics.h"
+#include "screens/saving.h"
+#include "ui/work.h"
 
 #include <utility>
 
@@ -39,13 +44,13 @@ NoReport failed(const ReportKind& kind, const std::string& reason) { return {rep
 
 NoReport cancelled(const ReportKind& kind)
 {
-    return {{kind.failureTitle, kCancelled, ui::Buttons::Ok, ui::Icon::Information}, false, true};
+    return {{kind.failureTitle, kCancelled, ui::Buttons::Ok, ui::Icon::Information}, WithoutReport::EndRun};
 }
 
 /// @returns nothing when the projections are possible
-std::optional<NoReport> finalFourTrouble(const SelectionLines& results, FinalFour& finalFour)
+std::optional<NoReport> finalFourTrouble(const Bracket& results)
 {
-    const FinalFourState state = ChkFinalFour(results, finalFour);
+    const FinalFourState state = finalFourState(results);
     if (state == FinalFourState::Known)
         return std::nullopt;
     const char* text = state == FinalFourState::Incomplete ? kFinalFourIncomplete : kChampionKnown;
@@ -59,10 +64,27 @@ MadeReport outcome(const ReportKind& kind, const Result<ReportLines>& lines)
     return *lines;
 }
 
+/// @returns the headings and the players of PLAYERNAMES.CSV, as its records hold them
+std::vector<PlayerListingRow> listingRows(std::string_view playerNames)
+{
+    std::vector<PlayerListingRow> rows;
+    for (const std::string& line : linesOf(playerNames)) {
+        const PlayerRecord record = parseRecord(line);
+        rows.push_back({record.name, record.fileName, record.email, record.phone});
+    }
+    return rows;
+}
+
 } // namespace
 
-ReportMaker::ReportMaker(const DataFolder& folder, const ui::Platform& platform, const BracketBoard& board)
-    : m_folder{folder}, m_platform{platform}, m_board{board}
+ui::Message reportFailure(const ReportKind& kind, const std::string& reason)
+{
+    return {kind.failureTitle, reason.empty() ? "General Error Condition" : reason, ui::Buttons::Ok,
+            ui::Icon::Critical};
+}
+
+ReportMaker::ReportMaker(const DataFolder& folder, const ui::Platform& platform, const Field& field)
+    : m_folder{folder}, m_platform{platform}, m_field{field}
 {
 }
 
@@ -90,13 +112,13 @@ MadeReport ReportMaker::make(const ReportKind& kind, const std::string& title, s
 MadeReport ReportMaker::makeStandings(const Request& request)
 {
     ScoringInput input;
-    if (auto trouble = openResults(request, "\"Tournament Standings Report\" cannot be prepared.", input))
+    if (auto trouble = readResults(request, "\"Tournament Standings Report\" cannot be prepared.", input))
         return *trouble;
-    if (auto trouble = openPool(request, input))
+    if (auto trouble = readEntriesAndPayoffs(request, input))
         return *trouble;
 
-    Work work{m_platform.progress, request.kind.name, input.pool.players.size()};
-    const auto scores = scorePool(input.pool, input.results, input.payoffs, work);
+    Work work{m_platform.progress, request.kind.name, input.entries.size()};
+    const auto scores = scoreEntries(input.entries, input.results, input.payoffs, [&work] { return work.step(); });
     if (!scores)
         return failed(request.kind, scores.failure().message);
     if (work.cancelled())
@@ -106,7 +128,7 @@ MadeReport ReportMaker::makeStandings(const Request& request)
 
 MadeReport ReportMaker::makePlayerListing(const Request& request)
 {
-    if (!validatePlayerNames(m_folder, m_platform.dialogs)) {
+    if (!playerListIsSound(m_platform.dialogs, m_folder)) {
         NoReport refusal = failed(request.kind, kFaultyPlayerNames);
         refusal.message.helpTopic = help_topic::kRepair;
         return refusal;
@@ -114,7 +136,7 @@ MadeReport ReportMaker::makePlayerListing(const Request& request)
     const Result<std::string> bytes = m_folder.read(file_name::kPlayerNames);
     if (!bytes)
         return failed(request.kind, bytes.failure().message);
-    return playerListingLines(request.title, linesOf(*bytes));
+    return playerListingLines(request.title, listingRows(*bytes));
 }
 
 MadeReport ReportMaker::makeTeamSelection(const Request& request)
@@ -124,19 +146,14 @@ MadeReport ReportMaker::makeTeamSelection(const Request& request)
         return NoReport{{"Tallyhoop - TeamSelSetup",
                          std::string{kNoFiles} + "Team Selection Reports cannot be prepared.", ui::Buttons::Ok,
                          ui::Icon::Exclamation},
-                        isSummary};
-    const std::optional<ReadPool> pool = readPlayers(request);
-    if (!pool)
+                        isSummary ? WithoutReport::Untick : WithoutReport::KeepTick};
+    const std::optional<std::vector<Entry>> players = readPlayers(request, startingBracket(m_field));
+    if (!players)
         return cancelled(request.kind);
     const Work work{m_platform.progress, request.kind.name, 1}; // sorting all picks takes a moment
-    const std::vector<std::string> entries = pickEntries(*pool);
-    if (isSummary)
-        return outcome(request.kind, teamSelectionSummaryLines(request.title, entries));
-
-    TeamSelectionDetail detail = teamSelectionDetail(request.title, entries);
-    if (detail.trouble)
-        return NoReport{*detail.trouble};
-    return std::move(detail.lines);
+    const std::vector<std::string> picks = pickEntries(*players);
+    return outcome(request.kind, isSummary ? teamSelectionSummaryLines(request.title, picks)
+                                           : teamSelectionDetailLines(request.title, picks));
 }
 
 MadeReport ReportMaker::makePlayerSelectionDetail(const Request& request)
@@ -145,37 +162,40 @@ MadeReport ReportMaker::makePlayerSelectionDetail(const Request& request)
         return NoReport{{request.kind.failureTitle,
                          std::string{kNoFiles} + "\"Player Selection Detail\" report cannot be prepared.",
                          ui::Buttons::Ok, ui::Icon::None},
-                        false};
-    const std::optional<ReadPool> pool = readPlayers(request);
-    if (!pool)
+                        WithoutReport::KeepTick};
+    const std::optional<std::vector<Entry>> players = readPlayers(request, startingBracket(m_field));
+    if (!players)
         return cancelled(request.kind);
-    return outcome(request.kind, playerSelectionDetailLines(request.title, playersByFileName(*pool)));
+    return outcome(request.kind, playerSelectionDetailLines(request.title, playersByFileName(*players)));
 }
 
 MadeReport ReportMaker::makeResultsByPlayer(const Request& request)
 {
     ScoringInput input;
-    if (auto trouble = openProjection(request, "\"Projected Results by Player\" report cannot be prepared.", input))
+    if (auto trouble = readForProjection(request, "\"Projected Results by Player\" report cannot be prepared.", input))
         return *trouble;
 
-    const ByFinal<FinalOutcome> outcomes = finalOutcomes(input.results, input.finalFour);
-    Work work{m_platform.progress, request.kind.name, input.pool.players.size()};
-    const auto rows = resultsByPlayerRows(input.pool, input.results, outcomes, input.payoffs, work);
+    const ByFinal<FinalOutcome> outcomes = finalOutcomes(input.results);
+    Work work{m_platform.progress, request.kind.name, input.entries.size()};
+    const auto rows =
+        resultsByPlayerRows(input.entries, input.results, outcomes, input.payoffs, [&work] { return work.step(); });
     if (!rows)
         return failed(request.kind, rows.failure().message);
     if (work.cancelled())
         return cancelled(request.kind);
-    return outcome(request.kind, resultsByPlayerLines(request.title, input.finalFour, outcomes, *rows));
+    return outcome(request.kind, resultsByPlayerLines(request.title, finalFourOf(input.results), outcomes, *rows));
 }
 
 MadeReport ReportMaker::makeResultsByTeam(const Request& request)
 {
     ScoringInput input;
-    if (auto trouble = openProjection(request, "\"Projected Results by Team\" report cannot be prepared.", input))
+    if (auto trouble = readForProjection(request, "\"Projected Results by Team\" report cannot be prepared.", input))
         return *trouble;
 
-    Work work{m_platform.progress, request.kind.name, input.finalFour.size() * input.pool.players.size()};
-    const auto outcomes = resultsByTeamOutcomes(input.pool, input.results, input.finalFour, input.payoffs, work);
+    // Every player is scored now, and once for each team that can still win.
+    Work work{m_platform.progress, request.kind.name, (1 + kRegions) * input.entries.size()};
+    const auto outcomes =
+        resultsByTeamOutcomes(input.entries, input.results, input.payoffs, [&work] { return work.step(); });
     if (!outcomes)
         return failed(request.kind, outcomes.failure().message);
     if (work.cancelled())
@@ -183,51 +203,55 @@ MadeReport ReportMaker::makeResultsByTeam(const Request& request)
     return outcome(request.kind, resultsByTeamLines(request.title, *outcomes));
 }
 
-std::optional<NoReport> ReportMaker::openResults(const Request& request, const char* reportAsNamed, ScoringInput& input)
+std::optional<NoReport> ReportMaker::readResults(const Request& request, const char* reportAsNamed, ScoringInput& input)
 {
     if (request.files.empty())
         return failed(request.kind, std::string{kNoFiles} + reportAsNamed);
     if (!m_folder.exists(file_name::kResults))
         return failed(request.kind, kNoResults);
-    ReadSelections(*m_folder.pathOf(file_name::kResults), m_platform.dialogs, input.results);
+    const std::filesystem::path file = m_folder.pathTo(file_name::kResults);
+    const Read<Entry> results = readSelectionFile(file, startingBracket(m_field));
+    if (results.trouble)
+        showReadingTrouble(m_platform.dialogs, file);
+    input.results = results.value.picks;
     return std::nullopt;
 }
 
-std::optional<NoReport> ReportMaker::openPool(const Request& request, ScoringInput& input)
+std::optional<NoReport> ReportMaker::readEntriesAndPayoffs(const Request& request, ScoringInput& input)
 {
-    std::optional<ReadPool> pool = readPlayers(request);
-    if (!pool)
+    std::optional<std::vector<Entry>> entries = readPlayers(request, input.results);
+    if (!entries)
         return cancelled(request.kind);
-    const Result<Payoffs> payoffs = m_board.payoffs();
+    const Result<Payoffs>& payoffs = m_field.payoffs.points();
     if (!payoffs)
         return failed(request.kind, payoffs.failure().message);
-    input.pool = std::move(*pool);
+    input.entries = std::move(*entries);
     input.payoffs = *payoffs;
     return std::nullopt;
 }
 
-std::optional<NoReport> ReportMaker::openProjection(const Request& request, const char* reportAsNamed,
-                                                    ScoringInput& input)
+std::optional<NoReport> ReportMaker::readForProjection(const Request& request, const char* reportAsNamed,
+                                                       ScoringInput& input)
 {
-    if (auto trouble = openResults(request, reportAsNamed, input))
+    if (auto trouble = readResults(request, reportAsNamed, input))
         return trouble;
-    if (auto trouble = finalFourTrouble(input.results, input.finalFour))
+    if (auto trouble = finalFourTrouble(input.results))
         return trouble;
-    return openPool(request, input);
+    return readEntriesAndPayoffs(request, input);
 }
 
-std::optional<ReadPool> ReportMaker::readPlayers(const Request& request)
+std::optional<std::vector<Entry>> ReportMaker::readPlayers(const Request& request, const Bracket& like)
 {
-    ReadPool pool;
+    ReadEntries read;
     {
         Work work{m_platform.progress, "Reading the selections", request.files.size()};
-        pool = readPool(request.files, work);
+        read = readEntries(request.files, like, [&work] { return work.step(); });
         if (work.cancelled())
             return std::nullopt;
     }
-    for (const std::filesystem::path& file : pool.troubled)
-        showReadingTrouble(file, m_platform.dialogs);
-    return pool;
+    for (const std::filesystem::path& file : read.troubled)
+        showReadingTrouble(m_platform.dialogs, file);
+    return std::move(read.entries);
 }
 
 } // namespace tallyhoop

@@ -2,41 +2,47 @@
 #pragma once
 
 #include "files/data_folder.h"
-#include "files/read_pool.h"
-#include "files/selection_file.h"
-#include "pool/projection.h"
+#include "pool/entry.h"
 #include "reports/report_layout.h"
 #include "reports/report_table.h"
-#include "screens/screens.h"
-#include "ui/dialogs.h"
 #include "ui/platform.h"
 
 #include <optional>
 #include <span>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace tallyhoop {
+
+/// What becomes of a report's tick, and of the reports after it, when there is no report.
+enum class WithoutReport {
+    Untick,
+    KeepTick,
+    EndRun, ///< the person has cancelled: every tick stays, and no further report is made
+};
 
 /// Why there is no report.
 struct NoReport {
     ui::Message message;
-    bool untick = true;     ///< the report's box loses its tick
-    bool cancelled = false; ///< the person ended the work
+    WithoutReport consequence = WithoutReport::Untick;
 };
 
 /// A report's lines, or why there are none.
 using MadeReport = std::variant<ReportLines, NoReport>;
 
+/// @returns the message that ends a report which cannot be made
+/// @param reason empty = not known
+ui::Message reportFailure(const ReportKind& kind, const std::string& reason);
+
 class ReportMaker
 {
 public:
-    /// @param board shows the payoffs that count
-    ReportMaker(const DataFolder& folder, const ui::Platform& platform, const BracketBoard& board);
+    ReportMaker(const DataFolder& folder, const ui::Platform& platform, const Field& field);
 
-    /// Makes a report. Damaged files are named by their readers' messages while it is made; a failure of the report
+    /// Makes a report. Damaged files are named by messages of their own while it is made; a failure of the report
     /// itself is left to the caller to show. Writes nothing.
-    /// @param title as it stands on the screen
+    /// @param title as it is on the screen
     /// @param files every player's file, in list order
     MadeReport make(const ReportKind& kind, const std::string& title, std::span<const FolderFile> files);
 
@@ -54,24 +60,26 @@ private:
     MadeReport makeResultsByPlayer(const Request& request);
     MadeReport makeResultsByTeam(const Request& request);
 
-    /// What every report that scores reads first.
+    /// What every report that scores is made of.
     struct ScoringInput {
-        SelectionLines results;
-        FinalFour finalFour; ///< known for projections only
-        ReadPool pool;
+        Bracket results;
+        std::vector<Entry> entries;
         Payoffs payoffs{};
     };
 
     /// The readers of that input say why there can be no report, or nothing and fill what they are given.
-    std::optional<NoReport> openResults(const Request& request, const char* reportAsNamed, ScoringInput& input);
-    std::optional<NoReport> openPool(const Request& request, ScoringInput& input);
-    std::optional<NoReport> openProjection(const Request& request, const char* reportAsNamed, ScoringInput& input);
+    /// @param reportAsNamed the end of the sentence for a pool without players
+    std::optional<NoReport> readResults(const Request& request, const char* reportAsNamed, ScoringInput& input);
+    std::optional<NoReport> readEntriesAndPayoffs(const Request& request, ScoringInput& input);
+    std::optional<NoReport> readForProjection(const Request& request, const char* reportAsNamed, ScoringInput& input);
 
-    std::optional<ReadPool> readPlayers(const Request& request);
+    /// @param like the bracket in which most of the picked teams are expected
+    /// @returns nothing when the person cancelled
+    std::optional<std::vector<Entry>> readPlayers(const Request& request, const Bracket& like);
 
     const DataFolder& m_folder;
     const ui::Platform& m_platform;
-    const BracketBoard& m_board;
+    const Field& m_field;
 };
 
 } // namespace tallyhoop

@@ -17,6 +17,11 @@ constexpr std::size_t kFirstAttachmentFromEnd = 8;
 
 } // namespace
 
+ui::Orientation orientationOf(PageOrientation orientation)
+{
+    return orientation == PageOrientation::Landscape ? ui::Orientation::Landscape : ui::Orientation::Portrait;
+}
+
 std::size_t longestLine(std::span<const std::string> lines)
 {
     std::size_t longest = 0;

@@ -1,9 +1,9 @@
-// screens/reports/report_output.h - a report on its way out: as a printout on the page's middle, or as attachments of a
-// message.
+// screens/reports/report_output.h - a report as it goes out: a printout in mid-page, or attachments of a message.
 #pragma once
 
 #include "reports/report_layout.h"
-#include "screens/mod_tallyhoop.h"
+#include "reports/report_table.h"
+#include "screens/hand_overs.h"
 #include "screens/printer_setup.h"
 #include "ui/mail.h"
 #include "ui/printer.h"
@@ -15,11 +15,14 @@
 
 namespace tallyhoop {
 
+/// @returns the printer's word for the way a report's page is turned
+ui::Orientation orientationOf(PageOrientation orientation);
+
 /// @returns the characters of the longest line, trailing blanks not counted
 std::size_t longestLine(std::span<const std::string> lines);
 
-/// Says how far a block of text is shifted to the right so that it stands in the middle of a page, at 12 characters to
-/// the inch and with half an inch kept free.
+/// Says how far a block of text is shifted to the right so that it is in the middle of a page, at 12 characters to the
+/// inch and with half an inch kept free.
 /// @param pageWidthTwips printable width, 1440 to the inch
 /// @returns twips; 0 when the text is wider than the page
 int originTwips(int pageWidthTwips, std::size_t longestLine);
@@ -28,7 +31,7 @@ int originTwips(int pageWidthTwips, std::size_t longestLine);
 ui::TextPrintout textPrintout(const std::string& title, const ReportLines& lines, const PrinterSetup& setup,
                               ui::Printer& printer);
 
-/// Makes the message that carries report files: the draft's text, then ten blanks that the attachments stand on.
+/// Makes the message that carries report files: the draft's text, then ten blanks as places for the attachments.
 /// @param files at most seven, in order
 ui::MailMessage reportMessage(const MailDraft& draft, std::span<const std::filesystem::path> files);
 

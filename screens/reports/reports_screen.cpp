@@ -1,9 +1,12 @@
-// screens/reports/reports_screen.cpp - the reports screen: opening, creating the ticked reports, closing.
+// screens/reports/reports_screen.cpp - the reports screen: opening, making the ticked reports, bringing them out.
+// Texts are kept letter for letter, odd spellings included.
 #include "screens/reports/reports_screen.h"
 
+#include "base/lines.h"
 #include "files/file_names.h"
-#include "pool/pool_lines.h"
 #include "screens/help_topics.h"
+#include "screens/reports/report_delivery.h"
+#include "screens/reports/report_output.h"
 
 #include <algorithm>
 
@@ -18,10 +21,6 @@ constexpr std::array kDestinationHints{
     "Writes the files and sends them to people you choose.", "Writes the files and sends them to all players."};
 constexpr std::array kPrintoutHints{"The bracket of the player selected at the right, marked right and wrong.",
                                     "The board with the results entered so far."};
-constexpr const char* kNothingTickedTitle = "Tallyhoop - frmPoolReports, PrintSelections_Click "; // sic: the blank
-constexpr const char* kNothingTicked = "You will need to select one of the Report Selections before\r\n"
-                                       "choosing the \"Create Selected Reports\" Command Button";
-
 template <std::size_t N>
 void letThePersonChoose(ui::ControlArray<ui::OptionButton, N>& group, const std::array<const char*, N>& captions)
 {
@@ -34,20 +33,32 @@ void letThePersonChoose(ui::ControlArray<ui::OptionButton, N>& group, const std:
     }
 }
 
+/// Signs on unless a session is open; signs off after the message.
+Result<Done> sendReports(ui::Mail& mail, const MailDraft& draft, std::span<const std::filesystem::path> files)
+{
+    if (!mail.isOpen())
+        if (Result<Done> signedOn = mail.signOn(); !signedOn)
+            return signedOn;
+    const Result<Done> sent = mail.send(reportMessage(draft, files));
+    mail.signOff();
+    return sent;
+}
+
 } // namespace
 
-ReportsScreen::ReportsScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state,
-                             Screens& screens, BracketBoard& board)
+ReportsScreen::ReportsScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens,
+                             const Field& field, MailDraft& draft, BoardPrintouts& board)
     : Screen{"frmPoolReports", "Tallyhoop Reports"},
       m_folder{folder},
       m_platform{platform},
-      m_state{state},
       m_screens{screens},
+      m_field{field},
+      m_draft{draft},
       m_board{board},
-      m_maker{folder, platform, board}
+      m_maker{folder, platform, field}
 {
-    for (std::size_t i = 0; i < kReports; ++i)
-        chkOptions[i].caption = reportTable()[i].caption;
+    for (const ReportKind& kind : reportTable())
+        chkOptions[kind.id].caption = kind.caption;
     letThePersonChoose(optDestination, kDestinations);
     letThePersonChoose(optSelected, kPrintouts);
     ui::selectOption(optDestination, 0);
@@ -67,8 +78,8 @@ ReportsScreen::ReportsScreen(const DataFolder& folder, const ui::Platform& platf
 
 void ReportsScreen::explainControls()
 {
-    for (std::size_t i = 0; i < kReports; ++i)
-        chkOptions[i].explanation = reportTable()[i].explanation;
+    for (const ReportKind& kind : reportTable())
+        chkOptions[kind.id].explanation = kind.explanation;
     for (std::size_t i = 0; i < kDestinations.size(); ++i)
         optDestination[i].explanation = kDestinationHints[i];
     for (std::size_t i = 0; i < kPrintouts.size(); ++i)
@@ -88,25 +99,26 @@ void ReportsScreen::explainControls()
 
 std::string ReportsScreen::helpTopic() const { return m_refusalTopic.empty() ? help_topic::kReports : m_refusalTopic; }
 
+/// The caption always names the mode now in force.
+void ReportsScreen::showState()
+{
+    cmdDefaultPrinter.caption = m_useDefaultPrinter ? "Use default printer" : "Select non default printer";
+}
+
 void ReportsScreen::load()
 {
-    txtReportTitle.text = m_state.setupLines[setup_line::kTitle];
+    txtReportTitle.text = m_field.title;
     listFiles();
-    toPrinter = toFile = toEmail = mblnSelectEMailAll = false;
-    m_state.mailDraft.cancelled = false;
-    useDefaultPrinter = true;
-    m_board.setReportsEnabled(false);
+    m_draft.cancelled = false;
 }
 
 void ReportsScreen::closeRequested() { exitReports(); }
-
-void ReportsScreen::unloading() { m_board.setReportsEnabled(true); }
 
 /// Shows the files that are there now; the chosen one stays chosen.
 void ReportsScreen::listFiles()
 {
     const std::string chosen = filList.selectedText();
-    m_files = m_folder.files(file_name::kSelectionEnding);
+    m_files = m_folder.files(file_name::kSelectionExtension);
     filList.rows.clear();
     for (const FolderFile& file : m_files)
         filList.rows.push_back(file.name);
@@ -118,81 +130,106 @@ void ReportsScreen::listFiles()
 
 void ReportsScreen::createSelectedReports()
 {
-    readDestination();
-    listFiles();
-    m_made.fill(false);
+    const Destination destination = chosenDestination();
+    const bool toEverybody = destination == Destination::EmailToEverybody;
+    std::vector<std::filesystem::path> made; // only what this run has made may be mailed
     m_refusalTopic.clear();
+    const auto bringOut = [&](const ReportKind& kind, const ReportLines& lines) {
+        if (const Result<Done> done = output(kind, lines, destination); !done)
+            refuse(kind, {reportFailure(kind, done.failure().message)});
+        else
+            made.push_back(m_folder.pathTo(kind.file));
+    };
+    if (!forEachTickedReport("PrintSelections_Click ", cmdPrintSelections.caption, bringOut) || made.empty())
+        return;
+    if (destination == Destination::Email || toEverybody)
+        mailReports(made, toEverybody);
+}
+
+void ReportsScreen::previewSelectedReports()
+{
+    forEachTickedReport("Preview", cmdPreview.caption, [this](const ReportKind& kind, const ReportLines& lines) {
+        previewReport(m_platform, kind, lines);
+    });
+}
+
+void ReportsScreen::saveSelectedReportsAsPdf()
+{
+    forEachTickedReport("Save as PDF", cmdSavePdf.caption, [this](const ReportKind& kind, const ReportLines& lines) {
+        saveAsPdf(m_platform, m_folder.folder(), kind, lines);
+    });
+}
+
+ReportsScreen::Destination ReportsScreen::chosenDestination() const
+{
+    for (const auto destination : {Destination::Printer, Destination::Email, Destination::EmailToEverybody})
+        if (optDestination[destination].selected)
+            return destination;
+    return Destination::File;
+}
+
+bool ReportsScreen::forEachTickedReport(const char* titleEnd, const std::string& commandCaption, const Deliver& deliver)
+{
+    listFiles();
     bool anyTicked = false;
-    for (std::size_t index = 0; index < kReports; ++index) {
-        if (!chkOptions[index].ticked)
+    for (const ReportKind& kind : reportTable()) {
+        if (!chkOptions[kind.id].ticked)
             continue;
         anyTicked = true;
-        const Delivery delivery = createReport(index);
-        if (delivery == Delivery::Cancelled)
-            return;
-        m_made[index] = delivery == Delivery::Done;
+        const MadeReport made = m_maker.make(kind, txtReportTitle.text, m_files);
+        if (const ReportLines* lines = std::get_if<ReportLines>(&made)) {
+            deliver(kind, *lines);
+            continue;
+        }
+        const NoReport& reason = std::get<NoReport>(made);
+        refuse(kind, reason);
+        if (reason.consequence == WithoutReport::EndRun)
+            return false;
     }
-    if (!anyTicked) {
-        m_platform.dialogs.show({kNothingTickedTitle, kNothingTicked, ui::Buttons::Ok, ui::Icon::Exclamation});
-        return;
-    }
-    const bool anyMade = std::ranges::find(m_made, true) != m_made.end();
-    if ((toEmail || mblnSelectEMailAll) && anyMade)
-        MailReports();
+    if (!anyTicked)
+        m_platform.dialogs.show({std::string{"Tallyhoop - frmPoolReports, "} + titleEnd,
+                                 "You will need to select one of the Report Selections before\r\n"
+                                 "choosing the \"" +
+                                     commandCaption + "\" Command Button",
+                                 ui::Buttons::Ok, ui::Icon::Exclamation});
+    return true;
 }
 
-void ReportsScreen::readDestination()
-{
-    const std::array<bool*, 4> fields{&toPrinter, &toFile, &toEmail, &mblnSelectEMailAll};
-    for (std::size_t i = 0; i < fields.size(); ++i)
-        *fields[i] = optDestination[i].selected;
-}
-
-ReportsScreen::Delivery ReportsScreen::createReport(std::size_t index)
-{
-    bool cancelled = false;
-    const std::optional<ReportLines> lines = makeReport(index, cancelled);
-    if (!lines)
-        return cancelled ? Delivery::Cancelled : Delivery::Failed;
-    const ReportKind& kind = reportTable()[index];
-    if (const Result<Done> output = OutputReport(kind.key, *lines); !output) {
-        refuse(index, {reportFailure(kind, output.failure().message)});
-        return Delivery::Failed;
-    }
-    return Delivery::Done;
-}
-
-std::optional<ReportLines> ReportsScreen::makeReport(std::size_t index, bool& cancelled)
-{
-    MadeReport made = m_maker.make(reportTable()[index], txtReportTitle.text, m_files);
-    if (ReportLines* lines = std::get_if<ReportLines>(&made))
-        return std::move(*lines);
-    const NoReport& reason = std::get<NoReport>(made);
-    cancelled = reason.cancelled;
-    refuse(index, reason);
-    return std::nullopt;
-}
-
-void ReportsScreen::refuse(std::size_t index, const NoReport& reason)
+void ReportsScreen::refuse(const ReportKind& kind, const NoReport& reason)
 {
     m_platform.dialogs.show(reason.message);
     m_refusalTopic = reason.message.helpTopic;
-    if (reason.untick)
-        chkOptions[index].ticked = false;
+    if (reason.consequence == WithoutReport::Untick)
+        chkOptions[kind.id].ticked = false;
 }
 
-/// The caption always names the mode now in force.
-void ReportsScreen::toggleDefaultPrinter()
+/// Writes the work file, and then either prints the report or writes its own file.
+Result<Done> ReportsScreen::output(const ReportKind& kind, const ReportLines& lines, Destination destination)
 {
-    useDefaultPrinter = !useDefaultPrinter;
-    cmdDefaultPrinter.caption = useDefaultPrinter ? "Use default printer" : "Select non default printer";
+    const std::string bytes = fileOf(lines);
+    if (Result<Done> written = m_folder.write(file_name::kWorkFile, bytes); !written)
+        return written;
+    if (destination != Destination::Printer)
+        return m_folder.write(kind.file, bytes);
+    printReport(m_platform, !m_useDefaultPrinter, kind, lines);
+    return Done{};
 }
 
-void ReportsScreen::exitReports()
+/// Sends one message with all files. They stay where they are, so nothing is lost when that fails.
+void ReportsScreen::mailReports(std::span<const std::filesystem::path> files, bool toEverybody)
 {
-    if (m_platform.mail.isOpen())
-        m_platform.mail.signOff();
-    m_screens.unload(ScreenKind::Reports);
+    m_draft = {};
+    m_draft.toEverybody = toEverybody;
+    m_screens.load(ScreenKind::Email);
+    if (m_draft.cancelled) {
+        m_draft.cancelled = false;
+        return;
+    }
+    const Result<Done> sent = sendReports(m_platform.mail, m_draft, files);
+    m_draft.recipients.clear();
+    if (!sent)
+        m_platform.dialogs.show({"Tallyhoop - frmPoolReports, MailReports", sent.failure().message, ui::Buttons::Ok,
+                                 ui::Icon::Exclamation});
 }
 
 } // namespace tallyhoop

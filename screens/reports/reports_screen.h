@@ -1,20 +1,21 @@
-// screens/reports/reports_screen.h - the reports screen: which reports, where to, and the printouts of the bracket
-// board.
+// screens/reports/reports_screen.h - the reports screen: which reports, where to, and the printouts of the board.
 #pragma once
 
 #include "files/data_folder.h"
+#include "pool/field.h"
 #include "reports/report_layout.h"
 #include "reports/report_table.h"
-#include "screens/mod_tallyhoop.h"
+#include "screens/board_printouts.h"
+#include "screens/hand_overs.h"
 #include "screens/reports/report_maker.h"
 #include "screens/screens.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
 
-#include <array>
+#include <filesystem>
 #include <functional>
-#include <optional>
-#include <string_view>
+#include <span>
+#include <string>
 #include <vector>
 
 namespace tallyhoop {
@@ -22,24 +23,26 @@ namespace tallyhoop {
 class ReportsScreen : public ui::Screen
 {
 public:
-    ReportsScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
-                  BracketBoard& board);
+    /// @param draft what the e-mail dialog leaves; emptied before it is asked
+    ReportsScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Field& field,
+                  MailDraft& draft, BoardPrintouts& board);
 
     std::string helpTopic() const override;
+    void showState() override;
     void load() override;
     void closeRequested() override;
-    void unloading() override;
 
     ui::Label fraMultipleOutput{this, "fraMultipleOutput", "Multiple Output Options"};
     ui::Label lblReportSelections{this, "lblReportSelections", "Report Selections"};
-    ui::ControlArray<ui::CheckBox, kReports> chkOptions{this, "chkOptions"}; ///< in the order of reportTable()
+    ui::ControlArray<ui::CheckBox, kReports> chkOptions{this, "chkOptions"}; ///< by ReportId
     ui::Label lblDestination{this, "lblDestination", "Destination"};
     ui::ControlArray<ui::OptionButton, 4> optDestination{this, "optDestination"};
     ui::Label lblReportTitle{this, "lblReportTitle", "Report Titles:"};
     ui::TextBox txtReportTitle{this, "txtReportTitle"};
     ui::Command cmdPrintSelections{this, "cmdPrintSelections", "Create Selected Reports",
                                    [this] { createSelectedReports(); }};
-    ui::Command cmdDefaultPrinter{this, "cmdDefaultPrinter", "Use default printer", [this] { toggleDefaultPrinter(); }};
+    ui::Command cmdDefaultPrinter{this, "cmdDefaultPrinter", "Use default printer",
+                                  [this] { m_useDefaultPrinter = !m_useDefaultPrinter; }};
     ui::Command cmdPreview{this, "cmdPreview", "Preview", [this] { previewSelectedReports(); }};
     ui::Command cmdSavePdf{this, "cmdSavePdf", "Save as PDF", [this] { saveSelectedReportsAsPdf(); }};
 
@@ -56,35 +59,27 @@ public:
     ui::Command cmdExit{this, "cmdExit", "Exit Reports", [this] { exitReports(); }};
 
 private:
-    enum class Delivery { Done, Failed, Cancelled };
+    enum class Destination { Printer, File, Email, EmailToEverybody }; ///< the index in optDestination
+    using Deliver = std::function<void(const ReportKind&, const ReportLines&)>;
 
     void explainControls();
     void listFiles();
 
-    // Creating reports.
+    // Reports.
     void createSelectedReports();
-    Delivery createReport(std::size_t index);
-    void readDestination();
-    void toggleDefaultPrinter();
-
-    /// @returns the report's lines; nothing after its message was shown and, where it says so, its box unticked
-    std::optional<ReportLines> makeReport(std::size_t index, bool& cancelled);
-    void refuse(std::size_t index, const NoReport& reason);
-
-    // The output step.
-    Result<Done> OutputReport(std::string_view reportKey, const ReportLines& lines);
-    void printReport(const ReportKind& kind, const ReportLines& lines);
-    void deliverBusily(const char* what, const std::function<Result<Done>()>& deliver);
     void previewSelectedReports();
     void saveSelectedReportsAsPdf();
-    void saveAsPdf(const ReportKind& kind, const ReportLines& lines);
-    std::optional<std::filesystem::path> choosePdf(const std::string& dialogCaption, const std::string& proposedName);
-    void forEachTickedReport(const char* commandCaption,
-                             const std::function<void(const ReportKind&, const ReportLines&)>& deliver);
+    Destination chosenDestination() const;
 
-    // The e-mail step.
-    void MailReports();
-    void showMailTrouble(const Failure& failure);
+    /// Makes the ticked reports, hands each on that could be made, and explains itself when none is ticked.
+    /// @param titleEnd what the explanation's caption says of the command
+    /// @returns false when the person has cancelled
+    bool forEachTickedReport(const char* titleEnd, const std::string& commandCaption, const Deliver& deliver);
+
+    /// Shows why there is no report and, where it says so, unticks the report's box.
+    void refuse(const ReportKind& kind, const NoReport& reason);
+    Result<Done> output(const ReportKind& kind, const ReportLines& lines, Destination destination);
+    void mailReports(std::span<const std::filesystem::path> files, bool toEverybody);
 
     // Printouts of the board and ways out.
     void createSelectedPrintout();
@@ -98,19 +93,15 @@ private:
 
     const DataFolder& m_folder;
     const ui::Platform& m_platform;
-    modTallyhoop& m_state;
     Screens& m_screens;
-    BracketBoard& m_board;
+    const Field& m_field;
+    MailDraft& m_draft;
+    BoardPrintouts& m_board;
     ReportMaker m_maker;
 
     std::vector<FolderFile> m_files; ///< the rows of filList
-    bool toPrinter = false;
-    bool toFile = false;
-    bool toEmail = false;
-    bool mblnSelectEMailAll = false;
-    bool useDefaultPrinter = true;
-    std::string m_refusalTopic;          ///< help topic of the run's last refusal; empty = none of its own
-    std::array<bool, kReports> m_made{}; ///< by the run at hand: only these may be mailed
+    bool m_useDefaultPrinter = true; ///< false = the person chooses a printer for each report
+    std::string m_refusalTopic;      ///< help topic of the last refusal; empty = none of its own
 };
 
 } // namespace tallyhoop

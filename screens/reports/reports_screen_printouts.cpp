@@ -1,6 +1,6 @@
-// screens/reports/reports_screen_printouts.cpp - the printouts that the bracket board makes of itself, and the score
-// display.
+// screens/reports/reports_screen_printouts.cpp - printouts of the board, and the ways out of the screen.
 #include "files/file_names.h"
+#include "screens/reports/report_delivery.h"
 #include "screens/reports/reports_screen.h"
 
 namespace tallyhoop {
@@ -40,8 +40,8 @@ void ReportsScreen::createSelectedPrintout()
 void ReportsScreen::printResultsSheet()
 {
     m_screens.unload(ScreenKind::Reports);
-    m_board.EnterGameResults();
-    m_board.PrintForm();
+    m_board.enterGameResults();
+    m_board.printForm();
 }
 
 void ReportsScreen::printScoredSelection()
@@ -49,16 +49,31 @@ void ReportsScreen::printScoredSelection()
     const std::filesystem::path file = m_files.at(static_cast<std::size_t>(*filList.selected)).path;
     m_screens.bringToFront(ScreenKind::Board);
     m_screens.unload(ScreenKind::Reports);
-    m_board.showSelection(file);
-    m_board.ScoreSelections();
-    m_board.PrintForm();
+    m_board.showScored(file);
+    m_board.printForm();
+}
+
+void ReportsScreen::previewBoard() { m_platform.printer.preview(boardPrintout()); }
+
+void ReportsScreen::saveBoardAsPdf() { saveAsPdf(m_platform, m_folder.folder(), boardPrintout()); }
+
+ui::DrawingPrintout ReportsScreen::boardPrintout() const
+{
+    return {"Tallyhoop", m_board.drawing(), ui::Orientation::Landscape};
 }
 
 void ReportsScreen::gotoCustomReporting()
 {
     m_screens.unload(ScreenKind::Reports);
-    m_board.EnterGameResults();
-    m_screens.load(ScreenKind::ScoreDisplay);
+    m_board.enterGameResults();
+    m_screens.load(ScreenKind::Scores);
+}
+
+void ReportsScreen::exitReports()
+{
+    if (m_platform.mail.isOpen())
+        m_platform.mail.signOff();
+    m_screens.unload(ScreenKind::Reports);
 }
 
 } // namespace tallyhoop

@@ -1,4 +1,3 @@
-// screens/scores/scores_screen.cpp - what the score display does.
 #include "screens/scores/scores_screen.h"
 
 #include "base/windows1252.h"
@@ -7,9 +6,8 @@
 #include "screens/help_topics.h"
 #include "screens/printer_setup.h"
 #include "screens/printing_trouble.h"
-#include "screens/scores/score_grid.h"
+#include "screens/saving.h"
 #include "screens/scores/score_printout.h"
-#include "screens/scores/score_selection.h"
 #include "ui/work.h"
 
 #include <algorithm>
@@ -27,14 +25,15 @@ constexpr const char* kNoneReadable = "None of the saved selections could be sco
 
 } // namespace
 
-ScoresScreen::ScoresScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state,
-                           Screens& screens, BracketBoard& board)
+ScoresScreen::ScoresScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Field& field,
+                           const Bracket& results, std::optional<Verdicts>& verdicts)
     : ui::Screen{"frmPoolMisc", "Display Scores (Total, Possible)"},
       m_folder{folder},
       m_platform{platform},
-      m_state{state},
       m_screens{screens},
-      m_board{board}
+      m_field{field},
+      m_results{results},
+      m_verdicts{verdicts}
 {
     cmdOk.isDefault = true;
     filList.visible = false;
@@ -57,47 +56,40 @@ void ScoresScreen::load()
 {
     listFiles();
     showTable({});
-    m_board.setScoreDisplayOpen(true);
 }
 
 void ScoresScreen::closeRequested() { exit(); }
 
-void ScoresScreen::unloading()
-{
-    // Marks would leave the board read-only without the screen that explains them.
-    m_board.ClearMarks();
-    m_board.setScoreDisplayOpen(false);
-}
+/// Marks would leave the board read-only without the screen that explains them.
+void ScoresScreen::unloading() { m_verdicts.reset(); }
 
-void ScoresScreen::exit() { m_screens.unload(ScreenKind::ScoreDisplay); }
+void ScoresScreen::exit() { m_screens.unload(ScreenKind::Scores); }
 
 void ScoresScreen::listFiles()
 {
-    m_files = m_folder.files(file_name::kSelectionEnding);
+    m_files = m_folder.files(file_name::kSelectionExtension);
     filList.rows.clear();
     for (const FolderFile& file : m_files)
         filList.rows.push_back(file.name);
 }
 
-void ScoresScreen::showTable(Rows rows)
+void ScoresScreen::showTable(std::vector<ListedScore> rows)
 {
-    msgScoreDisplay.columns = columnsOf(kScoreColumns);
-    msgScoreDisplay.rows = std::move(rows);
+    m_table.begin(std::move(rows));
+    m_table.show(msgScoreDisplay);
     msgScoreDisplay.headingPressed.reset();
-    ++msgScoreDisplay.revision;
 }
 
 void ScoresScreen::calculate()
 {
-    m_board.ClearMarks();
+    m_verdicts.reset();
     listFiles();
-    m_board.captureBoard(); // the results on the board count, saved or not
-    const Result<Payoffs> payoffs = m_board.payoffs();
+    const Result<Payoffs>& payoffs = m_field.payoffs.points();
     if (!payoffs) {
-        showFailure(payoffs.failure());
+        showTrouble(m_platform.dialogs, payoffs.failure());
         return;
     }
-    if (std::optional<Rows> rows = scoreEverybody(m_files, *payoffs)) {
+    if (std::optional<std::vector<ListedScore>> rows = scoreEverybody(*payoffs)) {
         msgScoreDisplay.emptyNote = m_files.empty() ? kNoSelections : kNoneReadable;
         showTable(std::move(*rows));
     } else {
@@ -105,45 +97,61 @@ void ScoresScreen::calculate()
     }
 }
 
-std::optional<ScoresScreen::Rows> ScoresScreen::scoreEverybody(const std::vector<FolderFile>& files,
-                                                               const Payoffs& payoffs)
+std::optional<std::vector<ListedScore>> ScoresScreen::scoreEverybody(const Payoffs& payoffs)
 {
-    Work work{m_platform.progress, "Calculating the scores", files.size()};
-    const Scoring scoring{m_state.selectionLines, payoffs};
-    Rows rows;
-    rows.reserve(files.size());
-    for (const FolderFile& file : files) {
-        const Result<ScoreLine> score = scoreFile(file, scoring, m_platform.dialogs, m_state.verdict);
-        if (score)
-            rows.push_back(cellsOf(*score));
-        else
-            showFailure(score.failure());
+    Work work{m_platform.progress, "Calculating the scores", m_files.size()};
+    std::vector<ListedScore> rows;
+    rows.reserve(m_files.size());
+    for (const FolderFile& file : m_files) {
+        if (const std::optional<PlayerScore> score = scoreFile(file, payoffs))
+            rows.push_back({*score, file});
         if (!work.step())
             return std::nullopt;
     }
     return rows;
 }
 
-void ScoresScreen::cellClicked(std::size_t row, std::size_t column)
+std::optional<PlayerScore> ScoresScreen::scoreFile(const FolderFile& file, const Payoffs& payoffs)
 {
-    const std::string& text = msgScoreDisplay.rows.at(row).at(column);
-    if (endsWithFolded(text, file_name::kSelectionEnding)) // a file name, wherever its column stands
-        markSelection(text);
+    Read<Entry> read = readSelectionFile(file.path, m_results);
+    read.value.fileName = file.name;
+    if (read.trouble)
+        showReadingTrouble(m_platform.dialogs, file.path);
+    const Result<PlayerScore> score = scoreEntry(read.value, m_results, payoffs);
+    if (score)
+        return *score;
+    showTrouble(m_platform.dialogs, score.failure());
+    return std::nullopt;
 }
 
-void ScoresScreen::markSelection(const std::string& fileName)
+void ScoresScreen::cellClicked(std::size_t row, std::size_t column)
 {
-    m_board.ClearMarks();
-    // The path is the listed one: a name as it is shown may not lead back to its file.
-    const auto file = std::ranges::find(m_files, fileName, &FolderFile::name);
-    if (file == m_files.end()) // a cell that only ends like a file name
-        return showReadingTrouble(fileName, m_platform.dialogs);
-    const Result<ScoreLine> score =
-        ScoreSelection(ScoreCaller::ScoreDisplay, *file, m_platform.dialogs, m_board, m_state);
-    if (score)
-        m_board.MarkScores();
+    const std::string text = msgScoreDisplay.rows.at(row).at(column);
+    if (!endsWithFolded(text, file_name::kSelectionExtension))
+        return;
+    m_verdicts.reset();
+    if (const FolderFile* file = fileMeantBy(row, column))
+        markPicksOf(*file);
     else
-        showFailure(score.failure());
+        showReadingTrouble(m_platform.dialogs, text); // a cell that only ends like a file name
+}
+
+/// @returns the file whose name a cell shows, wherever its column is; nullptr when there is none
+const FolderFile* ScoresScreen::fileMeantBy(std::size_t row, std::size_t column) const
+{
+    if (m_table.columns().at(column) == ScoreColumn::FileName)
+        return &m_table.rows().at(row).file; // the listed one: a name as it is shown may not lead back to its file
+    const auto file = std::ranges::find(m_files, msgScoreDisplay.rows.at(row).at(column), &FolderFile::name);
+    return file == m_files.end() ? nullptr : &*file;
+}
+
+void ScoresScreen::markPicksOf(const FolderFile& file)
+{
+    const Result<Payoffs>& payoffs = m_field.payoffs.points();
+    if (!payoffs)
+        showTrouble(m_platform.dialogs, payoffs.failure());
+    else if (const std::optional<PlayerScore> score = scoreFile(file, *payoffs))
+        m_verdicts = score->verdicts;
 }
 
 void ScoresScreen::headingDropped(std::optional<std::size_t> target)
@@ -151,13 +159,13 @@ void ScoresScreen::headingDropped(std::optional<std::size_t> target)
     const std::optional<std::size_t> dragged = std::exchange(msgScoreDisplay.headingPressed, std::nullopt);
     if (!dragged || !target)
         return;
-    moveColumn(msgScoreDisplay, *dragged, *target);
-    SortGrid(msgScoreDisplay);
+    m_table.moveColumn(*dragged, *target);
+    m_table.show(msgScoreDisplay);
 }
 
 void ScoresScreen::print()
 {
-    const std::optional<PrinterSetup> setup = setUpPrinter(m_platform, false, "Portrait");
+    const std::optional<PrinterSetup> setup = setUpPrinter(m_platform, false, ui::Orientation::Portrait);
     if (!setup)
         return;
     ui::TextPrintout printout;
@@ -170,10 +178,5 @@ void ScoresScreen::print()
 }
 
 void ScoresScreen::copy() { m_platform.clipboard.put(tabSeparated(msgScoreDisplay)); }
-
-void ScoresScreen::showFailure(const Failure& failure)
-{
-    m_platform.dialogs.show({"", failure.message, ui::Buttons::Ok, ui::Icon::Critical});
-}
 
 } // namespace tallyhoop

@@ -1,9 +1,10 @@
-// screens/scores/scores_screen.h - the score display: every player's score in a table that is sorted by dragging its
-// headings.
+// screens/scores/scores_screen.h - every player's score in a table that is sorted by dragging its headings.
 #pragma once
 
 #include "files/data_folder.h"
-#include "screens/mod_tallyhoop.h"
+#include "pool/field.h"
+#include "pool/scoring.h"
+#include "screens/scores/score_table.h"
 #include "screens/screens.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
@@ -18,8 +19,12 @@ namespace tallyhoop {
 class ScoresScreen : public ui::Screen
 {
 public:
-    ScoresScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
-                 BracketBoard& board);
+    /// @param results  those on the board, saved or not
+    /// @param verdicts receives those on the picks of the player that is chosen here, for the board to show; nothing
+    /// while
+    ///                 none is chosen
+    ScoresScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Field& field,
+                 const Bracket& results, std::optional<Verdicts>& verdicts);
 
     std::string helpTopic() const override;
     void load() override;
@@ -36,29 +41,32 @@ public:
     ui::ListBox filList{this, "filList"};              ///< hidden: the selection files of the program's folder
 
 private:
-    using Rows = std::vector<std::vector<std::string>>;
-
     void calculate();
     void print();
     void copy();
     void exit();
 
     /// @returns a row per player; nothing when the person cancelled
-    std::optional<Rows> scoreEverybody(const std::vector<FolderFile>& files, const Payoffs& payoffs);
+    std::optional<std::vector<ListedScore>> scoreEverybody(const Payoffs& payoffs);
+
+    /// @returns nothing after the failure was shown
+    std::optional<PlayerScore> scoreFile(const FolderFile& file, const Payoffs& payoffs);
 
     void listFiles();
-    void showTable(Rows rows);
+    void showTable(std::vector<ListedScore> rows);
     void cellClicked(std::size_t row, std::size_t column);
     void headingDropped(std::optional<std::size_t> target);
-    void markSelection(const std::string& fileName);
-    void showFailure(const Failure& failure);
+    const FolderFile* fileMeantBy(std::size_t row, std::size_t column) const;
+    void markPicksOf(const FolderFile& file);
 
     const DataFolder& m_folder;
     const ui::Platform& m_platform;
-    modTallyhoop& m_state;
     Screens& m_screens;
-    BracketBoard& m_board;
+    const Field& m_field;
+    const Bracket& m_results;
+    std::optional<Verdicts>& m_verdicts;
     std::vector<FolderFile> m_files; ///< what filList lists
+    ScoreTable m_table;
 };
 
 } // namespace tallyhoop

@@ -4,8 +4,9 @@
 #include "base/numbers.h"
 #include "screens/help_topics.h"
 
-#include <algorithm>
 #include <optional>
+#include <set>
+#include <utility>
 
 namespace tallyhoop {
 
@@ -13,41 +14,39 @@ namespace {
 
 constexpr const char* kCaption = "Seed Positions Entry";
 constexpr const char* kErrorCaption = "SEED Entry ERROR";
-constexpr const char* kErrorText = "You have entered invalid entries for the SEED postions.\r\n" // sic
+// Kept letter for letter, odd spelling included.
+constexpr const char* kErrorText = "You have entered invalid entries for the SEED postions.\r\n"
                                    "Numbers must be between 1 & 16 without duplicating";
 constexpr int kLongestSeed = 4;
-constexpr int kSeeds = kRowsPerRegion;
+constexpr int kMostSeed = kRowsPerRegion;
 
-using SeedTexts = std::array<std::string, kRowsPerRegion>;
-
-/// @returns the whole numbers of sixteen seeds, nothing when one is outside 1..16 or there twice
-std::optional<std::array<int, kSeeds>> seedNumbers(const SeedTexts& texts)
+/// @returns the seeds as whole numbers; nothing when one is outside 1..16 or is there twice
+std::optional<SeedTexts> wholeSeeds(const SeedTexts& typed)
 {
-    // The range is checked before rounding, so 0.6 is refused although it rounds to 1.
-    const auto outside = [](const std::string& text) {
-        const double value = leadingNumber(text);
-        return value < 1 || value > kSeeds;
-    };
-    if (std::ranges::any_of(texts, outside))
-        return std::nullopt;
-
-    std::array<int, kSeeds> numbers{};
-    std::array<bool, kSeeds + 1> seen{};
-    for (std::size_t row = 0; row < texts.size(); ++row) {
-        const auto number = static_cast<int>(roundHalfEven(leadingNumber(texts[row])));
-        bool& seenBefore = seen.at(static_cast<std::size_t>(number));
-        if (seenBefore)
+    SeedTexts seeds;
+    std::set<long long> seen;
+    for (std::size_t row = 0; row < typed.size(); ++row) {
+        const double value = leadingNumber(typed.at(row));
+        // Checked before it is rounded, so 0.6 is refused although it rounds to 1.
+        if (value < 1 || value > kMostSeed)
             return std::nullopt;
-        seenBefore = true;
-        numbers[row] = number;
+        const long long number = roundHalfEven(value);
+        if (!seen.insert(number).second)
+            return std::nullopt;
+        seeds.at(row) = std::to_string(number);
     }
-    return numbers;
+    return seeds;
 }
 
 } // namespace
 
-SeedsScreen::SeedsScreen(SetupScreen& setup, const ui::Platform& platform, modTallyhoop& state, Screens& screens)
-    : Screen{"frmPoolSeatings", kCaption}, m_setup{setup}, m_platform{platform}, m_state{state}, m_screens{screens}
+SeedsScreen::SeedsScreen(std::array<std::string, kRowsPerRegion> teams, SeedTexts& seeds, ui::Dialogs& dialogs,
+                         Screens& screens)
+    : Screen{"frmPoolSeatings", kCaption},
+      m_teams{std::move(teams)},
+      m_seeds{seeds},
+      m_dialogs{dialogs},
+      m_screens{screens}
 {
     for (std::size_t row = 0; row < txtSeed.size(); ++row) {
         lblRegion[row].text = "Team" + std::to_string(row + 1);
@@ -69,31 +68,27 @@ std::string SeedsScreen::helpTopic() const { return help_topic::kSeeds; }
 void SeedsScreen::load()
 {
     for (std::size_t row = 0; row < txtSeed.size(); ++row) {
-        txtSeed[row].text = m_setup.lblSeed[row].text;
-        lblRegion[row].text = m_setup.txtRegion[row].text;
-        txtSeed[row].spokenName = "Seed of row " + std::to_string(row + 1) + ", " + lblRegion[row].text;
+        txtSeed[row].text = m_seeds.at(row);
+        lblRegion[row].text = m_teams.at(row);
+        txtSeed[row].spokenName = "Seed of row " + std::to_string(row + 1) + ", " + m_teams.at(row);
     }
     focused = &txtSeed[0];
 }
 
-void SeedsScreen::closeRequested() { cancel(); }
-
 void SeedsScreen::complete()
 {
-    SeedTexts texts;
-    for (std::size_t row = 0; row < texts.size(); ++row)
-        texts[row] = txtSeed[row].text;
-    const auto numbers = seedNumbers(texts);
-    if (!numbers) {
-        m_platform.dialogs.show({kErrorCaption, kErrorText, ui::Buttons::Ok, ui::Icon::None});
+    SeedTexts typed;
+    for (std::size_t row = 0; row < typed.size(); ++row)
+        typed[row] = txtSeed[row].text;
+    const std::optional<SeedTexts> seeds = wholeSeeds(typed);
+    if (!seeds) {
+        m_dialogs.show({kErrorCaption, kErrorText, ui::Buttons::Ok, ui::Icon::None});
         return;
     }
-    for (std::size_t row = 0; row < numbers->size(); ++row)
-        m_state.seedLabels[row] = std::to_string((*numbers)[row]);
-    m_setup.showSeeds();
-    m_screens.unload(ScreenKind::SeedPositions);
+    m_seeds = *seeds;
+    m_screens.unload(ScreenKind::Seeds);
 }
 
-void SeedsScreen::cancel() { m_screens.unload(ScreenKind::SeedPositions); }
+void SeedsScreen::cancel() { m_screens.unload(ScreenKind::Seeds); }
 
 } // namespace tallyhoop

@@ -1,18 +1,17 @@
-// screens/setup/setup_screen.cpp - the setup screen: what it shows, its modes, and how it is left.
+// screens/setup/setup_screen.cpp - the setup screen: from the folder to the boxes and back, and what is shown of its
+// state.
 #include "screens/setup/setup_screen.h"
 
-#include "base/numbers.h"
 #include "base/text.h"
 #include "files/file_names.h"
 #include "files/settings_file.h"
 #include "files/setup_file.h"
-#include "files/team_name_list_file.h"
 #include "screens/demo_mode.h"
 #include "screens/help_display.h"
 #include "screens/help_topics.h"
+#include "screens/saving.h"
+#include "screens/setup/setup_design.h"
 
-#include <array>
-#include <string_view>
 #include <utility>
 
 namespace tallyhoop {
@@ -22,254 +21,224 @@ namespace {
 constexpr const char* kCaption = "Define Starting Field & Options";
 constexpr const char* kOverrideCaption = "Override &Selecting Team Names";
 constexpr const char* kSelectingCaption = "Continue &Selecting";
-constexpr const char* kDesignComment = "Enter any comments or instructions";
-constexpr ui::Colour kLightGreen{0x80, 0xFF, 0x80};
 
-constexpr std::array<const char*, kRounds> kDesignPayoffs = {"1", "2", "4", "8", "12", "16"};
-enum TabPosition {
-    kFirstRegionTab = 64,
-    kTitleTab = 68,
-    kComment1Tab,
-    kComment2Tab,
-    kFirstPayoffTab,
-    kFinalizeTab = 77,
-    kListTab,
-    kAddTab,
-    kChangeTab,
-    kDeleteTab,
-    kOverrideTab,
-    kClearTab,
-};
+constexpr const char* kSavedStatus = "There are no unsaved changes.";
+constexpr const char* kUnsavedStatus = "There are changes that are not saved yet.";
+constexpr const char* kFinalizeStatus = "Finalize Tournament takes effect with File, Save.";
+constexpr const char* kNoListStatus =
+    "There is no list of team names: choose Override Selecting Team Names to type them.";
+
+void say(std::string& status, std::string_view sentence)
+{
+    if (!status.empty())
+        status += "  ";
+    status += sentence;
+}
 
 } // namespace
 
-SetupScreen::SetupScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
-                         Opening opening)
+SetupScreen::SetupScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, Field& field,
+                         std::string notice)
     : Screen{"frmPoolEntry", kCaption},
       m_folder{folder},
       m_platform{platform},
-      m_state{state},
       m_screens{screens},
-      m_opening{opening}
+      m_field{field},
+      m_notice{std::move(notice)}
 {
-    lstTeamNames.background = kLightGreen;
-    txtComment1.multiLine = txtComment2.multiLine = true;
-    txtComment1.text = txtComment2.text = kDesignComment;
-    arrangeTabs();
-    arrangeMenus();
-    describeBoxes();
-}
-
-void SetupScreen::arrangeTabs()
-{
-    for (std::size_t i = 0; i < txtRegion.size(); ++i)
-        txtRegion[i].tabIndex = static_cast<int>(i);
-    TxtInfo[0].tabIndex = kTitleTab;
-    for (std::size_t region = 0; region < kRegions; ++region)
-        TxtInfo[region + 1].tabIndex = kFirstRegionTab + static_cast<int>(region);
-    txtComment1.tabIndex = kComment1Tab;
-    txtComment2.tabIndex = kComment2Tab;
-    for (std::size_t round = 0; round < txtInfo6.size(); ++round)
-        txtInfo6[round].tabIndex = kFirstPayoffTab + static_cast<int>(round);
-    cmdFinalize.tabIndex = kFinalizeTab;
-    lstTeamNames.tabIndex = kListTab;
-    cmdAddName.tabIndex = kAddTab;
-    cmdChangeName.tabIndex = kChangeTab;
-    cmdDeleteName.tabIndex = kDeleteTab;
-    cmdOverride.tabIndex = kOverrideTab;
-    cmdClear.tabIndex = kClearTab;
-}
-
-void SetupScreen::arrangeMenus()
-{
-    mnuFile.children = {&mnuSaveStartingField, nullptr, &mnuEnd};
-    mnuOptions.children = {&mnuSeating};
-    mnuDemo.children = {&mnuDemoSet, &mnuDemoReset};
-    mnuHelp.children = {&mnuHelpDisplay, &mnuHelpAbout};
-    menuBar = {&mnuFile, &mnuOptions, &mnuDemo, &mnuHelp};
-
-    mnuSaveStartingField.icon = "save";
-    mnuEnd.icon = "exit";
-    mnuSeating.icon = "seeds";
-    mnuDemoSet.icon = "demo";
-    mnuDemoReset.icon = "reset";
-    mnuHelpDisplay.icon = "help";
-    mnuHelpAbout.icon = "about";
-    explainMenus();
-}
-
-void SetupScreen::describeBoxes()
-{
-    for (std::size_t i = 0; i < txtRegion.size(); ++i) {
-        txtRegion[i].text = "Team " + std::to_string(i + 1);
-        txtRegion[i].edited = [this, i] { teamBoxEdited(txtRegion[i]); };
-    }
-    for (std::size_t round = 0; round < txtInfo6.size(); ++round) {
-        txtInfo6[round].text = kDesignPayoffs[round];
-        txtInfo6[round].edited = [this] { showStatus(); };
-    }
-    for (std::size_t i = 0; i < TxtInfo.size(); ++i) {
-        TxtInfo[i].spokenName = i == 0 ? "Pool title" : "Title of region " + std::to_string(i);
-        TxtInfo[i].edited = [this] { showStatus(); };
-    }
-    txtComment1.spokenName = "Comment 1";
-    txtComment2.spokenName = "Comment 2";
-    txtComment1.edited = txtComment2.edited = [this] { showStatus(); };
-    explainBoxes();
-    cmdClear.mnemonic = 'l';
-    cmdFinalize.mnemonic = 'n';
-    lstTeamNames.spokenName = "Team names";
-    lstTeamNames.pressed = [this] { markLastTeamBox(true); };
+    design(*this);
+    lstTeamNames.pressed = [this] { m_picker.listPressed(); };
+    for (std::size_t box = 0; box < txtRegion.size(); ++box)
+        txtRegion[box].edited = [this, box] { m_picker.boxEdited(box); };
 }
 
 void SetupScreen::load()
 {
-    m_state.teamNames = {};
-    OverrideMode = false;
-    showPool();
-    showTeamNames(); // second: its message follows that about the field
-    showStatus();
+    readPool();
+    m_editor.load(); // second: its message follows that about the field
 }
 
-/// Shows the field and the demo mode that the folder holds now.
-void SetupScreen::showPool()
+/// Takes the field and the demo mode that the folder holds now.
+void SetupScreen::readPool()
 {
     m_known.note(m_folder.pathTo(file_name::kSetup));
-    ReadStartingField(m_folder, m_platform.dialogs, m_state);
-    FinalizeState = "0";
-    cmdFinalize.enabled = true;
-    showSetup();
-    showDemoMode();
-    m_saved = linesOnScreen();
-    m_notice = std::exchange(m_state.notice, {});
-    showStatus();
+    const Read<Field> read = readField(m_folder, m_field);
+    if (read.trouble)
+        showTrouble(m_platform.dialogs, *read.trouble);
+    m_field = read.value;
+    m_isDemo = demoModeIsOn(m_folder);
+    m_isFinalizing = false;
+    putOnScreen(m_field);
+    m_saved = fieldOnScreen();
     focused = &txtRegion[0];
 }
 
-void SetupScreen::showSetup()
+void SetupScreen::putOnScreen(const Field& field)
 {
-    const SetupLines& lines = m_state.setupLines;
-    for (std::size_t i = 0; i < txtRegion.size(); ++i)
-        txtRegion[i].text = lines[setup_line::kTeam + i];
-    for (std::size_t i = 0; i < TxtInfo.size(); ++i) // the region titles follow the pool's title
-        TxtInfo[i].text = lines[setup_line::kTitle + i];
+    for (const TeamRow row : allTeamRows())
+        txtRegion[row].text = field.teams[row];
+    TxtInfo[0].text = field.title;
+    for (std::size_t region = 0; region < field.regionTitles.size(); ++region)
+        TxtInfo[region + 1].text = field.regionTitles[region];
     for (std::size_t round = 0; round < txtInfo6.size(); ++round)
-        txtInfo6[round].text = lines[setup_line::kPayoff + round];
-    for (std::size_t row = 0; row < kRowsPerRegion; ++row)
-        m_state.seedLabels[row] = lines[setup_line::kSeed + row];
+        txtInfo6[round].text = field.payoffs.texts()[round];
+    m_seeds = field.seeds;
+    txtComment1.text = field.comment1;
+    txtComment2.text = field.comment2;
+}
+
+/// @returns what a save writes, each text exactly as it is in its box
+Field SetupScreen::fieldOnScreen() const
+{
+    Field field;
+    for (const TeamRow row : allTeamRows())
+        field.teams[row] = txtRegion[row].text;
+    field.title = TxtInfo[0].text;
+    for (std::size_t region = 0; region < field.regionTitles.size(); ++region)
+        field.regionTitles[region] = TxtInfo[region + 1].text;
+    std::array<std::string, kRounds> payoffs;
+    for (std::size_t round = 0; round < payoffs.size(); ++round)
+        payoffs[round] = txtInfo6[round].text;
+    field.payoffs = PayoffTexts{payoffs};
+    field.seeds = m_seeds;
+    // A bar that is typed into a comment is a line break in the file.
+    field.comment1 = decodeLineBreaks(txtComment1.text);
+    field.comment2 = decodeLineBreaks(txtComment2.text);
+    field.finalized = m_isFinalizing ? "1" : "0";
+    return field;
+}
+
+std::array<std::string, kRowsPerRegion> SetupScreen::teamsOfFirstRegion() const
+{
+    std::array<std::string, kRowsPerRegion> teams;
+    for (std::size_t row = 0; row < teams.size(); ++row)
+        teams[row] = txtRegion[row].text;
+    return teams;
+}
+
+void SetupScreen::showState()
+{
+    lblDemoMode.visible = m_isDemo;
+    mnuDemoReset.enabled = m_isDemo;
+    // A finalized pool of the person's own must not be replaced by the sample.
+    mnuDemoSet.enabled = !m_isDemo && m_field.mayBeReplaced();
+
+    const bool isOverridden = m_picker.isOverridden();
+    cmdOverride.caption = isOverridden ? kSelectingCaption : kOverrideCaption;
+    lstTeamNames.enabled = cmdAddName.enabled = cmdChangeName.enabled = cmdDeleteName.enabled = !isOverridden;
+    m_editor.showState();
+    m_picker.showState();
+    cmdFinalize.enabled = !m_isFinalizing;
+
     showSeeds();
-    txtComment1.text = decodeLineBreaks(lines[setup_line::kComment1]);
-    txtComment2.text = decodeLineBreaks(lines[setup_line::kComment2]);
+    showExplanations();
+    showStatus();
 }
 
 void SetupScreen::showSeeds()
 {
-    for (std::size_t i = 0; i < lblSeed.size(); ++i) {
-        const std::string& seed = m_state.seedLabels[i % kRowsPerRegion];
-        lblSeed[i].text = seed;
-        txtRegion[i].spokenName = "Region " + std::to_string(i / kRowsPerRegion + 1) + ", seed " + seed;
-    }
-    showStatus();
-}
-
-void SetupScreen::showTeamNames()
-{
-    m_known.note(m_folder.pathTo(file_name::kTeamNames));
-    const auto names = ReadTeamNames(m_folder, m_platform.dialogs);
-    m_teamListIsRead = names.has_value();
-    lstTeamNames.rows.clear();
-    lstTeamNames.selected.reset();
-    if (!names)
-        return;
-    for (const std::string& team : *names) {
-        if (team.empty())
-            break;
-        insertSorted(lstTeamNames.rows, team);
+    for (const TeamRow row : allTeamRows()) {
+        const std::string& seed = m_seeds.at(static_cast<std::size_t>(rowInRegion(row)));
+        lblSeed[row].text = seed;
+        txtRegion[row].spokenName = "Region " + std::to_string(regionOf(row) + 1) + ", seed " + seed;
     }
 }
 
-void SetupScreen::showDemoMode()
+void SetupScreen::showExplanations()
 {
-    const bool demo = demoModeIsOn(m_folder);
-    lblDemoMode.visible = demo;
-    mnuDemoReset.enabled = demo;
-    // A finalized pool of the person's own must not be overwritten by the sample.
-    mnuDemoSet.enabled = !demo && leadingNumber(m_state.setupLines[setup_line::kFinalized]) == 0;
-
-    // The installer is not waited for, so right after a demo command the command itself knows better than the files.
-    if (m_opening != Opening::Plain) {
-        lblDemoMode.visible = m_opening == Opening::DemoEntered;
-        mnuDemoReset.enabled = m_opening == Opening::DemoEntered;
-        mnuDemoSet.enabled = m_opening == Opening::DemoLeft;
-    }
+    const bool isOverridden = m_picker.isOverridden();
+    for (std::size_t box = 0; box < txtRegion.size(); ++box)
+        txtRegion[box].explanation = explanationOfTeamBox(isOverridden);
+    cmdOverride.explanation = explanationOfOverride(isOverridden);
 }
 
-void SetupScreen::toggleOverride()
+void SetupScreen::showStatus()
 {
-    OverrideMode = !OverrideMode;
-    cmdOverride.caption = OverrideMode ? kSelectingCaption : kOverrideCaption;
-    lstTeamNames.enabled = !OverrideMode;
-    cmdAddName.enabled = !OverrideMode;
-    cmdChangeName.enabled = !OverrideMode;
-    cmdDeleteName.enabled = !OverrideMode;
-    explainBoxes();
-    focused = controlAtTab(LastTeamBox);
+    status.clear();
+    if (!m_editor.isRead())
+        say(status, kNoListStatus);
+    // Never empty: a line that comes and goes would move everything above it.
+    say(status, fieldOnScreen() == m_saved ? kSavedStatus : kUnsavedStatus);
+    if (m_isFinalizing)
+        say(status, kFinalizeStatus);
+    if (!m_notice.empty())
+        say(status, m_notice);
 }
 
-void SetupScreen::clearTeamNames()
+// The sample field is there to be looked at: the help on demo mode says what can and cannot be done with it.
+std::string SetupScreen::helpTopic() const { return m_isDemo ? help_topic::kDemo : help_topic::kSetup; }
+
+bool SetupScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
 {
-    for (std::size_t i = 0; i < txtRegion.size(); ++i)
-        txtRegion[i].text.clear();
-    focused = &txtRegion[0];
-    showStatus();
+    // Escape would leave the screen, and leaving drops unsaved edits without a question: too much for a slip.
+    if (press.key == ui::Key::Escape)
+        return true;
+    if (&control == &lstTeamNames)
+        return m_picker.listKey(press);
+    if (const auto box = txtRegion.indexOf(control))
+        return m_picker.boxKey(*box, press);
+    const bool isUpOrDown = press.key == ui::Key::Up || press.key == ui::Key::Down;
+    const bool isComment = &control == &txtComment1 || &control == &txtComment2;
+    return isUpOrDown && !isComment && dynamic_cast<ui::TextBox*>(&control) != nullptr;
 }
 
-void SetupScreen::enterSeeds() { m_screens.load(ScreenKind::SeedPositions); }
+void SetupScreen::gotFocus(ui::Control& control)
+{
+    if (const auto box = txtRegion.indexOf(control))
+        m_picker.boxGotFocus(*box);
+}
+
+void SetupScreen::lostFocus(ui::Control& control)
+{
+    if (&control == &lstTeamNames)
+        m_picker.listLostFocus();
+}
+
+bool SetupScreen::pasted(ui::TextBox& box, const std::string& text)
+{
+    const auto index = txtRegion.indexOf(box);
+    return index && m_picker.pasted(*index, text, m_platform.dialogs);
+}
 
 void SetupScreen::leave()
 {
     // Names that could not be written stay here, where they can be seen.
-    if (!saveTeamNames())
+    if (!m_editor.saveChanges())
         return;
     m_screens.load(ScreenKind::Board);
     m_screens.unload(ScreenKind::Setup);
 }
 
-void SetupScreen::closeRequested() { leave(); }
-
 void SetupScreen::unloading()
 {
     // Nothing is asked twice: after any answer there are no changes left to ask about.
-    saveTeamNames();
+    m_editor.saveChanges();
 }
 
 void SetupScreen::startDemoMode()
 {
-    if (const std::optional<Opening> opening = enterDemo(m_folder, m_platform))
-        reload(*opening);
+    if (enterDemo(m_folder, m_platform))
+        reload({});
 }
 
 void SetupScreen::resetDemoMode()
 {
-    if (leaveDemo(m_folder, m_platform, m_state.notice))
-        reload(Opening::DemoLeft);
+    if (const std::optional<std::string> notice = leaveDemo(m_folder, m_platform))
+        reload(*notice);
 }
 
-void SetupScreen::reload(Opening opening)
+void SetupScreen::reload(const std::string& notice)
 {
-    if (!saveTeamNames()) {
+    if (!m_editor.saveChanges()) {
         // Names that could not be written stay here, beside the pool that is there now.
-        m_opening = opening;
-        showPool();
+        m_notice = notice;
+        readPool();
         return;
     }
     m_screens.unload(ScreenKind::Setup);
-    m_screens.load(ScreenKind::Setup, opening);
+    m_screens.load(ScreenKind::Setup, notice);
 }
 
 void SetupScreen::showHelpText() { showHelp(m_folder, m_platform, helpTopic()); }
-
-// The sample field is there to be looked at: what can and cannot be done with it stands under demo mode.
-std::string SetupScreen::helpTopic() const { return lblDemoMode.visible ? help_topic::kDemo : help_topic::kSetup; }
 
 } // namespace tallyhoop

@@ -3,14 +3,16 @@
 
 #include "files/data_folder.h"
 #include "files/known_files.h"
-#include "screens/list_search.h"
+#include "pool/field.h"
 #include "screens/screens.h"
+#include "screens/setup/field_completeness.h"
+#include "screens/setup/team_name_editor.h"
+#include "screens/setup/team_picker.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
 
-#include <cstdint>
+#include <array>
 #include <string>
-#include <vector>
 
 namespace tallyhoop {
 
@@ -19,24 +21,25 @@ namespace tallyhoop {
 class SetupScreen : public ui::Screen
 {
 public:
-    /// @param opening what a demo command of the screen loaded before has done
-    SetupScreen(const DataFolder& folder, const ui::Platform& platform, modTallyhoop& state, Screens& screens,
-                Opening opening = Opening::Plain);
+    /// @param field  the open field; read anew when the screen is loaded, and not changed by what is entered here
+    /// @param notice a sentence for the status line; empty = none
+    SetupScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, Field& field,
+                std::string notice = {});
 
-    // In reading order; the tab order stands apart from it because the key rules find team boxes by tab position.
+    // In reading order; the tab order differs from it because Tab goes through all team boxes first.
     ui::Label lblDemoMode{this, "lblDemoMode", "Demonstration Mode"};
     ui::Label lblPoolTitle{this, "lblPoolTitle", "Pool Title:"};
-    ui::ControlArray<ui::TextBox, 5> TxtInfo{this, "TxtInfo"}; ///< 0 the pool's title, 1..4 the region titles
+    ui::ControlArray<ui::TextBox, kRegions + 1> TxtInfo{this, "TxtInfo"}; ///< 0 the pool's title, 1..4 the regions'
     ui::ControlArray<ui::Label, kTeams> lblSeed{this, "lblSeed"};
-    ui::ControlArray<ui::TextBox, kTeams> txtRegion{this,
-                                                    "txtRegion"}; ///< box i: region i / 16, first-round row i % 16
-    ui::ListBox lstTeamNames{this, "lstTeamNames"};               ///< sorted, but a changed name keeps its row
+    ui::ControlArray<ui::TextBox, kTeams> txtRegion{this, "txtRegion"}; ///< by TeamRow
+    ui::ListBox lstTeamNames{this, "lstTeamNames"};
     ui::Label lblChangeNames{this, "lblChangeNames", "Select Buttons to Change Names in the above List"};
-    ui::Command cmdAddName{this, "cmdAddName", "&Add", [this] { addName(); }};
-    ui::Command cmdChangeName{this, "cmdChangeName", "&Change", [this] { changeName(); }};
-    ui::Command cmdDeleteName{this, "cmdDeleteName", "&Delete", [this] { deleteName(); }};
-    ui::Command cmdOverride{this, "cmdOverride", "Override &Selecting Team Names", [this] { toggleOverride(); }};
-    ui::Command cmdClear{this, "cmdClear", "Clear All Team Names", [this] { clearTeamNames(); }};
+    ui::Command cmdAddName{this, "cmdAddName", "&Add", [this] { m_editor.add(); }};
+    ui::Command cmdChangeName{this, "cmdChangeName", "&Change", [this] { m_editor.change(); }};
+    ui::Command cmdDeleteName{this, "cmdDeleteName", "&Delete", [this] { m_editor.remove(); }};
+    ui::Command cmdOverride{this, "cmdOverride", "Override &Selecting Team Names",
+                            [this] { m_picker.toggleOverride(); }};
+    ui::Command cmdClear{this, "cmdClear", "Clear All Team Names", [this] { m_picker.clearBoxes(); }};
     ui::Label lblComment1{this, "lblComment1", "Comment 1:"};
     ui::TextBox txtComment1{this, "txtComment1"};
     ui::Label lblComment2{this, "lblComment2", "Comment 2:"};
@@ -52,7 +55,7 @@ public:
                                        "Ctrl+S"};
     ui::MenuEntry mnuEnd{this, "mnuEnd", "E&xit", [this] { leave(); }};
     ui::MenuEntry mnuOptions{this, "mnuOptions", "&Options"};
-    ui::MenuEntry mnuSeating{this, "mnuSeating", "&Seeding Entry", [this] { enterSeeds(); }};
+    ui::MenuEntry mnuSeating{this, "mnuSeating", "&Seeding Entry", [this] { m_screens.load(ScreenKind::Seeds); }};
     ui::MenuEntry mnuDemo{this, "mnuDemo", "DE&MO Mode"};
     ui::MenuEntry mnuDemoSet{this, "mnuDemoSet", "DEMO-&Start", [this] { startDemoMode(); }};
     ui::MenuEntry mnuDemoReset{this, "mnuDemoReset", "DEMO-&Reset", [this] { resetDemoMode(); }};
@@ -60,84 +63,55 @@ public:
     ui::MenuEntry mnuHelpDisplay{this, "mnuHelpDisplay", "&Help Display", [this] { showHelpText(); }, "F1"};
     ui::MenuEntry mnuHelpAbout{this, "mnuHelpAbout", "&About Tallyhoop", [this] { m_platform.dialogs.about(); }};
 
-    bool OverrideMode = false;      ///< team names are typed freely instead of picked from the list
-    std::int16_t LastTeamBox = 0;   ///< tab position (= index) of the team box that had the focus last
-    std::string FinalizeState{"0"}; ///< "1" once Finalize Tournament is pressed; what the next save writes
+    /// The seeds of the field on screen, for the seeds screen to change.
+    SeedTexts& seeds() { return m_seeds; }
+
+    /// The teams on screen in the rows of the first region.
+    std::array<std::string, kRowsPerRegion> teamsOfFirstRegion() const;
 
     std::string helpTopic() const override;
     void load() override;
+    void showState() override;
     void unloading() override;
-    void closeRequested() override;
+    void closeRequested() override { leave(); }
     bool keyPressed(ui::Control& control, const ui::KeyPress& press) override;
     void gotFocus(ui::Control& control) override;
     void lostFocus(ui::Control& control) override;
     bool pasted(ui::TextBox& box, const std::string& text) override;
 
-    /// Shows the shared seed texts beside the team boxes of all four regions.
-    void showSeeds();
-
 private:
-    // SetupScreen.cpp
-    void arrangeTabs();
-    void arrangeMenus();
-    void describeBoxes();
-    void showPool();
-    void showSetup();
-    void showTeamNames();
-    void showDemoMode();
-    void toggleOverride();
-    void clearTeamNames();
-    void enterSeeds();
+    void readPool();
+    void putOnScreen(const Field& field);
+    Field fieldOnScreen() const;
+
+    void showSeeds();
+    void showExplanations();
+    void showStatus();
+
+    void finalize();
+    void saveStartingField();
+    void refuse(const FieldGap& gap);
+    bool finalizingIsConfirmed();
+
     void leave();
     void startDemoMode();
     void resetDemoMode();
-    void reload(Opening opening);
+    void reload(const std::string& notice);
     void showHelpText();
-
-    // SetupScreen_keys.cpp
-    bool teamBoxKey(std::size_t box, const ui::KeyPress& press);
-    bool teamListKey(const ui::KeyPress& press);
-    void forwardToList(ui::TextBox& box, ui::Key key);
-    void search(ui::TextBox& box, std::int16_t keyCode);
-    void acceptTeamBox(std::size_t box);
-    void teamBoxEdited(ui::TextBox& box);
-    void markLastTeamBox(bool marked);
-    bool isListedName(const std::string& team) const;
-
-    // SetupScreen_paste.cpp
-    bool pasteTeams(std::size_t box, const std::string& text);
-    std::string listedName(const std::string& typed) const;
-
-    // SetupScreen_names.cpp
-    void addName();
-    void changeName();
-    void deleteName();
-    void addOverrideName(std::size_t box);
-    bool saveTeamNames();
-
-    // SetupScreen_save.cpp
-    void finalize();
-    void saveStartingField();
-    bool isComplete();
-    bool finalizingIsConfirmed();
-    void refuse(ui::Control& box, const char* title, const char* text);
-    SetupLines linesOnScreen() const;
-
-    // SetupScreen_words.cpp
-    void explainBoxes();
-    void explainMenus();
-    void showStatus();
 
     const DataFolder& m_folder;
     ui::Platform m_platform;
-    modTallyhoop& m_state;
     Screens& m_screens;
-    Opening m_opening;
-    ListSearch m_search;
-    KnownFiles m_known;            ///< the field and the list of team names as they were read
-    SetupLines m_saved{};          ///< what the screen held when it was loaded or saved last
-    std::string m_notice;          ///< what the screen that was here before left to be said
-    bool m_teamListIsRead = false; ///< NCAALIST.THS was there and whole
+    Field& m_field;
+    std::string m_notice; ///< what the screen that was here before left to be said
+
+    KnownFiles m_known;          ///< the field as it was read
+    Field m_saved;               ///< what the screen held when it was loaded or saved last
+    SeedTexts m_seeds;           ///< of the field on screen
+    bool m_isDemo = false;       ///< the folder holds the sample pool
+    bool m_isFinalizing = false; ///< Finalize Tournament is pressed: the next save makes the field final
+    TeamNameEditor m_editor{m_folder, m_platform.dialogs, lstTeamNames};
+    TeamPicker m_picker{txtRegion, lstTeamNames, m_editor.names()};
 };
 
 } // namespace tallyhoop

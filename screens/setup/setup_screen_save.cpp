@@ -1,31 +1,29 @@
 // screens/setup/setup_screen_save.cpp - the setup screen: finalizing the field and saving it.
 #include "screens/setup/setup_screen.h"
 
-#include "base/numbers.h"
-#include "base/text.h"
+#include "files/file_names.h"
 #include "files/settings_file.h"
 #include "files/setup_file.h"
 #include "screens/help_topics.h"
+#include "screens/saving.h"
 
 namespace tallyhoop {
 
 namespace {
 
-constexpr const char* kBlankFields =
-    "You have selected FINALIZE and there are blank fields , this MUST be corrected!"; // sic
+// Texts are kept letter for letter, odd spellings included.
+constexpr const char* kBlankFields = "You have selected FINALIZE and there are blank fields , this MUST be corrected!";
 constexpr const char* kBlankTeamsCaption = "Initial TEAM FIELD NAMES are BLANK";
 constexpr const char* kBlankTitlesCaption = "TITLE or REGION TITLES are BLANK";
 constexpr const char* kBadPayoffs =
     "You have selected FINALIZE and the PAYOFF POINTS / ROUND fields must be between 1 & 99!";
 constexpr const char* kBadPayoffsCaption = "PAYOFF POINTS / ROUND are INVALID";
-constexpr double kLeastPayoff = 1;
-constexpr double kMostPayoff = 99;
 
 constexpr const char* kFinalizeQuestion =
     "ARE YOU FINISHED WITH ALL SETUP OPTIONS??\r\n"
     "You selected the \"Finalize Tournament\" option and then selected to save this SETUP File.\r\n"
     "\r\n"
-    "If you complete this option, you will not be able to make any addtional Setup changes.\r\n" // sic
+    "If you complete this option, you will not be able to make any addtional Setup changes.\r\n"
     "THE SETUP FUNCTION FOR THE TOURNAMENT WILL BE CONSIDERED FINAL!\r\n"
     "\r\n"
     "If you ARE FINISHED with your setup, then this is fine.  Select OK and the file will be saved.\r\n"
@@ -37,98 +35,68 @@ constexpr const char* kDemoRefusal = "You are attempting to save the Setup infor
                                      "you are in DEMO Mode.  This is not allowed!\r\n"
                                      " \r\n"
                                      "See Help for information on DEMO MODE or select\r\n"
-                                     "Menu: MENU Mode / DEMO-Reset to exit DEMO MODE."; // sic
+                                     "Menu: MENU Mode / DEMO-Reset to exit DEMO MODE.";
 
 } // namespace
 
 void SetupScreen::finalize()
 {
-    FinalizeState = "1";
-    cmdFinalize.enabled = false;
+    m_isFinalizing = true;
     // A disabled button cannot keep the focus. Left alone it would go on to the list, where pressing Enter once more
     // would put the list's missing selection into a team box.
     if (focused == &cmdFinalize)
         focused = controlAtTab(cmdFinalize.tabIndex - 1);
-    showStatus();
 }
 
 void SetupScreen::saveStartingField()
 {
-    const bool finalizing = FinalizeState == "1";
-    if (finalizing && !(isComplete() && finalizingIsConfirmed()))
-        return;
+    if (m_isFinalizing) {
+        if (const std::optional<FieldGap> gap = firstGapOf(fieldOnScreen())) {
+            refuse(*gap);
+            return;
+        }
+        if (!finalizingIsConfirmed())
+            return;
+    }
     if (demoModeIsOn(m_folder)) {
         m_platform.dialogs.show(
             {kDemoCaption, kDemoRefusal, ui::Buttons::Ok, ui::Icon::Exclamation, help_topic::kDemo});
         return;
     }
-    const SetupLines lines = linesOnScreen();
-    if (!WriteStartingField(m_folder, m_platform.dialogs, m_known, lines))
+    Field field = fieldOnScreen();
+    if (!saveDataFile(m_platform.dialogs, m_known, m_folder, file_name::kSetup, setupFile(field)))
         return;
-    m_saved = lines;
-    showStatus();
-    if (finalizing)
+    m_saved = std::move(field);
+    if (m_isFinalizing)
         leave();
 }
 
-/// Says what keeps the field from being finalized: the first offending box only.
-bool SetupScreen::isComplete()
+/// Goes to the box with the gap and says what it lacks.
+void SetupScreen::refuse(const FieldGap& gap)
 {
-    for (std::size_t i = 0; i < txtRegion.size(); ++i) {
-        if (isBlankField(txtRegion[i].text)) {
-            refuse(txtRegion[i], kBlankTeamsCaption, kBlankFields);
-            return false;
-        }
+    const auto refuseBox = [this](ui::TextBox& box, const char* title, const char* text) {
+        focused = &box;
+        m_platform.dialogs.show({title, text, ui::Buttons::Ok, ui::Icon::Exclamation});
+    };
+    switch (gap.kind) {
+    case FieldGap::Kind::Team:
+        refuseBox(txtRegion[gap.index], kBlankTeamsCaption, kBlankFields);
+        break;
+    case FieldGap::Kind::Title:
+        refuseBox(TxtInfo[gap.index], kBlankTitlesCaption, kBlankFields);
+        break;
+    case FieldGap::Kind::Payoff:
+        refuseBox(txtInfo6[gap.index], kBadPayoffsCaption, kBadPayoffs);
+        break;
     }
-    for (std::size_t i = 0; i < TxtInfo.size(); ++i) {
-        if (isBlankField(TxtInfo[i].text)) {
-            refuse(TxtInfo[i], kBlankTitlesCaption, kBlankFields);
-            return false;
-        }
-    }
-    for (std::size_t round = 0; round < txtInfo6.size(); ++round) {
-        const double points = leadingNumber(txtInfo6[round].text);
-        if (points < kLeastPayoff || points > kMostPayoff) {
-            refuse(txtInfo6[round], kBadPayoffsCaption, kBadPayoffs);
-            return false;
-        }
-    }
-    return true;
 }
 
-void SetupScreen::refuse(ui::Control& box, const char* title, const char* text)
-{
-    focused = &box;
-    m_platform.dialogs.show({title, text, ui::Buttons::Ok, ui::Icon::Exclamation});
-}
-
+/// @returns false when the person thinks again; then Finalize Tournament is as if it had not been pressed
 bool SetupScreen::finalizingIsConfirmed()
 {
-    if (m_platform.dialogs.show({{}, kFinalizeQuestion, ui::Buttons::OkCancel, ui::Icon::None}) != ui::Answer::Cancel)
-        return true;
-    FinalizeState = "0";
-    cmdFinalize.enabled = true;
-    showStatus();
-    return false;
-}
-
-/// @returns what a save writes, each field exactly as it stands in its box
-SetupLines SetupScreen::linesOnScreen() const
-{
-    SetupLines lines;
-    for (std::size_t i = 0; i < txtRegion.size(); ++i)
-        lines[setup_line::kTeam + i] = txtRegion[i].text;
-    for (std::size_t i = 0; i < TxtInfo.size(); ++i)
-        lines[setup_line::kTitle + i] = TxtInfo[i].text;
-    for (std::size_t round = 0; round < txtInfo6.size(); ++round)
-        lines[setup_line::kPayoff + round] = txtInfo6[round].text;
-    for (std::size_t row = 0; row < kRowsPerRegion; ++row)
-        lines[setup_line::kSeed + row] = m_state.seedLabels[row];
-    lines[setup_line::kComment1] = encodeLineBreaks(txtComment1.text);
-    lines[setup_line::kComment2] = encodeLineBreaks(txtComment2.text);
-    lines[setup_line::kFinalized] = FinalizeState;
-    lines[setup_line::kEnd] = kEndMarker;
-    return lines;
+    const auto answer = m_platform.dialogs.show({{}, kFinalizeQuestion, ui::Buttons::OkCancel, ui::Icon::None});
+    m_isFinalizing = answer != ui::Answer::Cancel;
+    return m_isFinalizing;
 }
 
 } // namespace tallyhoop

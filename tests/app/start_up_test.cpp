@@ -1,3 +1,4 @@
+// tests/app/start_up_test.cpp - the board comes first, then the offer of the demonstration where no field was saved.
 #include "app/start_up.h"
 
 #include "fakes/fake_platform.h"
@@ -15,7 +16,6 @@ protected:
     ScratchFolder scratch;
     FakePlatform platform;
     FakeScreens screens;
-    const FakeScreens::Load kBoard{ScreenKind::Board, Opening::Plain};
 
     void start() { startUp(scratch.folder(), platform.services, screens); }
 };
@@ -24,7 +24,7 @@ TEST_F(StartUp, ShowsTheBoardAndAsksNothingWhenAFieldWasSaved)
 {
     scratch.put(file_name::kSetup, "*START*\r\n*END*\r\n");
     start();
-    EXPECT_EQ(screens.loads, std::vector{kBoard});
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
 
@@ -46,7 +46,7 @@ TEST_F(StartUp, OffersTheDemonstrationAfterTheBoardIsVisible)
                                               "More information is available on DEMO Mode in HELP\r\n"
                                               " \r\n"
                                               "Do you want to initiate DEMO Mode?");
-    EXPECT_EQ(screens.loads, std::vector{kBoard});
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
     EXPECT_TRUE(platform.programs.started.empty());
 }
 
@@ -60,7 +60,7 @@ TEST_F(StartUp, InstallsTheSamplePoolAndReloadsTheBoardOnOk)
     EXPECT_EQ(platform.dialogs.captionsShown(),
               (std::vector<std::string>{"** DEMO MODE OPTION **", "STALLYHOOP DEMOSTRATION MODE"}));
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Board});
-    EXPECT_EQ(screens.loads, (std::vector{kBoard, kBoard}));
+    EXPECT_EQ(screens.loads, std::vector(2, ScreenKind::Board));
 }
 
 TEST_F(StartUp, LeavesTheBoardAsItIsWhenTheInstallerCannotBeStarted)
@@ -70,7 +70,7 @@ TEST_F(StartUp, LeavesTheBoardAsItIsWhenTheInstallerCannotBeStarted)
     start();
     EXPECT_EQ(platform.dialogs.shown.size(), 2u);
     EXPECT_NE(platform.dialogs.shown[1].text.find("no such file"), std::string::npos);
-    EXPECT_EQ(screens.loads, std::vector{kBoard});
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
 }
 
 TEST_F(StartUp, ShowsWhatIsThereWhenNoSamplePoolComes)
@@ -79,7 +79,7 @@ TEST_F(StartUp, ShowsWhatIsThereWhenNoSamplePoolComes)
     platform.dialogs.answer(ui::Answer::Ok);
     start();
     EXPECT_EQ(platform.dialogs.shown.back().icon, ui::Icon::Critical);
-    EXPECT_EQ(screens.loads, (std::vector{kBoard, kBoard}));
+    EXPECT_EQ(screens.loads, std::vector(2, ScreenKind::Board));
 }
 
 TEST_F(StartUp, RepeatsTheOfferForAsLongAsNoFieldWasSaved)

@@ -9,9 +9,10 @@
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
 #include "files/file_names.h"
+#include "files/pool_files.h"
 #include "files/selection_file.h"
 #include "files/settings_file.h"
-#include "files/setup_file.h"
+#include "pool/faults.h"
 #include "pool/naive_scorer.h"
 #include "pool/sample_brackets.h"
 #include "pool/scoring.h"
@@ -24,19 +25,21 @@ namespace {
 
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::IsEmpty;
 
-/// Every winner stands among the two teams that meet for it; an open game is followed by open games only.
-void expectConsistent(const SelectionLines& lines)
+constexpr Payoffs kPayoffs{1, 2, 4, 8, 12, 16};
+
+/// Every winner is one of the two teams that meet for its place; an open game is followed by open games only.
+void expectConsistent(const Bracket& bracket)
 {
-    for (int slot = 1; slot <= 127; ++slot) {
-        const std::string& winner = lines.at(static_cast<std::size_t>(slot));
-        if (test::roundOfSlot(slot) == 0) {
-            EXPECT_NE(winner, "") << "slot " << slot;
-        } else if (!winner.empty()) {
-            const auto [upper, lower] = test::entrantsOf(slot);
-            EXPECT_TRUE(winner == lines.at(static_cast<std::size_t>(upper)) ||
-                        winner == lines.at(static_cast<std::size_t>(lower)))
-                << winner << " in slot " << slot;
+    for (const Position position : allPositions()) {
+        if (test::roundAt(position) == 0) {
+            EXPECT_FALSE(bracket.isEmpty(position)) << "position " << index(position);
+        } else if (!bracket.isEmpty(position)) {
+            const auto [upper, lower] = test::entrantsOf(position);
+            const std::string& winner = bracket.at(position);
+            EXPECT_TRUE(winner == bracket.at(upper) || winner == bracket.at(lower))
+                << winner << " on position " << index(position);
         }
     }
 }
@@ -49,92 +52,99 @@ struct ExpectedScore {
 };
 
 /// Scores a player against the sample results with the field's payoffs, by the program and by the naive scorer.
-void expectScore(const SelectionLines& lines, const ExpectedScore& expected)
+void expectScore(const Bracket& picks, const ExpectedScore& expected)
 {
-    constexpr Payoffs kPayoffs{1, 2, 4, 8, 12, 16};
-    const ScoredPicks scored = Scoring{demo::sampleResults(), kPayoffs}.score(lines);
-    EXPECT_EQ(scored.points, expected.points);
-    EXPECT_EQ(scored.points + scored.possible, expected.maximum);
-    EXPECT_EQ(scored.goodPicks, expected.good);
-    EXPECT_EQ(scored.badPicks, expected.bad);
-    const ScoredPicks naive = test::scoreNaively(lines, demo::sampleResults(), kPayoffs);
-    EXPECT_EQ(naive.points, expected.points);
-    EXPECT_EQ(naive.points + naive.possible, expected.maximum);
+    for (const Score& scored : {score(picks, demo::sampleResults().picks, kPayoffs),
+                                test::scoreNaively(picks, demo::sampleResults().picks, kPayoffs)}) {
+        EXPECT_EQ(scored.points, expected.points);
+        EXPECT_EQ(scored.points + scored.possible, expected.maximum);
+        EXPECT_EQ(scored.goodPicks, expected.good);
+        EXPECT_EQ(scored.badPicks, expected.bad);
+    }
 }
 
 TEST(SamplePool, HasTheFieldOf2000Finalized)
 {
-    const SetupLines setup = demo::sampleSetup();
-    EXPECT_EQ(setup[0], "Arizona");
-    EXPECT_EQ(setup[16], "Michigan St.");
-    EXPECT_EQ(setup[32], "Duke");
-    EXPECT_EQ(setup[63], "UNC Wilmington");
-    EXPECT_EQ(setup[setup_line::kTitle], "2000 NCAA Tournament");
-    EXPECT_EQ(setup[setup_line::kRegion], "West Region");
-    EXPECT_EQ(setup[setup_line::kRegion + 3], "South Region");
-    EXPECT_EQ(setup[setup_line::kPayoff + 5], "16");
-    EXPECT_NE(setup[setup_line::kComment1], "");
-    EXPECT_NE(setup[setup_line::kComment2], "");
-    EXPECT_TRUE(isFinalized(setup));
+    const Field field = demo::sampleField();
+    EXPECT_EQ(field.teams[TeamRow{0}], "Arizona");
+    EXPECT_EQ(field.teams[TeamRow{16}], "Michigan St.");
+    EXPECT_EQ(field.teams[TeamRow{32}], "Duke");
+    EXPECT_EQ(field.teams[TeamRow{63}], "UNC Wilmington");
+    EXPECT_EQ(field.title, "2000 NCAA Tournament");
+    EXPECT_EQ(field.regionTitles.front(), "West Region");
+    EXPECT_EQ(field.regionTitles.back(), "South Region");
+    EXPECT_EQ(*field.payoffs.points(), kPayoffs);
+    EXPECT_NE(field.comment1, "");
+    EXPECT_NE(field.comment2, "");
+    EXPECT_TRUE(field.isFinalized());
 }
 
 TEST(SamplePool, ShowsTheSameFieldInEverySelection)
 {
-    const SetupLines setup = demo::sampleSetup();
-    std::vector<SelectionLines> brackets{demo::sampleResults()};
+    const Field field = demo::sampleField();
+    std::vector<Bracket> brackets{demo::sampleResults().picks};
     for (const demo::SamplePlayer& player : demo::samplePlayers())
-        brackets.push_back(player.lines);
-    for (const SelectionLines& lines : brackets)
-        for (int team = 0; team < kTeams; ++team) {
-            const Slot slot = slotOf(firstRoundPosition(team / 16, team % 16));
-            EXPECT_EQ(lines.at(static_cast<std::size_t>(index(slot))), setup.at(static_cast<std::size_t>(team)));
-        }
+        brackets.push_back(player.entry.picks);
+    for (const Bracket& bracket : brackets)
+        for (const TeamRow row : allTeamRows())
+            EXPECT_EQ(bracket.at(positionOf(row)), field.teams[row]);
 }
 
 TEST(SamplePool, HasResultsUpToTheRegionalFinalsAndTheLastThreeGamesOpen)
 {
-    const SelectionLines results = demo::sampleResults();
-    expectConsistent(results);
-    for (std::size_t slot = 1; slot <= 124; ++slot)
-        EXPECT_NE(results.at(slot), "") << "slot " << slot;
-    EXPECT_EQ(results[31], "Wisconsin");
-    EXPECT_EQ(results[62], "Michigan St.");
-    EXPECT_EQ(results[93], "Florida");
-    EXPECT_EQ(results[124], "North Carolina");
-    EXPECT_EQ(results[125], "");
-    EXPECT_EQ(results[126], "");
-    EXPECT_EQ(results[127], "");
-    EXPECT_EQ(results[selection_line::kInitials], "A");
-    EXPECT_EQ(results[selection_line::kName], "FinalResults");
-    EXPECT_EQ(results[selection_line::kFinalPoints], "");
+    const Entry results = demo::sampleResults();
+    expectConsistent(results.picks);
+    for (int position = 0; position < 124; ++position)
+        EXPECT_FALSE(results.picks.isEmpty(Position{position})) << "position " << position;
+    EXPECT_EQ(results.picks.at(Position{30}), "Wisconsin");
+    EXPECT_EQ(results.picks.at(Position{61}), "Michigan St.");
+    EXPECT_EQ(results.picks.at(Position{92}), "Florida");
+    EXPECT_EQ(results.picks.at(Position{123}), "North Carolina");
+    EXPECT_TRUE(results.picks.isEmpty(Position{124}));
+    EXPECT_TRUE(results.picks.isEmpty(Position{125}));
+    EXPECT_TRUE(results.picks.isEmpty(Position{126}));
+    EXPECT_EQ(results.initials, "A");
+    EXPECT_EQ(results.name, "FinalResults");
+    EXPECT_EQ(results.finalPoints, "");
 }
 
 TEST(SamplePool, HasFourPlayersWithBracketsThatCouldHaveBeenClicked)
 {
     for (const demo::SamplePlayer& player : demo::samplePlayers()) {
-        SCOPED_TRACE(player.fileName);
-        expectConsistent(player.lines);
-        const Result<std::int16_t> finalPoints = wholeNumber(player.lines[selection_line::kFinalPoints]);
+        SCOPED_TRACE(player.entry.fileName);
+        expectConsistent(player.entry.picks);
+        const Result<std::int16_t> finalPoints = wholeNumber(player.entry.finalPoints);
         ASSERT_TRUE(finalPoints);
         EXPECT_GE(*finalPoints, 50);
         EXPECT_LE(*finalPoints, 250);
     }
 }
 
+TEST(SamplePool, HasOneBracketLeftUnfinishedAndNoOtherFault)
+{
+    const std::vector<Fault> favorite = faultsOf(demo::bracketOf(demo::favouritesBracket()), demo::sampleField());
+    EXPECT_THAT(favorite, IsEmpty());
+    // Not finished: the last two rounds of the East, 4 + 2 + 1 games of the South after the first round, and the three
+    // last games but the first semi-final.
+    const std::vector<Fault> halfway = faultsOf(demo::bracketOf(demo::incompleteBracket()), demo::sampleField());
+    EXPECT_EQ(halfway.size(), 2u + 1u + 4u + 2u + 1u + 2u);
+    for (const Fault& fault : halfway)
+        EXPECT_EQ(fault.kind, FaultKind::NoPick);
+}
+
 TEST(SamplePool, NamesItsSelectionFilesAsTheProgramProposes)
 {
     std::vector<std::string> names;
-    for (const demo::SamplePlayer& player : demo::samplePlayers()) {
-        EXPECT_EQ(player.fileName,
-                  proposedFileName(player.lines[selection_line::kName], player.lines[selection_line::kInitials]));
-        EXPECT_EQ(player.record.fileName, upperCase(player.fileName));
-        EXPECT_LE(player.record.fileName.size(), kFileNameWidth);
-        EXPECT_TRUE(endsWithFolded(player.record.email, "@example.org"));
-        EXPECT_NE(player.record.phone, "");
-        names.push_back(player.fileName);
+    for (const auto& [entry, record] : demo::samplePlayers()) {
+        EXPECT_EQ(entry.fileName, proposedFileName(entry.name, entry.initials));
+        EXPECT_EQ(record.fileName, upperCase(entry.fileName));
+        EXPECT_LE(record.fileName.size(), kFileNameWidth);
+        EXPECT_TRUE(endsWithFolded(record.email, "@example.org"));
+        EXPECT_NE(record.phone, "");
+        names.push_back(entry.fileName);
     }
     EXPECT_TRUE(std::ranges::is_sorted(names)) << "the player list is kept in alphabetical order";
-    EXPECT_THAT(names, testing::UnorderedElementsAreArray(kDemoSelectionFiles));
+    EXPECT_THAT(names, testing::UnorderedElementsAreArray(demo::kSelectionFiles));
 }
 
 TEST(SamplePool, ScoresTheFavouritesBracket)
@@ -169,7 +179,7 @@ TEST(SamplePool, GivesThePlayersTheseBrackets)
 {
     std::vector<std::string> champions;
     for (const demo::SamplePlayer& player : demo::samplePlayers())
-        champions.push_back(player.lines[selection_line::kName] + ": " + player.lines[selection_line::kChampion]);
+        champions.push_back(player.entry.name + ": " + player.entry.picks.at(kChampion));
     EXPECT_THAT(champions, ElementsAre("Demo Favorite: Duke", "Demo Halfway: ", "Demo Longshot: Gonzaga",
                                        "Demo Prophet: Michigan St."));
 }
@@ -177,24 +187,21 @@ TEST(SamplePool, GivesThePlayersTheseBrackets)
 TEST(SamplePool, IsReadBackCleanlyByTheProgram)
 {
     const test::ScratchFolder scratch;
-    test::FakeDialogs dialogs;
     const DataFolder folder = scratch.folder();
     ASSERT_TRUE(demo::installSamplePool(folder));
 
-    modTallyhoop state;
-    ReadStartingField(folder, dialogs, state);
-    EXPECT_EQ(state.setupLines, demo::sampleSetup());
-    EXPECT_EQ(state.currentTitle, "2000 NCAA Tournament");
+    const Pool pool = readPool(folder);
+    EXPECT_THAT(pool.trouble, IsEmpty());
+    EXPECT_EQ(pool.field, demo::sampleField());
+    ASSERT_TRUE(pool.results);
+    Entry results = demo::sampleResults();
+    results.fileName = "TALLYHOOP.THS";
+    EXPECT_EQ(*pool.results, results);
+    ASSERT_EQ(pool.entries.size(), 4u);
+    for (std::size_t player = 0; player < 4; ++player)
+        EXPECT_EQ(pool.entries[player], demo::samplePlayers().at(player).entry);
 
-    SelectionLines lines;
-    ReadSelections(scratch.path() / "TALLYHOOP.THS", dialogs, lines);
-    EXPECT_EQ(lines, demo::sampleResults());
-    for (const demo::SamplePlayer& player : demo::samplePlayers()) {
-        ReadSelections(scratch.path() / player.fileName, dialogs, lines);
-        EXPECT_EQ(lines, player.lines);
-    }
-
-    EXPECT_TRUE(validatePlayerNames(folder, dialogs));
+    EXPECT_TRUE(checkPlayerNames(folder));
     const std::vector<PlayerRecord> records = readPlayerNames(folder);
     ASSERT_EQ(records.size(), 4u);
     EXPECT_THAT(records[3].name, testing::StartsWith("Demo Prophet,DP "));
@@ -202,7 +209,6 @@ TEST(SamplePool, IsReadBackCleanlyByTheProgram)
     EXPECT_TRUE(folder.exists(records[3].fileName.substr(0, records[3].fileName.find(' ', 5))));
 
     EXPECT_TRUE(demoModeIsOn(folder));
-    EXPECT_TRUE(dialogs.shown.empty());
 }
 
 TEST(SamplePool, SwitchesDemoModeOnWithItsLastFile)
@@ -250,8 +256,7 @@ TEST(SamplePoolInstall, NeverReplacesAFileOfSomebodyElse)
 TEST(SamplePoolInstall, TakesThePlaceOfAPlayerListWithoutPlayers)
 {
     const test::ScratchFolder scratch;
-    test::FakeDialogs dialogs;
-    ASSERT_TRUE(createPlayerNames(scratch.folder(), dialogs));
+    scratch.put("PLAYERNAMES.CSV", playerNamesFile({}));
     ASSERT_TRUE(demo::installSamplePool(scratch.folder()));
     EXPECT_EQ(readPlayerNames(scratch.folder()).size(), 4u);
 }
@@ -274,10 +279,8 @@ TEST(SamplePoolInstall, LeavesNothingToKeepWhenTheDemoIsLeftUntouched)
     const test::ScratchFolder scratch;
     test::FakePlatform platform;
     ASSERT_TRUE(demo::installSamplePool(scratch.folder()));
-    std::string notice;
-    EXPECT_TRUE(leaveDemo(scratch.folder(), platform.services, notice));
+    EXPECT_EQ(leaveDemo(scratch.folder(), platform.services), "") << "left, and nothing more to say";
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);
-    EXPECT_EQ(notice, "");
     EXPECT_TRUE(std::filesystem::is_empty(scratch.path()));
 }
 

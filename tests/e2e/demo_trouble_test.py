@@ -1,4 +1,4 @@
-"""The demo's installer fails behind the scenes: the person is told why, and the program goes on without a sample pool."""
+"""The demo's installer fails after its start: the program shows the reason and continues without a sample pool."""
 
 import unittest
 
@@ -14,7 +14,7 @@ class AnInstallerThatFails(unittest.TestCase):
         self.installer.write_text("#!/bin/sh\necho 'The dog ate it' >&2\nexit 1\n")
         self.installer.chmod(0o755)
 
-    def test_is_told_of_at_once(self):
+    def test_is_reported_at_once(self):
         self.program.start()
         self.program.answer("OK", "** DEMO MODE OPTION **")
         box = self.program.answer("OK", DEMO)

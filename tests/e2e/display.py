@@ -1,4 +1,4 @@
-"""A virtual display with a window manager, and a hand on its mouse and keyboard."""
+"""A virtual display with a window manager, and its mouse and keyboard."""
 
 import contextlib
 import os
@@ -9,34 +9,34 @@ import tempfile
 import time
 
 
-# Whatever a test starts ends with it, also when the test itself is killed.
-ENDING_WITH_US = ["setpriv", "--pdeathsig", "TERM"]
+# Everything that a test starts ends with it, also when the test itself is killed.
+ENDS_WITH_THE_TEST = ["setpriv", "--pdeathsig", "TERM"]
 
 
 class Display:
     """One Xvfb with openbox, on a display number that the server picks itself.
 
-    Positions are told as a program takes them that makes everything larger by the scale.
+    Positions are in the units of a program that enlarges everything by the scale.
     """
 
     def __init__(self, width=1366, height=768, scale=1):
         self._scale = scale
         self._log = tempfile.TemporaryFile()
-        told, tell = os.pipe()
-        # Without -noreset the server starts afresh whenever its last client leaves, and takes newcomers down with it.
+        number_end, report_end = os.pipe()
+        # Without -noreset the server resets itself when its last client leaves, and disconnects new ones.
         self._server = subprocess.Popen(
-            [*ENDING_WITH_US, "Xvfb", "-displayfd", str(tell), "-screen", "0", f"{width}x{height}x24",
+            [*ENDS_WITH_THE_TEST, "Xvfb", "-displayfd", str(report_end), "-screen", "0", f"{width}x{height}x24",
              "-nolisten", "tcp", "-noreset"],
-            pass_fds=[tell], stdout=self._log, stderr=self._log)
-        os.close(tell)
-        with os.fdopen(told) as number:
-            answer = number.readline().strip()  # comes when the server is ready, or empty when it has ended
+            pass_fds=[report_end], stdout=self._log, stderr=self._log)
+        os.close(report_end)
+        with os.fdopen(number_end) as number:
+            answer = number.readline().strip()  # a number when the server is ready, empty when it has ended
         if not answer:
             raise RuntimeError("Xvfb did not start")
         self.name = ":" + answer
-        self._manager = subprocess.Popen([*ENDING_WITH_US, "openbox", "--sm-disable"], env=self.environment(),
+        self._manager = subprocess.Popen([*ENDS_WITH_THE_TEST, "openbox", "--sm-disable"], env=self.environment(),
                                          stdout=self._log, stderr=self._log)
-        # A window that comes before the window manager never gets the keyboard.
+        # A window that is opened before the window manager is ready never gets the keyboard.
         end = time.monotonic() + 30
         while subprocess.run(["xdotool", "get_desktop"], env=self.environment(), stdout=self._log,
                              stderr=self._log).returncode != 0:
@@ -56,7 +56,7 @@ class Display:
 
     @contextlib.contextmanager
     def without_manager(self):
-        """The window manager takes its time: no window comes to the screen meanwhile."""
+        """Stops the window manager: meanwhile no new window appears on the screen."""
         self._manager.send_signal(signal.SIGSTOP)
         try:
             yield

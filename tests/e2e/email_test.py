@@ -1,4 +1,4 @@
-"""Reports by e-mail in the sample pool, from ticking them to the mail client, which here only writes down its arguments."""
+"""Reports by e-mail in the sample pool, from ticking them to the mail client, which here only records its arguments."""
 
 import os
 import pathlib
@@ -46,7 +46,7 @@ class Email(unittest.TestCase):
         return [row[0] if isinstance(row, list) else row for row in self.program.rows("lstTo")]
 
     def composed(self):
-        """What the client was told, once it has written it down."""
+        """The client's arguments, when it has recorded them."""
         self.program.wait(self.record.exists, "the mail client")
         return self.record.read_text(encoding="utf-8").splitlines()
 

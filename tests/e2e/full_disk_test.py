@@ -78,7 +78,7 @@ class ASaveUnderALimitOnTheSizeOfFiles(SaveInVain):
         self.program = self.enterContext(Program())
 
     def limit(self, size):
-        """A limit as the system sets it for a user: whoever does not look out is ended by it."""
+        """A limit as the system sets it for a user: it ends a program that does not handle it."""
         resource.prlimit(self.program.process_id(), resource.RLIMIT_FSIZE, (size, resource.RLIM_INFINITY))
 
     def test_keeps_the_old_file_and_the_screen_and_works_once_the_limit_is_gone(self):

@@ -1,4 +1,4 @@
-"""The harness itself, tried on a small program with one of everything."""
+"""The harness itself, tested on a small program with one of everything."""
 
 import unittest
 
@@ -21,7 +21,7 @@ class HarnessOnADisplay(unittest.TestCase):
         self.see("lblSaid", "hello Smith, J. & \"Sons\"")
         self.assertEqual(self.program.caption("cmdGreet"), "Greet")
 
-    def test_a_click_a_drag_and_a_right_press_are_told_apart(self):
+    def test_a_click_a_drag_and_a_right_press_are_distinguished(self):
         self.program.click("lblDrag")
         self.see("lblDrag", "clicked")
         self.assertEqual(self.program.colour("lblDrag"), "#00ff00")
@@ -60,7 +60,7 @@ class HarnessWithoutADisplay(HarnessOnADisplay):
     platform = "offscreen"
 
 
-class HarnessWhileAWindowIsOnItsWay(unittest.TestCase):
+class HarnessWhileAWindowIsBeingShown(unittest.TestCase):
     def test_nothing_is_pressed_before_the_window_manager_has_shown_the_box(self):
         program = self.enterContext(Program(executable=BUILD / "tests/e2e/tallyhoop_e2e_dummy")).start()
         self.assertTrue(program.reachable("cmdGreet"))

@@ -1,4 +1,4 @@
-"""The help, opened at the topic of the screen it is asked from."""
+"""The help, opened at the topic of the screen."""
 
 import pathlib
 import re
@@ -46,7 +46,7 @@ class Help(unittest.TestCase):
         self.program.wait(lambda: self.program.visible("msgScoreDisplay"), "the scores")
         self.help_opens_at("The list of all scores")
 
-    def test_a_missing_help_file_is_told(self):
+    def test_a_missing_help_file_is_reported(self):
         (self.program.folder / "TALLYHOOP.HLP").unlink()
         self.program.key("F1")
         box = self.program.answer("OK", "** Help File Problem **")

@@ -7,7 +7,7 @@ import time
 
 
 class Ended(RuntimeError):
-    """The program has ended: nobody answers any more."""
+    """The program has ended and does not answer any more."""
 
 
 class Inspector:
@@ -17,7 +17,7 @@ class Inspector:
         self._lines = None
 
     def connect(self, is_alive, timeout):
-        """Waits until the program listens; is_alive() tells whether there is still something to wait for."""
+        """Waits until the program listens; gives up when is_alive() returns False."""
         end = time.monotonic() + timeout
         while True:
             try:
@@ -45,7 +45,7 @@ class Inspector:
 
     def close(self):
         if self._lines:
-            with contextlib.suppress(ConnectionError):  # what could not be sent to a program that has ended
+            with contextlib.suppress(ConnectionError):  # unsent data, when the program has ended
                 self._lines.close()
         if self._socket:
             self._socket.close()

@@ -15,9 +15,9 @@ def lines(content):
 class Keyboard(unittest.TestCase):
     def setUp(self):
         self.program = self.enterContext(Program())
-        self.program.move = self.program.press = self.program.click = self.program.drag = None  # hands off the mouse
+        self.program.move = self.program.press = self.program.click = self.program.drag = None  # the mouse must not be used
 
-    # --- the hand ---
+    # --- the keys ---
 
     def keys(self, *keys):
         for key in keys:
@@ -149,7 +149,7 @@ class Keyboard(unittest.TestCase):
         self.program.wait(lambda: self.program.colour("lblRegion_18") == GREEN, "Texas in green")
         self.assertEqual(self.program.widget("lblRegion_18")["accessibleName"],
                          "West, winner of first round, game 3, = right pick: Texas")
-        # What is marked cannot be changed, nor taken back.
+        # A scored selection cannot be changed, and nothing can be undone.
         self.assertFalse(self.program.action("mnuUndo")["enabled"])
         self.keys("Ctrl+Z")
         self.shows("lblRegion_18", "Texas")
@@ -205,7 +205,7 @@ class Keyboard(unittest.TestCase):
         self.tab_to("msgScoreDisplay")
         self.keys("Right", "Right", "Ctrl+Shift+Left", "Ctrl+Shift+Left")
         self.program.wait(lambda: self.program.rows("msgScoreDisplay")[0][:2] == ["93", PROPHET], "the best first")
-        self.keys("Right", "Space")  # a file name marks that player's picks on the board behind
+        self.keys("Right", "Space")  # a file name marks that player's picks on the board
         self.program.wait(lambda: self.program.colour("lblRegion_18") == GREEN, "the marks")
         self.keys("Escape")
         self.program.wait(lambda: not self.program.visible("msgScoreDisplay"), "the scores going away")

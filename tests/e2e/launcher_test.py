@@ -59,7 +59,7 @@ class Launcher(unittest.TestCase):
         self.start()
         self.assertNotIn("NCAALIST.THS", self.names())
 
-    def test_a_folder_that_cannot_be_made_is_told(self):
+    def test_a_folder_that_cannot_be_made_is_reported(self):
         self.folder.write_text("a file in its place")
         outcome = self.start()
         self.assertEqual(outcome.returncode, 1)

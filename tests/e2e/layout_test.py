@@ -19,7 +19,7 @@ class ProgramFolder(unittest.TestCase):
     def names(self):
         return sorted(file.name for file in self.folder.rglob("*"))
 
-    def test_everything_stands_directly_in_the_folder(self):
+    def test_everything_is_directly_in_the_folder(self):
         self.install()
         self.assertEqual(self.names(), ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", "tallyhoop"])
 

@@ -60,7 +60,7 @@ class Root:
         (self.path / "var/lib/dpkg/info").mkdir(parents=True)
         (self.path / "var/lib/dpkg/updates").mkdir()
         (self.path / "var/lib/dpkg/status").touch()
-        # What the package depends on stands outside of this root.
+        # The packages that it depends on are outside of this root.
         self._dpkg = ["dpkg", f"--root={self.path}", "--force-depends", "--force-bad-path",
                       f"--log={self.path}/dpkg.log"]
         self.launcher = self.path / "usr/bin/tallyhoop"
@@ -70,7 +70,7 @@ class Root:
         return run(*self._dpkg, *words)
 
     def files(self):
-        """Everything of ours that stands in the root."""
+        """All files of ours in the root."""
         return sorted(str(file.relative_to(self.path)) for file in (self.path / "usr").rglob("*allyhoop*"))
 
 

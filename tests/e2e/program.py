@@ -1,6 +1,6 @@
 """The program under test: a program folder of its own, real windows, real mouse and key events.
 
-Nothing here waits a fixed time: every step waits until what it needs is there, and fails telling what it saw instead.
+Nothing here waits a fixed time: every step waits until what it needs is there, and fails with a report of what it saw instead.
 """
 
 import contextlib
@@ -12,15 +12,15 @@ import subprocess
 import tempfile
 import time
 
-from display import ENDING_WITH_US, Display
+from display import ENDS_WITH_THE_TEST, Display
 from inspector import Ended, Inspector
 
 BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
 CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
 
-SANITIZERS = "AddressSanitizer", "LeakSanitizer", "runtime error:"  # what a sanitized program complains with
-NOBODY = 65534  # the number of the user who owns nothing
+SANITIZERS = "AddressSanitizer", "LeakSanitizer", "runtime error:"  # the words in a sanitized program's complaints
+NOBODY = 65534  # the number of the user without rights
 
 LOST_KEY = PATIENCE / 6  # seconds after which a key that nobody received is pressed again
 
@@ -54,8 +54,8 @@ class Program:
 
     def __init__(self, folder=None, executable=None, platform="xcb", environment=None, home=None, as_user=(),
                  size=(1366, 768), scale=1):
-        """home: where an installed program makes its folder itself; as_user: the words that start a command as somebody
-        else; scale: how many pixels of the display the program takes for one of its own."""
+        """home: where an installed program makes its folder itself; as_user: the words that start a command as another
+        user; scale: how many pixels of the display are one of the program's."""
         self._scratch = pathlib.Path(tempfile.mkdtemp(prefix="tallyhoop-e2e-"))
         self._home = pathlib.Path(home) if home else self._scratch / "home"
         self.folder = pathlib.Path(folder) if folder else self._scratch / "pool"
@@ -85,7 +85,7 @@ class Program:
             self._display.close()
         errors = self.errors()
         shutil.rmtree(self._scratch, ignore_errors=True)
-        if error is None and any(sign in errors for sign in SANITIZERS):
+        if error is None and any(word in errors for word in SANITIZERS):
             raise Failed(errors)
 
     # --- the program folder ---
@@ -114,7 +114,7 @@ class Program:
         own = {"tallyhoop", "DEMOSET.EXE", "TALLYHOOP.HLP", "NCAALIST.THS"}
         return sorted(file.name for file in self.folder.iterdir() if file.name not in own)
 
-    # --- starting and ending ---
+    # --- starting and stopping ---
 
     def start(self):
         if self._inspector:
@@ -125,7 +125,7 @@ class Program:
         plugins = self._scratch / "plugins"
         self._home.mkdir(exist_ok=True)
         runtime.mkdir(mode=0o700, exist_ok=True)
-        # A copy: not everybody may look into the folder of the build.
+        # A copy, because not every user may read the folder of the build.
         shutil.copytree(BUILD / "tests/e2e/plugins", plugins, dirs_exist_ok=True)
         if self._as_user:
             for folder in (self._scratch, self._home, runtime):
@@ -142,7 +142,7 @@ class Program:
         if self.folder.parent != self._home:
             self.folder.mkdir(parents=True, exist_ok=True)
         with open(self._errors, "ab") as errors:
-            self._process = subprocess.Popen([*self._as_user, *ENDING_WITH_US, str(executable)], cwd=self._scratch,
+            self._process = subprocess.Popen([*self._as_user, *ENDS_WITH_THE_TEST, str(executable)], cwd=self._scratch,
                                              env=environment, stdin=subprocess.DEVNULL, stdout=errors, stderr=errors)
         self._inspector = Inspector(str(socket_path))
         self._inspector.connect(lambda: self._process.poll() is None, PATIENCE)
@@ -194,7 +194,7 @@ class Program:
     # --- looking ---
 
     def wait(self, condition, what):
-        """Asks until condition() gives something true, and gives that."""
+        """Calls condition() until its result is true, and returns that."""
         end = time.monotonic() + PATIENCE
         while True:
             answer = condition()
@@ -203,7 +203,7 @@ class Program:
             if not self.is_running():
                 raise Failed(f"the program has ended (code {self._process.returncode}) before: {what}\n{self.errors()}")
             if time.monotonic() > end:
-                raise Failed(f"never came: {what}; modal: {self.modal()}; windows: {self.windows()}")
+                raise Failed(f"did not happen: {what}; modal: {self.modal()}; windows: {self.windows()}")
             time.sleep(0.01)
 
     def windows(self):
@@ -214,27 +214,27 @@ class Program:
         return self._inspector.ask("modal")
 
     def widget(self, name):
-        """All that is known of a widget; fails when there is none of that name."""
-        told = self._inspector.ask("widget", name)
-        if not told["found"]:
+        """Everything the inspector knows of a widget; fails when there is none of that name."""
+        known = self._inspector.ask("widget", name)
+        if not known["found"]:
             raise Failed(f"there is no {name}")
-        return told
+        return known
 
     def has(self, name):
         return self._inspector.ask("widget", name)["found"]
 
     def reachable(self, name):
         """Whether a press on the widget would reach it."""
-        told = self._inspector.ask("widget", name)
-        return told["found"] and told["reachable"]
+        known = self._inspector.ask("widget", name)
+        return known["found"] and known["reachable"]
 
     def without_window_manager(self):
-        """While this context lasts, new windows do not come to the screen."""
+        """Within this context, new windows do not appear on the screen."""
         return self._display.without_manager()
 
     def visible(self, name):
-        told = self._inspector.ask("widget", name)
-        return told["found"] and told["visible"]
+        known = self._inspector.ask("widget", name)
+        return known["found"] and known["visible"]
 
     def text(self, name):
         return self.widget(name)["text"]
@@ -257,10 +257,10 @@ class Program:
 
     def action(self, name):
         """A menu entry: enabled, visible, text."""
-        told = self._inspector.ask("action", name)
-        if not told["found"]:
+        known = self._inspector.ask("action", name)
+        if not known["found"]:
             raise Failed(f"there is no menu entry {name}")
-        return told
+        return known
 
     def grab(self, name, path):
         """A picture of one widget."""
@@ -340,22 +340,22 @@ class Program:
     def box(self, title=None):
         """Waits for a modal box, of that title if one is given."""
         def there():
-            told = self.modal()
-            return told if told and told["active"] and (title is None or told["title"] == title) else None
+            known = self.modal()
+            return known if known and known["active"] and (title is None or known["title"] == title) else None
         return self.wait(there, f"the box {title!r}")
 
     def answer(self, button, title=None):
         """Waits for a modal box and presses one of its buttons; gives what the box showed."""
-        told = self.box(title)
-        for candidate in told["buttons"]:
+        known = self.box(title)
+        for candidate in known["buttons"]:
             if plain(candidate["text"]) == button and candidate["enabled"]:
                 self.click_at(centre(candidate["rect"]))
-                self.wait(lambda: self.modal() != told, f"the box {told['title']!r} going away")
-                return told
-        raise Failed(f"no button {button!r} in {told}")
+                self.wait(lambda: self.modal() != known, f"the box {known['title']!r} going away")
+                return known
+        raise Failed(f"no button {button!r} in {known}")
 
     def file_dialog(self, name):
-        """Waits for a file dialog, types the path (a bare name lies in the program folder) and accepts it."""
+        """Waits for a file dialog, types the path (a bare name is in the program folder) and accepts it."""
         self.wait(lambda: self.modal().get("name") == "QFileDialog", "a file dialog")
         self.box()
         self.type("fileNameEdit", str(self.folder / name))
@@ -365,21 +365,21 @@ class Program:
 
     def _reachable(self, name):
         def there():
-            told = self._inspector.ask("widget", name)
-            return told if told["found"] and told["reachable"] else None
+            known = self._inspector.ask("widget", name)
+            return known if known["found"] and known["reachable"] else None
         return self.wait(there, f"{name} being on the screen, to be pressed")
 
     def _listening(self):
-        """Waits until keys reach somebody: a modal window that is still on its way to the screen hears none."""
+        """Waits until a window gets the keys: a modal window that is not on the screen yet does not."""
         if self._display:
             self.wait(lambda: any(window["active"] and window["reachable"] for window in self.windows()),
                       "a window with the focus")
 
-    def _act(self, counter, with_hand, **inside):
+    def _act(self, counter, on_the_display, **inside):
         """Does one thing, and waits until the program has received it."""
         before = self._inspector.ask("counts")[counter]
         if self._display:
-            with_hand()
+            on_the_display()
         else:
             self._inspector.ask("inject", **inside)
 
@@ -391,11 +391,11 @@ class Program:
                 if not self.is_running() or self._inspector.ask("counts")[counter] > before:
                     return True
             except Ended:
-                return True  # what was done ended the program
-            # A key pressed while the focus is on its way from one window to the next reaches neither.
+                return True  # the action ended the program
+            # A key pressed while the focus changes from one window to the next reaches neither.
             if self._display and counter == "keys" and time.monotonic() > again:
                 again = time.monotonic() + LOST_KEY
-                with_hand()
+                on_the_display()
             return False
 
         self.wait(received, f"{counter} reaching the program")

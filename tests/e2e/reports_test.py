@@ -9,10 +9,10 @@ from program import Program, centre
 from sample_pool import install
 
 sys.path.append(str(pathlib.Path(__file__).parents[1] / "approved/messy"))
-import reckon  # a second reckoning of the reports, which shares nothing with the program
+import reckon  # a second calculation of the reports, which shares nothing with the program
 
-# The widths are 17, 20 and 12, so a line has 17 + 20 + 12 + 44 = 93 characters; the two titles have 20 each and stand
-# behind 93 / 2 - 20 / 2 = 36.5 blanks, rounded to the even 36. Good and bad picks: 28 + 10 + 4 + 2 and 16; 29 + 7 + 2 + 1
+# The widths are 17, 20 and 12, so a line has 17 + 20 + 12 + 44 = 93 characters; the two titles have 20 each and
+# follow 93 / 2 - 20 / 2 = 36.5 blanks, rounded to the even 36. Good and bad picks: 28 + 10 + 4 + 2 and 16; 29 + 7 + 2 + 1
 # and 24 less the open semi-final; 27 + 6 + 2 + 1 and 27 less it; 19 + 4 + 1 and all others.
 STANDINGS = [
     " ",
@@ -108,7 +108,7 @@ class Reports(unittest.TestCase):
         margin = min(len(line) - len(line.lstrip(" ")) for sheet in sheets for line in sheet)
         return [[line[margin:] for line in sheet] for sheet in sheets]
 
-    def test_ticking_nothing_is_told_and_makes_nothing(self):
+    def test_ticking_nothing_shows_a_message_and_makes_nothing(self):
         self.create()
         box = self.program.answer("OK", "Tallyhoop - frmPoolReports, PrintSelections_Click ")
         self.assertEqual(box["text"].splitlines(), ["You will need to select one of the Report Selections before",

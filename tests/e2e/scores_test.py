@@ -36,7 +36,7 @@ class ScoreDisplay(unittest.TestCase):
         self.program.click("cmdOk")
         self.rows_are([FAVORITE, HALFWAY, LONGSHOT, PROPHET])
 
-    def test_a_file_name_marks_the_board_behind_and_leaving_clears_it(self):
+    def test_a_file_name_marks_the_board_and_closing_clears_it(self):
         rects = self.program.table("msgScoreDisplay")["rects"]
         self.program.click_at(centre(rects[2][2]))  # a score: nothing happens
         self.program.click_at(centre(rects[2][0]))

@@ -12,7 +12,7 @@ FILLER = "Holiday film.mpg"
 
 
 class NotHere(RuntimeError):
-    """This machine lets nobody mount anything."""
+    """This machine does not allow mounts."""
 
 
 def _call(function, *arguments):
@@ -21,7 +21,7 @@ def _call(function, *arguments):
 
 
 def mount(folder, megabytes):
-    """Mounts a disk that is gone when the last process that sees it has ended; without rights, in a small world."""
+    """Mounts a disk that vanishes when the last process that sees it has ended; without rights, in a user namespace."""
     libc = ctypes.CDLL(None, use_errno=True)
     user, group = os.getuid(), os.getgid()
     _call(libc.unshare, CLONE_NEWNS if user == 0 else CLONE_NEWNS | CLONE_NEWUSER)
@@ -41,7 +41,7 @@ def unmount(folder):
 
 
 def fill(folder):
-    """Leaves not one byte."""
+    """Fills the disk to the last byte."""
     with open(folder / FILLER, "wb", buffering=0) as film:
         for size in (1 << 20, 1 << 12):
             with contextlib.suppress(OSError):

@@ -163,7 +163,7 @@ class InDemoMode(Story):
 
 
 class OnALargeDisplay(unittest.TestCase):
-    def test_the_window_stands_in_the_middle_and_the_first_question_over_it(self):
+    def test_the_window_is_centred_and_the_first_question_over_it(self):
         with Program(size=(1920, 1080)) as program:
             program.start()
             question = centre(program.box("** DEMO MODE OPTION **")["rect"])
@@ -204,7 +204,7 @@ class AnOwnPool(Story):
         path = dict.fromkeys([47, 55, 59, 61, 124, 126], "Michigan St.")
         expected = selection({17: "Wisconsin", 24: "Wisconsin", **path}, "JS", "Smith", "165")
         self.assertEqual(lines(self.program.read("Smith_js.THC")), expected)
-        # The player list comes by itself, with name and file in place.
+        # The player list opens automatically, with name and file filled in.
         self.shows("txtName", "Smith,js")
         self.shows("txtFileName", "SMITH_JS.THC")
         self.program.type("txtEmail", "smith@example.org")

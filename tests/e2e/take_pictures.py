@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Takes pictures of every screen by day and by night: python3 -B take_pictures.py (the program has to be built).
+"""Takes pictures of every screen in light and dark colours: python3 -B take_pictures.py (the program has to be built).
 
 The files go to docs/pictures, the dark ones under names that end with -dark. Give a folder, and perhaps a display and a
 scale, to look at other sizes: python3 -B take_pictures.py /somewhere 1920x1080 1.5
@@ -17,8 +17,8 @@ SIZE = tuple(map(int, sys.argv[2].split("x"))) if sys.argv[2:] else (1366, 768)
 SCALE = float(sys.argv[3]) if sys.argv[3:] else 1
 PLAYER = "Demo Prophet_DP.THC"
 
-# What a desktop tells its programs at night; Qt reads it where the session says that the desktop is KDE's.
-NIGHT = """[Colors:Window]
+# The dark colours of a desktop; Qt reads them where the session names KDE as the desktop.
+DARK = """[Colors:Window]
 BackgroundNormal=49,54,59
 ForegroundNormal=252,252,252
 [Colors:View]
@@ -49,7 +49,7 @@ def take(program, name):
 
 
 def out_of_the_way(program):
-    """The pointer goes where it makes nothing look different."""
+    """Moves the pointer to a place where it changes nothing."""
     [frame] = [window["rect"] for window in program.windows() if window["name"] == "frmPoolMIDI"]
     program.move((frame[0] + frame[2] - 6, frame[1] + frame[3] - 4))
 
@@ -65,7 +65,7 @@ def open_player(program):
 
 
 def sort_by_score(program):
-    """Drags the heading to the front; the file names then stand in the second column."""
+    """Drags the heading to the front; the file names are then in the second column."""
     headings = program.table("msgScoreDisplay")["headings"]
     first = headings[0]["rect"]
     program.drag_between(centre(headings[2]["rect"]), (first[0] + 4, centre(first)[1]))
@@ -165,7 +165,7 @@ def take_reports(program):
 def main():
     PICTURES.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory() as settings:
-        (pathlib.Path(settings) / "kdeglobals").write_text(NIGHT)
+        (pathlib.Path(settings) / "kdeglobals").write_text(DARK)
         night = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": settings}
         for suffix, environment in (("", {}), ("-dark", night)):
             with Program(environment=environment, size=SIZE, scale=SCALE) as program:

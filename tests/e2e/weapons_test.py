@@ -1,4 +1,4 @@
-"""A pool full of names that somebody chose to do harm with: shown, scored, reported, printed and mailed as they are."""
+"""A pool full of hostile names: they are shown, scored, reported and mailed as they are, and nothing else happens."""
 
 import os
 import pathlib
@@ -12,7 +12,7 @@ TITLE = "<b>Pool</b> & %s %n [*] \"Co\""
 TEAMS = ["<b>bold</b>", "<img src=/etc/passwd>", "Texas A&M", "&amp;", "%s%n%00", "../outside", "C:\\autoexec",
          "$(touch owned)", "`touch owned`", "--help"]  # the first rows of the West
 PLAYER = "../../x<i>&%s"
-PLAYER_FILE = ".._.._x_i_&%s_-a.THC"  # what cannot stand in a name of a file has become "_"
+PLAYER_FILE = ".._.._x_i_&%s_-a.THC"  # characters that a file name cannot have have become "_"
 OPTION_FILE = "--help $(touch owned).THC"
 RECIPIENT = "-a@example.org"
 
@@ -27,7 +27,7 @@ def field(line):
     return TEAMS[FIELD.index(line)] if line in FIELD[:len(TEAMS)] else line
 
 
-class Weapons(unittest.TestCase):
+class HostileNames(unittest.TestCase):
     def setUp(self):
         desktop = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory(prefix="tallyhoop-e2e-mail-")))
         self.record = desktop / "record"

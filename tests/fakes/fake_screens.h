@@ -1,6 +1,7 @@
 // tests/fakes/fake_screens.h - screens and a board that only remember what they were asked.
 #pragma once
 
+#include "screens/board_printouts.h"
 #include "screens/screens.h"
 
 #include <functional>
@@ -13,21 +14,18 @@ namespace tallyhoop::test {
 class FakeScreens : public Screens
 {
 public:
-    struct Load {
-        ScreenKind kind;
-        Opening opening;
-        friend bool operator==(const Load&, const Load&) = default;
-    };
-    std::vector<Load> loads;
+    std::vector<ScreenKind> loads;
+    std::vector<std::string> notices; ///< one for each load
     std::vector<ScreenKind> unloads;
     std::vector<ScreenKind> raised;
     std::set<ScreenKind> open;
     bool ended = false;
     std::function<void(ScreenKind)> whenLoaded; ///< what a modal screen does
 
-    void load(ScreenKind kind, Opening opening) override
+    void load(ScreenKind kind, const std::string& notice) override
     {
-        loads.push_back({kind, opening});
+        loads.push_back(kind);
+        notices.push_back(notice);
         open.insert(kind);
         if (whenLoaded)
             whenLoaded(kind);
@@ -42,41 +40,21 @@ public:
     void endProgram() override { ended = true; }
 };
 
-class FakeBoard : public BracketBoard
+class FakeBoard : public BoardPrintouts
 {
 public:
-    explicit FakeBoard(modTallyhoop& state) : m_state{state} {}
-
-    SelectionLines onBoard{}; ///< what captureBoard() copies
-    Result<Payoffs> shownPayoffs{Payoffs{1, 2, 4, 8, 12, 16}};
-    bool reportsEnabled = true;
-    bool scoreDisplayOpen = false;
     std::vector<std::string> calls; ///< names of the operations, in order
-    std::vector<std::filesystem::path> selectionsShown;
+    std::vector<std::filesystem::path> filesShown;
     ui::Drawing picture;
 
-    void captureBoard() override
-    {
-        calls.emplace_back("captureBoard");
-        m_state.selectionLines = onBoard;
-    }
-    Result<Payoffs> payoffs() const override { return shownPayoffs; }
-    void MarkScores() override { calls.emplace_back("MarkScores"); }
-    void ClearMarks() override { calls.emplace_back("ClearMarks"); }
-    void setScoreDisplayOpen(bool open) override { scoreDisplayOpen = open; }
-    void setReportsEnabled(bool enabled) override { reportsEnabled = enabled; }
-    void EnterGameResults() override { calls.emplace_back("EnterGameResults"); }
-    void ScoreSelections() override { calls.emplace_back("ScoreSelections"); }
-    void PrintForm() override { calls.emplace_back("PrintForm"); }
-    void showSelection(const std::filesystem::path& file) override
-    {
-        calls.emplace_back("showSelection");
-        selectionsShown.push_back(file);
-    }
     ui::Drawing drawing() const override { return picture; }
-
-private:
-    modTallyhoop& m_state;
+    void enterGameResults() override { calls.emplace_back("enterGameResults"); }
+    void showScored(const std::filesystem::path& file) override
+    {
+        calls.emplace_back("showScored");
+        filesShown.push_back(file);
+    }
+    void printForm() override { calls.emplace_back("printForm"); }
 };
 
 } // namespace tallyhoop::test

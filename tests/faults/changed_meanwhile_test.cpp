@@ -1,7 +1,7 @@
 // tests/faults/changed_meanwhile_test.cpp - two programs on one folder: a file that the other one has changed is not
 // replaced unasked.
+#include "faults/messages.h"
 #include "faults/writers.h"
-#include "screens/file_messages.h"
 
 #include <gmock/gmock.h>
 
@@ -25,7 +25,7 @@ protected:
     {
         return writer->platform.dialogs.shown.empty() ? ui::Message{} : writer->platform.dialogs.shown.back();
     }
-    ui::Message question() const { return changedMeanwhile((scratch.path() / kind.file).string()); }
+    ui::Message question() const { return changedMeanwhile(scratch.path() / kind.file); }
 };
 
 TEST_P(WritersOfTwoPrograms, KeepTheFileAndTheScreenOnNo)

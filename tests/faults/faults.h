@@ -1,4 +1,4 @@
-// tests/faults/faults.h - what can keep a file from being written, made on purpose and mended again.
+// tests/faults/faults.h - what can keep a file from being written, made on purpose and repaired again.
 #pragma once
 
 #include <filesystem>
@@ -17,7 +17,7 @@ struct Fault {
     std::string (*arrange)(const std::filesystem::path& folder);
 
     void (*strike)(const std::filesystem::path& folder, const std::filesystem::path& target);
-    void (*mend)(const std::filesystem::path& folder, const std::filesystem::path& target);
+    void (*repair)(const std::filesystem::path& folder, const std::filesystem::path& target);
 
     bool wantsTarget = false;     ///< strikes a file that is there already
     bool hidesFolder = false;     ///< nothing can be read either

@@ -1,5 +1,7 @@
 #include "faults/messages.h"
 
+#include "screens/reports/report_maker.h"
+
 #include <string>
 
 namespace tallyhoop::test {
@@ -24,6 +26,19 @@ ui::Message checkSpace(const fs::path& file)
 }
 
 ui::Message checkSelection(const fs::path& file) { return writingProblem(file, " Check your selection and retry."); }
+
+ui::Message changedMeanwhile(const fs::path& file)
+{
+    return {"** FILE HAS BEEN CHANGED **",
+            "Another program has changed the file: " + file.string() +
+                "\r\n"
+                "since it was opened or last saved here.\r\n"
+                " \r\n"
+                "If you continue, the changes of the other program will be lost..\r\n"
+                " \r\n"
+                "Do you want to replace the file?",
+            ui::Buttons::YesNo, ui::Icon::Question};
+}
 
 std::vector<ui::Message> teamListTrouble(const fs::path& folder)
 {

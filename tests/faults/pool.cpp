@@ -19,9 +19,9 @@ namespace fs = std::filesystem;
 void putPool(const ScratchFolder& folder)
 {
     putFourPlayers(folder);
-    SetupLines setup = defaultSetupLines();
-    setup[setup_line::kFinalized] = "1";
-    folder.put(file_name::kSetup, setupFile(setup));
+    Field field = defaultField();
+    field.finalized = "1";
+    folder.put(file_name::kSetup, setupFile(field));
     folder.put(file_name::kTeamNames, crlf({"*START*", "Akron", "Duke", "Texas", "*END*"}));
     folder.put(file_name::kWorkFile, "an older report");
     for (const ReportKind& kind : reportTable())

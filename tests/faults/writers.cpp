@@ -2,6 +2,7 @@
 
 #include "faults/messages.h"
 #include "files/file_names.h"
+#include "files/setup_file.h"
 #include "screens/board/board_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -28,6 +29,15 @@ public:
 protected:
     std::unique_ptr<ScreenKindOfWriter> screen;
 
+    template <class... Arguments>
+    void open(Arguments&&... arguments)
+    {
+        screen = std::make_unique<ScreenKindOfWriter>(folder, platform.services, screens,
+                                                      std::forward<Arguments>(arguments)...);
+        screen->load();
+        screen->showState();
+    }
+
     void answerIfAsked(std::optional<ui::Answer> answer)
     {
         if (answer)
@@ -40,9 +50,9 @@ class SetupWriter : public ScreenWriter<SetupScreen>
 public:
     explicit SetupWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<SetupScreen>(folder, platform.services, state, screens);
-        screen->load();
+        open(field);
         screen->TxtInfo[0].text = "A new title";
+        screen->showState();
     }
     void save(std::optional<ui::Answer> mayReplace) override
     {
@@ -56,8 +66,7 @@ class TeamListWriter : public ScreenWriter<SetupScreen>
 public:
     explicit TeamListWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<SetupScreen>(folder, platform.services, state, screens);
-        screen->load();
+        open(field);
         platform.dialogs.type("Gonzaga");
         screen->cmdAddName.click();
     }
@@ -74,8 +83,7 @@ class BoardWriter : public ScreenWriter<BoardScreen>
 public:
     explicit BoardWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<BoardScreen>(folder, platform.services, state, screens);
-        screen->load();
+        open(BoardScreen::Shared{field, savedPlayer, listedVerdicts});
     }
 
 protected:
@@ -89,6 +97,7 @@ protected:
     {
         screen->txtFinalPoints.text = "177";
         screen->txtFinalPoints.edited();
+        screen->showState();
     }
 };
 
@@ -97,13 +106,13 @@ class ResultsWriter : public BoardWriter
 public:
     explicit ResultsWriter(const fs::path& folderPath) : BoardWriter{folderPath}
     {
-        screen->EnterGameResults();
+        screen->mnuGameResults.click();
         enterPoints();
     }
     void save(std::optional<ui::Answer> mayReplace) override
     {
         answerIfAsked(mayReplace);
-        screen->SaveSelection();
+        screen->mnuSaveSelection.click();
     }
 };
 
@@ -112,14 +121,15 @@ class SelectionWriter : public BoardWriter
 public:
     explicit SelectionWriter(const fs::path& folderPath) : BoardWriter{folderPath}
     {
-        screen->showSelection(folder.folder() / kSelection);
+        platform.dialogs.pick(folder.folder() / kSelection);
+        screen->mnuOpenSelection.click();
         enterPoints();
     }
     void save(std::optional<ui::Answer> mayReplace) override
     {
         platform.dialogs.pick(folder.folder() / kSelection);
         answerIfAsked(mayReplace);
-        screen->SaveSelection();
+        screen->mnuSaveSelection.click();
     }
 };
 
@@ -128,14 +138,14 @@ class NewSelectionWriter : public BoardWriter
 public:
     explicit NewSelectionWriter(const fs::path& folderPath) : BoardWriter{folderPath}
     {
-        screen->NewSelection();
+        screen->mnuNewSelection.click();
         enter("GH", "Evans");
     }
     void save(std::optional<ui::Answer> mayReplace) override
     {
         platform.dialogs.pick(folder.folder() / kNewSelection);
         answerIfAsked(mayReplace);
-        screen->SaveSelection();
+        screen->mnuSaveSelection.click();
     }
 };
 
@@ -144,8 +154,7 @@ class PlayerListWriter : public ScreenWriter<PlayersScreen>
 public:
     explicit PlayerListWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<PlayersScreen>(folder, platform.services, state, screens);
-        screen->load();
+        open(savedPlayer);
         screen->txtName.text = "Evans,GH";
         screen->txtEmail.text = "evans@example.org";
     }
@@ -166,8 +175,9 @@ public:
     }
     void save(std::optional<ui::Answer> /*mayReplace*/) override
     {
-        PlayersScreen names{folder, platform.services, state, screens};
+        PlayersScreen names{folder, platform.services, screens, savedPlayer};
         names.load();
+        names.showState();
         EXPECT_FALSE(names.cmdAdd.enabled);
     }
     std::string onScreen() const override { return {}; }
@@ -179,8 +189,8 @@ class ReportWriter : public ScreenWriter<ReportsScreen>
 public:
     explicit ReportWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        screen = std::make_unique<ReportsScreen>(folder, platform.services, state, screens, board);
-        screen->load();
+        field = readField(folder).value;
+        open(field, draft, board);
         screen->txtReportTitle.text = "A new title";
         screen->cmdDefaultPrinter.click(); // so that nothing is as it was at first
         ui::selectOption(screen->optDestination, Destination);

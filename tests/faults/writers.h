@@ -6,7 +6,9 @@
 #include "fakes/scratch_folder.h"
 #include "faults/faults.h"
 #include "files/data_folder.h"
-#include "screens/mod_tallyhoop.h"
+#include "pool/field.h"
+#include "pool/scoring.h"
+#include "screens/hand_overs.h"
 #include "ui/screen.h"
 
 #include <filesystem>
@@ -42,15 +44,18 @@ public:
 
     DataFolder folder;
     FakePlatform platform;
-    modTallyhoop state;
     FakeScreens screens;
-    FakeBoard board{state};
+    Field field;
+    std::optional<SavedPlayer> savedPlayer;
+    std::optional<Verdicts> listedVerdicts;
+    MailDraft draft;
+    FakeBoard board;
 };
 
 struct WriterKind {
     const char* name;
     const char* file;    ///< the file it writes
-    const char* newText; ///< stands in the new file only
+    const char* newText; ///< is in the new file only
     bool replaces;       ///< there is an old one in the pool
     bool asks;           ///< asks before somebody else's changes are replaced
     std::unique_ptr<Writer> (*open)(const std::filesystem::path& folder);

@@ -69,7 +69,7 @@ protected:
         const std::string shownBefore = writer.onScreen();
         fault.strike(scratch.path(), target);
         writer.save();
-        fault.mend(scratch.path(), target);
+        fault.repair(scratch.path(), target);
         EXPECT_EQ(comparable(filesIn(scratch.path())), comparable(before)) << "old files, and not one more";
         EXPECT_EQ(writer.onScreen(), shownBefore);
         EXPECT_EQ(writer.platform.dialogs.shown, kind.trouble(scratch.path(), fault));
@@ -94,7 +94,7 @@ protected:
     }
 };
 
-TEST_P(WritersUnderFaults, LoseNothingAndWorkAgainOnceItIsMended)
+TEST_P(WritersUnderFaults, LoseNothingAndWorkAgainOnceItIsRepaired)
 {
     inOwnProcess([this]() -> std::string {
         if (std::string cannot = fault.arrange(scratch.path()); !cannot.empty())
@@ -147,14 +147,14 @@ protected:
     }
 };
 
-TEST_P(DemoUnderFaults, TheInstallerTakesEverythingBackAndWorksOnceItIsMended)
+TEST_P(DemoUnderFaults, TheInstallerTakesEverythingBackAndWorksOnceItIsRepaired)
 {
     inFaultyFolder([this](const Fault& fault) {
         scratch.put("Own_O.THC", "own");
         const Files before = filesIn(scratch.path());
         fault.strike(scratch.path(), {});
         const Result<Done> installed = demo::installSamplePool(scratch.folder());
-        fault.mend(scratch.path(), {});
+        fault.repair(scratch.path(), {});
         ASSERT_FALSE(installed);
         EXPECT_EQ(installed.failure().message,
                   "The sample pool could not be written: " + (scratch.path() / file_name::kResults).string() + "\r\n" +
@@ -173,10 +173,10 @@ TEST_P(DemoUnderFaults, APoolOfOnesOwnStaysWhereItIsWhenItCannotBeKept)
         const Files before = filesIn(scratch.path());
         fault.strike(scratch.path(), {});
         EXPECT_FALSE(startDemo(scratch.folder(), platform.services));
-        fault.mend(scratch.path(), {});
+        fault.repair(scratch.path(), {});
         EXPECT_EQ(filesIn(scratch.path()), before);
         EXPECT_TRUE(platform.programs.started.empty());
-        const ui::Message nothingChanged{"STALLYHOOP DEMOSTRATION MODE", // sic
+        const ui::Message nothingChanged{"STALLYHOOP DEMOSTRATION MODE", // letter for letter
                                          "Demonstration mode cannot be started. Nothing was changed.\r\n \r\n" +
                                              whereItStops(fault).string() + "\r\n" + fault.reason,
                                          ui::Buttons::Ok, ui::Icon::Critical};

@@ -2,7 +2,6 @@
 #include "files/player_names_file.h"
 
 #include "base/text.h"
-#include "fakes/fake_dialogs.h"
 #include "fakes/scratch_folder.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::crlf;
-using test::FakeDialogs;
 using test::ScratchFolder;
 
 const PlayerRecord kSmith{"Smith", "SMITH_JS.THC", "js@example.org", "555-0100"};
@@ -26,28 +24,31 @@ constexpr const char* kTooLong = "**Following Record was too long**";
 constexpr const char* kTooShort = "** Following record too short**";
 constexpr const char* kBadFormat = "**Formatting of following record incorrect**";
 
-struct Validation {
+/// A folder with a player list to be checked.
+struct Checking {
     ScratchFolder scratch;
-    FakeDialogs dialogs;
 
-    bool validate() { return validatePlayerNames(scratch.folder(), dialogs); }
-    void expectMessage() const
+    bool isSound() const { return static_cast<bool>(checkPlayerNames(scratch.folder())); }
+
+    /// The list is faulty, and that is what is said about it.
+    void expectFault() const
     {
-        const std::string text = "There is a problem found with the file containing your player names.\r\n"
-                                 "Possibly someone has edited this file with another program.\r\n"
-                                 "\r\n"
-                                 "The file: " +
-                                 scratch.path().string() +
-                                 "/PLAYERNAMES.TXT\r\n"
-                                 " is a copy of the original file with the error records identified.\r\n"
-                                 "\r\n"
-                                 "You can either go back to a backup copy of this file or attempt\r\n"
-                                 "to correct the error(s) in this copy and then rename it to\r\n"
-                                 "PLAYERNAMES.CSV.\r\n"
-                                 "\r\n"
-                                 "See the help file for additional instructions";
-        EXPECT_EQ(dialogs.shown, (std::vector<ui::Message>{{"** ERROR Found in PLAYERNAMES.CSV file **", text,
-                                                            ui::Buttons::Ok, ui::Icon::Critical, "repair"}}));
+        const Result<Done> checked = checkPlayerNames(scratch.folder());
+        ASSERT_FALSE(checked);
+        EXPECT_EQ(checked.failure().message,
+                  "There is a problem found with the file containing your player names.\r\n"
+                  "Possibly someone has edited this file with another program.\r\n"
+                  "\r\n"
+                  "The file: " +
+                      scratch.path().string() +
+                      "/PLAYERNAMES.TXT\r\n"
+                      " is a copy of the original file with the error records identified.\r\n"
+                      "\r\n"
+                      "You can either go back to a backup copy of this file or attempt\r\n"
+                      "to correct the error(s) in this copy and then rename it to\r\n"
+                      "PLAYERNAMES.CSV.\r\n"
+                      "\r\n"
+                      "See the help file for additional instructions");
     }
 };
 
@@ -92,7 +93,7 @@ TEST(PlayerRecords, AreTakenApartByColumn)
     EXPECT_EQ(record.phone, "555-0100      ");
 }
 
-TEST(PlayerRecords, OfShortLinesAreEmptyBehindTheEnd)
+TEST(PlayerRecords, OfShortLinesAreEmptyAfterTheirEnd)
 {
     EXPECT_EQ(parseRecord(""), PlayerRecord{});
     EXPECT_EQ(parseRecord("\"Smith"), (PlayerRecord{"Smith", "", "", ""}));
@@ -139,129 +140,113 @@ TEST(FaultOf, WantsEveryQuoteAndComma)
     }
 }
 
-TEST(ValidatePlayerNames, AcceptsTheHeaderAloneAndLeavesNoCopy)
+TEST(CheckPlayerNames, AcceptsTheHeaderAloneAndLeavesNoCopy)
 {
-    Validation v;
-    v.scratch.put("PLAYERNAMES.CSV", crlf({kHeader}));
-    EXPECT_TRUE(v.validate());
-    EXPECT_FALSE(v.scratch.has("PLAYERNAMES.TXT"));
-    EXPECT_TRUE(v.dialogs.shown.empty());
+    Checking c;
+    c.scratch.put("PLAYERNAMES.CSV", crlf({kHeader}));
+    EXPECT_TRUE(c.isSound());
+    EXPECT_FALSE(c.scratch.has("PLAYERNAMES.TXT"));
 }
 
-TEST(ValidatePlayerNames, DeletesTheCopyOfAnEarlierFault)
+TEST(CheckPlayerNames, DeletesTheCopyOfAnEarlierFault)
 {
-    Validation v;
-    v.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, kSmithLine}));
-    v.scratch.put("PlayerNames.txt", "old");
-    EXPECT_TRUE(v.validate());
-    EXPECT_FALSE(v.scratch.has("PlayerNames.txt"));
+    Checking c;
+    c.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, kSmithLine}));
+    c.scratch.put("PlayerNames.txt", "old");
+    EXPECT_TRUE(c.isSound());
+    EXPECT_FALSE(c.scratch.has("PlayerNames.txt"));
 }
 
-TEST(ValidatePlayerNames, AnnotatesARecordOf125Characters)
+TEST(CheckPlayerNames, AnnotatesARecordOf125Characters)
 {
-    Validation v;
+    Checking c;
     const std::string record = kSmithLine.substr(0, 125);
-    v.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, record, kSmithLine}));
-    EXPECT_FALSE(v.validate());
-    EXPECT_EQ(v.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kTooShort, record, kSmithLine}));
-    v.expectMessage();
+    c.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, record, kSmithLine}));
+    c.expectFault();
+    EXPECT_EQ(c.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kTooShort, record, kSmithLine}));
 }
 
-TEST(ValidatePlayerNames, AnnotatesARecordOf130Characters)
+TEST(CheckPlayerNames, AnnotatesARecordOf130Characters)
 {
-    Validation v;
+    Checking c;
     const std::string record = kSmithLine + "1234";
-    v.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, record}));
-    EXPECT_FALSE(v.validate());
-    EXPECT_EQ(v.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kTooLong, record}));
-    v.expectMessage();
+    c.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, record}));
+    c.expectFault();
+    EXPECT_EQ(c.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kTooLong, record}));
 }
 
-TEST(ValidatePlayerNames, AnnotatesABlankInPlaceOfTheCommaOfColumn64)
+TEST(CheckPlayerNames, AnnotatesABlankInPlaceOfTheCommaOfColumn64)
 {
-    Validation v;
+    Checking c;
     std::string record = kSmithLine;
     record[63] = ' ';
-    v.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, record}));
-    EXPECT_FALSE(v.validate());
-    EXPECT_EQ(v.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kBadFormat, record}));
-    v.expectMessage();
+    c.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, record}));
+    c.expectFault();
+    EXPECT_EQ(c.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kBadFormat, record}));
 }
 
-TEST(ValidatePlayerNames, CountsAnEmptyLineAsTooShort)
+TEST(CheckPlayerNames, CountsAnEmptyLineAsTooShort)
 {
-    Validation v;
-    v.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, "", kSmithLine, ""}));
-    EXPECT_FALSE(v.validate());
-    EXPECT_EQ(v.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kTooShort, "", kSmithLine, kTooShort, ""}));
+    Checking c;
+    c.scratch.put("PLAYERNAMES.CSV", crlf({kHeader, "", kSmithLine, ""}));
+    c.expectFault();
+    EXPECT_EQ(c.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kTooShort, "", kSmithLine, kTooShort, ""}));
 }
 
-TEST(ValidatePlayerNames, NeverChangesTheFileItself)
+TEST(CheckPlayerNames, NeverChangesTheFileItself)
 {
-    Validation v;
+    Checking c;
     const std::string bytes = kHeader + "\nbad\r" + kSmithLine;
-    v.scratch.put("PLAYERNAMES.CSV", bytes);
-    EXPECT_FALSE(v.validate());
-    EXPECT_EQ(v.scratch.get("PLAYERNAMES.CSV"), bytes);
-    EXPECT_EQ(v.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kTooShort, "bad", kSmithLine}));
+    c.scratch.put("PLAYERNAMES.CSV", bytes);
+    c.expectFault();
+    EXPECT_EQ(c.scratch.get("PLAYERNAMES.CSV"), bytes);
+    EXPECT_EQ(c.scratch.get("PLAYERNAMES.TXT"), crlf({kHeader, kTooShort, "bad", kSmithLine}));
 }
 
-TEST(ValidatePlayerNames, AcceptsAnEmptyFile)
+TEST(CheckPlayerNames, AcceptsAnEmptyFile)
 {
-    Validation v;
-    v.scratch.put("PLAYERNAMES.CSV", "");
-    EXPECT_TRUE(v.validate());
+    Checking c;
+    c.scratch.put("PLAYERNAMES.CSV", "");
+    EXPECT_TRUE(c.isSound());
 }
 
-TEST(ValidatePlayerNames, SaysThatAFileCannotBeReadAndLeavesAnOlderCopy)
+TEST(CheckPlayerNames, FailsForAFileThatCannotBeReadAndLeavesAnOlderCopy)
 {
-    Validation v;
-    fs::create_directory(v.scratch.path() / "PLAYERNAMES.CSV");
-    v.scratch.put("PLAYERNAMES.TXT", "half corrected");
-    EXPECT_FALSE(v.validate());
-    EXPECT_EQ(v.scratch.get("PLAYERNAMES.TXT"), "half corrected");
-    v.expectMessage();
+    Checking c;
+    fs::create_directory(c.scratch.path() / "PLAYERNAMES.CSV");
+    c.scratch.put("PLAYERNAMES.TXT", "half corrected");
+    c.expectFault();
+    EXPECT_EQ(c.scratch.get("PLAYERNAMES.TXT"), "half corrected");
 }
 
-TEST(ValidatePlayerNames, ReportsFaultsEvenWhenTheCopyCannotBeWritten)
+TEST(CheckPlayerNames, ReportsFaultsEvenWhenTheCopyCannotBeWritten)
 {
-    Validation v;
-    v.scratch.put("PLAYERNAMES.CSV", crlf({"bad"}));
-    fs::create_directory(v.scratch.path() / "PLAYERNAMES.TXT");
-    EXPECT_FALSE(v.validate());
-    v.expectMessage();
+    Checking c;
+    c.scratch.put("PLAYERNAMES.CSV", crlf({"bad"}));
+    fs::create_directory(c.scratch.path() / "PLAYERNAMES.TXT");
+    c.expectFault();
 }
 
-TEST(CreatePlayerNames, WritesTheHeaderOnly)
+TEST(CheckPlayerNames, SaysTheSameAboutAMissingFile)
 {
-    Validation v;
-    EXPECT_TRUE(createPlayerNames(v.scratch.folder(), v.dialogs));
-    EXPECT_EQ(v.scratch.get("PLAYERNAMES.CSV"), kHeader + "\r\n");
-    EXPECT_TRUE(v.validate());
+    const Checking c;
+    c.expectFault();
+    EXPECT_FALSE(c.scratch.has("PLAYERNAMES.TXT"));
 }
 
-TEST(CreatePlayerNames, SaysWhereItFailed)
+TEST(PlayerNamesFile, OfNobodyIsTheHeader)
 {
-    const ScratchFolder scratch;
-    FakeDialogs dialogs;
-    EXPECT_FALSE(createPlayerNames(DataFolder{scratch.path() / "gone"}, dialogs));
-    EXPECT_EQ(dialogs.shown, (std::vector<ui::Message>{
-                                 {"** ERROR IN WRITING FILE **",
-                                  "There is a problem writing file: " + (scratch.path() / "gone").string() +
-                                      "/PLAYERNAMES.CSV\r\n Check for adequate space in the Application Directory",
-                                  ui::Buttons::Ok, ui::Icon::Critical}}));
+    EXPECT_EQ(playerNamesFile({}), kHeader + "\r\n");
+    Checking c;
+    c.scratch.put("PLAYERNAMES.CSV", playerNamesFile({}));
+    EXPECT_TRUE(c.isSound());
 }
 
-TEST(SavePlayerNames, WritesHeaderAndRecordsInOrder)
+TEST(PlayerNamesFile, IsTheHeaderAndTheRecordsInOrder)
 {
-    Validation v;
-    v.scratch.put("PLAYERNAMES.CSV", std::string(5000, 'x'));
-    KnownFiles known;
-    EXPECT_TRUE(
-        savePlayerNames(v.scratch.folder(), v.dialogs, known, std::vector<PlayerRecord>{kSmith, PlayerRecord{}}));
     const std::string empty =
         '"' + blanks(25) + "\",\"" + blanks(33) + "\",\"" + blanks(43) + "\",\"" + blanks(14) + '"';
-    EXPECT_EQ(v.scratch.get("PLAYERNAMES.CSV"), crlf({kHeader, kSmithLine, empty}));
+    EXPECT_EQ(playerNamesFile(std::vector<PlayerRecord>{kSmith, PlayerRecord{}}), crlf({kHeader, kSmithLine, empty}));
 }
 
 TEST(ReadPlayerNames, SkipsTheHeader)

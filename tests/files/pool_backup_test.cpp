@@ -107,7 +107,7 @@ TEST(BackUp, KeepsTimeAndMode)
     EXPECT_EQ(fs::status(*backup / "PLAYERNAMES.CSV").permissions(), fs::perms::owner_read | fs::perms::owner_write);
 }
 
-TEST(BackUp, KeepsTheFileBehindALink)
+TEST(BackUp, KeepsTheFileThatALinkLeadsTo)
 {
     const ScratchFolder scratch;
     scratch.put("field on the server", "field");

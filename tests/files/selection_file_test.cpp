@@ -1,9 +1,8 @@
 // tests/files/selection_file_test.cpp - reading and writing brackets.
 #include "files/selection_file.h"
 
-#include "fakes/fake_dialogs.h"
 #include "fakes/scratch_folder.h"
-#include "files/file_names.h"
+#include "pool/sample_brackets.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +10,6 @@ namespace tallyhoop {
 namespace {
 
 namespace fs = std::filesystem;
-using test::FakeDialogs;
 using test::ScratchFolder;
 
 /// @returns a file of numbered lines "line 1", "line 2", ...
@@ -23,168 +21,180 @@ std::string numberedFile(int lines)
     return bytes;
 }
 
-ui::Message openingTrouble(const fs::path& file)
+/// The entry of a file's first numbered lines.
+Entry numberedEntry(int lines)
 {
-    return {"** ERROR IN OPENING FILE - ReadSelections Routine **",
-            "There is a problem opening: " + file.string() + "\r\n\r\n The program will attempt to continue ......",
-            ui::Buttons::Ok, ui::Icon::Critical};
+    const auto text = [lines](int line) { return line <= lines ? "line " + std::to_string(line) : std::string{}; };
+    Entry entry;
+    for (int line = 1; line <= 127; ++line)
+        entry.picks.put(Position{line - 1}, text(line));
+    entry.initials = text(128);
+    entry.name = text(129);
+    entry.finalPoints = text(130);
+    return entry;
 }
 
-struct Reading {
-    ScratchFolder scratch;
-    FakeDialogs dialogs;
-    SelectionLines lines{};
+TEST(ReadSelection, TakesACompleteFile)
+{
+    const Read<Entry> read = readSelection(numberedFile(130) + "*END*\r\n");
+    EXPECT_EQ(read.value, numberedEntry(130));
+    EXPECT_FALSE(read.trouble);
+}
 
-    Reading() { lines.fill("left over"); }
+TEST(ReadSelection, HasTheChampionOnLine127)
+{
+    const Entry entry = readSelection(numberedFile(130) + "*END*\r\n").value;
+    EXPECT_EQ(entry.picks.at(Position{0}), "line 1");
+    EXPECT_EQ(entry.picks.at(kChampion), "line 127");
+    EXPECT_EQ(entry.initials, "line 128");
+    EXPECT_EQ(entry.name, "line 129");
+    EXPECT_EQ(entry.finalPoints, "line 130");
+    EXPECT_EQ(entry.fileName, "") << "bytes have no name";
+}
 
-    void read(std::string_view bytes) { ReadSelections(scratch.put("A.THC", bytes), dialogs, lines); }
-    void expectNumbered(std::size_t upTo) const
-    {
-        EXPECT_EQ(lines[0], "");
-        for (std::size_t line = 1; line <= upTo; ++line)
-            EXPECT_EQ(lines[line], "line " + std::to_string(line));
+TEST(ReadSelection, ReportsAFileWithoutEndMarkerAndKeepsIts130Lines)
+{
+    const Read<Entry> read = readSelection(numberedFile(130));
+    EXPECT_EQ(read.value, numberedEntry(130));
+    EXPECT_TRUE(read.trouble);
+}
+
+TEST(ReadSelection, ReportsAFileOf132LinesAndKeepsWhatCounts)
+{
+    const Read<Entry> read = readSelection(numberedFile(130) + "*END*\r\nmore\r\n");
+    EXPECT_EQ(read.value, numberedEntry(130));
+    EXPECT_TRUE(read.trouble);
+}
+
+TEST(ReadSelection, ReportsALowerCaseEndMarker)
+{
+    const Read<Entry> read = readSelection(numberedFile(130) + "*end*\r\n");
+    EXPECT_EQ(read.value, numberedEntry(130));
+    EXPECT_TRUE(read.trouble);
+}
+
+TEST(ReadSelection, KeepsTheLinesThatAShortFileHas)
+{
+    for (const int lines : {1, 5, 127, 129}) {
+        const Read<Entry> read = readSelection(numberedFile(lines));
+        EXPECT_EQ(read.value, numberedEntry(lines)) << lines;
+        EXPECT_TRUE(read.trouble);
     }
-    void expectTrouble() const
-    {
-        EXPECT_EQ(dialogs.shown, std::vector<ui::Message>{openingTrouble(scratch.path() / "A.THC")});
-    }
-};
-
-TEST(ReadSelections, TakesACompleteFile)
-{
-    Reading r;
-    r.read(numberedFile(130) + "*END*\r\n");
-    r.expectNumbered(130);
-    EXPECT_EQ(r.lines[131], "*END*");
-    EXPECT_TRUE(r.dialogs.shown.empty());
 }
 
-TEST(ReadSelections, ReportsAFileWithoutEndMarkerAndKeepsIts130Lines)
+TEST(ReadSelection, ReportsAnEmptyFile)
 {
-    Reading r;
-    r.read(numberedFile(130));
-    r.expectNumbered(130);
-    EXPECT_EQ(r.lines[131], "");
-    r.expectTrouble();
+    const Read<Entry> read = readSelection("");
+    EXPECT_EQ(read.value, Entry{});
+    EXPECT_TRUE(read.trouble);
 }
 
-TEST(ReadSelections, ReportsAFileOf132LinesAndKeeps131)
+TEST(ReadSelection, SurvivesABinaryFile)
 {
-    Reading r;
-    r.read(numberedFile(130) + "*END*\r\nmore\r\n");
-    r.expectNumbered(130);
-    EXPECT_EQ(r.lines[131], "*END*");
-    r.expectTrouble();
+    const Read<Entry> read = readSelection(std::string(100'000, '\0'));
+    EXPECT_EQ(read.value.picks.at(Position{0}), std::string(100'000, '\0'));
+    EXPECT_TRUE(read.value.picks.isEmpty(Position{1}));
+    EXPECT_TRUE(read.trouble);
 }
 
-TEST(ReadSelections, ReportsALowerCaseEndMarker)
+TEST(ReadSelection, AcceptsOtherLineEndsAndAnUnterminatedLastLine)
 {
-    Reading r;
-    r.read(numberedFile(130) + "*end*\r\n");
-    r.expectNumbered(130);
-    EXPECT_EQ(r.lines[131], "*end*");
-    r.expectTrouble();
-}
-
-TEST(ReadSelections, ReportsAMissingFileAndLeavesEmptyLines)
-{
-    Reading r;
-    ReadSelections(r.scratch.path() / "A.THC", r.dialogs, r.lines);
-    EXPECT_EQ(r.lines, SelectionLines{});
-    r.expectTrouble();
-}
-
-TEST(ReadSelections, ReportsAFileThatCannotBeRead)
-{
-    Reading r;
-    fs::create_directory(r.scratch.path() / "A.THC");
-    ReadSelections(r.scratch.path() / "A.THC", r.dialogs, r.lines);
-    EXPECT_EQ(r.lines, SelectionLines{});
-    r.expectTrouble();
-}
-
-TEST(ReadSelections, ReportsAnEmptyFile)
-{
-    Reading r;
-    r.read("");
-    EXPECT_EQ(r.lines, SelectionLines{});
-    r.expectTrouble();
-}
-
-TEST(ReadSelections, SurvivesABinaryFile)
-{
-    Reading r;
-    r.read(std::string(100'000, '\0'));
-    EXPECT_EQ(r.lines[1], std::string(100'000, '\0'));
-    r.expectTrouble();
-}
-
-TEST(ReadSelections, AcceptsOtherLineEndsAndAnUnterminatedLastLine)
-{
-    Reading r;
     std::string bytes;
     for (int line = 1; line <= 130; ++line)
         bytes += "line " + std::to_string(line) + (line % 2 == 0 ? "\n" : "\r");
-    r.read(bytes + "*END*");
-    r.expectNumbered(130);
-    EXPECT_TRUE(r.dialogs.shown.empty());
+    const Read<Entry> read = readSelection(bytes + "*END*");
+    EXPECT_EQ(read.value, numberedEntry(130));
+    EXPECT_FALSE(read.trouble);
 }
 
-TEST(ReadSelection, TellsWhatIsWrong)
+TEST(ReadSelection, SaysWhatIsWrong)
 {
     EXPECT_EQ(readSelection(numberedFile(5)).trouble->message, "The file has fewer than 131 lines.");
+    EXPECT_EQ(readSelection(numberedFile(130)).trouble->message, "The file has fewer than 131 lines.");
+    EXPECT_EQ(readSelection(numberedFile(132)).trouble->message, "The file has more than 131 lines.");
     EXPECT_EQ(readSelection(numberedFile(500)).trouble->message, "The file has more than 131 lines.");
     EXPECT_EQ(readSelection(numberedFile(131)).trouble->message, "Line 131 of the file is not the end marker.");
     EXPECT_FALSE(readSelection(numberedFile(130) + "*END*").trouble);
 }
 
-TEST(SaveSelections, IsReadBackAsItWas)
+TEST(ReadSelection, SharesTheNamesOfABracketThatHasThemAll)
 {
-    const ScratchFolder scratch;
-    FakeDialogs dialogs;
-    SelectionLines lines{};
-    for (std::size_t line = 0; line < lines.size(); ++line)
-        lines[line] = "text " + std::to_string(line);
-    lines[5] = "";
-    lines[6] = " St. John's & <b>\xC9t\xE9\x81 ";
-    KnownFiles known;
-    EXPECT_TRUE(SaveSelections(scratch.path() / "A.THC", dialogs, known, lines));
-    SelectionLines back{};
-    ReadSelections(scratch.path() / "A.THC", dialogs, back);
-    EXPECT_EQ(back[0], "");
-    for (std::size_t line = 1; line <= 130; ++line)
-        EXPECT_EQ(back[line], lines[line]);
-    EXPECT_EQ(back[131], "*END*");
-    EXPECT_TRUE(dialogs.shown.empty());
+    const Bracket results = test::everyUpperTeamWins();
+    const Entry entry{test::everyLowerTeamWins(), "JS", "Smith", "140", ""};
+    const Read<Entry> read = readSelection(selectionFile(entry), results);
+    EXPECT_EQ(read.value, entry);
+    EXPECT_EQ(&read.value.picks.names(), &results.names());
 }
 
-TEST(SaveSelections, Writes131LinesWhateverEntry131Holds)
+TEST(ReadSelection, ReadsTheSameWhateverBracketIsExpected)
 {
-    SelectionLines lines{};
-    lines[selection_line::kFirstTeam] = "Duke";
-    lines[selection_line::kInitials] = "JS";
-    lines[selection_line::kName] = "Smith";
-    lines[selection_line::kFinalPoints] = "140";
-    lines[selection_line::kEnd] = "something else";
+    Entry entry{test::everyLowerTeamWins(), "JS", "Smith", "140", ""};
+    entry.picks.put(Position{24}, "Nobody knows");
+    entry.picks.clear(kChampion);
+    for (const Bracket& like : {Bracket{}, test::startingField(), test::everyUpperTeamWins()})
+        EXPECT_EQ(readSelection(selectionFile(entry), like).value, entry);
+}
+
+TEST(ReadSelectionFile, GivesTheEntryTheFilesName)
+{
+    const ScratchFolder scratch;
+    const Entry entry{test::everyUpperTeamWins(), "JS", "Smith", "140", "Smith_JS.THC"};
+    const Read<Entry> read = readSelectionFile(scratch.put("Smith_JS.THC", selectionFile(entry)));
+    EXPECT_EQ(read.value, entry);
+    EXPECT_FALSE(read.trouble);
+}
+
+TEST(ReadSelectionFile, ReportsADamagedFileAndKeepsItsLines)
+{
+    const ScratchFolder scratch;
+    const Read<Entry> read = readSelectionFile(scratch.put("A.THC", numberedFile(5)));
+    Entry expected = numberedEntry(5);
+    expected.fileName = "A.THC";
+    EXPECT_EQ(read.value, expected);
+    ASSERT_TRUE(read.trouble);
+    EXPECT_EQ(read.trouble->message, "The file has fewer than 131 lines.");
+}
+
+TEST(ReadSelectionFile, ReportsAMissingFileAndGivesAnEmptyEntryOfItsName)
+{
+    const ScratchFolder scratch;
+    const Read<Entry> read = readSelectionFile(scratch.path() / "A.THC");
+    EXPECT_EQ(read.value, (Entry{{}, "", "", "", "A.THC"}));
+    EXPECT_TRUE(read.trouble);
+}
+
+TEST(ReadSelectionFile, ReportsAFileThatCannotBeRead)
+{
+    const ScratchFolder scratch;
+    fs::create_directory(scratch.path() / "A.THC");
+    const Read<Entry> read = readSelectionFile(scratch.path() / "A.THC");
+    EXPECT_EQ(read.value.picks, Bracket{});
+    EXPECT_TRUE(read.trouble);
+}
+
+TEST(SelectionFile, IsReadBackAsItWas)
+{
+    Entry entry = numberedEntry(130);
+    entry.picks.clear(Position{4});
+    entry.picks.put(Position{5}, " St. John's & <b>\xC9t\xE9\x81 ");
+    entry.finalPoints = " about 140 ";
+    const Read<Entry> read = readSelection(selectionFile(entry));
+    EXPECT_EQ(read.value, entry);
+    EXPECT_FALSE(read.trouble);
+}
+
+TEST(SelectionFile, Has131Lines)
+{
+    Entry entry;
+    entry.picks.put(Position{0}, "Duke");
+    entry.initials = "JS";
+    entry.name = "Smith";
+    entry.finalPoints = "140";
+    entry.fileName = "not part of the file";
     std::string expected = "Duke\r\n";
     for (int line = 2; line <= 127; ++line)
         expected += "\r\n";
-    EXPECT_EQ(selectionFile(lines), expected + "JS\r\nSmith\r\n140\r\n*END*\r\n");
-}
-
-TEST(SaveSelections, SaysWhereItFailedAndLeavesTheOldFile)
-{
-    const ScratchFolder scratch;
-    FakeDialogs dialogs;
-    fs::create_directory(scratch.path() / "A.THC");
-    KnownFiles known;
-    EXPECT_FALSE(SaveSelections(scratch.path() / "A.THC", dialogs, known, SelectionLines{}));
-    EXPECT_EQ(dialogs.shown,
-              (std::vector<ui::Message>{{"** ERROR IN WRITING FILE **",
-                                         "There is a problem writing file: " + (scratch.path() / "A.THC").string() +
-                                             "\r\n Check your selection and retry.",
-                                         ui::Buttons::Ok, ui::Icon::Critical}}));
-    EXPECT_TRUE(fs::is_directory(scratch.path() / "A.THC"));
+    EXPECT_EQ(selectionFile(entry), expected + "JS\r\nSmith\r\n140\r\n*END*\r\n");
 }
 
 TEST(ProposedFileName, JoinsNameAndInitialsAsTyped)

@@ -1,10 +1,7 @@
 // tests/files/setup_file_test.cpp - reading and writing the starting field.
 #include "files/setup_file.h"
 
-#include "base/text.h"
-#include "fakes/fake_dialogs.h"
 #include "fakes/scratch_folder.h"
-#include "files/file_names.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -14,10 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 using test::crlf;
-using test::FakeDialogs;
 using test::ScratchFolder;
-
-const ui::Message kDamaged{"", "Problem with file, will use default values", ui::Buttons::Ok, ui::Icon::Critical};
 
 /// @returns a file of the start marker, this many numbered lines and a last line
 std::string fileWith(int numbered, std::string_view last)
@@ -28,221 +22,242 @@ std::string fileWith(int numbered, std::string_view last)
     return bytes + std::string{last} + "\r\n";
 }
 
-SetupLines filledWith(const std::string& text)
+/// The field of a file whose lines are numbered from 0, so that each text says which line it is.
+Field numberedField()
 {
-    SetupLines lines{};
-    lines.fill(text);
-    return lines;
+    int line = 0;
+    const auto number = [&line](auto& texts) {
+        for (std::string& text : texts)
+            text = "line " + std::to_string(line++);
+    };
+    Field field;
+    number(field.teams.values);
+    field.title = "line " + std::to_string(line++);
+    number(field.regionTitles);
+    std::array<std::string, kRounds> payoffs;
+    number(payoffs);
+    field.payoffs = PayoffTexts{payoffs};
+    number(field.seeds);
+    field.comment1 = "line 91";
+    field.comment2 = "line 92";
+    field.finalized = "line 93";
+    return field;
 }
 
-struct Reading {
-    ScratchFolder scratch;
-    FakeDialogs dialogs;
-    modTallyhoop state;
-
-    void read() { ReadStartingField(scratch.folder(), dialogs, state); }
-    void expectDefaults() const
-    {
-        const SetupLines defaults = defaultSetupLines();
-        for (std::size_t i = 0; i <= setup_line::kEnd; ++i)
-            EXPECT_EQ(state.setupLines[i], defaults[i]) << "entry " << i;
-        EXPECT_EQ(state.currentTitle, "2001 NCAA Tournament");
-    }
-};
-
-TEST(ReadStartingField, GivesDefaultsWithoutAWordWhenThereIsNoFile)
+/// A field with the same text everywhere.
+Field filledWith(const std::string& text)
 {
-    Reading r;
-    r.read();
-    r.expectDefaults();
-    EXPECT_TRUE(r.dialogs.shown.empty());
+    Field field;
+    field.teams.values.fill(text);
+    field.title = text;
+    field.regionTitles.fill(text);
+    std::array<std::string, kRounds> payoffs;
+    payoffs.fill(text);
+    field.payoffs = PayoffTexts{payoffs};
+    field.seeds.fill(text);
+    field.comment1 = field.comment2 = field.finalized = text;
+    return field;
 }
 
-TEST(ReadStartingField, RejectsALowerCaseStartMarkerWithAMessage)
+void expectDefaultsWithoutTrouble(const Read<Field>& read)
 {
-    Reading r;
-    r.scratch.put("POOLSTART.THS", crlf({"*start*", "Duke", "*END*"}));
-    r.read();
-    r.expectDefaults();
-    EXPECT_EQ(r.dialogs.shown, std::vector<ui::Message>{kDamaged});
+    EXPECT_EQ(read.value, defaultField());
+    EXPECT_FALSE(read.trouble);
 }
 
-TEST(ReadStartingField, TakesAShortFileByPositionAndKeepsTheRest)
+void expectDefaultsWithTrouble(const Read<Field>& read)
 {
-    Reading r;
-    r.scratch.put("POOLSTART.THS", crlf({"*START*", "a", "b", "c", "d", "e", "*END*"}));
-    r.read();
-    EXPECT_TRUE(r.dialogs.shown.empty());
-    for (std::size_t i = 0; i < 5; ++i)
-        EXPECT_EQ(r.state.setupLines[i], std::string(1, static_cast<char>('a' + i)));
-    EXPECT_EQ(r.state.setupLines[5], "*END*");
-    for (std::size_t i = 6; i <= 100; ++i)
-        EXPECT_EQ(r.state.setupLines[i], "") << "entry " << i;
-    EXPECT_EQ(r.state.currentTitle, "");
+    EXPECT_EQ(read.value, defaultField());
+    ASSERT_TRUE(read.trouble);
+    EXPECT_EQ(read.trouble->message, "Problem with file, will use default values");
 }
 
-TEST(ReadStartingField, KeepsWhatEntriesBeyondTheFileHeldBefore)
+TEST(ReadSetup, TakesEachLineForItsText)
 {
-    Reading r;
-    r.state.setupLines = filledWith("before");
-    r.scratch.put("POOLSTART.THS", crlf({"*START*", "a", "*END*"}));
-    r.read();
-    EXPECT_EQ(r.state.setupLines[0], "a");
-    EXPECT_EQ(r.state.setupLines[1], "*END*");
-    EXPECT_EQ(r.state.setupLines[2], "before");
-    EXPECT_EQ(r.state.setupLines[100], "before");
-    EXPECT_EQ(r.state.currentTitle, "before");
+    const Read<Field> read = readSetup(fileWith(94, "*END*"));
+    EXPECT_FALSE(read.trouble);
+    const Field& field = read.value;
+    EXPECT_EQ(field.teams[TeamRow{0}], "line 0");
+    EXPECT_EQ(field.teams[TeamRow{63}], "line 63");
+    EXPECT_EQ(field.title, "line 64");
+    EXPECT_EQ(field.regionTitles.front(), "line 65");
+    EXPECT_EQ(field.regionTitles.back(), "line 68");
+    EXPECT_EQ(field.payoffs.text(1), "line 69");
+    EXPECT_EQ(field.payoffs.text(6), "line 74");
+    EXPECT_EQ(field.seeds.front(), "line 75");
+    EXPECT_EQ(field.seeds.back(), "line 90");
+    EXPECT_EQ(field.comment1, "line 91");
+    EXPECT_EQ(field.comment2, "line 92");
+    EXPECT_EQ(field.finalized, "line 93");
 }
 
-TEST(ReadStartingField, GivesDefaultsWithoutAWordForTheStartMarkerAlone)
+TEST(ReadSetup, RejectsALowerCaseStartMarker)
 {
-    Reading r;
-    r.scratch.put("POOLSTART.THS", "*START*\r\n");
-    r.read();
-    r.expectDefaults();
-    EXPECT_TRUE(r.dialogs.shown.empty());
+    expectDefaultsWithTrouble(readSetup(crlf({"*start*", "Duke", "*END*"})));
 }
 
-TEST(ReadStartingField, GivesDefaultsWithoutAWordForAnEmptyFile)
+TEST(ReadSetup, RejectsBlanksAroundTheStartMarker)
 {
-    Reading r;
-    r.scratch.put("POOLSTART.THS", "");
-    r.read();
-    r.expectDefaults();
-    EXPECT_TRUE(r.dialogs.shown.empty());
+    expectDefaultsWithTrouble(readSetup(crlf({"*START* ", "Duke", "*END*"})));
+    expectDefaultsWithTrouble(readSetup(crlf({" *START*", "Duke", "*END*"})));
 }
 
-TEST(ReadStartingField, AcceptsOneHundredAndOneLinesBehindTheMarker)
+TEST(ReadSetup, TakesAShortFileLineByLineAndLeavesTheRestEmpty)
 {
-    Reading r;
-    r.scratch.put("POOLSTART.THS", fileWith(100, "*END*"));
-    r.read();
-    EXPECT_TRUE(r.dialogs.shown.empty());
-    EXPECT_EQ(r.state.setupLines[64], "line 64");
-    EXPECT_EQ(r.state.setupLines[99], "line 99");
-    EXPECT_EQ(r.state.setupLines[100], "*END*");
-    EXPECT_EQ(r.state.currentTitle, "line 64");
+    const Read<Field> read = readSetup(crlf({"*START*", "a", "b", "c", "d", "e", "*END*"}));
+    EXPECT_FALSE(read.trouble);
+    Field expected;
+    for (int row = 0; row < 5; ++row)
+        expected.teams[TeamRow{row}] = std::string(1, static_cast<char>('a' + row));
+    expected.teams[TeamRow{5}] = "*END*";
+    EXPECT_EQ(read.value, expected);
 }
 
-TEST(ReadStartingField, GivesDefaultsWithoutAWordForMoreLines)
+TEST(ReadSetup, KeepsWhatWasThereBeforeForTheLinesThatAreMissing)
 {
-    Reading r;
-    r.scratch.put("POOLSTART.THS", fileWith(101, "*END*"));
-    r.read();
-    r.expectDefaults();
-    EXPECT_TRUE(r.dialogs.shown.empty());
+    const Read<Field> read = readSetup(crlf({"*START*", "a", "*END*"}), filledWith("before"));
+    EXPECT_FALSE(read.trouble);
+    Field expected = filledWith("before");
+    expected.teams[TeamRow{0}] = "a";
+    expected.teams[TeamRow{1}] = "*END*";
+    EXPECT_EQ(read.value, expected);
 }
 
-TEST(ReadStartingField, RejectsAFileWithoutEndMarkerWithAMessage)
+TEST(ReadSetup, KeepsNothingOfBeforeWhenItGivesDefaults)
+{
+    expectDefaultsWithoutTrouble(readSetup("*START*\r\n", filledWith("before")));
+    expectDefaultsWithTrouble(readSetup("Duke\r\n", filledWith("before")));
+    const ScratchFolder scratch;
+    expectDefaultsWithoutTrouble(readField(scratch.folder(), filledWith("before")));
+}
+
+TEST(ReadSetup, GivesDefaultsWithoutTroubleForTheStartMarkerAlone)
+{
+    expectDefaultsWithoutTrouble(readSetup("*START*\r\n"));
+    expectDefaultsWithoutTrouble(readSetup("*START*"));
+}
+
+TEST(ReadSetup, GivesDefaultsWithoutTroubleForAnEmptyFile) { expectDefaultsWithoutTrouble(readSetup("")); }
+
+TEST(ReadSetup, AcceptsAFileThatEndsRightAfterTheMarker)
+{
+    const Read<Field> read = readSetup(crlf({"*START*", "*END*"}));
+    EXPECT_FALSE(read.trouble);
+    Field expected;
+    expected.teams[TeamRow{0}] = "*END*";
+    EXPECT_EQ(read.value, expected);
+}
+
+TEST(ReadSetup, AcceptsOneHundredAndOneLinesAfterTheMarker)
+{
+    const Read<Field> read = readSetup(fileWith(100, "*END*"));
+    EXPECT_FALSE(read.trouble);
+    EXPECT_EQ(read.value, numberedField());
+}
+
+TEST(ReadSetup, GivesDefaultsWithoutTroubleForMoreLines)
+{
+    expectDefaultsWithoutTrouble(readSetup(fileWith(101, "*END*")));
+    expectDefaultsWithoutTrouble(readSetup(fileWith(101, "no end")));
+}
+
+TEST(ReadSetup, RejectsAFileWithoutEndMarker)
 {
     for (const char* last : {"*end*", "*END* ", " *END*", "", "Duke"}) {
-        Reading r;
-        r.scratch.put("POOLSTART.THS", fileWith(94, last));
-        r.read();
-        r.expectDefaults();
-        EXPECT_EQ(r.dialogs.shown, std::vector<ui::Message>{kDamaged}) << '"' << last << '"';
+        SCOPED_TRACE(last);
+        expectDefaultsWithTrouble(readSetup(fileWith(94, last)));
     }
 }
 
-TEST(ReadStartingField, RejectsABinaryFileWithAMessage)
+TEST(ReadSetup, RejectsABinaryFile)
 {
-    Reading r;
-    r.scratch.put("POOLSTART.THS", std::string(50'000, '\0') + "\xFF\xFE\n\r");
-    r.read();
-    r.expectDefaults();
-    EXPECT_EQ(r.dialogs.shown, std::vector<ui::Message>{kDamaged});
+    expectDefaultsWithTrouble(readSetup(std::string(50'000, '\0') + "\xFF\xFE\n\r"));
 }
 
-TEST(ReadStartingField, GivesDefaultsWithoutAWordWhenTheFileCannotBeRead)
+TEST(ReadSetup, AcceptsAnyLineEnds)
 {
-    Reading r;
-    fs::create_directory(r.scratch.path() / "POOLSTART.THS");
-    r.read();
-    r.expectDefaults();
-    EXPECT_TRUE(r.dialogs.shown.empty());
+    const Read<Field> read = readSetup("*START*\nDuke\rKansas\r\n*END*");
+    EXPECT_FALSE(read.trouble);
+    EXPECT_EQ(read.value.teams[TeamRow{0}], "Duke");
+    EXPECT_EQ(read.value.teams[TeamRow{1}], "Kansas");
 }
 
-TEST(ReadStartingField, FindsTheFileInAnyCaseAndWithAnyLineEnds)
+TEST(ReadSetup, TurnsBarsInCommentsIntoLineBreaksAndLeavesThemElsewhere)
 {
-    Reading r;
-    r.scratch.put("PoolStart.ths", "*START*\nDuke\rKansas\r\n*END*");
-    r.read();
-    EXPECT_TRUE(r.dialogs.shown.empty());
-    EXPECT_EQ(r.state.setupLines[0], "Duke");
-    EXPECT_EQ(r.state.setupLines[1], "Kansas");
+    std::string bytes = "*START*\r\n";
+    for (int line = 0; line < 94; ++line)
+        bytes += "a|b\r\n";
+    const Field field = readSetup(bytes + "*END*\r\n").value;
+    EXPECT_EQ(field.comment1, "a\r\nb");
+    EXPECT_EQ(field.comment2, "a\r\nb");
+    EXPECT_EQ(field.title, "a|b");
+    EXPECT_EQ(field.finalized, "a|b");
 }
 
-TEST(ReadStartingField, WritesNothing)
-{
-    Reading r;
-    r.read();
-    EXPECT_TRUE(fs::is_empty(r.scratch.path()));
-}
-
-/// A setup whose every entry tells its index.
-SetupLines numberedSetup()
-{
-    SetupLines lines{};
-    for (std::size_t i = 0; i < lines.size(); ++i)
-        lines[i] = "entry " + std::to_string(i);
-    return lines;
-}
-
-TEST(WriteStartingField, WritesNinetySixLines)
+TEST(ReadField, GivesDefaultsWithoutTroubleWhenThereIsNoFile)
 {
     const ScratchFolder scratch;
-    FakeDialogs dialogs;
-    KnownFiles known;
-    EXPECT_TRUE(WriteStartingField(scratch.folder(), dialogs, known, numberedSetup()));
+    expectDefaultsWithoutTrouble(readField(scratch.folder()));
+    EXPECT_TRUE(fs::is_empty(scratch.path())) << "reading writes nothing";
+}
+
+TEST(ReadField, GivesDefaultsWithoutTroubleWhenTheFileCannotBeRead)
+{
+    const ScratchFolder scratch;
+    fs::create_directory(scratch.path() / "POOLSTART.THS");
+    expectDefaultsWithoutTrouble(readField(scratch.folder()));
+}
+
+TEST(ReadField, FindsTheFileInAnyCase)
+{
+    const ScratchFolder scratch;
+    scratch.put("PoolStart.ths", crlf({"*START*", "Duke", "*END*"}));
+    const Read<Field> read = readField(scratch.folder());
+    EXPECT_FALSE(read.trouble);
+    EXPECT_EQ(read.value.teams[TeamRow{0}], "Duke");
+}
+
+TEST(ReadField, KeepsWhatWasThereBeforeToo)
+{
+    const ScratchFolder scratch;
+    scratch.put("POOLSTART.THS", crlf({"*START*", "Duke", "*END*"}));
+    EXPECT_EQ(readField(scratch.folder(), filledWith("before")).value.title, "before");
+}
+
+TEST(ReadField, SaysThatTheFileIsDamaged)
+{
+    const ScratchFolder scratch;
+    scratch.put("POOLSTART.THS", "Duke\r\n");
+    expectDefaultsWithTrouble(readField(scratch.folder()));
+}
+
+TEST(SetupFile, HasNinetySixLines)
+{
     std::string expected = "*START*\r\n";
     for (int i = 0; i <= 93; ++i)
-        expected += "entry " + std::to_string(i) + "\r\n";
+        expected += "line " + std::to_string(i) + "\r\n";
     expected += "*END*\r\n";
-    EXPECT_EQ(scratch.get("POOLSTART.THS"), expected);
+    EXPECT_EQ(setupFile(numberedField()), expected);
     EXPECT_EQ(std::count(expected.begin(), expected.end(), '\n'), 96);
-    EXPECT_TRUE(dialogs.shown.empty());
 }
 
-TEST(WriteStartingField, PutsATwoLineCommentOnOneLine)
+TEST(SetupFile, PutsATwoLineCommentOnOneLine)
 {
-    Reading r;
-    SetupLines lines = defaultSetupLines();
-    lines[setup_line::kComment1] = encodeLineBreaks("a\r\nb");
-    KnownFiles known;
-    EXPECT_TRUE(WriteStartingField(r.scratch.folder(), r.dialogs, known, lines));
-    EXPECT_NE(r.scratch.get("POOLSTART.THS").find("\r\na|b\r\n"), std::string::npos);
-    r.read();
-    EXPECT_EQ(decodeLineBreaks(r.state.setupLines[setup_line::kComment1]), "a\r\nb");
+    Field field = defaultField();
+    field.comment1 = "a\r\nb";
+    EXPECT_NE(setupFile(field).find("\r\na|b\r\n"), std::string::npos);
+    EXPECT_EQ(readSetup(setupFile(field)).value, field);
 }
 
-TEST(WriteStartingField, IsReadBackAsItWas)
+TEST(SetupFile, IsReadBackAsItWas)
 {
-    Reading r;
-    SetupLines lines = numberedSetup();
-    lines[7] = "\xC9t\xE9 <b>&\"/ ";
-    lines[8] = "";
-    lines[setup_line::kEnd] = "*END*";
-    KnownFiles known;
-    EXPECT_TRUE(WriteStartingField(r.scratch.folder(), r.dialogs, known, lines));
-    r.read();
-    for (std::size_t i = 0; i <= setup_line::kEnd; ++i)
-        EXPECT_EQ(r.state.setupLines[i], lines[i]);
-    EXPECT_EQ(r.state.currentTitle, "entry 64");
-    EXPECT_TRUE(r.dialogs.shown.empty());
-}
-
-TEST(WriteStartingField, SaysWhereItFailed)
-{
-    const ScratchFolder scratch;
-    FakeDialogs dialogs;
-    const DataFolder gone{scratch.path() / "gone"};
-    KnownFiles known;
-    EXPECT_FALSE(WriteStartingField(gone, dialogs, known, defaultSetupLines()));
-    EXPECT_EQ(dialogs.shown,
-              (std::vector<ui::Message>{{"** ERROR IN WRITING FILE **",
-                                         "There is a problem writing file: " + (scratch.path() / "gone").string() +
-                                             "/POOLSTART.THS\r\n Check for adequate space in the Application Directory",
-                                         ui::Buttons::Ok, ui::Icon::Critical}}));
+    Field field = numberedField();
+    field.teams[TeamRow{7}] = "\xC9t\xE9\x81 <b>&\"/ ";
+    field.teams[TeamRow{8}] = "";
+    field.payoffs = PayoffTexts{{" 1", "two", "", "4.5", "99999", "-3 "}};
+    const Read<Field> read = readSetup(setupFile(field), filledWith("before"));
+    EXPECT_EQ(read.value, field);
+    EXPECT_FALSE(read.trouble);
 }
 
 } // namespace

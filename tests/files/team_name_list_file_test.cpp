@@ -1,7 +1,6 @@
 // tests/files/team_name_list_file_test.cpp - the maintained list of team names.
 #include "files/team_name_list_file.h"
 
-#include "fakes/fake_dialogs.h"
 #include "fakes/scratch_folder.h"
 
 #include <gtest/gtest.h>
@@ -10,110 +9,101 @@ namespace tallyhoop {
 namespace {
 
 using test::crlf;
-using test::FakeDialogs;
 using test::ScratchFolder;
 using Names = std::vector<std::string>;
 
-const ui::Message kUnreadable{
-    "", "Problem locating or Reading NCAALIST.THS file\r\n\r\nMODULE: modTallyhoop - ReadTeamNames", ui::Buttons::Ok,
-    ui::Icon::Critical};
+constexpr const char* kUnreadable =
+    "Problem locating or Reading NCAALIST.THS file\r\n\r\nMODULE: modTallyhoop - ReadTeamNames";
 
-/// Reads a list of these bytes; expects the message or none.
-std::optional<Names> read(std::string_view bytes, bool expectMessage)
+/// @returns what is read from a list of these bytes; for a failure, which must be the usual one, nothing
+std::optional<Names> read(std::string_view bytes)
 {
     const ScratchFolder scratch;
-    FakeDialogs dialogs;
     scratch.put("NCAALIST.THS", bytes);
-    std::optional<Names> names = ReadTeamNames(scratch.folder(), dialogs);
-    EXPECT_EQ(dialogs.shown, expectMessage ? std::vector<ui::Message>{kUnreadable} : std::vector<ui::Message>{});
-    return names;
+    const Result<Names> names = readTeamNames(scratch.folder());
+    if (names)
+        return *names;
+    EXPECT_EQ(names.failure().message, kUnreadable);
+    return std::nullopt;
 }
 
 TEST(ReadTeamNames, GivesTheNamesInFileOrder)
 {
-    EXPECT_EQ(read(crlf({"*START*", "Duke", "Arizona", "duke", "*END*"}), false), (Names{"Duke", "Arizona", "duke"}));
+    EXPECT_EQ(read(crlf({"*START*", "Duke", "Arizona", "duke", "*END*"})), (Names{"Duke", "Arizona", "duke"}));
 }
 
-TEST(ReadTeamNames, AcceptsTextBehindTheStartMarker)
+TEST(ReadTeamNames, AcceptsTextAfterTheStartMarker)
 {
-    EXPECT_EQ(read(crlf({"*START* of the list", "Duke", "*END*"}), false), Names{"Duke"});
+    EXPECT_EQ(read(crlf({"*START* of the list", "Duke", "*END*"})), Names{"Duke"});
 }
 
-TEST(ReadTeamNames, AcceptsAnEmptyList) { EXPECT_EQ(read(crlf({"*START*", "*END*"}), false), Names{}); }
+TEST(ReadTeamNames, AcceptsAnEmptyList) { EXPECT_EQ(read(crlf({"*START*", "*END*"})), Names{}); }
 
 TEST(ReadTeamNames, TakesAnEndMarkerInTheMiddleForAName)
 {
-    EXPECT_EQ(read(crlf({"*START*", "*END*", "Duke", "*END*"}), false), (Names{"*END*", "Duke"}));
+    EXPECT_EQ(read(crlf({"*START*", "*END*", "Duke", "*END*"})), (Names{"*END*", "Duke"}));
 }
 
-TEST(ReadTeamNames, RejectsATrailingBlankBehindTheEndMarker)
+TEST(ReadTeamNames, RejectsATrailingBlankAfterTheEndMarker)
 {
-    EXPECT_EQ(read(crlf({"*START*", "Duke", "*END* "}), true), std::nullopt);
+    EXPECT_EQ(read(crlf({"*START*", "Duke", "*END* "})), std::nullopt);
 }
 
-TEST(ReadTeamNames, RejectsAnEmptyFile) { EXPECT_EQ(read("", true), std::nullopt); }
+TEST(ReadTeamNames, RejectsAnEmptyFile) { EXPECT_EQ(read(""), std::nullopt); }
 
 TEST(ReadTeamNames, RejectsBadFrames)
 {
-    EXPECT_EQ(read(crlf({"*START*"}), true), std::nullopt);
-    EXPECT_EQ(read(crlf({"*start*", "Duke", "*END*"}), true), std::nullopt);
-    EXPECT_EQ(read(crlf({" *START*", "Duke", "*END*"}), true), std::nullopt);
-    EXPECT_EQ(read(crlf({"*START*", "Duke"}), true), std::nullopt);
-    EXPECT_EQ(read(crlf({"*START*", "Duke", "*END*", ""}), true), std::nullopt);
-    EXPECT_EQ(read(std::string(10'000, '\0'), true), std::nullopt);
+    EXPECT_EQ(read(crlf({"*START*"})), std::nullopt);
+    EXPECT_EQ(read(crlf({"*start*", "Duke", "*END*"})), std::nullopt);
+    EXPECT_EQ(read(crlf({" *START*", "Duke", "*END*"})), std::nullopt);
+    EXPECT_EQ(read(crlf({"*START*", "Duke"})), std::nullopt);
+    EXPECT_EQ(read(crlf({"*START*", "Duke", "*END*", ""})), std::nullopt);
+    EXPECT_EQ(read(std::string(10'000, '\0')), std::nullopt);
 }
 
-TEST(ReadTeamNames, SaysThatTheFileIsMissing)
+TEST(ReadTeamNames, FailsForAMissingFile)
 {
     const ScratchFolder scratch;
-    FakeDialogs dialogs;
-    EXPECT_EQ(ReadTeamNames(scratch.folder(), dialogs), std::nullopt);
-    EXPECT_EQ(dialogs.shown, std::vector<ui::Message>{kUnreadable});
+    const Result<Names> names = readTeamNames(scratch.folder());
+    ASSERT_FALSE(names);
+    EXPECT_EQ(names.failure().message, kUnreadable);
 }
 
-TEST(WriteTeamNames, WritesNeighbouringEqualNamesOnce)
+TEST(ReadTeamNames, FindsTheFileInAnyCase)
+{
+    const ScratchFolder scratch;
+    scratch.put("NcaaList.ths", crlf({"*START*", "Duke", "*END*"}));
+    const Result<Names> names = readTeamNames(scratch.folder());
+    ASSERT_TRUE(names);
+    EXPECT_EQ(*names, Names{"Duke"});
+}
+
+TEST(ReadTeamNameList, SaysWhichMarkerIsMissing)
+{
+    EXPECT_EQ(readTeamNameList("Duke\r\n").failure().message, "The list does not begin with its start marker.");
+    EXPECT_EQ(readTeamNameList(crlf({"*START*", "Duke"})).failure().message,
+              "The list does not end with its end marker.");
+}
+
+TEST(TeamNameListFile, HasNeighbouringEqualNamesOnce)
 {
     EXPECT_EQ(teamNameListFile(Names{"Duke", "Duke", "UCLA"}), crlf({"*START*", "Duke", "UCLA", "*END*"}));
 }
 
-TEST(WriteTeamNames, WritesEqualNamesThatAreNoNeighboursTwice)
+TEST(TeamNameListFile, HasEqualNamesThatAreNoNeighboursTwice)
 {
     EXPECT_EQ(teamNameListFile(Names{"Duke", "UCLA", "Duke"}), crlf({"*START*", "Duke", "UCLA", "Duke", "*END*"}));
 }
 
-TEST(WriteTeamNames, TellsNamesThatDifferInCaseApart)
+TEST(TeamNameListFile, TellsNamesThatDifferInCaseApart)
 {
     EXPECT_EQ(teamNameListFile(Names{"Duke", "DUKE"}), crlf({"*START*", "Duke", "DUKE", "*END*"}));
 }
 
-TEST(WriteTeamNames, SkipsAnEmptyFirstName)
+TEST(TeamNameListFile, SkipsAnEmptyFirstName)
 {
     EXPECT_EQ(teamNameListFile(Names{"", "Duke"}), crlf({"*START*", "Duke", "*END*"}));
     EXPECT_EQ(teamNameListFile(Names{}), crlf({"*START*", "*END*"}));
-}
-
-TEST(WriteTeamNames, ReplacesTheFile)
-{
-    const ScratchFolder scratch;
-    FakeDialogs dialogs;
-    scratch.put("NcaaList.ths", std::string(5000, 'x'));
-    KnownFiles known;
-    EXPECT_TRUE(WriteTeamNames(scratch.folder(), dialogs, known, Names{"Duke"}));
-    EXPECT_EQ(scratch.get("NcaaList.ths"), crlf({"*START*", "Duke", "*END*"}));
-    EXPECT_TRUE(dialogs.shown.empty());
-}
-
-TEST(WriteTeamNames, SaysWhereItFailed)
-{
-    const ScratchFolder scratch;
-    FakeDialogs dialogs;
-    KnownFiles known;
-    EXPECT_FALSE(WriteTeamNames(DataFolder{scratch.path() / "gone"}, dialogs, known, Names{"Duke"}));
-    EXPECT_EQ(dialogs.shown,
-              (std::vector<ui::Message>{{"** ERROR IN WRITING FILE **",
-                                         "There is a problem writing file: " + (scratch.path() / "gone").string() +
-                                             "/NCAALIST.THS\r\n Check for adequate space in the Application Directory",
-                                         ui::Buttons::Ok, ui::Icon::Critical}}));
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // tests/fuzz/fuzzed_pool.h - a pool made of arbitrary bytes, for the reports.
 #pragma once
 
-#include "files/read_pool.h"
+#include "pool/entry.h"
 
 #include <functional>
 #include <string>
@@ -13,15 +13,15 @@ namespace tallyhoop::fuzz {
 struct FuzzedPool {
     std::string title;
     Payoffs payoffs{1, 2, 4, 8, 12, 16};
-    SelectionLines results{};
+    Bracket results;
     std::vector<std::string> playerList; ///< the lines of the player list, the header first
-    ReadPool pool;
+    std::vector<Entry> entries;
 
     /// @returns whether no name of a team, a player or a file holds this character
     bool isFreeOf(char separator) const;
 
     /// Asks something of every player's picks in rounds 1..6 that are there.
-    void forEachPick(const std::function<void(const PoolEntry&, int round, const std::string& team)>& ask) const;
+    void forEachPick(const std::function<void(int round, const std::string& team)>& ask) const;
 };
 
 /// Takes sections separated by byte 1E: a line with the title and up to six with payoffs; the results file, which is

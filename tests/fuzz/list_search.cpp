@@ -1,11 +1,12 @@
-// tests/fuzz/list_search.cpp - arbitrary keys in an entry box, compared with the rules told once more.
+// tests/fuzz/list_search.cpp - arbitrary keys in an entry box, compared with the rules put down once more.
 #include "fuzz/targets.h"
 
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "screens/list_search.h"
+#include "ui/screen.h"
 
-#include <cstdint>
+#include <algorithm>
 #include <vector>
 
 namespace tallyhoop::fuzz {
@@ -16,17 +17,10 @@ struct Seen {
     std::string text;
     int selectionStart = 0;
     int selectionLength = 0;
-    bool droppedDown = false;
     std::optional<int> selected;
-    std::int16_t keyCode = 0;
+    bool isDealtWith = false;
 
     friend bool operator==(const Seen&, const Seen&) = default;
-};
-
-struct Box {
-    bool isCombo = false;
-    bool hasTarget = true;
-    bool targetIsList = true;
 };
 
 std::optional<int> firstRow(const std::vector<std::string>& rows, const std::string& prefix)
@@ -42,102 +36,94 @@ std::string leading(const std::string& text, int count)
     return count <= 0 ? std::string{} : text.substr(0, static_cast<std::size_t>(count));
 }
 
-/// The rules in the order in which they are told.
-Seen expected(Seen seen, const Box& box, const std::string& typed, const std::vector<std::string>& rows)
+/// The rules, one after another.
+Seen expected(Seen seen, const ui::KeyPress& press, const std::vector<std::string>& rows)
 {
-    const std::int16_t key = seen.keyCode;
-    if (!((key >= 32 && key <= 127) || key == 13 || key == 8))
+    seen.isDealtWith = false;
+    if (press.control)
         return seen;
     std::string sought;
-    if (key == 8) {
+    if (press.key == ui::Key::Backspace) {
         if (seen.text.empty())
             return seen;
-        if (seen.selectionStart - 1 < 1) {
-            seen.text.clear();
-            seen.selectionStart = 0;
-            seen.selectionLength = 0;
-            return seen;
-        }
-        sought = leading(typed, seen.selectionStart - 1);
-    } else if (key != 13) {
-        sought = (seen.text.empty() ? typed : leading(typed, seen.selectionStart)) + static_cast<char>(key);
-    }
-    const bool searchesItself = box.isCombo && !box.hasTarget;
-    if (key == 13) {
-        seen.droppedDown = seen.droppedDown || searchesItself;
+        if (seen.selectionStart - 1 < 1)
+            return {"", 0, 0, seen.selected, true};
+        sought = leading(seen.text, seen.selectionStart - 1);
+    } else if (press.key == ui::Key::Character && press.character >= ' ') { // a byte from 80 on is negative
+        sought = leading(seen.text, seen.selectionStart) + press.character;
+    } else {
         return seen;
     }
-    if (!searchesItself && (!box.hasTarget || !box.targetIsList))
-        return seen;
-    seen.keyCode = 0;
+    seen.isDealtWith = true;
     const std::optional<int> row = firstRow(rows, sought);
     if (!row)
         return seen;
     seen.selected = row;
-    if (!box.isCombo || searchesItself)
-        seen.text = rows[static_cast<std::size_t>(*row)];
-    seen.selectionStart = static_cast<int>(std::min(sought.size(), seen.text.size()));
-    seen.selectionLength = static_cast<int>(seen.text.size()) - seen.selectionStart;
+    seen.text = rows[static_cast<std::size_t>(*row)];
+    seen.selectionStart = static_cast<int>(sought.size());
+    seen.selectionLength = static_cast<int>(seen.text.size() - sought.size());
     return seen;
+}
+
+ui::KeyPress pressOf(unsigned char byte)
+{
+    if (byte == 8)
+        return {.key = ui::Key::Backspace};
+    if (byte == 13)
+        return {.key = ui::Key::Enter};
+    if (byte < 8)
+        return {.key = ui::Key::Character, .character = static_cast<char>('a' + byte), .control = true};
+    if (byte < 32)
+        return {.key = ui::Key::Other};
+    return {.key = ui::Key::Character, .character = static_cast<char>(byte)};
 }
 
 class Session
 {
 public:
-    Session(const Box& box, std::string text, std::vector<std::string> rows) : m_box{box}, m_rows{std::move(rows)}
+    Session(const std::string& text, std::vector<std::string> rows)
     {
-        m_source.kind = box.isCombo ? SearchSource::Kind::ComboBox : SearchSource::Kind::TextBox;
-        m_source.ownList.isListBox = false;
-        m_source.ownList.rows = m_rows;
-        m_source.selectionStart = static_cast<int>(text.size());
-        m_source.text = std::move(text);
-        m_target.rows = m_rows;
-        m_target.isListBox = box.targetIsList;
+        m_box.text = text;
+        m_box.selectionStart = static_cast<int>(text.size());
+        m_list.rows = std::move(rows);
     }
 
-    /// Bytes up to 7F are keys; the others put the caret somewhere, also where no caret can stand.
+    /// Bytes 80 to BF put the caret somewhere, also where no caret can be; the others are keys.
     Complaint press(unsigned char byte)
     {
-        if (byte >= 0x80U) {
-            m_source.selectionStart = static_cast<int>(byte % 64U) - 2;
-            m_source.selectionLength = static_cast<int>(byte / 64U) - 2;
+        if (byte >= 0x80U && byte < 0xC0U) {
+            m_box.selectionStart = static_cast<int>(byte % 32U) - 2;
+            m_box.selectionLength = static_cast<int>(byte / 32U) - 5;
             return std::nullopt;
         }
-        const std::string typed = m_source.text;
-        std::int16_t keyCode = byte;
-        const Seen before = seen(keyCode);
-        ListSearch{}.FindIndexStr(m_source, typed, keyCode, m_box.hasTarget ? &m_target : nullptr);
-        if (seen(keyCode) != expected(before, m_box, typed, m_rows))
+        const ui::KeyPress press = pressOf(byte);
+        const Seen before = seen(false);
+        const bool isDealtWith = typeAhead(m_box, m_list, press);
+        if (seen(isDealtWith) != expected(before, press, m_list.rows))
             return "a key did something else than the rules say";
-        if (keyCode != 0)
-            insert(static_cast<char>(keyCode));
+        if (!isDealtWith && press.key == ui::Key::Character && !press.control)
+            insert(press.character);
         return std::nullopt;
     }
 
 private:
-    Seen seen(std::int16_t keyCode) const
+    Seen seen(bool isDealtWith) const
     {
-        return {m_source.text,
-                m_source.selectionStart,
-                m_source.selectionLength,
-                m_source.droppedDown,
-                m_box.hasTarget ? m_target.selected : m_source.ownList.selected,
-                keyCode};
+        return {m_box.text, m_box.selectionStart, m_box.selectionLength, m_list.selected, isDealtWith};
     }
 
     /// As a box does with a key that nobody has dealt with.
     void insert(char character)
     {
-        const auto caret = static_cast<std::size_t>(std::max(m_source.selectionStart, 0));
-        m_source.text.insert(std::min(caret, m_source.text.size()), 1, character);
-        m_source.selectionStart = static_cast<int>(std::min(caret + 1, m_source.text.size()));
-        m_source.selectionLength = 0;
+        const auto caret = static_cast<std::size_t>(std::max(m_box.selectionStart, 0));
+        m_box.text.insert(std::min(caret, m_box.text.size()), 1, character);
+        m_box.selectionStart = static_cast<int>(std::min(caret + 1, m_box.text.size()));
+        m_box.selectionLength = 0;
     }
 
-    Box m_box;
-    std::vector<std::string> m_rows;
-    SearchSource m_source;
-    SearchList m_target;
+    ui::Screen m_screen{"frmSearch", "Search"};
+    ui::TextBox m_box{&m_screen, "txtEntry"};
+    ui::ListBox m_list{&m_screen, "lstRows"};
 };
 
 } // namespace
@@ -145,12 +131,9 @@ private:
 Complaint list_search(std::string_view bytes)
 {
     std::vector<std::string> lines = split(bytes, '\n');
-    lines.resize(std::max<std::size_t>(lines.size(), 3));
-    const auto mode = static_cast<unsigned char>(lines[0].empty() ? '\0' : lines[0].front());
-    Session session{{(mode & 1U) != 0, (mode & 2U) == 0, (mode & 4U) == 0},
-                    lines[1],
-                    std::vector<std::string>{lines.begin() + 3, lines.end()}};
-    for (const char key : lines[2])
+    lines.resize(std::max<std::size_t>(lines.size(), 2));
+    Session session{lines[0], std::vector<std::string>{lines.begin() + 2, lines.end()}};
+    for (const char key : lines[1])
         if (Complaint complaint = session.press(static_cast<unsigned char>(key)))
             return complaint;
     return std::nullopt;

@@ -106,7 +106,7 @@ Complaint checkHeaders(const std::string& written)
     }
     std::ranges::sort(found);
     if (std::ranges::adjacent_find(found) != found.end())
-        return "a header stands twice";
+        return "a header comes twice";
     return std::nullopt;
 }
 

@@ -28,42 +28,56 @@ Complaint field(const std::string& text)
     return std::nullopt;
 }
 
-template <class Lines>
-Complaint fields(const Lines& lines)
+template <class Texts>
+Complaint fields(const Texts& texts)
 {
-    for (const std::string& line : lines)
-        if (Complaint complaint = field(line))
+    for (const std::string& text : texts)
+        if (Complaint complaint = field(text))
             return complaint;
     return std::nullopt;
+}
+
+/// @returns whether a setup file of these lines replaces the default field
+bool isTaken(const std::vector<std::string>& lines)
+{
+    return lines.size() >= 2 && lines.size() <= 102 && lines.front() == "*START*" && lines.back() == "*END*";
 }
 
 } // namespace
 
 Complaint setup(std::string_view bytes)
 {
-    SetupLines lines{};
-    const SetupReading reading = readSetup(bytes, lines);
-    if (reading != SetupReading::Taken && lines != defaultSetupLines())
-        return "a file that was not taken left something behind";
-    SetupLines again{};
-    if (readSetup(setupFile(lines), again) != SetupReading::Taken)
+    const Read<Field> read = readSetup(bytes);
+    if (!isTaken(linesOf(bytes)) && read.value != defaultField())
+        return "a file that was not taken left something of itself";
+    if (isTaken(linesOf(bytes)) && (read.trouble || read.value.teams[TeamRow{0}] != linesOf(bytes)[1]))
+        return "a sound file was not taken";
+    const Read<Field> again = readSetup(setupFile(read.value));
+    if (again.trouble)
         return "our own setup file is not accepted";
-    if (!std::equal(lines.begin(), lines.begin() + setup_line::kEnd, again.begin()))
+    if (again.value != read.value)
         return "a setup changed on its way through a file";
-    return fields(lines);
+    if (Complaint complaint = fields(read.value.teams.values))
+        return complaint;
+    if (Complaint complaint = fields(read.value.seeds))
+        return complaint;
+    const Field& rest = read.value;
+    return fields(std::vector<std::string>{rest.title, encodeLineBreaks(rest.comment1), encodeLineBreaks(rest.comment2),
+                                           rest.finalized});
 }
 
 Complaint selection(std::string_view bytes)
 {
-    const Read<SelectionLines> read = readSelection(bytes);
-    if (!read.value[0].empty())
-        return "entry 0 is not empty";
-    const Read<SelectionLines> again = readSelection(selectionFile(read.value));
+    const Entry entry = readSelection(bytes).value;
+    const Read<Entry> again = readSelection(selectionFile(entry), entry.picks);
     if (again.trouble)
         return "our own selection file is not accepted";
-    if (!std::equal(read.value.begin(), read.value.begin() + selection_line::kEnd, again.value.begin()))
+    if (again.value != entry)
         return "a selection changed on its way through a file";
-    return fields(read.value);
+    for (const Position position : allPositions())
+        if (Complaint complaint = field(entry.picks.at(position)))
+            return complaint;
+    return fields(std::vector<std::string>{entry.initials, entry.name, entry.finalPoints});
 }
 
 Complaint players(std::string_view bytes)

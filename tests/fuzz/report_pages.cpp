@@ -27,13 +27,13 @@ std::vector<ReportLines> pagesOf(const ReportLines& lines)
     return pages;
 }
 
-ReportLines bodyOf(const ReportLines& lines, std::size_t firstHead, std::size_t otherHeads)
+ReportLines bodyOf(const ReportLines& lines, std::size_t firstHeader, std::size_t otherHeaders)
 {
     ReportLines body;
-    std::size_t head = firstHead;
+    std::size_t header = firstHeader;
     for (const ReportLines& page : pagesOf(lines)) {
-        body.insert(body.end(), page.begin() + static_cast<std::ptrdiff_t>(std::min(head, page.size())), page.end());
-        head = otherHeads;
+        body.insert(body.end(), page.begin() + static_cast<std::ptrdiff_t>(std::min(header, page.size())), page.end());
+        header = otherHeaders;
     }
     return body;
 }

@@ -15,9 +15,9 @@ Complaint readsBack(const ReportLines& lines);
 /// Splits a report at its form feeds.
 std::vector<ReportLines> pagesOf(const ReportLines& lines);
 
-/// @returns the lines below the head of each page
-/// @param firstHead,otherHeads how many lines the head of the first page, and of every other one, has
-ReportLines bodyOf(const ReportLines& lines, std::size_t firstHead, std::size_t otherHeads);
+/// @returns the lines below the header of each page
+/// @param firstHeader,otherHeaders how many lines the header of the first page, and of every other one, has
+ReportLines bodyOf(const ReportLines& lines, std::size_t firstHeader, std::size_t otherHeaders);
 
 /// @returns a complaint when a line is longer
 Complaint noLongerThan(std::size_t width, const ReportLines& lines);

@@ -3,8 +3,8 @@
 #include "fuzz/report_pages.h"
 
 #include "base/text.h"
-#include "fakes/no_progress.h"
 #include "pool/naive_scorer.h"
+#include "pool/projection.h"
 #include "reports/results_by_player.h"
 #include "reports/results_by_team.h"
 #include "reports/standings.h"
@@ -21,22 +21,18 @@ std::string digits(int number) { return (number < 0 ? "-" : "") + fmt::format("{
 bool isOrdinary(int number) { return number >= 0 && number <= 999; }
 
 /// Every player's score, or nothing when a number is beyond what the program counts.
-std::optional<std::vector<ScoreLine>> scoresOf(const FuzzedPool& pool, const SelectionLines& results)
+std::optional<std::vector<PlayerScore>> scoresOf(const FuzzedPool& pool)
 {
-    test::NoProgress progress;
-    Work work{progress, "scoring", pool.pool.players.size()};
-    const Result<std::vector<ScoreLine>> scores = scorePool(pool.pool, results, pool.payoffs, work);
-    if (!scores)
-        return std::nullopt;
-    return *scores;
+    const Result<std::vector<PlayerScore>> scores = scoreEntries(pool.entries, pool.results, pool.payoffs);
+    return scores ? std::optional{*scores} : std::nullopt;
 }
 
-std::string expectedStanding(const ScoreLine& score, std::size_t name, std::size_t file)
+std::string expectedStanding(const PlayerScore& score, std::size_t name, std::size_t file)
 {
-    return " " + digits(score.Points) + "   " + fitted(score.PlayerName, name) + "   " + fitted(score.FileName, file) +
-           "   " + digits(score.MaxPoints) + "   " + digits(score.GoodPicks) + "   " + digits(score.BadPicks) + "   " +
-           digits(63 - score.GoodPicks - score.BadPicks) + "    " + digits(score.FinalPoints) + "   " +
-           score.WinningPick;
+    return " " + digits(score.points) + "   " + fitted(score.playerName, name) + "   " + fitted(score.fileName, file) +
+           "   " + digits(score.maxPoints) + "   " + digits(score.goodPicks) + "   " + digits(score.badPicks) + "   " +
+           digits(63 - score.goodPicks - score.badPicks) + "    " + digits(score.finalPoints) + "   " +
+           score.winningPick;
 }
 
 template <class Items>
@@ -47,22 +43,22 @@ bool isSameMultiset(Items left, Items right)
     return left == right;
 }
 
-Complaint checkStandings(const std::vector<ScoreLine>& scores, const ReportLines& lines)
+Complaint checkStandings(const std::vector<PlayerScore>& scores, const ReportLines& lines)
 {
     std::size_t name = 0;
     std::size_t file = 0;
     std::size_t pick = 0;
     bool ordinary = true;
-    for (const ScoreLine& score : scores) {
-        name = std::max(name, score.PlayerName.size());
-        file = std::max(file, score.FileName.size());
-        pick = std::max(pick, score.WinningPick.size());
-        ordinary = ordinary && isOrdinary(score.Points) && isOrdinary(score.MaxPoints) &&
-                   isOrdinary(score.FinalPoints) && score.GoodPicks + score.BadPicks <= 63;
+    for (const PlayerScore& score : scores) {
+        name = std::max(name, score.playerName.size());
+        file = std::max(file, score.fileName.size());
+        pick = std::max(pick, score.winningPick.size());
+        ordinary = ordinary && isOrdinary(score.points) && isOrdinary(score.maxPoints) &&
+                   isOrdinary(score.finalPoints) && score.goodPicks + score.badPicks <= 63;
     }
     const ReportLines rows = bodyOf(lines, 7, 7);
     ReportLines expected;
-    for (const ScoreLine& score : scores)
+    for (const PlayerScore& score : scores)
         expected.push_back(expectedStanding(score, name, file));
     if (!isSameMultiset(rows, expected))
         return "the standings do not show each player's score once";
@@ -70,20 +66,20 @@ Complaint checkStandings(const std::vector<ScoreLine>& scores, const ReportLines
         return std::nullopt; // wider numbers push the columns to the right and are ordered as texts
     for (std::size_t i = 1; i < rows.size(); ++i)
         if (rows[i].substr(1, 3) > rows[i - 1].substr(1, 3))
-            return "a player with more points stands below one with fewer";
+            return "a player with more points comes after one with fewer";
     return noLongerThan(name + file + pick + 44, rows);
 }
 
-Complaint checkTeam(const FuzzedPool& pool, const SelectionLines& projected, const TeamOutcome& outcome)
+Complaint checkTeam(const FuzzedPool& pool, const Bracket& projected, const TeamOutcome& outcome)
 {
-    if (outcome.workRows.size() != pool.pool.players.size())
+    if (outcome.workRows.size() != pool.entries.size())
         return "a team's rows have lost or invented players";
     std::vector<std::string> starts;
     std::vector<std::string> expected;
     for (const std::string& row : outcome.workRows)
         starts.push_back(row.substr(0, row.find(',')));
-    for (const PoolEntry& player : pool.pool.players) {
-        const ScoredPicks score = test::scoreNaively(player.lines, projected, pool.payoffs);
+    for (const Entry& entry : pool.entries) {
+        const Score score = test::scoreNaively(entry.picks, projected, pool.payoffs);
         expected.push_back(digits(score.points + score.possible));
     }
     return isSameMultiset(starts, expected) ? std::nullopt : Complaint{"the best case of a player is another"};
@@ -92,7 +88,7 @@ Complaint checkTeam(const FuzzedPool& pool, const SelectionLines& projected, con
 Complaint checkProjections(const FuzzedPool& pool, const ByFinal<FinalOutcome>& outcomes,
                            const std::vector<ResultsByPlayerRow>& rows)
 {
-    if (rows.size() != pool.pool.players.size())
+    if (rows.size() != pool.entries.size())
         return "players are lost or invented";
     for (std::size_t i = 0; i < rows.size(); ++i)
         for (std::size_t team = 0; team < outcomes.size(); ++team)
@@ -103,8 +99,7 @@ Complaint checkProjections(const FuzzedPool& pool, const ByFinal<FinalOutcome>& 
                     return "an outcome is not scored, or one that cannot happen is";
                 if (!outcome)
                     continue;
-                const ScoredPicks score =
-                    test::scoreNaively(pool.pool.players[i].lines, outcome->results, pool.payoffs);
+                const Score score = test::scoreNaively(pool.entries[i].picks, outcome->results, pool.payoffs);
                 if (*projected != score.points + score.possible)
                     return "the points under a projection are others";
             }
@@ -116,7 +111,7 @@ Complaint checkProjections(const FuzzedPool& pool, const ByFinal<FinalOutcome>& 
 Complaint standings(std::string_view bytes)
 {
     const FuzzedPool pool = decodePool(bytes);
-    const auto scores = scoresOf(pool, pool.results);
+    const auto scores = scoresOf(pool);
     if (!scores)
         return std::nullopt;
     const Result<ReportLines> lines = standingsLines(pool.title, *scores);
@@ -133,13 +128,11 @@ Complaint standings(std::string_view bytes)
 Complaint results_by_player(std::string_view bytes)
 {
     const FuzzedPool pool = decodePool(bytes);
-    FinalFour finalFour;
-    if (ChkFinalFour(pool.results, finalFour) != FinalFourState::Known)
+    if (finalFourState(pool.results) != FinalFourState::Known)
         return std::nullopt;
-    const ByFinal<FinalOutcome> outcomes = finalOutcomes(pool.results, finalFour);
-    test::NoProgress progress;
-    Work work{progress, "scoring", pool.pool.players.size()};
-    const auto rows = resultsByPlayerRows(pool.pool, pool.results, outcomes, pool.payoffs, work);
+    const FinalFour finalFour = finalFourOf(pool.results);
+    const ByFinal<FinalOutcome> outcomes = finalOutcomes(pool.results);
+    const auto rows = resultsByPlayerRows(pool.entries, pool.results, outcomes, pool.payoffs);
     if (!rows)
         return std::nullopt;
     if (Complaint complaint = checkProjections(pool, outcomes, *rows))
@@ -160,27 +153,27 @@ Complaint results_by_player(std::string_view bytes)
 Complaint results_by_team(std::string_view bytes)
 {
     const FuzzedPool pool = decodePool(bytes);
-    FinalFour finalFour;
-    if (ChkFinalFour(pool.results, finalFour) != FinalFourState::Known)
+    if (finalFourState(pool.results) != FinalFourState::Known)
         return std::nullopt;
-    test::NoProgress progress;
-    Work work{progress, "scoring", finalFour.size() * pool.pool.players.size()};
-    const auto outcomes = resultsByTeamOutcomes(pool.pool, pool.results, finalFour, pool.payoffs, work);
+    const auto outcomes = resultsByTeamOutcomes(pool.entries, pool.results, pool.payoffs);
     if (!outcomes)
         return std::nullopt;
-    std::size_t team = 1;
+    std::vector<std::string> expected;
     std::size_t rows = 0;
-    for (const TeamOutcome& outcome : *outcomes) {
-        while (team < finalFour.size() && !ProjectWinner(pool.results, finalFour, team, FinalOpponent::Open))
-            ++team;
-        if (team >= finalFour.size() || outcome.team != finalFour[team])
-            return "a team without a chance has a block, or one with a chance has none";
-        if (Complaint complaint =
-                checkTeam(pool, *ProjectWinner(pool.results, finalFour, team, FinalOpponent::Open), outcome))
+    for (const std::string& team : finalFourOf(pool.results)) {
+        const std::optional<Bracket> projected = projectWinner(pool.results, team, FinalOpponent::Open);
+        if (!projected)
+            continue;
+        expected.push_back(team);
+        if (outcomes->size() < expected.size() || (*outcomes)[expected.size() - 1].team != team)
+            return "a team with a chance has no block, or not its own";
+        const TeamOutcome& outcome = (*outcomes)[expected.size() - 1];
+        if (Complaint complaint = checkTeam(pool, *projected, outcome))
             return complaint;
-        ++team;
         rows += outcome.workRows.size();
     }
+    if (outcomes->size() != expected.size())
+        return "a team without a chance has a block";
     const Result<ReportLines> lines = resultsByTeamLines(pool.title, *outcomes);
     if (!lines)
         return pool.title.size() <= 57 ? Complaint{"there is no report of a sound pool"} : std::nullopt;

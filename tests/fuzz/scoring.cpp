@@ -20,14 +20,17 @@ class Lines
 public:
     explicit Lines(std::string_view bytes) : m_lines{split(bytes, '\n')} {}
 
-    std::string next() { return m_next < m_lines.size() ? m_lines[m_next++] : std::string{}; }
-
-    SelectionLines bracket()
+    std::string_view next()
     {
-        SelectionLines lines;
-        for (std::size_t slot = selection_line::kFirstTeam; slot <= selection_line::kChampion; ++slot)
-            lines.at(slot) = next();
-        return lines;
+        return m_next < m_lines.size() ? std::string_view{m_lines[m_next++]} : std::string_view{};
+    }
+
+    ByPosition<std::string_view> teams()
+    {
+        ByPosition<std::string_view> teams;
+        for (std::string_view& team : teams.values)
+            team = next();
+        return teams;
     }
 
 private:
@@ -40,16 +43,14 @@ bool fits(std::int32_t points)
     return points >= std::numeric_limits<std::int16_t>::min() && points <= std::numeric_limits<std::int16_t>::max();
 }
 
-Complaint compare(const ScoredPicks& scored, const ScoredPicks& expected)
+Complaint compare(const Score& scored, const Score& expected)
 {
     if (scored.points != expected.points || scored.possible != expected.possible)
         return "the two scorers give different points";
     if (scored.goodPicks != expected.goodPicks || scored.badPicks != expected.badPicks)
         return "the two scorers count different picks";
-    if (scored.verdict.SlotStatus != expected.verdict.SlotStatus)
+    if (scored.verdicts != expected.verdicts)
         return "the two scorers give different verdicts";
-    if (scored.verdict.EliminatedTeams != expected.verdict.EliminatedTeams)
-        return "the two scorers eliminate different teams";
     return std::nullopt;
 }
 
@@ -58,28 +59,31 @@ Complaint compare(const ScoredPicks& scored, const ScoredPicks& expected)
 Complaint scoring(std::string_view bytes)
 {
     Lines lines{bytes};
-    std::array<std::string, 6> texts;
+    std::array<std::string, kRounds> texts;
     for (std::string& text : texts)
         text = lines.next();
-    const Result<Payoffs> payoffs = payoffsOf(texts);
+    const Result<Payoffs> payoffs = PayoffTexts{texts}.points();
     if (!payoffs)
         return std::nullopt;
-    const std::string finalPoints = lines.next();
-    SelectionLines picks = lines.bracket();
-    picks.at(selection_line::kFinalPoints) = finalPoints;
-    const SelectionLines results = lines.bracket();
+    const std::string finalPoints{lines.next()};
+    const ByPosition<std::string_view> teams = lines.teams();
+    const Bracket results = Bracket::of(lines.teams());
+    const Bracket alone = Bracket::of(teams);
+    const Bracket alike = Bracket::of(teams, results);
+    if (alone != alike)
+        return "a bracket depends on the one it is made like";
 
-    const ScoredPicks expected = test::scoreNaively(picks, results, *payoffs);
-    if (Complaint complaint = compare(Scoring{results, *payoffs}.score(picks), expected))
-        return complaint;
-    ScoredVerdict verdict;
-    const Result<ScoreLine> line = Scoring{results, *payoffs}.line("A.THC", picks, verdict);
+    const Score expected = test::scoreNaively(alone, results, *payoffs);
+    for (const Bracket* picks : {&alone, &alike})
+        if (Complaint complaint = compare(score(*picks, results, *payoffs), expected))
+            return complaint;
+    const Result<PlayerScore> player = scoreEntry({alike, "", "", finalPoints, "A.THC"}, results, *payoffs);
     const bool isUsable =
         fits(expected.points) && fits(expected.points + expected.possible) && wholeNumber(finalPoints);
-    if (static_cast<bool>(line) != isUsable)
-        return "a score line fails when it should not, or the other way round";
-    if (line && (line->Points != expected.points || line->MaxPoints != expected.points + expected.possible))
-        return "the score line has other points";
+    if (static_cast<bool>(player) != isUsable)
+        return "an entry's score fails when it should not, or the other way round";
+    if (player && (player->points != expected.points || player->maxPoints != expected.points + expected.possible))
+        return "the entry has other points";
     return std::nullopt;
 }
 

@@ -22,8 +22,7 @@ constexpr std::size_t kWidestTitle = 74; ///< of the team selection reports
 CategoryCounts picksOf(const FuzzedPool& pool)
 {
     CategoryCounts counts{};
-    pool.forEachPick(
-        [&](const PoolEntry&, int round, const std::string&) { ++counts.at(static_cast<std::size_t>(round)); });
+    pool.forEachPick([&](int round, const std::string&) { ++counts.at(static_cast<std::size_t>(round)); });
     return counts;
 }
 
@@ -49,7 +48,7 @@ bool addCounts(const std::string& row, CategoryCounts& sums)
 bool hasRoom(const FuzzedPool& pool)
 {
     bool fits = pool.title.size() <= kWidestTitle;
-    pool.forEachPick([&](const PoolEntry&, int, const std::string& team) { fits = fits && team.size() <= 29; });
+    pool.forEachPick([&](int, const std::string& team) { fits = fits && team.size() <= 29; });
     return fits;
 }
 
@@ -64,39 +63,46 @@ Complaint checkCounts(const FuzzedPool& pool, const ReportLines& rows)
     return std::nullopt;
 }
 
-/// How many columns the row of a slot fills: one for each later round in which its team stands behind it.
-std::size_t columnsOf(const SelectionLines& lines, int rowSlot)
+/// How many columns a row fills: one for each later round in which the team of its first game is picked after it.
+std::size_t columnsOf(const Bracket& picks, Position firstGame)
 {
-    const std::string& team = lines.at(static_cast<std::size_t>(rowSlot));
     std::size_t columns = 1;
-    for (int round = 2; round <= 6; ++round) {
-        bool stands = false;
-        for (int slot = rowSlot + 1; slot <= kPositions; ++slot)
-            stands = stands || (test::roundOfSlot(slot) == round && !team.empty() &&
-                                lines.at(static_cast<std::size_t>(slot)) == team);
-        columns += stands ? 1 : 0;
-    }
+    for (int round = 2; round <= 6; ++round)
+        columns += std::ranges::any_of(allPositions(), [&](Position position) {
+            return position > firstGame && test::roundAt(position) == round && !picks.isEmpty(position) &&
+                   picks.at(position) == picks.at(firstGame);
+        });
     return columns;
 }
 
-Complaint checkPlayerPage(const PoolEntry& player, const ReportLines& rows)
+Complaint checkPlayerPage(const Bracket& picks, const ReportLines& rows)
 {
     if (rows.size() != 32 + 3)
         return "a player's table has not 32 rows and three lines between the regions";
     std::size_t at = 0;
-    for (int slot = 1; slot <= kPositions; ++slot) {
-        if (test::roundOfSlot(slot) != 1)
+    for (const Position position : allPositions()) {
+        if (test::roundAt(position) != 1)
             continue;
-        const std::string& team = player.lines.at(static_cast<std::size_t>(slot));
-        const bool champion = !team.empty() && player.lines[selection_line::kChampion] == team;
+        const std::string& team = picks.at(position);
+        const bool isChampion = !team.empty() && picks.at(kChampion) == team;
         const std::string& row = rows[at];
-        if (row.size() != 21 + 16 * columnsOf(player.lines, slot) + (champion ? 0 : 1))
+        if (row.size() != 21 + 16 * columnsOf(picks, position) + (isChampion ? 0 : 1))
             return "a row shows a team too often or too seldom: " + row;
         if (row.substr(21, 14) != fitted(team, 14))
             return "a row begins with another team: " + row;
-        at += at % 9 == 7 ? 2 : 1; // a line behind every eight rows
+        at += at % 9 == 7 ? 2 : 1; // a line after every eight rows
     }
     return std::nullopt;
+}
+
+std::vector<PlayerListingRow> listingRows(const std::vector<std::string>& playerList)
+{
+    std::vector<PlayerListingRow> rows;
+    for (const std::string& line : playerList) {
+        const PlayerRecord record = parseRecord(line);
+        rows.push_back({record.name, record.fileName, record.email, record.phone});
+    }
+    return rows;
 }
 
 } // namespace
@@ -104,7 +110,8 @@ Complaint checkPlayerPage(const PoolEntry& player, const ReportLines& rows)
 Complaint player_listing(std::string_view bytes)
 {
     const FuzzedPool pool = decodePool(bytes);
-    const ReportLines lines = playerListingLines(pool.title, pool.playerList);
+    const std::vector<PlayerListingRow> listed = listingRows(pool.playerList);
+    const ReportLines lines = playerListingLines(pool.title, listed);
     if (pool.playerList.empty())
         return lines.empty() ? std::nullopt : Complaint{"a list without a header gives a report"};
     if (Complaint complaint = readsBack(lines))
@@ -117,7 +124,7 @@ Complaint player_listing(std::string_view bytes)
         if (page.size() > 48)
             return "a page is too long";
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const PlayerRecord player = parseRecord(pool.playerList[i + 1]);
+        const PlayerListingRow& player = listed[i + 1];
         std::size_t from = 0;
         for (const std::string& field : {player.name, player.fileName, player.email, player.phone}) {
             const std::string text = trimTrailingBlanks(field);
@@ -135,7 +142,7 @@ Complaint player_listing(std::string_view bytes)
 Complaint team_selection_summary(std::string_view bytes)
 {
     const FuzzedPool pool = decodePool(bytes);
-    const Result<ReportLines> lines = teamSelectionSummaryLines(pool.title, pickEntries(pool.pool));
+    const Result<ReportLines> lines = teamSelectionSummaryLines(pool.title, pickEntries(pool.entries));
     if (!lines)
         return pool.isFreeOf(',') && hasRoom(pool) ? Complaint{"there is no report of a sound pool"} : std::nullopt;
     if (Complaint complaint = readsBack(*lines))
@@ -143,7 +150,7 @@ Complaint team_selection_summary(std::string_view bytes)
     if (Complaint complaint = noLongerThan(kWidestTitle + 1, *lines))
         return complaint;
     if (!pool.isFreeOf(','))
-        return std::nullopt; // a comma shifts what stands behind it
+        return std::nullopt; // a comma shifts what follows it
     ReportLines rows = bodyOf(*lines, 7, 7);
     std::erase(rows, kBlankLine);
     std::erase(rows, countRule());
@@ -153,16 +160,16 @@ Complaint team_selection_summary(std::string_view bytes)
 Complaint team_selection_detail(std::string_view bytes)
 {
     const FuzzedPool pool = decodePool(bytes);
-    const TeamSelectionDetail detail = teamSelectionDetail(pool.title, pickEntries(pool.pool));
-    if (detail.trouble)
+    const Result<ReportLines> lines = teamSelectionDetailLines(pool.title, pickEntries(pool.entries));
+    if (!lines)
         return pool.isFreeOf(',') && hasRoom(pool) ? Complaint{"there is no report of a sound pool"} : std::nullopt;
-    if (Complaint complaint = readsBack(detail.lines))
+    if (Complaint complaint = readsBack(*lines))
         return complaint;
-    if (Complaint complaint = noLongerThan(kWidestTitle + 1, detail.lines))
+    if (Complaint complaint = noLongerThan(kWidestTitle + 1, *lines))
         return complaint;
     if (!pool.isFreeOf(','))
         return std::nullopt;
-    ReportLines rows = bodyOf(detail.lines, 8, 7);
+    ReportLines rows = bodyOf(*lines, 8, 7);
     std::erase_if(rows, [](const std::string& line) { return line.size() == 29; }); // a team's own line
     return checkCounts(pool, rows);
 }
@@ -170,7 +177,7 @@ Complaint team_selection_detail(std::string_view bytes)
 Complaint player_selection_detail(std::string_view bytes)
 {
     const FuzzedPool pool = decodePool(bytes);
-    const std::vector<const PoolEntry*> players = playersByFileName(pool.pool);
+    const std::vector<const Entry*> players = playersByFileName(pool.entries);
     const Result<ReportLines> lines = playerSelectionDetailLines(pool.title, players);
     if (!lines)
         return pool.title.size() <= 115 ? Complaint{"there is no report of a sound pool"} : std::nullopt;
@@ -183,11 +190,11 @@ Complaint player_selection_detail(std::string_view bytes)
         return "there is not one page for each player";
     for (std::size_t i = 0; i < pages.size(); ++i) {
         const bool isLast = i + 1 == pages.size();
-        const auto end = pages[i].end() - (isLast ? 0 : 1); // a blank line stands before a form feed
+        const auto end = pages[i].end() - (isLast ? 0 : 1); // a blank line comes before a form feed
         if (pages[i].size() < 9)
             return "a page is too short";
         const ReportLines rows{pages[i].begin() + 9, end};
-        if (Complaint complaint = checkPlayerPage(*players[i], rows))
+        if (Complaint complaint = checkPlayerPage(players[i]->picks, rows))
             return complaint;
         if (!rows.front().starts_with(fitted(playerOfFileName(players[i]->fileName), 21)))
             return "a page begins with another player";

@@ -38,7 +38,7 @@ Complaint results_by_team(std::string_view bytes);
 /// @}
 
 /// Types into a box that searches a list.
-/// @param bytes lines separated by LF: how the box and its list are made, the typed text, the keys, then the rows
+/// @param bytes lines separated by LF: the text in the box, the keys, then the rows of the list
 Complaint list_search(std::string_view bytes);
 
 /// Writes a message as a file and reads it again. Linked only where the mail library is.

@@ -1,5 +1,5 @@
-// tests/hardening/probe.cpp - copies its argument where eight characters fit: hardened as the program is, it must be ended
-// when there are more.
+// tests/hardening/probe.cpp - copies its argument into eight characters: when it is longer, hardening must end the
+// program.
 #include <cstdio>
 #include <cstring>
 

@@ -16,10 +16,10 @@ std::map<std::string, std::string> helpTopics();
 /// The anchors that a text links to, in its order.
 std::vector<std::string> linksOf(const std::string& text);
 
-/// The lines of the first sample behind a heading, without trailing blanks; empty when there is none.
+/// The lines of the first sample after a heading, without trailing blanks; empty when there is none.
 std::vector<std::string> sampleUnder(const std::string& heading);
 
-/// Everything that stands between one text and the next occurrence of another, as often as both come.
+/// Everything between one text and the next occurrence of another, as often as both come.
 std::vector<std::string> between(const std::string& text, const std::string& start, const std::string& end);
 
 } // namespace tallyhoop::test

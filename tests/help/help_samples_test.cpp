@@ -26,12 +26,13 @@ protected:
     /// Makes every report as a text file.
     void makeReports()
     {
-        BoardScreen board{folder, platform.services, state, screens};
-        board.load();
-        ReportsScreen reports{folder, platform.services, state, screens, board};
+        const Field sample = readField(folder).value;
+        MailDraft draft;
+        FakeBoard noBoard;
+        ReportsScreen reports{folder, platform.services, screens, sample, draft, noBoard};
         reports.load();
-        for (std::size_t i = 0; i < kReports; ++i)
-            reports.chkOptions[i].ticked = true;
+        for (const ReportKind& kind : reportTable())
+            reports.chkOptions[kind.id].ticked = true;
         ui::selectOption(reports.optDestination, 1);
         reports.cmdPrintSelections.click();
     }
@@ -40,7 +41,10 @@ protected:
     DataFolder folder = scratch.folder();
     FakePlatform platform;
     FakeScreens screens;
-    modTallyhoop state;
+    Field field; // what the board shares, and reads
+    std::optional<SavedPlayer> savedPlayer;
+    std::optional<Verdicts> listedVerdicts;
+    const BoardScreen::Shared shared{field, savedPlayer, listedVerdicts};
 };
 
 } // namespace
@@ -69,10 +73,9 @@ TEST_F(HelpSamples, OfTheScoresAreWhatTheBoardSays)
     for (const auto& [file, score] :
          {std::pair{"Demo Prophet_DP.THC", "80 / 120"}, std::pair{"Demo Favorite_DF.THC", "59 / 71"},
           std::pair{"Demo Halfway_DH.THC", "55 / 67"}, std::pair{"Demo Longshot_DL.THC", "31 / 31"}}) {
-        BoardScreen board{folder, platform.services, state, screens};
+        BoardScreen board{folder, platform.services, screens, shared};
         board.load();
-        board.showSelection(scratch.path() / file);
-        board.ScoreSelections();
+        board.showScored(scratch.path() / file);
         EXPECT_EQ(board.txtPointScore.text, std::string{"Points: "} + score);
         EXPECT_THAT(help, testing::HasSubstr(std::string{">"} + score + "</td>")) << file;
     }
@@ -86,8 +89,9 @@ TEST_F(HelpSamples, OfAFinalizedFieldHasItsMarkOnLine95)
     lines[94] = "0";
     scratch.put(file_name::kSetup, joinLines(lines) + "\r\n");
     scratch.put(file_name::kSettings, "0\r\n");
-    BoardScreen board{folder, platform.services, state, screens};
+    BoardScreen board{folder, platform.services, screens, shared};
     board.load();
+    board.showState();
     EXPECT_TRUE(board.mnuSetup.enabled);
     EXPECT_EQ(board.lblTitle.text, "2000 NCAA Tournament");
 }

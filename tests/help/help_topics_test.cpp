@@ -12,6 +12,7 @@
 #include "screens/reports/reports_screen.h"
 #include "screens/scores/scores_screen.h"
 #include "screens/setup/seeds_screen.h"
+#include "screens/setup/setup_screen.h"
 
 #include <gtest/gtest.h>
 
@@ -34,17 +35,28 @@ protected:
     BoardScreen& board()
     {
         if (!m_board) {
-            m_board = std::make_unique<BoardScreen>(folder, platform.services, state, screens);
+            m_board = std::make_unique<BoardScreen>(folder, platform.services, screens,
+                                                    BoardScreen::Shared{field, savedPlayer, listedVerdicts});
             m_board->load();
+            m_board->showState();
         }
         return *m_board;
+    }
+
+    void openProphet()
+    {
+        platform.dialogs.pick(scratch.path() / "Demo Prophet_DP.THC");
+        board().mnuOpenSelection.click();
     }
 
     ScratchFolder scratch;
     DataFolder folder = scratch.folder();
     FakePlatform platform;
     FakeScreens screens;
-    modTallyhoop state;
+    Field field;
+    std::optional<SavedPlayer> savedPlayer;
+    std::optional<Verdicts> listedVerdicts;
+    MailDraft draft;
     std::unique_ptr<BoardScreen> m_board;
 };
 
@@ -56,7 +68,7 @@ TEST_F(HelpTopic, OfABoardIsHowToEnterSelections)
 {
     putOwnPool();
     EXPECT_EQ(board().helpTopic(), "selections");
-    board().showSelection(scratch.path() / "Demo Prophet_DP.THC");
+    openProphet();
     EXPECT_EQ(board().helpTopic(), "selections");
 }
 
@@ -64,43 +76,44 @@ TEST_F(HelpTopic, OfTheSamplePoolIsDemoModeUntilThereIsABracketToWorkOn)
 {
     ASSERT_TRUE(demo::installSamplePool(folder));
     EXPECT_EQ(board().helpTopic(), "demo");
-    board().showSelection(scratch.path() / "Demo Prophet_DP.THC");
+    openProphet();
     EXPECT_EQ(board().helpTopic(), "selections");
-    board().NewSelection();
+    board().mnuNewSelection.click();
     EXPECT_EQ(board().helpTopic(), "demo");
-    board().PressPosition(0, MouseButton::Left);
-    board().DropOnPosition(0);
+    board().pressPosition(Position{0}, MouseButton::Left);
+    board().dropOnPosition(Position{0});
     EXPECT_EQ(board().helpTopic(), "selections");
 }
 
 TEST_F(HelpTopic, OfGameResultsIsHowToEnterThem)
 {
     putOwnPool();
-    board().EnterGameResults();
+    board().mnuGameResults.click();
     EXPECT_EQ(board().helpTopic(), "results");
-    board().NewSelection();
+    board().mnuNewSelection.click();
     EXPECT_EQ(board().helpTopic(), "selections");
 }
 
 TEST_F(HelpTopic, OfAScoredSelectionIsWhatTheMarksMean)
 {
     putOwnPool();
-    board().showSelection(scratch.path() / "Demo Prophet_DP.THC");
-    board().ScoreSelections();
+    openProphet();
+    board().mnuScoreSelections.click();
     EXPECT_EQ(board().helpTopic(), "scores");
-    board().DefaultColors();
+    board().cmdDefaultColors.click();
     EXPECT_EQ(board().helpTopic(), "selections");
 }
 
-TEST_F(HelpTopic, OfTheListOfScoresIsHowToReadItAlsoOnTheBoardBehindIt)
+TEST_F(HelpTopic, OfTheListOfScoresIsHowToReadItAlsoOnTheBoardBelowIt)
 {
     putOwnPool();
-    board().EnterGameResults();
-    ScoresScreen scores{folder, platform.services, state, screens, board()};
+    board().mnuGameResults.click();
+    board().mnuScoreSelections.click();
+    ScoresScreen scores{folder, platform.services, screens, field, board().bracket(), listedVerdicts};
     scores.load();
     EXPECT_EQ(scores.helpTopic(), "ranking");
     EXPECT_EQ(board().helpTopic(), "ranking");
-    scores.unloading();
+    scores.cmdExit.click();
     EXPECT_EQ(board().helpTopic(), "results");
 }
 
@@ -110,34 +123,33 @@ TEST_F(HelpTopic, OfABoardWithAFaultyPlayerListIsHowToRepairIt)
     putFaultyPlayerList();
     EXPECT_EQ(board().helpTopic(), "repair");
     EXPECT_EQ(platform.dialogs.shown.at(0).helpTopic, "repair");
-    board().EnterGameResults();
+    board().mnuGameResults.click();
     EXPECT_EQ(board().helpTopic(), "results");
 }
 
 TEST_F(HelpTopic, OfTheSetupIsHowToSetUpAndInDemoModeWhyItCannotBeSaved)
 {
-    SetupScreen setup{folder, platform.services, state, screens, Opening::Plain};
+    SetupScreen setup{folder, platform.services, screens, field};
     EXPECT_EQ((setup.load(), setup.helpTopic()), "setup");
-    SeedsScreen seeds{setup, platform.services, state, screens};
+    SeedTexts seedTexts;
+    SeedsScreen seeds{{}, seedTexts, platform.dialogs, screens};
     seeds.load();
     EXPECT_EQ(seeds.helpTopic(), "seeds");
 
     ASSERT_TRUE(demo::installSamplePool(folder));
-    SetupScreen sample{folder, platform.services, state, screens, Opening::Plain};
+    SetupScreen sample{folder, platform.services, screens, field};
     sample.load();
     EXPECT_EQ(sample.helpTopic(), "demo");
-    SeedsScreen sampleSeeds{sample, platform.services, state, screens};
-    EXPECT_EQ(sampleSeeds.helpTopic(), "seeds");
 }
 
 TEST_F(HelpTopic, OfThePlayerListIsTheListOrItsRepair)
 {
     putOwnPool();
-    PlayersScreen sound{folder, platform.services, state, screens};
+    PlayersScreen sound{folder, platform.services, screens, savedPlayer};
     sound.load();
     EXPECT_EQ(sound.helpTopic(), "players");
     putFaultyPlayerList();
-    PlayersScreen faulty{folder, platform.services, state, screens};
+    PlayersScreen faulty{folder, platform.services, screens, savedPlayer};
     faulty.load();
     EXPECT_EQ(faulty.helpTopic(), "repair");
 }
@@ -145,11 +157,11 @@ TEST_F(HelpTopic, OfThePlayerListIsTheListOrItsRepair)
 TEST_F(HelpTopic, OfTheEMailDialogIsEMailOrTheRepairOfItsPlayers)
 {
     putOwnPool();
-    EmailScreen sound{folder, platform.services, state, screens};
+    EmailScreen sound{folder, platform.services, screens, draft};
     sound.load();
     EXPECT_EQ(sound.helpTopic(), "email");
     putFaultyPlayerList();
-    EmailScreen faulty{folder, platform.services, state, screens};
+    EmailScreen faulty{folder, platform.services, screens, draft};
     faulty.load();
     EXPECT_EQ(faulty.helpTopic(), "repair");
     EXPECT_EQ(platform.dialogs.shown.back().helpTopic, "repair");
@@ -158,7 +170,7 @@ TEST_F(HelpTopic, OfTheEMailDialogIsEMailOrTheRepairOfItsPlayers)
 TEST_F(HelpTopic, OfTheReportsIsTheReportsUnlessOneFailedForAReasonOfItsOwn)
 {
     putOwnPool();
-    ReportsScreen reports{folder, platform.services, state, screens, board()};
+    ReportsScreen reports{folder, platform.services, screens, field, draft, board()};
     reports.load();
     EXPECT_EQ(reports.helpTopic(), "reports");
     putFaultyPlayerList();

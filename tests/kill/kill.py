@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Kills the real program while it saves, and looks at what is left.
+"""Kills the real program while it saves, and checks what is left.
 
     TALLYHOOP_BUILD=build-debug tests/kill/kill.py --kills 1000 [WRITER ...]
     TALLYHOOP_BUILD=build-debug tests/kill/kill.py --every-call [WRITER ...]
@@ -15,26 +15,26 @@ import random
 import sys
 
 from saving_program import Broken, adopt_orphans
-from victims import Installer, Victim
+from victims import Installer, KilledProgram
 from writers import WRITERS
 
 
 def run(names, seed, act):
-    """Acts on each writer; the reports, one line each."""
+    """Calls act for each writer; yields one line of report for each."""
     adopt_orphans()
     for name in names or WRITERS:
-        kind = Installer if name == "installer" else Victim
-        victim = kind(WRITERS[name], random.Random(f"{seed} {name}"))
+        kind = Installer if name == "installer" else KilledProgram
+        killed = kind(WRITERS[name], random.Random(f"{seed} {name}"))
         try:
-            victim.learn()
-            act(victim)
-            yield victim.report()
-            if victim.broken:
-                raise Broken("; ".join(victim.broken[:3]))
+            killed.learn()
+            act(killed)
+            yield killed.report()
+            if killed.broken:
+                raise Broken("; ".join(killed.broken[:3]))
         except Broken as broken:
-            raise Broken(f"{name}, after {victim.kills} kills (seed {seed}): {broken}") from broken
+            raise Broken(f"{name}, after {killed.kills} kills (seed {seed}): {broken}") from broken
         finally:
-            victim.pool.close()
+            killed.pool.close()
 
 
 def main():
@@ -46,11 +46,11 @@ def main():
     parser.add_argument("writers", nargs="*", metavar="WRITER", help=", ".join(WRITERS))
     options = parser.parse_args()
     if options.every_call:
-        def act(victim): victim.kill_at_every_call()
+        def act(killed): killed.kill_at_every_call()
     elif options.start_each_time:
-        def act(victim): victim.kill_program_often(options.kills)
+        def act(killed): killed.kill_program_often(options.kills)
     else:
-        def act(victim): victim.kill_often(options.kills)
+        def act(killed): killed.kill_often(options.kills)
     try:
         for line in run(options.writers, options.seed, act):
             print(line, flush=True)

@@ -24,13 +24,13 @@ class Kills(unittest.TestCase):
                     self.fail(str(broken))
 
     def test_at_random_moments_leave_each_file_old_or_new(self):
-        self.assert_nothing_is_lost(lambda victim: victim.kill_often(KILLS))
+        self.assert_nothing_is_lost(lambda killed: killed.kill_often(KILLS))
 
     def test_at_every_call_leave_each_file_old_or_new(self):
-        self.assert_nothing_is_lost(lambda victim: victim.kill_at_every_call())
+        self.assert_nothing_is_lost(lambda killed: killed.kill_at_every_call())
 
     def test_of_the_whole_program_leave_each_file_old_or_new(self):
-        self.assert_nothing_is_lost(lambda victim: victim.kill_program_often(STARTS))
+        self.assert_nothing_is_lost(lambda killed: killed.kill_program_often(STARTS))
 
 
 if __name__ == "__main__":

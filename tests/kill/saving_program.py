@@ -1,4 +1,4 @@
-"""The real program in a folder of its own, saving on order: see saver/saver.cpp."""
+"""The real program in a folder of its own, which saves when it gets an order: see saver/saver.cpp."""
 
 import contextlib
 import ctypes
@@ -21,12 +21,12 @@ class Broken(AssertionError):
     """Something was lost, or the program complained."""
 
 
-_started = set()  # process numbers of the programs that are obeying
+_started = set()  # process numbers of the programs that take orders
 _PR_SET_CHILD_SUBREAPER = 36
 
 
 def adopt_orphans():
-    """From now on what a killed program had started is ours."""
+    """Makes this process the parent of processes that a killed program had started."""
     if ctypes.CDLL(None, use_errno=True).prctl(_PR_SET_CHILD_SUBREAPER, 1, 0, 0, 0) != 0:
         raise OSError(ctypes.get_errno(), "the orphans of killed programs cannot be waited for")
 
@@ -40,7 +40,7 @@ def children():
 
 
 def wait_for_orphans():
-    """Returns when nothing writes any more that a killed program had started: the demo installer."""
+    """Returns when no process that a killed program had started (the demo installer) is running any more."""
     while orphans := children() - _started:
         for orphan in orphans:
             os.waitpid(orphan, 0)
@@ -57,7 +57,7 @@ class Pool:
                        check=True, stdout=subprocess.DEVNULL)
         subprocess.run([self.folder / "DEMOSET.EXE"], check=True)
         self.demo = {file.name: file.read_bytes() for file in self.folder.iterdir() if not self.is_program(file)}
-        (self.folder / "TALLYHOOP.INI").unlink()  # from now on it is somebody's own
+        (self.folder / "TALLYHOOP.INI").unlink()  # now it is a pool, not the demo
         if not finalized:
             field = self.read("POOLSTART.THS")
             self.write("POOLSTART.THS", re.sub(rb"1\r\n\*END\*\r\n$", b"0\r\n*END*\r\n", field))
@@ -65,7 +65,7 @@ class Pool:
         self.pristine = {file.name: file.read_bytes() for file in self.folder.iterdir()}
 
     def opener(self):
-        """A desktop without any mail program but one that opens message files."""
+        """Makes a desktop that has only a program that opens message files."""
         programs = self.scratch / "programs"
         programs.mkdir()
         gio = programs / "gio"
@@ -86,7 +86,7 @@ class Pool:
         return {file.name for file in self.folder.iterdir()}
 
     def reset(self):
-        """Every data file as it was in the beginning; the programs, and what a kill left of a save, are left alone."""
+        """Restores every data file; the programs, and the temporary files that kills have left, are not touched."""
         for entry in self.folder.iterdir():
             if entry.is_dir():
                 shutil.rmtree(entry)
@@ -102,7 +102,7 @@ class Pool:
 
 
 class SavingProgram:
-    """The program, started without a display and obeying. Use as a context manager.
+    """The program, started without a display and taking orders. Use as a context manager.
 
     It has to start with exactly the boxes starts_with (their titles); later it may show the allowed ones.
     """
@@ -116,7 +116,7 @@ class SavingProgram:
 
     def __enter__(self):
         orders, self._order_end = os.pipe()
-        told_end, tell = os.pipe()
+        reports_end, reports = os.pipe()
         environment = {
             "PATH": str(self._pool.scratch / "programs"), "LC_ALL": "C.UTF-8", "HOME": str(self._pool.scratch),
             "XDG_RUNTIME_DIR": str(self._pool.scratch), "QT_QPA_PLATFORM": "offscreen",
@@ -124,15 +124,15 @@ class SavingProgram:
             "CUPS_SERVER": str(self._pool.scratch / "no-printers"),
             "LD_PRELOAD": str(BUILD / "tests/kill/libtallyhoop_killer.so"),
             "TALLYHOOP_SAVER": self._writer, "TALLYHOOP_SAVER_ORDERS": str(orders),
-            "TALLYHOOP_SAVER_TOLD": str(tell), "TALLYHOOP_SAVER_OPENS": str(self._pool.folder / OPENED)}
+            "TALLYHOOP_SAVER_REPORTS": str(reports), "TALLYHOOP_SAVER_OPENS": str(self._pool.folder / OPENED)}
         self._errors = tempfile.TemporaryFile()
         self._process = subprocess.Popen([str(self._pool.folder / "tallyhoop")], env=environment,
-                                         pass_fds=[orders, tell], stdin=subprocess.DEVNULL, stdout=self._errors,
+                                         pass_fds=[orders, reports], stdin=subprocess.DEVNULL, stdout=self._errors,
                                          stderr=self._errors, cwd="/", start_new_session=True)
         _started.add(self._process.pid)
         os.close(orders)
-        os.close(tell)
-        self._told = os.fdopen(told_end, encoding="utf-8")
+        os.close(reports)
+        self._reports = os.fdopen(reports_end, encoding="utf-8")
         try:
             boxes = self.wait_for("ready")[1]
             if boxes != self._starts_with:
@@ -144,7 +144,7 @@ class SavingProgram:
 
     def __exit__(self, kind, error, trace):
         os.close(self._order_end)
-        self._told.close()
+        self._reports.close()
         self.kill()
         self._errors.close()
 
@@ -152,8 +152,8 @@ class SavingProgram:
         os.write(self._order_end, (text + "\n").encode())
 
     def wait_for(self, word):
-        """What follows the word, and the titles of the boxes that came before it."""
-        # A child that it has forked would keep the pipe open.
+        """Returns what follows the word, and the titles of the boxes that came before it."""
+        # The whole group, because a child that it has forked would keep the pipe open.
         patience = threading.Timer(PATIENCE, os.killpg, (self._process.pid, signal.SIGKILL))
         patience.start()
         try:
@@ -163,7 +163,7 @@ class SavingProgram:
 
     def _wait_for(self, word):
         boxes = set()
-        for line in self._told:
+        for line in self._reports:
             line = line.rstrip("\n")
             if line.startswith("box "):
                 boxes.add(line[4:])
@@ -180,14 +180,14 @@ class SavingProgram:
         wait_for_orphans()
 
     def kill(self):
-        """Kills the program itself; it is not to be used any more."""
+        """Kills the program itself, which cannot be used afterwards."""
         self._process.send_signal(signal.SIGKILL)
         self._process.wait()
         _started.discard(self._process.pid)
         wait_for_orphans()
 
     def child(self, order):
-        """Lets the program fork a child that obeys; its process number."""
+        """Lets the program fork a child that follows the order; returns its process number."""
         self.order(order)
         return int(self.wait_for("child")[0])
 

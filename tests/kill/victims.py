@@ -1,4 +1,4 @@
-"""A writer that is killed again and again, and what is looked at afterwards."""
+"""A program that is killed again and again while it writes, and the checks afterwards."""
 
 import contextlib
 import os
@@ -9,11 +9,11 @@ import time
 from saving_program import BUILD, Broken, Pool, SavingProgram
 from writers import DEMO, FAULTY_LIST, OFFER, comparable
 
-BETWEEN_STARTS = 25  # kills after which the program starts on what the last one left, were it nothing new
+BETWEEN_STARTS = 25  # after so many kills the program starts on what is left, even when nothing about it is new
 
 
-class Victim:
-    """One writer, killed again and again in one pool."""
+class KilledProgram:
+    """The program with one writer in one pool, killed again and again."""
 
     def __init__(self, writer, chance):
         self.writer = writer
@@ -23,12 +23,12 @@ class Victim:
         self.pool = Pool(writer.finalized)
         self.pool.write("intact.csv", self.pool.read("PLAYERNAMES.CSV"))
         self.pool.pristine["intact.csv"] = self.pool.read("intact.csv")
-        if writer.own_files:  # of which some are like the demo's, and some are not
+        if writer.own_files:  # some of them are the same as the demo's, some are not
             self.pool.pristine["TALLYHOOP.THS"] = self.pool.read("TALLYHOOP.THS").replace(b"*END*", b"123\r\n*END*")
             self.pool.reset()
         self.whole = {}
-        self.states = set()  # that kills have left, and the program has started on
-        self.seen = {}  # temporary files of kills before
+        self.states = set()  # those that kills have left and on which the program has started
+        self.seen = {}  # temporary files of earlier kills
         self.duration = 0.0
 
     def program(self):
@@ -36,7 +36,7 @@ class Victim:
         return SavingProgram(self.pool, self.writer.name, self.writer.boxes)
 
     def learn(self):
-        """What a whole file looks like: from a save that nobody disturbs."""
+        """Learns what a whole file looks like, from a save that is not interrupted."""
         with self.program() as program:
             begin = time.monotonic()
             program.save(1)
@@ -60,10 +60,10 @@ class Victim:
         if state not in self.states or self.kills % BETWEEN_STARTS == 0:
             self.states.add(state)
             self.start_on_rest()
-        self.pool.reset()  # a file that has changed would be asked about first, and that takes its time
+        self.pool.reset()  # otherwise the program would first ask about the changed file, which takes time
 
     def state(self):
-        """What a kill has left: which files are there, and which of them are old, new or the demo's."""
+        """What a kill has left: which files exist, and which of them are old, new or the demo's."""
         def kind(file):
             if file.is_dir():
                 return frozenset(entry.name for entry in file.iterdir())
@@ -79,19 +79,19 @@ class Victim:
                          if file.name in known or file.is_dir() or file.name.endswith(".tmp~"))
 
     def start_on_rest(self):
-        """The program starts on exactly what a kill has left, and has nothing to say that is not due."""
+        """Starts the program on exactly what a kill has left; it must show no unexpected message."""
         lacks_field = not (self.pool.folder / "POOLSTART.THS").exists()
-        boxes = {OFFER, DEMO} if lacks_field else set()  # the offer is taken
+        boxes = {OFFER, DEMO} if lacks_field else set()  # the offer is accepted
         players = "PLAYERNAMES.CSV"
         if self.writer.name == "annotated" and self.pool.read(players) != self.pool.pristine[players]:
-            boxes.add(FAULTY_LIST)  # it is: the list itself has been spoilt
+            boxes.add(FAULTY_LIST)  # which is true: the list itself has been damaged
         with SavingProgram(self.pool, "nothing", starts_with=boxes):
             self.starts += 1
             self.starts_on_rest += 1
         if lacks_field:
             self.broken += [f"the demo came without {name}" for name, content in self.pool.demo.items()
                             if name not in self.pool.names() or self.pool.read(name) != content]
-        self.broken += [f"{name} is nowhere after a start" for name in self.writer.own_files if not self.places(name)]
+        self.broken += [f"{name} is in no folder after a start" for name in self.writer.own_files if not self.places(name)]
         for name in self.writer.files:
             self.check(name)
 
@@ -100,7 +100,7 @@ class Victim:
         temporary = self.pool.folder / f".{name}.tmp~"
         if temporary.exists():
             seen = (temporary.stat().st_ino, temporary.stat().st_mtime_ns, temporary.stat().st_size)
-            self.interrupted += self.seen.get(name) != seen  # one of an earlier kill may still be there
+            self.interrupted += self.seen.get(name) != seen  # one of an earlier kill may still exist
             self.seen[name] = seen
         self.replaced += path.exists() and path.read_bytes() != self.pool.pristine.get(name)
         self.check(name)
@@ -121,7 +121,7 @@ class Victim:
         return [entry for entry in self.pool.folder.iterdir() if entry.name.startswith("Backup ")]
 
     def places(self, name):
-        """The folders that hold a file of one's own as it was."""
+        """The folders that hold one of the pool's own files unchanged."""
         own = self.pool.pristine[name]
         return [place for place in [self.pool.folder, *self.backups()]
                 if (place / name).exists() and (place / name).read_bytes() == own]
@@ -133,11 +133,11 @@ class Victim:
         for name in self.writer.own_files:
             places = self.places(name)
             if not places:
-                self.broken.append(f"{name} is nowhere")
+                self.broken.append(f"{name} is in no folder")
             self.broken += [f"{backup.name} is not whole: {name}" for backup in backups if backup not in places]
 
     def start_afresh(self):
-        """The program starts on what is left, without complaint, and saves again."""
+        """The program starts without a message on what is left, and saves again."""
         if self.writer.name == "annotated":
             self.pool.write("PLAYERNAMES.CSV", self.pool.pristine["PLAYERNAMES.CSV"])
         with self.program() as program:
@@ -145,14 +145,14 @@ class Victim:
                 program.save(3)
         left = {f".{name}.tmp~" for name in self.writer.files} & self.pool.names()
         if left:
-            raise Broken(f"{left} outlived the next save")
+            raise Broken(f"{left} still exists after the next save")
         self.pool.reset()
 
     # --- ways to kill ---
 
     @staticmethod
     def round_of(kill):
-        """A round that no kill before has reached; its number differs from theirs in the points too."""
+        """A round that no earlier kill has reached; its number gives other points too."""
         return 10 + 1001 * kill
 
     def moment(self):
@@ -167,7 +167,7 @@ class Victim:
         status = program.child_status()
         self.look()
         if status == 0 and only_once:
-            self.kills -= 1  # it was faster
+            self.kills -= 1  # it ended before the kill
         elif status != signal.SIGKILL:
             raise Broken(f"the child ended by itself: {status}")
 
@@ -205,16 +205,16 @@ class Victim:
 
     def check_that_kills_met(self):
         if self.replaced == 0 or self.interrupted == 0:
-            raise Broken("no kill met the writing")
+            raise Broken("no kill hit a write")
 
     def report(self):
         return (f"{self.writer.name:10} {self.kills:5} kills  {self.replaced:5} files replaced  "
-                f"{self.interrupted:5} kills amid writing  {len(self.broken)} files torn or lost  "
-                f"{self.starts:3} starts without complaint, {self.starts_on_rest:3} on what a kill left, "
-                f"{len(self.states)} kinds of it")
+                f"{self.interrupted:5} kills during a write  {len(self.broken)} files torn or lost  "
+                f"{self.starts:3} starts without a message, {self.starts_on_rest:3} on what a kill left, "
+                f"{len(self.states)} different states")
 
 
-class Installer(Victim):
+class Installer(KilledProgram):
     """DEMOSET.EXE, which starts, writes eight files and ends."""
 
     def learn(self):

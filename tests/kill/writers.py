@@ -1,4 +1,4 @@
-"""What each writer writes, and when a file of its is whole."""
+"""What each writer writes, and how to recognise a whole file."""
 
 import email
 import email.policy
@@ -27,7 +27,7 @@ def without_marked_lines(content):
 
 
 def pdf(content):
-    """A PDF is whole when it says at its end where its table is, and the table is there."""
+    """A PDF is whole when its end names the place of its table, and the table is at that place."""
     end = re.search(rb"startxref\n(\d+) ?\n%%EOF\n\Z", content)
     whole = content.startswith(b"%PDF-") and end and content[int(end[1]):].startswith(b"xref\n")
     return b"whole" if whole else content

@@ -1,262 +1,313 @@
 // tests/pool/moves_test.cpp - clicks, drags, clears and high seeds, each worked by hand on one bracket.
 #include "pool/moves.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 namespace tallyhoop {
 namespace {
 
+using testing::ElementsAre;
+using testing::IsEmpty;
+
 /// The 64 rows hold "R<region>T<row>", such as "R0T15"; nothing is picked.
-TeamNamesOnBoard startingField()
+Bracket startingField()
 {
-    TeamNamesOnBoard teams;
+    Bracket bracket;
     for (int region = 0; region < kRegions; ++region)
         for (int row = 0; row < kRowsPerRegion; ++row)
-            teams.at(static_cast<std::size_t>(index(firstRoundPosition(region, row)))) =
-                "R" + std::to_string(region) + "T" + std::to_string(row);
+            bracket.put(firstRoundPosition(region, row), "R" + std::to_string(region) + "T" + std::to_string(row));
+    return bracket;
+}
+
+const std::string& at(const Bracket& bracket, int position) { return bracket.at(Position{position}); }
+
+/// @returns who is on these positions, in their order
+std::vector<std::string> teamsAt(const Bracket& bracket, const std::vector<int>& positions)
+{
+    std::vector<std::string> teams;
+    for (const int position : positions)
+        teams.push_back(at(bracket, position));
     return teams;
 }
 
-void click(TeamNamesOnBoard& teams, int position)
+void drag(Bracket& bracket, int from, int to)
 {
-    const std::string pressed = teams.at(static_cast<std::size_t>(position));
-    dropOnPosition(teams, position, position, pressed);
+    const std::string pressed = at(bracket, from);
+    bracket = dropped(bracket, Position{from}, Position{to}, pressed);
 }
 
-void drag(TeamNamesOnBoard& teams, int from, int to)
-{
-    const std::string pressed = teams.at(static_cast<std::size_t>(from));
-    dropOnPosition(teams, from, to, pressed);
-}
+/// A press and a release on the same place.
+void click(Bracket& bracket, int position) { drag(bracket, position, position); }
 
-std::array<std::int16_t, kTeams> usualSeeds()
+ByTeamRow<std::int16_t> usualSeeds()
 {
     constexpr std::array<std::int16_t, 16> kRows{1, 16, 8, 9, 5, 12, 4, 13, 6, 11, 3, 14, 7, 10, 2, 15};
-    std::array<std::int16_t, kTeams> seeds{};
-    for (std::size_t i = 0; i < seeds.size(); ++i)
-        seeds[i] = kRows[i % 16];
+    ByTeamRow<std::int16_t> seeds;
+    for (std::size_t i = 0; i < seeds.values.size(); ++i)
+        seeds.values[i] = kRows[i % 16];
     return seeds;
 }
 
 TEST(Click, AdvancesATeamRoundByRoundUpToTheChampion)
 {
-    TeamNamesOnBoard teams = startingField();
+    Bracket bracket = startingField();
     // Row 0 of region 0 plays for 16, 24, 28, 30, 124 and 126.
     int from = 0;
     for (const int to : {16, 24, 28, 30, 124, 126}) {
-        EXPECT_EQ(teams.at(static_cast<std::size_t>(to)), "");
-        click(teams, from);
-        EXPECT_EQ(teams.at(static_cast<std::size_t>(to)), "R0T0");
+        EXPECT_EQ(at(bracket, to), "");
+        click(bracket, from);
+        EXPECT_EQ(at(bracket, to), "R0T0");
         from = to;
     }
 }
 
 TEST(Click, OnTheChampionChangesNothing)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 0, 126);
-    const TeamNamesOnBoard before = teams;
-    click(teams, 126);
-    EXPECT_EQ(teams, before);
+    Bracket bracket = startingField();
+    drag(bracket, 0, 126);
+    const Bracket before = bracket;
+    click(bracket, 126);
+    EXPECT_EQ(bracket, before);
 }
 
 TEST(Click, ReplacesTheOpponentAndRemovesItFromEveryLaterRound)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 1, 30); // the opponent won the region
-    click(teams, 0);
-    EXPECT_EQ(teams[16], "R0T0");
-    EXPECT_EQ(teams[24], "");
-    EXPECT_EQ(teams[28], "");
-    EXPECT_EQ(teams[30], "");
+    Bracket bracket = startingField();
+    drag(bracket, 1, 30); // the opponent won the region
+    click(bracket, 0);
+    EXPECT_THAT(teamsAt(bracket, {16, 24, 28, 30}), ElementsAre("R0T0", "", "", ""));
 }
 
 TEST(Click, LeavesOtherTeamsFurtherAlongUntouched)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 1, 24);  // the opponent, two rounds far
-    drag(teams, 15, 30); // another team won the region
-    teams[124] = "R0T1"; // and the opponent stands once more behind it
-    click(teams, 0);
-    EXPECT_EQ(teams[24], "");
-    EXPECT_EQ(teams[28], "");
-    EXPECT_EQ(teams[30], "R0T15");
-    EXPECT_EQ(teams[124], "") << "the walk goes on behind a position that holds another team";
+    Bracket bracket = startingField();
+    drag(bracket, 1, 24);               // the opponent, two rounds far
+    drag(bracket, 15, 30);              // another team won the region
+    bracket.put(Position{124}, "R0T1"); // and after it comes the opponent once more
+    click(bracket, 0);
+    EXPECT_THAT(teamsAt(bracket, {24, 28, 30}), ElementsAre("", "", "R0T15"));
+    EXPECT_EQ(at(bracket, 124), "") << "the walk goes on after a position that holds another team";
 }
 
 TEST(Click, OnAnEmptyPositionEmptiesTheNextOne)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 0, 28);
-    teams[16].clear();
-    click(teams, 16);
-    EXPECT_EQ(teams[24], "");
-    EXPECT_EQ(teams[28], "") << "the team was displaced from there on";
+    Bracket bracket = startingField();
+    drag(bracket, 0, 28);
+    bracket.clear(Position{16});
+    click(bracket, 16);
+    EXPECT_EQ(at(bracket, 24), "");
+    EXPECT_EQ(at(bracket, 28), "") << "the team was displaced from there on";
 }
 
 TEST(Click, OnTheTeamThatAdvancedAlreadyKeepsItsLaterRounds)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 0, 126);
-    const TeamNamesOnBoard before = teams;
-    click(teams, 0);
-    EXPECT_EQ(teams, before);
+    Bracket bracket = startingField();
+    drag(bracket, 0, 126);
+    const Bracket before = bracket;
+    click(bracket, 0);
+    EXPECT_EQ(bracket, before);
 }
 
-TEST(Drag, OfAFirstRoundTeamOntoTheChampionFillsItsWholePathWhateverStoodThere)
+TEST(Click, CopiesWhoIsOnThePlaceByNow)
 {
-    TeamNamesOnBoard teams = startingField();
-    for (const std::size_t position : {93u + 23u, 119u, 122u, 123u, 125u, 126u})
-        teams[position] = "R3T0";
-    drag(teams, 93 + 15, 126); // last row of the last region
-    for (const std::size_t position : {93u + 23u, 93u + 27u, 93u + 29u, 123u, 125u, 126u})
-        EXPECT_EQ(teams[position], "R3T15") << position;
-    EXPECT_EQ(teams[119], "R3T0") << "not on the path";
+    Bracket bracket = startingField();
+    drag(bracket, 0, 16);
+    bracket = dropped(bracket, Position{16}, Position{16}, "R0T1"); // who was there when it was pressed
+    EXPECT_EQ(at(bracket, 24), "R0T0");
 }
 
-TEST(Drag, RemovesTheDisplacedTeamBehindTheTarget)
+TEST(Advanced, LetsTheTeamOfAPlaceWinItsGame)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 2, 126);
-    drag(teams, 0, 24);
-    EXPECT_EQ(teams[16], "R0T0");
-    EXPECT_EQ(teams[17], "R0T2");
-    EXPECT_EQ(teams[24], "R0T0");
-    for (const std::size_t position : {28u, 30u, 124u, 126u})
-        EXPECT_EQ(teams[position], "") << position;
+    const Bracket bracket = advanced(startingField(), Position{107});
+    EXPECT_EQ(at(bracket, 116), "R3T14");
+    const Bracket replaced = advanced(bracket, Position{108});
+    EXPECT_EQ(at(replaced, 116), "R3T15");
+    EXPECT_EQ(advanced(replaced, kChampion), replaced);
+}
+
+TEST(Drag, OfAFirstRoundTeamOntoTheChampionFillsItsWholePathWhoeverWasThere)
+{
+    Bracket bracket = startingField();
+    for (const int position : {93 + 23, 119, 122, 123, 125, 126})
+        bracket.put(Position{position}, "R3T0");
+    drag(bracket, 93 + 15, 126); // last row of the last region
+    for (const int position : {93 + 23, 93 + 27, 93 + 29, 123, 125, 126})
+        EXPECT_EQ(at(bracket, position), "R3T15") << position;
+    EXPECT_EQ(at(bracket, 119), "R3T0") << "not on the path";
+}
+
+TEST(Drag, RemovesTheDisplacedTeamAfterTheTarget)
+{
+    Bracket bracket = startingField();
+    drag(bracket, 2, 126);
+    drag(bracket, 0, 24);
+    EXPECT_THAT(teamsAt(bracket, {16, 17, 24}), ElementsAre("R0T0", "R0T2", "R0T0"));
+    EXPECT_THAT(teamsAt(bracket, {28, 30, 124, 126}), ElementsAre("", "", "", ""));
 }
 
 TEST(Drag, OntoAnotherRegionOrAnEarlierRoundChangesNothing)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 0, 28);
-    const TeamNamesOnBoard before = teams;
-    drag(teams, 0, 47);  // first round of region 1
-    drag(teams, 0, 92);  // winner of region 2
-    drag(teams, 0, 125); // the other semi-final
-    drag(teams, 28, 16); // backwards on its own path
-    drag(teams, 0, 17);  // the neighbour's game
-    drag(teams, 0, 1);   // a row of the field
-    EXPECT_EQ(teams, before);
+    Bracket bracket = startingField();
+    drag(bracket, 0, 28);
+    const Bracket before = bracket;
+    drag(bracket, 0, 47);  // first round of region 1
+    drag(bracket, 0, 92);  // winner of region 2
+    drag(bracket, 0, 125); // the other semi-final
+    drag(bracket, 28, 16); // backwards on its own path
+    drag(bracket, 0, 17);  // the neighbour's game
+    drag(bracket, 0, 1);   // a row of the field
+    EXPECT_EQ(bracket, before);
 }
 
 TEST(Drag, OfAnEmptyPositionClearsWhatItReaches)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 0, 126);
-    teams[16].clear();
-    drag(teams, 16, 28);
-    EXPECT_EQ(teams[24], "");
-    EXPECT_EQ(teams[28], "");
-    EXPECT_EQ(teams[30], "") << "the displaced team leaves the rounds behind the target too";
-    EXPECT_EQ(teams[126], "");
+    Bracket bracket = startingField();
+    drag(bracket, 0, 126);
+    bracket.clear(Position{16});
+    drag(bracket, 16, 28);
+    EXPECT_EQ(at(bracket, 24), "");
+    EXPECT_EQ(at(bracket, 28), "");
+    EXPECT_EQ(at(bracket, 30), "") << "the displaced team leaves the rounds after the target too";
+    EXPECT_EQ(at(bracket, 126), "");
 }
 
-TEST(RightPress, EmptiesARegionWinnerAndItsSemifinalAndTitle)
+TEST(Cleared, EmptiesARegionWinnerAndItsSemifinalAndTitle)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 62, 126);
-    clearPosition(teams, 92);
-    EXPECT_EQ(teams[92], "");
-    EXPECT_EQ(teams[125], "");
-    EXPECT_EQ(teams[126], "");
-    EXPECT_EQ(teams[90], "R2T0") << "earlier rounds stay";
+    Bracket bracket = startingField();
+    drag(bracket, 62, 126);
+    bracket = cleared(bracket, Position{92});
+    EXPECT_THAT(teamsAt(bracket, {92, 125, 126}), ElementsAre("", "", ""));
+    EXPECT_EQ(at(bracket, 90), "R2T0") << "earlier rounds stay";
 }
 
-TEST(RightPress, LeavesAnotherTeamInTheTitleAlone)
+TEST(Cleared, LeavesAnotherTeamInTheTitleAlone)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 62, 125);
-    drag(teams, 0, 126);
-    clearPosition(teams, 92);
-    EXPECT_EQ(teams[126], "R0T0");
+    Bracket bracket = startingField();
+    drag(bracket, 62, 125);
+    drag(bracket, 0, 126);
+    bracket = cleared(bracket, Position{92});
+    EXPECT_EQ(at(bracket, 126), "R0T0");
 }
 
-TEST(RightPress, OnTheChampionEmptiesOnlyTheChampion)
+TEST(Cleared, OnTheChampionEmptiesOnlyTheChampion)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 0, 126);
-    clearPosition(teams, 126);
-    EXPECT_EQ(teams[126], "");
-    EXPECT_EQ(teams[124], "R0T0");
+    Bracket bracket = startingField();
+    drag(bracket, 0, 126);
+    bracket = cleared(bracket, kChampion);
+    EXPECT_EQ(at(bracket, 126), "");
+    EXPECT_EQ(at(bracket, 124), "R0T0");
 }
 
-TEST(RightPress, NeverEmptiesAFirstRoundRow)
+TEST(Cleared, NeverEmptiesAFirstRoundRow)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 0, 126);
-    const TeamNamesOnBoard before = teams;
+    Bracket bracket = startingField();
+    drag(bracket, 0, 126);
     for (const int position : {0, 15, 31, 46, 62, 77, 93, 108})
-        clearPosition(teams, position);
-    EXPECT_EQ(teams, before);
+        EXPECT_EQ(cleared(bracket, Position{position}), bracket);
 }
 
-TEST(ClearTeamForward, BehindTheChampionDoesNothing)
+TEST(WithoutTeamFrom, NowhereOnDoesNothing)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 0, 126);
-    const TeamNamesOnBoard before = teams;
-    ClearTeamForward(teams, "R0T0", kChampionEnd);
-    EXPECT_EQ(teams, before);
+    Bracket bracket = startingField();
+    drag(bracket, 0, 126);
+    EXPECT_EQ(withoutTeamFrom(bracket, std::nullopt, "R0T0"), bracket);
+    EXPECT_EQ(withoutTeamFrom(bracket, next(kChampion), "R0T0"), bracket);
 }
 
-TEST(ClearTeamForward, TakesANameOfTheBoardItself)
+TEST(WithoutTeamFrom, TakesANameOfTheBracketItself)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 0, 126);
-    ClearTeamForward(teams, teams[16], 16); // the name vanishes at the first step
-    for (const std::size_t position : {16u, 24u, 28u, 30u, 124u, 126u})
-        EXPECT_EQ(teams[position], "") << position;
+    Bracket bracket = startingField();
+    drag(bracket, 0, 126);
+    bracket = withoutTeamFrom(bracket, Position{16}, bracket.at(Position{16})); // gone at the first step
+    EXPECT_THAT(teamsAt(bracket, {16, 24, 28, 30, 124, 126}), ElementsAre("", "", "", "", "", ""));
+    EXPECT_EQ(at(bracket, 0), "R0T0");
 }
 
 TEST(HighSeeds, LetTheBetterSeedWinEveryGameOfARegion)
 {
-    TeamNamesOnBoard teams = startingField();
-    selectHighSeeds(teams, usualSeeds());
-    // Seeds 1, 8, 5, 4, 6, 3, 7, 2 stand in rows 0, 2, 4, 6, 8, 10, 12, 14.
-    for (std::size_t game = 0; game < 8; ++game)
-        EXPECT_EQ(teams[16 + game], "R0T" + std::to_string(2 * game));
+    const Bracket bracket = withHighSeeds(startingField(), usualSeeds());
+    // Seeds 1, 8, 5, 4, 6, 3, 7, 2 are in rows 0, 2, 4, 6, 8, 10, 12, 14.
+    for (int game = 0; game < 8; ++game)
+        EXPECT_EQ(at(bracket, 16 + game), "R0T" + std::to_string(2 * game));
     // Then 1, 4, 3, 2; then 1, 2; then 1.
-    EXPECT_EQ(teams[24], "R0T0");
-    EXPECT_EQ(teams[25], "R0T6");
-    EXPECT_EQ(teams[26], "R0T10");
-    EXPECT_EQ(teams[27], "R0T14");
-    EXPECT_EQ(teams[28], "R0T0");
-    EXPECT_EQ(teams[29], "R0T14");
-    EXPECT_EQ(teams[30], "R0T0");
-    EXPECT_EQ(teams[61], "R1T0");
-    EXPECT_EQ(teams[92], "R2T0");
-    EXPECT_EQ(teams[123], "R3T0");
+    EXPECT_THAT(teamsAt(bracket, {24, 25, 26, 27}), ElementsAre("R0T0", "R0T6", "R0T10", "R0T14"));
+    EXPECT_THAT(teamsAt(bracket, {28, 29}), ElementsAre("R0T0", "R0T14"));
+    EXPECT_THAT(teamsAt(bracket, {30, 61, 92, 123}), ElementsAre("R0T0", "R1T0", "R2T0", "R3T0"));
 }
 
 TEST(HighSeeds, LetTheLowerRowWinWhenSeedsAreEqual)
 {
-    TeamNamesOnBoard teams = startingField();
-    std::array<std::int16_t, kTeams> seeds = usualSeeds();
-    seeds[1] = 1; // as good as row 0
-    selectHighSeeds(teams, seeds);
-    EXPECT_EQ(teams[16], "R0T1");
-    EXPECT_EQ(teams[30], "R0T1");
+    ByTeamRow<std::int16_t> seeds = usualSeeds();
+    seeds[TeamRow{1}] = 1; // as good as row 0
+    const Bracket bracket = withHighSeeds(startingField(), seeds);
+    EXPECT_EQ(at(bracket, 16), "R0T1");
+    EXPECT_EQ(at(bracket, 30), "R0T1");
+}
+
+TEST(HighSeeds, AreThoseOfEachRegionsOwnRows)
+{
+    ByTeamRow<std::int16_t> seeds = usualSeeds();
+    seeds[TeamRow{63}] = -1; // the last row of the last region
+    const Bracket bracket = withHighSeeds(startingField(), seeds);
+    EXPECT_THAT(teamsAt(bracket, {30, 61, 92, 123}), ElementsAre("R0T0", "R1T0", "R2T0", "R3T15"));
 }
 
 TEST(HighSeeds, KeepTheSemifinalsAndTheChampion)
 {
-    TeamNamesOnBoard teams = startingField();
-    teams[124] = "R0T15";
-    teams[126] = "R0T15";
-    selectHighSeeds(teams, usualSeeds());
-    EXPECT_EQ(teams[124], "R0T15");
-    EXPECT_EQ(teams[125], "");
-    EXPECT_EQ(teams[126], "R0T15");
+    Bracket bracket = startingField();
+    bracket.put(kSemifinalA, "R0T15");
+    bracket.put(kChampion, "R0T15");
+    bracket = withHighSeeds(bracket, usualSeeds());
+    EXPECT_THAT(teamsAt(bracket, {124, 125, 126}), ElementsAre("R0T15", "", "R0T15"));
 }
 
 TEST(HighSeeds, ReplaceWhatWasPickedBefore)
 {
-    TeamNamesOnBoard teams = startingField();
-    drag(teams, 15, 30);
-    selectHighSeeds(teams, usualSeeds());
-    EXPECT_EQ(teams[23], "R0T14");
-    EXPECT_EQ(teams[30], "R0T0");
+    Bracket bracket = startingField();
+    drag(bracket, 15, 30);
+    bracket = withHighSeeds(bracket, usualSeeds());
+    EXPECT_EQ(at(bracket, 23), "R0T14");
+    EXPECT_EQ(at(bracket, 30), "R0T0");
+}
+
+TEST(PathOf, IsEveryPlaceThatTheTeamHasReached)
+{
+    Bracket bracket = startingField();
+    drag(bracket, 15, 30);
+    const auto path = std::vector{Position{15}, Position{23}, Position{27}, Position{29}, Position{30}};
+    EXPECT_EQ(pathOf(bracket, Position{15}), path);
+    EXPECT_EQ(pathOf(bracket, Position{27}), path) << "from wherever one looks";
+    EXPECT_EQ(pathOf(bracket, Position{31}), std::vector{Position{31}}) << "a team that won nothing";
+}
+
+TEST(PathOf, LeavesOutTheGapsOfADamagedBracket)
+{
+    Bracket bracket = startingField();
+    drag(bracket, 0, 126);
+    bracket.clear(Position{24});
+    bracket.put(Position{30}, "R0T9");
+    EXPECT_THAT(pathOf(bracket, Position{16}),
+                ElementsAre(Position{0}, Position{16}, Position{28}, Position{124}, Position{126}));
+}
+
+TEST(PathOf, IsEmptyForNobodyAndForATeamThatDoesNotComeFromThere)
+{
+    Bracket bracket = startingField();
+    EXPECT_THAT(pathOf(bracket, Position{16}), IsEmpty());
+    bracket.put(Position{16}, "R3T0"); // from another region
+    bracket.put(Position{17}, "Nobody");
+    EXPECT_THAT(pathOf(bracket, Position{16}), IsEmpty());
+    EXPECT_THAT(pathOf(bracket, Position{17}), IsEmpty());
+}
+
+TEST(PathOf, TellsTwoTeamsOfOneNameApartByTheirWays)
+{
+    Bracket bracket = startingField();
+    bracket.put(Position{93}, "R0T0");
+    drag(bracket, 0, 16);
+    drag(bracket, 93, 109);
+    EXPECT_THAT(pathOf(bracket, Position{109}), ElementsAre(Position{93}, Position{109}));
+    EXPECT_THAT(pathOf(bracket, Position{16}), ElementsAre(Position{0}, Position{16}));
 }
 
 } // namespace

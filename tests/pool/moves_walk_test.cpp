@@ -12,12 +12,12 @@
 namespace tallyhoop {
 namespace {
 
-std::size_t at(int position) { return static_cast<std::size_t>(position); }
+const std::string& at(const Bracket& bracket, int position) { return bracket.at(Position{position}); }
 
 bool isRowOfTheField(int position) { return position < 124 && position % 31 < 16; }
 
-/// @returns the positions that a team standing here plays for, nearest first
-std::vector<int> pathBehind(int position)
+/// @returns the positions that a team plays for from here, nearest first
+std::vector<int> pathAfter(int position)
 {
     std::vector<int> path;
     while (position != 126) {
@@ -37,7 +37,7 @@ bool contains(const std::vector<int>& positions, int position)
     return std::ranges::find(positions, position) != positions.end();
 }
 
-/// A board on which random things happen, and what each may have changed.
+/// A bracket to which random things happen, and what each may have changed.
 class Walk
 {
 public:
@@ -45,15 +45,15 @@ public:
     {
         for (int position = 0; position < 127; ++position)
             if (isRowOfTheField(position))
-                m_teams[at(position)] = "T" + std::to_string(position);
+                m_bracket.put(Position{position}, "T" + std::to_string(position));
     }
 
     void step()
     {
-        m_before = m_teams;
+        m_before = m_bracket;
         switch (m_random() % 5) {
         case 0:
-            pressRight(anyPosition());
+            clear(anyPosition());
             break;
         case 1:
             click(anyPosition());
@@ -70,53 +70,55 @@ public:
         }
         for (int position = 0; position < 127; ++position)
             if (isRowOfTheField(position)) {
-                ASSERT_EQ(m_teams[at(position)], m_before[at(position)]) << "row " << position;
+                ASSERT_EQ(at(m_bracket, position), at(m_before, position)) << "row " << position;
             }
     }
 
 private:
     int anyPosition() { return static_cast<int>(m_random() % 127); }
 
-    void pressRight(int position)
+    void clear(int position)
     {
-        clearPosition(m_teams, position);
-        const std::string& team = m_before[at(position)];
+        m_bracket = cleared(m_bracket, Position{position});
+        const std::string& team = at(m_before, position);
         if (isRowOfTheField(position) || team.empty()) {
-            ASSERT_EQ(m_teams, m_before);
+            ASSERT_EQ(m_bracket, m_before);
             return;
         }
-        ASSERT_EQ(m_teams[at(position)], "");
-        expectOnlyRemoved(team, pathBehind(position), {position});
+        ASSERT_EQ(at(m_bracket, position), "");
+        expectOnlyRemoved(team, pathAfter(position), {position});
     }
 
     void clearForward(int teamAt, int from)
     {
-        const std::string team = m_before[at(teamAt)];
+        const std::string team = at(m_before, teamAt);
         const int start =
-            isRowOfTheField(from) ? pathBehind(from).front() : from; // as every press starts behind the rows
-        ClearTeamForward(m_teams, team, start);
-        std::vector<int> path = pathBehind(start);
+            isRowOfTheField(from) ? pathAfter(from).front() : from; // as every press starts after the rows
+        m_bracket = withoutTeamFrom(m_bracket, Position{start}, team);
+        std::vector<int> path = pathAfter(start);
         path.push_back(start);
         expectOnlyRemoved(team, path, {});
     }
 
     void click(int position)
     {
-        const std::string team = m_before[at(position)];
-        dropOnPosition(m_teams, position, position, team);
+        const std::string team = at(m_before, position);
+        const Bracket onceMore = advanced(m_bracket, Position{position});
+        m_bracket = dropped(m_bracket, Position{position}, Position{position}, team);
+        ASSERT_EQ(onceMore, m_bracket);
         if (position == 126) {
-            ASSERT_EQ(m_teams, m_before);
+            ASSERT_EQ(m_bracket, m_before);
             return;
         }
-        const int winner = pathBehind(position).front();
-        ASSERT_EQ(m_teams[at(winner)], team);
-        expectDisplaced(m_before[at(winner)], team, winner, {winner});
+        const int winner = pathAfter(position).front();
+        ASSERT_EQ(at(m_bracket, winner), team);
+        expectDisplaced(at(m_before, winner), team, winner, {winner});
     }
 
     void dragAhead()
     {
         const int source = anyPosition();
-        const std::vector<int> path = pathBehind(source);
+        const std::vector<int> path = pathAfter(source);
         if (!path.empty())
             drag(source, path[m_random() % path.size()]);
     }
@@ -125,25 +127,25 @@ private:
     {
         if (source == target)
             return;
-        const std::string team = m_before[at(source)];
-        dropOnPosition(m_teams, source, target, team);
-        const std::vector<int> path = pathBehind(source);
-        ASSERT_EQ(isOnPath(source, target), contains(path, target));
+        const std::string team = at(m_before, source);
+        m_bracket = dropped(m_bracket, Position{source}, Position{target}, team);
+        const std::vector<int> path = pathAfter(source);
+        ASSERT_EQ(isOnPath(Position{source}, Position{target}), contains(path, target));
         if (!contains(path, target)) {
-            ASSERT_EQ(m_teams, m_before) << source << " to " << target;
+            ASSERT_EQ(m_bracket, m_before) << source << " to " << target;
             return;
         }
         const std::vector<int> carried{path.begin(), std::ranges::find(path, target) + 1};
         for (const int position : carried)
-            ASSERT_EQ(m_teams[at(position)], team);
-        expectDisplaced(m_before[at(target)], team, target, carried);
+            ASSERT_EQ(at(m_bracket, position), team);
+        expectDisplaced(at(m_before, target), team, target, carried);
     }
 
     void expectDisplaced(const std::string& displaced, const std::string& newTeam, int target,
                          const std::vector<int>& written)
     {
         const bool isDisplaced = !displaced.empty() && displaced != newTeam;
-        expectOnlyRemoved(displaced, isDisplaced ? pathBehind(target) : std::vector<int>{}, written);
+        expectOnlyRemoved(displaced, isDisplaced ? pathAfter(target) : std::vector<int>{}, written);
     }
 
     /// Outside the positions written, nothing changed except that the team is gone from this path.
@@ -152,15 +154,15 @@ private:
         for (int position = 0; position < 127; ++position) {
             if (contains(written, position))
                 continue;
-            const std::string& was = m_before[at(position)];
+            const std::string& was = at(m_before, position);
             const bool removed = contains(path, position) && was == team;
-            ASSERT_EQ(m_teams[at(position)], removed ? "" : was) << "position " << position;
+            ASSERT_EQ(at(m_bracket, position), removed ? "" : was) << "position " << position;
         }
     }
 
     std::mt19937 m_random{20000316};
-    TeamNamesOnBoard m_teams;
-    TeamNamesOnBoard m_before;
+    Bracket m_bracket;
+    Bracket m_before;
 };
 
 TEST(RandomWalk, OfAHundredThousandStepsChangesOnlyWhatEachStepMay)

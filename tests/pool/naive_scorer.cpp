@@ -1,76 +1,74 @@
-// tests/pool/naive_scorer.cpp - one question per slot, asked from scratch every time.
+// tests/pool/naive_scorer.cpp - one question for each place, asked from scratch every time.
 #include "pool/naive_scorer.h"
 
 #include "pool/sample_brackets.h"
-
-#include <algorithm>
 
 namespace tallyhoop::test {
 
 namespace {
 
-struct Game {
-    const SelectionLines& picks;
-    const SelectionLines& results;
+struct Tournament {
+    const Bracket& picks;
+    const Bracket& results;
 
-    const std::string& pick(int slot) const { return picks.at(static_cast<std::size_t>(slot)); }
-    const std::string& result(int slot) const { return results.at(static_cast<std::size_t>(slot)); }
+    const std::string& pick(int place) const { return picks.at(Position{place}); }
+    const std::string& result(int place) const { return results.at(Position{place}); }
 
-    bool isOpen(int slot) const { return result(slot).empty(); }
-    bool isRight(int slot) const { return !isOpen(slot) && pick(slot) == result(slot); }
-    bool isWrong(int slot) const { return !isOpen(slot) && pick(slot) != result(slot); }
+    bool isOpen(int place) const { return result(place).empty(); }
+    bool isRight(int place) const { return !isOpen(place) && pick(place) == result(place); }
+    bool isWrong(int place) const { return !isOpen(place) && pick(place) != result(place); }
 
-    bool lostBefore(const std::string& team, int slot) const
+    bool lostBefore(const std::string& team, int place) const
     {
-        for (int earlier = 1; earlier < slot; ++earlier)
+        for (int earlier = 0; earlier < place; ++earlier)
             if (isWrong(earlier) && pick(earlier) == team)
                 return true;
         return false;
     }
 
-    bool isBad(int slot) const
+    bool isBad(int place) const
     {
-        return isWrong(slot) || (isOpen(slot) && (pick(slot).empty() || lostBefore(pick(slot), slot)));
+        return isWrong(place) || (isOpen(place) && (pick(place).empty() || lostBefore(pick(place), place)));
     }
 
-    bool canStillEarn(int slot) const
+    bool canStillEarn(int place) const
     {
-        if (!isOpen(slot) || isBad(slot) || roundOfSlot(slot) == 0)
+        const int round = roundAt(Position{place});
+        if (!isOpen(place) || isBad(place) || round == 0)
             return false;
-        if (roundOfSlot(slot) == 1)
+        if (round == 1)
             return true;
-        const Entrants entrants = entrantsOf(slot);
-        return isRight(entrants.upper) || canStillEarn(entrants.upper) || isRight(entrants.lower) ||
-               canStillEarn(entrants.lower);
+        const Entrants entrants = entrantsOf(Position{place});
+        const auto mayCome = [this](Position from) {
+            return isRight(static_cast<int>(from)) || canStillEarn(static_cast<int>(from));
+        };
+        return mayCome(entrants.upper) || mayCome(entrants.lower);
     }
 
-    Verdict verdict(int slot) const
+    Verdict verdict(int place) const
     {
-        if (isRight(slot))
+        if (isRight(place))
             return Verdict::Good;
-        if (isBad(slot))
+        if (isBad(place))
             return Verdict::Bad;
-        return canStillEarn(slot) && slot != 127 ? Verdict::Possible : Verdict::Open;
+        return canStillEarn(place) && place != 126 ? Verdict::Possible : Verdict::Open;
     }
 };
 
 } // namespace
 
-ScoredPicks scoreNaively(const SelectionLines& picks, const SelectionLines& results, const Payoffs& payoffs)
+Score scoreNaively(const Bracket& picks, const Bracket& results, const Payoffs& payoffs)
 {
-    const Game game{picks, results};
-    ScoredPicks scored;
-    for (int slot = 1; slot <= 127; ++slot) {
-        const int round = roundOfSlot(slot);
+    const Tournament tournament{picks, results};
+    Score scored;
+    for (int place = 0; place < 127; ++place) {
+        const int round = roundAt(Position{place});
         const int payoff = round == 0 ? 0 : payoffs.at(static_cast<std::size_t>(round - 1));
-        scored.points += game.isRight(slot) ? payoff : 0;
-        scored.possible += game.canStillEarn(slot) ? payoff : 0;
-        scored.goodPicks = static_cast<std::int16_t>(scored.goodPicks + (round > 0 && game.isRight(slot)));
-        scored.badPicks = static_cast<std::int16_t>(scored.badPicks + game.isBad(slot));
-        scored.verdict.SlotStatus.at(static_cast<std::size_t>(slot)) = game.verdict(slot);
-        auto& out = scored.verdict.EliminatedTeams;
-        if (game.isWrong(slot) && !game.pick(slot).empty() && std::ranges::find(out, game.pick(slot)) == out.end())
-            out.push_back(game.pick(slot));
+        scored.points += tournament.isRight(place) ? payoff : 0;
+        scored.possible += tournament.canStillEarn(place) ? payoff : 0;
+        scored.goodPicks = static_cast<std::int16_t>(scored.goodPicks + (round > 0 && tournament.isRight(place)));
+        scored.badPicks = static_cast<std::int16_t>(scored.badPicks + tournament.isBad(place));
+        scored.verdicts[Position{place}] = tournament.verdict(place);
     }
     return scored;
 }

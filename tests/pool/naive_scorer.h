@@ -5,7 +5,7 @@
 
 namespace tallyhoop::test {
 
-/// Answers the question for each slot on its own, with texts and recursion, remembering nothing.
-ScoredPicks scoreNaively(const SelectionLines& picks, const SelectionLines& results, const Payoffs& payoffs);
+/// Answers the question for each place on its own, with texts and recursion, remembering nothing.
+Score scoreNaively(const Bracket& picks, const Bracket& results, const Payoffs& payoffs);
 
 } // namespace tallyhoop::test

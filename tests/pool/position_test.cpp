@@ -1,68 +1,135 @@
-// tests/pool/position_test.cpp - where every winner goes.
+// tests/pool/position_test.cpp - where every winner goes, and how places, games and rows are counted.
 #include "pool/position.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+#include <vector>
 
 namespace tallyhoop {
 namespace {
 
-TEST(BracketMap, LeadsFromTheChampionNowhere) { EXPECT_EQ(bracketMap().NextPosition(126), 999); }
+using testing::ElementsAre;
 
-TEST(BracketMap, LetsRegionsOneAndTwoMeetInSemifinalA)
+std::array<Position, 2> pair(int upper, int lower) { return {Position{upper}, Position{lower}}; }
+
+TEST(Next, LeadsFromTheChampionNowhere) { EXPECT_EQ(next(kChampion), std::nullopt); }
+
+TEST(Next, LetsRegionsOneAndTwoMeetInTheFirstSemifinal)
 {
-    EXPECT_EQ(bracketMap().NextPosition(30), 124);
-    EXPECT_EQ(bracketMap().NextPosition(61), 124);
+    EXPECT_EQ(next(Position{30}), Position{124});
+    EXPECT_EQ(next(Position{61}), Position{124});
 }
 
-TEST(BracketMap, LetsRegionsThreeAndFourMeetInSemifinalB)
+TEST(Next, LetsRegionsThreeAndFourMeetInTheSecondSemifinal)
 {
-    EXPECT_EQ(bracketMap().NextPosition(92), 125);
-    EXPECT_EQ(bracketMap().NextPosition(123), 125);
+    EXPECT_EQ(next(Position{92}), Position{125});
+    EXPECT_EQ(next(Position{123}), Position{125});
 }
 
-TEST(BracketMap, LeadsBothSemifinalsToTheChampion)
+TEST(Next, LeadsFromBothSemifinalsToTheChampion)
 {
-    EXPECT_EQ(bracketMap().NextPosition(124), 126);
-    EXPECT_EQ(bracketMap().NextPosition(125), 126);
+    EXPECT_EQ(next(Position{124}), Position{126});
+    EXPECT_EQ(next(Position{125}), Position{126});
 }
 
-TEST(BracketMap, PairsNeighbouringRowsOfTheFirstRegion)
+TEST(Next, PairsNeighbouringRowsOfTheFirstRegion)
 {
     const int expected[30] = {16, 16, 17, 17, 18, 18, 19, 19, 20, 20, 21, 21, 22, 22, 23,
                               23, 24, 24, 25, 25, 26, 26, 27, 27, 28, 28, 29, 29, 30, 30};
-    for (int row = 0; row < 30; ++row)
-        EXPECT_EQ(bracketMap().NextPosition(row), expected[row]) << "row " << row;
+    for (int place = 0; place < 30; ++place)
+        EXPECT_EQ(next(Position{place}), Position{expected[place]}) << "position " << place;
 }
 
-TEST(BracketMap, RepeatsTheFirstRegionInTheOthers)
+TEST(Next, RepeatsTheFirstRegionInTheOthers)
 {
     for (const int base : {31, 62, 93})
-        for (int row = 0; row < 30; ++row)
-            EXPECT_EQ(bracketMap().NextPosition(base + row), base + bracketMap().NextPosition(row));
+        for (int place = 0; place < 30; ++place)
+            EXPECT_EQ(next(Position{base + place}), Position{base + index(*next(Position{place}))})
+                << "position " << base + place;
 }
 
-TEST(BracketMap, KeepsAnUnusedRowAtTheEnd) { EXPECT_EQ(bracketMap().NextPosition(127), 0); }
-
-TEST(BracketMap, FindsTheTwoTeamsOfAGame)
+TEST(Next, NeverLeadsBackwards)
 {
-    EXPECT_EQ(bracketMap().feeders(16), (std::array<int, 2>{0, 1}));
-    EXPECT_EQ(bracketMap().feeders(123), (std::array<int, 2>{121, 122}));
-    EXPECT_EQ(bracketMap().feeders(124), (std::array<int, 2>{30, 61}));
-    EXPECT_EQ(bracketMap().feeders(125), (std::array<int, 2>{92, 123}));
-    EXPECT_EQ(bracketMap().feeders(126), (std::array<int, 2>{124, 125}));
+    for (const Position position : allPositions())
+        if (const std::optional<Position> winner = next(position)) {
+            EXPECT_LT(position, *winner);
+        }
 }
 
-TEST(BracketMap, HasNoGameBehindAFirstRoundRow)
+TEST(Feeders, AreTheTwoPlacesThatMeetTheUpperFirst)
 {
-    EXPECT_EQ(bracketMap().feeders(0), (std::array<int, 2>{-1, -1}));
-    EXPECT_EQ(bracketMap().feeders(108), (std::array<int, 2>{-1, -1}));
+    EXPECT_EQ(feeders(Position{16}), pair(0, 1));
+    EXPECT_EQ(feeders(Position{24}), pair(16, 17));
+    EXPECT_EQ(feeders(Position{30}), pair(28, 29));
+    EXPECT_EQ(feeders(Position{123}), pair(121, 122));
+    EXPECT_EQ(feeders(Position{124}), pair(30, 61));
+    EXPECT_EQ(feeders(Position{125}), pair(92, 123));
+    EXPECT_EQ(feeders(Position{126}), pair(124, 125));
 }
 
-TEST(FirstRoundPosition, PutsTheFirstTeamOfRegionThreeAtSixtyTwo)
+TEST(Feeders, OfAFirstRoundRowAreNone)
 {
+    EXPECT_EQ(feeders(Position{0}), std::nullopt);
+    EXPECT_EQ(feeders(Position{108}), std::nullopt);
+}
+
+TEST(Feeders, BothLeadToTheirGame)
+{
+    for (const Position game : gamePositions()) {
+        const auto [upper, lower] = *feeders(game);
+        EXPECT_EQ(next(upper), game) << "position " << index(upper);
+        EXPECT_EQ(next(lower), game) << "position " << index(lower);
+    }
+}
+
+TEST(IsOnPath, GoesAheadToTheChampionAndIncludesThePlaceItself)
+{
+    for (const int target : {0, 16, 24, 28, 30, 124, 126})
+        EXPECT_TRUE(isOnPath(Position{0}, Position{target})) << target;
+    for (const int target : {108, 116, 120, 122, 123, 125, 126})
+        EXPECT_TRUE(isOnPath(Position{108}, Position{target})) << target;
+}
+
+TEST(IsOnPath, LeavesOutOtherRegionsNeighboursAndEarlierRounds)
+{
+    for (const int target : {1, 15, 17, 25, 29, 31, 47, 61, 92, 123, 125})
+        EXPECT_FALSE(isOnPath(Position{0}, Position{target})) << target;
+    EXPECT_FALSE(isOnPath(Position{28}, Position{16}));
+    EXPECT_FALSE(isOnPath(Position{126}, Position{124}));
+}
+
+TEST(TeamRows, FillTheFirstSixteenPlacesOfEachRegion)
+{
+    EXPECT_EQ(positionOf(TeamRow{0}), Position{0});
+    EXPECT_EQ(positionOf(TeamRow{15}), Position{15});
+    EXPECT_EQ(positionOf(TeamRow{16}), Position{31});
+    EXPECT_EQ(positionOf(TeamRow{32}), Position{62}) << "the first team of region 3";
+    EXPECT_EQ(positionOf(TeamRow{63}), Position{108});
     EXPECT_EQ(firstRoundPosition(2, 0), Position{62});
-    EXPECT_EQ(slotOf(Position{62}), Slot{63});
-    EXPECT_EQ(positionOf(Slot{63}), Position{62});
+    EXPECT_EQ(firstRoundPosition(3, 15), Position{108});
+}
+
+TEST(TeamRows, AreFoundFromTheirPlaces)
+{
+    for (int row = 0; row < 64; ++row)
+        EXPECT_EQ(teamRowOf(positionOf(TeamRow{row})), TeamRow{row}) << "row " << row;
+    EXPECT_EQ(teamRowOf(Position{16}), std::nullopt);
+    EXPECT_EQ(teamRowOf(Position{30}), std::nullopt);
+    EXPECT_EQ(teamRowOf(Position{109}), std::nullopt);
+    EXPECT_EQ(teamRowOf(Position{124}), std::nullopt) << "a fifth region would begin here";
+    EXPECT_EQ(teamRowOf(kChampion), std::nullopt);
+}
+
+TEST(TeamRows, AreCountedRegionByRegion)
+{
+    EXPECT_EQ(regionOf(TeamRow{15}), 0);
+    EXPECT_EQ(regionOf(TeamRow{16}), 1);
+    EXPECT_EQ(regionOf(TeamRow{63}), 3);
+    EXPECT_EQ(rowInRegion(TeamRow{15}), 15);
+    EXPECT_EQ(rowInRegion(TeamRow{16}), 0);
+    EXPECT_EQ(rowInRegion(TeamRow{63}), 15);
+    ASSERT_EQ(allTeamRows().size(), 64u);
+    EXPECT_EQ(allTeamRows().front(), TeamRow{0});
+    EXPECT_EQ(allTeamRows().back(), TeamRow{63});
 }
 
 TEST(FirstRound, IsTheSixteenRowsOfEachRegionOnly)
@@ -95,25 +162,99 @@ TEST(RoundOf, FollowsTheBlocksOfARegion)
     EXPECT_EQ(roundOf(Position{31 + 28}), 3);
     EXPECT_EQ(roundOf(Position{31 + 29}), 3);
     EXPECT_EQ(roundOf(Position{31 + 30}), 4);
+    EXPECT_EQ(roundOf(Position{124}), 5);
     EXPECT_EQ(roundOf(Position{125}), 5);
     EXPECT_EQ(roundOf(Position{126}), 6);
 }
 
-TEST(GamePositions, AscendAndKnowTheirPlace)
+TEST(RegionOf, EndsBeforeTheLastThreePlaces)
+{
+    EXPECT_EQ(regionOf(Position{0}), 0);
+    EXPECT_EQ(regionOf(Position{30}), 0);
+    EXPECT_EQ(regionOf(Position{31}), 1);
+    EXPECT_EQ(regionOf(Position{123}), 3);
+    EXPECT_EQ(regionOf(Position{124}), std::nullopt);
+    EXPECT_EQ(regionOf(Position{126}), std::nullopt);
+}
+
+TEST(RegionWinner, IsTheLastPlaceOfARegion)
+{
+    EXPECT_EQ(regionWinner(0), Position{30});
+    EXPECT_EQ(regionWinner(1), Position{61});
+    EXPECT_EQ(regionWinner(2), Position{92});
+    EXPECT_EQ(regionWinner(3), Position{123});
+}
+
+TEST(PlacesOfARegion, AreSixteenTeamsAndFifteenWinners)
+{
+    ASSERT_EQ(teamsOfRegion(1).size(), 16u);
+    EXPECT_EQ(teamsOfRegion(1).front(), Position{31});
+    EXPECT_EQ(teamsOfRegion(1).back(), Position{46});
+    ASSERT_EQ(gamesOfRegion(1).size(), 15u);
+    EXPECT_EQ(gamesOfRegion(1).front(), Position{47});
+    EXPECT_EQ(gamesOfRegion(1).back(), Position{61});
+    EXPECT_EQ(gamesOfRegion(3).back(), Position{123});
+    EXPECT_THAT(finalGames(), ElementsAre(kSemifinalA, kSemifinalB, kChampion));
+}
+
+TEST(AllPositions, AreTheHundredAndTwentySevenInOrder)
+{
+    ASSERT_EQ(allPositions().size(), 127u);
+    for (int position = 0; position < kPositions; ++position)
+        EXPECT_EQ(allPositions().at(static_cast<std::size_t>(position)), Position{position});
+}
+
+TEST(GamePositions, AscendAndKnowTheirGame)
 {
     EXPECT_EQ(gamePositions().front(), Position{16});
     EXPECT_EQ(gamePositions()[14], Position{30});
     EXPECT_EQ(gamePositions()[15], Position{47});
     EXPECT_EQ(gamePositions()[59], Position{123});
     EXPECT_EQ(gamePositions().back(), Position{126});
-    for (int game = 0; game < kGames; ++game)
-        EXPECT_EQ(gameOf(gamePositions()[static_cast<std::size_t>(game)]), game);
+    for (int game = 0; game < kGames; ++game) {
+        EXPECT_EQ(gameOf(gamePositions()[static_cast<std::size_t>(game)]), Game{game});
+        EXPECT_EQ(gameOf(positionOf(Game{game})), Game{game});
+    }
+}
+
+TEST(GamePositions, AreWhereTheWinnersAre)
+{
+    EXPECT_EQ(positionOf(Game{0}), Position{16});
+    EXPECT_EQ(positionOf(Game{15}), Position{47});
+    EXPECT_EQ(positionOf(Game{60}), kSemifinalA);
+    EXPECT_EQ(positionOf(Game{61}), kSemifinalB);
+    EXPECT_EQ(positionOf(Game{62}), kChampion);
 }
 
 TEST(GamePositions, LeaveOutTheFirstRoundRows)
 {
-    EXPECT_EQ(gameOf(Position{0}), -1);
-    EXPECT_EQ(gameOf(Position{46}), -1);
+    EXPECT_EQ(gameOf(Position{0}), std::nullopt);
+    EXPECT_EQ(gameOf(Position{46}), std::nullopt);
+}
+
+TEST(GameOfColumn, CountsFromTheTopOfItsRegionAndRound)
+{
+    EXPECT_EQ(gameOfColumn(Position{16}), 0);
+    EXPECT_EQ(gameOfColumn(Position{23}), 7);
+    EXPECT_EQ(gameOfColumn(Position{24}), 0);
+    EXPECT_EQ(gameOfColumn(Position{31 + 27}), 3);
+    EXPECT_EQ(gameOfColumn(Position{31 + 29}), 1);
+    EXPECT_EQ(gameOfColumn(Position{123}), 0);
+    EXPECT_EQ(gameOfColumn(kSemifinalA), 0);
+    EXPECT_EQ(gameOfColumn(kSemifinalB), 1);
+    EXPECT_EQ(gameOfColumn(kChampion), 0);
+}
+
+TEST(IndexedBy, HasAValueOfItsOwnForEachPlace)
+{
+    ByPosition<int> values;
+    ByPosition<int> others;
+    values[kChampion] = 7;
+    EXPECT_EQ(values[kSemifinalB], 0);
+    EXPECT_EQ(values.values.size(), 127u);
+    EXPECT_NE(values, others);
+    others[kChampion] = 7;
+    EXPECT_EQ(values, others);
 }
 
 } // namespace

@@ -1,132 +1,151 @@
 // tests/pool/projection_test.cpp - what must be known before a projection, and what is projected.
 #include "pool/projection.h"
 
-#include "reports/report_pool.h"
-
 #include <gtest/gtest.h>
 
-namespace tallyhoop::test {
+namespace tallyhoop {
 namespace {
-
-const FinalFour kFour{"", "CEDAR RAPIDS", "OLD HARBOR", "PINE BLUFF", "SALT LAKE"};
-
-std::array<std::string, 3> finalsOf(const std::optional<SelectionLines>& lines)
-{
-    return lines ? std::array{(*lines)[125], (*lines)[126], (*lines)[127]} : std::array<std::string, 3>{"-", "-", "-"};
-}
 
 using Finals = std::array<std::string, 3>;
 
-TEST(ChkFinalFour, TakesTheRegionWinnersInOrder)
-{
-    FinalFour found;
+const FinalFour kFour{"CEDAR RAPIDS", "OLD HARBOR", "PINE BLUFF", "SALT LAKE"};
 
-    EXPECT_EQ(ChkFinalFour(fourPlayersResults().lines, found), FinalFourState::Known);
-    EXPECT_EQ(found, kFour);
+/// The Final Four is known and still to be played.
+Bracket finalFourResults()
+{
+    Bracket results;
+    results.put(Position{30}, "CEDAR RAPIDS");
+    results.put(Position{61}, "OLD HARBOR");
+    results.put(Position{92}, "PINE BLUFF");
+    results.put(Position{123}, "SALT LAKE");
+    return results;
 }
 
-TEST(ChkFinalFour, RefusesWhileAnyRegionWinnerIsMissing)
+Finals finalsOf(const std::optional<Bracket>& projected)
 {
-    for (const std::size_t line : {31u, 62u, 93u, 124u}) {
-        SelectionLines results = fourPlayersResults().lines;
-        results[line].clear();
-        FinalFour found;
-        EXPECT_EQ(ChkFinalFour(results, found), FinalFourState::Incomplete) << line;
+    if (!projected)
+        return {"-", "-", "-"};
+    return {projected->at(Position{124}), projected->at(Position{125}), projected->at(Position{126})};
+}
+
+TEST(FinalFourOf, IsTheRegionWinnersInOrder)
+{
+    EXPECT_EQ(finalFourState(finalFourResults()), FinalFourState::Known);
+    EXPECT_EQ(finalFourOf(finalFourResults()), kFour);
+}
+
+TEST(FinalFourOf, HasEmptyTextsForThoseThatAreMissing)
+{
+    Bracket results = finalFourResults();
+    results.clear(Position{61});
+    EXPECT_EQ(finalFourOf(results), (FinalFour{"CEDAR RAPIDS", "", "PINE BLUFF", "SALT LAKE"}));
+}
+
+TEST(FinalFourState, IsIncompleteWhileAnyRegionWinnerIsMissing)
+{
+    for (const int winner : {30, 61, 92, 123}) {
+        Bracket results = finalFourResults();
+        results.clear(Position{winner});
+        EXPECT_EQ(finalFourState(results), FinalFourState::Incomplete) << winner;
     }
 }
 
-TEST(ChkFinalFour, RefusesOnceTheChampionIsKnown)
+TEST(FinalFourState, LeavesNothingToProjectOnceTheChampionIsKnown)
 {
-    SelectionLines results = fourPlayersResults().lines;
-    results[127] = "SALT LAKE";
-    FinalFour found;
-
-    EXPECT_EQ(ChkFinalFour(results, found), FinalFourState::ChampionKnown);
+    Bracket results = finalFourResults();
+    results.put(kChampion, "SALT LAKE");
+    EXPECT_EQ(finalFourState(results), FinalFourState::ChampionKnown);
 }
 
-TEST(ChkFinalFour, LooksForTheRegionWinnersBeforeTheChampion)
+TEST(FinalFourState, LooksForTheRegionWinnersBeforeTheChampion)
 {
-    SelectionLines results = fourPlayersResults().lines;
-    results[124].clear();
-    results[127] = "SALT LAKE";
-    FinalFour found;
-
-    EXPECT_EQ(ChkFinalFour(results, found), FinalFourState::Incomplete);
+    Bracket results = finalFourResults();
+    results.clear(Position{123});
+    results.put(kChampion, "SALT LAKE");
+    EXPECT_EQ(finalFourState(results), FinalFourState::Incomplete);
 }
 
 TEST(ProjectWinner, PutsTheTeamIntoItsSemifinalAndTheFinal)
 {
-    const SelectionLines results = fourPlayersResults().lines;
-
-    EXPECT_EQ(finalsOf(ProjectWinner(results, kFour, 1, FinalOpponent::Open)),
+    const Bracket results = finalFourResults();
+    EXPECT_EQ(finalsOf(projectWinner(results, "CEDAR RAPIDS", FinalOpponent::Open)),
               (Finals{"CEDAR RAPIDS", "", "CEDAR RAPIDS"}));
-    EXPECT_EQ(finalsOf(ProjectWinner(results, kFour, 4, FinalOpponent::Open)), (Finals{"", "SALT LAKE", "SALT LAKE"}));
+    EXPECT_EQ(finalsOf(projectWinner(results, "SALT LAKE", FinalOpponent::Open)),
+              (Finals{"", "SALT LAKE", "SALT LAKE"}));
 }
 
 TEST(ProjectWinner, LetsTheTeamMeetEitherTeamOfTheOtherHalf)
 {
-    const SelectionLines results = fourPlayersResults().lines;
-
-    EXPECT_EQ(finalsOf(ProjectWinner(results, kFour, 2, FinalOpponent::First)),
+    const Bracket results = finalFourResults();
+    EXPECT_EQ(finalsOf(projectWinner(results, "OLD HARBOR", FinalOpponent::First)),
               (Finals{"OLD HARBOR", "PINE BLUFF", "OLD HARBOR"}));
-    EXPECT_EQ(finalsOf(ProjectWinner(results, kFour, 2, FinalOpponent::Second)),
+    EXPECT_EQ(finalsOf(projectWinner(results, "OLD HARBOR", FinalOpponent::Second)),
               (Finals{"OLD HARBOR", "SALT LAKE", "OLD HARBOR"}));
-    EXPECT_EQ(finalsOf(ProjectWinner(results, kFour, 3, FinalOpponent::First)),
+    EXPECT_EQ(finalsOf(projectWinner(results, "PINE BLUFF", FinalOpponent::First)),
               (Finals{"CEDAR RAPIDS", "PINE BLUFF", "PINE BLUFF"}));
-    EXPECT_EQ(finalsOf(ProjectWinner(results, kFour, 3, FinalOpponent::Second)),
+    EXPECT_EQ(finalsOf(projectWinner(results, "PINE BLUFF", FinalOpponent::Second)),
               (Finals{"OLD HARBOR", "PINE BLUFF", "PINE BLUFF"}));
 }
 
 TEST(ProjectWinner, FailsForATeamThatLostItsSemifinal)
 {
-    SelectionLines results = fourPlayersResults().lines;
-    results[125] = "OLD HARBOR";
-
+    Bracket results = finalFourResults();
+    results.put(kSemifinalA, "OLD HARBOR");
     for (const FinalOpponent opponent : {FinalOpponent::Open, FinalOpponent::First, FinalOpponent::Second})
-        EXPECT_FALSE(ProjectWinner(results, kFour, 1, opponent));
-    EXPECT_TRUE(ProjectWinner(results, kFour, 2, FinalOpponent::Open));
+        EXPECT_FALSE(projectWinner(results, "CEDAR RAPIDS", opponent));
+    EXPECT_TRUE(projectWinner(results, "OLD HARBOR", FinalOpponent::Open));
 }
 
 TEST(ProjectWinner, FailsForAnOpponentThatLostItsSemifinal)
 {
-    SelectionLines results = fourPlayersResults().lines;
-    results[126] = "SALT LAKE";
-
-    EXPECT_FALSE(ProjectWinner(results, kFour, 1, FinalOpponent::First));
-    EXPECT_EQ(finalsOf(ProjectWinner(results, kFour, 1, FinalOpponent::Second)),
+    Bracket results = finalFourResults();
+    results.put(kSemifinalB, "SALT LAKE");
+    EXPECT_FALSE(projectWinner(results, "CEDAR RAPIDS", FinalOpponent::First));
+    EXPECT_EQ(finalsOf(projectWinner(results, "CEDAR RAPIDS", FinalOpponent::Second)),
               (Finals{"CEDAR RAPIDS", "SALT LAKE", "CEDAR RAPIDS"}));
 }
 
 TEST(ProjectWinner, LeavesTheOtherSemifinalAsItIsWhenTheOpponentStaysOpen)
 {
-    SelectionLines results = fourPlayersResults().lines;
-    results[126] = "SALT LAKE";
-
-    EXPECT_EQ(finalsOf(ProjectWinner(results, kFour, 1, FinalOpponent::Open)),
+    Bracket results = finalFourResults();
+    results.put(kSemifinalB, "SALT LAKE");
+    EXPECT_EQ(finalsOf(projectWinner(results, "CEDAR RAPIDS", FinalOpponent::Open)),
               (Finals{"CEDAR RAPIDS", "SALT LAKE", "CEDAR RAPIDS"}));
+}
+
+TEST(ProjectWinner, FailsForATeamThatWonNoRegion)
+{
+    EXPECT_FALSE(projectWinner(finalFourResults(), "GREEN RIVER", FinalOpponent::Open));
 }
 
 TEST(ProjectWinner, StartsFromTheRealResultsEveryTime)
 {
-    const SelectionLines results = fourPlayersResults().lines;
-    const SelectionLines before = results;
-
-    EXPECT_TRUE(ProjectWinner(results, kFour, 1, FinalOpponent::First));
-
-    EXPECT_EQ(results, before);
+    const Bracket results = finalFourResults();
+    EXPECT_TRUE(projectWinner(results, "CEDAR RAPIDS", FinalOpponent::First));
+    EXPECT_EQ(results, finalFourResults());
 }
 
 TEST(ProjectWinner, LetsANameSharedByTwoRegionsWinTheFinalItHasReachedInTheOtherHalf)
 {
-    SelectionLines results = fourPlayersResults().lines;
-    results[31] = results[93] = "TIGERS"; // looked up in the first half, which it has lost; it stands in the second
-    results[125] = "OLD HARBOR";
-    results[126] = "TIGERS";
-    const FinalFour four{"", "TIGERS", "OLD HARBOR", "TIGERS", "SALT LAKE"};
-
-    EXPECT_EQ(finalsOf(ProjectWinner(results, four, 3, FinalOpponent::First)),
+    Bracket results = finalFourResults();
+    results.put(Position{30}, "TIGERS"); // looked up in the first half, which it has lost; it has won the second
+    results.put(Position{92}, "TIGERS");
+    results.put(kSemifinalA, "OLD HARBOR");
+    results.put(kSemifinalB, "TIGERS");
+    EXPECT_EQ(finalsOf(projectWinner(results, "TIGERS", FinalOpponent::First)),
               (Finals{"OLD HARBOR", "TIGERS", "TIGERS"}));
 }
 
+TEST(FinalOpponentOf, IsTheWinnerOfTheOtherHalf)
+{
+    const Bracket upper = *projectWinner(finalFourResults(), "OLD HARBOR", FinalOpponent::Second);
+    EXPECT_EQ(finalOpponent(upper, 0), "SALT LAKE");
+    EXPECT_EQ(finalOpponent(upper, 1), "SALT LAKE");
+    const Bracket lower = *projectWinner(finalFourResults(), "SALT LAKE", FinalOpponent::First);
+    EXPECT_EQ(finalOpponent(lower, 2), "CEDAR RAPIDS");
+    EXPECT_EQ(finalOpponent(lower, 3), "CEDAR RAPIDS");
+    EXPECT_EQ(finalOpponent(finalFourResults(), 0), "") << "still open";
+}
+
 } // namespace
-} // namespace tallyhoop::test
+} // namespace tallyhoop

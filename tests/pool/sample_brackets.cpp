@@ -1,74 +1,78 @@
-// tests/pool/sample_brackets.cpp - the shape of the bracket written down once more, independently of the program.
+// tests/pool/sample_brackets.cpp - the bracket's shape by its own arithmetic, independently of the program.
 #include "pool/sample_brackets.h"
 
 namespace tallyhoop::test {
 
 namespace {
 
+constexpr int kPlaces = 127;
+
 template <class Choose>
-SelectionLines played(Choose choose)
+Bracket played(Choose choose)
 {
-    SelectionLines lines = startingField();
-    for (int slot = 1; slot <= 127; ++slot)
-        if (roundOfSlot(slot) > 0)
-            lines.at(static_cast<std::size_t>(slot)) = lines.at(static_cast<std::size_t>(choose(entrantsOf(slot))));
-    return lines;
+    Bracket bracket = startingField();
+    for (int place = 0; place < kPlaces; ++place)
+        if (roundAt(Position{place}) > 0)
+            bracket.copy(choose(entrantsOf(Position{place})), Position{place});
+    return bracket;
 }
 
 } // namespace
 
-SelectionLines startingField()
+Bracket startingField()
 {
-    SelectionLines lines;
+    ByPosition<std::string> names;
+    ByPosition<std::string_view> teams;
     int team = 0;
-    for (int slot = 1; slot <= 124; ++slot)
-        if (roundOfSlot(slot) == 0)
-            lines.at(static_cast<std::size_t>(slot)) = "Team " + std::to_string(++team);
-    lines[selection_line::kEnd] = kEndMarker;
-    return lines;
+    for (int place = 0; place < kPlaces; ++place)
+        if (roundAt(Position{place}) == 0)
+            teams[Position{place}] = names[Position{place}] = "Team " + std::to_string(++team);
+    return Bracket::of(teams);
 }
 
-SelectionLines everyUpperTeamWins()
+Bracket everyUpperTeamWins()
 {
     return played([](Entrants entrants) { return entrants.upper; });
 }
 
-SelectionLines everyLowerTeamWins()
+Bracket everyLowerTeamWins()
 {
     return played([](Entrants entrants) { return entrants.lower; });
 }
 
-SelectionLines without(SelectionLines lines, int firstSlot, int lastSlot)
+Bracket without(Bracket bracket, int firstPosition, int lastPosition)
 {
-    for (int slot = firstSlot; slot <= lastSlot; ++slot)
-        if (roundOfSlot(slot) > 0)
-            lines.at(static_cast<std::size_t>(slot)).clear();
-    return lines;
+    for (int place = firstPosition; place <= lastPosition; ++place)
+        if (roundAt(Position{place}) > 0)
+            bracket.clear(Position{place});
+    return bracket;
 }
 
-Entrants entrantsOf(int slot)
+Entrants entrantsOf(Position game)
 {
-    switch (slot) {
+    const int place = static_cast<int>(game);
+    switch (place) {
+    case 124:
+        return {Position{30}, Position{61}};
     case 125:
-        return {31, 62};
+        return {Position{92}, Position{123}};
     case 126:
-        return {93, 124};
-    case 127:
-        return {125, 126};
+        return {Position{124}, Position{125}};
     default:
         break;
     }
-    const int base = (slot - 1) / 31 * 31;
-    const int game = slot - base - 16; // 1..15
-    return {base + 2 * game - 1, base + 2 * game};
+    const int base = place / 31 * 31;
+    const int gameOfRegion = place - base - 16; // 0..14
+    return {Position{base + 2 * gameOfRegion}, Position{base + 2 * gameOfRegion + 1}};
 }
 
-int roundOfSlot(int slot)
+int roundAt(Position position)
 {
-    if (slot >= 125)
-        return slot == 127 ? 6 : 5;
-    const int line = (slot - 1) % 31 + 1;
-    return line <= 16 ? 0 : line <= 24 ? 1 : line <= 28 ? 2 : line <= 30 ? 3 : 4;
+    const int place = static_cast<int>(position);
+    if (place >= 124)
+        return place == 126 ? 6 : 5;
+    const int offset = place % 31;
+    return offset < 16 ? 0 : offset < 24 ? 1 : offset < 28 ? 2 : offset < 30 ? 3 : 4;
 }
 
 } // namespace tallyhoop::test

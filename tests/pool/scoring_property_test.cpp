@@ -9,8 +9,15 @@
 namespace tallyhoop {
 namespace {
 
-using test::entrantsOf;
-using test::roundOfSlot;
+constexpr Payoffs kUsual{1, 2, 4, 8, 12, 16};
+
+ByPosition<std::string_view> teamsOf(const Bracket& bracket)
+{
+    ByPosition<std::string_view> teams;
+    for (const Position position : allPositions())
+        teams[position] = bracket.at(position);
+    return teams;
+}
 
 /// Makes brackets as people fill them in, and damages some of them.
 class RandomBrackets
@@ -19,35 +26,35 @@ public:
     explicit RandomBrackets(unsigned seed) : m_random{seed} {}
 
     /// @param playedPercent how many of the games whose two teams are known get a winner
-    SelectionLines bracket(unsigned playedPercent)
+    Bracket bracket(unsigned playedPercent)
     {
-        SelectionLines lines = test::startingField();
-        for (int slot = 1; slot <= 127; ++slot)
-            if (roundOfSlot(slot) > 0 && chance(playedPercent)) {
-                const auto [upper, lower] = entrantsOf(slot);
-                line(lines, slot) = line(lines, chance(50) ? upper : lower);
+        Bracket bracket = test::startingField();
+        for (const Position position : allPositions())
+            if (test::roundAt(position) > 0 && chance(playedPercent)) {
+                const auto [upper, lower] = test::entrantsOf(position);
+                bracket.copy(chance(50) ? upper : lower, position);
             }
-        return lines;
+        return bracket;
     }
 
-    /// Puts strange things on some lines: nothing, a team from elsewhere, another spelling, an unknown name.
-    void damage(SelectionLines& lines, unsigned percent)
+    /// Puts strange things on some places: nothing, a team from elsewhere, another spelling, an unknown name.
+    void damage(Bracket& bracket, unsigned percent)
     {
-        for (int slot = 1; slot <= 127; ++slot) {
+        for (const Position position : allPositions()) {
             if (!chance(percent))
                 continue;
             switch (m_random() % 4) {
             case 0:
-                line(lines, slot).clear();
+                bracket.clear(position);
                 break;
             case 1:
-                line(lines, slot) = "Team " + std::to_string(m_random() % 64 + 1);
+                bracket.put(position, "Team " + std::to_string(m_random() % 64 + 1));
                 break;
             case 2:
-                line(lines, slot) = "team 1";
+                bracket.put(position, "team 1");
                 break;
             default:
-                line(lines, slot) = "Nobody " + std::to_string(m_random() % 5);
+                bracket.put(position, "Nobody " + std::to_string(m_random() % 5));
                 break;
             }
         }
@@ -63,72 +70,88 @@ public:
 
     unsigned percent() { return static_cast<unsigned>(m_random() % 101); }
 
+    /// @returns the same names on the same places, numbered in another order
+    Bracket renumbered(const Bracket& bracket)
+    {
+        ByPosition<std::string_view> shuffled = teamsOf(bracket);
+        std::shuffle(shuffled.values.begin(), shuffled.values.end(), m_random);
+        return Bracket::of(teamsOf(bracket), Bracket::of(shuffled));
+    }
+
 private:
     bool chance(unsigned percent) { return m_random() % 100 < percent; }
-    static std::string& line(SelectionLines& lines, int slot) { return lines.at(static_cast<std::size_t>(slot)); }
 
     std::mt19937 m_random;
 };
 
-void expectSameScore(const SelectionLines& picks, const SelectionLines& results, const Payoffs& payoffs)
+void expectSameScore(const Bracket& picks, const Bracket& results, const Payoffs& payoffs)
 {
-    const ScoredPicks scored = Scoring{results, payoffs}.score(picks);
-    const ScoredPicks expected = test::scoreNaively(picks, results, payoffs);
+    const Score scored = score(picks, results, payoffs);
+    const Score expected = test::scoreNaively(picks, results, payoffs);
     ASSERT_EQ(scored.points, expected.points);
     ASSERT_EQ(scored.possible, expected.possible);
     ASSERT_EQ(scored.goodPicks, expected.goodPicks);
     ASSERT_EQ(scored.badPicks, expected.badPicks);
-    ASSERT_EQ(scored.verdict.SlotStatus, expected.verdict.SlotStatus);
-    ASSERT_EQ(scored.verdict.EliminatedTeams, expected.verdict.EliminatedTeams);
+    ASSERT_EQ(scored.verdicts, expected.verdicts);
 }
 
-TEST(ScorePicksProperty, AgreesWithTheNaiveScorerOnBracketsAsPeopleFillThemIn)
+/// The same whatever tables the two have their names in.
+void expectSameScoreWithEveryTable(RandomBrackets& brackets, const Bracket& picks, const Bracket& results)
+{
+    const Payoffs payoffs = brackets.payoffs();
+    expectSameScore(picks, results, payoffs);
+    expectSameScore(Bracket::of(teamsOf(picks), results), results, payoffs);
+    expectSameScore(brackets.renumbered(picks), results, payoffs);
+}
+
+TEST(ScoreProperty, AgreesWithTheNaiveScorerOnBracketsAsPeopleFillThemIn)
 {
     RandomBrackets brackets{64};
     for (int round = 0; round < 1500; ++round) {
-        const SelectionLines results = brackets.bracket(brackets.percent());
-        const SelectionLines picks = brackets.bracket(round % 3 == 0 ? 90 : 100);
-        ASSERT_NO_FATAL_FAILURE(expectSameScore(picks, results, brackets.payoffs())) << "round " << round;
+        const Bracket results = brackets.bracket(brackets.percent());
+        const Bracket picks = brackets.bracket(round % 3 == 0 ? 90 : 100);
+        ASSERT_NO_FATAL_FAILURE(expectSameScoreWithEveryTable(brackets, picks, results)) << "round " << round;
     }
 }
 
-TEST(ScorePicksProperty, AgreesWithTheNaiveScorerOnDamagedBrackets)
+TEST(ScoreProperty, AgreesWithTheNaiveScorerOnDamagedBrackets)
 {
     RandomBrackets brackets{63};
     for (int round = 0; round < 1500; ++round) {
-        SelectionLines results = brackets.bracket(brackets.percent());
-        SelectionLines picks = brackets.bracket(95);
+        Bracket results = brackets.bracket(brackets.percent());
+        Bracket picks = brackets.bracket(95);
         brackets.damage(picks, brackets.percent());
         if (round % 2 == 0)
             brackets.damage(results, brackets.percent() / 4);
-        ASSERT_NO_FATAL_FAILURE(expectSameScore(picks, results, brackets.payoffs())) << "round " << round;
+        ASSERT_NO_FATAL_FAILURE(expectSameScoreWithEveryTable(brackets, picks, results)) << "round " << round;
     }
 }
 
-TEST(ScorePicksProperty, AgreesWithTheNaiveScorerOnEveryStageOfATournament)
+TEST(ScoreProperty, AgreesWithTheNaiveScorerOnEveryStageOfATournament)
 {
-    const SelectionLines results = test::everyLowerTeamWins();
+    const Bracket results = test::everyLowerTeamWins();
     RandomBrackets brackets{127};
-    for (int firstOpen = 1; firstOpen <= 128; ++firstOpen) {
-        const SelectionLines picks = brackets.bracket(100);
-        ASSERT_NO_FATAL_FAILURE(expectSameScore(picks, test::without(results, firstOpen, 127), {1, 2, 4, 8, 12, 16}));
+    for (int firstOpen = 0; firstOpen <= 127; ++firstOpen) {
+        const Bracket picks = brackets.bracket(100);
+        ASSERT_NO_FATAL_FAILURE(expectSameScore(picks, test::without(results, firstOpen, 126), kUsual));
     }
 }
 
-TEST(ScorePicksProperty, TellsAsManyNamesApartAsTwoBracketsCanHold)
+TEST(ScoreProperty, TellsAsManyNamesApartAsTwoBracketsCanHold)
 {
-    SelectionLines picks;
-    SelectionLines results;
-    for (std::size_t slot = 1; slot <= 127; ++slot) {
-        picks.at(slot) = "pick " + std::to_string(slot);
-        results.at(slot) = "result " + std::to_string(slot);
+    Bracket picks;
+    Bracket results;
+    for (const Position position : allPositions()) {
+        picks.put(position, "pick " + std::to_string(index(position)));
+        results.put(position, "result " + std::to_string(index(position)));
     }
-    picks[0] = "result 1"; // line 0 is no place of a bracket
-    const ScoredPicks scored = Scoring{results, {1, 2, 4, 8, 12, 16}}.score(picks);
-    EXPECT_EQ(scored.badPicks, 127);
-    EXPECT_EQ(scored.verdict.EliminatedTeams.size(), 127u);
-    EXPECT_EQ(scored.verdict.EliminatedTeams.front(), "pick 1");
-    EXPECT_EQ(scored.verdict.EliminatedTeams.back(), "pick 127");
+    EXPECT_EQ(score(picks, results, kUsual).badPicks, 127);
+    EXPECT_EQ(score(picks, results, kUsual).goodPicks, 0);
+    expectSameScore(picks, results, kUsual);
+
+    picks.put(kChampion, "result 126");
+    EXPECT_EQ(score(picks, results, kUsual).badPicks, 126);
+    EXPECT_EQ(score(picks, results, kUsual).points, 16);
 }
 
 } // namespace

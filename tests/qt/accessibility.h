@@ -1,4 +1,4 @@
-// tests/qt/accessibility.h - by day and by night: the colours in which every window is looked at.
+// tests/qt/accessibility.h - the light and the dark colours in which every window is checked.
 #pragma once
 
 #include "qt/screen_walk.h"
@@ -10,9 +10,9 @@
 
 namespace tallyhoop::qt {
 
-enum class Light { Day, Night };
+enum class ColourScheme { Light, Dark };
 
-/// As desktops have it at night.
+/// A dark palette as desktops have it.
 inline QPalette darkPalette()
 {
     QPalette palette{QColor{0x31, 0x36, 0x3b}, QColor{0x2a, 0x2e, 0x32}};
@@ -27,23 +27,23 @@ inline QPalette darkPalette()
     return palette;
 }
 
-/// Puts the application into this light for as long as it lives.
-class Lit
+/// Gives the application these colours while the object exists.
+class UsedColours
 {
 public:
-    explicit Lit(Light light)
+    explicit UsedColours(ColourScheme colours)
     {
         QApplication::setStyle(new Style);
-        if (light == Light::Day) {
+        if (colours == ColourScheme::Light) {
             QApplication::setPalette(Style::calmPalette());
             return;
         }
-        // Mended as the program does it when it starts.
-        QApplication::setPalette(Style::mendedRoles(darkPalette()).resolve(darkPalette()));
+        // Corrected as the program does it when it starts.
+        QApplication::setPalette(Style::readableRoles(darkPalette()).resolve(darkPalette()));
     }
-    ~Lit() { QApplication::setPalette(m_before); }
-    Lit(const Lit&) = delete;
-    Lit& operator=(const Lit&) = delete;
+    ~UsedColours() { QApplication::setPalette(m_before); }
+    UsedColours(const UsedColours&) = delete;
+    UsedColours& operator=(const UsedColours&) = delete;
 
 private:
     const QPalette m_before = QApplication::palette();
@@ -51,9 +51,9 @@ private:
 
 inline std::string troublesOf(QWidget& window) { return ScreenWalk{window}.troubles().join('\n').toStdString(); }
 
-inline std::string lightName(const testing::TestParamInfo<Light>& light)
+inline std::string colourName(const testing::TestParamInfo<ColourScheme>& colours)
 {
-    return light.param == Light::Day ? "Light" : "Dark";
+    return colours.param == ColourScheme::Light ? "Light" : "Dark";
 }
 
 } // namespace tallyhoop::qt

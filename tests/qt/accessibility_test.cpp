@@ -1,8 +1,10 @@
-// tests/qt/accessibility_test.cpp - every screen, for those who listen to it, use the keyboard, or need it large.
+// tests/qt/accessibility_test.cpp - checks every screen for screen readers, keyboard users and large letters.
 #include "app/wiring.h"
 #include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
+#include "files/file_names.h"
+#include "files/selection_file.h"
 #include "qt/accessibility.h"
 #include "qt/main_frame.h"
 #include "qt/screen_host.h"
@@ -21,19 +23,19 @@ namespace tallyhoop::qt {
 namespace {
 
 /// The program on a small display with the sample pool.
-class Accessibility : public testing::TestWithParam<Light>
+class Accessibility : public testing::TestWithParam<ColourScheme>
 {
 protected:
     Accessibility()
     {
         EXPECT_TRUE(demo::installSamplePool(folder));
-        registerScreens(host, folder, platform.services, state);
+        registerScreens(host, folder, platform.services, shared);
         frame.resize(1366, 768 - kDesktop);
         frame.show();
         host.load(ScreenKind::Board);
     }
 
-    /// Fails for whatever is wrong with this screen as it is now.
+    /// Fails for everything that is wrong with this screen as it is now.
     void examine(ScreenKind kind)
     {
         desk.push();
@@ -47,7 +49,7 @@ protected:
         EXPECT_EQ(unexplained(*page), "");
     }
 
-    /// What the keyboard reaches or a menu holds, and the line at the bottom says nothing about.
+    /// @returns controls that the keyboard reaches, and menu entries, for which the status line has no explanation
     static std::string unexplained(const Page& page)
     {
         std::string names;
@@ -66,7 +68,7 @@ protected:
     void examineModal(ScreenKind kind)
     {
         QTimer::singleShot(0, qApp, [&] {
-            host.page(kind)->window()->resize(1000, 700); // the offscreen display is smaller than any meant here
+            host.page(kind)->window()->resize(1000, 700); // the offscreen display is smaller than any real one
             examine(kind);
             desk.runInside(*host.screen(kind), [&] { host.unload(kind); });
         });
@@ -80,11 +82,11 @@ protected:
 
     static constexpr int kDesktop = 60; ///< a title bar and a panel
 
-    Lit lit{GetParam()};
+    UsedColours colours{GetParam()};
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     test::FakePlatform platform;
-    modTallyhoop state;
+    SharedValues shared;
     MainFrame frame;
     Desk desk{&frame};
     ScreenHost host{desk, frame};
@@ -96,46 +98,47 @@ TEST_P(Accessibility, OfTheBoard) { examine(ScreenKind::Board); }
 
 TEST_P(Accessibility, OfAScoredSelection)
 {
-    onBoard([&] {
-        board().showSelection(scratch.path() / "Demo Prophet_DP.THC");
-        board().ScoreSelections();
-    });
-    ASSERT_TRUE(board().marksShown());
+    onBoard([&] { board().showScored(scratch.path() / "Demo Prophet_DP.THC"); });
+    ASSERT_TRUE(board().cmdDefaultColors.visible);
     examine(ScreenKind::Board);
-    EXPECT_EQ(host.page(ScreenKind::Board)->widgetOf(board().lblRegion[16])->palette().color(QPalette::WindowText),
-              (QColor{0, 255, 0}));
-    EXPECT_EQ(host.page(ScreenKind::Board)->widgetOf(board().lblRegion[18])->palette().color(QPalette::WindowText),
-              (QColor{255, 0, 0}));
+    EXPECT_EQ(
+        host.page(ScreenKind::Board)->widgetOf(board().lblRegion[Position{16}])->palette().color(QPalette::WindowText),
+        (QColor{0, 255, 0}));
+    EXPECT_EQ(
+        host.page(ScreenKind::Board)->widgetOf(board().lblRegion[Position{18}])->palette().color(QPalette::WindowText),
+        (QColor{255, 0, 0}));
 }
 
 TEST_P(Accessibility, OfTheLongestNamesOfTheList)
 {
     // Given the longest names that come with the program, in the narrowest places: winners with their marks.
-    onBoard([&] {
-        constexpr std::array kLongest{"UT Rio Grande Valley", "Missouri-Kansas City", "Fairleigh Dickinson",
-                                      "Charleston Southern"};
-        for (std::size_t i = 0; i < board().lblRegion.size(); ++i)
-            board().lblRegion[i].text = kLongest[i % kLongest.size()];
-        for (std::size_t i = 0; i < board().lblResult.size(); ++i) {
-            board().lblResult[i].text = "X";
-            board().lblResult[i].spokenName = "X wrong pick";
-        }
-    });
+    constexpr std::array kLongest{"UT Rio Grande Valley", "Missouri-Kansas City", "Fairleigh Dickinson",
+                                  "Charleston Southern"};
+    Entry picks;
+    Entry results;
+    for (const Position position : allPositions()) {
+        picks.picks.put(position, kLongest.at(static_cast<std::size_t>(index(position)) % kLongest.size()));
+        results.picks.put(position, "Nobody");
+    }
+    scratch.put(file_name::kResults, selectionFile(results));
+    const std::filesystem::path file = scratch.put("Longest.THC", selectionFile(picks));
+    onBoard([&] { board().showScored(file); });
+    ASSERT_EQ(board().lblResult[Game{62}].text, "X");
     examine(ScreenKind::Board);
 }
 
 TEST_P(Accessibility, OfTheScores)
 {
     onBoard([&] {
-        board().EnterGameResults();
-        board().ScoreSelections();
+        board().enterGameResults();
+        board().mnuScoreSelections.click();
     });
-    auto* const scores = host.find<ScoresScreen>(ScreenKind::ScoreDisplay);
+    auto* const scores = host.find<ScoresScreen>(ScreenKind::Scores);
     ASSERT_NE(scores, nullptr);
     desk.runInside(*scores, [&] { scores->cmdOk.click(); });
     ASSERT_EQ(scores->msgScoreDisplay.rows.size(), 4U);
-    host.page(ScreenKind::ScoreDisplay)->window()->resize(840, 420); // as on a display that has room for it
-    examine(ScreenKind::ScoreDisplay);
+    host.page(ScreenKind::Scores)->window()->resize(840, 420); // as on a display that has room for it
+    examine(ScreenKind::Scores);
     examine(ScreenKind::Board);
 }
 
@@ -148,7 +151,7 @@ TEST_P(Accessibility, OfTheReports)
 TEST_P(Accessibility, OfThePlayerList)
 {
     onBoard([&] { board().mnuEditNames.click(); });
-    examine(ScreenKind::PlayerNames);
+    examine(ScreenKind::Players);
 }
 
 TEST_P(Accessibility, OfTheSetup)
@@ -160,10 +163,10 @@ TEST_P(Accessibility, OfTheSetup)
 TEST_P(Accessibility, OfTheSeedPositions)
 {
     onBoard([&] { board().mnuSetupOptions.click(); });
-    examineModal(ScreenKind::SeedPositions);
+    examineModal(ScreenKind::Seeds);
 }
 
-TEST_P(Accessibility, OfTheMail) { examineModal(ScreenKind::EMail); }
+TEST_P(Accessibility, OfTheMail) { examineModal(ScreenKind::Email); }
 
 TEST_P(Accessibility, OfAPlaceThatAnAssistiveToolPresses)
 {
@@ -182,8 +185,8 @@ TEST_P(Accessibility, OfAPlaceThatAnAssistiveToolPresses)
               "West, winner of first round, game 2: Wisconsin");
 }
 
-INSTANTIATE_TEST_SUITE_P(ByDayAndNight, Accessibility, testing::Values(Light::Day, Light::Night),
-                         [](const auto& light) { return lightName(light); });
+INSTANTIATE_TEST_SUITE_P(LightAndDark, Accessibility, testing::Values(ColourScheme::Light, ColourScheme::Dark),
+                         [](const auto& colours) { return colourName(colours); });
 
 } // namespace
 } // namespace tallyhoop::qt

@@ -1,5 +1,5 @@
-// tests/qt/accessibility_windows_test.cpp - the help, boxes and dialogs, for those who listen to them, use the
-// keyboard, or need them large.
+// tests/qt/accessibility_windows_test.cpp - checks the help, boxes and dialogs for screen readers, keyboard users and
+// large letters.
 #include "qt/accessibility.h"
 #include "qt/desk.h"
 #include "qt/main_frame.h"
@@ -17,7 +17,7 @@
 namespace tallyhoop::qt {
 namespace {
 
-class AccessibilityOfWindows : public testing::TestWithParam<Light>
+class AccessibilityOfWindows : public testing::TestWithParam<ColourScheme>
 {
 protected:
     AccessibilityOfWindows()
@@ -26,14 +26,14 @@ protected:
         frame.show();
     }
 
-    /// Walks through the next dialog that opens, and leaves it.
+    /// Walks through the next dialog that opens, and closes it.
     void examineNext()
     {
         QTimer::singleShot(0, qApp, [this] {
             auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
             ASSERT_NE(dialog, nullptr);
             QApplication::processEvents();
-            EXPECT_LE(dialog->minimumSizeHint().width(), 1366); // what is larger takes what the display has
+            EXPECT_LE(dialog->minimumSizeHint().width(), 1366); // larger dialogs take the size of the display
             EXPECT_LE(dialog->minimumSizeHint().height(), 708);
             EXPECT_EQ(troublesOf(*dialog), "");
             examined = true;
@@ -43,7 +43,7 @@ protected:
 
     ~AccessibilityOfWindows() override { EXPECT_TRUE(examined); }
 
-    Lit lit{GetParam()};
+    UsedColours colours{GetParam()};
     MainFrame frame;
     Desk desk{&frame};
     QtDialogs dialogs{desk};
@@ -100,8 +100,8 @@ TEST_P(AccessibilityOfWindows, ThePreview)
     printer.preview(ui::TextPrintout{"Report", {"one", "\f", "two"}, {"Courier New", 10}});
 }
 
-INSTANTIATE_TEST_SUITE_P(ByDayAndNight, AccessibilityOfWindows, testing::Values(Light::Day, Light::Night),
-                         [](const auto& light) { return lightName(light); });
+INSTANTIATE_TEST_SUITE_P(LightAndDark, AccessibilityOfWindows, testing::Values(ColourScheme::Light, ColourScheme::Dark),
+                         [](const auto& colours) { return colourName(colours); });
 
 } // namespace
 } // namespace tallyhoop::qt

@@ -1,4 +1,4 @@
-// tests/qt/asking.h - a person in front of dialogs, who does something with the next one.
+// tests/qt/asking.h - acts on dialogs as a person does.
 #pragma once
 
 #include "qt/sample_screen.h"
@@ -11,7 +11,7 @@
 
 namespace tallyhoop::qt::test {
 
-/// Does something with the dialog that opens next.
+/// Acts on the dialog that opens next.
 template <class Kind>
 void withNext(const std::function<void(Kind&)>& act)
 {

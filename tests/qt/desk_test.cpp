@@ -173,7 +173,7 @@ TEST(Desk, AScreenMayUnloadItselfAndStillFinish)
     EXPECT_EQ(ends, (std::vector<std::string>{"page", "model"}));
 }
 
-TEST(Desk, ParkedScreensGoInTheOrderInWhichTheyWereUnloaded)
+TEST(Desk, ParkedScreensAreDestroyedInTheOrderInWhichTheyWereUnloaded)
 {
     std::vector<std::string> first;
     std::vector<std::string> second;

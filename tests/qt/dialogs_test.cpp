@@ -30,7 +30,7 @@ TEST(QtDialogs, AMessageShowsItsCaptionTextIconAndButtons)
               ui::Answer::Ok);
 }
 
-TEST(QtDialogs, F1ShowsTheTopicOfTheMessageOrOfTheScreenBehindIt)
+TEST(QtDialogs, F1ShowsTheTopicOfTheMessageOrOfTheScreenThatShowsIt)
 {
     class Topical : public SampleScreen
     {
@@ -88,7 +88,7 @@ TEST(QtDialogs, WithoutACaptionTheProgramsNameIsShown)
     asking.dialogs.show({"", "text"});
 }
 
-TEST(QtDialogs, AMessageStandsOnTheRunningScreensWindowAndShowsItAsItIs)
+TEST(QtDialogs, AMessageIsAChildOfTheRunningScreensWindowWhichShowsItsLatestState)
 {
     Asking asking;
     asking.screen.whenOk = [&] {
@@ -147,7 +147,7 @@ TEST(QtDialogs, TheAboutBoxNamesTheProgram)
     asking.dialogs.about();
 }
 
-TEST(QtPrinterDialogs, CancelIsTold)
+TEST(QtPrinterDialogs, CancelIsReported)
 {
     Shown shown;
     QtPrinter printer{shown.desk};

@@ -48,7 +48,7 @@ TEST(PaintDrawing, PaintsStrokesBoxesAndCaptionsInTheirPlaces)
     EXPECT_GT(darkPixels(image, {0, 140, 240, 40}), 50);
 }
 
-TEST(PaintDrawing, KeepsItsProportionsAndStandsInTheMiddle)
+TEST(PaintDrawing, KeepsItsProportionsAndIsCentred)
 {
     ui::Drawing drawing = sheet(100, 100);
     drawing.boxes.push_back({{0, 0, 100, 100}, {0, 0, 0}, {0, 0, 0}});

@@ -100,7 +100,7 @@ TEST(HelpViewer, OneWindowServesEveryCall)
     EXPECT_EQ(help.window(), first);
 }
 
-TEST(HelpViewer, AskedForInAModalDialogItCanBeReadThere)
+TEST(HelpViewer, OpenedFromAModalDialogItCanBeUsed)
 {
     Help help;
     ASSERT_TRUE(help.show());

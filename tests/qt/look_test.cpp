@@ -12,18 +12,18 @@ using namespace tallyhoop::qt;
 
 namespace {
 
-int paintedPixels(const QImage& image, const QColor& ink)
+int paintedPixels(const QImage& image, const QColor& colour)
 {
     int count = 0;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
-            count += image.pixelColor(x, y) == ink;
+            count += image.pixelColor(x, y) == colour;
     return count;
 }
 
 } // namespace
 
-TEST(Look, TextCanBeReadOnEveryGroundOfTheCalmPalette)
+TEST(Look, TextIsReadableOnEveryBackgroundOfTheCalmPalette)
 {
     const QPalette palette = Style::calmPalette();
     const std::vector<std::pair<QPalette::ColorRole, QPalette::ColorRole>> pairs{
@@ -32,63 +32,63 @@ TEST(Look, TextCanBeReadOnEveryGroundOfTheCalmPalette)
         {QPalette::HighlightedText, QPalette::Highlight}, {QPalette::PlaceholderText, QPalette::Window},
         {QPalette::PlaceholderText, QPalette::Base},      {QPalette::Link, QPalette::Base},
         {QPalette::ToolTipText, QPalette::ToolTipBase}};
-    for (const auto& [text, ground] : pairs)
-        EXPECT_GE(look::contrast(palette.color(text), palette.color(ground)), 4.5) << text << " on " << ground;
+    for (const auto& [text, background] : pairs)
+        EXPECT_GE(look::contrast(palette.color(text), palette.color(background)), 4.5) << text << " on " << background;
 }
 
-TEST(Look, WhatADarkDesktopDoesNotNameIsMadeVisible)
+TEST(Look, ColoursThatADarkDesktopDoesNotDefineAreMadeVisible)
 {
     QPalette dark{QColor{49, 54, 59}}; // its base is dark too
     dark.setColor(QPalette::WindowText, QColor{252, 252, 252});
     dark.setColor(QPalette::PlaceholderText, QColor{0, 0, 0, 128});
     dark.setColor(QPalette::Mid, QColor{40, 44, 48});
     dark.setColor(QPalette::Disabled, QPalette::Text, QColor{60, 64, 68});
-    const QPalette mended = Style::mendedRoles(dark);
-    const QColor ground = dark.color(QPalette::Window);
-    EXPECT_GE(look::contrast(mended.color(QPalette::PlaceholderText), ground), 4.5);
-    EXPECT_GE(look::contrast(mended.color(QPalette::Mid), ground), 1.5);
-    EXPECT_GE(look::contrast(mended.color(QPalette::Disabled, QPalette::Text), ground), 3);
-    EXPECT_GE(look::contrast(mended.color(QPalette::Link), dark.color(QPalette::Base)), 4.5) << "Qt's is deep blue";
-    EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::WindowText)) << "what is seen stays the platform's";
+    const QPalette readable = Style::readableRoles(dark);
+    const QColor background = dark.color(QPalette::Window);
+    EXPECT_GE(look::contrast(readable.color(QPalette::PlaceholderText), background), 4.5);
+    EXPECT_GE(look::contrast(readable.color(QPalette::Mid), background), 1.5);
+    EXPECT_GE(look::contrast(readable.color(QPalette::Disabled, QPalette::Text), background), 3);
+    EXPECT_GE(look::contrast(readable.color(QPalette::Link), dark.color(QPalette::Base)), 4.5) << "Qt's is deep blue";
+    EXPECT_FALSE(readable.isBrushSet(QPalette::Active, QPalette::WindowText)) << "readable colours stay the platform's";
 }
 
-TEST(Look, APaletteThatIsSeenNeedsNoMending)
+TEST(Look, AReadablePaletteIsLeftAlone)
 {
-    const QPalette mended = Style::mendedRoles(Style::calmPalette());
-    EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::PlaceholderText));
-    EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::Link));
-    EXPECT_FALSE(mended.isBrushSet(QPalette::Active, QPalette::Mid));
-    EXPECT_FALSE(mended.isBrushSet(QPalette::Disabled, QPalette::Text));
+    const QPalette readable = Style::readableRoles(Style::calmPalette());
+    EXPECT_FALSE(readable.isBrushSet(QPalette::Active, QPalette::PlaceholderText));
+    EXPECT_FALSE(readable.isBrushSet(QPalette::Active, QPalette::Link));
+    EXPECT_FALSE(readable.isBrushSet(QPalette::Active, QPalette::Mid));
+    EXPECT_FALSE(readable.isBrushSet(QPalette::Disabled, QPalette::Text));
 }
 
-TEST(Look, WhatTheDesktopTellsIsMendedEachTime)
+TEST(Look, ThePaletteOfTheDesktopIsCorrectedEachTime)
 {
     Style style;
-    QPalette night{QColor{49, 54, 59}};
-    night.setColor(QPalette::WindowText, QColor{252, 252, 252});
-    night.setColor(QPalette::Mid, QColor{40, 44, 48});
-    night.setColor(QPalette::Disabled, QPalette::ButtonText, QColor{70, 74, 78});
-    const QColor ground = night.color(QPalette::Window);
-    style.polish(night);
-    EXPECT_GE(look::contrast(night.color(QPalette::Mid), ground), 1.5);
-    EXPECT_GE(look::contrast(night.color(QPalette::Disabled, QPalette::ButtonText), ground), 3);
-    EXPECT_EQ(night.color(QPalette::WindowText), (QColor{252, 252, 252}));
+    QPalette dark{QColor{49, 54, 59}};
+    dark.setColor(QPalette::WindowText, QColor{252, 252, 252});
+    dark.setColor(QPalette::Mid, QColor{40, 44, 48});
+    dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor{70, 74, 78});
+    const QColor background = dark.color(QPalette::Window);
+    style.polish(dark);
+    EXPECT_GE(look::contrast(dark.color(QPalette::Mid), background), 1.5);
+    EXPECT_GE(look::contrast(dark.color(QPalette::Disabled, QPalette::ButtonText), background), 3);
+    EXPECT_EQ(dark.color(QPalette::WindowText), (QColor{252, 252, 252}));
 
-    QPalette day{QColor{0xfa, 0xfa, 0xfa}};
-    day.setColor(QPalette::WindowText, Qt::black);
+    QPalette light{QColor{0xfa, 0xfa, 0xfa}};
+    light.setColor(QPalette::WindowText, Qt::black);
     const QColor disabled{0x70, 0x70, 0x70};
-    day.setColor(QPalette::Disabled, QPalette::ButtonText, disabled);
-    style.polish(day);
-    EXPECT_EQ(day.color(QPalette::Disabled, QPalette::ButtonText), disabled) << "what is seen stays the desktop's";
+    light.setColor(QPalette::Disabled, QPalette::ButtonText, disabled);
+    style.polish(light);
+    EXPECT_EQ(light.color(QPalette::Disabled, QPalette::ButtonText), disabled) << "readable colours stay the desktop's";
 
-    QPalette nobodys{QColor{0xef, 0xef, 0xef}};
-    style.polish(nobodys);
-    EXPECT_EQ(nobodys, Style::calmPalette());
+    QPalette qtDefault{QColor{0xef, 0xef, 0xef}};
+    style.polish(qtDefault);
+    EXPECT_EQ(qtDefault, Style::calmPalette());
 }
 
 TEST(Look, TheApplicationFollowsAChangeOfTheStylesPalette)
 {
-    // Qt asks the style about the desktop's palette whenever that changes; a new style is such a moment.
+    // Qt passes the desktop's palette to the style whenever it changes, and also to a new style.
     QPalette before = QApplication::palette();
     QApplication::setPalette(QPalette{});
     QApplication::setStyle(new Style);
@@ -98,22 +98,22 @@ TEST(Look, TheApplicationFollowsAChangeOfTheStylesPalette)
     QApplication::setPalette(before);
 }
 
-TEST(Look, ListsAndBoxesOfSeveralLinesHaveAnOutlineOnEveryGround)
+TEST(Look, ListsAndBoxesOfSeveralLinesHaveAnOutlineOnEveryBackground)
 {
     Style style;
-    for (const QColor& ground : {QColor{0xf3, 0xf4, 0xf7}, QColor{49, 54, 59}}) {
+    for (const QColor& background : {QColor{0xf3, 0xf4, 0xf7}, QColor{49, 54, 59}}) {
         QStyleOptionFrame option;
         option.rect = {0, 0, 40, 30};
-        option.palette = QPalette{ground};
-        option.palette.setColor(QPalette::WindowText, ground.lightness() > 128 ? Qt::black : Qt::white);
+        option.palette = QPalette{background};
+        option.palette.setColor(QPalette::WindowText, background.lightness() > 128 ? Qt::black : Qt::white);
         QImage image{40, 30, QImage::Format_RGB32};
-        image.fill(ground);
+        image.fill(background);
         QPainter painter{&image};
         style.drawPrimitive(QStyle::PE_Frame, &option, &painter, nullptr);
         painter.end();
         for (const QPoint& edge : {QPoint{0, 15}, QPoint{39, 15}, QPoint{20, 0}, QPoint{20, 29}})
-            EXPECT_GE(look::contrast(image.pixelColor(edge), ground), 1.8) << ground.name().toStdString();
-        EXPECT_EQ(image.pixelColor(20, 15), ground);
+            EXPECT_GE(look::contrast(image.pixelColor(edge), background), 1.8) << background.name().toStdString();
+        EXPECT_EQ(image.pixelColor(20, 15), background);
     }
 }
 

@@ -1,4 +1,4 @@
-// tests/qt/main.cpp - runs the tests of the window side inside a Qt application.
+// tests/qt/main.cpp - runs the Qt tests inside a Qt application.
 #include "qt/look.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-// tests/qt/page_area_test.cpp - a page on a display that is too small for it: everything can still be reached.
+// tests/qt/page_area_test.cpp - on a display that is too small for a page, everything can still be reached.
 #include "qt/widgets/page_area.h"
 
 #include "qt/main_frame.h"
@@ -64,7 +64,7 @@ TEST(PageArea, ShowsWhatGetsTheFocus)
     test::activate(area);
     EXPECT_GT(area.verticalScrollBar()->maximum(), 0);
     EXPECT_TRUE(content->boxes.back()->visibleRegion().isEmpty());
-    content->boxes.back()->setFocus(); // as the program does it
+    content->boxes.back()->setFocus(); // as a command does it
     EXPECT_FALSE(content->boxes.back()->visibleRegion().isEmpty());
     QTest::keyClick(content->boxes.back(), Qt::Key_Tab); // round to the first
     EXPECT_EQ(area.focusWidget(), content->boxes.front());

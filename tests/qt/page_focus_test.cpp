@@ -22,7 +22,7 @@ struct Focused : Shown {
 
 } // namespace
 
-TEST(PageFocus, ACommandMovesTheFocusAndTheScreenIsTold)
+TEST(PageFocus, ACommandMovesTheFocusAndTheScreenIsInformed)
 {
     Focused shown;
     shown.desk.run(shown.screen, [&] { shown.screen.focused = &shown.screen.txtOther; });
@@ -30,7 +30,7 @@ TEST(PageFocus, ACommandMovesTheFocusAndTheScreenIsTold)
     EXPECT_EQ(shown.screen.log, (std::vector<std::string>{"lost txtName", "got txtOther"}));
 }
 
-TEST(PageFocus, TabAndMouseAreTold)
+TEST(PageFocus, FocusByTabAndMouseIsReported)
 {
     Focused shown;
     QTest::keyClick(shown.page.name, Qt::Key_Tab);
@@ -41,7 +41,7 @@ TEST(PageFocus, TabAndMouseAreTold)
     EXPECT_EQ(shown.screen.log, (std::vector<std::string>{"lost txtOther", "got cmdOk", "ok"}));
 }
 
-TEST(PageFocus, ADialogOrAnotherWindowTakesNothingAway)
+TEST(PageFocus, ADialogOrAnotherWindowDoesNotChangeTheScreensFocus)
 {
     Focused shown;
     QDialog dialog{&shown.page};
@@ -67,7 +67,7 @@ TEST(PageFocus, AControlThatCannotHaveTheFocusDoesNotKeepIt)
     EXPECT_TRUE(shown.screen.log.empty());
 }
 
-TEST(PageFocus, DisablingTheFocusedControlTellsTheScreenWhoHasItNow)
+TEST(PageFocus, DisablingTheFocusedControlInformsTheScreenOfTheNewOne)
 {
     Focused shown;
     shown.desk.run(shown.screen, [&] { shown.screen.txtName.enabled = false; });
@@ -75,7 +75,7 @@ TEST(PageFocus, DisablingTheFocusedControlTellsTheScreenWhoHasItNow)
     EXPECT_EQ(shown.screen.focused, &shown.screen.txtOther);
 }
 
-TEST(PageFocus, ARuleThatSendsTheFocusOnIsFollowed)
+TEST(PageFocus, ARuleMayMoveTheFocusFurther)
 {
     class Relay : public SampleScreen
     {

@@ -23,7 +23,7 @@ std::vector<ui::KeyPress> recordKeys(SampleScreen& screen, bool consume, const s
 
 } // namespace
 
-TEST(PageKeys, AKeyTheScreenDealsWithNeverReachesTheBox)
+TEST(PageKeys, AKeyThatTheScreenHandlesNeverReachesTheBox)
 {
     Shown shown;
     const auto presses = recordKeys(shown.screen, true, [&] {
@@ -45,7 +45,7 @@ TEST(PageKeys, OtherKeysReachTheBox)
     EXPECT_EQ(shown.page.name->text(), QStringLiteral("a"));
 }
 
-TEST(PageKeys, KeysAreNamedAsTheScreensKnowThem)
+TEST(PageKeys, KeysAreTranslatedForTheScreens)
 {
     Shown shown;
     const std::vector<std::pair<Qt::Key, ui::Key>> keys{

@@ -62,7 +62,7 @@ TEST(PageList, ShowsTheRowsAndTheSelection)
     EXPECT_EQ(shown.page.rows->currentIndex().row(), 1);
     shown.desk.run(shown.screen, [&] { shown.screen.lstRows.selected.reset(); });
     EXPECT_FALSE(shown.page.rows->selectionModel()->hasSelection());
-    EXPECT_TRUE(shown.screen.log.empty()); // what the program selects is not the person's choice
+    EXPECT_TRUE(shown.screen.log.empty()); // a selection by the program is no choice of the person
 }
 
 TEST(PageList, AClickChoosesARowAndASecondClickChoosesItAgain)
@@ -75,7 +75,7 @@ TEST(PageList, AClickChoosesARowAndASecondClickChoosesItAgain)
     EXPECT_EQ(shown.screen.log.size(), 2u);
 }
 
-TEST(PageList, ADoubleClickIsTold)
+TEST(PageList, ADoubleClickIsReported)
 {
     Listed shown;
     QTest::mouseClick(shown.page.rows->viewport(), Qt::LeftButton, {}, shown.placeOf(0));
@@ -131,7 +131,7 @@ TEST(PageGrid, ShowsHeadingsAndCells)
               static_cast<int>(Qt::AlignRight | Qt::AlignVCenter));
 }
 
-TEST(PageGrid, APressOnACellIsToldOnce)
+TEST(PageGrid, APressOnACellIsReportedOnce)
 {
     Gridded shown;
     const QRect cell = shown.page.scores->visualRect(shown.page.scores->model()->index(1, 2));
@@ -171,7 +171,7 @@ TEST(PageGrid, TheKeyboardPressesCellsAndMovesColumns)
     EXPECT_EQ(shown.page.scores->currentIndex().column(), 0);
 }
 
-TEST(EmptyNote, IsThereAsLongAsThereAreNoRows)
+TEST(EmptyNote, IsVisibleWhileThereAreNoRows)
 {
     Shown shown;
     auto* const inList = new EmptyNote{QStringLiteral("Nobody <yet> & nothing"), *shown.page.rows};
@@ -191,7 +191,7 @@ TEST(EmptyNote, IsThereAsLongAsThereAreNoRows)
     EXPECT_FALSE(inTable->isVisibleTo(shown.page.scores));
 
     inList->say(QStringLiteral("All have left"));
-    EXPECT_FALSE(inList->isVisibleTo(shown.page.rows)) << "somebody is there";
+    EXPECT_FALSE(inList->isVisibleTo(shown.page.rows)) << "there is a row now";
     shown.desk.run(shown.screen, [&] { shown.screen.lstRows.rows.clear(); });
     EXPECT_TRUE(inList->isVisibleTo(shown.page.rows));
     EXPECT_EQ(inList->text(), QStringLiteral("All have left"));

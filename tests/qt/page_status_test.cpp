@@ -1,4 +1,4 @@
-// tests/qt/page_status_test.cpp - the line below a page, as the pointer, the focus and the screen change it.
+// tests/qt/page_status_test.cpp - the line below a page, changed by the pointer, the focus and the screen.
 #include "qt/sample_screen.h"
 
 #include <QApplication>
@@ -22,7 +22,7 @@ public:
         txtName.explanation = "Who it is.";
         txtOther.explanation = "Who else it is.";
         cmdOk.explanation = "Goes on.";
-        lblTitle.explanation = "Heads it all.";
+        lblTitle.explanation = "Names the sample.";
         mnuOpen.explanation = "Opens <b>a file</b>.";
         mnuExit.explanation = "Ends it all.";
     }
@@ -68,9 +68,10 @@ TEST_F(StatusLine, FollowsThePointer)
     pointerLeaves(*page.ok);
     EXPECT_EQ(shown(), QStringLiteral("Type a name."));
     pointerComesTo(*page.title);
-    EXPECT_EQ(shown(), QStringLiteral("Heads it all."));
+    EXPECT_EQ(shown(), QStringLiteral("Names the sample."));
     pointerComesTo(*page.all);
-    EXPECT_EQ(shown(), QStringLiteral("Type a name.")) << "what explains nothing leaves the line to the screen";
+    EXPECT_EQ(shown(), QStringLiteral("Type a name."))
+        << "a control without an explanation leaves the line to the screen";
 }
 
 TEST_F(StatusLine, ExplainsADisabledControlToo)
@@ -93,16 +94,16 @@ TEST_F(StatusLine, FollowsTheFocusThatTabMoves)
     EXPECT_EQ(shown(), QStringLiteral("Who else it is."));
 }
 
-TEST_F(StatusLine, TheFocusThatMovesWinsOverAPointerThatRests)
+TEST_F(StatusLine, AFocusThatMovesWinsOverAPointerThatRests)
 {
     pointerComesTo(*page.ok);
     QTest::keyClick(page.name, Qt::Key_Tab);
     EXPECT_EQ(shown(), QStringLiteral("Who else it is."));
     pointerComesTo(*page.title);
-    EXPECT_EQ(shown(), QStringLiteral("Heads it all."));
+    EXPECT_EQ(shown(), QStringLiteral("Names the sample."));
 }
 
-TEST_F(StatusLine, WhatTheScreenHasToSayAnewIsSeenUntilSomethingMoves)
+TEST_F(StatusLine, ANewHintOfTheScreenIsShownUntilPointerOrFocusMoves)
 {
     QTest::keyClick(page.name, Qt::Key_Tab);
     desk.run(screen, [&] { screen.hint = "It is saved."; });
@@ -133,7 +134,7 @@ TEST_F(StatusLine, FollowsTheEntriesOfAMenuByKeyAndByPointer)
     EXPECT_TRUE(QTest::qWaitFor([this] { return shown() == QStringLiteral("Type a name."); }));
 }
 
-TEST_F(StatusLine, HowThingsStandIsAlwaysThere)
+TEST_F(StatusLine, TheScreensStatusIsAlwaysShown)
 {
     desk.run(screen, [&] { screen.status = "3 players"; });
     pointerComesTo(*page.ok);

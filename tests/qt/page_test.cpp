@@ -22,7 +22,7 @@ TEST(Page, NamesEveryWidgetAfterItsControl)
     EXPECT_TRUE(shown.page.controlsWithoutWidget().empty());
 }
 
-TEST(Page, TellsWhichControlsAViewForgot)
+TEST(Page, ListsTheControlsThatAViewForgot)
 {
     Desk desk;
     SampleScreen screen;
@@ -87,7 +87,7 @@ TEST(Page, PressingAButtonRunsItsCommand)
     EXPECT_EQ(shown.screen.log, std::vector<std::string>{"ok"});
 }
 
-TEST(Page, TickingABoxReachesTheModelBeforeTheScreenIsTold)
+TEST(Page, TickingABoxReachesTheModelBeforeTheScreenIsInformed)
 {
     Shown shown;
     bool seen = false;
@@ -111,10 +111,10 @@ TEST(Page, SelectingAnOptionDeselectsTheOthersInTheModelToo)
     Shown shown;
     shown.desk.run(shown.screen, [&] { ui::selectOption(shown.screen.optChoice, 0); });
     EXPECT_TRUE(shown.page.options[0]->isChecked());
-    int told = 0;
-    shown.screen.optChoice[2].changed = [&] { ++told; };
+    int calls = 0;
+    shown.screen.optChoice[2].changed = [&] { ++calls; };
     shown.page.options[2]->click();
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(calls, 1);
     EXPECT_FALSE(shown.screen.optChoice[0].selected);
     EXPECT_TRUE(shown.screen.optChoice[2].selected);
 
@@ -180,7 +180,7 @@ TEST(Page, ShowsTheStatusAsPlainText)
     EXPECT_TRUE(status->isVisible());
 }
 
-TEST(Page, AViewsOwnWidgetStandsForALabel)
+TEST(Page, AViewsOwnWidgetCanShowALabel)
 {
     Desk desk;
     SampleScreen screen;
@@ -198,7 +198,7 @@ TEST(Page, AViewsOwnWidgetStandsForALabel)
     EXPECT_FALSE(own->isEnabled());
 }
 
-TEST(Page, ClosingItsWindowAsksTheScreen)
+TEST(Page, ClosingItsWindowIsDecidedByTheScreen)
 {
     Shown shown;
     EXPECT_FALSE(shown.page.close());

@@ -19,7 +19,7 @@ TEST(PageText, TypingReachesTheModel)
     EXPECT_EQ(shown.screen.log, (std::vector<std::string>{"name: a", "name: ab"}));
 }
 
-TEST(PageText, WhatTheModelSaysReachesTheBox)
+TEST(PageText, ChangesOfTheModelReachTheBox)
 {
     Shown shown;
     shown.desk.run(shown.screen, [&] {
@@ -32,7 +32,7 @@ TEST(PageText, WhatTheModelSaysReachesTheBox)
     EXPECT_EQ(shown.page.name->selectedText().size(), 3);
 }
 
-TEST(PageText, ARuleThatTakesTypingBackIsShown)
+TEST(PageText, ARuleThatRejectsTypingIsShown)
 {
     Shown shown;
     shown.screen.txtName.edited = [&] { shown.screen.txtName.text = "fixed"; };
@@ -42,7 +42,7 @@ TEST(PageText, ARuleThatTakesTypingBackIsShown)
     EXPECT_EQ(shown.page.name->text(), QStringLiteral("fixed"));
 }
 
-TEST(PageText, CaretAndSelectionGoBothWays)
+TEST(PageText, CaretAndSelectionAreKeptInSyncBothWays)
 {
     Shown shown;
     shown.desk.run(shown.screen, [&] {
@@ -56,7 +56,7 @@ TEST(PageText, CaretAndSelectionGoBothWays)
     EXPECT_EQ(shown.screen.txtName.selectionLength, 2);
 }
 
-TEST(PageText, ATextThatNobodyTouchedIsNeverReadBack)
+TEST(PageText, ATextThatWasNotEditedIsNeverReadBack)
 {
     Shown shown;
     const std::string odd = "a\nb\x81"; // a line break that no one-line box should hold, and an unassigned byte
@@ -68,7 +68,7 @@ TEST(PageText, ATextThatNobodyTouchedIsNeverReadBack)
     EXPECT_EQ(shown.screen.txtNotes.text, "one\rtwo\nthree");
 }
 
-TEST(PageText, ShowsAtOnceWhatWillBeSaved)
+TEST(PageText, ShowsTextAtOnceAsItWillBeSaved)
 {
     Shown shown;
     shown.page.name->setFocus();
@@ -104,7 +104,7 @@ TEST(PageText, ALockedBoxTakesNoTypingAndUnlocksAgain)
     EXPECT_EQ(shown.screen.txtName.text, "a");
 }
 
-TEST(PageText, ABackgroundCarriesReadableLetters)
+TEST(PageText, TextIsReadableOnAColouredBackground)
 {
     Shown shown;
     shown.desk.run(shown.screen, [&] { shown.screen.txtName.background = ui::Colour{0x80, 0xff, 0x80}; });
@@ -201,7 +201,7 @@ TEST(PageText, DroppedTextTakesTheSamePathAsPastedText)
     EXPECT_EQ(shown.screen.txtName.text, "kept");
 }
 
-TEST(PageText, ALockedBoxTakesNoPastedTextAndAsksNobody)
+TEST(PageText, ALockedBoxTakesNoPastedTextAndDoesNotAskTheScreen)
 {
     Shown shown;
     shown.desk.run(shown.screen, [&] { shown.screen.txtName.locked = true; });

@@ -65,7 +65,7 @@ TEST(PrintLayout, APageThatWouldNotFitIsSetTighterDownToTenPoints)
     EXPECT_EQ(layOut(numbered(77), kLetterHeight, kNatural).size(), 1u);
 }
 
-TEST(PrintLayout, ALongerPageGoesOnOnAnotherSheetAtItsNaturalSpacing)
+TEST(PrintLayout, ALongerPageContinuesOnAnotherSheetAtItsNaturalSpacing)
 {
     const auto sheets = layOut(numbered(78), kLetterHeight, kNatural);
     ASSERT_EQ(sheets.size(), 2u);
@@ -85,7 +85,7 @@ TEST(PrintLayout, OnlyTheLongPageIsSetTighter)
     EXPECT_DOUBLE_EQ(sheets[1].spacing, kNatural);
 }
 
-TEST(PrintPdf, ColumnsAndPagesComeOutAsTheyWentIn)
+TEST(PrintPdf, ColumnsAndPagesAreKept)
 {
     const tallyhoop::test::ScratchFolder scratch;
     ui::TextPrintout printout;
@@ -111,7 +111,7 @@ TEST(PrintPdf, LandscapeIsWiderThanPortrait)
     EXPECT_EQ(printer.pageWidthTwips(ui::Orientation::Landscape), (792 - 20) * 20);
 }
 
-TEST(PrintPdf, AChosenPdfFileIsWrittenWholeAndAFailureIsTold)
+TEST(PrintPdf, AChosenPdfFileIsWrittenWholeAndAFailureIsReported)
 {
     const tallyhoop::test::ScratchFolder scratch;
     Desk desk;
@@ -127,7 +127,7 @@ TEST(PrintPdf, AChosenPdfFileIsWrittenWholeAndAFailureIsTold)
     EXPECT_FALSE(refused.failure().message.empty());
 }
 
-TEST(PrintPdf, AChosenPdfFileServesOnePrintoutAndIsNeverReplacedByTheNext)
+TEST(PrintPdf, AChosenPdfFileIsForOnePrintoutAndIsNotReplacedByTheNext)
 {
     const tallyhoop::test::ScratchFolder scratch;
     Desk desk;
@@ -141,12 +141,12 @@ TEST(PrintPdf, AChosenPdfFileServesOnePrintoutAndIsNeverReplacedByTheNext)
     EXPECT_TRUE(textOf(scratch.path() / "out.pdf").contains(QStringLiteral("the first")));
 }
 
-TEST(PrintPdf, WithoutAnyPrinterAPrintoutFailsWithWords)
+TEST(PrintPdf, WithoutAnyPrinterAPrintoutFailsWithAMessage)
 {
     Desk desk;
     QtPrinter printer{desk};
     printer.printer().setOutputFileName({});
-    printer.printer().setOutputFormat(QPrinter::PdfFormat); // what Qt turns to when there is none
+    printer.printer().setOutputFormat(QPrinter::PdfFormat); // as Qt does when there is no printer
     const auto outcome = printer.print(ui::TextPrintout{"Report", {"a line"}, {"Courier New", 10}});
     ASSERT_FALSE(outcome);
     EXPECT_EQ(outcome.failure().message, "No printer is installed.");

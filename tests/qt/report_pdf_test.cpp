@@ -128,7 +128,7 @@ protected:
 std::string nameOf(const testing::TestParamInfo<ReportPdf::ParamType>& info)
 {
     const auto& [pool, report] = info.param;
-    return std::string{pool} + "_" + reportTable()[report].key;
+    return std::string{pool} + "_" + std::to_string(report + 1);
 }
 
 } // namespace
@@ -139,7 +139,7 @@ TEST_P(ReportPdf, HasTheReportsLinesInTheirColumnsAndAPageForEachOfItsPages)
     const Pages printed = pagesOfPdf(pdf);
     ASSERT_EQ(printed.size(), expected.size());
 
-    // The margin need not be a whole number of characters; it is the same for every line all the same.
+    // The margin need not be a whole number of characters, but it is the same for every line.
     const qsizetype margin = blanksBefore(printed[0][0]) - blanksBefore(expected[0][0]);
     EXPECT_NEAR(static_cast<double>(margin), (kMarginTwips + printout.originTwips) / kCharacterTwips, 1.0);
     const Pages shifted = indentedBy(expected, margin);
@@ -150,11 +150,11 @@ TEST_P(ReportPdf, HasTheReportsLinesInTheirColumnsAndAPageForEachOfItsPages)
     }
 }
 
-TEST_P(ReportPdf, EmbedsOneFixedPitchFontAndLiesAsItsReportWants)
+TEST_P(ReportPdf, EmbedsOneFixedPitchFontAndHasItsReportsOrientation)
 {
     const QStringList fonts =
         said(QStringLiteral("pdffonts"), {fromPath(pdf)}).split(QLatin1Char{'\n'}, Qt::SkipEmptyParts);
-    ASSERT_EQ(fonts.size(), 3) << "a heading, a rule and one font";
+    ASSERT_EQ(fonts.size(), 3) << "a header, a rule and one font";
     EXPECT_TRUE(fonts[2].contains(QRegularExpression{QStringLiteral("CourierNew|LiberationMono|Cousine")}))
         << fonts[2].toStdString();
     // The columns are: name, type, encoding, embedded, subset, unicode, object.
@@ -162,7 +162,7 @@ TEST_P(ReportPdf, EmbedsOneFixedPitchFontAndLiesAsItsReportWants)
         << fonts[2].toStdString();
 
     const QString about = said(QStringLiteral("pdfinfo"), {fromPath(pdf)});
-    const char* paper = std::string_view{kind.orientation} == "Landscape" ? "792 x 612 pts" : "612 x 792 pts";
+    const char* paper = kind.orientation == PageOrientation::Landscape ? "792 x 612 pts" : "612 x 792 pts";
     EXPECT_TRUE(about.contains(QLatin1String{paper})) << about.toStdString();
 }
 

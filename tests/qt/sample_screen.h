@@ -44,7 +44,7 @@ public:
     ui::ListBox lstRows{this, "lstRows"};
     ui::Grid grdScores{this, "grdScores"};
 
-    std::vector<std::string> log; ///< what the screen was told, in order
+    std::vector<std::string> log; ///< the calls that the screen received, in order
     std::function<void()> whenOk;
     std::function<bool(ui::Control&, const ui::KeyPress&)> keyRule;
     std::function<bool(ui::TextBox&, const std::string&)> pasteRule;

@@ -17,8 +17,8 @@ struct Program {
     {
         add(ScreenKind::Board, Placement::Stacked);
         add(ScreenKind::Reports, Placement::Stacked);
-        add(ScreenKind::ScoreDisplay, Placement::OwnWindow);
-        add(ScreenKind::SeedPositions, Placement::Modal);
+        add(ScreenKind::Scores, Placement::OwnWindow);
+        add(ScreenKind::Seeds, Placement::Modal);
         host.ended = [this] { ended = true; };
         frame.open();
     }
@@ -27,8 +27,8 @@ struct Program {
     {
         host.registerScreen<SampleScreen>(
             kind, placement,
-            [this](Opening opening) {
-                lastOpening = opening;
+            [this](const std::string& notice) {
+                lastNotice = notice;
                 return std::make_unique<SampleScreen>();
             },
             [](SampleScreen& screen, Desk& onDesk) { return std::make_unique<SamplePage>(screen, onDesk); });
@@ -37,7 +37,7 @@ struct Program {
     SampleScreen& screen(ScreenKind kind) { return *host.find<SampleScreen>(kind); }
     SamplePage& page(ScreenKind kind) { return static_cast<SamplePage&>(*host.page(kind)); }
 
-    Opening lastOpening = Opening::Plain;
+    std::string lastNotice;
     bool ended = false;
     Desk desk;
     MainFrame frame;
@@ -49,8 +49,8 @@ struct Program {
 TEST(ScreenHost, ShowsAStackedScreenInTheFrameAfterItsLoad)
 {
     Program program;
-    program.host.load(ScreenKind::Board, Opening::DemoEntered);
-    EXPECT_EQ(program.lastOpening, Opening::DemoEntered);
+    program.host.load(ScreenKind::Board, "A sentence.");
+    EXPECT_EQ(program.lastNotice, "A sentence.");
     EXPECT_EQ(program.screen(ScreenKind::Board).log, std::vector<std::string>{"load"});
     EXPECT_EQ(program.frame.visiblePage(), program.host.page(ScreenKind::Board));
     EXPECT_TRUE(program.page(ScreenKind::Board).isVisible());
@@ -67,7 +67,7 @@ TEST(ScreenHost, APageEnteringTheFrameKeepsTheFocusItsScreenChose)
     };
     Program program;
     program.host.registerScreen<SampleScreen>(
-        ScreenKind::Reports, Placement::Stacked, [](Opening) { return std::make_unique<Chooser>(); },
+        ScreenKind::Reports, Placement::Stacked, [](const std::string&) { return std::make_unique<Chooser>(); },
         [](SampleScreen& screen, Desk& onDesk) { return std::make_unique<SamplePage>(screen, onDesk); });
     activate(program.frame);
     program.host.load(ScreenKind::Board);
@@ -94,7 +94,7 @@ TEST(ScreenHost, AReloadIsAFreshScreenWhileTheOldOneFinishes)
     SampleScreen* before = &program.screen(ScreenKind::Board);
     before->whenOk = [&] {
         program.host.unload(ScreenKind::Board);
-        program.host.load(ScreenKind::Board, Opening::DemoLeft);
+        program.host.load(ScreenKind::Board);
         before->lblTitle.text = "the old one is still there";
     };
     program.page(ScreenKind::Board).ok->click();
@@ -109,15 +109,15 @@ TEST(ScreenHost, TheScoreDisplayIsAWindowBesideTheFrame)
 {
     Program program;
     program.host.load(ScreenKind::Board);
-    program.host.load(ScreenKind::ScoreDisplay);
-    EXPECT_TRUE(program.page(ScreenKind::ScoreDisplay).isWindow());
-    EXPECT_TRUE(program.page(ScreenKind::ScoreDisplay).isVisible());
+    program.host.load(ScreenKind::Scores);
+    EXPECT_TRUE(program.page(ScreenKind::Scores).isWindow());
+    EXPECT_TRUE(program.page(ScreenKind::Scores).isVisible());
     EXPECT_TRUE(program.page(ScreenKind::Board).isVisible());
-    program.page(ScreenKind::ScoreDisplay).close();
-    EXPECT_EQ(program.screen(ScreenKind::ScoreDisplay).log.back(), "close");
-    EXPECT_TRUE(program.host.isLoaded(ScreenKind::ScoreDisplay)); // the screen decides
-    program.host.unload(ScreenKind::ScoreDisplay);
-    EXPECT_FALSE(program.host.isLoaded(ScreenKind::ScoreDisplay));
+    program.page(ScreenKind::Scores).close();
+    EXPECT_EQ(program.screen(ScreenKind::Scores).log.back(), "close");
+    EXPECT_TRUE(program.host.isLoaded(ScreenKind::Scores)); // the screen decides
+    program.host.unload(ScreenKind::Scores);
+    EXPECT_FALSE(program.host.isLoaded(ScreenKind::Scores));
 }
 
 TEST(ScreenHost, AModalScreenHoldsItsCallerUntilItHasClosed)
@@ -129,21 +129,21 @@ TEST(ScreenHost, AModalScreenHoldsItsCallerUntilItHasClosed)
     board.whenOk = [&] {
         QTimer::singleShot(0, &program.frame, [&] {
             wasDialog = qobject_cast<QDialog*>(QApplication::activeModalWidget()) != nullptr;
-            SampleScreen& modal = program.screen(ScreenKind::SeedPositions);
-            EXPECT_TRUE(program.page(ScreenKind::SeedPositions).isVisible());
+            SampleScreen& modal = program.screen(ScreenKind::Seeds);
+            EXPECT_TRUE(program.page(ScreenKind::Seeds).isVisible());
             program.page(ScreenKind::Board).ok->click(); // dropped
             program.frame.close();                       // dropped
-            QTest::keyClick(program.page(ScreenKind::SeedPositions).name, Qt::Key_Escape);
+            QTest::keyClick(program.page(ScreenKind::Seeds).name, Qt::Key_Escape);
             EXPECT_EQ(modal.log.back(), "close");
             modal.whenOk = [&] {
-                program.host.unload(ScreenKind::SeedPositions);
+                program.host.unload(ScreenKind::Seeds);
                 modal.log.emplace_back("finished");
             };
-            program.page(ScreenKind::SeedPositions).ok->click();
+            program.page(ScreenKind::Seeds).ok->click();
         });
-        program.host.load(ScreenKind::SeedPositions);
+        program.host.load(ScreenKind::Seeds);
         board.log.emplace_back("came back");
-        EXPECT_FALSE(program.host.isLoaded(ScreenKind::SeedPositions));
+        EXPECT_FALSE(program.host.isLoaded(ScreenKind::Seeds));
     };
     program.page(ScreenKind::Board).ok->click();
     EXPECT_TRUE(wasDialog);
@@ -158,31 +158,29 @@ TEST(ScreenHost, AModalScreenThatUnloadsItselfWhileLoadingIsNeverShown)
     {
     public:
         explicit Refusing(Screens& screens) : m_screens{screens} {}
-        void load() override { m_screens.unload(ScreenKind::EMail); }
+        void load() override { m_screens.unload(ScreenKind::Email); }
 
     private:
         Screens& m_screens;
     };
     program.host.registerScreen<Refusing>(
-        ScreenKind::EMail, Placement::Modal, [&](Opening) { return std::make_unique<Refusing>(program.host); },
+        ScreenKind::Email, Placement::Modal,
+        [&](const std::string&) { return std::make_unique<Refusing>(program.host); },
         [](Refusing& screen, Desk& desk) { return std::make_unique<SamplePage>(screen, desk); });
-    program.host.load(ScreenKind::EMail);
-    EXPECT_FALSE(program.host.isLoaded(ScreenKind::EMail));
+    program.host.load(ScreenKind::Email);
+    EXPECT_FALSE(program.host.isLoaded(ScreenKind::Email));
 }
 
 TEST(ScreenHost, ClosingTheFrameUnloadsEverythingLastLoadedFirst)
 {
     Program program;
     program.host.load(ScreenKind::Board);
-    program.host.load(ScreenKind::ScoreDisplay);
+    program.host.load(ScreenKind::Scores);
     class Order : public SampleScreen
     {
     public:
         Order(std::vector<std::string>& order, Screens& screens) : m_order{order}, m_screens{screens} {}
-        void unloading() override
-        {
-            m_order.push_back(m_screens.isLoaded(ScreenKind::ScoreDisplay) ? "first" : "too late");
-        }
+        void unloading() override { m_order.push_back(m_screens.isLoaded(ScreenKind::Scores) ? "first" : "too late"); }
 
     private:
         std::vector<std::string>& m_order;
@@ -190,10 +188,10 @@ TEST(ScreenHost, ClosingTheFrameUnloadsEverythingLastLoadedFirst)
     };
     std::vector<std::string> order;
     program.host.registerScreen<Order>(
-        ScreenKind::PlayerNames, Placement::Stacked,
-        [&](Opening) { return std::make_unique<Order>(order, program.host); },
+        ScreenKind::Players, Placement::Stacked,
+        [&](const std::string&) { return std::make_unique<Order>(order, program.host); },
         [](Order& screen, Desk& desk) { return std::make_unique<SamplePage>(screen, desk); });
-    program.host.load(ScreenKind::PlayerNames);
+    program.host.load(ScreenKind::Players);
     program.frame.close();
     EXPECT_EQ(order, std::vector<std::string>{"first"});
     EXPECT_TRUE(program.ended);

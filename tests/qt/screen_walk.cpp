@@ -1,4 +1,4 @@
-// tests/qt/screen_walk.cpp - the way through a window by ear: names, roles and descriptions.
+// tests/qt/screen_walk.cpp - checks what a screen reader gets of a window: names, roles and descriptions.
 #include "qt/screen_walk.h"
 
 #include "qt/widgets/slot_label.h"
@@ -31,7 +31,7 @@ bool saysNothing(const QWidget& widget)
     return onlyText && paintedText(widget).isEmpty();
 }
 
-/// What a person operates or reads, as opposed to what only holds such things.
+/// @returns whether a person operates or reads this widget, as opposed to one that only holds others
 bool isControl(const QWidget& widget)
 {
     static constexpr std::array kKinds{"QAbstractButton",  "QLineEdit", "QAbstractItemView", "QComboBox",
@@ -73,7 +73,7 @@ QAccessible::Role roleOfClass(const QWidget& widget)
     return found == kRoles.end() ? QAccessible::NoRole : found->role;
 }
 
-/// Everything below that a screen reader comes to, one step at a time.
+/// All descendants that a screen reader reaches, one step at a time.
 void reach(QAccessibleInterface* from, QSet<const QObject*>& reached)
 {
     if (!from || !from->object() || reached.contains(from->object()))
@@ -85,7 +85,8 @@ void reach(QAccessibleInterface* from, QSet<const QObject*>& reached)
         reach(from->child(child), reached);
 }
 
-/// A note that stands in a list instead of its rows: a screen reader comes to the list only, which has to say it.
+/// A note shown in a list instead of its rows: a screen reader reads the list only, whose description has to include
+/// it.
 bool saidByItsList(const QWidget& widget)
 {
     const QWidget* list = widget.parentWidget() ? widget.parentWidget()->parentWidget() : nullptr;
@@ -93,7 +94,7 @@ bool saidByItsList(const QWidget& widget)
            spoken(*list, QAccessible::Description).startsWith(paintedText(widget));
 }
 
-/// What a control does beyond what its kind lets people expect.
+/// @returns whether a control does more than its kind suggests
 bool hasWaysOfItsOwn(const ui::Control& control, const QWidget& widget)
 {
     if (const auto* list = dynamic_cast<const ui::ListBox*>(&control))
@@ -175,7 +176,7 @@ QStringList ScreenWalk::namelessControls() const
         if (spoken(widget, QAccessible::Name).isEmpty())
             nameless << walkedName(widget);
         else if (!reached.contains(&widget) && !saidByItsList(widget))
-            nameless << walkedName(widget) + QStringLiteral(" cannot be come to");
+            nameless << walkedName(widget) + QStringLiteral(" cannot be reached");
     });
     return nameless;
 }

@@ -1,4 +1,4 @@
-// tests/qt/screen_walk_keys.cpp - the way through a window by keys: what each mnemonic stands for.
+// tests/qt/screen_walk_keys.cpp - checks a window for the keyboard: what each mnemonic means.
 #include "qt/screen_walk.h"
 
 #include <QAction>
@@ -15,7 +15,7 @@ namespace tallyhoop::qt {
 
 namespace {
 
-/// Notes what a mnemonic stands for; two things under one letter are a trouble.
+/// Notes what a mnemonic means; two meanings of one letter are a trouble.
 class Letters
 {
 public:

@@ -1,4 +1,4 @@
-// tests/qt/screen_walk_look.cpp - the way through a window by eye: texts that do not fit, and texts that are too pale.
+// tests/qt/screen_walk_look.cpp - checks the look of a window: texts that do not fit, and texts that are too pale.
 #include "qt/screen_walk.h"
 
 #include "qt/look.h"
@@ -23,7 +23,7 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr double kReadable = 4.5;
-constexpr double kLegible = 3; ///< for what cannot be used just now, but tells something all the same
+constexpr double kLegible = 3; ///< for disabled controls, whose text is still information
 
 bool labelFits(const QLabel& label)
 {
@@ -59,13 +59,13 @@ bool textFits(const QWidget& widget)
     return true;
 }
 
-/// What does not fit of widgets that paint several texts.
+/// The texts that do not fit, of widgets that paint several.
 QStringList clippedParts(const QWidget& widget)
 {
     QStringList clipped;
-    if (const auto* head = qobject_cast<const QHeaderView*>(&widget))
-        for (int column = 0; head->orientation() == Qt::Horizontal && column < head->count(); ++column)
-            if (head->sectionSize(column) < head->sectionSizeHint(column))
+    if (const auto* header = qobject_cast<const QHeaderView*>(&widget))
+        for (int column = 0; header->orientation() == Qt::Horizontal && column < header->count(); ++column)
+            if (header->sectionSize(column) < header->sectionSizeHint(column))
                 clipped << QStringLiteral("heading %1").arg(column);
     if (const auto* tabs = qobject_cast<const QTabBar*>(&widget))
         for (int tab = 0; tab < tabs->count(); ++tab)
@@ -80,22 +80,22 @@ QStringList clippedParts(const QWidget& widget)
     return clipped;
 }
 
-QColor over(QColor ink, const QColor& ground)
+QColor over(QColor textColour, const QColor& background)
 {
-    const double share = ink.alphaF();
+    const double share = textColour.alphaF();
     const auto mix = [share](double a, double b) { return static_cast<float>(a * share + b * (1 - share)); };
-    return QColor::fromRgbF(mix(ink.redF(), ground.redF()), mix(ink.greenF(), ground.greenF()),
-                            mix(ink.blueF(), ground.blueF()));
+    return QColor::fromRgbF(mix(textColour.redF(), background.redF()), mix(textColour.greenF(), background.greenF()),
+                            mix(textColour.blueF(), background.blueF()));
 }
 
-/// Widgets that paint their text on a ground of its own.
+/// @returns whether a widget paints its text on a background of its own
 bool holdsText(const QWidget& widget)
 {
     const bool items = widget.inherits("QAbstractItemView") && !widget.inherits("QHeaderView");
     return items || widget.inherits("QLineEdit") || widget.inherits("QPlainTextEdit") || widget.inherits("QTextEdit");
 }
 
-QPalette::ColorRole inkOf(const QWidget& widget)
+QPalette::ColorRole textRoleOf(const QWidget& widget)
 {
     return holdsText(widget) ? QPalette::Text : widget.foregroundRole();
 }
@@ -135,8 +135,8 @@ QStringList ScreenWalk::clippedTexts() const
     return clipped;
 }
 
-/// The colour that most of the widget's place is painted in.
-QColor ScreenWalk::groundBehind(const QWidget& widget) const
+/// The colour that covers most of the widget's place.
+QColor ScreenWalk::backgroundOf(const QWidget& widget) const
 {
     const double scale = m_picture.devicePixelRatio();
     const QPoint corner = widget.mapTo(&m_window, QPoint{0, 0});
@@ -156,11 +156,13 @@ QStringList ScreenWalk::paleTexts() const
     forEachVisible([&](QWidget& widget) {
         if (!showsText(widget))
             return;
-        const QColor ground = groundBehind(widget);
-        const QColor ink = over(widget.palette().color(inkOf(widget)), ground);
-        const double contrast = look::contrast(ink, ground);
+        const QColor background = backgroundOf(widget);
+        const QColor textColour = over(widget.palette().color(textRoleOf(widget)), background);
+        const double contrast = look::contrast(textColour, background);
         if (contrast < (widget.isEnabled() ? kReadable : kLegible))
-            pale << QStringLiteral("%1: %2 on %3, %4").arg(walkedName(widget), ink.name(), ground.name()).arg(contrast);
+            pale << QStringLiteral("%1: %2 on %3, %4")
+                        .arg(walkedName(widget), textColour.name(), background.name())
+                        .arg(contrast);
         if (const auto* text = qobject_cast<const QTextEdit*>(&widget))
             pale << palePassages(*text);
     });
@@ -173,17 +175,17 @@ QStringList palePassages(const QTextEdit& text)
     for (QTextBlock block = text.document()->begin(); block.isValid(); block = block.next())
         for (auto at = block.begin(); !at.atEnd(); ++at) {
             const QTextCharFormat format = at.fragment().charFormat();
-            const QBrush behind = format.hasProperty(QTextFormat::BackgroundBrush) ? format.background()
-                                                                                   : block.blockFormat().background();
+            const QBrush brush = format.hasProperty(QTextFormat::BackgroundBrush) ? format.background()
+                                                                                  : block.blockFormat().background();
             const QColor base = text.palette().color(QPalette::Base);
-            const QColor ground = behind.style() == Qt::NoBrush ? base : over(behind.color(), base);
-            const QColor ink =
+            const QColor background = brush.style() == Qt::NoBrush ? base : over(brush.color(), base);
+            const QColor textColour =
                 over(format.hasProperty(QTextFormat::ForegroundBrush) ? format.foreground().color()
                                                                       : text.palette().color(QPalette::Text),
-                     ground);
-            if (const double contrast = look::contrast(ink, ground); contrast < kReadable)
+                     background);
+            if (const double contrast = look::contrast(textColour, background); contrast < kReadable)
                 pale << QStringLiteral("%1 on %2, %3: %4")
-                            .arg(ink.name(), ground.name())
+                            .arg(textColour.name(), background.name())
                             .arg(contrast)
                             .arg(at.fragment().text().left(40));
         }
@@ -194,8 +196,8 @@ QStringList paleRoles(const QPalette& palette)
 {
     struct Pair {
         const char* name;
-        QPalette::ColorRole ink;
-        QPalette::ColorRole ground;
+        QPalette::ColorRole textColour;
+        QPalette::ColorRole background;
         bool whenDisabled; ///< shown in disabled controls too
     };
     constexpr std::array kPairs{
@@ -215,8 +217,8 @@ QStringList paleRoles(const QPalette& palette)
             const bool disabled = group == QPalette::Disabled;
             if (disabled && !pair.whenDisabled)
                 continue;
-            const QColor ground = palette.color(group, pair.ground);
-            const double contrast = look::contrast(over(palette.color(group, pair.ink), ground), ground);
+            const QColor background = palette.color(group, pair.background);
+            const double contrast = look::contrast(over(palette.color(group, pair.textColour), background), background);
             if (contrast < (disabled ? kLegible : kReadable))
                 pale << QStringLiteral("%1%2: %3")
                             .arg(QString::fromLatin1(disabled ? "disabled " : ""), QString::fromLatin1(pair.name))

@@ -1,4 +1,4 @@
-// tests/qt/screen_walk_test.cpp - does the walk through a screen find what is wrong with it?
+// tests/qt/screen_walk_test.cpp - does ScreenWalk find what is wrong with a screen?
 #include "qt/screen_walk.h"
 
 #include "qt/sample_screen.h"
@@ -18,7 +18,7 @@ namespace {
 using test::SamplePage;
 using test::SampleScreen;
 
-/// A sample screen in which everything is as it should be.
+/// A sample screen without any trouble.
 struct SoundScreen {
     SoundScreen()
     {
@@ -62,11 +62,11 @@ TEST(ScreenWalk, FindsControlsWithoutAName)
     EXPECT_EQ(joined(faulty.walk().namelessControls()), "txtName\ncmdOk\nlstRows");
 }
 
-TEST(ScreenWalk, FindsAControlThatIsTakenForSomethingElse)
+TEST(ScreenWalk, FindsAControlWithAWrongRole)
 {
     SoundScreen faulty;
     ui::Control& label = faulty.screen.lblTitle;
-    faulty.page.adopt(label, new QWidget{&faulty.page})->show(); // nobody takes a bare widget for a text
+    faulty.page.adopt(label, new QWidget{&faulty.page})->show(); // a bare widget has not the role of a text
     EXPECT_EQ(joined(faulty.walk().wrongRoles()).substr(0, 17), "lblTitle has role");
 }
 
@@ -97,7 +97,7 @@ TEST(ScreenWalk, FindsTextsThatDoNotFit)
     EXPECT_THAT(found, testing::HasSubstr("chkAll ("));
 }
 
-TEST(ScreenWalk, FindsTextsThatHardlyStandOut)
+TEST(ScreenWalk, FindsTextsWithTooLittleContrast)
 {
     SoundScreen faulty;
     QPalette pale;
@@ -126,7 +126,7 @@ TEST(ScreenWalk, FindsDisabledTextsThatCannotBeRead)
     EXPECT_EQ(joined(faulty.walk().paleTexts()), "");
 }
 
-TEST(ScreenWalk, FindsControlsThatDoNotTellTheirWays)
+TEST(ScreenWalk, FindsControlsWithoutANecessaryDescription)
 {
     SoundScreen faulty;
     faulty.screen.lstRows.doubleClicked = [] {};
@@ -208,7 +208,7 @@ TEST(ScreenWalk, FindsButtonsOfADialogThatNoKeyPresses)
     EXPECT_EQ(joined(faulty.troubles()), "mnemonic: go has no mnemonic: Go\nmnemonic: more has no mnemonic: More");
 }
 
-TEST(ScreenWalk, FindsWhatStandsOutsideTheWindow)
+TEST(ScreenWalk, FindsControlsOutsideTheWindow)
 {
     SoundDialog faulty;
     QLabel outside{QStringLiteral("Here"), &faulty.window};
@@ -227,7 +227,7 @@ TEST(ScreenWalk, FindsTipsThatAreSpokenAsMarkup)
     EXPECT_EQ(joined(faulty.troubles()), "");
 }
 
-TEST(ScreenWalk, FindsPassagesThatHardlyStandOut)
+TEST(ScreenWalk, FindsPassagesWithTooLittleContrast)
 {
     SoundDialog faulty;
     faulty.text->setHtml(
@@ -236,12 +236,12 @@ TEST(ScreenWalk, FindsPassagesThatHardlyStandOut)
     EXPECT_THAT(joined(faulty.troubles()), testing::EndsWith(": upon"));
 }
 
-TEST(ScreenWalk, FindsAControlThatNobodyComesTo)
+TEST(ScreenWalk, FindsAControlThatAScreenReaderDoesNotReach)
 {
     SoundDialog faulty;
     static const QObject* hidden = nullptr;
     hidden = &faulty.window;
-    // An interface that leaves its children out, as a careless widget of one's own has it.
+    // An interface that leaves out its children, as a custom widget may by mistake.
     struct Childless : QAccessibleWidget {
         using QAccessibleWidget::QAccessibleWidget;
         int childCount() const override { return 0; }
@@ -252,11 +252,11 @@ TEST(ScreenWalk, FindsAControlThatNobodyComesTo)
     QAccessible::installFactory(childless);
     QAccessible::deleteAccessibleInterface(
         QAccessible::uniqueId(QAccessible::queryAccessibleInterface(&faulty.window)));
-    EXPECT_THAT(joined(faulty.troubles()), testing::HasSubstr("name: line cannot be come to"));
+    EXPECT_THAT(joined(faulty.troubles()), testing::HasSubstr("name: line cannot be reached"));
     QAccessible::removeFactory(childless);
 }
 
-TEST(ScreenWalk, FindsColoursThatDoNotGoTogether)
+TEST(ScreenWalk, FindsColoursOfAPaletteWithTooLittleContrast)
 {
     QPalette palette{Qt::white};
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText,

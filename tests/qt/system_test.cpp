@@ -24,7 +24,7 @@ void makeExecutable(const std::filesystem::path& file)
     std::filesystem::permissions(file, std::filesystem::perms::owner_all);
 }
 
-/// @returns what comes of a program that is nothing but these lines
+/// @returns the outcome of a program that consists of these lines
 std::optional<Result<Done>> endOf(QtPrograms& programs, const std::string& lines)
 {
     const tallyhoop::test::ScratchFolder scratch;
@@ -42,7 +42,7 @@ TEST(QtPrograms, AMissingProgramIsRefusedWithTheSystemsReason)
     QtPrograms programs;
     const auto outcome = programs.check(scratch.path() / "DEMOSET.EXE");
     ASSERT_FALSE(outcome);
-    EXPECT_EQ(outcome.failure().message, "No such file or directory"); // which program it was, the caller says
+    EXPECT_EQ(outcome.failure().message, "No such file or directory"); // the caller adds which program it was
     EXPECT_FALSE(programs.start(scratch.path() / "DEMOSET.EXE"));
 }
 
@@ -78,7 +78,7 @@ TEST(QtPrograms, AProgramOfNoKnownKindFailsToStart)
     EXPECT_FALSE(programs.start(file));
 }
 
-TEST(QtPrograms, NothingIsToldOfAProgramThatStillRuns)
+TEST(QtPrograms, AProgramThatStillRunsHasNoOutcome)
 {
     const tallyhoop::test::ScratchFolder scratch;
     const auto file = scratch.put("patient", "#!/bin/sh\nuntil [ -e go ]; do sleep 0.01; done\ntouch gone\n");
@@ -90,7 +90,7 @@ TEST(QtPrograms, NothingIsToldOfAProgramThatStillRuns)
         EXPECT_FALSE(programs.waitForEnd(1ms));
     }
     scratch.put("go", "");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return scratch.has("gone"); })) << "it goes on without us";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return scratch.has("gone"); })) << "it keeps running";
 }
 
 TEST(QtPrograms, AProgramThatSucceedsIsDone)
@@ -102,7 +102,7 @@ TEST(QtPrograms, AProgramThatSucceedsIsDone)
     EXPECT_TRUE(*programs.waitForEnd(0ms)) << "and it can be asked again";
 }
 
-TEST(QtPrograms, AProgramThatFailsTellsWhy)
+TEST(QtPrograms, AProgramThatFailsGivesItsOutputAsTheReason)
 {
     QtPrograms programs;
     const auto end = endOf(programs, "printf 'caf\\303\\251\\r\\nis closed\\n' >&2\nexit 1\n");
@@ -111,7 +111,7 @@ TEST(QtPrograms, AProgramThatFailsTellsWhy)
     EXPECT_EQ(end->failure().message, "caf\xE9\r\nis closed");
 }
 
-TEST(QtPrograms, AProgramThatFailsWithoutAWordFailsAllTheSame)
+TEST(QtPrograms, AProgramThatFailsWithoutOutputIsAFailureToo)
 {
     for (const char* last : {"exit 3\n", "kill -9 $$\n"}) {
         QtPrograms programs;
@@ -122,7 +122,7 @@ TEST(QtPrograms, AProgramThatFailsWithoutAWordFailsAllTheSame)
     }
 }
 
-TEST(QtClock, TellsTheLocalDate)
+TEST(QtClock, GivesTheLocalDate)
 {
     const auto today = QtClock{}.today();
     const QDate date = QDate::currentDate();
@@ -131,17 +131,17 @@ TEST(QtClock, TellsTheLocalDate)
     EXPECT_EQ(static_cast<unsigned>(today.day()), static_cast<unsigned>(date.day()));
 }
 
-TEST(QtClock, TellsTheTimeOnTheWall)
+TEST(QtClock, GivesTheLocalTime)
 {
-    const auto wall = [] {
+    const auto localSeconds = [] {
         const QDateTime now = QDateTime::currentDateTime();
         return now.date().toJulianDay() * 86400 + now.time().msecsSinceStartOfDay() / 1000;
     };
     constexpr qint64 kJulianDayOf1970 = 2440588;
-    const qint64 before = wall();
-    const qint64 told = QtClock{}.now().time_since_epoch().count() + kJulianDayOf1970 * 86400;
-    EXPECT_LE(before, told);
-    EXPECT_LE(told, wall());
+    const qint64 before = localSeconds();
+    const qint64 now = QtClock{}.now().time_since_epoch().count() + kJulianDayOf1970 * 86400;
+    EXPECT_LE(before, now);
+    EXPECT_LE(now, localSeconds());
 }
 
 TEST(QtClipboard, TakesTextWithItsLineBreaks)

@@ -5,7 +5,7 @@
 
 using namespace tallyhoop::qt;
 
-TEST(QtText, EveryByteSurvivesTheWayToQtAndBack)
+TEST(QtText, EveryByteSurvivesTheConversionToQtAndBack)
 {
     std::string all;
     for (int byte = 0; byte < 256; ++byte)
@@ -27,7 +27,7 @@ TEST(QtText, ReplacesWhatWindows1252LacksOneForOne)
     EXPECT_EQ(fromQString(QString::fromUtf8("\U0001F3C0!")), "?!"); // one character, two UTF-16 units
 }
 
-TEST(QtText, LineBreaksBecomeTheWidgetsAndComeBack)
+TEST(QtText, LineBreaksAreConvertedBothWays)
 {
     EXPECT_EQ(toLines("a\r\nb\rc\nd"), QStringLiteral("a\nb\nc\nd"));
     EXPECT_EQ(fromLines(QStringLiteral("a\nb\u2029c\u2028d")), "a\r\nb\r\nc\r\nd");

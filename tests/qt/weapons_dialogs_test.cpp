@@ -1,4 +1,4 @@
-// tests/qt/weapons_dialogs_test.cpp - such names in message boxes, input boxes, file dialogs and the preview.
+// tests/qt/weapons_dialogs_test.cpp - hostile names in message boxes, input boxes, file dialogs and the preview.
 #include "weapons/weapons.h"
 
 #include "fakes/scratch_folder.h"
@@ -29,13 +29,13 @@ namespace {
 namespace fs = std::filesystem;
 using tallyhoop::test::Weapon;
 
-class WeaponsInDialogs : public testing::TestWithParam<Weapon>
+class HostileNamesInDialogs : public testing::TestWithParam<Weapon>
 {
 protected:
-    const std::string& weapon() const { return GetParam().text; }
-    QString shownWeapon() const { return toQString(weapon()); }
+    const std::string& hostileName() const { return GetParam().text; }
+    QString shownName() const { return toQString(hostileName()); }
 
-    /// Does something with the dialog that opens next, which has to fit the display and to leave text alone.
+    /// Acts on the dialog that opens next, which has to fit the display and to show text as it is.
     template <class Kind, class Act>
     void withNext(Act act)
     {
@@ -53,7 +53,7 @@ protected:
         });
     }
 
-    /// A person types a name into a file dialog and accepts it, and gives up when that is not enough.
+    /// Types a name into a file dialog and accepts it; closes the dialog when it does not accept the name.
     std::optional<fs::path> fileTyped(bool save, const std::string& proposal, const std::optional<QString>& typed)
     {
         QTimer giveUp;
@@ -79,8 +79,8 @@ protected:
 
     fs::path folder() const { return scratch.path() / "pool"; }
 
-    WeaponsInDialogs() { fs::create_directory(folder()); }
-    ~WeaponsInDialogs() override { EXPECT_TRUE(seen); }
+    HostileNamesInDialogs() { fs::create_directory(folder()); }
+    ~HostileNamesInDialogs() override { EXPECT_TRUE(seen); }
 
     tallyhoop::test::ScratchFolder scratch;
     test::Shown shown;
@@ -88,37 +88,37 @@ protected:
     bool seen = false;
 };
 
-TEST_P(WeaponsInDialogs, AreTextInAMessage)
+TEST_P(HostileNamesInDialogs, AreTextInAMessage)
 {
     withNext<QMessageBox>([this](QMessageBox& box) {
-        if (weapon().size() <= 400)
-            EXPECT_EQ(box.text(), QStringLiteral("The name is:\n") + shownWeapon());
+        if (hostileName().size() <= 400)
+            EXPECT_EQ(box.text(), QStringLiteral("The name is:\n") + shownName());
         else
-            EXPECT_EQ(box.text(), QStringLiteral("The name is:\n") + shownWeapon().left(200) + QStringLiteral(" ... ") +
-                                      shownWeapon().right(200));
-        EXPECT_EQ(box.windowTitle().replace(QStringLiteral("[*][*]"), QStringLiteral("[*]")), shownWeapon());
+            EXPECT_EQ(box.text(), QStringLiteral("The name is:\n") + shownName().left(200) + QStringLiteral(" ... ") +
+                                      shownName().right(200));
+        EXPECT_EQ(box.windowTitle().replace(QStringLiteral("[*][*]"), QStringLiteral("[*]")), shownName());
         box.accept();
     });
-    dialogs.show({weapon(), "The name is:\r\n" + weapon(), ui::Buttons::Ok, ui::Icon::Critical});
+    dialogs.show({hostileName(), "The name is:\r\n" + hostileName(), ui::Buttons::Ok, ui::Icon::Critical});
 }
 
-TEST_P(WeaponsInDialogs, AreTextInAnInputBoxAndComeBackFromIt)
+TEST_P(HostileNamesInDialogs, AreTextInAnInputBoxAndComeBackFromIt)
 {
     withNext<QInputDialog>([this](QInputDialog& dialog) {
         auto& line = *dialog.findChild<QLineEdit*>();
-        EXPECT_EQ(line.text(), shownWeapon());
-        QApplication::clipboard()->setText(shownWeapon());
+        EXPECT_EQ(line.text(), shownName());
+        QApplication::clipboard()->setText(shownName());
         line.selectAll();
         QTest::keyClick(&line, Qt::Key_V, Qt::ControlModifier);
         dialog.accept();
     });
-    EXPECT_EQ(dialogs.ask({weapon(), "The name is:\r\n" + weapon(), weapon()}), weapon());
+    EXPECT_EQ(dialogs.ask({hostileName(), "The name is:\r\n" + hostileName(), hostileName()}), hostileName());
     QApplication::clipboard()->clear();
 }
 
-TEST_P(WeaponsInDialogs, AreSavedUnderTheProposedNameInTheFolder)
+TEST_P(HostileNamesInDialogs, AreSavedUnderTheProposedNameInTheFolder)
 {
-    const std::string proposal = withoutUnsafeCharacters(weapon().substr(0, 100) + "_AB.THC");
+    const std::string proposal = withoutUnsafeCharacters(hostileName().substr(0, 100) + "_AB.THC");
     if (proposal.find('?') != std::string::npos)
         return;
     const auto chosen = fileTyped(true, proposal, {});
@@ -126,61 +126,61 @@ TEST_P(WeaponsInDialogs, AreSavedUnderTheProposedNameInTheFolder)
     EXPECT_EQ(*chosen, folder() / toPath(toQString(proposal)));
 }
 
-TEST_P(WeaponsInDialogs, AreNothingButAPathWhenTheyAreTypedToSave)
+TEST_P(HostileNamesInDialogs, AreNothingButAPathWhenTheyAreTypedToSave)
 {
-    const std::optional<fs::path> chosen = fileTyped(true, "", shownWeapon());
+    const std::optional<fs::path> chosen = fileTyped(true, "", shownName());
     if (!chosen)
         return; // a folder, or longer than a name may be
-    const fs::path typed = toPath(shownWeapon());
+    const fs::path typed = toPath(shownName());
     EXPECT_EQ(chosen->lexically_normal(), (folder() / typed).lexically_normal());
 }
 
-TEST_P(WeaponsInDialogs, OpenNoFileThatIsNotThere)
+TEST_P(HostileNamesInDialogs, OpenNoFileThatIsNotThere)
 {
     scratch.put("outside.THC", "not of the pool");
-    const std::optional<fs::path> chosen = fileTyped(false, "", shownWeapon());
-    if (weapon() == "/etc/passwd") { // which a person may well open
-        EXPECT_EQ(chosen, fs::path{weapon()});
+    const std::optional<fs::path> chosen = fileTyped(false, "", shownName());
+    if (hostileName() == "/etc/passwd") { // which a person may well open
+        EXPECT_EQ(chosen, fs::path{hostileName()});
     } else {
         EXPECT_FALSE(chosen) << *chosen;
     }
 }
 
-TEST_P(WeaponsInDialogs, AreTextInThePreviewAndItsBoxes)
+TEST_P(HostileNamesInDialogs, AreTextInThePreviewAndItsBoxes)
 {
     QtPrinter printer{shown.desk};
     withNext<QPrintPreviewDialog>([this](QPrintPreviewDialog& dialog) {
         EXPECT_EQ(dialog.windowTitle().replace(QStringLiteral("[*][*]"), QStringLiteral("[*]")),
-                  QStringLiteral("Preview - ") + shownWeapon());
+                  QStringLiteral("Preview - ") + shownName());
         for (QLineEdit* box : dialog.findChildren<QLineEdit*>()) {
             box->setFocus();
-            box->setText(shownWeapon());
+            box->setText(shownName());
             QTest::keyClick(box, Qt::Key_Return);
         }
         QApplication::processEvents();
         EXPECT_EQ(dialog.findChild<QPrintPreviewWidget*>()->pageCount(), 1);
         dialog.reject();
     });
-    printer.preview(ui::TextPrintout{weapon(), {weapon(), "the next line"}, {"Courier New", 10}});
+    printer.preview(ui::TextPrintout{hostileName(), {hostileName(), "the next line"}, {"Courier New", 10}});
 }
 
-TEST_P(WeaponsInDialogs, AreSearchedForInTheHelpAsTheyAre)
+TEST_P(HostileNamesInDialogs, AreSearchedForInTheHelpAsTheyAre)
 {
     seen = true;
     HelpWindow help{nullptr};
     help.setHelp("<h1>Bold</h1><p>Write &lt;b&gt;bold&lt;/b&gt; to the pool.</p>");
     help.show();
     auto& box = *help.findChild<QLineEdit*>(QStringLiteral("helpSearch"));
-    box.setText(shownWeapon());
+    box.setText(shownName());
     QTest::keyClick(&box, Qt::Key_Return);
-    EXPECT_EQ(box.text(), shownWeapon());
+    EXPECT_EQ(box.text(), shownName());
     EXPECT_TRUE(help.isVisible());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, WeaponsInDialogs, testing::ValuesIn(tallyhoop::test::weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInDialogs, testing::ValuesIn(tallyhoop::test::weapons()),
                          [](const auto& values) { return values.param.kind; });
 
-TEST(WeaponsTypedIntoAnInputBox, LoseLineBreaksAndMarksThatTurnTextAround)
+TEST(HostileNamesTypedIntoAnInputBox, LoseLineBreaksAndMarksThatChangeTheDirectionOfText)
 {
     test::Shown shown;
     QtDialogs dialogs{shown.desk};

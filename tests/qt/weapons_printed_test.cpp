@@ -1,6 +1,7 @@
-// tests/qt/weapons_printed_test.cpp - such names on paper: the text of the PDF files is read back.
+// tests/qt/weapons_printed_test.cpp - hostile names on paper: the text of the PDF files is read back.
 #include "weapons/weapons.h"
 
+#include "app/wiring.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "qt/paths.h"
@@ -13,15 +14,15 @@
 namespace tallyhoop::qt {
 namespace {
 
-class WeaponsPrinted : public testing::TestWithParam<Weapon>
+class HostileNamesPrinted : public testing::TestWithParam<Weapon>
 {
 protected:
-    const std::string& weapon() const { return GetParam().text; }
+    const std::string& hostileName() const { return GetParam().text; }
 
     /// Whether each of its characters has a shape on paper. Unassigned ones and controls have none.
     bool hasShape() const
     {
-        return std::ranges::all_of(weapon(), [](char byte) {
+        return std::ranges::all_of(hostileName(), [](char byte) {
             const QChar character = toQString({&byte, 1}).front();
             return character.isPrint() && character.category() != QChar::Other_Format;
         });
@@ -56,46 +57,46 @@ protected:
     const std::filesystem::path pdf = scratch.path() / "paper.pdf";
 };
 
-TEST_P(WeaponsPrinted, AreALineOfAReport)
+TEST_P(HostileNamesPrinted, AreALineOfAReport)
 {
-    const QString text = saved(ui::TextPrintout{weapon(),
-                                                {"the line before", weapon(), "the line behind", "\f", "page two"},
+    const QString text = saved(ui::TextPrintout{hostileName(),
+                                                {"the line before", hostileName(), "the line after", "\f", "page two"},
                                                 {"Courier New", 10},
                                                 ui::Orientation::Portrait,
                                                 0});
     EXPECT_TRUE(text.contains(QStringLiteral("the line before")));
-    EXPECT_TRUE(text.contains(QStringLiteral("the line behind")));
+    EXPECT_TRUE(text.contains(QStringLiteral("the line after")));
     EXPECT_TRUE(text.contains(QStringLiteral("page two")));
     // A line that begins with a form feed starts a page and is not printed, as in every report.
-    EXPECT_EQ(pages(), weapon().starts_with('\f') ? 3 : 2);
-    if (hasShape() && weapon().size() <= 80) {
-        EXPECT_TRUE(text.simplified().contains(toQString(weapon()).simplified())) << text.toStdString();
+    EXPECT_EQ(pages(), hostileName().starts_with('\f') ? 3 : 2);
+    if (hasShape() && hostileName().size() <= 80) {
+        EXPECT_TRUE(text.simplified().contains(toQString(hostileName()).simplified())) << text.toStdString();
     }
 }
 
-TEST_P(WeaponsPrinted, AreTeamsOfThePrintedBoard)
+TEST_P(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
 {
     test::FakePlatform platform;
-    modTallyhoop state;
+    SharedValues shared;
     test::FakeScreens screens;
-    SetupLines setup = defaultSetupLines();
-    setup[0] = weapon();
-    setup[setup_line::kFinalized] = "1";
-    scratch.put(file_name::kSetup, setupFile(setup));
+    Field field = defaultField();
+    field.teams[TeamRow{0}] = hostileName();
+    field.finalized = "1";
+    scratch.put(file_name::kSetup, setupFile(field));
     const DataFolder folder = scratch.folder();
-    BoardScreen board{folder, platform.services, state, screens};
+    BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedVerdicts}};
     board.load();
-    const QString text = saved(ui::DrawingPrintout{weapon(), board.drawing(), ui::Orientation::Landscape});
+    const QString text = saved(ui::DrawingPrintout{hostileName(), board.drawing(), ui::Orientation::Landscape});
     EXPECT_EQ(pages(), 1);
     EXPECT_TRUE(text.contains(QStringLiteral("TEAM2"))) << "the next team";
     if (hasShape()) {
         constexpr qsizetype kSurelyFits = 8;
-        EXPECT_TRUE(text.simplified().contains(toQString(weapon()).left(kSurelyFits).simplified()))
+        EXPECT_TRUE(text.simplified().contains(toQString(hostileName()).left(kSurelyFits).simplified()))
             << text.toStdString();
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, WeaponsPrinted, testing::ValuesIn(test::weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesPrinted, testing::ValuesIn(test::weapons()),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

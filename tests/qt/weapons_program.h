@@ -1,7 +1,8 @@
-// tests/qt/weapons_program.h - the program over a pool full of names that somebody chose to do harm with.
+// tests/qt/weapons_program.h - the program with a pool full of hostile names.
 #pragma once
 
 #include "app/wiring.h"
+#include "base/text.h"
 #include "fakes/fake_platform.h"
 #include "fakes/scratch_folder.h"
 #include "files/file_names.h"
@@ -29,46 +30,47 @@ namespace tallyhoop::qt {
 
 using test::Weapon;
 
-/// The program with a pool whose title, regions, teams, seeds, comments and players all bear one name.
-class WeaponsOnScreens : public testing::TestWithParam<Weapon>
+/// The program with a pool whose title, regions, teams, seeds, comments and players all have one hostile name.
+class HostileNamesOnScreens : public testing::TestWithParam<Weapon>
 {
 protected:
-    WeaponsOnScreens()
+    HostileNamesOnScreens()
     {
         putPool();
-        registerScreens(host, folder, platform.services, state);
+        registerScreens(host, folder, platform.services, shared);
         frame.resize(1200, 800);
         frame.show();
         host.load(ScreenKind::Board);
     }
 
-    const std::string& weapon() const { return GetParam().text; }
+    const std::string& hostileName() const { return GetParam().text; }
 
     void putPool()
     {
-        SetupLines setup = defaultSetupLines();
-        for (std::size_t i = 0; i < 64; ++i)
-            setup.at(i) = i % 2 == 0 ? weapon() : "Team " + std::to_string(i);
-        for (const std::size_t line : {64, 65, 66, 67, 68, 91, 92})
-            setup.at(line) = weapon();
+        const auto teamOrHostileName = [this](int i) {
+            return i % 2 == 0 ? hostileName() : "Team " + std::to_string(i);
+        };
+        Field field = defaultField();
+        for (const TeamRow row : allTeamRows())
+            field.teams[row] = teamOrHostileName(index(row));
+        field.title = hostileName();
+        field.regionTitles.fill(hostileName());
+        field.comment1 = field.comment2 = decodeLineBreaks(hostileName());
         for (std::size_t row = 0; row < kRowsPerRegion; row += 2)
-            setup.at(setup_line::kSeed + row) = weapon();
-        setup[setup_line::kFinalized] = "1";
-        scratch.put(file_name::kSetup, setupFile(setup));
+            field.seeds.at(row) = hostileName();
+        field.finalized = "1";
+        scratch.put(file_name::kSetup, setupFile(field));
 
-        SelectionLines lines;
-        for (int i = 0; i < kPositions; ++i)
-            lines.at(static_cast<std::size_t>(i) + 1) = i % 2 == 0 ? weapon() : "Team " + std::to_string(i);
-        lines[selection_line::kName] = weapon();
-        lines[selection_line::kInitials] = weapon();
-        lines[selection_line::kFinalPoints] = "150";
-        EXPECT_TRUE(folder.write(fileName, selectionFile(lines)));
-        scratch.put(file_name::kResults, selectionFile(lines));
-        scratch.put(file_name::kPlayerNames,
-                    playerNamesFile(std::vector<PlayerRecord>{{weapon(), weapon(), weapon(), weapon()}}));
+        Entry entry{{}, hostileName(), hostileName(), "150", {}};
+        for (const Position position : allPositions())
+            entry.picks.put(position, teamOrHostileName(index(position)));
+        EXPECT_TRUE(folder.write(fileName, selectionFile(entry)));
+        scratch.put(file_name::kResults, selectionFile(entry));
+        scratch.put(file_name::kPlayerNames, playerNamesFile(std::vector<PlayerRecord>{
+                                                 {hostileName(), hostileName(), hostileName(), hostileName()}}));
     }
 
-    /// Looks at every widget of a screen.
+    /// Checks every widget of a screen.
     void examine(ScreenKind kind)
     {
         desk.push();
@@ -82,11 +84,11 @@ protected:
                 << label->objectName().toStdString() << " would show markup";
         }
         for (const QAbstractButton* button : page->findChildren<QAbstractButton*>()) {
-            EXPECT_TRUE(button->shortcut().isEmpty() || !button->text().contains(toQString(weapon())))
+            EXPECT_TRUE(button->shortcut().isEmpty() || !button->text().contains(toQString(hostileName())))
                 << button->objectName().toStdString() << " has a mnemonic that comes from a name";
         }
         for (const QAction* action : page->findChildren<QAction*>()) {
-            EXPECT_FALSE(weapon().size() > 3 && action->text().contains(toQString(weapon())))
+            EXPECT_FALSE(hostileName().size() > 3 && action->text().contains(toQString(hostileName())))
                 << action->objectName().toStdString();
         }
         examineToolTips(*page);
@@ -119,9 +121,9 @@ protected:
 
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
-    const std::string fileName = proposedFileName(weapon(), weapon());
+    const std::string fileName = proposedFileName(hostileName(), hostileName());
     test::FakePlatform platform;
-    modTallyhoop state;
+    SharedValues shared;
     MainFrame frame;
     Desk desk{&frame};
     ScreenHost host{desk, frame};

@@ -1,4 +1,4 @@
-// tests/qt/weapons_test.cpp - every screen over a pool full of such names: they are shown, and nothing else happens.
+// tests/qt/weapons_test.cpp - every screen with a pool full of hostile names: they are shown, and nothing else happens.
 #include "qt/weapons_program.h"
 
 #include "qt/services/outgoing_mail.h"
@@ -15,46 +15,46 @@
 namespace tallyhoop::qt {
 namespace {
 
-TEST_P(WeaponsOnScreens, AreTextOnTheBoard)
+TEST_P(HostileNamesOnScreens, AreTextOnTheBoard)
 {
-    onBoard([&] { board().showSelection(scratch.path() / *folder.pathOf(fileName)); });
+    onBoard([&] { board().showScored(scratch.path() / *folder.pathOf(fileName)); });
     examine(ScreenKind::Board);
     auto* const team = qobject_cast<QAbstractButton*>(host.page(ScreenKind::Board)->widgetOf(board().lblRegion[0]));
     ASSERT_NE(team, nullptr);
-    EXPECT_EQ(team->text(), toQString(weapon()));
+    EXPECT_EQ(team->text(), toQString(hostileName()));
     EXPECT_TRUE(team->shortcut().isEmpty());
     EXPECT_FALSE(team->grab().isNull());
 }
 
-TEST_P(WeaponsOnScreens, AreTextWhenTheyAreScored)
+TEST_P(HostileNamesOnScreens, AreTextWhenTheyAreScored)
 {
     onBoard([&] {
-        board().EnterGameResults();
-        board().ScoreSelections();
+        board().enterGameResults();
+        board().mnuScoreSelections.click();
     });
-    auto* const scores = host.find<ScoresScreen>(ScreenKind::ScoreDisplay);
+    auto* const scores = host.find<ScoresScreen>(ScreenKind::Scores);
     ASSERT_NE(scores, nullptr);
     desk.runInside(*scores, [&] { scores->cmdOk.click(); });
     ASSERT_EQ(scores->msgScoreDisplay.rows.size(), 1U);
-    examine(ScreenKind::ScoreDisplay);
-    EXPECT_FALSE(host.page(ScreenKind::ScoreDisplay)->grab().isNull());
+    examine(ScreenKind::Scores);
+    EXPECT_FALSE(host.page(ScreenKind::Scores)->grab().isNull());
 }
 
-TEST_P(WeaponsOnScreens, AreTextAmongTheReports)
+TEST_P(HostileNamesOnScreens, AreTextAmongTheReports)
 {
     onBoard([&] { board().mnuReports.click(); });
     examine(ScreenKind::Reports);
 }
 
-TEST_P(WeaponsOnScreens, AreTextInThePlayerList)
+TEST_P(HostileNamesOnScreens, AreTextInThePlayerList)
 {
     onBoard([&] { board().mnuEditNames.click(); });
-    examine(ScreenKind::PlayerNames);
+    examine(ScreenKind::Players);
 }
 
-TEST_P(WeaponsOnScreens, AreTextInTheMail) { examineModal(ScreenKind::EMail); }
+TEST_P(HostileNamesOnScreens, AreTextInTheMail) { examineModal(ScreenKind::Email); }
 
-TEST_P(WeaponsOnScreens, AreTextInTheSetup)
+TEST_P(HostileNamesOnScreens, AreTextInTheSetup)
 {
     host.load(ScreenKind::Setup);
     examine(ScreenKind::Setup);
@@ -63,7 +63,7 @@ TEST_P(WeaponsOnScreens, AreTextInTheSetup)
     const auto line = [&page](const ui::Control& control) {
         return qobject_cast<QLineEdit*>(page.widgetOf(control))->text().toStdString();
     };
-    const std::string shown = toQString(weapon()).toStdString();
+    const std::string shown = toQString(hostileName()).toStdString();
     for (std::size_t team = 0; team < setup.txtRegion.size(); team += 2) {
         EXPECT_EQ(line(setup.txtRegion[team]), shown) << team;
         EXPECT_EQ(line(setup.txtRegion[team + 1]), "Team " + std::to_string(team + 1));
@@ -73,35 +73,35 @@ TEST_P(WeaponsOnScreens, AreTextInTheSetup)
     for (std::size_t i = 0; i < setup.lblSeed.size(); i += 2)
         EXPECT_EQ(qobject_cast<QLabel*>(page.widgetOf(setup.lblSeed[i]))->text().toStdString(), shown) << i;
     for (const ui::TextBox* comment : {&setup.txtComment1, &setup.txtComment2}) {
-        QString lines = toQString(weapon());
-        lines.replace(QLatin1Char{'|'}, QLatin1Char{'\n'}); // which stands for a line break in the file
+        QString lines = toQString(hostileName());
+        lines.replace(QLatin1Char{'|'}, QLatin1Char{'\n'}); // which means a line break in the file
         EXPECT_EQ(qobject_cast<QPlainTextEdit*>(page.widgetOf(*comment))->toPlainText().toStdString(),
                   lines.toStdString());
     }
 }
 
-TEST_P(WeaponsOnScreens, AreTextAmongTheSeedsAndNumbersNever)
+TEST_P(HostileNamesOnScreens, AreTextAmongTheSeedsAndNumbersNever)
 {
     host.load(ScreenKind::Setup);
     QTimer::singleShot(0, qApp, [&] {
-        examine(ScreenKind::SeedPositions);
-        auto& seeds = *host.find<SeedsScreen>(ScreenKind::SeedPositions);
-        const Page& page = *host.page(ScreenKind::SeedPositions);
+        examine(ScreenKind::Seeds);
+        auto& seeds = *host.find<SeedsScreen>(ScreenKind::Seeds);
+        const Page& page = *host.page(ScreenKind::Seeds);
         for (std::size_t row = 0; row < kRowsPerRegion; row += 2) {
             EXPECT_EQ(qobject_cast<QLineEdit*>(page.widgetOf(seeds.txtSeed[row]))->text().toStdString(),
-                      toQString(weapon()).toStdString());
-            EXPECT_EQ(seeds.lblRegion[row].text, weapon());
+                      toQString(hostileName()).toStdString());
+            EXPECT_EQ(seeds.lblRegion[row].text, hostileName());
         }
         desk.runInside(seeds, [&] { seeds.cmdComplete.click(); });
         EXPECT_EQ(platform.dialogs.shown.back().caption, "SEED Entry ERROR");
         desk.runInside(seeds, [&] { seeds.cmdCancel.click(); });
     });
-    host.load(ScreenKind::SeedPositions);
-    EXPECT_FALSE(host.isLoaded(ScreenKind::SeedPositions));
-    EXPECT_EQ(host.find<SetupScreen>(ScreenKind::Setup)->lblSeed[0].text, weapon());
+    host.load(ScreenKind::Seeds);
+    EXPECT_FALSE(host.isLoaded(ScreenKind::Seeds));
+    EXPECT_EQ(host.find<SetupScreen>(ScreenKind::Setup)->lblSeed[0].text, hostileName());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, WeaponsOnScreens, testing::ValuesIn(test::weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesOnScreens, testing::ValuesIn(test::weapons()),
                          [](const auto& values) { return values.param.kind; });
 
 /// What a client finds in its composing argument: a value in apostrophes is taken as it is and ends at an apostrophe
@@ -130,22 +130,22 @@ std::map<std::string, std::string> composed(const std::string& argument)
     return found;
 }
 
-class WeaponsInMail : public testing::TestWithParam<Weapon>
+class HostileNamesInMail : public testing::TestWithParam<Weapon>
 {
 protected:
-    const std::string& weapon() const { return GetParam().text; }
+    const std::string& hostileName() const { return GetParam().text; }
 
     OutgoingMail mail() const
     {
-        return outgoing({.recipients = {weapon(), "a@example.org"},
-                         .subject = weapon(),
-                         .body = weapon(),
+        return outgoing({.recipients = {hostileName(), "a@example.org"},
+                         .subject = hostileName(),
+                         .body = hostileName(),
                          .placeholders = 0,
                          .attachments = {{"/pool of one's own,'/RPTOPT1.TXT", 0}}});
     }
 };
 
-TEST_P(WeaponsInMail, ReachThunderbirdAsOneArgumentThatSaysJustThat)
+TEST_P(HostileNamesInMail, ReachThunderbirdAsOneArgumentUnchanged)
 {
     const OutgoingMail sent = mail();
     const std::vector<std::string> arguments = thunderbirdArguments(sent);
@@ -160,7 +160,7 @@ TEST_P(WeaponsInMail, ReachThunderbirdAsOneArgumentThatSaysJustThat)
     EXPECT_EQ(found.at("attachment"), "file:///pool%20of%20one%27s%20own%2C%27/RPTOPT1.TXT");
 }
 
-TEST_P(WeaponsInMail, ReachXdgEmailAsOneAddressAndNeverAsAnOption)
+TEST_P(HostileNamesInMail, ReachXdgEmailAsOneAddressAndNeverAsAnOption)
 {
     const OutgoingMail sent = mail();
     const std::vector<std::string> arguments = xdgEmailArguments(sent);
@@ -170,7 +170,7 @@ TEST_P(WeaponsInMail, ReachXdgEmailAsOneAddressAndNeverAsAnOption)
     EXPECT_EQ(arguments[2], "/pool of one's own,'/RPTOPT1.TXT");
     const std::string& address = arguments[3];
     EXPECT_TRUE(address.starts_with("mailto:"));
-    EXPECT_EQ(address.find_first_of(" \"'`$;|<>\\\n\r"), std::string::npos) << "a shell would see it";
+    EXPECT_EQ(address.find_first_of(" \"'`$;|<>\\\n\r"), std::string::npos) << "a shell would interpret it";
     const std::size_t subject = address.find("?subject=");
     const std::size_t body = address.find("&body=");
     ASSERT_NE(body, std::string::npos);
@@ -183,7 +183,7 @@ TEST_P(WeaponsInMail, ReachXdgEmailAsOneAddressAndNeverAsAnOption)
     EXPECT_EQ(decoded(body + 6, address.size()), sent.body);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, WeaponsInMail, testing::ValuesIn(test::weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInMail, testing::ValuesIn(test::weapons()),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

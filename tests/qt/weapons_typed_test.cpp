@@ -1,5 +1,5 @@
-// tests/qt/weapons_typed_test.cpp - such names pasted into every box of every window: each is text, and the window
-// stays as it is.
+// tests/qt/weapons_typed_test.cpp - hostile names pasted into every box of every window: each is text, and the window's
+// layout does not change.
 #include "qt/weapons_program.h"
 
 #include "base/windows1252.h"
@@ -17,7 +17,7 @@
 namespace tallyhoop::qt {
 namespace {
 
-/// What a person pastes, and what a box has to hold then.
+/// What a person pastes, and what a box has to hold afterwards.
 struct Pasted {
     std::string kind;
     QString text;
@@ -44,26 +44,26 @@ std::vector<Pasted> allPasted()
     return all;
 }
 
-/// Boxes with rules of their own about what they take.
+/// Boxes with rules of their own about what may be typed.
 bool isChoosy(const ui::Control& box)
 {
     static const std::set<std::string> kPlayerFields{"txtName", "txtFileName", "txtEmail", "txtPhone"};
     return box.name.starts_with("txtRegion_") || box.name.starts_with("txtSeed_") || kPlayerFields.contains(box.name);
 }
 
-class WeaponsPasted : public testing::TestWithParam<Pasted>
+class HostileNamesPasted : public testing::TestWithParam<Pasted>
 {
 protected:
-    WeaponsPasted()
+    HostileNamesPasted()
     {
         EXPECT_TRUE(demo::installSamplePool(folder));
-        registerScreens(host, folder, platform.services, state);
+        registerScreens(host, folder, platform.services, shared);
         frame.resize(1366, 708);
         frame.show();
         host.load(ScreenKind::Board);
         QApplication::clipboard()->setText(GetParam().text);
     }
-    ~WeaponsPasted() override { QApplication::clipboard()->clear(); }
+    ~HostileNamesPasted() override { QApplication::clipboard()->clear(); }
 
     static QString textOf(const QWidget& widget)
     {
@@ -88,8 +88,8 @@ protected:
         }
     }
 
-    /// Every box of the screen that a person can write into.
-    /// @returns how many they are
+    /// Pastes into every box of the screen that a person can write into.
+    /// @returns how many boxes there are
     int pasteEverywhere(ScreenKind kind)
     {
         const Page& page = *host.page(kind);
@@ -115,7 +115,7 @@ protected:
         return boxes;
     }
 
-    /// Where the controls stand on their page.
+    /// The places of the controls on their page.
     static std::map<std::string, std::array<int, 4>> places(const Page& page)
     {
         std::map<std::string, std::array<int, 4>> all;
@@ -139,46 +139,47 @@ protected:
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     test::FakePlatform platform;
-    modTallyhoop state;
+    SharedValues shared;
     MainFrame frame;
     Desk desk{&frame};
     ScreenHost host{desk, frame};
 };
 
-TEST_P(WeaponsPasted, AreTextOnTheBoard)
+TEST_P(HostileNamesPasted, AreTextOnTheBoard)
 {
     auto& board = *host.find<BoardScreen>(ScreenKind::Board);
-    desk.runInside(board, [&] { board.showSelection(scratch.path() / "Demo Prophet_DP.THC"); });
+    platform.dialogs.pick(scratch.path() / "Demo Prophet_DP.THC");
+    desk.runInside(board, [&] { board.mnuOpenSelection.click(); });
     EXPECT_EQ(pasteEverywhere(ScreenKind::Board), 3);
 }
 
-TEST_P(WeaponsPasted, AreTextAmongTheReports)
+TEST_P(HostileNamesPasted, AreTextAmongTheReports)
 {
     host.load(ScreenKind::Reports);
     EXPECT_EQ(pasteEverywhere(ScreenKind::Reports), 1);
 }
 
-TEST_P(WeaponsPasted, AreTextInThePlayerList)
+TEST_P(HostileNamesPasted, AreTextInThePlayerList)
 {
-    host.load(ScreenKind::PlayerNames);
-    EXPECT_EQ(pasteEverywhere(ScreenKind::PlayerNames), 3);
+    host.load(ScreenKind::Players);
+    EXPECT_EQ(pasteEverywhere(ScreenKind::Players), 3);
 }
 
-TEST_P(WeaponsPasted, AreTextInTheMail) { EXPECT_EQ(pasteIntoModal(ScreenKind::EMail), 3); }
+TEST_P(HostileNamesPasted, AreTextInTheMail) { EXPECT_EQ(pasteIntoModal(ScreenKind::Email), 3); }
 
-TEST_P(WeaponsPasted, AreTextInTheSetup)
+TEST_P(HostileNamesPasted, AreTextInTheSetup)
 {
     host.load(ScreenKind::Setup);
     EXPECT_EQ(pasteEverywhere(ScreenKind::Setup), 64 + 5 + 6 + 2);
 }
 
-TEST_P(WeaponsPasted, AreTextAmongTheSeeds)
+TEST_P(HostileNamesPasted, AreTextAmongTheSeeds)
 {
     host.load(ScreenKind::Setup);
-    EXPECT_EQ(pasteIntoModal(ScreenKind::SeedPositions), 16);
+    EXPECT_EQ(pasteIntoModal(ScreenKind::Seeds), 16);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, WeaponsPasted, testing::ValuesIn(allPasted()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesPasted, testing::ValuesIn(allPasted()),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

@@ -1,4 +1,5 @@
 // tests/qt/writers_under_faults_test.cpp - PDF files and the message file under every fault of the disk.
+#include "app/wiring.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
@@ -24,7 +25,7 @@ namespace fs = std::filesystem;
 using test::Fault;
 using test::ScratchFolder;
 
-/// The reports screen with this computer's printer and mail; the fault strikes once the reports are made.
+/// The reports screen with this computer's printer and mail; the fault starts once the reports are made.
 struct Reports {
     explicit Reports(const fs::path& path) : folder{path}
     {
@@ -33,9 +34,9 @@ struct Reports {
                 strike();
         };
         screens.whenLoaded = [this](ScreenKind) {
-            state.mailDraft.recipients = {"smith@example.org"};
-            state.mailDraft.subject = "Standings";
-            state.mailDraft.message = "Hi";
+            shared.mailDraft.recipients = {"smith@example.org"};
+            shared.mailDraft.subject = "Standings";
+            shared.mailDraft.message = "Hi";
             if (strike)
                 strike();
         };
@@ -58,10 +59,10 @@ struct Reports {
     MailHandOver mail{folder};
     ui::Platform services{fake.dialogs,  printer,    mail,          fake.help,
                           fake.programs, fake.clock, fake.progress, fake.clipboard};
-    modTallyhoop state;
+    SharedValues shared;
     test::FakeScreens screens;
-    test::FakeBoard board{state};
-    ReportsScreen screen{folder, services, state, screens, board};
+    test::FakeBoard board;
+    ReportsScreen screen{folder, services, screens, shared.field, shared.mailDraft, board};
     std::function<void()> strike;
 };
 
@@ -147,7 +148,7 @@ protected:
 
     ServicesUnderFaults()
     {
-        // A desktop without any mail program but one that opens message files.
+        // A desktop that has only a program that opens message files.
         const fs::path opener = programs.put("gio", "#!/bin/sh\nexit 0\n");
         fs::permissions(opener, fs::perms{0755});
         fs::permissions(programs.path(), fs::perms{0755});
@@ -156,7 +157,7 @@ protected:
     ~ServicesUnderFaults() override { qputenv("PATH", oldPath); }
 };
 
-TEST_P(ServicesUnderFaults, LoseNothingAndWorkAgainOnceItIsMended)
+TEST_P(ServicesUnderFaults, LoseNothingAndWorkAgainOnceItIsRepaired)
 {
     test::inOwnProcess([this]() -> std::string {
         if (std::string cannot = fault.arrange(scratch.path()); !cannot.empty())
@@ -174,7 +175,7 @@ TEST_P(ServicesUnderFaults, LoseNothingAndWorkAgainOnceItIsMended)
         expected.push_back(writer.trouble(scratch.path(), fault));
 
         writer.press(reports, target);
-        fault.mend(scratch.path(), target);
+        fault.repair(scratch.path(), target);
         EXPECT_EQ(reports.fake.dialogs.shown, expected);
         EXPECT_EQ(filesIn(scratch.path()), before);
         EXPECT_EQ(reports.onScreen(), shownBefore);

@@ -1,60 +1,72 @@
-// tests/reports/approved_reports_test.cpp - whole reports, byte for byte, through the screen that makes them.
-//
-// What is expected was not taken from the program: tests/approved/WORKSHEET.md says how each file came about.
-#include "base/lines.h"
-#include "fakes/fake_platform.h"
-#include "fakes/fake_screens.h"
-#include "reports/report_pool.h"
-#include "screens/reports/reports_screen.h"
+// tests/reports/approved_reports_test.cpp - whole reports, byte for byte, from files to lines, without a screen.
+#include "reports/approved_reports.h"
 
-#include <fstream>
-#include <gtest/gtest.h>
-#include <iterator>
+#include "files/player_names_file.h"
+#include "files/pool_files.h"
+#include "pool/projection.h"
+#include "pool/scoring.h"
+#include "reports/player_listing.h"
+#include "reports/player_selection_detail.h"
+#include "reports/report_pool.h"
+#include "reports/report_table.h"
+#include "reports/results_by_player.h"
+#include "reports/results_by_team.h"
+#include "reports/standings.h"
+#include "reports/team_selection_detail.h"
 
 namespace tallyhoop::test {
 namespace {
 
-const std::filesystem::path kApproved{TALLYHOOP_APPROVED_REPORTS};
-
-std::string bytesOf(const std::filesystem::path& file)
+Result<ReportLines> standings(const std::string& title, const Pool& pool)
 {
-    std::ifstream stream{file, std::ios::binary};
-    EXPECT_TRUE(stream) << "cannot read " << file;
-    return {std::istreambuf_iterator<char>{stream}, {}};
+    return standingsLines(title, *scoreEntries(pool.entries, pool.results->picks, *pool.field.payoffs.points()));
 }
 
-/// Fails on the first line that differs, which says more than two whole reports would.
-void expectSameReport(const std::string& made, const std::string& approved, const std::string& name)
+Result<ReportLines> playerListing(const std::string& title, const ScratchFolder& folder)
 {
-    const std::vector<std::string> madeLines = linesOf(made);
-    const std::vector<std::string> approvedLines = linesOf(approved);
-    for (std::size_t i = 0; i < std::min(madeLines.size(), approvedLines.size()); ++i)
-        ASSERT_EQ(madeLines[i], approvedLines[i]) << name << ", line " << i + 1;
-    ASSERT_EQ(madeLines.size(), approvedLines.size()) << name;
-    ASSERT_EQ(made, approved) << name;
+    std::vector<PlayerListingRow> rows;
+    for (const std::string& line : linesOf(folder.get("PLAYERNAMES.CSV"))) {
+        const PlayerRecord record = parseRecord(line);
+        rows.push_back({record.name, record.fileName, record.email, record.phone});
+    }
+    return playerListingLines(title, rows);
 }
 
-void createAllReports(const ScratchFolder& folder, const std::string& title)
+Result<ReportLines> resultsByPlayer(const std::string& title, const Pool& pool)
 {
-    FakePlatform platform;
-    modTallyhoop state;
-    FakeScreens screens;
-    FakeBoard board{state};
-    const DataFolder dataFolder = folder.folder();
-    ReportsScreen screen{dataFolder, platform.services, state, screens, board};
-    screen.load();
-    screen.txtReportTitle.text = title;
-    for (std::size_t i = 0; i < kReports; ++i)
-        screen.chkOptions[i].ticked = true;
-    ui::selectOption(screen.optDestination, 1);
-    screen.cmdPrintSelections.click();
+    const Bracket& results = pool.results->picks;
+    const ByFinal<FinalOutcome> outcomes = finalOutcomes(results);
+    const auto rows = resultsByPlayerRows(pool.entries, results, outcomes, *pool.field.payoffs.points());
+    return resultsByPlayerLines(title, finalFourOf(results), outcomes, *rows);
 }
 
-void expectApproved(const ScratchFolder& folder, const std::string& pool)
+Result<ReportLines> resultsByTeam(const std::string& title, const Pool& pool)
 {
-    for (int number = 1; number <= 7; ++number) {
-        const std::string name = "RPTOPT" + std::to_string(number) + ".TXT";
-        expectSameReport(folder.get(name), bytesOf(kApproved / pool / name), pool + "/" + name);
+    return resultsByTeamLines(title,
+                              *resultsByTeamOutcomes(pool.entries, pool.results->picks, *pool.field.payoffs.points()));
+}
+
+/// Makes all seven reports of a folder.
+/// @param damaged how many of its files are not whole
+void expectAllApproved(const ScratchFolder& folder, const std::string& title, const std::string& poolName,
+                       std::size_t damaged)
+{
+    const Pool pool = readPool(folder.folder());
+    ASSERT_TRUE(pool.results);
+    EXPECT_EQ(pool.trouble.size(), damaged);
+    const std::vector<std::string> picks = pickEntries(pool.entries);
+    const std::array<Result<ReportLines>, kReports> reports{
+        standings(title, pool),
+        playerListing(title, folder),
+        teamSelectionSummaryLines(title, picks),
+        teamSelectionDetailLines(title, picks),
+        playerSelectionDetailLines(title, playersByFileName(pool.entries)),
+        resultsByPlayer(title, pool),
+        resultsByTeam(title, pool),
+    };
+    for (std::size_t i = 0; i < reports.size(); ++i) {
+        ASSERT_TRUE(reports[i]) << reports[i].failure().message;
+        expectApproved(fileOf(*reports[i]), poolName, reportTable()[i].file);
     }
 }
 
@@ -63,21 +75,15 @@ TEST(ApprovedReports, OfFourPlayersAreAsWorkedOutByHand)
     ScratchFolder folder;
     putFourPlayers(folder);
 
-    createAllReports(folder, "Office Pool 2001");
-
-    expectApproved(folder, "small");
+    expectAllApproved(folder, kSmallTitle, "small", 0);
 }
 
 TEST(ApprovedReports, OfAPoolWithAwkwardNamesAreAsASecondReckoningHasThem)
 {
     ScratchFolder folder;
-    for (const auto& file : std::filesystem::directory_iterator{kApproved / "messy"})
-        if (!file.path().filename().string().starts_with("RPTOPT"))
-            std::filesystem::copy_file(file.path(), folder.path() / file.path().filename());
+    putMessyPool(folder);
 
-    createAllReports(folder, "B\xFCro-Pool \x84M\xE4rz\x93 2001");
-
-    expectApproved(folder, "messy");
+    expectAllApproved(folder, kMessyTitle, "messy", 1);
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // tests/reports/player_selection_detail_test.cpp - the table of one player and the pages of all.
 #include "reports/player_selection_detail.h"
 
-#include "reports/report_pool.h"
+#include "reports/four_players.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -9,37 +9,35 @@
 namespace tallyhoop::test {
 namespace {
 
-constexpr std::size_t kFirstRow = 9; ///< behind the head of the first player's page
+constexpr std::size_t kFirstRow = 9; ///< after the header of the first player's page
 
-ReportLines linesFor(const std::vector<PoolEntry>& players, std::string_view title = "Pool")
+ReportLines linesFor(const std::vector<Entry>& players, std::string_view title = "Pool")
 {
-    ReadPool pool;
-    pool.players = players;
-    const Result<ReportLines> lines = playerSelectionDetailLines(title, playersByFileName(pool));
+    const Result<ReportLines> lines = playerSelectionDetailLines(title, playersByFileName(players));
     EXPECT_TRUE(lines) << lines.failure().message;
     return lines ? *lines : ReportLines{};
 }
 
-PoolEntry adams() { return fourPlayers().players[0]; }
+Entry adams() { return fourPlayers()[0]; }
 
 TEST(PlayerSelectionTable, HasEightRowsOfEachRegion)
 {
-    const PlayerSelectionTable table = playerSelectionTable(adams().lines);
+    const PlayerSelectionTable table = playerSelectionTable(adams().picks);
 
-    EXPECT_EQ(table.DetailRows[0], "CEDAR RAPIDS");
-    EXPECT_EQ(table.DetailRows[7], "W15");
-    EXPECT_EQ(table.DetailRows[8], "OLD HARBOR");
-    EXPECT_EQ(table.DetailRows[16], "PINE BLUFF");
-    EXPECT_EQ(table.DetailRows[24], "SALT LAKE");
-    EXPECT_EQ(table.DetailRows[31], "S15");
+    EXPECT_EQ(table.teams[0], "CEDAR RAPIDS");
+    EXPECT_EQ(table.teams[7], "W15");
+    EXPECT_EQ(table.teams[8], "OLD HARBOR");
+    EXPECT_EQ(table.teams[16], "PINE BLUFF");
+    EXPECT_EQ(table.teams[24], "SALT LAKE");
+    EXPECT_EQ(table.teams[31], "S15");
 }
 
 TEST(PlayerSelectionTable, MarksAChampionInAllSixColumnsAndARegionWinnerInFour)
 {
-    const PlayerSelectionTable table = playerSelectionTable(adams().lines);
+    const PlayerSelectionTable table = playerSelectionTable(adams().picks);
     const auto marksOf = [&](std::size_t row) {
         std::string marks;
-        for (const auto& column : table.DetailMarks)
+        for (const auto& column : table.marks)
             marks += column[row] ? 'x' : '-';
         return marks;
     };
@@ -54,22 +52,26 @@ TEST(PlayerSelectionTable, MarksAChampionInAllSixColumnsAndARegionWinnerInFour)
 
 TEST(PlayerSelectionTable, NeverMarksForAnEmptyPick)
 {
-    const PlayerSelectionTable table = playerSelectionTable(fourPlayers().players[2].lines);
+    const PlayerSelectionTable table = playerSelectionTable(fourPlayers()[2].picks);
 
     for (std::size_t column = 1; column < PlayerSelectionTable::kColumns; ++column)
-        EXPECT_EQ(std::ranges::count(table.DetailMarks[column], true), 0) << column;
-    EXPECT_EQ(std::ranges::count(table.DetailMarks[0], true), 32);
+        EXPECT_EQ(std::ranges::count(table.marks[column], true), 0) << column;
+    EXPECT_EQ(std::ranges::count(table.marks[0], true), 32);
 }
 
-TEST(PlayerSelectionTable, IgnoresInitialsAndName)
+TEST(PlayerSelectionTable, MarksATeamWhereItIsSentOnWithoutTheRoundBefore)
 {
-    SelectionLines lines = adams().lines;
-    lines[selection_line::kInitials] = lines[selection_line::kName] = "W03";
+    Bracket picks = adams().picks;
+    picks.put(gamesOfRegion(kWest)[12], "W03"); // the region finals, without a third round
 
-    EXPECT_EQ(std::ranges::count(playerSelectionTable(lines).DetailMarks[1], true), 16);
+    const PlayerSelectionTable table = playerSelectionTable(picks);
+
+    EXPECT_TRUE(table.marks[0][1]);
+    EXPECT_FALSE(table.marks[1][1]);
+    EXPECT_TRUE(table.marks[2][1]);
 }
 
-TEST(PlayerOfFileName, EndsBeforeTheEndingInAnyCase)
+TEST(PlayerOfFileName, IsTheNameBeforeTheExtensionInAnyCase)
 {
     EXPECT_EQ(playerOfFileName("Smith_JS.THC"), "Smith_JS");
     EXPECT_EQ(playerOfFileName("Smith_JS.thc"), "Smith_JS");
@@ -77,11 +79,11 @@ TEST(PlayerOfFileName, EndsBeforeTheEndingInAnyCase)
     EXPECT_EQ(playerOfFileName("Smith"), "Smith");
 }
 
-TEST(PlayerSelectionDetail, BeginsWithTheHeadOfTheFirstPlayer)
+TEST(PlayerSelectionDetail, BeginsWithTheHeaderOfTheFirstPlayer)
 {
     const ReportLines lines = linesFor({adams()}, "Office Pool 2001");
 
-    const ReportLines head{
+    const ReportLines header{
         " ",
         " ",
         " ",
@@ -96,8 +98,8 @@ TEST(PlayerSelectionDetail, BeginsWithTheHeadOfTheFirstPlayer)
         "                     +------------+  +------------+  +------------+  +------------+  +------------+  "
         "+------------+ ",
     };
-    ASSERT_GT(lines.size(), head.size());
-    EXPECT_TRUE(std::equal(head.begin(), head.end(), lines.begin()));
+    ASSERT_GT(lines.size(), header.size());
+    EXPECT_TRUE(std::equal(header.begin(), header.end(), lines.begin()));
 }
 
 TEST(PlayerSelectionDetail, OfOnePlayerIsThirtyTwoRowsWithALineBetweenTheRegions)
@@ -130,7 +132,7 @@ TEST(PlayerSelectionDetail, PutsEachColumnSixteenCharactersFurther)
 
 TEST(PlayerSelectionDetail, PrintsBlankNamesForEmptyPicks)
 {
-    const ReportLines lines = linesFor({fourPlayers().players[2]});
+    const ReportLines lines = linesFor({fourPlayers()[2]});
 
     ASSERT_EQ(lines.size(), kFirstRow + 32 + 3);
     EXPECT_EQ(lines[kFirstRow], "Clark_D" + std::string(14 + 16 + 1, ' '));
@@ -139,7 +141,7 @@ TEST(PlayerSelectionDetail, PrintsBlankNamesForEmptyPicks)
 
 TEST(PlayerSelectionDetail, SeparatesPlayersByABlankLineAFormFeedAndABlankLine)
 {
-    const ReportLines lines = linesFor({adams(), fourPlayers().players[1]});
+    const ReportLines lines = linesFor({adams(), fourPlayers()[1]});
 
     const std::size_t second = kFirstRow + 35;
     ASSERT_EQ(lines.size(), 2 * second + 2);
@@ -152,8 +154,8 @@ TEST(PlayerSelectionDetail, SeparatesPlayersByABlankLineAFormFeedAndABlankLine)
 
 TEST(PlayerSelectionDetail, TakesPlayersInTheAlphabeticalOrderOfTheirFiles)
 {
-    PoolEntry first = adams();
-    PoolEntry second = adams();
+    Entry first = adams();
+    Entry second = adams();
     first.fileName = "b.THC";
     second.fileName = "A.THC";
 
@@ -164,10 +166,10 @@ TEST(PlayerSelectionDetail, TakesPlayersInTheAlphabeticalOrderOfTheirFiles)
 
 TEST(PlayerSelectionDetail, CutsATeamToFourteenCharactersInEveryColumn)
 {
-    PoolEntry player = adams();
-    for (std::string& line : player.lines)
-        if (line == "CEDAR RAPIDS")
-            line = "CEDAR RAPIDS UNIVERSITY";
+    Entry player = adams();
+    for (const Position position : allPositions())
+        if (player.picks.at(position) == "CEDAR RAPIDS")
+            player.picks.put(position, "CEDAR RAPIDS UNIVERSITY");
 
     const std::string row = linesFor({player})[kFirstRow];
 
@@ -177,7 +179,7 @@ TEST(PlayerSelectionDetail, CutsATeamToFourteenCharactersInEveryColumn)
 
 TEST(PlayerSelectionDetail, CutsAFileNameToTwentyOneCharacters)
 {
-    PoolEntry player = adams();
+    Entry player = adams();
     player.fileName = "Wolfeschlegelsteinhausenberger_HB.THC";
 
     EXPECT_TRUE(linesFor({player})[kFirstRow].starts_with("WolfeschlegelsteinhauCEDAR RAPIDS"));
@@ -185,8 +187,8 @@ TEST(PlayerSelectionDetail, CutsAFileNameToTwentyOneCharacters)
 
 TEST(PlayerSelectionDetail, LetsTheNamesOfAnInconsistentBracketSlideLeft)
 {
-    PoolEntry player = adams();
-    player.lines[29] = "W03"; // sent into the region finals without a third round
+    Entry player = adams();
+    player.picks.put(gamesOfRegion(kWest)[12], "W03"); // sent into the region finals without a third round
 
     const std::string row = linesFor({player})[kFirstRow + 1];
 
@@ -195,12 +197,11 @@ TEST(PlayerSelectionDetail, LetsTheNamesOfAnInconsistentBracketSlideLeft)
 
 TEST(PlayerSelectionDetail, FailsForATitleWiderThanThePage)
 {
-    ReadPool pool;
-    pool.players = {adams()};
+    const std::vector<Entry> entries{adams()};
+    const std::vector<const Entry*> players = playersByFileName(entries);
 
-    EXPECT_TRUE(playerSelectionDetailLines(std::string(117, 'T'), playersByFileName(pool))); // 57.5 - 58, to even 0
-    const Result<ReportLines> lines =
-        playerSelectionDetailLines(std::string(118, 'T'), playersByFileName(pool)); // -1.5
+    EXPECT_TRUE(playerSelectionDetailLines(std::string(117, 'T'), players)); // 57.5 - 58, to even 0
+    const Result<ReportLines> lines = playerSelectionDetailLines(std::string(118, 'T'), players); // -1.5
     ASSERT_FALSE(lines);
     EXPECT_TRUE(lines.failure().message.starts_with("This text is too wide for the report:\r\n"));
 }

@@ -1,4 +1,4 @@
-// tests/reports/report_layout_test.cpp - centring, page heads, work rows.
+// tests/reports/report_layout_test.cpp - centring, page headers, work rows.
 #include "reports/report_layout.h"
 
 #include <gtest/gtest.h>
@@ -65,20 +65,20 @@ TEST(Indenting, StartsAtTheLeftEdgeWhereNegativeCountsAreClamped)
     EXPECT_EQ(indentedOrFlush(2, "abc"), "  abc");
 }
 
-TEST(PageHead, IsAnEmptyLineTheTitleTheNameAndAnEmptyLine)
+TEST(PageHeader, IsAnEmptyLineTheTitleTheNameAndAnEmptyLine)
 {
     ReportLines lines;
 
-    ASSERT_TRUE(addCentredPageHead(lines, centredOnce, 20, "Title", "Name"));
+    ASSERT_TRUE(addCentredPageHeader(lines, centredOnce, 20, "Title", "Name"));
 
     EXPECT_EQ(lines, (ReportLines{" ", "        Title", "        Name", " "})); // 7.5 and 8
 }
 
-TEST(PageHead, FailsWhenTheTitleIsTooWide)
+TEST(PageHeader, FailsWhenTheTitleIsTooWide)
 {
     ReportLines lines;
 
-    EXPECT_FALSE(addCentredPageHead(lines, centredOnce, 4, "Too wide", "Name"));
+    EXPECT_FALSE(addCentredPageHeader(lines, centredOnce, 4, "Too wide", "Name"));
     EXPECT_TRUE(lines.empty());
 }
 
@@ -102,7 +102,7 @@ TEST(WorkRows, ThatDifferOnlyInCaseKeepTheOrderOfArrival)
     EXPECT_EQ(rows, (std::vector<std::string>{"smith", "SMITH", "Smith"}));
 }
 
-TEST(WorkRowFields, LoseWhatComesBehindTheLastOne)
+TEST(WorkRowFields, LoseWhatComesAfterTheLastOne)
 {
     EXPECT_EQ(workRowFields("a;b;c;d", ';', 3), (std::vector<std::string>{"a", "b", "c"}));
 }

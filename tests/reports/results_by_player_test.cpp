@@ -1,8 +1,8 @@
 // tests/reports/results_by_player_test.cpp - points under each outcome, lines and pages.
 #include "reports/results_by_player.h"
 
-#include "fakes/fake_platform.h"
-#include "reports/report_pool.h"
+#include "pool/scoring.h"
+#include "reports/four_players.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -10,26 +10,21 @@
 namespace tallyhoop::test {
 namespace {
 
-const FinalFour kFour{"", "CEDAR RAPIDS", "OLD HARBOR", "PINE BLUFF", "SALT LAKE"};
-
 struct ResultsByPlayer : testing::Test {
-    SelectionLines results = fourPlayersResults().lines;
-    FinalFour finalFour = kFour;
-    ReadPool pool = fourPlayers();
+    Bracket results = fourPlayersResults().picks;
+    std::vector<Entry> players = fourPlayers();
     std::string title = "Pool";
-    FakeProgress progress;
 
     std::vector<ResultsByPlayerRow> rows()
     {
-        Work work{progress, "rows", pool.players.size()};
-        const auto made = resultsByPlayerRows(pool, results, finalOutcomes(results, finalFour), kUsualPayoffs, work);
+        const auto made = resultsByPlayerRows(players, results, finalOutcomes(results), kUsualPayoffs);
         EXPECT_TRUE(made);
         return made ? *made : std::vector<ResultsByPlayerRow>{};
     }
 
     Result<ReportLines> report()
     {
-        return resultsByPlayerLines(title, finalFour, finalOutcomes(results, finalFour), rows());
+        return resultsByPlayerLines(title, finalFourOf(results), finalOutcomes(results), rows());
     }
 
     ReportLines lines()
@@ -39,18 +34,12 @@ struct ResultsByPlayer : testing::Test {
         return made ? *made : ReportLines{};
     }
 
-    void keepPlayers(std::initializer_list<std::size_t> kept)
-    {
-        ReadPool fewer;
-        for (const std::size_t index : kept)
-            fewer.players.push_back(pool.players[index]);
-        pool = fewer;
-    }
+    void keepPlayer(std::size_t index) { players = {fourPlayers()[index]}; }
 };
 
 TEST_F(ResultsByPlayer, ShowThePointsUnderEveryOutcome)
 {
-    keepPlayers({0}); // Adams: CEDAR RAPIDS over PINE BLUFF
+    keepPlayer(0); // Adams: CEDAR RAPIDS over PINE BLUFF
 
     // Adams_AB.THC 12, teams 12 + 3 = 15; runner-up 10 + 6 = 16; pages 56 and 57: 57.
     EXPECT_EQ(lines(), (ReportLines{
@@ -75,8 +64,8 @@ TEST_F(ResultsByPlayer, ShowThePointsUnderEveryOutcome)
 
 TEST_F(ResultsByPlayer, ShowNeitherLineOfATeamThatLostItsSemifinalAndBothOfTheWinner)
 {
-    results[125] = "OLD HARBOR";
-    keepPlayers({1}); // Baker: SALT LAKE over OLD HARBOR, 96 and 12 for OLD HARBOR
+    results.put(kSemifinalA, "OLD HARBOR");
+    keepPlayer(1); // Baker: SALT LAKE over OLD HARBOR, 96 and 12 for OLD HARBOR
 
     const ReportLines made = lines();
 
@@ -90,8 +79,8 @@ TEST_F(ResultsByPlayer, ShowNeitherLineOfATeamThatLostItsSemifinalAndBothOfTheWi
 
 TEST_F(ResultsByPlayer, NameTheTeamOnTheSecondLineWhenTheFirstIsMissing)
 {
-    results[126] = "SALT LAKE"; // PINE BLUFF, the first opponent, is out
-    keepPlayers({0});
+    results.put(kSemifinalB, "SALT LAKE"); // PINE BLUFF, the first opponent, is out
+    keepPlayer(0);
 
     const ReportLines made = lines();
 
@@ -101,9 +90,9 @@ TEST_F(ResultsByPlayer, NameTheTeamOnTheSecondLineWhenTheFirstIsMissing)
 
 TEST_F(ResultsByPlayer, ShowOnlyTheBlankLineWhenNoOutcomeIsLeftForATeam)
 {
-    results[125] = "OLD HARBOR";
-    results[126] = "SALT LAKE";
-    keepPlayers({0});
+    results.put(kSemifinalA, "OLD HARBOR");
+    results.put(kSemifinalB, "SALT LAKE");
+    keepPlayer(0);
 
     const ReportLines made = lines();
 
@@ -115,28 +104,27 @@ TEST_F(ResultsByPlayer, ShowOnlyTheBlankLineWhenNoOutcomeIsLeftForATeam)
 
 TEST_F(ResultsByPlayer, SayThatThereIsNoSelection)
 {
-    keepPlayers({2});
+    keepPlayer(2);
 
     EXPECT_EQ(lines()[4], "Clark_D.THC      Final Game Selection:  NO SELECTION & over NO SELECTION");
 }
 
 TEST_F(ResultsByPlayer, SayThatThereIsNoChampionButARunnerUp)
 {
-    keepPlayers({2});
-    pool.players[0].lines[126] = "SALT LAKE";
+    keepPlayer(2);
+    players[0].picks.put(kSemifinalB, "SALT LAKE");
 
     EXPECT_EQ(lines()[4], "Clark_D.THC      Final Game Selection:  NO SELECTION & over SALT LAKE");
 }
 
 TEST_F(ResultsByPlayer, ProjectPointsThatAreAllEarnedBecauseAllGamesAreDecided)
 {
-    const ByFinal<FinalOutcome> outcomes = finalOutcomes(results, finalFour);
+    const ByFinal<FinalOutcome> outcomes = finalOutcomes(results);
     const std::vector<ResultsByPlayerRow> made = rows();
-    for (std::size_t player = 0; player < pool.players.size(); ++player)
+    for (std::size_t player = 0; player < players.size(); ++player)
         for (std::size_t team = 0; team < 4; ++team)
             for (std::size_t opponent = 0; opponent < 2; ++opponent) {
-                const ScoredPicks scored =
-                    Scoring{outcomes[team][opponent]->results, kUsualPayoffs}.score(pool.players[player].lines);
+                const Score scored = score(players[player].picks, outcomes[team][opponent]->results, kUsualPayoffs);
                 EXPECT_EQ(scored.possible, 0);
                 EXPECT_EQ(*made[player].projected[team][opponent], scored.points);
             }
@@ -144,7 +132,7 @@ TEST_F(ResultsByPlayer, ProjectPointsThatAreAllEarnedBecauseAllGamesAreDecided)
 
 TEST_F(ResultsByPlayer, FollowTheOrderOfTheFiles)
 {
-    std::swap(pool.players[0], pool.players[3]);
+    std::swap(players[0], players[3]);
 
     const ReportLines made = lines();
 
@@ -156,18 +144,18 @@ TEST_F(ResultsByPlayer, FollowTheOrderOfTheFiles)
 TEST_F(ResultsByPlayer, EndThePageAfterTheBlockThatPassesItsEnd)
 {
     // 4 + 12 lines a player: 52 after four, 64 after five.
-    const PoolEntry adams = pool.players[0];
-    pool.players.assign(5, adams);
+    const Entry adams = players[0];
+    players.assign(5, adams);
     ReportLines made = lines();
     ASSERT_EQ(made.size(), 4u + 60u + 1u);
     EXPECT_EQ(made.back(), kFormFeedLine);
 
-    pool.players.assign(4, adams);
+    players.assign(4, adams);
     made = lines();
     EXPECT_EQ(made.size(), 4u + 48u);
     EXPECT_EQ(std::ranges::count(made, kFormFeedLine), 0);
 
-    pool.players.assign(6, adams);
+    players.assign(6, adams);
     made = lines();
     ASSERT_EQ(made.size(), 4u + 60u + 1u + 4u + 12u);
     EXPECT_TRUE(std::equal(made.begin(), made.begin() + 4, made.begin() + 65));
@@ -176,14 +164,14 @@ TEST_F(ResultsByPlayer, EndThePageAfterTheBlockThatPassesItsEnd)
 TEST_F(ResultsByPlayer, DoNotEndThePageAtExactlyFiftyFour)
 {
     // Both semi-finals decided for the first opponents: two teams with one line each, which is not counted.
-    results[125] = "CEDAR RAPIDS";
-    results[126] = "PINE BLUFF";
-    const PoolEntry adams = pool.players[0];
+    results.put(kSemifinalA, "CEDAR RAPIDS");
+    results.put(kSemifinalB, "PINE BLUFF");
+    const Entry adams = players[0];
     // A block is 3 + 2 lines, counted as 3, and 1: 4 + 4 n; 52 after twelve, 56 after thirteen.
-    pool.players.assign(12, adams);
+    players.assign(12, adams);
     EXPECT_EQ(std::ranges::count(lines(), kFormFeedLine), 0);
 
-    pool.players.assign(13, adams);
+    players.assign(13, adams);
     const ReportLines made = lines();
     EXPECT_EQ(std::ranges::count(made, kFormFeedLine), 1);
     EXPECT_EQ(made.size(), 4u + 13u * 6u + 1u);
@@ -193,19 +181,19 @@ TEST_F(ResultsByPlayer, DoNotEndThePageAtExactlyFiftyFour)
 TEST_F(ResultsByPlayer, CountTwoLinesForATeamWhenOnlyItsSecondIsThere)
 {
     // The second opponents have won: two teams with one line each, counted as two.
-    results[125] = "OLD HARBOR";
-    results[126] = "SALT LAKE";
-    const PoolEntry adams = pool.players[0];
+    results.put(kSemifinalA, "OLD HARBOR");
+    results.put(kSemifinalB, "SALT LAKE");
+    const Entry adams = players[0];
     // A block is counted as 3 + 4 + 1 = 8: 4 + 8 n; 52 after six, 60 after seven.
-    pool.players.assign(6, adams);
+    players.assign(6, adams);
     EXPECT_EQ(std::ranges::count(lines(), kFormFeedLine), 0);
-    pool.players.assign(7, adams);
+    players.assign(7, adams);
     EXPECT_EQ(std::ranges::count(lines(), kFormFeedLine), 1);
 }
 
 TEST_F(ResultsByPlayer, FailForATitleWiderThanThePage)
 {
-    keepPlayers({0});
+    keepPlayer(0);
     title = std::string(58, 'T'); // the page is 57: -0.5 blanks are none
     EXPECT_EQ(lines()[1], title);
 
@@ -217,11 +205,10 @@ TEST_F(ResultsByPlayer, FailForATitleWiderThanThePage)
 
 TEST_F(ResultsByPlayer, FailWhenTheLongestRegionWinnerHasFewerThanElevenCharacters)
 {
-    for (SelectionLines* each : {&results, &pool.players[0].lines})
-        for (std::string& line : *each)
-            if (line == "CEDAR RAPIDS")
-                line = "CEDAR";
-    finalFour[1] = "CEDAR";
+    for (Bracket* each : {&results, &players[0].picks})
+        for (const Position position : allPositions())
+            if (each->at(position) == "CEDAR RAPIDS")
+                each->put(position, "CEDAR");
 
     const Result<ReportLines> made = report();
 
@@ -231,33 +218,41 @@ TEST_F(ResultsByPlayer, FailWhenTheLongestRegionWinnerHasFewerThanElevenCharacte
 
 TEST_F(ResultsByPlayer, WriteTheTwoPointsSideBySideForElevenCharacters)
 {
-    keepPlayers({2});
-    results[31] = finalFour[1] = "ELEVENCHARS";
+    keepPlayer(2);
+    results.put(regionWinner(kWest), "ELEVENCHARS");
 
     EXPECT_EQ(lines()[5], "                Current Points: 000Maximum Points = 000"); // 14 + 2 blanks, none between
 }
 
 TEST_F(ResultsByPlayer, NameTheFileWhoseTieBreakerIsTooLarge)
 {
-    pool.players[1].lines[selection_line::kFinalPoints] = "40000";
-    Work work{progress, "rows", pool.players.size()};
+    players[1].finalPoints = "40000";
 
-    const auto made = resultsByPlayerRows(pool, results, finalOutcomes(results, finalFour), kUsualPayoffs, work);
+    const auto made = resultsByPlayerRows(players, results, finalOutcomes(results), kUsualPayoffs);
 
     ASSERT_FALSE(made);
     EXPECT_NE(made.failure().message.find("Baker_C.THC"), std::string::npos);
 }
 
-TEST_F(ResultsByPlayer, StopWhenThePersonCancels)
+TEST_F(ResultsByPlayer, StopAfterTheStepAtWhichTheyAreToldTo)
 {
-    progress.cancelAt = 2;
-    Work work{progress, "rows", pool.players.size()};
+    int steps = 0;
 
-    const auto made = resultsByPlayerRows(pool, results, finalOutcomes(results, finalFour), kUsualPayoffs, work);
+    const auto made =
+        resultsByPlayerRows(players, results, finalOutcomes(results), kUsualPayoffs, [&steps] { return ++steps < 2; });
 
-    EXPECT_TRUE(work.cancelled());
+    EXPECT_EQ(steps, 2);
     ASSERT_TRUE(made);
     EXPECT_EQ(made->size(), 2u);
+}
+
+TEST_F(ResultsByPlayer, CentreTheHeaderWithoutTheWidthOfTheChampion)
+{
+    keepPlayer(0);
+    players[0].picks.put(kSemifinalB, std::string(29, 'R')); // over 29 characters: 15 + 2 + 23 + 29 + 6 = 75
+    players[0].picks.put(kSemifinalA, "CEDAR RAPIDS");
+
+    EXPECT_EQ(lines()[1], std::string(36, ' ') + "Pool"); // 71 / 2 = 35.5
 }
 
 } // namespace

@@ -1,8 +1,7 @@
 // tests/reports/results_by_team_test.cpp - work rows, order and pages of the results by team.
 #include "reports/results_by_team.h"
 
-#include "fakes/fake_platform.h"
-#include "reports/report_pool.h"
+#include "reports/four_players.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -10,18 +9,14 @@
 namespace tallyhoop::test {
 namespace {
 
-const FinalFour kFour{"", "CEDAR RAPIDS", "OLD HARBOR", "PINE BLUFF", "SALT LAKE"};
-
 struct ResultsByTeam : testing::Test {
-    SelectionLines results = fourPlayersResults().lines;
-    ReadPool pool = fourPlayers();
+    Bracket results = fourPlayersResults().picks;
+    std::vector<Entry> players = fourPlayers();
     std::string title = "Pool";
-    FakeProgress progress;
 
     std::vector<TeamOutcome> outcomes()
     {
-        Work work{progress, "rows", 5 * pool.players.size()};
-        const auto made = resultsByTeamOutcomes(pool, results, kFour, kUsualPayoffs, work);
+        const auto made = resultsByTeamOutcomes(players, results, kUsualPayoffs);
         EXPECT_TRUE(made);
         return made ? *made : std::vector<TeamOutcome>{};
     }
@@ -34,9 +29,9 @@ struct ResultsByTeam : testing::Test {
     }
 
     /// Only one team is left, with this many players.
-    ReportLines linesOfOneTeam(std::size_t players)
+    ReportLines linesOfOneTeam(std::size_t rows)
     {
-        TeamOutcome outcome{"DUKE", std::vector<std::string>(players, "100,A.THC,090,080,DUKE,UTAH"), 8};
+        TeamOutcome outcome{"DUKE", std::vector<std::string>(rows, "100,A.THC,090,080,DUKE,UTAH"), 8};
         const Result<ReportLines> made = resultsByTeamLines(title, std::vector{outcome});
         EXPECT_TRUE(made);
         return *made;
@@ -45,12 +40,12 @@ struct ResultsByTeam : testing::Test {
 
 TEST(ResultsByTeamWorkRow, PacksSixFields)
 {
-    ScoreLine score;
-    score.MaxPoints = 108;
-    score.FileName = "Smith_JS.THC";
-    score.Points = 96;
-    score.WinningPick = "DUKE";
-    score.RunnerUpPick = "UTAH";
+    PlayerScore score;
+    score.maxPoints = 108;
+    score.fileName = "Smith_JS.THC";
+    score.points = 96;
+    score.winningPick = "DUKE";
+    score.runnerUpPick = "UTAH";
 
     EXPECT_EQ(resultsByTeamWorkRow(score, 7), "108,Smith_JS.THC,096,007,DUKE,UTAH");
 }
@@ -101,10 +96,10 @@ TEST_F(ResultsByTeam, RankEveryPlayerByTheBestCaseOfEachTeam)
     EXPECT_EQ(made[11], "   Clark_D.THC               000     000     000    NO SELECTION over NO SELECTION");
     EXPECT_EQ(made[12], " ");
     EXPECT_EQ(made[13], " ");
-    EXPECT_EQ(made[14], "If OLD HARBOR Wins:"); // no page head in between
+    EXPECT_EQ(made[14], "If OLD HARBOR Wins:"); // no page header in between
 }
 
-TEST_F(ResultsByTeam, CentreTheHeadOnTheFinalPicks)
+TEST_F(ResultsByTeam, CentreTheHeaderOnTheFinalPicks)
 {
     const ReportLines made = lines();
 
@@ -115,38 +110,38 @@ TEST_F(ResultsByTeam, CentreTheHeadOnTheFinalPicks)
 
 TEST_F(ResultsByTeam, LeaveOutATeamThatLostItsSemifinal)
 {
-    results[125] = "OLD HARBOR";
+    results.put(kSemifinalA, "OLD HARBOR");
 
     const ReportLines made = lines();
 
     EXPECT_EQ(std::ranges::count(made, "If CEDAR RAPIDS Wins:"), 0);
-    for (const char* head : {"If OLD HARBOR Wins:", "If PINE BLUFF Wins:", "If SALT LAKE Wins:"})
-        EXPECT_EQ(std::ranges::count(made, head), 1) << head;
+    for (const char* line : {"If OLD HARBOR Wins:", "If PINE BLUFF Wins:", "If SALT LAKE Wins:"})
+        EXPECT_EQ(std::ranges::count(made, line), 1) << line;
 }
 
 TEST_F(ResultsByTeam, CutAFileNameToTwentyFourCharacters)
 {
-    pool.players.resize(1);
-    pool.players[0].fileName = "A file name that is far too long_AB.THC";
+    players.resize(1);
+    players[0].fileName = "A file name that is far too long_AB.THC";
 
     EXPECT_EQ(lines()[8], "   A file name that is far   168     156     128    CEDAR RAPIDS over PINE BLUFF");
 }
 
 TEST_F(ResultsByTeam, ShowTheRunnerUpOfAPlayerWithoutChampion)
 {
-    pool.players = {pool.players[2]};
-    pool.players[0].lines[126] = "SALT LAKE";
+    players = {fourPlayers()[2]};
+    players[0].picks.put(kSemifinalB, "SALT LAKE");
 
     EXPECT_TRUE(lines()[8].ends_with("    NO SELECTION over SALT LAKE"));
 }
 
 TEST_F(ResultsByTeam, OrderEqualBestCasesByFileNameBackwards)
 {
-    const PoolEntry adams = pool.players[0];
-    pool.players.assign(3, adams);
-    pool.players[0].fileName = "b.THC";
-    pool.players[1].fileName = "C.THC";
-    pool.players[2].fileName = "A.THC";
+    const Entry adams = players[0];
+    players.assign(3, adams);
+    players[0].fileName = "b.THC";
+    players[1].fileName = "C.THC";
+    players[2].fileName = "A.THC";
 
     const ReportLines made = lines();
 
@@ -161,10 +156,10 @@ TEST_F(ResultsByTeam, LetThePickColumnOnlyGrowFromTeamToTeam)
         EXPECT_EQ(outcome.pickWidth, 22u);
 }
 
-TEST_F(ResultsByTeam, EndAPageWithTheFiftyFifthRowOfATeam)
+TEST_F(ResultsByTeam, StartANewPageAfterTheFiftyFifthRowOfATeam)
 {
     const ReportLines fiftyFour = linesOfOneTeam(54);
-    // 8 + 54 = 62 is not above 62; the two empty lines then make 64, and the page ends behind the team.
+    // 8 + 54 = 62 is not above 62; the two empty lines then make 64, and the page ends after the team.
     ASSERT_EQ(fiftyFour.size(), 8u + 54u + 2u + 1u);
     EXPECT_EQ(std::ranges::count(fiftyFour, "If DUKE Wins (cont.):"), 0);
     EXPECT_EQ(fiftyFour.back(), kFormFeedLine);
@@ -182,7 +177,7 @@ TEST_F(ResultsByTeam, EndAPageWithTheFiftyFifthRowOfATeam)
     EXPECT_EQ(fiftySix[70], "   A.THC                     100     090     080    DUKE over UTAH");
 }
 
-TEST_F(ResultsByTeam, WriteTheContinuationHeadEvenWhenNoRowFollows)
+TEST_F(ResultsByTeam, WriteTheContinuationHeaderEvenWhenNoRowFollows)
 {
     const ReportLines made = linesOfOneTeam(55);
 
@@ -201,15 +196,15 @@ TEST_F(ResultsByTeam, HoldFiftySevenRowsOnAContinuationPage)
 TEST_F(ResultsByTeam, StartTheNextTeamOnANewPageWhenThePageIsPastFifty)
 {
     // 4 + 4 + n + 2: 50 with 40 rows, 51 with 41.
-    const auto twoTeams = [this](std::size_t players) {
-        const TeamOutcome team{"DUKE", std::vector<std::string>(players, "100,A.THC,090,080,DUKE,UTAH"), 8};
+    const auto twoTeams = [this](std::size_t rows) {
+        const TeamOutcome team{"DUKE", std::vector<std::string>(rows, "100,A.THC,090,080,DUKE,UTAH"), 8};
         const Result<ReportLines> made = resultsByTeamLines(title, std::vector{team, TeamOutcome{"UTAH", {}, 8}});
         EXPECT_TRUE(made);
         return *made;
     };
 
     const ReportLines forty = twoTeams(40);
-    EXPECT_EQ(std::ranges::count(forty, kFormFeedLine), 1); // behind the second team: 50 + 4 + 2
+    EXPECT_EQ(std::ranges::count(forty, kFormFeedLine), 1); // after the second team: 50 + 4 + 2
     EXPECT_EQ(forty[50], "If UTAH Wins:");
 
     const ReportLines fortyOne = twoTeams(41);
@@ -232,13 +227,23 @@ TEST_F(ResultsByTeam, FailForATitleWiderThanThePage)
     EXPECT_EQ(made.failure().message, "This text is too wide for the report:\r\n" + title);
 }
 
-TEST_F(ResultsByTeam, StopWhenThePersonCancelsInTheMiddle)
+TEST_F(ResultsByTeam, TakeAStepForEveryPlayerNowAndUnderEachTeamThatCanWin)
 {
-    progress.cancelAt = 6;
-    Work work{progress, "rows", 20};
+    results.put(kSemifinalA, "OLD HARBOR"); // CEDAR RAPIDS is out
+    int steps = 0;
 
-    EXPECT_TRUE(resultsByTeamOutcomes(pool, results, kFour, kUsualPayoffs, work));
-    EXPECT_TRUE(work.cancelled());
+    EXPECT_TRUE(resultsByTeamOutcomes(players, results, kUsualPayoffs, [&steps] { return ++steps > 0; }));
+
+    EXPECT_EQ(steps, 16); // four players, now and for three teams
+}
+
+TEST_F(ResultsByTeam, StopAtTheStepAtWhichTheyAreToldTo)
+{
+    for (const int last : {1, 4, 6, 8, 20}) {
+        int steps = 0;
+        EXPECT_TRUE(resultsByTeamOutcomes(players, results, kUsualPayoffs, [&] { return ++steps != last; }));
+        EXPECT_EQ(steps, last);
+    }
 }
 
 } // namespace

@@ -7,25 +7,25 @@
 namespace tallyhoop::test {
 namespace {
 
-ScoreLine score(int points, std::string player, std::string file, std::string winner = "DUKE")
+PlayerScore score(int points, std::string player, std::string file, std::string winner = "DUKE")
 {
-    ScoreLine line;
-    line.Points = static_cast<std::int16_t>(points);
-    line.PlayerName = std::move(player);
-    line.FileName = std::move(file);
-    line.WinningPick = std::move(winner);
+    PlayerScore line;
+    line.points = static_cast<std::int16_t>(points);
+    line.playerName = std::move(player);
+    line.fileName = std::move(file);
+    line.winningPick = std::move(winner);
     return line;
 }
 
-std::vector<ScoreLine> players(int count)
+std::vector<PlayerScore> players(int count)
 {
-    std::vector<ScoreLine> scores;
+    std::vector<PlayerScore> scores;
     for (int i = 0; i < count; ++i)
         scores.push_back(score(100 + i, "AB, Somebody", "Somebody_AB.THC"));
     return scores;
 }
 
-ReportLines linesFor(std::span<const ScoreLine> scores, std::string_view title = "Pool")
+ReportLines linesFor(std::span<const PlayerScore> scores, std::string_view title = "Pool")
 {
     const Result<ReportLines> lines = standingsLines(title, scores);
     EXPECT_TRUE(lines);
@@ -34,7 +34,7 @@ ReportLines linesFor(std::span<const ScoreLine> scores, std::string_view title =
 
 TEST(StandingsWorkRow, PacksEightFieldsWithNumbersOfThreeDigits)
 {
-    const ScoreLine line{"Smith_JS.THC", "JS, Smith", 7, 168, 5, 12, "DUKE", "UTAH", 150};
+    const PlayerScore line{"Smith_JS.THC", "JS, Smith", 7, 168, 5, 12, "DUKE", "UTAH", 150, {}};
 
     EXPECT_EQ(standingsWorkRow(line), "007;JS, Smith;Smith_JS.THC;168;005;012;DUKE;150");
 }
@@ -69,9 +69,9 @@ TEST(StandingsRow, IsShiftedByASemicolonInsideAName)
     EXPECT_EQ(row.finalPoints, "DUKE"); // the tie-breaker is lost
 }
 
-TEST(Standings, OfOnePlayerAreSevenHeadLinesAndOneRow)
+TEST(Standings, OfOnePlayerAreSevenHeaderLinesAndOneRow)
 {
-    const std::vector<ScoreLine> scores{{"Smith_JS.THC", "JS, Smithson", 7, 168, 5, 12, "DUKE", "UTAH", 150}};
+    const std::vector<PlayerScore> scores{{"Smith_JS.THC", "JS, Smithson", 7, 168, 5, 12, "DUKE", "UTAH", 150, {}}};
 
     // Widths 12, 12, 4; the line is 72 wide: 36 - 2 = 34 and 36 - 10 = 26 blanks.
     EXPECT_EQ(linesFor(scores), (ReportLines{
@@ -86,7 +86,7 @@ TEST(Standings, OfOnePlayerAreSevenHeadLinesAndOneRow)
                                 }));
 }
 
-TEST(Standings, OfFortyOnePlayersFillOnePageThatEndsInAFormFeed)
+TEST(Standings, OfFortyOnePlayersFillOnePageFollowedByAFormFeed)
 {
     const ReportLines lines = linesFor(players(41));
 
@@ -102,7 +102,7 @@ TEST(Standings, OfFortyPlayersHaveNoFormFeed)
     EXPECT_EQ(std::ranges::count(lines, kFormFeedLine), 0);
 }
 
-TEST(Standings, StartASecondPageUnderARepeatedHeadWithTheFortySecondPlayer)
+TEST(Standings, StartASecondPageUnderARepeatedHeaderWithTheFortySecondPlayer)
 {
     const ReportLines lines = linesFor(players(42));
 
@@ -112,7 +112,7 @@ TEST(Standings, StartASecondPageUnderARepeatedHeadWithTheFortySecondPlayer)
     EXPECT_TRUE(lines[56].starts_with(" 100 ")); // the fewest points come last
 }
 
-TEST(Standings, OfEightyTwoPlayersEndInAFormFeedAfterTheSecondPage)
+TEST(Standings, OfEightyTwoPlayersHaveAFormFeedAfterTheSecondPage)
 {
     const ReportLines lines = linesFor(players(82));
 
@@ -122,7 +122,7 @@ TEST(Standings, OfEightyTwoPlayersEndInAFormFeedAfterTheSecondPage)
 
 TEST(Standings, LeaveTheSecondHeadingEmptyWhenAllPlayerNamesAreShort)
 {
-    const std::vector<ScoreLine> scores{score(1, "12345678", "Longer.THC")};
+    const std::vector<PlayerScore> scores{score(1, "12345678", "Longer.THC")};
 
     const ReportLines lines = linesFor(scores);
 
@@ -144,8 +144,8 @@ TEST(Standings, WriteTheSecondHeadingFromNineAndEightCharactersOn)
 
 TEST(Standings, ListTheLaterNameFirstAmongEqualPoints)
 {
-    const std::vector<ScoreLine> scores{score(5, "AB, Adams", "1.THC"), score(5, "cd, Clark", "2.THC"),
-                                        score(5, "BC, Baker", "3.THC")};
+    const std::vector<PlayerScore> scores{score(5, "AB, Adams", "1.THC"), score(5, "cd, Clark", "2.THC"),
+                                          score(5, "BC, Baker", "3.THC")};
 
     const ReportLines lines = linesFor(scores);
 
@@ -156,7 +156,7 @@ TEST(Standings, ListTheLaterNameFirstAmongEqualPoints)
 
 TEST(Standings, OrderEqualPlayersByFileNameBackwards)
 {
-    const std::vector<ScoreLine> scores{score(5, "AB, Adams", "First.THC"), score(5, "AB, Adams", "Second.THC")};
+    const std::vector<PlayerScore> scores{score(5, "AB, Adams", "First.THC"), score(5, "AB, Adams", "Second.THC")};
 
     const ReportLines lines = linesFor(scores);
 
@@ -166,7 +166,7 @@ TEST(Standings, OrderEqualPlayersByFileNameBackwards)
 
 TEST(Standings, ReverseTheOrderOfArrivalOfRowsThatAreEqualButForCase)
 {
-    const std::vector<ScoreLine> scores{score(5, "ab, Adams", "X.THC"), score(5, "AB, ADAMS", "X.THC")};
+    const std::vector<PlayerScore> scores{score(5, "ab, Adams", "X.THC"), score(5, "AB, ADAMS", "X.THC")};
 
     const ReportLines lines = linesFor(scores);
 
@@ -176,16 +176,16 @@ TEST(Standings, ReverseTheOrderOfArrivalOfRowsThatAreEqualButForCase)
 
 TEST(Standings, CountAPlayerWithoutPicksAsSixtyThreeMinusTheBadOnes)
 {
-    ScoreLine empty = score(0, "D, Clarkson", "Clark_D.THC", "");
-    empty.BadPicks = 63;
+    PlayerScore empty = score(0, "D, Clarkson", "Clark_D.THC", "");
+    empty.badPicks = 63;
 
     EXPECT_EQ(linesFor(std::vector{empty})[7], " 000   D, Clarkson   Clark_D.THC   000   000   063   000    000   ");
 }
 
 TEST(Standings, ShowNegativeOpenPicksOfADamagedSelection)
 {
-    ScoreLine damaged = score(0, "D, Clarkson", "Clark_D.THC", "");
-    damaged.BadPicks = 127;
+    PlayerScore damaged = score(0, "D, Clarkson", "Clark_D.THC", "");
+    damaged.badPicks = 127;
 
     EXPECT_NE(linesFor(std::vector{damaged})[7].find("   127   -064    "), std::string::npos);
 }
@@ -199,10 +199,10 @@ TEST(Standings, StartATitleThatIsTooLongAtTheLeftEdge)
 
 TEST(Standings, ReadOpenPicksFromShiftedFieldsByTheirLeadingNumbers)
 {
-    ScoreLine shifted = score(7, "PO, O'Brien; Jr", "Brien_PO.THC");
-    shifted.MaxPoints = 40; // lands where the good picks are read
-    shifted.GoodPicks = 9;  // lands where the bad picks are read
-    shifted.BadPicks = 3;
+    PlayerScore shifted = score(7, "PO, O'Brien; Jr", "Brien_PO.THC");
+    shifted.maxPoints = 40; // lands where the good picks are read
+    shifted.goodPicks = 9;  // lands where the bad picks are read
+    shifted.badPicks = 3;
 
     // 63 - 40 - 9 = 14
     EXPECT_NE(linesFor(std::vector{shifted})[7].find("   Brien_PO.THC   040   009   014    DUKE   003"),
@@ -211,7 +211,7 @@ TEST(Standings, ReadOpenPicksFromShiftedFieldsByTheirLeadingNumbers)
 
 TEST(Standings, FailWhenAShiftedFieldHoldsAHugeNumber)
 {
-    const ScoreLine line = score(7, "A;B;C", "99999.THC"); // the file name lands where the good picks are read
+    const PlayerScore line = score(7, "A;B;C", "99999.THC"); // the file name lands where the good picks are read
 
     const Result<ReportLines> lines = standingsLines("Pool", std::vector{line});
 

@@ -1,7 +1,7 @@
 // tests/reports/team_selection_test.cpp - pick entries, the summary and the detail.
 #include "reports/team_selection.h"
 
-#include "reports/report_pool.h"
+#include "reports/four_players.h"
 #include "reports/team_selection_detail.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@
 namespace tallyhoop::test {
 namespace {
 
-constexpr std::size_t kHead = 7;
+constexpr std::size_t kHeader = 7;
 const std::string kRule = std::string(27, ' ') + "+------+------+------+------+-------+---------+";
 
 /// One pick of one player for each of this many teams, "T001" and on.
@@ -39,38 +39,38 @@ ReportLines summary(const std::vector<std::string>& entries, std::string_view ti
 
 ReportLines detail(const std::vector<std::string>& entries, std::string_view title = "Pool")
 {
-    TeamSelectionDetail made = teamSelectionDetail(title, entries);
-    EXPECT_FALSE(made.trouble) << made.trouble->text;
-    return made.lines;
+    const Result<ReportLines> lines = teamSelectionDetailLines(title, entries);
+    EXPECT_TRUE(lines) << lines.failure().message;
+    return lines ? *lines : ReportLines{};
 }
 
 TEST(PickEntry, PacksTeamPlayerAndCategory) { EXPECT_EQ(pickEntry("DUKE", "Smith_JS", 6), "DUKE,Smith_JS,6"); }
 
-TEST(PickEntries, StandInOrderWithoutRegardToCase)
+TEST(PickEntries, AreInOrderWithoutRegardToCase)
 {
-    ReadPool pool;
+    std::vector<Entry> players;
     for (const auto& [name, pick] : {std::pair{"Zoe", "Duke"}, {"Adam", "DUKE"}, {"Mia", "Duke St"}, {"Ben", "Ball"}}) {
-        PoolEntry& player = pool.players.emplace_back();
-        player.lines[selection_line::kName] = name;
-        player.lines[selection_line::kInitials] = "X";
-        player.lines[selection_line::kChampion] = pick;
+        Entry& player = players.emplace_back();
+        player.name = name;
+        player.initials = "X";
+        player.picks.put(kChampion, pick);
     }
 
-    EXPECT_EQ(pickEntries(pool),
+    EXPECT_EQ(pickEntries(players),
               (std::vector<std::string>{"Ball,Ben_X,6", "Duke St,Mia_X,6", "DUKE,Adam_X,6", "Duke,Zoe_X,6"}));
 }
 
 TEST(PickEntries, AreSortedAsTheyArePackedAlsoWhenATeamHoldsAComma)
 {
-    ReadPool pool;
+    std::vector<Entry> players;
     for (const auto& [name, pick] : {std::pair{"B", "A"}, {"x", "A,A"}, {"A", "A"}, {"x", "A,C"}}) {
-        PoolEntry& player = pool.players.emplace_back();
-        player.lines[selection_line::kName] = name;
-        player.lines[selection_line::kChampion] = pick;
+        Entry& player = players.emplace_back();
+        player.name = name;
+        player.picks.put(kChampion, pick);
     }
 
     // A comma comes before an underscore.
-    EXPECT_EQ(pickEntries(pool), (std::vector<std::string>{"A,A,x_,6", "A,A_,6", "A,B_,6", "A,C,x_,6"}));
+    EXPECT_EQ(pickEntries(players), (std::vector<std::string>{"A,A,x_,6", "A,A_,6", "A,B_,6", "A,C,x_,6"}));
 }
 
 TEST(PickEntry, IsSplitAgain)
@@ -110,21 +110,19 @@ TEST(PickEntry, FailsWhenWhatIsLeftIsNoCategory)
 
 TEST(PickEntries, AreOneForEveryPickThatWasMadeInOrder)
 {
-    ReadPool pool;
-    pool.players = {{"a.THC", Bracket{}.finals("", "DUKE", "duke").player("JS", "Smith", "").lines}};
-    pool.players[0].lines[17] = "BUTLER";
-    pool.players[0].lines[124] = "DUKE";
+    std::vector<Entry> players{EntryBuilder{}.finals("", "DUKE", "duke").player("JS", "Smith", "").entry};
+    players[0].picks.put(gamesOfRegion(kWest)[0], "BUTLER");
+    players[0].picks.put(regionWinner(kSouth), "DUKE");
 
-    EXPECT_EQ(pickEntries(pool),
+    EXPECT_EQ(pickEntries(players),
               (std::vector<std::string>{"BUTLER,Smith_JS,1", "DUKE,Smith_JS,4", "DUKE,Smith_JS,5", "duke,Smith_JS,6"}));
 }
 
 TEST(PickEntries, OfACompleteBracketAreSixtyThreeAndTheChampionHasAllSixCategories)
 {
-    ReadPool pool;
-    pool.players = {fourPlayers().players[0]};
+    const std::vector<Entry> players{fourPlayers()[0]};
 
-    const std::vector<std::string> entries = pickEntries(pool);
+    const std::vector<std::string> entries = pickEntries(players);
 
     EXPECT_EQ(entries.size(), 63u);
     for (int category = 1; category <= 6; ++category)
@@ -133,10 +131,9 @@ TEST(PickEntries, OfACompleteBracketAreSixtyThreeAndTheChampionHasAllSixCategori
 
 TEST(PickEntries, IgnoreTheStartingField)
 {
-    ReadPool pool;
-    pool.players = {fourPlayers().players[2]}; // a field without a pick
+    const std::vector<Entry> players{fourPlayers()[2]}; // a field without a pick
 
-    EXPECT_TRUE(pickEntries(pool).empty());
+    EXPECT_TRUE(pickEntries(players).empty());
 }
 
 TEST(TeamSelectionSummary, CountsThePlayersWhoSendATeamOn)
@@ -163,33 +160,33 @@ TEST(TeamSelectionSummary, WidensAColumnBeyondThreeDigits)
 {
     const std::vector<std::string> entries(1234, "DUKE,Smith_JS,1");
 
-    EXPECT_EQ(summary(entries)[kHead], "DUKE                         1234      0      0      0       0        0");
+    EXPECT_EQ(summary(entries)[kHeader], "DUKE                         1234      0      0      0       0        0");
 }
 
-TEST(TeamSelectionSummary, WithoutAnyPickIsOneHead) { EXPECT_EQ(summary({}).size(), kHead); }
+TEST(TeamSelectionSummary, WithoutAnyPickIsOneHeader) { EXPECT_EQ(summary({}).size(), kHeader); }
 
 TEST(TeamSelectionSummary, HoldsThirtyTwoTeamsOnAPage)
 {
     const ReportLines thirtyOne = summary(entriesOfTeams(31)); // 1 + 2 * 31 = 63
-    EXPECT_EQ(thirtyOne.size(), kHead + 62);
+    EXPECT_EQ(thirtyOne.size(), kHeader + 62);
     EXPECT_EQ(std::ranges::count(thirtyOne, kFormFeedLine), 0);
 
     const ReportLines thirtyTwo = summary(entriesOfTeams(32)); // 65
-    ASSERT_EQ(thirtyTwo.size(), kHead + 64 + 2);
-    EXPECT_EQ(thirtyTwo[kHead + 64], " ");
+    ASSERT_EQ(thirtyTwo.size(), kHeader + 64 + 2);
+    EXPECT_EQ(thirtyTwo[kHeader + 64], " ");
     EXPECT_EQ(thirtyTwo.back(), kFormFeedLine);
 }
 
-TEST(TeamSelectionSummary, StartsTheNextPageUnderItsHead)
+TEST(TeamSelectionSummary, StartsTheNextPageUnderItsHeader)
 {
     const ReportLines lines = summary(entriesOfTeams(33));
 
-    ASSERT_EQ(lines.size(), kHead + 66 + kHead + 2);
-    EXPECT_TRUE(std::equal(lines.begin(), lines.begin() + kHead, lines.begin() + kHead + 66));
-    EXPECT_TRUE(lines[2 * kHead + 66].starts_with("T033 "));
+    ASSERT_EQ(lines.size(), kHeader + 66 + kHeader + 2);
+    EXPECT_TRUE(std::equal(lines.begin(), lines.begin() + kHeader, lines.begin() + kHeader + 66));
+    EXPECT_TRUE(lines[2 * kHeader + 66].starts_with("T033 "));
 }
 
-TEST(TeamSelectionSummary, CarriesOneHeadOnEachPage)
+TEST(TeamSelectionSummary, CarriesOneHeaderOnEachPage)
 {
     const ReportLines lines = summary(entriesOfTeams(70));
 
@@ -197,18 +194,18 @@ TEST(TeamSelectionSummary, CarriesOneHeadOnEachPage)
     EXPECT_EQ(std::ranges::count(lines, kFormFeedLine), 2);
 }
 
-TEST(TeamSelectionSummary, WritesTheLastTeamAlsoBehindEveryLetterOfTheAlphabet)
+TEST(TeamSelectionSummary, WritesTheLastTeamAlsoAfterEveryLetterOfTheAlphabet)
 {
     const ReportLines lines = summary({"ZZZZ,Smith_JS,1", "\xC9LAN,Smith_JS,1"});
 
-    ASSERT_EQ(lines.size(), kHead + 4);
-    EXPECT_TRUE(lines[kHead].starts_with("ZZZZ   "));
-    EXPECT_TRUE(lines[kHead + 2].starts_with("\xC9LAN   "));
+    ASSERT_EQ(lines.size(), kHeader + 4);
+    EXPECT_TRUE(lines[kHeader].starts_with("ZZZZ   "));
+    EXPECT_TRUE(lines[kHeader + 2].starts_with("\xC9LAN   "));
 }
 
 TEST(TeamSelectionSummary, FailsForATeamOfThirtyCharacters)
 {
-    EXPECT_TRUE(summary({std::string(29, 'D') + ",Smith_JS,1"})[kHead].starts_with(std::string(29, 'D') + "  1 "));
+    EXPECT_TRUE(summary({std::string(29, 'D') + ",Smith_JS,1"})[kHeader].starts_with(std::string(29, 'D') + "  1 "));
 
     const Result<ReportLines> lines = teamSelectionSummaryLines("Pool", {std::string(30, 'D') + ",Smith_JS,1"});
     ASSERT_FALSE(lines);
@@ -252,38 +249,37 @@ TEST(TeamSelectionDetail, CutsAPlayerLabelToTwentyTwoCharacters)
 
 TEST(TeamSelectionDetail, KeepsPlayersApartWhoDifferOnlyInCase)
 {
-    ReadPool pool;
-    pool.players = {{"1.THC", Bracket{}.finals("", "", "DUKE").player("JS", "smith", "").lines},
-                    {"2.THC", Bracket{}.finals("", "", "DUKE").player("JS", "Smith", "").lines}};
+    const std::vector<Entry> players{EntryBuilder{}.finals("", "", "DUKE").player("JS", "smith", "").entry,
+                                     EntryBuilder{}.finals("", "", "DUKE").player("JS", "Smith", "").entry};
 
-    const ReportLines lines = detail(pickEntries(pool));
+    const ReportLines lines = detail(pickEntries(players));
 
-    ASSERT_EQ(lines.size(), 1 + kHead + 3);
-    EXPECT_TRUE(lines[kHead + 2].starts_with("     smith_JS "));
-    EXPECT_TRUE(lines[kHead + 3].starts_with("     Smith_JS "));
+    ASSERT_EQ(lines.size(), 1 + kHeader + 3);
+    EXPECT_TRUE(lines[kHeader + 2].starts_with("     smith_JS "));
+    EXPECT_TRUE(lines[kHeader + 3].starts_with("     Smith_JS "));
 }
 
-TEST(TeamSelectionDetail, WithoutAnyPickIsOneHead) { EXPECT_EQ(detail({}).size(), 1 + kHead); }
+TEST(TeamSelectionDetail, WithoutAnyPickIsOneHeader) { EXPECT_EQ(detail({}).size(), 1 + kHeader); }
 
-TEST(TeamSelectionDetail, EndsTheFirstPageAfterFiftySixLines)
+TEST(TeamSelectionDetail, FillsTheFirstPageWithFiftySixLines)
 {
-    // 8 head lines, the team's line, then players: 9 + 54 = 63, 9 + 55 = 64.
+    // 8 header lines, the team's line, then players: 9 + 54 = 63, 9 + 55 = 64.
     const ReportLines fits = detail(entriesOfPlayers(54));
-    EXPECT_EQ(fits.size(), 1 + kHead + 1 + 54);
+    EXPECT_EQ(fits.size(), 1 + kHeader + 1 + 54);
     EXPECT_EQ(std::ranges::count(fits, kFormFeedLine), 0);
 
     const ReportLines full = detail(entriesOfPlayers(55));
-    ASSERT_EQ(full.size(), 1 + kHead + 1 + 55 + 1);
+    ASSERT_EQ(full.size(), 1 + kHeader + 1 + 55 + 1);
     EXPECT_EQ(full.back(), kFormFeedLine);
 }
 
-TEST(TeamSelectionDetail, GoesOnUnderANewHeadWithoutRepeatingTheTeam)
+TEST(TeamSelectionDetail, GoesOnUnderANewHeaderWithoutRepeatingTheTeam)
 {
     const ReportLines lines = detail(entriesOfPlayers(56));
 
-    const std::size_t second = 1 + kHead + 1 + 55 + 1;
-    ASSERT_EQ(lines.size(), second + kHead + 1);
-    EXPECT_TRUE(std::equal(lines.begin() + 1, lines.begin() + 1 + kHead, lines.begin() + static_cast<long>(second)));
+    const std::size_t second = 1 + kHeader + 1 + 55 + 1;
+    ASSERT_EQ(lines.size(), second + kHeader + 1);
+    EXPECT_TRUE(std::equal(lines.begin() + 1, lines.begin() + 1 + kHeader, lines.begin() + static_cast<long>(second)));
     EXPECT_TRUE(lines.back().starts_with("     P056_X "));
 }
 
@@ -296,65 +292,55 @@ TEST(TeamSelectionDetail, HoldsFiftySevenLinesOnLaterPages)
 
 TEST(TeamSelectionDetail, NeverEndsAPageWithATeamsLine)
 {
-    std::vector<std::string> entries = entriesOfPlayers(54); // the counter stands at 63
+    std::vector<std::string> entries = entriesOfPlayers(54); // the counter is at 63
     entries.emplace_back("UTAH,Smith_JS,1");
 
     const ReportLines lines = detail(entries);
 
-    ASSERT_EQ(lines.size(), 1u + kHead + 1 + 54 + 2 + 1);
+    ASSERT_EQ(lines.size(), 1u + kHeader + 1 + 54 + 2 + 1);
     EXPECT_TRUE(lines[lines.size() - 3].starts_with("UTAH "));
     EXPECT_TRUE(lines[lines.size() - 2].starts_with("     Smith_JS "));
     EXPECT_EQ(lines.back(), kFormFeedLine);
 }
 
+TEST(TeamSelectionDetail, CountsEachPlayersPicksAnew)
+{
+    const ReportLines lines = detail({"DUKE,Adams_AB,1", "DUKE,Adams_AB,2", "DUKE,Baker_C,3"});
+
+    ASSERT_EQ(lines.size(), 1 + kHeader + 3);
+    EXPECT_EQ(lines[kHeader + 2], "     Adams_AB                  1      1      0      0       0        0");
+    EXPECT_EQ(lines[kHeader + 3], "     Baker_C                   0      0      1      0       0        0");
+}
+
+TEST(TeamSelectionDetail, WritesNoRowForATeamWhoseNameIsEmpty)
+{
+    // A team whose name begins with a comma: what is left of it is no team.
+    const ReportLines lines = detail({",X,Smith_JS,1", "DUKE,Smith_JS,2"});
+
+    ASSERT_EQ(lines.size(), 1 + kHeader + 2);
+    EXPECT_EQ(lines[kHeader + 1], "DUKE" + std::string(25, ' '));
+    EXPECT_EQ(lines[kHeader + 2], "     Smith_JS                  0      1      0      0       0        0");
+}
+
 TEST(TeamSelectionDetail, FailsForATeamOfThirtyCharacters)
 {
-    const TeamSelectionDetail made = teamSelectionDetail("Pool", {std::string(30, 'D') + ",Smith_JS,1"});
+    const Result<ReportLines> lines = teamSelectionDetailLines("Pool", {std::string(30, 'D') + ",Smith_JS,1"});
 
-    ASSERT_TRUE(made.trouble);
-    EXPECT_EQ(made.trouble->caption, "Tallyhoop - frmPoolReports, Team Selection Detail");
-    EXPECT_EQ(made.trouble->icon, ui::Icon::Critical);
-    EXPECT_TRUE(made.lines.empty());
+    ASSERT_FALSE(lines);
+    EXPECT_EQ(lines.failure().message,
+              "This team's name is too long for the report, which has room for 29 characters:\r\n" +
+                  std::string(30, 'D'));
+}
+
+TEST(TeamSelectionDetail, FailsForAnEntryWithoutACategory)
+{
+    EXPECT_FALSE(teamSelectionDetailLines("Pool", {"MIAMI, OHIO,99 Luftballons_N,6"}));
 }
 
 TEST(TeamSelectionDetail, FailsForATitleWiderThanThePage)
 {
-    EXPECT_TRUE(teamSelectionDetail(std::string(75, 'T'), {"DUKE,Smith_JS,1"}).trouble);
-}
-
-TEST(WriteTmSelDetail, RefusesAnUnknownOption)
-{
-    TeamSelectionDetailWriter writer{"Pool"};
-
-    const std::optional<ui::Message> trouble = writer.WriteTmSelDetail("open");
-
-    ASSERT_TRUE(trouble);
-    EXPECT_EQ(*trouble,
-              (ui::Message{"Tallyhoop - WriteTmSelDetail Routine", "Error with the routine - Invalid Option request",
-                           ui::Buttons::Ok, ui::Icon::Exclamation}));
-}
-
-TEST(WriteTmSelDetail, WritesTheHeadAloneWhileThereIsNoTeam)
-{
-    TeamSelectionDetailWriter writer{"Pool"};
-
-    EXPECT_FALSE(writer.WriteTmSelDetail("Open"));
-    EXPECT_FALSE(writer.WriteTmSelDetail("Output"));
-    EXPECT_FALSE(writer.WriteTmSelDetail("Close"));
-
-    EXPECT_EQ(writer.takeLines().size(), 1 + kHead);
-}
-
-TEST(WriteTmSelDetail, EmptiesTheCountsAfterEachRow)
-{
-    TeamSelectionDetailWriter writer{"Pool"};
-    EXPECT_FALSE(writer.WriteTmSelDetail("Open"));
-    writer.team = "DUKE";
-    writer.counts = {0, 1, 1, 0, 0, 0, 0};
-
-    EXPECT_FALSE(writer.WriteTmSelDetail("Output"));
-
-    EXPECT_EQ(writer.counts, CategoryCounts{});
+    EXPECT_TRUE(teamSelectionDetailLines(std::string(74, 'T'), {"DUKE,Smith_JS,1"}));  // 37 - 37
+    EXPECT_FALSE(teamSelectionDetailLines(std::string(75, 'T'), {"DUKE,Smith_JS,1"})); // 37 - 38
 }
 
 } // namespace

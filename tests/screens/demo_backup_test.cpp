@@ -11,7 +11,7 @@ namespace fs = std::filesystem;
 
 TEST(StartDemo, KeepsAPoolOfOnesOwnWholeEvenWhereAFileIsLikeTheDemos)
 {
-    Pool pool;
+    OwnPool pool;
     const demo::SampleFile results = demo::sampleFiles().front();
     pool.scratch.put(results.name, results.bytes);
     pool.platform.programs.whenStarted = [&pool] { pool.scratch.put("TALLYHOOP.INI", "1\r\n"); };
@@ -22,7 +22,7 @@ TEST(StartDemo, KeepsAPoolOfOnesOwnWholeEvenWhereAFileIsLikeTheDemos)
 
 TEST(StartDemo, MovesAPoolOfOnesOwnIntoADatedSubfolder)
 {
-    Pool pool;
+    OwnPool pool;
     pool.scratch.put("Demo Halfway_DH.THC", "a real player of this name");
     pool.scratch.put("TALLYHOOP.INI", "0\r\n");
     pool.platform.programs.whenStarted = [&pool] {
@@ -52,7 +52,7 @@ TEST(StartDemo, SaysNothingMoreOnAFirstStart)
 
 TEST(StartDemo, KeepsTwoPoolsOfTheSameSecondApart)
 {
-    Pool pool;
+    OwnPool pool;
     pool.platform.programs.whenStarted = [&pool] { pool.scratch.put("TALLYHOOP.INI", "1\r\n"); };
     EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
     pool.scratch.put("POOLSTART.THS", "copied back, and changed");
@@ -73,7 +73,7 @@ TEST(StartDemo, ReplacesAnUntouchedDemoWithoutKeepingIt)
 
 TEST(StartDemo, RemovesNothingWhenThePoolCannotBeKept)
 {
-    Pool pool;
+    OwnPool pool;
     const fs::path file = pool.scratch.path() / "TALLYHOOP.THS";
     fs::resize_file(file, (64u << 20) + 1); // more than the program reads, for root too
     EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
@@ -91,10 +91,9 @@ TEST(LeaveDemo, DeletesAnUntouchedDemoWithoutAWordMore)
 {
     InstalledDemo demo;
     demo.scratch.put("Own_O.THC", "own");
-    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services, demo.notice));
+    EXPECT_EQ(leaveDemo(demo.scratch.folder(), demo.platform.services), "");
     EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{"Own_O.THC"});
     EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
-    EXPECT_EQ(demo.notice, "");
 }
 
 TEST(LeaveDemo, KeepsWhatThePersonChangedMeanwhile)
@@ -102,20 +101,19 @@ TEST(LeaveDemo, KeepsWhatThePersonChangedMeanwhile)
     InstalledDemo demo;
     demo.scratch.put("TALLYHOOP.THS", "my results");
     demo.scratch.put("Demo Prophet_DP.THC", "my picks");
-    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services, demo.notice));
+    EXPECT_EQ(leaveDemo(demo.scratch.folder(), demo.platform.services), kOwnChangesAreKept);
     EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{kBackup});
     EXPECT_EQ(entriesOf(demo.scratch.path() / kBackup),
               (std::vector<std::string>{"Demo Prophet_DP.THC", "TALLYHOOP.THS"}));
     EXPECT_EQ(demo.scratch.get(std::string{kBackup} + "/TALLYHOOP.THS"), "my results");
     EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
-    EXPECT_EQ(demo.notice, kOwnChangesAreKept);
 }
 
 TEST(LeaveDemo, RemovesNothingAndStaysOnWhenAChangedFileCannotBeKept)
 {
     InstalledDemo demo;
     fs::resize_file(demo.scratch.path() / "TALLYHOOP.THS", (64u << 20) + 1); // more than the program reads
-    EXPECT_FALSE(leaveDemo(demo.scratch.folder(), demo.platform.services, demo.notice));
+    EXPECT_EQ(leaveDemo(demo.scratch.folder(), demo.platform.services), std::nullopt);
     EXPECT_EQ(entriesOf(demo.scratch.path()).size(), 8u);
     EXPECT_TRUE(demoModeIsOn(demo.scratch.folder()));
     ASSERT_EQ(demo.platform.dialogs.shown.size(), 1u);

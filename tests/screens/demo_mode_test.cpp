@@ -8,7 +8,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-ui::Message noSamplePool(const Pool& pool, const std::string& reason)
+ui::Message noSamplePool(const OwnPool& pool, const std::string& reason)
 {
     return {kCaption,
             "The sample pool could not be installed.\r\n \r\n" + (pool.scratch.path() / "DEMOSET.EXE").string() +
@@ -18,9 +18,9 @@ ui::Message noSamplePool(const Pool& pool, const std::string& reason)
 
 TEST(ClearDemoDataFiles, DeletesThePoolAndTheSampleSelectionsOnly)
 {
-    Pool pool;
+    OwnPool pool;
     pool.scratch.put("TALLYHOOP.INI", "1\r\n");
-    for (const char* name : kDemoSelectionFiles)
+    for (const char* name : demo::kSelectionFiles)
         pool.scratch.put(name, "sample");
     EXPECT_TRUE(clearDemoDataFiles(pool.scratch.folder()));
     EXPECT_EQ(entriesOf(pool.scratch.path()), (std::vector<std::string>{"NCAALIST.THS", "Own_O.THC"}));
@@ -34,7 +34,7 @@ TEST(ClearDemoDataFiles, SucceedsWhenThereAreNone)
 
 TEST(ClearDemoDataFiles, NamesTheFirstFileItCouldNotDeleteAndDeletesTheOthers)
 {
-    Pool pool;
+    OwnPool pool;
     fs::create_directory(pool.scratch.path() / "TALLYHOOP.INI");
     const Result<Done> outcome = clearDemoDataFiles(pool.scratch.folder());
     ASSERT_FALSE(outcome);
@@ -44,7 +44,7 @@ TEST(ClearDemoDataFiles, NamesTheFirstFileItCouldNotDeleteAndDeletesTheOthers)
 
 TEST(StartDemo, ClearsStartsTheInstallerAndWaitsForOk)
 {
-    Pool pool;
+    OwnPool pool;
     pool.platform.programs.whenStarted = [&pool] {
         EXPECT_TRUE(pool.isCleared()) << "the installer must find a cleared folder";
         EXPECT_TRUE(pool.platform.dialogs.shown.empty());
@@ -61,7 +61,7 @@ TEST(StartDemo, ClearsStartsTheInstallerAndWaitsForOk)
 
 TEST(StartDemo, LetsASlowInstallerFinishAfterAHastyOk)
 {
-    Pool pool;
+    OwnPool pool;
     int looks = 0;
     pool.platform.programs.whileWaitedFor = [&] {
         ++looks;
@@ -70,7 +70,8 @@ TEST(StartDemo, LetsASlowInstallerFinishAfterAHastyOk)
         if (looks == 3)
             pool.scratch.put("TALLYHOOP.INI", "1\r\n"); // the last file
     };
-    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::DemoEntered);
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(demoModeIsOn(pool.scratch.folder()));
     EXPECT_EQ(looks, 3);
     EXPECT_EQ(pool.platform.dialogs.shown,
               (std::vector<ui::Message>{kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup)}));
@@ -78,11 +79,11 @@ TEST(StartDemo, LetsASlowInstallerFinishAfterAHastyOk)
 
 TEST(StartDemo, TellsAtOnceThatTheInstallerHasFailedAndWhy)
 {
-    Pool pool;
+    OwnPool pool;
     int looks = 0;
     pool.platform.programs.whileWaitedFor = [&] { ++looks; };
     pool.platform.programs.end = Failure{"The sample pool could not be written.\r\nNo space left on device"};
-    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
     EXPECT_EQ(looks, 1);
     EXPECT_EQ(pool.platform.dialogs.shown,
               (std::vector<ui::Message>{kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup),
@@ -92,37 +93,38 @@ TEST(StartDemo, TellsAtOnceThatTheInstallerHasFailedAndWhy)
 
 TEST(StartDemo, TellsThatTheInstallerHasEndedWithoutASamplePool)
 {
-    Pool pool;
+    OwnPool pool;
     pool.platform.programs.end = Done{};
-    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
     EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has ended without writing a sample pool."));
 }
 
 TEST(StartDemo, TakesTheSamplePoolOfAnInstallerThatHasEnded)
 {
-    Pool pool;
+    OwnPool pool;
     pool.platform.programs.whenStarted = [&pool] { pool.scratch.put("TALLYHOOP.INI", "1\r\n"); };
     pool.platform.programs.end = Done{};
-    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::DemoEntered);
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_TRUE(demoModeIsOn(pool.scratch.folder()));
 }
 
 TEST(StartDemo, GivesAnInstallerUpThatDoesNotFinish)
 {
-    Pool pool;
+    OwnPool pool;
     int looks = 0;
     pool.platform.programs.whileWaitedFor = [&] { ++looks; };
-    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
     EXPECT_EQ(looks, 1000) << "a hundredth of a second each";
     EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has not finished."));
 }
 
 TEST(StartDemo, GivesTheInstallerUpWhenThePersonDoes)
 {
-    Pool pool;
+    OwnPool pool;
     pool.platform.progress.cancelAt = 70;
     int looks = 0;
     pool.platform.programs.whileWaitedFor = [&] { ++looks; };
-    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
     EXPECT_EQ(looks, 70);
     EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has not finished."));
     EXPECT_EQ(pool.platform.progress.ended, pool.platform.progress.begun);
@@ -130,7 +132,7 @@ TEST(StartDemo, GivesTheInstallerUpWhenThePersonDoes)
 
 TEST(StartDemo, DeletesNothingWhenTheInstallerCannotBeStarted)
 {
-    Pool pool;
+    OwnPool pool;
     pool.platform.programs.checkTrouble = Failure{"Permission denied"};
     EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
     EXPECT_TRUE(pool.isUntouched());
@@ -159,9 +161,9 @@ TEST(StartDemo, StartsNothingWhenTheFolderCannotBeWritten)
 
 TEST(StartDemo, DoesNotStartTheInstallerOverAFileThatCouldNotBeDeleted)
 {
-    Pool pool;
+    OwnPool pool;
     fs::create_directory(pool.scratch.path() / "TALLYHOOP.INI");
-    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
     EXPECT_TRUE(pool.platform.programs.started.empty());
     ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
     EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
@@ -170,9 +172,9 @@ TEST(StartDemo, DoesNotStartTheInstallerOverAFileThatCouldNotBeDeleted)
 
 TEST(StartDemo, SaysThatTheInstallerFailedToStartAfterAll)
 {
-    Pool pool;
+    OwnPool pool;
     pool.platform.programs.startTrouble = Failure{"Out of memory"};
-    EXPECT_EQ(startDemo(pool.scratch.folder(), pool.platform.services), Opening::Plain);
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
     ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
     EXPECT_EQ(pool.platform.dialogs.shown[1], ownPoolIsIn(pool.scratch.path() / kBackup));
     EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode could not be started.\r\n \r\n" +
@@ -183,7 +185,7 @@ TEST(StartDemo, SaysThatTheInstallerFailedToStartAfterAll)
 
 TEST(EnterDemo, AsksFirst)
 {
-    Pool pool;
+    OwnPool pool;
     pool.platform.dialogs.answer(ui::Answer::Ok);
     pool.platform.programs.whenStarted = [&pool] {
         EXPECT_TRUE(pool.isCleared());
@@ -206,7 +208,7 @@ TEST(EnterDemo, AsksFirst)
 
 TEST(EnterDemo, ChangesNothingOnCancel)
 {
-    Pool pool;
+    OwnPool pool;
     pool.platform.dialogs.answer(ui::Answer::Cancel);
     EXPECT_FALSE(enterDemo(pool.scratch.folder(), pool.platform.services));
     EXPECT_TRUE(pool.isUntouched());
@@ -215,33 +217,31 @@ TEST(EnterDemo, ChangesNothingOnCancel)
 
 TEST(LeaveDemo, ClearsWithoutAskingAndSaysWhatFollows)
 {
-    Pool pool;
+    OwnPool pool;
     pool.scratch.put("tallyhoop.ini", "1\r\n");
-    EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services, pool.notice));
+    EXPECT_EQ(leaveDemo(pool.scratch.folder(), pool.platform.services), kOwnChangesAreKept);
     EXPECT_TRUE(pool.isCleared());
     EXPECT_FALSE(demoModeIsOn(pool.scratch.folder()));
     EXPECT_EQ(pool.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
-    EXPECT_EQ(pool.notice, kOwnChangesAreKept);
 }
 
 TEST(LeaveDemo, DeletesNothingWhenThereAreNoDemoFiles)
 {
     const ScratchFolder scratch;
     FakePlatform platform;
-    std::string notice;
     scratch.put("Own_O.THC", "own");
-    EXPECT_TRUE(leaveDemo(scratch.folder(), platform.services, notice));
+    EXPECT_EQ(leaveDemo(scratch.folder(), platform.services), "");
     EXPECT_TRUE(scratch.has("Own_O.THC"));
     EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
 }
 
 TEST(LeaveDemo, SaysWhichFileStayed)
 {
-    Pool pool;
+    OwnPool pool;
     fs::create_directory(pool.scratch.path() / "POOLSTART.THS.d");
     fs::remove(pool.scratch.path() / "POOLSTART.THS");
     fs::rename(pool.scratch.path() / "POOLSTART.THS.d", pool.scratch.path() / "POOLSTART.THS");
-    EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services, pool.notice));
+    EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services));
     ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
     EXPECT_EQ(pool.platform.dialogs.shown[0].text, "A file of the demonstration could not be deleted.\r\n \r\n" +
                                                        (pool.scratch.path() / "POOLSTART.THS").string() +

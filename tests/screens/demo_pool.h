@@ -47,7 +47,6 @@ inline std::vector<std::string> entriesOf(const std::filesystem::path& folder)
 struct InstalledDemo {
     ScratchFolder scratch;
     FakePlatform platform;
-    std::string notice;
 
     InstalledDemo()
     {
@@ -57,12 +56,11 @@ struct InstalledDemo {
 };
 
 /// A folder with a pool of one's own: what demo mode replaces, and what it must not touch.
-struct Pool {
+struct OwnPool {
     ScratchFolder scratch;
     FakePlatform platform;
-    std::string notice;
 
-    Pool()
+    OwnPool()
     {
         for (const char* name : {"POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV", "NCAALIST.THS", "Own_O.THC"})
             scratch.put(name, "own");

@@ -1,251 +1,163 @@
 // Typing ahead in an entry box.
 #include "screens/list_search.h"
 
+#include "ui/screen.h"
+
 #include <gtest/gtest.h>
 #include <vector>
 
 namespace tallyhoop {
 namespace {
 
-constexpr std::int16_t kBackspace = 8;
-constexpr std::int16_t kEnter = 13;
+using ui::Key;
+using ui::KeyPress;
 
 const std::vector<std::string> kTeams = {"Dartmouth", "Davidson", "dePaul", "Duke", "Duquesne", "Iowa", "Iowa St."};
 
-struct Search {
-    SearchSource source;
-    SearchList list{kTeams};
-    std::int16_t keyCode = 0;
+class TypeAhead : public testing::Test
+{
+protected:
+    TypeAhead() { list.rows = kTeams; }
 
-    /// Presses a key as a box does: with its own text as the typed text.
-    void press(std::int16_t key)
+    void fill(const std::string& text, int caret, int selected)
     {
-        keyCode = key;
-        const std::string typed = source.text;
-        ListSearch{}.FindIndexStr(source, typed, keyCode, &list);
+        box.text = text;
+        box.selectionStart = caret;
+        box.selectionLength = selected;
     }
+
+    /// @returns whether the key was dealt with
+    bool press(Key key) { return typeAhead(box, list, {.key = key}); }
+    bool type(char character) { return typeAhead(box, list, {.key = Key::Character, .character = character}); }
+
+    ui::Screen screen{"frmSearch", "Search"};
+    ui::TextBox box{&screen, "txtEntry"};
+    ui::ListBox list{&screen, "lstTeams"};
 };
 
-Search withText(const std::string& text, int caret, int selected)
+TEST_F(TypeAhead, CompletesTheBoxAndSelectsWhatIsNotYetTyped)
 {
-    Search search;
-    search.source.text = text;
-    search.source.selectionStart = caret;
-    search.source.selectionLength = selected;
-    return search;
+    EXPECT_TRUE(type('D'));
+    EXPECT_EQ(box.text, "Dartmouth");
+    EXPECT_EQ(box.selectionStart, 1);
+    EXPECT_EQ(box.selectionLength, 8);
+    EXPECT_EQ(list.selected, 0);
 }
 
-TEST(ListSearch, CompletesTheBoxAndSelectsWhatIsNotYetTyped)
+TEST_F(TypeAhead, DropsTheSelectedCompletionWhenTypingGoesOn)
 {
-    Search search;
-    search.press('D');
-    EXPECT_EQ(search.source.text, "Dartmouth");
-    EXPECT_EQ(search.source.selectionStart, 1);
-    EXPECT_EQ(search.source.selectionLength, 8);
-    EXPECT_EQ(search.list.selected, 0);
-    EXPECT_EQ(search.keyCode, 0);
+    type('D');
+    type('u');
+    EXPECT_EQ(box.text, "Duke");
+    EXPECT_EQ(box.selectionStart, 2);
+    EXPECT_EQ(box.selectionLength, 2);
+    type('q');
+    EXPECT_EQ(box.text, "Duquesne");
+    EXPECT_EQ(list.selected, 4);
 }
 
-TEST(ListSearch, DropsTheSelectedCompletionWhenTypingGoesOn)
+TEST_F(TypeAhead, MatchesPrefixesWithoutRegardToCaseFirstRowFirst)
 {
-    Search search;
-    search.press('D');
-    search.press('u');
-    EXPECT_EQ(search.source.text, "Duke");
-    EXPECT_EQ(search.source.selectionStart, 2);
-    EXPECT_EQ(search.source.selectionLength, 2);
-    search.press('q');
-    EXPECT_EQ(search.source.text, "Duquesne");
-    EXPECT_EQ(search.list.selected, 4);
+    type('d');
+    EXPECT_EQ(list.selected, 0); // Dartmouth, although dePaul has the small letter
+    type('E');
+    EXPECT_EQ(box.text, "dePaul");
+    EXPECT_EQ(list.selected, 2);
 }
 
-TEST(ListSearch, MatchesPrefixesWithoutRegardToCaseFirstRowFirst)
+TEST_F(TypeAhead, SwallowsACharacterThatLeadsNowhere)
 {
-    Search search;
-    search.press('d');
-    EXPECT_EQ(search.list.selected, 0); // Dartmouth, although dePaul has the small letter
-    search.press('E');
-    EXPECT_EQ(search.source.text, "dePaul");
-    EXPECT_EQ(search.list.selected, 2);
+    fill("Duke", 2, 2);
+    list.selected = 3;
+    EXPECT_TRUE(type('x'));
+    EXPECT_EQ(box.text, "Duke");
+    EXPECT_EQ(box.selectionStart, 2);
+    EXPECT_EQ(box.selectionLength, 2);
+    EXPECT_EQ(list.selected, 3);
 }
 
-TEST(ListSearch, SwallowsACharacterThatLeadsNowhere)
+TEST_F(TypeAhead, MatchesTheWholeTextWithABlankInIt)
 {
-    Search search = withText("Duke", 2, 2);
-    search.list.selected = 3;
-    search.press('x');
-    EXPECT_EQ(search.source.text, "Duke");
-    EXPECT_EQ(search.source.selectionStart, 2);
-    EXPECT_EQ(search.source.selectionLength, 2);
-    EXPECT_EQ(search.list.selected, 3);
-    EXPECT_EQ(search.keyCode, 0);
+    fill("Iowa", 4, 0);
+    type(' ');
+    EXPECT_EQ(box.text, "Iowa St.");
+    EXPECT_EQ(box.selectionStart, 5);
+    EXPECT_EQ(box.selectionLength, 3);
 }
 
-TEST(ListSearch, MatchesTheWholeTextWithABlankInIt)
+TEST_F(TypeAhead, IgnoresACaretBeforeTheText)
 {
-    Search search = withText("Iowa", 4, 0);
-    search.press(' ');
-    EXPECT_EQ(search.source.text, "Iowa St.");
-    EXPECT_EQ(search.source.selectionStart, 5);
-    EXPECT_EQ(search.source.selectionLength, 3);
+    fill("Duke", -2, 4);
+    type('i');
+    EXPECT_EQ(box.text, "Iowa");
+    EXPECT_EQ(box.selectionStart, 1);
 }
 
-TEST(ListSearch, AppendsToTheTypedTextWhenTheBoxIsStillEmpty)
+TEST_F(TypeAhead, BackspaceShortensThePrefixByOne)
 {
-    Search search;
-    search.keyCode = 'u';
-    ListSearch{}.FindIndexStr(search.source, "D", search.keyCode, &search.list);
-    EXPECT_EQ(search.source.text, "Duke");
-    EXPECT_EQ(search.source.selectionStart, 2);
+    fill("Duquesne", 3, 5);
+    EXPECT_TRUE(press(Key::Backspace));
+    EXPECT_EQ(box.text, "Duke"); // "Du"
+    EXPECT_EQ(box.selectionStart, 2);
+    EXPECT_EQ(box.selectionLength, 2);
+    EXPECT_EQ(list.selected, 3);
 }
 
-TEST(ListSearch, BackspaceShortensThePrefixByOne)
-{
-    Search search = withText("Duquesne", 3, 5);
-    search.press(kBackspace);
-    EXPECT_EQ(search.source.text, "Duke"); // "Du"
-    EXPECT_EQ(search.source.selectionStart, 2);
-    EXPECT_EQ(search.source.selectionLength, 2);
-    EXPECT_EQ(search.keyCode, 0);
-}
-
-TEST(ListSearch, BackspaceAtPositionOneOrZeroEmptiesTheBoxAndLeavesTheKey)
+TEST_F(TypeAhead, BackspaceAtPositionOneOrZeroEmptiesTheBoxAndKeepsTheRow)
 {
     for (const int caret : {1, 0}) {
-        Search search = withText("Duke", caret, 4 - caret);
-        search.list.selected = 3;
-        search.press(kBackspace);
-        EXPECT_EQ(search.source.text, "");
-        EXPECT_EQ(search.source.selectionStart, 0);
-        EXPECT_EQ(search.source.selectionLength, 0);
-        EXPECT_EQ(search.list.selected, 3);
-        EXPECT_EQ(search.keyCode, kBackspace);
+        fill("Duke", caret, 4 - caret);
+        list.selected = 3;
+        EXPECT_TRUE(press(Key::Backspace));
+        EXPECT_EQ(box.text, "");
+        EXPECT_EQ(box.selectionStart, 0);
+        EXPECT_EQ(box.selectionLength, 0);
+        EXPECT_EQ(list.selected, 3);
     }
 }
 
-TEST(ListSearch, BackspaceInAnEmptyBoxIsLeftAlone)
+TEST_F(TypeAhead, BackspaceInAnEmptyBoxIsLeftAlone)
 {
-    Search search;
-    search.press(kBackspace);
-    EXPECT_EQ(search.source.text, "");
-    EXPECT_EQ(search.keyCode, kBackspace);
-    EXPECT_FALSE(search.list.selected);
+    EXPECT_FALSE(press(Key::Backspace));
+    EXPECT_EQ(box.text, "");
+    EXPECT_FALSE(list.selected);
 }
 
-TEST(ListSearch, EnterWithAListBoxIsPassedThroughUnchanged)
+TEST_F(TypeAhead, LeavesOtherKeysAlone)
 {
-    Search search = withText("Du", 2, 0);
-    search.press(kEnter);
-    EXPECT_EQ(search.keyCode, kEnter);
-    EXPECT_EQ(search.source.text, "Du");
-    EXPECT_FALSE(search.list.selected);
-}
-
-TEST(ListSearch, LeavesOtherKeysAlone)
-{
-    for (const std::int16_t key :
-         {std::int16_t{9}, std::int16_t{27}, std::int16_t{31}, std::int16_t{128}, std::int16_t{228}}) {
-        Search search = withText("Du", 2, 0);
-        search.press(key);
-        EXPECT_EQ(search.keyCode, key);
-        EXPECT_EQ(search.source.text, "Du");
+    for (const Key key : {Key::Enter, Key::Delete, Key::Escape, Key::Tab, Key::Up, Key::Left, Key::Home, Key::Other}) {
+        fill("Du", 2, 0);
+        EXPECT_FALSE(press(key));
+        EXPECT_EQ(box.text, "Du");
+        EXPECT_FALSE(list.selected);
     }
 }
 
-TEST(ListSearch, TreatsTheLastPrintableCodesAsCharacters)
+TEST_F(TypeAhead, LeavesControlCharactersAndLettersOutsideAsciiAlone)
 {
-    const std::vector<std::string> rows = {"a", "~b", "\x7f"};
-    for (const auto& [key, row] : {std::pair{'~', 1}, std::pair{'\x7f', 2}}) {
-        SearchSource source;
-        SearchList list{rows};
-        std::int16_t keyCode = key;
-        ListSearch{}.FindIndexStr(source, "", keyCode, &list);
+    list.rows = {"\x1F", "\x80", "\xE4"};
+    for (const char character : {'\t', '\x1B', '\x1F', '\x80', '\xE4'}) {
+        fill("", 0, 0);
+        EXPECT_FALSE(type(character));
+        EXPECT_EQ(box.text, "");
+    }
+}
+
+TEST_F(TypeAhead, LeavesShortcutsAlone)
+{
+    EXPECT_FALSE(typeAhead(box, list, {.key = Key::Character, .character = 'd', .control = true}));
+    EXPECT_FALSE(typeAhead(box, list, {.key = Key::Character, .character = 'd', .alt = true}));
+    EXPECT_EQ(box.text, "");
+}
+
+TEST_F(TypeAhead, TreatsTheLastPrintableCodesAsCharacters)
+{
+    list.rows = {"a", "~b", "\x7f"};
+    for (const auto& [character, row] : {std::pair{'~', 1}, std::pair{'\x7f', 2}}) {
+        fill("", 0, 0);
+        EXPECT_TRUE(type(character));
         EXPECT_EQ(list.selected, row);
-        EXPECT_EQ(keyCode, 0);
     }
-}
-
-TEST(ListSearch, LeavesTheKeyWhenThereIsNoListBoxToSearch)
-{
-    Search other;
-    other.list.isListBox = false;
-    other.press('D');
-    EXPECT_EQ(other.keyCode, 'D');
-    EXPECT_EQ(other.source.text, "");
-
-    SearchSource source;
-    std::int16_t keyCode = 'D';
-    ListSearch{}.FindIndexStr(source, "", keyCode);
-    EXPECT_EQ(keyCode, 'D');
-}
-
-SearchSource comboBox()
-{
-    SearchSource source;
-    source.kind = SearchSource::Kind::ComboBox;
-    source.ownList.isListBox = false;
-    source.ownList.rows = kTeams;
-    return source;
-}
-
-TEST(ListSearchComboBox, SearchesItsOwnListWhenNoOtherIsGiven)
-{
-    SearchSource source = comboBox();
-    std::int16_t keyCode = 'i';
-    ListSearch{}.FindIndexStr(source, "", keyCode);
-    EXPECT_EQ(source.ownList.selected, 5);
-    EXPECT_EQ(source.text, "Iowa"); // a combo box shows the row selected in its list
-    EXPECT_EQ(source.selectionStart, 1);
-    EXPECT_EQ(source.selectionLength, 3);
-    EXPECT_EQ(keyCode, 0);
-    EXPECT_FALSE(source.droppedDown);
-}
-
-TEST(ListSearchComboBox, EnterOpensTheListAndKeepsTheKey)
-{
-    SearchSource source = comboBox();
-    source.text = "Iowa";
-    std::int16_t keyCode = kEnter;
-    ListSearch{}.FindIndexStr(source, "Iowa", keyCode);
-    EXPECT_TRUE(source.droppedDown);
-    EXPECT_EQ(keyCode, kEnter);
-    EXPECT_FALSE(source.ownList.selected);
-}
-
-TEST(ListSearchComboBox, SwallowsACharacterThatLeadsNowhere)
-{
-    SearchSource source = comboBox();
-    std::int16_t keyCode = 'x';
-    ListSearch{}.FindIndexStr(source, "", keyCode);
-    EXPECT_FALSE(source.ownList.selected);
-    EXPECT_EQ(source.text, "");
-    EXPECT_EQ(keyCode, 0);
-}
-
-TEST(ListSearchComboBox, SearchesAGivenListBoxInsteadAndKeepsItsOwnText)
-{
-    SearchSource source = comboBox();
-    source.text = "Du";
-    source.selectionStart = 2;
-    SearchList list{kTeams};
-    std::int16_t keyCode = 'q';
-    ListSearch{}.FindIndexStr(source, "Du", keyCode, &list);
-    EXPECT_EQ(list.selected, 4);
-    EXPECT_FALSE(source.ownList.selected);
-    EXPECT_EQ(source.text, "Du"); // only a text box takes the found row's text
-    EXPECT_EQ(source.selectionStart, 2);
-    EXPECT_EQ(source.selectionLength, 0);
-    EXPECT_EQ(keyCode, 0);
-}
-
-TEST(ListSearchComboBox, EnterWithAGivenListBoxIsPassedThrough)
-{
-    SearchSource source = comboBox();
-    SearchList list{kTeams};
-    std::int16_t keyCode = kEnter;
-    ListSearch{}.FindIndexStr(source, "", keyCode, &list);
-    EXPECT_EQ(keyCode, kEnter);
-    EXPECT_FALSE(source.droppedDown);
 }
 
 } // namespace

@@ -20,34 +20,30 @@ TEST_P(WeaponsOnTheBoard, AreThePlayersNameAndNothingElse)
     loadFinalized();
     fill(name(), name(), "150");
     const std::string proposed = proposedFileName(name(), board->txtPlayerInitials.text);
-    platform.dialogs.pick(*folder.pathOf(proposed));
-    board->SaveSelection();
+    saveAs(*folder.pathOf(proposed));
     ASSERT_EQ(platform.dialogs.fileChoices.size(), 1u);
     EXPECT_TRUE(isBareName(platform.dialogs.fileChoices.front().proposedName));
     ASSERT_EQ(folder.files(".THC").size(), 1u);
     const FolderFile file = folder.files(".THC").front();
     EXPECT_EQ(file.path.parent_path(), scratch.path());
-    EXPECT_EQ(readSelectionFile(file.path).value[selection_line::kName], name());
+    EXPECT_EQ(readSelectionFile(file.path).value.name, name());
 
-    board->showSelection(file.path);
+    open(file.path);
     EXPECT_EQ(board->txtPlayerName.text, name());
 }
 
 TEST_P(WeaponsOnTheBoard, AreATeamAndASeedLikeAnyOther)
 {
-    SetupLines lines = defaultSetupLines();
-    for (int i = 0; i < kTeams; ++i)
-        lines[static_cast<std::size_t>(i)] = team(i / 16, i % 16);
-    lines[0] = weapon();
-    lines[setup_line::kSeed] = weapon();
-    lines[setup_line::kTitle] = weapon();
-    lines[setup_line::kFinalized] = "1";
-    scratch.put(file_name::kSetup, setupFile(lines));
+    Field made = fieldOfTeams("1");
+    made.teams[TeamRow{0}] = weapon();
+    made.seeds[0] = weapon();
+    made.title = weapon();
+    putField(made);
     load();
     EXPECT_EQ(at(0), weapon());
     EXPECT_EQ(board->lblTitle.text, weapon());
-    for (const std::size_t region : {0, 1, 2, 3})
-        EXPECT_EQ(board->txtSeed[region * kRowsPerRegion].text, weapon());
+    for (const std::size_t row : {0, 16, 32, 48})
+        EXPECT_EQ(board->txtSeed[row].text, weapon());
     click(0);
     EXPECT_EQ(at(16), weapon());
     drag(0, 126);

@@ -1,4 +1,4 @@
-// tests/weapons/files_test.cpp - whatever stands in one field of a file, it comes back, and the other fields with it.
+// tests/weapons/files_test.cpp - whatever is in one field of a file, it comes back, and the other fields with it.
 #include "weapons/weapons.h"
 
 #include "base/lines.h"
@@ -10,6 +10,8 @@
 #include "files/team_name_list_file.h"
 
 #include <algorithm>
+#include <array>
+#include <functional>
 #include <gtest/gtest.h>
 
 namespace tallyhoop::test {
@@ -21,29 +23,74 @@ protected:
     const std::string& weapon() const { return GetParam().text; }
 };
 
-TEST_P(WeaponsInFiles, ComeBackFromEachFieldOfTheSetup)
+/// A text of the setup that anything can be written into.
+struct SetupText {
+    std::string name;
+    std::function<void(Field&, const std::string&)> put;
+    bool isComment = false;
+};
+
+std::vector<SetupText> textsOfTheSetup()
 {
-    for (std::size_t field = 0; field < setup_line::kEnd; ++field) {
-        SetupLines lines = defaultSetupLines();
-        lines.at(field) = weapon();
-        SetupLines again{};
-        ASSERT_EQ(readSetup(setupFile(lines), again), SetupReading::Taken) << "field " << field;
-        for (std::size_t i = 0; i < setup_line::kEnd; ++i)
-            ASSERT_EQ(again.at(i), lines.at(i)) << "field " << field << " touched field " << i;
+    std::vector<SetupText> texts;
+    for (const TeamRow row : allTeamRows())
+        texts.push_back({"team " + std::to_string(index(row)),
+                         [row](Field& field, const std::string& text) { field.teams[row] = text; }});
+    texts.push_back({"title", [](Field& field, const std::string& text) { field.title = text; }});
+    for (std::size_t i = 0; i < kRegions; ++i)
+        texts.push_back({"title of region " + std::to_string(i),
+                         [i](Field& field, const std::string& text) { field.regionTitles.at(i) = text; }});
+    for (std::size_t i = 0; i < kRounds; ++i)
+        texts.push_back({"payoff " + std::to_string(i), [i](Field& field, const std::string& text) {
+                             std::array<std::string, kRounds> payoffs = field.payoffs.texts();
+                             payoffs.at(i) = text;
+                             field.payoffs = PayoffTexts{payoffs};
+                         }});
+    for (std::size_t i = 0; i < kRowsPerRegion; ++i)
+        texts.push_back(
+            {"seed " + std::to_string(i), [i](Field& field, const std::string& text) { field.seeds.at(i) = text; }});
+    texts.push_back({"comment 1", [](Field& field, const std::string& text) { field.comment1 = text; }, true});
+    texts.push_back({"comment 2", [](Field& field, const std::string& text) { field.comment2 = text; }, true});
+    texts.push_back({"finalized", [](Field& field, const std::string& text) { field.finalized = text; }});
+    return texts;
+}
+
+TEST_P(WeaponsInFiles, ComeBackFromEachTextOfTheSetup)
+{
+    const std::vector<SetupText> texts = textsOfTheSetup();
+    ASSERT_EQ(texts.size(), 94u); // 64 teams, 5 titles, 6 payoffs, 16 seeds, 2 comments, finalized
+    for (const SetupText& text : texts) {
+        Field field = defaultField();
+        text.put(field, weapon());
+        const Read<Field> again = readSetup(setupFile(field));
+        ASSERT_FALSE(again.trouble) << text.name;
+        if (text.isComment) // a bar in a comment is a line break
+            text.put(field, decodeLineBreaks(weapon()));
+        ASSERT_EQ(again.value, field) << text.name;
     }
 }
 
 TEST_P(WeaponsInFiles, ComeBackFromEachFieldOfASelection)
 {
-    for (std::size_t field = 1; field < selection_line::kEnd; ++field) {
-        SelectionLines lines;
-        lines.fill("Team");
-        lines[0].clear();
-        lines.at(field) = weapon();
-        const Read<SelectionLines> again = readSelection(selectionFile(lines));
-        ASSERT_FALSE(again.trouble) << "field " << field;
-        for (std::size_t i = 1; i < selection_line::kEnd; ++i)
-            ASSERT_EQ(again.value.at(i), lines.at(i)) << "field " << field << " touched field " << i;
+    Entry plain;
+    plain.initials = "JS";
+    plain.name = "Smith";
+    plain.finalPoints = "150";
+    for (const Position position : allPositions())
+        plain.picks.put(position, "Team");
+    std::vector<Entry> entries;
+    for (const Position position : allPositions()) {
+        entries.push_back(plain);
+        entries.back().picks.put(position, weapon());
+    }
+    for (std::string Entry::*text : {&Entry::initials, &Entry::name, &Entry::finalPoints}) {
+        entries.push_back(plain);
+        entries.back().*text = weapon();
+    }
+    for (const Entry& entry : entries) {
+        const Read<Entry> again = readSelection(selectionFile(entry));
+        ASSERT_FALSE(again.trouble);
+        ASSERT_EQ(again.value, entry);
     }
 }
 

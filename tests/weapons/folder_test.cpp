@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// As Windows sees it: the name of a device, whatever follows behind a point.
+/// As Windows sees it: the name of a device, whatever follows after a point.
 bool isDevice(const std::string& name)
 {
     const std::string stem = name.substr(0, name.find_first_of(". "));

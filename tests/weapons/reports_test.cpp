@@ -15,21 +15,30 @@ class WeaponsInReports : public ReportsScreenTest, public testing::WithParamInte
 protected:
     const std::string& weapon() const { return GetParam().text; }
 
+    /// The same bracket with this name for one of the teams, wherever that is.
+    Bracket renamed(Bracket bracket) const
+    {
+        for (const Position position : allPositions())
+            if (bracket.at(position) == teamName(kWest, 5))
+                bracket.put(position, weapon());
+        return bracket;
+    }
+
     /// The four players, one of whom bears the name, sends a team of the name on, and picked it as champion.
     void putPool()
     {
-        for (PoolEntry player : fourPlayers().players) {
-            std::ranges::replace(player.lines, teamName(kWest, 5), weapon());
+        for (Entry player : fourPlayers()) {
+            player.picks = renamed(player.picks);
             if (player.fileName == "Clark_D.THC") {
-                player.lines[selection_line::kName] = weapon();
-                player.lines[selection_line::kInitials] = weapon();
-                player.lines[selection_line::kChampion] = weapon();
+                player.name = weapon();
+                player.initials = weapon();
+                player.picks.put(kChampion, weapon());
                 player.fileName = proposedFileName(weapon(), weapon());
             }
-            ASSERT_TRUE(dataFolder.write(player.fileName, selectionFile(player.lines)));
+            ASSERT_TRUE(dataFolder.write(player.fileName, selectionFile(player)));
         }
-        SelectionLines results = fourPlayersResults().lines;
-        std::ranges::replace(results, teamName(kWest, 5), weapon());
+        Entry results = fourPlayersResults();
+        results.picks = renamed(results.picks);
         folder.put("TALLYHOOP.THS", selectionFile(results));
         folder.put("PLAYERNAMES.CSV",
                    playerNamesFile(std::vector<PlayerRecord>{{weapon(), weapon(), weapon(), weapon()}}));
@@ -51,11 +60,11 @@ protected:
     }
 };
 
-TEST_P(WeaponsInReports, StandThereLetterForLetter)
+TEST_P(WeaponsInReports, AreWrittenLetterForLetter)
 {
     putPool();
     std::vector<std::string> expected = names();
-    tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam});
+    tickAll();
     create(kFile);
 
     // Nothing but report files has come, whatever the names say.
@@ -77,7 +86,7 @@ TEST_P(WeaponsInReports, AreTheTitleAndNothingElse)
 {
     putFourPlayers(folder);
     screen.txtReportTitle.text = weapon();
-    tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam});
+    tickAll();
     create(kFile);
     EXPECT_NE(folder.get("RPTOPT1.TXT").find(weapon()), std::string::npos);
     EXPECT_NE(folder.get("RPTOPT2.TXT").find(weapon()), std::string::npos);

@@ -1,4 +1,4 @@
-// tests/e2e/inspector/describe.cpp - what a person sees of the program's widgets, read without touching them.
+// tests/e2e/inspector/describe.cpp - reads what a person sees of the program's widgets, without changing them.
 #include "describe.h"
 
 #include <QAbstractButton>
@@ -105,16 +105,16 @@ QRect rectOf(const QWidget* container, QAction* action)
     return qobject_cast<const QMenu*>(container)->actionGeometry(action);
 }
 
-/// Whether a press on the middle of the widget would reach it. A window that has been shown but not yet been given the
-/// focus may still be on its way: where it says it is, there is another one. And beside a modal window all others are
-/// deaf.
+/// @returns whether a press on the middle of the widget would reach it. A window that has been shown but has not had
+/// the focus yet may not be on the screen yet: another window is at its place. And windows beside a modal one get no
+/// presses.
 bool isReachable(const QWidget* widget)
 {
     const QWidget* window = widget->window();
     if (!widget->isVisible()) {
         return false;
     }
-    if (window->windowType() == Qt::Popup) { // never gets the focus, and every press
+    if (window->windowType() == Qt::Popup) { // never gets the focus, but gets every press
         return true;
     }
     const QWidget* modal = QApplication::activeModalWidget();

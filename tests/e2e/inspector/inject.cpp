@@ -1,4 +1,4 @@
-// tests/e2e/inspector/inject.cpp - events for runs without a display, put in where the platform would put them.
+// tests/e2e/inspector/inject.cpp - injects events for runs without a display, at the place where the platform would.
 #include "inject.h"
 
 #include <QGuiApplication>
@@ -51,7 +51,7 @@ void inject(const QJsonObject& request)
         return;
     }
     QWindow* window = QGuiApplication::focusWindow();
-    if (window == nullptr) { // without a window manager nobody hands the focus back when a box has closed
+    if (window == nullptr) { // without a window manager the focus does not return when a box has closed
         window = frontWindow([](const QWindow&) { return true; });
         if (window == nullptr) {
             return;

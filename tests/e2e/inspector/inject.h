@@ -1,5 +1,4 @@
-// tests/e2e/inspector/inject.h - mouse and key events made inside the program, where there is no display to make them
-// on.
+// tests/e2e/inspector/inject.h - mouse and key events made inside the program, for runs without a display.
 #pragma once
 #include <QJsonObject>
 

@@ -1,5 +1,5 @@
-// tests/e2e/inspector/inspector.cpp - a Qt plugin that the unmodified program loads when a test asks Qt for it: it
-// listens on a local socket and answers, one line of JSON for one line of JSON, what is on the screen.
+// tests/e2e/inspector/inspector.cpp - a Qt plugin that the unmodified program loads for a test. It listens on a local
+// socket and answers each line of JSON with a line of JSON about what is on the screen.
 #include "describe.h"
 #include "inject.h"
 
@@ -14,7 +14,7 @@
 namespace inspector {
 namespace {
 
-/// Counts what has reached the program, so that a test can wait for its own press or key to be dealt with.
+/// Counts the events that have reached the program, so that a test can wait until its own press or key has arrived.
 class EventCounter : public QObject
 {
 public:

@@ -1,8 +1,8 @@
-// tests/kill/killer/killer.cpp - stands between the program and the system's calls about files, and kills the program
-// at a chosen one: before it happens, or, when it writes, after half of it.
+// tests/kill/killer/killer.cpp - wraps the system's calls about files and kills the program at a chosen one: before the
+// call, or, when it writes, after half of it.
 //
-// Loaded with LD_PRELOAD. After tallyhoopKillAtCall(), or from the start when TALLYHOOP_KILL_AT_CALL says which, counts
-// from the first call on that names a temporary file: what a dialog looks at before differs from time to time.
+// Loaded with LD_PRELOAD. After tallyhoopKillAtCall(), or from the start when TALLYHOOP_KILL_AT_CALL gives the number,
+// it counts from the first call that names a temporary file, because the calls of a dialog before it vary in number.
 #include <csignal>
 #include <cstdarg>
 #include <cstddef>
@@ -17,7 +17,7 @@
 
 namespace {
 
-int callsLeft = 0; // 0 = nobody is to be killed
+int callsLeft = 0; // 0 = do not kill
 bool isSaving = false;
 
 __attribute__((constructor)) void readOrder()
@@ -33,7 +33,7 @@ __attribute__((constructor)) void readOrder()
         ::pause();
 }
 
-/// A file dialog looks at its folder in a thread of its own, now sooner and now later: such calls are not counted.
+/// A file dialog reads its folder in a thread of its own, at varying times: such calls are not counted.
 bool isMainThread() { return ::gettid() == ::getpid(); }
 
 bool isLast() { return callsLeft > 0 && isSaving && isMainThread() && --callsLeft == 0; }
@@ -50,7 +50,7 @@ void passOrDie(const char* path)
     passOrDie();
 }
 
-/// Words that the program exchanges with the test and with itself are no files.
+/// @returns whether this is a file or folder, not a pipe to the test or to the program itself
 bool isFile(int descriptor)
 {
     struct stat status {

@@ -30,7 +30,7 @@ Kind& reachable(const char* name)
 {
     auto* widget = qobject_cast<Kind*>(visibleWidget(QString::fromLatin1(name)));
     if (widget == nullptr || !widget->isEnabled()) {
-        giveUp(QStringLiteral("nothing to use is called ") + QLatin1String(name));
+        giveUp(QStringLiteral("there is no usable widget ") + QLatin1String(name));
     }
     return *widget;
 }
@@ -58,7 +58,7 @@ void choose(const char* entry)
             }
         }
     }
-    giveUp(QStringLiteral("no menu entry can be chosen that is called ") + QLatin1String(entry));
+    giveUp(QStringLiteral("there is no usable menu entry ") + QLatin1String(entry));
 }
 
 void click(const char* button) { reachable<QAbstractButton>(button).click(); }
@@ -73,7 +73,7 @@ void type(const char* box, const QString& text)
 
 bool isVisible(const char* name) { return visibleWidget(QString::fromLatin1(name)) != nullptr; }
 
-void answerFrontBox(const QString& text, const QString& file, const std::function<void(const QString&)>& tell)
+void answerFrontBox(const QString& text, const QString& file, const std::function<void(const QString&)>& report)
 {
     QWidget* front = QApplication::activeModalWidget();
     if (front == nullptr || !front->isVisible()) {
@@ -92,7 +92,7 @@ void answerFrontBox(const QString& text, const QString& file, const std::functio
         return;
     }
     if (auto* box = qobject_cast<QMessageBox*>(front); box != nullptr) {
-        tell(box->windowTitle());
+        report(box->windowTitle());
         press(*box);
         return;
     }

@@ -6,18 +6,18 @@
 
 namespace saver {
 
-/// Chooses a menu entry. A name that nothing enabled bears ends the program with a word: the test must not go on idly.
+/// Chooses a menu entry. Ends the program with a message when there is no enabled entry of that name.
 void choose(const char* entry);
 void click(const char* button);
 
-/// Replaces what stands in an entry field.
+/// Replaces the text of an entry field.
 void type(const char* box, const QString& text);
 
 bool isVisible(const char* name);
 
-/// Answers whatever box is in front as a person who wants to save: Yes, OK, the proposed file. Tells its title.
+/// Answers the box in front, if any, as a person who wants to save: Yes, OK, the proposed file. Reports its title.
 /// @param text what is typed into a box that asks for a line
 /// @param file the file that is chosen in a dialog that opens one
-void answerFrontBox(const QString& text, const QString& file, const std::function<void(const QString&)>& tell);
+void answerFrontBox(const QString& text, const QString& file, const std::function<void(const QString&)>& report);
 
 } // namespace saver

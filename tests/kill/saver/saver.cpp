@@ -1,12 +1,12 @@
 // tests/kill/saver/saver.cpp - a Qt plugin that makes the unmodified program save, so that a test can kill it
 // meanwhile.
 //
-// It takes orders from one descriptor, a line each, and tells what happens on another:
-//   once N      saves round N, tells "saved"
+// It takes orders from one descriptor, a line each, and reports on another:
+//   once N      saves round N, reports "saved"
 //   loop N      saves round N, N+1, ... until the program is killed
-//   fork N      the same in a child of the program, which tells "child PID" and, once it is gone, "gone STATUS"
-//   forkone N K saves round N in a child that kills itself at its K-th call about a file; told as with "fork"
-// Before the first order it tells "ready"; every message box, whenever it comes, as "box TITLE".
+//   fork N      the same in a child of the program, which reports "child PID" and, when it has ended, "gone STATUS"
+//   forkone N K saves round N in a child that kills itself at its K-th call about a file; reports as with "fork"
+// Before the first order it reports "ready"; every message box, at any time, as "box TITLE".
 #include "hands.h"
 #include "writers.h"
 
@@ -22,8 +22,8 @@
 namespace saver {
 namespace {
 
-/// Keeps a program from painting. Qt shares large areas out among threads, which a forked child has not got: it would
-/// wait for them for ever.
+/// Stops a program from painting. Qt distributes large areas among threads, which a forked child does not have: it
+/// would wait for them for ever.
 class Blindfold : public QObject
 {
 public:
@@ -41,17 +41,17 @@ public:
     explicit Saver(const Writer& writer)
         : m_writer{writer},
           m_orders{::fdopen(qEnvironmentVariableIntValue("TALLYHOOP_SAVER_ORDERS"), "r")},
-          m_told{qEnvironmentVariableIntValue("TALLYHOOP_SAVER_TOLD")}
+          m_reports{qEnvironmentVariableIntValue("TALLYHOOP_SAVER_REPORTS")}
     {
         connect(&m_watch, &QTimer::timeout, this, &Saver::look);
         m_watch.start(0);
     }
 
 private:
-    void tell(const QString& what) const
+    void report(const QString& what) const
     {
         const QByteArray line = what.toUtf8() + '\n';
-        if (::write(m_told, line.constData(), static_cast<std::size_t>(line.size())) != line.size()) {
+        if (::write(m_reports, line.constData(), static_cast<std::size_t>(line.size())) != line.size()) {
             ::_exit(1);
         }
     }
@@ -59,13 +59,13 @@ private:
     void look()
     {
         answerFrontBox(mark(m_round), qEnvironmentVariable("TALLYHOOP_SAVER_OPENS"),
-                       [this](const QString& title) { tell(QStringLiteral("box ") + title); });
+                       [this](const QString& title) { report(QStringLiteral("box ") + title); });
         const bool quiet = QApplication::activeModalWidget() == nullptr && isVisible("lblTitle");
         m_quiet = quiet ? m_quiet + 1 : 0;
-        constexpr int kQuietLooks = 5; // whatever start-up has to say has been said
+        constexpr int kQuietLooks = 5; // all messages of start-up have been shown
         if (!m_started && m_quiet == kQuietLooks) {
             m_started = true;
-            // Not from here: a timer whose call has not returned does not call again, and boxes would go unanswered.
+            // Not from here: a timer does not fire while its slot is running, so boxes would not be answered.
             QTimer::singleShot(0, this, &Saver::obey);
         }
     }
@@ -73,13 +73,13 @@ private:
     void obey()
     {
         m_writer.prepare();
-        tell(QStringLiteral("ready"));
+        report(QStringLiteral("ready"));
         char line[80];
         while (m_orders != nullptr && std::fgets(line, sizeof line, m_orders) != nullptr) {
             int call = 0;
             if (std::sscanf(line, "once %d", &m_round) == 1) {
                 save();
-                tell(QStringLiteral("saved"));
+                report(QStringLiteral("saved"));
             } else if (std::sscanf(line, "loop %d", &m_round) == 1) {
                 saveForEver();
             } else if (std::sscanf(line, "forkone %d %d", &m_round, &call) == 2) {
@@ -91,7 +91,7 @@ private:
                 inChild([this] { saveForEver(); });
             }
         }
-        ::_exit(0); // nobody gives orders any more
+        ::_exit(0); // there are no more orders
     }
 
     void save()
@@ -116,13 +116,13 @@ private:
             act();
             ::_exit(0);
         }
-        tell(QStringLiteral("child %1").arg(child));
+        report(QStringLiteral("child %1").arg(child));
         int status = 0;
         ::waitpid(child, &status, 0);
-        tell(QStringLiteral("gone %1").arg(status));
+        report(QStringLiteral("gone %1").arg(status));
     }
 
-    /// The other half of this is a library that stands between the program and the system's calls.
+    /// The function is in the preloaded library that wraps the system's calls.
     static void armKiller(int call)
     {
         using Arm = void (*)(int);
@@ -135,7 +135,7 @@ private:
 
     const Writer& m_writer;
     std::FILE* m_orders;
-    int m_told;
+    int m_reports;
     int m_round = 0;
     int m_quiet = 0;
     bool m_started = false;

@@ -40,13 +40,13 @@ void addTeam(int /*round*/)
     choose("mnuEnd");
 }
 
-/// Somebody spoils the list, and the program points out where.
-void spoilPlayerList(int round)
+/// Damages the list, so that the program makes an annotated copy.
+void damagePlayerList(int round)
 {
     QFile intact(QApplication::applicationDirPath() + QStringLiteral("/intact.csv"));
     QSaveFile list(QApplication::applicationDirPath() + QStringLiteral("/PLAYERNAMES.CSV"));
     if (!intact.open(QIODevice::ReadOnly) || !list.open(QIODevice::WriteOnly)) {
-        qFatal("saver: the player list cannot be spoilt");
+        qFatal("saver: the player list cannot be damaged");
     }
     list.write(intact.readAll() + mark(round).toLatin1() + "\r\n");
     list.commit();
@@ -74,7 +74,7 @@ const std::array<Writer, 17> kWriters{{
     {"results", [] { choose("mnuGameResults"); }, saveBoard},
     {"selection", [] { choose("mnuOpenSelection"); }, saveBoard},
     {"players", nothing, addPlayer},
-    {"annotated", nothing, spoilPlayerList},
+    {"annotated", nothing, damagePlayerList},
     {"teams", nothing, addTeam},
     {"report1", prepareReport<'0', '1'>, makeReport},
     {"report2", prepareReport<'1', '1'>, makeReport},

@@ -40,7 +40,7 @@ TEST(FileDialog, FilesAreOfferedWithoutRegardToCase)
     EXPECT_EQ(names, (QStringList{QStringLiteral("lower_b.thc"), QStringLiteral("Upper_A.THC")}));
 }
 
-TEST(FileDialog, ATypedNameMayStandInAnyCase)
+TEST(FileDialog, ATypedNameMayBeInAnyCase)
 {
     const tallyhoop::test::ScratchFolder scratch;
     scratch.put("Smith_JS.THC", "");
@@ -77,7 +77,7 @@ TEST(FileDialog, ATypedNameMayStandInAnyCase)
 }
 
 #ifndef _WIN32 // where no name may hold one
-TEST(FileDialog, QuotationMarksBelongToANameUnlessTheyStandAroundIt)
+TEST(FileDialog, QuotationMarksBelongToANameUnlessTheyEncloseIt)
 {
     const tallyhoop::test::ScratchFolder scratch;
     scratch.put("Smith_JS.THC", "");

@@ -1,4 +1,4 @@
-// tests/qt/services/mail_hand_over_test.cpp - which client gets a message, on desktops of the test's own making.
+// tests/qt/services/mail_hand_over_test.cpp - which client gets a message, on desktops that the tests make up.
 #include "qt/services/mail_hand_over.h"
 
 #include "fakes/scratch_folder.h"
@@ -17,7 +17,7 @@ namespace {
 using Arguments = std::vector<std::string>;
 using Routes = std::vector<MailRoute>;
 
-/// A search path with programs that tell how they were started.
+/// A search path with programs that report how they were started.
 class MailHandOverTest : public testing::Test
 {
 protected:
@@ -25,7 +25,7 @@ protected:
     {
         qputenv("PATH", QByteArray::fromStdString(programs.path().native()));
         EXPECT_EQ(mkfifo(pipeName().c_str(), 0600), 0);
-        // Both ends are open here, so that neither side waits for the other.
+        // Both sides of the pipe are open here, so that neither waits for the other.
         m_pipe = ::open(pipeName().c_str(), O_RDWR | O_NONBLOCK | O_CLOEXEC);
     }
 
@@ -53,26 +53,26 @@ protected:
         install("xdg-mime", "[ \"$*\" = 'query default x-scheme-handler/mailto' ] && echo '" + desktopFile + "'");
     }
 
-    /// @returns name and arguments of the program that was started, waiting for it to tell
+    /// @returns name and arguments of the program that was started, waiting for its report
     Arguments started() const
     {
         constexpr int kPatience = 20000; // milliseconds; reached only when nothing was started
         const std::string end = std::string{"END"} + '\0';
-        std::string told;
-        while (!told.ends_with(end)) {
+        std::string report;
+        while (!report.ends_with(end)) {
             pollfd ready{m_pipe, POLLIN, 0};
             if (::poll(&ready, 1, kPatience) != 1) {
-                ADD_FAILURE() << "no program told anything";
+                ADD_FAILURE() << "no program was started";
                 return {};
             }
             std::array<char, 4096> buffer{};
             const ssize_t count = ::read(m_pipe, buffer.data(), buffer.size());
             if (count > 0)
-                told.append(buffer.data(), static_cast<std::size_t>(count));
+                report.append(buffer.data(), static_cast<std::size_t>(count));
         }
         Arguments words;
-        for (std::size_t start = 0; start < told.size() - end.size();) {
-            words.emplace_back(told.c_str() + start);
+        for (std::size_t start = 0; start < report.size() - end.size();) {
+            words.emplace_back(report.c_str() + start);
             start += words.back().size() + 1;
         }
         return words;
@@ -84,7 +84,7 @@ protected:
         return ::poll(&ready, 1, 0) == 0;
     }
 
-    /// A message with two reports in a folder whose name tries everything.
+    /// A message with two reports in a folder whose name has all kinds of special characters.
     ui::MailMessage message() const
     {
         std::filesystem::create_directory(awkward);
@@ -97,7 +97,7 @@ protected:
                 .attachments = {{awkward / "RPTOPT1.TXT", 12}, {awkward / "RPTOPT7.TXT", 13}}};
     }
 
-    std::string pipeName() const { return (programs.path() / "told").native(); }
+    std::string pipeName() const { return (programs.path() / "report").native(); }
     std::string encodedFolder() const
     {
         return "file://" + scratch.path().native() + "/O%27Brien%2C%20J%20100%25%20f%C3%BCr";
@@ -181,7 +181,7 @@ TEST_F(MailHandOverTest, GivesOtherHandlersToXdgEmailWithEachFile)
                                     "?subject=It%27s%20100%25%20f%C3%BCr%20all%2C%20ok&body=Hi%2C%0D%0A%27all%27"}));
 }
 
-TEST_F(MailHandOverTest, OpensAMessageFileInTheFolderWhenNeitherWillDo)
+TEST_F(MailHandOverTest, OpensAMessageFileInTheFolderWhenNeitherCanBeUsed)
 {
     installRecording("gio");
     EXPECT_TRUE(mail.send(message()));
@@ -192,14 +192,14 @@ TEST_F(MailHandOverTest, OpensAMessageFileInTheFolderWhenNeitherWillDo)
     EXPECT_NE(file.find("\r\nc2Vjb25kDQo=\r\n"), std::string::npos) << "\"second\" is not attached";
 }
 
-TEST_F(MailHandOverTest, OpensItWithXdgOpenWhereThatIsAllThereIs)
+TEST_F(MailHandOverTest, OpensItWithXdgOpenWhenThereIsNothingElse)
 {
     installRecording("xdg-open");
     EXPECT_TRUE(mail.send(message()));
     EXPECT_EQ(started(), (Arguments{"xdg-open", (awkward / "TALLYHOOP.EML").native()}));
 }
 
-TEST_F(MailHandOverTest, GoesOnToTheNextWayWhenAProgramCannotBeStarted)
+TEST_F(MailHandOverTest, TriesTheNextWayWhenAProgramCannotBeStarted)
 {
     setHandler("thunderbird.desktop");
     const std::filesystem::path broken = programs.put("thunderbird", "#!/no/such/interpreter\n");
@@ -222,7 +222,7 @@ TEST_F(MailHandOverTest, NamesTheFilesWhenNothingCanTakeTheMessage)
     EXPECT_EQ(scratch.get("O'Brien, J 100% f\xC3\xBCr/RPTOPT1.TXT"), "first\r\n");
 }
 
-TEST_F(MailHandOverTest, SaysSoWhenNothingOpensMessageFiles)
+TEST_F(MailHandOverTest, FailsWhenNothingOpensMessageFiles)
 {
     installRecording("gio", 2);
     const Result<Done> sent = mail.send(message());

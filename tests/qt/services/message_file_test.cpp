@@ -1,4 +1,4 @@
-// tests/qt/services/message_file_test.cpp - the message file, read back by a parser that is not ours.
+// tests/qt/services/message_file_test.cpp - the message file, read back by another program's parser.
 #include "qt/services/message_file.h"
 
 #include "fakes/scratch_folder.h"
@@ -15,20 +15,20 @@ namespace {
 constexpr const char* kReader = R"(
 import email, email.policy, sys
 message = email.message_from_binary_file(sys.stdin.buffer, policy=email.policy.default)
-def tell(name, value):
+def show(name, value):
     print(name, (value if isinstance(value, bytes) else str(value).encode('utf-8')).hex() or '-')
-tell('defects', [d for part in message.walk() for d in part.defects])
-tell('unsent', message['X-Unsent'])
-tell('mime', message['MIME-Version'])
-tell('subject', message['Subject'])
-tell('to', '|'.join(a.addr_spec + '=' + a.display_name for a in message['To'].addresses) if message['To'] else '')
+show('defects', [d for part in message.walk() for d in part.defects])
+show('unsent', message['X-Unsent'])
+show('mime', message['MIME-Version'])
+show('subject', message['Subject'])
+show('to', '|'.join(a.addr_spec + '=' + a.display_name for a in message['To'].addresses) if message['To'] else '')
 for number, part in enumerate(message.iter_parts()):
-    tell('type%d' % number, part.get_content_type())
-    tell('charset%d' % number, part.get_content_charset())
-    tell('encoding%d' % number, part['Content-Transfer-Encoding'])
-    tell('disposition%d' % number, part.get_content_disposition())
-    tell('file%d' % number, part.get_filename())
-    tell('bytes%d' % number, part.get_payload(decode=True))
+    show('type%d' % number, part.get_content_type())
+    show('charset%d' % number, part.get_content_charset())
+    show('encoding%d' % number, part['Content-Transfer-Encoding'])
+    show('disposition%d' % number, part.get_content_disposition())
+    show('file%d' % number, part.get_filename())
+    show('bytes%d' % number, part.get_payload(decode=True))
 )";
 
 class MessageFile : public testing::Test
@@ -63,7 +63,7 @@ std::vector<std::string> linesOf(const std::string& bytes)
     return lines;
 }
 
-TEST_F(MessageFile, CarriesEverythingUnharmed)
+TEST_F(MessageFile, CarriesEverythingUnchanged)
 {
     const std::string report = std::string{"Standings\r\n\x0C\r\nZo\xEB \x80 lone\n\0end", 29} + std::string(500, 'x');
     const std::string empty;

@@ -1,4 +1,4 @@
-// tests/qt/services/outgoing_mail_test.cpp - the arguments that tell a message to a client, byte for byte.
+// tests/qt/services/outgoing_mail_test.cpp - the arguments that pass a message to a client, byte for byte.
 #include "qt/services/outgoing_mail.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +38,7 @@ TEST(PercentEncoded, KeepsLettersDigitsAndFourMarksOnly)
     EXPECT_EQ(percentEncoded("\xC3\xBC/x", "/"), "%C3%BC/x");
 }
 
-TEST(FileUrl, EncodesWhatWouldEndAnArgument)
+TEST(FileUrl, EncodesCharactersThatWouldEndAnArgument)
 {
     EXPECT_EQ(fileUrl("/home/O'Brien, J/100% f\xC3\xBCr alle/RPTOPT1.TXT"),
               "file:///home/O%27Brien%2C%20J/100%25%20f%C3%BCr%20alle/RPTOPT1.TXT");
@@ -55,7 +55,7 @@ TEST(ThunderbirdArguments, AreOneComposeArgument)
                                      "attachment='file:///pool/RPTOPT1.TXT,file:///pool/RPTOPT7.TXT'"}));
 }
 
-TEST(ThunderbirdArguments, LeaveOutWhatIsNotThere)
+TEST(ThunderbirdArguments, LeaveOutEmptyParts)
 {
     EXPECT_EQ(thunderbirdArguments({}), (Arguments{"-compose", "subject=,body=,format=text"}));
 }

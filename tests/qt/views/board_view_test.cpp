@@ -1,10 +1,12 @@
-// tests/qt/views/board_view_test.cpp - do the mouse and the tool tips of the bracket do what its places mean?
+// tests/qt/views/board_view_test.cpp - the mouse, the keyboard and the tool tips on the bracket.
 #include "qt/views/board_view.h"
 
+#include "app/wiring.h"
 #include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
+#include "files/selection_file.h"
 #include "files/setup_file.h"
 
 #include <QAbstractButton>
@@ -43,7 +45,16 @@ protected:
         return find<QAbstractButton>(QStringLiteral("lblRegion_%1").arg(position));
     }
 
-    std::string& team(int position) { return board.lblRegion[static_cast<std::size_t>(position)].text; }
+    const std::string& team(int position) const { return board.bracket().at(Position{position}); }
+
+    /// Opens a selection of the sample field with one more pick.
+    void openWith(Position position, const std::string& picked)
+    {
+        Entry entry = demo::sampleResults();
+        entry.picks.put(position, picked);
+        platform.dialogs.pick(scratch.put("Opened.THC", selectionFile(entry)));
+        desk.runInside(board, [this] { board.mnuOpenSelection.click(); });
+    }
 
     /// A point of another widget as the bracket sees it.
     QPoint onBracket(const QWidget& widget) const
@@ -61,7 +72,7 @@ protected:
 
     void release(QPoint at) { QTest::mouseRelease(&find(QStringLiteral("bracketCanvas")), Qt::LeftButton, {}, at); }
 
-    /// What comes up under a pointer that rests on a place.
+    /// The tool tip of a pointer that rests on a place.
     QString tipOf(QWidget& widget)
     {
         QToolTip::hideText();
@@ -75,9 +86,9 @@ protected:
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     test::FakePlatform platform;
-    modTallyhoop state;
+    SharedValues shared;
     test::FakeScreens screens;
-    BoardScreen board{folder, platform.services, state, screens};
+    BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedVerdicts}};
     Desk desk;
     BoardView view{board, desk};
 };
@@ -96,7 +107,7 @@ TEST_F(BoardViewTest, APlaceAndItsMarkerTouchAtEverySize)
     }
 }
 
-TEST_F(BoardViewTest, ADragCarriesTheNameAndLandsWhereItIsLetGo)
+TEST_F(BoardViewTest, ADragShowsTheNameAndEndsWhereItIsReleased)
 {
     pressAndDrag(place(0), onBracket(place(24)));
     EXPECT_TRUE(find(QStringLiteral("draggedTeam")).isVisible());
@@ -107,7 +118,7 @@ TEST_F(BoardViewTest, ADragCarriesTheNameAndLandsWhereItIsLetGo)
     EXPECT_EQ(team(24), "Arizona");
 }
 
-TEST_F(BoardViewTest, AClickOnATeamLeavesTheKeyboardInTheField)
+TEST_F(BoardViewTest, AClickOnATeamLeavesTheFocusInTheField)
 {
     auto& initials = find(QStringLiteral("txtPlayerInitials"));
     initials.setFocus();
@@ -118,7 +129,7 @@ TEST_F(BoardViewTest, AClickOnATeamLeavesTheKeyboardInTheField)
     EXPECT_TRUE(find(QStringLiteral("txtPlayerName")).hasFocus());
 }
 
-TEST_F(BoardViewTest, UndoAndRedoReachTheBracketWhileTheKeyboardIsInAField)
+TEST_F(BoardViewTest, UndoAndRedoReachTheBracketWhileAFieldHasTheFocus)
 {
     auto& initials = find(QStringLiteral("txtPlayerInitials"));
     QTest::mouseClick(&place(0), Qt::LeftButton);
@@ -130,7 +141,7 @@ TEST_F(BoardViewTest, UndoAndRedoReachTheBracketWhileTheKeyboardIsInAField)
     EXPECT_EQ(team(16), "Arizona");
 }
 
-TEST_F(BoardViewTest, UndoTakesBackWhatCameLastWhetherItWasTypedOrClicked)
+TEST_F(BoardViewTest, UndoUndoesTheLastChangeWhetherItWasTypedOrClicked)
 {
     auto& initials = find<QLineEdit>(QStringLiteral("txtPlayerInitials"));
     const auto undo = [&] { QTest::keyClick(&initials, Qt::Key_Z, Qt::ControlModifier); };
@@ -151,7 +162,7 @@ TEST_F(BoardViewTest, UndoTakesBackWhatCameLastWhetherItWasTypedOrClicked)
     EXPECT_EQ(initials.text(), QStringLiteral("j"));
 }
 
-TEST_F(BoardViewTest, UndoBringsBackTheBoardThatNewHasEmptiedWhileTheKeyboardIsInAField)
+TEST_F(BoardViewTest, UndoRestoresTheBoardThatNewHasEmptiedWhileAFieldHasTheFocus)
 {
     auto& initials = find<QLineEdit>(QStringLiteral("txtPlayerInitials"));
     QTest::keyClick(&initials, Qt::Key_J);
@@ -161,7 +172,7 @@ TEST_F(BoardViewTest, UndoBringsBackTheBoardThatNewHasEmptiedWhileTheKeyboardIsI
     EXPECT_EQ(initials.text(), QStringLiteral("j"));
 }
 
-TEST_F(BoardViewTest, TheArrowKeysStillReachPlacesThatTabPassesBy)
+TEST_F(BoardViewTest, TheArrowKeysReachPlacesThatTabSkips)
 {
     place(0).setFocus();
     QTest::keyClick(&place(0), Qt::Key_Down);
@@ -179,7 +190,7 @@ TEST_F(BoardViewTest, ADropBesideThePlacesDoesNothing)
     EXPECT_EQ(team(16), "");
 }
 
-TEST_F(BoardViewTest, ARightPressInTheMiddleOfADragEndsItWithoutATrace)
+TEST_F(BoardViewTest, ARightPressInTheMiddleOfADragCancelsIt)
 {
     pressAndDrag(place(0), onBracket(place(24)));
     QTest::mousePress(&find(QStringLiteral("bracketCanvas")), Qt::RightButton, {}, onBracket(place(24)));
@@ -188,7 +199,7 @@ TEST_F(BoardViewTest, ARightPressInTheMiddleOfADragEndsItWithoutATrace)
     EXPECT_EQ(team(24), "");
 }
 
-TEST_F(BoardViewTest, ADragWhoseReleaseGotLostIsOver)
+TEST_F(BoardViewTest, ADragWithoutAReleaseIsCancelled)
 {
     pressAndDrag(place(0), onBracket(place(24)));
     QWidget& bracket = find(QStringLiteral("bracketCanvas"));
@@ -203,47 +214,44 @@ TEST_F(BoardViewTest, ADragWhoseReleaseGotLostIsOver)
 
 TEST_F(BoardViewTest, PressesOnTheFormAndOnDisabledLabelsRaiseTheScoreDisplay)
 {
-    board.setScoreDisplayOpen(true);
+    screens.open.insert(ScreenKind::Scores);
     desk.push();
     ASSERT_FALSE(place(0).isEnabled());
     QTest::mouseClick(&find(QStringLiteral("bracketCanvas")), Qt::LeftButton, {}, onBracket(place(0)));
     QTest::mouseClick(&find(QStringLiteral("bracketCanvas")), Qt::LeftButton, {}, {1, 1});
     // Below the bracket, beside the fields.
     QTest::mouseClick(find(QStringLiteral("txtPlayerName")).parentWidget(), Qt::LeftButton, {}, {2, 2});
-    const std::vector<ScreenKind> thrice(3, ScreenKind::ScoreDisplay);
+    const std::vector<ScreenKind> thrice(3, ScreenKind::Scores);
     EXPECT_EQ(screens.raised, thrice);
     EXPECT_EQ(team(16), "");
 }
 
-TEST_F(BoardViewTest, ACutNameIsWholeInItsToolTipLetterForLetter)
+TEST_F(BoardViewTest, TheToolTipOfACutNameIsTheWholeName)
 {
     const std::string longName(300, 'W');
-    team(16) = "A&M";
-    desk.push();
+    openWith(Position{16}, "A&M");
     EXPECT_EQ(tipOf(place(16)), QString{});
-    team(16) = "A&M <b> " + longName;
-    desk.push();
+    openWith(Position{16}, "A&M <b> " + longName);
     EXPECT_EQ(place(16).text(), QString::fromStdString(team(16)));
     EXPECT_EQ(tipOf(place(16)),
               QStringLiteral("<qt>A&amp;M &lt;b&gt; ") + QString::fromStdString(longName) + QStringLiteral("</qt>"));
-    team(0) = longName;
-    desk.push();
+    openWith(Position{0}, longName);
     EXPECT_EQ(tipOf(place(0)), QStringLiteral("Left Click or Drag to Select")) << "the first round keeps its own";
 }
 
-TEST_F(BoardViewTest, ATitleThatDoesNotFitShowsItsBeginningAndIsWholeInItsToolTip)
+TEST_F(BoardViewTest, ATitleThatDoesNotFitShowsItsBeginningAndItsToolTipIsTheWholeTitle)
 {
     auto& title = find<QLabel>(QStringLiteral("lblTitle"));
-    board.lblTitle.text = "Smith & Sons " + std::string(300, 'W');
+    shared.field.title = "Smith & Sons " + std::string(300, 'W');
     desk.push();
-    EXPECT_EQ(title.text(), QString::fromStdString(board.lblTitle.text));
+    EXPECT_EQ(title.text(), QString::fromStdString(shared.field.title));
     EXPECT_EQ(tipOf(title),
               QStringLiteral("<qt>Smith &amp; Sons ") + QString(300, QLatin1Char{'W'}) + QStringLiteral("</qt>"));
     const QImage cut = title.grab().toImage();
-    board.lblTitle.text = "Jones & Sons " + std::string(300, 'W');
+    shared.field.title = "Jones & Sons " + std::string(300, 'W');
     desk.push();
-    EXPECT_NE(title.grab().toImage(), cut) << "the beginning is not to be seen";
-    board.lblTitle.text = "Smith & Sons";
+    EXPECT_NE(title.grab().toImage(), cut) << "the beginning is not visible";
+    shared.field.title = "Smith & Sons";
     desk.push();
     EXPECT_EQ(tipOf(title), QString{});
 }
@@ -251,8 +259,8 @@ TEST_F(BoardViewTest, ATitleThatDoesNotFitShowsItsBeginningAndIsWholeInItsToolTi
 TEST_F(BoardViewTest, TheStatusLineFollowsThePointerAndTheArrowKeys)
 {
     const auto& line = find<QLabel>(QStringLiteral("explanation"));
-    desk.runInside(board, [&] { board.hint = "Begin here."; });
-    EXPECT_EQ(line.text(), QStringLiteral("Begin here."));
+    desk.runInside(board, [this] { shared.field.finalized = "0"; });
+    EXPECT_TRUE(line.text().startsWith(QStringLiteral("The field is not finalized yet")));
     const QPointF middle = place(31).rect().center();
     QEnterEvent enter{middle, middle, place(31).mapToGlobal(middle)};
     QApplication::sendEvent(&place(31), &enter);
@@ -262,19 +270,19 @@ TEST_F(BoardViewTest, TheStatusLineFollowsThePointerAndTheArrowKeys)
     QTest::keyClick(&place(0), Qt::Key_Down);
     EXPECT_TRUE(line.text().contains(QStringLiteral("Jackson St."))) << line.text().toStdString();
     QTest::keyClick(&place(1), Qt::Key_Right);
-    EXPECT_TRUE(line.text().startsWith(QStringLiteral("Nobody stands here yet")));
+    EXPECT_TRUE(line.text().startsWith(QStringLiteral("No team picked yet")));
     QTest::keyClick(&place(16), Qt::Key_Left);
     QTest::keyClick(&place(0), Qt::Key_Space);
     QTest::keyClick(&place(0), Qt::Key_Right);
     EXPECT_TRUE(line.text().startsWith(QStringLiteral("Click or press Space to send Arizona on")));
     QTest::keyClick(&place(16), Qt::Key_Delete);
-    EXPECT_TRUE(line.text().startsWith(QStringLiteral("Nobody stands here yet"))) << "the place has changed";
+    EXPECT_TRUE(line.text().startsWith(QStringLiteral("No team picked yet"))) << "the place has changed";
 }
 
-TEST_F(BoardViewTest, APlaceReachedByKeysShowsTheWayOfItsTeam)
+TEST_F(BoardViewTest, APlaceReachedByKeysShowsThePathOfItsTeam)
 {
-    board.PressPosition(0, MouseButton::Left);
-    board.DropOnPosition(24);
+    board.pressPosition(Position{0}, MouseButton::Left);
+    board.dropOnPosition(Position{24});
     desk.push();
     const QImage before = place(24).grab().toImage();
     place(0).setFocus(Qt::TabFocusReason);
@@ -285,19 +293,19 @@ TEST_F(BoardViewTest, APlaceReachedByKeysShowsTheWayOfItsTeam)
 
 TEST_F(BoardViewTest, AnEmptyPickThatIsWrongIsRedLikeItsMark)
 {
-    state.verdict.SlotStatus[17] = Verdict::Bad;
-    board.MarkScores();
+    shared.listedVerdicts.emplace();
+    (*shared.listedVerdicts)[Position{16}] = Verdict::Bad;
     desk.push();
-    const auto ink = [](const QWidget& widget) { return widget.palette().color(QPalette::WindowText); };
+    const auto textColour = [](const QWidget& widget) { return widget.palette().color(QPalette::WindowText); };
     EXPECT_EQ(place(16).text(), QString{});
-    EXPECT_EQ(ink(place(16)), QColor(255, 0, 0));
+    EXPECT_EQ(textColour(place(16)), QColor(255, 0, 0));
     EXPECT_EQ(find<QAbstractButton>(QStringLiteral("lblResult_0")).text(), QStringLiteral("X"));
-    EXPECT_EQ(ink(find(QStringLiteral("lblResult_0"))), QColor(255, 0, 0));
-    EXPECT_EQ(ink(place(17)), QColor(0, 0, 255));
-    board.ClearMarks();
+    EXPECT_EQ(textColour(find(QStringLiteral("lblResult_0"))), QColor(255, 0, 0));
+    EXPECT_EQ(textColour(place(17)), QColor(0, 0, 255));
+    shared.listedVerdicts.reset();
     desk.push();
-    EXPECT_EQ(ink(place(16)), QColor(0, 0, 255));
-    EXPECT_EQ(ink(find(QStringLiteral("lblResult_0"))), QColor(0, 0, 255));
+    EXPECT_EQ(textColour(place(16)), QColor(0, 0, 255));
+    EXPECT_EQ(textColour(find(QStringLiteral("lblResult_0"))), QColor(0, 0, 255));
 }
 
 } // namespace

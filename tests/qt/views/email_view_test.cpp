@@ -53,9 +53,9 @@ protected:
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     test::FakePlatform platform;
-    modTallyhoop state;
     test::FakeScreens screens;
-    EmailScreen mail{folder, platform.services, state, screens};
+    MailDraft draft;
+    EmailScreen mail{folder, platform.services, screens, draft};
     Desk desk;
     EmailView view{mail, desk};
 };
@@ -104,14 +104,14 @@ TEST_F(EmailViewTest, EnterIsALineBreakInTheMessage)
     QTest::keyClicks(widget("txtSubject"), QStringLiteral("Round 2"));
     platform.dialogs.answer(ui::Answer::Ok);
     QTest::mouseClick(widget("cmdSend"), Qt::LeftButton);
-    EXPECT_EQ(state.mailDraft.message, "Hi\r\nall");
-    EXPECT_EQ(state.mailDraft.subject, "Round 2");
+    EXPECT_EQ(draft.message, "Hi\r\nall");
+    EXPECT_EQ(draft.subject, "Round 2");
 }
 
 TEST_F(EmailViewTest, EscapeIsExit)
 {
     QTest::keyClick(widget("txtEntry"), Qt::Key_Escape);
-    EXPECT_TRUE(state.mailDraft.cancelled);
+    EXPECT_TRUE(draft.cancelled);
 }
 
 TEST_F(EmailViewTest, FitsASmallScreen)

@@ -52,9 +52,9 @@ protected:
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     test::FakePlatform platform;
-    modTallyhoop state;
     test::FakeScreens screens;
-    PlayersScreen names{folder, platform.services, state, screens};
+    std::optional<SavedPlayer> saved;
+    PlayersScreen names{folder, platform.services, screens, saved};
     Desk desk;
     PlayerNamesView view{names, desk};
 };
@@ -83,7 +83,7 @@ TEST_F(PlayerNamesViewTest, WhatIsTypedIsWritten)
     EXPECT_EQ(scratch.get("PLAYERNAMES.CSV"),
               playerFile({csv("Adams,B", "ADAMS_B.THC", "b@example.org", "555-42"),
                           csv("Smith,JS", "SMITH_JS.THC", "js@example.org", "555-0102")}));
-    EXPECT_EQ(screens.unloads, std::vector<ScreenKind>{ScreenKind::PlayerNames});
+    EXPECT_EQ(screens.unloads, std::vector<ScreenKind>{ScreenKind::Players});
 }
 
 TEST_F(PlayerNamesViewTest, TheFileNameCannotBeTyped)
@@ -98,7 +98,7 @@ TEST_F(PlayerNamesViewTest, TheFileNameCannotBeTyped)
 TEST_F(PlayerNamesViewTest, EscapeIsCancel)
 {
     QTest::keyClick(widget("txtName"), Qt::Key_Escape);
-    EXPECT_EQ(screens.unloads, std::vector<ScreenKind>{ScreenKind::PlayerNames});
+    EXPECT_EQ(screens.unloads, std::vector<ScreenKind>{ScreenKind::Players});
 }
 
 TEST_F(PlayerNamesViewTest, FitsASmallScreen)

@@ -1,7 +1,7 @@
-// tests/qt/views/reports_view_test.cpp - do ticks, choices and typing reach the reports screen, and does it show
-// itself?
+// tests/qt/views/reports_view_test.cpp - ticks, choices and typing reach the reports screen, and its changes are shown.
 #include "qt/views/reports_view.h"
 
+#include "app/wiring.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
@@ -22,7 +22,7 @@ protected:
     {
         scratch.put("Adams_AB.THC", "");
         scratch.put("Baker_C.THC", "");
-        state.setupLines[64] = "Office Pool";
+        shared.field.title = "Office Pool";
         reports.load();
         view.show();
         desk.push();
@@ -39,10 +39,10 @@ protected:
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     test::FakePlatform platform;
-    modTallyhoop state;
+    SharedValues shared;
     test::FakeScreens screens;
-    test::FakeBoard board{state};
-    ReportsScreen reports{folder, platform.services, state, screens, board};
+    test::FakeBoard board;
+    ReportsScreen reports{folder, platform.services, screens, shared.field, shared.mailDraft, board};
     Desk desk;
     ReportsView view{reports, desk};
 };

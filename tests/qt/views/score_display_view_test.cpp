@@ -1,6 +1,7 @@
-// tests/qt/views/score_display_view_test.cpp - do the mouse and the keys on the scores reach the model, and come back?
+// tests/qt/views/score_display_view_test.cpp - the mouse and the keys on the scores reach the model, which is shown.
 #include "qt/views/score_display_view.h"
 
+#include "app/wiring.h"
 #include "demo/sample_pool.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
@@ -22,7 +23,7 @@ protected:
     ScoreDisplayViewTest()
     {
         EXPECT_TRUE(demo::installSamplePool(folder));
-        board.onBoard = demo::sampleResults();
+        shared.field = demo::sampleField();
         scores.load();
         view.show();
         view.activateWindow();
@@ -57,7 +58,7 @@ protected:
         QTest::mouseClick(table().viewport(), Qt::LeftButton, {}, table().visualRect(cell).center());
     }
 
-    /// A column's texts as shown, from the top.
+    /// A column's texts as shown, from top to bottom.
     std::vector<std::string> shown(int column) const
     {
         std::vector<std::string> texts;
@@ -74,10 +75,10 @@ protected:
     test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     test::FakePlatform platform;
-    modTallyhoop state;
+    SharedValues shared;
     test::FakeScreens screens;
-    test::FakeBoard board{state};
-    ScoresScreen scores{folder, platform.services, state, screens, board};
+    const Bracket results{demo::sampleResults().picks};
+    ScoresScreen scores{folder, platform.services, screens, shared.field, results, shared.listedVerdicts};
     Desk desk;
     ScoreDisplayView view{scores, desk};
 };
@@ -112,11 +113,12 @@ TEST_F(ScoreDisplayViewTest, SortsByAHeadingThatIsDraggedToTheFront)
 TEST_F(ScoreDisplayViewTest, MarksTheBoardWhenAFileNameIsPressedAndOnlyThen)
 {
     press("cmdOk");
-    board.calls.clear();
     pressCell(0, 2);
-    EXPECT_TRUE(board.calls.empty());
+    EXPECT_FALSE(shared.listedVerdicts);
     pressCell(0, 0);
-    EXPECT_THAT(board.calls, ElementsAre("ClearMarks", "captureBoard", "MarkScores"));
+    ASSERT_TRUE(shared.listedVerdicts);
+    // The favorite's first game, Arizona over Jackson St., came true.
+    EXPECT_EQ((*shared.listedVerdicts)[gamePositions().front()], Verdict::Good);
 }
 
 TEST_F(ScoreDisplayViewTest, MarksTheBoardWithTheKeyboardToo)
@@ -124,15 +126,14 @@ TEST_F(ScoreDisplayViewTest, MarksTheBoardWithTheKeyboardToo)
     press("cmdOk");
     table().setFocus();
     table().setCurrentIndex(table().model()->index(1, 0));
-    board.calls.clear();
     QTest::keyClick(&table(), Qt::Key_Space);
-    EXPECT_THAT(board.calls, ElementsAre("ClearMarks", "captureBoard", "MarkScores"));
+    EXPECT_TRUE(shared.listedVerdicts);
 }
 
 TEST_F(ScoreDisplayViewTest, LeavesOnEscape)
 {
     QTest::keyClick(&view, Qt::Key_Escape);
-    EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::ScoreDisplay));
+    EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::Scores));
 }
 
 } // namespace

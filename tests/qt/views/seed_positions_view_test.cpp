@@ -24,25 +24,26 @@ protected:
         files.put("NCAALIST.THS", test::crlf({"*START*", "Duke", "*END*"}));
         setupView = std::make_unique<SetupView>(setup, desk);
         desk.runInside(setup, [this] { setup.load(); });
-        view = std::make_unique<SeedPositionsView>(seats, desk);
-        desk.runInside(seats, [this] { seats.load(); });
+        seeds = std::make_unique<SeedsScreen>(setup.teamsOfFirstRegion(), setup.seeds(), computer.dialogs, screens);
+        view = std::make_unique<SeedPositionsView>(*seeds, desk);
+        desk.runInside(*seeds, [this] { seeds->load(); });
         view->show();
         QApplication::setActiveWindow(view.get());
         QApplication::processEvents();
     }
 
-    QLineEdit& seed(std::size_t row) { return *qobject_cast<QLineEdit*>(view->widgetOf(seats.txtSeed[row])); }
+    QLineEdit& seed(std::size_t row) { return *qobject_cast<QLineEdit*>(view->widgetOf(seeds->txtSeed[row])); }
     QLabel& label(std::size_t box) { return *qobject_cast<QLabel*>(setupView->widgetOf(setup.lblSeed[box])); }
 
     test::ScratchFolder files;
     DataFolder folder = files.folder();
     test::FakePlatform computer;
     test::FakeScreens screens;
-    modTallyhoop state;
-    SetupScreen setup{folder, computer.services, state, screens};
-    SeedsScreen seats{setup, computer.services, state, screens};
+    Field field;
+    SetupScreen setup{folder, computer.services, screens, field};
     Desk desk;
     std::unique_ptr<SetupView> setupView;
+    std::unique_ptr<SeedsScreen> seeds;
     std::unique_ptr<SeedPositionsView> view;
 };
 
@@ -54,7 +55,7 @@ TEST_F(SeedPositionsViewTest, ShowsEveryControlAndFitsASmallScreen)
     EXPECT_LE(view->minimumSizeHint().height(), 700);
 }
 
-TEST_F(SeedPositionsViewTest, SeedsTypedHereStandBesideTheBoxesOfAllRegionsAfterComplete)
+TEST_F(SeedPositionsViewTest, SeedsTypedHereAreBesideTheBoxesOfAllRegionsAfterComplete)
 {
     const auto type = [this](std::size_t row, const QString& text) {
         seed(row).selectAll();
@@ -62,14 +63,14 @@ TEST_F(SeedPositionsViewTest, SeedsTypedHereStandBesideTheBoxesOfAllRegionsAfter
     };
     type(0, "16");
     type(1, "1");
-    qobject_cast<QPushButton*>(view->widgetOf(seats.cmdComplete))->click();
+    qobject_cast<QPushButton*>(view->widgetOf(seeds->cmdComplete))->click();
     EXPECT_TRUE(computer.dialogs.shown.empty());
     for (const std::size_t region : {0U, 1U, 2U, 3U}) {
         EXPECT_EQ(label(16 * region).text(), "16");
         EXPECT_EQ(label(16 * region + 1).text(), "1");
         EXPECT_EQ(label(16 * region + 2).text(), "8");
     }
-    EXPECT_EQ(screens.unloads, std::vector{ScreenKind::SeedPositions});
+    EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Seeds});
 }
 
 TEST_F(SeedPositionsViewTest, ABoxTakesFourCharactersAtMost)
@@ -84,7 +85,7 @@ TEST_F(SeedPositionsViewTest, EscapeMeansCancel)
     QTest::keyClicks(&seed(0), "9");
     QTest::keyClick(&seed(0), Qt::Key_Escape);
     EXPECT_EQ(label(0).text(), " 1");
-    EXPECT_EQ(screens.unloads, std::vector{ScreenKind::SeedPositions});
+    EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Seeds});
 }
 
 } // namespace

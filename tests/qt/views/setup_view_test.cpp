@@ -73,8 +73,8 @@ protected:
     DataFolder folder = files.folder();
     test::FakePlatform computer;
     test::FakeScreens screens;
-    modTallyhoop state;
-    SetupScreen setup{folder, computer.services, state, screens};
+    Field field;
+    SetupScreen setup{folder, computer.services, screens, field};
     Desk desk;
     std::unique_ptr<SetupView> view;
 };
@@ -237,10 +237,10 @@ TEST_F(SetupViewTest, AMousePressOnTheListMarksTheBoxThatEnterFills)
 TEST_F(SetupViewTest, APressBesideTheRowsMarksTheBoxAsWell)
 {
     press(Qt::Key_Tab);
-    QWidget& ground = *list().viewport();
-    const QPoint beside{ground.width() / 2, ground.height() - 2};
+    QWidget& viewport = *list().viewport();
+    const QPoint beside{viewport.width() / 2, viewport.height() - 2};
     ASSERT_FALSE(list().indexAt(beside).isValid());
-    QTest::mouseClick(&ground, Qt::LeftButton, {}, beside);
+    QTest::mouseClick(&viewport, Qt::LeftButton, {}, beside);
     EXPECT_EQ(view->focusWidget(), &list());
     EXPECT_EQ(team(1).palette().color(QPalette::Base), (QColor{0x80, 0xFF, 0x80}));
 }
@@ -248,10 +248,10 @@ TEST_F(SetupViewTest, APressBesideTheRowsMarksTheBoxAsWell)
 TEST_F(SetupViewTest, APressWithTheOtherButtonMarksNothing)
 {
     press(Qt::Key_Tab);
-    const QColor ground = team(1).palette().color(QPalette::Base);
+    const QColor background = team(1).palette().color(QPalette::Base);
     QTest::mouseClick(list().viewport(), Qt::RightButton, {}, list().visualRect(list().model()->index(5, 0)).center());
     EXPECT_EQ(view->focusWidget(), &list());
-    EXPECT_EQ(team(1).palette().color(QPalette::Base), ground);
+    EXPECT_EQ(team(1).palette().color(QPalette::Base), background);
 }
 
 TEST_F(SetupViewTest, WhatACutLeavesBehindIsDropped)
@@ -282,8 +282,11 @@ TEST_F(SetupViewTest, OverrideModeTakesAnyText)
     type("Utopia");
     press(Qt::Key_Return);
     EXPECT_EQ(setup.txtRegion[0].text, "Utopia");
-    EXPECT_EQ(state.teamNames.newNames, std::vector<std::string>{"Utopia"});
     EXPECT_EQ(view->focusWidget(), &team(1));
+    computer.dialogs.answer(ui::Answer::Yes); // to saving the new name
+    desk.run(setup, [this] { setup.mnuEnd.click(); });
+    EXPECT_EQ(files.get("NCAALIST.THS"),
+              crlf({"*START*", "Akron", "Duke", "Duquesne", "Iowa", "Iowa St.", "Kansas", "Utopia", "*END*"}));
 }
 
 TEST_F(SetupViewTest, TheListLooksDisabledWhileSelectingIsOverridden)
@@ -291,7 +294,7 @@ TEST_F(SetupViewTest, TheListLooksDisabledWhileSelectingIsOverridden)
     const auto text = [this] { return list().palette().color(QPalette::Text); };
     EXPECT_EQ(text(), QColor(Qt::black));
     widget<QPushButton>(setup.cmdOverride).click();
-    EXPECT_EQ(text(), (QColor{0x40, 0x7F, 0x40})); // halfway to the green ground
+    EXPECT_EQ(text(), (QColor{0x40, 0x7F, 0x40})); // halfway to the green background
     EXPECT_EQ(list().palette().color(QPalette::Base), (QColor{0x80, 0xFF, 0x80}));
     widget<QPushButton>(setup.cmdOverride).click();
     EXPECT_EQ(text(), QColor(Qt::black));
@@ -341,7 +344,7 @@ TEST_F(SetupViewTest, EnterPressedTwiceOnFinalizeEmptiesNoTeamBox)
 {
     widget<QPushButton>(setup.cmdFinalize).setFocus();
     press(Qt::Key_Return);
-    EXPECT_EQ(setup.FinalizeState, "1");
+    EXPECT_FALSE(setup.cmdFinalize.enabled);
     EXPECT_EQ(view->focusWidget(), view->widgetOf(setup.txtInfo6[5]));
     press(Qt::Key_Return);
     EXPECT_EQ(team(0).text(), "TEAM1");

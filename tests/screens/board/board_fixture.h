@@ -1,7 +1,6 @@
 // tests/screens/board/board_fixture.h - a board in a scratch folder, with everything around it scripted.
 #pragma once
 
-#include "base/lines.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
@@ -16,13 +15,16 @@
 
 namespace tallyhoop::test {
 
+/// Whatever changes the board here lets it show its state afterwards, as the desk does in the windows.
 class BoardTest : public ::testing::Test
 {
 protected:
     ScratchFolder scratch;
     FakePlatform platform;
     FakeScreens screens;
-    modTallyhoop state;
+    Field field;
+    std::optional<SavedPlayer> savedPlayer;
+    std::optional<Verdicts> listedVerdicts;
     DataFolder folder = scratch.folder();
     std::unique_ptr<BoardScreen> board;
 
@@ -32,63 +34,80 @@ protected:
         return "R" + std::to_string(region + 1) + "T" + std::to_string(row);
     }
 
-    void putSetup(const std::string& finalized)
+    static Field fieldOfTeams(const std::string& finalized)
     {
-        SetupLines lines = defaultSetupLines();
-        for (int i = 0; i < kTeams; ++i)
-            lines[static_cast<std::size_t>(i)] = team(i / 16, i % 16);
-        lines[setup_line::kFinalized] = finalized;
-        scratch.put(file_name::kSetup, setupFile(lines));
+        Field made = defaultField();
+        for (const TeamRow row : allTeamRows())
+            made.teams[row] = team(regionOf(row), rowInRegion(row));
+        made.finalized = finalized;
+        return made;
     }
+
+    void putField(const Field& made) { scratch.put(file_name::kSetup, setupFile(made)); }
 
     void putDemoMode() { scratch.put(file_name::kSettings, "1\r\n"); }
 
-    SelectionLines emptyBracket(const std::string& initials, const std::string& name, const std::string& points)
+    static Entry emptyBracket(const std::string& initials, const std::string& name, const std::string& points)
     {
-        SelectionLines lines;
-        for (int region = 0; region < kRegions; ++region)
-            for (int row = 0; row < kRowsPerRegion; ++row)
-                lines[static_cast<std::size_t>(index(firstRoundPosition(region, row)) + 1)] = team(region, row);
-        lines[selection_line::kInitials] = initials;
-        lines[selection_line::kName] = name;
-        lines[selection_line::kFinalPoints] = points;
-        return lines;
+        return {startingBracket(fieldOfTeams("1")), initials, name, points, {}};
     }
 
-    std::filesystem::path putSelection(const std::string& name, const SelectionLines& lines)
+    std::filesystem::path putSelection(const std::string& name, const Entry& entry)
     {
-        return scratch.put(name, selectionFile(lines));
+        return scratch.put(name, selectionFile(entry));
     }
 
-    BoardScreen& load(Opening opening = Opening::Plain)
+    /// Results without a winner.
+    void putNoResultsYet() { putSelection(file_name::kResults, emptyBracket("A", "FinalResults", "")); }
+
+    BoardScreen& load(const std::string& notice = {})
     {
-        board = std::make_unique<BoardScreen>(folder, platform.services, state, screens, opening);
+        board = std::make_unique<BoardScreen>(folder, platform.services, screens,
+                                              BoardScreen::Shared{field, savedPlayer, listedVerdicts}, notice);
         board->load();
+        board->showState();
         return *board;
     }
 
     /// A board with a finalized field.
     BoardScreen& loadFinalized()
     {
-        putSetup("1");
+        putField(fieldOfTeams("1"));
         return load();
     }
 
-    std::string& at(int position) { return board->lblRegion[static_cast<std::size_t>(position)].text; }
+    /// The team that a place shows.
+    std::string& at(Position position) { return board->lblRegion[position].text; }
+    std::string& at(int position) { return at(Position{position}); }
 
-    void click(int position)
+    void press(int position, MouseButton button = MouseButton::Left)
     {
-        board->PressPosition(position, MouseButton::Left);
-        board->DropOnPosition(position);
+        board->pressPosition(Position{position}, button);
+        board->showState();
+    }
+
+    void drop(int position)
+    {
+        board->dropOnPosition(Position{position});
+        board->showState();
     }
 
     void drag(int from, int to)
     {
-        board->PressPosition(from, MouseButton::Left);
-        board->DropOnPosition(to);
+        press(from);
+        drop(to);
     }
 
-    void rightPress(int position) { board->PressPosition(position, MouseButton::Right); }
+    void click(int position) { drag(position, position); }
+
+    void rightPress(int position) { press(position, MouseButton::Right); }
+
+    bool key(ui::Control& control, const ui::KeyPress& keyPress)
+    {
+        const bool dealtWith = board->keyPressed(control, keyPress);
+        board->showState();
+        return dealtWith;
+    }
 
     void fill(const std::string& initials, const std::string& name, const std::string& points)
     {
@@ -97,8 +116,54 @@ protected:
         board->txtFinalPoints.text = points;
     }
 
-    /// The lines of a saved selection or results file, line n at index n.
-    SelectionLines saved(const std::string& name) { return readSelection(scratch.get(name)).value; }
+    void open(const std::filesystem::path& file)
+    {
+        platform.dialogs.pick(file);
+        board->mnuOpenSelection.click();
+    }
+
+    void save() { board->mnuSaveSelection.click(); }
+
+    void saveAs(const std::filesystem::path& file)
+    {
+        platform.dialogs.pick(file);
+        save();
+    }
+
+    void enterResults() { board->mnuGameResults.click(); }
+
+    void score() { board->mnuScoreSelections.click(); }
+
+    bool resultsMode() const { return board->document == "Game results"; }
+
+    /// Whether the board's own picks are marked.
+    bool marksShown() const { return board->cmdDefaultColors.visible; }
+
+    /// Marks the picks as those of a player chosen in the list of scores.
+    void showListedVerdicts(const std::optional<Verdicts>& verdicts)
+    {
+        listedVerdicts = verdicts;
+        board->showState();
+    }
+
+    void setScoreListOpen(bool isOpen)
+    {
+        if (isOpen)
+            screens.open.insert(ScreenKind::Scores);
+        else
+            screens.open.erase(ScreenKind::Scores);
+        board->showState();
+    }
+
+    /// A saved selection or results file.
+    Entry saved(const std::string& name)
+    {
+        const Read<Entry> read = readSelection(scratch.get(name));
+        EXPECT_FALSE(read.trouble) << name;
+        return read.value;
+    }
+
+    static std::string savedAt(const Entry& entry, int position) { return entry.picks.at(Position{position}); }
 };
 
 } // namespace tallyhoop::test

@@ -22,11 +22,11 @@ TEST_P(BoardGeometryAt, PutsEverythingInsideTheArea)
     const auto inside = [&](const ui::Rectangle& place) {
         return place.x >= 0 && place.y >= 0 && place.right() <= width && place.bottom() <= height && place.width > 0;
     };
-    for (const auto& place : board.positions)
+    for (const auto& place : board.positions.values)
         EXPECT_TRUE(inside(place));
-    for (const auto& place : board.results)
+    for (const auto& place : board.results.values)
         EXPECT_TRUE(inside(place));
-    for (const auto& place : board.seeds)
+    for (const auto& place : board.seeds.values)
         EXPECT_TRUE(inside(place));
     for (const auto& place : board.roundPoints)
         EXPECT_TRUE(inside(place));
@@ -35,12 +35,13 @@ TEST_P(BoardGeometryAt, PutsEverythingInsideTheArea)
 TEST_P(BoardGeometryAt, LetsNoTwoLabelsOverlap)
 {
     std::vector<ui::Rectangle> all{board.title, board.demoMode, board.championCaption};
-    all.insert(all.end(), board.positions.begin(), board.positions.end());
-    all.insert(all.end(), board.results.begin(), board.results.end());
-    all.insert(all.end(), board.seeds.begin(), board.seeds.end());
-    all.insert(all.end(), board.regionTitles.begin(), board.regionTitles.end());
-    all.insert(all.end(), board.roundCaptions.begin(), board.roundCaptions.end());
-    all.insert(all.end(), board.roundPoints.begin(), board.roundPoints.end());
+    const auto add = [&all](const auto& places) { all.insert(all.end(), places.begin(), places.end()); };
+    add(board.positions.values);
+    add(board.results.values);
+    add(board.seeds.values);
+    add(board.regionTitles);
+    add(board.roundCaptions);
+    add(board.roundPoints);
     for (std::size_t i = 0; i < all.size(); ++i)
         for (std::size_t j = i + 1; j < all.size(); ++j)
             EXPECT_FALSE(overlap(all[i], all[j])) << i << " and " << j;
@@ -48,9 +49,9 @@ TEST_P(BoardGeometryAt, LetsNoTwoLabelsOverlap)
 
 TEST_P(BoardGeometryAt, MirrorsTheRightHalf)
 {
-    for (std::size_t i = 0; i < kTeams; ++i) {
-        const auto& left = board.seeds[i % 32];
-        const auto& right = board.seeds[i % 32 + 32];
+    for (int row = 0; row < 32; ++row) {
+        const ui::Rectangle& left = board.seeds[TeamRow{row}];
+        const ui::Rectangle& right = board.seeds[TeamRow{row + 32}];
         EXPECT_NEAR(left.x, width - right.right(), 0.01);
         EXPECT_NEAR(left.y, right.y, 0.01);
     }
@@ -59,13 +60,11 @@ TEST_P(BoardGeometryAt, MirrorsTheRightHalf)
 TEST_P(BoardGeometryAt, PutsAWinnerBetweenItsEntrants)
 {
     for (const Position position : gamePositions()) {
-        if (index(position) == kChampion)
+        if (position == kChampion)
             continue;
-        const auto [first, second] = bracketMap().feeders(index(position));
-        const double middle = (board.positions[static_cast<std::size_t>(first)].centreY() +
-                               board.positions[static_cast<std::size_t>(second)].centreY()) /
-                              2;
-        EXPECT_NEAR(board.positions[static_cast<std::size_t>(index(position))].centreY(), middle, height * 0.02);
+        const auto [first, second] = *feeders(position);
+        const double middle = (board.positions[first].centreY() + board.positions[second].centreY()) / 2;
+        EXPECT_NEAR(board.positions[position].centreY(), middle, height * 0.02);
     }
 }
 
@@ -73,39 +72,42 @@ INSTANTIATE_TEST_SUITE_P(Sizes, BoardGeometryAt,
                          ::testing::Values(std::pair{1366.0, 590.0}, std::pair{1920.0, 900.0}, std::pair{1000.0, 500.0},
                                            std::pair{1100.0, 682.0}));
 
-TEST(neighbour, FollowsTheBracketToTheRightAndBack)
+TEST(Neighbour, FollowsTheBracketToTheRightAndBack)
 {
     const BoardGeometry board = layOutBoard(1366, 600);
-    EXPECT_EQ(neighbour(board, 0, Direction::Right), 16);
-    EXPECT_EQ(neighbour(board, 16, Direction::Right), 24);
-    EXPECT_EQ(neighbour(board, 30, Direction::Up), 30);
-    EXPECT_EQ(neighbour(board, 30, Direction::Down), 124);
-    EXPECT_EQ(neighbour(board, 0, Direction::Up), 0);
-    EXPECT_EQ(neighbour(board, 15, Direction::Down), 31) << "the lower region follows";
-    EXPECT_EQ(neighbour(board, 0, Direction::Left), 0);
-    EXPECT_EQ(neighbour(board, 62, Direction::Left), 78) << "the right half runs the other way";
-    EXPECT_EQ(neighbour(board, 124, Direction::Right), 126);
+    const auto from = [&board](int position, Direction direction) {
+        return index(neighbour(board, Position{position}, direction));
+    };
+    EXPECT_EQ(from(0, Direction::Right), 16);
+    EXPECT_EQ(from(16, Direction::Right), 24);
+    EXPECT_EQ(from(30, Direction::Up), 30);
+    EXPECT_EQ(from(30, Direction::Down), 124);
+    EXPECT_EQ(from(0, Direction::Up), 0);
+    EXPECT_EQ(from(15, Direction::Down), 31) << "the lower region follows";
+    EXPECT_EQ(from(0, Direction::Left), 0);
+    EXPECT_EQ(from(62, Direction::Left), 78) << "the right half runs the other way";
+    EXPECT_EQ(from(124, Direction::Right), 126);
 }
 
-TEST(neighbour, ReachesEveryPositionWithTheArrowKeys)
+TEST(Neighbour, ReachesEveryPositionWithTheArrowKeys)
 {
     const BoardGeometry board = layOutBoard(1366, 600);
-    std::array<bool, kPositions> seen{};
-    std::vector<int> queue{0};
-    seen[0] = true;
+    ByPosition<bool> seen{};
+    std::vector<Position> queue{Position{0}};
+    seen[Position{0}] = true;
     while (!queue.empty()) {
-        const int position = queue.back();
+        const Position position = queue.back();
         queue.pop_back();
         for (const Direction direction : {Direction::Up, Direction::Down, Direction::Left, Direction::Right}) {
-            const int next = neighbour(board, position, direction);
-            if (!seen[static_cast<std::size_t>(next)]) {
-                seen[static_cast<std::size_t>(next)] = true;
-                queue.push_back(next);
+            const Position reached = neighbour(board, position, direction);
+            if (!seen[reached]) {
+                seen[reached] = true;
+                queue.push_back(reached);
             }
         }
     }
-    for (int position = 0; position < kPositions; ++position)
-        EXPECT_TRUE(seen[static_cast<std::size_t>(position)]) << position;
+    for (const Position position : allPositions())
+        EXPECT_TRUE(seen[position]) << index(position);
 }
 
 } // namespace tallyhoop::test

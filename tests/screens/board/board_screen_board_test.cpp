@@ -18,6 +18,15 @@ TEST_F(BoardScreenBoard, AClickSendsATeamOneRoundOnUpToTheChampion)
     EXPECT_EQ(at(126), "R1T0");
 }
 
+TEST_F(BoardScreenBoard, HoldsTheBracketThatItShows)
+{
+    loadFinalized();
+    drag(2, 24);
+    for (const Position position : allPositions())
+        EXPECT_EQ(board->bracket().at(position), at(position));
+    EXPECT_EQ(board->bracket().at(Position{24}), "R1T2");
+}
+
 TEST_F(BoardScreenBoard, AClickRemovesTheDisplacedTeamFromItsLaterRoundsOnly)
 {
     loadFinalized();
@@ -80,54 +89,78 @@ TEST_F(BoardScreenBoard, ARightPressNeverEmptiesAFirstRoundRow)
     EXPECT_EQ(at(108), "R4T15");
 }
 
-TEST_F(BoardScreenBoard, ADropBesideThePressDoesNothing)
+TEST_F(BoardScreenBoard, ADropAfterACancelledDragDoesNothing)
 {
     loadFinalized();
-    board->PressPosition(0, MouseButton::Left);
+    press(0);
     board->cancelDrag();
-    board->DropOnPosition(0);
+    drop(0);
     EXPECT_EQ(at(16), "");
 }
 
-TEST_F(BoardScreenBoard, ADragShowsWhereItMayLand)
+TEST_F(BoardScreenBoard, ADragShowsWhoIsDraggedAndWhereItMayLand)
 {
     loadFinalized();
-    EXPECT_FALSE(board->mayDropOn(16));
-    board->PressPosition(0, MouseButton::Left);
-    EXPECT_TRUE(board->mayDropOn(16));
-    EXPECT_TRUE(board->mayDropOn(126));
-    EXPECT_FALSE(board->mayDropOn(17));
-    EXPECT_FALSE(board->mayDropOn(125));
+    EXPECT_FALSE(board->mayDropOn(Position{16}));
+    EXPECT_FALSE(board->isDragging());
+    press(0);
+    EXPECT_TRUE(board->isDragging());
+    EXPECT_EQ(board->draggedTeam(), "R1T0");
+    EXPECT_TRUE(board->mayDropOn(Position{16}));
+    EXPECT_TRUE(board->mayDropOn(Position{126}));
+    EXPECT_FALSE(board->mayDropOn(Position{17}));
+    EXPECT_FALSE(board->mayDropOn(Position{125}));
+    drop(17);
+    EXPECT_FALSE(board->isDragging());
+}
+
+TEST_F(BoardScreenBoard, ADragEndsWhenTheBoardIsReplacedMeanwhile)
+{
+    putNoResultsYet();
+    const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));
+    loadFinalized();
+    for (const auto& command : std::vector<std::function<void()>>{
+             [&] { board->mnuNewSelection.click(); }, [&] { open(file); },
+             [&] { score(), board->cmdDefaultColors.click(); }, [&] { enterResults(); }, [&] { score(); }}) {
+        press(0);
+        ASSERT_TRUE(board->isDragging());
+        command();
+        EXPECT_FALSE(board->isDragging());
+        drop(16);
+        EXPECT_EQ(at(16), "");
+    }
+    EXPECT_TRUE(screens.isLoaded(ScreenKind::Scores)) << "the last command was to open the list of scores";
 }
 
 TEST_F(BoardScreenBoard, EnterGoesRoundTheThreeFieldsAndIsSwallowed)
 {
     loadFinalized();
     const ui::KeyPress enter{ui::Key::Enter};
-    EXPECT_TRUE(board->keyPressed(board->txtPlayerInitials, enter));
+    EXPECT_TRUE(key(board->txtPlayerInitials, enter));
     EXPECT_EQ(board->focused, &board->txtPlayerName);
-    EXPECT_TRUE(board->keyPressed(board->txtPlayerName, enter));
+    EXPECT_TRUE(key(board->txtPlayerName, enter));
     EXPECT_EQ(board->focused, &board->txtFinalPoints);
-    EXPECT_TRUE(board->keyPressed(board->txtFinalPoints, enter));
+    EXPECT_TRUE(key(board->txtFinalPoints, enter));
     EXPECT_EQ(board->focused, &board->txtPlayerInitials);
-    EXPECT_FALSE(board->keyPressed(board->lblRegion[3], enter));
+    EXPECT_FALSE(key(board->lblRegion[3], enter));
 }
 
 TEST_F(BoardScreenBoard, EnterPressesDefaultColorsWhileItIsTheDefault)
 {
     loadFinalized();
-    putSelection(file_name::kResults, emptyBracket("A", "FinalResults", ""));
-    board->ScoreSelections();
-    ASSERT_TRUE(board->marksShown());
-    EXPECT_TRUE(board->keyPressed(board->txtPlayerName, {ui::Key::Enter}));
-    EXPECT_FALSE(board->marksShown());
+    putNoResultsYet();
+    board->mnuNewSelection.click(); // the results have come since
+    score();
+    ASSERT_TRUE(marksShown());
+    EXPECT_TRUE(key(board->txtPlayerName, {ui::Key::Enter}));
+    EXPECT_FALSE(marksShown());
 }
 
 TEST_F(BoardScreenBoard, HighSeedsFillsTheRegionsAndLeavesTheFinals)
 {
     loadFinalized();
     drag(31, 126);
-    board->SelectHighSeeds();
+    board->mnuHighSeed.click();
     // Rows of the seeds 1, 8, 5, 4, 6, 3, 7, 2: those that win their first game.
     const std::array<int, 8> rows = {0, 2, 4, 6, 8, 10, 12, 14};
     for (int i = 0; i < 8; ++i)
@@ -137,6 +170,17 @@ TEST_F(BoardScreenBoard, HighSeedsFillsTheRegionsAndLeavesTheFinals)
     EXPECT_EQ(at(124), "R2T0");
     EXPECT_EQ(at(125), "");
     EXPECT_EQ(at(126), "R2T0");
+    EXPECT_TRUE(board->unsaved);
+}
+
+TEST_F(BoardScreenBoard, ASeedThatDoesNotFitCountsAsNone)
+{
+    Field made = fieldOfTeams("1");
+    made.seeds[1] = "99999"; // far above 16 bits; as no seed it is better than seed 1
+    putField(made);
+    load();
+    board->mnuHighSeed.click();
+    EXPECT_EQ(at(16), "R1T1");
 }
 
 } // namespace tallyhoop::test

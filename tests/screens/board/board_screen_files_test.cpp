@@ -1,6 +1,9 @@
+// tests/screens/board/board_screen_files_test.cpp - saving, opening and beginning a selection.
 #include "screens/board/board_fixture.h"
 
 #include <fstream>
+#include <functional>
+#include <vector>
 
 namespace tallyhoop::test {
 
@@ -9,24 +12,30 @@ class BoardScreenFiles : public BoardTest
 protected:
     const std::string kBlankCaption = "Required fields are BLANK or invalid";
 
-    ui::Message lastMessage() { return platform.dialogs.shown.back(); }
-
-    void save() { board->SaveSelection(); }
+    ui::Message lastMessage() const
+    {
+        EXPECT_FALSE(platform.dialogs.shown.empty());
+        return platform.dialogs.shown.empty() ? ui::Message{} : platform.dialogs.shown.back();
+    }
 };
 
 TEST_F(BoardScreenFiles, ASaveBeforeTheSetupIsFinalizedIsRefusedWhateverTheFieldsHold)
 {
-    putSetup("0");
-    load();
-    fill("", "", "");
+    loadFinalized();
+    for (const char* text : {"", "150"}) {
+        field.finalized = "1";
+        board->showState();
+        field.finalized = "0"; // meanwhile the field is no longer final, and the entry can still be chosen
+        fill(text, text, text);
+        save();
+        EXPECT_EQ(lastMessage(),
+                  (ui::Message{"INVALID REQUEST TO SAVE FILE",
+                               "The SETUP OPTION must be completed and FINALIZED before a Pool Selection can be saved!",
+                               ui::Buttons::Ok, ui::Icon::Exclamation}));
+    }
+    EXPECT_EQ(platform.dialogs.shown.size(), 2u);
     save();
-    EXPECT_EQ(lastMessage(),
-              (ui::Message{"INVALID REQUEST TO SAVE FILE",
-                           "The SETUP OPTION must be completed and FINALIZED before a Pool Selection can be saved!",
-                           ui::Buttons::Ok, ui::Icon::Exclamation}));
-    fill("JS", "Smith", "150");
-    save();
-    EXPECT_EQ(lastMessage().caption, "INVALID REQUEST TO SAVE FILE");
+    EXPECT_EQ(platform.dialogs.shown.size(), 2u) << "now the entry is disabled";
 }
 
 TEST_F(BoardScreenFiles, WithInitialsAndNameBlankOnlyTheInitialsAreMentioned)
@@ -71,16 +80,16 @@ TEST_F(BoardScreenFiles, TheTieBreakerLiesBetween50And250)
 TEST_F(BoardScreenFiles, ResultsMayLackATotalButNotExceedTheUpperBound)
 {
     loadFinalized();
-    board->EnterGameResults();
+    enterResults();
     for (const char* points : {"", "0"}) {
         board->txtFinalPoints.text = points;
         save();
-        EXPECT_EQ(saved("TALLYHOOP.THS")[130], points);
+        EXPECT_EQ(saved("TALLYHOOP.THS").finalPoints, points);
     }
     board->txtFinalPoints.text = "251";
     save();
     EXPECT_EQ(lastMessage().caption, kBlankCaption);
-    EXPECT_EQ(saved("TALLYHOOP.THS")[130], "0");
+    EXPECT_EQ(saved("TALLYHOOP.THS").finalPoints, "0");
 }
 
 TEST_F(BoardScreenFiles, ProposesNameUnderscoreInitials)
@@ -102,16 +111,18 @@ TEST_F(BoardScreenFiles, SavesANewFileAndTurnsToThePlayerNames)
     drag(0, 126);
     platform.dialogs.pick(scratch.path() / "Smith_js.THC");
     save();
-    const SelectionLines lines = saved("Smith_js.THC");
-    EXPECT_EQ(lines[127], "R1T0");
-    EXPECT_EQ(lines[128], "JS") << "initials are stored in upper case";
-    EXPECT_EQ(lines[129], "Smith");
-    EXPECT_EQ(lines[130], "150");
-    EXPECT_EQ(lines[131], "*END*");
-    ASSERT_TRUE(state.handOver);
-    EXPECT_EQ(state.handOver->LastPlayer, "Smith,js");
-    EXPECT_EQ(state.handOver->LastSaveKind, SaveKind::NewFile);
-    EXPECT_EQ(screens.loads, (std::vector{FakeScreens::Load{ScreenKind::PlayerNames, Opening::Plain}}));
+    const Entry entry = saved("Smith_js.THC");
+    EXPECT_EQ(savedAt(entry, 126), "R1T0");
+    EXPECT_EQ(entry.initials, "JS") << "initials are stored in upper case";
+    EXPECT_EQ(entry.name, "Smith");
+    EXPECT_EQ(entry.finalPoints, "150");
+    EXPECT_TRUE(scratch.get("Smith_js.THC").ends_with("\r\nR1T0\r\nJS\r\nSmith\r\n150\r\n*END*\r\n"));
+    ASSERT_TRUE(savedPlayer);
+    EXPECT_EQ(savedPlayer->name, "Smith,js");
+    EXPECT_EQ(savedPlayer->file, scratch.path() / "Smith_js.THC");
+    EXPECT_EQ(savedPlayer->kind, SaveKind::NewFile);
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Players});
+    EXPECT_EQ(board->txtPlayerInitials.text, "js") << "what was typed stays as it is";
     EXPECT_FALSE(board->unsaved);
     EXPECT_EQ(board->document, "Smith_js.THC");
 }
@@ -120,14 +131,15 @@ TEST_F(BoardScreenFiles, SavingAnOpenedFileUnderItsOwnNameAsksNothing)
 {
     const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));
     loadFinalized();
-    board->showSelection(file);
+    open(file);
     click(0);
     platform.dialogs.pick(scratch.path() / "SMITH_js.thc");
     save();
     EXPECT_TRUE(platform.dialogs.shown.empty());
-    EXPECT_EQ(saved("Smith_JS.THC")[17], "R1T0");
+    EXPECT_EQ(savedAt(saved("Smith_JS.THC"), 16), "R1T0");
     EXPECT_FALSE(scratch.has("SMITH_js.thc"));
-    EXPECT_EQ(state.handOver->LastSaveKind, SaveKind::SameName);
+    ASSERT_TRUE(savedPlayer);
+    EXPECT_EQ(savedPlayer->kind, SaveKind::SameName);
     EXPECT_TRUE(screens.loads.empty()) << "the player is in the list already";
 }
 
@@ -135,7 +147,7 @@ TEST_F(BoardScreenFiles, SavingAnOpenedFileUnderAnotherNameIsConfirmed)
 {
     const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));
     loadFinalized();
-    board->showSelection(file);
+    open(file);
     const auto other = scratch.path() / "Jones_KJ.THC";
     platform.dialogs.pick(other).pick(other).answer(ui::Answer::No).answer(ui::Answer::Yes);
     save();
@@ -144,11 +156,12 @@ TEST_F(BoardScreenFiles, SavingAnOpenedFileUnderAnotherNameIsConfirmed)
                                       "\r\nNow you are attempting to save this \r\n  file under the name:    " +
                                       other.string() + "\r\n\r\nIS THIS CORRECT?");
     EXPECT_EQ(lastMessage().buttons, ui::Buttons::YesNo);
-    EXPECT_EQ(state.selectionFile.OpenedFile, file);
+    EXPECT_EQ(board->document, "Smith_JS.THC");
     save();
     EXPECT_TRUE(scratch.has("Jones_KJ.THC"));
-    EXPECT_EQ(state.selectionFile.OpenedFile, other);
-    EXPECT_EQ(state.handOver->LastSaveKind, SaveKind::NewFile);
+    EXPECT_EQ(board->document, "Jones_KJ.THC");
+    ASSERT_TRUE(savedPlayer);
+    EXPECT_EQ(savedPlayer->kind, SaveKind::NewFile);
     EXPECT_TRUE(screens.loads.empty());
 }
 
@@ -164,8 +177,9 @@ TEST_F(BoardScreenFiles, ReplacingAnExistingFileIsConfirmed)
     EXPECT_EQ(lastMessage().buttons, ui::Buttons::YesNo);
     EXPECT_EQ(scratch.get("Smith_JS.THC"), before);
     save();
-    EXPECT_EQ(saved("Smith_JS.THC")[130], "99");
-    EXPECT_EQ(state.handOver->LastSaveKind, SaveKind::Replaced);
+    EXPECT_EQ(saved("Smith_JS.THC").finalPoints, "99");
+    ASSERT_TRUE(savedPlayer);
+    EXPECT_EQ(savedPlayer->kind, SaveKind::Replaced);
     EXPECT_EQ(screens.loads.size(), 1u);
 }
 
@@ -176,11 +190,11 @@ TEST_F(BoardScreenFiles, AnExistingFileIsFoundWhateverTheCaseOfItsLetters)
     fill("JS", "Smith", "99");
     platform.dialogs.pick(scratch.path() / "Smith_JS.THC").answer(ui::Answer::Yes);
     save();
-    EXPECT_EQ(saved("SMITH_JS.THC")[130], "99");
+    EXPECT_EQ(saved("SMITH_JS.THC").finalPoints, "99");
     EXPECT_FALSE(scratch.has("Smith_JS.THC"));
 }
 
-TEST_F(BoardScreenFiles, TheEndingIsAppendedUnlessItIsThere)
+TEST_F(BoardScreenFiles, TheExtensionIsAppendedUnlessItIsThere)
 {
     loadFinalized();
     fill("JS", "Smith Jr.", "99");
@@ -210,7 +224,7 @@ TEST_F(BoardScreenFiles, DemoModeRefusesNewFilesAndNewNames)
     platform.dialogs.pick(scratch.path() / "New.THC");
     save();
     EXPECT_EQ(lastMessage().text, "You are not allowed to save a New File \r\nwhen executing under DEMO Mode");
-    board->showSelection(file);
+    open(file);
     platform.dialogs.pick(scratch.path() / "New.THC");
     save();
     EXPECT_EQ(lastMessage().text, "You are not allowed to save a New File \r\nName when executing under DEMO Mode");
@@ -218,7 +232,7 @@ TEST_F(BoardScreenFiles, DemoModeRefusesNewFilesAndNewNames)
     click(0);
     platform.dialogs.pick(file);
     save();
-    EXPECT_EQ(saved("Smith_JS.THC")[17], "R1T0") << "an opened file may be saved under its own name";
+    EXPECT_EQ(savedAt(saved("Smith_JS.THC"), 16), "R1T0") << "an opened file may be saved under its own name";
 }
 
 TEST_F(BoardScreenFiles, AfterAFailedWriteNothingIsRemembered)
@@ -229,8 +243,8 @@ TEST_F(BoardScreenFiles, AfterAFailedWriteNothingIsRemembered)
     platform.dialogs.pick(scratch.path() / "missing folder" / "Smith_JS.THC");
     save();
     EXPECT_EQ(lastMessage().caption, "** ERROR IN WRITING FILE **");
-    EXPECT_TRUE(state.selectionFile.OpenedFile.empty());
-    EXPECT_FALSE(state.handOver);
+    EXPECT_EQ(board->document, "");
+    EXPECT_FALSE(savedPlayer);
     EXPECT_TRUE(screens.loads.empty());
     EXPECT_TRUE(board->unsaved);
 }
@@ -248,23 +262,22 @@ TEST_F(BoardScreenFiles, ASaveElsewhereSaysThatOnlyTheFolderIsScored)
 
 TEST_F(BoardScreenFiles, OpenShowsTheFileAndUnlocksTheFields)
 {
-    SelectionLines lines = emptyBracket("JS", "Smith", "150");
-    lines[17] = "R1T1";
-    const auto file = putSelection("Smith_JS.THC", lines);
-    putSelection(file_name::kResults, emptyBracket("A", "FinalResults", ""));
+    Entry entry = emptyBracket("JS", "Smith", "150");
+    entry.picks.put(Position{16}, "R1T1");
+    const auto file = putSelection("Smith_JS.THC", entry);
+    putNoResultsYet();
     loadFinalized();
-    board->EnterGameResults();
-    platform.dialogs.pick(file);
-    board->OpenSelection();
+    enterResults();
+    open(file);
     EXPECT_EQ(at(16), "R1T1");
     EXPECT_EQ(board->txtPlayerName.text, "Smith");
     EXPECT_FALSE(board->txtPlayerName.locked);
     EXPECT_TRUE(board->txtPlayerName.tabStop);
-    EXPECT_FALSE(board->resultsMode());
+    EXPECT_FALSE(resultsMode());
     EXPECT_TRUE(board->mnuGameResults.enabled);
     EXPECT_TRUE(board->mnuScoreSelections.enabled);
-    EXPECT_EQ(state.selectionFile.OpenedFile, file);
     EXPECT_EQ(board->document, "Smith_JS.THC");
+    EXPECT_EQ(board->hint, "Opened Smith_JS.THC.");
 }
 
 TEST_F(BoardScreenFiles, CancellingTheOpenDialogChangesNothing)
@@ -272,7 +285,7 @@ TEST_F(BoardScreenFiles, CancellingTheOpenDialogChangesNothing)
     loadFinalized();
     click(0);
     platform.dialogs.pick(std::nullopt);
-    board->OpenSelection();
+    board->mnuOpenSelection.click();
     EXPECT_EQ(at(16), "R1T0");
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
@@ -281,7 +294,7 @@ TEST_F(BoardScreenFiles, ADamagedFileIsReportedAndShownAsFarAsItGoes)
 {
     const auto file = scratch.put("Short_S.THC", crlf({"Alpha", "Beta"}));
     loadFinalized();
-    board->showSelection(file);
+    open(file);
     EXPECT_EQ(lastMessage().caption, "** ERROR IN OPENING FILE - ReadSelections Routine **");
     EXPECT_EQ(lastMessage().text,
               "There is a problem opening: " + file.string() + "\r\n\r\n The program will attempt to continue ......");
@@ -292,35 +305,102 @@ TEST_F(BoardScreenFiles, ADamagedFileIsReportedAndShownAsFarAsItGoes)
 
 TEST_F(BoardScreenFiles, NewSelectionClearsTheBoardAndEndsResultsMode)
 {
-    putSelection(file_name::kResults, emptyBracket("A", "FinalResults", ""));
+    putNoResultsYet();
     loadFinalized();
-    board->EnterGameResults();
+    enterResults();
     drag(0, 126);
     board->txtFinalPoints.text = "170";
-    board->NewSelection();
+    board->mnuNewSelection.click();
     for (const Position position : gamePositions())
-        EXPECT_EQ(at(index(position)), "");
+        EXPECT_EQ(at(position), "");
     EXPECT_EQ(at(0), "R1T0");
     EXPECT_EQ(board->txtPlayerInitials.text + board->txtPlayerName.text + board->txtFinalPoints.text, "");
     EXPECT_FALSE(board->txtPlayerInitials.locked);
-    EXPECT_FALSE(board->resultsMode());
+    EXPECT_FALSE(resultsMode());
     EXPECT_TRUE(board->mnuGameResults.enabled);
     EXPECT_TRUE(board->mnuScoreSelections.enabled);
     EXPECT_TRUE(board->mnuSaveSelection.enabled);
     EXPECT_FALSE(board->cmdDefaultColors.visible);
-    EXPECT_TRUE(state.selectionFile.OpenedFile.empty());
+    EXPECT_EQ(board->document, "");
 }
 
-TEST_F(BoardScreenFiles, NewSelectionOpenAndResultsDropAnUnusedHandOver)
+TEST_F(BoardScreenFiles, NewSelectionOpenResultsAndUnloadingDropAnUnusedHandOver)
 {
     const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));
     loadFinalized();
-    for (const auto& command : std::vector<std::function<void()>>{
-             [&] { board->NewSelection(); }, [&] { board->showSelection(file); }, [&] { board->EnterGameResults(); }}) {
-        state.handOver = PlayerHandOver{"Smith,JS", file, SaveKind::SameName};
+    for (const auto& command :
+         std::vector<std::function<void()>>{[&] { board->mnuNewSelection.click(); }, [&] { open(file); },
+                                            [&] { enterResults(); }, [&] { board->unloading(); }}) {
+        savedPlayer = SavedPlayer{"Smith,JS", file, SaveKind::SameName};
         command();
-        EXPECT_FALSE(state.handOver);
+        EXPECT_FALSE(savedPlayer);
     }
+}
+
+TEST_F(BoardScreenFiles, LoadingTheBoardDropsAnUnusedHandOver)
+{
+    savedPlayer = SavedPlayer{"Smith,JS", scratch.path() / "Smith_JS.THC", SaveKind::SameName};
+    load();
+    EXPECT_FALSE(savedPlayer);
+}
+
+TEST_F(BoardScreenFiles, AFileThatSomebodyElseHasChangedSinceIsReplacedOnlyAfterAYes)
+{
+    const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));
+    loadFinalized();
+    open(file);
+    putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "99"));
+    click(0);
+    platform.dialogs.answer(ui::Answer::No);
+    saveAs(file);
+    EXPECT_EQ(lastMessage().caption, "** FILE HAS BEEN CHANGED **");
+    EXPECT_EQ(saved("Smith_JS.THC").finalPoints, "99");
+    EXPECT_TRUE(board->unsaved);
+    EXPECT_FALSE(savedPlayer);
+    platform.dialogs.answer(ui::Answer::Yes);
+    saveAs(file);
+    EXPECT_EQ(saved("Smith_JS.THC").finalPoints, "150");
+    EXPECT_FALSE(board->unsaved);
+}
+
+TEST_F(BoardScreenFiles, ResultsThatSomebodyElseHasEnteredSinceAreReplacedOnlyAfterAYes)
+{
+    loadFinalized();
+    enterResults(); // there is no file yet
+    putNoResultsYet();
+    click(0);
+    platform.dialogs.answer(ui::Answer::No);
+    save();
+    EXPECT_EQ(lastMessage().caption, "** FILE HAS BEEN CHANGED **");
+    EXPECT_EQ(savedAt(saved("TALLYHOOP.THS"), 16), "");
+    EXPECT_TRUE(board->unsaved);
+}
+
+TEST_F(BoardScreenFiles, ARefusalLeavesTheFocusWhereItIsWhenTheFieldIsLocked)
+{
+    loadFinalized();
+    enterResults();
+    board->txtPlayerName.text = "";
+    board->focused = &board->txtFinalPoints;
+    save();
+    EXPECT_EQ(lastMessage().text, "Player Name field is BLANK, this MUST be corrected!");
+    EXPECT_EQ(board->focused, &board->txtFinalPoints);
+}
+
+TEST_F(BoardScreenFiles, ResultsAreSavedUnderTheirFixedNameWithoutAQuestion)
+{
+    loadFinalized();
+    enterResults();
+    click(0);
+    EXPECT_TRUE(board->unsaved);
+    save();
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+    EXPECT_TRUE(platform.dialogs.fileChoices.empty());
+    EXPECT_EQ(savedAt(saved("TALLYHOOP.THS"), 16), "R1T0");
+    EXPECT_EQ(saved("TALLYHOOP.THS").initials, "A");
+    EXPECT_FALSE(board->unsaved);
+    EXPECT_FALSE(savedPlayer);
+    EXPECT_EQ(board->hint, "The results are saved.");
 }
 
 } // namespace tallyhoop::test

@@ -1,3 +1,4 @@
+// tests/screens/board/board_screen_load_test.cpp - what a fresh board shows of the files that it finds.
 #include "screens/board/board_fixture.h"
 
 #include <algorithm>
@@ -30,32 +31,33 @@ TEST_F(BoardScreenLoad, PutsEveryTeamInItsFirstRoundRow)
 TEST_F(BoardScreenLoad, GivesTheFirstRoundItsToolTipAndTheOthersNone)
 {
     loadFinalized();
-    for (int position = 0; position < 127; ++position)
-        EXPECT_EQ(board->lblRegion[static_cast<std::size_t>(position)].toolTip,
-                  isFirstRound(Position{position}) ? "Left Click or Drag to Select" : "");
+    for (const Position position : allPositions())
+        EXPECT_EQ(board->lblRegion[position].toolTip, isFirstRound(position) ? "Left Click or Drag to Select" : "");
 }
 
 TEST_F(BoardScreenLoad, ShowsTitlesPayoffsSeedsAndCommentsOfTheSetup)
 {
-    SetupLines lines = defaultSetupLines();
-    lines[setup_line::kTitle] = "Our pool";
-    lines[setup_line::kRegion + 2] = "Orient";
-    lines[setup_line::kPayoff + 5] = "32";
-    lines[setup_line::kSeed + 3] = "99";
-    lines[setup_line::kComment1] = "first|second";
-    scratch.put(file_name::kSetup, setupFile(lines));
+    Field made = defaultField();
+    made.title = "Our pool";
+    made.regionTitles[2] = "Orient";
+    made.payoffs = PayoffTexts{{"1", "2", "4", "8", "12", "32"}};
+    made.seeds[3] = "99";
+    made.comment1 = "first\r\nsecond";
+    made.comment2 = "third";
+    putField(made);
     load();
     EXPECT_EQ(board->lblTitle.text, "Our pool");
     EXPECT_EQ(board->lblRegionTitle[2].text, "Orient");
     EXPECT_EQ(board->lblInfo[5].text, "32");
-    for (int region = 0; region < 4; ++region)
-        EXPECT_EQ(board->txtSeed[static_cast<std::size_t>(16 * region + 3)].text, "99");
+    for (const std::size_t row : {3, 19, 35, 51})
+        EXPECT_EQ(board->txtSeed[row].text, "99");
     EXPECT_EQ(board->txtComment1.text, "first\r\nsecond");
+    EXPECT_EQ(board->txtComment2.text, "third");
 }
 
 TEST_F(BoardScreenLoad, DisablesWhatNeedsAFinalizedField)
 {
-    putSetup("0");
+    putField(fieldOfTeams("0"));
     load();
     for (const ui::MenuEntry* entry : {&board->mnuScoreSelections, &board->mnuGameResults, &board->mnuNewSelection,
                                        &board->mnuOpenSelection, &board->mnuSaveSelection, &board->mnuReports})
@@ -92,17 +94,28 @@ TEST_F(BoardScreenLoad, OffersScoringOnlyWithAResultsFile)
 {
     loadFinalized();
     EXPECT_FALSE(board->mnuScoreSelections.enabled);
-    putSelection(file_name::kResults, emptyBracket("A", "FinalResults", ""));
+    putNoResultsYet();
     load();
     EXPECT_TRUE(board->mnuScoreSelections.enabled);
 }
 
-TEST_F(BoardScreenLoad, CapturesTheBoardIntoTheSharedLines)
+TEST_F(BoardScreenLoad, TakesTheFieldForItselfAndForTheOtherScreens)
 {
     loadFinalized();
-    EXPECT_EQ(state.selectionLines[1], "R1T0");
-    EXPECT_EQ(state.selectionLines[63], "R3T0");
-    EXPECT_EQ(state.selectionLines[17], "");
+    EXPECT_EQ(field, fieldOfTeams("1"));
+    EXPECT_EQ(board->bracket().at(Position{0}), "R1T0");
+    EXPECT_EQ(board->bracket().at(Position{62}), "R3T0");
+    for (const Position position : gamePositions())
+        EXPECT_TRUE(board->bracket().isEmpty(position));
+}
+
+TEST_F(BoardScreenLoad, SaysThatASetupFileIsDamagedAndShowsTheDefaultField)
+{
+    scratch.put(file_name::kSetup, "nonsense\r\n");
+    load();
+    EXPECT_EQ(platform.dialogs.shown, (std::vector<ui::Message>{{"", "Problem with file, will use default values",
+                                                                 ui::Buttons::Ok, ui::Icon::Critical}}));
+    EXPECT_EQ(at(0), "TEAM1");
 }
 
 TEST_F(BoardScreenLoad, CreatesThePlayerListWhenThereIsNone)
@@ -118,40 +131,62 @@ TEST_F(BoardScreenLoad, SaysThatThePlayerListIsFaulty)
     EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"** ERROR Found in PLAYERNAMES.CSV file **"});
 }
 
-TEST_F(BoardScreenLoad, ShowsDemoStateAfterTheDemoCommandsWhateverTheFilesSay)
+TEST_F(BoardScreenLoad, MentionsAFolderThatCannotBeWrittenOnlyOnce)
 {
-    load(Opening::DemoEntered);
-    EXPECT_TRUE(board->mnuDemoReset.enabled);
-    EXPECT_FALSE(board->mnuDemoSet.enabled);
-    EXPECT_TRUE(board->lblDemoMode.visible);
+    folder = DataFolder{scratch.path() / "gone"};
+    load();
+    EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"** ERROR IN WRITING FILE **"});
+    field.finalized = "1";
+    board->showState();
+    board->mnuNewSelection.click();
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
 }
 
-TEST_F(BoardScreenLoad, LetsDemoModeBeLeftThoughItsSettingsWereNotWrittenYet)
+TEST_F(BoardScreenLoad, ForgetsTheSampleFieldWhenDemoModeWasLeft)
 {
-    putSetup("1");
-    load(Opening::DemoEntered);
-    EXPECT_TRUE(board->mnuDemo.enabled);
-    EXPECT_TRUE(board->mnuDemoReset.enabled);
-}
-
-TEST_F(BoardScreenLoad, StartsAfreshWhenDemoModeIsLeft)
-{
-    load(Opening::DemoLeft);
+    putDemoMode();
+    loadFinalized();
+    ASSERT_TRUE(field.isFinalized());
+    std::filesystem::remove(scratch.path() / file_name::kSetup);
+    std::filesystem::remove(scratch.path() / file_name::kSettings);
+    load();
+    EXPECT_EQ(field, defaultField());
     EXPECT_EQ(at(0), "TEAM1");
     EXPECT_FALSE(board->mnuDemoReset.enabled);
     EXPECT_TRUE(board->mnuDemoSet.enabled);
     EXPECT_FALSE(board->lblDemoMode.visible);
     EXPECT_FALSE(board->mnuScoreSelections.enabled);
     EXPECT_FALSE(board->mnuGameResults.enabled);
-    EXPECT_EQ(state.setupLines[setup_line::kFinalized], "0");
 }
 
-TEST_F(BoardScreenLoad, SaysOnceWhereChangesMadeInDemoModeAreKept)
+TEST_F(BoardScreenLoad, OffersTheWayBackAsLongAsDemoModeIsOn)
 {
-    state.notice = "Files that you changed in demo mode are kept in Backup.";
-    load(Opening::DemoLeft);
+    putDemoMode(); // and no field: the demo is there in part only
+    load();
+    EXPECT_TRUE(board->mnuDemo.enabled);
+    EXPECT_TRUE(board->mnuDemoReset.enabled);
+    EXPECT_FALSE(board->mnuDemoSet.enabled);
+    EXPECT_TRUE(board->lblDemoMode.visible);
+}
+
+TEST_F(BoardScreenLoad, SaysTheNoticeThatItIsGivenUntilABoardIsBegun)
+{
+    putField(fieldOfTeams("1"));
+    load("Files that you changed in demo mode are kept in Backup.");
     EXPECT_EQ(board->status, "Files that you changed in demo mode are kept in Backup.");
-    EXPECT_EQ(state.notice, "");
+    board->mnuNewSelection.click();
+    EXPECT_EQ(board->status, "");
+}
+
+TEST_F(BoardScreenLoad, SaysWhatToDo)
+{
+    load();
+    EXPECT_EQ(board->hint, "The field is not finalized yet: see Setup, Setup Pool Options.");
+    loadFinalized();
+    EXPECT_EQ(board->hint, "Click the winners forward, then enter initials, name and the final's total points.");
+    EXPECT_EQ(board->document, "");
+    EXPECT_FALSE(board->unsaved);
+    EXPECT_EQ(board->focused, &board->txtPlayerInitials);
 }
 
 TEST_F(BoardScreenLoad, ListsTheThreeFieldsAtTheirTabPositions)

@@ -1,5 +1,4 @@
-// tests/screens/board/board_screen_marks_test.cpp - the verdict on the board: right and wrong picks, and what they
-// forbid.
+// tests/screens/board/board_screen_marks_test.cpp - marks on the board: right and wrong picks, and what they forbid.
 #include "screens/board/board_fixture.h"
 
 namespace tallyhoop::test {
@@ -12,17 +11,18 @@ constexpr ui::Colour kBlue{0, 0, 255};
 constexpr ui::Colour kGreen{0, 255, 0};
 constexpr ui::Colour kRed{255, 0, 0};
 
-TEST_F(BoardScreenMarks, MarksRightAndWrongPicksAndLeavesTheOpenOnes)
+TEST_F(BoardScreenMarks, ShowsRightAndWrongPicksOfAListedPlayerAndLeavesTheOpenOnes)
 {
     loadFinalized();
     drag(0, 24);
-    state.verdict.SlotStatus.fill(Verdict::Open);
-    state.verdict.SlotStatus[17] = Verdict::Good;
-    state.verdict.SlotStatus[25] = Verdict::Bad;
-    state.verdict.SlotStatus[26] = Verdict::Possible;
-    state.verdict.SlotStatus[127] = Verdict::Good;
-    state.verdict.SlotStatus[1] = Verdict::Bad;
-    board->MarkScores();
+    Verdicts verdicts;
+    verdicts.values.fill(Verdict::Open);
+    verdicts[Position{16}] = Verdict::Good;
+    verdicts[Position{24}] = Verdict::Bad;
+    verdicts[Position{25}] = Verdict::Possible;
+    verdicts[Position{126}] = Verdict::Good;
+    verdicts[Position{0}] = Verdict::Bad;
+    showListedVerdicts(verdicts);
     EXPECT_EQ(board->lblRegion[16].colour, kGreen);
     EXPECT_EQ(board->lblResult[0].text, "=");
     EXPECT_EQ(board->lblRegion[24].colour, kRed);
@@ -33,49 +33,89 @@ TEST_F(BoardScreenMarks, MarksRightAndWrongPicksAndLeavesTheOpenOnes)
     EXPECT_EQ(board->lblRegion[0].colour, kBlue) << "first-round rows are no games";
 }
 
-TEST_F(BoardScreenMarks, PressesAreIgnoredWhileTheVerdictIsShown)
+TEST_F(BoardScreenMarks, NothingCanBeChangedWhileThePicksAreMarked)
 {
+    putNoResultsYet();
     loadFinalized();
-    board->MarkScores();
+    score();
     click(0);
     EXPECT_EQ(at(16), "");
-    board->ClearMarks();
+    EXPECT_FALSE(board->mnuHighSeed.enabled);
+    board->cmdDefaultColors.click();
     click(0);
     EXPECT_EQ(at(16), "R1T0");
-    board->MarkScores();
+    score();
     rightPress(16);
     EXPECT_EQ(at(16), "R1T0");
+    EXPECT_FALSE(board->isDragging());
 }
 
-TEST_F(BoardScreenMarks, ClearMarksGivesEveryLabelItsNormalLook)
+TEST_F(BoardScreenMarks, MarksOfAListedPlayerForbidTheSame)
 {
     loadFinalized();
-    state.verdict.SlotStatus.fill(Verdict::Bad);
-    board->MarkScores();
-    board->ClearMarks();
+    click(0);
+    showListedVerdicts(Verdicts{});
+    rightPress(16);
+    click(2);
+    EXPECT_EQ(at(16), "R1T0");
+    EXPECT_EQ(at(17), "");
+    EXPECT_FALSE(board->mnuHighSeed.enabled);
+    EXPECT_TRUE(board->mnuSaveSelection.enabled) << "the results that the list is made of may be saved";
+    EXPECT_FALSE(board->cmdDefaultColors.visible) << "the list of scores takes the marks away";
+    EXPECT_FALSE(board->txtFinalPoints.locked);
+    showListedVerdicts(std::nullopt);
+    rightPress(16);
+    EXPECT_EQ(at(16), "");
+}
+
+TEST_F(BoardScreenMarks, WithoutMarksEveryLabelHasItsNormalLook)
+{
+    loadFinalized();
+    Verdicts verdicts;
+    verdicts.values.fill(Verdict::Bad);
+    showListedVerdicts(verdicts);
+    ASSERT_EQ(board->lblRegion[16].colour, kRed);
+    showListedVerdicts(std::nullopt);
     for (std::size_t i = 0; i < 127; ++i)
         EXPECT_EQ(board->lblRegion[i].colour, kBlue);
     for (std::size_t i = 0; i < 63; ++i)
         EXPECT_EQ(board->lblResult[i].text, "");
 }
 
-TEST_F(BoardScreenMarks, PressesRaiseTheScoreDisplayWhileItIsOpen)
+TEST_F(BoardScreenMarks, PressesRaiseTheListOfScoresWhileItIsOpen)
 {
     loadFinalized();
-    board->setScoreDisplayOpen(true);
+    setScoreListOpen(true);
     EXPECT_FALSE(board->lblRegion[0].enabled);
     EXPECT_FALSE(board->txtPlayerName.enabled);
     click(0);
     rightPress(16);
-    board->PressBackground();
-    EXPECT_EQ(screens.raised,
-              (std::vector{ScreenKind::ScoreDisplay, ScreenKind::ScoreDisplay, ScreenKind::ScoreDisplay}));
+    board->pressBackground();
+    EXPECT_TRUE(key(board->lblRegion[0], {ui::Key::Character, ' '}));
+    EXPECT_EQ(screens.raised, std::vector(4, ScreenKind::Scores));
     EXPECT_EQ(at(16), "");
-    board->setScoreDisplayOpen(false);
+    setScoreListOpen(false);
     EXPECT_TRUE(board->lblRegion[0].enabled);
     EXPECT_TRUE(board->txtPlayerName.enabled);
-    board->PressBackground();
-    EXPECT_EQ(screens.raised.size(), 3u);
+    board->pressBackground();
+    EXPECT_EQ(screens.raised.size(), 4u);
+}
+
+TEST_F(BoardScreenMarks, TheListOfScoresDisablesEveryTextAndBoxOfTheBoard)
+{
+    loadFinalized();
+    const auto textsAreEnabled = [this](bool enabled) {
+        for (const ui::Control* control : board->controls()) {
+            const bool isText = dynamic_cast<const ui::Label*>(control) != nullptr ||
+                                dynamic_cast<const ui::TextBox*>(control) != nullptr;
+            EXPECT_TRUE(!isText || control->enabled == enabled) << control->name;
+        }
+    };
+    textsAreEnabled(true);
+    setScoreListOpen(true);
+    textsAreEnabled(false);
+    setScoreListOpen(false);
+    textsAreEnabled(true);
 }
 
 } // namespace tallyhoop::test

@@ -1,9 +1,10 @@
+// tests/screens/board/board_screen_scores_test.cpp - game results, scoring, printing, and the ways to other screens.
 #include "screens/board/board_fixture.h"
 
-#include "screens/board/board_drawing.h"
+#include "pool/sample_brackets.h"
 
 #include <algorithm>
-#include <cmath>
+#include <string_view>
 
 namespace tallyhoop::test {
 
@@ -13,10 +14,10 @@ protected:
     /// Results in which R1T0 has won its first game and R1T3 its own.
     void putResults()
     {
-        SelectionLines lines = emptyBracket("A", "FinalResults", "");
-        lines[17] = "R1T0";
-        lines[18] = "R1T3";
-        putSelection(file_name::kResults, lines);
+        Entry results = emptyBracket("A", "FinalResults", "");
+        results.picks.put(Position{16}, "R1T0");
+        results.picks.put(Position{17}, "R1T3");
+        putSelection(file_name::kResults, results);
     }
 };
 
@@ -24,9 +25,9 @@ TEST_F(BoardScreenScores, TheFirstResultsEntryStartsFromAnEmptyBracket)
 {
     loadFinalized();
     drag(0, 126);
-    board->EnterGameResults();
+    enterResults();
     for (const Position position : gamePositions())
-        EXPECT_EQ(at(index(position)), "");
+        EXPECT_EQ(at(position), "");
     EXPECT_EQ(board->txtPlayerInitials.text, "A");
     EXPECT_EQ(board->txtPlayerName.text, "FinalResults");
     EXPECT_TRUE(board->txtPlayerInitials.locked);
@@ -34,7 +35,7 @@ TEST_F(BoardScreenScores, TheFirstResultsEntryStartsFromAnEmptyBracket)
     EXPECT_FALSE(board->txtPlayerName.tabStop);
     EXPECT_FALSE(board->txtFinalPoints.locked);
     EXPECT_TRUE(board->txtFinalPoints.tabStop);
-    EXPECT_TRUE(board->resultsMode());
+    EXPECT_TRUE(resultsMode());
     EXPECT_FALSE(board->mnuGameResults.enabled);
     EXPECT_TRUE(board->mnuScoreSelections.enabled);
     EXPECT_EQ(board->document, "Game results");
@@ -44,13 +45,13 @@ TEST_F(BoardScreenScores, TheSecondEntryShowsTheSavedWinnersWithoutMarks)
 {
     putResults();
     loadFinalized();
-    board->ScoreSelections();
-    ASSERT_TRUE(board->marksShown());
-    board->EnterGameResults();
+    score();
+    ASSERT_TRUE(marksShown());
+    enterResults();
     EXPECT_EQ(at(16), "R1T0");
     EXPECT_EQ(at(17), "R1T3");
     EXPECT_EQ(at(18), "");
-    EXPECT_FALSE(board->marksShown());
+    EXPECT_FALSE(marksShown());
     EXPECT_EQ(board->lblResult[0].text, "");
     EXPECT_EQ(board->txtPointScore.text, "");
     EXPECT_FALSE(board->cmdDefaultColors.visible);
@@ -61,23 +62,24 @@ TEST_F(BoardScreenScores, ADamagedResultsFileIsCompletedSoThatItCanBeSaved)
 {
     scratch.put(file_name::kResults, crlf({"", "R1T1"}));
     loadFinalized();
-    board->EnterGameResults();
+    enterResults();
     EXPECT_EQ(at(0), "R1T0");
     EXPECT_EQ(at(93), "R4T0");
     EXPECT_EQ(board->txtPlayerInitials.text, "A");
-    board->SaveSelection();
-    EXPECT_EQ(saved("TALLYHOOP.THS")[129], "FinalResults");
-    EXPECT_EQ(saved("TALLYHOOP.THS")[131], "*END*");
+    save();
+    EXPECT_EQ(saved("TALLYHOOP.THS").name, "FinalResults");
+    EXPECT_EQ(savedAt(saved("TALLYHOOP.THS"), 1), "R1T1") << "what is there stays";
+    EXPECT_TRUE(scratch.get("TALLYHOOP.THS").ends_with("\r\n*END*\r\n"));
 }
 
-TEST_F(BoardScreenScores, InResultsModeScoringOpensTheScoreDisplay)
+TEST_F(BoardScreenScores, InResultsModeScoringOpensTheListOfScores)
 {
     putResults();
     loadFinalized();
-    board->EnterGameResults();
-    board->ScoreSelections();
-    EXPECT_EQ(screens.loads, (std::vector{FakeScreens::Load{ScreenKind::ScoreDisplay, Opening::Plain}}));
-    EXPECT_FALSE(board->marksShown());
+    enterResults();
+    score();
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Scores});
+    EXPECT_FALSE(marksShown());
     EXPECT_TRUE(board->mnuScoreSelections.enabled);
 }
 
@@ -87,13 +89,11 @@ TEST_F(BoardScreenScores, ScoringMarksThePicksAndShowsThePoints)
     loadFinalized();
     click(0);
     click(2);
-    board->ScoreSelections();
+    score();
     EXPECT_EQ(board->lblResult[0].text, "=");
     EXPECT_EQ(board->lblResult[1].text, "X");
-    // R1T0 is right: 1 point. R1T2 is wrong, all other games are open and empty: nothing more is possible.
-    // Open games count by their chain, not by their picks: 30 open first-round games, 16, 8, 4, 2 and 1 others, of
-    // which the games fed by an earlier right or possible one stay possible: 30*1 + 16*2 + 8*4 + 4*8 + 2*12 + 1*16
-    // would need picks; an empty pick is bad at once. So the most is what is earned.
+    // R1T0 is right: 1 point. R1T2 is wrong. All other games are open without a pick, which is bad at once: nothing
+    // more is possible, and the most is what is earned.
     EXPECT_EQ(board->txtPointScore.text, "Points: 1 / 1");
     EXPECT_TRUE(board->cmdDefaultColors.visible);
     EXPECT_TRUE(board->cmdDefaultColors.enabled);
@@ -109,26 +109,27 @@ TEST_F(BoardScreenScores, ScoringMarksThePicksAndShowsThePoints)
 
 TEST_F(BoardScreenScores, ACompleteBracketWithoutResultsCanStillEarnEverything)
 {
-    putSelection(file_name::kResults, emptyBracket("A", "FinalResults", ""));
+    putNoResultsYet();
     loadFinalized();
-    board->SelectHighSeeds();
+    board->mnuHighSeed.click();
     for (const int position : {30, 92, 124})
         click(position);
-    board->ScoreSelections();
+    score();
     EXPECT_EQ(board->txtPointScore.text, "Points: 0 / 168");
 }
 
 TEST_F(BoardScreenScores, ScoringWithoutResultsIsRefused)
 {
+    putResults();
     loadFinalized();
-    board->mnuScoreSelections.enabled = true;
-    board->ScoreSelections();
+    std::filesystem::remove(scratch.path() / file_name::kResults);
+    score();
     EXPECT_EQ(platform.dialogs.shown.back(),
               (ui::Message{"INVALID REQUEST TO LOAD FILE",
                            "The file TALLYHOOP.THS is not present in the application directory!", ui::Buttons::Ok,
                            ui::Icon::Exclamation}));
     EXPECT_FALSE(board->mnuScoreSelections.enabled);
-    EXPECT_FALSE(board->marksShown());
+    EXPECT_FALSE(marksShown());
 }
 
 TEST_F(BoardScreenScores, DefaultColorsGivesTheBoardBack)
@@ -136,9 +137,9 @@ TEST_F(BoardScreenScores, DefaultColorsGivesTheBoardBack)
     putResults();
     loadFinalized();
     click(0);
-    board->ScoreSelections();
+    score();
     board->cmdDefaultColors.click();
-    EXPECT_FALSE(board->marksShown());
+    EXPECT_FALSE(marksShown());
     EXPECT_FALSE(board->cmdDefaultColors.visible);
     EXPECT_FALSE(board->cmdDefaultColors.isDefault);
     EXPECT_FALSE(board->cmdDefaultColors.enabled);
@@ -151,44 +152,134 @@ TEST_F(BoardScreenScores, DefaultColorsGivesTheBoardBack)
 
 TEST_F(BoardScreenScores, PayoffsAreReadByTheirLeadingNumber)
 {
-    SetupLines lines = defaultSetupLines();
-    lines[setup_line::kPayoff] = "3 each";
-    lines[setup_line::kPayoff + 1] = "none";
-    scratch.put(file_name::kSetup, setupFile(lines));
+    putResults();
+    Field made = fieldOfTeams("1");
+    made.payoffs = PayoffTexts{{"3 each", "none", "4", "8", "12", "16"}};
+    putField(made);
     load();
-    EXPECT_EQ(*board->payoffs(), (Payoffs{3, 0, 4, 8, 12, 16}));
+    click(0);
+    score();
+    EXPECT_EQ(board->txtPointScore.text, "Points: 3 / 3");
+    EXPECT_EQ(board->lblInfo[0].text, "3 each");
 }
 
 TEST_F(BoardScreenScores, APayoffThatIsFarTooLargeIsAnErrorWithAMessage)
 {
     putResults();
-    SetupLines lines = defaultSetupLines();
-    lines[setup_line::kPayoff] = "99999999999999999999";
-    lines[setup_line::kFinalized] = "1";
-    scratch.put(file_name::kSetup, setupFile(lines));
+    Field made = fieldOfTeams("1");
+    made.payoffs = PayoffTexts{{"99999999999999999999", "2", "4", "8", "12", "16"}};
+    putField(made);
     load();
-    board->ScoreSelections();
-    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
-    EXPECT_FALSE(board->marksShown());
+    score();
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.shown[0].caption, "");
+    EXPECT_EQ(platform.dialogs.shown[0].icon, ui::Icon::Critical);
+    EXPECT_EQ(platform.dialogs.shown[0].text, made.payoffs.points().failure().message);
+    EXPECT_FALSE(marksShown());
     EXPECT_TRUE(board->mnuScoreSelections.enabled);
 }
 
-TEST_F(BoardScreenScores, CommandsThatReplaceTheBoardCloseTheScoreDisplayFirst)
+TEST_F(BoardScreenScores, ATieBreakerThatDoesNotFitIsAnErrorWithAMessage)
+{
+    putResults();
+    loadFinalized();
+    click(0);
+    fill("JS", "Smith", "99999");
+    score();
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_TRUE(
+        platform.dialogs.shown[0].text.starts_with("The predicted total points of TALLYHOOP.THS cannot be used."))
+        << platform.dialogs.shown[0].text;
+    EXPECT_FALSE(marksShown());
+    EXPECT_EQ(board->txtPointScore.text, "");
+    EXPECT_EQ(at(16), "R1T0");
+}
+
+TEST_F(BoardScreenScores, TakesThePicksFromTheBoardAndTheResultsFromTheFile)
+{
+    putSelection("Smith_JS.THC", {everyUpperTeamWins(), "JS", "Smith", "145", {}});
+    putSelection(file_name::kResults, {without(everyUpperTeamWins(), 31, 126), "A", "FinalResults", "", {}});
+    loadFinalized();
+    open(scratch.path() / "Smith_JS.THC");
+    score();
+    EXPECT_EQ(board->txtPointScore.text, "Points: 32 / 168") << "region 1 is right";
+    EXPECT_EQ(board->bracket(), everyUpperTeamWins());
+    EXPECT_EQ(board->txtPlayerName.text, "Smith");
+}
+
+TEST_F(BoardScreenScores, GivesTheSameScoreTwiceInARow)
+{
+    putSelection("Smith_JS.THC", {everyLowerTeamWins(), "JS", "Smith", "145", {}});
+    putSelection(file_name::kResults, {without(everyUpperTeamWins(), 59, 126), "A", "FinalResults", "", {}});
+    loadFinalized();
+    open(scratch.path() / "Smith_JS.THC");
+    score();
+    const std::string points = board->txtPointScore.text;
+    const ui::Drawing picture = board->drawing();
+    board->cmdDefaultColors.click();
+    score();
+    EXPECT_EQ(board->txtPointScore.text, points);
+    // All lower teams of regions 1 and 2 are out: neither these (32 points each) nor the first semi-final (12) can be
+    // won any more.
+    EXPECT_EQ(points, "Points: 0 / 92");
+    EXPECT_EQ(board->drawing().captions.size(), picture.captions.size());
+}
+
+TEST_F(BoardScreenScores, ADamagedResultsFileIsReportedAndScoredAsFarAsItGoes)
+{
+    putResults();
+    std::string bytes = scratch.get(file_name::kResults);
+    bytes.resize(bytes.size() - std::string_view{"*END*\r\n"}.size());
+    scratch.put(file_name::kResults, bytes);
+    loadFinalized();
+    click(0);
+    score();
+    EXPECT_EQ(platform.dialogs.captionsShown(),
+              std::vector<std::string>{"** ERROR IN OPENING FILE - ReadSelections Routine **"});
+    EXPECT_EQ(board->txtPointScore.text, "Points: 1 / 1");
+}
+
+TEST_F(BoardScreenScores, ScoresAPlayersFileForTheReports)
+{
+    putResults();
+    Entry entry = emptyBracket("JS", "Smith", "150");
+    entry.picks.put(Position{16}, "R1T0");
+    const auto file = putSelection("Smith_JS.THC", entry);
+    loadFinalized();
+    enterResults();
+    board->showScored(file);
+    board->printForm(); // as the reports do: both in one command
+    ASSERT_EQ(platform.printer.drawings.size(), 1u);
+    EXPECT_EQ(platform.printer.drawings[0].title, "Smith_JS.THC");
+    const auto& captions = platform.printer.drawings[0].drawing.captions;
+    for (const char* text : {"Smith", "Points: 1 / 1", "="})
+        EXPECT_TRUE(std::ranges::any_of(captions, [text](const ui::Caption& caption) { return caption.text == text; }))
+            << text;
+    board->showState();
+    EXPECT_TRUE(marksShown());
+    EXPECT_FALSE(resultsMode());
+    EXPECT_EQ(board->document, "Smith_JS.THC");
+}
+
+TEST_F(BoardScreenScores, CommandsThatReplaceTheBoardCloseTheListOfScoresFirst)
 {
     const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));
     loadFinalized();
-    platform.dialogs.pick(file);
-    board->OpenSelection();
-    board->NewSelection();
-    board->EnterGameResults();
-    EXPECT_EQ(screens.unloads, std::vector(3, ScreenKind::ScoreDisplay));
+    open(file);
+    board->mnuNewSelection.click();
+    enterResults();
+    EXPECT_EQ(screens.unloads, std::vector(3, ScreenKind::Scores));
+    board->mnuEditNames.click();
+    board->mnuReports.click();
+    EXPECT_EQ(screens.unloads, std::vector(5, ScreenKind::Scores));
+    EXPECT_EQ(screens.loads, (std::vector{ScreenKind::Players, ScreenKind::Reports}));
 }
 
 TEST_F(BoardScreenScores, PrintsTheBoardOnOneLandscapePage)
 {
     loadFinalized();
     click(0);
-    board->PrintForm();
+    board->mnuPrintForm.click();
     ASSERT_EQ(platform.printer.drawings.size(), 1u);
     EXPECT_EQ(platform.printer.drawings[0].orientation, ui::Orientation::Landscape);
     int found = 0;
@@ -197,11 +288,27 @@ TEST_F(BoardScreenScores, PrintsTheBoardOnOneLandscapePage)
     EXPECT_EQ(found, 2) << "in the first round and as a winner";
 }
 
+TEST_F(BoardScreenScores, APrintoutBearsTheNameOfWhatIsOnTheBoard)
+{
+    const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));
+    loadFinalized();
+    board->mnuPrintPreview.click();
+    open(file);
+    board->mnuPrintPreview.click();
+    enterResults();
+    board->mnuPrintPreview.click();
+    ASSERT_EQ(platform.printer.previewedDrawings.size(), 3u);
+    EXPECT_EQ(platform.printer.previewedDrawings[0].title, "2001 NCAA Tournament");
+    EXPECT_EQ(platform.printer.previewedDrawings[1].title, "Smith_JS.THC");
+    EXPECT_EQ(platform.printer.previewedDrawings[2].title, "Game results");
+    EXPECT_EQ(platform.printer.printerDialogs, 0);
+}
+
 TEST_F(BoardScreenScores, CancellingThePrinterDialogEndsQuietly)
 {
     loadFinalized();
     platform.printer.dialogAccepted = false;
-    board->PrintForm();
+    board->mnuPrintForm.click();
     EXPECT_TRUE(platform.printer.drawings.empty());
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
@@ -210,7 +317,7 @@ TEST_F(BoardScreenScores, APageThatCouldNotBePrintedIsReported)
 {
     loadFinalized();
     platform.printer.trouble = Failure{"no printer"};
-    board->PrintForm();
+    board->mnuPrintForm.click();
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(platform.dialogs.shown[0].text,
               "Error in attempting to print to the printer\r\nCheck you printer for proper attachment");
@@ -222,6 +329,9 @@ TEST_F(BoardScreenScores, ReportsAreDisabledWhileTheirScreenIsOpen)
     board->mnuReports.click();
     EXPECT_FALSE(board->mnuReports.enabled);
     EXPECT_TRUE(screens.isLoaded(ScreenKind::Reports));
+    screens.unload(ScreenKind::Reports);
+    board->showState();
+    EXPECT_TRUE(board->mnuReports.enabled);
 }
 
 TEST_F(BoardScreenScores, TheSetupTakesTheBoardsPlace)
@@ -229,7 +339,7 @@ TEST_F(BoardScreenScores, TheSetupTakesTheBoardsPlace)
     load();
     board->mnuSetupOptions.click();
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
-    EXPECT_EQ(screens.loads.back(), (FakeScreens::Load{ScreenKind::Setup, Opening::Plain}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Setup});
 }
 
 TEST_F(BoardScreenScores, EnteringDemoModeReloadsTheBoard)
@@ -240,17 +350,18 @@ TEST_F(BoardScreenScores, EnteringDemoModeReloadsTheBoard)
     platform.dialogs.answer(ui::Answer::Ok);
     board->mnuDemoSet.click();
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
-    EXPECT_EQ(screens.loads.back(), (FakeScreens::Load{ScreenKind::Board, Opening::DemoEntered}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
+    EXPECT_EQ(screens.notices, std::vector{std::string{}});
 }
 
-TEST_F(BoardScreenScores, ADemoThatDidNotComeReloadsTheBoardPlainly)
+TEST_F(BoardScreenScores, ADemoThatDidNotComeReloadsTheBoardToo)
 {
     load();
     platform.programs.end = Failure{"No space left on device"};
     platform.dialogs.answer(ui::Answer::Ok);
     board->mnuDemoSet.click();
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
-    EXPECT_EQ(screens.loads.back(), (FakeScreens::Load{ScreenKind::Board, Opening::Plain}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
 }
 
 TEST_F(BoardScreenScores, LeavingDemoModeAsksNothingAndReloadsTheBoard)
@@ -260,7 +371,22 @@ TEST_F(BoardScreenScores, LeavingDemoModeAsksNothingAndReloadsTheBoard)
     board->mnuDemoReset.click();
     EXPECT_FALSE(scratch.has(file_name::kSetup));
     EXPECT_FALSE(scratch.has(file_name::kSettings));
-    EXPECT_EQ(screens.loads.back(), (FakeScreens::Load{ScreenKind::Board, Opening::DemoLeft}));
+    EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
+    EXPECT_EQ(screens.notices,
+              std::vector<std::string>{
+                  "Files that you changed in demo mode are kept in the folder Backup 2001-03-05 101530."});
+}
+
+TEST_F(BoardScreenScores, ADemoThatIsNotWantedLeavesTheBoardAlone)
+{
+    load();
+    click(0);
+    platform.dialogs.answer(ui::Answer::Cancel);
+    board->mnuDemoSet.click();
+    EXPECT_TRUE(screens.unloads.empty());
+    EXPECT_TRUE(screens.loads.empty());
+    EXPECT_EQ(at(16), "TEAM1");
 }
 
 TEST_F(BoardScreenScores, TheBoardStaysWhenDemoModeCannotBeLeft)
@@ -278,31 +404,25 @@ TEST_F(BoardScreenScores, TheBoardStaysWhenDemoModeCannotBeLeft)
     EXPECT_TRUE(board->mnuDemoReset.enabled);
 }
 
+TEST_F(BoardScreenScores, AboutAndExitLeadWhereTheySay)
+{
+    load();
+    board->mnuHelpAbout.click();
+    EXPECT_EQ(platform.dialogs.aboutShown, 1);
+    board->mnuExit.click();
+    EXPECT_TRUE(screens.ended);
+}
+
 TEST_F(BoardScreenScores, AMissingHelpFileIsExplained)
 {
     load();
     platform.help.trouble = Failure{"missing"};
     board->mnuHelpDisplay.click();
+    EXPECT_EQ(platform.help.topics, std::vector<std::string>{"start"});
     EXPECT_EQ(platform.dialogs.shown.back().caption, "** Help File Problem **");
     EXPECT_EQ(platform.dialogs.shown.back().text, "Trouble loading the help file, make sure that \r\n"
                                                   "TALLYHOOP.HLP is present in the same directory \r\n"
                                                   "as the application program.");
-}
-
-TEST(groundFor, CarriesEveryTeamColourComfortably)
-{
-    const auto luminance = [](ui::Colour colour) {
-        const auto part = [](double value) {
-            value /= 255;
-            return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * part(colour.red) + 0.7152 * part(colour.green) + 0.0722 * part(colour.blue);
-    };
-    for (const ui::Colour colour : {ui::Colour{0, 0, 255}, ui::Colour{0, 255, 0}, ui::Colour{255, 0, 0}}) {
-        const double a = luminance(colour);
-        const double b = luminance(groundFor(colour));
-        EXPECT_GE((std::max(a, b) + 0.05) / (std::min(a, b) + 0.05), 4.5);
-    }
 }
 
 } // namespace tallyhoop::test

@@ -9,23 +9,24 @@ class BoardScreenWords : public BoardTest
 {
 };
 
-TEST_F(BoardScreenWords, TellsVerdictsToThoseWhoCannotSeeColours)
+TEST_F(BoardScreenWords, SaysMarksToThoseWhoCannotSeeColours)
 {
     loadFinalized();
     drag(0, 24);
-    state.verdict.SlotStatus.fill(Verdict::Open);
-    state.verdict.SlotStatus[17] = Verdict::Good;
-    state.verdict.SlotStatus[25] = Verdict::Bad;
-    board->MarkScores();
+    Verdicts verdicts;
+    verdicts.values.fill(Verdict::Open);
+    verdicts[Position{16}] = Verdict::Good;
+    verdicts[Position{24}] = Verdict::Bad;
+    showListedVerdicts(verdicts);
     EXPECT_EQ(board->lblRegion[16].spokenName, "West, winner of first round, game 1, = right pick: R1T0");
     EXPECT_EQ(board->lblRegion[24].spokenName, "West, winner of second round, game 1, X wrong pick: R1T0");
     EXPECT_EQ(board->lblResult[0].spokenName, "= right pick");
-    board->ClearMarks();
+    showListedVerdicts(std::nullopt);
     EXPECT_EQ(board->lblRegion[16].spokenName, "West, winner of first round, game 1: R1T0");
     EXPECT_EQ(board->lblResult[0].spokenName, "");
 }
 
-TEST_F(BoardScreenWords, TellsEachPlaceApartByItsName)
+TEST_F(BoardScreenWords, GivesEachPlaceANameOfItsOwn)
 {
     loadFinalized();
     EXPECT_EQ(board->lblRegion[2].spokenName, "West, first round, row 3, seed 8: R1T2");
@@ -44,8 +45,11 @@ TEST_F(BoardScreenWords, TheBracketIsOneStopOfTheTabOrder)
 {
     loadFinalized();
     board->gotFocus(board->lblRegion[24]);
+    board->showState();
     for (std::size_t i = 0; i < 127; ++i)
         EXPECT_EQ(board->lblRegion[i].tabStop, i == 24);
+    board->gotFocus(board->txtPlayerName);
+    EXPECT_TRUE(board->lblRegion[24].tabStop);
 }
 
 TEST_F(BoardScreenWords, EachPlaceSaysWhatCanBeDoneThere)
@@ -53,15 +57,15 @@ TEST_F(BoardScreenWords, EachPlaceSaysWhatCanBeDoneThere)
     loadFinalized();
     const auto said = [&](std::size_t position) { return board->lblRegion[position].explanation; };
     EXPECT_EQ(said(0), "Click or press Space to send R1T0 to the next round, or drag it as far as it goes.");
-    EXPECT_EQ(said(16), "Nobody stands here yet: click or drag a team that can get here.");
+    EXPECT_EQ(said(16), "No team picked yet: click or drag a team that can get here.");
     drag(0, 126);
     EXPECT_EQ(said(16), "Click or press Space to send R1T0 on, drag it further; right click or Delete takes it away.");
     EXPECT_EQ(said(126), "R1T0 wins the tournament. A right click or Delete takes the team away.");
     rightPress(16);
-    EXPECT_EQ(said(126), "Nobody stands here yet: click or drag a team that can get here.");
-    board->setScoreDisplayOpen(true);
+    EXPECT_EQ(said(126), "No team picked yet: click or drag a team that can get here.");
+    setScoreListOpen(true);
     EXPECT_EQ(said(0), "The list of scores is open; close it to change the bracket.");
-    board->setScoreDisplayOpen(false);
+    setScoreListOpen(false);
     EXPECT_EQ(said(0), "Click or press Space to send R1T0 to the next round, or drag it as far as it goes.");
 }
 
@@ -69,33 +73,50 @@ TEST_F(BoardScreenWords, AMarkedPlaceSaysWhatItIsWorth)
 {
     loadFinalized();
     drag(0, 24); // the winner of its first two games
-    state.verdict.SlotStatus[17] = Verdict::Good;
-    state.verdict.SlotStatus[25] = Verdict::Bad;
-    state.verdict.SlotStatus[26] = Verdict::Bad;
-    board->MarkScores();
+    Entry results = emptyBracket("A", "FinalResults", "");
+    results.picks.put(Position{16}, "R1T0");
+    results.picks.put(Position{24}, "R1T3");
+    putSelection(file_name::kResults, results);
+    open(putSelection("Smith_JS.THC", {board->bracket(), "JS", "Smith", "150", {}}));
+    score();
     const auto said = [&](std::size_t position) { return board->lblRegion[position].explanation; };
     EXPECT_EQ(said(16), "A right pick: 1 point earned."); // the default payoffs: 1, 2, 4, 8, 12, 16
     EXPECT_EQ(said(24), "A wrong pick: 2 points lost.");
     EXPECT_EQ(said(25), "Nobody was picked: 2 points lost.");
-    EXPECT_EQ(said(126), "Not decided yet: worth 16 points.");
+    EXPECT_EQ(said(126), "Nobody was picked: 16 points lost.");
     EXPECT_EQ(said(0), "The picks are marked; choose Default Colors to change them again.");
     EXPECT_EQ(board->lblResult[0].explanation, said(16));
-    board->ClearMarks();
-    EXPECT_EQ(said(25), "Nobody stands here yet: click or drag a team that can get here.");
+    board->cmdDefaultColors.click();
+    EXPECT_EQ(said(25), "No team picked yet: click or drag a team that can get here.");
 }
 
 TEST_F(BoardScreenWords, ArrowKeysFollowThePictureAndSpaceAdvances)
 {
     loadFinalized();
-    const auto press = [&](ui::Key key) { return board->keyPressed(*board->focused, {key}); };
+    const auto press = [&](ui::Key which) { return key(*board->focused, {which}); };
     board->focused = &board->lblRegion[0];
     EXPECT_TRUE(press(ui::Key::Down));
     EXPECT_EQ(board->focused, &board->lblRegion[1]);
-    EXPECT_TRUE(board->keyPressed(board->lblRegion[1], {ui::Key::Character, ' '}));
+    EXPECT_TRUE(key(board->lblRegion[1], {ui::Key::Character, ' '}));
     EXPECT_EQ(at(16), "R1T1");
     EXPECT_TRUE(press(ui::Key::Right));
     EXPECT_EQ(board->focused, &board->lblRegion[16]);
     EXPECT_TRUE(press(ui::Key::Delete));
+    EXPECT_EQ(at(16), "");
+    EXPECT_TRUE(press(ui::Key::Left));
+    EXPECT_TRUE(press(ui::Key::Up));
+    EXPECT_EQ(board->focused, &board->lblRegion[0]);
+}
+
+TEST_F(BoardScreenWords, LeavesAllOtherKeysToWhomeverTheyAreFor)
+{
+    loadFinalized();
+    EXPECT_FALSE(key(board->lblRegion[0], {ui::Key::Character, 'x'}));
+    EXPECT_FALSE(key(board->lblRegion[0], {ui::Key::Character, ' ', false, true, false})) << "a shortcut";
+    EXPECT_FALSE(key(board->lblRegion[0], {ui::Key::Character, ' ', false, false, true}));
+    EXPECT_FALSE(key(board->lblRegion[0], {ui::Key::Tab}));
+    EXPECT_FALSE(key(board->txtPlayerName, {ui::Key::Character, ' '}));
+    EXPECT_FALSE(key(board->txtPlayerName, {ui::Key::Delete}));
     EXPECT_EQ(at(16), "");
 }
 

@@ -1,4 +1,4 @@
-// tests/screens/players/email_screen_test.cpp - choosing recipients, and what the dialog leaves behind.
+// tests/screens/players/email_screen_test.cpp - choosing recipients, and what the dialog leaves.
 #include "screens/players/email_screen.h"
 
 #include "fakes/fake_platform.h"
@@ -43,8 +43,9 @@ protected:
 
     EmailScreen& open()
     {
-        screen = std::make_unique<EmailScreen>(folder, platform.services, state, screens);
+        screen = std::make_unique<EmailScreen>(folder, platform.services, screens, draft);
         screen->load();
+        screen->showState();
         return *screen;
     }
 
@@ -68,13 +69,13 @@ protected:
     }
 
     bool enterIn(ui::Control& control) { return screen->keyPressed(control, {ui::Key::Enter}); }
-    bool closed() const { return screens.unloads == std::vector<ScreenKind>{ScreenKind::EMail}; }
+    bool closed() const { return screens.unloads == std::vector<ScreenKind>{ScreenKind::Email}; }
 
     ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     FakePlatform platform;
-    modTallyhoop state;
     FakeScreens screens;
+    MailDraft draft;
     std::unique_ptr<EmailScreen> screen;
 };
 
@@ -100,19 +101,19 @@ TEST_F(EmailScreenTest, ListsPlayersAlphabeticallyWithTheirAddresses)
     EXPECT_TRUE(screen->lstTo.rows.empty());
 }
 
-TEST_F(EmailScreenTest, OpeningEmptiesTheSharedTextsAndNothingElse)
+TEST_F(EmailScreenTest, OpeningEmptiesTheTextsOfTheDraftAndNothingElse)
 {
-    state.mailDraft = {{"old@example.org"}, "old subject", "old message", false, false};
+    draft = {.recipients = {"old@example.org"}, .subject = "old subject", .message = "old message"};
     open();
-    EXPECT_EQ(state.mailDraft.subject, "");
-    EXPECT_EQ(state.mailDraft.message, "");
-    EXPECT_EQ(state.mailDraft.recipients, std::vector<std::string>{"old@example.org"});
+    EXPECT_EQ(draft.subject, "");
+    EXPECT_EQ(draft.message, "");
+    EXPECT_EQ(draft.recipients, std::vector<std::string>{"old@example.org"});
 }
 
 TEST_F(EmailScreenTest, AFaultyPlayerListLeavesTheListsEmpty)
 {
     scratch.put("PLAYERNAMES.CSV", playerFile({csv("Smith,JS", "", "js@example.org")}) + "short\r\n");
-    state.mailDraft.emailAll = true;
+    draft.toEverybody = true;
     EmailScreen& mail = open();
     ASSERT_EQ(platform.dialogs.shown.size(), 2u);
     EXPECT_EQ(platform.dialogs.shown[0].caption, "** ERROR Found in PLAYERNAMES.CSV file **");
@@ -128,7 +129,7 @@ TEST_F(EmailScreenTest, AFaultyPlayerListLeavesTheListsEmpty)
 
 TEST_F(EmailScreenTest, EmailAllAddressesEverybodyWithAnAddressAndWarnsOnce)
 {
-    state.mailDraft.emailAll = true;
+    draft.toEverybody = true;
     EmailScreen& mail = open();
     EXPECT_EQ(mail.lstTo.rows, (std::vector<std::string>{"js@example.org", "bob@example.org"}));
     EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kSomebodyWithoutAddress});
@@ -137,7 +138,7 @@ TEST_F(EmailScreenTest, EmailAllAddressesEverybodyWithAnAddressAndWarnsOnce)
 TEST_F(EmailScreenTest, EmailAllWarnsOnceHoweverManyHaveNoAddress)
 {
     scratch.put("PLAYERNAMES.CSV", playerFile({csv("A", "A.THC"), csv("B", "B.THC"), csv("C", "C.THC", "c@x.org")}));
-    state.mailDraft.emailAll = true;
+    draft.toEverybody = true;
     EXPECT_EQ(open().lstTo.rows, std::vector<std::string>{"c@x.org"});
     EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kSomebodyWithoutAddress});
 }
@@ -145,7 +146,7 @@ TEST_F(EmailScreenTest, EmailAllWarnsOnceHoweverManyHaveNoAddress)
 TEST_F(EmailScreenTest, EmailAllIsSilentWhenNobodyLacksAnAddress)
 {
     scratch.put("PLAYERNAMES.CSV", playerFile({csv("A", "A.THC", "a@x.org"), csv("B", "B.THC", "a@x.org")}));
-    state.mailDraft.emailAll = true;
+    draft.toEverybody = true;
     EXPECT_EQ(open().lstTo.rows, (std::vector<std::string>{"a@x.org", "a@x.org"}));
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
@@ -313,20 +314,20 @@ TEST_F(EmailScreenTest, SendLeavesTheDraftInOrder)
     mail.txtSubject.text = "Standings";
     mail.txtMessage.text = "Hello\r\nall";
     mail.cmdSend.click();
-    EXPECT_EQ(state.mailDraft.recipients, (std::vector<std::string>{"z@x.org", "a@x.org"}));
-    EXPECT_EQ(state.mailDraft.subject, "Standings");
-    EXPECT_EQ(state.mailDraft.message, "Hello\r\nall");
-    EXPECT_FALSE(state.mailDraft.cancelled);
+    EXPECT_EQ(draft.recipients, (std::vector<std::string>{"z@x.org", "a@x.org"}));
+    EXPECT_EQ(draft.subject, "Standings");
+    EXPECT_EQ(draft.message, "Hello\r\nall");
+    EXPECT_FALSE(draft.cancelled);
     EXPECT_TRUE(closed());
 }
 
 TEST_F(EmailScreenTest, SendWithNobodyAndOkLeavesNoRecipients)
 {
-    state.mailDraft.recipients = {"old@example.org"};
+    draft.recipients = {"old@example.org"};
     platform.dialogs.answer(ui::Answer::Ok);
     open().cmdSend.click();
     EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kNoRecipients});
-    EXPECT_TRUE(state.mailDraft.recipients.empty());
+    EXPECT_TRUE(draft.recipients.empty());
     EXPECT_TRUE(closed());
 }
 
@@ -337,7 +338,7 @@ TEST_F(EmailScreenTest, SendWithNobodyAndCancelReturnsToTheDialog)
     mail.txtSubject.text = "Standings";
     mail.cmdSend.click();
     EXPECT_TRUE(screens.unloads.empty());
-    EXPECT_EQ(state.mailDraft.subject, "");
+    EXPECT_EQ(draft.subject, "");
 }
 
 TEST_F(EmailScreenTest, ExitSetsTheFlagAndLeavesTheResultAlone)
@@ -346,16 +347,16 @@ TEST_F(EmailScreenTest, ExitSetsTheFlagAndLeavesTheResultAlone)
     mail.lstTo.rows = {"a@x.org"};
     mail.txtSubject.text = "Standings";
     mail.cmdExit.click();
-    EXPECT_TRUE(state.mailDraft.cancelled);
-    EXPECT_TRUE(state.mailDraft.recipients.empty());
-    EXPECT_EQ(state.mailDraft.subject, "");
+    EXPECT_TRUE(draft.cancelled);
+    EXPECT_TRUE(draft.recipients.empty());
+    EXPECT_EQ(draft.subject, "");
     EXPECT_TRUE(closed());
 }
 
 TEST_F(EmailScreenTest, TheCloseButtonAndEscapeAreExit)
 {
     open().closeRequested();
-    EXPECT_TRUE(state.mailDraft.cancelled);
+    EXPECT_TRUE(draft.cancelled);
     EXPECT_TRUE(closed());
 }
 

@@ -127,9 +127,9 @@ TEST_F(PlayersScreenTest, InThatModeARecordWhoseFileVanishedIsDeletedAndTheScree
     EXPECT_TRUE(closed());
 }
 
-TEST_F(PlayersScreenTest, FileNamesAreComparedWithoutTheirLastEndingOnly)
+TEST_F(PlayersScreenTest, FileNamesAreComparedWithoutTheirLastExtensionOnly)
 {
-    // "MATTHCOX" holds the letters of the ending; cut there it would be everybody whose name begins with MAT.
+    // "MATTHCOX" holds the letters of the extension; cut there it would be everybody whose name begins with MAT.
     scratch.put("PLAYERNAMES.CSV", playerFile({csv("Matt", "MATTHC_A.THC"), csv("Matthcox", "MATTHCOX.THC")}));
     PlayersScreen& names = openAfterSave(SaveKind::SameName, "Matthcox.THC", "Matthcox,M");
     EXPECT_EQ(names.lstNames.selected, 1);
@@ -146,7 +146,7 @@ TEST_F(PlayersScreenTest, AFullRecordStandsForTheOneFileThatBeginsWithIt)
     names.cmdAdd.click();
     EXPECT_EQ(written(), playerFile({csv("Montgomery-Featherstoneha", "MONTGOMERY-FEATHERSTONEHAUGH_WILH")}));
 
-    state.handOver.reset();
+    saved.reset();
     PlayersScreen& later = open();
     select(0);
     later.cmdDelete.click();
@@ -163,7 +163,7 @@ TEST_F(PlayersScreenTest, ARecordCutAtABlankStandsForItsFileToo)
     EXPECT_TRUE(names.lstNames.rows.empty()) << "its record was not found";
     names.cmdCancel.click();
 
-    state.handOver.reset();
+    saved.reset();
     PlayersScreen& later = open();
     select(0);
     platform.dialogs.answer(ui::Answer::Ok);
@@ -188,11 +188,11 @@ TEST_F(PlayersScreenTest, AFullRecordThatSeveralFilesBeginWithStandsForNone)
     EXPECT_TRUE(scratch.has(start + "elm.THC"));
 }
 
-TEST_F(PlayersScreenTest, ClosingClearsTheHandOver)
+TEST_F(PlayersScreenTest, ClosingClearsWhatTheBoardLeft)
 {
     openAfterSave(SaveKind::NewFile, "Baker_C.THC", "Baker,C");
     screen->unloading();
-    EXPECT_FALSE(state.handOver);
+    EXPECT_FALSE(saved);
 }
 
 } // namespace

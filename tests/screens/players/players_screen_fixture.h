@@ -24,15 +24,16 @@ protected:
 
     PlayersScreen& open()
     {
-        screens.open.insert(ScreenKind::PlayerNames);
-        screen = std::make_unique<PlayersScreen>(folder, platform.services, state, screens);
+        screens.open.insert(ScreenKind::Players);
+        screen = std::make_unique<PlayersScreen>(folder, platform.services, screens, saved);
         screen->load();
+        screen->showState();
         return *screen;
     }
 
     PlayersScreen& openAfterSave(SaveKind kind, const std::string& file, const std::string& player)
     {
-        state.handOver = PlayerHandOver{player, scratch.path() / file, kind};
+        saved = SavedPlayer{player, scratch.path() / file, kind};
         return open();
     }
 
@@ -40,9 +41,10 @@ protected:
     {
         screen->lstNames.selected = row;
         screen->lstNames.chosen();
+        screen->showState();
     }
 
-    bool closed() const { return screens.unloads == std::vector<ScreenKind>{ScreenKind::PlayerNames}; }
+    bool closed() const { return screens.unloads == std::vector<ScreenKind>{ScreenKind::Players}; }
     bool stillOpen() const { return screens.unloads.empty(); }
     std::string written() const { return scratch.get("PLAYERNAMES.CSV"); }
 
@@ -63,7 +65,7 @@ protected:
     ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     FakePlatform platform;
-    modTallyhoop state;
+    std::optional<SavedPlayer> saved;
     FakeScreens screens;
     std::unique_ptr<PlayersScreen> screen;
 };

@@ -1,5 +1,5 @@
-// tests/screens/players/players_screen_trouble_test.cpp - a list that cannot be read or written, and text that cannot
-// stand in it.
+// tests/screens/players/players_screen_trouble_test.cpp - a list that cannot be read or written, and text that it
+// cannot hold.
 #include "screens/players/players_screen_fixture.h"
 
 namespace tallyhoop::test {
@@ -69,7 +69,7 @@ TEST_F(PlayersScreenTest, AChangeThatCouldNotBeWrittenInTheSameNameModeCanBeTrie
     EXPECT_EQ(written(), playerFile({csv("Adams,B", "ADAMS_B.THC", "b@example.org", "555-4242"), smith}));
 }
 
-// What cannot stand in the file.
+// What the file cannot hold.
 
 TEST_F(PlayersScreenTest, ADoubleQuoteCannotBeTyped)
 {

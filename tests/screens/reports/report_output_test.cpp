@@ -1,8 +1,7 @@
-// tests/screens/reports/report_output_test.cpp - margins, and where attachments stand.
+// tests/screens/reports/report_output_test.cpp - margins, the places of attachments, the table of reports.
 #include "screens/reports/report_output.h"
 
 #include "fakes/fake_platform.h"
-#include "reports/report_table.h"
 
 #include <gtest/gtest.h>
 
@@ -50,7 +49,7 @@ TEST(TextPrintout, CarriesLinesFontAndOrientation)
 
 TEST(ReportMessage, PutsTheAttachmentsOnTheTrailingBlanksOfTheBody)
 {
-    const MailDraft draft{{"a@b.c", "d@e.f"}, "Standings", "Hello", false, false};
+    const MailDraft draft{.recipients = {"a@b.c", "d@e.f"}, .subject = "Standings", .message = "Hello"};
     const std::vector<std::filesystem::path> files{"one", "two", "three"};
 
     const ui::MailMessage message = reportMessage(draft, files);
@@ -76,36 +75,26 @@ TEST(ReportMessage, HasRoomForSevenAttachments)
     EXPECT_LT(message.attachments.back().position, message.body.size());
 }
 
-TEST(ReportTable, NamesKeyFileAndOrientationOfEveryReport)
+TEST(ReportTable, NamesFileAndOrientationOfEveryReport)
 {
-    const std::array<std::array<std::string, 3>, 7> expected{{
-        {"TournamentStandings", "RPTOPT1.TXT", "Landscape"},
-        {"PlayerListing", "RPTOPT2.TXT", "Landscape"},
-        {"TeamSelectionSummary", "RPTOPT3.TXT", "Portrait"},
-        {"TeamSelectionDetail", "RPTOPT4.TXT", "Portrait"},
-        {"PlayerSelectionDetail", "RPTOPT5.TXT", "Landscape"},
-        {"ResultsByPlayer", "RPTOPT6.TXT", "Portrait"},
-        {"ResultsByTeam", "RPTOPT7.TXT", "Portrait"},
+    const auto across = ui::Orientation::Landscape;
+    const auto upright = ui::Orientation::Portrait;
+    const std::array<std::pair<std::string, ui::Orientation>, 7> expected{{
+        {"RPTOPT1.TXT", across},
+        {"RPTOPT2.TXT", across},
+        {"RPTOPT3.TXT", upright},
+        {"RPTOPT4.TXT", upright},
+        {"RPTOPT5.TXT", across},
+        {"RPTOPT6.TXT", upright},
+        {"RPTOPT7.TXT", upright},
     }};
     for (std::size_t i = 0; i < kReports; ++i) {
         const ReportKind& kind = reportTable()[i];
-        EXPECT_EQ((std::array<std::string, 3>{kind.key, kind.file, kind.orientation}), expected[i]);
+        EXPECT_EQ(kind.file, expected[i].first);
+        EXPECT_EQ(orientationOf(kind.orientation), expected[i].second) << kind.file;
         EXPECT_EQ(static_cast<std::size_t>(kind.id), i);
-        EXPECT_EQ(findReport(kind.key), &kind);
+        EXPECT_EQ(&reportKind(kind.id), &kind);
     }
-}
-
-TEST(ReportTable, KnowsNoOtherKey)
-{
-    EXPECT_EQ(findReport("Standings"), nullptr);
-    EXPECT_EQ(findReport("tournamentstandings"), nullptr);
-}
-
-TEST(ReportFailure, SaysSomethingEvenWithoutAReason)
-{
-    EXPECT_EQ(reportFailure(reportTable()[1], ""),
-              (ui::Message{"TALLYHOOP - frmPoolReports, Player Listing", "General Error Condition", ui::Buttons::Ok,
-                           ui::Icon::Critical}));
 }
 
 } // namespace

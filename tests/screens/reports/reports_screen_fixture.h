@@ -26,18 +26,21 @@ struct ReportsScreenTest : testing::Test {
     ScratchFolder folder;
     DataFolder dataFolder = folder.folder();
     FakePlatform platform;
-    modTallyhoop state;
     FakeScreens screens;
-    FakeBoard board{state};
-    ReportsScreen screen{dataFolder, platform.services, state, screens, board};
+    Field field = defaultField();
+    MailDraft draft;
+    FakeBoard board;
+    ReportsScreen screen{dataFolder, platform.services, screens, field, draft, board};
 
-    ReportsScreenTest() { state.setupLines[64] = "Office Pool 2001"; }
+    ReportsScreenTest() { field.title = "Office Pool 2001"; }
 
     void tick(std::initializer_list<Report> reports)
     {
         for (const Report report : reports)
-            screen.chkOptions[static_cast<std::size_t>(report)].ticked = true;
+            screen.chkOptions[report].ticked = true;
     }
+
+    void tickAll() { tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam}); }
 
     void create(Destination destination)
     {
@@ -45,7 +48,7 @@ struct ReportsScreenTest : testing::Test {
         screen.cmdPrintSelections.click();
     }
 
-    bool isTicked(Report report) const { return screen.chkOptions[static_cast<std::size_t>(report)].ticked; }
+    bool isTicked(Report report) const { return screen.chkOptions[report].ticked; }
 
     /// @returns whether any report file or the work file is there
     bool anyReportWritten() const
@@ -57,14 +60,13 @@ struct ReportsScreenTest : testing::Test {
     }
 
     /// What a person does in the e-mail dialog.
-    void sendFromTheDialog(MailDraft draft)
+    void sendFromTheDialog(const MailDraft& written)
     {
-        screens.whenLoaded = [this, draft](ScreenKind kind) {
-            EXPECT_EQ(kind, ScreenKind::EMail);
-            requested = state.mailDraft;
-            const bool emailAll = state.mailDraft.emailAll;
-            state.mailDraft = draft;
-            state.mailDraft.emailAll = emailAll;
+        screens.whenLoaded = [this, written](ScreenKind kind) {
+            EXPECT_EQ(kind, ScreenKind::Email);
+            requested = draft;
+            draft = written;
+            draft.toEverybody = requested.toEverybody;
         };
     }
 

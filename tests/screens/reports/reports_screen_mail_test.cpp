@@ -9,7 +9,8 @@ struct ReportsMail : ReportsScreenTest {
     {
         putFourPlayers(folder);
         screen.load();
-        sendFromTheDialog({{"a@example.org", "b@example.org"}, "Standings", "Hello all", false, false});
+        sendFromTheDialog(
+            {.recipients = {"a@example.org", "b@example.org"}, .subject = "Standings", .message = "Hello all"});
     }
 
     std::vector<std::string> attachedNames() const
@@ -27,7 +28,7 @@ TEST_F(ReportsMail, SendsOneMessageWithAllReports)
 
     create(kEmail);
 
-    EXPECT_EQ(screens.loads, (std::vector{FakeScreens::Load{ScreenKind::EMail, Opening::Plain}}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Email});
     ASSERT_EQ(platform.mail.sent.size(), 1u);
     const ui::MailMessage& message = platform.mail.sent[0];
     EXPECT_EQ(message.recipients, (std::vector<std::string>{"a@example.org", "b@example.org"}));
@@ -49,7 +50,7 @@ TEST_F(ReportsMail, HasTheReportFilesReadyBeforeTheDialogOpens)
         EXPECT_TRUE(folder.has("RPTOPT1.TXT"));
         EXPECT_TRUE(folder.has("RPTOPT7.TXT"));
         EXPECT_EQ(platform.progress.begun, platform.progress.ended);
-        state.mailDraft.cancelled = true;
+        draft.cancelled = true;
     };
 
     create(kEmail);
@@ -62,10 +63,10 @@ TEST_F(ReportsMail, TellsTheDialogWhetherEverybodyIsToBeAddressed)
     tick({kStandings});
 
     create(kEmail);
-    EXPECT_FALSE(requested.emailAll);
+    EXPECT_FALSE(requested.toEverybody);
 
     create(kEmailAll);
-    EXPECT_TRUE(requested.emailAll);
+    EXPECT_TRUE(requested.toEverybody);
     EXPECT_TRUE(requested.recipients.empty());
 }
 
@@ -83,7 +84,7 @@ TEST_F(ReportsMail, LeavesOutAReportThatFailed)
 
 TEST_F(ReportsMail, NeverAttachesTheOlderFileOfAReportThatFailedButStaysTicked)
 {
-    for (const PoolEntry& player : fourPlayers().players)
+    for (const Entry& player : fourPlayers())
         std::filesystem::remove(folder.path() / player.fileName);
     folder.put("RPTOPT5.TXT", "last week's");
     tick({kListing, kPlayerDetail});
@@ -108,12 +109,14 @@ TEST_F(ReportsMail, ShowsNoDialogWhenEveryReportFailed)
 
 TEST_F(ReportsMail, EndsSilentlyWhenTheDialogIsCancelled)
 {
-    sendFromTheDialog({{}, {}, {}, true, false});
+    MailDraft nothing;
+    nothing.cancelled = true;
+    sendFromTheDialog(nothing);
     tick({kStandings});
 
     create(kEmail);
 
-    EXPECT_FALSE(state.mailDraft.cancelled);
+    EXPECT_FALSE(draft.cancelled);
     EXPECT_EQ(platform.mail.signOns, 0);
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
@@ -140,13 +143,13 @@ TEST_F(ReportsMail, UsesASessionThatIsStillOpen)
     EXPECT_EQ(platform.mail.signOffs, 1);
 }
 
-TEST_F(ReportsMail, EmptiesTheRecipientsBehindIt)
+TEST_F(ReportsMail, EmptiesTheRecipientsAfterwards)
 {
     tick({kStandings});
 
     create(kEmail);
 
-    EXPECT_TRUE(state.mailDraft.recipients.empty());
+    EXPECT_TRUE(draft.recipients.empty());
 }
 
 TEST_F(ReportsMail, SaysSoWhenThereIsNoMailSystem)
@@ -177,7 +180,7 @@ TEST_F(ReportsMail, SaysSoWhenTheMessageCouldNotBeHandedOverAndSignsOff)
 
 TEST_F(ReportsMail, CarriesAllSevenReports)
 {
-    tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam});
+    tickAll();
 
     create(kEmailAll);
 

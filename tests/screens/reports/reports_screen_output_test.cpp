@@ -20,7 +20,7 @@ struct ReportsOutput : ReportsScreenTest {
 
 TEST_F(ReportsOutput, PrintsEachTickedReportInItsOrientation)
 {
-    tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam});
+    tickAll();
 
     create(kPrinter);
 

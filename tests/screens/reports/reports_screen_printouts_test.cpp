@@ -70,7 +70,7 @@ TEST_F(ReportsPrintouts, PrintTheBoardWithTheResults)
     screen.cmdSelectedPrintouts.click();
 
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Reports});
-    EXPECT_EQ(board.calls, (std::vector<std::string>{"EnterGameResults", "PrintForm"}));
+    EXPECT_EQ(board.calls, (std::vector<std::string>{"enterGameResults", "printForm"}));
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
 
@@ -81,8 +81,8 @@ TEST_F(ReportsPrintouts, IgnoreTheChosenFileForTheResultsSheet)
 
     screen.cmdSelectedPrintouts.click();
 
-    EXPECT_EQ(board.calls, (std::vector<std::string>{"EnterGameResults", "PrintForm"}));
-    EXPECT_TRUE(board.selectionsShown.empty());
+    EXPECT_EQ(board.calls, (std::vector<std::string>{"enterGameResults", "printForm"}));
+    EXPECT_TRUE(board.filesShown.empty());
 }
 
 TEST_F(ReportsPrintouts, ScoreAndPrintTheChosenPlayersBracket)
@@ -94,8 +94,48 @@ TEST_F(ReportsPrintouts, ScoreAndPrintTheChosenPlayersBracket)
 
     EXPECT_EQ(screens.raised, std::vector{ScreenKind::Board});
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Reports});
-    EXPECT_EQ(board.calls, (std::vector<std::string>{"showSelection", "ScoreSelections", "PrintForm"}));
-    EXPECT_EQ(board.selectionsShown, std::vector{folder.path() / "Baker_C.THC"});
+    EXPECT_EQ(board.calls, (std::vector<std::string>{"showScored", "printForm"}));
+    EXPECT_EQ(board.filesShown, std::vector{folder.path() / "Baker_C.THC"});
+}
+
+/// Notes what has happened to the screens when the board is asked for something.
+struct WatchingBoard : FakeBoard {
+    explicit WatchingBoard(const FakeScreens& fakeScreens) : screens{fakeScreens} {}
+
+    const FakeScreens& screens;
+    std::size_t raisedBefore = 0;
+    std::size_t unloadedBefore = 0;
+    std::size_t loadedBefore = 0;
+
+    void note()
+    {
+        raisedBefore = screens.raised.size();
+        unloadedBefore = screens.unloads.size();
+        loadedBefore = screens.loads.size();
+    }
+    void enterGameResults() override { note(); }
+    void showScored(const std::filesystem::path&) override { note(); }
+};
+
+TEST_F(ReportsPrintouts, LeaveTheScreenBeforeTheBoardChanges)
+{
+    WatchingBoard watching{screens};
+    ReportsScreen over{dataFolder, platform.services, screens, field, draft, watching};
+    over.load();
+    ui::selectOption(over.optSelected, 0);
+    over.filList.selected = 1;
+    over.cmdSelectedPrintouts.click();
+    EXPECT_EQ(watching.raisedBefore, 1u);
+    EXPECT_EQ(watching.unloadedBefore, 1u);
+
+    ui::selectOption(over.optSelected, 1);
+    over.cmdSelectedPrintouts.click();
+    EXPECT_EQ(watching.unloadedBefore, 2u);
+
+    over.cmdCustomReport.click();
+    EXPECT_EQ(watching.unloadedBefore, 3u);
+    EXPECT_EQ(watching.loadedBefore, 0u); // the score display comes after the results
+    EXPECT_EQ(screens.loads.size(), 1u);
 }
 
 TEST_F(ReportsPrintouts, StartWithNeitherOptionWhenTheScreenOpensAgain)
@@ -103,7 +143,7 @@ TEST_F(ReportsPrintouts, StartWithNeitherOptionWhenTheScreenOpensAgain)
     ui::selectOption(screen.optSelected, 1);
     screen.cmdSelectedPrintouts.click();
 
-    ReportsScreen again{dataFolder, platform.services, state, screens, board};
+    ReportsScreen again{dataFolder, platform.services, screens, field, draft, board};
     again.load();
 
     EXPECT_FALSE(again.optSelected[0].selected);
@@ -115,8 +155,8 @@ TEST_F(ReportsPrintouts, AreNotTheOnlyWayToTheResults)
     screen.cmdCustomReport.click();
 
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Reports});
-    EXPECT_EQ(board.calls, std::vector<std::string>{"EnterGameResults"});
-    EXPECT_EQ(screens.loads, (std::vector{FakeScreens::Load{ScreenKind::ScoreDisplay, Opening::Plain}}));
+    EXPECT_EQ(board.calls, std::vector<std::string>{"enterGameResults"});
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Scores});
 }
 
 } // namespace

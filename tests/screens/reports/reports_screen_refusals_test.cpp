@@ -25,7 +25,7 @@ TEST_F(ReportsScreenTest, RefusesTheStandingsWithoutSelectionFiles)
 
 TEST_F(ReportsScreenTest, RefusesTheStandingsWithoutResults)
 {
-    folder.put("Adams_AB.THC", fourPlayersResults().file());
+    folder.put("Adams_AB.THC", selectionFile(fourPlayersResults()));
     screen.load();
     tick({kStandings});
 
@@ -56,7 +56,7 @@ TEST_F(ReportsScreenTest, RefusesTheProjectionsWithoutSelectionFiles)
 
 TEST_F(ReportsScreenTest, RefusesTheProjectionsWithoutResults)
 {
-    folder.put("Adams_AB.THC", fourPlayersResults().file());
+    folder.put("Adams_AB.THC", selectionFile(fourPlayersResults()));
     screen.load();
     tick({kByPlayer, kByTeam});
 
@@ -79,16 +79,16 @@ TEST_F(ReportsScreenTest, RefusesTheProjectionsWhileAnyOfTheFinalFourIsMissing)
                                                                 "can be selected.\r\n\r\n"
                                                                 "Please correct and re-select this option.");
     screen.load();
-    for (const std::size_t line : {31u, 62u, 93u, 124u}) {
-        Bracket results = fourPlayersResults();
-        results.lines[line].clear();
-        folder.put("TALLYHOOP.THS", results.file());
+    for (int region = 0; region < kRegions; ++region) {
+        Entry results = fourPlayersResults();
+        results.picks.clear(regionWinner(region));
+        folder.put("TALLYHOOP.THS", selectionFile(results));
         platform.dialogs.shown.clear();
         tick({kByPlayer, kByTeam});
 
         create(kFile);
 
-        EXPECT_EQ(platform.dialogs.shown, (std::vector{explanation, explanation})) << line;
+        EXPECT_EQ(platform.dialogs.shown, (std::vector{explanation, explanation})) << region;
         EXPECT_FALSE(isTicked(kByPlayer));
         EXPECT_FALSE(isTicked(kByTeam));
     }
@@ -98,7 +98,9 @@ TEST_F(ReportsScreenTest, RefusesTheProjectionsWhileAnyOfTheFinalFourIsMissing)
 TEST_F(ReportsScreenTest, RefusesTheProjectionsOnceTheChampionIsKnown)
 {
     putFourPlayers(folder);
-    folder.put("TALLYHOOP.THS", fourPlayersResults().finals("OLD HARBOR", "SALT LAKE", "SALT LAKE").file());
+    folder.put(
+        "TALLYHOOP.THS",
+        selectionFile(EntryBuilder{}.upperRowsWinEverywhere().finals("OLD HARBOR", "SALT LAKE", "SALT LAKE").entry));
     const ui::Message explanation =
         exclamation("Tallyhoop - frmPoolReports, ChkFinalFour",
                     "You have already scored the tournament winner, so\r\na projection isn't meaningful");
@@ -166,7 +168,7 @@ TEST_F(ReportsScreenTest, ListsPlayersWithoutAnySelectionFileOrResults)
 {
     putFourPlayers(folder);
     std::filesystem::remove(folder.path() / "TALLYHOOP.THS");
-    for (const PoolEntry& player : fourPlayers().players)
+    for (const Entry& player : fourPlayers())
         std::filesystem::remove(folder.path() / player.fileName);
     screen.load();
     tick({kListing});
@@ -198,7 +200,7 @@ TEST_F(ReportsScreenTest, FailsEveryReportThatDoesNotClampForATitleThatIsTooWide
     putFourPlayers(folder);
     screen.load();
     screen.txtReportTitle.text = std::string(130, 'T');
-    tick({kStandings, kListing, kTeamSummary, kTeamDetail, kPlayerDetail, kByPlayer, kByTeam});
+    tickAll();
 
     create(kFile);
 
@@ -233,7 +235,7 @@ TEST_F(ReportsScreenTest, LeavesAnOlderFileOfAReportThatFails)
 TEST_F(ReportsScreenTest, FailsAReportForATieBreakerBeyondSixteenBits)
 {
     putFourPlayers(folder);
-    folder.put("Baker_C.THC", Bracket{}.player("C", "Baker", "99999").file());
+    folder.put("Baker_C.THC", selectionFile(EntryBuilder{}.player("C", "Baker", "99999").entry));
     screen.load();
     tick({kStandings});
 
@@ -249,16 +251,16 @@ TEST_F(ReportsScreenTest, FailsAReportForATieBreakerBeyondSixteenBits)
 TEST_F(ReportsScreenTest, FailsAReportForAPayoffThatDoesNotFit)
 {
     putFourPlayers(folder);
-    board.shownPayoffs = Failure{"The payoff is too large."};
+    field.payoffs = PayoffTexts{{"1", "2", "4", "8", "12", "40000"}};
     screen.load();
     tick({kStandings, kByPlayer, kByTeam});
 
     create(kFile);
 
-    EXPECT_EQ(platform.dialogs.shown,
-              (std::vector{critical("Tallyhoop - frmPoolReports, Tournament Standings", "The payoff is too large."),
-                           critical("Tallyhoop - frmPoolReports, Results by Player", "The payoff is too large."),
-                           critical("Tallyhoop - frmPoolReports, Results by Team", "The payoff is too large.")}));
+    const std::string reason = "The number \"40000\" is out of range: it must lie between -32768 and 32767.";
+    EXPECT_EQ(platform.dialogs.shown, (std::vector{critical("Tallyhoop - frmPoolReports, Tournament Standings", reason),
+                                                   critical("Tallyhoop - frmPoolReports, Results by Player", reason),
+                                                   critical("Tallyhoop - frmPoolReports, Results by Team", reason)}));
     EXPECT_FALSE(anyReportWritten());
 }
 

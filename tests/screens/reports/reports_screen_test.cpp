@@ -8,7 +8,7 @@ TEST_F(ReportsScreenTest, OpensWithNothingTickedThePrinterChosenAndThePoolsTitle
 {
     putFourPlayers(folder);
     folder.put("lower.thc", "");
-    state.mailDraft.cancelled = true;
+    draft.cancelled = true;
 
     screen.load();
 
@@ -25,8 +25,7 @@ TEST_F(ReportsScreenTest, OpensWithNothingTickedThePrinterChosenAndThePoolsTitle
               (std::vector<std::string>{"Adams_AB.THC", "Baker_C.THC", "Clark_D.THC", "Dunn_EF.THC", "lower.thc"}));
     EXPECT_FALSE(screen.filList.selected);
     EXPECT_EQ(screen.cmdDefaultPrinter.caption, "Use default printer");
-    EXPECT_FALSE(state.mailDraft.cancelled);
-    EXPECT_FALSE(board.reportsEnabled);
+    EXPECT_FALSE(draft.cancelled);
 }
 
 TEST_F(ReportsScreenTest, HasTheCaptionsThatPeopleKnow)
@@ -121,7 +120,7 @@ TEST_F(ReportsScreenTest, TakesTheFilesThatAreThereNowAndKeepsTheChosenOne)
     putFourPlayers(folder);
     screen.load();
     screen.filList.selected = 1; // Baker_C.THC
-    folder.put("Able_A.THC", fourPlayersResults().file());
+    folder.put("Able_A.THC", selectionFile(fourPlayersResults()));
     tick({kStandings});
 
     create(kFile);
@@ -131,10 +130,10 @@ TEST_F(ReportsScreenTest, TakesTheFilesThatAreThereNowAndKeepsTheChosenOne)
     EXPECT_NE(folder.get("RPTOPT1.TXT").find("Able_A.THC"), std::string::npos);
 }
 
-TEST_F(ReportsScreenTest, UsesThePayoffsOfTheBoard)
+TEST_F(ReportsScreenTest, UsesThePayoffsOfTheField)
 {
     putFourPlayers(folder);
-    board.shownPayoffs = Payoffs{2, 0, 0, 0, 0, 0};
+    field.payoffs = PayoffTexts{{"2", "0", "0", "0", "0", "0"}};
     screen.load();
     tick({kStandings});
 
@@ -180,18 +179,6 @@ TEST_F(ReportsScreenTest, SaysSoWhenThePersonCancelsAndLeavesTheFilesAsTheyAre)
     EXPECT_EQ(platform.progress.begun, platform.progress.ended);
 }
 
-TEST_F(ReportsScreenTest, LeavesTheSharedLinesAlone)
-{
-    putFourPlayers(folder);
-    state.selectionLines[127] = "on the board";
-    screen.load();
-    tick({kStandings, kByPlayer, kByTeam});
-
-    create(kFile);
-
-    EXPECT_EQ(state.selectionLines[127], "on the board");
-}
-
 TEST_F(ReportsScreenTest, ClosesByItsExitButtonAndByTheWindowsOwn)
 {
     screen.load();
@@ -212,16 +199,6 @@ TEST_F(ReportsScreenTest, SignsOffAMailSessionThatIsStillOpenWhenItCloses)
 
     EXPECT_EQ(platform.mail.signOffs, 1);
     EXPECT_FALSE(platform.mail.open);
-}
-
-TEST_F(ReportsScreenTest, LetsTheBoardOpenReportsAgainOnceItIsClosed)
-{
-    screen.load();
-    EXPECT_FALSE(board.reportsEnabled);
-
-    screen.unloading();
-
-    EXPECT_TRUE(board.reportsEnabled);
 }
 
 } // namespace

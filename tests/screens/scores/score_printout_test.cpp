@@ -1,9 +1,9 @@
 // tests/screens/scores/score_printout_test.cpp - the printed table, line by line, and the copied one.
 #include "screens/scores/score_printout.h"
 
-#include "screens/scores/score_grid.h"
 #include "ui/screen.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
 
 namespace tallyhoop {
@@ -17,7 +17,16 @@ struct ScorePrintout : testing::Test {
     ui::Screen screen{"screen", ""};
     ui::Grid grid{&screen, "grid"};
 
-    ScorePrintout() { grid.columns = columnsOf(kScoreColumns); }
+    ScorePrintout()
+    {
+        grid.columns = {{"File Name", ui::Alignment::Left, 32},
+                        {"Player Name", ui::Alignment::Left, 19},
+                        {"Score", ui::Alignment::Right, 8},
+                        {"-MAX-", ui::Alignment::Right, 6},
+                        {"Winning Pick", ui::Alignment::Left, 23}};
+    }
+
+    void putTwoColumns() { grid.columns = {{"A", ui::Alignment::Left, 1}, {"B", ui::Alignment::Left, 1}}; }
 };
 
 TEST(ShortDate, IsEnglishWithoutALeadingZero)
@@ -49,22 +58,22 @@ TEST_F(ScorePrintout, PrintsTheHeadingsAloneWithoutPlayers)
 
 TEST_F(ScorePrintout, FollowsTheOrderOfTheColumnsOnScreen)
 {
-    grid.rows = {{"Smith_JS.THC", "JS, Smith", "59", "71", "Duke"}};
-    moveColumn(grid, 2, 0);
+    std::rotate(grid.columns.begin(), grid.columns.begin() + 2, grid.columns.begin() + 3);
+    grid.rows = {{"59", "Smith_JS.THC", "JS, Smith", "71", "Duke"}};
     EXPECT_EQ(scorePrintout(grid, kDay).at(3), "      Score  File Name     Player Name   -MAX-  Winning Pick");
     EXPECT_EQ(scorePrintout(grid, kDay).at(5), "         59  Smith_JS.THC  JS, Smith        71  Duke        ");
 }
 
 TEST_F(ScorePrintout, PutsABlankIntoAnEmptyCell)
 {
-    grid.columns = columnsOf("<A|<B");
+    putTwoColumns();
     grid.rows = {{"", "x"}};
     EXPECT_EQ(scorePrintout(grid, kDay).at(5), "                  x");
 }
 
 TEST_F(ScorePrintout, PrintsALongTextWholeAndPadsOthersToTheWidestFormat)
 {
-    grid.columns = columnsOf("<A|<B");
+    putTwoColumns();
     grid.rows = {{std::string(50, 'x'), "1"}, {"y", "2"}};
     const std::vector<std::string> lines = scorePrintout(grid, kDay);
     EXPECT_EQ(lines.at(5), "     " + std::string(50, 'x') + "       1");
@@ -73,14 +82,14 @@ TEST_F(ScorePrintout, PrintsALongTextWholeAndPadsOthersToTheWidestFormat)
 
 TEST_F(ScorePrintout, AlignsAColumnOfSixCharactersToTheLeft)
 {
-    grid.columns = columnsOf("<A|<B");
+    putTwoColumns();
     grid.rows = {{"123456", "12345"}, {"1", "2"}};
     EXPECT_EQ(scorePrintout(grid, kDay).at(6), "     1            2");
 }
 
 TEST_F(ScorePrintout, CopiesTheTableAsASpreadsheetTakesIt)
 {
-    grid.columns = columnsOf("<File Name   |>Score");
+    grid.columns = {{"File Name", ui::Alignment::Left, 12}, {"Score", ui::Alignment::Right, 5}};
     grid.rows = {{"Smith_JS.THC", "59"}, {"a\tb\r\nc", ""}};
     EXPECT_EQ(tabSeparated(grid), "File Name\tScore\r\nSmith_JS.THC\t59\r\na b  c\t\r\n");
 }

@@ -1,4 +1,4 @@
-// tests/screens/scores/scores_screen_fixture.h - the score display over a scratch folder, with results for one region.
+// tests/screens/scores/scores_screen_fixture.h - the list of scores over a scratch folder, with results for one region.
 #pragma once
 
 #include "screens/scores/scores_screen.h"
@@ -17,24 +17,17 @@ struct ScoreDisplay : ::testing::Test {
     ScratchFolder scratch;
     DataFolder folder = scratch.folder();
     FakePlatform platform;
-    modTallyhoop state;
     FakeScreens screens;
-    FakeBoard board{state};
-    ScoresScreen screen{folder, platform.services, state, screens, board};
-
-    ScoreDisplay()
-    {
-        // Region 1 is played: its upper teams won, 8 * 1 + 4 * 2 + 2 * 4 + 8 = 32 points.
-        board.onBoard = without(everyUpperTeamWins(), 32, 127);
-    }
+    Field field = defaultField(); // its payoffs: 1, 2, 4, 8, 12, 16
+    // Region 1 is played: its upper teams won, 8 * 1 + 4 * 2 + 2 * 4 + 8 = 32 points.
+    Bracket results = without(everyUpperTeamWins(), 31, 126);
+    std::optional<Verdicts> verdicts;
+    ScoresScreen screen{folder, platform.services, screens, field, results, verdicts};
 
     void putPlayer(const std::string& fileName, const std::string& initials, const std::string& name,
-                   SelectionLines lines, const std::string& finalPoints = "145")
+                   const Bracket& picks, const std::string& finalPoints = "145")
     {
-        lines[selection_line::kInitials] = initials;
-        lines[selection_line::kName] = name;
-        lines[selection_line::kFinalPoints] = finalPoints;
-        scratch.put(fileName, selectionFile(lines));
+        scratch.put(fileName, selectionFile({picks, initials, name, finalPoints, {}}));
     }
 
     /// Smith has everything right (32 of 168), Adams everything wrong in region 1 (0), Brown the first round of it (8).
@@ -42,7 +35,7 @@ struct ScoreDisplay : ::testing::Test {
     {
         putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
         putPlayer("Adams_QA.THC", "QA", "Adams", everyLowerTeamWins());
-        putPlayer("Brown_TB.THC", "TB", "Brown", without(everyUpperTeamWins(), 25, 31));
+        putPlayer("Brown_TB.THC", "TB", "Brown", without(everyUpperTeamWins(), 24, 30));
     }
 
     std::vector<std::string> column(std::size_t index) const
@@ -67,9 +60,13 @@ struct ScoreDisplay : ::testing::Test {
         screen.msgScoreDisplay.columnReleased(to);
     }
 
-    std::vector<std::string> boardCallsSince(std::size_t first) const
+    void setPayoffs(const std::array<std::string, kRounds>& texts) { field.payoffs = PayoffTexts{texts}; }
+
+    /// Marks that an earlier click has left.
+    void markSomebody()
     {
-        return {board.calls.begin() + static_cast<std::ptrdiff_t>(first), board.calls.end()};
+        verdicts.emplace();
+        verdicts->values.fill(Verdict::Open);
     }
 };
 

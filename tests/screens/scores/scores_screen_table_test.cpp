@@ -38,7 +38,7 @@ TEST_F(ScoreDisplay, SortsByScoreDownwardsWhenThatHeadingIsDraggedToTheFront)
 
 TEST_F(ScoreDisplay, OrdersEqualScoresByTheFollowingColumns)
 {
-    putPlayer("A_A.THC", "A", "A", without(everyUpperTeamWins(), 127, 127)); // 32 of 152
+    putPlayer("A_A.THC", "A", "A", without(everyUpperTeamWins(), 126, 126)); // 32 of 152
     putPlayer("B_B.THC", "B", "B", everyUpperTeamWins());                    // 32 of 168
     screen.load();
     screen.cmdOk.click();
@@ -76,17 +76,65 @@ TEST_F(ScoreDisplay, LeavesTheOrderAloneWhenAHeadingIsDroppedOutside)
     EXPECT_EQ(screen.msgScoreDisplay.rows, rows);
 }
 
-TEST_F(ScoreDisplay, MarksThePlayersVerdictWhenAFileNameIsClicked)
+TEST_F(ScoreDisplay, MarksThePicksOfThePlayerWhoseFileNameIsClicked)
 {
     putThreePlayers();
     screen.load();
     screen.cmdOk.click();
-    const std::size_t before = board.calls.size();
+    EXPECT_FALSE(verdicts);
     screen.msgScoreDisplay.cellPressed(0, 0); // Adams
-    EXPECT_THAT(boardCallsSince(before), ElementsAre("ClearMarks", "captureBoard", "MarkScores"));
-    EXPECT_EQ(state.verdict.SlotStatus[17], Verdict::Bad);
+    ASSERT_TRUE(verdicts);
+    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Bad);
     screen.msgScoreDisplay.cellPressed(2, 0); // Smith
-    EXPECT_EQ(state.verdict.SlotStatus[17], Verdict::Good);
+    ASSERT_TRUE(verdicts);
+    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Good);
+    EXPECT_EQ((*verdicts)[Position{30}], Verdict::Good);
+    EXPECT_EQ((*verdicts)[Position{47}], Verdict::Possible);
+}
+
+TEST_F(ScoreDisplay, MarksWhatTheFileHoldsWhenItsNameIsClicked)
+{
+    putPlayer("Smith_JS.THC", "JS", "Smith", everyLowerTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
+    screen.msgScoreDisplay.cellPressed(0, 0);
+    ASSERT_TRUE(verdicts);
+    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Good);
+}
+
+TEST_F(ScoreDisplay, MarksNobodyWhenTheClickedFileCannotBeScored)
+{
+    putThreePlayers();
+    screen.load();
+    screen.cmdOk.click();
+    markSomebody();
+    putPlayer("Adams_QA.THC", "QA", "Adams", everyUpperTeamWins(), "99999");
+    screen.msgScoreDisplay.cellPressed(0, 0);
+    EXPECT_FALSE(verdicts);
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+
+    markSomebody();
+    setPayoffs({"99999", "2", "4", "8", "12", "16"});
+    screen.msgScoreDisplay.cellPressed(2, 0);
+    EXPECT_FALSE(verdicts);
+    ASSERT_EQ(platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(platform.dialogs.shown[1].text, field.payoffs.points().failure().message);
+}
+
+TEST_F(ScoreDisplay, ReportsAClickedFileThatIsGoneAndMarksEmptyPicks)
+{
+    putThreePlayers();
+    screen.load();
+    screen.cmdOk.click();
+    std::filesystem::remove(scratch.path() / "Adams_QA.THC");
+    screen.msgScoreDisplay.cellPressed(0, 0);
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.shown[0].caption, "** ERROR IN OPENING FILE - ReadSelections Routine **");
+    EXPECT_THAT(platform.dialogs.shown[0].text, ::testing::HasSubstr("Adams_QA.THC"));
+    ASSERT_TRUE(verdicts);
+    EXPECT_THAT(verdicts->values, ::testing::Each(Verdict::Bad))
+        << "64 rows that do not match and 63 games without a pick";
 }
 
 TEST_F(ScoreDisplay, DoesNothingWhenAnotherCellIsClicked)
@@ -94,21 +142,38 @@ TEST_F(ScoreDisplay, DoesNothingWhenAnotherCellIsClicked)
     putThreePlayers();
     screen.load();
     screen.cmdOk.click();
-    const std::size_t before = board.calls.size();
+    markSomebody();
+    const std::optional<Verdicts> before = verdicts;
     for (const std::size_t other : {1u, 2u, 3u, 4u})
         screen.msgScoreDisplay.cellPressed(0, other);
-    EXPECT_THAT(boardCallsSince(before), IsEmpty());
+    EXPECT_EQ(verdicts, before);
 }
 
-TEST_F(ScoreDisplay, KnowsAFileNameInWhateverColumnAndCaseItStands)
+TEST_F(ScoreDisplay, KnowsAFileNameInWhateverColumnAndCaseItIs)
 {
     putPlayer("zorn_z.thc", "Z", "Zorn", everyUpperTeamWins());
     screen.load();
     screen.cmdOk.click();
     dragHeading(0, 4); // to the end
-    const std::size_t before = board.calls.size();
+    markSomebody();
     screen.msgScoreDisplay.cellPressed(0, 4);
-    EXPECT_THAT(boardCallsSince(before), ElementsAre("ClearMarks", "captureBoard", "MarkScores"));
+    ASSERT_TRUE(verdicts);
+    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Good);
+}
+
+TEST_F(ScoreDisplay, MarksTheRowThatIsClickedAfterSorting)
+{
+    putThreePlayers();
+    screen.load();
+    screen.cmdOk.click();
+    dragHeading(3, 0); // the maximum: Smith comes first
+    ASSERT_EQ(screen.msgScoreDisplay.rows[0][1], "Smith_JS.THC");
+    screen.msgScoreDisplay.cellPressed(0, 1);
+    ASSERT_TRUE(verdicts);
+    EXPECT_EQ((*verdicts)[Position{30}], Verdict::Good);
+    screen.msgScoreDisplay.cellPressed(2, 1); // Adams
+    ASSERT_TRUE(verdicts);
+    EXPECT_EQ((*verdicts)[Position{30}], Verdict::Bad);
 }
 
 TEST_F(ScoreDisplay, MarksAFileWhoseNameWouldNotStandForAFileOfTheFolder)
@@ -118,21 +183,22 @@ TEST_F(ScoreDisplay, MarksAFileWhoseNameWouldNotStandForAFileOfTheFolder)
     screen.cmdOk.click();
     screen.msgScoreDisplay.cellPressed(0, 0);
     EXPECT_TRUE(platform.dialogs.shown.empty());
-    EXPECT_EQ(state.verdict.SlotStatus[17], Verdict::Good);
+    ASSERT_TRUE(verdicts);
+    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Good);
 }
 
 TEST_F(ScoreDisplay, NeverReadsOutsideTheFolderForACellThatLooksLikeAFileName)
 {
     std::filesystem::create_directory(scratch.path() / "sub");
-    scratch.put("sub/X.THC", selectionFile(everyUpperTeamWins()));
+    scratch.put("sub/X.THC", selectionFile({everyUpperTeamWins(), {}, {}, {}, {}}));
     putPlayer("Smith_JS.THC", "JS", "sub/X.THC", everyUpperTeamWins());
     screen.load();
     screen.cmdOk.click();
     ASSERT_THAT(screen.msgScoreDisplay.rows[0], ::testing::Contains("JS, sub/X.THC"));
-    const std::size_t before = board.calls.size();
+    markSomebody();
     for (std::size_t column = 1; column < 5; ++column)
         screen.msgScoreDisplay.cellPressed(0, column);
-    EXPECT_THAT(boardCallsSince(before), ElementsAre("ClearMarks"));
+    EXPECT_FALSE(verdicts);
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);
 }
 

@@ -1,4 +1,4 @@
-// tests/screens/scores/scores_screen_test.cpp - the score display: opening, calculating, what can go wrong, closing.
+// tests/screens/scores/scores_screen_test.cpp - the list of scores: opening, calculating, what can go wrong, closing.
 #include "screens/scores/scores_screen_fixture.h"
 
 namespace tallyhoop::test {
@@ -8,7 +8,7 @@ using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 
-TEST_F(ScoreDisplay, ShowsItsHeadingsAndHoldsTheBoardWhenItOpens)
+TEST_F(ScoreDisplay, ShowsItsHeadingsAndNoRowWhenItOpens)
 {
     putThreePlayers();
     screen.load();
@@ -16,7 +16,6 @@ TEST_F(ScoreDisplay, ShowsItsHeadingsAndHoldsTheBoardWhenItOpens)
     EXPECT_THAT(headings(), ElementsAre("File Name", "Player Name", "Score", "-MAX-", "Winning Pick"));
     EXPECT_THAT(screen.msgScoreDisplay.rows, IsEmpty());
     EXPECT_THAT(screen.filList.rows, ElementsAre("Adams_QA.THC", "Brown_TB.THC", "Smith_JS.THC"));
-    EXPECT_TRUE(board.scoreDisplayOpen);
     EXPECT_EQ(screen.lblInformation.text, "Select a Heading Column and drag to another position to change sequence");
 }
 
@@ -36,7 +35,7 @@ TEST_F(ScoreDisplay, SaysThatNothingCouldBeScored)
     putThreePlayers();
     EXPECT_TRUE(folder.remove("Adams_QA.THC"));
     EXPECT_TRUE(folder.remove("Brown_TB.THC"));
-    board.shownPayoffs = Payoffs{32767, 32767, 32767, 32767, 32767, 32767}; // twice that is too much for a score
+    setPayoffs({"32767", "32767", "32767", "32767", "32767", "32767"}); // twice that is too much for a score
     screen.load();
     screen.cmdOk.click();
     EXPECT_THAT(screen.msgScoreDisplay.rows, IsEmpty());
@@ -47,6 +46,7 @@ TEST_F(ScoreDisplay, CalculatesARowForEveryPlayerInTheOrderOfTheFiles)
 {
     putThreePlayers();
     screen.load();
+    markSomebody();
     screen.cmdOk.click();
     ASSERT_EQ(screen.msgScoreDisplay.rows.size(), 3u);
     // Adams: nothing right in region 1, which is worth 32; the semi-final and the title were picked from other regions.
@@ -55,7 +55,7 @@ TEST_F(ScoreDisplay, CalculatesARowForEveryPlayerInTheOrderOfTheFiles)
     // regions 1 and 2 still has an entrant from region 2, so it counts as possible.
     EXPECT_THAT(screen.msgScoreDisplay.rows[1], ElementsAre("Brown_TB.THC", "TB, Brown", "8", "144", "Team 1"));
     EXPECT_THAT(screen.msgScoreDisplay.rows[2], ElementsAre("Smith_JS.THC", "JS, Smith", "32", "168", "Team 1"));
-    EXPECT_EQ(board.calls.front(), "ClearMarks");
+    EXPECT_FALSE(verdicts) << "marks of a player who was chosen before";
     EXPECT_EQ(platform.progress.begun, 1);
     EXPECT_EQ(platform.progress.ended, 1);
 }
@@ -120,11 +120,14 @@ TEST_F(ScoreDisplay, NamesAFileWhoseTieBreakerDoesNotFitAndGoesOn)
 TEST_F(ScoreDisplay, SaysOnceThatAPayoffDoesNotFit)
 {
     putThreePlayers();
-    board.shownPayoffs = Failure{"The number \"99999\" is out of range."};
+    setPayoffs({"1", "2", "4", "8", "12", "99999"});
     screen.load();
     screen.cmdOk.click();
     EXPECT_THAT(screen.msgScoreDisplay.rows, IsEmpty());
-    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.shown[0],
+              (ui::Message{"", field.payoffs.points().failure().message, ui::Buttons::Ok, ui::Icon::Critical}));
+    EXPECT_EQ(platform.progress.begun, 0);
 }
 
 TEST_F(ScoreDisplay, KeepsTheOldTableWhenThePersonCancels)
@@ -147,16 +150,44 @@ TEST_F(ScoreDisplay, UnloadsItselfOnExitAndOnClosing)
     screen.load();
     screen.cmdExit.click();
     screen.closeRequested();
-    EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::ScoreDisplay, ScreenKind::ScoreDisplay));
+    EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::Scores, ScreenKind::Scores));
 }
 
 TEST_F(ScoreDisplay, GivesTheBoardBackWithoutMarksWhoeverUnloadsIt)
 {
     screen.load();
-    const std::size_t before = board.calls.size();
+    markSomebody();
     screen.unloading();
-    EXPECT_FALSE(board.scoreDisplayOpen);
-    EXPECT_THAT(boardCallsSince(before), ElementsAre("ClearMarks"));
+    EXPECT_FALSE(verdicts);
+}
+
+TEST_F(ScoreDisplay, TakesTheResultsFromTheBoardAndThePicksFromTheFiles)
+{
+    results = without(everyUpperTeamWins(), 16, 126);
+    results.put(Position{16}, "Team 2"); // since the list was opened
+    putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
+    screen.load();
+    screen.cmdOk.click();
+    ASSERT_EQ(screen.msgScoreDisplay.rows.size(), 1u);
+    // The champion, Team 1, lost its first game: 1 + 2 + 4 + 8 + 12 + 16 of the 168 points are gone.
+    EXPECT_THAT(screen.msgScoreDisplay.rows[0], ElementsAre("Smith_JS.THC", "JS, Smith", "0", "125", "Team 1"));
+    screen.msgScoreDisplay.cellPressed(0, 0);
+    ASSERT_TRUE(verdicts);
+    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Bad);
+    EXPECT_EQ((*verdicts)[Position{24}], Verdict::Bad);
+    EXPECT_EQ((*verdicts)[Position{17}], Verdict::Possible);
+}
+
+TEST_F(ScoreDisplay, ScoresADamagedFileByWhatItHolds)
+{
+    putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
+    std::string bytes = scratch.get("Smith_JS.THC");
+    bytes.resize(bytes.size() - std::string_view{"*END*\r\n"}.size());
+    scratch.put("Smith_JS.THC", bytes);
+    screen.load();
+    screen.cmdOk.click();
+    EXPECT_THAT(column(3), ElementsAre("168"));
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
 }
 
 TEST_F(ScoreDisplay, HasAllItsControls)

@@ -9,14 +9,21 @@ namespace {
 class SeedsScreenTest : public SetupFixture
 {
 protected:
-    std::unique_ptr<SeedsScreen> seats;
+    std::unique_ptr<SeedsScreen> seeds;
 
     SeedsScreen& opened()
     {
         loaded();
-        seats = std::make_unique<SeedsScreen>(*made, computer.services, state, screens);
-        seats->load();
-        return *seats;
+        seeds = std::make_unique<SeedsScreen>(made->teamsOfFirstRegion(), made->seeds(), dialogs(), screens);
+        seeds->load();
+        return *seeds;
+    }
+
+    /// Presses Complete; the setup screen comes back from the command that opened this one.
+    void complete()
+    {
+        seeds->cmdComplete.click();
+        settle();
     }
 
     std::vector<std::string> seedsBeside(std::size_t region) const
@@ -36,7 +43,7 @@ const std::vector<std::string> kPlainDefaults = {"1", "16", "8", "9",  "5", "12"
 TEST_F(SeedsScreenTest, ShowsTheSeedsAndTheFirstRegionsTeams)
 {
     loaded().txtRegion[3].text = "Duke"; // as on the screen, saved or not
-    SeedsScreen screen{*made, computer.services, state, screens};
+    SeedsScreen screen{made->teamsOfFirstRegion(), made->seeds(), dialogs(), screens};
     EXPECT_EQ(screen.caption, "Seed Positions Entry");
     EXPECT_EQ(screen.lblRegion[15].text, "Team16");
     screen.load();
@@ -49,13 +56,14 @@ TEST_F(SeedsScreenTest, ShowsTheSeedsAndTheFirstRegionsTeams)
 
 TEST_F(SeedsScreenTest, TheDefaultsPassAndLoseTheirLeadingBlanks)
 {
-    opened().cmdComplete.click();
+    opened();
+    complete();
     EXPECT_TRUE(dialogs().shown.empty());
     for (const std::size_t region : {0U, 1U, 2U, 3U})
         EXPECT_EQ(seedsBeside(region), kPlainDefaults);
     for (std::size_t row = 0; row < 16; ++row)
-        EXPECT_EQ(state.seedLabels[row], kPlainDefaults[row]);
-    EXPECT_EQ(screens.unloads, std::vector{ScreenKind::SeedPositions});
+        EXPECT_EQ(made->seeds().at(row), kPlainDefaults[row]);
+    EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Seeds});
     EXPECT_EQ(made->status, "There are changes that are not saved yet.");
 }
 
@@ -63,9 +71,9 @@ TEST_F(SeedsScreenTest, NewSeedsAreWrittenOnlyWhenTheSetupIsSaved)
 {
     opened();
     for (std::size_t row = 0; row < 16; ++row)
-        seats->txtSeed[row].text = std::to_string(16 - row);
-    seats->txtSeed[9].text = " 07 "; // row 9 holds 16 - 9
-    seats->cmdComplete.click();
+        seeds->txtSeed[row].text = std::to_string(16 - row);
+    seeds->txtSeed[9].text = " 07 "; // row 9 holds 16 - 9
+    complete();
     EXPECT_FALSE(files.has("POOLSTART.THS"));
     made->mnuSaveStartingField.click();
     EXPECT_NE(files.get("POOLSTART.THS")
@@ -79,8 +87,8 @@ TEST_F(SeedsScreenTest, RefusesInvalidSeedsAndStaysOpenAsTyped)
         opened(); // row 4 already holds 5
         dialogs().shown.clear();
         screens.unloads.clear();
-        seats->txtSeed[7].text = seed;
-        seats->cmdComplete.click();
+        seeds->txtSeed[7].text = seed;
+        complete();
         EXPECT_EQ(dialogs().shown,
                   (std::vector<ui::Message>{{"SEED Entry ERROR",
                                              "You have entered invalid entries for the SEED postions.\r\n"
@@ -88,33 +96,33 @@ TEST_F(SeedsScreenTest, RefusesInvalidSeedsAndStaysOpenAsTyped)
                                              ui::Buttons::Ok, ui::Icon::None}}))
             << seed;
         EXPECT_TRUE(screens.unloads.empty());
-        EXPECT_EQ(seats->txtSeed[7].text, seed);
+        EXPECT_EQ(seeds->txtSeed[7].text, seed);
         EXPECT_EQ(seedsBeside(0), kDefaults);
-        EXPECT_EQ(state.seedLabels[7], "13");
+        EXPECT_EQ(made->seeds()[7], "13");
     }
 }
 
 TEST_F(SeedsScreenTest, AFractionCountsAsTheNearestWholeNumber)
 {
     opened();
-    seats->txtSeed[0].text = "1.4";
-    seats->cmdComplete.click();
+    seeds->txtSeed[0].text = "1.4";
+    complete();
     EXPECT_TRUE(dialogs().shown.empty());
     EXPECT_EQ(made->lblSeed[48].text, "1");
 
     opened();
-    seats->txtSeed[0].text = "1.4";
-    seats->txtSeed[14].text = "1"; // was 2
-    seats->cmdComplete.click();
+    seeds->txtSeed[0].text = "1.4";
+    seeds->txtSeed[14].text = "1"; // was 2
+    complete();
     EXPECT_EQ(dialogs().captionsShown(), std::vector<std::string>{"SEED Entry ERROR"});
 }
 
 TEST_F(SeedsScreenTest, HalvesGoToTheEvenNumber)
 {
     opened();
-    seats->txtSeed[14].text = "2.5"; // 2, which it was
-    seats->txtSeed[10].text = "3";
-    seats->cmdComplete.click();
+    seeds->txtSeed[14].text = "2.5"; // 2, which it was
+    seeds->txtSeed[10].text = "3";
+    complete();
     EXPECT_TRUE(dialogs().shown.empty());
     EXPECT_EQ(made->lblSeed[14].text, "2");
 }
@@ -124,16 +132,17 @@ TEST_F(SeedsScreenTest, CancelAndTheCloseButtonChangeNothing)
     for (const bool byButton : {true, false}) {
         opened();
         screens.unloads.clear();
-        seats->txtSeed[0].text = "2";
-        seats->txtSeed[14].text = "1";
+        seeds->txtSeed[0].text = "2";
+        seeds->txtSeed[14].text = "1";
         if (byButton)
-            seats->cmdCancel.click();
+            seeds->cmdCancel.click();
         else
-            seats->closeRequested();
+            seeds->closeRequested();
+        settle();
         EXPECT_EQ(seedsBeside(0), kDefaults);
         EXPECT_EQ(seedsBeside(3), kDefaults);
-        EXPECT_EQ(state.seedLabels[0], " 1");
-        EXPECT_EQ(screens.unloads, std::vector{ScreenKind::SeedPositions});
+        EXPECT_EQ(made->seeds()[0], " 1");
+        EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Seeds});
     }
 }
 

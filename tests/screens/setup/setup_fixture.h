@@ -28,57 +28,59 @@ protected:
     DataFolder folder = files.folder();
     FakePlatform computer;
     FakeScreens screens;
-    modTallyhoop state;
+    Field field; ///< the open one
     std::unique_ptr<SetupScreen> made;
 
     FakeDialogs& dialogs() { return computer.dialogs; }
 
-    SetupScreen& loaded(Opening opening = Opening::Plain)
+    SetupScreen& loaded(const std::string& notice = {})
     {
         if (!files.has("NCAALIST.THS"))
             files.put("NCAALIST.THS", smallTeamList());
-        return loadedAsIs(opening);
+        return loadedAsIs(notice);
     }
 
-    SetupScreen& loadedAsIs(Opening opening = Opening::Plain)
+    SetupScreen& loadedAsIs(const std::string& notice = {})
     {
-        made = std::make_unique<SetupScreen>(folder, computer.services, state, screens, opening);
+        made = std::make_unique<SetupScreen>(folder, computer.services, screens, field, notice);
         screens.open.insert(ScreenKind::Setup);
         made->load();
-        settleFocus();
+        settle();
         return *made;
     }
 
-    /// Reports a moved focus as the windows do: first who lost it, then who got it.
-    void settleFocus()
+    /// Does what the windows do after each command: a moved focus is reported, first who lost it, then who got it, and
+    /// the screen shows its state.
+    void settle()
     {
-        if (made->focused == m_reported)
-            return;
-        if (m_reported != nullptr)
-            made->lostFocus(*m_reported);
-        m_reported = made->focused;
-        if (m_reported != nullptr)
-            made->gotFocus(*m_reported);
+        if (made->focused != m_reported) {
+            if (m_reported != nullptr)
+                made->lostFocus(*m_reported);
+            m_reported = made->focused;
+            if (m_reported != nullptr)
+                made->gotFocus(*m_reported);
+        }
+        made->showState();
     }
 
     void focus(ui::Control& control)
     {
         made->focused = &control;
-        settleFocus();
+        settle();
     }
 
     /// @returns whether the screen dealt with the key
     bool press(ui::Key key)
     {
         const bool consumed = made->keyPressed(*made->focused, ui::KeyPress{key});
-        settleFocus();
+        settle();
         return consumed;
     }
 
     bool type(char character)
     {
         const bool consumed = made->keyPressed(*made->focused, ui::KeyPress{ui::Key::Character, character});
-        settleFocus();
+        settle();
         return consumed;
     }
 
@@ -91,9 +93,9 @@ protected:
     void click(ui::Command& command)
     {
         made->focused = &command;
-        settleFocus();
+        settle();
         command.click();
-        settleFocus();
+        settle();
     }
 
     /// The mouse presses a row of the list.
@@ -102,6 +104,7 @@ protected:
         focus(made->lstTeamNames);
         made->lstTeamNames.selected = row;
         made->lstTeamNames.pressed();
+        settle();
     }
 
     /// Types into a box that takes any text.
@@ -111,7 +114,19 @@ protected:
         box.text = text;
         if (box.edited)
             box.edited();
+        settle();
     }
+
+    /// @returns whether the screen dealt with the text
+    bool paste(ui::TextBox& box, const std::string& text)
+    {
+        const bool dealtWith = made->pasted(box, text);
+        settle();
+        return dealtWith;
+    }
+
+    bool isOverridden() const { return !made->lstTeamNames.enabled; }
+    bool isFinalizing() const { return !made->cmdFinalize.enabled; }
 
     std::vector<std::string> teams(std::size_t first, std::size_t count) const
     {

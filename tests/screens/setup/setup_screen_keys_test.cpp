@@ -74,8 +74,8 @@ TEST_F(SetupScreenKeys, WhatACutLeavesBehindIsNotKeptUnlessTheListHoldsIt)
 TEST_F(SetupScreenKeys, ShortcutsAreNotTakenForText)
 {
     SetupScreen& screen = loaded();
-    EXPECT_FALSE(screen.keyPressed(screen.txtRegion[0], {Key::Character, 'x', false, true, false}));
-    EXPECT_FALSE(screen.keyPressed(screen.txtRegion[0], {Key::Character, 'd', false, false, true}));
+    EXPECT_FALSE(screen.keyPressed(screen.txtRegion[0], {.key = Key::Character, .character = 'x', .control = true}));
+    EXPECT_FALSE(screen.keyPressed(screen.txtRegion[0], {.key = Key::Character, .character = 'd', .alt = true}));
     EXPECT_EQ(screen.txtRegion[0].text, "TEAM1");
 }
 
@@ -98,17 +98,21 @@ TEST_F(SetupScreenKeys, UpInBoxFiveEmptiesItUntilEnterInTheListFillsItAndMovesOn
     EXPECT_TRUE(press(Key::Enter));
     EXPECT_EQ(screen.txtRegion[5].text, "Duke");
     EXPECT_EQ(screen.focused, &screen.txtRegion[6]);
-    EXPECT_EQ(screen.LastTeamBox, 6);
     EXPECT_FALSE(screen.lstTeamNames.selected);
     EXPECT_FALSE(screen.txtRegion[5].background); // the list lost the focus
+    pressRow(0);
+    EXPECT_EQ(screen.txtRegion[6].background, kLightGreen); // the next one to be filled
 }
 
 TEST_F(SetupScreenKeys, ForwardedKeysMoveTheListAsIfPressedInIt)
 {
+    std::string list = "*START*\r\nAkron\r\nDuke\r\nDuquesne\r\nIowa\r\nIowa St.\r\nKansas\r\nLSU\r\nOhio\r\nTexas\r\n";
+    for (int i = 10; i < 50; ++i)
+        list += "Zteam" + std::to_string(i) + "\r\n";
+    files.put("NCAALIST.THS", list + "*END*\r\n");
     for (const Key key : {Key::Up, Key::Down, Key::PageUp, Key::PageDown}) {
         SetupScreen& screen = loaded();
-        for (int i = 0; i < 40; ++i)
-            screen.lstTeamNames.rows.push_back("Zteam" + std::to_string(i));
+        ASSERT_EQ(screen.lstTeamNames.rows.size(), 49U);
         focus(screen.txtRegion[2]);
         type('t'); // selects Texas, row 8
         ASSERT_EQ(screen.lstTeamNames.selected, 8);
@@ -184,16 +188,20 @@ TEST_F(SetupScreenKeys, TheMarkGoesWhenTheListLosesTheFocus)
     focus(screen.txtRegion[20]);
     EXPECT_FALSE(screen.txtRegion[9].background);
     EXPECT_FALSE(screen.txtRegion[20].background);
-    EXPECT_EQ(screen.LastTeamBox, 20);
     EXPECT_FALSE(screen.lstTeamNames.selected);
+    pressRow(6);
+    press(Key::Enter);
+    EXPECT_EQ(screen.txtRegion[20].text, "LSU");
 }
 
-TEST_F(SetupScreenKeys, OtherBoxesDoNotBecomeTheLastTeamBox)
+TEST_F(SetupScreenKeys, TheListFillsTheLastTeamBoxAlsoAfterAnotherBoxHadTheFocus)
 {
     SetupScreen& screen = loaded();
     focus(screen.txtRegion[9]);
     focus(screen.TxtInfo[1]);
-    EXPECT_EQ(screen.LastTeamBox, 9);
+    pressRow(6);
+    press(Key::Enter);
+    EXPECT_EQ(screen.txtRegion[9].text, "LSU");
 }
 
 TEST_F(SetupScreenKeys, TheFocusLeavesATeamBoxsTextAsItWas)
@@ -212,7 +220,8 @@ TEST_F(SetupScreenKeys, EnterMovesToTheNextTeamBoxAndFromTheLastToTheFirst)
     EXPECT_EQ(screen.txtRegion[0].text, "Ohio");
     EXPECT_EQ(screen.focused, &screen.txtRegion[1]);
     EXPECT_FALSE(screen.lstTeamNames.selected);
-    EXPECT_TRUE(state.teamNames.newNames.empty());
+    screen.unloading(); // asks about names typed freely
+    EXPECT_TRUE(dialogs().shown.empty());
 
     focus(screen.txtRegion[63]);
     press(Key::Enter);

@@ -14,10 +14,32 @@ protected:
     /// Types a name into a team box while selecting is overridden, and presses Enter.
     void typeFreely(std::size_t box, const std::string& name)
     {
-        if (!made->OverrideMode)
+        if (!isOverridden())
             click(made->cmdOverride);
         edit(made->txtRegion[box], name);
         press(Key::Enter);
+    }
+
+    /// Closing the screen asks about changed names; they are dropped here.
+    void expectChangesToSave()
+    {
+        dialogs().answer(Answer::No);
+        made->unloading();
+        EXPECT_EQ(dialogs().shown.back().caption, "TEAM NAMES Changed / Added");
+    }
+
+    void expectNothingToSave()
+    {
+        dialogs().shown.clear();
+        made->unloading();
+        EXPECT_TRUE(dialogs().shown.empty());
+    }
+
+    /// Leaves the screen and saves the changed names.
+    void leaveAndSave()
+    {
+        dialogs().answer(Answer::Yes);
+        made->mnuEnd.click();
     }
 };
 
@@ -39,7 +61,7 @@ TEST_F(SetupScreenNames, AddAsksForANameAndSortsItIn)
     EXPECT_EQ(screen.lstTeamNames.rows[1], "Drake");
     EXPECT_EQ(screen.lstTeamNames.rows.size(), 10U);
     EXPECT_EQ(screen.lstTeamNames.selectedText(), "Kansas");
-    EXPECT_TRUE(state.teamNames.changed);
+    expectChangesToSave();
 }
 
 TEST_F(SetupScreenNames, AddTakesTheAnswerAsTyped)
@@ -56,7 +78,7 @@ TEST_F(SetupScreenNames, AddWithAnEmptyAnswerLeavesListAndFlagUnchanged)
     dialogs().type("");
     click(screen.cmdAddName);
     EXPECT_EQ(screen.lstTeamNames.rows, kSmallList);
-    EXPECT_FALSE(state.teamNames.changed);
+    expectNothingToSave();
 }
 
 TEST_F(SetupScreenNames, AddingANameTwiceShowsItTwiceAndWritesItOnce)
@@ -80,7 +102,7 @@ TEST_F(SetupScreenNames, ChangeWithoutASelectionShowsItsMessageAndNeverAsks)
               (std::vector<ui::Message>{{"Team Name Changes", "** You need to select one team to CHANGE **",
                                          ui::Buttons::Ok, ui::Icon::Exclamation}}));
     EXPECT_TRUE(dialogs().asked.empty());
-    EXPECT_FALSE(state.teamNames.changed);
+    expectNothingToSave();
 }
 
 TEST_F(SetupScreenNames, ChangeReplacesTheSelectedNameInPlace)
@@ -97,7 +119,7 @@ TEST_F(SetupScreenNames, ChangeReplacesTheSelectedNameInPlace)
                                          "and press enter.");
     EXPECT_EQ(screen.lstTeamNames.rows[1], "Zebra"); // sorted when the list is shown again
     EXPECT_EQ(screen.lstTeamNames.selected, 1);
-    EXPECT_TRUE(state.teamNames.changed);
+    expectChangesToSave();
 }
 
 TEST_F(SetupScreenNames, ChangeWithAnEmptyAnswerDoesNothing)
@@ -107,7 +129,7 @@ TEST_F(SetupScreenNames, ChangeWithAnEmptyAnswerDoesNothing)
     dialogs().type("");
     click(screen.cmdChangeName);
     EXPECT_EQ(screen.lstTeamNames.rows, kSmallList);
-    EXPECT_FALSE(state.teamNames.changed);
+    expectNothingToSave();
 }
 
 TEST_F(SetupScreenNames, DeleteWithoutASelectionShowsItsMessage)
@@ -134,7 +156,7 @@ TEST_F(SetupScreenNames, DeleteRemovesTheSelectedNameAfterAConfirmation)
     EXPECT_EQ(screen.lstTeamNames.rows.size(), 8U);
     EXPECT_EQ(screen.lstTeamNames.rows[3], "Iowa St.");
     EXPECT_FALSE(screen.lstTeamNames.selected);
-    EXPECT_TRUE(state.teamNames.changed);
+    expectChangesToSave();
 }
 
 TEST_F(SetupScreenNames, DeleteIsGivenUpOnCancel)
@@ -144,7 +166,7 @@ TEST_F(SetupScreenNames, DeleteIsGivenUpOnCancel)
     dialogs().answer(Answer::Cancel);
     click(screen.cmdDeleteName);
     EXPECT_EQ(screen.lstTeamNames.rows, kSmallList);
-    EXPECT_FALSE(state.teamNames.changed);
+    expectNothingToSave();
 }
 
 TEST_F(SetupScreenNames, DeletingAndThenAnsweringNoKeepsTheOldFile)
@@ -160,24 +182,24 @@ TEST_F(SetupScreenNames, DeletingAndThenAnsweringNoKeepsTheOldFile)
     EXPECT_EQ(dialogs().shown.size(), 2U);
 }
 
-TEST_F(SetupScreenNames, NamesTypedFreelyAreCollectedOnceInTheOrderTyped)
+TEST_F(SetupScreenNames, NamesTypedFreelyAreCollectedOnceEach)
 {
     loaded();
     typeFreely(0, "Utopia");
     typeFreely(1, "Arcadia");
     typeFreely(2, "Utopia");
     typeFreely(3, "utopia"); // other text, other name
-    EXPECT_EQ(state.teamNames.newNames, (std::vector<std::string>{"Utopia", "Arcadia", "utopia"}));
-    EXPECT_TRUE(state.teamNames.changed);
     EXPECT_EQ(made->focused, &made->txtRegion[4]);
+    leaveAndSave();
+    EXPECT_EQ(files.get("NCAALIST.THS"), crlf({"*START*", "Akron", "Arcadia", "Duke", "Duquesne", "Iowa", "Iowa St.",
+                                               "Kansas", "LSU", "Ohio", "Texas", "Utopia", "utopia", "*END*"}));
 }
 
 TEST_F(SetupScreenNames, AnEmptyBoxIsNotCollected)
 {
     loaded();
     typeFreely(0, "");
-    EXPECT_TRUE(state.teamNames.newNames.empty());
-    EXPECT_FALSE(state.teamNames.changed);
+    expectNothingToSave();
     EXPECT_EQ(made->focused, &made->txtRegion[1]);
 }
 
@@ -186,9 +208,10 @@ TEST_F(SetupScreenNames, ThereIsRoomForAnyNumberOfTypedNames)
     loaded();
     for (std::size_t i = 0; i < 64; ++i)
         typeFreely(i, "New " + std::to_string(i));
-    ASSERT_EQ(state.teamNames.newNames.size(), 64U);
-    EXPECT_EQ(state.teamNames.newNames[0], "New 0");
-    EXPECT_EQ(state.teamNames.newNames[63], "New 63");
+    leaveAndSave();
+    const std::string list = files.get("NCAALIST.THS");
+    for (int i = 0; i < 64; ++i)
+        EXPECT_NE(list.find("\r\nNew " + std::to_string(i) + "\r\n"), std::string::npos) << i;
 }
 
 TEST_F(SetupScreenNames, SavingOnExitSortsTypedNamesInAndWritesOneThatWasThereAlreadyOnce)
@@ -209,7 +232,7 @@ TEST_F(SetupScreenNames, SavingOnExitSortsTypedNamesInAndWritesOneThatWasThereAl
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
 }
 
-TEST_F(SetupScreenNames, ATypedNameIsWrittenOnceAlsoWhenAChangedNameStandsOutOfOrder)
+TEST_F(SetupScreenNames, ATypedNameIsWrittenOnceAlsoWhenAChangedNameIsOutOfOrder)
 {
     SetupScreen& screen = loaded();
     pressRow(4); // Iowa St., in the middle, where a search for a sorted place looks first
@@ -253,7 +276,6 @@ TEST_F(SetupScreenNames, AFailingWriteKeepsTheScreenTheNamesAndTheFile)
     EXPECT_TRUE(screens.loads.empty());
     EXPECT_TRUE(screens.unloads.empty());
     EXPECT_EQ(screen.lstTeamNames.rows, kSmallList);
-    EXPECT_EQ(state.teamNames.newNames, std::vector<std::string>{"Utopia"});
 
     // Once the trouble is gone the same command succeeds.
     std::filesystem::remove_all(files.path() / "NCAALIST.THS");
@@ -280,14 +302,14 @@ TEST_F(SetupScreenNames, TheQuestionAlsoComesWhenADemoCommandReloadsTheScreen)
     dialogs().answer(Answer::Yes);
     made->mnuDemoReset.click();
     EXPECT_NE(files.get("NCAALIST.THS").find("\r\nUtopia\r\n"), std::string::npos);
-    EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Setup, Opening::DemoLeft}}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Setup});
 }
 
 TEST_F(SetupScreenNames, ADemoCommandKeepsTheScreenAndTheNamesThatCannotBeWritten)
 {
     files.put("TALLYHOOP.INI", "1\r\n");
-    SetupLines sample = defaultSetupLines();
-    sample[setup_line::kTeam] = "Sample";
+    Field sample = defaultField();
+    sample.teams[TeamRow{0}] = "Sample";
     files.put("POOLSTART.THS", setupFile(sample));
     SetupScreen& screen = loaded();
     click(screen.cmdFinalize);
@@ -299,7 +321,6 @@ TEST_F(SetupScreenNames, ADemoCommandKeepsTheScreenAndTheNamesThatCannotBeWritte
     EXPECT_EQ(dialogs().shown.back().caption, "** ERROR IN WRITING FILE **");
     EXPECT_TRUE(screens.unloads.empty());
     EXPECT_TRUE(screens.loads.empty());
-    EXPECT_EQ(state.teamNames.newNames, std::vector<std::string>{"Utopia"});
     EXPECT_EQ(screen.lstTeamNames.rows, kSmallList);
 
     // Everything else is as on a screen that is loaded anew.
@@ -307,8 +328,10 @@ TEST_F(SetupScreenNames, ADemoCommandKeepsTheScreenAndTheNamesThatCannotBeWritte
     EXPECT_FALSE(screen.lblDemoMode.visible);
     EXPECT_FALSE(screen.mnuDemoReset.enabled);
     EXPECT_TRUE(screen.mnuDemoSet.enabled);
-    EXPECT_EQ(screen.FinalizeState, "0");
     EXPECT_TRUE(screen.cmdFinalize.enabled);
+    EXPECT_EQ(screen.status,
+              "There are no unsaved changes.  Files that you changed in demo mode are kept in the folder "
+              "Backup 2001-03-05 101530."); // such as the field above
 
     // And the names can still be saved.
     std::filesystem::remove_all(files.path() / "NCAALIST.THS");

@@ -13,7 +13,7 @@ class SetupScreenSave : public SetupFixture
 protected:
     void finalizeAndSave()
     {
-        if (made->FinalizeState != "1")
+        if (!isFinalizing())
             click(made->cmdFinalize);
         made->mnuSaveStartingField.click();
     }
@@ -25,12 +25,11 @@ protected:
         EXPECT_EQ(made->focused, &box);
         EXPECT_FALSE(files.has("POOLSTART.THS"));
         EXPECT_TRUE(screens.unloads.empty());
-        EXPECT_EQ(made->FinalizeState, "1");
-        EXPECT_FALSE(made->cmdFinalize.enabled);
+        EXPECT_TRUE(isFinalizing());
     }
 };
 
-/// The file of a field whose team i (0..63) is "Team i", with the given tail behind the payoffs.
+/// The file of a field whose team i (0..63) is "Team i", with the given tail after the payoffs.
 std::string expectedFile(const std::string& payoffs, const std::string& seeds, const std::string& tail)
 {
     std::string bytes = "*START*\r\n";
@@ -56,7 +55,7 @@ void fillIn(SetupScreen& screen)
     screen.txtComment2.text = "";
 }
 
-TEST_F(SetupScreenSave, WritesEveryFieldAsItStandsInItsBox)
+TEST_F(SetupScreenSave, WritesEveryTextAsItIsInItsBox)
 {
     SetupScreen& screen = loaded();
     fillIn(screen);
@@ -101,7 +100,6 @@ TEST_F(SetupScreenSave, FinalizeArmsTheNextSaveAndDisablesItself)
 {
     SetupScreen& screen = loaded();
     click(screen.cmdFinalize);
-    EXPECT_EQ(screen.FinalizeState, "1");
     EXPECT_FALSE(screen.cmdFinalize.enabled);
     EXPECT_FALSE(files.has("POOLSTART.THS"));
     EXPECT_NE(screen.status.find("Finalize Tournament takes effect with File, Save."), std::string::npos);
@@ -211,7 +209,7 @@ TEST_F(SetupScreenSave, FinalizingAsksFirstAndThenShowsTheBoard)
                    "\r\n"
                    "Otherwise, select CANCEL and the \"Finalize Tournament\" option will be reset.",
                    ui::Buttons::OkCancel, ui::Icon::None}}));
-    EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Board, Opening::Plain}}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
     EXPECT_NE(files.get("POOLSTART.THS").find("\r\n1\r\n*END*\r\n"), std::string::npos);
 }
@@ -222,7 +220,7 @@ TEST_F(SetupScreenSave, CancelAtTheQuestionWritesNothingAndTheNextSaveWritesZero
     dialogs().answer(Answer::Cancel);
     finalizeAndSave();
     EXPECT_FALSE(files.has("POOLSTART.THS"));
-    EXPECT_EQ(screen.FinalizeState, "0");
+    EXPECT_EQ(screen.status.find("Finalize Tournament takes effect"), std::string::npos);
     EXPECT_TRUE(screen.cmdFinalize.enabled);
     EXPECT_TRUE(screens.unloads.empty());
 
@@ -261,7 +259,7 @@ TEST_F(SetupScreenSave, InDemoModeTheFinalizeQuestionStillComesBeforeTheRefusal)
     dialogs().answer(Answer::Ok);
     finalizeAndSave();
     EXPECT_EQ(dialogs().captionsShown(), (std::vector<std::string>{"", "DEMO MODE SAVE ATTEMPT"}));
-    EXPECT_EQ(screen.FinalizeState, "1"); // left as it was
+    EXPECT_NE(screen.status.find("Finalize Tournament takes effect"), std::string::npos); // as it was
     EXPECT_FALSE(screen.cmdFinalize.enabled);
     EXPECT_FALSE(files.has("POOLSTART.THS"));
     EXPECT_TRUE(screens.unloads.empty());

@@ -26,7 +26,7 @@ std::string tellingSetup(const std::string& finalized = "0")
 
 TEST_F(SetupScreenTest, ShowsTheDesignTextsUntilItIsLoaded)
 {
-    const SetupScreen screen{folder, computer.services, state, screens};
+    const SetupScreen screen{folder, computer.services, screens, field};
     EXPECT_EQ(screen.caption, "Define Starting Field & Options");
     EXPECT_EQ(screen.txtRegion[0].text, "Team 1");
     EXPECT_EQ(screen.txtRegion[63].text, "Team 64");
@@ -40,7 +40,7 @@ TEST_F(SetupScreenTest, ShowsTheDesignTextsUntilItIsLoaded)
 
 TEST_F(SetupScreenTest, HasTheTabOrderThatItsKeyRulesRelyOn)
 {
-    const SetupScreen screen{folder, computer.services, state, screens};
+    const SetupScreen screen{folder, computer.services, screens, field};
     EXPECT_EQ(screen.controlAtTab(0), &screen.txtRegion[0]);
     EXPECT_EQ(screen.controlAtTab(63), &screen.txtRegion[63]);
     EXPECT_EQ(screen.controlAtTab(64), &screen.TxtInfo[1]);
@@ -82,7 +82,8 @@ TEST_F(SetupScreenTest, ShowsTheSetupFile)
         EXPECT_EQ(screen.lblSeed[16 * region].text, "S1");
         EXPECT_EQ(screen.lblSeed[16 * region + 15].text, "S16");
     }
-    EXPECT_EQ(state.seedLabels[15], "S16");
+    EXPECT_EQ(field.seeds[15], "S16");
+    EXPECT_EQ(field.teams[TeamRow{63}], "T64"); // what the board will show
     EXPECT_TRUE(dialogs().shown.empty());
 }
 
@@ -94,9 +95,10 @@ TEST_F(SetupScreenTest, ShowsTheDefaultsWithoutASetupFile)
     EXPECT_EQ(screen.lblSeed[0].text, " 1");
     EXPECT_EQ(screen.lblSeed[17].text, "16");
     EXPECT_EQ(screen.txtComment1.text, "");
-    EXPECT_EQ(screen.FinalizeState, "0");
-    EXPECT_FALSE(screen.OverrideMode);
-    EXPECT_EQ(screen.LastTeamBox, 0);
+    EXPECT_FALSE(isFinalizing());
+    EXPECT_FALSE(isOverridden());
+    pressRow(1);
+    EXPECT_TRUE(screen.txtRegion[0].background); // it is the one that the list fills
 }
 
 TEST_F(SetupScreenTest, ListsTheTeamNamesSortedUpToTheFirstEmptyOne)
@@ -116,13 +118,31 @@ TEST_F(SetupScreenTest, StaysUsableWithoutATeamListAndSaysHowNamesAreTyped)
     EXPECT_NE(screen.status.find("Override Selecting Team Names"), std::string::npos);
 }
 
-TEST_F(SetupScreenTest, ForgetsTypedNamesAndTheirFlagWhenItLoads)
+TEST_F(SetupScreenTest, KnowsNothingOfNamesTypedOnAnEarlierScreen)
 {
-    state.teamNames.changed = true;
-    state.teamNames.newNames = {"Old"};
-    loaded();
-    EXPECT_FALSE(state.teamNames.changed);
-    EXPECT_TRUE(state.teamNames.newNames.empty());
+    SetupScreen& earlier = loaded();
+    click(earlier.cmdOverride);
+    edit(earlier.txtRegion[0], "Old");
+    press(ui::Key::Enter);
+    loaded().mnuEnd.click();
+    EXPECT_TRUE(dialogs().shown.empty());
+}
+
+TEST_F(SetupScreenTest, KeepsOfTheOpenFieldWhatAShortFileLacks)
+{
+    field.comment1 = "the fee";
+    files.put("POOLSTART.THS", crlf({"*START*", "Duke", "*END*"}));
+    const SetupScreen& screen = loaded();
+    EXPECT_EQ(screen.txtRegion[0].text, "Duke");
+    EXPECT_EQ(screen.txtComment1.text, "the fee");
+}
+
+TEST_F(SetupScreenTest, LeavesTheOpenFieldAsTheFileHasIt)
+{
+    SetupScreen& screen = loaded();
+    edit(screen.TxtInfo[0], "Changed");
+    screen.mnuSaveStartingField.click();
+    EXPECT_EQ(field, defaultField()); // the board reads the file anew
 }
 
 TEST_F(SetupScreenTest, OffersDemoModeOnlyWhileTheFieldIsNotFinalized)
@@ -137,7 +157,7 @@ TEST_F(SetupScreenTest, OffersDemoModeOnlyWhileTheFieldIsNotFinalized)
     const SetupScreen& finalized = loaded();
     EXPECT_FALSE(finalized.mnuDemoSet.enabled);
     EXPECT_FALSE(finalized.mnuDemoReset.enabled);
-    EXPECT_EQ(finalized.FinalizeState, "0"); // whatever the file says
+    EXPECT_FALSE(isFinalizing()); // whatever the file says
 }
 
 TEST_F(SetupScreenTest, ReadsTheFinalizedFlagAsANumber)
@@ -162,7 +182,7 @@ TEST_F(SetupScreenTest, OverrideModeDisablesTheListAndItsButtonsAndReturnsToTheT
     SetupScreen& screen = loaded();
     focus(screen.txtRegion[7]);
     click(screen.cmdOverride);
-    EXPECT_TRUE(screen.OverrideMode);
+    EXPECT_TRUE(isOverridden());
     EXPECT_EQ(screen.cmdOverride.caption, "Continue &Selecting");
     EXPECT_FALSE(screen.lstTeamNames.enabled);
     EXPECT_FALSE(screen.cmdAddName.enabled);
@@ -171,7 +191,7 @@ TEST_F(SetupScreenTest, OverrideModeDisablesTheListAndItsButtonsAndReturnsToTheT
     EXPECT_EQ(screen.focused, &screen.txtRegion[7]);
 
     click(screen.cmdOverride);
-    EXPECT_FALSE(screen.OverrideMode);
+    EXPECT_FALSE(isOverridden());
     EXPECT_EQ(screen.cmdOverride.caption, "Override &Selecting Team Names");
     EXPECT_TRUE(screen.lstTeamNames.enabled);
     EXPECT_TRUE(screen.cmdAddName.enabled);
@@ -194,7 +214,7 @@ TEST_F(SetupScreenTest, ExitShowsTheBoardAndDropsUnsavedEditsWithoutAQuestion)
     SetupScreen& screen = loaded();
     edit(screen.TxtInfo[0], "Changed");
     screen.mnuEnd.click();
-    EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Board, Opening::Plain}}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
     EXPECT_TRUE(dialogs().shown.empty());
     EXPECT_FALSE(files.has("POOLSTART.THS"));
@@ -227,7 +247,7 @@ TEST_F(SetupScreenTest, StatusLineShowsUnsavedEditsUntilTheyAreSaved)
 TEST_F(SetupScreenTest, OpensTheSeedPositions)
 {
     loaded().mnuSeating.click();
-    EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::SeedPositions, Opening::Plain}}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Seeds});
 }
 
 TEST_F(SetupScreenTest, ShowsTheHelpFileAndTheAboutBox)
@@ -257,17 +277,17 @@ TEST_F(SetupScreenTest, DemoStartReloadsThisScreenAfterTheQuestion)
               (std::vector<std::string>{"** DEMO MODE SET **", "STALLYHOOP DEMOSTRATION MODE"}));
     EXPECT_EQ(computer.programs.started.size(), 1U);
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
-    EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Setup, Opening::DemoEntered}}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Setup});
 }
 
-TEST_F(SetupScreenTest, DemoStartReloadsThisScreenPlainlyWhenNoSamplePoolComes)
+TEST_F(SetupScreenTest, DemoStartReloadsThisScreenAlsoWhenNoSamplePoolComes)
 {
     SetupScreen& screen = loaded();
     computer.programs.end = Failure{"No space left on device"};
     dialogs().answer(Answer::Ok);
     screen.mnuDemoSet.click();
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
-    EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Setup, Opening::Plain}}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Setup});
 }
 
 TEST_F(SetupScreenTest, DemoStartDoesNothingOnCancel)
@@ -291,15 +311,19 @@ TEST_F(SetupScreenTest, DemoResetDeletesTheSampleAndReloadsThisScreen)
     EXPECT_FALSE(files.has("TALLYHOOP.INI"));
     EXPECT_FALSE(files.has("POOLSTART.THS"));
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
-    EXPECT_EQ(screens.loads, (std::vector<FakeScreens::Load>{{ScreenKind::Setup, Opening::DemoLeft}}));
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Setup});
 }
 
 TEST_F(SetupScreenTest, SaysWhereChangesMadeInDemoModeAreKept)
 {
-    state.notice = "Files that you changed in demo mode are kept in Backup.";
-    const SetupScreen& screen = loaded(Opening::DemoLeft);
-    EXPECT_NE(screen.status.find("kept in Backup."), std::string::npos) << screen.status;
-    EXPECT_EQ(state.notice, "");
+    files.put("TALLYHOOP.INI", "1\r\n");
+    files.put("POOLSTART.THS", tellingSetup("1"));
+    loaded().mnuDemoReset.click(); // the field is not that of the sample: it is kept
+    EXPECT_EQ(screens.notices,
+              std::vector<std::string>{
+                  "Files that you changed in demo mode are kept in the folder Backup 2001-03-05 101530."});
+    const SetupScreen& screen = loaded(screens.notices.back());
+    EXPECT_EQ(screen.status, "There are no unsaved changes.  " + screens.notices.back());
 }
 
 TEST_F(SetupScreenTest, StaysInDemoModeWhenItCannotBeLeft)
@@ -314,16 +338,24 @@ TEST_F(SetupScreenTest, StaysInDemoModeWhenItCannotBeLeft)
     EXPECT_TRUE(screens.unloads.empty());
 }
 
-TEST_F(SetupScreenTest, KnowsRightAfterADemoCommandWhatTheFilesMayNotSayYet)
+TEST_F(SetupScreenTest, ReadsAnewWhatADemoCommandLeftInTheFolder)
 {
-    const SetupScreen& entered = loaded(Opening::DemoEntered); // the installer has not written TALLYHOOP.INI yet
-    EXPECT_TRUE(entered.mnuDemoReset.enabled);
-    EXPECT_FALSE(entered.mnuDemoSet.enabled);
-    EXPECT_TRUE(entered.lblDemoMode.visible);
+    SetupScreen& screen = loaded();
+    computer.programs.whenStarted = [this] {
+        files.put("POOLSTART.THS", tellingSetup("1"));
+        files.put("TALLYHOOP.INI", "1\r\n");
+    };
+    dialogs().answer(Answer::Ok);
+    screen.mnuDemoSet.click();
+    SetupScreen& sample = loaded();
+    EXPECT_EQ(sample.txtRegion[0].text, "T1");
+    EXPECT_TRUE(sample.mnuDemoReset.enabled);
+    EXPECT_FALSE(sample.mnuDemoSet.enabled);
+    EXPECT_TRUE(sample.lblDemoMode.visible);
 
-    files.put("POOLSTART.THS", tellingSetup("1"));
-    files.put("TALLYHOOP.INI", "1\r\n");
-    const SetupScreen& left = loaded(Opening::DemoLeft);
+    sample.mnuDemoReset.click();
+    const SetupScreen& left = loaded();
+    EXPECT_EQ(left.txtRegion[0].text, "TEAM1");
     EXPECT_FALSE(left.mnuDemoReset.enabled);
     EXPECT_TRUE(left.mnuDemoSet.enabled);
     EXPECT_FALSE(left.lblDemoMode.visible);

@@ -1,0 +1,28 @@
+// files/pool_files.h - a whole pool from its folder; each file is read once.
+#pragma once
+
+#include "base/step.h"
+#include "files/data_folder.h"
+#include "pool/entry.h"
+
+#include <filesystem>
+#include <span>
+#include <vector>
+
+namespace tallyhoop {
+
+/// Entries as their files were read, in the order of the list of files.
+struct ReadEntries {
+    std::vector<Entry> entries;
+    std::vector<std::filesystem::path> troubled; ///< files that could not be read, or not whole; what was read is there
+};
+
+/// Reads every file once, one step of work each.
+/// @param like a bracket in which most of the teams are expected
+/// @returns what was read when the work was stopped
+ReadEntries readEntries(std::span<const FolderFile> files, const Bracket& like, const Step& step = goOn);
+
+/// Reads the field, the results and every selection of a folder.
+Pool readPool(const DataFolder& folder);
+
+} // namespace tallyhoop

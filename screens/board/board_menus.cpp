@@ -1,0 +1,87 @@
+#include "screens/board/board_menus.h"
+
+namespace tallyhoop {
+
+BoardMenus::BoardMenus(ui::Screen* owner, BoardCommands& commands, const BoardExits& exits)
+    : m_owner{owner}, m_do{commands}, m_go{exits}
+{
+    arrange();
+    chooseIcons();
+    explain();
+}
+
+void BoardMenus::arrange()
+{
+    mnuFile.children = {&mnuNewSelection, &mnuOpenSelection, &mnuSaveSelection, nullptr,
+                        &mnuPrintPreview, &mnuPrintForm,     nullptr,           &mnuExit};
+    mnuEdit.children = {&mnuUndo, &mnuRedo};
+    mnuEntryAssist.children = {&mnuHighSeed};
+    mnuOptions.children = {&mnuScoreSelections, &mnuGameResults, nullptr, &mnuEntryAssist, nullptr, &mnuEditNames};
+    mnuSetup.children = {&mnuSetupOptions};
+    mnuDemo.children = {&mnuDemoSet, &mnuDemoReset};
+    mnuHelp.children = {&mnuHelpDisplay, &mnuHelpAbout};
+    m_owner->menuBar = {&mnuFile, &mnuEdit, &mnuOptions, &mnuSetup, &mnuReports, &mnuDemo, &mnuHelp};
+}
+
+void BoardMenus::chooseIcons()
+{
+    mnuNewSelection.icon = "new";
+    mnuOpenSelection.icon = "open";
+    mnuSaveSelection.icon = "save";
+    mnuPrintPreview.icon = "preview";
+    mnuPrintForm.icon = "print";
+    mnuExit.icon = "exit";
+    mnuUndo.icon = "undo";
+    mnuRedo.icon = "redo";
+    mnuScoreSelections.icon = "score";
+    mnuGameResults.icon = "results";
+    mnuHighSeed.icon = "assist";
+    mnuEditNames.icon = "people";
+    mnuSetupOptions.icon = "setup";
+    mnuDemoSet.icon = "demo";
+    mnuDemoReset.icon = "reset";
+    mnuHelpDisplay.icon = "help";
+    mnuHelpAbout.icon = "about";
+}
+
+void BoardMenus::explain()
+{
+    mnuNewSelection.explanation = "Empties the board for another player's selection.";
+    mnuOpenSelection.explanation = "Shows a selection that was saved before.";
+    mnuSaveSelection.explanation = "Saves the selection, or the results, as shown on the board.";
+    mnuPrintPreview.explanation = "Shows the board as it will be printed.";
+    mnuPrintForm.explanation = "Prints the board on one page.";
+    mnuExit.explanation = "Ends the program.";
+    mnuUndo.explanation = "Takes the last change of the bracket back.";
+    mnuRedo.explanation = "Makes the change again that was taken back last.";
+    mnuScoreSelections.explanation = "Marks right and wrong picks; from the results it opens the list of all scores.";
+    mnuGameResults.explanation = "Shows the real results, to enter the winners as they become known.";
+    mnuEntryAssist.explanation = "Help with filling the board in.";
+    mnuHighSeed.explanation = "The better seed wins every game of the regions; picks already made there are replaced.";
+    mnuEditNames.explanation = "Opens the list of players with their e-mail addresses.";
+    mnuSetupOptions.explanation = "Opens the field, the titles, the payoffs and the comments.";
+    mnuReports.explanation = "Opens the reports: to the printer, to files or by e-mail.";
+    mnuDemoSet.explanation = "Shows a sample pool, to try everything out.";
+    mnuDemoReset.explanation = "Takes the sample pool away again.";
+    mnuHelpDisplay.explanation = "Shows the help on what is on the screen.";
+    mnuHelpAbout.explanation = "About Tallyhoop: version and licence.";
+}
+
+void BoardMenus::enableMenus(const BoardState& state)
+{
+    mnuNewSelection.enabled = mnuOpenSelection.enabled = state.finalized;
+    mnuSaveSelection.enabled = state.finalized && !state.scored;
+    mnuGameResults.enabled = state.finalized && !state.resultsMode;
+    mnuScoreSelections.enabled = state.finalized && !state.scored && (state.resultsMode || state.resultsThere);
+    mnuReports.enabled = state.finalized && !state.reportsOpen;
+    mnuHighSeed.enabled = !state.marked;
+    const bool editable = !state.marked && !state.scoreListOpen;
+    mnuUndo.enabled = editable && state.canUndo;
+    mnuRedo.enabled = editable && state.canRedo;
+    // A field that is final is not to be changed any more, but for that of the sample pool.
+    mnuSetup.enabled = mnuDemo.enabled = state.demo || !state.finalized;
+    mnuDemoSet.enabled = !state.demo && state.mayStartDemo;
+    mnuDemoReset.enabled = state.demo;
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,109 @@
+#include "screens/board/board_words.h"
+
+#include "base/numbers.h"
+
+#include <string_view>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr std::array<const char*, kRounds> kSpokenRounds = {"first round",    "second round", "regional semi-final",
+                                                            "regional final", "semi-final",   "final"};
+
+const char* spokenRound(int round) { return kSpokenRounds.at(static_cast<std::size_t>(round - 1)); }
+
+std::string withoutBlanks(const std::string& text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? std::string{} : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// @returns a region's title, without the word that every listener knows: "West Region" is "West"
+std::string spokenRegion(const Field& field, int region)
+{
+    constexpr std::string_view kRegion = " Region";
+    const std::string& title = field.regionTitles.at(static_cast<std::size_t>(region));
+    return title.ends_with(kRegion) ? title.substr(0, title.size() - kRegion.size()) : title;
+}
+
+/// @returns "winner of second round, game 3": the games of a column are counted downwards, region by region
+std::string spokenGame(Position position)
+{
+    const int round = roundOf(position);
+    std::string spoken = std::string{"winner of "} + spokenRound(round);
+    const bool isOnlyGame = round == 4 || round == kRounds;
+    if (!isOnlyGame)
+        spoken += ", game " + std::to_string(gameOfColumn(position) + 1);
+    return spoken;
+}
+
+std::string spokenRow(const Field& field, TeamRow row)
+{
+    return spokenRegion(field, regionOf(row)) + ", first round, row " + std::to_string(rowInRegion(row) + 1) +
+           ", seed " + withoutBlanks(field.seedOf(row));
+}
+
+std::string explanationOfMark(const BoardPicture& picture, Position position)
+{
+    if (isFirstRound(position))
+        return "The picks are marked; choose Default Colors to change them again.";
+    const std::string& worth = picture.field.payoffs.text(roundOf(position));
+    const std::string points = worth + (leadingNumber(worth) == 1 ? " point" : " points");
+    switch (picture.verdictAt(position)) {
+    case Verdict::Good:
+        return "A right pick: " + points + " earned.";
+    case Verdict::Bad:
+        return (picture.bracket.isEmpty(position) ? "Nobody was picked: " : "A wrong pick: ") + points + " lost.";
+    default:
+        return "Not decided yet: worth " + points + ".";
+    }
+}
+
+} // namespace
+
+std::string spokenPlace(const BoardPicture& picture, Position position)
+{
+    std::string spoken;
+    if (const std::optional<TeamRow> row = teamRowOf(position)) {
+        spoken = spokenRow(picture.field, *row);
+    } else {
+        if (const std::optional<int> region = regionOf(position))
+            spoken = spokenRegion(picture.field, *region) + ", ";
+        spoken += spokenGame(position);
+        if (const std::string mark = spokenMark(picture.verdictAt(position)); !mark.empty())
+            spoken += ", " + mark;
+    }
+    return spoken + ": " + (picture.bracket.isEmpty(position) ? "no team" : picture.bracket.at(position));
+}
+
+std::string spokenSeed(const Field& field, TeamRow row)
+{
+    return "Seed of " + spokenRegion(field, regionOf(row)) + ", row " + std::to_string(rowInRegion(row) + 1);
+}
+
+std::string spokenMark(Verdict verdict)
+{
+    const std::string mark = markOf(verdict).text;
+    if (mark.empty())
+        return {};
+    return mark + (verdict == Verdict::Good ? " right pick" : " wrong pick");
+}
+
+std::string spokenPayoff(int round) { return std::string{"Points for a win in the "} + spokenRound(round); }
+
+std::string explanationOf(const BoardPicture& picture, Position position)
+{
+    if (picture.verdicts != nullptr)
+        return explanationOfMark(picture, position);
+    if (picture.bracket.isEmpty(position))
+        return "No team picked yet: click or drag a team that can get here.";
+    const std::string& team = picture.bracket.at(position);
+    if (position == kChampion)
+        return team + " wins the tournament. A right click or Delete takes the team away.";
+    if (isFirstRound(position))
+        return "Click or press Space to send " + team + " to the next round, or drag it as far as it goes.";
+    return "Click or press Space to send " + team + " on, drag it further; right click or Delete takes it away.";
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,27 @@
+// screens/board/board_words.h - what a screen reader says of a place of the bracket, and what the status line explains.
+#pragma once
+
+#include "screens/board/board_picture.h"
+
+#include <string>
+
+namespace tallyhoop {
+
+/// @returns where a place is, what became of the pick there, and the team: "West, winner of second round, game 3, X
+/// wrong
+///          pick: Duke"
+std::string spokenPlace(const BoardPicture& picture, Position position);
+
+/// @returns "Seed of West, row 3"
+std::string spokenSeed(const Field& field, TeamRow row);
+
+/// @returns the marker as it is seen and what it means, "= right pick"; empty for a pick without a marker
+std::string spokenMark(Verdict verdict);
+
+/// @returns "Points for a win in the first round" for rounds 1..6
+std::string spokenPayoff(int round);
+
+/// @returns what the person can do at a place, or what became of the pick there
+std::string explanationOf(const BoardPicture& picture, Position position);
+
+} // namespace tallyhoop

@@ -1,0 +1,96 @@
+#include "screens/board/selection_saving.h"
+
+#include "base/windows1252.h"
+#include "files/file_names.h"
+#include "files/selection_file.h"
+#include "files/settings_file.h"
+
+#include <system_error>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+/// The file that a person means by a chosen name: with our extension, and an existing one whatever the case of its
+/// letters.
+std::filesystem::path meantFile(std::filesystem::path chosen)
+{
+    if (!endsWithFolded(shown(chosen.filename()), file_name::kSelectionExtension))
+        chosen += file_name::kSelectionExtension;
+    std::error_code missing;
+    if (std::filesystem::exists(chosen, missing))
+        return chosen;
+    const DataFolder folder{chosen.parent_path()};
+    const std::string name = shown(chosen.filename());
+    // A letter that our code page lacks is shown as "?": such a name means itself only.
+    const bool isShownWhole = name.find('?') == std::string::npos;
+    return isShownWhole && folder.exists(name) ? folder.pathOf(name).value_or(chosen) : chosen;
+}
+
+bool confirms(ui::Dialogs& dialogs, std::string question)
+{
+    return dialogs.show({"", std::move(question), ui::Buttons::YesNo, ui::Icon::Question}) == ui::Answer::Yes;
+}
+
+void refuse(ui::Dialogs& dialogs, const char* text)
+{
+    dialogs.show({"", text, ui::Buttons::Ok, ui::Icon::Exclamation});
+}
+
+std::optional<SaveTarget> askAboutOpened(ui::Dialogs& dialogs, const DataFolder& folder,
+                                         const std::filesystem::path& chosen, const std::filesystem::path& opened)
+{
+    if (isSameFile(chosen, opened))
+        return SaveTarget{opened, SaveKind::SameName};
+    if (demoModeIsOn(folder)) {
+        refuse(dialogs, "You are not allowed to save a New File \r\n"
+                        "Name when executing under DEMO Mode");
+        return std::nullopt;
+    }
+    if (!confirms(dialogs, "You opened the file:    " + shown(opened) +
+                               "\r\n"
+                               "Now you are attempting to save this \r\n"
+                               "  file under the name:    " +
+                               shown(chosen) +
+                               "\r\n\r\n"
+                               "IS THIS CORRECT?"))
+        return std::nullopt;
+    return SaveTarget{chosen, SaveKind::NewFile};
+}
+
+std::optional<SaveTarget> askAboutNew(ui::Dialogs& dialogs, const DataFolder& folder,
+                                      const std::filesystem::path& chosen)
+{
+    if (demoModeIsOn(folder)) {
+        refuse(dialogs, "You are not allowed to save a New File \r\n"
+                        "when executing under DEMO Mode");
+        return std::nullopt;
+    }
+    std::error_code missing;
+    if (!std::filesystem::exists(chosen, missing))
+        return SaveTarget{chosen, SaveKind::NewFile};
+    if (!confirms(dialogs, "Do you want to replace the existing file ?\r\n" + shown(chosen)))
+        return std::nullopt;
+    return SaveTarget{chosen, SaveKind::Replaced};
+}
+
+} // namespace
+
+ui::FileChoice selectionChoice(const DataFolder& folder, const char* caption, std::string proposedName)
+{
+    return {caption, "PoolSelections (*.THC)", "*.THC", folder.folder(), std::move(proposedName)};
+}
+
+std::optional<SaveTarget> askWhereToSave(ui::Dialogs& dialogs, const DataFolder& folder, const Entry& entry,
+                                         const std::filesystem::path& opened)
+{
+    const auto chosen =
+        dialogs.saveFile(selectionChoice(folder, "Save Selection", proposedFileName(entry.name, entry.initials)));
+    if (!chosen)
+        return std::nullopt;
+    const std::filesystem::path meant = meantFile(*chosen);
+    return opened.empty() ? askAboutNew(dialogs, folder, meant) : askAboutOpened(dialogs, folder, meant, opened);
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,29 @@
+// screens/board_printouts.h - what the reports screen may ask of the board below it.
+#pragma once
+
+#include "ui/drawing.h"
+
+#include <filesystem>
+
+namespace tallyhoop {
+
+/// Whoever holds it is unloaded before the board.
+class BoardPrintouts
+{
+public:
+    virtual ~BoardPrintouts() = default;
+
+    /// @returns the board as a picture
+    virtual ui::Drawing drawing() const = 0;
+
+    /// Puts the results on the board, to be edited.
+    virtual void enterGameResults() = 0;
+
+    /// Puts a player's file on the board as opening it does, and marks right and wrong picks.
+    virtual void showScored(const std::filesystem::path& file) = 0;
+
+    /// Prints what is on the board.
+    virtual void printForm() = 0;
+};
+
+} // namespace tallyhoop

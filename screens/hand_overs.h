@@ -1,0 +1,34 @@
+// screens/hand_overs.h - the few values that one screen leaves for another.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace tallyhoop {
+
+/// How the last save of a player's selection ended.
+enum class SaveKind {
+    SameName, ///< the opened file again under its own name
+    NewFile,  ///< a new file, or the opened one under another name
+    Replaced, ///< an existing file, after a confirmation
+};
+
+/// What a save on the board leaves for the player list: the player to enter there. Taken when that screen opens,
+/// dropped when it closes or when the board turns to another selection.
+struct SavedPlayer {
+    std::string name; ///< name, comma, initials: "Smith,JS"
+    std::filesystem::path file;
+    SaveKind kind = SaveKind::NewFile;
+};
+
+/// What the reports screen asks of the e-mail dialog, and what that leaves for it.
+struct MailDraft {
+    bool toEverybody = false; ///< the request: address every player
+    bool cancelled = false;
+    std::vector<std::string> recipients;
+    std::string subject;
+    std::string message;
+};
+
+} // namespace tallyhoop

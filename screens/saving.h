@@ -1,0 +1,36 @@
+// screens/saving.h - what the person is told and asked about reading and writing data files, in one place for all.
+#pragma once
+
+#include "base/result.h"
+#include "files/data_folder.h"
+#include "files/known_files.h"
+#include "ui/dialogs.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace tallyhoop {
+
+/// Replaces a file as a whole; asks first when somebody else has changed it since it was noted, and only Yes proceeds.
+/// A file that cannot be written shows "** ERROR IN WRITING FILE **" and is as it was.
+/// @param shownPath the file's full path as text
+/// @param advice    that message's last line
+/// @returns whether the file holds the bytes now
+bool saveFile(ui::Dialogs& dialogs, KnownFiles& known, const std::filesystem::path& file, std::string_view bytes,
+              std::string_view shownPath, std::string_view advice);
+
+/// The same for a file of the program's folder that the program itself names.
+bool saveDataFile(ui::Dialogs& dialogs, KnownFiles& known, const DataFolder& folder, std::string_view name,
+                  std::string_view bytes);
+
+/// Tells that a selection or results file could not be read, or not whole.
+void showReadingTrouble(ui::Dialogs& dialogs, const std::filesystem::path& file);
+
+/// Tells what is wrong, without a caption of its own.
+void showTrouble(ui::Dialogs& dialogs, const Failure& failure);
+
+/// Checks the player list and says what is wrong with it. @returns whether it can be used
+bool playerListIsSound(ui::Dialogs& dialogs, const DataFolder& folder);
+
+} // namespace tallyhoop

@@ -1,0 +1,56 @@
+#include "screens/setup/pasted_teams.h"
+
+#include "base/text.h"
+#include "pool/position.h"
+
+#include <algorithm>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr const char* kNotInList = "These lines are not in the list of team names and were not entered:";
+constexpr const char* kNoBoxLeft = "These lines come after the last team box and were not entered:";
+constexpr std::size_t kMostLinesShown = 20; ///< a message box has to fit the screen
+
+void addLines(std::vector<std::string>& message, const char* heading, const std::vector<std::string>& lines)
+{
+    if (lines.empty())
+        return;
+    if (!message.empty())
+        message.emplace_back(" ");
+    message.emplace_back(heading);
+    const std::size_t shown = std::min(lines.size(), kMostLinesShown);
+    message.insert(message.end(), lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(shown));
+    if (shown < lines.size())
+        message.push_back("and " + std::to_string(lines.size() - shown) + " more");
+}
+
+} // namespace
+
+PastedTeams pastedTeams(std::span<const std::string> lines, std::size_t firstBox, const TeamNameList* list)
+{
+    PastedTeams pasted;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (lines[i].empty())
+            continue;
+        const std::string team = list == nullptr ? lines[i] : list->spellingOf(lines[i]);
+        if (team.empty())
+            pasted.notInList.push_back(lines[i]);
+        else if (firstBox + i >= kTeams)
+            pasted.noBoxLeft.push_back(lines[i]);
+        else
+            pasted.filled.emplace_back(firstBox + i, team);
+    }
+    return pasted;
+}
+
+std::string refusedLines(const PastedTeams& pasted)
+{
+    std::vector<std::string> message;
+    addLines(message, kNotInList, pasted.notInList);
+    addLines(message, kNoBoxLeft, pasted.noBoxLeft);
+    return joinLines(message);
+}
+
+} // namespace tallyhoop

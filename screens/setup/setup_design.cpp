@@ -1,0 +1,124 @@
+#include "screens/setup/setup_design.h"
+
+#include <array>
+#include <initializer_list>
+#include <string>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr const char* kComment = "Enter any comments or instructions";
+constexpr std::array<const char*, kRounds> kPayoffs = {"1", "2", "4", "8", "12", "16"};
+constexpr std::array<const char*, kRounds> kPayoffHints = {
+    "Points for each win in 1st round",     "Points for each win in 2nd round",
+    "Points for each win in 3rd round",     "Points for each win in Regional Finals",
+    "Points for each winner in Semifinals", "Points for selecting winner in FINAL GAME",
+};
+constexpr ui::Colour kLightGreen{0x80, 0xFF, 0x80};
+
+void arrangeTabs(SetupScreen& setup)
+{
+    int tab = 0;
+    const auto follow = [&tab](ui::Control& control) { control.tabIndex = tab++; };
+    for (std::size_t box = 0; box < setup.txtRegion.size(); ++box)
+        follow(setup.txtRegion[box]);
+    for (const std::size_t title : {1U, 2U, 3U, 4U, 0U})
+        follow(setup.TxtInfo[title]);
+    follow(setup.txtComment1);
+    follow(setup.txtComment2);
+    for (std::size_t round = 0; round < setup.txtInfo6.size(); ++round)
+        follow(setup.txtInfo6[round]);
+    for (ui::Control* control : std::initializer_list<ui::Control*>{
+             &setup.cmdFinalize, &setup.lstTeamNames, &setup.cmdAddName, &setup.cmdChangeName, &setup.cmdDeleteName,
+             &setup.cmdOverride, &setup.cmdClear})
+        follow(*control);
+}
+
+void arrangeMenus(SetupScreen& setup)
+{
+    setup.mnuFile.children = {&setup.mnuSaveStartingField, nullptr, &setup.mnuEnd};
+    setup.mnuOptions.children = {&setup.mnuSeating};
+    setup.mnuDemo.children = {&setup.mnuDemoSet, &setup.mnuDemoReset};
+    setup.mnuHelp.children = {&setup.mnuHelpDisplay, &setup.mnuHelpAbout};
+    setup.menuBar = {&setup.mnuFile, &setup.mnuOptions, &setup.mnuDemo, &setup.mnuHelp};
+
+    setup.mnuSaveStartingField.icon = "save";
+    setup.mnuEnd.icon = "exit";
+    setup.mnuSeating.icon = "seeds";
+    setup.mnuDemoSet.icon = "demo";
+    setup.mnuDemoReset.icon = "reset";
+    setup.mnuHelpDisplay.icon = "help";
+    setup.mnuHelpAbout.icon = "about";
+
+    setup.mnuSaveStartingField.explanation = "Saves everything on this screen but the list of team names.";
+    setup.mnuEnd.explanation = "Goes back to the board; what was not saved is dropped.";
+    setup.mnuSeating.explanation = "Opens the seed numbers of the sixteen rows of a region.";
+    setup.mnuDemoSet.explanation = "Shows a sample pool, to try everything out.";
+    setup.mnuDemoReset.explanation = "Takes the sample pool away again.";
+    setup.mnuHelpDisplay.explanation = "Shows the help on what is on the screen.";
+    setup.mnuHelpAbout.explanation = "About Tallyhoop: version and licence.";
+}
+
+void designBoxes(SetupScreen& setup)
+{
+    for (std::size_t box = 0; box < setup.txtRegion.size(); ++box)
+        setup.txtRegion[box].text = "Team " + std::to_string(box + 1);
+    for (std::size_t i = 0; i < setup.TxtInfo.size(); ++i) {
+        setup.TxtInfo[i].spokenName = i == 0 ? "Pool title" : "Title of region " + std::to_string(i);
+        setup.TxtInfo[i].explanation =
+            i == 0 ? "The title of the board and of every report." : "The title of the region on the board.";
+    }
+    for (std::size_t i = 0; i < setup.txtInfo6.size(); ++i) {
+        ui::TextBox& payoff = setup.txtInfo6[i];
+        payoff.text = kPayoffs.at(i);
+        payoff.toolTip = kPayoffHints.at(i);
+        payoff.spokenName = payoff.toolTip;
+        payoff.explanation = payoff.toolTip + ", 1 to 99.";
+    }
+    setup.txtComment1.spokenName = "Comment 1";
+    setup.txtComment2.spokenName = "Comment 2";
+    for (ui::TextBox* comment : {&setup.txtComment1, &setup.txtComment2}) {
+        comment->multiLine = true;
+        comment->text = kComment;
+        comment->explanation = "Shown below the bracket: the fee, the deadline, the prizes.";
+    }
+}
+
+void designList(SetupScreen& setup)
+{
+    setup.lstTeamNames.background = kLightGreen;
+    setup.lstTeamNames.spokenName = "Team names";
+    setup.lstTeamNames.explanation = "Enter puts the selected name into the green box.";
+    setup.cmdAddName.explanation = "Adds a team to the list of names.";
+    setup.cmdChangeName.explanation = "Changes the selected name of the list.";
+    setup.cmdDeleteName.explanation = "Takes the selected name out of the list.";
+    setup.cmdClear.explanation = "Empties all 64 team boxes.";
+    setup.cmdClear.mnemonic = 'l';
+}
+
+} // namespace
+
+void design(SetupScreen& setup)
+{
+    arrangeTabs(setup);
+    arrangeMenus(setup);
+    designBoxes(setup);
+    designList(setup);
+    setup.cmdFinalize.explanation = "Declares the field complete; once that is saved it cannot be changed any more.";
+    setup.cmdFinalize.mnemonic = 'n';
+}
+
+const char* explanationOfTeamBox(bool isOverridden)
+{
+    return isOverridden ? "Type any team's name; Enter takes it and goes on to the next box."
+                        : "Type the first letters: the name is completed from the list. Enter goes on.";
+}
+
+const char* explanationOfOverride(bool isOverridden)
+{
+    return isOverridden ? "Back to picking names from the list."
+                        : "Lets you type names of teams that are not in the list.";
+}
+
+} // namespace tallyhoop

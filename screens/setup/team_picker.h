@@ -1,0 +1,65 @@
+// screens/setup/team_picker.h - filling the team boxes: from the list, by typing ahead or with the arrow keys, or
+// freely.
+#pragma once
+
+#include "pool/position.h"
+#include "screens/setup/team_name_list.h"
+#include "ui/control.h"
+#include "ui/dialogs.h"
+#include "ui/keys.h"
+
+#include <cstddef>
+#include <string>
+
+namespace tallyhoop {
+
+/// The rules of keyboard, mouse and clipboard for 64 boxes and a list beside them. A box is named by its index 0..63.
+class TeamPicker
+{
+public:
+    using Boxes = ui::ControlArray<ui::TextBox, kTeams>;
+
+    /// @param list  shows the rows of `names`
+    /// @param names gets the names that are typed freely
+    TeamPicker(Boxes& boxes, ui::ListBox& list, TeamNameList& names) : m_boxes{boxes}, m_list{list}, m_names{names} {}
+
+    /// Whether names are typed freely instead of picked from the list.
+    bool isOverridden() const { return m_isOverridden; }
+
+    /// Changes over, and goes back to the box that had the focus last.
+    void toggleOverride();
+
+    /// Empties all boxes and goes to the first.
+    void clearBoxes();
+
+    void boxGotFocus(std::size_t box);
+    void listPressed() { m_listFillsBox = true; }
+    void listLostFocus() { m_listFillsBox = false; }
+
+    /// @returns true when the key was dealt with and must not reach the box or the list
+    bool boxKey(std::size_t box, const ui::KeyPress& press);
+    bool listKey(const ui::KeyPress& press);
+
+    /// The person changed a box other than by a key press: cut, undone, dropped into.
+    void boxEdited(std::size_t box);
+
+    /// Fills this box and the following ones, one line each, and says which lines it could not enter.
+    /// @returns false when the box is to insert the text itself
+    bool pasted(std::size_t box, const std::string& text, ui::Dialogs& dialogs);
+
+    /// Marks the box that the list is about to fill, if it is.
+    void showState();
+
+private:
+    void goToList(std::size_t box, ui::Key key);
+    void accept(std::size_t box);
+
+    Boxes& m_boxes;
+    ui::ListBox& m_list;
+    TeamNameList& m_names;
+    bool m_isOverridden = false;
+    std::size_t m_lastBox = 0;   ///< the box that had the focus last
+    bool m_listFillsBox = false; ///< the list is about to fill that box
+};
+
+} // namespace tallyhoop

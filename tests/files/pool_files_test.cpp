@@ -1,0 +1,177 @@
+// tests/files/pool_files_test.cpp - a whole pool read at once.
+#include "files/pool_files.h"
+
+#include "fakes/scratch_folder.h"
+#include "files/selection_file.h"
+#include "files/setup_file.h"
+#include "pool/sample_brackets.h"
+#include "pool/scoring.h"
+
+#include <gmock/gmock.h>
+
+namespace tallyhoop {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+/// A folder with four players and the results up to the Final Four.
+struct PoolFiles : testing::Test {
+    test::ScratchFolder scratch;
+    const Entry adams{test::everyUpperTeamWins(), "AB", "Adams", "150", "Adams_AB.THC"};
+    const Entry baker{test::everyLowerTeamWins(), "C", "Baker", "99", "Baker_C.THC"};
+    const Entry clark{test::startingField(), "D", "Clark", "", "Clark_D.THC"};
+    const Entry dunn{withStranger(), "EF", "Dunn", "250", "Dunn_EF.THC"};
+    const Entry results{test::without(test::everyUpperTeamWins(), 124, 126), "A", "FinalResults", "", "TALLYHOOP.THS"};
+
+    PoolFiles()
+    {
+        for (const Entry& entry : {dunn, baker, adams, clark, results}) // not in the order of their names
+            scratch.put(entry.fileName, selectionFile(entry));
+        scratch.put("POOLSTART.THS", setupFile(field()));
+    }
+
+    static Bracket withStranger()
+    {
+        Bracket picks = test::everyUpperTeamWins();
+        picks.put(kChampion, "A team of no field");
+        return picks;
+    }
+
+    static Field field()
+    {
+        Field field = defaultField();
+        for (const TeamRow row : allTeamRows())
+            field.teams[row] = "Team " + std::to_string(index(row) + 1);
+        field.title = "A test of the pool";
+        return field;
+    }
+
+    ReadEntries readAll(const Step& step = goOn) const
+    {
+        return readEntries(scratch.folder().files(".THC"), results.picks, step);
+    }
+};
+
+TEST_F(PoolFiles, GiveEveryEntryInTheOrderOfTheList)
+{
+    const ReadEntries read = readAll();
+    EXPECT_THAT(read.entries, ElementsAre(adams, baker, clark, dunn));
+    EXPECT_THAT(read.troubled, IsEmpty());
+}
+
+TEST_F(PoolFiles, NameAFileThatIsNotWholeAndKeepWhatWasRead)
+{
+    scratch.put("Baker_C.THC", "first\r\nsecond\r\n");
+    const ReadEntries read = readAll();
+    ASSERT_EQ(read.entries.size(), 4u);
+    EXPECT_EQ(read.entries[1].picks.at(Position{1}), "second");
+    EXPECT_TRUE(read.entries[1].picks.isEmpty(Position{2}));
+    EXPECT_EQ(read.entries[1].fileName, "Baker_C.THC");
+    EXPECT_EQ(read.entries[2], clark);
+    EXPECT_THAT(read.troubled, ElementsAre(scratch.path() / "Baker_C.THC"));
+}
+
+TEST_F(PoolFiles, NameAFileThatHasVanishedSinceItWasListed)
+{
+    const std::vector<FolderFile> files = scratch.folder().files(".THC");
+    std::filesystem::remove(scratch.path() / "Clark_D.THC");
+    const ReadEntries read = readEntries(files, results.picks);
+    ASSERT_EQ(read.entries.size(), 4u);
+    EXPECT_EQ(read.entries[2], (Entry{{}, "", "", "", "Clark_D.THC"}));
+    EXPECT_THAT(read.troubled, ElementsAre(scratch.path() / "Clark_D.THC"));
+}
+
+TEST_F(PoolFiles, AreReadOneStepEach)
+{
+    int steps = 0;
+    EXPECT_EQ(readAll([&steps] { return ++steps > 0; }).entries.size(), 4u);
+    EXPECT_EQ(steps, 4);
+}
+
+TEST_F(PoolFiles, AreNoLongerReadAfterAStepThatSaysSo)
+{
+    int steps = 0;
+    const ReadEntries read = readAll([&steps] { return ++steps < 2; });
+    EXPECT_THAT(read.entries, ElementsAre(adams, baker));
+    EXPECT_EQ(steps, 2);
+}
+
+TEST_F(PoolFiles, ShareTheNamesOfTheResultsWhenTheyHaveNoOthers)
+{
+    const ReadEntries read = readAll();
+    EXPECT_EQ(&read.entries[0].picks.names(), &results.picks.names());
+    EXPECT_EQ(&read.entries[1].picks.names(), &results.picks.names());
+    EXPECT_NE(&read.entries[3].picks.names(), &results.picks.names()) << "a name of its own";
+}
+
+TEST_F(PoolFiles, ShareTheNamesOfTheResultsAlsoWhereThoseAreNotOfTheField)
+{
+    std::filesystem::remove(scratch.path() / "POOLSTART.THS");
+    const Pool pool = readPool(scratch.folder());
+    ASSERT_TRUE(pool.results);
+    ASSERT_EQ(pool.entries.size(), 4u);
+    EXPECT_EQ(&pool.entries[0].picks.names(), &pool.results->picks.names());
+}
+
+TEST_F(PoolFiles, MakeAPool)
+{
+    const Pool pool = readPool(scratch.folder());
+    EXPECT_EQ(pool.field, field());
+    ASSERT_TRUE(pool.results);
+    EXPECT_EQ(*pool.results, results);
+    EXPECT_THAT(pool.entries, ElementsAre(adams, baker, clark, dunn));
+    EXPECT_THAT(pool.trouble, IsEmpty());
+}
+
+TEST_F(PoolFiles, MakeAPoolThatIsScoredWithoutMore)
+{
+    const Pool pool = readPool(scratch.folder());
+    const auto scores = scoreEntries(pool.entries, pool.results->picks, *pool.field.payoffs.points());
+    ASSERT_TRUE(scores);
+    // The regions are worth 4 * 32 = 128, the last three games 40.
+    EXPECT_EQ((*scores)[0].points, 128);
+    EXPECT_EQ((*scores)[0].maxPoints, 168);
+    EXPECT_EQ((*scores)[1].maxPoints, 0) << "wrong everywhere";
+    EXPECT_EQ((*scores)[3].maxPoints, 168) << "nobody has seen the stranger lose";
+}
+
+TEST_F(PoolFiles, MakeAPoolWithoutResultsBeforeTheFirstGame)
+{
+    std::filesystem::remove(scratch.path() / "TALLYHOOP.THS");
+    const Pool pool = readPool(scratch.folder());
+    EXPECT_FALSE(pool.results);
+    EXPECT_THAT(pool.entries, ElementsAre(adams, baker, clark, dunn));
+    EXPECT_THAT(pool.trouble, IsEmpty());
+}
+
+TEST_F(PoolFiles, MakeAPoolThatSaysWhatCouldNotBeRead)
+{
+    scratch.put("POOLSTART.THS", "Duke\r\n");
+    scratch.put("TALLYHOOP.THS", selectionFile(results) + "more\r\n");
+    scratch.put("Clark_D.THC", "");
+    const Pool pool = readPool(scratch.folder());
+    EXPECT_EQ(pool.field, defaultField());
+    ASSERT_TRUE(pool.results);
+    EXPECT_EQ(*pool.results, results) << "what was read is there";
+    EXPECT_EQ(pool.entries.size(), 4u);
+    ASSERT_EQ(pool.trouble.size(), 3u);
+    EXPECT_EQ(pool.trouble[0].message,
+              scratch.path().string() + "/POOLSTART.THS: Problem with file, will use default values");
+    EXPECT_EQ(pool.trouble[1].message, scratch.path().string() + "/TALLYHOOP.THS: The file has more than 131 lines.");
+    EXPECT_THAT(pool.trouble[2].message, HasSubstr("/Clark_D.THC: "));
+}
+
+TEST(PoolFilesOfAnEmptyFolder, MakeThePoolThatNobodyHasSetUpYet)
+{
+    const test::ScratchFolder scratch;
+    const Pool pool = readPool(scratch.folder());
+    EXPECT_EQ(pool.field, defaultField());
+    EXPECT_FALSE(pool.results);
+    EXPECT_THAT(pool.entries, IsEmpty());
+    EXPECT_THAT(pool.trouble, IsEmpty());
+}
+
+} // namespace
+} // namespace tallyhoop

@@ -1,0 +1,120 @@
+// tests/screens/board/board_drawing_test.cpp - the board on paper shows what the board on screen does.
+#include "screens/board/board_drawing.h"
+
+#include <algorithm>
+#include <gmock/gmock.h>
+
+namespace tallyhoop::test {
+namespace {
+
+using testing::Contains;
+using testing::IsSupersetOf;
+using testing::Not;
+
+struct BoardDrawing : testing::Test {
+    Field field = defaultField();
+    Bracket bracket = startingBracket(field);
+    Verdicts verdicts;
+    Entry player{bracket, "JS", "Smith", "150", {}};
+
+    ui::Drawing draw(const Verdicts* marks = nullptr, const std::string& score = {}, bool demo = false) const
+    {
+        return drawBoard({field, bracket, marks, demo}, player, score);
+    }
+
+    static std::vector<std::string> texts(const ui::Drawing& drawing)
+    {
+        std::vector<std::string> found;
+        for (const ui::Caption& caption : drawing.captions)
+            found.push_back(caption.text);
+        return found;
+    }
+
+    static std::vector<ui::Caption> captions(const ui::Drawing& drawing, const std::string& text)
+    {
+        std::vector<ui::Caption> found;
+        std::ranges::copy_if(drawing.captions, std::back_inserter(found),
+                             [&text](const ui::Caption& caption) { return caption.text == text; });
+        return found;
+    }
+};
+
+TEST_F(BoardDrawing, FillsALandscapePage)
+{
+    player.picks = bracket;
+    field.comment1 = "first";
+    field.comment2 = "second";
+    const ui::Drawing drawing = draw(&verdicts, "Points: 1 / 2", true);
+    EXPECT_EQ(drawing.width, 1100);
+    EXPECT_EQ(drawing.height, 800);
+    const auto isOnPage = [](const ui::Rectangle& place) {
+        return place.x >= 0 && place.y >= 0 && place.right() <= 1100 && place.bottom() <= 800;
+    };
+    for (const ui::Box& box : drawing.boxes)
+        EXPECT_TRUE(isOnPage(box.place));
+    for (const ui::Caption& caption : drawing.captions)
+        EXPECT_TRUE(isOnPage(caption.place)) << caption.text;
+    EXPECT_FALSE(drawing.strokes.empty());
+}
+
+TEST_F(BoardDrawing, ShowsTitlesRoundsPointsSeedsAndTeams)
+{
+    bracket.put(Position{16}, "TEAM1");
+    const ui::Drawing drawing = draw();
+    EXPECT_THAT(texts(drawing), IsSupersetOf({"2001 NCAA Tournament", "West Region", "South Region",
+                                              "1st round:", "Final game:", "CHAMPION", " 16", "TEAM64"}));
+    EXPECT_EQ(captions(drawing, "TEAM1").size(), 2u) << "in the first round and as a winner";
+    EXPECT_EQ(captions(drawing, " 8").size(), 6u) << "the seed of four regions, the points on both sides";
+    EXPECT_EQ(captions(drawing, " 12").size(), 1u) << "the points of the semi-final";
+    EXPECT_EQ(captions(drawing, "12").size(), 4u) << "a seed of four regions";
+}
+
+TEST_F(BoardDrawing, ShowsWhoseBracketItIs)
+{
+    player.initials = "js";
+    field.comment1 = "pay\r\nsoon";
+    const ui::Drawing drawing = draw(nullptr, "Points: 1 / 2");
+    EXPECT_THAT(texts(drawing), IsSupersetOf({"Initials", "js", "Name", "Smith",
+                                              "Predict total points in Championship game", "150", "Points: 1 / 2"}));
+    ASSERT_EQ(captions(drawing, "pay\r\nsoon").size(), 1u);
+    EXPECT_TRUE(captions(drawing, "pay\r\nsoon")[0].wrap);
+}
+
+TEST_F(BoardDrawing, ShowsNothingForWhatIsEmpty)
+{
+    player = {};
+    EXPECT_THAT(texts(draw()), Not(Contains("")));
+}
+
+TEST_F(BoardDrawing, MarksRightAndWrongPicksInTheirColours)
+{
+    bracket.put(Position{16}, "Upset U");
+    bracket.put(Position{17}, "Late Loser");
+    verdicts[Position{16}] = Verdict::Good;
+    verdicts[Position{17}] = Verdict::Bad;
+    verdicts[Position{0}] = Verdict::Bad;
+    const ui::Drawing drawing = draw(&verdicts);
+    ASSERT_EQ(captions(drawing, "=").size(), 1u);
+    ASSERT_EQ(captions(drawing, "X").size(), 1u);
+    EXPECT_EQ(captions(drawing, "=")[0].colour, (ui::Colour{0, 255, 0}));
+    EXPECT_EQ(captions(drawing, "Upset U").at(0).colour, (ui::Colour{0, 255, 0}));
+    EXPECT_EQ(captions(drawing, "X")[0].colour, (ui::Colour{255, 0, 0}));
+    EXPECT_EQ(captions(drawing, "Late Loser").at(0).colour, (ui::Colour{255, 0, 0}));
+    EXPECT_EQ(captions(drawing, "TEAM1").at(0).colour, (ui::Colour{0, 0, 255})) << "a row of the field is no pick";
+    const auto boxesFilledWith = [&drawing](ui::Colour fill) {
+        return std::ranges::count(drawing.boxes, fill, &ui::Box::fill);
+    };
+    EXPECT_EQ(boxesFilledWith({6, 41, 15}), 1);
+    EXPECT_EQ(boxesFilledWith({26, 4, 6}), 1);
+    EXPECT_EQ(boxesFilledWith({252, 252, 255}), 125);
+    EXPECT_TRUE(captions(draw(), "=").empty()) << "nothing is marked without verdicts";
+}
+
+TEST_F(BoardDrawing, SaysThatItIsADemonstration)
+{
+    EXPECT_THAT(texts(draw()), Not(Contains("Demonstration Mode")));
+    EXPECT_THAT(texts(draw(nullptr, {}, true)), Contains("Demonstration Mode"));
+}
+
+} // namespace
+} // namespace tallyhoop::test

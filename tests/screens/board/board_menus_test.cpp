@@ -1,0 +1,227 @@
+// tests/screens/board/board_menus_test.cpp - which entries can be chosen when, and what each of them asks for.
+#include "screens/board/board_menus.h"
+
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
+
+#include <gmock/gmock.h>
+#include <ostream>
+#include <set>
+
+namespace tallyhoop::test {
+namespace {
+
+using testing::ElementsAre;
+
+/// Remembers what it was asked for.
+struct RecordedCommands : BoardCommands {
+    std::vector<std::string> asked;
+
+    void newSelection() override { asked.emplace_back("newSelection"); }
+    void openSelection() override { asked.emplace_back("openSelection"); }
+    void saveSelection() override { asked.emplace_back("saveSelection"); }
+    void previewForm() override { asked.emplace_back("previewForm"); }
+    void printForm() override { asked.emplace_back("printForm"); }
+    void undo() override { asked.emplace_back("undo"); }
+    void redo() override { asked.emplace_back("redo"); }
+    void scoreSelections() override { asked.emplace_back("scoreSelections"); }
+    void enterGameResults() override { asked.emplace_back("enterGameResults"); }
+    void selectHighSeeds() override { asked.emplace_back("selectHighSeeds"); }
+};
+
+struct MenuScreen : ui::Screen, BoardMenus {
+    MenuScreen(BoardCommands& commands, const BoardExits& exits)
+        : Screen{"screen", ""}, BoardMenus{this, commands, exits}
+    {
+    }
+
+    std::string helpTopic() const override { return "some topic"; }
+
+    std::vector<ui::MenuEntry*> entries() const
+    {
+        std::vector<ui::MenuEntry*> found;
+        for (ui::Control* control : controls())
+            found.push_back(dynamic_cast<ui::MenuEntry*>(control));
+        return found;
+    }
+};
+
+struct State {
+    const char* name;
+    BoardState state;
+    std::set<std::string> disabled;
+};
+
+void PrintTo(const State& state, std::ostream* out) { *out << state.name; }
+
+/// Menus of a field that is final: it must not be changed any more.
+const std::set<std::string> kSetupMenus = {"mnuSetup", "mnuDemo", "mnuDemoSet", "mnuDemoReset"};
+
+std::set<std::string> together(std::set<std::string> names, const std::set<std::string>& others)
+{
+    names.insert(others.begin(), others.end());
+    return names;
+}
+
+/// Menus over a scratch folder, and everything that they can ask.
+struct MenusAndOthers {
+    ScratchFolder scratch;
+    DataFolder folder = scratch.folder();
+    FakePlatform platform;
+    FakeScreens screens;
+    RecordedCommands commands;
+    MenuScreen menus{commands, BoardExits{folder, platform.services, screens}};
+};
+
+class BoardMenusIn : public testing::TestWithParam<State>, protected MenusAndOthers
+{
+};
+
+TEST_P(BoardMenusIn, DisableExactlyWhatMakesNoSenseThere)
+{
+    for (const bool before : {false, true}) { // whatever it was before
+        for (ui::MenuEntry* entry : menus.entries())
+            if (GetParam().disabled.contains(entry->name))
+                entry->enabled = before;
+        menus.enableMenus(GetParam().state);
+        std::set<std::string> disabled;
+        for (const ui::MenuEntry* entry : menus.entries())
+            if (!entry->enabled)
+                disabled.insert(entry->name);
+        EXPECT_EQ(disabled, GetParam().disabled);
+    }
+}
+
+const std::vector<State> kStates = {
+    {"NoField",
+     {.mayStartDemo = true},
+     {"mnuNewSelection", "mnuOpenSelection", "mnuSaveSelection", "mnuGameResults", "mnuScoreSelections", "mnuReports",
+      "mnuUndo", "mnuRedo", "mnuDemoReset"}},
+    {"ResultsWithoutAField",
+     {.mayStartDemo = true, .resultsThere = true, .canUndo = true},
+     {"mnuNewSelection", "mnuOpenSelection", "mnuSaveSelection", "mnuGameResults", "mnuScoreSelections", "mnuReports",
+      "mnuRedo", "mnuDemoReset"}},
+    {"FieldThatSomebodyHasMarkedOtherwise",
+     {},
+     {"mnuNewSelection", "mnuOpenSelection", "mnuSaveSelection", "mnuGameResults", "mnuScoreSelections", "mnuReports",
+      "mnuUndo", "mnuRedo", "mnuDemoSet", "mnuDemoReset"}},
+    {"DemoWithoutAField",
+     {.demo = true, .mayStartDemo = true},
+     {"mnuNewSelection", "mnuOpenSelection", "mnuSaveSelection", "mnuGameResults", "mnuScoreSelections", "mnuReports",
+      "mnuUndo", "mnuRedo", "mnuDemoSet"}},
+    {"FinalField", {.finalized = true}, together(kSetupMenus, {"mnuScoreSelections", "mnuUndo", "mnuRedo"})},
+    {"FinalFieldWithResults", {.finalized = true, .resultsThere = true}, together(kSetupMenus, {"mnuUndo", "mnuRedo"})},
+    {"Demo", {.finalized = true, .demo = true, .resultsThere = true}, {"mnuUndo", "mnuRedo", "mnuDemoSet"}},
+    {"ChangedBoard", {.finalized = true, .resultsThere = true, .canUndo = true}, together(kSetupMenus, {"mnuRedo"})},
+    {"BoardWithEverythingUndone",
+     {.finalized = true, .resultsThere = true, .canRedo = true},
+     together(kSetupMenus, {"mnuUndo"})},
+    {"FirstResults", // they can be scored although no file holds them yet
+     {.finalized = true, .resultsMode = true, .canUndo = true, .canRedo = true},
+     together(kSetupMenus, {"mnuGameResults"})},
+    {"ScoredBoard",
+     {.finalized = true, .resultsThere = true, .scored = true, .marked = true, .canUndo = true, .canRedo = true},
+     together(kSetupMenus, {"mnuSaveSelection", "mnuScoreSelections", "mnuHighSeed", "mnuUndo", "mnuRedo"})},
+    {"ListOfScores",
+     {.finalized = true,
+      .resultsMode = true,
+      .resultsThere = true,
+      .scoreListOpen = true,
+      .canUndo = true,
+      .canRedo = true},
+     together(kSetupMenus, {"mnuGameResults", "mnuUndo", "mnuRedo"})},
+    {"PlayerOfTheListOfScores",
+     {.finalized = true,
+      .resultsMode = true,
+      .resultsThere = true,
+      .marked = true,
+      .scoreListOpen = true,
+      .canUndo = true,
+      .canRedo = true},
+     together(kSetupMenus, {"mnuGameResults", "mnuHighSeed", "mnuUndo", "mnuRedo"})},
+    {"Reports",
+     {.finalized = true, .resultsThere = true, .reportsOpen = true},
+     together(kSetupMenus, {"mnuReports", "mnuUndo", "mnuRedo"})},
+};
+
+INSTANTIATE_TEST_SUITE_P(Each, BoardMenusIn, testing::ValuesIn(kStates),
+                         [](const auto& values) { return std::string{values.param.name}; });
+
+struct BoardMenusTest : testing::Test, MenusAndOthers {
+};
+
+TEST_F(BoardMenusTest, EachEntryOfTheBoardAsksForItsOwnCommand)
+{
+    for (ui::MenuEntry* entry : {&menus.mnuNewSelection, &menus.mnuOpenSelection, &menus.mnuSaveSelection,
+                                 &menus.mnuPrintPreview, &menus.mnuPrintForm, &menus.mnuUndo, &menus.mnuRedo,
+                                 &menus.mnuScoreSelections, &menus.mnuGameResults, &menus.mnuHighSeed})
+        entry->click();
+    EXPECT_THAT(commands.asked,
+                ElementsAre("newSelection", "openSelection", "saveSelection", "previewForm", "printForm", "undo",
+                            "redo", "scoreSelections", "enterGameResults", "selectHighSeeds"));
+    EXPECT_TRUE(screens.loads.empty());
+}
+
+TEST_F(BoardMenusTest, EachOtherEntryLeadsWhereItSays)
+{
+    menus.mnuEditNames.click();
+    menus.mnuReports.click();
+    EXPECT_THAT(screens.loads, ElementsAre(ScreenKind::Players, ScreenKind::Reports));
+    menus.mnuSetupOptions.click();
+    EXPECT_EQ(screens.loads.back(), ScreenKind::Setup);
+    EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
+    platform.dialogs.answer(ui::Answer::Cancel);
+    menus.mnuDemoSet.click();
+    EXPECT_EQ(platform.dialogs.shown.back().caption, "** DEMO MODE SET **");
+    menus.mnuDemoReset.click();
+    EXPECT_EQ(screens.loads.back(), ScreenKind::Board);
+    menus.mnuHelpDisplay.click();
+    EXPECT_THAT(platform.help.topics, ElementsAre("some topic"));
+    menus.mnuHelpAbout.click();
+    EXPECT_EQ(platform.dialogs.aboutShown, 1);
+    EXPECT_FALSE(screens.ended);
+    menus.mnuExit.click();
+    EXPECT_TRUE(screens.ended);
+    EXPECT_TRUE(commands.asked.empty());
+}
+
+TEST_F(BoardMenusTest, ADisabledEntryAsksForNothing)
+{
+    menus.enableMenus({.mayStartDemo = true});
+    menus.mnuSaveSelection.click();
+    menus.mnuReports.click();
+    EXPECT_TRUE(commands.asked.empty());
+    EXPECT_TRUE(screens.loads.empty());
+}
+
+TEST_F(BoardMenusTest, EveryEntryIsInExactlyOneMenu)
+{
+    std::multiset<const ui::MenuEntry*> placed(menus.menuBar.begin(), menus.menuBar.end());
+    for (const ui::MenuEntry* entry : menus.entries())
+        for (const ui::MenuEntry* child : entry->children)
+            if (child != nullptr)
+                placed.insert(child);
+    for (const ui::MenuEntry* entry : menus.entries())
+        EXPECT_EQ(placed.count(entry), 1u) << entry->name;
+    EXPECT_EQ(placed.size(), 25u);
+}
+
+TEST_F(BoardMenusTest, EntriesHaveShortcutsOfTheirOwnAndSayWhatTheyDo)
+{
+    std::set<std::string> shortcuts;
+    for (const ui::MenuEntry* entry : menus.entries()) {
+        if (!entry->shortcut.empty()) {
+            EXPECT_TRUE(shortcuts.insert(entry->shortcut).second) << entry->shortcut;
+        }
+        if (entry->action) {
+            EXPECT_FALSE(entry->explanation.empty()) << entry->name;
+            EXPECT_EQ(entry->icon.empty(), entry == &menus.mnuReports) << entry->name; // a menu without children
+        }
+    }
+    EXPECT_EQ(shortcuts, (std::set<std::string>{"Ctrl+N", "Ctrl+O", "Ctrl+S", "Ctrl+P", "Ctrl+Q", "Ctrl+Z",
+                                                "Ctrl+Shift+Z", "F1"}));
+}
+
+} // namespace
+} // namespace tallyhoop::test

@@ -1,0 +1,190 @@
+// tests/screens/saving_test.cpp - what the person is asked and told when files are saved and read.
+#include "screens/saving.h"
+
+#include "fakes/fake_dialogs.h"
+#include "fakes/scratch_folder.h"
+#include "files/player_names_file.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+namespace fs = std::filesystem;
+using Messages = std::vector<ui::Message>;
+
+struct Saving : testing::Test {
+    test::ScratchFolder scratch;
+    test::FakeDialogs dialogs;
+    KnownFiles known;
+    fs::path file = scratch.path() / "A.THC";
+    const ui::Message trouble{"** ERROR IN WRITING FILE **",
+                              "There is a problem writing file: A.THC of the pool\r\n Check your selection and retry.",
+                              ui::Buttons::Ok, ui::Icon::Critical};
+    const ui::Message question{"** FILE HAS BEEN CHANGED **",
+                               "Another program has changed the file: " + file.string() +
+                                   "\r\nsince it was opened or last saved here.\r\n"
+                                   " \r\n"
+                                   "If you continue, the changes of the other program will be lost..\r\n"
+                                   " \r\n"
+                                   "Do you want to replace the file?",
+                               ui::Buttons::YesNo, ui::Icon::Question};
+
+    bool save(std::string_view bytes)
+    {
+        return saveFile(dialogs, known, file, bytes, "A.THC of the pool", " Check your selection and retry.");
+    }
+};
+
+TEST_F(Saving, AsksNothingAboutAFileThatIsAsItWas)
+{
+    scratch.put("A.THC", "old");
+    known.note(file);
+    EXPECT_TRUE(save("new"));
+    EXPECT_EQ(scratch.get("A.THC"), "new");
+    EXPECT_EQ(dialogs.shown, Messages{});
+}
+
+TEST_F(Saving, AsksBeforeTheChangesOfSomebodyElseAreReplaced)
+{
+    scratch.put("A.THC", "old");
+    known.note(file);
+    scratch.put("A.THC", "theirs");
+    dialogs.answer(ui::Answer::Yes);
+    EXPECT_TRUE(save("ours"));
+    EXPECT_EQ(scratch.get("A.THC"), "ours");
+    EXPECT_EQ(dialogs.shown, Messages{question});
+    EXPECT_TRUE(save("ours once more")) << "after a Yes the file is ours again";
+}
+
+TEST_F(Saving, LeavesTheFileAloneOnNoAndAsksAgainNextTime)
+{
+    scratch.put("A.THC", "old");
+    known.note(file);
+    scratch.put("A.THC", "theirs");
+    dialogs.answer(ui::Answer::No).answer(ui::Answer::No);
+    EXPECT_FALSE(save("ours"));
+    EXPECT_FALSE(save("ours"));
+    EXPECT_EQ(scratch.get("A.THC"), "theirs");
+    EXPECT_EQ(dialogs.shown, (Messages{question, question}));
+}
+
+TEST_F(Saving, AsksAboutAFileThatSomebodyElseHasCreatedMeanwhile)
+{
+    known.note(file);
+    scratch.put("A.THC", "theirs");
+    dialogs.answer(ui::Answer::No);
+    EXPECT_FALSE(save("ours"));
+    EXPECT_EQ(scratch.get("A.THC"), "theirs");
+}
+
+TEST_F(Saving, AsksNothingAboutAFileThatHasVanishedOrWasNeverNoted)
+{
+    EXPECT_TRUE(save("first"));
+    fs::remove(file);
+    EXPECT_TRUE(save("second"));
+    EXPECT_EQ(scratch.get("A.THC"), "second");
+    scratch.put("B.THC", "somebody's");
+    EXPECT_TRUE(saveFile(dialogs, known, scratch.path() / "B.THC", "ours", "", ""));
+    EXPECT_EQ(dialogs.shown, Messages{});
+}
+
+TEST_F(Saving, SaysThatTheFileCannotBeWrittenAndLeavesItAsItIs)
+{
+    scratch.put("A.THC", "old");
+    known.note(file);
+    fs::create_directory(scratch.path() / ".A.THC.tmp~"); // in the way of every write
+    EXPECT_FALSE(save("new"));
+    EXPECT_EQ(dialogs.shown, Messages{trouble});
+    EXPECT_EQ(scratch.get("A.THC"), "old");
+    fs::remove(scratch.path() / ".A.THC.tmp~");
+    EXPECT_TRUE(save("new")) << "and asks nothing: nobody else has changed it";
+    EXPECT_EQ(dialogs.shown.size(), 1u);
+}
+
+TEST_F(Saving, SaysTheSameAboutAFolderInTheWay)
+{
+    fs::create_directory(file);
+    EXPECT_FALSE(save("new"));
+    EXPECT_EQ(dialogs.shown, Messages{trouble});
+    EXPECT_TRUE(fs::is_directory(file));
+}
+
+TEST_F(Saving, ReplacesADataFileUnderTheNameItHas)
+{
+    scratch.put("NcaaList.ths", std::string(5000, 'x'));
+    EXPECT_TRUE(saveDataFile(dialogs, known, scratch.folder(), "NCAALIST.THS", "new"));
+    EXPECT_EQ(scratch.get("NcaaList.ths"), "new");
+    EXPECT_FALSE(scratch.has("NCAALIST.THS"));
+    EXPECT_EQ(dialogs.shown, Messages{});
+}
+
+TEST_F(Saving, NamesADataFileByItsFullPathAndTheApplicationDirectory)
+{
+    const DataFolder gone{scratch.path() / "gone"};
+    EXPECT_FALSE(saveDataFile(dialogs, known, gone, "POOLSTART.THS", "new"));
+    EXPECT_EQ(dialogs.shown, (Messages{{"** ERROR IN WRITING FILE **",
+                                        "There is a problem writing file: " + (scratch.path() / "gone").string() +
+                                            "/POOLSTART.THS\r\n Check for adequate space in the Application Directory",
+                                        ui::Buttons::Ok, ui::Icon::Critical}}));
+}
+
+TEST_F(Saving, AsksAboutADataFileByItsPathToo)
+{
+    scratch.put("POOLSTART.THS", "old");
+    known.note(scratch.path() / "POOLSTART.THS");
+    scratch.put("POOLSTART.THS", "theirs");
+    dialogs.answer(ui::Answer::No);
+    EXPECT_FALSE(saveDataFile(dialogs, known, scratch.folder(), "POOLSTART.THS", "ours"));
+    EXPECT_EQ(dialogs.captionsShown(), std::vector<std::string>{"** FILE HAS BEEN CHANGED **"});
+    EXPECT_NE(dialogs.shown.front().text.find(scratch.path().string() + "/POOLSTART.THS\r\n"), std::string::npos);
+    EXPECT_EQ(scratch.get("POOLSTART.THS"), "theirs");
+}
+
+TEST_F(Saving, SaysThatASelectionCouldNotBeReadWhole)
+{
+    showReadingTrouble(dialogs, file);
+    EXPECT_EQ(dialogs.shown, (Messages{{"** ERROR IN OPENING FILE - ReadSelections Routine **",
+                                        "There is a problem opening: " + file.string() +
+                                            "\r\n\r\n The program will attempt to continue ......",
+                                        ui::Buttons::Ok, ui::Icon::Critical}}));
+}
+
+TEST_F(Saving, ShowsAFailureInItsOwnWords)
+{
+    showTrouble(dialogs, Failure{"Problem with file, will use default values"});
+    EXPECT_EQ(dialogs.shown,
+              (Messages{{"", "Problem with file, will use default values", ui::Buttons::Ok, ui::Icon::Critical}}));
+}
+
+TEST_F(Saving, FindsNothingWrongWithASoundPlayerList)
+{
+    scratch.put("PLAYERNAMES.CSV", playerNamesFile({}));
+    EXPECT_TRUE(playerListIsSound(dialogs, scratch.folder()));
+    EXPECT_EQ(dialogs.shown, Messages{});
+}
+
+TEST_F(Saving, SaysWhatIsWrongWithTheListAndWhereTheMarkedCopyIs)
+{
+    scratch.put("PLAYERNAMES.CSV", "bad\r\n");
+    EXPECT_FALSE(playerListIsSound(dialogs, scratch.folder()));
+    EXPECT_EQ(scratch.get("PLAYERNAMES.TXT"), "** Following record too short**\r\nbad\r\n");
+    const std::string text = "There is a problem found with the file containing your player names.\r\n"
+                             "Possibly someone has edited this file with another program.\r\n"
+                             "\r\n"
+                             "The file: " +
+                             scratch.path().string() +
+                             "/PLAYERNAMES.TXT\r\n"
+                             " is a copy of the original file with the error records identified.\r\n"
+                             "\r\n"
+                             "You can either go back to a backup copy of this file or attempt\r\n"
+                             "to correct the error(s) in this copy and then rename it to\r\n"
+                             "PLAYERNAMES.CSV.\r\n"
+                             "\r\n"
+                             "See the help file for additional instructions";
+    EXPECT_EQ(dialogs.shown, (Messages{{"** ERROR Found in PLAYERNAMES.CSV file **", text, ui::Buttons::Ok,
+                                        ui::Icon::Critical, "repair"}}));
+}
+
+} // namespace
+} // namespace tallyhoop
