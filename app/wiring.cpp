@@ -2,10 +2,10 @@
 
 #include "qt/views/board_view.h"
 #include "qt/views/email_view.h"
-#include "qt/views/player_names_view.h"
+#include "qt/views/players_view.h"
 #include "qt/views/reports_view.h"
-#include "qt/views/score_display_view.h"
-#include "qt/views/seed_positions_view.h"
+#include "qt/views/scores_view.h"
+#include "qt/views/seeds_view.h"
 #include "qt/views/setup_view.h"
 #include "screens/board/board_screen.h"
 #include "screens/players/email_screen.h"
@@ -51,7 +51,7 @@ void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::P
             return std::make_unique<ScoresScreen>(folder, platform, host, shared.field, board().bracket(),
                                                   shared.listedVerdicts);
         },
-        shownBy<qt::ScoreDisplayView, ScoresScreen>());
+        shownBy<qt::ScoresView, ScoresScreen>());
     host.registerScreen<SetupScreen>(
         ScreenKind::Setup, Placement::Stacked,
         [&](const std::string& notice) {
@@ -63,7 +63,7 @@ void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::P
         [&, setup](const std::string&) {
             return std::make_unique<SeedsScreen>(setup().teamsOfFirstRegion(), setup().seeds(), platform.dialogs, host);
         },
-        shownBy<qt::SeedPositionsView, SeedsScreen>());
+        shownBy<qt::SeedsView, SeedsScreen>());
     host.registerScreen<ReportsScreen>(
         ScreenKind::Reports, Placement::Stacked,
         [&, board](const std::string&) {
@@ -73,7 +73,7 @@ void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::P
     host.registerScreen<PlayersScreen>(
         ScreenKind::Players, Placement::Stacked,
         [&](const std::string&) { return std::make_unique<PlayersScreen>(folder, platform, host, shared.savedPlayer); },
-        shownBy<qt::PlayerNamesView, PlayersScreen>());
+        shownBy<qt::PlayersView, PlayersScreen>());
     host.registerScreen<EmailScreen>(
         ScreenKind::Email, Placement::Modal,
         [&](const std::string&) { return std::make_unique<EmailScreen>(folder, platform, host, shared.mailDraft); },

@@ -42,7 +42,6 @@ void apply(QApplication&)
     QApplication::setWindowIcon(lineIcon(QStringLiteral(":/tallyhoop.svg")));
 }
 
-QFont titleFont() { return scaled(1.5, QFont::DemiBold); }
 QFont headingFont() { return scaled(1.15, QFont::DemiBold); }
 QFont smallFont() { return scaled(0.9, QFont::Normal); }
 QFont boldFont() { return scaled(1.0, QFont::DemiBold); }

@@ -24,7 +24,6 @@ inline constexpr int kSection = 16; ///< between groups, and around a page
 void apply(QApplication& application);
 
 /// Type scale, relative to the application's font.
-QFont titleFont();
 QFont headingFont();
 QFont smallFont();
 QFont boldFont();

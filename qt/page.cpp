@@ -68,7 +68,6 @@ void Page::followCommonParts(ui::Control& control, QWidget& widget)
         widget.setParent(this);
     widget.setObjectName(toQString(control.name));
     widget.installEventFilter(this);
-    m_widgets.emplace_back(&control, &widget);
     m_controls[&widget] = &control;
     m_widgetOf[&control] = &widget;
 

@@ -140,9 +140,6 @@ public:
     /// Shows this layout as the page's content, with the look's margins.
     void setContent(QLayout* layout);
 
-    /// True while the model is being shown: signals of widgets are then not caused by the person.
-    bool isPushing() const { return m_pushing; }
-
     /// @returns the widget of a control, nullptr when it has none (menu entries have actions)
     QWidget* widgetOf(const ui::Control& control) const;
     QAction* actionOf(const ui::MenuEntry& entry) const;
@@ -168,7 +165,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    using Widgets = std::vector<std::pair<ui::Control*, QWidget*>>;
 
     /// The box in which an input method is composing a text, and what it held before.
     struct Composing {
@@ -214,7 +210,6 @@ private:
 
     ui::Screen& m_screen;
     Desk& m_desk;
-    Widgets m_widgets;
     std::unordered_map<const QWidget*, ui::Control*> m_controls;
     std::unordered_map<const ui::Control*, QWidget*> m_widgetOf;
     std::unordered_map<const ui::Control*, QAction*> m_actions;

@@ -63,7 +63,6 @@ bool isPrintable(const QString& text)
 std::vector<ui::KeyPress> pressesOf(const QKeyEvent& event)
 {
     ui::KeyPress press{.key = keyOf(event.key())};
-    press.shift = event.modifiers().testFlag(Qt::ShiftModifier);
     press.control = event.modifiers().testFlag(Qt::ControlModifier) || event.modifiers().testFlag(Qt::MetaModifier);
     press.alt = event.modifiers().testFlag(Qt::AltModifier);
     if (press.key != ui::Key::Other)

@@ -1,7 +1,7 @@
 #include "qt/style.h"
 
 #include "qt/look.h"
-#include "qt/message_sign.h"
+#include "qt/message_icon.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -129,7 +129,7 @@ struct Grid : Control {
     std::vector<GridColumn> columns;
     std::vector<std::vector<std::string>> rows; ///< data rows, each with columns.size() cells
     std::optional<std::size_t> headingPressed;  ///< the heading that is being dragged, if any
-    std::string emptyNote;                      ///< stands in it as long as there are no rows; empty = nothing does
+    std::string emptyNote;                      ///< shown in it as long as there are no rows; empty = nothing is
     unsigned revision = 0; ///< increase after changing rows or columns: tables are compared by this
     std::function<void(std::size_t row, std::size_t column)> cellPressed;
     std::function<void(std::size_t column)> columnPressed;                 ///< a press on a heading

@@ -27,7 +27,7 @@ struct Message {
 struct Question {
     std::string caption;
     std::string prompt;
-    std::string proposal; ///< what stands in the box at first
+    std::string proposal; ///< what is in the box at first
 };
 
 /// A file dialog.

@@ -25,7 +25,6 @@ enum class Key {
 struct KeyPress {
     Key key = Key::Other;
     char character = 0; ///< Windows-1252 byte of Key::Character, else 0
-    bool shift = false;
     bool control = false; ///< a command key is held: the press is a shortcut, not text
     bool alt = false;
 };

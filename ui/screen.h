@@ -55,7 +55,7 @@ public:
     /// Text pasted or dropped into a box. @returns true when it was dealt with and must not be inserted
     virtual bool pasted(TextBox& box, const std::string& text);
 
-    /// @returns the control that stands at this tab position, nullptr when there is none
+    /// @returns the control at this tab position, nullptr when there is none
     Control* controlAtTab(int tabIndex) const;
 
     /// @returns the control of this name, nullptr when there is none

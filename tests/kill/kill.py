@@ -15,7 +15,7 @@ import random
 import sys
 
 from saving_program import Broken, adopt_orphans
-from victims import Installer, KilledProgram
+from killed_programs import Installer, KilledProgram
 from writers import WRITERS
 
 

@@ -1,5 +1,5 @@
-// tests/qt/weapons_dialogs_test.cpp - hostile names in message boxes, input boxes, file dialogs and the preview.
-#include "weapons/weapons.h"
+// tests/qt/hostile_names_dialogs_test.cpp - hostile names in message boxes, input boxes, file dialogs and the preview.
+#include "hostile/hostile_names.h"
 
 #include "fakes/scratch_folder.h"
 #include "files/data_folder.h"
@@ -27,9 +27,9 @@ namespace tallyhoop::qt {
 namespace {
 
 namespace fs = std::filesystem;
-using tallyhoop::test::Weapon;
+using tallyhoop::test::HostileName;
 
-class HostileNamesInDialogs : public testing::TestWithParam<Weapon>
+class HostileNamesInDialogs : public testing::TestWithParam<HostileName>
 {
 protected:
     const std::string& hostileName() const { return GetParam().text; }
@@ -177,7 +177,7 @@ TEST_P(HostileNamesInDialogs, AreSearchedForInTheHelpAsTheyAre)
     EXPECT_TRUE(help.isVisible());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInDialogs, testing::ValuesIn(tallyhoop::test::weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInDialogs, testing::ValuesIn(tallyhoop::test::hostileNames()),
                          [](const auto& values) { return values.param.kind; });
 
 TEST(HostileNamesTypedIntoAnInputBox, LoseLineBreaksAndMarksThatChangeTheDirectionOfText)

@@ -1,6 +1,6 @@
-// tests/weapons/reports_test.cpp - reports and messages take every name as it is, and write nothing but their own
+// tests/hostile/reports_test.cpp - reports and messages take every name as it is, and write nothing but their own
 // files.
-#include "weapons/weapons.h"
+#include "hostile/hostile_names.h"
 
 #include "files/player_names_file.h"
 #include "screens/reports/reports_screen_fixture.h"
@@ -10,17 +10,17 @@
 namespace tallyhoop::test {
 namespace {
 
-class WeaponsInReports : public ReportsScreenTest, public testing::WithParamInterface<Weapon>
+class HostileNamesInReports : public ReportsScreenTest, public testing::WithParamInterface<HostileName>
 {
 protected:
-    const std::string& weapon() const { return GetParam().text; }
+    const std::string& hostileName() const { return GetParam().text; }
 
     /// The same bracket with this name for one of the teams, wherever that is.
     Bracket renamed(Bracket bracket) const
     {
         for (const Position position : allPositions())
             if (bracket.at(position) == teamName(kWest, 5))
-                bracket.put(position, weapon());
+                bracket.put(position, hostileName());
         return bracket;
     }
 
@@ -30,18 +30,18 @@ protected:
         for (Entry player : fourPlayers()) {
             player.picks = renamed(player.picks);
             if (player.fileName == "Clark_D.THC") {
-                player.name = weapon();
-                player.initials = weapon();
-                player.picks.put(kChampion, weapon());
-                player.fileName = proposedFileName(weapon(), weapon());
+                player.name = hostileName();
+                player.initials = hostileName();
+                player.picks.put(kChampion, hostileName());
+                player.fileName = proposedFileName(hostileName(), hostileName());
             }
             ASSERT_TRUE(dataFolder.write(player.fileName, selectionFile(player)));
         }
         Entry results = fourPlayersResults();
         results.picks = renamed(results.picks);
         folder.put("TALLYHOOP.THS", selectionFile(results));
-        folder.put("PLAYERNAMES.CSV",
-                   playerNamesFile(std::vector<PlayerRecord>{{weapon(), weapon(), weapon(), weapon()}}));
+        folder.put("PLAYERNAMES.CSV", playerNamesFile(std::vector<PlayerRecord>{
+                                          {hostileName(), hostileName(), hostileName(), hostileName()}}));
     }
 
     std::vector<std::string> names() const
@@ -56,11 +56,12 @@ protected:
     /// Whether the layouts have room for it and none of their separators is in it.
     bool isOrdinary() const
     {
-        return weapon().size() <= 29 && weapon().find_first_of(",;") == std::string::npos && weapon() != "   ";
+        return hostileName().size() <= 29 && hostileName().find_first_of(",;") == std::string::npos &&
+               hostileName() != "   ";
     }
 };
 
-TEST_P(WeaponsInReports, AreWrittenLetterForLetter)
+TEST_P(HostileNamesInReports, AreWrittenLetterForLetter)
 {
     putPool();
     std::vector<std::string> expected = names();
@@ -78,36 +79,36 @@ TEST_P(WeaponsInReports, AreWrittenLetterForLetter)
         return;
     EXPECT_TRUE(platform.dialogs.shown.empty());
     for (const char* report : {"RPTOPT1.TXT", "RPTOPT3.TXT", "RPTOPT4.TXT"})
-        EXPECT_NE(folder.get(report).find(weapon()), std::string::npos) << report;
-    EXPECT_NE(folder.get("RPTOPT5.TXT").find(weapon().substr(0, 14)), std::string::npos);
+        EXPECT_NE(folder.get(report).find(hostileName()), std::string::npos) << report;
+    EXPECT_NE(folder.get("RPTOPT5.TXT").find(hostileName().substr(0, 14)), std::string::npos);
 }
 
-TEST_P(WeaponsInReports, AreTheTitleAndNothingElse)
+TEST_P(HostileNamesInReports, AreTheTitleAndNothingElse)
 {
     putFourPlayers(folder);
-    screen.txtReportTitle.text = weapon();
+    screen.txtReportTitle.text = hostileName();
     tickAll();
     create(kFile);
-    EXPECT_NE(folder.get("RPTOPT1.TXT").find(weapon()), std::string::npos);
-    EXPECT_NE(folder.get("RPTOPT2.TXT").find(weapon()), std::string::npos);
+    EXPECT_NE(folder.get("RPTOPT1.TXT").find(hostileName()), std::string::npos);
+    EXPECT_NE(folder.get("RPTOPT2.TXT").find(hostileName()), std::string::npos);
 }
 
-TEST_P(WeaponsInReports, ReachTheMailProgramAsTheyAre)
+TEST_P(HostileNamesInReports, ReachTheMailProgramAsTheyAre)
 {
     putFourPlayers(folder);
     tick({kListing});
-    sendFromTheDialog({.recipients = {weapon()}, .subject = weapon(), .message = weapon()});
+    sendFromTheDialog({.recipients = {hostileName()}, .subject = hostileName(), .message = hostileName()});
     create(kEmail);
     ASSERT_EQ(platform.mail.sent.size(), 1u);
     const ui::MailMessage& sent = platform.mail.sent.front();
-    EXPECT_EQ(sent.recipients, std::vector{weapon()});
-    EXPECT_EQ(sent.subject, weapon());
-    EXPECT_EQ(sent.body, weapon() + std::string(10, ' '));
+    EXPECT_EQ(sent.recipients, std::vector{hostileName()});
+    EXPECT_EQ(sent.subject, hostileName());
+    EXPECT_EQ(sent.body, hostileName() + std::string(10, ' '));
     ASSERT_EQ(sent.attachments.size(), 1u);
     EXPECT_EQ(sent.attachments.front().file, folder.path() / "RPTOPT2.TXT");
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, WeaponsInReports, testing::ValuesIn(weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInReports, testing::ValuesIn(hostileNames()),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

@@ -1,4 +1,4 @@
-// tests/qt/weapons_program.h - the program with a pool full of hostile names.
+// tests/qt/hostile_names_program.h - the program with a pool full of hostile names.
 #pragma once
 
 #include "app/wiring.h"
@@ -9,11 +9,11 @@
 #include "files/player_names_file.h"
 #include "files/selection_file.h"
 #include "files/setup_file.h"
+#include "hostile/hostile_names.h"
 #include "qt/main_frame.h"
 #include "qt/screen_host.h"
 #include "qt/text.h"
 #include "screens/board/board_screen.h"
-#include "weapons/weapons.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -28,10 +28,10 @@
 
 namespace tallyhoop::qt {
 
-using test::Weapon;
+using test::HostileName;
 
 /// The program with a pool whose title, regions, teams, seeds, comments and players all have one hostile name.
-class HostileNamesOnScreens : public testing::TestWithParam<Weapon>
+class HostileNamesOnScreens : public testing::TestWithParam<HostileName>
 {
 protected:
     HostileNamesOnScreens()

@@ -1,4 +1,4 @@
-// qt/message_sign.h - the icons of message boxes, drawn by the program itself.
+// qt/message_icon.h - the icons of message boxes, drawn by the program itself.
 #pragma once
 
 #include <QIcon>

@@ -1,21 +1,21 @@
-// tests/weapons/board_test.cpp - a player who bears such a name is saved in the folder, opened again and scored.
-#include "weapons/weapons.h"
+// tests/hostile/board_test.cpp - a player who bears such a name is saved in the folder, opened again and scored.
+#include "hostile/hostile_names.h"
 
 #include "screens/board/board_fixture.h"
 
 namespace tallyhoop::test {
 namespace {
 
-class WeaponsOnTheBoard : public BoardTest, public testing::WithParamInterface<Weapon>
+class HostileNamesOnTheBoard : public BoardTest, public testing::WithParamInterface<HostileName>
 {
 protected:
-    const std::string& weapon() const { return GetParam().text; }
+    const std::string& hostileName() const { return GetParam().text; }
 
     /// The name as a box takes it: it must not begin with a blank.
-    std::string name() const { return weapon().starts_with(' ') ? "x" + weapon() : weapon(); }
+    std::string name() const { return hostileName().starts_with(' ') ? "x" + hostileName() : hostileName(); }
 };
 
-TEST_P(WeaponsOnTheBoard, AreThePlayersNameAndNothingElse)
+TEST_P(HostileNamesOnTheBoard, AreThePlayersNameAndNothingElse)
 {
     loadFinalized();
     fill(name(), name(), "150");
@@ -32,25 +32,25 @@ TEST_P(WeaponsOnTheBoard, AreThePlayersNameAndNothingElse)
     EXPECT_EQ(board->txtPlayerName.text, name());
 }
 
-TEST_P(WeaponsOnTheBoard, AreATeamAndASeedLikeAnyOther)
+TEST_P(HostileNamesOnTheBoard, AreATeamAndASeedLikeAnyOther)
 {
     Field made = fieldOfTeams("1");
-    made.teams[TeamRow{0}] = weapon();
-    made.seeds[0] = weapon();
-    made.title = weapon();
+    made.teams[TeamRow{0}] = hostileName();
+    made.seeds[0] = hostileName();
+    made.title = hostileName();
     putField(made);
     load();
-    EXPECT_EQ(at(0), weapon());
-    EXPECT_EQ(board->lblTitle.text, weapon());
+    EXPECT_EQ(at(0), hostileName());
+    EXPECT_EQ(board->lblTitle.text, hostileName());
     for (const std::size_t row : {0, 16, 32, 48})
-        EXPECT_EQ(board->txtSeed[row].text, weapon());
+        EXPECT_EQ(board->txtSeed[row].text, hostileName());
     click(0);
-    EXPECT_EQ(at(16), weapon());
+    EXPECT_EQ(at(16), hostileName());
     drag(0, 126);
-    EXPECT_EQ(at(126), weapon());
+    EXPECT_EQ(at(126), hostileName());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, WeaponsOnTheBoard, testing::ValuesIn(weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesOnTheBoard, testing::ValuesIn(hostileNames()),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

@@ -1,5 +1,5 @@
-// tests/weapons/files_test.cpp - whatever is in one field of a file, it comes back, and the other fields with it.
-#include "weapons/weapons.h"
+// tests/hostile/files_test.cpp - whatever is in one field of a file, it comes back, and the other fields with it.
+#include "hostile/hostile_names.h"
 
 #include "base/lines.h"
 #include "base/text.h"
@@ -17,10 +17,10 @@
 namespace tallyhoop::test {
 namespace {
 
-class WeaponsInFiles : public testing::TestWithParam<Weapon>
+class HostileNamesInFiles : public testing::TestWithParam<HostileName>
 {
 protected:
-    const std::string& weapon() const { return GetParam().text; }
+    const std::string& hostileName() const { return GetParam().text; }
 };
 
 /// A text of the setup that anything can be written into.
@@ -55,22 +55,22 @@ std::vector<SetupText> textsOfTheSetup()
     return texts;
 }
 
-TEST_P(WeaponsInFiles, ComeBackFromEachTextOfTheSetup)
+TEST_P(HostileNamesInFiles, ComeBackFromEachTextOfTheSetup)
 {
     const std::vector<SetupText> texts = textsOfTheSetup();
     ASSERT_EQ(texts.size(), 94u); // 64 teams, 5 titles, 6 payoffs, 16 seeds, 2 comments, finalized
     for (const SetupText& text : texts) {
         Field field = defaultField();
-        text.put(field, weapon());
+        text.put(field, hostileName());
         const Read<Field> again = readSetup(setupFile(field));
         ASSERT_FALSE(again.trouble) << text.name;
         if (text.isComment) // a bar in a comment is a line break
-            text.put(field, decodeLineBreaks(weapon()));
+            text.put(field, decodeLineBreaks(hostileName()));
         ASSERT_EQ(again.value, field) << text.name;
     }
 }
 
-TEST_P(WeaponsInFiles, ComeBackFromEachFieldOfASelection)
+TEST_P(HostileNamesInFiles, ComeBackFromEachFieldOfASelection)
 {
     Entry plain;
     plain.initials = "JS";
@@ -81,11 +81,11 @@ TEST_P(WeaponsInFiles, ComeBackFromEachFieldOfASelection)
     std::vector<Entry> entries;
     for (const Position position : allPositions()) {
         entries.push_back(plain);
-        entries.back().picks.put(position, weapon());
+        entries.back().picks.put(position, hostileName());
     }
     for (std::string Entry::*text : {&Entry::initials, &Entry::name, &Entry::finalPoints}) {
         entries.push_back(plain);
-        entries.back().*text = weapon();
+        entries.back().*text = hostileName();
     }
     for (const Entry& entry : entries) {
         const Read<Entry> again = readSelection(selectionFile(entry));
@@ -94,17 +94,17 @@ TEST_P(WeaponsInFiles, ComeBackFromEachFieldOfASelection)
     }
 }
 
-TEST_P(WeaponsInFiles, ComeBackFromEachFieldOfAPlayer)
+TEST_P(HostileNamesInFiles, ComeBackFromEachFieldOfAPlayer)
 {
     const PlayerRecord plain{"Smith,JS", "SMITH_JS.THC", "js@example.org", "555-0102"};
     // Double quotes frame the fields; an apostrophe stands for one.
-    std::string kept = weapon();
+    std::string kept = hostileName();
     std::replace(kept.begin(), kept.end(), '"', '\'');
     for (const auto& [field, width] :
          {std::pair{&PlayerRecord::name, kNameWidth}, std::pair{&PlayerRecord::fileName, kFileNameWidth},
           std::pair{&PlayerRecord::email, kEmailWidth}, std::pair{&PlayerRecord::phone, kPhoneWidth}}) {
         PlayerRecord record = plain;
-        record.*field = weapon();
+        record.*field = hostileName();
         const std::vector<std::string> lines = linesOf(playerNamesFile(std::vector{record, plain}));
         ASSERT_EQ(lines.size(), 3u);
         EXPECT_EQ(faultOf(lines[1]), RecordFault::None);
@@ -117,21 +117,24 @@ TEST_P(WeaponsInFiles, ComeBackFromEachFieldOfAPlayer)
     }
 }
 
-TEST_P(WeaponsInFiles, DoNotEndTheListOfTeamsBeforeItsEnd)
+TEST_P(HostileNamesInFiles, DoNotEndTheListOfTeamsBeforeItsEnd)
 {
     const Result<std::vector<std::string>> again =
-        readTeamNameList(teamNameListFile(std::vector<std::string>{"Adams St.", weapon(), "Zebra"}));
+        readTeamNameList(teamNameListFile(std::vector<std::string>{"Adams St.", hostileName(), "Zebra"}));
     ASSERT_TRUE(again);
     EXPECT_TRUE(std::ranges::find(*again, "Adams St.") != again->end());
-    if (!weapon().starts_with("*")) { // a marker is no team
-        EXPECT_TRUE(std::ranges::find(*again, weapon()) != again->end());
+    if (!hostileName().starts_with("*")) { // a marker is no team
+        EXPECT_TRUE(std::ranges::find(*again, hostileName()) != again->end());
         EXPECT_TRUE(std::ranges::find(*again, "Zebra") != again->end());
     }
 }
 
-TEST_P(WeaponsInFiles, SurviveTheWayToTheSystemAndBack) { EXPECT_EQ(fromUtf8(toUtf8(weapon())), weapon()); }
+TEST_P(HostileNamesInFiles, SurviveTheWayToTheSystemAndBack)
+{
+    EXPECT_EQ(fromUtf8(toUtf8(hostileName())), hostileName());
+}
 
-INSTANTIATE_TEST_SUITE_P(Each, WeaponsInFiles, testing::ValuesIn(weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInFiles, testing::ValuesIn(hostileNames()),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

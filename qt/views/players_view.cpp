@@ -1,5 +1,5 @@
-// qt/views/player_names_view.cpp - boxes above, the players in columns below.
-#include "qt/views/player_names_view.h"
+// qt/views/players_view.cpp - boxes above, the players in columns below.
+#include "qt/views/players_view.h"
 
 #include "qt/look.h"
 #include "qt/widgets/empty_note.h"
@@ -39,7 +39,7 @@ QWidget* sized(QWidget* box, std::size_t characters)
 
 } // namespace
 
-PlayerNamesView::PlayerNamesView(PlayersScreen& names, Desk& desk) : Page{names, desk}
+PlayersView::PlayersView(PlayersScreen& names, Desk& desk) : Page{names, desk}
 {
     QVBoxLayout* page = look::column(look::kSection);
     page->addLayout(boxes(names));
@@ -49,7 +49,7 @@ PlayerNamesView::PlayerNamesView(PlayersScreen& names, Desk& desk) : Page{names,
     setContent(page);
 }
 
-QLayout* PlayerNamesView::boxes(PlayersScreen& names)
+QLayout* PlayersView::boxes(PlayersScreen& names)
 {
     QLabel* note = add(names.lblFileNameNote);
     note->setFont(look::smallFont());
@@ -72,7 +72,7 @@ QLayout* PlayerNamesView::boxes(PlayersScreen& names)
     return grid;
 }
 
-QLayout* PlayerNamesView::editButtons(PlayersScreen& names)
+QLayout* PlayersView::editButtons(PlayersScreen& names)
 {
     QHBoxLayout* row = look::row();
     row->addWidget(add(names.cmdAdd));
@@ -82,7 +82,7 @@ QLayout* PlayerNamesView::editButtons(PlayersScreen& names)
     return row;
 }
 
-QLayout* PlayerNamesView::list(PlayersScreen& names)
+QLayout* PlayersView::list(PlayersScreen& names)
 {
     QVBoxLayout* column = look::column(look::kTight);
     QListView* players = add(names.lstNames);
@@ -93,7 +93,7 @@ QLayout* PlayerNamesView::list(PlayersScreen& names)
     return column;
 }
 
-QLayout* PlayerNamesView::closeButtons(PlayersScreen& names)
+QLayout* PlayersView::closeButtons(PlayersScreen& names)
 {
     QHBoxLayout* row = look::row();
     row->addStretch(1);

@@ -1,5 +1,5 @@
-// tests/qt/views/score_display_view_test.cpp - the mouse and the keys on the scores reach the model, which is shown.
-#include "qt/views/score_display_view.h"
+// tests/qt/views/scores_view_test.cpp - the mouse and the keys on the scores reach the model, which is shown.
+#include "qt/views/scores_view.h"
 
 #include "app/wiring.h"
 #include "demo/sample_pool.h"
@@ -17,10 +17,10 @@ namespace {
 
 using testing::ElementsAre;
 
-class ScoreDisplayViewTest : public testing::Test
+class ScoresViewTest : public testing::Test
 {
 protected:
-    ScoreDisplayViewTest()
+    ScoresViewTest()
     {
         EXPECT_TRUE(demo::installSamplePool(folder));
         shared.field = demo::sampleField();
@@ -80,17 +80,17 @@ protected:
     const Bracket results{demo::sampleResults().picks};
     ScoresScreen scores{folder, platform.services, screens, shared.field, results, shared.listedVerdicts};
     Desk desk;
-    ScoreDisplayView view{scores, desk};
+    ScoresView view{scores, desk};
 };
 
-TEST_F(ScoreDisplayViewTest, ShowsEveryControl)
+TEST_F(ScoresViewTest, ShowsEveryControl)
 {
     EXPECT_EQ(view.controlsWithoutWidget(), std::vector<std::string>{});
     EXPECT_FALSE(view.findChild<QWidget*>(QStringLiteral("filList"))->isVisible());
     EXPECT_EQ(view.windowTitle(), QStringLiteral("Display Scores (Total, Possible)"));
 }
 
-TEST_F(ScoreDisplayViewTest, CalculatesAtThePressOfTheButton)
+TEST_F(ScoresViewTest, CalculatesAtThePressOfTheButton)
 {
     EXPECT_EQ(table().model()->rowCount(), 0);
     press("cmdOk");
@@ -100,7 +100,7 @@ TEST_F(ScoreDisplayViewTest, CalculatesAtThePressOfTheButton)
     EXPECT_THAT(shown(3), ElementsAre("71", "67", "31", "120"));
 }
 
-TEST_F(ScoreDisplayViewTest, SortsByAHeadingThatIsDraggedToTheFront)
+TEST_F(ScoresViewTest, SortsByAHeadingThatIsDraggedToTheFront)
 {
     press("cmdOk");
     dragHeading(2, 0);
@@ -110,7 +110,7 @@ TEST_F(ScoreDisplayViewTest, SortsByAHeadingThatIsDraggedToTheFront)
     EXPECT_EQ(scores.msgScoreDisplay.columns[0].heading, "Score");
 }
 
-TEST_F(ScoreDisplayViewTest, MarksTheBoardWhenAFileNameIsPressedAndOnlyThen)
+TEST_F(ScoresViewTest, MarksTheBoardWhenAFileNameIsPressedAndOnlyThen)
 {
     press("cmdOk");
     pressCell(0, 2);
@@ -121,7 +121,7 @@ TEST_F(ScoreDisplayViewTest, MarksTheBoardWhenAFileNameIsPressedAndOnlyThen)
     EXPECT_EQ((*shared.listedVerdicts)[gamePositions().front()], Verdict::Good);
 }
 
-TEST_F(ScoreDisplayViewTest, MarksTheBoardWithTheKeyboardToo)
+TEST_F(ScoresViewTest, MarksTheBoardWithTheKeyboardToo)
 {
     press("cmdOk");
     table().setFocus();
@@ -130,7 +130,7 @@ TEST_F(ScoreDisplayViewTest, MarksTheBoardWithTheKeyboardToo)
     EXPECT_TRUE(shared.listedVerdicts);
 }
 
-TEST_F(ScoreDisplayViewTest, LeavesOnEscape)
+TEST_F(ScoresViewTest, LeavesOnEscape)
 {
     QTest::keyClick(&view, Qt::Key_Escape);
     EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::Scores));

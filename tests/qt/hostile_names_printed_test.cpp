@@ -1,12 +1,12 @@
-// tests/qt/weapons_printed_test.cpp - hostile names on paper: the text of the PDF files is read back.
-#include "weapons/weapons.h"
+// tests/qt/hostile_names_printed_test.cpp - hostile names on paper: the text of the PDF files is read back.
+#include "hostile/hostile_names.h"
 
 #include "app/wiring.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
+#include "qt/hostile_names_program.h"
 #include "qt/paths.h"
 #include "qt/services/qt_printer.h"
-#include "qt/weapons_program.h"
 
 #include <QProcess>
 #include <algorithm>
@@ -14,7 +14,7 @@
 namespace tallyhoop::qt {
 namespace {
 
-class HostileNamesPrinted : public testing::TestWithParam<Weapon>
+class HostileNamesPrinted : public testing::TestWithParam<HostileName>
 {
 protected:
     const std::string& hostileName() const { return GetParam().text; }
@@ -96,7 +96,7 @@ TEST_P(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, HostileNamesPrinted, testing::ValuesIn(test::weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesPrinted, testing::ValuesIn(test::hostileNames()),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

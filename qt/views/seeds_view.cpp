@@ -1,5 +1,5 @@
-// qt/views/seed_positions_view.cpp - lays out the seed positions screen.
-#include "qt/views/seed_positions_view.h"
+// qt/views/seeds_view.cpp - lays out the seed positions screen.
+#include "qt/views/seeds_view.h"
 
 #include "qt/look.h"
 
@@ -16,7 +16,7 @@ constexpr int kTeamWidth = 200; ///< for most team names
 
 } // namespace
 
-SeedPositionsView::SeedPositionsView(SeedsScreen& seeds, Desk& desk) : Page{seeds, desk}
+SeedsView::SeedsView(SeedsScreen& seeds, Desk& desk) : Page{seeds, desk}
 {
     auto* rows = new QGridLayout;
     rows->setHorizontalSpacing(look::kGap);

@@ -1,4 +1,4 @@
-// qt/views/player_names_view.h - the player list as the person sees it.
+// qt/views/players_view.h - the player list as the person sees it.
 #pragma once
 
 #include "qt/page.h"
@@ -6,12 +6,12 @@
 
 namespace tallyhoop::qt {
 
-class PlayerNamesView : public Page
+class PlayersView : public Page
 {
     Q_OBJECT
 
 public:
-    PlayerNamesView(PlayersScreen& names, Desk& desk);
+    PlayersView(PlayersScreen& names, Desk& desk);
 
 private:
     QLayout* boxes(PlayersScreen& names);

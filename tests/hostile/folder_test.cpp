@@ -1,5 +1,5 @@
-// tests/weapons/folder_test.cpp - no name, wherever it comes from, leads out of the program's folder.
-#include "weapons/weapons.h"
+// tests/hostile/folder_test.cpp - no name, wherever it comes from, leads out of the program's folder.
+#include "hostile/hostile_names.h"
 
 #include "base/windows1252.h"
 #include "fakes/scratch_folder.h"
@@ -26,10 +26,10 @@ bool isDevice(const std::string& name)
     return false;
 }
 
-class WeaponsAsFileNames : public testing::TestWithParam<Weapon>
+class HostileFileNames : public testing::TestWithParam<HostileName>
 {
 protected:
-    const std::string& weapon() const { return GetParam().text; }
+    const std::string& hostileName() const { return GetParam().text; }
 
     /// The folder, and everything around it, as paths relative to what is around it.
     std::vector<std::string> everything() const
@@ -50,10 +50,10 @@ protected:
     }()};
 };
 
-TEST_P(WeaponsAsFileNames, StayInTheFolderOrAreRefused)
+TEST_P(HostileFileNames, StayInTheFolderOrAreRefused)
 {
     for (const std::string& name :
-         {weapon(), weapon() + ".THC", "x/" + weapon(), weapon() + std::string{"\0.THC", 5}}) {
+         {hostileName(), hostileName() + ".THC", "x/" + hostileName(), hostileName() + std::string{"\0.THC", 5}}) {
         const std::optional<fs::path> path = folder.pathOf(name);
         if (!path)
             continue;
@@ -64,24 +64,24 @@ TEST_P(WeaponsAsFileNames, StayInTheFolderOrAreRefused)
     }
 }
 
-TEST_P(WeaponsAsFileNames, AreWrittenInTheFolderOrNotAtAll)
+TEST_P(HostileFileNames, AreWrittenInTheFolderOrNotAtAll)
 {
     const std::vector<std::string> before = everything();
-    const bool written = static_cast<bool>(folder.write(weapon(), "x"));
+    const bool written = static_cast<bool>(folder.write(hostileName(), "x"));
     std::vector<std::string> after = everything();
     if (written) {
-        const std::string made = "pool/" + toUtf8(weapon());
+        const std::string made = "pool/" + toUtf8(hostileName());
         EXPECT_EQ(std::erase(after, made), 1) << "not where it belongs";
-        EXPECT_TRUE(folder.remove(weapon()));
+        EXPECT_TRUE(folder.remove(hostileName()));
         EXPECT_EQ(everything(), before);
     }
     EXPECT_EQ(after, before);
 }
 
-TEST_P(WeaponsAsFileNames, AreProposedAsBareNames)
+TEST_P(HostileFileNames, AreProposedAsBareNames)
 {
-    for (const std::string& name :
-         {proposedFileName(weapon(), weapon()), proposedFileName("", weapon()), proposedFileName(weapon(), "")}) {
+    for (const std::string& name : {proposedFileName(hostileName(), hostileName()), proposedFileName("", hostileName()),
+                                    proposedFileName(hostileName(), "")}) {
         EXPECT_TRUE(isBareName(name)) << name;
         EXPECT_TRUE(endsWithFolded(name, ".THC")) << name;
         EXPECT_FALSE(isDevice(name)) << name;
@@ -93,16 +93,17 @@ TEST_P(WeaponsAsFileNames, AreProposedAsBareNames)
     }
 }
 
-TEST_P(WeaponsAsFileNames, InTheRecordOfAPlayerStandForNoFileOutside)
+TEST_P(HostileFileNames, InTheRecordOfAPlayerStandForNoFileOutside)
 {
-    for (const std::string& recorded : {weapon(), weapon() + ".THC", "../" + weapon(), std::string{"../outside.THC"}})
+    for (const std::string& recorded :
+         {hostileName(), hostileName() + ".THC", "../" + hostileName(), std::string{"../outside.THC"}})
         EXPECT_EQ(selectionFileOf(folder, recorded), std::nullopt) << recorded;
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, WeaponsAsFileNames, testing::ValuesIn(weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileFileNames, testing::ValuesIn(hostileNames()),
                          [](const auto& values) { return values.param.kind; });
 
-TEST(WeaponsOnTheDisk, MarksThatTurnANameAroundAreShownAsWhatTheyAreNot)
+TEST(HostileNamesOnTheDisk, MarksThatTurnANameAroundAreShownAsWhatTheyAreNot)
 {
     const ScratchFolder scratch;
     const fs::path turned = scratch.path() / u8"Smith\u202ECHT.exe_\u200F\u2066.THC";

@@ -1,5 +1,6 @@
-// tests/qt/weapons_test.cpp - every screen with a pool full of hostile names: they are shown, and nothing else happens.
-#include "qt/weapons_program.h"
+// tests/qt/hostile_names_test.cpp - every screen with a pool full of hostile names: they are shown, and nothing else
+// happens.
+#include "qt/hostile_names_program.h"
 
 #include "qt/services/outgoing_mail.h"
 #include "screens/scores/scores_screen.h"
@@ -101,7 +102,7 @@ TEST_P(HostileNamesOnScreens, AreTextAmongTheSeedsAndNumbersNever)
     EXPECT_EQ(host.find<SetupScreen>(ScreenKind::Setup)->lblSeed[0].text, hostileName());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, HostileNamesOnScreens, testing::ValuesIn(test::weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesOnScreens, testing::ValuesIn(test::hostileNames()),
                          [](const auto& values) { return values.param.kind; });
 
 /// What a client finds in its composing argument: a value in apostrophes is taken as it is and ends at an apostrophe
@@ -130,7 +131,7 @@ std::map<std::string, std::string> composed(const std::string& argument)
     return found;
 }
 
-class HostileNamesInMail : public testing::TestWithParam<Weapon>
+class HostileNamesInMail : public testing::TestWithParam<HostileName>
 {
 protected:
     const std::string& hostileName() const { return GetParam().text; }
@@ -183,7 +184,7 @@ TEST_P(HostileNamesInMail, ReachXdgEmailAsOneAddressAndNeverAsAnOption)
     EXPECT_EQ(decoded(body + 6, address.size()), sent.body);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInMail, testing::ValuesIn(test::weapons()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInMail, testing::ValuesIn(test::hostileNames()),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

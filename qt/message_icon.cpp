@@ -1,4 +1,4 @@
-#include "qt/message_sign.h"
+#include "qt/message_icon.h"
 
 #include <QPainter>
 

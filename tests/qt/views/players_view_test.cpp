@@ -1,5 +1,5 @@
-// tests/qt/views/player_names_view_test.cpp - does the player list on screen reach the model, and the model the screen?
-#include "qt/views/player_names_view.h"
+// tests/qt/views/players_view_test.cpp - does the player list on screen reach the model, and the model the screen?
+#include "qt/views/players_view.h"
 
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
@@ -17,10 +17,10 @@ namespace {
 using test::csv;
 using test::playerFile;
 
-class PlayerNamesViewTest : public testing::Test
+class PlayersViewTest : public testing::Test
 {
 protected:
-    PlayerNamesViewTest()
+    PlayersViewTest()
     {
         scratch.put("PLAYERNAMES.CSV", playerFile({csv("Adams,B", "ADAMS_B.THC", "b@example.org", "555-0101"),
                                                    csv("Smith,JS", "SMITH_JS.THC", "js@example.org", "555-0102")}));
@@ -56,12 +56,12 @@ protected:
     std::optional<SavedPlayer> saved;
     PlayersScreen names{folder, platform.services, screens, saved};
     Desk desk;
-    PlayerNamesView view{names, desk};
+    PlayersView view{names, desk};
 };
 
-TEST_F(PlayerNamesViewTest, ShowsEveryControl) { EXPECT_EQ(view.controlsWithoutWidget(), std::vector<std::string>{}); }
+TEST_F(PlayersViewTest, ShowsEveryControl) { EXPECT_EQ(view.controlsWithoutWidget(), std::vector<std::string>{}); }
 
-TEST_F(PlayerNamesViewTest, APressOnARowFillsTheBoxes)
+TEST_F(PlayersViewTest, APressOnARowFillsTheBoxes)
 {
     pressRow(1);
     EXPECT_EQ(text("txtName"), QStringLiteral("Smith,JS"));
@@ -70,7 +70,7 @@ TEST_F(PlayerNamesViewTest, APressOnARowFillsTheBoxes)
     EXPECT_EQ(text("txtPhone"), QStringLiteral("555-0102"));
 }
 
-TEST_F(PlayerNamesViewTest, WhatIsTypedIsWritten)
+TEST_F(PlayersViewTest, WhatIsTypedIsWritten)
 {
     pressRow(0);
     auto* phone = widget<QLineEdit>("txtPhone");
@@ -86,7 +86,7 @@ TEST_F(PlayerNamesViewTest, WhatIsTypedIsWritten)
     EXPECT_EQ(screens.unloads, std::vector<ScreenKind>{ScreenKind::Players});
 }
 
-TEST_F(PlayerNamesViewTest, TheFileNameCannotBeTyped)
+TEST_F(PlayersViewTest, TheFileNameCannotBeTyped)
 {
     auto* file = widget<QLineEdit>("txtFileName");
     EXPECT_TRUE(file->isReadOnly());
@@ -95,13 +95,13 @@ TEST_F(PlayerNamesViewTest, TheFileNameCannotBeTyped)
     EXPECT_EQ(file->text(), QString{});
 }
 
-TEST_F(PlayerNamesViewTest, EscapeIsCancel)
+TEST_F(PlayersViewTest, EscapeIsCancel)
 {
     QTest::keyClick(widget("txtName"), Qt::Key_Escape);
     EXPECT_EQ(screens.unloads, std::vector<ScreenKind>{ScreenKind::Players});
 }
 
-TEST_F(PlayerNamesViewTest, FitsASmallScreen)
+TEST_F(PlayersViewTest, FitsASmallScreen)
 {
     EXPECT_LE(view.findChild<PageArea*>()->widget()->minimumSizeHint().width(), 1366);
     EXPECT_LE(view.minimumSizeHint().height(), 700);

@@ -1,6 +1,6 @@
-// tests/qt/weapons_typed_test.cpp - hostile names pasted into every box of every window: each is text, and the window's
-// layout does not change.
-#include "qt/weapons_program.h"
+// tests/qt/hostile_names_typed_test.cpp - hostile names pasted into every box of every window: each is text, and the
+// window's layout does not change.
+#include "qt/hostile_names_program.h"
 
 #include "base/windows1252.h"
 #include "demo/sample_pool.h"
@@ -39,8 +39,8 @@ std::vector<Pasted> allPasted()
         {"AccentInTwoPieces", QStringLiteral("Rene\u0301"), "Ren\xE9", "Ren\xE9"},
         {"Lines", QStringLiteral("one\ntwo\u2029three"), "one two three", "one\r\ntwo\r\nthree"},
     };
-    for (const Weapon& weapon : test::weapons())
-        all.push_back({"File" + weapon.kind, toQString(weapon.text), weapon.text, weapon.text});
+    for (const HostileName& hostile : test::hostileNames())
+        all.push_back({"File" + hostile.kind, toQString(hostile.text), hostile.text, hostile.text});
     return all;
 }
 

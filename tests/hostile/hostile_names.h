@@ -1,4 +1,4 @@
-// tests/weapons/weapons.h - names that somebody chose to do harm with, one of each kind.
+// tests/hostile/hostile_names.h - names that somebody chose to do harm with, one of each kind.
 #pragma once
 
 #include <ostream>
@@ -8,17 +8,17 @@
 namespace tallyhoop::test {
 
 /// A name as it may come out of a file: Windows-1252 bytes, no line ends.
-struct Weapon {
+struct HostileName {
     std::string kind; ///< letters only
     std::string text;
 };
 
 /// What a failing test says of it.
-inline void PrintTo(const Weapon& weapon, std::ostream* out) { *out << weapon.kind; }
+inline void PrintTo(const HostileName& hostile, std::ostream* out) { *out << hostile.kind; }
 
-inline const std::vector<Weapon>& weapons()
+inline const std::vector<HostileName>& hostileNames()
 {
-    static const std::vector<Weapon> all{
+    static const std::vector<HostileName> all{
         {"Bold", "<b>bold</b>"},
         {"Picture", "<img src=\"/etc/passwd\">"},
         {"Link", "<a href=\"file:///etc/passwd\">x</a>"},

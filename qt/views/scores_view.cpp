@@ -1,4 +1,4 @@
-#include "qt/views/score_display_view.h"
+#include "qt/views/scores_view.h"
 
 #include "qt/look.h"
 #include "qt/text.h"
@@ -14,7 +14,7 @@ constexpr int kHeight = 420;
 
 } // namespace
 
-ScoreDisplayView::ScoreDisplayView(ScoresScreen& scores, Desk& desk) : Page{scores, desk}
+ScoresView::ScoresView(ScoresScreen& scores, Desk& desk) : Page{scores, desk}
 {
     auto* const commands = look::row();
     commands->addWidget(add(scores.cmdOk));

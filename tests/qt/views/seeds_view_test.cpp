@@ -1,5 +1,5 @@
 // The seed positions screen in its window.
-#include "qt/views/seed_positions_view.h"
+#include "qt/views/seeds_view.h"
 
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
@@ -16,16 +16,16 @@
 namespace tallyhoop::qt {
 namespace {
 
-class SeedPositionsViewTest : public ::testing::Test
+class SeedsViewTest : public ::testing::Test
 {
 protected:
-    SeedPositionsViewTest()
+    SeedsViewTest()
     {
         files.put("NCAALIST.THS", test::crlf({"*START*", "Duke", "*END*"}));
         setupView = std::make_unique<SetupView>(setup, desk);
         desk.runInside(setup, [this] { setup.load(); });
         seeds = std::make_unique<SeedsScreen>(setup.teamsOfFirstRegion(), setup.seeds(), computer.dialogs, screens);
-        view = std::make_unique<SeedPositionsView>(*seeds, desk);
+        view = std::make_unique<SeedsView>(*seeds, desk);
         desk.runInside(*seeds, [this] { seeds->load(); });
         view->show();
         QApplication::setActiveWindow(view.get());
@@ -44,10 +44,10 @@ protected:
     Desk desk;
     std::unique_ptr<SetupView> setupView;
     std::unique_ptr<SeedsScreen> seeds;
-    std::unique_ptr<SeedPositionsView> view;
+    std::unique_ptr<SeedsView> view;
 };
 
-TEST_F(SeedPositionsViewTest, ShowsEveryControlAndFitsASmallScreen)
+TEST_F(SeedsViewTest, ShowsEveryControlAndFitsASmallScreen)
 {
     EXPECT_EQ(view->controlsWithoutWidget(), std::vector<std::string>{});
     EXPECT_EQ(seed(0).text(), " 1");
@@ -55,7 +55,7 @@ TEST_F(SeedPositionsViewTest, ShowsEveryControlAndFitsASmallScreen)
     EXPECT_LE(view->minimumSizeHint().height(), 700);
 }
 
-TEST_F(SeedPositionsViewTest, SeedsTypedHereAreBesideTheBoxesOfAllRegionsAfterComplete)
+TEST_F(SeedsViewTest, SeedsTypedHereAreBesideTheBoxesOfAllRegionsAfterComplete)
 {
     const auto type = [this](std::size_t row, const QString& text) {
         seed(row).selectAll();
@@ -73,14 +73,14 @@ TEST_F(SeedPositionsViewTest, SeedsTypedHereAreBesideTheBoxesOfAllRegionsAfterCo
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Seeds});
 }
 
-TEST_F(SeedPositionsViewTest, ABoxTakesFourCharactersAtMost)
+TEST_F(SeedsViewTest, ABoxTakesFourCharactersAtMost)
 {
     seed(3).clear();
     QTest::keyClicks(&seed(3), "12345");
     EXPECT_EQ(seed(3).text(), "1234");
 }
 
-TEST_F(SeedPositionsViewTest, EscapeMeansCancel)
+TEST_F(SeedsViewTest, EscapeMeansCancel)
 {
     QTest::keyClicks(&seed(0), "9");
     QTest::keyClick(&seed(0), Qt::Key_Escape);
