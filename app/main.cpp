@@ -1,4 +1,4 @@
-// app/main.cpp - the program's entry: the services of this computer, the frame, the screens, and off it goes.
+// app/main.cpp - the program's entry: creates the services of this computer, the frame and the screens, and runs them.
 
 #include "app/start_up.h"
 #include "app/wiring.h"

@@ -1,3 +1,4 @@
+// app/start_up.cpp - the board comes first; the demo is offered over it when the folder has no pool yet.
 #include "app/start_up.h"
 
 #include "files/file_names.h"

@@ -1,3 +1,4 @@
+// app/wiring.cpp - one entry for each screen: where it is placed, how it is made, which view shows it.
 #include "app/wiring.h"
 
 #include "qt/views/board_view.h"

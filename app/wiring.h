@@ -1,4 +1,4 @@
-// app/wiring.h - which class is behind each screen, and what it is handed.
+// app/wiring.h - which class each screen is, and what it is handed.
 #pragma once
 
 #include "files/data_folder.h"

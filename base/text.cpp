@@ -9,6 +9,12 @@ namespace tallyhoop {
 
 std::string trimTrailingBlanks(std::string_view text) { return std::string{text.substr(0, lastNonBlank(text))}; }
 
+std::string withoutOuterBlanks(std::string_view text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string_view::npos ? std::string{} : trimTrailingBlanks(text.substr(first));
+}
+
 std::size_t lastNonBlank(std::string_view text)
 {
     const std::size_t place = text.find_last_not_of(' ');

@@ -12,6 +12,9 @@ inline constexpr std::string_view kLineBreak = "\r\n";
 /// Removes blanks from the end; other white space stays.
 std::string trimTrailingBlanks(std::string_view text);
 
+/// Removes blanks from both ends.
+std::string withoutOuterBlanks(std::string_view text);
+
 /// @returns the 1-based place of the last character that is not a blank, 0 when there is none
 std::size_t lastNonBlank(std::string_view text);
 

@@ -1,8 +1,8 @@
 // base/windows1252.h - which byte of our texts is which character, and the case-insensitive order of texts.
 //
 // Inside the core a text is one byte per character, in Windows-1252, exactly as the data files hold it. The five bytes
-// that Windows-1252 leaves unassigned (81, 8D, 8F, 90, 9D) stand for the control characters of the same number, so
-// every byte survives a way to Unicode and back.
+// that Windows-1252 leaves unassigned (81, 8D, 8F, 90, 9D) are the control characters of the same number, so
+// every byte survives the conversion to Unicode and back.
 #pragma once
 
 #include <optional>

@@ -118,6 +118,7 @@ public:
     {
         screen.msgScoreDisplay.columnPressed(from);
         screen.msgScoreDisplay.columnReleased(to);
+        screen.showState();
     }
 
     test::ScratchFolder scratch;

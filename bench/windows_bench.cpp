@@ -1,6 +1,5 @@
-// bench/windows_bench.cpp - the real screens in real windows, on whatever platform Qt is told to use: how long from
-// what a person does to what is painted. The scripts beside it make the folder, and set the numbers against a
-// reference.
+// bench/windows_bench.cpp - the real screens in real windows, on the platform that Qt uses: how long from what a person
+// does to what is painted. The scripts beside it make the folder, and set the numbers against a reference.
 //
 // Before each round it waits for a line on its input, so that a script can interleave its reference. Each figure is a
 // line of its own: what, milliseconds until it was painted, milliseconds of processor time.

@@ -1,4 +1,4 @@
-// demo/main.cpp - DEMOSET.EXE: puts the sample pool into the folder in which this program lies.
+// demo/main.cpp - DEMOSET.EXE: puts the sample pool into the folder of this program.
 #include "base/windows1252.h"
 #include "demo/sample_pool.h"
 #include "files/replace_file.h"

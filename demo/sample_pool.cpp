@@ -60,7 +60,7 @@ Field sampleField()
 {
     Field field = defaultField();
     for (const TeamRow row : allTeamRows())
-        field.teams[row] = kSampleField.at(static_cast<std::size_t>(index(row)));
+        field.teams[row] = kSampleField[row];
     field.title = "2000 NCAA Tournament";
     field.comment1 = "A sample pool: the tournament of 2000.";
     field.comment2 = "Its last three games are still to be entered.";

@@ -1,7 +1,6 @@
 // demo/sample_tournament.cpp - the field of 64 and its winners.
 #include "demo/sample_tournament.h"
 
-#include <cstddef>
 #include <string>
 
 namespace tallyhoop::demo {
@@ -34,20 +33,20 @@ constexpr RegionWinners kSouth{.round1 = {"Stanford", "North Carolina", "Connect
 
 } // namespace
 
-const std::array<std::string_view, kTeams> kSampleField = {
-    // West
-    "Arizona", "Jackson St.", "Wisconsin", "Fresno St.", "Texas", "Indiana St.", "LSU", "SE Missouri St.", "Purdue",
-    "Dayton", "Oklahoma", "Winthrop", "Louisville", "Gonzaga", "St. John's", "Northern Arizona",
-    // Midwest
-    "Michigan St.", "Valparaiso", "Utah", "St. Louis", "Kentucky", "St. Bonaventure", "Syracuse", "Samford", "UCLA",
-    "Ball St.", "Maryland", "Iona", "Auburn", "Creighton", "Iowa St.", "Central Conn. St.",
-    // East
-    "Duke", "Lamar", "Kansas", "DePaul", "Florida", "Butler", "Illinois", "Pennsylvania", "Indiana", "Pepperdine",
-    "Oklahoma St.", "Hofstra", "Oregon", "Seton Hall", "Temple", "Lafayette",
-    // South
-    "Stanford", "S. Carolina St.", "North Carolina", "Missouri", "Connecticut", "Utah St.", "Tennessee",
-    "Louisiana-Lafayette", "Miami (FL)", "Arkansas", "Ohio St.", "Appalachian St.", "Tulsa", "UNLV", "Cincinnati",
-    "UNC Wilmington"};
+const ByTeamRow<std::string_view> kSampleField = {
+    {// West
+     "Arizona", "Jackson St.", "Wisconsin", "Fresno St.", "Texas", "Indiana St.", "LSU", "SE Missouri St.", "Purdue",
+     "Dayton", "Oklahoma", "Winthrop", "Louisville", "Gonzaga", "St. John's", "Northern Arizona",
+     // Midwest
+     "Michigan St.", "Valparaiso", "Utah", "St. Louis", "Kentucky", "St. Bonaventure", "Syracuse", "Samford", "UCLA",
+     "Ball St.", "Maryland", "Iona", "Auburn", "Creighton", "Iowa St.", "Central Conn. St.",
+     // East
+     "Duke", "Lamar", "Kansas", "DePaul", "Florida", "Butler", "Illinois", "Pennsylvania", "Indiana", "Pepperdine",
+     "Oklahoma St.", "Hofstra", "Oregon", "Seton Hall", "Temple", "Lafayette",
+     // South
+     "Stanford", "S. Carolina St.", "North Carolina", "Missouri", "Connecticut", "Utah St.", "Tennessee",
+     "Louisiana-Lafayette", "Miami (FL)", "Arkansas", "Ohio St.", "Appalachian St.", "Tulsa", "UNLV", "Cincinnati",
+     "UNC Wilmington"}};
 
 const Winners kSampleResults{
     .regions = {kWest, kMidwest, kEast, kSouth}, .semifinalA = {}, .semifinalB = {}, .champion = {}};
@@ -56,7 +55,7 @@ Bracket bracketOf(const Winners& winners)
 {
     ByPosition<std::string_view> teams;
     for (const TeamRow row : allTeamRows())
-        teams[positionOf(row)] = kSampleField.at(static_cast<std::size_t>(index(row)));
+        teams[positionOf(row)] = kSampleField[row];
     for (int region = 0; region < kRegions; ++region) {
         const RegionWinners& won = winners.regions.at(static_cast<std::size_t>(region));
         auto game = gamesOfRegion(region).begin();

@@ -25,7 +25,7 @@ struct Winners {
 };
 
 /// The teams of the first-round rows, region by region.
-extern const std::array<std::string_view, kTeams> kSampleField;
+extern const ByTeamRow<std::string_view> kSampleField;
 
 /// What really happened up to and including the regional finals; the last three games are left open to be tried.
 extern const Winners kSampleResults;

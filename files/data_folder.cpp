@@ -159,7 +159,7 @@ Result<Done> DataFolder::remove(std::string_view name) const
         return refusedName(name);
     std::error_code error;
     if (fs::is_directory(fs::symlink_status(*file, error)))
-        error = std::make_error_code(std::errc::is_a_directory); // an empty one would go without a word
+        error = std::make_error_code(std::errc::is_a_directory); // an empty one would be removed silently
     else
         fs::remove(*file, error);
     if (error)

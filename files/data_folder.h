@@ -31,8 +31,7 @@ public:
 
     const std::filesystem::path& folder() const { return m_folder; }
 
-    /// @returns the path of the entry of this name, or the path a new file of this name gets; nothing for a refused
-    /// name
+    /// @returns the path of the entry of this name, or of a new file of this name; nothing for a refused name
     std::optional<std::filesystem::path> pathOf(std::string_view name) const;
 
     /// @param name one of the program's own, never a refused one

@@ -25,7 +25,7 @@ ReadEntries readEntries(std::span<const FolderFile> files, const Bracket& like, 
     for (const FolderFile& file : files) {
         Read<Entry> entry = readSelectionFile(file.path, like);
         if (entry.trouble)
-            read.troubled.push_back(file.path);
+            read.troubles.push_back({file.path, *entry.trouble});
         read.entries.push_back(std::move(entry.value));
         if (!step())
             break;
@@ -52,8 +52,8 @@ Pool readPool(const DataFolder& folder)
     }
     ReadEntries read = readEntries(folder.files(file_name::kSelectionExtension), like);
     pool.entries = std::move(read.entries);
-    for (const std::filesystem::path& file : read.troubled)
-        pool.trouble.push_back(Failure{shown(file) + ": The file could not be read, or not whole."});
+    for (const FileTrouble& trouble : read.troubles)
+        pool.trouble.push_back(troubleOf(trouble.file, trouble.failure));
     return pool;
 }
 

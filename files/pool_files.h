@@ -11,10 +11,16 @@
 
 namespace tallyhoop {
 
-/// Entries as their files were read, in the order of the list of files.
+/// A file that could not be read, or not whole.
+struct FileTrouble {
+    std::filesystem::path file;
+    Failure failure;
+};
+
+/// Entries as their files were read, in the order of the list of files; what could be read of a troubled one is there.
 struct ReadEntries {
     std::vector<Entry> entries;
-    std::vector<std::filesystem::path> troubled; ///< files that could not be read, or not whole; what was read is there
+    std::vector<FileTrouble> troubles;
 };
 
 /// Reads every file once, one step of work each.

@@ -1,4 +1,4 @@
-// files/replace_file_posix.cpp - writing, flushing and renaming, and reading, on Linux and its kin.
+// files/replace_file_posix.cpp - writing, flushing and renaming, and reading, on Linux and other POSIX systems.
 #ifndef _WIN32
 
 #include "files/replace_file_steps.h"

@@ -12,7 +12,7 @@ namespace tallyhoop {
 
 namespace {
 
-std::string_view withoutEnding(std::string_view name)
+std::string_view withoutExtension(std::string_view name)
 {
     const std::string_view extension = file_name::kSelectionExtension;
     return endsWithFolded(name, extension) ? name.substr(0, name.size() - extension.size()) : name;
@@ -64,13 +64,13 @@ std::optional<std::filesystem::path> selectionFileOf(const DataFolder& folder, s
     return onlyFileBeginningWith(folder, fitted(name, kFileNameWidth));
 }
 
-bool recordStandsFor(const DataFolder& folder, std::string_view recorded, std::string_view fileName)
+bool recordMeans(const DataFolder& folder, std::string_view recorded, std::string_view fileName)
 {
     const std::string name = trimTrailingBlanks(recorded);
     const bool cut = fileName.size() > kFileNameWidth && !endsWithFolded(name, file_name::kSelectionExtension) &&
                      startsWithFolded(fileName, fitted(name, kFileNameWidth));
     if (!cut)
-        return !name.empty() && equalFolded(withoutEnding(name), withoutEnding(fileName));
+        return !name.empty() && equalFolded(withoutExtension(name), withoutExtension(fileName));
     const std::optional<std::filesystem::path> file = selectionFileOf(folder, name);
     return file && equalFolded(shown(file->filename()), fileName);
 }

@@ -27,6 +27,6 @@ std::optional<std::filesystem::path> selectionFileOf(const DataFolder& folder, s
 /// Whether a record belongs to a file, compared without the final ".THC" and without regard to case.
 /// @param recorded the field, trailing blanks allowed
 /// @param fileName as recordedFileName() gives it
-bool recordStandsFor(const DataFolder& folder, std::string_view recorded, std::string_view fileName);
+bool recordMeans(const DataFolder& folder, std::string_view recorded, std::string_view fileName);
 
 } // namespace tallyhoop

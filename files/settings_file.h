@@ -10,7 +10,7 @@ namespace tallyhoop {
 /// @returns true when the first line of a settings file's bytes is exactly "1"
 bool settingsSayDemo(std::string_view bytes);
 
-/// Reads TALLYHOOP.INI anew. @returns true when its first line is exactly "1"
+/// Reads TALLYHOOP.INI. @returns true when its first line is exactly "1"
 bool demoModeIsOn(const DataFolder& folder);
 
 } // namespace tallyhoop

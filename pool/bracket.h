@@ -16,7 +16,7 @@ namespace tallyhoop {
 class Bracket
 {
 public:
-    /// Nobody is anywhere.
+    /// A bracket without teams.
     Bracket();
 
     /// @returns the team at a position, empty for nobody. The text lives until this bracket is changed or gone.

@@ -21,6 +21,15 @@ Field defaultField()
     return field;
 }
 
+ByTeamRow<std::int16_t> seedNumbers(const Field& field)
+{
+    ByTeamRow<std::int16_t> numbers;
+    for (const TeamRow row : allTeamRows())
+        if (const Result<std::int16_t> seed = wholeNumber(field.seedOf(row)))
+            numbers[row] = *seed;
+    return numbers;
+}
+
 Bracket startingBracket(const Field& field)
 {
     ByPosition<std::string_view> teams;

@@ -5,12 +5,18 @@
 #include "pool/payoffs.h"
 
 #include <array>
+#include <cstdint>
 #include <string>
 
 namespace tallyhoop {
 
 /// The seed texts of the 16 first-round rows, the same in every region, such as " 1" and "16".
 using SeedTexts = std::array<std::string, kRowsPerRegion>;
+
+inline const std::string& seedOf(const SeedTexts& seeds, TeamRow row)
+{
+    return seeds.at(static_cast<std::size_t>(rowInRegion(row)));
+}
 
 /// Texts are kept exactly as typed; a default-constructed field is empty everywhere.
 struct Field {
@@ -29,13 +35,16 @@ struct Field {
     /// Whether nobody has said in any way that the field is final: only then may a sample replace it.
     bool mayBeReplaced() const;
 
-    const std::string& seedOf(TeamRow row) const { return seeds.at(static_cast<std::size_t>(rowInRegion(row))); }
+    const std::string& seedOf(TeamRow row) const { return tallyhoop::seedOf(seeds, row); }
 
     friend bool operator==(const Field&, const Field&) = default;
 };
 
 /// The field of a pool that nobody has set up yet.
 Field defaultField();
+
+/// @returns the seeds as numbers; 0 where a text is no number or one that does not fit
+ByTeamRow<std::int16_t> seedNumbers(const Field& field);
 
 /// @returns the field's teams on their first-round rows, nobody elsewhere
 Bracket startingBracket(const Field& field);

@@ -25,7 +25,7 @@ public:
     const std::array<std::string, kRounds>& texts() const { return m_texts; }
 
     /// @param round 1..6
-    const std::string& text(int round) const { return m_texts.at(static_cast<std::size_t>(round - 1)); }
+    const std::string& text(int round) const { return m_texts.at(roundIndex(round)); }
 
     /// @returns the numbers; a failure when one of them does not fit 16 bits
     const Result<Payoffs>& points() const { return m_points; }

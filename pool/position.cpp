@@ -107,12 +107,20 @@ std::optional<TeamRow> teamRowOf(Position position)
 {
     if (!isFirstRound(position))
         return std::nullopt;
-    return TeamRow{index(position) / kRegionBlock * kRowsPerRegion + index(position) % kRegionBlock};
+    return teamRowAt(index(position) / kRegionBlock, index(position) % kRegionBlock);
 }
 
 int regionOf(TeamRow row) { return index(row) / kRowsPerRegion; }
 
 int rowInRegion(TeamRow row) { return index(row) % kRowsPerRegion; }
+
+TeamRow teamRowAt(int region, int row) { return TeamRow{region * kRowsPerRegion + row}; }
+
+std::optional<TeamRow> rowAfter(TeamRow row, std::size_t rows)
+{
+    const std::span left = std::span{allTeamRows()}.subspan(at(index(row)));
+    return rows < left.size() ? std::optional{left[rows]} : std::nullopt;
+}
 
 std::optional<Game> gameOf(Position position)
 {

@@ -1,4 +1,4 @@
-// pool/position.h - the places of a 64-team bracket, and every sum that is ever done with their numbers.
+// pool/position.h - the places of a 64-team bracket, and all arithmetic with their numbers.
 //
 // Four regions of 31 places (16 teams, then the winners of four rounds), then two semi-final winners and the champion.
 // The numbers are those of the data files and of the controls; nobody outside of these two files calculates with them.
@@ -30,6 +30,9 @@ constexpr int index(Position position) { return static_cast<int>(position); }
 constexpr int index(Game game) { return static_cast<int>(game); }
 constexpr int index(TeamRow row) { return static_cast<int>(row); }
 
+/// @returns where an array of the six rounds keeps a round 1..6
+constexpr std::size_t roundIndex(int round) { return static_cast<std::size_t>(round - 1); }
+
 /// A value for each of the N things that an enum counts, such as a verdict for each position.
 template <class Id, class T, std::size_t N>
 struct IndexedBy {
@@ -37,6 +40,17 @@ struct IndexedBy {
 
     constexpr T& operator[](Id id) { return values[static_cast<std::size_t>(id)]; }
     constexpr const T& operator[](Id id) const { return values[static_cast<std::size_t>(id)]; }
+
+    /// The values of so many neighbours.
+    constexpr std::span<T> from(Id first, std::size_t count)
+    {
+        return std::span{values}.subspan(static_cast<std::size_t>(first), count);
+    }
+    constexpr std::span<const T> from(Id first, std::size_t count) const
+    {
+        return std::span{values}.subspan(static_cast<std::size_t>(first), count);
+    }
+
     friend bool operator==(const IndexedBy&, const IndexedBy&) = default;
 };
 
@@ -76,6 +90,12 @@ std::optional<TeamRow> teamRowOf(Position position);
 /// @returns the region 0..3 and the first-round row 0..15 of a row of the starting field
 int regionOf(TeamRow row);
 int rowInRegion(TeamRow row);
+
+/// @returns the row of the starting field that is row 0..15 of region 0..3
+TeamRow teamRowAt(int region, int row);
+
+/// @returns the row so many rows further on, region by region; nothing after the last
+std::optional<TeamRow> rowAfter(TeamRow row, std::size_t rows = 1);
 
 /// @returns the game that decides a position, nothing for a first-round row
 std::optional<Game> gameOf(Position position);

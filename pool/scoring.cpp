@@ -55,11 +55,10 @@ private:
     /// The rows of the starting field: nearly always the same in both brackets, and then done in one go.
     void scoreTeams(std::span<const Position> rows)
     {
-        const auto first = static_cast<std::size_t>(index(rows.front()));
-        const std::span picks = std::span{m_picks.values}.subspan(first, kRowsPerRegion);
-        const std::span results = std::span{m_results.values}.subspan(first, kRowsPerRegion);
+        const std::span picks = m_picks.from(rows.front(), kRowsPerRegion);
+        const std::span results = m_results.from(rows.front(), kRowsPerRegion);
         if (std::ranges::equal(picks, results) && std::ranges::find(results, kNoTeam) == results.end())
-            std::ranges::fill(std::span{m_score.verdicts.values}.subspan(first, kRowsPerRegion), Verdict::Good);
+            std::ranges::fill(m_score.verdicts.from(rows.front(), kRowsPerRegion), Verdict::Good);
         else
             for (const Position row : rows)
                 scorePlace(row);
@@ -101,7 +100,7 @@ void addPossiblePoints(const Payoffs& payoffs, Score& score)
         const auto& [round, feeders] = all[game];
         if (round > 1 && !isAlive(score.verdicts[feeders[0]]) && !isAlive(score.verdicts[feeders[1]]))
             continue;
-        score.possible += payoffs[static_cast<std::size_t>(round - 1)];
+        score.possible += payoffs[roundIndex(round)];
         if (game != kChampion) // on purpose: a champion that is still possible keeps the verdict Open
             score.verdicts[game] = Verdict::Possible;
     }

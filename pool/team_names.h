@@ -1,6 +1,8 @@
 // pool/team_names.h - names of teams with small numbers, so that brackets are cheap to copy, compare and score.
 #pragma once
 
+#include "pool/position.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -9,7 +11,7 @@
 
 namespace tallyhoop {
 
-/// Stands for a name in one table of names; means nothing without that table.
+/// The number of a name in one table of names; means nothing without that table.
 using TeamNumber = std::uint8_t;
 inline constexpr TeamNumber kNoTeam = 0;
 
@@ -17,7 +19,7 @@ inline constexpr TeamNumber kNoTeam = 0;
 class TeamNames
 {
 public:
-    static constexpr std::size_t kMost = 127; ///< a bracket has no more places
+    static constexpr std::size_t kMost = kPositions; ///< one for each place of a bracket
 
     /// @returns the number of exactly this name; kNoTeam for an empty one and for one that is not in the table
     TeamNumber numberOf(std::string_view name) const;

@@ -1,3 +1,4 @@
+// qt/desk.cpp - runs commands between a pull and a push; drops those that come during another one or a question.
 #include "qt/desk.h"
 
 #include "qt/page.h"
@@ -114,9 +115,9 @@ void Desk::push()
     // Showing a value can make a widget emit a signal; that must not start another push.
     if (m_pushing)
         return;
-    m_pushing = true;
     for (const Page* page : m_pages)
         page->screen().showState();
+    m_pushing = true;
     // NOLINTNEXTLINE(modernize-loop-convert): pages may be attached and detached meanwhile
     for (std::size_t i = 0; i < m_pages.size(); ++i)
         m_pages[i]->push();

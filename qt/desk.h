@@ -40,8 +40,8 @@ public:
     /// The same for what the program itself does with a screen inside a command (loading, unloading): never dropped.
     void runInside(ui::Screen& screen, const std::function<void()>& command);
 
-    /// @returns whether an action of the person may reach this screen now; nullptr = the frame itself (its close
-    /// button)
+    /// @param screen nullptr = the frame itself (its close button)
+    /// @returns whether an action of the person may reach it now
     bool accepts(const ui::Screen* screen) const;
 
     bool isRunning() const { return m_depth > 0; }

@@ -1,3 +1,4 @@
+// qt/line_icon.cpp - an icon engine that sets the colour in the SVG text whenever it paints.
 #include "qt/line_icon.h"
 
 #include <QApplication>

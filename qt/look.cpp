@@ -1,3 +1,4 @@
+// qt/look.cpp - sizes and colours derived from the application's font and palette, whatever the desktop has set.
 #include "qt/look.h"
 
 #include "qt/line_icon.h"

@@ -1,3 +1,4 @@
+// qt/main_frame.cpp - a stack of pages, a title from the one on top, and closing that the screens decide.
 #include "qt/main_frame.h"
 
 #include "qt/page.h"

@@ -1,3 +1,4 @@
+// qt/message_icon.cpp - a disc or a triangle with a symbol, painted for each size.
 #include "qt/message_icon.h"
 
 #include <QPainter>

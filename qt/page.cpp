@@ -1,3 +1,4 @@
+// qt/page.cpp - the parts that all widgets have in common, the focus in both directions, and the tab order.
 #include "qt/page.h"
 
 #include "qt/look.h"

@@ -165,7 +165,6 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-
     /// The box in which an input method is composing a text, and what it held before.
     struct Composing {
         QLineEdit* edit = nullptr;

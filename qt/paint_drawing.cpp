@@ -1,3 +1,4 @@
+// qt/paint_drawing.cpp - strokes, boxes and captions in the drawing's own units, scaled to the place and centred.
 #include "qt/paint_drawing.h"
 
 #include "qt/look.h"

@@ -1,3 +1,4 @@
+// qt/print_pages.cpp - divides lines into sheets and paints them in twips, so that every device has the same layout.
 #include "qt/print_pages.h"
 
 #include "qt/paint_drawing.h"

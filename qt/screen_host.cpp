@@ -1,3 +1,4 @@
+// qt/screen_host.cpp - a window for each placement, unloading from inside a command, and the end of the program.
 #include "qt/screen_host.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// qt/style.cpp - Fusion with other boxes, frames and margins, and a palette whose roles are made readable.
 #include "qt/style.h"
 
 #include "qt/look.h"

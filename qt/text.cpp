@@ -1,3 +1,4 @@
+// qt/text.cpp - Windows-1252 to UTF-16 and back, and data kept from being read as markup or mnemonics.
 #include "qt/text.h"
 
 #include "base/windows1252.h"

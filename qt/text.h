@@ -7,8 +7,7 @@
 
 namespace tallyhoop::qt {
 
-/// Converts a text byte by byte; never fails, and fromQString() gives the same bytes back. Line breaks stay as they
-/// are.
+/// Converts a text byte by byte; never fails, and fromQString() gives the same bytes back. Line breaks are kept.
 QString toQString(std::string_view text);
 
 /// Converts what a person typed: composed first (NFC), then one byte per character; a character that Windows-1252 lacks

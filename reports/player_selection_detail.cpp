@@ -67,7 +67,7 @@ PlayerSelectionTable playerSelectionTable(const Bracket& picks)
         } else if (!team.empty()) {
             for (std::size_t row = 0; row < PlayerSelectionTable::kRows; ++row)
                 if (table.teams[row] == team)
-                    table.marks[static_cast<std::size_t>(round - 1)][row] = true;
+                    table.marks[roundIndex(round)][row] = true;
         }
     }
     return table;

@@ -22,7 +22,7 @@ public:
 
     Result<Done> add(const Pick& pick)
     {
-        // Players are told apart exactly, also those that differ only in case and follow one another.
+        // Players are compared exactly: those that differ only in case, one after the other, are two.
         if (pick.team != m_team || pick.playerLabel != m_playerLabel)
             if (const Result<Done> written = writeRow(); !written)
                 return written;

@@ -22,7 +22,7 @@ Result<Done> clearDemoDataFiles(const DataFolder& folder);
 /// Keeps the person's own files, clears the data files, starts the installer, waits for the person's OK, says where the
 /// own files are, and waits for the sample pool to be there. When the installer cannot be started, the folder cannot be
 /// written or a file cannot be kept, says so and deletes nothing. When the sample pool does not come, says that too.
-/// @returns whether the files have changed, so that the screen is to be loaded anew; false when they are as they were
+/// @returns whether the files have changed, so that the screen is to be loaded again; false when they are as they were
 bool startDemo(const DataFolder& folder, const ui::Platform& platform);
 
 /// The question before demo mode is entered. @returns as startDemo(); false when the person does not want it
@@ -30,8 +30,8 @@ bool enterDemo(const DataFolder& folder, const ui::Platform& platform);
 
 /// Deletes the sample pool and says that normal operation follows. What the person has changed meanwhile is kept; when
 /// it cannot be, says so and deletes nothing.
-/// @returns a sentence for the status line of the screen that is to be loaded anew, empty when there is nothing to say;
-///          nothing when demo mode was not left
+/// @returns a sentence for the status line of the screen that is to be loaded again, empty for none; nothing when demo
+///          mode was not left
 std::optional<std::string> leaveDemo(const DataFolder& folder, const ui::Platform& platform);
 
 } // namespace tallyhoop

@@ -1,3 +1,4 @@
+// screens/help_display.cpp - one message when the help cannot be shown.
 #include "screens/help_display.h"
 
 #include "files/file_names.h"

@@ -1,3 +1,4 @@
+// screens/list_search.cpp - what is before the caret was typed; the rest of the first matching row follows, selected.
 #include "screens/list_search.h"
 
 #include "base/windows1252.h"

@@ -1,3 +1,4 @@
+// screens/saving.cpp - the texts, and the check whether somebody else has changed the file.
 #include "screens/saving.h"
 
 #include "files/player_names_file.h"

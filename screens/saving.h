@@ -1,4 +1,4 @@
-// screens/saving.h - what the person is told and asked about reading and writing data files, in one place for all.
+// screens/saving.h - the messages and questions about reading and writing data files, in one place for all screens.
 #pragma once
 
 #include "base/result.h"
@@ -24,10 +24,10 @@ bool saveFile(ui::Dialogs& dialogs, KnownFiles& known, const std::filesystem::pa
 bool saveDataFile(ui::Dialogs& dialogs, KnownFiles& known, const DataFolder& folder, std::string_view name,
                   std::string_view bytes);
 
-/// Tells that a selection or results file could not be read, or not whole.
+/// Shows that a selection or results file could not be read, or not whole.
 void showReadingTrouble(ui::Dialogs& dialogs, const std::filesystem::path& file);
 
-/// Tells what is wrong, without a caption of its own.
+/// Shows what is wrong, without a caption of its own.
 void showTrouble(ui::Dialogs& dialogs, const Failure& failure);
 
 /// Checks the player list and says what is wrong with it. @returns whether it can be used

@@ -35,7 +35,7 @@ const std::map<std::string, Rooms> kMayInclude = {
 
 struct Include {
     std::string file;   ///< who includes, as "room/file.h"
-    std::string target; ///< what stands between the quotes or brackets
+    std::string target; ///< the text between the quotes or brackets
     bool isSystem = false;
 };
 
@@ -65,7 +65,7 @@ std::optional<Include> includeOf(const std::string& file, std::string_view line)
     return Include{file, std::string{line.substr(0, line.find(isSystem ? '>' : '"'))}, isSystem};
 }
 
-/// Qt's headers begin with "Q" or stand in a folder of theirs; the mail client's library is the windows' business too.
+/// Qt's headers begin with "Q" or are in a folder of theirs; the library for mail messages is only for windows, too.
 bool isForWindowsOnly(const std::string& target)
 {
     return target.starts_with('Q') || target.starts_with("gmime") || target.starts_with("glib");
@@ -122,7 +122,7 @@ TEST(Layers, AreLookedAtWhereSourcesAre)
         EXPECT_GT(includesIn(source / room).size(), 10u) << room;
 }
 
-TEST(Layers, RefuseAnArrowThatPointsTheOtherWay)
+TEST(Layers, RefuseAnIncludeInTheOtherDirection)
 {
     EXPECT_TRUE(complaintAbout({"base/text.cpp", "pool/position.h", false}));
     EXPECT_TRUE(complaintAbout({"pool/moves.cpp", "files/setup_file.h", false}));

@@ -1,3 +1,4 @@
+// ui/control.cpp - controls register with their screen; a command that is disabled or hidden does nothing.
 #include "ui/control.h"
 
 #include "ui/screen.h"

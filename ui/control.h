@@ -122,7 +122,7 @@ struct GridColumn {
 };
 
 /// A table with one heading row. Moving a column moves `columns` and the cells of every row alike, so that cell [r][c]
-/// always stands in the c-th column from the left.
+/// is always in the c-th column from the left.
 struct Grid : Control {
     Grid(Screen* owner, std::string_view name);
 
@@ -173,12 +173,13 @@ public:
     requires std::is_enum_v<Id>
     const Kind& operator[](Id id) const { return *m_members.at(static_cast<std::size_t>(id)); }
 
-    /// @returns the place of this control in the array, nothing when it is not a member
-    std::optional<std::size_t> indexOf(const Control& control) const
+    /// @returns the place of this control in the array, as an enum if one is asked for; nothing when it is not a member
+    template <class Id = std::size_t>
+    std::optional<Id> indexOf(const Control& control) const
     {
         for (std::size_t i = 0; i < N; ++i)
             if (m_members[i].get() == &control)
-                return i;
+                return static_cast<Id>(i);
         return std::nullopt;
     }
 

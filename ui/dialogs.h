@@ -1,4 +1,4 @@
-// ui/dialogs.h - the one door from a command to the person: modal questions as plain synchronous calls.
+// ui/dialogs.h - how a command asks the person: modal questions as plain synchronous calls.
 #pragma once
 
 #include <filesystem>
@@ -18,7 +18,7 @@ struct Message {
     std::string text;
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
-    std::string helpTopic = {}; ///< where F1 leads while it is shown; empty = to the topic of the screen behind it
+    std::string helpTopic = {}; ///< where F1 leads while it is shown; empty = to the topic of the current screen
 
     friend bool operator==(const Message&, const Message&) = default;
 };

@@ -13,7 +13,7 @@ namespace tallyhoop::ui {
 /// A file that travels with a message.
 struct Attachment {
     std::filesystem::path file;
-    std::size_t position = 0; ///< the character of the body that stands for it, counted from 0
+    std::size_t position = 0; ///< the character of the body that it replaces, counted from 0
 };
 
 /// All texts are Windows-1252 bytes; the client's side converts.
@@ -21,7 +21,7 @@ struct MailMessage {
     std::vector<std::string> recipients; ///< addresses in the order chosen; empty = the client asks
     std::string subject;
     std::string body;             ///< lines separated by CR LF; ends in `placeholders` blanks
-    std::size_t placeholders = 0; ///< trailing blanks of the body that attachments may stand on
+    std::size_t placeholders = 0; ///< trailing blanks of the body that attachments may replace
     std::vector<Attachment> attachments;
 };
 

@@ -47,7 +47,7 @@ public:
     virtual ~Clock() = default;
     virtual std::chrono::year_month_day today() const = 0;
 
-    /// The date and time of day on the clock on the wall.
+    /// The local date and time of day.
     virtual std::chrono::local_seconds now() const = 0;
 };
 

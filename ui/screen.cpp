@@ -1,3 +1,4 @@
+// ui/screen.cpp - what a screen does unless it says otherwise, and finding its controls.
 #include "ui/screen.h"
 
 #include <algorithm>

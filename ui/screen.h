@@ -24,7 +24,7 @@ public:
     std::string caption;
     std::string document;            ///< what is open, for the frame's title bar; empty = nothing worth naming
     bool unsaved = false;            ///< there are changes that no file holds yet
-    std::string status;              ///< how things stand, always shown in the status line; empty = nothing to say
+    std::string status;              ///< the screen's state in words, always shown in the status line; empty = none
     std::string hint;                ///< what to do now, shown until a control explains itself; empty = nothing to say
     std::vector<MenuEntry*> menuBar; ///< menus and plain commands, left to right
     Control* focused = nullptr;      ///< who has the focus; assign to move it
@@ -42,7 +42,7 @@ public:
     /// The person closed the window or pressed Escape.
     virtual void closeRequested() {}
 
-    /// The last word before the screen is destroyed, whoever unloads it.
+    /// Runs right before the screen is destroyed, whoever unloads it.
     virtual void unloading() {}
 
     /// @returns true when the key was dealt with and must not reach the control

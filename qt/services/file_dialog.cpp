@@ -1,3 +1,5 @@
+// qt/services/file_dialog.cpp - looks at what was typed before Qt does: quotation marks, and names that exist in
+// another case.
 #include "qt/services/file_dialog.h"
 
 #include "files/data_folder.h"

@@ -1,3 +1,4 @@
+// qt/services/help_window.cpp - contents from the document's headings, and steps through the matches of a search.
 #include "qt/services/help_window.h"
 
 #include "qt/look.h"
@@ -81,8 +82,7 @@ HelpWindow::HelpWindow(QWidget* parent)
     m_contents->setAccessibleName(QStringLiteral("Contents"));
     m_contents->setHeaderHidden(true);
     connect(m_contents, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item, QTreeWidgetItem* before) {
-        if (before) // when the tree first gets the focus it makes its first entry current, which is no choice of the
-                    // person
+        if (before) // The first focus makes the first entry current, which nobody has chosen.
             goTo(item);
     });
     connect(m_contents, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) { goTo(item); });

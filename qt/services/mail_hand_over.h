@@ -19,15 +19,14 @@ enum class MailRoute {
     MessageFile, ///< a file marked as unsent, opened by whatever reads such files
 };
 
-/// @param handler        the desktop file of the user's mail program, such as "thunderbird.desktop"; empty = none is
-/// set
+/// @param handler        the desktop file of the user's mail program, such as "thunderbird.desktop"; empty = none
 /// @param hasThunderbird whether it can be started
 /// @param hasXdgEmail    the same for xdg-email
 /// @returns the ways to try, in this order. With a web browser as handler xdg-email would open a page and drop the
 ///          attachments, so only the message file is tried
 std::vector<MailRoute> mailRoutes(const std::string& handler, bool hasThunderbird, bool hasXdgEmail);
 
-/// Attachments are always handed over, or the person is told where they are: ways that may drop them silently (a plain
+/// Attachments are always handed over, or a message shows where they are: ways that may drop them silently (a plain
 /// mailto address, the desktop portal) are not used.
 class MailHandOver : public ui::Mail
 {

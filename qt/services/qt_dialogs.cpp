@@ -1,3 +1,5 @@
+// qt/services/qt_dialogs.cpp - keeps data in messages plain and short enough for a display, and offers the help topic
+// on F1.
 #include "qt/services/qt_dialogs.h"
 
 #include "qt/look.h"

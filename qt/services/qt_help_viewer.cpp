@@ -1,3 +1,4 @@
+// qt/services/qt_help_viewer.cpp - reads the file at each call; reuses the window unless a modal dialog would block it.
 #include "qt/services/qt_help_viewer.h"
 
 #include "files/replace_file.h"

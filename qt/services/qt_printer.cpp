@@ -1,3 +1,4 @@
+// qt/services/qt_printer.cpp - one printer for the whole session, set up by Qt's dialogs; a PDF is replaced as a whole.
 #include "qt/services/qt_printer.h"
 
 #include "files/replace_file.h"

@@ -1,3 +1,4 @@
+// qt/services/qt_system.cpp - starts programs and keeps their output, reads the clock, shows progress of long work.
 #include "qt/services/qt_system.h"
 
 #include "qt/paths.h"

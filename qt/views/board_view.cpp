@@ -1,3 +1,4 @@
+// qt/views/board_view.cpp - the board's widgets, placed; a press beside the bracket goes to the model.
 #include "qt/views/board_view.h"
 
 #include "qt/look.h"

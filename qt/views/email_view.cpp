@@ -64,7 +64,7 @@ QLayout* EmailView::recipients(EmailScreen& mail)
 
     QListView* list = add(mail.lstTo);
     setSmallest(*list, kAddressCharacters);
-    new EmptyNote{tr("Nobody yet: press Enter on a player, or type an address."), *list};
+    new EmptyNote{tr("No address yet: press Enter on a player, or type an address."), *list};
 
     QVBoxLayout* column = look::column();
     column->addWidget(add(mail.lblTo));

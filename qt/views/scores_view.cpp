@@ -1,3 +1,4 @@
+// qt/views/scores_view.cpp - the score display's widgets, placed.
 #include "qt/views/scores_view.h"
 
 #include "qt/look.h"

@@ -80,7 +80,7 @@ QLayout* SetupView::titleRow()
     return row;
 }
 
-QWidget* SetupView::region(std::size_t region)
+QWidget* SetupView::region(int region)
 {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(look::kTight);
@@ -88,29 +88,29 @@ QWidget* SetupView::region(std::size_t region)
 
     auto* header = look::row();
     header->addWidget(look::hint(tr("Region %1").arg(region + 1)));
-    QWidget* title = add(m_setup.TxtInfo[region + 1]);
+    QWidget* title = add(m_setup.TxtInfo[static_cast<std::size_t>(region) + 1]);
     title->setFont(look::boldFont());
     header->addWidget(title, 1);
     grid->addLayout(header, 0, 0, 1, 5);
     grid->setRowMinimumHeight(kHeaderLines - 1, kPairGap);
 
     for (int row = 0; row < kRowsPerRegion; ++row) {
-        const auto index = region * kRowsPerRegion + static_cast<std::size_t>(row);
+        const TeamRow place = teamRowAt(region, row);
         const int line = row % kHalf;
-        const int place = kHeaderLines + 2 * line; // with an empty line after each
+        const int gridRow = kHeaderLines + 2 * line; // with an empty line after each
         const int column = row < kHalf ? 0 : 3;
-        QLabel* seed = add(m_setup.lblSeed[index]);
+        QLabel* seed = add(m_setup.lblSeed[place]);
         seed->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        grid->addWidget(seed, place, column);
-        QWidget* team = add(m_setup.txtRegion[index]);
+        grid->addWidget(seed, gridRow, column);
+        QWidget* team = add(m_setup.txtRegion[place]);
         team->setMinimumWidth(kTeamWidth);
-        grid->addWidget(team, place, column + 1);
+        grid->addWidget(team, gridRow, column + 1);
         if (line + 1 == kHalf)
             continue;
         // Pairings are apart, the more the more room there is.
         const bool betweenPairings = line % 2 == 1;
-        grid->setRowMinimumHeight(place + 1, betweenPairings ? kPairGap : 0);
-        grid->setRowStretch(place + 1, betweenPairings ? 2 : 1);
+        grid->setRowMinimumHeight(gridRow + 1, betweenPairings ? kPairGap : 0);
+        grid->setRowStretch(gridRow + 1, betweenPairings ? 2 : 1);
     }
     grid->setColumnMinimumWidth(2, look::kTight);
     grid->setColumnStretch(1, 1);
@@ -122,10 +122,8 @@ QLayout* SetupView::regions()
 {
     auto* grid = new QGridLayout;
     grid->setSpacing(look::kGap);
-    for (std::size_t i = 0; i < kRegions; ++i) {
-        const int place = static_cast<int>(i);
-        grid->addWidget(region(i), place % 2, place / 2); // 1 above 2 on the left, 3 above 4 on the right
-    }
+    for (int i = 0; i < kRegions; ++i)
+        grid->addWidget(region(i), i % 2, i / 2); // 1 above 2 on the left, 3 above 4 on the right
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(1, 1);
     return grid;

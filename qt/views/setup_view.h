@@ -15,7 +15,7 @@ public:
 
 private:
     QLayout* titleRow();
-    QWidget* region(std::size_t region);
+    QWidget* region(int region);
     QLayout* regions();
     QLayout* comments();
     QWidget* teamNames();

@@ -1,3 +1,5 @@
+// qt/widgets/bracket_canvas.cpp - places and fonts for the current size, connectors, and mouse and keys turned into
+// presses of places.
 #include "qt/widgets/bracket_canvas.h"
 
 #include "pool/moves.h"

@@ -1,3 +1,4 @@
+// qt/widgets/elided_label.cpp - cuts the text only while painting; the tool tip shows all of it.
 #include "qt/widgets/elided_label.h"
 
 #include "qt/text.h"

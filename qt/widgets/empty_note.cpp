@@ -1,3 +1,4 @@
+// qt/widgets/empty_note.cpp - placed over the list's viewport, and hidden while there are rows.
 #include "qt/widgets/empty_note.h"
 
 #include "qt/look.h"

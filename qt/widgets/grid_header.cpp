@@ -1,3 +1,4 @@
+// qt/widgets/grid_header.cpp - Qt's own moving of columns is off; drags are followed here and the target is marked.
 #include "qt/widgets/grid_header.h"
 
 #include <QMouseEvent>

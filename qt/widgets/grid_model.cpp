@@ -1,3 +1,4 @@
+// qt/widgets/grid_model.cpp - converts a cell when it is painted, so that 10,000 rows appear at once.
 #include "qt/widgets/grid_model.h"
 
 #include "qt/text.h"

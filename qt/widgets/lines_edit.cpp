@@ -1,3 +1,4 @@
+// qt/widgets/lines_edit.cpp - gives the raw text, because Qt's plain text replaces no-break spaces.
 #include "qt/widgets/lines_edit.h"
 
 #include <QTextCursor>

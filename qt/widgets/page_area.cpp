@@ -1,3 +1,4 @@
+// qt/widgets/page_area.cpp - measures the display, and scrolls to the widget that gets the focus.
 #include "qt/widgets/page_area.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// qt/widgets/rows_model.cpp - converts a row when it is painted, so that 10,000 rows appear at once.
 #include "qt/widgets/rows_model.h"
 
 #include "qt/text.h"

@@ -1,3 +1,4 @@
+// qt/widgets/rows_view.cpp - a press that selects a row is reported once, and so is a click on the selected one.
 #include "qt/widgets/rows_view.h"
 
 #include <QMouseEvent>

@@ -1,3 +1,4 @@
+// qt/widgets/slot_label.cpp - paints background, emphasis, focus, and a text made narrower before it is cut.
 #include "qt/widgets/slot_label.h"
 
 #include "qt/look.h"

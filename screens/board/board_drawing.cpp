@@ -1,3 +1,4 @@
+// screens/board/board_drawing.cpp - the same picture and geometry as on screen, in strokes, boxes and captions.
 #include "screens/board/board_drawing.h"
 
 #include "screens/board/board_geometry.h"
@@ -18,8 +19,11 @@ constexpr ui::Colour kPaper{255, 255, 255};
 class Painter
 {
 public:
-    Painter(const BoardPicture& picture, const Entry& player, const std::string& score)
-        : m_picture{picture}, m_player{player}, m_score{score}, m_places{layOutBoard(kPageWidth, kStripTop - 8)}
+    Painter(const BoardPicture& picture, const Entry& player, const std::optional<ShownScore>& score)
+        : m_picture{picture},
+          m_player{player},
+          m_score{scoreText(score)},
+          m_places{layOutBoard(kPageWidth, kStripTop - 8)}
     {
     }
 
@@ -117,14 +121,14 @@ private:
 
     const BoardPicture& m_picture;
     const Entry& m_player;
-    const std::string& m_score;
+    std::string m_score;
     BoardGeometry m_places;
     ui::Drawing m_drawing;
 };
 
 } // namespace
 
-ui::Drawing drawBoard(const BoardPicture& picture, const Entry& player, const std::string& score)
+ui::Drawing drawBoard(const BoardPicture& picture, const Entry& player, const std::optional<ShownScore>& score)
 {
     return Painter{picture, player, score}.paint();
 }

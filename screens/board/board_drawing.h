@@ -5,13 +5,13 @@
 #include "screens/board/board_picture.h"
 #include "ui/drawing.h"
 
-#include <string>
+#include <optional>
 
 namespace tallyhoop {
 
 /// Draws a board with whose it is, marks included, on a landscape page of 1100 by 800 units.
 /// @param player its picks are those of the picture
-/// @param score  the score text; empty = not scored
-ui::Drawing drawBoard(const BoardPicture& picture, const Entry& player, const std::string& score);
+/// @param score  nothing = not scored
+ui::Drawing drawBoard(const BoardPicture& picture, const Entry& player, const std::optional<ShownScore>& score);
 
 } // namespace tallyhoop

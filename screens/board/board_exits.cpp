@@ -1,3 +1,4 @@
+// screens/board/board_exits.cpp - which screens close before another one opens.
 #include "screens/board/board_exits.h"
 
 #include "screens/demo_mode.h"

@@ -1,3 +1,4 @@
+// screens/board/board_geometry.cpp - shares of width and height; the right half mirrors the left one.
 #include "screens/board/board_geometry.h"
 
 #include <algorithm>
@@ -126,8 +127,8 @@ void placeHeaders(const Measures& m, BoardGeometry& board)
     board.demoMode = {m.margin, m.top * 0.06, m.width * 0.19, m.top * 0.54};
     for (int round = 1; round <= 4; ++round) {
         const ui::Rectangle strip{columnLeft(m, round), m.top - headerHeight * 1.06, m.column, headerHeight};
-        placeRound(board, static_cast<std::size_t>(round - 1), strip);
-        placeRound(board, static_cast<std::size_t>(round + 3), mirrored(strip, m.width));
+        placeRound(board, roundIndex(round), strip);
+        placeRound(board, roundIndex(round) + 4, mirrored(strip, m.width));
     }
     const ui::Rectangle& semifinal = board.positions[kSemifinalA];
     const double centre = m.width / 2;

@@ -1,3 +1,4 @@
+// screens/board/board_history.cpp - two stacks of boards, and what a save means for those kept in them.
 #include "screens/board/board_history.h"
 
 #include <utility>

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pool/entry.h"
+#include "screens/board/board_picture.h"
 
 #include <filesystem>
 #include <optional>
@@ -13,7 +14,7 @@ namespace tallyhoop {
 /// Everything on the board that a command of the editing kind can change.
 struct BoardSnapshot {
     Entry entry; ///< the picks, and what is typed beside them
-    std::string score;
+    std::optional<ShownScore> score;
     std::filesystem::path openedFile;
     bool resultsMode = false;
     bool unsaved = false;

@@ -1,3 +1,4 @@
+// screens/board/board_menus.cpp - order, icons and explanations of the entries, and when each is enabled.
 #include "screens/board/board_menus.h"
 
 namespace tallyhoop {

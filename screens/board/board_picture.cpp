@@ -1,3 +1,4 @@
+// screens/board/board_picture.cpp - the colours and texts of verdicts and scores.
 #include "screens/board/board_picture.h"
 
 namespace tallyhoop {
@@ -15,6 +16,13 @@ PickMark markOf(Verdict verdict)
         break;
     }
     return {"", {0, 0, 255}, {252, 252, 255}};
+}
+
+std::string scoreText(const std::optional<ShownScore>& score)
+{
+    if (!score)
+        return {};
+    return "Points: " + std::to_string(score->points) + " / " + std::to_string(score->maxPoints);
 }
 
 } // namespace tallyhoop

@@ -3,9 +3,12 @@
 
 #include "pool/field.h"
 #include "pool/scoring.h"
+#include "screens/board/board_geometry.h"
 #include "ui/colour.h"
 
 #include <array>
+#include <optional>
+#include <string>
 
 namespace tallyhoop {
 
@@ -19,6 +22,17 @@ struct BoardPicture {
     Verdict verdictAt(Position position) const { return verdicts ? (*verdicts)[position] : Verdict::None; }
 };
 
+/// The score of the picks, as the board shows it.
+struct ShownScore {
+    int points = 0;    ///< earned
+    int maxPoints = 0; ///< earned and still possible
+
+    friend bool operator==(const ShownScore&, const ShownScore&) = default;
+};
+
+/// @returns "Points: 80 / 120"; empty for no score
+std::string scoreText(const std::optional<ShownScore>& score);
+
 inline constexpr const char* kDemoModeCaption = "Demonstration Mode";
 inline constexpr const char* kChampionCaption = "CHAMPION";
 inline constexpr const char* kInitialsCaption = "Initials";
@@ -26,7 +40,7 @@ inline constexpr const char* kNameCaption = "Name";
 inline constexpr const char* kFinalPointsCaption = "Predict total points in Championship game";
 
 /// Rounds 1..4 on the left, the same on the right, the semi-final, the final.
-inline constexpr std::array<const char*, 10> kRoundNames = {
+inline constexpr std::array<const char*, kRoundCaptions> kRoundNames = {
     "1st round:", "2nd round:",     "Regional semi:",  "Regional final:", "1st round:",
     "2nd round:", "Regional semi:", "Regional final:", "Semi-final:",     "Final game:"};
 

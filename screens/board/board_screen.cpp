@@ -1,6 +1,6 @@
+// screens/board/board_screen.cpp - loading, showing, moving teams, keys, undo.
 #include "screens/board/board_screen.h"
 
-#include "base/numbers.h"
 #include "base/windows1252.h"
 #include "files/file_names.h"
 #include "files/player_names_file.h"
@@ -16,7 +16,7 @@
 namespace tallyhoop {
 
 BoardScreen::BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared,
-                         std::string notice)
+                         const std::string& notice)
     : Screen{"frmPoolMain", "Tallyhoop"},
       BracketPanel{this},
       PlayerStrip{this, [this] { unsaved = true; }, [this] { unmarkPicks(); }},
@@ -26,7 +26,7 @@ BoardScreen::BoardScreen(const DataFolder& folder, const ui::Platform& platform,
       m_screens{screens},
       m_shared{shared}
 {
-    status = std::move(notice);
+    status = notice;
     focused = &txtPlayerInitials;
 }
 
@@ -53,9 +53,9 @@ void BoardScreen::checkPlayerList()
 {
     if (m_folder.exists(file_name::kPlayerNames)) {
         m_playersFaulty = !playerListIsSound(m_platform.dialogs, m_folder);
-    } else if (!m_toldAboutFolder) {
+    } else if (!m_warnedAboutFolder) {
         KnownFiles nothingKnown; // there is no file that somebody could have changed
-        m_toldAboutFolder =
+        m_warnedAboutFolder =
             !saveDataFile(m_platform.dialogs, nothingKnown, m_folder, file_name::kPlayerNames, playerNamesFile({}));
     }
 }
@@ -71,7 +71,7 @@ void BoardScreen::beginUnmarked()
 {
     m_drag.reset();
     m_verdicts.reset();
-    txtPointScore.text.clear();
+    m_score.reset();
     m_resultsMode = false;
     m_resultsThere = resultsExist();
     unsaved = false;
@@ -115,6 +115,7 @@ void BoardScreen::showState()
     const BoardState now = state();
     showBracket(picture(), now.scoreListOpen);
     showStrip(m_shared.field, fieldLock(), now.scored, now.scoreListOpen);
+    txtPointScore.text = scoreText(m_score);
     enableMenus(now);
     document = documentName();
     hint = m_news.empty() ? whatToDo() : m_news;
@@ -177,18 +178,11 @@ void BoardScreen::change(const Bracket& after)
     unsaved = true;
 }
 
-void BoardScreen::selectHighSeeds()
-{
-    ByTeamRow<std::int16_t> seeds;
-    for (const TeamRow row : allTeamRows())
-        if (const Result<std::int16_t> seed = wholeNumber(m_shared.field.seedOf(row)))
-            seeds[row] = *seed;
-    change(withHighSeeds(m_bracket, seeds));
-}
+void BoardScreen::selectHighSeeds() { change(withHighSeeds(m_bracket, seedNumbers(m_shared.field))); }
 
 BoardSnapshot BoardScreen::snapshot() const
 {
-    return {typed(), txtPointScore.text, m_openedFile, m_resultsMode, unsaved, m_sheet};
+    return {typed(), m_score, m_openedFile, m_resultsMode, unsaved, m_sheet};
 }
 
 void BoardScreen::undo()
@@ -210,7 +204,7 @@ void BoardScreen::restore(const BoardSnapshot& board)
     if (board.sheet != m_sheet) {
         m_sheet = board.sheet;
         showPlayer(board.entry);
-        txtPointScore.text = board.score;
+        m_score = board.score;
     }
     m_bracket = board.entry.picks;
     m_openedFile = board.openedFile;
@@ -228,7 +222,7 @@ bool BoardScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
         const std::optional<Position> position = positionOfLabel(control);
         return position && keyOnPosition(*position, press);
     }
-    if (cmdDefaultColors.visible) {
+    if (m_verdicts) {
         cmdDefaultColors.click();
         return true;
     }

@@ -34,14 +34,14 @@ class BoardScreen : public ui::Screen,
 public:
     /// What the board shares with other screens; everything outlives it.
     struct Shared {
-        Field& field;                            ///< the open field, read anew when the board is loaded
+        Field& field;                            ///< the open field, read again when the board is loaded
         std::optional<SavedPlayer>& savedPlayer; ///< left for the player list
         std::optional<Verdicts>& listedVerdicts; ///< of the player chosen in the list of scores, whose picks are marked
     };
 
     /// @param notice a sentence for the status line; empty = none
     BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared,
-                std::string notice = {});
+                const std::string& notice = {});
 
     // What happens on the bracket.
     void pressPosition(Position position, MouseButton button);
@@ -115,7 +115,6 @@ private:
     bool resultsExist() const;
     void showSelection(const std::filesystem::path& file);
     Entry readEntry(const std::filesystem::path& file);
-    void completeResults(Entry& results) const;
     bool mayBeSaved();
     void refuse(ui::TextBox& box, const char* text);
     void saveResults();
@@ -133,6 +132,7 @@ private:
 
     Bracket m_bracket;
     std::optional<Verdicts> m_verdicts; ///< on the picks, while they are marked
+    std::optional<ShownScore> m_score;  ///< of the picks, when they were last scored
     std::filesystem::path m_openedFile; ///< opened or saved last; empty after New Selection and at the start
     bool m_resultsMode = false;         ///< the board holds the results
     bool m_resultsThere = false;        ///< a results file was there when it was last looked for
@@ -141,10 +141,10 @@ private:
 
     std::optional<Drag> m_drag;
     BoardHistory m_history;
-    int m_sheet = 0;                ///< counts the boards that New began
-    KnownFiles m_known;             ///< the selections and the results that were shown or saved
-    bool m_playersFaulty = false;   ///< PLAYERNAMES.CSV has to be repaired
-    bool m_toldAboutFolder = false; ///< a folder that cannot be written is mentioned once
+    int m_sheet = 0;                  ///< counts the boards that New began
+    KnownFiles m_known;               ///< the selections and the results that were shown or saved
+    bool m_playersFaulty = false;     ///< PLAYERNAMES.CSV has to be repaired
+    bool m_warnedAboutFolder = false; ///< a folder that cannot be written is mentioned once
 };
 
 } // namespace tallyhoop

@@ -1,9 +1,10 @@
+// screens/board/board_screen_files.cpp - New, Open, Save, the game results, scoring and printing.
 // Texts are kept letter for letter, odd spellings included.
-#include "base/text.h"
 #include "base/windows1252.h"
 #include "files/file_names.h"
 #include "files/selection_file.h"
 #include "pool/entry_check.h"
+#include "pool/results.h"
 #include "screens/board/board_drawing.h"
 #include "screens/board/board_screen.h"
 #include "screens/board/selection_saving.h"
@@ -16,8 +17,6 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr const char* kResultsInitials = "A";
-constexpr const char* kResultsName = "FinalResults";
 constexpr const char* kNotFinalizedText =
     "The SETUP OPTION must be completed and FINALIZED before a Pool Selection can be saved!";
 constexpr const char* kInitialsBlank = "Player Initails field is BLANK, this MUST be corrected!";
@@ -151,29 +150,15 @@ void BoardScreen::enterGameResults()
     m_shared.savedPlayer.reset();
     const std::filesystem::path file = m_folder.pathTo(file_name::kResults);
     if (resultsExist()) {
-        Entry results = readEntry(file);
-        completeResults(results);
-        showEntry(std::move(results));
+        showEntry(completedResults(readEntry(file), m_shared.field));
     } else {
         m_known.note(file);
         status.clear();
         loadBoard();
-        showEntry({m_bracket, kResultsInitials, kResultsName, {}, {}});
+        showEntry(newResults(m_shared.field));
     }
     beginUnmarked();
     m_resultsMode = true;
-}
-
-/// A damaged results file may lack what saving needs; what is missing comes from the field and the fixed names.
-void BoardScreen::completeResults(Entry& results) const
-{
-    if (isBlankField(results.initials))
-        results.initials = kResultsInitials;
-    if (isBlankField(results.name))
-        results.name = kResultsName;
-    for (const TeamRow row : allTeamRows())
-        if (results.picks.isEmpty(positionOf(row)))
-            results.picks.put(positionOf(row), m_shared.field.teams[row]);
 }
 
 void BoardScreen::scoreSelections()
@@ -209,7 +194,7 @@ void BoardScreen::markPicks()
         return;
     }
     m_verdicts = score->verdicts;
-    txtPointScore.text = "Points: " + std::to_string(score->points) + " / " + std::to_string(score->maxPoints);
+    m_score = ShownScore{score->points, score->maxPoints};
     m_news = "Green = right, red X wrong; picks that are still open stay blue.";
 }
 
@@ -225,7 +210,7 @@ void BoardScreen::showScored(const std::filesystem::path& file)
     scoreSelections();
 }
 
-ui::Drawing BoardScreen::drawing() const { return drawBoard(picture(), typed(), txtPointScore.text); }
+ui::Drawing BoardScreen::drawing() const { return drawBoard(picture(), typed(), m_score); }
 
 ui::DrawingPrintout BoardScreen::printout() const
 {

@@ -1,6 +1,8 @@
+// screens/board/board_words.cpp - regions, rounds and verdicts in words.
 #include "screens/board/board_words.h"
 
 #include "base/numbers.h"
+#include "base/text.h"
 
 #include <string_view>
 
@@ -11,13 +13,7 @@ namespace {
 constexpr std::array<const char*, kRounds> kSpokenRounds = {"first round",    "second round", "regional semi-final",
                                                             "regional final", "semi-final",   "final"};
 
-const char* spokenRound(int round) { return kSpokenRounds.at(static_cast<std::size_t>(round - 1)); }
-
-std::string withoutBlanks(const std::string& text)
-{
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == std::string::npos ? std::string{} : text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
+const char* spokenRound(int round) { return kSpokenRounds.at(roundIndex(round)); }
 
 /// @returns a region's title, without the word that every listener knows: "West Region" is "West"
 std::string spokenRegion(const Field& field, int region)
@@ -41,7 +37,7 @@ std::string spokenGame(Position position)
 std::string spokenRow(const Field& field, TeamRow row)
 {
     return spokenRegion(field, regionOf(row)) + ", first round, row " + std::to_string(rowInRegion(row) + 1) +
-           ", seed " + withoutBlanks(field.seedOf(row));
+           ", seed " + withoutOuterBlanks(field.seedOf(row));
 }
 
 std::string explanationOfMark(const BoardPicture& picture, Position position)
@@ -54,7 +50,7 @@ std::string explanationOfMark(const BoardPicture& picture, Position position)
     case Verdict::Good:
         return "A right pick: " + points + " earned.";
     case Verdict::Bad:
-        return (picture.bracket.isEmpty(position) ? "Nobody was picked: " : "A wrong pick: ") + points + " lost.";
+        return (picture.bracket.isEmpty(position) ? "No pick: " : "A wrong pick: ") + points + " lost.";
     default:
         return "Not decided yet: worth " + points + ".";
     }

@@ -7,9 +7,8 @@
 
 namespace tallyhoop {
 
-/// @returns where a place is, what became of the pick there, and the team: "West, winner of second round, game 3, X
-/// wrong
-///          pick: Duke"
+/// @returns where a place is, what became of the pick there, and the team, such as
+///          "West, winner of second round, game 3, X wrong pick: Duke"
 std::string spokenPlace(const BoardPicture& picture, Position position);
 
 /// @returns "Seed of West, row 3"

@@ -1,3 +1,4 @@
+// screens/board/bracket_panel.cpp - makes the labels once, and derives all they show from the picture.
 #include "screens/board/bracket_panel.h"
 
 #include "screens/board/board_words.h"
@@ -84,8 +85,7 @@ void BracketPanel::showMark(const BoardPicture& picture, Position position)
 
 std::optional<Position> BracketPanel::positionOfLabel(const ui::Control& control) const
 {
-    const std::optional<std::size_t> index = lblRegion.indexOf(control);
-    return index ? std::optional{allPositions().at(*index)} : std::nullopt;
+    return lblRegion.indexOf<Position>(control);
 }
 
 void BracketPanel::makeTabStop(Position position)

@@ -8,7 +8,7 @@
 
 namespace tallyhoop {
 
-/// Shows a picture of the board; holds nothing that could not be shown anew.
+/// Shows a picture of the board; holds nothing that could not be shown again.
 class BracketPanel
 {
     ui::Screen* m_owner; // first: the controls list themselves with it

@@ -1,3 +1,4 @@
+// screens/board/player_strip.cpp - the boxes' words and locks, and the order in which Enter goes through them.
 #include "screens/board/player_strip.h"
 
 #include "screens/board/board_picture.h"

@@ -1,3 +1,4 @@
+// screens/board/selection_saving.cpp - which file is meant, and what is asked about a new, an existing or another name.
 #include "screens/board/selection_saving.h"
 
 #include "base/windows1252.h"
@@ -12,8 +13,7 @@ namespace tallyhoop {
 
 namespace {
 
-/// The file that a person means by a chosen name: with our extension, and an existing one whatever the case of its
-/// letters.
+/// The file that a person means by a chosen name: with our extension, and an existing one in any case of letters.
 std::filesystem::path meantFile(std::filesystem::path chosen)
 {
     if (!endsWithFolded(shown(chosen.filename()), file_name::kSelectionExtension))

@@ -44,12 +44,6 @@ const ui::Message kNoRecipients{"Tallyhoop - PoolEMail, cmdSend_Click",
                                 "mail system will prompt you with another opportunity to complete these.",
                                 ui::Buttons::OkCancel, ui::Icon::Question};
 
-std::string withoutOuterBlanks(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(' ');
-    return first == std::string_view::npos ? std::string{} : trimTrailingBlanks(text.substr(first));
-}
-
 std::string addressOf(const PlayerRecord& record) { return withoutOuterBlanks(record.email); }
 
 std::string listRow(const PlayerRecord& record)

@@ -132,7 +132,7 @@ void PlayersScreen::enterSaved(const SavedPlayer& saved)
 {
     focused = &txtEmail;
     const auto row = std::ranges::find_if(lstNames.rows, [&](const std::string& text) {
-        return recordStandsFor(m_folder, parsePlayerRow(text).fileName, txtFileName.text);
+        return recordMeans(m_folder, parsePlayerRow(text).fileName, txtFileName.text);
     });
     if (row == lstNames.rows.end()) {
         m_mode = SaveKind::NewFile;

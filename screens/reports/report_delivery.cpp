@@ -28,7 +28,7 @@ std::optional<ui::TextPrintout> printoutOf(const ui::Platform& platform, bool sh
     return textPrintout(kind.name, lines, *setup, platform.printer);
 }
 
-/// Thousands of pages take a moment to paint; the pointer is normal again before a failure is told.
+/// Thousands of pages take a moment to paint; the pointer is normal again before a failure is shown.
 void deliverBusily(const ui::Platform& platform, const char* what, const std::function<Result<Done>()>& deliver)
 {
     const Result<Done> delivered = [&] {

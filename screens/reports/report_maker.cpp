@@ -249,8 +249,8 @@ std::optional<std::vector<Entry>> ReportMaker::readPlayers(const Request& reques
         if (work.cancelled())
             return std::nullopt;
     }
-    for (const std::filesystem::path& file : read.troubled)
-        showReadingTrouble(m_platform.dialogs, file);
+    for (const FileTrouble& trouble : read.troubles)
+        showReadingTrouble(m_platform.dialogs, trouble.file);
     return std::move(read.entries);
 }
 

@@ -84,7 +84,7 @@ void ReportsScreen::explainControls()
         optDestination[i].explanation = kDestinationHints[i];
     for (std::size_t i = 0; i < kPrintouts.size(); ++i)
         optSelected[i].explanation = kPrintoutHints[i];
-    txtReportTitle.explanation = "Heads the reports; the field's own title stays as it is.";
+    txtReportTitle.explanation = "The title of the reports; the field's own title stays as it is.";
     cmdPrintSelections.explanation = "Makes the ticked reports and brings them to their destination.";
     cmdDefaultPrinter.explanation = "Press to change: the default printer, or one that you choose for each report.";
     cmdPreview.explanation = "Shows the ticked reports as they will be printed.";
@@ -177,7 +177,7 @@ bool ReportsScreen::forEachTickedReport(const char* titleEnd, const std::string&
             continue;
         anyTicked = true;
         const MadeReport made = m_maker.make(kind, txtReportTitle.text, m_files);
-        if (const ReportLines* lines = std::get_if<ReportLines>(&made)) {
+        if (const auto* lines = std::get_if<ReportLines>(&made)) {
             deliver(kind, *lines);
             continue;
         }

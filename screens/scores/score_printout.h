@@ -9,10 +9,10 @@
 
 namespace tallyhoop {
 
-/// @returns a date in English, whatever the computer speaks, such as "5-March-01"
+/// @returns a date in English, whatever the computer's language, such as "5-March-01"
 std::string shortDate(std::chrono::year_month_day day);
 
-/// @returns the printed lines: a title with the date, the headings, and the rows, columns as they stand on screen
+/// @returns the printed lines: a title with the date, the headings, and the rows, columns in the order on screen
 std::vector<std::string> scorePrintout(const ui::Grid& grid, std::chrono::year_month_day day);
 
 /// @returns headings and rows as a spreadsheet takes them: cells separated by tabs, lines ended by CR LF

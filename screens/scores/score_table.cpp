@@ -144,6 +144,7 @@ void ScoreTable::begin(std::vector<ListedScore> rows)
     m_columns = {ScoreColumn::FileName, ScoreColumn::PlayerName, ScoreColumn::Score, ScoreColumn::Maximum,
                  ScoreColumn::WinningPick};
     m_rows = std::move(rows);
+    ++m_revision;
 }
 
 void ScoreTable::moveColumn(std::size_t from, std::size_t to)
@@ -156,6 +157,7 @@ void ScoreTable::moveColumn(std::size_t from, std::size_t to)
     else
         std::rotate(at(to), at(from), at(from + 1));
     sort();
+    ++m_revision;
 }
 
 void ScoreTable::sort()
@@ -173,6 +175,8 @@ void ScoreTable::sort()
 
 void ScoreTable::show(ui::Grid& grid) const
 {
+    if (grid.revision == m_revision)
+        return;
     grid.columns.clear();
     for (const ScoreColumn column : m_columns)
         grid.columns.push_back(headingOf(column));
@@ -180,7 +184,7 @@ void ScoreTable::show(ui::Grid& grid) const
     grid.rows.reserve(m_rows.size());
     for (const ListedScore& row : m_rows)
         grid.rows.push_back(cellsOf(row));
-    ++grid.revision;
+    grid.revision = m_revision;
 }
 
 std::vector<std::string> ScoreTable::cellsOf(const ListedScore& row) const

@@ -35,7 +35,10 @@ public:
     /// @param from, to places of columns; nothing happens when one is not
     void moveColumn(std::size_t from, std::size_t to);
 
-    /// Shows the table as it is now.
+    /// Counts the changes.
+    unsigned revision() const { return m_revision; }
+
+    /// Shows the table as it is now, unless the grid shows it already: it may be long.
     void show(ui::Grid& grid) const;
 
 private:
@@ -44,6 +47,7 @@ private:
 
     std::vector<ScoreColumn> m_columns;
     std::vector<ListedScore> m_rows;
+    unsigned m_revision = 0;
 };
 
 /// Says how rows of cells are to be sorted: by all columns, the leftmost first; equal rows keep their order.

@@ -1,3 +1,4 @@
+// screens/scores/scores_screen.cpp - reads and scores all selections, and marks the picks of the one that is pressed.
 #include "screens/scores/scores_screen.h"
 
 #include "base/windows1252.h"
@@ -76,7 +77,6 @@ void ScoresScreen::listFiles()
 void ScoresScreen::showTable(std::vector<ListedScore> rows)
 {
     m_table.begin(std::move(rows));
-    m_table.show(msgScoreDisplay);
     msgScoreDisplay.headingPressed.reset();
 }
 
@@ -139,9 +139,11 @@ void ScoresScreen::cellClicked(std::size_t row, std::size_t column)
 /// @returns the file whose name a cell shows, wherever its column is; nullptr when there is none
 const FolderFile* ScoresScreen::fileMeantBy(std::size_t row, std::size_t column) const
 {
-    if (m_table.columns().at(column) == ScoreColumn::FileName)
-        return &m_table.rows().at(row).file; // the listed one: a name as it is shown may not lead back to its file
-    const auto file = std::ranges::find(m_files, msgScoreDisplay.rows.at(row).at(column), &FolderFile::name);
+    // By its path where there is one: two names may look alike as they are shown.
+    const bool isFileName = m_table.columns().at(column) == ScoreColumn::FileName;
+    const auto file = isFileName
+                          ? std::ranges::find(m_files, m_table.rows().at(row).file.path, &FolderFile::path)
+                          : std::ranges::find(m_files, msgScoreDisplay.rows.at(row).at(column), &FolderFile::name);
     return file == m_files.end() ? nullptr : &*file;
 }
 
@@ -160,7 +162,6 @@ void ScoresScreen::headingDropped(std::optional<std::size_t> target)
     if (!dragged || !target)
         return;
     m_table.moveColumn(*dragged, *target);
-    m_table.show(msgScoreDisplay);
 }
 
 void ScoresScreen::print()

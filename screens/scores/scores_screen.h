@@ -20,13 +20,13 @@ class ScoresScreen : public ui::Screen
 {
 public:
     /// @param results  those on the board, saved or not
-    /// @param verdicts receives those on the picks of the player that is chosen here, for the board to show; nothing
-    /// while
-    ///                 none is chosen
+    /// @param verdicts receives those on the picks of the player chosen here, for the board to show; nothing while none
+    ///                 is chosen
     ScoresScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Field& field,
                  const Bracket& results, std::optional<Verdicts>& verdicts);
 
     std::string helpTopic() const override;
+    void showState() override { m_table.show(msgScoreDisplay); }
     void load() override;
     void closeRequested() override;
     void unloading() override;

@@ -1,9 +1,10 @@
+// screens/setup/pasted_teams.cpp - spreads lines over boxes in the list's own spelling, and words the refused ones.
 #include "screens/setup/pasted_teams.h"
 
 #include "base/text.h"
-#include "pool/position.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace tallyhoop {
 
@@ -28,7 +29,7 @@ void addLines(std::vector<std::string>& message, const char* heading, const std:
 
 } // namespace
 
-PastedTeams pastedTeams(std::span<const std::string> lines, std::size_t firstBox, const TeamNameList* list)
+PastedTeams pastedTeams(std::span<const std::string> lines, TeamRow first, const TeamNameList* list)
 {
     PastedTeams pasted;
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -37,10 +38,10 @@ PastedTeams pastedTeams(std::span<const std::string> lines, std::size_t firstBox
         const std::string team = list == nullptr ? lines[i] : list->spellingOf(lines[i]);
         if (team.empty())
             pasted.notInList.push_back(lines[i]);
-        else if (firstBox + i >= kTeams)
-            pasted.noBoxLeft.push_back(lines[i]);
+        else if (const std::optional<TeamRow> row = rowAfter(first, i))
+            pasted.filled.emplace_back(*row, team);
         else
-            pasted.filled.emplace_back(firstBox + i, team);
+            pasted.noBoxLeft.push_back(lines[i]);
     }
     return pasted;
 }

@@ -1,11 +1,10 @@
 // screens/setup/seeds_screen.cpp - entering the seeds of the first-round rows.
 #include "screens/setup/seeds_screen.h"
 
-#include "base/numbers.h"
+#include "pool/field_check.h"
 #include "screens/help_topics.h"
 
 #include <optional>
-#include <set>
 #include <utility>
 
 namespace tallyhoop {
@@ -18,25 +17,6 @@ constexpr const char* kErrorCaption = "SEED Entry ERROR";
 constexpr const char* kErrorText = "You have entered invalid entries for the SEED postions.\r\n"
                                    "Numbers must be between 1 & 16 without duplicating";
 constexpr int kLongestSeed = 4;
-constexpr int kMostSeed = kRowsPerRegion;
-
-/// @returns the seeds as whole numbers; nothing when one is outside 1..16 or is there twice
-std::optional<SeedTexts> wholeSeeds(const SeedTexts& typed)
-{
-    SeedTexts seeds;
-    std::set<long long> seen;
-    for (std::size_t row = 0; row < typed.size(); ++row) {
-        const double value = leadingNumber(typed.at(row));
-        // Checked before it is rounded, so 0.6 is refused although it rounds to 1.
-        if (value < 1 || value > kMostSeed)
-            return std::nullopt;
-        const long long number = roundHalfEven(value);
-        if (!seen.insert(number).second)
-            return std::nullopt;
-        seeds.at(row) = std::to_string(number);
-    }
-    return seeds;
-}
 
 } // namespace
 

@@ -1,3 +1,4 @@
+// screens/setup/setup_design.cpp - arranges the controls once, when the screen is made.
 #include "screens/setup/setup_design.h"
 
 #include <array>
@@ -8,8 +9,6 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr const char* kComment = "Enter any comments or instructions";
-constexpr std::array<const char*, kRounds> kPayoffs = {"1", "2", "4", "8", "12", "16"};
 constexpr std::array<const char*, kRounds> kPayoffHints = {
     "Points for each win in 1st round",     "Points for each win in 2nd round",
     "Points for each win in 3rd round",     "Points for each win in Regional Finals",
@@ -21,8 +20,8 @@ void arrangeTabs(SetupScreen& setup)
 {
     int tab = 0;
     const auto follow = [&tab](ui::Control& control) { control.tabIndex = tab++; };
-    for (std::size_t box = 0; box < setup.txtRegion.size(); ++box)
-        follow(setup.txtRegion[box]);
+    for (const TeamRow row : allTeamRows())
+        follow(setup.txtRegion[row]);
     for (const std::size_t title : {1U, 2U, 3U, 4U, 0U})
         follow(setup.TxtInfo[title]);
     follow(setup.txtComment1);
@@ -62,8 +61,6 @@ void arrangeMenus(SetupScreen& setup)
 
 void designBoxes(SetupScreen& setup)
 {
-    for (std::size_t box = 0; box < setup.txtRegion.size(); ++box)
-        setup.txtRegion[box].text = "Team " + std::to_string(box + 1);
     for (std::size_t i = 0; i < setup.TxtInfo.size(); ++i) {
         setup.TxtInfo[i].spokenName = i == 0 ? "Pool title" : "Title of region " + std::to_string(i);
         setup.TxtInfo[i].explanation =
@@ -71,7 +68,6 @@ void designBoxes(SetupScreen& setup)
     }
     for (std::size_t i = 0; i < setup.txtInfo6.size(); ++i) {
         ui::TextBox& payoff = setup.txtInfo6[i];
-        payoff.text = kPayoffs.at(i);
         payoff.toolTip = kPayoffHints.at(i);
         payoff.spokenName = payoff.toolTip;
         payoff.explanation = payoff.toolTip + ", 1 to 99.";
@@ -80,7 +76,6 @@ void designBoxes(SetupScreen& setup)
     setup.txtComment2.spokenName = "Comment 2";
     for (ui::TextBox* comment : {&setup.txtComment1, &setup.txtComment2}) {
         comment->multiLine = true;
-        comment->text = kComment;
         comment->explanation = "Shown below the bracket: the fee, the deadline, the prizes.";
     }
 }

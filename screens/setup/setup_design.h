@@ -5,8 +5,7 @@
 
 namespace tallyhoop {
 
-/// Gives each control what never changes: its place in the tab order or the menus, explanation, spoken name; and the
-/// boxes what they hold until the screen is loaded.
+/// Gives each control what never changes: its place in the tab order or the menus, explanation, spoken name.
 void design(SetupScreen& setup);
 
 /// @returns what a team box, and the button below the list, are for while selecting is overridden or not

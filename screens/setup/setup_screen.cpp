@@ -48,8 +48,8 @@ SetupScreen::SetupScreen(const DataFolder& folder, const ui::Platform& platform,
 {
     design(*this);
     lstTeamNames.pressed = [this] { m_picker.listPressed(); };
-    for (std::size_t box = 0; box < txtRegion.size(); ++box)
-        txtRegion[box].edited = [this, box] { m_picker.boxEdited(box); };
+    for (const TeamRow row : allTeamRows())
+        txtRegion[row].edited = [this, row] { m_picker.boxEdited(row); };
 }
 
 void SetupScreen::load()
@@ -138,7 +138,7 @@ void SetupScreen::showState()
 void SetupScreen::showSeeds()
 {
     for (const TeamRow row : allTeamRows()) {
-        const std::string& seed = m_seeds.at(static_cast<std::size_t>(rowInRegion(row)));
+        const std::string& seed = seedOf(m_seeds, row);
         lblSeed[row].text = seed;
         txtRegion[row].spokenName = "Region " + std::to_string(regionOf(row) + 1) + ", seed " + seed;
     }
@@ -147,8 +147,8 @@ void SetupScreen::showSeeds()
 void SetupScreen::showExplanations()
 {
     const bool isOverridden = m_picker.isOverridden();
-    for (std::size_t box = 0; box < txtRegion.size(); ++box)
-        txtRegion[box].explanation = explanationOfTeamBox(isOverridden);
+    for (const TeamRow row : allTeamRows())
+        txtRegion[row].explanation = explanationOfTeamBox(isOverridden);
     cmdOverride.explanation = explanationOfOverride(isOverridden);
 }
 
@@ -170,13 +170,13 @@ std::string SetupScreen::helpTopic() const { return m_isDemo ? help_topic::kDemo
 
 bool SetupScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
 {
-    // Escape would leave the screen, and leaving drops unsaved edits without a question: too much for a slip.
+    // Escape is easily pressed by mistake; it would leave the screen, which drops unsaved edits without a question.
     if (press.key == ui::Key::Escape)
         return true;
     if (&control == &lstTeamNames)
         return m_picker.listKey(press);
-    if (const auto box = txtRegion.indexOf(control))
-        return m_picker.boxKey(*box, press);
+    if (const auto row = txtRegion.indexOf<TeamRow>(control))
+        return m_picker.boxKey(*row, press);
     const bool isUpOrDown = press.key == ui::Key::Up || press.key == ui::Key::Down;
     const bool isComment = &control == &txtComment1 || &control == &txtComment2;
     return isUpOrDown && !isComment && dynamic_cast<ui::TextBox*>(&control) != nullptr;
@@ -184,8 +184,8 @@ bool SetupScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
 
 void SetupScreen::gotFocus(ui::Control& control)
 {
-    if (const auto box = txtRegion.indexOf(control))
-        m_picker.boxGotFocus(*box);
+    if (const auto row = txtRegion.indexOf<TeamRow>(control))
+        m_picker.boxGotFocus(*row);
 }
 
 void SetupScreen::lostFocus(ui::Control& control)
@@ -196,8 +196,8 @@ void SetupScreen::lostFocus(ui::Control& control)
 
 bool SetupScreen::pasted(ui::TextBox& box, const std::string& text)
 {
-    const auto index = txtRegion.indexOf(box);
-    return index && m_picker.pasted(*index, text, m_platform.dialogs);
+    const auto row = txtRegion.indexOf<TeamRow>(box);
+    return row && m_picker.pasted(*row, text, m_platform.dialogs);
 }
 
 void SetupScreen::leave()

@@ -3,9 +3,8 @@
 
 #include "files/data_folder.h"
 #include "files/known_files.h"
-#include "pool/field.h"
+#include "pool/field_check.h"
 #include "screens/screens.h"
-#include "screens/setup/field_completeness.h"
 #include "screens/setup/team_name_editor.h"
 #include "screens/setup/team_picker.h"
 #include "ui/platform.h"
@@ -21,7 +20,7 @@ namespace tallyhoop {
 class SetupScreen : public ui::Screen
 {
 public:
-    /// @param field  the open field; read anew when the screen is loaded, and not changed by what is entered here
+    /// @param field  the open field; read again when the screen is loaded, and not changed by what is entered here
     /// @param notice a sentence for the status line; empty = none
     SetupScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, Field& field,
                 std::string notice = {});
@@ -90,7 +89,7 @@ private:
 
     void finalize();
     void saveStartingField();
-    void refuse(const FieldGap& gap);
+    void refuse(const FieldFault& fault);
     bool finalizingIsConfirmed();
 
     void leave();

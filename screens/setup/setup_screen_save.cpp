@@ -51,8 +51,8 @@ void SetupScreen::finalize()
 void SetupScreen::saveStartingField()
 {
     if (m_isFinalizing) {
-        if (const std::optional<FieldGap> gap = firstGapOf(fieldOnScreen())) {
-            refuse(*gap);
+        if (const std::optional<FieldFault> fault = fieldFault(fieldOnScreen())) {
+            refuse(*fault);
             return;
         }
         if (!finalizingIsConfirmed())
@@ -71,27 +71,24 @@ void SetupScreen::saveStartingField()
         leave();
 }
 
-/// Goes to the box with the gap and says what it lacks.
-void SetupScreen::refuse(const FieldGap& gap)
+/// Goes to the box with the fault and says what it lacks.
+void SetupScreen::refuse(const FieldFault& fault)
 {
     const auto refuseBox = [this](ui::TextBox& box, const char* title, const char* text) {
         focused = &box;
         m_platform.dialogs.show({title, text, ui::Buttons::Ok, ui::Icon::Exclamation});
     };
-    switch (gap.kind) {
-    case FieldGap::Kind::Team:
-        refuseBox(txtRegion[gap.index], kBlankTeamsCaption, kBlankFields);
-        break;
-    case FieldGap::Kind::Title:
-        refuseBox(TxtInfo[gap.index], kBlankTitlesCaption, kBlankFields);
-        break;
-    case FieldGap::Kind::Payoff:
-        refuseBox(txtInfo6[gap.index], kBadPayoffsCaption, kBadPayoffs);
-        break;
-    }
+    if (const auto* team = std::get_if<BlankTeam>(&fault))
+        refuseBox(txtRegion[team->row], kBlankTeamsCaption, kBlankFields);
+    else if (std::holds_alternative<BlankTitle>(fault))
+        refuseBox(TxtInfo[0], kBlankTitlesCaption, kBlankFields);
+    else if (const auto* title = std::get_if<BlankRegionTitle>(&fault))
+        refuseBox(TxtInfo[title->region + 1], kBlankTitlesCaption, kBlankFields);
+    else if (const auto* payoff = std::get_if<BadPayoff>(&fault))
+        refuseBox(txtInfo6[roundIndex(payoff->round)], kBadPayoffsCaption, kBadPayoffs);
 }
 
-/// @returns false when the person thinks again; then Finalize Tournament is as if it had not been pressed
+/// @returns false when the person cancels; then Finalize Tournament is as if it had not been pressed
 bool SetupScreen::finalizingIsConfirmed()
 {
     const auto answer = m_platform.dialogs.show({{}, kFinalizeQuestion, ui::Buttons::OkCancel, ui::Icon::None});

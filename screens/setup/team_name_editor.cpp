@@ -1,3 +1,4 @@
+// screens/setup/team_name_editor.cpp - asks before each change, and before the changed list is saved.
 #include "screens/setup/team_name_editor.h"
 
 #include "files/file_names.h"

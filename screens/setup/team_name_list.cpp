@@ -1,3 +1,4 @@
+// screens/setup/team_name_list.cpp - a changed name keeps its row; typed names wait for the save.
 #include "screens/setup/team_name_list.h"
 
 #include "base/text.h"
@@ -19,8 +20,8 @@ TeamNameList::TeamNameList(std::span<const std::string> names)
 std::size_t TeamNameList::add(const std::string& name)
 {
     m_isChanged = true;
-    // Next to an equal name wherever that is: a changed name keeps its row, which can lead the search for the sorted
-    // place astray, and the file is freed only of doubles that are neighbours.
+    // Next to an equal name wherever that is: a changed name keeps its row, which can mislead the search for the
+    // sorted place, and only adjacent doubles are left out of the file.
     const auto same = std::ranges::find(m_rows, name);
     if (same == m_rows.end())
         return insertSorted(m_rows, name);

@@ -1,3 +1,4 @@
+// screens/setup/team_picker.cpp - what each key means in a box and in the list, with and without the override.
 #include "screens/setup/team_picker.h"
 
 #include "base/lines.h"
@@ -13,6 +14,7 @@ namespace tallyhoop {
 namespace {
 
 constexpr const char* kPastedCaption = "Team Names Pasted";
+constexpr TeamRow kFirstBox{0};
 
 void putText(ui::TextBox& box, const std::string& text)
 {
@@ -33,12 +35,12 @@ void TeamPicker::toggleOverride()
 
 void TeamPicker::clearBoxes()
 {
-    for (std::size_t box = 0; box < m_boxes.size(); ++box)
+    for (const TeamRow box : allTeamRows())
         m_boxes[box].text.clear();
-    focusOn(m_boxes[0]);
+    focusOn(m_boxes[kFirstBox]);
 }
 
-void TeamPicker::boxGotFocus(std::size_t box)
+void TeamPicker::boxGotFocus(TeamRow box)
 {
     m_lastBox = box;
     m_list.selected.reset();
@@ -47,7 +49,7 @@ void TeamPicker::boxGotFocus(std::size_t box)
     m_boxes[box].selectionLength = static_cast<int>(m_boxes[box].text.size());
 }
 
-bool TeamPicker::boxKey(std::size_t box, const ui::KeyPress& press)
+bool TeamPicker::boxKey(TeamRow box, const ui::KeyPress& press)
 {
     if (press.key == ui::Key::Enter) {
         accept(box);
@@ -75,7 +77,7 @@ bool TeamPicker::boxKey(std::size_t box, const ui::KeyPress& press)
     }
 }
 
-void TeamPicker::goToList(std::size_t box, ui::Key key)
+void TeamPicker::goToList(TeamRow box, ui::Key key)
 {
     putText(m_boxes[box], {});
     m_listFillsBox = true;
@@ -84,12 +86,12 @@ void TeamPicker::goToList(std::size_t box, ui::Key key)
 }
 
 /// Enter: the name is taken, the next box follows.
-void TeamPicker::accept(std::size_t box)
+void TeamPicker::accept(TeamRow box)
 {
     if (m_isOverridden)
         m_names.addTyped(m_boxes[box].text);
     m_list.selected.reset();
-    focusOn(m_boxes[(box + 1) % m_boxes.size()]);
+    focusOn(m_boxes[rowAfter(box).value_or(kFirstBox)]);
 }
 
 bool TeamPicker::listKey(const ui::KeyPress& press)
@@ -108,13 +110,13 @@ bool TeamPicker::listKey(const ui::KeyPress& press)
     return true;
 }
 
-void TeamPicker::boxEdited(std::size_t box)
+void TeamPicker::boxEdited(TeamRow box)
 {
     if (!m_isOverridden && !m_names.contains(m_boxes[box].text))
         putText(m_boxes[box], {});
 }
 
-bool TeamPicker::pasted(std::size_t box, const std::string& text, ui::Dialogs& dialogs)
+bool TeamPicker::pasted(TeamRow box, const std::string& text, ui::Dialogs& dialogs)
 {
     const std::vector<std::string> lines = linesOf(text);
     if (m_isOverridden && lines.size() <= 1)
@@ -129,7 +131,7 @@ bool TeamPicker::pasted(std::size_t box, const std::string& text, ui::Dialogs& d
 
 void TeamPicker::showState()
 {
-    for (std::size_t box = 0; box < m_boxes.size(); ++box) {
+    for (const TeamRow box : allTeamRows()) {
         const bool isMarked = m_listFillsBox && box == m_lastBox;
         m_boxes[box].background = isMarked ? m_list.background : std::nullopt;
     }

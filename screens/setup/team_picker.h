@@ -8,12 +8,12 @@
 #include "ui/dialogs.h"
 #include "ui/keys.h"
 
-#include <cstddef>
 #include <string>
 
 namespace tallyhoop {
 
-/// The rules of keyboard, mouse and clipboard for 64 boxes and a list beside them. A box is named by its index 0..63.
+/// The rules of keyboard, mouse and clipboard for 64 boxes and a list beside them. A box is named by its row of the
+/// field.
 class TeamPicker
 {
 public:
@@ -32,33 +32,33 @@ public:
     /// Empties all boxes and goes to the first.
     void clearBoxes();
 
-    void boxGotFocus(std::size_t box);
+    void boxGotFocus(TeamRow box);
     void listPressed() { m_listFillsBox = true; }
     void listLostFocus() { m_listFillsBox = false; }
 
     /// @returns true when the key was dealt with and must not reach the box or the list
-    bool boxKey(std::size_t box, const ui::KeyPress& press);
+    bool boxKey(TeamRow box, const ui::KeyPress& press);
     bool listKey(const ui::KeyPress& press);
 
     /// The person changed a box other than by a key press: cut, undone, dropped into.
-    void boxEdited(std::size_t box);
+    void boxEdited(TeamRow box);
 
     /// Fills this box and the following ones, one line each, and says which lines it could not enter.
     /// @returns false when the box is to insert the text itself
-    bool pasted(std::size_t box, const std::string& text, ui::Dialogs& dialogs);
+    bool pasted(TeamRow box, const std::string& text, ui::Dialogs& dialogs);
 
     /// Marks the box that the list is about to fill, if it is.
     void showState();
 
 private:
-    void goToList(std::size_t box, ui::Key key);
-    void accept(std::size_t box);
+    void goToList(TeamRow box, ui::Key key);
+    void accept(TeamRow box);
 
     Boxes& m_boxes;
     ui::ListBox& m_list;
     TeamNameList& m_names;
     bool m_isOverridden = false;
-    std::size_t m_lastBox = 0;   ///< the box that had the focus last
+    TeamRow m_lastBox{};         ///< the box that had the focus last
     bool m_listFillsBox = false; ///< the list is about to fill that box
 };
 

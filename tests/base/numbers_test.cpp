@@ -8,7 +8,7 @@
 namespace tallyhoop {
 namespace {
 
-TEST(LeadingNumber, IgnoresBlanksBeforeAndTextBehindIt)
+TEST(LeadingNumber, IgnoresBlanksBeforeAndTextAfterIt)
 {
     EXPECT_EQ(leadingNumber(" 12abc"), 12);
     EXPECT_EQ(leadingNumber("  7 8"), 7);
@@ -106,7 +106,7 @@ TEST(WholeNumber, NamesALongNumberByItsBeginning)
               "The number \"" + std::string(40, '9') + "...\" is out of range: it must lie between -32768 and 32767.");
 }
 
-TEST(ThreeDigits, FillsWithZerosBehindTheSign)
+TEST(ThreeDigits, FillsWithZerosAfterTheMinus)
 {
     EXPECT_EQ(threeDigits(7), "007");
     EXPECT_EQ(threeDigits(0), "000");

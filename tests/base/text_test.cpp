@@ -19,6 +19,19 @@ TEST(TrimTrailingBlanks, LeavesNothingOfAnEmptyOrBlankText)
     EXPECT_EQ(trimTrailingBlanks("   "), "");
 }
 
+TEST(WithoutOuterBlanks, KeepsWhatIsBetweenThem)
+{
+    EXPECT_EQ(withoutOuterBlanks("  A B "), "A B");
+    EXPECT_EQ(withoutOuterBlanks("AB"), "AB");
+    EXPECT_EQ(withoutOuterBlanks(" \tA\t "), "\tA\t"); // other white space stays
+}
+
+TEST(WithoutOuterBlanks, LeavesNothingOfAnEmptyOrBlankText)
+{
+    EXPECT_EQ(withoutOuterBlanks(""), "");
+    EXPECT_EQ(withoutOuterBlanks("   "), "");
+}
+
 TEST(LastNonBlank, CountsFromOne)
 {
     EXPECT_EQ(lastNonBlank("AB  "), 2u);
@@ -78,7 +91,7 @@ TEST(Split, KeepsEmptyPieces)
     EXPECT_EQ(split("", '|'), (std::vector<std::string>{""}));
 }
 
-TEST(InsertSorted, PutsARowBehindEqualOnes)
+TEST(InsertSorted, PutsARowAfterEqualOnes)
 {
     std::vector<std::string> rows;
     EXPECT_EQ(insertSorted(rows, "duke"), 0u);

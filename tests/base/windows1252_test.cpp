@@ -86,7 +86,7 @@ TEST(Folding, MakesCapitalsSmallAccentedOnesToo)
     EXPECT_EQ(folded(0x9F), 0xFF);
 }
 
-TEST(Folding, LeavesSignsAmongTheLettersAlone)
+TEST(Folding, LeavesSymbolsAmongTheLettersAlone)
 {
     EXPECT_EQ(folded(0xD7), 0xD7); // times
     EXPECT_EQ(folded(0xF7), 0xF7); // divided by
@@ -109,7 +109,7 @@ TEST(CompareFolded, IgnoresCaseAndPutsThePrefixFirst)
     EXPECT_EQ(compareFolded("", ""), 0);
 }
 
-TEST(CompareFolded, PutsAccentedLettersBehindTheOthers)
+TEST(CompareFolded, PutsAccentedLettersAfterTheOthers)
 {
     EXPECT_LT(compareFolded("z", "\xC9"), 0);
     EXPECT_EQ(compareFolded("\xC9t\xE9", "\xE9T\xC9"), 0);

@@ -76,7 +76,7 @@ class HarnessWhileAWindowIsBeingShown(unittest.TestCase):
         self.assertTrue(program.reachable("cmdGreet"))
 
 
-class HarnessEnding(unittest.TestCase):
+class HarnessClosing(unittest.TestCase):
     def test_the_window_managers_close_ends_the_program(self):
         with Program(executable=BUILD / "tests/e2e/tallyhoop_e2e_dummy") as program:
             self.assertEqual(program.start().close(), 0)

@@ -54,10 +54,10 @@ class Keyboard(unittest.TestCase):
             modifier = ""
 
     def accept(self, title):
-        told = self.program.box(title)
+        box = self.program.box(title)
         self.program.key("Return")
-        self.program.wait(lambda: self.program.modal() != told, f"the box {title!r} going away")
-        return told
+        self.program.wait(lambda: self.program.modal() != box, f"the box {title!r} going away")
+        return box
 
     def file_dialog(self, path=None):
         self.program.wait(lambda: self.program.modal().get("name") == "QFileDialog", "a file dialog")

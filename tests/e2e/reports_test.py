@@ -102,9 +102,9 @@ class Reports(unittest.TestCase):
 
     def printed(self, name):
         """What a PDF says, without its left margin."""
-        told = subprocess.run(["pdftotext", "-layout", "-fixed", "6", self.program.folder / name, "-"],
+        text = subprocess.run(["pdftotext", "-layout", "-fixed", "6", self.program.folder / name, "-"],
                               capture_output=True, check=True, text=True).stdout
-        sheets = pages(told)
+        sheets = pages(text)
         margin = min(len(line) - len(line.lstrip(" ")) for sheet in sheets for line in sheet)
         return [[line[margin:] for line in sheet] for sheet in sheets]
 

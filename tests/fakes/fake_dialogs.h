@@ -28,7 +28,7 @@ public:
     FakeDialogs& type(std::string text) { m_texts.push_back(std::move(text)); return *this; }
     FakeDialogs& pick(std::optional<std::filesystem::path> file) { m_files.push_back(std::move(file)); return *this; }
 
-    /// Called while a message is shown: what does the screen look like behind it?
+    /// Called while a message is shown: what does the screen look like meanwhile?
     std::function<void(const ui::Message&)> whileShown;
 
     std::vector<ui::Message> shown;

@@ -1,3 +1,4 @@
+// tests/fakes/scratch_folder.cpp - made below the temporary folder and removed with everything in it.
 #include "fakes/scratch_folder.h"
 
 #include <cstdlib>
@@ -37,10 +38,7 @@ std::string ScratchFolder::get(std::string_view name) const
     return {std::istreambuf_iterator<char>{stream}, {}};
 }
 
-bool ScratchFolder::has(std::string_view name) const
-{
-    return std::filesystem::exists(m_path / name);
-}
+bool ScratchFolder::has(std::string_view name) const { return std::filesystem::exists(m_path / name); }
 
 std::string crlf(std::initializer_list<std::string_view> lines)
 {

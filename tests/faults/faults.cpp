@@ -1,3 +1,4 @@
+// tests/faults/faults.cpp - disks, limits and rights of this process, by mounts that nobody else sees.
 #include "faults/faults.h"
 
 #include "files/replace_file.h"

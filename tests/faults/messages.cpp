@@ -1,3 +1,4 @@
+// tests/faults/messages.cpp - texts and buttons, one function for each message.
 #include "faults/messages.h"
 
 #include "screens/reports/report_maker.h"
@@ -50,7 +51,7 @@ std::vector<ui::Message> teamListTrouble(const fs::path& folder)
     return {offer, checkSpace(folder / "NCAALIST.THS")};
 }
 
-ui::Message spoiltPlayerList(const fs::path& folder)
+ui::Message damagedPlayerList(const fs::path& folder)
 {
     return {"** ERROR Found in PLAYERNAMES.CSV file **",
             "There is a problem found with the file containing your player names.\r\n"
@@ -76,7 +77,7 @@ std::vector<ui::Message> reportTrouble(ReportId id, const fs::path& folder, cons
     case ReportId::TournamentStandings:
         return {noReport("\"Tournament Standings Report\" cannot be prepared.")};
     case ReportId::PlayerListing:
-        return {spoiltPlayerList(folder),
+        return {damagedPlayerList(folder),
                 {reportKind(id).failureTitle,
                  "Problems found with PLAYERNAMES.CSV file\r\n"
                  "This condition must be corrected, See Help content",

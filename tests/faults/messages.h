@@ -1,4 +1,4 @@
-// tests/faults/messages.h - what the person is told when a file could not be written, word for word.
+// tests/faults/messages.h - the messages about a file that could not be written, word for word.
 #pragma once
 
 #include "faults/faults.h"
@@ -22,7 +22,7 @@ ui::Message changedMeanwhile(const std::filesystem::path& file);
 /// The offer to save the changed names, and that it failed.
 std::vector<ui::Message> teamListTrouble(const std::filesystem::path& folder);
 
-ui::Message spoiltPlayerList(const std::filesystem::path& folder);
+ui::Message damagedPlayerList(const std::filesystem::path& folder);
 
 /// A report whose folder has vanished finds no selections, or no player list, before it comes to writing.
 std::vector<ui::Message> reportTrouble(ReportId id, const std::filesystem::path& folder, const Fault& fault);

@@ -1,3 +1,4 @@
+// tests/faults/own_process.cpp - forks, so that lost rights and mounts end with the child.
 #include "faults/own_process.h"
 
 #include <cstdio>
@@ -18,10 +19,10 @@ constexpr int kSkipped = 77;
 {
     const std::string cannot = part();
     const auto length = static_cast<ssize_t>(cannot.size());
-    const bool told = ::write(reasonPipe, cannot.data(), cannot.size()) == length;
+    const bool isReported = ::write(reasonPipe, cannot.data(), cannot.size()) == length;
     std::cout.flush();
     std::fflush(nullptr);
-    if (testing::Test::HasFailure() || !told)
+    if (testing::Test::HasFailure() || !isReported)
         ::_exit(kFailed);
     ::_exit(cannot.empty() ? kSucceeded : kSkipped);
 }

@@ -1,3 +1,4 @@
+// tests/faults/pool.cpp - a pool with old reports, and what a folder or a screen holds as text.
 #include "faults/writers.h"
 #include "files/file_names.h"
 #include "files/setup_file.h"

@@ -1,3 +1,4 @@
+// tests/faults/writers.cpp - for each file, the screen that writes it and the presses up to the last one.
 #include "faults/writers.h"
 
 #include "faults/messages.h"
@@ -165,13 +166,13 @@ public:
     }
 };
 
-/// The copy is written while the player list is read: a player list that somebody has spoilt.
+/// The copy is written while the player list is read: a damaged player list.
 class AnnotatedCopyWriter : public Writer
 {
 public:
     explicit AnnotatedCopyWriter(const fs::path& folderPath) : Writer{folderPath}
     {
-        std::ofstream{folderPath / file_name::kPlayerNames, std::ios::app | std::ios::binary} << "spoilt line\r\n";
+        std::ofstream{folderPath / file_name::kPlayerNames, std::ios::app | std::ios::binary} << "damaged line\r\n";
     }
     void save(std::optional<ui::Answer> /*mayReplace*/) override
     {
@@ -203,7 +204,7 @@ public:
     }
     std::string onScreen() const override
     {
-        // The chosen files are listed anew before every report, and a report that failed loses its own tick.
+        // The chosen files are listed again before every report, and a report that failed loses its own tick.
         std::string all = screen->txtReportTitle.text + "\n" + screen->cmdDefaultPrinter.caption + "\n";
         for (std::size_t i = 0; i < screen->optDestination.size(); ++i)
             all += screen->optDestination[i].selected ? '*' : '-';
@@ -265,8 +266,8 @@ const std::vector<WriterKind>& allWriters()
          [](const fs::path& folder, const Fault&) { return std::vector{checkSelection(folder / kNewSelection)}; }},
         {"PlayerList", file_name::kPlayerNames, "Evans,GH", true, true, opened<PlayerListWriter>,
          troubleWith<file_name::kPlayerNames>},
-        {"AnnotatedCopy", file_name::kPlayerNamesErrors, "spoilt line", true, false, opened<AnnotatedCopyWriter>,
-         [](const fs::path& folder, const Fault&) { return std::vector{spoiltPlayerList(folder)}; }},
+        {"AnnotatedCopy", file_name::kPlayerNamesErrors, "damaged line", true, false, opened<AnnotatedCopyWriter>,
+         [](const fs::path& folder, const Fault&) { return std::vector{damagedPlayerList(folder)}; }},
         {"TeamList", file_name::kTeamNames, "Gonzaga", true, true, opened<TeamListWriter>,
          [](const fs::path& folder, const Fault&) { return teamListTrouble(folder); }},
         {"WorkFile", file_name::kWorkFile, "A new title", true, false, opened<ReportWriter<0, kToPrinter>>,

@@ -34,7 +34,7 @@ public:
     /// @returns everything a person reads on the screen; empty when there is none
     virtual std::string onScreen() const = 0;
 
-    /// What was said and loaded until now is no matter of the test.
+    /// Drops what was said and loaded until now; the test is about what follows.
     void forgetOpening()
     {
         platform.dialogs.shown.clear();
@@ -60,7 +60,7 @@ struct WriterKind {
     bool asks;           ///< asks before somebody else's changes are replaced
     std::unique_ptr<Writer> (*open)(const std::filesystem::path& folder);
 
-    /// What the person is told when the file cannot be written.
+    /// The messages shown when the file cannot be written.
     std::vector<ui::Message> (*trouble)(const std::filesystem::path& folder, const Fault& fault);
 };
 

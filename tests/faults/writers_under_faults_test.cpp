@@ -1,4 +1,4 @@
-// tests/faults/writers_under_faults_test.cpp - every writer under every fault: the person is told, nothing is lost, and
+// tests/faults/writers_under_faults_test.cpp - every writer under every fault: a message appears, nothing is lost, and
 // the next save works.
 #include "demo/sample_pool.h"
 #include "faults/own_process.h"
@@ -140,7 +140,7 @@ protected:
         });
     }
 
-    /// A folder that takes no file at all is told of before anything is copied; room is missed by the first copy.
+    /// A folder that takes no file at all is noticed before anything is copied; missing room by the first copy.
     fs::path whereItStops(const Fault& fault) const
     {
         return fault.takesEmptyFiles ? scratch.path() / ".Backup.tmp~" / file_name::kSetup : scratch.path();

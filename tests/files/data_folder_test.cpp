@@ -29,7 +29,7 @@ TEST(JoinPath, PutsOneSeparatorBetweenFolderAndName)
     EXPECT_EQ(joinPath("/home/pool", '/', "POOLSTART.THS"), "/home/pool/POOLSTART.THS");
 }
 
-TEST(JoinPath, AddsNoneBehindADriveRoot)
+TEST(JoinPath, AddsNoneAfterADriveRoot)
 {
     EXPECT_EQ(joinPath("C:\\", '\\', "POOLSTART.THS"), "C:\\POOLSTART.THS");
     EXPECT_EQ(joinPath("/", '/', "POOLSTART.THS"), "/POOLSTART.THS");
@@ -131,7 +131,7 @@ TEST(DataFolderExists, SurvivesNamesOfAnyLength)
     EXPECT_FALSE(scratch.folder().write(std::string(300, 'a'), "x"));
 }
 
-TEST(DataFolderFiles, ListsAnEndingInAnyCaseSortedWithoutRegardToCase)
+TEST(DataFolderFiles, ListsAnExtensionInAnyCaseSortedWithoutRegardToCase)
 {
     const ScratchFolder scratch;
     for (const char* name : {"b.thc", "A.THC", "a.THC", "C.Thc", "D.THS", "E.THC.bak", "F"})
@@ -249,7 +249,7 @@ TEST(IsSameFile, IgnoresCase)
     EXPECT_FALSE(isSameFile("/pool/Smith_JS.THC", "/other/Smith_JS.THC"));
 }
 
-TEST(IsSameFile, TellsApartNamesWhoseLettersOurCodePageLacks)
+TEST(IsSameFile, DistinguishesNamesWhoseLettersOurCodePageLacks)
 {
     EXPECT_FALSE(isSameFile(fs::path{"/pool"} / u8"Łukasz_L.THC", fs::path{"/pool"} / u8"Ńukasz_L.THC"));
     EXPECT_TRUE(isSameFile(fs::path{"/pool"} / u8"Łukasz_L.THC", fs::path{"/pool/x/.."} / u8"Łukasz_L.THC"));
@@ -266,7 +266,7 @@ TEST(IsSameFile, SeesThroughDetoursAndLinks)
     EXPECT_TRUE(isSameFile(scratch.path() / "LINK.THC", scratch.path() / "A.THC"));
 }
 
-TEST(WithoutUnsafeCharacters, ReplacesWhatCannotStandInAFileName)
+TEST(WithoutUnsafeCharacters, ReplacesWhatCannotBeInAFileName)
 {
     EXPECT_EQ(withoutUnsafeCharacters("a/b\\c:d*e?f\"g<h>i|j"), "a_b_c_d_e_f_g_h_i_j");
     EXPECT_EQ(withoutUnsafeCharacters(std::string_view{"a\0b\tc\x7F", 6}), "a_b_c_");

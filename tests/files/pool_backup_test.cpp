@@ -82,7 +82,7 @@ TEST(BackUp, StepsAsideForAFileAndForAnotherCase)
     EXPECT_TRUE(fs::is_empty(scratch.path() / "Backup 2026-11-20 101530 (2)"));
 }
 
-TEST(BackUp, SweepsAwayWhatACrashLeftBehind)
+TEST(BackUp, RemovesWhatACrashLeft)
 {
     const ScratchFolder scratch;
     scratch.put("POOLSTART.THS", "field");

@@ -58,7 +58,7 @@ TEST_F(PoolFiles, GiveEveryEntryInTheOrderOfTheList)
 {
     const ReadEntries read = readAll();
     EXPECT_THAT(read.entries, ElementsAre(adams, baker, clark, dunn));
-    EXPECT_THAT(read.troubled, IsEmpty());
+    EXPECT_TRUE(read.troubles.empty());
 }
 
 TEST_F(PoolFiles, NameAFileThatIsNotWholeAndKeepWhatWasRead)
@@ -70,7 +70,9 @@ TEST_F(PoolFiles, NameAFileThatIsNotWholeAndKeepWhatWasRead)
     EXPECT_TRUE(read.entries[1].picks.isEmpty(Position{2}));
     EXPECT_EQ(read.entries[1].fileName, "Baker_C.THC");
     EXPECT_EQ(read.entries[2], clark);
-    EXPECT_THAT(read.troubled, ElementsAre(scratch.path() / "Baker_C.THC"));
+    ASSERT_EQ(read.troubles.size(), 1u);
+    EXPECT_EQ(read.troubles[0].file, scratch.path() / "Baker_C.THC");
+    EXPECT_EQ(read.troubles[0].failure.message, "The file has fewer than 131 lines.");
 }
 
 TEST_F(PoolFiles, NameAFileThatHasVanishedSinceItWasListed)
@@ -80,7 +82,8 @@ TEST_F(PoolFiles, NameAFileThatHasVanishedSinceItWasListed)
     const ReadEntries read = readEntries(files, results.picks);
     ASSERT_EQ(read.entries.size(), 4u);
     EXPECT_EQ(read.entries[2], (Entry{{}, "", "", "", "Clark_D.THC"}));
-    EXPECT_THAT(read.troubled, ElementsAre(scratch.path() / "Clark_D.THC"));
+    ASSERT_EQ(read.troubles.size(), 1u);
+    EXPECT_EQ(read.troubles[0].file, scratch.path() / "Clark_D.THC");
 }
 
 TEST_F(PoolFiles, AreReadOneStepEach)

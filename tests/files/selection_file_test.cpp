@@ -205,7 +205,7 @@ TEST(ProposedFileName, JoinsNameAndInitialsAsTyped)
 
 TEST(ProposedFileName, KeepsADotInTheName) { EXPECT_EQ(proposedFileName("Smith Jr.", "JS"), "Smith Jr._JS.THC"); }
 
-TEST(ProposedFileName, ReplacesWhatCannotStandInAFileName)
+TEST(ProposedFileName, ReplacesWhatCannotBeInAFileName)
 {
     EXPECT_EQ(proposedFileName("../<b>\"A\"|B?", "A/B"), "..__b__A__B__A_B.THC");
 }

@@ -45,7 +45,7 @@ TEST(DemoModeIsOff, WithoutSettings)
     EXPECT_FALSE(demoModeIsOn(scratch.folder()));
 }
 
-TEST(DemoModeIsOn, IsReadAnewEveryTime)
+TEST(DemoModeIsOn, IsReadAgainEveryTime)
 {
     const ScratchFolder scratch;
     const DataFolder folder = scratch.folder();

@@ -95,7 +95,7 @@ TEST(TeamNameListFile, HasEqualNamesThatAreNoNeighboursTwice)
     EXPECT_EQ(teamNameListFile(Names{"Duke", "UCLA", "Duke"}), crlf({"*START*", "Duke", "UCLA", "Duke", "*END*"}));
 }
 
-TEST(TeamNameListFile, TellsNamesThatDifferInCaseApart)
+TEST(TeamNameListFile, DistinguishesNamesThatDifferInCase)
 {
     EXPECT_EQ(teamNameListFile(Names{"Duke", "DUKE"}), crlf({"*START*", "Duke", "DUKE", "*END*"}));
 }

@@ -17,7 +17,7 @@
 namespace tallyhoop::fuzz {
 namespace {
 
-/// What the helpers must stand that every screen applies to a field that was read.
+/// A field that was read must survive the helpers that every screen applies to it.
 Complaint field(const std::string& text)
 {
     if (fromUtf8(toUtf8(text)) != text)

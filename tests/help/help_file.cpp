@@ -1,3 +1,4 @@
+// tests/help/help_file.cpp - finds topics, links and samples by plain text search.
 #include "help/help_file.h"
 
 #include "base/lines.h"

@@ -59,7 +59,7 @@ TEST_F(HelpSamples, OfTheReportsAreWhatTheSamplePoolGives)
         for (std::string& line : report)
             line = trimTrailingBlanks(line);
         auto from = report.begin();
-        for (const std::string& line : sample) { // in their order, others may stand between them
+        for (const std::string& line : sample) { // in their order, others may be between them
             const auto at = std::find(from, report.end(), line);
             ASSERT_NE(at, report.end()) << kind.file << " has no line: " << line;
             from = at + 1;
@@ -76,6 +76,7 @@ TEST_F(HelpSamples, OfTheScoresAreWhatTheBoardSays)
         BoardScreen board{folder, platform.services, screens, shared};
         board.load();
         board.showScored(scratch.path() / file);
+        board.showState();
         EXPECT_EQ(board.txtPointScore.text, std::string{"Points: "} + score);
         EXPECT_THAT(help, testing::HasSubstr(std::string{">"} + score + "</td>")) << file;
     }

@@ -97,7 +97,7 @@ TEST_P(HostileNamesInFiles, ComeBackFromEachFieldOfASelection)
 TEST_P(HostileNamesInFiles, ComeBackFromEachFieldOfAPlayer)
 {
     const PlayerRecord plain{"Smith,JS", "SMITH_JS.THC", "js@example.org", "555-0102"};
-    // Double quotes frame the fields; an apostrophe stands for one.
+    // Double quotes frame the fields; an apostrophe replaces one inside a field.
     std::string kept = hostileName();
     std::replace(kept.begin(), kept.end(), '"', '\'');
     for (const auto& [field, width] :
@@ -129,7 +129,7 @@ TEST_P(HostileNamesInFiles, DoNotEndTheListOfTeamsBeforeItsEnd)
     }
 }
 
-TEST_P(HostileNamesInFiles, SurviveTheWayToTheSystemAndBack)
+TEST_P(HostileNamesInFiles, SurviveTheConversionForTheSystemAndBack)
 {
     EXPECT_EQ(fromUtf8(toUtf8(hostileName())), hostileName());
 }

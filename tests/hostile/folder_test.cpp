@@ -93,7 +93,7 @@ TEST_P(HostileFileNames, AreProposedAsBareNames)
     }
 }
 
-TEST_P(HostileFileNames, InTheRecordOfAPlayerStandForNoFileOutside)
+TEST_P(HostileFileNames, InTheRecordOfAPlayerMeanNoFileOutside)
 {
     for (const std::string& recorded :
          {hostileName(), hostileName() + ".THC", "../" + hostileName(), std::string{"../outside.THC"}})

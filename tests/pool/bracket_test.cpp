@@ -1,4 +1,4 @@
-// tests/pool/bracket_test.cpp - who is where, whatever the numbers behind the names.
+// tests/pool/bracket_test.cpp - who is where, whatever the numbers of the names.
 #include "pool/bracket.h"
 
 #include "pool/sample_brackets.h"
@@ -35,7 +35,7 @@ Texts differentEverywhere()
     return texts;
 }
 
-TEST(Bracket, HasNobodyAnywhereToBeginWith)
+TEST(Bracket, IsEmptyToBeginWith)
 {
     const Bracket bracket;
     for (const Position position : allPositions()) {
@@ -55,7 +55,7 @@ TEST(Bracket, TakesTeamsByName)
     EXPECT_TRUE(bracket.isEmpty(Position{1}));
 }
 
-TEST(Bracket, HasNobodyWhereAnEmptyNameIsPut)
+TEST(Bracket, HasNoTeamWhereAnEmptyNameIsPut)
 {
     Bracket bracket = test::everyUpperTeamWins();
     bracket.put(Position{16}, "");
@@ -65,7 +65,7 @@ TEST(Bracket, HasNobodyWhereAnEmptyNameIsPut)
     EXPECT_EQ(bracket.at(Position{18}), "Team 5");
 }
 
-TEST(Bracket, CopiesATeamFromPlaceToPlaceAndNobodyToo)
+TEST(Bracket, CopiesATeamFromPlaceToPlaceAndAnEmptyPlaceToo)
 {
     Bracket bracket = test::startingField();
     bracket.copy(Position{1}, Position{16});
@@ -208,7 +208,7 @@ TEST(BracketOf, LeavesEmptyPlacesEmptyWhateverTheOtherHasThere)
     EXPECT_EQ(Bracket::of(ByPosition<std::string_view>{}, like), Bracket{});
 }
 
-TEST(BracketOf, TellsNamesApartThatDifferInABlankOrInCase)
+TEST(BracketOf, DistinguishesNamesThatDifferInABlankOrInCase)
 {
     const Bracket like = test::startingField();
     Texts texts = textsOf(like);

@@ -91,7 +91,7 @@ TEST(FaultsOf, TakeAnEmptyNameOfTheFieldAsItIs)
     EXPECT_EQ(faultsOf(bracket, field).front(), (Fault{Position{16}, FaultKind::NoPick}));
 }
 
-TEST(FaultsOf, CannotTellTeamsOfOneNameApart)
+TEST(FaultsOf, DoesNotDistinguishTeamsOfOneName)
 {
     Field field = sampleField();
     field.teams[TeamRow{1}] = "Team 1";  // both teams of the first game

@@ -69,6 +69,28 @@ TEST(Field, HasTheSameSeedsInEveryRegion)
     EXPECT_EQ(field.seedOf(TeamRow{33}), "16");
 }
 
+TEST(SeedNumbers, AreThoseOfTheRowInEveryRegion)
+{
+    const ByTeamRow<std::int16_t> seeds = seedNumbers(defaultField());
+    EXPECT_EQ(seeds[TeamRow{0}], 1);
+    EXPECT_EQ(seeds[TeamRow{17}], 16);
+    EXPECT_EQ(seeds[TeamRow{63}], 15);
+}
+
+TEST(SeedNumbers, AreZeroForATextThatIsNoNumberOrDoesNotFit)
+{
+    Field field = defaultField();
+    field.seeds[0] = "";
+    field.seeds[1] = "x";
+    field.seeds[2] = "99999"; // far above 16 bits
+    field.seeds[3] = "-40000";
+    field.seeds[4] = "32767"; // the largest that fits
+    const ByTeamRow<std::int16_t> seeds = seedNumbers(field);
+    for (const int row : {0, 1, 2, 3, 16, 49, 50})
+        EXPECT_EQ(seeds[TeamRow{row}], 0) << row;
+    EXPECT_EQ(seeds[TeamRow{4}], 32767);
+}
+
 TEST(Field, IsEmptyEverywhereToBeginWith)
 {
     const Field field;

@@ -300,7 +300,7 @@ TEST(PathOf, IsEmptyForNobodyAndForATeamThatDoesNotComeFromThere)
     EXPECT_THAT(pathOf(bracket, Position{17}), IsEmpty());
 }
 
-TEST(PathOf, TellsTwoTeamsOfOneNameApartByTheirWays)
+TEST(PathOf, DistinguishesTwoTeamsOfOneNameByTheirPaths)
 {
     Bracket bracket = startingField();
     bracket.put(Position{93}, "R0T0");

@@ -1,7 +1,9 @@
 // tests/pool/position_test.cpp - where every winner goes, and how places, games and rows are counted.
 #include "pool/position.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
+#include <limits>
 #include <vector>
 
 namespace tallyhoop {
@@ -243,6 +245,42 @@ TEST(GameOfColumn, CountsFromTheTopOfItsRegionAndRound)
     EXPECT_EQ(gameOfColumn(kSemifinalA), 0);
     EXPECT_EQ(gameOfColumn(kSemifinalB), 1);
     EXPECT_EQ(gameOfColumn(kChampion), 0);
+}
+
+TEST(TeamRowAt, CountsTheRowsRegionByRegion)
+{
+    EXPECT_EQ(teamRowAt(0, 0), TeamRow{0});
+    EXPECT_EQ(teamRowAt(1, 0), TeamRow{16});
+    EXPECT_EQ(teamRowAt(2, 5), TeamRow{37});
+    EXPECT_EQ(teamRowAt(3, 15), TeamRow{63});
+}
+
+TEST(RowAfter, IsTheNextOrSoManyFurtherOnUpToTheLast)
+{
+    EXPECT_EQ(rowAfter(TeamRow{0}), TeamRow{1});
+    EXPECT_EQ(rowAfter(TeamRow{15}), TeamRow{16}); // first of the next region
+    EXPECT_EQ(rowAfter(TeamRow{63}), std::nullopt);
+    EXPECT_EQ(rowAfter(TeamRow{40}, 0), TeamRow{40});
+    EXPECT_EQ(rowAfter(TeamRow{40}, 23), TeamRow{63});
+    EXPECT_EQ(rowAfter(TeamRow{40}, 24), std::nullopt);
+    EXPECT_EQ(rowAfter(TeamRow{40}, std::numeric_limits<std::size_t>::max()), std::nullopt);
+}
+
+TEST(RoundIndex, CountsFromZero)
+{
+    EXPECT_EQ(roundIndex(1), 0u);
+    EXPECT_EQ(roundIndex(6), 5u);
+}
+
+TEST(IndexedBy, GivesNeighboursToReadAndToChange)
+{
+    ByPosition<int> values;
+    values[Position{31}] = 5;
+    values[Position{33}] = 6;
+    std::ranges::fill(values.from(Position{32}, 1), 4);
+    const ByPosition<int>& same = values;
+    const std::span<const int> neighbours = same.from(Position{31}, 3);
+    EXPECT_EQ(std::vector(neighbours.begin(), neighbours.end()), (std::vector{5, 4, 6}));
 }
 
 TEST(IndexedBy, HasAValueOfItsOwnForEachPlace)

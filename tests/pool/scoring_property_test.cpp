@@ -137,7 +137,7 @@ TEST(ScoreProperty, AgreesWithTheNaiveScorerOnEveryStageOfATournament)
     }
 }
 
-TEST(ScoreProperty, TellsAsManyNamesApartAsTwoBracketsCanHold)
+TEST(ScoreProperty, DistinguishesAsManyNamesAsTwoBracketsCanHold)
 {
     Bracket picks;
     Bracket results;

@@ -1,3 +1,4 @@
+// tests/qt/desk_test.cpp - which commands run when, what is shown afterwards, and when screens are destroyed.
 #include "qt/sample_screen.h"
 
 #include <QMessageBox>

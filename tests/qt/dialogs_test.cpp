@@ -1,3 +1,4 @@
+// tests/qt/dialogs_test.cpp - message boxes, input boxes and the printer's dialogs.
 #include "qt/asking.h"
 #include "qt/services/qt_printer.h"
 

@@ -1,3 +1,4 @@
+// tests/qt/drawing_test.cpp - a painted drawing, pixel by pixel.
 #include "qt/paint_drawing.h"
 
 #include <QImage>

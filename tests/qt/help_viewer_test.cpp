@@ -1,3 +1,4 @@
+// tests/qt/help_viewer_test.cpp - opening, contents, links and search in the real window.
 #include "fakes/scratch_folder.h"
 #include "qt/services/help_window.h"
 #include "qt/services/qt_help_viewer.h"

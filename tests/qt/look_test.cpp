@@ -1,3 +1,4 @@
+// tests/qt/look_test.cpp - contrast of colours in light and dark palettes, and the icons.
 #include "qt/look.h"
 
 #include "qt/style.h"

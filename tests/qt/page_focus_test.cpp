@@ -1,3 +1,4 @@
+// tests/qt/page_focus_test.cpp - the focus in the model and in the widgets.
 #include "qt/sample_screen.h"
 
 #include <QDialog>

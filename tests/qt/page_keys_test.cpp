@@ -1,3 +1,4 @@
+// tests/qt/page_keys_test.cpp - keys that a widget passes to its screen, and those it gets back.
 #include "qt/sample_screen.h"
 
 #include <QInputMethodEvent>

@@ -1,3 +1,4 @@
+// tests/qt/page_lists_test.cpp - lists and tables, by mouse and by keyboard.
 #include "qt/sample_screen.h"
 
 #include "qt/widgets/empty_note.h"

@@ -1,3 +1,4 @@
+// tests/qt/page_test.cpp - a control and its widget, for each kind of control.
 #include "qt/sample_screen.h"
 
 #include <QAction>

@@ -1,3 +1,4 @@
+// tests/qt/page_text_test.cpp - typed, pasted and dropped text, in both directions.
 #include "qt/sample_screen.h"
 
 #include <QApplication>

@@ -1,3 +1,4 @@
+// tests/qt/print_pages_test.cpp - sheets, PDF files and fonts.
 #include "fakes/scratch_folder.h"
 #include "qt/desk.h"
 #include "qt/paths.h"

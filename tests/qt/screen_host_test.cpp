@@ -1,3 +1,4 @@
+// tests/qt/screen_host_test.cpp - loading and unloading in the frame, beside it and modally.
 #include "qt/sample_screen.h"
 #include "qt/screen_host.h"
 

@@ -85,8 +85,7 @@ void reach(QAccessibleInterface* from, QSet<const QObject*>& reached)
         reach(from->child(child), reached);
 }
 
-/// A note shown in a list instead of its rows: a screen reader reads the list only, whose description has to include
-/// it.
+/// A note shown in a list instead of its rows: a screen reader reads only the list's description, which has to have it.
 bool saidByItsList(const QWidget& widget)
 {
     const QWidget* list = widget.parentWidget() ? widget.parentWidget()->parentWidget() : nullptr;

@@ -1,3 +1,4 @@
+// tests/qt/system_test.cpp - other programs, the clock, the clipboard and progress.
 #include "fakes/scratch_folder.h"
 #include "qt/paths.h"
 #include "qt/services/qt_system.h"

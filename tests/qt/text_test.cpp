@@ -1,3 +1,4 @@
+// tests/qt/text_test.cpp - texts converted for Qt and back.
 #include "qt/text.h"
 
 #include <QLineEdit>

@@ -234,7 +234,7 @@ TEST_F(ResultsByPlayer, NameTheFileWhoseTieBreakerIsTooLarge)
     EXPECT_NE(made.failure().message.find("Baker_C.THC"), std::string::npos);
 }
 
-TEST_F(ResultsByPlayer, StopAfterTheStepAtWhichTheyAreToldTo)
+TEST_F(ResultsByPlayer, StopAfterTheStepThatCancels)
 {
     int steps = 0;
 

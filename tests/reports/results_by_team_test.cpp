@@ -237,7 +237,7 @@ TEST_F(ResultsByTeam, TakeAStepForEveryPlayerNowAndUnderEachTeamThatCanWin)
     EXPECT_EQ(steps, 16); // four players, now and for three teams
 }
 
-TEST_F(ResultsByTeam, StopAtTheStepAtWhichTheyAreToldTo)
+TEST_F(ResultsByTeam, StopAtTheStepThatCancels)
 {
     for (const int last : {1, 4, 6, 8, 20}) {
         int steps = 0;

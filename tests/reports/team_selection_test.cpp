@@ -303,7 +303,7 @@ TEST(TeamSelectionDetail, NeverEndsAPageWithATeamsLine)
     EXPECT_EQ(lines.back(), kFormFeedLine);
 }
 
-TEST(TeamSelectionDetail, CountsEachPlayersPicksAnew)
+TEST(TeamSelectionDetail, CountsEachPlayersPicksFromZero)
 {
     const ReportLines lines = detail({"DUKE,Adams_AB,1", "DUKE,Adams_AB,2", "DUKE,Baker_C,3"});
 

@@ -87,7 +87,7 @@ TEST(StartDemo, RemovesNothingWhenThePoolCannotBeKept)
     EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
 }
 
-TEST(LeaveDemo, DeletesAnUntouchedDemoWithoutAWordMore)
+TEST(LeaveDemo, DeletesAnUntouchedDemoWithoutAnotherMessage)
 {
     InstalledDemo demo;
     demo.scratch.put("Own_O.THC", "own");

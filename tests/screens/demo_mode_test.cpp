@@ -77,7 +77,7 @@ TEST(StartDemo, LetsASlowInstallerFinishAfterAHastyOk)
               (std::vector<ui::Message>{kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup)}));
 }
 
-TEST(StartDemo, TellsAtOnceThatTheInstallerHasFailedAndWhy)
+TEST(StartDemo, ShowsAtOnceThatTheInstallerHasFailedAndWhy)
 {
     OwnPool pool;
     int looks = 0;
@@ -91,7 +91,7 @@ TEST(StartDemo, TellsAtOnceThatTheInstallerHasFailedAndWhy)
                                                            "No space left on device")}));
 }
 
-TEST(StartDemo, TellsThatTheInstallerHasEndedWithoutASamplePool)
+TEST(StartDemo, ShowsThatTheInstallerHasEndedWithoutASamplePool)
 {
     OwnPool pool;
     pool.platform.programs.end = Done{};

@@ -1,4 +1,4 @@
-// Typing ahead in an entry box.
+// tests/screens/list_search_test.cpp - typing ahead in an entry box.
 #include "screens/list_search.h"
 
 #include "ui/screen.h"

@@ -8,7 +8,7 @@
 namespace tallyhoop {
 namespace {
 
-TEST(PrinterSetup, TakesCourierNewAtTenPointsWithoutAWord)
+TEST(PrinterSetup, TakesCourierNewAtTenPointsWithoutAMessage)
 {
     test::FakePlatform platform;
     platform.printer.fonts = {"Arial", "Courier New", "Courier"};
@@ -21,7 +21,7 @@ TEST(PrinterSetup, TakesCourierNewAtTenPointsWithoutAWord)
     EXPECT_EQ(platform.printer.fontDialogs, 0);
 }
 
-TEST(PrinterSetup, TakesTheOrientationAsItIsTold)
+TEST(PrinterSetup, TakesTheOrientationItIsGiven)
 {
     test::FakePlatform platform;
     EXPECT_EQ(setUpPrinter(platform.services, false, ui::Orientation::Landscape)->orientation,

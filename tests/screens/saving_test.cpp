@@ -1,4 +1,4 @@
-// tests/screens/saving_test.cpp - what the person is asked and told when files are saved and read.
+// tests/screens/saving_test.cpp - the questions and messages when files are saved and read.
 #include "screens/saving.h"
 
 #include "fakes/fake_dialogs.h"

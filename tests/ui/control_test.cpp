@@ -99,7 +99,9 @@ TEST(ControlArray, KnowsThePlaceOfAMemberAndOfNobodyElse)
 {
     Sample sample;
     EXPECT_EQ(sample.labels.indexOf(sample.labels[2]), 2u);
+    EXPECT_EQ(sample.labels.indexOf<Place>(sample.labels[2]), Place{2});
     EXPECT_EQ(sample.labels.indexOf(sample.command), std::nullopt);
+    EXPECT_EQ(sample.labels.indexOf<Place>(sample.command), std::nullopt);
     EXPECT_EQ(sample.labels.indexOf(sample.options[0]), std::nullopt);
 }
 

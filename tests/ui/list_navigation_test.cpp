@@ -1,4 +1,4 @@
-// What the navigation keys do to a list's selection.
+// tests/ui/list_navigation_test.cpp - what the navigation keys do to a list's selection.
 #include "ui/list_navigation.h"
 
 #include "ui/screen.h"

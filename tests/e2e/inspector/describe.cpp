@@ -146,37 +146,37 @@ QWidget* findWidget(const QString& name)
 
 QJsonObject describeWidget(QWidget* widget)
 {
-    QJsonObject told{{QStringLiteral("found"), true},
-                     {QStringLiteral("class"), QString::fromLatin1(widget->metaObject()->className())},
-                     {QStringLiteral("rect"), onScreen(widget, widget->rect())},
-                     {QStringLiteral("visible"), widget->isVisible()},
-                     {QStringLiteral("reachable"), isReachable(widget)},
-                     {QStringLiteral("enabled"), widget->isEnabled()},
-                     {QStringLiteral("focus"), widget->hasFocus()},
-                     {QStringLiteral("tabStop"), (widget->focusPolicy() & Qt::TabFocus) != 0},
-                     {QStringLiteral("text"), textOf(widget)},
-                     {QStringLiteral("toolTip"), asRead(widget->toolTip())},
-                     {QStringLiteral("accessibleName"), widget->accessibleName()},
-                     {QStringLiteral("accessibleDescription"), widget->accessibleDescription()},
-                     {QStringLiteral("colour"), widget->palette().color(widget->foregroundRole()).name()},
-                     {QStringLiteral("background"), widget->palette().color(widget->backgroundRole()).name()}};
+    QJsonObject description{{QStringLiteral("found"), true},
+                            {QStringLiteral("class"), QString::fromLatin1(widget->metaObject()->className())},
+                            {QStringLiteral("rect"), onScreen(widget, widget->rect())},
+                            {QStringLiteral("visible"), widget->isVisible()},
+                            {QStringLiteral("reachable"), isReachable(widget)},
+                            {QStringLiteral("enabled"), widget->isEnabled()},
+                            {QStringLiteral("focus"), widget->hasFocus()},
+                            {QStringLiteral("tabStop"), (widget->focusPolicy() & Qt::TabFocus) != 0},
+                            {QStringLiteral("text"), textOf(widget)},
+                            {QStringLiteral("toolTip"), asRead(widget->toolTip())},
+                            {QStringLiteral("accessibleName"), widget->accessibleName()},
+                            {QStringLiteral("accessibleDescription"), widget->accessibleDescription()},
+                            {QStringLiteral("colour"), widget->palette().color(widget->foregroundRole()).name()},
+                            {QStringLiteral("background"), widget->palette().color(widget->backgroundRole()).name()}};
     if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
-        told.insert(QStringLiteral("checked"), button->isChecked());
+        description.insert(QStringLiteral("checked"), button->isChecked());
     }
     if (const auto* push = qobject_cast<const QPushButton*>(widget)) {
-        told.insert(QStringLiteral("default"), push->isDefault());
+        description.insert(QStringLiteral("default"), push->isDefault());
     }
     if (const auto* pages = qobject_cast<const QTextEdit*>(widget)) {
         const QRect view = pages->viewport()->rect();
         const QTextCursor top = pages->cursorForPosition(QPoint(view.width() / 4, pages->fontMetrics().height()));
-        told.insert(QStringLiteral("topLine"), top.block().text());
+        description.insert(QStringLiteral("topLine"), top.block().text());
     }
     if (const auto* edit = qobject_cast<const QLineEdit*>(widget)) {
-        told.insert(QStringLiteral("readOnly"), edit->isReadOnly());
-        told.insert(QStringLiteral("caret"), edit->cursorPosition());
-        told.insert(QStringLiteral("selected"), edit->selectedText());
+        description.insert(QStringLiteral("readOnly"), edit->isReadOnly());
+        description.insert(QStringLiteral("caret"), edit->cursorPosition());
+        description.insert(QStringLiteral("selected"), edit->selectedText());
     }
-    return told;
+    return description;
 }
 
 QJsonArray describeWindows()
@@ -213,35 +213,35 @@ QJsonObject describeModal()
                                        {QStringLiteral("rect"), onScreen(button, button->rect())}});
         }
     }
-    QJsonObject told{{QStringLiteral("class"), QString::fromLatin1(modal->metaObject()->className())},
-                     {QStringLiteral("name"), modal->objectName()},
-                     {QStringLiteral("title"), modal->windowTitle()},
-                     {QStringLiteral("active"), modal->isActiveWindow()},
-                     {QStringLiteral("rect"), onScreen(modal, modal->rect())},
-                     {QStringLiteral("buttons"), buttons}};
+    QJsonObject description{{QStringLiteral("class"), QString::fromLatin1(modal->metaObject()->className())},
+                            {QStringLiteral("name"), modal->objectName()},
+                            {QStringLiteral("title"), modal->windowTitle()},
+                            {QStringLiteral("active"), modal->isActiveWindow()},
+                            {QStringLiteral("rect"), onScreen(modal, modal->rect())},
+                            {QStringLiteral("buttons"), buttons}};
     if (const auto* box = qobject_cast<const QMessageBox*>(modal)) {
-        told.insert(QStringLiteral("text"), box->text());
-        told.insert(QStringLiteral("icon"), nameOf(box->icon()));
+        description.insert(QStringLiteral("text"), box->text());
+        description.insert(QStringLiteral("icon"), nameOf(box->icon()));
     }
-    return told;
+    return description;
 }
 
 QJsonObject describeAction(const QString& name)
 {
-    QJsonObject told{{QStringLiteral("found"), false}};
+    QJsonObject description{{QStringLiteral("found"), false}};
     forEachAction([&](QWidget* container, QAction* action) {
         if (action->objectName() != name && !(action->menu() != nullptr && action->menu()->objectName() == name)) {
             return;
         }
         const bool clickable = isReachable(container) && action->isVisible();
-        if (!told.value(QStringLiteral("found")).toBool() || clickable) {
-            told = describe(action);
+        if (!description.value(QStringLiteral("found")).toBool() || clickable) {
+            description = describe(action);
         }
         if (clickable) {
-            told.insert(QStringLiteral("rect"), onScreen(container, rectOf(container, action)));
+            description.insert(QStringLiteral("rect"), onScreen(container, rectOf(container, action)));
         }
     });
-    return told;
+    return description;
 }
 
 QJsonArray actionNames()

@@ -52,15 +52,15 @@ QJsonObject describeTable(QWidget* widget)
         rows.append(cells);
         rects.append(places);
     }
-    QJsonObject told{
+    QJsonObject description{
         {QStringLiteral("found"), true},
         {QStringLiteral("rows"), rows},
         {QStringLiteral("rects"), rects},
         {QStringLiteral("current"), view->selectionModel()->hasSelection() ? view->currentIndex().row() : -1}};
     if (table != nullptr) {
-        told.insert(QStringLiteral("headings"), headingsOf(table));
+        description.insert(QStringLiteral("headings"), headingsOf(table));
     }
-    return told;
+    return description;
 }
 
 } // namespace inspector

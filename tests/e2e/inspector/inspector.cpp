@@ -30,8 +30,7 @@ public:
     bool eventFilter(QObject* receiver, QEvent* event) override
     {
         if (event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress) {
-            ++m_keys; // a shortcut's key is never more than the first of the two; releases may go to a window just
-                      // closed
+            ++m_keys; // a shortcut's key is only the first of the two; a release may go to a window just closed
         }
         if (receiver->isWindowType()) { // once for each event, before it is handed on to a widget
             m_presses +=

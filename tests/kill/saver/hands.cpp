@@ -1,3 +1,4 @@
+// tests/kill/saver/hands.cpp - finds a visible widget by its name and uses it as a person would.
 #include "hands.h"
 
 #include <QAbstractButton>

@@ -1,3 +1,4 @@
+// tests/kill/saver/writers.cpp - presses and typing for each file, different in every round.
 #include "writers.h"
 
 #include "hands.h"

@@ -1,4 +1,4 @@
-// The seed positions screen in its window.
+// tests/qt/views/seeds_view_test.cpp - the seed positions screen in its window.
 #include "qt/views/seeds_view.h"
 
 #include "fakes/fake_platform.h"

@@ -1,4 +1,4 @@
-// The setup screen in its window.
+// tests/qt/views/setup_view_test.cpp - the setup screen in its window.
 #include "qt/views/setup_view.h"
 
 #include "fakes/fake_platform.h"

@@ -17,7 +17,7 @@ struct BoardDrawing : testing::Test {
     Verdicts verdicts;
     Entry player{bracket, "JS", "Smith", "150", {}};
 
-    ui::Drawing draw(const Verdicts* marks = nullptr, const std::string& score = {}, bool demo = false) const
+    ui::Drawing draw(const Verdicts* marks = nullptr, std::optional<ShownScore> score = {}, bool demo = false) const
     {
         return drawBoard({field, bracket, marks, demo}, player, score);
     }
@@ -44,7 +44,7 @@ TEST_F(BoardDrawing, FillsALandscapePage)
     player.picks = bracket;
     field.comment1 = "first";
     field.comment2 = "second";
-    const ui::Drawing drawing = draw(&verdicts, "Points: 1 / 2", true);
+    const ui::Drawing drawing = draw(&verdicts, ShownScore{1, 2}, true);
     EXPECT_EQ(drawing.width, 1100);
     EXPECT_EQ(drawing.height, 800);
     const auto isOnPage = [](const ui::Rectangle& place) {
@@ -73,7 +73,7 @@ TEST_F(BoardDrawing, ShowsWhoseBracketItIs)
 {
     player.initials = "js";
     field.comment1 = "pay\r\nsoon";
-    const ui::Drawing drawing = draw(nullptr, "Points: 1 / 2");
+    const ui::Drawing drawing = draw(nullptr, ShownScore{1, 2});
     EXPECT_THAT(texts(drawing), IsSupersetOf({"Initials", "js", "Name", "Smith",
                                               "Predict total points in Championship game", "150", "Points: 1 / 2"}));
     ASSERT_EQ(captions(drawing, "pay\r\nsoon").size(), 1u);

@@ -1,3 +1,4 @@
+// tests/screens/board/board_geometry_test.cpp - rectangles and neighbours at several sizes.
 #include "screens/board/board_geometry.h"
 
 #include <gtest/gtest.h>

@@ -17,7 +17,7 @@ double luminance(ui::Colour colour)
     return 0.2126 * part(colour.red) + 0.7152 * part(colour.green) + 0.0722 * part(colour.blue);
 }
 
-TEST(MarkOf, IsAGreenSignForARightPickAndARedOneForAWrongPick)
+TEST(MarkOf, IsGreenForARightPickAndRedForAWrongPick)
 {
     EXPECT_STREQ(markOf(Verdict::Good).text, "=");
     EXPECT_EQ(markOf(Verdict::Good).colour, (ui::Colour{0, 255, 0}));
@@ -25,7 +25,7 @@ TEST(MarkOf, IsAGreenSignForARightPickAndARedOneForAWrongPick)
     EXPECT_EQ(markOf(Verdict::Bad).colour, (ui::Colour{255, 0, 0}));
 }
 
-TEST(MarkOf, LeavesAllOtherPicksBlueWithoutASign)
+TEST(MarkOf, LeavesAllOtherPicksBlueWithoutASymbol)
 {
     for (const Verdict verdict : {Verdict::None, Verdict::Open, Verdict::Possible}) {
         EXPECT_STREQ(markOf(verdict).text, "");

@@ -52,7 +52,7 @@ protected:
         EXPECT_EQ(board->bracket(), bracket);
     }
 
-    /// Spoils all that is derived: texts, colours, marks, what is enabled.
+    /// Changes all that is derived: texts, colours, marks, what is enabled.
     void scribble()
     {
         const auto spoil = [](ui::Label& label) {

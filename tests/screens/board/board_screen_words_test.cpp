@@ -82,8 +82,8 @@ TEST_F(BoardScreenWords, AMarkedPlaceSaysWhatItIsWorth)
     const auto said = [&](std::size_t position) { return board->lblRegion[position].explanation; };
     EXPECT_EQ(said(16), "A right pick: 1 point earned."); // the default payoffs: 1, 2, 4, 8, 12, 16
     EXPECT_EQ(said(24), "A wrong pick: 2 points lost.");
-    EXPECT_EQ(said(25), "Nobody was picked: 2 points lost.");
-    EXPECT_EQ(said(126), "Nobody was picked: 16 points lost.");
+    EXPECT_EQ(said(25), "No pick: 2 points lost.");
+    EXPECT_EQ(said(126), "No pick: 16 points lost.");
     EXPECT_EQ(said(0), "The picks are marked; choose Default Colors to change them again.");
     EXPECT_EQ(board->lblResult[0].explanation, said(16));
     board->cmdDefaultColors.click();
@@ -108,7 +108,7 @@ TEST_F(BoardScreenWords, ArrowKeysFollowThePictureAndSpaceAdvances)
     EXPECT_EQ(board->focused, &board->lblRegion[0]);
 }
 
-TEST_F(BoardScreenWords, LeavesAllOtherKeysToWhomeverTheyAreFor)
+TEST_F(BoardScreenWords, LeavesAllOtherKeysAlone)
 {
     loadFinalized();
     EXPECT_FALSE(key(board->lblRegion[0], {ui::Key::Character, 'x'}));

@@ -123,7 +123,7 @@ TEST_F(BoardWords, AMarkedPlaceSaysWhatItIsWorth)
     verdicts[Position{30}] = Verdict::Open;
     EXPECT_EQ(explained(16, &verdicts), "A right pick: 1 point earned."); // the default payoffs: 1, 2, 4, 8, 12, 16
     EXPECT_EQ(explained(24, &verdicts), "A wrong pick: 2 points lost.");
-    EXPECT_EQ(explained(25, &verdicts), "Nobody was picked: 2 points lost.");
+    EXPECT_EQ(explained(25, &verdicts), "No pick: 2 points lost.");
     EXPECT_EQ(explained(28, &verdicts), "Not decided yet: worth 4 points.");
     EXPECT_EQ(explained(30, &verdicts), "Not decided yet: worth 8 points.");
     EXPECT_EQ(explained(126, &verdicts), "Not decided yet: worth 16 points.");

@@ -165,7 +165,7 @@ TEST_F(EmailScreenTest, TypingFindsThePlayerAndEnterAddsTheAddress)
     EXPECT_EQ(mail.txtEntry.text, "");
 }
 
-TEST_F(EmailScreenTest, ACharacterThatFindsNobodyIsSwallowed)
+TEST_F(EmailScreenTest, ACharacterThatFindsNobodyIsIgnored)
 {
     EmailScreen& mail = open();
     type("sx");

@@ -135,7 +135,7 @@ TEST_F(PlayersScreenTest, FileNamesAreComparedWithoutTheirLastExtensionOnly)
     EXPECT_EQ(names.lstNames.selected, 1);
 }
 
-TEST_F(PlayersScreenTest, AFullRecordStandsForTheOneFileThatBeginsWithIt)
+TEST_F(PlayersScreenTest, AFullRecordMeansTheOneFileThatBeginsWithIt)
 {
     const std::string longName = "Montgomery-Featherstonehaugh_Wilhelmina.THC"; // 43 characters
     scratch.put(longName, "a bracket");
@@ -154,7 +154,7 @@ TEST_F(PlayersScreenTest, AFullRecordStandsForTheOneFileThatBeginsWithIt)
     EXPECT_FALSE(scratch.has(longName));
 }
 
-TEST_F(PlayersScreenTest, ARecordCutAtABlankStandsForItsFileToo)
+TEST_F(PlayersScreenTest, ARecordCutAtABlankMeansItsFileToo)
 {
     const std::string longName = "Featherstonehaugh-Warburton Beau Jr_FB.THC"; // the 33rd character is the second blank
     scratch.put(longName, "a bracket");
@@ -173,7 +173,7 @@ TEST_F(PlayersScreenTest, ARecordCutAtABlankStandsForItsFileToo)
     EXPECT_FALSE(scratch.has(longName));
 }
 
-TEST_F(PlayersScreenTest, AFullRecordThatSeveralFilesBeginWithStandsForNone)
+TEST_F(PlayersScreenTest, AFullRecordThatSeveralFilesBeginWithMeansNone)
 {
     const std::string start = "Montgomery-Featherstonehaugh_Wilh"; // 33 characters
     scratch.put(start + "elmina.THC", "a bracket");

@@ -58,7 +58,7 @@ TEST_F(ReportsMail, HasTheReportFilesReadyBeforeTheDialogOpens)
     EXPECT_TRUE(platform.mail.sent.empty());
 }
 
-TEST_F(ReportsMail, TellsTheDialogWhetherEverybodyIsToBeAddressed)
+TEST_F(ReportsMail, PassesOnToTheDialogWhetherEverybodyIsToBeAddressed)
 {
     tick({kStandings});
 

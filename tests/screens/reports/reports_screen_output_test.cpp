@@ -139,7 +139,7 @@ TEST_F(ReportsOutput, ReportsAPrintingFailureAndKeepsTheTick)
     EXPECT_TRUE(isTicked(kStandings));
 }
 
-TEST_F(ReportsOutput, IsBusyWhileItPrintsAndNoLongerWhenAFailureIsTold)
+TEST_F(ReportsOutput, IsBusyWhileItPrintsAndNoLongerWhenAFailureIsShown)
 {
     tick({kStandings});
     platform.printer.trouble = Failure{"out of paper"};

@@ -102,7 +102,7 @@ TEST_F(ReportsScreenTest, LeavesExactlyTheFileOfEachTickedReport)
     EXPECT_TRUE(screens.loads.empty());
 }
 
-TEST_F(ReportsScreenTest, PutsTheTitleAsItStandsOnTheScreenOnTheReport)
+TEST_F(ReportsScreenTest, PutsTheTitleShownOnScreenOnTheReport)
 {
     putFourPlayers(folder);
     screen.load();

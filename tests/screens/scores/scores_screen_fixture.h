@@ -54,10 +54,17 @@ struct ScoreDisplay : ::testing::Test {
         return texts;
     }
 
+    void open()
+    {
+        screen.load();
+        screen.showState();
+    }
+
     void dragHeading(std::size_t from, std::optional<std::size_t> to)
     {
         screen.msgScoreDisplay.columnPressed(from);
         screen.msgScoreDisplay.columnReleased(to);
+        screen.showState();
     }
 
     void setPayoffs(const std::array<std::string, kRounds>& texts) { field.payoffs = PayoffTexts{texts}; }

@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 TEST_F(ScoreDisplay, RestoresTheOriginalColumnsWhenCalculatingAgain)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     dragHeading(2, 0);
     screen.cmdOk.click();
@@ -23,7 +23,7 @@ TEST_F(ScoreDisplay, SortsByScoreDownwardsWhenThatHeadingIsDraggedToTheFront)
 {
     putThreePlayers();
     putPlayer("Clark_TC.THC", "TC", "Clark", everyUpperTeamWins());
-    screen.load();
+    open();
     screen.cmdOk.click();
     dragHeading(2, 0); // the first row holds 0 for Adams: upwards
     EXPECT_THAT(column(0), ElementsAre("0", "8", "32", "32"));
@@ -40,7 +40,7 @@ TEST_F(ScoreDisplay, OrdersEqualScoresByTheFollowingColumns)
 {
     putPlayer("A_A.THC", "A", "A", without(everyUpperTeamWins(), 126, 126)); // 32 of 152
     putPlayer("B_B.THC", "B", "B", everyUpperTeamWins());                    // 32 of 168
-    screen.load();
+    open();
     screen.cmdOk.click();
     dragHeading(2, 0);
     EXPECT_THAT(column(0), ElementsAre("32", "32"));
@@ -50,7 +50,7 @@ TEST_F(ScoreDisplay, OrdersEqualScoresByTheFollowingColumns)
 TEST_F(ScoreDisplay, SortsAgainInThePresentOrderOnAPressAndReleaseOfOneHeading)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     dragHeading(1, 0); // player name to the front
     EXPECT_THAT(column(0), ElementsAre("JS, Smith", "QA, Adams", "TB, Brown"));
@@ -62,7 +62,7 @@ TEST_F(ScoreDisplay, SortsAgainInThePresentOrderOnAPressAndReleaseOfOneHeading)
 TEST_F(ScoreDisplay, LeavesTheOrderAloneWhenAHeadingIsDroppedOutside)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     const auto rows = screen.msgScoreDisplay.rows;
     screen.msgScoreDisplay.columnPressed(2);
@@ -79,7 +79,7 @@ TEST_F(ScoreDisplay, LeavesTheOrderAloneWhenAHeadingIsDroppedOutside)
 TEST_F(ScoreDisplay, MarksThePicksOfThePlayerWhoseFileNameIsClicked)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     EXPECT_FALSE(verdicts);
     screen.msgScoreDisplay.cellPressed(0, 0); // Adams
@@ -95,7 +95,7 @@ TEST_F(ScoreDisplay, MarksThePicksOfThePlayerWhoseFileNameIsClicked)
 TEST_F(ScoreDisplay, MarksWhatTheFileHoldsWhenItsNameIsClicked)
 {
     putPlayer("Smith_JS.THC", "JS", "Smith", everyLowerTeamWins());
-    screen.load();
+    open();
     screen.cmdOk.click();
     putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
     screen.msgScoreDisplay.cellPressed(0, 0);
@@ -106,7 +106,7 @@ TEST_F(ScoreDisplay, MarksWhatTheFileHoldsWhenItsNameIsClicked)
 TEST_F(ScoreDisplay, MarksNobodyWhenTheClickedFileCannotBeScored)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     markSomebody();
     putPlayer("Adams_QA.THC", "QA", "Adams", everyUpperTeamWins(), "99999");
@@ -125,7 +125,7 @@ TEST_F(ScoreDisplay, MarksNobodyWhenTheClickedFileCannotBeScored)
 TEST_F(ScoreDisplay, ReportsAClickedFileThatIsGoneAndMarksEmptyPicks)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     std::filesystem::remove(scratch.path() / "Adams_QA.THC");
     screen.msgScoreDisplay.cellPressed(0, 0);
@@ -140,7 +140,7 @@ TEST_F(ScoreDisplay, ReportsAClickedFileThatIsGoneAndMarksEmptyPicks)
 TEST_F(ScoreDisplay, DoesNothingWhenAnotherCellIsClicked)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     markSomebody();
     const std::optional<Verdicts> before = verdicts;
@@ -152,7 +152,7 @@ TEST_F(ScoreDisplay, DoesNothingWhenAnotherCellIsClicked)
 TEST_F(ScoreDisplay, KnowsAFileNameInWhateverColumnAndCaseItIs)
 {
     putPlayer("zorn_z.thc", "Z", "Zorn", everyUpperTeamWins());
-    screen.load();
+    open();
     screen.cmdOk.click();
     dragHeading(0, 4); // to the end
     markSomebody();
@@ -164,7 +164,7 @@ TEST_F(ScoreDisplay, KnowsAFileNameInWhateverColumnAndCaseItIs)
 TEST_F(ScoreDisplay, MarksTheRowThatIsClickedAfterSorting)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     dragHeading(3, 0); // the maximum: Smith comes first
     ASSERT_EQ(screen.msgScoreDisplay.rows[0][1], "Smith_JS.THC");
@@ -176,10 +176,10 @@ TEST_F(ScoreDisplay, MarksTheRowThatIsClickedAfterSorting)
     EXPECT_EQ((*verdicts)[Position{30}], Verdict::Bad);
 }
 
-TEST_F(ScoreDisplay, MarksAFileWhoseNameWouldNotStandForAFileOfTheFolder)
+TEST_F(ScoreDisplay, MarksAFileWhoseNameIsNoneOfTheFolder)
 {
     putPlayer("Team: Red\\_X.THC", "X", "Red", everyUpperTeamWins());
-    screen.load();
+    open();
     screen.cmdOk.click();
     screen.msgScoreDisplay.cellPressed(0, 0);
     EXPECT_TRUE(platform.dialogs.shown.empty());
@@ -192,7 +192,7 @@ TEST_F(ScoreDisplay, NeverReadsOutsideTheFolderForACellThatLooksLikeAFileName)
     std::filesystem::create_directory(scratch.path() / "sub");
     scratch.put("sub/X.THC", selectionFile({everyUpperTeamWins(), {}, {}, {}, {}}));
     putPlayer("Smith_JS.THC", "JS", "sub/X.THC", everyUpperTeamWins());
-    screen.load();
+    open();
     screen.cmdOk.click();
     ASSERT_THAT(screen.msgScoreDisplay.rows[0], ::testing::Contains("JS, sub/X.THC"));
     markSomebody();
@@ -205,7 +205,7 @@ TEST_F(ScoreDisplay, NeverReadsOutsideTheFolderForACellThatLooksLikeAFileName)
 TEST_F(ScoreDisplay, PrintsTheTableInCourierNewPortraitWithoutAsking)
 {
     putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
-    screen.load();
+    open();
     screen.cmdOk.click();
     screen.cmdPrint.click();
     EXPECT_EQ(platform.printer.printerDialogs, 0);
@@ -222,7 +222,7 @@ TEST_F(ScoreDisplay, PrintsTheTableInCourierNewPortraitWithoutAsking)
 TEST_F(ScoreDisplay, PrintsNothingWhenTheFontDialogIsCancelled)
 {
     platform.printer.fonts.clear();
-    screen.load();
+    open();
     screen.cmdPrint.click();
     EXPECT_EQ(platform.printer.fontDialogs, 1);
     EXPECT_THAT(platform.printer.texts, IsEmpty());
@@ -232,7 +232,7 @@ TEST_F(ScoreDisplay, PrintsNothingWhenTheFontDialogIsCancelled)
 TEST_F(ScoreDisplay, SaysWhenPrintingFails)
 {
     platform.printer.trouble = Failure{"no printer"};
-    screen.load();
+    open();
     screen.cmdPrint.click();
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(platform.dialogs.shown[0].caption, "");
@@ -243,7 +243,7 @@ TEST_F(ScoreDisplay, SaysWhenPrintingFails)
 TEST_F(ScoreDisplay, CopiesTheTableForASpreadsheet)
 {
     putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
-    screen.load();
+    open();
     screen.cmdOk.click();
     dragHeading(2, 0);
     screen.cmdCopy.click();

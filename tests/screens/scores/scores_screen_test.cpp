@@ -11,7 +11,7 @@ using ::testing::IsEmpty;
 TEST_F(ScoreDisplay, ShowsItsHeadingsAndNoRowWhenItOpens)
 {
     putThreePlayers();
-    screen.load();
+    open();
     EXPECT_EQ(screen.caption, "Display Scores (Total, Possible)");
     EXPECT_THAT(headings(), ElementsAre("File Name", "Player Name", "Score", "-MAX-", "Winning Pick"));
     EXPECT_THAT(screen.msgScoreDisplay.rows, IsEmpty());
@@ -21,7 +21,7 @@ TEST_F(ScoreDisplay, ShowsItsHeadingsAndNoRowWhenItOpens)
 
 TEST_F(ScoreDisplay, SaysWhyThereIsNoRow)
 {
-    screen.load();
+    open();
     EXPECT_EQ(screen.msgScoreDisplay.emptyNote,
               "No scores yet: press the long button below. Each saved selection gets a row.");
     screen.cmdOk.click();
@@ -36,7 +36,7 @@ TEST_F(ScoreDisplay, SaysThatNothingCouldBeScored)
     EXPECT_TRUE(folder.remove("Adams_QA.THC"));
     EXPECT_TRUE(folder.remove("Brown_TB.THC"));
     setPayoffs({"32767", "32767", "32767", "32767", "32767", "32767"}); // twice that is too much for a score
-    screen.load();
+    open();
     screen.cmdOk.click();
     EXPECT_THAT(screen.msgScoreDisplay.rows, IsEmpty());
     EXPECT_EQ(screen.msgScoreDisplay.emptyNote, "None of the saved selections could be scored.");
@@ -45,7 +45,7 @@ TEST_F(ScoreDisplay, SaysThatNothingCouldBeScored)
 TEST_F(ScoreDisplay, CalculatesARowForEveryPlayerInTheOrderOfTheFiles)
 {
     putThreePlayers();
-    screen.load();
+    open();
     markSomebody();
     screen.cmdOk.click();
     ASSERT_EQ(screen.msgScoreDisplay.rows.size(), 3u);
@@ -62,7 +62,7 @@ TEST_F(ScoreDisplay, CalculatesARowForEveryPlayerInTheOrderOfTheFiles)
 
 TEST_F(ScoreDisplay, LeavesOnlyTheHeadingsWithoutSelectionFiles)
 {
-    screen.load();
+    open();
     screen.cmdOk.click();
     EXPECT_THAT(screen.msgScoreDisplay.rows, IsEmpty());
     dragHeading(2, 0);
@@ -74,7 +74,7 @@ TEST_F(ScoreDisplay, LeavesOnlyTheHeadingsWithoutSelectionFiles)
 TEST_F(ScoreDisplay, CalculatesTwiceWithoutDuplicates)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     const auto rows = screen.msgScoreDisplay.rows;
     screen.cmdOk.click();
@@ -84,7 +84,7 @@ TEST_F(ScoreDisplay, CalculatesTwiceWithoutDuplicates)
 TEST_F(ScoreDisplay, ShowsExactlyTheFilesThatAreThereAtEachCalculation)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     std::filesystem::remove(scratch.path() / "Adams_QA.THC");
     putPlayer("zorn_z.thc", "Z", "Zorn", everyUpperTeamWins());
@@ -96,7 +96,7 @@ TEST_F(ScoreDisplay, ShowsExactlyTheFilesThatAreThereAtEachCalculation)
 TEST_F(ScoreDisplay, ShowsTheRowOfAFileThatCannotBeReadAsItWasScored)
 {
     scratch.put("Damaged_D.THC", "not a selection\r\n");
-    screen.load();
+    open();
     screen.cmdOk.click();
     ASSERT_EQ(screen.msgScoreDisplay.rows.size(), 1u);
     EXPECT_THAT(screen.msgScoreDisplay.rows[0], ElementsAre("Damaged_D.THC", ", ", "0", "0", ""));
@@ -109,7 +109,7 @@ TEST_F(ScoreDisplay, NamesAFileWhoseTieBreakerDoesNotFitAndGoesOn)
 {
     putPlayer("Adams_QA.THC", "QA", "Adams", everyUpperTeamWins(), "70000");
     putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
-    screen.load();
+    open();
     screen.cmdOk.click();
     EXPECT_THAT(column(0), ElementsAre("Smith_JS.THC"));
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
@@ -121,7 +121,7 @@ TEST_F(ScoreDisplay, SaysOnceThatAPayoffDoesNotFit)
 {
     putThreePlayers();
     setPayoffs({"1", "2", "4", "8", "12", "99999"});
-    screen.load();
+    open();
     screen.cmdOk.click();
     EXPECT_THAT(screen.msgScoreDisplay.rows, IsEmpty());
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
@@ -133,7 +133,7 @@ TEST_F(ScoreDisplay, SaysOnceThatAPayoffDoesNotFit)
 TEST_F(ScoreDisplay, KeepsTheOldTableWhenThePersonCancels)
 {
     putThreePlayers();
-    screen.load();
+    open();
     screen.cmdOk.click();
     const auto rows = screen.msgScoreDisplay.rows;
     platform.progress.cancelAt = 1;
@@ -147,7 +147,7 @@ TEST_F(ScoreDisplay, KeepsTheOldTableWhenThePersonCancels)
 
 TEST_F(ScoreDisplay, UnloadsItselfOnExitAndOnClosing)
 {
-    screen.load();
+    open();
     screen.cmdExit.click();
     screen.closeRequested();
     EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::Scores, ScreenKind::Scores));
@@ -155,7 +155,7 @@ TEST_F(ScoreDisplay, UnloadsItselfOnExitAndOnClosing)
 
 TEST_F(ScoreDisplay, GivesTheBoardBackWithoutMarksWhoeverUnloadsIt)
 {
-    screen.load();
+    open();
     markSomebody();
     screen.unloading();
     EXPECT_FALSE(verdicts);
@@ -166,7 +166,7 @@ TEST_F(ScoreDisplay, TakesTheResultsFromTheBoardAndThePicksFromTheFiles)
     results = without(everyUpperTeamWins(), 16, 126);
     results.put(Position{16}, "Team 2"); // since the list was opened
     putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
-    screen.load();
+    open();
     screen.cmdOk.click();
     ASSERT_EQ(screen.msgScoreDisplay.rows.size(), 1u);
     // The champion, Team 1, lost its first game: 1 + 2 + 4 + 8 + 12 + 16 of the 168 points are gone.
@@ -184,7 +184,7 @@ TEST_F(ScoreDisplay, ScoresADamagedFileByWhatItHolds)
     std::string bytes = scratch.get("Smith_JS.THC");
     bytes.resize(bytes.size() - std::string_view{"*END*\r\n"}.size());
     scratch.put("Smith_JS.THC", bytes);
-    screen.load();
+    open();
     screen.cmdOk.click();
     EXPECT_THAT(column(3), ElementsAre("168"));
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);

@@ -1,4 +1,4 @@
-// Which team boxes a pasted text fills.
+// tests/screens/setup/pasted_teams_test.cpp - which team boxes a pasted text fills.
 #include "screens/setup/pasted_teams.h"
 
 #include <gtest/gtest.h>
@@ -7,21 +7,22 @@ namespace tallyhoop {
 namespace {
 
 using Names = std::vector<std::string>;
-using Filled = std::vector<std::pair<std::size_t, std::string>>;
+using Filled = std::vector<std::pair<TeamRow, std::string>>;
 
 const TeamNameList kTeamList{Names{"Duke", "Iowa St.", "Texas"}};
 
 TEST(PastedTeams, FillTheBoxAndThoseThatFollowInTheListsSpelling)
 {
-    const PastedTeams pasted = pastedTeams(Names{"duke", "", "TEXAS"}, 10, &kTeamList);
-    EXPECT_EQ(pasted.filled, (Filled{{10, "Duke"}, {12, "Texas"}})); // the empty line leaves box 11 alone
+    const PastedTeams pasted = pastedTeams(Names{"duke", "", "TEXAS"}, TeamRow{10}, &kTeamList);
+    EXPECT_EQ(pasted.filled,
+              (Filled{{TeamRow{10}, "Duke"}, {TeamRow{12}, "Texas"}})); // the empty line leaves box 11 alone
     EXPECT_EQ(refusedLines(pasted), "");
 }
 
 TEST(PastedTeams, RefuseWhatTheListLacksAndLeaveItsBoxAlone)
 {
-    const PastedTeams pasted = pastedTeams(Names{"Nowhere", "Duke", "Duk"}, 0, &kTeamList);
-    EXPECT_EQ(pasted.filled, (Filled{{1, "Duke"}}));
+    const PastedTeams pasted = pastedTeams(Names{"Nowhere", "Duke", "Duk"}, TeamRow{0}, &kTeamList);
+    EXPECT_EQ(pasted.filled, (Filled{{TeamRow{1}, "Duke"}}));
     EXPECT_EQ(pasted.notInList, (Names{"Nowhere", "Duk"}));
     EXPECT_EQ(refusedLines(pasted),
               "These lines are not in the list of team names and were not entered:\r\nNowhere\r\nDuk");
@@ -29,20 +30,20 @@ TEST(PastedTeams, RefuseWhatTheListLacksAndLeaveItsBoxAlone)
 
 TEST(PastedTeams, EndAtTheLastBox)
 {
-    const PastedTeams pasted = pastedTeams(Names{"Duke", "Texas"}, 63, &kTeamList);
-    EXPECT_EQ(pasted.filled, (Filled{{63, "Duke"}}));
+    const PastedTeams pasted = pastedTeams(Names{"Duke", "Texas"}, TeamRow{63}, &kTeamList);
+    EXPECT_EQ(pasted.filled, (Filled{{TeamRow{63}, "Duke"}}));
     EXPECT_EQ(pasted.noBoxLeft, Names{"Texas"});
     EXPECT_EQ(refusedLines(pasted), "These lines come after the last team box and were not entered:\r\nTexas");
 }
 
 TEST(PastedTeams, AreAnyTextWithoutAList)
 {
-    const PastedTeams pasted = pastedTeams(Names{"Nowhere", "duke"}, 0, nullptr);
-    EXPECT_EQ(pasted.filled, (Filled{{0, "Nowhere"}, {1, "duke"}}));
+    const PastedTeams pasted = pastedTeams(Names{"Nowhere", "duke"}, TeamRow{0}, nullptr);
+    EXPECT_EQ(pasted.filled, (Filled{{TeamRow{0}, "Nowhere"}, {TeamRow{1}, "duke"}}));
     EXPECT_TRUE(pasted.notInList.empty());
 }
 
-TEST(PastedTeams, TellBothKindsOfRefusedLinesTwentyOfEach)
+TEST(PastedTeams, ListBothKindsOfRefusedLinesTwentyOfEach)
 {
     PastedTeams pasted;
     pasted.notInList = Names(20, "x");

@@ -1,4 +1,4 @@
-// Entering the seeds of the first-round rows.
+// tests/screens/setup/seeds_screen_test.cpp - entering the seeds of the first-round rows.
 #include "screens/setup/seeds_screen.h"
 
 #include "screens/setup/setup_fixture.h"

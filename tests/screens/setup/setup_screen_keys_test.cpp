@@ -1,4 +1,4 @@
-// The setup screen: picking team names with the keyboard and the mouse.
+// tests/screens/setup/setup_screen_keys_test.cpp - the setup screen: picking team names by keyboard and mouse.
 #include "screens/setup/setup_fixture.h"
 
 #include "ui/list_navigation.h"

@@ -1,4 +1,4 @@
-// The setup screen: maintaining the list of team names.
+// tests/screens/setup/setup_screen_names_test.cpp - the setup screen: maintaining the list of team names.
 #include "files/setup_file.h"
 #include "screens/setup/setup_fixture.h"
 
@@ -323,7 +323,7 @@ TEST_F(SetupScreenNames, ADemoCommandKeepsTheScreenAndTheNamesThatCannotBeWritte
     EXPECT_TRUE(screens.loads.empty());
     EXPECT_EQ(screen.lstTeamNames.rows, kSmallList);
 
-    // Everything else is as on a screen that is loaded anew.
+    // Everything else is as on a screen that is loaded again.
     EXPECT_EQ(screen.txtRegion[0].text, "TEAM1");
     EXPECT_FALSE(screen.lblDemoMode.visible);
     EXPECT_FALSE(screen.mnuDemoReset.enabled);

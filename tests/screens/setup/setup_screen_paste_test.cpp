@@ -1,4 +1,4 @@
-// The setup screen: pasting team names.
+// tests/screens/setup/setup_screen_paste_test.cpp - the setup screen: pasting team names.
 #include "screens/setup/setup_fixture.h"
 
 namespace tallyhoop::test {

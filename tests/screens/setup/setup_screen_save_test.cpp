@@ -1,4 +1,4 @@
-// The setup screen: finalizing the field and saving it.
+// tests/screens/setup/setup_screen_save_test.cpp - the setup screen: finalizing the field and saving it.
 #include "screens/setup/setup_fixture.h"
 
 namespace tallyhoop::test {

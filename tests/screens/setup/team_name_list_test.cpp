@@ -1,4 +1,4 @@
-// The team names that can be picked, and their changes.
+// tests/screens/setup/team_name_list_test.cpp - the team names that can be picked, and their changes.
 #include "screens/setup/team_name_list.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,61 @@
+// pool/field_check.cpp - what is asked of a field before it is made final, and of seeds.
+#include "pool/field_check.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+
+#include <set>
+#include <string>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr double kLeastPayoff = 1;
+constexpr double kMostPayoff = 99;
+constexpr double kLeastSeed = 1;
+constexpr double kMostSeed = kRowsPerRegion;
+
+/// The number before it is rounded counts, so 0.9 is too little and 99.5 too much.
+bool isBadPayoff(const std::string& text)
+{
+    const double points = leadingNumber(text);
+    return points < kLeastPayoff || points > kMostPayoff;
+}
+
+} // namespace
+
+std::optional<FieldFault> fieldFault(const Field& field)
+{
+    for (const TeamRow row : allTeamRows())
+        if (isBlankField(field.teams[row]))
+            return BlankTeam{row};
+    if (isBlankField(field.title))
+        return BlankTitle{};
+    for (std::size_t region = 0; region < field.regionTitles.size(); ++region)
+        if (isBlankField(field.regionTitles[region]))
+            return BlankRegionTitle{region};
+    for (int round = 1; round <= kRounds; ++round)
+        if (isBadPayoff(field.payoffs.text(round)))
+            return BadPayoff{round};
+    return std::nullopt;
+}
+
+std::optional<SeedTexts> wholeSeeds(const SeedTexts& typed)
+{
+    SeedTexts seeds;
+    std::set<long long> seen;
+    for (std::size_t row = 0; row < typed.size(); ++row) {
+        const double value = leadingNumber(typed[row]);
+        // Checked before it is rounded, so 0.6 is refused although it rounds to 1.
+        if (value < kLeastSeed || value > kMostSeed)
+            return std::nullopt;
+        const long long number = roundHalfEven(value);
+        if (!seen.insert(number).second)
+            return std::nullopt;
+        seeds[row] = std::to_string(number);
+    }
+    return seeds;
+}
+
+} // namespace tallyhoop
