@@ -81,7 +81,7 @@ class HostileNames(unittest.TestCase):
         self.shows("txtPlayerName", "FinalResults")
         self.program.menu("mnuOptions", "mnuScoreSelections")
         self.program.wait(lambda: self.program.has("msgScoreDisplay"), "the score display")
-        self.program.wait(lambda: any(window["active"] and "ScoreDisplay" in window["class"]
+        self.program.wait(lambda: any(window["active"] and window["name"] == "frmPoolMisc"
                                       for window in self.program.windows()), "the score display in front")
         self.program.click("cmdOk")
         # In the West four first games and one of the second round: 4 x 1 + 2, and the new player's one.
