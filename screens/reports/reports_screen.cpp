@@ -181,7 +181,7 @@ bool ReportsScreen::forEachTickedReport(const char* titleEnd, const std::string&
             deliver(kind, *lines);
             continue;
         }
-        const NoReport& reason = std::get<NoReport>(made);
+        const auto& reason = std::get<NoReport>(made);
         refuse(kind, reason);
         if (reason.consequence == WithoutReport::EndRun)
             return false;
