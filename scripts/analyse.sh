@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
 # Static analysis of the program's own code; fails when there are any warnings.
 #
-#   scripts/analyse.sh                              everything, with the compile commands of the build in build/
-#   scripts/analyse.sh cppcheck                     cppcheck alone, which needs no build
-#   scripts/analyse.sh tidy BUILD [SHARE SHARES]    clang-tidy alone: on all sources, or on a share of them (1 4: the
-#                                                   first quarter)
+#   scripts/analyse.sh             everything, on all processors
+#   scripts/analyse.sh cppcheck    cppcheck alone
+#   scripts/analyse.sh tidy FILE.. clang-tidy alone, on all sources or on these
+#
+# Each source is analysed alone, with the compile commands of build-analysis/, which is configured for this and never
+# built.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -13,7 +15,7 @@ rooms=(app base demo files pool qt reports screens ui)
 # needs TOOL: fails when it is not installed.
 needs() {
     command -v "$1" >/dev/null && return
-    echo "analyse.sh: $1 is not installed; its Debian package has the same name. Tests without it: ctest -LE analysis" >&2
+    echo "analyse.sh: $1 is not installed; its Debian package has the same name" >&2
     exit 1
 }
 
@@ -36,22 +38,23 @@ check() {
         --template='{file}:{line}: {severity}: {message} [{id}]' -I. "${rooms[@]}"
 }
 
-# The sources that a build of the program compiles, one path per line. This leaves out the sources for Windows.
-sources_in() {
-    sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' "$1/compile_commands.json" |
+# The sources of the program on this platform, one path per line.
+sources() {
+    sed -n 's/^ *"file": "\(.*\)",\{0,1\}$/\1/p' build-analysis/compile_commands.json |
         grep -E "^$PWD/($(IFS='|' && echo "${rooms[*]}"))/" | sort -u
 }
 
+# The number of warnings in the system's headers does not matter.
 tidy() {
     needs clang-tidy
-    local build=$1 share=${2:-1} shares=${3:-1} sources
-    mapfile -t sources < <(sources_in "$build" | awk "NR % $shares == $share % $shares")
-    if [ "${#sources[@]}" -eq 0 ]; then
-        echo "analyse.sh: $build lists no sources in $PWD" >&2
-        exit 1
-    fi
-    # The number of warnings in the system's headers does not matter.
-    clang-tidy -p "$build" --quiet "${sources[@]}" 2> >(grep -v 'warnings generated\.$' >&2)
+    cmake --preset release -B build-analysis -DTALLYHOOP_UNITY=OFF -DTALLYHOOP_TESTS=OFF -DTALLYHOOP_BENCH=OFF \
+        --log-level=WARNING
+    if [ $# -gt 0 ]; then
+        printf '%s\n' "$@"
+    else
+        sources
+    fi | xargs --max-procs="$(nproc)" --max-args=4 clang-tidy -p build-analysis --quiet \
+        2> >(grep -v 'warnings\{0,1\} generated\.$' >&2)
 }
 
 case "${1:-everything}" in
@@ -59,8 +62,7 @@ cppcheck) check ;;
 tidy) tidy "${@:2}" ;;
 everything)
     check
-    jobs=$(nproc)
-    seq "$jobs" | xargs -P "$jobs" -I{} scripts/analyse.sh tidy build {} "$jobs"
+    tidy
     ;;
 *)
     echo "analyse.sh: there is nothing called $1" >&2

@@ -136,6 +136,10 @@ class Program:
             "QT_PLUGIN_PATH": str(plugins), "QT_QPA_GENERIC_PLUGINS": "tallyhoopinspector",
             "CUPS_SERVER": str(self._scratch / "no-printers"),  # no test may print on a printer of this machine
             "TALLYHOOP_INSPECTOR_SOCKET": str(socket_path), **self._more_environment}
+        # A session's message bus, where there is one; and which leaks are not the program's.
+        for name in "DBUS_SESSION_BUS_ADDRESS", "LSAN_OPTIONS":
+            if name in os.environ:
+                environment.setdefault(name, os.environ[name])
         if self._display:
             environment["DISPLAY"] = self._display.name
         executable = self._executable or self.folder / "tallyhoop"
