@@ -66,7 +66,7 @@ int main(int argc, char** argv)
     const ui::Platform platform{dialogs, printer, mail, help, programs, clock, progress, clipboard};
 
     qt::ScreenHost host{desk, frame};
-    registerScreens(host, folder, platform, shared);
+    wireScreens(host, desk, folder, platform, shared);
     desk.helpWanted = [&](const std::string& topic) { showHelp(folder, platform, topic); };
     frame.open();
     QTimer::singleShot(0, &frame, [&] { startUp(folder, platform, host); });

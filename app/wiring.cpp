@@ -1,4 +1,4 @@
-// app/wiring.cpp - one entry for each screen: where it is placed, how it is made, which view shows it.
+// app/wiring.cpp - one case for each screen: where it is placed, how it is made, which view shows it.
 #include "app/wiring.h"
 
 #include "qt/views/board_view.h"
@@ -17,68 +17,88 @@
 #include "screens/setup/setup_screen.h"
 
 #include <memory>
+#include <stdexcept>
+#include <utility>
 
 namespace tallyhoop {
 
 namespace {
 
-/// Makes the view of a screen; every view takes its screen and the desk.
-template <class View, class Kind>
-auto shownBy()
+using qt::MadeScreen;
+using qt::Placement;
+
+/// Makes the screens, each with its view.
+class Wiring
 {
-    return [](Kind& screen, qt::Desk& desk) { return std::make_unique<View>(screen, desk); };
-}
+public:
+    Wiring(qt::ScreenHost& host, qt::Desk& desk, const DataFolder& folder, const ui::Platform& platform,
+           SharedValues& shared)
+        : m_host{host}, m_desk{desk}, m_folder{folder}, m_platform{platform}, m_shared{shared}
+    {
+    }
+
+    // No default: the compiler names a kind that is forgotten.
+    MadeScreen make(ScreenKind kind) const
+    {
+        switch (kind) {
+        case ScreenKind::Board:
+            return shownBy<qt::BoardView>(
+                Placement::Stacked,
+                std::make_unique<BoardScreen>(
+                    m_folder, m_platform, m_host,
+                    BoardScreen::Shared{m_shared.field, m_shared.savedPlayer, m_shared.listedVerdicts}));
+        case ScreenKind::Scores:
+            return shownBy<qt::ScoresView>(Placement::OwnWindow,
+                                           std::make_unique<ScoresScreen>(m_folder, m_platform, m_host, m_shared.field,
+                                                                          board().bracket(), m_shared.listedVerdicts));
+        case ScreenKind::Setup:
+            return shownBy<qt::SetupView>(Placement::Stacked,
+                                          std::make_unique<SetupScreen>(m_folder, m_platform, m_host, m_shared.field));
+        case ScreenKind::Seeds:
+            return shownBy<qt::SeedsView>(Placement::Modal,
+                                          std::make_unique<SeedsScreen>(setup().teamsOfFirstRegion(), setup().seeds(),
+                                                                        m_platform.dialogs, m_host));
+        case ScreenKind::Reports:
+            return shownBy<qt::ReportsView>(
+                Placement::Stacked, std::make_unique<ReportsScreen>(m_folder, m_platform, m_host, m_shared.field,
+                                                                    m_shared.mailDraft, board()));
+        case ScreenKind::Players:
+            return shownBy<qt::PlayersView>(
+                Placement::Stacked,
+                std::make_unique<PlayersScreen>(m_folder, m_platform, m_host, m_shared.savedPlayer));
+        case ScreenKind::Email:
+            return shownBy<qt::EmailView>(
+                Placement::Modal, std::make_unique<EmailScreen>(m_folder, m_platform, m_host, m_shared.mailDraft));
+        }
+        throw std::logic_error{"There is no screen of this kind."};
+    }
+
+private:
+    // Screens that work on the board or on the setup are loaded while it is, and unloaded before it.
+    BoardScreen& board() const { return *m_host.find<BoardScreen>(ScreenKind::Board); }
+    SetupScreen& setup() const { return *m_host.find<SetupScreen>(ScreenKind::Setup); }
+
+    /// Every view takes its screen and the desk.
+    template <class View, class Kind>
+    MadeScreen shownBy(Placement placement, std::unique_ptr<Kind> screen) const
+    {
+        auto view = std::make_unique<View>(*screen, m_desk);
+        return {placement, std::move(screen), std::move(view)};
+    }
+
+    qt::ScreenHost& m_host;
+    qt::Desk& m_desk;
+    const DataFolder& m_folder;
+    const ui::Platform& m_platform;
+    SharedValues& m_shared;
+};
 
 } // namespace
 
-void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::Platform& platform, SharedValues& shared)
+void wireScreens(qt::ScreenHost& host, qt::Desk& desk, const DataFolder& folder, const ui::Platform& platform,
+                 SharedValues& shared)
 {
-    using qt::Placement;
-    // Screens that work on the board or on the setup are loaded while it is, and unloaded before it.
-    const auto board = [&host]() -> BoardScreen& { return *host.find<BoardScreen>(ScreenKind::Board); };
-    const auto setup = [&host]() -> SetupScreen& { return *host.find<SetupScreen>(ScreenKind::Setup); };
-
-    host.registerScreen<BoardScreen>(
-        ScreenKind::Board, Placement::Stacked,
-        [&](const std::string& notice) {
-            return std::make_unique<BoardScreen>(
-                folder, platform, host, BoardScreen::Shared{shared.field, shared.savedPlayer, shared.listedVerdicts},
-                notice);
-        },
-        shownBy<qt::BoardView, BoardScreen>());
-    host.registerScreen<ScoresScreen>(
-        ScreenKind::Scores, Placement::OwnWindow,
-        [&, board](const std::string&) {
-            return std::make_unique<ScoresScreen>(folder, platform, host, shared.field, board().bracket(),
-                                                  shared.listedVerdicts);
-        },
-        shownBy<qt::ScoresView, ScoresScreen>());
-    host.registerScreen<SetupScreen>(
-        ScreenKind::Setup, Placement::Stacked,
-        [&](const std::string& notice) {
-            return std::make_unique<SetupScreen>(folder, platform, host, shared.field, notice);
-        },
-        shownBy<qt::SetupView, SetupScreen>());
-    host.registerScreen<SeedsScreen>(
-        ScreenKind::Seeds, Placement::Modal,
-        [&, setup](const std::string&) {
-            return std::make_unique<SeedsScreen>(setup().teamsOfFirstRegion(), setup().seeds(), platform.dialogs, host);
-        },
-        shownBy<qt::SeedsView, SeedsScreen>());
-    host.registerScreen<ReportsScreen>(
-        ScreenKind::Reports, Placement::Stacked,
-        [&, board](const std::string&) {
-            return std::make_unique<ReportsScreen>(folder, platform, host, shared.field, shared.mailDraft, board());
-        },
-        shownBy<qt::ReportsView, ReportsScreen>());
-    host.registerScreen<PlayersScreen>(
-        ScreenKind::Players, Placement::Stacked,
-        [&](const std::string&) { return std::make_unique<PlayersScreen>(folder, platform, host, shared.savedPlayer); },
-        shownBy<qt::PlayersView, PlayersScreen>());
-    host.registerScreen<EmailScreen>(
-        ScreenKind::Email, Placement::Modal,
-        [&](const std::string&) { return std::make_unique<EmailScreen>(folder, platform, host, shared.mailDraft); },
-        shownBy<qt::EmailView, EmailScreen>());
+    host.make = [wiring = Wiring{host, desk, folder, platform, shared}](ScreenKind kind) { return wiring.make(kind); };
 }
 
 } // namespace tallyhoop

@@ -20,8 +20,8 @@ struct SharedValues {
     MailDraft mailDraft;                    ///< between the reports and the e-mail dialog
 };
 
-/// Registers every screen with the host. All arguments must outlive the host's screens.
-void registerScreens(qt::ScreenHost& host, const DataFolder& folder, const ui::Platform& platform,
-                     SharedValues& shared);
+/// Lets the host make every screen. All arguments must outlive the host's screens.
+void wireScreens(qt::ScreenHost& host, qt::Desk& desk, const DataFolder& folder, const ui::Platform& platform,
+                 SharedValues& shared);
 
 } // namespace tallyhoop

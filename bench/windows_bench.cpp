@@ -35,7 +35,7 @@ class Program
 public:
     explicit Program(const std::filesystem::path& path) : folder{path}
     {
-        registerScreens(host, folder, platform, shared);
+        wireScreens(host, desk, folder, platform, shared);
         frame.open();
         startUp(folder, platform, host);
         settle();

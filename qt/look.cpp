@@ -102,12 +102,52 @@ QGroupBox* group(const QString& title, QLayout* content)
 
 QColor toQColor(ui::Colour colour) { return QColor{colour.red, colour.green, colour.blue}; }
 
-QIcon menuIcon(std::string_view name)
-{
-    return lineIcon(QLatin1String{":/icons/"} + toQString(name) + QLatin1String{".svg"});
-}
-
 namespace {
+
+const char* fileOf(ui::MenuIcon icon)
+{
+    switch (icon) {
+    case ui::MenuIcon::None:
+        break;
+    case ui::MenuIcon::About:
+        return "about";
+    case ui::MenuIcon::Assist:
+        return "assist";
+    case ui::MenuIcon::Demo:
+        return "demo";
+    case ui::MenuIcon::Exit:
+        return "exit";
+    case ui::MenuIcon::Help:
+        return "help";
+    case ui::MenuIcon::New:
+        return "new";
+    case ui::MenuIcon::Open:
+        return "open";
+    case ui::MenuIcon::People:
+        return "people";
+    case ui::MenuIcon::Preview:
+        return "preview";
+    case ui::MenuIcon::Print:
+        return "print";
+    case ui::MenuIcon::Redo:
+        return "redo";
+    case ui::MenuIcon::Reset:
+        return "reset";
+    case ui::MenuIcon::Results:
+        return "results";
+    case ui::MenuIcon::Save:
+        return "save";
+    case ui::MenuIcon::Score:
+        return "score";
+    case ui::MenuIcon::Seeds:
+        return "seeds";
+    case ui::MenuIcon::Setup:
+        return "setup";
+    case ui::MenuIcon::Undo:
+        return "undo";
+    }
+    return "";
+}
 
 QColor halfway(const QColor& one, const QColor& other)
 {
@@ -115,6 +155,13 @@ QColor halfway(const QColor& one, const QColor& other)
 }
 
 } // namespace
+
+QIcon menuIcon(ui::MenuIcon icon)
+{
+    if (icon == ui::MenuIcon::None)
+        return {};
+    return lineIcon(QStringLiteral(":/icons/%1.svg").arg(QLatin1String{fileOf(icon)}));
+}
 
 void setBackground(QPalette& palette, const QColor& background)
 {

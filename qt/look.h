@@ -2,6 +2,7 @@
 #pragma once
 
 #include "ui/colour.h"
+#include "ui/control.h"
 
 #include <QBoxLayout>
 #include <QColor>
@@ -10,7 +11,6 @@
 #include <QIcon>
 #include <QLabel>
 #include <QPalette>
-#include <string_view>
 
 class QApplication;
 
@@ -43,8 +43,8 @@ QGroupBox* group(const QString& title, QLayout* content);
 
 QColor toQColor(ui::Colour colour);
 
-/// @returns a line icon drawn in the palette's text colour, null when there is none of this name
-QIcon menuIcon(std::string_view name);
+/// @returns a line icon drawn in the palette's text colour, null for none
+QIcon menuIcon(ui::MenuIcon icon);
 
 /// Gives boxes and lists a background of this colour, and their text black or white, whichever has more contrast.
 /// Disabled text is paler.

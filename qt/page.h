@@ -7,7 +7,13 @@
 // The same page works in the frame's stack, as a window of its own, and inside a modal dialog.
 #pragma once
 
+#include "qt/control_widgets.h"
 #include "qt/desk.h"
+#include "qt/page_focus.h"
+#include "qt/page_menus.h"
+#include "qt/status_line.h"
+#include "qt/sync.h"
+#include "qt/widgets/line_edit.h"
 #include "ui/screen.h"
 
 #include <QCheckBox>
@@ -18,24 +24,15 @@
 #include <QRadioButton>
 #include <QTableView>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
-class QAction;
 class QButtonGroup;
-class QLineEdit;
-class QMenu;
-class QMenuBar;
-class QMimeData;
-class QPlainTextEdit;
+class QKeyEvent;
 
 namespace tallyhoop::qt {
-
-class ElidedLabel;
 
 class Page : public QMainWindow
 {
@@ -72,7 +69,7 @@ public:
     }
 
     /// Registers a widget that the view made itself: names it and keeps the common parts in sync (enabled, visible,
-    /// tool tip, spoken name and hint, tab order, keys, focus). @returns the widget
+    /// tool tip, spoken name and explanation, tab order, keys, focus). @returns the widget
     template <class Widget>
     Widget* adopt(ui::Control& control, Widget* widget)
     {
@@ -97,42 +94,13 @@ public:
         return widget;
     }
 
-    /// Applies a value of the model now and whenever it differs from what was last applied.
+    /// As in Sync.
     template <class T, class Apply>
     void follow(const T& value, Apply apply)
     {
-        onPush([&value, apply = std::move(apply), applied = std::optional<T>{}]() mutable {
-            if (applied && *applied == value)
-                return;
-            applied = value;
-            apply(value);
-        });
+        m_sync.follow(value, std::move(apply));
     }
-
-    /// Keeps the widget in sync with a value that the person can change too: a change made in the widget since the last
-    /// sync is pulled, a change made in the model is pushed. A widget that was not touched is never read back.
-    /// @param read  () -> T, what the widget shows
-    /// @param write (const T&), shows it
-    template <class T, class Read, class Write>
-    void mirror(T& value, Read read, Write write)
-    {
-        auto seen = std::make_shared<T>(read());
-        m_pulls.push_back([&value, seen, read] {
-            T now = read();
-            if (now == *seen)
-                return;
-            *seen = now;
-            value = std::move(now);
-        });
-        onPush([&value, seen, read, write] {
-            if (!(read() == value))
-                write(value);
-            *seen = read();
-        });
-    }
-
-    /// Runs `apply` now and with every push.
-    void onPush(std::function<void()> apply);
+    void onPush(std::function<void()> apply) { m_sync.onPush(std::move(apply)); }
 
     /// Runs a command of this screen through the desk.
     void run(const std::function<void()>& command) { m_desk.run(m_screen, command); }
@@ -141,8 +109,8 @@ public:
     void setContent(QLayout* layout);
 
     /// @returns the widget of a control, nullptr when it has none (menu entries have actions)
-    QWidget* widgetOf(const ui::Control& control) const;
-    QAction* actionOf(const ui::MenuEntry& entry) const;
+    QWidget* widgetOf(const ui::Control& control) const { return m_widgets.widgetOf(control); }
+    QAction* actionOf(const ui::MenuEntry& entry) const { return m_menus.actionOf(entry); }
 
     /// @returns names of the screen's controls that the view did not add
     std::vector<std::string> controlsWithoutWidget() const;
@@ -156,7 +124,7 @@ public:
     bool reportFocus();
 
     /// Gives the focus to the first control in the tab order unless the screen chose one.
-    void focusFirst();
+    void focusFirst() { m_focus.toFirst(); }
 
 protected:
     bool event(QEvent* event) override;
@@ -165,69 +133,28 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    /// The box in which an input method is composing a text, and what it held before.
-    struct Composing {
-        QLineEdit* edit = nullptr;
-        QString text;
-        int selectionStart = -1;
-        int selectionLength = 0;
-    };
-
-    void makeStatusLine();
-    void followExplanation(ui::Control& control, QWidget& widget);
-    void pointerCameOrWent(const ui::Control& control, const QEvent& event);
-    void explain();
     void followCommonParts(ui::Control& control, QWidget& widget);
-    QLineEdit* addLine(ui::TextBox& box);
-    QPlainTextEdit* addLines(ui::TextBox& box);
+    template <class Edit>
+    void followBox(ui::TextBox& box, Edit& edit);
+    QWidget* addLine(ui::TextBox& box);
+    QWidget* addLines(ui::TextBox& box);
+    void followNote(const std::string& note, QAbstractItemView& view);
     QButtonGroup* newOptionGroup();
     QRadioButton* addToGroup(ui::OptionButton& option, QButtonGroup& group);
-    void edited(ui::TextBox& box);
-    void keepSelectionThroughClick(QLineEdit& edit, const QEvent& event);
 
-    void buildMenuBar();
-    QAction* addEntry(ui::MenuEntry& entry, QWidget& holder);
-    void followEntry(ui::MenuEntry& entry, QAction& action);
-
-    bool filterKey(ui::Control& control, QKeyEvent& event);
-    bool leavesToMenu(const QLineEdit& edit, QKeyEvent& key) const;
-    bool filterInputMethod(ui::Control& control, QEvent& event);
-    void endComposing();
-    bool filterPaste(ui::TextBox& box, QLineEdit& edit, QEvent& event);
-    bool filterContextMenu(ui::TextBox& box, QLineEdit& edit, QEvent& event);
-    bool filterGridKey(ui::Grid& grid, QTableView& view, int key, bool moveColumn);
-    void pressCell(ui::Grid& grid, const QModelIndex& index);
-    bool pasteInto(ui::TextBox& box, QLineEdit& edit, const QString& text);
+    bool pressed(ui::Control& control, const QKeyEvent& event);
     bool pressed(ui::Control& control, const ui::KeyPress& press);
     bool pressDefault();
 
-    void pullFocus();
-    void pushFocus();
-    ui::Control* controlOf(const QWidget* widget) const;
-    ui::Control* focusedControl() const;
-    void orderTabs();
-
     ui::Screen& m_screen;
     Desk& m_desk;
-    std::unordered_map<const QWidget*, ui::Control*> m_controls;
-    std::unordered_map<const ui::Control*, QWidget*> m_widgetOf;
-    std::unordered_map<const ui::Control*, QAction*> m_actions;
-    std::vector<std::function<void()>> m_pulls;
-    std::vector<std::function<void()>> m_pushes;
-    ui::Control* m_focusSeen = nullptr;
-    ui::Control* m_focusReported = nullptr;
-    ElidedLabel* m_explanation = nullptr; ///< the line below the page; null until there is a text for it
-    QLabel* m_status = nullptr;           ///< the right end of that line
-    const ui::Control* m_pointed = nullptr;
-    QString m_entryExplained;  ///< the explanation of the highlighted menu entry; empty = none
-    bool m_focusMoved = false; ///< since the screen's hint changed
+    Sync m_sync;
+    ControlWidgets m_widgets;
+    LastTyped m_lastTyped;
+    PageFocus m_focus;
+    StatusLine m_statusLine;
+    PageMenus m_menus;
     QButtonGroup* m_singleOptions = nullptr;
-    const QLineEdit* m_typedInto = nullptr;   ///< unless something else was done since
-    const QLineEdit* m_clickedInto = nullptr; ///< got its focus by a mouse press that has not been delivered yet
-    Composing m_composing;
-    bool m_selectedOnFocus = false; ///< the box that was clicked into got its focus, and the screen selected text in it
-    bool m_pushing = false;
-    bool m_tabsChanged = false;
 };
 
 } // namespace tallyhoop::qt

@@ -40,7 +40,7 @@ QCheckBox* Page::add(ui::CheckBox& box)
     widget->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed); // a press anywhere on it ticks it
     followCommonParts(box, *widget);
     follow(box.caption, [widget](const std::string& caption) { widget->setText(toQString(caption)); });
-    mirror(
+    m_sync.mirror(
         box.ticked, [widget] { return widget->isChecked(); }, [widget](bool ticked) { widget->setChecked(ticked); });
     connect(widget, &QCheckBox::clicked, this, [this, &box] { run(box.changed); });
     return widget;
@@ -62,7 +62,7 @@ QRadioButton* Page::addToGroup(ui::OptionButton& option, QButtonGroup& group)
     group.addButton(button);
     followCommonParts(option, *button);
     follow(option.caption, [button](const std::string& caption) { button->setText(toQString(caption)); });
-    mirror(
+    m_sync.mirror(
         option.selected, [button] { return button->isChecked(); },
         [button, &group](bool selected) {
             // An exclusive group never has none selected; the model may.

@@ -2,49 +2,13 @@
 #include "qt/look.h"
 #include "qt/page.h"
 #include "qt/text.h"
+#include "qt/widgets/empty_note.h"
 #include "qt/widgets/grid_header.h"
-#include "qt/widgets/grid_model.h"
+#include "qt/widgets/grid_view.h"
 #include "qt/widgets/rows_model.h"
 #include "qt/widgets/rows_view.h"
 
-#include <QHeaderView>
-#include <QItemSelectionModel>
-
 namespace tallyhoop::qt {
-
-namespace {
-
-std::optional<int> selectedRow(const QListView& view)
-{
-    const QModelIndexList selected = view.selectionModel()->selectedIndexes();
-    return selected.isEmpty() ? std::nullopt : std::optional{selected.first().row()};
-}
-
-void selectRow(QListView& view, std::optional<int> row)
-{
-    if (!row || *row < 0 || *row >= view.model()->rowCount()) {
-        view.selectionModel()->clear();
-        return;
-    }
-    const QModelIndex index = view.model()->index(*row, 0);
-    view.selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
-    view.scrollTo(index);
-}
-
-constexpr int kCellPadding = 16; ///< on both sides of a cell together, in pixels
-
-void showColumns(QTableView& view, const ui::Grid& grid)
-{
-    const QFontMetrics metrics{view.font()};
-    QHeaderView& header = *view.horizontalHeader();
-    for (std::size_t c = 0; c < grid.columns.size(); ++c) {
-        const int heading = metrics.horizontalAdvance(toQString(grid.columns[c].heading).trimmed());
-        const int cells = metrics.horizontalAdvance(QLatin1Char{'0'}) * grid.columns[c].width;
-        header.resizeSection(static_cast<int>(c), std::max(heading, cells) + kCellPadding);
-    }
-}
-
-} // namespace
 
 QListView* Page::add(ui::ListBox& list)
 {
@@ -65,13 +29,14 @@ QListView* Page::add(ui::ListBox& list)
         if (rows->rows() != list.rows)
             rows->setRows(list.rows);
     });
-    mirror(
-        list.selected, [view] { return selectedRow(*view); },
-        [view](std::optional<int> row) { selectRow(*view, row); });
+    m_sync.mirror(
+        list.selected, [view] { return view->selectedRow(); },
+        [view](std::optional<int> row) { view->selectRow(row); });
+    followNote(list.emptyNote, *view);
 
     view->rowChosen = [this, view, &list] {
-        if (!m_pushing)
-            run(selectedRow(*view) ? list.chosen : std::function<void()>{});
+        if (!m_sync.isPushing())
+            run(view->selectedRow() ? list.chosen : std::function<void()>{});
     };
     view->pressedAnywhere = [this, &list] {
         if (list.pressed)
@@ -83,36 +48,27 @@ QListView* Page::add(ui::ListBox& list)
 
 QTableView* Page::add(ui::Grid& grid)
 {
-    auto* view = new QTableView{this};
-    auto* header = new GridHeader;
-    auto* cells = new GridModel{view};
-    view->setModel(cells);
-    view->setHorizontalHeader(header);
-    view->verticalHeader()->hide();
-    view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    view->verticalHeader()->setDefaultSectionSize(QFontMetrics{view->font()}.height() + look::kGap);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->setSelectionMode(QAbstractItemView::SingleSelection);
-    view->setAlternatingRowColors(true);
-    view->setShowGrid(false);
-    view->setWordWrap(false);
-    view->setTabKeyNavigation(false);
+    auto* view = new GridView{this};
     followCommonParts(grid, *view);
-    follow(grid.revision, [view, cells, &grid](unsigned) {
-        const QModelIndex before = view->currentIndex();
-        cells->show(grid);
-        showColumns(*view, grid);
-        if (before.isValid())
-            view->setCurrentIndex(cells->index(before.row(), before.column()));
+    // The cells first: changing them clears the current one.
+    follow(grid.revision, [view, &grid](unsigned) { view->show(grid); });
+    m_sync.mirror(
+        grid.current, [view] { return view->currentCell(); },
+        [view](std::optional<ui::GridCell> cell) { view->setCurrentCell(cell); });
+    followNote(grid.emptyNote, *view);
+
+    connect(view, &QTableView::pressed, this, [this, &grid](const QModelIndex& index) {
+        if (!grid.cellPressed)
+            return;
+        run([&] { grid.cellPressed(static_cast<std::size_t>(index.row()), static_cast<std::size_t>(index.column())); });
     });
-    connect(view, &QTableView::pressed, this, [this, &grid](const QModelIndex& index) { pressCell(grid, index); });
-    header->columnPressed = [this, &grid](std::size_t column) {
+    view->header().columnPressed = [this, &grid](std::size_t column) {
         run([&] {
             if (grid.columnPressed)
                 grid.columnPressed(column);
         });
     };
-    header->columnReleased = [this, &grid](std::optional<std::size_t> column) {
+    view->header().columnReleased = [this, &grid](std::optional<std::size_t> column) {
         run([&] {
             if (grid.columnReleased)
                 grid.columnReleased(column);
@@ -121,33 +77,10 @@ QTableView* Page::add(ui::Grid& grid)
     return view;
 }
 
-void Page::pressCell(ui::Grid& grid, const QModelIndex& index)
+void Page::followNote(const std::string& note, QAbstractItemView& view)
 {
-    if (!index.isValid() || !grid.cellPressed)
-        return;
-    run([&] { grid.cellPressed(static_cast<std::size_t>(index.row()), static_cast<std::size_t>(index.column())); });
-}
-
-bool Page::filterGridKey(ui::Grid& grid, QTableView& view, int key, bool moveColumn)
-{
-    const QModelIndex current = view.currentIndex();
-    if (!current.isValid())
-        return false;
-    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter) {
-        pressCell(grid, current);
-        return true;
-    }
-    const int target = current.column() + (key == Qt::Key_Left ? -1 : 1);
-    const bool sideways = key == Qt::Key_Left || key == Qt::Key_Right;
-    if (!moveColumn || !sideways || target < 0 || target >= view.model()->columnCount() || !grid.columnPressed ||
-        !grid.columnReleased)
-        return false;
-    run([&] {
-        grid.columnPressed(static_cast<std::size_t>(current.column()));
-        grid.columnReleased(static_cast<std::size_t>(target));
-    });
-    view.setCurrentIndex(view.model()->index(current.row(), target));
-    return true;
+    auto* shown = new EmptyNote{view};
+    follow(note, [shown](const std::string& text) { shown->say(toQString(text)); });
 }
 
 } // namespace tallyhoop::qt

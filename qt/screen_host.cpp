@@ -56,11 +56,6 @@ ScreenHost::~ScreenHost()
     m_desk.clearParked(); // a parked dialog is still a child of the frame, which may be destroyed next
 }
 
-void ScreenHost::registerScreen(ScreenKind kind, Placement placement, MakeScreen makeScreen, MakeView makeView)
-{
-    m_recipes[kind] = {placement, std::move(makeScreen), std::move(makeView)};
-}
-
 ScreenHost::Loaded* ScreenHost::loaded(ScreenKind kind) const
 {
     const auto at = std::ranges::find_if(m_loaded, [&](const auto& one) { return one->kind == kind; });
@@ -87,26 +82,27 @@ Page* ScreenHost::page(ScreenKind kind) const
     return one ? one->page : nullptr;
 }
 
-void ScreenHost::load(ScreenKind kind, const std::string& notice)
+void ScreenHost::load(ScreenKind kind, const std::string& news)
 {
-    const auto recipe = m_recipes.find(kind);
-    if (recipe == m_recipes.end())
-        return;
     if (isLoaded(kind)) {
         bringToFront(kind);
         return;
     }
-    auto made = std::make_unique<Loaded>();
-    made->kind = kind;
-    made->placement = recipe->second.placement;
-    made->screen = recipe->second.makeScreen(notice);
-    auto page = recipe->second.makeView(*made->screen, m_desk);
-    made->page = page.get();
-    made->window = std::move(page);
-    ui::Screen& screen = *made->screen;
-    m_loaded.push_back(std::move(made));
+    MadeScreen made = make(kind);
+    auto one = std::make_unique<Loaded>();
+    one->kind = kind;
+    one->placement = made.placement;
+    one->screen = std::move(made.screen);
+    one->page = made.page.get();
+    one->window = std::move(made.page);
+    ui::Screen& screen = *one->screen;
+    m_loaded.push_back(std::move(one));
 
-    m_desk.runInside(screen, [&screen] { screen.load(); });
+    m_desk.runInside(screen, [&screen, &news] {
+        screen.load();
+        if (!news.empty())
+            screen.say(news);
+    });
     // Its load() may have unloaded it again: then there is nothing to show.
     if (!isStill(kind, screen))
         return;

@@ -1,6 +1,6 @@
 // qt/screen_host.h - loads and unloads screens: in the frame's stack, in a window beside it, or modally.
 //
-// It knows no screen by name: app/ registers how each is made and shown.
+// It knows no screen by name: app/ makes each, with its view.
 #pragma once
 
 #include "qt/desk.h"
@@ -9,7 +9,6 @@
 #include "screens/screens.h"
 
 #include <functional>
-#include <map>
 #include <memory>
 #include <vector>
 
@@ -21,34 +20,27 @@ enum class Placement {
     Modal,     ///< a dialog; load() returns when it has closed
 };
 
+/// A screen that was made to be loaded, the page that shows it, and where that goes.
+struct MadeScreen {
+    Placement placement{};
+    std::unique_ptr<ui::Screen> screen;
+    std::unique_ptr<Page> page;
+};
+
 class ScreenHost : public Screens
 {
 public:
-    using MakeScreen = std::function<std::unique_ptr<ui::Screen>(const std::string& notice)>;
-    using MakeView = std::function<std::unique_ptr<Page>(ui::Screen&, Desk&)>;
-
     /// Handles the frame's close button: endProgram(), unless something is modal.
     ScreenHost(Desk& desk, MainFrame& frame);
     ~ScreenHost() override;
     ScreenHost(const ScreenHost&) = delete;
     ScreenHost& operator=(const ScreenHost&) = delete;
 
-    /// Registers how a screen is made and shown. `Kind` is the screen's class:
-    ///     host.registerScreen<BoardScreen>(ScreenKind::Board, Placement::Stacked,
-    ///         [&](const std::string& notice) { return std::make_unique<BoardScreen>(...); },
-    ///         [](BoardScreen& screen, Desk& desk) { return std::make_unique<BoardView>(screen, desk); });
-    template <class Kind, class Make, class View>
-    void registerScreen(ScreenKind kind, Placement placement, Make makeScreen, View makeView)
-    {
-        registerScreen(kind, placement, MakeScreen{std::move(makeScreen)},
-                       MakeView{[makeView = std::move(makeView)](ui::Screen& screen, Desk& desk) {
-                           return makeView(static_cast<Kind&>(screen), desk);
-                       }});
-    }
-    void registerScreen(ScreenKind kind, Placement placement, MakeScreen makeScreen, MakeView makeView);
+    /// Makes a screen of this kind; set before the first is loaded.
+    std::function<MadeScreen(ScreenKind kind)> make;
 
     /// As in Screens; inside or outside of a command. The model's load() runs when its page exists, before it is shown.
-    void load(ScreenKind kind, const std::string& notice = {}) override;
+    void load(ScreenKind kind, const std::string& news = {}) override;
     void unload(ScreenKind kind) override;
     bool isLoaded(ScreenKind kind) const override;
     void bringToFront(ScreenKind kind) override;
@@ -67,11 +59,6 @@ public:
     std::function<void()> ended;
 
 private:
-    struct Recipe {
-        Placement placement{};
-        MakeScreen makeScreen;
-        MakeView makeView;
-    };
     struct Loaded {
         ScreenKind kind{};
         Placement placement{};
@@ -90,7 +77,6 @@ private:
 
     Desk& m_desk;
     MainFrame& m_frame;
-    std::map<ScreenKind, Recipe> m_recipes;
     std::vector<std::unique_ptr<Loaded>> m_loaded; ///< in order of loading
 };
 

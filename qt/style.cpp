@@ -1,6 +1,7 @@
 // qt/style.cpp - Fusion with other boxes, frames and margins, and a palette whose roles are made readable.
 #include "qt/style.h"
 
+#include "qt/line_icon.h"
 #include "qt/look.h"
 #include "qt/message_icon.h"
 
@@ -301,7 +302,7 @@ QIcon Style::standardIcon(StandardPixmap icon, const QStyleOption* option, const
     case SP_MessageBoxQuestion:
         return messageIcon(icon);
     case SP_ToolBarHorizontalExtensionButton: // every menu bar prepares one; Qt's own icon would load a picture
-        return look::menuIcon("more");
+        return lineIcon(QStringLiteral(":/icons/more.svg"));
     default:
         return QProxyStyle::standardIcon(icon, option, widget);
     }

@@ -14,8 +14,8 @@ public:
     virtual ~Screens() = default;
 
     /// Loads a screen and shows it; a modal one returns when it has closed. One that is loaded comes to the front.
-    /// @param notice a sentence for the fresh screen's status line; empty = none
-    virtual void load(ScreenKind kind, const std::string& notice = {}) = 0;
+    /// @param news what a fresh screen says first, of what led to it; empty = nothing
+    virtual void load(ScreenKind kind, const std::string& news = {}) = 0;
 
     /// Unloads a screen; nothing happens when it is not loaded.
     virtual void unload(ScreenKind kind) = 0;

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "ui/colour.h"
+#include "ui/keys.h"
 
 #include <array>
 #include <cstddef>
@@ -34,10 +35,16 @@ struct Control {
     bool visible = true;
     int tabIndex = -1;       ///< place in the tab order; -1 = after those that have one, in order of declaration
     bool tabStop = true;     ///< false = reached by a click only
-    std::string toolTip;     ///< empty = none
     std::string spokenName;  ///< what a screen reader says; empty = the widget's own text says enough
-    std::string explanation; ///< what this place does, for the status line while the pointer or the focus is here
-    std::string spokenHint;  ///< the screen reader's longer description; empty = the explanation
+    std::string explanation; ///< what this place does, in a sentence for the status line: see Screen; empty = none
+    std::string toolTip;     ///< the same in a few words beside the pointer, where the program's users know them
+
+    /// Does what a key means to this kind of control, once the screen has left the key alone.
+    /// @returns true when the key was dealt with and must not reach the widget
+    virtual bool keyPressed(const KeyPress& press);
+
+    /// @returns what a screen reader adds to the name: the explanation, or the tool tip when there is none
+    virtual std::string spokenExplanation() const;
 };
 
 /// A line of text the person cannot change. The text is data: never markup, `&` never a mnemonic.
@@ -105,6 +112,13 @@ struct ListBox : Control {
     std::function<void()> chosen;     ///< called after the person selected a row
     std::function<void()> pressed;    ///< called after a left mouse press anywhere on it, also where no row is
     std::function<void()> doubleClicked;
+    std::string emptyNote; ///< how things stand, shown in it as long as there are no rows; empty = nothing is
+
+    /// The first navigation key chooses the first row.
+    bool keyPressed(const KeyPress& press) override;
+
+    /// With the note first as long as there are no rows: a screen reader reads the list only.
+    std::string spokenExplanation() const override;
 
     /// @returns the selected row's text, empty when none is selected
     std::string selectedText() const;
@@ -121,6 +135,14 @@ struct GridColumn {
     friend bool operator==(const GridColumn&, const GridColumn&) = default;
 };
 
+/// A cell of a grid's data rows.
+struct GridCell {
+    std::size_t row = 0;
+    std::size_t column = 0;
+
+    friend bool operator==(const GridCell&, const GridCell&) = default;
+};
+
 /// A table with one heading row. Moving a column moves `columns` and the cells of every row alike, so that cell [r][c]
 /// is always in the c-th column from the left.
 struct Grid : Control {
@@ -129,11 +151,45 @@ struct Grid : Control {
     std::vector<GridColumn> columns;
     std::vector<std::vector<std::string>> rows; ///< data rows, each with columns.size() cells
     std::optional<std::size_t> headingPressed;  ///< the heading that is being dragged, if any
-    std::string emptyNote;                      ///< shown in it as long as there are no rows; empty = nothing is
+    std::optional<GridCell> current;            ///< where the keyboard is; nothing = nowhere yet
+    std::string emptyNote; ///< how things stand, shown in it as long as there are no rows; empty = nothing is
     unsigned revision = 0; ///< increase after changing rows or columns: tables are compared by this
     std::function<void(std::size_t row, std::size_t column)> cellPressed;
     std::function<void(std::size_t column)> columnPressed;                 ///< a press on a heading
     std::function<void(std::optional<std::size_t> column)> columnReleased; ///< its release; nothing = outside the grid
+
+    /// What the mouse does, with the keyboard: Space and Enter press the current cell, Ctrl+Shift+Left and
+    /// Ctrl+Shift+Right move its column.
+    bool keyPressed(const KeyPress& press) override;
+
+    /// With the note first as long as there are no rows: a screen reader reads the table only.
+    std::string spokenExplanation() const override;
+
+private:
+    bool moveColumn(GridCell from, Key key);
+};
+
+/// The pictures that the entries of menus have.
+enum class MenuIcon {
+    None,
+    About,
+    Assist,
+    Demo,
+    Exit,
+    Help,
+    New,
+    Open,
+    People,
+    Preview,
+    Print,
+    Redo,
+    Reset,
+    Results,
+    Save,
+    Score,
+    Seeds,
+    Setup,
+    Undo,
 };
 
 /// An entry of a menu, or a menu when it has children.
@@ -143,7 +199,7 @@ struct MenuEntry : Control {
 
     std::string caption;  ///< an `&` marks the mnemonic
     std::string shortcut; ///< such as "Ctrl+N"; empty = none
-    std::string icon;     ///< name of a menu icon, such as "open"; empty = none
+    MenuIcon icon = MenuIcon::None;
     std::function<void()> action;
     std::vector<MenuEntry*> children; ///< nullptr = a separator
 

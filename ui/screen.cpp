@@ -11,6 +11,13 @@ Screen::Screen(std::string screenName, std::string screenCaption)
 {
 }
 
+void Screen::say(std::string sentence)
+{
+    if (sentence.empty() && m_news.text.empty())
+        return;
+    m_news = {std::move(sentence), m_news.number + 1};
+}
+
 bool Screen::keyPressed(Control&, const KeyPress&) { return false; }
 
 void Screen::gotFocus(Control&) {}

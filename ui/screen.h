@@ -1,4 +1,21 @@
 // ui/screen.h - a screen is its controls by name, its menus as data, and what it does on keys, focus and closing.
+//
+// A screen tells the person three things, and each has one place:
+//
+//   what this place does   explanation, of a control, of a menu entry, of the screen itself
+//   how things stand       status; the emptyNote of a list without rows
+//   what just happened     news, set by say()
+//
+// The status line shows the status at its right end, always. Its left end shows one sentence, the first that there is:
+//
+//   1. the explanation of the menu entry that is highlighted, while it is
+//   2. the explanation of the control that was reached last: where the pointer is, else where the focus was moved to
+//   3. the news
+//   4. the explanation of the screen
+//   5. the explanation of the control that has the focus
+//
+// When a screen says something, or its own explanation changes, a control has to be reached anew to count for 2, and
+// the focus that the same command moved does not count: what happens last is shown.
 #pragma once
 
 #include "ui/control.h"
@@ -24,10 +41,22 @@ public:
     std::string caption;
     std::string document;            ///< what is open, for the frame's title bar; empty = nothing worth naming
     bool unsaved = false;            ///< there are changes that no file holds yet
-    std::string status;              ///< the screen's state in words, always shown in the status line; empty = none
-    std::string hint;                ///< what to do now, shown until a control explains itself; empty = nothing to say
+    std::string explanation;         ///< what this place does: what to do here now; empty = none
+    std::string status;              ///< how things stand, in words; empty = none
     std::vector<MenuEntry*> menuBar; ///< menus and plain commands, left to right
     Control* focused = nullptr;      ///< who has the focus; assign to move it
+
+    /// What just happened.
+    struct News {
+        std::string text; ///< a sentence; empty = nothing worth saying
+        int number = 0;   ///< counts what was said, so that the same sentence is news again
+
+        friend bool operator==(const News&, const News&) = default;
+    };
+
+    /// Says what just happened. @param sentence empty = nothing any more
+    void say(std::string sentence);
+    const News& news() const { return m_news; }
 
     /// @returns the anchor of the help topic that fits the screen as it is now; empty = the help's beginning
     virtual std::string helpTopic() const { return {}; }
@@ -69,6 +98,7 @@ private:
     void list(Control& control) { m_controls.push_back(&control); }
 
     std::vector<Control*> m_controls;
+    News m_news;
 };
 
 } // namespace tallyhoop::ui

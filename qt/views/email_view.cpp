@@ -2,7 +2,6 @@
 #include "qt/views/email_view.h"
 
 #include "qt/look.h"
-#include "qt/widgets/empty_note.h"
 
 #include <QGridLayout>
 
@@ -46,7 +45,6 @@ QLayout* EmailView::players(EmailScreen& mail)
 
     QListView* list = add(mail.lstPlayerNames);
     setSmallest(*list, kPlayerCharacters);
-    new EmptyNote{tr("No players to choose from."), *list};
 
     QVBoxLayout* column = look::column();
     column->addWidget(add(mail.lblEntry));
@@ -64,7 +62,6 @@ QLayout* EmailView::recipients(EmailScreen& mail)
 
     QListView* list = add(mail.lstTo);
     setSmallest(*list, kAddressCharacters);
-    new EmptyNote{tr("No address yet: press Enter on a player, or type an address."), *list};
 
     QVBoxLayout* column = look::column();
     column->addWidget(add(mail.lblTo));

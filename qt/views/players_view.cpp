@@ -2,7 +2,6 @@
 #include "qt/views/players_view.h"
 
 #include "qt/look.h"
-#include "qt/widgets/empty_note.h"
 
 #include <QGridLayout>
 #include <QStyle>
@@ -87,7 +86,6 @@ QLayout* PlayersView::list(PlayersScreen& names)
     QVBoxLayout* column = look::column(look::kTight);
     QListView* players = add(names.lstNames);
     players->setAlternatingRowColors(true);
-    new EmptyNote{tr("No players yet. The list opens by itself whenever a new selection has been saved."), *players};
     column->addWidget(columnHeading(*players));
     column->addWidget(players, 1);
     return column;

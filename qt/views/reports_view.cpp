@@ -3,7 +3,6 @@
 
 #include "qt/look.h"
 #include "qt/text.h"
-#include "qt/widgets/empty_note.h"
 
 namespace tallyhoop::qt {
 
@@ -117,7 +116,6 @@ QLayout* ReportsView::printouts(ReportsScreen& reports)
     left->addLayout(commands);
 
     QListView* const files = add(reports.filList);
-    new EmptyNote{tr("No selections saved yet."), *files};
     const QFontMetrics metrics = files->fontMetrics();
     files->setMinimumSize(metrics.averageCharWidth() * kFileCharacters, metrics.lineSpacing() * kFileRows);
 

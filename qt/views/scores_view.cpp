@@ -2,8 +2,6 @@
 #include "qt/views/scores_view.h"
 
 #include "qt/look.h"
-#include "qt/text.h"
-#include "qt/widgets/empty_note.h"
 #include "qt/widgets/page_area.h"
 
 namespace tallyhoop::qt {
@@ -26,10 +24,7 @@ ScoresView::ScoresView(ScoresScreen& scores, Desk& desk) : Page{scores, desk}
 
     auto* const whole = look::column();
     whole->addWidget(add(scores.lblInformation));
-    QTableView* const table = add(scores.msgScoreDisplay);
-    auto* const note = new EmptyNote{QString{}, *table};
-    follow(scores.msgScoreDisplay.emptyNote, [note](const std::string& text) { note->say(toQString(text)); });
-    whole->addWidget(table, 1);
+    whole->addWidget(add(scores.msgScoreDisplay), 1);
     whole->addLayout(commands);
     whole->addWidget(add(scores.filList)); // hidden
     setContent(whole);

@@ -2,7 +2,6 @@
 #include "qt/views/setup_view.h"
 
 #include "qt/look.h"
-#include "qt/widgets/empty_note.h"
 
 #include <QFrame>
 #include <QGridLayout>
@@ -154,7 +153,6 @@ QWidget* SetupView::teamNames()
     auto* column = look::column(look::kTight);
     QListView* list = add(m_setup.lstTeamNames);
     list->setMinimumWidth(kListWidth);
-    new EmptyNote{tr("There is no list of team names."), *list};
     column->addWidget(list, 1);
     QLabel* explanation = add(m_setup.lblChangeNames);
     explanation->setFont(look::smallFont());

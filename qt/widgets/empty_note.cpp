@@ -8,11 +8,10 @@
 
 namespace tallyhoop::qt {
 
-EmptyNote::EmptyNote(const QString& text, QAbstractItemView& view) : QLabel{view.viewport()}, m_view{view}
+EmptyNote::EmptyNote(QAbstractItemView& view) : QLabel{view.viewport()}, m_view{view}
 {
     setObjectName(QStringLiteral("emptyNote"));
     setTextFormat(Qt::PlainText);
-    setText(text);
     setFont(QApplication::font()); // not the fixed pitch that a list may have for its columns
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);
@@ -33,7 +32,6 @@ bool EmptyNote::eventFilter(QObject* watched, QEvent* event)
 
 void EmptyNote::say(const QString& text)
 {
-    describe(false);
     setText(text);
     place();
 }
@@ -41,18 +39,7 @@ void EmptyNote::say(const QString& text)
 void EmptyNote::place()
 {
     setGeometry(m_view.viewport()->rect());
-    const bool empty = m_view.model()->rowCount() == 0;
-    setVisible(empty);
-    describe(empty);
-}
-
-/// A screen reader reads the list only, so the list's description begins with the note.
-void EmptyNote::describe(bool empty)
-{
-    QString description = m_view.accessibleDescription();
-    if (const QString said = text() + QLatin1Char{' '}; description.startsWith(said))
-        description.remove(0, said.size());
-    m_view.setAccessibleDescription(empty ? text() + QLatin1Char{' '} + description : description);
+    setVisible(!text().isEmpty() && m_view.model()->rowCount() == 0);
 }
 
 } // namespace tallyhoop::qt

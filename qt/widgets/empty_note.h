@@ -6,15 +6,15 @@
 
 namespace tallyhoop::qt {
 
-/// A pale sentence in the middle of a view, visible while the view's model has no rows.
+/// A pale sentence in the middle of a view, visible while the view's model has no rows and there is a sentence.
 class EmptyNote : public QLabel
 {
     Q_OBJECT
 
 public:
-    EmptyNote(const QString& text, QAbstractItemView& view);
+    explicit EmptyNote(QAbstractItemView& view);
 
-    /// Changes the sentence.
+    /// Changes the sentence; empty = nothing is shown.
     void say(const QString& text);
 
 protected:
@@ -22,7 +22,6 @@ protected:
 
 private:
     void place();
-    void describe(bool empty);
 
     QAbstractItemView& m_view;
 };

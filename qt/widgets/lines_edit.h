@@ -1,4 +1,5 @@
-// qt/widgets/lines_edit.h - a box of several lines that asks before it takes pasted or dropped text.
+// qt/widgets/lines_edit.h - a box of several lines that asks before it takes text, and shows at once what will be
+// saved.
 #pragma once
 
 #include <QMimeData>
@@ -12,13 +13,20 @@ class LinesEdit : public QPlainTextEdit
     Q_OBJECT
 
 public:
-    LinesEdit();
+    explicit LinesEdit(QWidget* parent = nullptr);
 
     /// Called with pasted or dropped text. @returns true when it was dealt with and must not be inserted
     std::function<bool(const QString&)> pasted;
 
+    /// Called with each character that an input method commits, a byte of the core.
+    /// @returns true when it was dealt with and must not be inserted
+    std::function<bool(char)> typed;
+
     /// The text with U+2029 between its lines; toPlainText() would make blanks of no-break spaces.
     QString rawText() const;
+
+    /// Shows the text as it will be saved: characters composed, and "?" for what Windows-1252 lacks.
+    void showAsSaved();
 
     /// Caret and selection, counted in characters of rawText().
     void select(int start, int length);
@@ -27,6 +35,7 @@ public:
 
 protected:
     void insertFromMimeData(const QMimeData* source) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
 };
 
 } // namespace tallyhoop::qt

@@ -1,6 +1,7 @@
 // qt/widgets/rows_view.cpp - a press that selects a row is reported once, and so is a click on the selected one.
 #include "qt/widgets/rows_view.h"
 
+#include <QItemSelectionModel>
 #include <QMouseEvent>
 
 namespace tallyhoop::qt {
@@ -14,6 +15,23 @@ RowsView::RowsView(QWidget* parent) : QListView{parent}
         if (!m_changedByPress && rowChosen)
             rowChosen();
     });
+}
+
+std::optional<int> RowsView::selectedRow() const
+{
+    const QModelIndexList selected = selectionModel()->selectedIndexes();
+    return selected.isEmpty() ? std::nullopt : std::optional{selected.first().row()};
+}
+
+void RowsView::selectRow(std::optional<int> row)
+{
+    if (!row || *row < 0 || *row >= model()->rowCount()) {
+        selectionModel()->clear();
+        return;
+    }
+    const QModelIndex index = model()->index(*row, 0);
+    selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    scrollTo(index);
 }
 
 void RowsView::mousePressEvent(QMouseEvent* event)

@@ -3,6 +3,7 @@
 
 #include <QListView>
 #include <functional>
+#include <optional>
 
 namespace tallyhoop::qt {
 
@@ -12,6 +13,10 @@ class RowsView : public QListView
 
 public:
     explicit RowsView(QWidget* parent);
+
+    /// Shows a row as the selected one, scrolled into view; a row that is not there is none.
+    void selectRow(std::optional<int> row);
+    std::optional<int> selectedRow() const;
 
     /// The selection changed, or a press on the selected row chose it again; also when the model is being shown.
     std::function<void()> rowChosen;

@@ -43,14 +43,14 @@ void BoardExits::toDemo()
 void BoardExits::fromDemo()
 {
     m_screens.unload(ScreenKind::Scores);
-    if (const std::optional<std::string> notice = leaveDemo(m_folder, m_platform))
-        toFreshBoard(*notice);
+    if (const std::optional<std::string> news = leaveDemo(m_folder, m_platform))
+        toFreshBoard(*news);
 }
 
-void BoardExits::toFreshBoard(const std::string& notice)
+void BoardExits::toFreshBoard(const std::string& news)
 {
     m_screens.unload(ScreenKind::Board);
-    m_screens.load(ScreenKind::Board, notice);
+    m_screens.load(ScreenKind::Board, news);
 }
 
 void BoardExits::toHelp(const std::string& topic) { showHelp(m_folder, m_platform, topic); }

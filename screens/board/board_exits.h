@@ -28,7 +28,7 @@ public:
     void endProgram() { m_screens.endProgram(); }
 
 private:
-    void toFreshBoard(const std::string& notice);
+    void toFreshBoard(const std::string& news);
 
     const DataFolder& m_folder;
     const ui::Platform& m_platform;

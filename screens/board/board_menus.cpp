@@ -26,23 +26,23 @@ void BoardMenus::arrange()
 
 void BoardMenus::chooseIcons()
 {
-    mnuNewSelection.icon = "new";
-    mnuOpenSelection.icon = "open";
-    mnuSaveSelection.icon = "save";
-    mnuPrintPreview.icon = "preview";
-    mnuPrintForm.icon = "print";
-    mnuExit.icon = "exit";
-    mnuUndo.icon = "undo";
-    mnuRedo.icon = "redo";
-    mnuScoreSelections.icon = "score";
-    mnuGameResults.icon = "results";
-    mnuHighSeed.icon = "assist";
-    mnuEditNames.icon = "people";
-    mnuSetupOptions.icon = "setup";
-    mnuDemoSet.icon = "demo";
-    mnuDemoReset.icon = "reset";
-    mnuHelpDisplay.icon = "help";
-    mnuHelpAbout.icon = "about";
+    mnuNewSelection.icon = ui::MenuIcon::New;
+    mnuOpenSelection.icon = ui::MenuIcon::Open;
+    mnuSaveSelection.icon = ui::MenuIcon::Save;
+    mnuPrintPreview.icon = ui::MenuIcon::Preview;
+    mnuPrintForm.icon = ui::MenuIcon::Print;
+    mnuExit.icon = ui::MenuIcon::Exit;
+    mnuUndo.icon = ui::MenuIcon::Undo;
+    mnuRedo.icon = ui::MenuIcon::Redo;
+    mnuScoreSelections.icon = ui::MenuIcon::Score;
+    mnuGameResults.icon = ui::MenuIcon::Results;
+    mnuHighSeed.icon = ui::MenuIcon::Assist;
+    mnuEditNames.icon = ui::MenuIcon::People;
+    mnuSetupOptions.icon = ui::MenuIcon::Setup;
+    mnuDemoSet.icon = ui::MenuIcon::Demo;
+    mnuDemoReset.icon = ui::MenuIcon::Reset;
+    mnuHelpDisplay.icon = ui::MenuIcon::Help;
+    mnuHelpAbout.icon = ui::MenuIcon::About;
 }
 
 void BoardMenus::explain()

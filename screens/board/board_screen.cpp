@@ -15,8 +15,7 @@
 
 namespace tallyhoop {
 
-BoardScreen::BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared,
-                         const std::string& notice)
+BoardScreen::BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared)
     : Screen{"frmPoolMain", "Tallyhoop"},
       BracketPanel{this},
       PlayerStrip{this, [this] { unsaved = true; }, [this] { unmarkPicks(); }},
@@ -26,7 +25,6 @@ BoardScreen::BoardScreen(const DataFolder& folder, const ui::Platform& platform,
       m_screens{screens},
       m_shared{shared}
 {
-    status = notice;
     focused = &txtPlayerInitials;
 }
 
@@ -76,7 +74,7 @@ void BoardScreen::beginUnmarked()
     m_resultsThere = resultsExist();
     unsaved = false;
     m_history.clear();
-    m_news.clear();
+    say({});
 }
 
 const Verdicts* BoardScreen::shownVerdicts() const
@@ -118,7 +116,7 @@ void BoardScreen::showState()
     txtPointScore.text = scoreText(m_score);
     enableMenus(now);
     document = documentName();
-    hint = m_news.empty() ? whatToDo() : m_news;
+    explanation = whatToDo();
 }
 
 std::string BoardScreen::documentName() const
@@ -213,7 +211,7 @@ void BoardScreen::restore(const BoardSnapshot& board)
         return;
     m_resultsMode = board.resultsMode;
     m_resultsThere = resultsExist();
-    m_news.clear();
+    say({});
 }
 
 bool BoardScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)

@@ -39,9 +39,7 @@ public:
         std::optional<Verdicts>& listedVerdicts; ///< of the player chosen in the list of scores, whose picks are marked
     };
 
-    /// @param notice a sentence for the status line; empty = none
-    BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared,
-                const std::string& notice = {});
+    BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared);
 
     // What happens on the bracket.
     void pressPosition(Position position, MouseButton button);
@@ -137,7 +135,6 @@ private:
     bool m_resultsMode = false;         ///< the board holds the results
     bool m_resultsThere = false;        ///< a results file was there when it was last looked for
     bool m_demo = false;
-    std::string m_news; ///< what the last command has done; empty = the hint says what to do
 
     std::optional<Drag> m_drag;
     BoardHistory m_history;

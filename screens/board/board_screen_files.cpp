@@ -39,7 +39,6 @@ void BoardScreen::newSelection()
     leaveScoreList();
     const BoardSnapshot before = snapshot();
     BoardHistory history = m_history;
-    status.clear();
     loadBoard();
     // The load forgets the past; a person who chose New by mistake wants it back.
     m_history = std::move(history);
@@ -62,7 +61,7 @@ void BoardScreen::showSelection(const std::filesystem::path& file)
     showEntry(readEntry(file));
     m_openedFile = file;
     beginUnmarked();
-    m_news = "Opened " + shown(file.filename()) + ".";
+    say("Opened " + shown(file.filename()) + ".");
 }
 
 /// Reads a selection or the results to be shown: from now on nobody else's change of the file is overwritten unasked.
@@ -117,7 +116,7 @@ void BoardScreen::saveResults()
     if (!writeEntry(m_folder.pathTo(file_name::kResults)))
         return;
     m_history.boardWasSaved(m_sheet, m_openedFile);
-    m_news = "The results are saved.";
+    say("The results are saved.");
 }
 
 bool BoardScreen::writeSelection(const std::filesystem::path& file, SaveKind kind)
@@ -128,8 +127,8 @@ bool BoardScreen::writeSelection(const std::filesystem::path& file, SaveKind kin
     m_history.boardWasSaved(m_sheet, m_openedFile);
     m_shared.savedPlayer = SavedPlayer{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};
     const bool scored = isSameFile(file, m_folder.folder() / file.filename());
-    m_news = "Saved " + shown(file.filename()) +
-             (scored ? "." : ". Only files in the program's folder are scored; this one is elsewhere.");
+    say("Saved " + shown(file.filename()) +
+        (scored ? "." : ". Only files in the program's folder are scored; this one is elsewhere."));
     return true;
 }
 
@@ -153,7 +152,6 @@ void BoardScreen::enterGameResults()
         showEntry(completedResults(readEntry(file), m_shared.field));
     } else {
         m_known.note(file);
-        status.clear();
         loadBoard();
         showEntry(newResults(m_shared.field));
     }
@@ -195,13 +193,13 @@ void BoardScreen::markPicks()
     }
     m_verdicts = score->verdicts;
     m_score = ShownScore{score->points, score->maxPoints};
-    m_news = "Green = right, red X wrong; picks that are still open stay blue.";
+    say("Green = right, red X wrong; picks that are still open stay blue.");
 }
 
 void BoardScreen::unmarkPicks()
 {
     m_verdicts.reset();
-    m_news.clear();
+    say({});
 }
 
 void BoardScreen::showScored(const std::filesystem::path& file)

@@ -9,7 +9,7 @@ BracketPanel::BracketPanel(ui::Screen* owner) : m_owner{owner}
 {
     for (std::size_t i = 0; i < kRoundNames.size(); ++i) {
         lblRoundName[i].text = kRoundNames.at(i);
-        pointsLabel(i).spokenHint = spokenPayoff(roundOfCaption(i));
+        pointsLabel(i).explanation = spokenPayoff(roundOfCaption(i)) + ".";
     }
     for (const TeamRow row : allTeamRows()) {
         txtSeed[row].locked = true;

@@ -74,6 +74,8 @@ EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform,
     cmdUseList.explanation = cmdUseList.toolTip + ".";
     lstPlayerNames.explanation = "A double click, or Enter in the box above, adds the player's address.";
     lstTo.explanation = "Who gets the message.";
+    lstPlayerNames.emptyNote = "No players to choose from.";
+    lstTo.emptyNote = "No address yet: press Enter on a player, or type an address.";
     cmdDelete.explanation = "Takes the selected address out again.";
     txtSubject.explanation = "The message's subject.";
     txtMessage.explanation = "What the message says; the reports are attached to it.";

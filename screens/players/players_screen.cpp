@@ -78,6 +78,7 @@ void PlayersScreen::explainControls()
     txtFileName.explanation = "The player's selection file.";
     txtEmail.explanation = "Where reports are sent.";
     txtPhone.explanation = "Shown in the list and in the Player Listing.";
+    lstNames.emptyNote = "No players yet. The list opens by itself whenever a new selection has been saved.";
     lstNames.explanation = "Select a player to see the record in the boxes above.";
     cmdAdd.explanation = "Adds what is in the boxes as a new player, saves the list and closes it.";
     cmdChange.explanation = "Puts what is in the boxes into the selected row.";

@@ -89,6 +89,7 @@ void ReportsScreen::explainControls()
     cmdDefaultPrinter.explanation = "Press to change: the default printer, or one that you choose for each report.";
     cmdPreview.explanation = "Shows the ticked reports as they will be printed.";
     cmdSavePdf.explanation = "Saves each ticked report as a PDF file.";
+    filList.emptyNote = "No selections saved yet.";
     filList.explanation = "The player whose scored bracket is printed.";
     cmdSelectedPrintouts.explanation = "Prints the chosen sheet and goes back to the board.";
     cmdPreviewBoard.explanation = "Shows the board as it will be printed.";

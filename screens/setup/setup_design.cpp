@@ -42,13 +42,13 @@ void arrangeMenus(SetupScreen& setup)
     setup.mnuHelp.children = {&setup.mnuHelpDisplay, &setup.mnuHelpAbout};
     setup.menuBar = {&setup.mnuFile, &setup.mnuOptions, &setup.mnuDemo, &setup.mnuHelp};
 
-    setup.mnuSaveStartingField.icon = "save";
-    setup.mnuEnd.icon = "exit";
-    setup.mnuSeating.icon = "seeds";
-    setup.mnuDemoSet.icon = "demo";
-    setup.mnuDemoReset.icon = "reset";
-    setup.mnuHelpDisplay.icon = "help";
-    setup.mnuHelpAbout.icon = "about";
+    setup.mnuSaveStartingField.icon = ui::MenuIcon::Save;
+    setup.mnuEnd.icon = ui::MenuIcon::Exit;
+    setup.mnuSeating.icon = ui::MenuIcon::Seeds;
+    setup.mnuDemoSet.icon = ui::MenuIcon::Demo;
+    setup.mnuDemoReset.icon = ui::MenuIcon::Reset;
+    setup.mnuHelpDisplay.icon = ui::MenuIcon::Help;
+    setup.mnuHelpAbout.icon = ui::MenuIcon::About;
 
     setup.mnuSaveStartingField.explanation = "Saves everything on this screen but the list of team names.";
     setup.mnuEnd.explanation = "Goes back to the board; what was not saved is dropped.";
@@ -84,6 +84,7 @@ void designList(SetupScreen& setup)
 {
     setup.lstTeamNames.background = kLightGreen;
     setup.lstTeamNames.spokenName = "Team names";
+    setup.lstTeamNames.emptyNote = "There is no list of team names.";
     setup.lstTeamNames.explanation = "Enter puts the selected name into the green box.";
     setup.cmdAddName.explanation = "Adds a team to the list of names.";
     setup.cmdChangeName.explanation = "Changes the selected name of the list.";

@@ -22,29 +22,17 @@ constexpr const char* kCaption = "Define Starting Field & Options";
 constexpr const char* kOverrideCaption = "Override &Selecting Team Names";
 constexpr const char* kSelectingCaption = "Continue &Selecting";
 
+constexpr const char* kBetweenSentences = "  ";
 constexpr const char* kSavedStatus = "There are no unsaved changes.";
 constexpr const char* kUnsavedStatus = "There are changes that are not saved yet.";
 constexpr const char* kFinalizeStatus = "Finalize Tournament takes effect with File, Save.";
 constexpr const char* kNoListStatus =
     "There is no list of team names: choose Override Selecting Team Names to type them.";
 
-void say(std::string& status, std::string_view sentence)
-{
-    if (!status.empty())
-        status += "  ";
-    status += sentence;
-}
-
 } // namespace
 
-SetupScreen::SetupScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, Field& field,
-                         std::string notice)
-    : Screen{"frmPoolEntry", kCaption},
-      m_folder{folder},
-      m_platform{platform},
-      m_screens{screens},
-      m_field{field},
-      m_notice{std::move(notice)}
+SetupScreen::SetupScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, Field& field)
+    : Screen{"frmPoolEntry", kCaption}, m_folder{folder}, m_platform{platform}, m_screens{screens}, m_field{field}
 {
     design(*this);
     lstTeamNames.pressed = [this] { m_picker.listPressed(); };
@@ -154,15 +142,12 @@ void SetupScreen::showExplanations()
 
 void SetupScreen::showStatus()
 {
-    status.clear();
-    if (!m_editor.isRead())
-        say(status, kNoListStatus);
     // Never empty: a line that comes and goes would move everything above it.
-    say(status, fieldOnScreen() == m_saved ? kSavedStatus : kUnsavedStatus);
+    status = fieldOnScreen() == m_saved ? kSavedStatus : kUnsavedStatus;
+    if (!m_editor.isRead())
+        status = std::string{kNoListStatus} + kBetweenSentences + status;
     if (m_isFinalizing)
-        say(status, kFinalizeStatus);
-    if (!m_notice.empty())
-        say(status, m_notice);
+        status += std::string{kBetweenSentences} + kFinalizeStatus;
 }
 
 // The sample field is there to be looked at: the help on demo mode says what can and cannot be done with it.
@@ -223,20 +208,20 @@ void SetupScreen::startDemoMode()
 
 void SetupScreen::resetDemoMode()
 {
-    if (const std::optional<std::string> notice = leaveDemo(m_folder, m_platform))
-        reload(*notice);
+    if (const std::optional<std::string> news = leaveDemo(m_folder, m_platform))
+        reload(*news);
 }
 
-void SetupScreen::reload(const std::string& notice)
+void SetupScreen::reload(const std::string& news)
 {
     if (!m_editor.saveChanges()) {
         // Names that could not be written stay here, beside the pool that is there now.
-        m_notice = notice;
         readPool();
+        say(news);
         return;
     }
     m_screens.unload(ScreenKind::Setup);
-    m_screens.load(ScreenKind::Setup, notice);
+    m_screens.load(ScreenKind::Setup, news);
 }
 
 void SetupScreen::showHelpText() { showHelp(m_folder, m_platform, helpTopic()); }

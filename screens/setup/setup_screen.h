@@ -20,10 +20,8 @@ namespace tallyhoop {
 class SetupScreen : public ui::Screen
 {
 public:
-    /// @param field  the open field; read again when the screen is loaded, and not changed by what is entered here
-    /// @param notice a sentence for the status line; empty = none
-    SetupScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, Field& field,
-                std::string notice = {});
+    /// @param field the open field; read again when the screen is loaded, and not changed by what is entered here
+    SetupScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, Field& field);
 
     // In reading order; the tab order differs from it because Tab goes through all team boxes first.
     ui::Label lblDemoMode{this, "lblDemoMode", "Demonstration Mode"};
@@ -95,14 +93,13 @@ private:
     void leave();
     void startDemoMode();
     void resetDemoMode();
-    void reload(const std::string& notice);
+    void reload(const std::string& news);
     void showHelpText();
 
     const DataFolder& m_folder;
     ui::Platform m_platform;
     Screens& m_screens;
     Field& m_field;
-    std::string m_notice; ///< what the screen that was here before left to be said
 
     KnownFiles m_known;          ///< the field as it was read
     Field m_saved;               ///< what the screen held when it was loaded or saved last

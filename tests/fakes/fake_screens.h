@@ -15,17 +15,17 @@ class FakeScreens : public Screens
 {
 public:
     std::vector<ScreenKind> loads;
-    std::vector<std::string> notices; ///< one for each load
+    std::vector<std::string> news; ///< one for each load
     std::vector<ScreenKind> unloads;
     std::vector<ScreenKind> raised;
     std::set<ScreenKind> open;
     bool ended = false;
     std::function<void(ScreenKind)> whenLoaded; ///< what a modal screen does
 
-    void load(ScreenKind kind, const std::string& notice) override
+    void load(ScreenKind kind, const std::string& said) override
     {
         loads.push_back(kind);
-        notices.push_back(notice);
+        news.push_back(said);
         open.insert(kind);
         if (whenLoaded)
             whenLoaded(kind);

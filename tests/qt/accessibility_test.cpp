@@ -29,7 +29,7 @@ protected:
     Accessibility()
     {
         EXPECT_TRUE(demo::installSamplePool(folder));
-        registerScreens(host, folder, platform.services, shared);
+        wireScreens(host, desk, folder, platform.services, shared);
         frame.resize(1366, 768 - kDesktop);
         frame.show();
         host.load(ScreenKind::Board);

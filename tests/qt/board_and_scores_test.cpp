@@ -22,7 +22,7 @@ protected:
     BoardAndScores()
     {
         EXPECT_TRUE(demo::installSamplePool(folder));
-        registerScreens(host, folder, platform.services, shared);
+        wireScreens(host, desk, folder, platform.services, shared);
         frame.open();
         host.load(ScreenKind::Board);
         desk.runInside(board(), [this] { board().enterGameResults(); });

@@ -37,7 +37,7 @@ protected:
     HostileNamesOnScreens()
     {
         putPool();
-        registerScreens(host, folder, platform.services, shared);
+        wireScreens(host, desk, folder, platform.services, shared);
         frame.resize(1200, 800);
         frame.show();
         host.load(ScreenKind::Board);

@@ -57,7 +57,7 @@ protected:
     HostileNamesPasted()
     {
         EXPECT_TRUE(demo::installSamplePool(folder));
-        registerScreens(host, folder, platform.services, shared);
+        wireScreens(host, desk, folder, platform.services, shared);
         frame.resize(1366, 708);
         frame.show();
         host.load(ScreenKind::Board);

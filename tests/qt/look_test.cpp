@@ -132,15 +132,16 @@ TEST(Look, MenuIconsAreDrawnInThePalettesTextColour)
     QPalette dark = before;
     dark.setColor(QPalette::WindowText, QColor{0xee, 0xee, 0xee});
     QApplication::setPalette(dark);
-    const QImage drawn = look::menuIcon("open").pixmap(64, 64).toImage();
+    const QImage drawn = look::menuIcon(ui::MenuIcon::Open).pixmap(64, 64).toImage();
     QApplication::setPalette(before);
     EXPECT_GT(paintedPixels(drawn, QColor(0xee, 0xee, 0xee)), 100);
 }
 
-TEST(Look, AnUnknownMenuIconIsNone)
+TEST(Look, EveryMenuIconIsThereAndNoneIsNone)
 {
-    EXPECT_TRUE(look::menuIcon("no such icon").isNull());
-    EXPECT_TRUE(look::menuIcon("").isNull());
+    EXPECT_TRUE(look::menuIcon(ui::MenuIcon::None).isNull());
+    for (auto icon = static_cast<int>(ui::MenuIcon::None) + 1; icon <= static_cast<int>(ui::MenuIcon::Undo); ++icon)
+        EXPECT_FALSE(look::menuIcon(static_cast<ui::MenuIcon>(icon)).isNull()) << icon;
 }
 
 TEST(Look, TheProgramHasAnIcon)

@@ -172,14 +172,31 @@ TEST(PageGrid, TheKeyboardPressesCellsAndMovesColumns)
     EXPECT_EQ(shown.page.scores->currentIndex().column(), 0);
 }
 
+TEST(PageGrid, TheCurrentCellIsKeptInSyncBothWays)
+{
+    Gridded shown;
+    shown.page.scores->setCurrentIndex(shown.page.scores->model()->index(1, 2));
+    shown.desk.run(shown.screen, [] {});
+    EXPECT_EQ(shown.screen.grdScores.current, (ui::GridCell{1, 2}));
+    shown.desk.run(shown.screen, [&] { shown.screen.grdScores.current = ui::GridCell{0, 1}; });
+    EXPECT_EQ(shown.page.scores->currentIndex(), shown.page.scores->model()->index(0, 1));
+    shown.desk.run(shown.screen, [&] { ++shown.screen.grdScores.revision; }); // shown anew
+    EXPECT_EQ(shown.page.scores->currentIndex(), shown.page.scores->model()->index(0, 1));
+}
+
 TEST(EmptyNote, IsVisibleWhileThereAreNoRows)
 {
     Shown shown;
-    auto* const inList = new EmptyNote{QStringLiteral("Nobody <yet> & nothing"), *shown.page.rows};
-    auto* const inTable = new EmptyNote{QStringLiteral("No scores"), *shown.page.scores};
-    EXPECT_TRUE(inList->isVisibleTo(shown.page.rows));
-    EXPECT_TRUE(inTable->isVisibleTo(shown.page.scores));
+    shown.desk.run(shown.screen, [&] {
+        shown.screen.lstRows.emptyNote = "Nobody <yet> & nothing";
+        shown.screen.grdScores.emptyNote = "No scores";
+    });
+    auto* const inList = shown.page.rows->findChild<EmptyNote*>();
+    auto* const inTable = shown.page.scores->findChild<EmptyNote*>();
+    EXPECT_TRUE(inList->isVisible());
+    EXPECT_TRUE(inTable->isVisible());
     EXPECT_EQ(inList->textFormat(), Qt::PlainText);
+    EXPECT_EQ(inList->text(), QStringLiteral("Nobody <yet> & nothing"));
     EXPECT_EQ(inList->size(), shown.page.rows->viewport()->size());
 
     shown.desk.run(shown.screen, [&] {
@@ -188,16 +205,20 @@ TEST(EmptyNote, IsVisibleWhileThereAreNoRows)
         shown.screen.grdScores.rows = {{"80"}};
         ++shown.screen.grdScores.revision;
     });
-    EXPECT_FALSE(inList->isVisibleTo(shown.page.rows));
-    EXPECT_FALSE(inTable->isVisibleTo(shown.page.scores));
+    EXPECT_FALSE(inList->isVisible());
+    EXPECT_FALSE(inTable->isVisible());
 
-    inList->say(QStringLiteral("All have left"));
-    EXPECT_FALSE(inList->isVisibleTo(shown.page.rows)) << "there is a row now";
+    shown.desk.run(shown.screen, [&] { shown.screen.lstRows.emptyNote = "All have left."; });
+    EXPECT_FALSE(inList->isVisible()) << "there is a row now";
+    EXPECT_EQ(shown.page.rows->accessibleDescription(), QString{});
     shown.desk.run(shown.screen, [&] { shown.screen.lstRows.rows.clear(); });
-    EXPECT_TRUE(inList->isVisibleTo(shown.page.rows));
-    EXPECT_EQ(inList->text(), QStringLiteral("All have left"));
-    EXPECT_TRUE(shown.page.rows->accessibleDescription().startsWith(QStringLiteral("All have left ")));
-    inList->say(QStringLiteral("Nobody"));
-    EXPECT_TRUE(shown.page.rows->accessibleDescription().startsWith(QStringLiteral("Nobody ")));
-    EXPECT_FALSE(shown.page.rows->accessibleDescription().contains(QStringLiteral("All have left")));
+    EXPECT_TRUE(inList->isVisible());
+    EXPECT_EQ(inList->text(), QStringLiteral("All have left."));
+    EXPECT_TRUE(shown.page.rows->accessibleDescription().startsWith(QStringLiteral("All have left.")));
+}
+
+TEST(EmptyNote, IsNotThereWithoutAText)
+{
+    Shown shown;
+    EXPECT_FALSE(shown.page.rows->findChild<EmptyNote*>()->isVisible());
 }

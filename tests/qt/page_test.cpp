@@ -46,7 +46,7 @@ TEST(Page, ShowsWhatACommandChanged)
         shown.screen.txtOther.visible = false;
         shown.screen.txtName.toolTip = "<i>tip</i>";
         shown.screen.txtName.spokenName = "Name";
-        shown.screen.txtName.spokenHint = "of the player";
+        shown.screen.txtName.explanation = "of the player";
     });
     EXPECT_EQ(shown.page.title->text(), QStringLiteral("<b>A&M</b>"));
     EXPECT_EQ(shown.page.title->textFormat(), Qt::PlainText);

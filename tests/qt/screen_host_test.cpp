@@ -16,29 +16,29 @@ namespace {
 struct Program {
     Program()
     {
-        add(ScreenKind::Board, Placement::Stacked);
-        add(ScreenKind::Reports, Placement::Stacked);
-        add(ScreenKind::Scores, Placement::OwnWindow);
-        add(ScreenKind::Seeds, Placement::Modal);
+        host.make = [this](ScreenKind kind) { return make(kind); };
         host.ended = [this] { ended = true; };
         frame.open();
     }
 
-    void add(ScreenKind kind, Placement placement)
+    MadeScreen make(ScreenKind kind)
     {
-        host.registerScreen<SampleScreen>(
-            kind, placement,
-            [this](const std::string& notice) {
-                lastNotice = notice;
-                return std::make_unique<SampleScreen>();
-            },
-            [](SampleScreen& screen, Desk& onDesk) { return std::make_unique<SamplePage>(screen, onDesk); });
+        if (kind == ScreenKind::Scores)
+            return madeOf(Placement::OwnWindow, std::make_unique<SampleScreen>());
+        if (kind == ScreenKind::Seeds)
+            return madeOf(Placement::Modal, std::make_unique<SampleScreen>());
+        return madeOf(Placement::Stacked, std::make_unique<SampleScreen>());
+    }
+
+    MadeScreen madeOf(Placement placement, std::unique_ptr<SampleScreen> screen)
+    {
+        auto page = std::make_unique<SamplePage>(*screen, desk);
+        return {placement, std::move(screen), std::move(page)};
     }
 
     SampleScreen& screen(ScreenKind kind) { return *host.find<SampleScreen>(kind); }
     SamplePage& page(ScreenKind kind) { return static_cast<SamplePage&>(*host.page(kind)); }
 
-    std::string lastNotice;
     bool ended = false;
     Desk desk;
     MainFrame frame;
@@ -50,14 +50,29 @@ struct Program {
 TEST(ScreenHost, ShowsAStackedScreenInTheFrameAfterItsLoad)
 {
     Program program;
-    program.host.load(ScreenKind::Board, "A sentence.");
-    EXPECT_EQ(program.lastNotice, "A sentence.");
+    program.host.load(ScreenKind::Board);
     EXPECT_EQ(program.screen(ScreenKind::Board).log, std::vector<std::string>{"load"});
     EXPECT_EQ(program.frame.visiblePage(), program.host.page(ScreenKind::Board));
     EXPECT_TRUE(program.page(ScreenKind::Board).isVisible());
     EXPECT_FALSE(program.page(ScreenKind::Board).isWindow());
     activate(program.frame);
     EXPECT_TRUE(program.page(ScreenKind::Board).name->hasFocus());
+}
+
+TEST(ScreenHost, AFreshScreenSaysWhatItWasGivenToSayAfterItsLoad)
+{
+    class Silent : public SampleScreen
+    {
+        void load() override { say({}); }
+    };
+    Program program;
+    program.host.make = [&](ScreenKind) { return program.madeOf(Placement::Stacked, std::make_unique<Silent>()); };
+    program.host.load(ScreenKind::Board, "A sentence.");
+    EXPECT_EQ(program.screen(ScreenKind::Board).news().text, "A sentence.");
+    EXPECT_EQ(program.page(ScreenKind::Board).findChild<QLabel*>(QStringLiteral("explanation"))->text(),
+              QStringLiteral("A sentence."));
+    program.host.load(ScreenKind::Board, "Another."); // is there, and only comes to the front
+    EXPECT_EQ(program.screen(ScreenKind::Board).news().text, "A sentence.");
 }
 
 TEST(ScreenHost, APageEnteringTheFrameKeepsTheFocusItsScreenChose)
@@ -67,11 +82,9 @@ TEST(ScreenHost, APageEnteringTheFrameKeepsTheFocusItsScreenChose)
         void load() override { focused = &txtOther; } // not the first in the tab order
     };
     Program program;
-    program.host.registerScreen<SampleScreen>(
-        ScreenKind::Reports, Placement::Stacked, [](const std::string&) { return std::make_unique<Chooser>(); },
-        [](SampleScreen& screen, Desk& onDesk) { return std::make_unique<SamplePage>(screen, onDesk); });
     activate(program.frame);
     program.host.load(ScreenKind::Board);
+    program.host.make = [&](ScreenKind) { return program.madeOf(Placement::Stacked, std::make_unique<Chooser>()); };
     program.host.load(ScreenKind::Reports);
     EXPECT_TRUE(program.page(ScreenKind::Reports).other->hasFocus());
     EXPECT_EQ(program.screen(ScreenKind::Reports).focused, &program.screen(ScreenKind::Reports).txtOther);
@@ -164,10 +177,9 @@ TEST(ScreenHost, AModalScreenThatUnloadsItselfWhileLoadingIsNeverShown)
     private:
         Screens& m_screens;
     };
-    program.host.registerScreen<Refusing>(
-        ScreenKind::Email, Placement::Modal,
-        [&](const std::string&) { return std::make_unique<Refusing>(program.host); },
-        [](Refusing& screen, Desk& desk) { return std::make_unique<SamplePage>(screen, desk); });
+    program.host.make = [&](ScreenKind) {
+        return program.madeOf(Placement::Modal, std::make_unique<Refusing>(program.host));
+    };
     program.host.load(ScreenKind::Email);
     EXPECT_FALSE(program.host.isLoaded(ScreenKind::Email));
 }
@@ -188,10 +200,9 @@ TEST(ScreenHost, ClosingTheFrameUnloadsEverythingLastLoadedFirst)
         Screens& m_screens;
     };
     std::vector<std::string> order;
-    program.host.registerScreen<Order>(
-        ScreenKind::Players, Placement::Stacked,
-        [&](const std::string&) { return std::make_unique<Order>(order, program.host); },
-        [](Order& screen, Desk& desk) { return std::make_unique<SamplePage>(screen, desk); });
+    program.host.make = [&](ScreenKind) {
+        return program.madeOf(Placement::Stacked, std::make_unique<Order>(order, program.host));
+    };
     program.host.load(ScreenKind::Players);
     program.frame.close();
     EXPECT_EQ(order, std::vector<std::string>{"first"});

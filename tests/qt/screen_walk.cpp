@@ -217,8 +217,7 @@ QStringList ScreenWalk::undescribedControls() const
         return undescribed;
     for (const ui::Control* control : m_page->screen().controls()) {
         const QWidget* widget = m_page->widgetOf(*control);
-        if (widget && widget->isVisible() && hasWaysOfItsOwn(*control, *widget) && control->spokenHint.empty() &&
-            control->explanation.empty())
+        if (widget && widget->isVisible() && hasWaysOfItsOwn(*control, *widget) && control->explanation.empty())
             undescribed << walkedName(*widget);
     }
     return undescribed;

@@ -132,8 +132,8 @@ TEST(ScreenWalk, FindsControlsWithoutANecessaryDescription)
     faulty.screen.lstRows.doubleClicked = [] {};
     faulty.screen.grdScores.cellPressed = [](std::size_t, std::size_t) {};
     EXPECT_EQ(joined(faulty.walk().undescribedControls()), "lstRows\ngrdScores");
-    faulty.screen.lstRows.spokenHint = "Enter opens the row.";
-    faulty.screen.grdScores.spokenHint = "Space marks the row.";
+    faulty.screen.lstRows.explanation = "Enter opens the row.";
+    faulty.screen.grdScores.explanation = "Space marks the row.";
     EXPECT_EQ(joined(faulty.walk().undescribedControls()), "");
 }
 

@@ -49,7 +49,7 @@ TEST_F(BoardExitsTest, DemoModeIsShownOnAFreshBoard)
     platform.programs.whenStarted = [this] { scratch.put("TALLYHOOP.INI", "1\r\n"); };
     expectThatTheListOfScoresWasClosedBefore(ScreenKind::Board, [this] { exits.toDemo(); });
     EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::Scores, ScreenKind::Board));
-    EXPECT_THAT(screens.notices, ElementsAre(""));
+    EXPECT_THAT(screens.news, ElementsAre(""));
 }
 
 TEST_F(BoardExitsTest, NothingIsClosedForADemoThatIsNotWanted)
@@ -68,7 +68,7 @@ TEST_F(BoardExitsTest, AFreshBoardSaysWhereChangesMadeInDemoModeAreKept)
     scratch.put("TALLYHOOP.THS", "my results");
     expectThatTheListOfScoresWasClosedBefore(ScreenKind::Board, [this] { exits.fromDemo(); });
     EXPECT_THAT(
-        screens.notices,
+        screens.news,
         ElementsAre("", "Files that you changed in demo mode are kept in the folder Backup 2001-03-05 101530."));
 }
 

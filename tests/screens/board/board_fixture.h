@@ -60,10 +60,10 @@ protected:
     /// Results without a winner.
     void putNoResultsYet() { putSelection(file_name::kResults, emptyBracket("A", "FinalResults", "")); }
 
-    BoardScreen& load(const std::string& notice = {})
+    BoardScreen& load()
     {
         board = std::make_unique<BoardScreen>(folder, platform.services, screens,
-                                              BoardScreen::Shared{field, savedPlayer, listedVerdicts}, notice);
+                                              BoardScreen::Shared{field, savedPlayer, listedVerdicts});
         board->load();
         board->showState();
         return *board;

@@ -257,7 +257,7 @@ TEST_F(BoardScreenFiles, ASaveElsewhereSaysThatOnlyTheFolderIsScored)
     platform.dialogs.pick(elsewhere.path() / "Smith_JS.THC");
     save();
     EXPECT_TRUE(elsewhere.has("Smith_JS.THC"));
-    EXPECT_NE(board->hint.find("Only files in the program's folder are scored"), std::string::npos);
+    EXPECT_NE(board->news().text.find("Only files in the program's folder are scored"), std::string::npos);
 }
 
 TEST_F(BoardScreenFiles, OpenShowsTheFileAndUnlocksTheFields)
@@ -277,7 +277,7 @@ TEST_F(BoardScreenFiles, OpenShowsTheFileAndUnlocksTheFields)
     EXPECT_TRUE(board->mnuGameResults.enabled);
     EXPECT_TRUE(board->mnuScoreSelections.enabled);
     EXPECT_EQ(board->document, "Smith_JS.THC");
-    EXPECT_EQ(board->hint, "Opened Smith_JS.THC.");
+    EXPECT_EQ(board->news().text, "Opened Smith_JS.THC.");
 }
 
 TEST_F(BoardScreenFiles, CancellingTheOpenDialogChangesNothing)
@@ -400,7 +400,7 @@ TEST_F(BoardScreenFiles, ResultsAreSavedUnderTheirFixedNameWithoutAQuestion)
     EXPECT_EQ(saved("TALLYHOOP.THS").initials, "A");
     EXPECT_FALSE(board->unsaved);
     EXPECT_FALSE(savedPlayer);
-    EXPECT_EQ(board->hint, "The results are saved.");
+    EXPECT_EQ(board->news().text, "The results are saved.");
 }
 
 } // namespace tallyhoop::test

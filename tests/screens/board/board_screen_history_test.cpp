@@ -136,7 +136,8 @@ TEST_F(BoardScreenHistory, UndoingNewComesBackToResultsMode)
     EXPECT_FALSE(board->mnuGameResults.enabled);
     EXPECT_TRUE(board->mnuScoreSelections.enabled);
     EXPECT_EQ(at(16), "R1T0");
-    EXPECT_EQ(board->hint, "Game results: click the real winners forward and save.");
+    EXPECT_EQ(board->news().text, "");
+    EXPECT_EQ(board->explanation, "Game results: click the real winners forward and save.");
 }
 
 TEST_F(BoardScreenHistory, ComingBackToResultsModeSaysWhatToDoThere)
@@ -147,12 +148,13 @@ TEST_F(BoardScreenHistory, ComingBackToResultsModeSaysWhatToDoThere)
     fill("JS", "Smith", "150");
     click(0);
     saveAs(scratch.path() / "Smith_JS.THC");
-    ASSERT_EQ(board->hint, "Saved Smith_JS.THC.");
+    ASSERT_EQ(board->news().text, "Saved Smith_JS.THC.");
     undo();
-    EXPECT_EQ(board->hint, "Saved Smith_JS.THC.");
+    EXPECT_EQ(board->news().text, "Saved Smith_JS.THC.");
     undo();
     ASSERT_TRUE(resultsMode());
-    EXPECT_EQ(board->hint, "Game results: click the real winners forward and save.");
+    EXPECT_EQ(board->news().text, "");
+    EXPECT_EQ(board->explanation, "Game results: click the real winners forward and save.");
 }
 
 TEST_F(BoardScreenHistory, UndoAfterASaveOfTheResultsIsUnsavedWork)

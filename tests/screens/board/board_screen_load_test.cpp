@@ -169,21 +169,22 @@ TEST_F(BoardScreenLoad, OffersTheWayBackAsLongAsDemoModeIsOn)
     EXPECT_TRUE(board->lblDemoMode.visible);
 }
 
-TEST_F(BoardScreenLoad, SaysTheNoticeThatItIsGivenUntilABoardIsBegun)
+TEST_F(BoardScreenLoad, KeepsWhatItWasGivenToSayUntilABoardIsBegun)
 {
-    putField(fieldOfTeams("1"));
-    load("Files that you changed in demo mode are kept in Backup.");
-    EXPECT_EQ(board->status, "Files that you changed in demo mode are kept in Backup.");
+    loadFinalized();
+    board->say("Files that you changed in demo mode are kept in Backup.");
+    board->showState();
+    EXPECT_EQ(board->news().text, "Files that you changed in demo mode are kept in Backup.");
     board->mnuNewSelection.click();
-    EXPECT_EQ(board->status, "");
+    EXPECT_EQ(board->news().text, "");
 }
 
 TEST_F(BoardScreenLoad, SaysWhatToDo)
 {
     load();
-    EXPECT_EQ(board->hint, "The field is not finalized yet: see Setup, Setup Pool Options.");
+    EXPECT_EQ(board->explanation, "The field is not finalized yet: see Setup, Setup Pool Options.");
     loadFinalized();
-    EXPECT_EQ(board->hint, "Click the winners forward, then enter initials, name and the final's total points.");
+    EXPECT_EQ(board->explanation, "Click the winners forward, then enter initials, name and the final's total points.");
     EXPECT_EQ(board->document, "");
     EXPECT_FALSE(board->unsaved);
     EXPECT_EQ(board->focused, &board->txtPlayerInitials);

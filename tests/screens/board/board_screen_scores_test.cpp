@@ -351,7 +351,7 @@ TEST_F(BoardScreenScores, EnteringDemoModeReloadsTheBoard)
     board->mnuDemoSet.click();
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
     EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
-    EXPECT_EQ(screens.notices, std::vector{std::string{}});
+    EXPECT_EQ(screens.news, std::vector{std::string{}});
 }
 
 TEST_F(BoardScreenScores, ADemoThatDidNotComeReloadsTheBoardToo)
@@ -373,7 +373,7 @@ TEST_F(BoardScreenScores, LeavingDemoModeAsksNothingAndReloadsTheBoard)
     EXPECT_FALSE(scratch.has(file_name::kSettings));
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
     EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
-    EXPECT_EQ(screens.notices,
+    EXPECT_EQ(screens.news,
               std::vector<std::string>{
                   "Files that you changed in demo mode are kept in the folder Backup 2001-03-05 101530."});
 }

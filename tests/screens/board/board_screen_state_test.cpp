@@ -19,7 +19,7 @@ std::string shownOf(const ui::Control& control)
 {
     std::ostringstream text;
     text << control.name << '|' << control.enabled << control.visible << control.tabStop << '|' << control.toolTip
-         << '|' << control.spokenName << '|' << control.explanation << '|' << control.spokenHint;
+         << '|' << control.spokenName << '|' << control.explanation;
     if (const auto* label = dynamic_cast<const ui::Label*>(&control))
         text << '|' << label->text << '|' << shownColour(label->colour) << '|' << shownColour(label->background);
     if (const auto* box = dynamic_cast<const ui::TextBox*>(&control))
@@ -36,8 +36,9 @@ class BoardScreenState : public BoardTest
 protected:
     std::vector<std::string> everythingShown() const
     {
-        std::vector<std::string> shown{board->document, board->hint, board->status, std::to_string(board->unsaved),
-                                       board->focused->name};
+        std::vector<std::string> shown{
+            board->document,     board->explanation, board->status, board->news().text, std::to_string(board->unsaved),
+            board->focused->name};
         for (const ui::Control* control : board->controls())
             shown.push_back(shownOf(*control));
         return shown;
@@ -86,7 +87,7 @@ protected:
         for (ui::MenuEntry* entry : {&board->mnuSaveSelection, &board->mnuGameResults, &board->mnuScoreSelections,
                                      &board->mnuUndo, &board->mnuHighSeed, &board->mnuSetup, &board->mnuReports})
             entry->enabled = !entry->enabled;
-        board->document = board->hint = "scribble";
+        board->document = board->explanation = "scribble";
     }
 
     void expectThatScribblesAreGoneAfterwards()
@@ -224,7 +225,7 @@ TEST_F(BoardScreenState, AFieldThatOtherScreensChangeIsShownAtOnce)
     board->showState();
     EXPECT_EQ(board->lblTitle.text, "Another title");
     EXPECT_FALSE(board->mnuReports.enabled);
-    EXPECT_EQ(board->hint, "The field is not finalized yet: see Setup, Setup Pool Options.");
+    EXPECT_EQ(board->explanation, "The field is not finalized yet: see Setup, Setup Pool Options.");
 }
 
 } // namespace tallyhoop::test

@@ -50,11 +50,11 @@ TEST_F(BracketPanelTest, NamesRoundsAndTheirPoints)
         "2nd round:", "Regional semi:", "Regional final:", "Semi-final:",     "Final game:"};
     for (std::size_t i = 0; i < names.size(); ++i)
         EXPECT_EQ(panel.lblRoundName[i].text, names.at(i));
-    EXPECT_EQ(panel.lblInfo[0].spokenHint, "Points for a win in the first round");
-    EXPECT_EQ(panel.lblInfo[3].spokenHint, "Points for a win in the regional final");
-    EXPECT_EQ(panel.lblInfoRight[3].spokenHint, "Points for a win in the regional final");
-    EXPECT_EQ(panel.lblInfo[4].spokenHint, "Points for a win in the semi-final");
-    EXPECT_EQ(panel.lblInfo[5].spokenHint, "Points for a win in the final");
+    EXPECT_EQ(panel.lblInfo[0].explanation, "Points for a win in the first round.");
+    EXPECT_EQ(panel.lblInfo[3].explanation, "Points for a win in the regional final.");
+    EXPECT_EQ(panel.lblInfoRight[3].explanation, "Points for a win in the regional final.");
+    EXPECT_EQ(panel.lblInfo[4].explanation, "Points for a win in the semi-final.");
+    EXPECT_EQ(panel.lblInfo[5].explanation, "Points for a win in the final.");
     EXPECT_EQ(panel.lblChampion.text, "CHAMPION");
     EXPECT_EQ(panel.lblDemoMode.text, "Demonstration Mode");
 }

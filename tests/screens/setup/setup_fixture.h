@@ -33,16 +33,16 @@ protected:
 
     FakeDialogs& dialogs() { return computer.dialogs; }
 
-    SetupScreen& loaded(const std::string& notice = {})
+    SetupScreen& loaded()
     {
         if (!files.has("NCAALIST.THS"))
             files.put("NCAALIST.THS", smallTeamList());
-        return loadedAsIs(notice);
+        return loadedAsIs();
     }
 
-    SetupScreen& loadedAsIs(const std::string& notice = {})
+    SetupScreen& loadedAsIs()
     {
-        made = std::make_unique<SetupScreen>(folder, computer.services, screens, field, notice);
+        made = std::make_unique<SetupScreen>(folder, computer.services, screens, field);
         screens.open.insert(ScreenKind::Setup);
         made->load();
         settle();

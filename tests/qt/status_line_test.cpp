@@ -1,4 +1,4 @@
-// tests/qt/page_status_test.cpp - the line below a page, changed by the pointer, the focus and the screen.
+// tests/qt/status_line_test.cpp - the line below a page, changed by the pointer, the focus and the screen.
 #include "qt/sample_screen.h"
 
 #include <QApplication>
@@ -18,7 +18,7 @@ class Explained : public SampleScreen
 public:
     Explained()
     {
-        hint = "Type a name.";
+        explanation = "Type a name.";
         txtName.explanation = "Who it is.";
         txtOther.explanation = "Who else it is.";
         cmdOk.explanation = "Goes on.";
@@ -103,13 +103,64 @@ TEST_F(StatusLine, AFocusThatMovesWinsOverAPointerThatRests)
     EXPECT_EQ(shown(), QStringLiteral("Names the sample."));
 }
 
-TEST_F(StatusLine, ANewHintOfTheScreenIsShownUntilPointerOrFocusMoves)
+TEST_F(StatusLine, NewsAreShownUntilPointerOrFocusMoves)
 {
     QTest::keyClick(page.name, Qt::Key_Tab);
-    desk.run(screen, [&] { screen.hint = "It is saved."; });
+    pointerComesTo(*page.ok);
+    desk.run(screen, [&] { screen.say("It is saved."); });
+    EXPECT_EQ(shown(), QStringLiteral("It is saved.")) << "pointer and focus rest where they were";
+    pointerComesTo(*page.title);
+    EXPECT_EQ(shown(), QStringLiteral("Names the sample."));
+    pointerLeaves(*page.title);
     EXPECT_EQ(shown(), QStringLiteral("It is saved."));
     QTest::keyClick(page.other, Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(shown(), QStringLiteral("Who it is."));
+}
+
+TEST_F(StatusLine, TheSameNewsAreShownAgain)
+{
+    desk.run(screen, [&] { screen.say("It is saved."); });
+    pointerComesTo(*page.ok);
+    ASSERT_EQ(shown(), QStringLiteral("Goes on."));
+    desk.run(screen, [&] { screen.say("It is saved."); });
+    EXPECT_EQ(shown(), QStringLiteral("It is saved."));
+}
+
+TEST_F(StatusLine, NewsWinOverTheFocusThatTheSameCommandMoves)
+{
+    desk.run(screen, [&] {
+        screen.say("Not saved.");
+        screen.focused = &screen.txtOther;
+    });
+    ASSERT_TRUE(page.other->hasFocus());
+    EXPECT_EQ(shown(), QStringLiteral("Not saved."));
+    desk.run(screen, [&] { screen.focused = &screen.txtName; });
+    EXPECT_EQ(shown(), QStringLiteral("Who it is."));
+}
+
+TEST_F(StatusLine, NewsThatEndLeaveTheLineToTheScreensExplanation)
+{
+    desk.run(screen, [&] { screen.say("It is saved."); });
+    desk.run(screen, [&] { screen.say({}); });
+    EXPECT_EQ(shown(), QStringLiteral("Type a name."));
+}
+
+TEST_F(StatusLine, ANewExplanationOfTheScreenIsShownUntilPointerOrFocusMoves)
+{
+    QTest::keyClick(page.name, Qt::Key_Tab);
+    desk.run(screen, [&] { screen.explanation = "Type another name."; });
+    EXPECT_EQ(shown(), QStringLiteral("Type another name."));
+    QTest::keyClick(page.other, Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(shown(), QStringLiteral("Who it is."));
+}
+
+TEST_F(StatusLine, NewsWinOverTheScreensExplanation)
+{
+    desk.run(screen, [&] {
+        screen.say("It is saved.");
+        screen.explanation = "Type another name.";
+    });
+    EXPECT_EQ(shown(), QStringLiteral("It is saved."));
 }
 
 TEST_F(StatusLine, AnExplanationThatChangesIsShownAtOnce)
@@ -145,14 +196,14 @@ TEST_F(StatusLine, TheScreensStatusIsAlwaysShown)
 TEST_F(StatusLine, ALongSentenceDoesNotMakeTheWindowWider)
 {
     const int width = page.minimumSizeHint().width();
-    desk.run(screen, [&] { screen.hint = std::string(500, 'W'); });
+    desk.run(screen, [&] { screen.explanation = std::string(500, 'W'); });
     EXPECT_EQ(page.minimumSizeHint().width(), width);
 }
 
 TEST_F(StatusLine, IsSpokenWithTheControl)
 {
     EXPECT_EQ(page.ok->accessibleDescription(), QStringLiteral("Goes on."));
-    desk.run(screen, [&] { screen.cmdOk.spokenHint = "Goes on, slowly."; });
+    desk.run(screen, [&] { screen.cmdOk.explanation = "Goes on, slowly."; });
     EXPECT_EQ(page.ok->accessibleDescription(), QStringLiteral("Goes on, slowly."));
 }
 
