@@ -2,8 +2,6 @@
 #include "screens/board/board_screen.h"
 
 #include "base/windows1252.h"
-#include "files/file_names.h"
-#include "files/player_names_file.h"
 #include "files/settings_file.h"
 #include "files/setup_file.h"
 #include "pool/moves.h"
@@ -44,18 +42,7 @@ void BoardScreen::loadBoard()
     showEntry({startingBracket(m_shared.field), {}, {}, {}, {}});
     m_openedFile.clear();
     beginUnmarked();
-    checkPlayerList();
-}
-
-void BoardScreen::checkPlayerList()
-{
-    if (m_folder.exists(file_name::kPlayerNames)) {
-        m_playersFaulty = !playerListIsSound(m_platform.dialogs, m_folder);
-    } else if (!m_warnedAboutFolder) {
-        KnownFiles nothingKnown; // there is no file that somebody could have changed
-        m_warnedAboutFolder =
-            !saveDataFile(m_platform.dialogs, nothingKnown, m_folder, file_name::kPlayerNames, playerNamesFile({}));
-    }
+    m_files.checkPlayers();
 }
 
 void BoardScreen::showEntry(Entry entry)
@@ -71,7 +58,7 @@ void BoardScreen::beginUnmarked()
     m_verdicts.reset();
     m_score.reset();
     m_resultsMode = false;
-    m_resultsThere = resultsExist();
+    m_resultsThere = m_files.resultsExist();
     unsaved = false;
     m_history.clear();
     say({});
@@ -210,7 +197,7 @@ void BoardScreen::restore(const BoardSnapshot& board)
     if (board.resultsMode == m_resultsMode)
         return;
     m_resultsMode = board.resultsMode;
-    m_resultsThere = resultsExist();
+    m_resultsThere = m_files.resultsExist();
     say({});
 }
 
@@ -262,7 +249,7 @@ std::string BoardScreen::helpTopic() const
         return help_topic::kScores;
     if (m_resultsMode)
         return help_topic::kResults;
-    if (m_playersFaulty)
+    if (m_files.playersAreFaulty())
         return help_topic::kRepair;
     if (m_demo && m_openedFile.empty() && !unsaved)
         return help_topic::kDemo;

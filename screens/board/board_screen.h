@@ -5,7 +5,7 @@
 #pragma once
 
 #include "files/data_folder.h"
-#include "files/known_files.h"
+#include "screens/board/board_files.h"
 #include "screens/board/board_history.h"
 #include "screens/board/board_menus.h"
 #include "screens/board/bracket_panel.h"
@@ -101,7 +101,6 @@ private:
 
     // Changing.
     void loadBoard();
-    void checkPlayerList();
     void showEntry(Entry entry);
     void beginUnmarked();
     void change(const Bracket& after);
@@ -110,14 +109,11 @@ private:
     void restore(const BoardSnapshot& board);
 
     // Files.
-    bool resultsExist() const;
     void showSelection(const std::filesystem::path& file);
-    Entry readEntry(const std::filesystem::path& file);
     bool mayBeSaved();
-    void refuse(ui::TextBox& box, const char* text);
     void saveResults();
-    bool writeSelection(const std::filesystem::path& file, SaveKind kind);
-    bool writeEntry(const std::filesystem::path& file);
+    bool saveSelectionIn(const std::filesystem::path& file, SaveKind kind);
+    bool save(const std::filesystem::path& file);
     void markPicks();
     void unmarkPicks();
     void leaveScoreList() { m_screens.unload(ScreenKind::Scores); }
@@ -138,10 +134,8 @@ private:
 
     std::optional<Drag> m_drag;
     BoardHistory m_history;
-    int m_sheet = 0;                  ///< counts the boards that New began
-    KnownFiles m_known;               ///< the selections and the results that were shown or saved
-    bool m_playersFaulty = false;     ///< PLAYERNAMES.CSV has to be repaired
-    bool m_warnedAboutFolder = false; ///< a folder that cannot be written is mentioned once
+    int m_sheet = 0; ///< counts the boards that New began
+    BoardFiles m_files{m_folder, m_platform.dialogs};
 };
 
 } // namespace tallyhoop

@@ -4,7 +4,6 @@
 #include "files/file_names.h"
 #include "files/selection_file.h"
 #include "pool/entry_check.h"
-#include "pool/results.h"
 #include "screens/board/board_drawing.h"
 #include "screens/board/board_screen.h"
 #include "screens/board/selection_saving.h"
@@ -17,22 +16,9 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr const char* kNotFinalizedText =
-    "The SETUP OPTION must be completed and FINALIZED before a Pool Selection can be saved!";
-constexpr const char* kInitialsBlank = "Player Initails field is BLANK, this MUST be corrected!";
-constexpr const char* kNameBlank = "Player Name field is BLANK, this MUST be corrected!";
-constexpr const char* kPointsInvalid =
-    "Final Game - you must enter a valid prediction (between 50 & 250) for the total score of this game";
 constexpr const char* kNoResultsText = "The file TALLYHOOP.THS is not present in the application directory!";
 
-void showRefusal(ui::Dialogs& dialogs, const char* caption, const char* text)
-{
-    dialogs.show({caption, text, ui::Buttons::Ok, ui::Icon::Exclamation});
-}
-
 } // namespace
-
-bool BoardScreen::resultsExist() const { return m_folder.exists(file_name::kResults); }
 
 void BoardScreen::newSelection()
 {
@@ -58,20 +44,10 @@ void BoardScreen::openSelection()
 void BoardScreen::showSelection(const std::filesystem::path& file)
 {
     m_shared.savedPlayer.reset();
-    showEntry(readEntry(file));
+    showEntry(m_files.read(file, m_shared.field));
     m_openedFile = file;
     beginUnmarked();
     say("Opened " + shown(file.filename()) + ".");
-}
-
-/// Reads a selection or the results to be shown: from now on nobody else's change of the file is overwritten unasked.
-Entry BoardScreen::readEntry(const std::filesystem::path& file)
-{
-    m_known.note(file);
-    Read<Entry> read = readSelectionFile(file, startingBracket(m_shared.field));
-    if (read.trouble)
-        showReadingTrouble(m_platform.dialogs, file);
-    return std::move(read.value);
 }
 
 void BoardScreen::saveSelection()
@@ -84,77 +60,59 @@ void BoardScreen::saveSelection()
     }
     const bool isNew = m_openedFile.empty();
     const std::optional<SaveTarget> target = askWhereToSave(m_platform.dialogs, m_folder, typed(), m_openedFile);
-    if (target && writeSelection(target->file, target->kind) && isNew)
+    if (target && saveSelectionIn(target->file, target->kind) && isNew)
         m_screens.load(ScreenKind::Players);
 }
 
 bool BoardScreen::mayBeSaved()
 {
     if (!m_shared.field.isFinalized()) {
-        showRefusal(m_platform.dialogs, "INVALID REQUEST TO SAVE FILE", kNotFinalizedText);
+        refuseUntilFinalized(m_platform.dialogs);
         return false;
     }
     const auto fault = entryFault(typed(), m_resultsMode ? EntryKind::Results : EntryKind::Player);
-    if (fault == EntryFault::Initials)
-        refuse(txtPlayerInitials, kInitialsBlank);
-    else if (fault == EntryFault::Name)
-        refuse(txtPlayerName, kNameBlank);
-    else if (fault == EntryFault::FinalPoints)
-        refuse(txtFinalPoints, kPointsInvalid);
-    return !fault;
-}
-
-void BoardScreen::refuse(ui::TextBox& box, const char* text)
-{
-    if (!box.locked)
+    if (!fault)
+        return true;
+    if (ui::TextBox& box = boxOf(*fault); !box.locked)
         focused = &box;
-    showRefusal(m_platform.dialogs, "Required fields are BLANK or invalid", text);
+    refuseToSave(m_platform.dialogs, *fault);
+    return false;
 }
 
 void BoardScreen::saveResults()
 {
-    if (!writeEntry(m_folder.pathTo(file_name::kResults)))
+    if (!save(m_files.results()))
         return;
     m_history.boardWasSaved(m_sheet, m_openedFile);
     say("The results are saved.");
 }
 
-bool BoardScreen::writeSelection(const std::filesystem::path& file, SaveKind kind)
+bool BoardScreen::saveSelectionIn(const std::filesystem::path& file, SaveKind kind)
 {
-    if (!writeEntry(file))
+    if (!save(file))
         return false;
     m_openedFile = file;
     m_history.boardWasSaved(m_sheet, m_openedFile);
     m_shared.savedPlayer = SavedPlayer{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};
-    const bool scored = isSameFile(file, m_folder.folder() / file.filename());
     say("Saved " + shown(file.filename()) +
-        (scored ? "." : ". Only files in the program's folder are scored; this one is elsewhere."));
+        (m_files.isScored(file) ? "." : ". Only files in the program's folder are scored; this one is elsewhere."));
     return true;
 }
 
-bool BoardScreen::writeEntry(const std::filesystem::path& file)
+bool BoardScreen::save(const std::filesystem::path& file)
 {
-    Entry entry = typed();
-    entry.initials = upperCase(entry.initials);
-    if (!saveFile(m_platform.dialogs, m_known, file, selectionFile(entry), shown(file),
-                  " Check your selection and retry."))
-        return false;
-    unsaved = false;
-    return true;
+    const bool isSaved = m_files.write(file, typed());
+    unsaved = unsaved && !isSaved;
+    return isSaved;
 }
 
 void BoardScreen::enterGameResults()
 {
     leaveScoreList();
     m_shared.savedPlayer.reset();
-    const std::filesystem::path file = m_folder.pathTo(file_name::kResults);
-    if (resultsExist()) {
-        showEntry(completedResults(readEntry(file), m_shared.field));
-    } else {
-        m_known.note(file);
+    if (!m_files.resultsExist())
         loadBoard();
-        showEntry(newResults(m_shared.field));
-    }
+    showEntry(m_files.readResults(m_shared.field));
     beginUnmarked();
     m_resultsMode = true;
 }
@@ -166,11 +124,12 @@ void BoardScreen::scoreSelections()
         m_screens.load(ScreenKind::Scores);
         return;
     }
-    m_resultsThere = resultsExist();
+    m_resultsThere = m_files.resultsExist();
     if (m_resultsThere)
         markPicks();
     else
-        showRefusal(m_platform.dialogs, "INVALID REQUEST TO LOAD FILE", kNoResultsText);
+        m_platform.dialogs.show(
+            {"INVALID REQUEST TO LOAD FILE", kNoResultsText, ui::Buttons::Ok, ui::Icon::Exclamation});
 }
 
 void BoardScreen::markPicks()
@@ -180,7 +139,7 @@ void BoardScreen::markPicks()
         showTrouble(m_platform.dialogs, payoffs.failure());
         return;
     }
-    const std::filesystem::path file = m_folder.pathTo(file_name::kResults);
+    const std::filesystem::path file = m_files.results();
     const Read<Entry> results = readSelectionFile(file, m_bracket);
     if (results.trouble)
         showReadingTrouble(m_platform.dialogs, file);

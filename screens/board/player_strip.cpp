@@ -46,6 +46,19 @@ void PlayerStrip::putIntoWords()
     cmdDefaultColors.explanation = cmdDefaultColors.toolTip + ".";
 }
 
+ui::TextBox& PlayerStrip::boxOf(EntryFault fault)
+{
+    switch (fault) {
+    case EntryFault::Initials:
+        return txtPlayerInitials;
+    case EntryFault::Name:
+        return txtPlayerName;
+    case EntryFault::FinalPoints:
+        break;
+    }
+    return txtFinalPoints;
+}
+
 void PlayerStrip::showPlayer(const Entry& entry)
 {
     txtPlayerInitials.text = entry.initials;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pool/entry.h"
+#include "pool/entry_check.h"
 #include "ui/control.h"
 
 #include <functional>
@@ -35,6 +36,9 @@ public:
     ui::TextBox txtFinalPoints{m_owner, "txtFinalPoints", m_edited};
     ui::TextBox txtPointScore{m_owner, "txtPointScore"};
     ui::Command cmdDefaultColors;
+
+    /// @returns the field that a fault is in
+    ui::TextBox& boxOf(EntryFault fault);
 
     /// Shows an entry's texts in the three fields.
     void showPlayer(const Entry& entry);

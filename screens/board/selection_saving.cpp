@@ -13,6 +13,27 @@ namespace tallyhoop {
 
 namespace {
 
+// Kept letter for letter.
+constexpr const char* kNotFinalizedText =
+    "The SETUP OPTION must be completed and FINALIZED before a Pool Selection can be saved!";
+constexpr const char* kInitialsBlank = "Player Initails field is BLANK, this MUST be corrected!";
+constexpr const char* kNameBlank = "Player Name field is BLANK, this MUST be corrected!";
+constexpr const char* kPointsInvalid =
+    "Final Game - you must enter a valid prediction (between 50 & 250) for the total score of this game";
+
+const char* textOf(EntryFault fault)
+{
+    switch (fault) {
+    case EntryFault::Initials:
+        return kInitialsBlank;
+    case EntryFault::Name:
+        return kNameBlank;
+    case EntryFault::FinalPoints:
+        break;
+    }
+    return kPointsInvalid;
+}
+
 /// The file that a person means by a chosen name: with our extension, and an existing one in any case of letters.
 std::filesystem::path meantFile(std::filesystem::path chosen)
 {
@@ -91,6 +112,16 @@ std::optional<SaveTarget> askWhereToSave(ui::Dialogs& dialogs, const DataFolder&
         return std::nullopt;
     const std::filesystem::path meant = meantFile(*chosen);
     return opened.empty() ? askAboutNew(dialogs, folder, meant) : askAboutOpened(dialogs, folder, meant, opened);
+}
+
+void refuseUntilFinalized(ui::Dialogs& dialogs)
+{
+    dialogs.show({"INVALID REQUEST TO SAVE FILE", kNotFinalizedText, ui::Buttons::Ok, ui::Icon::Exclamation});
+}
+
+void refuseToSave(ui::Dialogs& dialogs, EntryFault fault)
+{
+    dialogs.show({"Required fields are BLANK or invalid", textOf(fault), ui::Buttons::Ok, ui::Icon::Exclamation});
 }
 
 } // namespace tallyhoop

@@ -1,8 +1,9 @@
-// screens/board/selection_saving.h - the questions before a player's selection is saved.
+// screens/board/selection_saving.h - the questions and refusals before a selection is saved.
 #pragma once
 
 #include "files/data_folder.h"
 #include "pool/entry.h"
+#include "pool/entry_check.h"
 #include "screens/hand_overs.h"
 #include "ui/dialogs.h"
 
@@ -10,6 +11,12 @@
 #include <optional>
 
 namespace tallyhoop {
+
+/// Says that nothing is saved before the field is finalized.
+void refuseUntilFinalized(ui::Dialogs& dialogs);
+
+/// Says what is missing or impossible in what was to be saved.
+void refuseToSave(ui::Dialogs& dialogs, EntryFault fault);
 
 /// Where a selection is to be saved.
 struct SaveTarget {

@@ -132,16 +132,16 @@ TEST(Look, MenuIconsAreDrawnInThePalettesTextColour)
     QPalette dark = before;
     dark.setColor(QPalette::WindowText, QColor{0xee, 0xee, 0xee});
     QApplication::setPalette(dark);
-    const QImage drawn = look::menuIcon(ui::MenuIcon::Open).pixmap(64, 64).toImage();
+    const QImage drawn = look::menuIcon(tallyhoop::ui::MenuIcon::Open).pixmap(64, 64).toImage();
     QApplication::setPalette(before);
     EXPECT_GT(paintedPixels(drawn, QColor(0xee, 0xee, 0xee)), 100);
 }
 
 TEST(Look, EveryMenuIconIsThereAndNoneIsNone)
 {
-    EXPECT_TRUE(look::menuIcon(ui::MenuIcon::None).isNull());
-    for (auto icon = static_cast<int>(ui::MenuIcon::None) + 1; icon <= static_cast<int>(ui::MenuIcon::Undo); ++icon)
-        EXPECT_FALSE(look::menuIcon(static_cast<ui::MenuIcon>(icon)).isNull()) << icon;
+    EXPECT_TRUE(look::menuIcon(tallyhoop::ui::MenuIcon::None).isNull());
+    for (auto icon = static_cast<int>(tallyhoop::ui::MenuIcon::None) + 1; icon <= static_cast<int>(tallyhoop::ui::MenuIcon::Undo); ++icon)
+        EXPECT_FALSE(look::menuIcon(static_cast<tallyhoop::ui::MenuIcon>(icon)).isNull()) << icon;
 }
 
 TEST(Look, TheProgramHasAnIcon)

@@ -1,10 +1,8 @@
-// tests/qt/page_text_test.cpp - typed, pasted and dropped text, in both directions.
+// tests/qt/page_text_test.cpp - typed and pasted text, in both directions.
 #include "qt/sample_screen.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <QTextCursor>
 #include <gtest/gtest.h>
 
@@ -180,26 +178,6 @@ TEST(PageText, ALineBreakPastedIntoOneLineBecomesABlank)
     shown.page.notes->setFocus();
     QTest::keyClick(shown.page.notes, Qt::Key_V, Qt::ControlModifier);
     EXPECT_EQ(shown.screen.txtNotes.text, "one\r\ntwo\r\n");
-}
-
-TEST(PageText, DroppedTextTakesTheSamePathAsPastedText)
-{
-    Shown shown;
-    std::string offered;
-    shown.screen.pasteRule = [&](ui::TextBox&, const std::string& text) {
-        offered = text;
-        return text == "consumed";
-    };
-    QMimeData data;
-    for (const char* text : {"consumed", "kept"}) {
-        data.setText(QLatin1String{text});
-        QDragEnterEvent enter{{5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
-        QApplication::sendEvent(shown.page.name, &enter); // a drop goes to the widget that was entered
-        QDropEvent drop{QPointF{5, 5}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier};
-        QApplication::sendEvent(shown.page.name, &drop);
-        EXPECT_EQ(offered, text);
-    }
-    EXPECT_EQ(shown.screen.txtName.text, "kept");
 }
 
 TEST(PageText, ALockedBoxTakesNoPastedTextAndDoesNotAskTheScreen)

@@ -28,8 +28,8 @@ public:
     }
 };
 
-struct StatusLine : testing::Test {
-    StatusLine()
+struct StatusLineTest : testing::Test {
+    StatusLineTest()
     {
         screen.focused = &screen.txtName;
         page.show();
@@ -59,9 +59,9 @@ struct StatusLine : testing::Test {
 
 } // namespace
 
-TEST_F(StatusLine, SaysWhatToDoAtFirst) { EXPECT_EQ(shown(), QStringLiteral("Type a name.")); }
+TEST_F(StatusLineTest, SaysWhatToDoAtFirst) { EXPECT_EQ(shown(), QStringLiteral("Type a name.")); }
 
-TEST_F(StatusLine, FollowsThePointer)
+TEST_F(StatusLineTest, FollowsThePointer)
 {
     pointerComesTo(*page.ok);
     EXPECT_EQ(shown(), QStringLiteral("Goes on."));
@@ -74,14 +74,14 @@ TEST_F(StatusLine, FollowsThePointer)
         << "a control without an explanation leaves the line to the screen";
 }
 
-TEST_F(StatusLine, ExplainsADisabledControlToo)
+TEST_F(StatusLineTest, ExplainsADisabledControlToo)
 {
     desk.run(screen, [&] { screen.cmdOk.enabled = false; });
     pointerComesTo(*page.ok);
     EXPECT_EQ(shown(), QStringLiteral("Goes on."));
 }
 
-TEST_F(StatusLine, FollowsTheFocusThatTabMoves)
+TEST_F(StatusLineTest, FollowsTheFocusThatTabMoves)
 {
     QTest::keyClick(page.name, Qt::Key_Tab);
     EXPECT_EQ(shown(), QStringLiteral("Who else it is."));
@@ -94,7 +94,7 @@ TEST_F(StatusLine, FollowsTheFocusThatTabMoves)
     EXPECT_EQ(shown(), QStringLiteral("Who else it is."));
 }
 
-TEST_F(StatusLine, AFocusThatMovesWinsOverAPointerThatRests)
+TEST_F(StatusLineTest, AFocusThatMovesWinsOverAPointerThatRests)
 {
     pointerComesTo(*page.ok);
     QTest::keyClick(page.name, Qt::Key_Tab);
@@ -103,7 +103,7 @@ TEST_F(StatusLine, AFocusThatMovesWinsOverAPointerThatRests)
     EXPECT_EQ(shown(), QStringLiteral("Names the sample."));
 }
 
-TEST_F(StatusLine, NewsAreShownUntilPointerOrFocusMoves)
+TEST_F(StatusLineTest, NewsAreShownUntilPointerOrFocusMoves)
 {
     QTest::keyClick(page.name, Qt::Key_Tab);
     pointerComesTo(*page.ok);
@@ -117,7 +117,7 @@ TEST_F(StatusLine, NewsAreShownUntilPointerOrFocusMoves)
     EXPECT_EQ(shown(), QStringLiteral("Who it is."));
 }
 
-TEST_F(StatusLine, TheSameNewsAreShownAgain)
+TEST_F(StatusLineTest, TheSameNewsAreShownAgain)
 {
     desk.run(screen, [&] { screen.say("It is saved."); });
     pointerComesTo(*page.ok);
@@ -126,7 +126,7 @@ TEST_F(StatusLine, TheSameNewsAreShownAgain)
     EXPECT_EQ(shown(), QStringLiteral("It is saved."));
 }
 
-TEST_F(StatusLine, NewsWinOverTheFocusThatTheSameCommandMoves)
+TEST_F(StatusLineTest, NewsWinOverTheFocusThatTheSameCommandMoves)
 {
     desk.run(screen, [&] {
         screen.say("Not saved.");
@@ -138,14 +138,14 @@ TEST_F(StatusLine, NewsWinOverTheFocusThatTheSameCommandMoves)
     EXPECT_EQ(shown(), QStringLiteral("Who it is."));
 }
 
-TEST_F(StatusLine, NewsThatEndLeaveTheLineToTheScreensExplanation)
+TEST_F(StatusLineTest, NewsThatEndLeaveTheLineToTheScreensExplanation)
 {
     desk.run(screen, [&] { screen.say("It is saved."); });
     desk.run(screen, [&] { screen.say({}); });
     EXPECT_EQ(shown(), QStringLiteral("Type a name."));
 }
 
-TEST_F(StatusLine, ANewExplanationOfTheScreenIsShownUntilPointerOrFocusMoves)
+TEST_F(StatusLineTest, ANewExplanationOfTheScreenIsShownUntilPointerOrFocusMoves)
 {
     QTest::keyClick(page.name, Qt::Key_Tab);
     desk.run(screen, [&] { screen.explanation = "Type another name."; });
@@ -154,7 +154,7 @@ TEST_F(StatusLine, ANewExplanationOfTheScreenIsShownUntilPointerOrFocusMoves)
     EXPECT_EQ(shown(), QStringLiteral("Who it is."));
 }
 
-TEST_F(StatusLine, NewsWinOverTheScreensExplanation)
+TEST_F(StatusLineTest, NewsWinOverTheScreensExplanation)
 {
     desk.run(screen, [&] {
         screen.say("It is saved.");
@@ -163,14 +163,14 @@ TEST_F(StatusLine, NewsWinOverTheScreensExplanation)
     EXPECT_EQ(shown(), QStringLiteral("It is saved."));
 }
 
-TEST_F(StatusLine, AnExplanationThatChangesIsShownAtOnce)
+TEST_F(StatusLineTest, AnExplanationThatChangesIsShownAtOnce)
 {
     pointerComesTo(*page.ok);
     desk.run(screen, [&] { screen.cmdOk.explanation = "Ends it."; });
     EXPECT_EQ(shown(), QStringLiteral("Ends it."));
 }
 
-TEST_F(StatusLine, FollowsTheEntriesOfAMenuByKeyAndByPointer)
+TEST_F(StatusLineTest, FollowsTheEntriesOfAMenuByKeyAndByPointer)
 {
     auto& file = *page.actionOf(screen.mnuFile)->menu();
     QTest::mouseClick(page.menuBar(), Qt::LeftButton, {},
@@ -185,7 +185,7 @@ TEST_F(StatusLine, FollowsTheEntriesOfAMenuByKeyAndByPointer)
     EXPECT_TRUE(QTest::qWaitFor([this] { return shown() == QStringLiteral("Type a name."); }));
 }
 
-TEST_F(StatusLine, TheScreensStatusIsAlwaysShown)
+TEST_F(StatusLineTest, TheScreensStatusIsAlwaysShown)
 {
     desk.run(screen, [&] { screen.status = "3 players"; });
     pointerComesTo(*page.ok);
@@ -193,14 +193,14 @@ TEST_F(StatusLine, TheScreensStatusIsAlwaysShown)
     EXPECT_EQ(shown(), QStringLiteral("Goes on."));
 }
 
-TEST_F(StatusLine, ALongSentenceDoesNotMakeTheWindowWider)
+TEST_F(StatusLineTest, ALongSentenceDoesNotMakeTheWindowWider)
 {
     const int width = page.minimumSizeHint().width();
     desk.run(screen, [&] { screen.explanation = std::string(500, 'W'); });
     EXPECT_EQ(page.minimumSizeHint().width(), width);
 }
 
-TEST_F(StatusLine, IsSpokenWithTheControl)
+TEST_F(StatusLineTest, IsSpokenWithTheControl)
 {
     EXPECT_EQ(page.ok->accessibleDescription(), QStringLiteral("Goes on."));
     desk.run(screen, [&] { screen.cmdOk.explanation = "Goes on, slowly."; });

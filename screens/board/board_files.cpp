@@ -1,0 +1,58 @@
+// screens/board/board_files.cpp - reads, completes and saves; shows what went wrong.
+#include "screens/board/board_files.h"
+
+#include "base/windows1252.h"
+#include "files/file_names.h"
+#include "files/player_names_file.h"
+#include "files/selection_file.h"
+#include "pool/results.h"
+#include "screens/saving.h"
+
+#include <utility>
+
+namespace tallyhoop {
+
+Entry BoardFiles::read(const std::filesystem::path& file, const Field& field)
+{
+    m_known.note(file);
+    Read<Entry> read = readSelectionFile(file, startingBracket(field));
+    if (read.trouble)
+        showReadingTrouble(m_dialogs, file);
+    return std::move(read.value);
+}
+
+Entry BoardFiles::readResults(const Field& field)
+{
+    if (resultsExist())
+        return completedResults(read(results(), field), field);
+    m_known.note(results());
+    return newResults(field);
+}
+
+bool BoardFiles::write(const std::filesystem::path& file, Entry entry)
+{
+    entry.initials = upperCase(entry.initials);
+    return saveFile(m_dialogs, m_known, file, selectionFile(entry), shown(file), " Check your selection and retry.");
+}
+
+std::filesystem::path BoardFiles::results() const { return m_folder.pathTo(file_name::kResults); }
+
+bool BoardFiles::resultsExist() const { return m_folder.exists(file_name::kResults); }
+
+bool BoardFiles::isScored(const std::filesystem::path& file) const
+{
+    return isSameFile(file, m_folder.folder() / file.filename());
+}
+
+void BoardFiles::checkPlayers()
+{
+    if (m_folder.exists(file_name::kPlayerNames)) {
+        m_playersFaulty = !playerListIsSound(m_dialogs, m_folder);
+    } else if (!m_warnedAboutFolder) {
+        KnownFiles nothingKnown; // there is no file that somebody could have changed
+        m_warnedAboutFolder =
+            !saveDataFile(m_dialogs, nothingKnown, m_folder, file_name::kPlayerNames, playerNamesFile({}));
+    }
+}
+
+} // namespace tallyhoop
