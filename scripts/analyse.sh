@@ -47,7 +47,7 @@ sources() {
 # The number of warnings in the system's headers does not matter.
 tidy() {
     needs clang-tidy
-    cmake --preset release -B build-analysis -DTALLYHOOP_UNITY=OFF -DTALLYHOOP_TESTS=OFF -DTALLYHOOP_BENCH=OFF \
+    cmake --preset release -B build-analysis -DTALLYHOOP_QUICK_BUILD=OFF -DTALLYHOOP_TESTS=OFF -DTALLYHOOP_BENCH=OFF \
         --log-level=WARNING
     if [ $# -gt 0 ]; then
         printf '%s\n' "$@"
