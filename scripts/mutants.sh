@@ -76,7 +76,7 @@ read_list() {
     done <"$list"
 }
 
-build() { cmake --build "$copy/build" --parallel "$(nproc)" --target "tallyhoop_$1_tests" >"$log" 2>&1; }
+build() { cmake --build "$copy/build" --parallel "${CMAKE_BUILD_PARALLEL_LEVEL:-$(nproc)}" --target "tallyhoop_$1_tests" >"$log" 2>&1; }
 
 # run PROGRAM FILTER: a test that hangs has noticed something, too.
 run() {
@@ -131,7 +131,7 @@ if command -v ccache >/dev/null; then
     options+=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 fi
 echo "Building the tests in $copy"
-cmake -S "$copy" -B "$copy/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O0" \
+cmake -S "$copy" -B "$copy/build" -G Ninja -DCMAKE_BUILD_TYPE=Debug "-DCMAKE_CXX_FLAGS_DEBUG=-O0 -g1" \
     -DTALLYHOOP_WINDOWS=$windows "${options[@]}" --log-level=WARNING >"$log"
 for program in $(printf '%s\n' "${programs[@]}" | sort -u); do
     if ! build "$program"; then

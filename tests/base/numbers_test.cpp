@@ -100,10 +100,13 @@ TEST(WholeNumber, NamesTheNumberThatDoesNotFit)
               "The number \"99999\" is out of range: it must lie between -32768 and 32767.");
 }
 
-TEST(WholeNumber, NamesALongNumberByItsBeginning)
+TEST(WholeNumber, NamesANumberOfMoreThanFortyCharactersByItsBeginning)
 {
-    EXPECT_EQ(wholeNumber(std::string(5000, '9')).failure().message,
-              "The number \"" + std::string(40, '9') + "...\" is out of range: it must lie between -32768 and 32767.");
+    const std::string forty(40, '9');
+    EXPECT_EQ(wholeNumber(forty).failure().message,
+              "The number \"" + forty + "\" is out of range: it must lie between -32768 and 32767.");
+    EXPECT_EQ(wholeNumber(forty + "9").failure().message,
+              "The number \"" + forty + "...\" is out of range: it must lie between -32768 and 32767.");
 }
 
 TEST(ThreeDigits, FillsWithZerosAfterTheMinus)

@@ -5,7 +5,7 @@
 #include "ui/platform.h"
 
 #include <functional>
-#include <set>
+#include <map>
 
 namespace tallyhoop::test {
 
@@ -15,7 +15,7 @@ public:
     std::vector<std::string> fonts{"Courier New"};
     bool dialogAccepted = true;
     std::optional<ui::PrinterFont> chosenFont;
-    int pageWidth = 11840;
+    std::map<ui::Orientation, int> pageWidths{{ui::Orientation::Portrait, 11840}, {ui::Orientation::Landscape, 15440}};
     std::optional<Failure> trouble; ///< every printout fails with it
     std::function<void()> whilePrinting;
 
@@ -38,7 +38,7 @@ public:
         ++fontDialogs;
         return chosenFont;
     }
-    int pageWidthTwips(ui::Orientation) override { return pageWidth; }
+    int pageWidthTwips(ui::Orientation orientation) override { return pageWidths.at(orientation); }
     Result<Done> print(const ui::TextPrintout& printout) override
     {
         texts.push_back(printout);

@@ -85,8 +85,16 @@ TEST(WholeSeeds, AreTheNumbersWithoutWhatSurroundsThem)
 
 TEST(WholeSeeds, AreNothingUnlessTheyAreOneToSixteenEachOnce)
 {
-    for (const char* seed : {"5", "0", "17", "", "x", "16.4", "0.6", "-1"}) // row 4 has the 5
+    for (const char* seed : {"5", "0", "17", "", "x", "-1"}) // row 4 has the 5
         EXPECT_EQ(wholeSeeds(withSeed(7, seed)), std::nullopt) << seed;
+}
+
+TEST(WholeSeeds, AreNothingWhenANumberIsOutOfRangeBeforeItIsRounded)
+{
+    // Row 0 has the 1 and row 1 the 16: rounded, these would be what was there, and no number would be there twice.
+    EXPECT_EQ(wholeSeeds(withSeed(0, "0.6")), std::nullopt);
+    EXPECT_EQ(wholeSeeds(withSeed(1, "16.4")), std::nullopt);
+    EXPECT_EQ(wholeSeeds(withSeed(1, "16.0")), kSeeds);
 }
 
 TEST(WholeSeeds, RoundFractionsAndHalvesToTheEvenNumber)

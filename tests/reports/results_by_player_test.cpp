@@ -163,6 +163,18 @@ TEST_F(ResultsByPlayer, EndThePageAfterTheBlockThatPassesItsEnd)
 
 TEST_F(ResultsByPlayer, DoNotEndThePageAtExactlyFiftyFour)
 {
+    // One semi-final decided: of three teams all second lines are there, and a block counts 3 + 6 + 1 = 10.
+    results.put(kSemifinalA, "OLD HARBOR");
+    const Entry adams = players[0];
+    players.assign(5, adams); // 4 + 5 * 10
+    EXPECT_EQ(std::ranges::count(lines(), kFormFeedLine), 0);
+
+    players.assign(6, adams);
+    EXPECT_EQ(lines().back(), kFormFeedLine);
+}
+
+TEST_F(ResultsByPlayer, DoNotCountTheLineOfATeamThatHasOnlyItsFirst)
+{
     // Both semi-finals decided for the first opponents: two teams with one line each, which is not counted.
     results.put(kSemifinalA, "CEDAR RAPIDS");
     results.put(kSemifinalB, "PINE BLUFF");

@@ -150,10 +150,25 @@ TEST_F(ResultsByTeam, OrderEqualBestCasesByFileNameBackwards)
     EXPECT_TRUE(made[10].starts_with("   A.THC "));
 }
 
-TEST_F(ResultsByTeam, LetThePickColumnOnlyGrowFromTeamToTeam)
+TEST_F(ResultsByTeam, MakeThePickColumnAsWideAsTheLongestPairOfPicks)
 {
-    for (const TeamOutcome& outcome : outcomes())
-        EXPECT_EQ(outcome.pickWidth, 22u);
+    players = {fourPlayers()[1], fourPlayers()[2]}; // SALT LAKE over OLD HARBOR, 9 + 10, and no picks at all
+
+    const ReportLines made = lines();
+
+    EXPECT_EQ(made[1], std::string(36, ' ') + "Pool"); // (19 + 58) / 2 = 38.5 without 2: 36.5
+    EXPECT_EQ(made[7], "                            ------  ------  ------  " + std::string(19 + 6, '-'));
+    EXPECT_EQ(made[15], made[7]) << "the next team";
+}
+
+TEST_F(ResultsByTeam, GiveEachTeamTheColumnOfItsOwnRows)
+{
+    const Result<ReportLines> made =
+        resultsByTeamLines(title, std::vector{TeamOutcome{"DUKE", {}, 8}, TeamOutcome{"UTAH", {}, 10}});
+
+    ASSERT_TRUE(made);
+    EXPECT_TRUE((*made)[7].ends_with("  " + std::string(14, '-')));
+    EXPECT_TRUE((*made)[13].ends_with("  " + std::string(16, '-')));
 }
 
 TEST_F(ResultsByTeam, StartANewPageAfterTheFiftyFifthRowOfATeam)

@@ -135,7 +135,7 @@ TEST(StartDemo, DeletesNothingWhenTheInstallerCannotBeStarted)
     OwnPool pool;
     pool.platform.programs.checkTrouble = Failure{"Permission denied"};
     EXPECT_FALSE(startDemo(pool.scratch.folder(), pool.platform.services));
-    EXPECT_TRUE(pool.isUntouched());
+    pool.expectUntouched();
     EXPECT_TRUE(pool.platform.programs.started.empty());
     ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
     const ui::Message& message = pool.platform.dialogs.shown[0];
@@ -211,7 +211,7 @@ TEST(EnterDemo, ChangesNothingOnCancel)
     OwnPool pool;
     pool.platform.dialogs.answer(ui::Answer::Cancel);
     EXPECT_FALSE(enterDemo(pool.scratch.folder(), pool.platform.services));
-    EXPECT_TRUE(pool.isUntouched());
+    pool.expectUntouched();
     EXPECT_TRUE(pool.platform.programs.started.empty());
 }
 

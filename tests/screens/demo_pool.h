@@ -8,6 +8,7 @@
 #include "screens/demo_mode.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -60,15 +61,23 @@ struct OwnPool {
     ScratchFolder scratch;
     FakePlatform platform;
 
+    static constexpr std::array kNames{"NCAALIST.THS", "Own_O.THC", "PLAYERNAMES.CSV", "POOLSTART.THS",
+                                       "TALLYHOOP.THS"};
+
     OwnPool()
     {
-        for (const char* name : {"POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV", "NCAALIST.THS", "Own_O.THC"})
-            scratch.put(name, "own");
+        for (const char* name : kNames)
+            scratch.put(name, std::string{"own "} + name);
     }
-    bool isUntouched() const
+
+    /// @param except is not compared: a file that the test itself has changed
+    void expectUntouched(std::string_view except = {}) const
     {
-        return scratch.has("POOLSTART.THS") && scratch.has("TALLYHOOP.THS") && scratch.has("PLAYERNAMES.CSV") &&
-               scratch.has("NCAALIST.THS") && scratch.has("Own_O.THC");
+        EXPECT_EQ(entriesOf(scratch.path()), std::vector<std::string>(kNames.begin(), kNames.end()));
+        for (const char* name : kNames)
+            if (name != except) {
+                EXPECT_EQ(scratch.get(name), std::string{"own "} + name);
+            }
     }
     bool isCleared() const
     {

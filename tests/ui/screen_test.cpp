@@ -1,10 +1,44 @@
-// tests/ui/screen_test.cpp - what a screen says.
+// tests/ui/screen_test.cpp - a screen's controls found by name and by their place in the tab order; a list's text; news.
 #include "ui/screen.h"
+
+#include "ui/control.h"
 
 #include <gtest/gtest.h>
 
 namespace tallyhoop::ui {
 namespace {
+
+struct Sample : Screen {
+    Sample() : Screen{"sample", "Sample"} { box.tabIndex = 3; }
+
+    Command longer{this, "cmdOkAgain", "Again"};
+    Command shorter{this, "cmdOk", "OK"};
+    TextBox box{this, "txtName"};
+    ListBox list{this, "lstNames"};
+};
+
+TEST(Screen, FindsAControlByItsWholeName)
+{
+    const Sample sample;
+    EXPECT_EQ(sample.find("cmdOk"), &sample.shorter);
+    EXPECT_EQ(sample.find("cmdO"), nullptr);
+}
+
+TEST(Screen, FindsAControlByItsPlaceInTheTabOrder)
+{
+    const Sample sample;
+    EXPECT_EQ(sample.controlAtTab(3), &sample.box);
+    EXPECT_EQ(sample.controlAtTab(4), nullptr);
+}
+
+TEST(ListBox, HasTheTextOfTheSelectedRowOnly)
+{
+    Sample sample;
+    sample.list.rows = {"Adams", "Baker"};
+    EXPECT_EQ(sample.list.selectedText(), "");
+    sample.list.selected = 1;
+    EXPECT_EQ(sample.list.selectedText(), "Baker");
+}
 
 TEST(ScreenNews, IsWhatWasSaidLast)
 {

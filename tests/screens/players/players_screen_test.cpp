@@ -17,17 +17,9 @@ const ui::Message kBothDeleted{"Pool Names Maintenance",
                                "will both be deleted if you continue, Ok??",
                                ui::Buttons::OkCancel, ui::Icon::Question};
 
-TEST_F(PlayersScreenTest, HasItsCaptionsAndHints)
+TEST_F(PlayersScreenTest, ShowsColumnsAndAFileNameThatCannotBeChanged)
 {
     PlayersScreen& names = open();
-    EXPECT_EQ(names.caption, "PlayerName Edit");
-    EXPECT_EQ(names.lblName.text, "Name (Last, IN):");
-    EXPECT_EQ(names.lblFileName.text, "FileName:");
-    EXPECT_EQ(names.lblFileNameNote.text, "The File Name cannot be changed");
-    EXPECT_EQ(names.lblEmail.text, "EMail Address:");
-    EXPECT_EQ(names.lblPhone.text, "Phone No:");
-    EXPECT_EQ(names.cmdChange.toolTip, "Store the CHANGEs made");
-    EXPECT_EQ(names.cmdDelete.toolTip, "Select to DELETE selected record");
     EXPECT_TRUE(names.lstNames.fixedPitch);
     EXPECT_TRUE(names.txtFileName.locked);
 }
@@ -158,6 +150,21 @@ TEST_F(PlayersScreenTest, DeletingAPlayerDeletesTheFileOnlyWithDone)
     EXPECT_FALSE(scratch.has("Adams_B.THC"));
     EXPECT_EQ(written(), playerFile({smith}));
     EXPECT_TRUE(closed());
+}
+
+TEST_F(PlayersScreenTest, DoneDeletesTheFilesOfAllPlayersDeletedBefore)
+{
+    scratch.put("Smith_JS.THC", "bracket of Smith\r\n");
+    platform.dialogs.answer(ui::Answer::Ok).answer(ui::Answer::Ok);
+    PlayersScreen& names = open();
+    select(0);
+    names.cmdDelete.click();
+    select(0);
+    names.cmdDelete.click();
+    names.cmdExit.click();
+    EXPECT_FALSE(scratch.has("Adams_B.THC"));
+    EXPECT_FALSE(scratch.has("Smith_JS.THC"));
+    EXPECT_EQ(written(), playerFile({}));
 }
 
 TEST_F(PlayersScreenTest, DeletingRefusedKeepsEverything)

@@ -35,7 +35,7 @@ TEST(Origin, StaysAtTheLeftEdgeForATextWiderThanThePage)
 TEST(TextPrintout, CarriesLinesFontAndOrientation)
 {
     FakePrinter printer;
-    printer.pageWidth = 2000;
+    printer.pageWidths = {{ui::Orientation::Portrait, 9000}, {ui::Orientation::Landscape, 2000}};
     const PrinterSetup setup{{"Courier New", 10}, ui::Orientation::Landscape};
 
     const ui::TextPrintout printout = textPrintout("Listing", {"abc   ", "\f"}, setup, printer);

@@ -95,6 +95,20 @@ TEST_F(ReportsMail, NeverAttachesTheOlderFileOfAReportThatFailedButStaysTicked)
     EXPECT_EQ(attachedNames(), std::vector<std::string>{"RPTOPT2.TXT"});
 }
 
+TEST_F(ReportsMail, AttachesOnlyWhatThisPressHasMade)
+{
+    tick({kListing, kPlayerDetail});
+    create(kEmail);
+    for (const Entry& player : fourPlayers())
+        std::filesystem::remove(folder.path() / player.fileName);
+    platform.mail.sent.clear();
+
+    create(kEmail);
+
+    EXPECT_TRUE(folder.has("RPTOPT5.TXT")) << "of the first press";
+    EXPECT_EQ(attachedNames(), std::vector<std::string>{"RPTOPT2.TXT"});
+}
+
 TEST_F(ReportsMail, ShowsNoDialogWhenEveryReportFailed)
 {
     std::filesystem::remove(folder.path() / "TALLYHOOP.THS");

@@ -54,18 +54,20 @@ TEST_F(ReportsOutput, PrintsTheLinesOfTheWorkFileAndLeavesTheReportFileAlone)
 
 TEST_F(ReportsOutput, CentresTheBlockOfTextOnThePage)
 {
-    tick({kStandings});
+    tick({kStandings, kTeamSummary});
 
     create(kPrinter);
 
-    // The longest line is the second heading, 78 characters: (11840 - 720 - 9360) / 2
-    ASSERT_EQ(platform.printer.texts.size(), 1u);
-    EXPECT_EQ(platform.printer.texts[0].originTwips, 880);
+    // The longest lines are the second heading, 78 characters, across, and the rule of 74 upright:
+    // (15440 - 720 - 9360) / 2 and (11840 - 720 - 8880) / 2
+    ASSERT_EQ(platform.printer.texts.size(), 2u);
+    EXPECT_EQ(platform.printer.texts[0].originTwips, 2680);
+    EXPECT_EQ(platform.printer.texts[1].originTwips, 1120);
 }
 
 TEST_F(ReportsOutput, StaysAtTheLeftEdgeWhenAReportIsWiderThanThePage)
 {
-    platform.printer.pageWidth = 9000;
+    platform.printer.pageWidths[ui::Orientation::Landscape] = 9000;
     tick({kStandings});
 
     create(kPrinter);
@@ -167,10 +169,40 @@ TEST_F(ReportsOutput, ShowsTickedReportsInAPreviewWithoutWritingOrPrintingAnythi
     ASSERT_EQ(platform.printer.previewedTexts.size(), 2u);
     EXPECT_EQ(platform.printer.previewedTexts[0].lines.size(), 11u);
     EXPECT_EQ(platform.printer.previewedTexts[0].orientation, ui::Orientation::Landscape);
-    EXPECT_EQ(platform.printer.previewedTexts[0].originTwips, 880);
+    EXPECT_EQ(platform.printer.previewedTexts[0].originTwips, 2680);
     EXPECT_TRUE(platform.printer.texts.empty());
     EXPECT_EQ(platform.printer.printerDialogs, 0);
     EXPECT_FALSE(anyReportWritten());
+}
+
+TEST_F(ReportsOutput, AsksForNoPrinterWhereNothingIsPrinted)
+{
+    screen.cmdDefaultPrinter.click();
+    tick({kStandings});
+    platform.dialogs.pick(folder.path() / "standings.PDF");
+
+    screen.cmdPreview.click();
+    screen.cmdSavePdf.click();
+
+    EXPECT_EQ(platform.printer.previewedTexts.size(), 1u);
+    EXPECT_EQ(platform.printer.pdfs.size(), 1u);
+    EXPECT_EQ(platform.printer.printerDialogs, 0);
+}
+
+TEST_F(ReportsOutput, ShowsAndSavesTheFilesThatAreThereNow)
+{
+    tick({kStandings});
+    screen.cmdPreview.click();
+    folder.put("Able_A.THC", selectionFile(fourPlayersResults()));
+    screen.cmdPreview.click();
+    std::filesystem::remove(folder.path() / "Able_A.THC");
+    platform.dialogs.pick(folder.path() / "standings.PDF");
+    screen.cmdSavePdf.click();
+
+    ASSERT_EQ(platform.printer.previewedTexts.size(), 2u);
+    EXPECT_EQ(platform.printer.previewedTexts[0].lines.size(), 11u); // seven of the header and four players
+    EXPECT_EQ(platform.printer.previewedTexts[1].lines.size(), 12u);
+    EXPECT_EQ(platform.printer.texts.at(0).lines.size(), 11u);
 }
 
 TEST_F(ReportsOutput, ExplainsThatAPreviewNeedsATick)

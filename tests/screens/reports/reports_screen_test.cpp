@@ -12,7 +12,6 @@ TEST_F(ReportsScreenTest, OpensWithNothingTickedThePrinterChosenAndThePoolsTitle
 
     screen.load();
 
-    EXPECT_EQ(screen.caption, "Tallyhoop Reports");
     EXPECT_EQ(screen.txtReportTitle.text, "Office Pool 2001");
     for (std::size_t i = 0; i < kReports; ++i)
         EXPECT_FALSE(screen.chkOptions[i].ticked);
@@ -26,32 +25,6 @@ TEST_F(ReportsScreenTest, OpensWithNothingTickedThePrinterChosenAndThePoolsTitle
     EXPECT_FALSE(screen.filList.selected);
     EXPECT_EQ(screen.cmdDefaultPrinter.caption, "Use default printer");
     EXPECT_FALSE(draft.cancelled);
-}
-
-TEST_F(ReportsScreenTest, HasTheCaptionsThatPeopleKnow)
-{
-    const std::array<const char*, 7> reports{
-        "Tournament Standings (RPTOPT1.TXT)",     "Player Listing (RPTOPT2.TXT)",
-        "Team Selection Summary (RPTOPT3.TXT)",   "Team Selection Detail (RPTOPT4.TXT)",
-        "Player Selection Detail (RPTOPT5.TXT)",  "Projected Results by Player (RPTOPT6.TXT)",
-        "Projected Results by Team (RPTOPT7.TXT)"};
-    const std::array<const char*, 4> destinations{"Printer", "File", "Email", "Email All Participants"};
-    for (std::size_t i = 0; i < reports.size(); ++i)
-        EXPECT_EQ(screen.chkOptions[i].caption, reports[i]);
-    for (std::size_t i = 0; i < destinations.size(); ++i)
-        EXPECT_EQ(screen.optDestination[i].caption, destinations[i]);
-    EXPECT_EQ(screen.optSelected[0].caption, "Scored Player Selections (Select File at right --->)");
-    EXPECT_EQ(screen.optSelected[1].caption, "Tournament Results Sheet");
-    EXPECT_EQ(screen.cmdPrintSelections.caption, "Create Selected Reports");
-    EXPECT_EQ(screen.cmdSelectedPrintouts.caption, "Create Selected Printout");
-    EXPECT_EQ(screen.cmdCustomReport.caption, "Goto Custom Reporting");
-    EXPECT_EQ(screen.cmdExit.caption, "Exit Reports");
-    EXPECT_EQ(screen.lblReportSelections.text, "Report Selections");
-    EXPECT_EQ(screen.lblDestination.text, "Destination");
-    EXPECT_EQ(screen.lblReportTitle.text, "Report Titles:");
-    EXPECT_EQ(screen.fraMultipleOutput.text, "Multiple Output Options");
-    EXPECT_EQ(screen.fraPrinterOnly.text, "Printer Only Options");
-    EXPECT_EQ(screen.fraCustomReports.text, "Custom Reports Option");
 }
 
 TEST_F(ReportsScreenTest, SelectsOneDestinationAtATime)
@@ -128,18 +101,6 @@ TEST_F(ReportsScreenTest, TakesTheFilesThatAreThereNowAndKeepsTheChosenOne)
     EXPECT_EQ(screen.filList.rows.size(), 5u);
     EXPECT_EQ(screen.filList.selectedText(), "Baker_C.THC");
     EXPECT_NE(folder.get("RPTOPT1.TXT").find("Able_A.THC"), std::string::npos);
-}
-
-TEST_F(ReportsScreenTest, UsesThePayoffsOfTheField)
-{
-    putFourPlayers(folder);
-    field.payoffs = PayoffTexts{{"2", "0", "0", "0", "0", "0"}};
-    screen.load();
-    tick({kStandings});
-
-    create(kFile);
-
-    EXPECT_NE(folder.get("RPTOPT1.TXT").find("\r\n 064   AB, Adams"), std::string::npos); // 32 games at 2
 }
 
 TEST_F(ReportsScreenTest, IsNoLongerBusyWhenAMessageIsShown)

@@ -24,13 +24,9 @@ std::string tellingSetup(const std::string& finalized = "0")
     return bytes + "first|second\r\nanother\r\n" + finalized + "\r\n*END*\r\n";
 }
 
-TEST_F(SetupScreenTest, HasItsCaptionHintsAndColourFromTheBeginning)
+TEST_F(SetupScreenTest, HasTheColourOfItsListFromTheBeginning)
 {
     const SetupScreen screen{folder, computer.services, screens, field};
-    EXPECT_EQ(screen.caption, "Define Starting Field & Options");
-    EXPECT_EQ(screen.txtInfo6[0].toolTip, "Points for each win in 1st round");
-    EXPECT_EQ(screen.txtInfo6[3].toolTip, "Points for each win in Regional Finals");
-    EXPECT_EQ(screen.txtInfo6[5].toolTip, "Points for selecting winner in FINAL GAME");
     EXPECT_EQ(screen.lstTeamNames.background, (ui::Colour{0x80, 0xFF, 0x80}));
 }
 
