@@ -136,6 +136,17 @@ TEST(ProjectWinner, LetsANameSharedByTwoRegionsWinTheFinalItHasReachedInTheOther
               (Finals{"OLD HARBOR", "TIGERS", "TIGERS"}));
 }
 
+TEST(ProjectWinner, LetsNobodyElseWinOnceThereIsAChampion)
+{
+    Bracket results = finalFourResults();
+    results.put(Position{30}, "TIGERS"); // looked up in the first half, which it has lost; it has won the second
+    results.put(Position{92}, "TIGERS");
+    results.put(kSemifinalA, "OLD HARBOR");
+    results.put(kSemifinalB, "TIGERS");
+    results.put(kChampion, "OLD HARBOR");
+    EXPECT_EQ(projectWinner(results, "TIGERS", FinalOpponent::First), std::nullopt);
+}
+
 TEST(FinalOpponentOf, IsTheWinnerOfTheOtherHalf)
 {
     const Bracket upper = *projectWinner(finalFourResults(), "OLD HARBOR", FinalOpponent::Second);

@@ -65,17 +65,6 @@ TEST_F(ReportsOutput, CentresTheBlockOfTextOnThePage)
     EXPECT_EQ(platform.printer.texts[1].originTwips, 1120);
 }
 
-TEST_F(ReportsOutput, StaysAtTheLeftEdgeWhenAReportIsWiderThanThePage)
-{
-    platform.printer.pageWidths[ui::Orientation::Landscape] = 9000;
-    tick({kStandings});
-
-    create(kPrinter);
-
-    ASSERT_EQ(platform.printer.texts.size(), 1u);
-    EXPECT_EQ(platform.printer.texts[0].originTwips, 0);
-}
-
 TEST_F(ReportsOutput, HandsFormFeedsOverAsLinesOfTheirOwn)
 {
     tick({kPlayerDetail});

@@ -19,34 +19,6 @@ TEST_F(ScoreDisplay, RestoresTheOriginalColumnsWhenCalculatingAgain)
     EXPECT_THAT(column(0), ElementsAre("Adams_QA.THC", "Brown_TB.THC", "Smith_JS.THC"));
 }
 
-TEST_F(ScoreDisplay, SortsByScoreDownwardsWhenThatHeadingIsDraggedToTheFront)
-{
-    putThreePlayers();
-    putPlayer("Clark_TC.THC", "TC", "Clark", everyUpperTeamWins());
-    open();
-    screen.cmdOk.click();
-    dragHeading(2, 0); // the first row holds 0 for Adams: upwards
-    EXPECT_THAT(column(0), ElementsAre("0", "8", "32", "32"));
-
-    screen.cmdOk.click();
-    dragHeading(3, 0); // the maximum: 136, 144, 168, 168
-    EXPECT_THAT(headings(), ElementsAre("-MAX-", "File Name", "Player Name", "Score", "Winning Pick"));
-    EXPECT_THAT(column(0), ElementsAre("168", "168", "144", "136"));
-    EXPECT_THAT(column(1), ElementsAre("Clark_TC.THC", "Smith_JS.THC", "Brown_TB.THC", "Adams_QA.THC"))
-        << "equal in every number: the order of arrival";
-}
-
-TEST_F(ScoreDisplay, OrdersEqualScoresByTheFollowingColumns)
-{
-    putPlayer("A_A.THC", "A", "A", without(everyUpperTeamWins(), 126, 126)); // 32 of 152
-    putPlayer("B_B.THC", "B", "B", everyUpperTeamWins());                    // 32 of 168
-    open();
-    screen.cmdOk.click();
-    dragHeading(2, 0);
-    EXPECT_THAT(column(0), ElementsAre("32", "32"));
-    EXPECT_THAT(column(1), ElementsAre("B_B.THC", "A_A.THC")) << "the maximum decides: names count as 0";
-}
-
 TEST_F(ScoreDisplay, SortsAgainInThePresentOrderOnAPressAndReleaseOfOneHeading)
 {
     putThreePlayers();

@@ -124,14 +124,6 @@ TEST_F(SetupScreenSave, FinalizingRefusesAnEmptyTeamName)
     expectRefusal(screen.txtRegion[40], "Initial TEAM FIELD NAMES are BLANK", kBlank);
 }
 
-TEST_F(SetupScreenSave, FinalizingTakesATeamNameThatBeginsWithABlankForBlank)
-{
-    SetupScreen& screen = loaded();
-    screen.txtRegion[63].text = " Duke";
-    finalizeAndSave();
-    expectRefusal(screen.txtRegion[63], "Initial TEAM FIELD NAMES are BLANK", kBlank);
-}
-
 TEST_F(SetupScreenSave, FinalizingRefusesABlankTitle)
 {
     SetupScreen& screen = loaded();
