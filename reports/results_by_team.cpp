@@ -54,11 +54,9 @@ void addRows(ReportLines& lines, const TeamOutcome& outcome, int& lineOfPage)
 
 /// Packs every player's score if a team wins, ascending.
 /// @param scores under the projection; no more than `now`
-/// @param pickWidth of the teams before it
-TeamOutcome outcomeOf(const std::string& team, std::span<const PlayerScore> scores, std::span<const PlayerScore> now,
-                      std::size_t pickWidth)
+TeamOutcome outcomeOf(const std::string& team, std::span<const PlayerScore> scores, std::span<const PlayerScore> now)
 {
-    TeamOutcome outcome{team, {}, pickWidth};
+    TeamOutcome outcome{team, {}, 0};
     outcome.workRows.reserve(scores.size());
     for (std::size_t player = 0; player < scores.size(); ++player) {
         const PlayerScore& score = scores[player];
@@ -97,7 +95,6 @@ Result<std::vector<TeamOutcome>> resultsByTeamOutcomes(std::span<const Entry> en
         return now.failure();
 
     std::vector<TeamOutcome> outcomes;
-    std::size_t pickWidth = 0;
     for (const std::string& team : finalFourOf(results)) {
         if (isStopped)
             break;
@@ -107,8 +104,7 @@ Result<std::vector<TeamOutcome>> resultsByTeamOutcomes(std::span<const Entry> en
         const Result<std::vector<PlayerScore>> scores = scoreEntries(entries, *projected, payoffs, watchedStep);
         if (!scores)
             return scores.failure();
-        outcomes.push_back(outcomeOf(team, *scores, *now, pickWidth));
-        pickWidth = outcomes.back().pickWidth;
+        outcomes.push_back(outcomeOf(team, *scores, *now));
     }
     return outcomes;
 }

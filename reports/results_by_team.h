@@ -37,7 +37,7 @@ ResultsByTeamRow resultsByTeamRow(std::string_view workRow);
 struct TeamOutcome {
     std::string team;
     std::vector<std::string> workRows; ///< packed, ascending
-    std::size_t pickWidth = 0;         ///< longest champion and runner-up together, over this team and those before it
+    std::size_t pickWidth = 0;         ///< longest champion and runner-up together; the same for every team
 };
 
 /// Scores every player now and for every team that can still win; one step of work for each.

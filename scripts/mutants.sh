@@ -84,7 +84,11 @@ run() {
     if [ ! -x "$program" ]; then
         program=$copy/build/tests/$1/tallyhoop_$1_tests
     fi
-    timeout 120 "$program" --gtest_brief=1 --gtest_filter="$2" >"$log" 2>&1
+    # In a shell of its own, so that what the shell has to say about a crash is in the log, too.
+    (
+        timeout 120 "$program" --gtest_brief=1 --gtest_filter="$2"
+        exit $?
+    ) >"$log" 2>&1
 }
 
 # clean PROGRAM FILTER: whether there are such tests, and all of them pass as things are. Asked once for each filter.

@@ -38,6 +38,7 @@ TEST_F(StartUp, OffersTheDemonstrationAfterTheBoardIsVisible)
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(platform.dialogs.shown[0].caption, "** DEMO MODE OPTION **");
     EXPECT_EQ(platform.dialogs.shown[0].buttons, ui::Buttons::OkCancel);
+    EXPECT_EQ(platform.dialogs.shown[0].helpTopic, "demo");
     EXPECT_EQ(platform.dialogs.shown[0].text, "It looks like you are just starting to work \r\n"
                                               "with Tallyhoop..  A DEMO Mode is offered\r\n"
                                               "which will allow you to view and evaluate\r\n"

@@ -74,6 +74,18 @@ TEST_F(BoardScreenFiles, NewSelectionClearsTheBoardAndEndsResultsMode)
     EXPECT_EQ(board->document, "");
 }
 
+TEST_F(BoardScreenFiles, NewSelectionForgetsTheOpenedFile)
+{
+    loadFinalized();
+    open(putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150")));
+    board->mnuNewSelection.click();
+    EXPECT_EQ(board->document, "");
+    fill("KJ", "Jones", "150");
+    saveAs(scratch.path() / "Jones_KJ.THC");
+    EXPECT_TRUE(platform.dialogs.shown.empty()) << "this is no other name for Smith's file";
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Players});
+}
+
 TEST_F(BoardScreenFiles, NewSelectionOpenResultsAndUnloadingDropAnUnusedHandOver)
 {
     const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));

@@ -8,10 +8,6 @@ const ui::Message kNoSelections{"Pool Names Maintenance",
                                 "** You selected a change record where no Pool \r\nSelections have been made **\r\n\r\n"
                                 "If you continue this Player Name record will\r\nbe deleted",
                                 ui::Buttons::OkCancel, ui::Icon::Question};
-const ui::Message kBothDeleted{"Pool Names Maintenance",
-                               "The player record and the Pool Selections\r\n"
-                               "will both be deleted if you continue, Ok??",
-                               ui::Buttons::OkCancel, ui::Icon::Question};
 
 TEST_F(PlayersScreenTest, ANewFileIsShownInCapitalsAndAddRecordIsTheDefault)
 {
@@ -127,14 +123,6 @@ TEST_F(PlayersScreenTest, InThatModeARecordWhoseFileVanishedIsDeletedAndTheScree
     EXPECT_TRUE(closed());
 }
 
-TEST_F(PlayersScreenTest, FileNamesAreComparedWithoutTheirLastExtensionOnly)
-{
-    // "MATTHCOX" holds the letters of the extension; cut there it would be everybody whose name begins with MAT.
-    scratch.put("PLAYERNAMES.CSV", playerFile({csv("Matt", "MATTHC_A.THC"), csv("Matthcox", "MATTHCOX.THC")}));
-    PlayersScreen& names = openAfterSave(SaveKind::SameName, "Matthcox.THC", "Matthcox,M");
-    EXPECT_EQ(names.lstNames.selected, 1);
-}
-
 TEST_F(PlayersScreenTest, AFullRecordMeansTheOneFileThatBeginsWithIt)
 {
     const std::string longName = "Montgomery-Featherstonehaugh_Wilhelmina.THC"; // 43 characters
@@ -152,40 +140,6 @@ TEST_F(PlayersScreenTest, AFullRecordMeansTheOneFileThatBeginsWithIt)
     later.cmdDelete.click();
     later.cmdExit.click();
     EXPECT_FALSE(scratch.has(longName));
-}
-
-TEST_F(PlayersScreenTest, ARecordCutAtABlankMeansItsFileToo)
-{
-    const std::string longName = "Featherstonehaugh-Warburton Beau Jr_FB.THC"; // the 33rd character is the second blank
-    scratch.put(longName, "a bracket");
-    scratch.put("PLAYERNAMES.CSV", playerFile({csv("Featherstonehaugh", "FEATHERSTONEHAUGH-WARBURTON BEAU")}));
-    PlayersScreen& names = openAfterSave(SaveKind::NewFile, longName, "Featherstonehaugh,FB");
-    EXPECT_TRUE(names.lstNames.rows.empty()) << "its record was not found";
-    names.cmdCancel.click();
-
-    saved.reset();
-    PlayersScreen& later = open();
-    select(0);
-    platform.dialogs.answer(ui::Answer::Ok);
-    later.cmdDelete.click();
-    EXPECT_EQ(platform.dialogs.shown, std::vector<ui::Message>{kBothDeleted});
-    later.cmdExit.click();
-    EXPECT_FALSE(scratch.has(longName));
-}
-
-TEST_F(PlayersScreenTest, AFullRecordThatSeveralFilesBeginWithMeansNone)
-{
-    const std::string start = "Montgomery-Featherstonehaugh_Wilh"; // 33 characters
-    scratch.put(start + "elmina.THC", "a bracket");
-    scratch.put(start + "elm.THC", "another");
-    scratch.put("PLAYERNAMES.CSV", playerFile({csv("Montgomery", start)}));
-    PlayersScreen& names = open();
-    select(0);
-    names.cmdDelete.click();
-    names.cmdExit.click();
-    EXPECT_TRUE(platform.dialogs.shown.empty());
-    EXPECT_TRUE(scratch.has(start + "elmina.THC"));
-    EXPECT_TRUE(scratch.has(start + "elm.THC"));
 }
 
 TEST_F(PlayersScreenTest, ClosingClearsWhatTheBoardLeft)

@@ -54,6 +54,22 @@ TEST_F(ReportsScreenTest, MakesTheOtherReportsWhenOneFails)
     EXPECT_TRUE(isTicked(kTeamSummary));
 }
 
+TEST_F(ReportsScreenTest, PointsToTheHelpOnARefusalUntilAllGoesWell)
+{
+    putFourPlayers(folder);
+    const std::string players = folder.get("PLAYERNAMES.CSV");
+    screen.load();
+    EXPECT_EQ(screen.helpTopic(), "reports");
+    folder.put("PLAYERNAMES.CSV", "nonsense\r\n");
+    tick({kListing});
+    create(kFile);
+    EXPECT_EQ(screen.helpTopic(), "repair");
+    folder.put("PLAYERNAMES.CSV", players);
+    tick({kListing});
+    create(kFile);
+    EXPECT_EQ(screen.helpTopic(), "reports");
+}
+
 TEST_F(ReportsScreenTest, LeavesAnOlderFileOfAReportThatFails)
 {
     folder.put("RPTOPT1.TXT", "older");
