@@ -125,9 +125,10 @@ if [ "${#places[@]}" -eq 0 ]; then
     exit 2
 fi
 
+# Only what differs, so that a kept build stays; also what an interrupted run has left planted.
 git ls-files -z --cached --others --exclude-standard | while IFS= read -r -d '' path; do
-    [ ! -e "$path" ] || printf '%s\0' "$path" # one that is deleted, but not yet in a commit, is not there
-done | xargs -0 cp --parents --preserve=timestamps --update -t "$copy"
+    [ ! -e "$path" ] || cmp -s "$path" "$copy/$path" || cp --parents "$path" "$copy"
+done
 windows=OFF
 [[ " ${programs[*]} " != *" qt "* ]] || windows=ON
 options=()
