@@ -2,9 +2,11 @@
 #include "hostile/hostile_names.h"
 
 #include "base/windows1252.h"
+#include "fakes/fake_dialogs.h"
 #include "fakes/scratch_folder.h"
 #include "files/selection_file.h"
 #include "files/selection_of_player.h"
+#include "screens/board/selection_saving.h"
 
 #include <algorithm>
 #include <fstream>
@@ -80,8 +82,13 @@ TEST_P(HostileFileNames, AreWrittenInTheFolderOrNotAtAll)
 
 TEST_P(HostileFileNames, AreProposedAsBareNames)
 {
-    for (const std::string& name : {proposedFileName(hostileName(), hostileName()), proposedFileName("", hostileName()),
-                                    proposedFileName(hostileName(), "")}) {
+    for (const auto& [player, initials] :
+         {std::pair{hostileName(), hostileName()}, {std::string{}, hostileName()}, {hostileName(), std::string{}}}) {
+        FakeDialogs dialogs;
+        dialogs.pick(std::nullopt);
+        askWhereToSave(dialogs, folder, Entry{{}, initials, player, "150", {}}, {});
+        ASSERT_EQ(dialogs.fileChoices.size(), 1u);
+        const std::string& name = dialogs.fileChoices.front().proposedName;
         EXPECT_TRUE(isBareName(name)) << name;
         EXPECT_TRUE(endsWithFolded(name, ".THC")) << name;
         EXPECT_FALSE(isDevice(name)) << name;

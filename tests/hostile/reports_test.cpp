@@ -1,16 +1,64 @@
-// tests/hostile/reports_test.cpp - reports and messages take every name as it is, and write nothing but their own
-// files.
+// tests/hostile/reports_test.cpp - reports take every name as it is: of a team, of a player, of a file, as the title.
 #include "hostile/hostile_names.h"
 
-#include "files/player_names_file.h"
-#include "screens/reports/reports_screen_fixture.h"
+#include "pool/projection.h"
+#include "pool/scoring.h"
+#include "reports/four_players.h"
+#include "reports/player_listing.h"
+#include "reports/player_selection_detail.h"
+#include "reports/report_table.h"
+#include "reports/results_by_player.h"
+#include "reports/results_by_team.h"
+#include "reports/standings.h"
+#include "reports/team_selection_detail.h"
 
-#include <algorithm>
+#include <gtest/gtest.h>
 
 namespace tallyhoop::test {
 namespace {
 
-class HostileNamesInReports : public ReportsScreenTest, public testing::WithParamInterface<HostileName>
+/// The lines of a report as one text; empty = the report is refused.
+std::string text(const Result<ReportLines>& lines)
+{
+    std::string all;
+    if (lines)
+        for (const std::string& line : *lines)
+            all += line + "\n";
+    return all;
+}
+
+struct SmallPool {
+    std::string title = "Office Pool";
+    std::vector<PlayerListingRow> list{{"Name", "FileName", "Email", "Phone"}, {"Adams", "Adams_AB.THC", "", ""}};
+    std::vector<Entry> players = fourPlayers();
+    Bracket results = fourPlayersResults().picks;
+
+    std::string report(ReportId id) const
+    {
+        switch (id) {
+        case ReportId::TournamentStandings:
+            return text(standingsLines(title, *scoreEntries(players, results, kUsualPayoffs, goOn)));
+        case ReportId::PlayerListing:
+            return text(playerListingLines(title, list));
+        case ReportId::TeamSelectionSummary:
+            return text(teamSelectionSummaryLines(title, pickEntries(players)));
+        case ReportId::TeamSelectionDetail:
+            return text(teamSelectionDetailLines(title, pickEntries(players)));
+        case ReportId::PlayerSelectionDetail:
+            return text(playerSelectionDetailLines(title, playersByFileName(players)));
+        case ReportId::ResultsByPlayer: {
+            const ByFinal<FinalOutcome> outcomes = finalOutcomes(results);
+            return text(resultsByPlayerLines(title, finalFourOf(results), outcomes,
+                                             *resultsByPlayerRows(players, results, outcomes, kUsualPayoffs)));
+        }
+        case ReportId::ResultsByTeam:
+            return text(resultsByTeamLines(title, *resultsByTeamOutcomes(players, results, kUsualPayoffs)));
+        }
+        return {};
+    }
+};
+
+class HostileNamesInReports : public testing::TestWithParam<HostileName>
 {
 protected:
     const std::string& hostileName() const { return GetParam().text; }
@@ -25,32 +73,18 @@ protected:
     }
 
     /// The four players, one of whom bears the name, sends a team of the name on, and picked it as champion.
-    void putPool()
+    SmallPool namedPool() const
     {
-        for (Entry player : fourPlayers()) {
+        SmallPool pool;
+        for (Entry& player : pool.players)
             player.picks = renamed(player.picks);
-            if (player.fileName == "Clark_D.THC") {
-                player.name = hostileName();
-                player.initials = hostileName();
-                player.picks.put(kChampion, hostileName());
-                player.fileName = proposedFileName(hostileName(), hostileName());
-            }
-            ASSERT_TRUE(dataFolder.write(player.fileName, selectionFile(player)));
-        }
-        Entry results = fourPlayersResults();
-        results.picks = renamed(results.picks);
-        folder.put("TALLYHOOP.THS", selectionFile(results));
-        folder.put("PLAYERNAMES.CSV", playerNamesFile(std::vector<PlayerRecord>{
-                                          {hostileName(), hostileName(), hostileName(), hostileName()}}));
-    }
-
-    std::vector<std::string> names() const
-    {
-        std::vector<std::string> found;
-        for (const std::filesystem::directory_entry& entry : std::filesystem::directory_iterator{folder.path()})
-            found.push_back(entry.path().filename().native());
-        std::ranges::sort(found);
-        return found;
+        Entry& clark = pool.players[2];
+        clark.name = clark.initials = hostileName();
+        clark.picks.put(kChampion, hostileName());
+        clark.fileName = hostileName() + "_x.THC";
+        pool.results = renamed(pool.results);
+        pool.list.push_back({hostileName(), hostileName(), hostileName(), hostileName()});
+        return pool;
     }
 
     /// Whether the layouts have room for it and none of their separators is in it.
@@ -63,49 +97,30 @@ protected:
 
 TEST_P(HostileNamesInReports, AreWrittenLetterForLetter)
 {
-    putPool();
-    std::vector<std::string> expected = names();
-    tickAll();
-    create(kFile);
-
-    // Nothing but report files has come, whatever the names say.
-    for (const std::string& name : names()) {
-        const bool report = name == "TEMPPRT.TXT" || (name.starts_with("RPTOPT") && name.ends_with(".TXT"));
-        EXPECT_TRUE(report || std::erase(expected, name) == 1) << name;
+    const SmallPool pool = namedPool();
+    for (const ReportKind& kind : reportTable()) {
+        const std::string report = pool.report(kind.id);
+        if (!isOrdinary()) {
+            // There is a report of all players or none: no name makes it end early.
+            EXPECT_TRUE(report.empty() || report.find("Office Pool") != std::string::npos) << kind.name;
+            continue;
+        }
+        const bool narrow = kind.id == ReportId::PlayerSelectionDetail; // its columns hold 14 characters
+        EXPECT_NE(report.find(narrow ? hostileName().substr(0, 14) : hostileName()), std::string::npos) << kind.name;
     }
-    EXPECT_TRUE(expected.empty()) << "a file of the pool is gone";
-
-    if (!isOrdinary())
-        return;
-    EXPECT_TRUE(platform.dialogs.shown.empty());
-    for (const char* report : {"RPTOPT1.TXT", "RPTOPT3.TXT", "RPTOPT4.TXT"})
-        EXPECT_NE(folder.get(report).find(hostileName()), std::string::npos) << report;
-    EXPECT_NE(folder.get("RPTOPT5.TXT").find(hostileName().substr(0, 14)), std::string::npos);
 }
 
 TEST_P(HostileNamesInReports, AreTheTitleAndNothingElse)
 {
-    putFourPlayers(folder);
-    screen.txtReportTitle.text = hostileName();
-    tickAll();
-    create(kFile);
-    EXPECT_NE(folder.get("RPTOPT1.TXT").find(hostileName()), std::string::npos);
-    EXPECT_NE(folder.get("RPTOPT2.TXT").find(hostileName()), std::string::npos);
-}
-
-TEST_P(HostileNamesInReports, ReachTheMailProgramAsTheyAre)
-{
-    putFourPlayers(folder);
-    tick({kListing});
-    sendFromTheDialog({.recipients = {hostileName()}, .subject = hostileName(), .message = hostileName()});
-    create(kEmail);
-    ASSERT_EQ(platform.mail.sent.size(), 1u);
-    const ui::MailMessage& sent = platform.mail.sent.front();
-    EXPECT_EQ(sent.recipients, std::vector{hostileName()});
-    EXPECT_EQ(sent.subject, hostileName());
-    EXPECT_EQ(sent.body, hostileName() + std::string(10, ' '));
-    ASSERT_EQ(sent.attachments.size(), 1u);
-    EXPECT_EQ(sent.attachments.front().file, folder.path() / "RPTOPT2.TXT");
+    SmallPool pool;
+    pool.title = hostileName();
+    for (const ReportKind& kind : reportTable()) {
+        const std::string report = pool.report(kind.id);
+        constexpr std::size_t kFitsEverywhere = 60;
+        EXPECT_TRUE(report.find(hostileName()) != std::string::npos ||
+                    (report.empty() && hostileName().size() > kFitsEverywhere))
+            << kind.name;
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInReports, testing::ValuesIn(hostileNames()),

@@ -28,6 +28,8 @@ namespace {
 
 namespace fs = std::filesystem;
 using tallyhoop::test::HostileName;
+using tallyhoop::test::hostileNames;
+using tallyhoop::test::Place;
 
 class HostileNamesInDialogs : public testing::TestWithParam<HostileName>
 {
@@ -52,6 +54,18 @@ protected:
             act(*dialog);
         });
     }
+
+    ~HostileNamesInDialogs() override { EXPECT_TRUE(seen); }
+
+    test::Shown shown;
+    QtDialogs dialogs{shown.desk};
+    bool seen = false;
+};
+
+class HostileNamesInFileDialogs : public HostileNamesInDialogs
+{
+protected:
+    HostileNamesInFileDialogs() { fs::create_directory(folder()); }
 
     /// Types a name into a file dialog and accepts it; closes the dialog when it does not accept the name.
     std::optional<fs::path> fileTyped(bool save, const std::string& proposal, const std::optional<QString>& typed)
@@ -79,13 +93,7 @@ protected:
 
     fs::path folder() const { return scratch.path() / "pool"; }
 
-    HostileNamesInDialogs() { fs::create_directory(folder()); }
-    ~HostileNamesInDialogs() override { EXPECT_TRUE(seen); }
-
     tallyhoop::test::ScratchFolder scratch;
-    test::Shown shown;
-    QtDialogs dialogs{shown.desk};
-    bool seen = false;
 };
 
 TEST_P(HostileNamesInDialogs, AreTextInAMessage)
@@ -116,7 +124,7 @@ TEST_P(HostileNamesInDialogs, AreTextInAnInputBoxAndComeBackFromIt)
     QApplication::clipboard()->clear();
 }
 
-TEST_P(HostileNamesInDialogs, AreSavedUnderTheProposedNameInTheFolder)
+TEST_P(HostileNamesInFileDialogs, AreSavedUnderTheProposedNameInTheFolder)
 {
     const std::string proposal = withoutUnsafeCharacters(hostileName().substr(0, 100) + "_AB.THC");
     if (proposal.find('?') != std::string::npos)
@@ -126,7 +134,7 @@ TEST_P(HostileNamesInDialogs, AreSavedUnderTheProposedNameInTheFolder)
     EXPECT_EQ(*chosen, folder() / toPath(toQString(proposal)));
 }
 
-TEST_P(HostileNamesInDialogs, AreNothingButAPathWhenTheyAreTypedToSave)
+TEST_P(HostileNamesInFileDialogs, AreNothingButAPathWhenTheyAreTypedToSave)
 {
     const std::optional<fs::path> chosen = fileTyped(true, "", shownName());
     if (!chosen)
@@ -135,7 +143,7 @@ TEST_P(HostileNamesInDialogs, AreNothingButAPathWhenTheyAreTypedToSave)
     EXPECT_EQ(chosen->lexically_normal(), (folder() / typed).lexically_normal());
 }
 
-TEST_P(HostileNamesInDialogs, OpenNoFileThatIsNotThere)
+TEST_P(HostileNamesInFileDialogs, OpenNoFileThatIsNotThere)
 {
     scratch.put("outside.THC", "not of the pool");
     const std::optional<fs::path> chosen = fileTyped(false, "", shownName());
@@ -174,10 +182,13 @@ TEST_P(HostileNamesInDialogs, AreSearchedForInTheHelpAsTheyAre)
     box.setText(shownName());
     QTest::keyClick(&box, Qt::Key_Return);
     EXPECT_EQ(box.text(), shownName());
-    EXPECT_TRUE(help.isVisible());
+    EXPECT_EQ(help.findChild<QLabel*>(QStringLiteral("helpMatches"))->text(),
+              hostileName() == "<b>bold</b>" ? QStringLiteral("1 of 1") : QStringLiteral("not found"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInDialogs, testing::ValuesIn(tallyhoop::test::hostileNames()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInDialogs, testing::ValuesIn(hostileNames(Place::Window)),
+                         [](const auto& values) { return values.param.kind; });
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInFileDialogs, testing::ValuesIn(hostileNames(Place::FileDialog)),
                          [](const auto& values) { return values.param.kind; });
 
 TEST(HostileNamesTypedIntoAnInputBox, LoseLineBreaksAndMarksThatChangeTheDirectionOfText)

@@ -2,102 +2,110 @@
 #include "hostile/hostile_names.h"
 
 #include "app/wiring.h"
+#include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "qt/hostile_names_program.h"
+#include "files/file_names.h"
+#include "files/setup_file.h"
+#include "qt/desk.h"
 #include "qt/paths.h"
 #include "qt/services/qt_printer.h"
+#include "qt/text.h"
+#include "screens/board/board_screen.h"
 
 #include <QProcess>
 #include <algorithm>
+#include <gtest/gtest.h>
 
 namespace tallyhoop::qt {
 namespace {
 
-class HostileNamesPrinted : public testing::TestWithParam<HostileName>
+using test::HostileName;
+
+/// Whether each of its characters has a shape on paper. Unassigned ones and controls have none.
+bool hasShape(const HostileName& hostile)
+{
+    return std::ranges::all_of(hostile.text, [](char byte) {
+        const QChar character = toQString({&byte, 1}).front();
+        return character.isPrint() && character.category() != QChar::Other_Format;
+    });
+}
+
+class HostileNamesPrinted : public testing::Test
 {
 protected:
-    const std::string& hostileName() const { return GetParam().text; }
-
-    /// Whether each of its characters has a shape on paper. Unassigned ones and controls have none.
-    bool hasShape() const
-    {
-        return std::ranges::all_of(hostileName(), [](char byte) {
-            const QChar character = toQString({&byte, 1}).front();
-            return character.isPrint() && character.category() != QChar::Other_Format;
-        });
-    }
-
-    QString saved(const auto& printout) const
+    /// The text of each page of a PDF file, runs of blanks as one.
+    QStringList pagesOf(const auto& printout) const
     {
         Desk desk;
         QtPrinter printer{desk};
+        const std::filesystem::path pdf = scratch.path() / "paper.pdf";
         EXPECT_TRUE(printer.savePdf(printout, pdf));
-        return said(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), fromPath(pdf), QStringLiteral("-")});
-    }
-
-    static QString said(const QString& program, const QStringList& arguments)
-    {
         QProcess process;
-        process.start(program, arguments);
-        EXPECT_TRUE(process.waitForFinished()) << program.toStdString() << " (poppler-utils) is needed";
-        return QString::fromUtf8(process.readAllStandardOutput());
-    }
-
-    int pages() const
-    {
-        const QStringList about = said(QStringLiteral("pdfinfo"), {fromPath(pdf)}).split(QLatin1Char{'\n'});
-        for (const QString& line : about)
-            if (line.startsWith(QStringLiteral("Pages:")))
-                return line.mid(6).toInt();
-        return 0;
+        process.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), fromPath(pdf), QStringLiteral("-")});
+        EXPECT_TRUE(process.waitForFinished()) << "pdftotext (poppler-utils) is needed";
+        QStringList pages = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char{'\f'});
+        EXPECT_EQ(pages.takeLast(), QString{}) << "a page ends with a form feed";
+        for (QString& page : pages)
+            page = page.simplified();
+        return pages;
     }
 
     test::ScratchFolder scratch;
-    const std::filesystem::path pdf = scratch.path() / "paper.pdf";
 };
 
-TEST_P(HostileNamesPrinted, AreALineOfAReport)
+TEST_F(HostileNamesPrinted, AreALineOfAReport)
 {
-    const QString text = saved(ui::TextPrintout{hostileName(),
-                                                {"the line before", hostileName(), "the line after", "\f", "page two"},
-                                                {"Courier New", 10},
-                                                ui::Orientation::Portrait,
-                                                0});
-    EXPECT_TRUE(text.contains(QStringLiteral("the line before")));
-    EXPECT_TRUE(text.contains(QStringLiteral("the line after")));
-    EXPECT_TRUE(text.contains(QStringLiteral("page two")));
-    // A line that begins with a form feed starts a page and is not printed, as in every report.
-    EXPECT_EQ(pages(), hostileName().starts_with('\f') ? 3 : 2);
-    if (hasShape() && hostileName().size() <= 80) {
-        EXPECT_TRUE(text.simplified().contains(toQString(hostileName()).simplified())) << text.toStdString();
+    ui::TextPrintout report{"<b>&%1", {}, {"Courier New", 10}, ui::Orientation::Portrait, 0};
+    for (const HostileName& hostile : test::hostileNames())
+        for (const std::string& line :
+             {"before " + hostile.kind, hostile.text, "after " + hostile.kind, std::string{"\f"}})
+            report.lines.push_back(line);
+
+    const QStringList pages = pagesOf(report);
+
+    qsizetype page = 0;
+    ASSERT_EQ(pages.size(), static_cast<qsizetype>(test::hostileNames().size()) + 1);
+    for (const HostileName& hostile : test::hostileNames()) {
+        const QString before = toQString("before " + hostile.kind);
+        const QString after = toQString("after " + hostile.kind);
+        EXPECT_TRUE(pages[page].startsWith(before)) << pages[page].toStdString();
+        if (hostile.text.starts_with('\f')) { // starts a page and is not printed, as in every report
+            EXPECT_EQ(pages[page++], before);
+        }
+        EXPECT_TRUE(pages[page].endsWith(after)) << pages[page].toStdString();
+        if (hasShape(hostile) && hostile.text.size() <= 80) {
+            EXPECT_EQ(pages[page], (before + u' ' + toQString(hostile.text) + u' ' + after).simplified());
+        }
+        ++page;
     }
 }
 
-TEST_P(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
+TEST_F(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
 {
     test::FakePlatform platform;
     SharedValues shared;
     test::FakeScreens screens;
     Field field = defaultField();
-    field.teams[TeamRow{0}] = hostileName();
+    for (std::size_t i = 0; i < test::hostileNames().size(); ++i)
+        field.teams[allTeamRows()[i]] = test::hostileNames()[i].text;
     field.finalized = "1";
     scratch.put(file_name::kSetup, setupFile(field));
     const DataFolder folder = scratch.folder();
     BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedVerdicts}};
     board.load();
-    const QString text = saved(ui::DrawingPrintout{hostileName(), board.drawing(), ui::Orientation::Landscape});
-    EXPECT_EQ(pages(), 1);
-    EXPECT_TRUE(text.contains(QStringLiteral("TEAM2"))) << "the next team";
-    if (hasShape()) {
+
+    const QStringList pages = pagesOf(ui::DrawingPrintout{"<b>&%1", board.drawing(), ui::Orientation::Landscape});
+
+    ASSERT_EQ(pages.size(), 1);
+    EXPECT_TRUE(pages[0].contains(QStringLiteral("TEAM64"))) << "the last team";
+    for (const HostileName& hostile : test::hostileNames()) {
         constexpr qsizetype kSurelyFits = 8;
-        EXPECT_TRUE(text.simplified().contains(toQString(hostileName()).left(kSurelyFits).simplified()))
-            << text.toStdString();
+        if (hasShape(hostile)) {
+            EXPECT_TRUE(pages[0].contains(toQString(hostile.text).left(kSurelyFits).simplified())) << hostile.kind;
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Each, HostileNamesPrinted, testing::ValuesIn(test::hostileNames()),
-                         [](const auto& values) { return values.param.kind; });
 
 } // namespace
 } // namespace tallyhoop::qt

@@ -28,22 +28,22 @@
 
 namespace tallyhoop::qt {
 
-using test::HostileName;
+using tallyhoop::test::HostileName;
 
-/// The program with a pool whose title, regions, teams, seeds, comments and players all have one hostile name.
-class HostileNamesOnScreens : public testing::TestWithParam<HostileName>
+/// The program with a pool whose title, regions, teams, seeds, comments and players all have one name.
+class ProgramFullOf : public testing::Test
 {
 protected:
-    HostileNamesOnScreens()
+    explicit ProgramFullOf(std::string name) : m_name{std::move(name)}
     {
         putPool();
         wireScreens(host, desk, folder, platform.services, shared);
-        frame.resize(1200, 800);
+        frame.resize(1366, 708);
         frame.show();
         host.load(ScreenKind::Board);
     }
 
-    const std::string& hostileName() const { return GetParam().text; }
+    const std::string& hostileName() const { return m_name; }
 
     void putPool()
     {
@@ -94,6 +94,11 @@ protected:
         examineToolTips(*page);
     }
 
+    void examineModal(ScreenKind kind)
+    {
+        insideModal(kind, [&] { examine(kind); });
+    }
+
     void examineToolTips(const Page& page)
     {
         for (const ui::Control* control : page.screen().controls()) {
@@ -106,10 +111,11 @@ protected:
         }
     }
 
-    void examineModal(ScreenKind kind)
+    /// Opens a modal screen, acts and leaves it.
+    void insideModal(ScreenKind kind, const std::function<void()>& act)
     {
         QTimer::singleShot(0, qApp, [&] {
-            examine(kind);
+            act();
             desk.runInside(*host.screen(kind), [&] { host.unload(kind); });
         });
         host.load(kind);
@@ -119,10 +125,14 @@ protected:
     BoardScreen& board() { return *host.find<BoardScreen>(ScreenKind::Board); }
     void onBoard(const std::function<void()>& command) { desk.runInside(board(), command); }
 
-    test::ScratchFolder scratch;
+private:
+    std::string m_name;
+
+protected:
+    tallyhoop::test::ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     const std::string fileName = proposedFileName(hostileName(), hostileName());
-    test::FakePlatform platform;
+    tallyhoop::test::FakePlatform platform;
     SharedValues shared;
     MainFrame frame;
     Desk desk{&frame};
