@@ -27,11 +27,17 @@ using namespace tallyhoop::qt;
 
 namespace {
 
-/// The non-empty lines of each page, without trailing blanks.
-using Pages = std::vector<QStringList>;
+/// A word on a page, points from its left and top edge.
+struct Word {
+    QString text;
+    double x = 0;
+    double y = 0; ///< of the top of its letters
+};
 
-constexpr int kMarginTwips = 10 * 20; ///< of the paper
-constexpr double kCharacterTwips = 120;
+constexpr double kTwips = 20;               ///< of a point
+constexpr double kMargin = 10;              ///< of the paper, points
+constexpr double kCharacter = 120 / kTwips; ///< width
+constexpr double kNatural = 226.5 / kTwips; ///< line spacing of the report font at 10 points
 
 QString said(const QString& program, const QStringList& arguments)
 {
@@ -41,60 +47,67 @@ QString said(const QString& program, const QStringList& arguments)
     return QString::fromUtf8(process.readAllStandardOutput());
 }
 
-QString withoutTrailingBlanks(QString line)
+/// The lines of each page, blank ones included.
+std::vector<ReportLines> pagesOf(const ReportLines& lines)
 {
-    while (line.endsWith(QLatin1Char{' '}))
-        line.chop(1);
-    return line;
-}
-
-Pages withoutEmptyPages(Pages pages)
-{
-    std::erase_if(pages, [](const QStringList& page) { return page.isEmpty(); });
-    return pages;
-}
-
-Pages pagesOfReport(const ReportLines& lines)
-{
-    Pages pages(1);
+    std::vector<ReportLines> pages(1);
     for (const std::string& line : lines) {
         if (line == kFormFeedLine)
             pages.emplace_back();
-        else if (const QString text = withoutTrailingBlanks(toQString(line)); !text.isEmpty())
-            pages.back() << text;
+        else
+            pages.back().push_back(line);
     }
-    return withoutEmptyPages(pages);
-}
-
-/// Keeps columns: one character is six points wide.
-Pages pagesOfPdf(const std::filesystem::path& pdf)
-{
-    const QString text = said(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-fixed"),
-                                                            QStringLiteral("6"), fromPath(pdf), QStringLiteral("-")});
-    Pages pages;
-    const QStringList sheets = text.split(QLatin1Char{'\f'});
-    for (const QString& sheet : sheets) {
-        pages.emplace_back();
-        const QStringList lines = sheet.split(QLatin1Char{'\n'});
-        for (const QString& line : lines)
-            if (const QString kept = withoutTrailingBlanks(line); !kept.isEmpty())
-                pages.back() << kept;
-    }
-    return withoutEmptyPages(pages);
-}
-
-/// Shifts every line to the right, as the margin on paper does.
-Pages indentedBy(Pages pages, qsizetype characters)
-{
-    for (QStringList& page : pages)
-        for (QString& line : page)
-            line.prepend(QString{characters, QLatin1Char{' '}});
+    std::erase_if(pages, [](const ReportLines& page) { return page.empty(); });
     return pages;
 }
 
-qsizetype blanksBefore(const QString& line)
+/// Where the words of a page have to be, line by line.
+/// @param height of the printable area, points
+std::vector<Word> expectedWords(const ReportLines& page, double left, double height)
 {
-    return std::distance(line.begin(), std::ranges::find_if(line, [](QChar c) { return c != QLatin1Char{' '}; }));
+    // A page that is too long is set tighter.
+    const double spacing = std::min(kNatural, height / static_cast<double>(page.size()));
+    std::vector<Word> words;
+    for (std::size_t row = 0; row < page.size(); ++row) {
+        const QString line = toQString(page[row]);
+        static const QRegularExpression kWord{QStringLiteral("[^ ]+")};
+        for (auto found = kWord.globalMatch(line); found.hasNext();) {
+            const QRegularExpressionMatch word = found.next();
+            words.push_back({word.captured(), left + kCharacter * static_cast<double>(word.capturedStart()),
+                             kMargin + spacing * static_cast<double>(row)});
+        }
+    }
+    return words;
+}
+
+QString unescaped(QString text)
+{
+    for (const auto& [escaped, character] :
+         {std::pair{"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&apos;", "'"}, {"&amp;", "&"}})
+        text.replace(QLatin1String{escaped}, QLatin1String{character});
+    return text;
+}
+
+std::vector<std::vector<Word>> pagesOfPdf(const std::filesystem::path& pdf)
+{
+    static const QRegularExpression kWord{
+        QStringLiteral("<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>([^<]*)</word>")};
+    const QString text =
+        said(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), fromPath(pdf), QStringLiteral("-")});
+    std::vector<std::vector<Word>> pages;
+    const QStringList parts = text.split(QStringLiteral("<page ")).mid(1);
+    for (const QString& part : parts) {
+        std::vector<Word>& words = pages.emplace_back();
+        for (auto found = kWord.globalMatch(part); found.hasNext();) {
+            const QRegularExpressionMatch word = found.next();
+            words.push_back({unescaped(word.captured(3)), word.captured(1).toDouble(), word.captured(2).toDouble()});
+        }
+        // pdftotext has an order of its own: line by line, from left to right.
+        std::ranges::sort(words, [](const Word& left, const Word& right) {
+            return std::abs(left.y - right.y) > 3 ? left.y < right.y : left.x < right.x;
+        });
+    }
+    return pages;
 }
 
 ReportLines approved(const std::string& pool, const ReportKind& kind)
@@ -133,20 +146,22 @@ std::string nameOf(const testing::TestParamInfo<ReportPdf::ParamType>& info)
 
 } // namespace
 
-TEST_P(ReportPdf, HasTheReportsLinesInTheirColumnsAndAPageForEachOfItsPages)
+TEST_P(ReportPdf, HasEveryWordInItsColumnAndItsLineOfAPageForEachPage)
 {
-    const Pages expected = pagesOfReport(lines);
-    const Pages printed = pagesOfPdf(pdf);
+    const std::vector<ReportLines> expected = pagesOf(lines);
+    const std::vector<std::vector<Word>> printed = pagesOfPdf(pdf);
     ASSERT_EQ(printed.size(), expected.size());
-
-    // The margin need not be a whole number of characters, but it is the same for every line.
-    const qsizetype margin = blanksBefore(printed[0][0]) - blanksBefore(expected[0][0]);
-    EXPECT_NEAR(static_cast<double>(margin), (kMarginTwips + printout.originTwips) / kCharacterTwips, 1.0);
-    const Pages shifted = indentedBy(expected, margin);
-    for (std::size_t page = 0; page < shifted.size(); ++page) {
-        ASSERT_EQ(printed[page].size(), shifted[page].size()) << "page " << page + 1;
-        for (qsizetype line = 0; line < shifted[page].size(); ++line)
-            ASSERT_EQ(printed[page][line].toStdString(), shifted[page][line].toStdString()) << "page " << page + 1;
+    const double height = (kind.orientation == PageOrientation::Landscape ? 612 : 792) - 2 * kMargin;
+    const double left = kMargin + printout.originTwips / kTwips;
+    for (std::size_t page = 0; page < expected.size(); ++page) {
+        const std::vector<Word> words = expectedWords(expected[page], left, height);
+        ASSERT_EQ(printed[page].size(), words.size()) << "page " << page + 1;
+        for (std::size_t i = 0; i < words.size(); ++i) {
+            const Word& word = printed[page][i];
+            ASSERT_EQ(word.text.toStdString(), words[i].text.toStdString()) << "page " << page + 1;
+            ASSERT_NEAR(word.x, words[i].x, 0.5) << "page " << page + 1 << ": " << word.text.toStdString();
+            ASSERT_NEAR(word.y, words[i].y, 1.0) << "page " << page + 1 << ": " << word.text.toStdString();
+        }
     }
 }
 

@@ -209,6 +209,23 @@ TEST_F(MailHandOverTest, TriesTheNextWayWhenAProgramCannotBeStarted)
     EXPECT_EQ(started().at(0), "xdg-email");
 }
 
+TEST_F(MailHandOverTest, TakesAClientThatFailsAfterItsStartForOneThatHasTheMessage)
+{
+    // A client may run as long as its window is open: nobody waits for its end.
+    setHandler("thunderbird.desktop");
+    installRecording("thunderbird", 1);
+    installRecording("xdg-email", 1);
+    installRecording("gio");
+    EXPECT_TRUE(mail.send(message()));
+    EXPECT_EQ(started().at(0), "thunderbird");
+    EXPECT_FALSE(std::filesystem::exists(awkward / "TALLYHOOP.EML")) << "another way was tried";
+
+    setHandler("org.gnome.Evolution.desktop");
+    EXPECT_TRUE(mail.send(message()));
+    EXPECT_EQ(started().at(0), "xdg-email");
+    EXPECT_FALSE(std::filesystem::exists(awkward / "TALLYHOOP.EML")) << "another way was tried";
+}
+
 TEST_F(MailHandOverTest, NamesTheFilesWhenNothingCanTakeTheMessage)
 {
     const Result<Done> sent = mail.send(message());

@@ -108,6 +108,9 @@ TEST_F(ScoresViewTest, SortsByAHeadingThatIsDraggedToTheFront)
     EXPECT_EQ(heading(1), "File Name");
     EXPECT_THAT(shown(0), ElementsAre("80", "59", "55", "31"));
     EXPECT_EQ(scores.msgScoreDisplay.columns[0].heading, "Score");
+    // As texts, 120 would come last, or between 31 and 67.
+    dragHeading(3, 0);
+    EXPECT_THAT(shown(0), ElementsAre("120", "71", "67", "31"));
 }
 
 TEST_F(ScoresViewTest, MarksTheBoardWhenAFileNameIsPressedAndOnlyThen)

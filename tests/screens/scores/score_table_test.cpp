@@ -67,7 +67,8 @@ TEST(SortedOrder, GoesUpwardsWhenTheFirstRowHoldsZero)
 
 TEST(SortedOrder, TakesATextThatOnlyBeginsWithANumberAsText)
 {
-    EXPECT_THAT(sortedColumn({{"2nd", "x"}, {"10th", "y"}}, 0), ElementsAre("10th", "2nd"));
+    // By numbers: 1st 2nd 10th, or the other way round.
+    EXPECT_THAT(sortedColumn({{"2nd", "x"}, {"10th", "y"}, {"1st", "z"}}, 0), ElementsAre("10th", "1st", "2nd"));
 }
 
 TEST(SortedOrder, DecidesTheDirectionByTheFirstRowAlone)
