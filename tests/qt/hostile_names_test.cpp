@@ -8,6 +8,8 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QTableView>
+#include <QTextDocumentFragment>
 
 namespace tallyhoop::qt {
 namespace {
@@ -41,6 +43,13 @@ TEST_P(HostileNamesOnScreens, AreTextWhenTheyAreScored)
     ASSERT_EQ(scores->msgScoreDisplay.rows.size(), 1U);
     examine(ScreenKind::Scores);
     EXPECT_FALSE(host.page(ScreenKind::Scores)->grab().isNull());
+    const auto& table = *host.page(ScreenKind::Scores)->findChild<QTableView*>(QStringLiteral("msgScoreDisplay"));
+    for (int column = 0; column < table.model()->columnCount(); ++column) {
+        const QModelIndex cell = table.model()->index(0, column);
+        const QString tip = cell.data(Qt::ToolTipRole).toString();
+        const QString seen = Qt::mightBeRichText(tip) ? QTextDocumentFragment::fromHtml(tip).toPlainText() : tip;
+        EXPECT_EQ(seen.simplified(), cell.data().toString().simplified()) << "column " << column;
+    }
 }
 
 TEST_P(HostileNamesOnScreens, AreTextAmongTheReports)
