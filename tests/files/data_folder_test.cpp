@@ -104,7 +104,7 @@ TEST(DataFolderPathOf, PrefersTheFileThatIsCalledSo)
 TEST(DataFolderPathOf, RefusesWhatIsNoBareName)
 {
     const ScratchFolder scratch;
-    for (const std::string_view name : {"", ".", "..", "a/b", "/etc/passwd", "..\\a", "C:a", "C:\\a"}) {
+    for (const std::string_view name : {"", ".", "..", "a/b", "/nowhere/outside", "..\\a", "C:a", "C:\\a"}) {
         EXPECT_EQ(scratch.folder().pathOf(name), std::nullopt) << name;
         EXPECT_FALSE(scratch.folder().exists(name)) << name;
         EXPECT_FALSE(scratch.folder().read(name)) << name;

@@ -28,7 +28,8 @@ enum class Place {
     FileDialog, ///< which could take it for several names, for another folder, for a pattern
 };
 
-/// A name as it may come out of a file: Windows-1252 bytes, no line ends.
+/// A name as it may come out of a file: Windows-1252 bytes, no line ends. A defect may write and remove what it names:
+/// no name may be that of a file of the machine on which the tests run.
 struct HostileName {
     std::string kind; ///< letters only
     std::string text;
@@ -43,8 +44,8 @@ inline const std::vector<HostileName>& hostileNames()
     using enum Place;
     static const std::vector<HostileName> all{
         {"Bold", "<b>bold</b>", {Window}},
-        {"Picture", "<img src=\"/etc/passwd\">"},
-        {"Link", "<a href=\"file:///etc/passwd\">x</a>"},
+        {"Picture", "<img src=\"/nowhere/picture\">"},
+        {"Link", "<a href=\"file:///nowhere\">x</a>"},
         {"Entity", "&amp;&lt;", {Window}},
         {"Ampersand", "Texas A&M &File", {Window}},
         {"DoubleQuotes", "\"quoted\",\"again\"", {FileDialog}},
@@ -54,7 +55,7 @@ inline const std::vector<HostileName>& hostileNames()
         {"ShellWords", "$(touch owned)`touch owned`|touch owned", {FileDialog}},
         {"ParentFolder", "../outside", {FileDialog}},
         {"ParentFolderOfWindows", "..\\outside", {FileDialog}},
-        {"AbsolutePath", "/etc/passwd", {FileDialog}},
+        {"AbsolutePath", "/nowhere/outside", {FileDialog}},
         {"DriveLetter", "C:\\autoexec", {FileDialog}},
         {"Dots", "..", {FileDialog}},
         {"DeviceCon", "CON"},
