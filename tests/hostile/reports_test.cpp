@@ -18,7 +18,7 @@ namespace tallyhoop::test {
 namespace {
 
 /// The lines of a report as one text; empty = the report is refused.
-std::string text(const Result<ReportLines>& lines)
+std::string reportText(const Result<ReportLines>& lines)
 {
     std::string all;
     if (lines)
@@ -37,22 +37,22 @@ struct SmallPool {
     {
         switch (id) {
         case ReportId::TournamentStandings:
-            return text(standingsLines(title, *scoreEntries(players, results, kUsualPayoffs, goOn)));
+            return reportText(standingsLines(title, *scoreEntries(players, results, kUsualPayoffs, goOn)));
         case ReportId::PlayerListing:
-            return text(playerListingLines(title, list));
+            return reportText(playerListingLines(title, list));
         case ReportId::TeamSelectionSummary:
-            return text(teamSelectionSummaryLines(title, pickEntries(players)));
+            return reportText(teamSelectionSummaryLines(title, pickEntries(players)));
         case ReportId::TeamSelectionDetail:
-            return text(teamSelectionDetailLines(title, pickEntries(players)));
+            return reportText(teamSelectionDetailLines(title, pickEntries(players)));
         case ReportId::PlayerSelectionDetail:
-            return text(playerSelectionDetailLines(title, playersByFileName(players)));
+            return reportText(playerSelectionDetailLines(title, playersByFileName(players)));
         case ReportId::ResultsByPlayer: {
             const ByFinal<FinalOutcome> outcomes = finalOutcomes(results);
-            return text(resultsByPlayerLines(title, finalFourOf(results), outcomes,
-                                             *resultsByPlayerRows(players, results, outcomes, kUsualPayoffs)));
+            return reportText(resultsByPlayerLines(title, finalFourOf(results), outcomes,
+                                                   *resultsByPlayerRows(players, results, outcomes, kUsualPayoffs)));
         }
         case ReportId::ResultsByTeam:
-            return text(resultsByTeamLines(title, *resultsByTeamOutcomes(players, results, kUsualPayoffs)));
+            return reportText(resultsByTeamLines(title, *resultsByTeamOutcomes(players, results, kUsualPayoffs)));
         }
         return {};
     }

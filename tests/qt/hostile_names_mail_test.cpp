@@ -10,7 +10,7 @@
 namespace tallyhoop::qt {
 namespace {
 
-using test::HostileName;
+using tallyhoop::test::HostileName;
 
 /// What a client finds in its composing argument: a value in apostrophes is taken as it is and ends at an apostrophe
 /// before a comma or the end; a bare value ends at a comma and is percent-decoded.
@@ -91,7 +91,7 @@ TEST_P(HostileNamesInMail, ReachXdgEmailAsOneAddressAndNeverAsAnOption)
     EXPECT_EQ(decoded(body + 6, address.size()), sent.body);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInMail, testing::ValuesIn(test::hostileNames()),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesInMail, testing::ValuesIn(tallyhoop::test::hostileNames()),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

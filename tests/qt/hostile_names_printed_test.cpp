@@ -20,7 +20,7 @@
 namespace tallyhoop::qt {
 namespace {
 
-using test::HostileName;
+using tallyhoop::test::HostileName;
 
 /// Whether each of its characters has a shape on paper. Unassigned ones and controls have none.
 bool hasShape(const HostileName& hostile)
@@ -51,13 +51,13 @@ protected:
         return pages;
     }
 
-    test::ScratchFolder scratch;
+    tallyhoop::test::ScratchFolder scratch;
 };
 
 TEST_F(HostileNamesPrinted, AreALineOfAReport)
 {
     ui::TextPrintout report{"<b>&%1", {}, {"Courier New", 10}, ui::Orientation::Portrait, 0};
-    for (const HostileName& hostile : test::hostileNames())
+    for (const HostileName& hostile : tallyhoop::test::hostileNames())
         for (const std::string& line :
              {"before " + hostile.kind, hostile.text, "after " + hostile.kind, std::string{"\f"}})
             report.lines.push_back(line);
@@ -65,8 +65,8 @@ TEST_F(HostileNamesPrinted, AreALineOfAReport)
     const QStringList pages = pagesOf(report);
 
     qsizetype page = 0;
-    ASSERT_EQ(pages.size(), static_cast<qsizetype>(test::hostileNames().size()) + 1);
-    for (const HostileName& hostile : test::hostileNames()) {
+    ASSERT_EQ(pages.size(), static_cast<qsizetype>(tallyhoop::test::hostileNames().size()) + 1);
+    for (const HostileName& hostile : tallyhoop::test::hostileNames()) {
         const QString before = toQString("before " + hostile.kind);
         const QString after = toQString("after " + hostile.kind);
         EXPECT_TRUE(pages[page].startsWith(before)) << pages[page].toStdString();
@@ -83,12 +83,12 @@ TEST_F(HostileNamesPrinted, AreALineOfAReport)
 
 TEST_F(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
 {
-    test::FakePlatform platform;
+    tallyhoop::test::FakePlatform platform;
     SharedValues shared;
-    test::FakeScreens screens;
+    tallyhoop::test::FakeScreens screens;
     Field field = defaultField();
-    for (std::size_t i = 0; i < test::hostileNames().size(); ++i)
-        field.teams[allTeamRows()[i]] = test::hostileNames()[i].text;
+    for (std::size_t i = 0; i < tallyhoop::test::hostileNames().size(); ++i)
+        field.teams[allTeamRows()[i]] = tallyhoop::test::hostileNames()[i].text;
     field.finalized = "1";
     scratch.put(file_name::kSetup, setupFile(field));
     const DataFolder folder = scratch.folder();
@@ -99,7 +99,7 @@ TEST_F(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
 
     ASSERT_EQ(pages.size(), 1);
     EXPECT_TRUE(pages[0].contains(QStringLiteral("TEAM64"))) << "the last team";
-    for (const HostileName& hostile : test::hostileNames()) {
+    for (const HostileName& hostile : tallyhoop::test::hostileNames()) {
         constexpr qsizetype kSurelyFits = 8;
         if (hasShape(hostile)) {
             EXPECT_TRUE(pages[0].contains(toQString(hostile.text).left(kSurelyFits).simplified())) << hostile.kind;

@@ -113,7 +113,8 @@ TEST_P(HostileNamesOnScreens, AreTextAmongTheSeedsAndNumbersNever)
     EXPECT_EQ(host.find<SetupScreen>(ScreenKind::Setup)->lblSeed[0].text, hostileName());
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, HostileNamesOnScreens, testing::ValuesIn(test::hostileNames(test::Place::Window)),
+INSTANTIATE_TEST_SUITE_P(Each, HostileNamesOnScreens,
+                         testing::ValuesIn(tallyhoop::test::hostileNames(tallyhoop::test::Place::Window)),
                          [](const auto& values) { return values.param.kind; });
 
 } // namespace

@@ -34,10 +34,10 @@ struct Word {
     double y = 0; ///< of the top of its letters
 };
 
-constexpr double kTwips = 20;               ///< of a point
-constexpr double kMargin = 10;              ///< of the paper, points
-constexpr double kCharacter = 120 / kTwips; ///< width
-constexpr double kNatural = 226.5 / kTwips; ///< line spacing of the report font at 10 points
+constexpr double kTwipsInAPoint = 20;                  ///< of a point
+constexpr double kPaperMargin = 10;                    ///< of the paper, points
+constexpr double kLetterWidth = 120 / kTwipsInAPoint;  ///< width
+constexpr double kReportLine = 226.5 / kTwipsInAPoint; ///< line spacing of the report font at 10 points
 
 QString said(const QString& program, const QStringList& arguments)
 {
@@ -48,7 +48,7 @@ QString said(const QString& program, const QStringList& arguments)
 }
 
 /// The lines of each page, blank ones included.
-std::vector<ReportLines> pagesOf(const ReportLines& lines)
+std::vector<ReportLines> pagesOfReport(const ReportLines& lines)
 {
     std::vector<ReportLines> pages(1);
     for (const std::string& line : lines) {
@@ -66,15 +66,15 @@ std::vector<ReportLines> pagesOf(const ReportLines& lines)
 std::vector<Word> expectedWords(const ReportLines& page, double left, double height)
 {
     // A page that is too long is set tighter.
-    const double spacing = std::min(kNatural, height / static_cast<double>(page.size()));
+    const double spacing = std::min(kReportLine, height / static_cast<double>(page.size()));
     std::vector<Word> words;
     for (std::size_t row = 0; row < page.size(); ++row) {
         const QString line = toQString(page[row]);
         static const QRegularExpression kWord{QStringLiteral("[^ ]+")};
         for (auto found = kWord.globalMatch(line); found.hasNext();) {
             const QRegularExpressionMatch word = found.next();
-            words.push_back({word.captured(), left + kCharacter * static_cast<double>(word.capturedStart()),
-                             kMargin + spacing * static_cast<double>(row)});
+            words.push_back({word.captured(), left + kLetterWidth * static_cast<double>(word.capturedStart()),
+                             kPaperMargin + spacing * static_cast<double>(row)});
         }
     }
     return words;
@@ -148,11 +148,11 @@ std::string nameOf(const testing::TestParamInfo<ReportPdf::ParamType>& info)
 
 TEST_P(ReportPdf, HasEveryWordInItsColumnAndItsLineOfAPageForEachPage)
 {
-    const std::vector<ReportLines> expected = pagesOf(lines);
+    const std::vector<ReportLines> expected = pagesOfReport(lines);
     const std::vector<std::vector<Word>> printed = pagesOfPdf(pdf);
     ASSERT_EQ(printed.size(), expected.size());
-    const double height = (kind.orientation == PageOrientation::Landscape ? 612 : 792) - 2 * kMargin;
-    const double left = kMargin + printout.originTwips / kTwips;
+    const double height = (kind.orientation == PageOrientation::Landscape ? 612 : 792) - 2 * kPaperMargin;
+    const double left = kPaperMargin + printout.originTwips / kTwipsInAPoint;
     for (std::size_t page = 0; page < expected.size(); ++page) {
         const std::vector<Word> words = expectedWords(expected[page], left, height);
         ASSERT_EQ(printed[page].size(), words.size()) << "page " << page + 1;
