@@ -12,7 +12,7 @@ namespace tallyhoop {
 /// has no lines.
 std::vector<std::string> linesOf(std::string_view bytes);
 
-/// Takes the first line off the bytes, its line end with it. @pre there are bytes left
+/// Takes the first line off the bytes, its line end with it; an empty line when there are no bytes left.
 std::string_view takeLine(std::string_view& bytes);
 
 /// @returns the lines as a file's bytes, each ended by CR LF

@@ -6,6 +6,7 @@
 #include "fakes/scratch_folder.h"
 #include "files/replace_file.h"
 #include "files/selection_file.h"
+#include "files/selection_reader.h"
 #include "pool/scoring.h"
 #include "screens/scores/scores_screen.h"
 
@@ -88,17 +89,17 @@ std::vector<std::string> filesOf(const std::vector<Bracket>& brackets)
 /// From the bytes of a file to a numbered bracket.
 void ReadAPick(benchmark::State& state)
 {
-    inTurn(state, filesOf(randomBrackets(10'000)),
-           [](const std::string& bytes) { return readSelection(bytes, results()); });
+    const SelectionReader reader{results()};
+    inTurn(state, filesOf(randomBrackets(10'000)), [&](const std::string& bytes) { return reader.read(bytes); });
 }
 BENCHMARK(ReadAPick);
 
 /// The same, and scored.
 void ScorePicks(benchmark::State& state)
 {
-    inTurn(state, filesOf(randomBrackets(10'000)), [](const std::string& bytes) {
-        return score(readSelection(bytes, results()).value.picks, results(), kPayoffs);
-    });
+    const SelectionReader reader{results()};
+    inTurn(state, filesOf(randomBrackets(10'000)),
+           [&](const std::string& bytes) { return score(reader.read(bytes).value.picks, results(), kPayoffs); });
 }
 BENCHMARK(ScorePicks);
 

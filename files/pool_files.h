@@ -5,7 +5,9 @@
 #include "files/data_folder.h"
 #include "pool/entry.h"
 
+#include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <span>
 #include <vector>
 
@@ -22,6 +24,19 @@ struct ReadEntries {
     std::vector<Entry> entries;
     std::vector<FileTrouble> troubles;
 };
+
+/// Takes a selection that was read: what could be read, and the trouble if there was any.
+/// @returns false when no more selections are wanted
+using TakeSelection = std::function<bool(const FolderFile& file, Read<Entry>& selection)>;
+
+/// How many files are read at a time: one on each processor.
+std::size_t readersAtATime();
+
+/// Reads every file once, several at a time, and has them taken in the order of the list by the thread of the caller.
+/// @param like    a bracket in which most of the teams are expected
+/// @param readers the most files that are read at a time; fewer when the system has no more threads for us
+void readSelections(std::span<const FolderFile> files, const Bracket& like, const TakeSelection& take,
+                    std::size_t readers = readersAtATime());
 
 /// Reads every file once, one step of work each.
 /// @param like a bracket in which most of the teams are expected

@@ -6,9 +6,9 @@
 #include "files/data_folder.h"
 #include "files/file_names.h"
 #include "files/replace_file.h"
+#include "files/selection_reader.h"
 
-#include <array>
-#include <optional>
+#include <vector>
 
 namespace tallyhoop {
 
@@ -16,50 +16,9 @@ namespace {
 
 constexpr std::size_t kFileLines = 131;
 
-/// The lines of a file, counted from 0, as pieces of its bytes; those that it lacks are empty.
-struct FileLines {
-    std::array<std::string_view, kFileLines> lines{};
-    std::size_t count = 0; ///< one more than there is room for when the file goes on
-};
-
-FileLines takeLines(std::string_view bytes)
-{
-    FileLines file;
-    while (!bytes.empty() && file.count < kFileLines)
-        file.lines.at(file.count++) = takeLine(bytes);
-    if (!bytes.empty())
-        ++file.count;
-    return file;
-}
-
-std::optional<Failure> troubleWith(const FileLines& file)
-{
-    if (file.count > kFileLines)
-        return Failure{"The file has more than 131 lines."};
-    if (file.count < kFileLines)
-        return Failure{"The file has fewer than 131 lines."};
-    if (file.lines.back() != kEndMarker)
-        return Failure{"Line 131 of the file is not the end marker."};
-    return std::nullopt;
-}
-
 } // namespace
 
-Read<Entry> readSelection(std::string_view bytes, const Bracket& like)
-{
-    const FileLines file = takeLines(bytes);
-    auto line = file.lines.begin();
-    ByPosition<std::string_view> teams;
-    for (const Position position : allPositions())
-        teams[position] = *line++;
-    Read<Entry> read;
-    read.value.picks = Bracket::of(teams, like);
-    read.value.initials = *line++;
-    read.value.name = *line++;
-    read.value.finalPoints = *line++;
-    read.trouble = troubleWith(file);
-    return read;
-}
+Read<Entry> readSelection(std::string_view bytes, const Bracket& like) { return SelectionReader{like}.read(bytes); }
 
 Read<Entry> readSelectionFile(const std::filesystem::path& file, const Bracket& like)
 {

@@ -65,6 +65,13 @@ Bracket Bracket::of(const ByPosition<std::string_view>& teams, const Bracket& li
     return bracket;
 }
 
+Bracket Bracket::of(const ByPosition<TeamNumber>& numbers, const Bracket& like)
+{
+    Bracket bracket{like};
+    bracket.m_numbers = numbers;
+    return bracket;
+}
+
 bool operator==(const Bracket& left, const Bracket& right)
 {
     if (left.m_names == right.m_names)

@@ -40,6 +40,9 @@ public:
     ///             shared when it has all the names
     static Bracket of(const ByPosition<std::string_view>& teams, const Bracket& like = {});
 
+    /// Makes a bracket of 127 numbers of the table of another, whose table is shared.
+    static Bracket of(const ByPosition<TeamNumber>& numbers, const Bracket& like);
+
 private:
     std::shared_ptr<const TeamNames> m_names;
     ByPosition<TeamNumber> m_numbers;

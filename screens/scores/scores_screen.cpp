@@ -3,7 +3,7 @@
 
 #include "base/windows1252.h"
 #include "files/file_names.h"
-#include "files/selection_file.h"
+#include "files/pool_files.h"
 #include "screens/help_topics.h"
 #include "screens/printer_setup.h"
 #include "screens/printing_trouble.h"
@@ -12,6 +12,7 @@
 #include "ui/work.h"
 
 #include <algorithm>
+#include <span>
 #include <utility>
 
 namespace tallyhoop {
@@ -102,22 +103,22 @@ std::optional<std::vector<ListedScore>> ScoresScreen::scoreEverybody(const Payof
     Work work{m_platform.progress, "Calculating the scores", m_files.size()};
     std::vector<ListedScore> rows;
     rows.reserve(m_files.size());
-    for (const FolderFile& file : m_files) {
-        if (const std::optional<PlayerScore> score = scoreFile(file, payoffs))
-            rows.push_back({*score, file});
-        if (!work.step())
-            return std::nullopt;
-    }
+    readSelections(m_files, m_results, [&](const FolderFile& file, Read<Entry>& selection) {
+        if (std::optional<PlayerScore> score = scoreSelection(file, selection, payoffs))
+            rows.push_back({std::move(*score), file});
+        return work.step();
+    });
+    if (work.cancelled())
+        return std::nullopt;
     return rows;
 }
 
-std::optional<PlayerScore> ScoresScreen::scoreFile(const FolderFile& file, const Payoffs& payoffs)
+std::optional<PlayerScore> ScoresScreen::scoreSelection(const FolderFile& file, const Read<Entry>& selection,
+                                                        const Payoffs& payoffs)
 {
-    Read<Entry> read = readSelectionFile(file.path, m_results);
-    read.value.fileName = file.name;
-    if (read.trouble)
+    if (selection.trouble)
         showReadingTrouble(m_platform.dialogs, file.path);
-    const Result<PlayerScore> score = scoreEntry(read.value, m_results, payoffs);
+    const Result<PlayerScore> score = scoreEntry(selection.value, m_results, payoffs);
     if (score)
         return *score;
     showTrouble(m_platform.dialogs, score.failure());
@@ -150,10 +151,15 @@ const FolderFile* ScoresScreen::fileMeantBy(std::size_t row, std::size_t column)
 void ScoresScreen::markPicksOf(const FolderFile& file)
 {
     const Result<Payoffs>& payoffs = m_field.payoffs.points();
-    if (!payoffs)
+    if (!payoffs) {
         showTrouble(m_platform.dialogs, payoffs.failure());
-    else if (const std::optional<PlayerScore> score = scoreFile(file, *payoffs))
-        m_verdicts = score->verdicts;
+        return;
+    }
+    readSelections(std::span{&file, 1}, m_results, [&](const FolderFile&, Read<Entry>& selection) {
+        if (const std::optional<PlayerScore> score = scoreSelection(file, selection, *payoffs))
+            m_verdicts = score->verdicts;
+        return true;
+    });
 }
 
 void ScoresScreen::headingDropped(std::optional<std::size_t> target)

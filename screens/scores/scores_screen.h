@@ -50,7 +50,8 @@ private:
     std::optional<std::vector<ListedScore>> scoreEverybody(const Payoffs& payoffs);
 
     /// @returns nothing after the failure was shown
-    std::optional<PlayerScore> scoreFile(const FolderFile& file, const Payoffs& payoffs);
+    std::optional<PlayerScore> scoreSelection(const FolderFile& file, const Read<Entry>& selection,
+                                              const Payoffs& payoffs);
 
     void listFiles();
     void showTable(std::vector<ListedScore> rows);
