@@ -69,6 +69,7 @@ std::string repeated(char character, std::size_t count)
 std::vector<std::string> split(std::string_view text, char separator)
 {
     std::vector<std::string> pieces;
+    pieces.reserve(static_cast<std::size_t>(std::ranges::count(text, separator)) + 1);
     std::size_t begin = 0;
     for (std::size_t end = text.find(separator); end != std::string_view::npos; end = text.find(separator, begin)) {
         pieces.emplace_back(text.substr(begin, end - begin));

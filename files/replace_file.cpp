@@ -16,8 +16,6 @@ constexpr std::size_t kMostBytes = 64u << 20;
 
 Failure failureOf(std::error_code error) { return Failure{fromUtf8(error.message())}; }
 
-Failure failureOf(std::errc error) { return failureOf(std::make_error_code(error)); }
-
 /// Follows symbolic links, also to a file that is not there yet: replacing the link itself would cut it off.
 fs::path withoutLinks(fs::path file, std::error_code& error)
 {
@@ -82,16 +80,8 @@ Result<Done> replaceFile(const fs::path& file, std::string_view bytes)
 
 Result<std::string> readFile(const fs::path& file)
 {
-    std::error_code error;
-    const fs::file_status status = fs::status(file, error);
-    if (!fs::exists(status))
-        return error ? failureOf(error) : failureOf(std::errc::no_such_file_or_directory);
-    // Opening a pipe would wait for its other end.
-    if (!fs::is_regular_file(status))
-        return failureOf(fs::is_directory(status) ? std::errc::is_a_directory : std::errc::invalid_argument);
-
     std::string bytes;
-    if (error = readAll(file, kMostBytes, bytes); error)
+    if (const std::error_code error = readAll(file, kMostBytes, bytes); error)
         return failureOf(error);
     return bytes;
 }

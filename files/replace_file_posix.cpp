@@ -3,6 +3,7 @@
 
 #include "files/replace_file_steps.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
@@ -121,6 +122,38 @@ std::error_code keepModeOf(const fs::path& target, int descriptor)
                                                                                                 : lastError();
 }
 
+/// @returns no error for a file, else what is wrong with reading from it
+std::error_code kindTrouble(const struct stat& status)
+{
+    if (S_ISREG(status.st_mode))
+        return {};
+    return std::make_error_code(S_ISDIR(status.st_mode) ? std::errc::is_a_directory : std::errc::invalid_argument);
+}
+
+/// Opens a file to read it. Something else may be there by now: opening a pipe does not wait for its other end.
+/// @returns -1 when it cannot be opened; only then the error says why
+int openToRead(const fs::path& file, std::error_code& error)
+{
+    const auto open = [&file](int flags) {
+        return uninterrupted([&] { return ::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | flags); });
+    };
+    int descriptor = open(O_NONBLOCK);
+    if (descriptor >= 0)
+        return descriptor;
+    error = lastError();
+    struct stat status {
+    };
+    if (::stat(file.c_str(), &status) != 0)
+        return -1;
+    if (const std::error_code kind = kindTrouble(status); kind) {
+        error = kind;
+    } else if (error == std::errc::operation_would_block) { // a file server has lent it to somebody, and asks for it
+        descriptor = open(0);
+        error = lastError();
+    }
+    return descriptor;
+}
+
 } // namespace
 
 // The names are in place already, so a failure here is none of the caller's.
@@ -150,23 +183,32 @@ std::error_code replaceThrough(const fs::path& temporary, const fs::path& target
 
 std::error_code readAll(const fs::path& file, std::size_t mostBytes, std::string& bytes)
 {
-    // A stream would cost more than the reading itself where thousands of small files are read.
-    constexpr std::size_t kRoomForMost = 4096;
-    const Descriptor descriptor{uninterrupted([&] { return ::open(file.c_str(), O_RDONLY | O_CLOEXEC); })};
+    std::error_code error;
+    const Descriptor descriptor{openToRead(file, error)};
     if (!descriptor.isOpen())
+        return error;
+    struct stat status {
+    };
+    if (::fstat(descriptor.number(), &status) != 0)
         return lastError();
-    bytes.resize(kRoomForMost);
+    if (error = kindTrouble(status); error)
+        return error;
+
+    // Where thousands of small files are read every call counts: with room for one byte more, a read that ends at the
+    // size of the file has met its end.
+    const auto expected = static_cast<std::size_t>(status.st_size);
+    bytes.resize(std::min(expected, mostBytes) + 1);
     for (std::size_t size = 0;;) {
         const ssize_t got =
             uninterrupted([&] { return ::read(descriptor.number(), bytes.data() + size, bytes.size() - size); });
-        if (got > 0)
-            size += static_cast<std::size_t>(got);
-        if (got <= 0 || size > mostBytes) {
-            const std::error_code error = got < 0   ? lastError()
-                                          : got > 0 ? std::make_error_code(std::errc::file_too_large)
-                                                    : std::error_code{};
+        if (got < 0)
+            return lastError();
+        size += static_cast<std::size_t>(got);
+        if (size > mostBytes)
+            return std::make_error_code(std::errc::file_too_large);
+        if (got == 0 || size == expected) {
             bytes.resize(size);
-            return error;
+            return {};
         }
         if (size == bytes.size())
             bytes.resize(2 * size);

@@ -21,8 +21,9 @@ std::error_code replaceThrough(const std::filesystem::path& temporary, const std
 void flushFolder(const std::filesystem::path& folder);
 
 /// Reads a whole file.
-/// @param bytes receives it; on an error what was read before
-/// @returns no error, or why it could not be read; "file too large" beyond `mostBytes`
+/// @param bytes receives it; on an error anything
+/// @returns no error, or why it could not be read: "file too large" beyond `mostBytes`, "is a directory" for a folder,
+///          "invalid argument" for anything else that is no file
 std::error_code readAll(const std::filesystem::path& file, std::size_t mostBytes, std::string& bytes);
 
 } // namespace tallyhoop

@@ -72,6 +72,12 @@ void flushFolder(const fs::path& /*folder*/) {}
 
 std::error_code readAll(const fs::path& file, std::size_t mostBytes, std::string& bytes)
 {
+    std::error_code error;
+    const fs::file_status status = fs::status(file, error);
+    if (!fs::exists(status))
+        return error ? error : std::make_error_code(std::errc::no_such_file_or_directory);
+    if (!fs::is_regular_file(status))
+        return std::make_error_code(fs::is_directory(status) ? std::errc::is_a_directory : std::errc::invalid_argument);
     errno = 0;
     std::ifstream stream{file, std::ios::binary};
     if (!stream)

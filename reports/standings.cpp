@@ -93,6 +93,7 @@ StandingsRow standingsRow(std::string_view workRow)
 Result<ReportLines> standingsLines(std::string_view title, std::span<const PlayerScore> scores)
 {
     std::vector<std::string> workRows;
+    workRows.reserve(scores.size());
     for (const PlayerScore& score : scores)
         workRows.push_back(standingsWorkRow(score));
     sortWorkRows(workRows);

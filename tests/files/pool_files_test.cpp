@@ -7,7 +7,9 @@
 #include "pool/sample_brackets.h"
 #include "pool/scoring.h"
 
+#include <algorithm>
 #include <gmock/gmock.h>
+#include <thread>
 
 namespace tallyhoop {
 namespace {
@@ -46,6 +48,25 @@ struct PoolFiles : testing::Test {
             field.teams[row] = "Team " + std::to_string(index(row) + 1);
         field.title = "A test of the pool";
         return field;
+    }
+
+    std::vector<Read<Entry>> readBy(std::size_t readers, std::span<const FolderFile> files) const
+    {
+        std::vector<Read<Entry>> all;
+        readSelections(
+            files, results.picks,
+            [&](const FolderFile&, Read<Entry>& selection) {
+                all.push_back(std::move(selection));
+                return true;
+            },
+            readers);
+        return all;
+    }
+
+    static bool isSame(const Read<Entry>& left, const Read<Entry>& right)
+    {
+        const auto troubleOf = [](const Read<Entry>& read) { return read.trouble ? read.trouble->message : ""; };
+        return left.value == right.value && troubleOf(left) == troubleOf(right);
     }
 
     ReadEntries readAll(const Step& step = goOn) const
@@ -99,6 +120,59 @@ TEST_F(PoolFiles, AreNoLongerReadAfterAStepThatSaysSo)
     const ReadEntries read = readAll([&steps] { return ++steps < 2; });
     EXPECT_THAT(read.entries, ElementsAre(adams, baker));
     EXPECT_EQ(steps, 2);
+}
+
+TEST_F(PoolFiles, AreTheSameHoweverManyAreReadAtATime)
+{
+    for (int player = 0; player < 150; ++player) {
+        const Entry entry{player % 2 == 0 ? adams.picks : withStranger(), "P", std::to_string(player), "", ""};
+        const std::string file = selectionFile(entry);
+        const std::string name = "Player " + std::to_string(player) + ".THC";
+        scratch.put(name, player % 7 == 0 ? file.substr(0, static_cast<std::size_t>(player)) : file);
+    }
+    const std::vector<FolderFile> files = scratch.folder().files(".THC");
+    std::filesystem::remove(scratch.path() / "Player 40.THC");
+    std::filesystem::create_directory(scratch.path() / "Player 40.THC");
+    std::filesystem::remove(scratch.path() / "Player 90.THC");
+
+    const std::vector<Read<Entry>> one = readBy(1, files);
+    ASSERT_EQ(one.size(), 154u);
+    EXPECT_EQ(std::ranges::count_if(one, [](const Read<Entry>& read) { return read.trouble.has_value(); }), 24)
+        << "22 cut short, a folder and one that is gone";
+    for (const std::size_t readers : {0, 2, 3, 8, 200})
+        EXPECT_TRUE(std::ranges::equal(readBy(readers, files), one, isSame)) << readers;
+}
+
+TEST_F(PoolFiles, AreTakenByTheThreadThatAsksForThemInTheOrderOfTheList)
+{
+    for (int player = 0; player < 100; ++player)
+        scratch.put("Player " + std::to_string(player) + ".THC", selectionFile(adams));
+    const std::vector<FolderFile> files = scratch.folder().files(".THC");
+    const std::thread::id caller = std::this_thread::get_id();
+    auto next = files.begin();
+    readSelections(
+        files, results.picks,
+        [&](const FolderFile& file, Read<Entry>& selection) {
+            EXPECT_EQ(&file, &*next++);
+            EXPECT_EQ(selection.value.fileName, file.name);
+            EXPECT_EQ(std::this_thread::get_id(), caller);
+            return true;
+        },
+        4);
+    EXPECT_EQ(next, files.end());
+}
+
+TEST_F(PoolFiles, AreNoLongerTakenWhenNoMoreAreWantedHoweverManyAreReadAtATime)
+{
+    for (int player = 0; player < 500; ++player)
+        scratch.put("Player " + std::to_string(player) + ".THC", selectionFile(adams));
+    const std::vector<FolderFile> files = scratch.folder().files(".THC");
+    for (const int wanted : {1, 16, 17, 40}) {
+        int taken = 0;
+        readSelections(
+            files, results.picks, [&](const FolderFile&, Read<Entry>&) { return ++taken < wanted; }, 4);
+        EXPECT_EQ(taken, wanted);
+    }
 }
 
 TEST_F(PoolFiles, ShareTheNamesOfTheResultsWhenTheyHaveNoOthers)

@@ -267,6 +267,15 @@ TEST(ReadFile, GivesFilesOfEverySizeWhole)
     }
 }
 
+TEST(ReadFile, GivesAFileWholeThatDoesNotSayHowLongItIs)
+{
+    ASSERT_EQ(fs::file_size("/proc/self/maps"), 0u) << "otherwise this test shows nothing";
+    const Result<std::string> maps = readFile("/proc/self/maps");
+    ASSERT_TRUE(maps);
+    EXPECT_GT(maps->size(), 1000u) << "a line for each library";
+    EXPECT_EQ(maps->back(), '\n');
+}
+
 TEST(ReadFile, SaysWhyItFailed)
 {
     const ScratchFolder scratch;

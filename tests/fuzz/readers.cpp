@@ -5,11 +5,14 @@
 #include "base/numbers.h"
 #include "base/text.h"
 #include "base/windows1252.h"
+#include "files/naive_reader.h"
 #include "files/player_names_file.h"
 #include "files/selection_file.h"
+#include "files/selection_reader.h"
 #include "files/settings_file.h"
 #include "files/setup_file.h"
 #include "files/team_name_list_file.h"
+#include "pool/sample_brackets.h"
 
 #include <algorithm>
 #include <vector>
@@ -74,6 +77,12 @@ Complaint selection(std::string_view bytes)
         return "our own selection file is not accepted";
     if (again.value != entry)
         return "a selection changed on its way through a file";
+    const Read<Entry> expected = test::readNaively(bytes);
+    for (const Bracket& like : {Bracket{}, entry.picks, test::everyUpperTeamWins()}) {
+        const Read<Entry> read = SelectionReader{like}.read(bytes);
+        if (read.value != expected.value || read.trouble.has_value() != expected.trouble.has_value())
+            return "a selection depends on the one that is expected";
+    }
     for (const Position position : allPositions())
         if (Complaint complaint = field(entry.picks.at(position)))
             return complaint;
