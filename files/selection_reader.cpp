@@ -54,10 +54,9 @@ std::string rowsOf(const Bracket& like, int region)
 }
 
 /// @returns the first or the second, without a branch: nobody can predict who wins
-template <class Number>
-Number oneOf(bool isFirst, Number first, Number second)
+TeamNumber oneOf(bool isFirst, TeamNumber first, TeamNumber second)
 {
-    return static_cast<Number>(second ^ ((first ^ second) & -Number{isFirst}));
+    return static_cast<TeamNumber>(second ^ ((first ^ second) & -static_cast<int>(isFirst)));
 }
 
 /// Takes the winners' lines, each of which is that of one of the two that met, or empty.
@@ -73,7 +72,10 @@ bool takeWinners(std::span<const GamePlaces> games, std::span<const TeamLine> te
         const TeamNumber lower = numbers[game.lower];
         const bool isUpper = teams[upper].seemsToBegin(rest.data());
         TeamNumber winner = oneOf(isUpper, upper, lower);
-        std::size_t size = oneOf(isUpper, teams[upper].size(), teams[lower].size());
+        const std::size_t upperSize = teams[upper].size(); // read in any case, so that the choice is a conditional move
+        std::size_t size = teams[lower].size();
+        if (isUpper)
+            size = upperSize;
         if (!teams[winner].begins(rest.data())) {
             winner = teams[lower].begins(rest.data()) ? lower : kNoTeam;
             size = teams[winner].size();
