@@ -13,6 +13,11 @@ import subprocess
 import tempfile
 import time
 
+# Without a folder of its own for running programs Qt prints a complaint at every start.
+_runtime = tempfile.TemporaryDirectory(prefix="tallyhoop-bench-runtime-")  # only its owner may read it, as Qt wants
+os.environ["XDG_RUNTIME_DIR"] = _runtime.name
+os.environ["QT_LOGGING_RULES"] = "qt.qpa.*=false"
+
 BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[1] / "build"))
 
 

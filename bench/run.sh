@@ -20,12 +20,6 @@ fi
 build="$TALLYHOOP_BUILD"
 export TALLYHOOP_BUILD="$build"
 
-# Qt needs this folder; without it, it prints a warning at every start.
-XDG_RUNTIME_DIR="$(mktemp -d)"
-export XDG_RUNTIME_DIR
-trap 'rm -rf "$XDG_RUNTIME_DIR"' EXIT
-export QT_LOGGING_RULES="qt.qpa.*=false"
-
 measure() {
     echo "== $*"
     python3 -B "bench/$1.py" "${@:2}" "${smoke[@]}"
