@@ -196,6 +196,14 @@ bool isBareName(std::string_view name)
     return !name.empty() && name != "." && name != ".." && name.find_first_of("/\\:\0"sv) == std::string_view::npos;
 }
 
+std::optional<fs::path> findInAnyCase(const fs::path& path)
+{
+    if (isThere(path))
+        return path;
+    const std::string name = shown(path.filename());
+    return isBareName(name) && isShownWhole(path.filename()) ? findEntry(path.parent_path(), name) : std::nullopt;
+}
+
 bool isSameFile(const fs::path& left, const fs::path& right)
 {
     std::error_code ignored;

@@ -71,6 +71,11 @@ std::string shown(const std::filesystem::path& path);
 /// @returns true for a name that a file of the folder may have
 bool isBareName(std::string_view name);
 
+/// Finds what a person means by a path that was typed or chosen: the entry of exactly this name, or one of its folder
+/// whose name differs from it only in case. A name with a letter that our code page lacks means itself only.
+/// @returns nothing when there is none
+std::optional<std::filesystem::path> findInAnyCase(const std::filesystem::path& path);
+
 /// @returns true when both are the same file, or would be: same folder, same name without regard to case
 bool isSameFile(const std::filesystem::path& left, const std::filesystem::path& right);
 

@@ -4,7 +4,6 @@
 
 #include "files/data_folder.h"
 #include "qt/paths.h"
-#include "qt/text.h"
 
 #include <QDialogButtonBox>
 #include <QKeyEvent>
@@ -29,14 +28,8 @@ bool isFile(const fs::path& path)
 /// @returns the file of this name in another case; nothing when the name exists as it is, or not at all
 std::optional<fs::path> inAnotherCase(const fs::path& file)
 {
-    const QString name = fromPath(file.filename());
-    const std::string text = fromQString(name);
-    std::error_code ignored;
-    if (toQString(text) != name || fs::exists(file, ignored))
-        return std::nullopt;
-    const DataFolder folder{file.parent_path()};
-    const std::optional<fs::path> found = folder.pathOf(text);
-    return found && isFile(*found) ? found : std::nullopt;
+    const std::optional<fs::path> found = findInAnyCase(file);
+    return found && *found != file && isFile(*found) ? found : std::nullopt;
 }
 
 } // namespace

@@ -39,14 +39,9 @@ std::filesystem::path meantFile(std::filesystem::path chosen)
 {
     if (!endsWithFolded(shown(chosen.filename()), file_name::kSelectionExtension))
         chosen += file_name::kSelectionExtension;
-    std::error_code missing;
-    if (std::filesystem::exists(chosen, missing))
-        return chosen;
-    const DataFolder folder{chosen.parent_path()};
-    const std::string name = shown(chosen.filename());
-    // A letter that our code page lacks is shown as "?": such a name means itself only.
-    const bool isShownWhole = name.find('?') == std::string::npos;
-    return isShownWhole && folder.exists(name) ? folder.pathOf(name).value_or(chosen) : chosen;
+    // A "?" may stand for any letter that our code page lacks: what is saved under such a name replaces no other file.
+    const bool isShownWhole = shown(chosen.filename()).find('?') == std::string::npos;
+    return isShownWhole ? findInAnyCase(chosen).value_or(chosen) : chosen;
 }
 
 bool confirms(ui::Dialogs& dialogs, std::string question)

@@ -242,6 +242,35 @@ TEST(Shown, IsTextForPeople)
     EXPECT_EQ((DataFolder{"/"}.shownPathOf("A.THC")), "/A.THC");
 }
 
+TEST(FindInAnyCase, FindsTheEntryOfATypedPath)
+{
+    const ScratchFolder scratch;
+    scratch.put("Smith_JS.THC", "");
+    EXPECT_EQ(findInAnyCase(scratch.path() / "Smith_JS.THC"), scratch.path() / "Smith_JS.THC");
+    EXPECT_EQ(findInAnyCase(scratch.path() / "SMITH_js.thc"), scratch.path() / "Smith_JS.THC");
+    EXPECT_EQ(findInAnyCase(scratch.path() / "Smith_JX.THC"), std::nullopt);
+    EXPECT_EQ(findInAnyCase(scratch.path() / "no folder" / "Smith_JS.THC"), std::nullopt);
+    EXPECT_EQ(findInAnyCase(scratch.path() / "A:Smith_JS.THC"), std::nullopt) << "no bare name";
+}
+
+TEST(FindInAnyCase, PrefersTheExactName)
+{
+    const ScratchFolder scratch;
+    scratch.put("clark_d.thc", "");
+    scratch.put("CLARK_D.THC", "");
+    EXPECT_EQ(findInAnyCase(scratch.path() / "clark_d.thc"), scratch.path() / "clark_d.thc");
+    EXPECT_EQ(findInAnyCase(scratch.path() / "Clark_D.thc"), scratch.path() / "CLARK_D.THC");
+}
+
+TEST(FindInAnyCase, TakesANameWithLettersThatOurCodePageLacksAsItIs)
+{
+    const ScratchFolder scratch;
+    const fs::path file = scratch.path() / u8"Łukasz_L.THC";
+    std::ofstream{file} << "one";
+    EXPECT_EQ(findInAnyCase(file), file);
+    EXPECT_EQ(findInAnyCase(scratch.path() / u8"Ńukasz_L.THC"), std::nullopt) << "both are shown as ?ukasz_L.THC";
+}
+
 TEST(IsSameFile, IgnoresCase)
 {
     EXPECT_TRUE(isSameFile("/pool/Smith_JS.THC", "/pool/SMITH_JS.thc"));
