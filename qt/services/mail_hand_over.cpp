@@ -1,7 +1,6 @@
 // qt/services/mail_hand_over.cpp - chooses the mail client and starts it.
 #include "qt/services/mail_hand_over.h"
 
-#include "base/windows1252.h"
 #include "qt/services/message_file.h"
 
 #include <QProcess>
@@ -9,7 +8,6 @@
 #include <QStringList>
 #include <algorithm>
 #include <array>
-#include <string_view>
 #include <system_error>
 #include <utility>
 
@@ -19,18 +17,16 @@ namespace {
 
 constexpr int kAnswerMilliseconds = 5000; ///< what a small tool of the desktop may take
 
-bool contains(std::string_view text, std::string_view piece)
+bool contains(const std::string& handler, const char* name)
 {
-    return std::search(text.begin(), text.end(), piece.begin(), piece.end(), [](char left, char right) {
-               return folded(static_cast<unsigned char>(left)) == folded(static_cast<unsigned char>(right));
-           }) != text.end();
+    return QString::fromStdString(handler).contains(QLatin1String{name}, Qt::CaseInsensitive);
 }
 
-bool isBrowser(std::string_view handler)
+bool isBrowser(const std::string& handler)
 {
-    constexpr std::array<std::string_view, 9> kBrowsers = {"firefox", "chrom",  "epiphany",  "opera", "brave",
-                                                           "vivaldi", "falkon", "konqueror", "msedge"};
-    return std::ranges::any_of(kBrowsers, [&](std::string_view browser) { return contains(handler, browser); });
+    constexpr std::array<const char*, 9> kBrowsers = {"firefox", "chrom",  "epiphany",  "opera", "brave",
+                                                      "vivaldi", "falkon", "konqueror", "msedge"};
+    return std::ranges::any_of(kBrowsers, [&](const char* browser) { return contains(handler, browser); });
 }
 
 QString installed(const char* program) { return QStandardPaths::findExecutable(QString::fromLatin1(program)); }

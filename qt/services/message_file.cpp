@@ -3,8 +3,8 @@
 
 #include "files/replace_file.h"
 
+#include <QByteArray>
 #include <algorithm>
-#include <gmime/gmime.h>
 #include <memory>
 #include <string_view>
 #include <vector>
@@ -14,36 +14,20 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr const char* kCharset = "UTF-8";
+constexpr const char* kMissing = "The library for mail messages, gmime 3, could not be loaded.";
 
 struct Unreference {
-    void operator()(gpointer object) const { g_object_unref(object); }
+    const MailLibrary* gmime;
+    void operator()(gpointer object) const { gmime->g_object_unref(object); }
 };
 template <class T>
 using Owned = std::unique_ptr<T, Unreference>;
 
-struct FreeOptions {
-    void operator()(GMimeFormatOptions* options) const { g_mime_format_options_free(options); }
-};
-
-void startLibrary()
-{
-    static const bool started = [] {
-        g_mime_init();
-        return true;
-    }();
-    (void)started;
-}
-
-bool isAscii(std::string_view text)
-{
-    return text.find_first_not_of("\t\n\r !\"#$%&'()*+,-./0123456789:;<=>?@ABCDEFGHIJKLMNOPQRSTUVWXYZ[\\]^_`"
-                                  "abcdefghijklmnopqrstuvwxyz{|}~") == std::string_view::npos;
-}
-
 /// @returns whether a header can hold the text as it is: no blank that a reader would drop, nothing it would decode
 bool isPlainHeader(std::string_view text)
 {
-    return isAscii(text) && text.find("=?") == std::string_view::npos && !text.starts_with(' ') && !text.ends_with(' ');
+    return std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; }) &&
+           text.find("=?") == std::string_view::npos && !text.starts_with(' ') && !text.ends_with(' ');
 }
 
 /// @returns how many bytes from `start`, at most `most`, end between two characters
@@ -62,110 +46,122 @@ std::string encodedWords(const std::string& utf8)
     std::string words;
     for (std::size_t start = 0; start < utf8.size();) {
         const std::size_t length = wholeCharacters(utf8, start, kBytesPerWord);
-        const auto* bytes = reinterpret_cast<const guchar*>(utf8.data() + start);
-        gchar* base64 = g_base64_encode(bytes, length);
+        const QByteArray base64 = QByteArray::fromStdString(utf8.substr(start, length)).toBase64();
         // cppcheck-suppress knownConditionTrueFalse  ; it is empty at first only
-        words += (words.empty() ? "=?UTF-8?B?" : "\n =?UTF-8?B?") + std::string{base64} + "?=";
-        g_free(base64);
+        words += (words.empty() ? " =?UTF-8?B?" : "\r\n =?UTF-8?B?") + base64.toStdString() + "?=";
         start += length;
     }
-    return words;
+    return words + "\r\n";
 }
 
-void setSubject(GMimeMessage* message, const std::string& subject)
+/// Composes one message.
+class Writer
 {
-    g_mime_message_set_subject(message, subject.c_str(), kCharset);
-    if (isPlainHeader(subject))
-        return;
-    // Not the library's own encoding: it chooses between two by length, and leaves text unchanged that looks encoded
-    // already. This encoding is the one that receivers support best.
-    GMimeHeaderList* headers = g_mime_object_get_header_list(GMIME_OBJECT(message));
-    g_mime_header_set_raw_value(g_mime_header_list_get_header(headers, "Subject"),
-                                (" " + encodedWords(subject) + "\n").c_str());
-}
+public:
+    explicit Writer(const MailLibrary& gmime) : m_gmime{gmime}, m_message{owned(gmime.g_mime_message_new(TRUE))} {}
 
-/// A recipient is taken as typed: an address, a name with an address, or several of them.
-void addRecipient(InternetAddressList* list, const std::string& recipient)
-{
-    const Owned<InternetAddressList> parsed{internet_address_list_parse(nullptr, recipient.c_str())};
-    if (!parsed || internet_address_list_length(parsed.get()) == 0) {
-        const Owned<InternetAddress> address{internet_address_mailbox_new(nullptr, recipient.c_str())};
-        internet_address_list_add(list, address.get());
-        return;
+    std::string write(const OutgoingMail& mail, std::span<const AttachedText> attachments)
+    {
+        m_gmime.g_mime_object_set_header(GMIME_OBJECT(m_message.get()), "X-Unsent", "1", nullptr);
+        for (const std::string& recipient : mail.recipients)
+            addRecipient(recipient);
+        setSubject(mail.subject);
+
+        // Base64 for the text too: no line of it can look like a boundary, and no client changes it in transit.
+        const auto parts = owned(m_gmime.g_mime_multipart_new_with_subtype("mixed"));
+        m_gmime.g_mime_multipart_add(parts.get(), GMIME_OBJECT(textPart(mail.body, "utf-8").get()));
+        for (const AttachedText& attachment : attachments)
+            m_gmime.g_mime_multipart_add(parts.get(), GMIME_OBJECT(attached(attachment).get()));
+        m_gmime.g_mime_message_set_mime_part(m_message.get(), GMIME_OBJECT(parts.get()));
+        return bytes();
     }
-    for (int i = 0; i < internet_address_list_length(parsed.get()); ++i) {
-        InternetAddress* address = internet_address_list_get_address(parsed.get(), i);
-        internet_address_set_charset(address, kCharset);
-        internet_address_list_add(list, address);
+
+private:
+    template <class T>
+    Owned<T> owned(T* object) const
+    {
+        return Owned<T>{object, {&m_gmime}};
     }
-}
 
-Owned<GMimePart> textPart(const std::string& bytes, const char* charset)
-{
-    Owned<GMimePart> part{g_mime_part_new_with_type("text", "plain")};
-    const Owned<GMimeStream> stream{g_mime_stream_mem_new_with_buffer(bytes.data(), bytes.size())};
-    const Owned<GMimeDataWrapper> content{
-        g_mime_data_wrapper_new_with_stream(stream.get(), GMIME_CONTENT_ENCODING_DEFAULT)};
-    g_mime_part_set_content(part.get(), content.get());
-    g_mime_part_set_content_encoding(part.get(), GMIME_CONTENT_ENCODING_BASE64);
-    g_mime_object_set_content_type_parameter(GMIME_OBJECT(part.get()), "charset", charset);
-    return part;
-}
-
-void attach(GMimeMultipart* multipart, const AttachedText& attachment)
-{
-    const Owned<GMimePart> part = textPart(attachment.bytes, "windows-1252");
-    GMimeObject* object = GMIME_OBJECT(part.get());
-    g_mime_object_set_disposition(object, GMIME_DISPOSITION_ATTACHMENT);
-    g_mime_part_set_filename(part.get(), attachment.name.c_str());
-    for (GMimeParamList* parameters :
-         {g_mime_content_disposition_get_parameters(g_mime_object_get_content_disposition(object)),
-          g_mime_content_type_get_parameters(g_mime_object_get_content_type(object))})
-        for (const char* name : {"filename", "name"})
-            if (GMimeParam* parameter = g_mime_param_list_get_parameter(parameters, name))
-                g_mime_param_set_charset(parameter, kCharset);
-    g_mime_multipart_add(multipart, object);
-}
-
-std::string withCrLf(std::string_view text)
-{
-    std::string converted;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\n' && (i == 0 || text[i - 1] != '\r'))
-            converted += '\r';
-        converted += text[i];
+    void setSubject(const std::string& subject)
+    {
+        m_gmime.g_mime_message_set_subject(m_message.get(), subject.c_str(), kCharset);
+        if (isPlainHeader(subject))
+            return;
+        // Not the library's own encoding: it chooses between two by length, drops blanks around the text, and leaves
+        // text unchanged that looks encoded already. This encoding is the one that receivers support best.
+        GMimeHeaderList* headers = m_gmime.g_mime_object_get_header_list(GMIME_OBJECT(m_message.get()));
+        m_gmime.g_mime_header_set_raw_value(m_gmime.g_mime_header_list_get_header(headers, "Subject"),
+                                            encodedWords(subject).c_str());
     }
-    return converted;
-}
 
-std::string written(GMimeMessage* message)
-{
-    const std::unique_ptr<GMimeFormatOptions, FreeOptions> options{g_mime_format_options_new()};
-    g_mime_format_options_set_newline_format(options.get(), GMIME_NEWLINE_FORMAT_DOS);
-    const Owned<GMimeStream> stream{g_mime_stream_mem_new()};
-    g_mime_object_write_to_stream(GMIME_OBJECT(message), options.get(), stream.get());
-    const GByteArray* bytes = g_mime_stream_mem_get_byte_array(GMIME_STREAM_MEM(stream.get()));
-    return withCrLf({reinterpret_cast<const char*>(bytes->data), bytes->len});
-}
+    /// A recipient is taken as typed: an address, a name with an address, or several of them.
+    void addRecipient(const std::string& recipient)
+    {
+        InternetAddressList* list = m_gmime.g_mime_message_get_addresses(m_message.get(), GMIME_ADDRESS_TYPE_TO);
+        const auto parsed = owned(m_gmime.internet_address_list_parse(nullptr, recipient.c_str()));
+        if (!parsed || m_gmime.internet_address_list_length(parsed.get()) == 0) {
+            const auto address = owned(m_gmime.internet_address_mailbox_new(nullptr, recipient.c_str()));
+            m_gmime.internet_address_list_add(list, address.get());
+            return;
+        }
+        for (int i = 0; i < m_gmime.internet_address_list_length(parsed.get()); ++i) {
+            InternetAddress* address = m_gmime.internet_address_list_get_address(parsed.get(), i);
+            m_gmime.internet_address_set_charset(address, kCharset);
+            m_gmime.internet_address_list_add(list, address);
+        }
+    }
+
+    Owned<GMimePart> textPart(const std::string& bytes, const char* charset) const
+    {
+        auto part = owned(m_gmime.g_mime_part_new_with_type("text", "plain"));
+        const auto stream = owned(m_gmime.g_mime_stream_mem_new_with_buffer(bytes.data(), bytes.size()));
+        const auto content =
+            owned(m_gmime.g_mime_data_wrapper_new_with_stream(stream.get(), GMIME_CONTENT_ENCODING_DEFAULT));
+        m_gmime.g_mime_part_set_content(part.get(), content.get());
+        m_gmime.g_mime_part_set_content_encoding(part.get(), GMIME_CONTENT_ENCODING_BASE64);
+        m_gmime.g_mime_object_set_content_type_parameter(GMIME_OBJECT(part.get()), "charset", charset);
+        return part;
+    }
+
+    Owned<GMimePart> attached(const AttachedText& attachment) const
+    {
+        auto part = textPart(attachment.bytes, "windows-1252");
+        GMimeObject* object = GMIME_OBJECT(part.get());
+        m_gmime.g_mime_object_set_disposition(object, GMIME_DISPOSITION_ATTACHMENT);
+        m_gmime.g_mime_part_set_filename(part.get(), attachment.name.c_str());
+        for (GMimeParamList* parameters :
+             {m_gmime.g_mime_content_disposition_get_parameters(m_gmime.g_mime_object_get_content_disposition(object)),
+              m_gmime.g_mime_content_type_get_parameters(m_gmime.g_mime_object_get_content_type(object))})
+            for (const char* name : {"filename", "name"})
+                if (GMimeParam* parameter = m_gmime.g_mime_param_list_get_parameter(parameters, name))
+                    m_gmime.g_mime_param_set_charset(parameter, kCharset);
+        return part;
+    }
+
+    std::string bytes() const
+    {
+        const std::unique_ptr<GMimeFormatOptions, decltype(m_gmime.g_mime_format_options_free)> options{
+            m_gmime.g_mime_format_options_new(), m_gmime.g_mime_format_options_free};
+        m_gmime.g_mime_format_options_set_newline_format(options.get(), GMIME_NEWLINE_FORMAT_DOS);
+        const auto stream = owned(m_gmime.g_mime_stream_mem_new());
+        m_gmime.g_mime_object_write_to_stream(GMIME_OBJECT(m_message.get()), options.get(), stream.get());
+        const GByteArray* written = m_gmime.g_mime_stream_mem_get_byte_array(GMIME_STREAM_MEM(stream.get()));
+        return {reinterpret_cast<const char*>(written->data), written->len};
+    }
+
+    const MailLibrary& m_gmime;
+    Owned<GMimeMessage> m_message;
+};
 
 } // namespace
 
-std::string messageFile(const OutgoingMail& mail, std::span<const AttachedText> attachments)
+Result<std::string> messageFile(const OutgoingMail& mail, std::span<const AttachedText> attachments,
+                                const MailLibrary* gmime)
 {
-    startLibrary();
-    const Owned<GMimeMessage> message{g_mime_message_new(TRUE)};
-    g_mime_object_set_header(GMIME_OBJECT(message.get()), "X-Unsent", "1", nullptr);
-    for (const std::string& recipient : mail.recipients)
-        addRecipient(g_mime_message_get_addresses(message.get(), GMIME_ADDRESS_TYPE_TO), recipient);
-    setSubject(message.get(), mail.subject);
-
-    // Base64 for the text too: no line of it can look like a boundary, and no client changes it in transit.
-    const Owned<GMimeMultipart> multipart{g_mime_multipart_new_with_subtype("mixed")};
-    g_mime_multipart_add(multipart.get(), GMIME_OBJECT(textPart(mail.body, "utf-8").get()));
-    for (const AttachedText& attachment : attachments)
-        attach(multipart.get(), attachment);
-    g_mime_message_set_mime_part(message.get(), GMIME_OBJECT(multipart.get()));
-    return written(message.get());
+    if (!gmime)
+        return Failure{kMissing};
+    return Writer{*gmime}.write(mail, attachments);
 }
 
 Result<std::string> messageFile(const OutgoingMail& mail)

@@ -3,17 +3,12 @@
 
 #include "base/windows1252.h"
 
+#include <QByteArray>
 #include <algorithm>
 
 namespace tallyhoop::qt {
 
 namespace {
-
-bool isPlain(unsigned char byte)
-{
-    return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z') || (byte >= '0' && byte <= '9') ||
-           std::string_view{"-._~"}.find(static_cast<char>(byte)) != std::string_view::npos;
-}
 
 std::string oneLine(std::string text)
 {
@@ -60,21 +55,14 @@ OutgoingMail outgoing(const ui::MailMessage& message)
     return mail;
 }
 
+// Of the bytes and not of a QString: the name of a file need not be UTF-8. And not QUrl::fromLocalFile(), which leaves
+// commas and apostrophes as they are.
 std::string percentEncoded(std::string_view text, std::string_view kept)
 {
-    constexpr std::string_view kHex = "0123456789ABCDEF";
-    std::string encoded;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (isPlain(byte) || kept.find(c) != std::string_view::npos) {
-            encoded += c;
-        } else {
-            encoded += '%';
-            encoded += kHex[byte >> 4U];
-            encoded += kHex[byte & 15U];
-        }
-    }
-    return encoded;
+    const auto bytes = [](std::string_view view) {
+        return QByteArray::fromRawData(view.data(), static_cast<qsizetype>(view.size()));
+    };
+    return bytes(text).toPercentEncoding(bytes(kept)).toStdString();
 }
 
 std::string fileUrl(const std::filesystem::path& file) { return "file://" + percentEncoded(file.native(), "/"); }

@@ -83,6 +83,11 @@ class Email(unittest.TestCase):
         self.assertEqual(self.composed(), ["-compose", "to='prophet@example.org,o'brien@example.org',subject=,body=,"
                                                        "format=text," + self.attachments()])
 
+    def test_the_library_for_message_files_is_no_part_of_the_start(self):
+        libraries = pathlib.Path(f"/proc/{self.program.process_id()}/maps").read_text()
+        self.assertIn("libQt6Widgets", libraries)
+        self.assertNotIn("libgmime", libraries)
+
     def test_exit_sends_nothing(self):
         self.make_reports(destination=3)
         self.program.key("Escape")

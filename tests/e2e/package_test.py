@@ -101,6 +101,11 @@ class Package(unittest.TestCase):
         for line in held.splitlines():
             self.assertEqual(line.split()[1], "root/root", line)
 
+    def test_it_depends_on_the_libraries_that_are_linked_and_on_the_one_that_is_not(self):
+        depends = run("dpkg-deb", "--field", self.package, "Depends")
+        for library in ("libqt6widgets6", "libgmime-3.0-0"):
+            self.assertIn(library, depends)
+
     @unittest.skipUnless(os.geteuid() == 0, "only root installs packages")
     def test_a_pool_outlives_the_upgrade_and_the_removal_of_the_program(self):
         self.root = Root(self.scratch)

@@ -1,0 +1,69 @@
+// qt/services/mail_library.h - gmime, which writes message files: loaded when the first one is written.
+//
+// Most people never write one, and loading it with the program, it and all that it needs, would be part of every start.
+#pragma once
+
+// The macros of the library's types would call functions of it to check casts.
+#define G_DISABLE_CAST_CHECKS
+#include <QString>
+#include <gmime/gmime.h>
+#include <optional>
+
+namespace tallyhoop::qt {
+
+/// Every function that we use: its name once, so that the type of each is that of the library's own header.
+#define TALLYHOOP_MAIL_FUNCTIONS(each)               \
+    each(g_mime_content_disposition_get_parameters); \
+    each(g_mime_content_type_get_parameters);        \
+    each(g_mime_data_wrapper_new_with_stream);       \
+    each(g_mime_format_options_free);                \
+    each(g_mime_format_options_new);                 \
+    each(g_mime_format_options_set_newline_format);  \
+    each(g_mime_header_list_get_header);             \
+    each(g_mime_header_set_raw_value);               \
+    each(g_mime_init);                               \
+    each(g_mime_message_get_addresses);              \
+    each(g_mime_message_new);                        \
+    each(g_mime_message_set_mime_part);              \
+    each(g_mime_message_set_subject);                \
+    each(g_mime_multipart_add);                      \
+    each(g_mime_multipart_new_with_subtype);         \
+    each(g_mime_object_get_content_disposition);     \
+    each(g_mime_object_get_content_type);            \
+    each(g_mime_object_get_header_list);             \
+    each(g_mime_object_set_content_type_parameter);  \
+    each(g_mime_object_set_disposition);             \
+    each(g_mime_object_set_header);                  \
+    each(g_mime_object_write_to_stream);             \
+    each(g_mime_param_list_get_parameter);           \
+    each(g_mime_param_set_charset);                  \
+    each(g_mime_part_new_with_type);                 \
+    each(g_mime_part_set_content);                   \
+    each(g_mime_part_set_content_encoding);          \
+    each(g_mime_part_set_filename);                  \
+    each(g_mime_stream_mem_get_byte_array);          \
+    each(g_mime_stream_mem_new);                     \
+    each(g_mime_stream_mem_new_with_buffer);         \
+    each(g_object_unref);                            \
+    each(internet_address_list_add);                 \
+    each(internet_address_list_get_address);         \
+    each(internet_address_list_length);              \
+    each(internet_address_list_parse);               \
+    each(internet_address_mailbox_new);              \
+    each(internet_address_set_charset)
+
+/// The library's functions under their own names.
+struct MailLibrary {
+#define TALLYHOOP_DECLARE(name) decltype(&::name) name = nullptr
+    TALLYHOOP_MAIL_FUNCTIONS(TALLYHOOP_DECLARE);
+#undef TALLYHOOP_DECLARE
+};
+
+/// Loads a library by its name without prefix and extension, such as "gmime-3.0"; it stays for good.
+/// @returns nothing when it, or one of the functions, is not there
+std::optional<MailLibrary> loadMailLibrary(const QString& name);
+
+/// @returns gmime, loaded and started at the first call; nullptr when it is not installed
+const MailLibrary* mailLibrary();
+
+} // namespace tallyhoop::qt
