@@ -16,7 +16,7 @@ import time
 # Without a folder of its own for running programs Qt prints a complaint at every start.
 _runtime = tempfile.TemporaryDirectory(prefix="tallyhoop-bench-runtime-")  # only its owner may read it, as Qt wants
 os.environ["XDG_RUNTIME_DIR"] = _runtime.name
-os.environ["QT_LOGGING_RULES"] = "qt.qpa.*=false"
+os.environ["QT_LOGGING_RULES"] = "qt.qpa.*=false;default.warning=false"  # offscreen windows have no size hints
 
 BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[1] / "build"))
 

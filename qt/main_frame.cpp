@@ -33,8 +33,10 @@ MainFrame::MainFrame() : m_stack{new QStackedWidget}
 void MainFrame::open()
 {
     const QRect available = screen()->availableGeometry();
-    // Centred before it is shown, because the first question appears centred over it.
-    setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, kComfortable, available));
+    // Centred before it is shown, because the first question appears centred over it; and no larger than the display,
+    // so that a page is not laid out for a size that is never shown.
+    const QSize size = kComfortable.boundedTo(available.size());
+    setGeometry(QStyle::alignedRect(layoutDirection(), Qt::AlignCenter, size, available));
     if (available.width() < kComfortable.width() + 100 || available.height() < kComfortable.height() + 60)
         showMaximized();
     else

@@ -11,7 +11,6 @@
 
 #include <QApplication>
 #include <QFontMetricsF>
-#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -22,7 +21,6 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr double kSmallestText = 8;
-constexpr int kLineEditMargin = 2;       ///< what Qt keeps free at either side of a line of text
 constexpr double kSmallestShrink = 0.86; ///< names that would need even smaller letters are cut instead
 
 /// Rounds the edges, so that neighbours that touch still touch: a place and its marker look like one box.
@@ -90,18 +88,19 @@ void BracketCanvas::makeHeaders()
 
 void BracketCanvas::makeSeeds()
 {
-    QPalette throughToTheBoard; // a style sheet for each box would slow the start
-    throughToTheBoard.setColor(QPalette::Base, Qt::transparent);
+    // Labels: nobody edits a seed here, and 64 boxes would be a tenth of the start.
     for (const TeamRow row : allTeamRows()) {
-        auto* const seed = qobject_cast<QLineEdit*>(m_page.add(m_board.txtSeed[row]));
-        seed->setParent(this);
-        seed->setFrame(false);
-        seed->setTextMargins(-kLineEditMargin, 0, -kLineEditMargin, 0); // two digits need all of the narrowest place
+        ui::TextBox& box = m_board.txtSeed[row];
+        auto* const seed = m_page.adopt(box, new QLabel{this});
+        seed->setTextFormat(Qt::PlainText);
         seed->setMinimumSize(0, 0);
-        seed->setAlignment(regionOf(row) < kRegions / 2 ? Qt::AlignRight : Qt::AlignLeft);
-        seed->setFocusPolicy(Qt::NoFocus);
+        const Qt::Alignment side = regionOf(row) < kRegions / 2 ? Qt::AlignRight : Qt::AlignLeft;
+        seed->setAlignment(side | Qt::AlignVCenter);
         seed->setAttribute(Qt::WA_TransparentForMouseEvents);
-        seed->setPalette(throughToTheBoard);
+        m_page.follow(box.text, [seed](const std::string& text) {
+            seed->setText(toQString(text));
+            seed->setAccessibleDescription(toQString(text)); // its name says whose seed it is
+        });
         m_seeds[row] = seed;
     }
 }
@@ -183,7 +182,8 @@ void BracketCanvas::chooseFonts()
     };
     const auto use = [](const auto& widgets, const QFont& scaled) {
         for (QWidget* widget : widgets)
-            widget->setFont(scaled);
+            if (widget->font() != scaled) // nearly always the same while the window is being laid out
+                widget->setFont(scaled);
     };
     use(m_places.values, letters(1, false));
     m_places[kChampion]->setFont(letters(1.3, true));

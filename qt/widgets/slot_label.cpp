@@ -10,6 +10,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
+#include <map>
+#include <utility>
 
 namespace tallyhoop::qt {
 
@@ -29,6 +31,24 @@ QAccessibleInterface* speakForMarker(const QString&, QObject* object)
     return marker ? new QAccessibleWidget{label, QAccessible::StaticText} : nullptr;
 }
 
+/// Tests and assistive tools read the colours of text and background from the palette. There are as many palettes as
+/// kinds of marks, shared by all places: one made for each place would take a tenth of the start's memory beyond Qt's
+/// own.
+const QPalette& paletteOf(const QColor& colour, const QColor& background)
+{
+    static std::map<std::pair<QRgb, QRgb>, QPalette> made;
+    const auto [at, isNew] = made.try_emplace({colour.rgba(), background.rgba()});
+    if (!isNew)
+        return at->second;
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
+            at->second.setColor(group, role, colour);
+        for (const auto role : {QPalette::Window, QPalette::Button})
+            at->second.setColor(group, role, background);
+    }
+    return at->second;
+}
+
 } // namespace
 
 SlotLabel::SlotLabel(Part part, QWidget* parent) : QAbstractButton{parent}, m_part{part}
@@ -42,19 +62,15 @@ SlotLabel::SlotLabel(Part part, QWidget* parent) : QAbstractButton{parent}, m_pa
 
 void SlotLabel::show(const QString& text, const QColor& colour, const QColor& background)
 {
-    setText(text);
-    setShortcut({}); // an ampersand in a name is no mnemonic
+    if (text != this->text()) {
+        setText(text);
+        setShortcut({}); // an ampersand in a name is no mnemonic
+    }
+    if (colour == m_colour && background == m_background)
+        return; // the board shows all its places after every command, and a palette takes longer than a text
     m_colour = colour;
     m_background = background;
-    // Tests and assistive tools read the colours of text and background from the palette.
-    QPalette colours = palette();
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        for (const auto role : {QPalette::WindowText, QPalette::ButtonText})
-            colours.setColor(group, role, colour);
-        for (const auto role : {QPalette::Window, QPalette::Button})
-            colours.setColor(group, role, background);
-    }
-    setPalette(colours);
+    setPalette(paletteOf(colour, background));
     update();
 }
 
