@@ -1,17 +1,12 @@
-// qt/style.cpp - Fusion with other boxes, frames and margins, and a palette whose roles are made readable.
+// qt/style.cpp - Fusion with outlines that can be seen, other margins, and a palette whose roles are made readable.
 #include "qt/style.h"
 
 #include "qt/line_icon.h"
 #include "qt/look.h"
 #include "qt/message_icon.h"
 
-#include <QApplication>
 #include <QPainter>
-#include <QPainterPath>
-#include <QPushButton>
 #include <QStyleOption>
-#include <algorithm>
-#include <cmath>
 
 namespace tallyhoop::qt {
 
@@ -19,7 +14,6 @@ namespace {
 
 constexpr double kRound = 4;  ///< radius of corners, in device-independent pixels
 constexpr int kPadding = 2;   ///< height added to a box or button; with no more, 64 boxes fit a small screen
-constexpr int kTitleGap = 3;  ///< between a group's title and its frame
 constexpr int kTextInset = 3; ///< added on both sides of a box's text
 
 // The window colour that Qt uses when no desktop defines one.
@@ -70,24 +64,7 @@ void drawBox(QPainter& painter, const QRect& place, const QBrush& fill, const QC
     painter.restore();
 }
 
-void drawButton(const QStyleOption& option, QPainter& painter)
-{
-    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(&option);
-    const bool enabled = option.state.testFlag(QStyle::State_Enabled);
-    const bool pressed = option.state.testFlag(QStyle::State_Sunken) || option.state.testFlag(QStyle::State_On);
-    const bool hovered = option.state.testFlag(QStyle::State_MouseOver);
-    const bool isDefault = button && button->features.testFlag(QStyleOptionButton::DefaultButton);
-    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
-    const QColor accent = option.palette.color(QPalette::Highlight);
-    QColor fill = option.palette.color(QPalette::Button);
-    if (enabled && pressed)
-        fill = between(fill, accent, 0.25);
-    else if (enabled && hovered)
-        fill = between(fill, accent, 0.1);
-    const bool marked = enabled && (isDefault || focused);
-    drawBox(painter, option.rect, fill, marked ? accent : lineColour(option.palette), marked ? 2 : 1);
-}
-
+/// Fusion draws the outline of a box darker than the window: on a dark desktop an empty one cannot be seen.
 void drawLineEdit(const QStyleOption& option, QPainter& painter, bool filled)
 {
     const bool focused = option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
@@ -96,14 +73,7 @@ void drawLineEdit(const QStyleOption& option, QPainter& painter, bool filled)
             focused ? option.palette.color(QPalette::Highlight) : lineColour(option.palette), focused ? 2 : 1);
 }
 
-/// @returns how far below a group's upper edge its frame begins
-int groupTitleHeight(const QStyleOption& option)
-{
-    return kTitleGap + std::max(option.fontMetrics.height(),
-                                QApplication::style()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight));
-}
-
-/// The frame of lists and of boxes of several lines. Square, as their background is.
+/// The frame of lists and of boxes of several lines, for the same reason. Square, as their background is.
 void drawFrame(const QStyleOption& option, QPainter& painter)
 {
     const bool focused = option.state.testFlag(QStyle::State_HasFocus) && option.state.testFlag(QStyle::State_Enabled);
@@ -188,9 +158,6 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
                           const QWidget* widget) const
 {
     switch (element) {
-    case PE_PanelButtonCommand:
-        drawButton(*option, *painter);
-        return;
     case PE_PanelLineEdit:
         if (const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option); frame && frame->lineWidth > 0) {
             drawLineEdit(*option, *painter, true);
@@ -200,26 +167,17 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_FrameLineEdit:
         drawLineEdit(*option, *painter, false);
         return;
-    case PE_IndicatorCheckBox:
+    case PE_IndicatorCheckBox: // Fusion's own outline is pale on a light desktop, and none on a dark one
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         drawBox(*painter, option->rect, Qt::NoBrush, strongLineColour(option->palette), 1);
         return;
-    case PE_IndicatorRadioButton:
+    case PE_IndicatorRadioButton: // likewise
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         drawRing(*painter, option->rect, strongLineColour(option->palette));
         return;
     case PE_Frame:
-    case PE_FrameMenu:
         drawFrame(*option, *painter);
         return;
-    case PE_FrameGroupBox:
-        drawBox(*painter, option->rect.adjusted(0, groupTitleHeight(*option), 0, 0), Qt::NoBrush,
-                lineColour(option->palette), 1);
-        return;
-    case PE_FrameFocusRect:
-        if (qobject_cast<const QPushButton*>(widget))
-            return; // its outline shows the focus already
-        break;
     default:
         break;
     }

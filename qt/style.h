@@ -1,4 +1,5 @@
-// qt/style.h - how our widgets are drawn: flat, with round corners and some padding, in the palette's own colours.
+// qt/style.h - how our widgets are drawn: as Qt's Fusion draws them, with some padding, in the palette's own colours,
+// and with outlines of our own where Fusion's cannot be seen.
 #pragma once
 
 #include <QPalette>

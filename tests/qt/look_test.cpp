@@ -7,7 +7,10 @@
 #include <QImage>
 #include <QPainter>
 #include <QStyleOption>
+#include <algorithm>
+#include <array>
 #include <gtest/gtest.h>
+#include <type_traits>
 
 using namespace tallyhoop::qt;
 
@@ -20,6 +23,37 @@ int paintedPixels(const QImage& image, const QColor& colour)
         for (int x = 0; x < image.width(); ++x)
             count += image.pixelColor(x, y) == colour;
     return count;
+}
+
+const std::array kBackgrounds{QColor{0xf3, 0xf4, 0xf7}, QColor{49, 54, 59}};
+
+/// @returns an enabled, empty element without the focus on this background, with text in black or white
+template <class Option>
+QImage drawn(QStyle::PrimitiveElement element, const QColor& background)
+{
+    Option option;
+    if constexpr (std::is_same_v<Option, QStyleOptionFrame>)
+        option.lineWidth = 1;
+    option.rect = {0, 0, 31, 31};
+    option.state = QStyle::State_Enabled | QStyle::State_Off;
+    option.palette = QPalette{background};
+    option.palette.setColor(QPalette::WindowText, background.lightness() > 128 ? Qt::black : Qt::white);
+    QImage image{31, 31, QImage::Format_RGB32};
+    image.fill(background);
+    QPainter painter{&image};
+    Style{}.drawPrimitive(element, &option, &painter, nullptr);
+    return image;
+}
+
+/// @returns the least contrast of the middles of the four edges
+double outlineContrast(const QImage& image, const QColor& background)
+{
+    const int last = image.width() - 1;
+    const int middle = last / 2;
+    double least = 21;
+    for (const QPoint& edge : {QPoint{0, middle}, QPoint{last, middle}, QPoint{middle, 0}, QPoint{middle, last}})
+        least = std::min(least, look::contrast(image.pixelColor(edge), background));
+    return least;
 }
 
 } // namespace
@@ -101,21 +135,27 @@ TEST(Look, TheApplicationFollowsAChangeOfTheStylesPalette)
 
 TEST(Look, ListsAndBoxesOfSeveralLinesHaveAnOutlineOnEveryBackground)
 {
-    Style style;
-    for (const QColor& background : {QColor{0xf3, 0xf4, 0xf7}, QColor{49, 54, 59}}) {
-        QStyleOptionFrame option;
-        option.rect = {0, 0, 40, 30};
-        option.palette = QPalette{background};
-        option.palette.setColor(QPalette::WindowText, background.lightness() > 128 ? Qt::black : Qt::white);
-        QImage image{40, 30, QImage::Format_RGB32};
-        image.fill(background);
-        QPainter painter{&image};
-        style.drawPrimitive(QStyle::PE_Frame, &option, &painter, nullptr);
-        painter.end();
-        for (const QPoint& edge : {QPoint{0, 15}, QPoint{39, 15}, QPoint{20, 0}, QPoint{20, 29}})
-            EXPECT_GE(look::contrast(image.pixelColor(edge), background), 1.8) << background.name().toStdString();
-        EXPECT_EQ(image.pixelColor(20, 15), background);
+    for (const QColor& background : kBackgrounds) {
+        const QImage image = drawn<QStyleOptionFrame>(QStyle::PE_Frame, background);
+        EXPECT_GE(outlineContrast(image, background), 1.8) << background.name().toStdString();
+        EXPECT_EQ(image.pixelColor(image.rect().center()), background);
     }
+}
+
+TEST(Look, BoxesOfOneLineHaveAnOutlineOnEveryBackground)
+{
+    for (const QColor& background : kBackgrounds)
+        for (const auto element : {QStyle::PE_PanelLineEdit, QStyle::PE_FrameLineEdit})
+            EXPECT_GE(outlineContrast(drawn<QStyleOptionFrame>(element, background), background), 1.8)
+                << background.name().toStdString();
+}
+
+TEST(Look, EmptyTickBoxesAndOptionsHaveAStrongOutlineOnEveryBackground)
+{
+    for (const QColor& background : kBackgrounds)
+        for (const auto element : {QStyle::PE_IndicatorCheckBox, QStyle::PE_IndicatorRadioButton})
+            EXPECT_GE(outlineContrast(drawn<QStyleOptionButton>(element, background), background), 3)
+                << background.name().toStdString();
 }
 
 TEST(Look, ContrastIsMeasuredAsTheRatioOfLuminances)
