@@ -88,7 +88,7 @@ void BracketCanvas::makeHeaders()
 
 void BracketCanvas::makeSeeds()
 {
-    // Labels: nobody edits a seed here, and 64 boxes would be a tenth of the start.
+    // Labels: nobody edits a seed here, and 64 text boxes would take nearly a tenth of the start.
     for (const TeamRow row : allTeamRows()) {
         ui::TextBox& box = m_board.txtSeed[row];
         auto* const seed = m_page.adopt(box, new QLabel{this});

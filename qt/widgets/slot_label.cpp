@@ -32,8 +32,7 @@ QAccessibleInterface* speakForMarker(const QString&, QObject* object)
 }
 
 /// Tests and assistive tools read the colours of text and background from the palette. There are as many palettes as
-/// kinds of marks, shared by all places: one made for each place would take a tenth of the start's memory beyond Qt's
-/// own.
+/// kinds of marks, shared by all places: one for each place would take 0.2 MiB more and longer to make.
 const QPalette& paletteOf(const QColor& colour, const QColor& background)
 {
     static std::map<std::pair<QRgb, QRgb>, QPalette> made;
