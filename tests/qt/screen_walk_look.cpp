@@ -135,15 +135,19 @@ QStringList ScreenWalk::clippedTexts() const
     return clipped;
 }
 
-/// The colour that covers most of the widget's place.
+/// The colour that covers most of the widget's place. Without its edge: no text is there, and where a button is filled
+/// with a gradient, more pixels have the colour of its outline than any other.
 QColor ScreenWalk::backgroundOf(const QWidget& widget) const
 {
+    constexpr int kEdge = 3;
     const double scale = m_picture.devicePixelRatio();
-    const QPoint corner = widget.mapTo(&m_window, QPoint{0, 0});
+    const bool hasMiddle = widget.width() > 4 * kEdge && widget.height() > 4 * kEdge;
+    const int edge = hasMiddle ? kEdge : 0;
+    const QRect place = QRect{widget.mapTo(&m_window, QPoint{0, 0}), widget.size()}.adjusted(edge, edge, -edge, -edge);
     QMap<QRgb, int> counts;
     const auto end = [&](int start, int size) { return static_cast<int>((start + size) * scale); };
-    for (int y = static_cast<int>(corner.y() * scale); y < end(corner.y(), widget.height()); ++y)
-        for (int x = static_cast<int>(corner.x() * scale); x < end(corner.x(), widget.width()); ++x)
+    for (int y = static_cast<int>(place.y() * scale); y < end(place.y(), place.height()); ++y)
+        for (int x = static_cast<int>(place.x() * scale); x < end(place.x(), place.width()); ++x)
             if (m_picture.rect().contains(x, y))
                 ++counts[m_picture.pixel(x, y)];
     const auto most = std::ranges::max_element(counts);
