@@ -4,13 +4,10 @@
 #include "qt/text.h"
 #include "qt/widgets/input_method.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
-#include <QMenu>
 #include <QMimeData>
 #include <utility>
 
@@ -65,8 +62,8 @@ bool LineEdit::isUndone(QKeyEvent& key) const
 
 void LineEdit::keyPressEvent(QKeyEvent* event)
 {
-    if (event->matches(QKeySequence::Paste) && !isReadOnly())
-        paste(QApplication::clipboard()->text());
+    if (event->matches(QKeySequence::Paste))
+        paste();
     else
         QLineEdit::keyPressEvent(event);
 }
@@ -92,7 +89,7 @@ void LineEdit::mouseReleaseEvent(QMouseEvent* event)
     if (std::exchange(m_selectedOnFocus, false) && !hasSelectedText()) // else the mouse has selected a part
         QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
     if (event->button() == Qt::MiddleButton && !isReadOnly() && QApplication::clipboard()->supportsSelection())
-        paste(QApplication::clipboard()->text(QClipboard::Selection));
+        take(QApplication::clipboard()->text(QClipboard::Selection));
     else
         QLineEdit::mouseReleaseEvent(event);
 }
@@ -104,25 +101,16 @@ void LineEdit::dropEvent(QDropEvent* event)
         return;
     }
     event->acceptProposedAction();
-    paste(event->mimeData()->text());
+    take(event->mimeData()->text());
 }
 
-void LineEdit::contextMenuEvent(QContextMenuEvent* event)
+void LineEdit::paste()
 {
-    if (isReadOnly()) {
-        QLineEdit::contextMenuEvent(event);
-        return;
-    }
-    QMenu* menu = createStandardContextMenu();
-    menu->setAttribute(Qt::WA_DeleteOnClose);
-    if (auto* entry = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
-        entry->disconnect();
-        connect(entry, &QAction::triggered, this, [this] { paste(QApplication::clipboard()->text()); });
-    }
-    menu->popup(event->globalPos());
+    if (!isReadOnly())
+        take(QApplication::clipboard()->text());
 }
 
-void LineEdit::paste(const QString& text)
+void LineEdit::take(const QString& text)
 {
     if (pasted && pasted(text))
         return;
