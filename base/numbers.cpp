@@ -54,7 +54,10 @@ NumberText numberAtStart(std::string_view text)
 std::string shortened(std::string_view text)
 {
     constexpr std::size_t kMost = 40;
-    return text.size() <= kMost ? std::string{text} : std::string{text.substr(0, kMost)} + "...";
+    std::string most{text.substr(0, kMost)};
+    if (text.size() > kMost)
+        most += "...";
+    return most;
 }
 
 } // namespace

@@ -29,6 +29,7 @@ set(TALLYHOOP_ALONE
     tests/qt/hostile_names.*
     tests/reports/team_selection_test.cpp
     tests/screens/players/players_screen_test.cpp
+    tests/screens/reports/report_maker_test.cpp
     tests/screens/reports/reports_screen_refusals_test.cpp
     tests/ui/.*)
 

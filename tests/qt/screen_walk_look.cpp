@@ -17,6 +17,7 @@
 #include <QToolButton>
 #include <algorithm>
 #include <array>
+#include <numeric>
 
 namespace tallyhoop::qt {
 
@@ -144,14 +145,19 @@ QColor ScreenWalk::backgroundOf(const QWidget& widget) const
     const bool hasMiddle = widget.width() > 4 * kEdge && widget.height() > 4 * kEdge;
     const int edge = hasMiddle ? kEdge : 0;
     const QRect place = QRect{widget.mapTo(&m_window, QPoint{0, 0}), widget.size()}.adjusted(edge, edge, -edge, -edge);
-    QMap<QRgb, int> counts;
+    // The background may be a gradient, of which each shade alone is rarer than the text: alike shades count as one.
+    const auto group = [](QRgb colour) { return colour & qRgba(0xF0, 0xF0, 0xF0, 0xFF); };
+    QMap<QRgb, QMap<QRgb, int>> counts; // the number of pixels of each colour, by groups
     const auto end = [&](int start, int size) { return static_cast<int>((start + size) * scale); };
     for (int y = static_cast<int>(place.y() * scale); y < end(place.y(), place.height()); ++y)
         for (int x = static_cast<int>(place.x() * scale); x < end(place.x(), place.width()); ++x)
-            if (m_picture.rect().contains(x, y))
-                ++counts[m_picture.pixel(x, y)];
-    const auto most = std::ranges::max_element(counts);
-    return most == counts.end() ? QColor{} : QColor{most.key()};
+            if (m_picture.rect().contains(x, y)) {
+                const QRgb colour = m_picture.pixel(x, y);
+                ++counts[group(colour)][colour];
+            }
+    const auto most = std::ranges::max_element(
+        counts, {}, [](const QMap<QRgb, int>& shades) { return std::accumulate(shades.begin(), shades.end(), 0); });
+    return most == counts.end() ? QColor{} : QColor{std::ranges::max_element(most.value()).key()};
 }
 
 QStringList ScreenWalk::paleTexts() const

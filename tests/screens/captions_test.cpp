@@ -83,7 +83,7 @@ std::vector<std::string> menusOf(const ui::Screen& screen)
 
 TEST_F(Captions, OfTheBoard)
 {
-    const BoardScreen board{folder, platform.services, screens, {field, savedPlayer, verdicts}, {}};
+    const BoardScreen board{folder, platform.services, screens, {field, savedPlayer, verdicts}};
 
     EXPECT_THAT(
         captionsOf(board),
