@@ -54,10 +54,7 @@ NumberText numberAtStart(std::string_view text)
 std::string shortened(std::string_view text)
 {
     constexpr std::size_t kMost = 40;
-    std::string most{text.substr(0, kMost)};
-    if (text.size() > kMost)
-        most += "...";
-    return most;
+    return text.size() <= kMost ? std::string{text} : std::string{text.substr(0, kMost)} + "...";
 }
 
 } // namespace

@@ -18,6 +18,10 @@ function(precompile_headers)
     foreach(target ${ARG_FOR})
         target_precompile_headers(${target} REUSE_FROM ${first})
     endforeach()
+    # GCC forgets which precompiled headers are the system's, and then warns of what it takes for mistakes in them.
+    foreach(target ${first} ${ARG_FOR})
+        target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread)
+    endforeach()
 endfunction()
 
 # Sources that stay alone, because another one of their folder uses the same name for something of its own.
