@@ -2,6 +2,7 @@
 #include "qt/services/mail_library.h"
 
 #include <QLibrary>
+#include <type_traits>
 
 namespace tallyhoop::qt {
 
@@ -12,8 +13,8 @@ std::optional<MailLibrary> loadMailLibrary(const QString& name)
     file.setLoadHints(QLibrary::PreventUnloadHint); // its types are registered for as long as the program runs
     MailLibrary library;
     bool complete = true;
-    const auto resolve = [&]<class Function>(Function*& function, const char* functionName) {
-        function = reinterpret_cast<Function*>(file.resolve(functionName));
+    const auto resolve = [&](auto& function, const char* functionName) {
+        function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(file.resolve(functionName));
         complete = complete && function;
     };
 #define TALLYHOOP_RESOLVE(name) resolve(library.name, #name)

@@ -103,7 +103,7 @@ std::optional<std::vector<ListedScore>> ScoresScreen::scoreEverybody(const Payof
     Work work{m_platform.progress, "Calculating the scores", m_files.size()};
     std::vector<ListedScore> rows;
     rows.reserve(m_files.size());
-    readSelections(m_files, m_results, [&](const FolderFile& file, Read<Entry>& selection) {
+    readSelections(m_files, m_results, [&](const FolderFile& file, const Read<Entry>& selection) {
         if (std::optional<PlayerScore> score = scoreSelection(file, selection, payoffs))
             rows.push_back({std::move(*score), file});
         return work.step();
@@ -155,7 +155,7 @@ void ScoresScreen::markPicksOf(const FolderFile& file)
         showTrouble(m_platform.dialogs, payoffs.failure());
         return;
     }
-    readSelections(std::span{&file, 1}, m_results, [&](const FolderFile&, Read<Entry>& selection) {
+    readSelections(std::span{&file, 1}, m_results, [&](const FolderFile&, const Read<Entry>& selection) {
         if (const std::optional<PlayerScore> score = scoreSelection(file, selection, *payoffs))
             m_verdicts = score->verdicts;
         return true;
