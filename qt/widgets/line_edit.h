@@ -34,9 +34,8 @@ public:
     /// for what Windows-1252 lacks.
     std::function<void()> changed;
 
-public Q_SLOTS:
     /// Instead of QLineEdit's own: the entry of its menu finds a slot by its name, in the most derived class.
-    void paste();
+    Q_SLOT void paste();
 
 protected:
     bool event(QEvent* event) override;
