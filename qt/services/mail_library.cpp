@@ -17,6 +17,7 @@ std::optional<MailLibrary> loadMailLibrary(const QString& name)
         function = reinterpret_cast<std::remove_reference_t<decltype(function)>>(file.resolve(functionName));
         complete = complete && function;
     };
+// NOLINTNEXTLINE(cppcoreguidelines-macro-usage): only a macro makes a name and a text of one word
 #define TALLYHOOP_RESOLVE(name) resolve(library.name, #name)
     TALLYHOOP_MAIL_FUNCTIONS(TALLYHOOP_RESOLVE);
 #undef TALLYHOOP_RESOLVE

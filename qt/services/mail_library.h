@@ -11,6 +11,9 @@
 
 namespace tallyhoop::qt {
 
+// NOLINTBEGIN(cppcoreguidelines-macro-usage, bugprone-macro-parentheses): only a macro makes a name and a text of one
+// word.
+
 /// Every function that we use: its name once, so that the type of each is that of the library's own header.
 #define TALLYHOOP_MAIL_FUNCTIONS(each)               \
     each(g_mime_content_disposition_get_parameters); \
@@ -58,6 +61,8 @@ struct MailLibrary {
     TALLYHOOP_MAIL_FUNCTIONS(TALLYHOOP_DECLARE);
 #undef TALLYHOOP_DECLARE
 };
+
+// NOLINTEND(cppcoreguidelines-macro-usage, bugprone-macro-parentheses)
 
 /// Loads a library by its name without prefix and extension, such as "gmime-3.0"; it stays for good.
 /// @returns nothing when it, or one of the functions, is not there
