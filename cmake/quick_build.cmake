@@ -20,7 +20,10 @@ function(precompile_headers)
     endforeach()
     # GCC forgets which precompiled headers are the system's, and then warns of what it takes for mistakes in them.
     foreach(target ${first} ${ARG_FOR})
-        target_compile_options(${target} PRIVATE -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread)
+        if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+            target_compile_options(${target} PRIVATE
+                -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread)
+        endif()
     endforeach()
 endfunction()
 

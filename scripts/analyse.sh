@@ -53,7 +53,7 @@ tidy() {
         printf '%s\n' "$@"
     else
         sources
-    fi | xargs --max-procs="$(nproc)" --max-args=4 clang-tidy -p build-analysis --quiet \
+    fi | xargs --no-run-if-empty --max-procs="$(nproc)" --max-args=4 clang-tidy -p build-analysis --quiet \
         2> >(grep -v 'warnings\{0,1\} generated\.$' >&2)
 }
 

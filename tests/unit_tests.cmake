@@ -12,7 +12,7 @@ if(TALLYHOOP_SANITIZERS)
 elseif(NOT CMAKE_BUILD_TYPE STREQUAL Debug)
     set(TALLYHOOP_TEST_OPTIONS -O0)
 endif()
-if(TALLYHOOP_QUICK_BUILD)
+if(TALLYHOOP_QUICK_BUILD AND CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     # A fixture without linkage is as private in a source that is included as in one that is compiled.
     list(APPEND TALLYHOOP_TEST_OPTIONS -Wno-subobject-linkage)
 endif()
