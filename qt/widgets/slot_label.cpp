@@ -135,7 +135,8 @@ void SlotLabel::paintEvent(QPaintEvent*)
 
 bool SlotLabel::event(QEvent* event)
 {
-    if (event->type() != QEvent::ToolTip || m_part == Part::Row) // a disabled button keeps presses from the canvas
+    if (event->type() != QEvent::ToolTip || m_part == Part::Row)
+        // NOLINTNEXTLINE(bugprone-parent-virtual-call): a disabled button would keep presses from the canvas
         return isEnabled() ? QAbstractButton::event(event) : QWidget::event(event);
     if (isElided())
         QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), plainToolTip(text()), this);
