@@ -125,24 +125,27 @@ TEST(ProjectWinner, StartsFromTheRealResultsEveryTime)
     EXPECT_EQ(results, finalFourResults());
 }
 
-TEST(ProjectWinner, LetsANameSharedByTwoRegionsWinTheFinalItHasReachedInTheOtherHalf)
+/// They are looked up in the first half, which they have lost; they have won the second.
+Bracket resultsWithTigersInBothHalves()
 {
     Bracket results = finalFourResults();
-    results.put(Position{30}, "TIGERS"); // looked up in the first half, which it has lost; it has won the second
+    results.put(Position{30}, "TIGERS");
     results.put(Position{92}, "TIGERS");
     results.put(kSemifinalA, "OLD HARBOR");
     results.put(kSemifinalB, "TIGERS");
+    return results;
+}
+
+TEST(ProjectWinner, LetsANameSharedByTwoRegionsWinTheFinalItHasReachedInTheOtherHalf)
+{
+    const Bracket results = resultsWithTigersInBothHalves();
     EXPECT_EQ(finalsOf(projectWinner(results, "TIGERS", FinalOpponent::First)),
               (Finals{"OLD HARBOR", "TIGERS", "TIGERS"}));
 }
 
 TEST(ProjectWinner, LetsNobodyElseWinOnceThereIsAChampion)
 {
-    Bracket results = finalFourResults();
-    results.put(Position{30}, "TIGERS"); // looked up in the first half, which it has lost; it has won the second
-    results.put(Position{92}, "TIGERS");
-    results.put(kSemifinalA, "OLD HARBOR");
-    results.put(kSemifinalB, "TIGERS");
+    Bracket results = resultsWithTigersInBothHalves();
     results.put(kChampion, "OLD HARBOR");
     EXPECT_EQ(projectWinner(results, "TIGERS", FinalOpponent::First), std::nullopt);
 }
