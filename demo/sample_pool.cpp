@@ -39,10 +39,18 @@ bool isEmptyPlayerList(const DataFolder& folder, const std::string& name)
     return bytes && *bytes == playerNamesFile({});
 }
 
+/// Another installer may be at work in this folder, when two programs have accepted the demo: what it has written is
+/// what we write.
+bool isOursAlready(const DataFolder& folder, const SampleFile& file)
+{
+    const Result<std::string> bytes = folder.read(file.name);
+    return bytes && *bytes == file.bytes;
+}
+
 Result<Done> checkNoPool(const DataFolder& folder, std::span<const SampleFile> files)
 {
     for (const SampleFile& file : files)
-        if (folder.exists(file.name) && !isEmptyPlayerList(folder, file.name))
+        if (folder.exists(file.name) && !isEmptyPlayerList(folder, file.name) && !isOursAlready(folder, file))
             return Failure{"This folder already has a pool: " + folder.shownPathOf(file.name)};
     return Done{};
 }

@@ -47,7 +47,7 @@ bool isSampleFile(std::string_view name, std::string_view bytes);
 
 /// Writes the sample pool into a folder, each file whole.
 /// @returns a failure, with nothing changed in the folder, when it already holds a pool: one of the files is there,
-///          other than an empty player list; or when a file cannot be written
+///          other than an empty player list, with another content; or when a file cannot be written
 Result<Done> installSamplePool(const DataFolder& folder);
 
 } // namespace tallyhoop::demo

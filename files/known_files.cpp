@@ -10,18 +10,23 @@
 
 namespace tallyhoop {
 
-KnownFiles::Content KnownFiles::contentOf(const std::filesystem::path& file)
+bool FileContent::isSameAs(const FileContent& other) const
+{
+    return isThere == other.isThere && trouble.has_value() == other.trouble.has_value() && bytes == other.bytes;
+}
+
+FileContent KnownFiles::contentOf(const std::filesystem::path& file)
 {
     std::error_code ignored;
     if (!std::filesystem::is_regular_file(file, ignored))
         return {}; // what is no file cannot be replaced: the writing says so
     const Result<std::string> bytes = readFile(file);
-    return {true, bytes ? *bytes : std::string{}};
+    return bytes ? FileContent{true, {}, *bytes} : FileContent{true, bytes.failure(), {}};
 }
 
 void KnownFiles::note(const std::filesystem::path& file) { note(file, contentOf(file)); }
 
-void KnownFiles::note(const std::filesystem::path& file, Content content)
+void KnownFiles::note(const std::filesystem::path& file, FileContent content)
 {
     const auto known = std::ranges::find_if(m_known, [&](const Known& entry) { return isSameFile(entry.file, file); });
     if (known == m_known.end())
@@ -30,21 +35,48 @@ void KnownFiles::note(const std::filesystem::path& file, Content content)
         *known = {file, std::move(content)};
 }
 
-bool KnownFiles::wouldUndoChanges(const std::filesystem::path& file, std::string_view bytes) const
+void KnownFiles::noteDamage(const std::filesystem::path& file)
 {
-    const auto known = std::ranges::find_if(m_known, [&](const Known& entry) { return isSameFile(entry.file, file); });
-    if (known == m_known.end())
-        return false;
-    const Content now = contentOf(file);
-    return now.isThere && now != known->content && now.bytes != bytes;
+    for (Known& known : m_known)
+        if (isSameFile(known.file, file))
+            known.isDamaged = true;
 }
 
-Result<Done> KnownFiles::replace(const std::filesystem::path& file, std::string_view bytes)
+const KnownFiles::Known* KnownFiles::find(const std::filesystem::path& file) const
 {
-    Result<Done> replaced = replaceFile(file, bytes);
-    if (replaced)
-        note(file, {true, std::string{bytes}});
-    return replaced;
+    const auto known = std::ranges::find_if(m_known, [&](const Known& entry) { return isSameFile(entry.file, file); });
+    return known == m_known.end() ? nullptr : &*known;
+}
+
+bool KnownFiles::wouldUndoChanges(const std::filesystem::path& file, const FileContent& now,
+                                  std::string_view bytes) const
+{
+    const Known* known = find(file);
+    return known != nullptr && now.isThere && !now.trouble && !now.isSameAs(known->content) && now.bytes != bytes;
+}
+
+bool KnownFiles::wouldLoseUnread(const std::filesystem::path& file, const FileContent& now) const
+{
+    const Known* known = find(file);
+    const bool isNotedDamage = known != nullptr && known->isDamaged && now.isSameAs(known->content);
+    return now.isThere && (now.trouble || isNotedDamage);
+}
+
+KnownFiles::Outcome KnownFiles::replace(const std::filesystem::path& file, std::string_view bytes,
+                                        const FileContent& seen)
+{
+    bool hasChanged = false;
+    const Result<Done> replaced = replaceFile(file, bytes, [&] {
+        const FileContent now = contentOf(file);
+        hasChanged = now.isThere && !now.isSameAs(seen) && (now.trouble || now.bytes != bytes);
+        return !hasChanged;
+    });
+    if (hasChanged)
+        return {Replaced::ChangedMeanwhile};
+    if (!replaced)
+        return {Replaced::No, replaced.failure()};
+    note(file, {true, {}, std::string{bytes}});
+    return {};
 }
 
 } // namespace tallyhoop

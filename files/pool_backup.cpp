@@ -41,19 +41,31 @@ void keepTimeAndMode(const fs::path& source, const fs::path& copy)
         fs::permissions(copy, status.permissions(), ignored);
 }
 
-Result<Done> copyInto(const fs::path& gathering, const fs::path& source)
+/// What becomes of a file that cannot be read.
+enum class Unreadable {
+    Fails,   ///< nothing is kept
+    IsLinked ///< it gets a second name, where the file system has such
+};
+
+Result<Done> copyInto(const fs::path& gathering, const fs::path& source, Unreadable unreadable)
 {
     const Result<std::string> bytes = readFile(source);
-    if (!bytes)
-        return failureAt(source, bytes.failure().message);
     const fs::path copy = gathering / source.filename();
+    if (!bytes) {
+        if (unreadable == Unreadable::Fails)
+            return failureAt(source, bytes.failure().message);
+        std::error_code error;
+        if (const fs::path file = fs::canonical(source, error); !error)
+            fs::create_hard_link(file, copy, error);
+        return error ? Result<Done>{failureAt(source, bytes.failure().message)} : Done{};
+    }
     if (const Result<Done> written = replaceFile(copy, *bytes); !written)
         return failureAt(copy, written.failure().message);
     keepTimeAndMode(source, copy);
     return Done{};
 }
 
-Result<Done> gather(const DataFolder& folder, const std::vector<std::string>& names, const fs::path& gathering)
+Result<Done> gather(const std::vector<fs::path>& sources, const fs::path& gathering, Unreadable unreadable)
 {
     std::error_code error;
     fs::remove_all(gathering, error);
@@ -61,10 +73,9 @@ Result<Done> gather(const DataFolder& folder, const std::vector<std::string>& na
         fs::create_directory(gathering, error);
     if (error)
         return failureAt(gathering, error);
-    for (const std::string& name : names)
-        if (const std::optional<fs::path> source = folder.pathOf(name))
-            if (Result<Done> copied = copyInto(gathering, *source); !copied)
-                return copied;
+    for (const fs::path& source : sources)
+        if (Result<Done> copied = copyInto(gathering, source, unreadable); !copied)
+            return copied;
     return Done{};
 }
 
@@ -77,13 +88,12 @@ fs::path freeName(const DataFolder& folder, const std::string& name)
     return folder.folder() / candidate;
 }
 
-} // namespace
-
-Result<fs::path> backUp(const DataFolder& folder, const std::vector<std::string>& names, std::chrono::local_seconds now)
+Result<fs::path> keep(const DataFolder& folder, const std::vector<fs::path>& sources, std::chrono::local_seconds now,
+                      Unreadable unreadable)
 {
     const fs::path gathering = folder.folder() / kGathering;
     const fs::path backup = freeName(folder, backupName(now));
-    Result<Done> kept = gather(folder, names, gathering);
+    Result<Done> kept = gather(sources, gathering, unreadable);
     if (kept) {
         std::error_code error;
         fs::rename(gathering, backup, error);
@@ -97,6 +107,22 @@ Result<fs::path> backUp(const DataFolder& folder, const std::vector<std::string>
     }
     flushFolder(folder.folder());
     return backup;
+}
+
+} // namespace
+
+Result<fs::path> backUp(const DataFolder& folder, const std::vector<std::string>& names, std::chrono::local_seconds now)
+{
+    std::vector<fs::path> sources;
+    for (const std::string& name : names)
+        if (const std::optional<fs::path> source = folder.pathOf(name))
+            sources.push_back(*source);
+    return keep(folder, sources, now, Unreadable::Fails);
+}
+
+Result<fs::path> backUpFile(const fs::path& file, std::chrono::local_seconds now)
+{
+    return keep(DataFolder{file.parent_path()}, {file}, now, Unreadable::IsLinked);
 }
 
 } // namespace tallyhoop

@@ -20,4 +20,8 @@ namespace tallyhoop {
 Result<std::filesystem::path> backUp(const DataFolder& folder, const std::vector<std::string>& names,
                                      std::chrono::local_seconds now);
 
+/// The same for one file, in a subfolder of its own folder. One that cannot be read is kept as well where the file
+/// system can give a file a second name: the caller may then replace the first one.
+Result<std::filesystem::path> backUpFile(const std::filesystem::path& file, std::chrono::local_seconds now);
+
 } // namespace tallyhoop

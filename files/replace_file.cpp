@@ -4,6 +4,8 @@
 #include "base/windows1252.h"
 #include "files/replace_file_steps.h"
 
+#include <fmt/format.h>
+#include <random>
 #include <string>
 
 namespace tallyhoop {
@@ -11,10 +13,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// No file of ours comes near; a larger one is somebody else's and would only fill the memory.
-constexpr std::size_t kMostBytes = 64u << 20;
-
-Failure failureOf(std::error_code error) { return Failure{fromUtf8(error.message())}; }
+Failure failureOf(std::error_code error)
+{
+    return Failure{error == std::errc::operation_would_block ? kHeldByAnother : fromUtf8(error.message())};
+}
 
 /// Follows symbolic links, also to a file that is not there yet: replacing the link itself would cut it off.
 fs::path withoutLinks(fs::path file, std::error_code& error)
@@ -33,14 +35,20 @@ fs::path withoutLinks(fs::path file, std::error_code& error)
     return file;
 }
 
-/// A fixed name: what a crash leaves is overwritten by the next save. Hidden, and no pattern of ours matches it.
-fs::path temporaryBeside(const fs::path& target)
+/// @returns a hidden name that no pattern of ours matches
+fs::path hiddenBeside(const fs::path& target, const std::string& ending)
 {
     constexpr std::size_t kMostUnits = 255; // longest name that file systems take
     const fs::path::string_type before = fs::path{"."}.native();
-    const fs::path::string_type after = fs::path{".tmp~"}.native();
+    const fs::path::string_type after = fs::path{ending}.native();
     const fs::path::string_type name = target.filename().native().substr(0, kMostUnits - before.size() - after.size());
     return target.parent_path() / fs::path{before + name + after};
+}
+
+/// The shared name is a fixed one: what a crash leaves is overwritten by the next save.
+Temporaries temporariesOf(const fs::path& target)
+{
+    return {hiddenBeside(target, ".tmp~"), hiddenBeside(target, fmt::format(".{:08x}.tmp~", std::random_device{}()))};
 }
 
 /// Replacing something that is no file by a file would destroy it.
@@ -55,7 +63,7 @@ std::error_code checkKind(const fs::path& target)
     return {};
 }
 
-std::error_code replace(const fs::path& file, std::string_view bytes)
+std::error_code replace(const fs::path& file, std::string_view bytes, const std::function<bool()>& mayReplace)
 {
     std::error_code error;
     const fs::path full = fs::absolute(file, error);
@@ -66,23 +74,26 @@ std::error_code replace(const fs::path& file, std::string_view bytes)
         return error;
     if (error = checkKind(target); error)
         return error;
-    return replaceThrough(temporaryBeside(target), target, bytes);
+    return replaceThrough(temporariesOf(target), target, bytes, mayReplace);
 }
 
 } // namespace
 
-Result<Done> replaceFile(const fs::path& file, std::string_view bytes)
+Result<Done> replaceFile(const fs::path& file, std::string_view bytes, const std::function<bool()>& mayReplace)
 {
-    if (const std::error_code error = replace(file, bytes); error)
+    if (const std::error_code error = replace(file, bytes, mayReplace); error)
         return failureOf(error);
     return Done{};
 }
 
-Result<std::string> readFile(const fs::path& file)
+Result<std::string> readFile(const fs::path& file, std::size_t mostBytes)
 {
     std::string bytes;
-    if (const std::error_code error = readAll(file, kMostBytes, bytes); error)
-        return failureOf(error);
+    const std::error_code error = readAll(file, mostBytes, bytes);
+    if (error == std::errc::file_too_large)
+        return Failure{fmt::format("The file is larger than {} MB.", mostBytes >> 20)};
+    if (error)
+        return Failure{fromUtf8(error.message())};
     return bytes;
 }
 

@@ -5,11 +5,13 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <optional>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace tallyhoop {
@@ -49,32 +51,71 @@ private:
     int m_number;
 };
 
-bool isStillAt(const fs::path& path, int descriptor)
+/// @returns whether the open file is the one at the path; nothing and errno when that cannot be found out
+std::optional<bool> isStillAt(const fs::path& path, const struct stat& open)
 {
-    struct stat open {
-    };
     struct stat there {
     };
-    return ::fstat(descriptor, &open) == 0 && ::lstat(path.c_str(), &there) == 0 && open.st_dev == there.st_dev &&
-           open.st_ino == there.st_ino;
+    if (::lstat(path.c_str(), &there) != 0)
+        return errno == ENOENT ? std::optional{false} : std::nullopt;
+    return open.st_dev == there.st_dev && open.st_ino == there.st_ino;
 }
 
-/// Opens the temporary file for us alone: the demo installer may be writing the same file of the same folder right now.
-/// @returns -1 and errno when it cannot be opened
-int openForUsAlone(const fs::path& temporary)
+/// @returns 0, or -1 and errno; EWOULDBLOCK when another program has held the lock for half a second
+int lockInTime(int descriptor)
 {
+    using namespace std::chrono_literals;
+    const auto deadline = std::chrono::steady_clock::now() + 500ms;
     for (;;) {
+        if (uninterrupted([&] { return ::flock(descriptor, LOCK_EX | LOCK_NB); }) == 0)
+            return 0;
+        if (errno != EWOULDBLOCK)
+            return 0; // a file system without locks is used without them
+        if (std::chrono::steady_clock::now() >= deadline) {
+            errno = EWOULDBLOCK;
+            return -1;
+        }
+        std::this_thread::sleep_for(2ms);
+    }
+}
+
+/// Opens the shared temporary file for us alone: the demo installer may be writing the same file of the same folder
+/// right now. Nothing but a file that has no other name is ever opened so: what a link leads to is not ours.
+/// @returns -1 and errno when it cannot be had; EWOULDBLOCK when another program keeps it
+int openShared(const fs::path& temporary)
+{
+    constexpr int kMostHolders = 50; // one after the other, each of whom saves something
+    for (int holder = 0; holder < kMostHolders; ++holder) {
         const int descriptor = uninterrupted(
             [&] { return ::open(temporary.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666); });
         if (descriptor < 0)
             return -1;
-        // A file system without locks is used without them.
-        uninterrupted([&] { return ::flock(descriptor, LOCK_EX); });
-        // While we waited, the other one has put this very file in place, or taken it away.
-        if (isStillAt(temporary, descriptor))
+        struct stat status {
+        };
+        std::optional<bool> isStillThere = false;
+        int error = 0;
+        if (lockInTime(descriptor) != 0 || ::fstat(descriptor, &status) != 0 ||
+            !(isStillThere = isStillAt(temporary, status)))
+            error = errno;
+        else if (*isStillThere && (!S_ISREG(status.st_mode) || status.st_nlink != 1))
+            error = EMLINK;
+        if (error == 0 && *isStillThere)
             return descriptor;
         ::close(descriptor);
+        if (error != 0) {
+            errno = error;
+            return -1;
+        }
+        // While we waited, the other one has put this very file in place, or taken it away.
     }
+    errno = EWOULDBLOCK;
+    return -1;
+}
+
+int openOwn(const fs::path& temporary)
+{
+    return uninterrupted(
+        [&] { return ::open(temporary.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC | O_NOFOLLOW, 0666); });
 }
 
 std::error_code writeAll(int descriptor, std::string_view bytes)
@@ -164,14 +205,24 @@ void flushFolder(const fs::path& folder)
         uninterrupted([&] { return ::fsync(descriptor.number()); });
 }
 
-std::error_code replaceThrough(const fs::path& temporary, const fs::path& target, std::string_view bytes)
+std::error_code replaceThrough(const Temporaries& temporaries, const fs::path& target, std::string_view bytes,
+                               const std::function<bool()>& mayReplace)
 {
-    const Descriptor descriptor{openForUsAlone(temporary)};
-    if (!descriptor.isOpen())
+    const Descriptor shared{openShared(temporaries.shared)};
+    if (!shared.isOpen() && errno == EWOULDBLOCK)
         return lastError();
-    std::error_code error = keepModeOf(target, descriptor.number());
+    // Something that is not ours is in the way: another user's file, a link, a folder. It stays, and we go round it.
+    const Descriptor own{shared.isOpen() ? -1 : openOwn(temporaries.own)};
+    if (!shared.isOpen() && !own.isOpen())
+        return lastError();
+    const int descriptor = shared.isOpen() ? shared.number() : own.number();
+    const fs::path& temporary = shared.isOpen() ? temporaries.shared : temporaries.own;
+
+    std::error_code error = keepModeOf(target, descriptor);
     if (!error)
-        error = fill(descriptor.number(), bytes);
+        error = fill(descriptor, bytes);
+    if (!error && mayReplace && !mayReplace())
+        error = std::make_error_code(std::errc::operation_canceled);
     if (!error && ::rename(temporary.c_str(), target.c_str()) != 0)
         error = lastError();
     if (error)

@@ -3,18 +3,26 @@
 
 #include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <system_error>
 
 namespace tallyhoop {
 
-/// Writes the bytes to the temporary file, flushes them to the disk and lets it take the target's place.
-/// @param target    a full path without symbolic links at its end; it may not exist yet
-/// @param temporary a path in the same folder; what is there is overwritten
-/// @returns no error, or why the target is as it was; then the temporary is gone
-std::error_code replaceThrough(const std::filesystem::path& temporary, const std::filesystem::path& target,
-                               std::string_view bytes);
+/// Where the bytes go first; both in the target's folder.
+struct Temporaries {
+    std::filesystem::path shared; ///< every program that saves the target uses it, one at a time; it is overwritten
+    std::filesystem::path own;    ///< nobody else's, for when the shared one cannot be used
+};
+
+/// Writes the bytes to a temporary file, flushes them to the disk and lets it take the target's place.
+/// @param target     a full path without symbolic links at its end; it may not exist yet
+/// @param mayReplace asked last, while the temporary file is ours alone
+/// @returns no error, or why the target is as it was; then the temporary is gone. "Operation would block" when another
+///          program has held the shared one for half a second, "operation canceled" when it may not be replaced
+std::error_code replaceThrough(const Temporaries& temporaries, const std::filesystem::path& target,
+                               std::string_view bytes, const std::function<bool()>& mayReplace);
 
 /// Makes the names in a folder last: what was created or renamed there is there after a power cut, as far as the system
 /// can promise it.

@@ -57,13 +57,21 @@ std::error_code putInPlace(const fs::path& temporary, const fs::path& target)
 
 } // namespace
 
-std::error_code replaceThrough(const fs::path& temporary, const fs::path& target, std::string_view bytes)
+std::error_code replaceThrough(const Temporaries& temporaries, const fs::path& target, std::string_view bytes,
+                               const std::function<bool()>& mayReplace)
 {
-    std::error_code error = writeTemporary(temporary, bytes);
+    const fs::path* temporary = &temporaries.shared;
+    std::error_code error = writeTemporary(*temporary, bytes);
+    if (error) {
+        temporary = &temporaries.own;
+        error = writeTemporary(*temporary, bytes);
+    }
+    if (!error && mayReplace && !mayReplace())
+        error = std::make_error_code(std::errc::operation_canceled);
     if (!error)
-        error = putInPlace(temporary, target);
+        error = putInPlace(*temporary, target);
     if (error)
-        ::DeleteFileW(temporary.c_str());
+        ::DeleteFileW(temporary->c_str());
     return error;
 }
 

@@ -1,8 +1,14 @@
 // screens/saving.cpp - the texts, and the check whether somebody else has changed the file.
 #include "screens/saving.h"
 
+#include "base/text.h"
 #include "files/player_names_file.h"
+#include "files/pool_backup.h"
+#include "files/replace_file.h"
 #include "screens/help_topics.h"
+
+#include <system_error>
+#include <utility>
 
 namespace tallyhoop {
 
@@ -27,23 +33,79 @@ ui::Message changedMeanwhile(std::string_view shownPath)
             ui::Buttons::YesNo, ui::Icon::Question};
 }
 
-} // namespace
-
-bool saveFile(ui::Dialogs& dialogs, KnownFiles& known, const std::filesystem::path& file, std::string_view bytes,
-              std::string_view shownPath, std::string_view advice)
+/// @param reason of the system, when there is one
+ui::Message cannotBeKept(const std::filesystem::path& file, const Failure& reason)
 {
-    if (known.wouldUndoChanges(file, bytes) && dialogs.show(changedMeanwhile(shown(file))) != ui::Answer::Yes)
-        return false;
-    if (known.replace(file, bytes))
-        return true;
-    dialogs.show(writingTrouble(shownPath, advice));
-    return false;
+    return {"** ERROR IN WRITING FILE **",
+            joinLines({"This file is there, but could not be read, or not whole:", shown(file), " ",
+                       "It was not replaced, because it could not be kept first:", reason.message}),
+            ui::Buttons::Ok, ui::Icon::Critical};
 }
 
-bool saveDataFile(ui::Dialogs& dialogs, KnownFiles& known, const DataFolder& folder, std::string_view name,
+ui::Message keptIn(const std::filesystem::path& file, const std::filesystem::path& backup)
+{
+    return {"",
+            joinLines({"This file could not be read, or not whole, and has been replaced now:", shown(file), " ",
+                       "What it held before is kept in the folder:", shown(backup)}),
+            ui::Buttons::Ok, ui::Icon::Information};
+}
+
+/// Replaces the file as long as the person wants it to: what somebody else saves in between is asked about, too.
+KnownFiles::Outcome replaceAsking(ui::Dialogs& dialogs, KnownFiles& known, const std::filesystem::path& file,
+                                  std::string_view bytes, FileContent seen)
+{
+    bool mustAsk = known.wouldUndoChanges(file, seen, bytes);
+    for (;;) {
+        if (mustAsk && dialogs.show(changedMeanwhile(shown(file))) != ui::Answer::Yes)
+            return {KnownFiles::Replaced::ChangedMeanwhile};
+        KnownFiles::Outcome outcome = known.replace(file, bytes, seen);
+        if (outcome.replaced != KnownFiles::Replaced::ChangedMeanwhile)
+            return outcome;
+        mustAsk = true;
+        seen = KnownFiles::contentOf(file);
+    }
+}
+
+void showWritingTrouble(ui::Dialogs& dialogs, std::string_view shownPath, std::string_view advice,
+                        const Failure& failure)
+{
+    dialogs.show(writingTrouble(shownPath, advice));
+    if (failure.message == kHeldByAnother)
+        showTrouble(dialogs, failure);
+}
+
+} // namespace
+
+bool saveFile(const ui::Platform& platform, KnownFiles& known, const std::filesystem::path& file,
+              std::string_view bytes, std::string_view shownPath, std::string_view advice)
+{
+    ui::Dialogs& dialogs = platform.dialogs;
+    const FileContent seen = KnownFiles::contentOf(file);
+    std::optional<Result<std::filesystem::path>> backup;
+    if (known.wouldLoseUnread(file, seen)) {
+        backup = backUpFile(file, platform.clock.now());
+        if (!*backup) {
+            dialogs.show(cannotBeKept(file, backup->failure()));
+            return false;
+        }
+    }
+    const KnownFiles::Outcome outcome = replaceAsking(dialogs, known, file, bytes, seen);
+    const bool isSaved = outcome.replaced == KnownFiles::Replaced::Yes;
+    if (outcome.replaced == KnownFiles::Replaced::No)
+        showWritingTrouble(dialogs, shownPath, advice, outcome.failure);
+    if (backup && isSaved)
+        dialogs.show(keptIn(file, **backup));
+    if (backup && !isSaved) {
+        std::error_code ignored;
+        std::filesystem::remove_all(**backup, ignored); // the file itself is still there
+    }
+    return isSaved;
+}
+
+bool saveDataFile(const ui::Platform& platform, KnownFiles& known, const DataFolder& folder, std::string_view name,
                   std::string_view bytes)
 {
-    return saveFile(dialogs, known, folder.pathTo(name), bytes, folder.shownPathOf(name),
+    return saveFile(platform, known, folder.pathTo(name), bytes, folder.shownPathOf(name),
                     " Check for adequate space in the Application Directory");
 }
 

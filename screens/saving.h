@@ -4,7 +4,7 @@
 #include "base/result.h"
 #include "files/data_folder.h"
 #include "files/known_files.h"
-#include "ui/dialogs.h"
+#include "ui/platform.h"
 
 #include <filesystem>
 #include <string>
@@ -13,15 +13,17 @@
 namespace tallyhoop {
 
 /// Replaces a file as a whole; asks first when somebody else has changed it since it was noted, and only Yes proceeds.
-/// A file that cannot be written shows "** ERROR IN WRITING FILE **" and is as it was.
+/// A file that cannot be written shows "** ERROR IN WRITING FILE **" and is as it was. What cannot be read, or was read
+/// only in part, is kept in a dated subfolder before it is replaced, and a message says where; what cannot be kept is
+/// not replaced.
 /// @param shownPath the file's full path as text
 /// @param advice    that message's last line
 /// @returns whether the file holds the bytes now
-bool saveFile(ui::Dialogs& dialogs, KnownFiles& known, const std::filesystem::path& file, std::string_view bytes,
-              std::string_view shownPath, std::string_view advice);
+bool saveFile(const ui::Platform& platform, KnownFiles& known, const std::filesystem::path& file,
+              std::string_view bytes, std::string_view shownPath, std::string_view advice);
 
 /// The same for a file of the program's folder that the program itself names.
-bool saveDataFile(ui::Dialogs& dialogs, KnownFiles& known, const DataFolder& folder, std::string_view name,
+bool saveDataFile(const ui::Platform& platform, KnownFiles& known, const DataFolder& folder, std::string_view name,
                   std::string_view bytes);
 
 /// Shows that a selection or results file could not be read, or not whole.

@@ -16,8 +16,10 @@ Entry BoardFiles::read(const std::filesystem::path& file, const Field& field)
 {
     m_known.note(file);
     Read<Entry> read = readSelectionFile(file, startingBracket(field));
-    if (read.trouble)
-        showReadingTrouble(m_dialogs, file);
+    if (read.trouble) {
+        m_known.noteDamage(file);
+        showReadingTrouble(m_platform.dialogs, file);
+    }
     return std::move(read.value);
 }
 
@@ -32,7 +34,7 @@ Entry BoardFiles::readResults(const Field& field)
 bool BoardFiles::write(const std::filesystem::path& file, Entry entry)
 {
     entry.initials = upperCase(entry.initials);
-    return saveFile(m_dialogs, m_known, file, selectionFile(entry), shown(file), " Check your selection and retry.");
+    return saveFile(m_platform, m_known, file, selectionFile(entry), shown(file), " Check your selection and retry.");
 }
 
 std::filesystem::path BoardFiles::results() const { return m_folder.pathTo(file_name::kResults); }
@@ -47,11 +49,11 @@ bool BoardFiles::isScored(const std::filesystem::path& file) const
 void BoardFiles::checkPlayers()
 {
     if (m_folder.exists(file_name::kPlayerNames)) {
-        m_playersFaulty = !playerListIsSound(m_dialogs, m_folder);
+        m_playersFaulty = !playerListIsSound(m_platform.dialogs, m_folder);
     } else if (!m_warnedAboutFolder) {
         KnownFiles nothingKnown; // there is no file that somebody could have changed
         m_warnedAboutFolder =
-            !saveDataFile(m_dialogs, nothingKnown, m_folder, file_name::kPlayerNames, playerNamesFile({}));
+            !saveDataFile(m_platform, nothingKnown, m_folder, file_name::kPlayerNames, playerNamesFile({}));
     }
 }
 

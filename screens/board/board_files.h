@@ -5,7 +5,7 @@
 #include "files/known_files.h"
 #include "pool/entry.h"
 #include "pool/field.h"
-#include "ui/dialogs.h"
+#include "ui/platform.h"
 
 #include <filesystem>
 
@@ -17,7 +17,7 @@ class BoardFiles
 {
 public:
     /// Both outlive it.
-    BoardFiles(const DataFolder& folder, ui::Dialogs& dialogs) : m_folder{folder}, m_dialogs{dialogs} {}
+    BoardFiles(const DataFolder& folder, const ui::Platform& platform) : m_folder{folder}, m_platform{platform} {}
 
     /// @returns what the file holds; where it cannot be read, what a fresh board on this field holds
     Entry read(const std::filesystem::path& file, const Field& field);
@@ -44,7 +44,7 @@ public:
 
 private:
     const DataFolder& m_folder;
-    ui::Dialogs& m_dialogs;
+    const ui::Platform& m_platform;
     KnownFiles m_known;
     bool m_playersFaulty = false;
     bool m_warnedAboutFolder = false;

@@ -135,7 +135,7 @@ private:
     std::optional<Drag> m_drag;
     BoardHistory m_history;
     int m_sheet = 0; ///< counts the boards that New began
-    BoardFiles m_files{m_folder, m_platform.dialogs};
+    BoardFiles m_files{m_folder, m_platform};
 };
 
 } // namespace tallyhoop

@@ -44,6 +44,7 @@ PlayersScreen::PlayersScreen(const DataFolder& folder, const ui::Platform& platf
                              std::optional<SavedPlayer>& saved)
     : ui::Screen{"frmPoolNames", "PlayerName Edit"},
       m_folder{folder},
+      m_platform{platform},
       m_dialogs{platform.dialogs},
       m_screens{screens},
       m_saved{saved}
@@ -235,7 +236,7 @@ void PlayersScreen::finish(std::vector<std::string> rows)
     records.reserve(rows.size());
     for (const std::string& row : rows)
         records.push_back(parsePlayerRow(row));
-    if (!saveDataFile(m_dialogs, m_known, m_folder, file_name::kPlayerNames, playerNamesFile(records)))
+    if (!saveDataFile(m_platform, m_known, m_folder, file_name::kPlayerNames, playerNamesFile(records)))
         return;
     lstNames.rows = std::move(rows);
     lstNames.selected.reset();

@@ -73,6 +73,7 @@ private:
     void removeSelectedRow();
 
     const DataFolder& m_folder;
+    const ui::Platform& m_platform;
     ui::Dialogs& m_dialogs;
     Screens& m_screens;
     std::optional<SavedPlayer>& m_saved;

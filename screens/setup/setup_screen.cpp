@@ -29,6 +29,9 @@ constexpr const char* kFinalizeStatus = "Finalize Tournament takes effect with F
 constexpr const char* kNoListStatus =
     "There is no list of team names: choose Override Selecting Team Names to type them.";
 
+constexpr const char* kUnreadableListStatus =
+    "The list of team names could not be read whole; a save keeps the old file.";
+
 } // namespace
 
 SetupScreen::SetupScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, Field& field)
@@ -51,8 +54,10 @@ void SetupScreen::readPool()
 {
     m_known.note(m_folder.pathTo(file_name::kSetup));
     const Read<Field> read = readField(m_folder, m_field);
-    if (read.trouble)
+    if (read.trouble) {
+        m_known.noteDamage(m_folder.pathTo(file_name::kSetup));
         showTrouble(m_platform.dialogs, *read.trouble);
+    }
     m_field = read.value;
     m_isDemo = demoModeIsOn(m_folder);
     m_isFinalizing = false;
@@ -144,7 +149,9 @@ void SetupScreen::showStatus()
 {
     // Never empty: a line that comes and goes would move everything above it.
     status = fieldOnScreen() == m_saved ? kSavedStatus : kUnsavedStatus;
-    if (!m_editor.isRead())
+    if (m_editor.isDamaged())
+        status = std::string{kUnreadableListStatus} + kBetweenSentences + status;
+    else if (!m_editor.isRead())
         status = std::string{kNoListStatus} + kBetweenSentences + status;
     if (m_isFinalizing)
         status += std::string{kBetweenSentences} + kFinalizeStatus;

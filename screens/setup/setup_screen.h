@@ -106,7 +106,7 @@ private:
     SeedTexts m_seeds;           ///< of the field on screen
     bool m_isDemo = false;       ///< the folder holds the sample pool
     bool m_isFinalizing = false; ///< Finalize Tournament is pressed: the next save makes the field final
-    TeamNameEditor m_editor{m_folder, m_platform.dialogs, lstTeamNames};
+    TeamNameEditor m_editor{m_folder, m_platform, lstTeamNames};
     TeamPicker m_picker{txtRegion, lstTeamNames, m_editor.names()};
 };
 

@@ -64,7 +64,7 @@ void SetupScreen::saveStartingField()
         return;
     }
     Field field = fieldOnScreen();
-    if (!saveDataFile(m_platform.dialogs, m_known, m_folder, file_name::kSetup, setupFile(field)))
+    if (!saveDataFile(m_platform, m_known, m_folder, file_name::kSetup, setupFile(field)))
         return;
     m_saved = std::move(field);
     if (m_isFinalizing)

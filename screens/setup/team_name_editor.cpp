@@ -5,6 +5,8 @@
 #include "files/team_name_list_file.h"
 #include "screens/saving.h"
 
+#include <algorithm>
+#include <span>
 #include <utility>
 
 namespace tallyhoop {
@@ -30,6 +32,13 @@ constexpr const char* kSavePrompt = "You have added or changed the Team Names ..
                                     "Do you want to save these changes made to\r\n"
                                     "the list of team names?";
 
+/// @returns whether there are names after the empty one that ends the list
+bool goesOnAfterItsEnd(std::span<const std::string> names)
+{
+    const auto isEmpty = [](const std::string& name) { return name.empty(); };
+    return !std::all_of(std::ranges::find_if(names, isEmpty), names.end(), isEmpty);
+}
+
 } // namespace
 
 void TeamNameEditor::load()
@@ -41,6 +50,9 @@ void TeamNameEditor::load()
         m_names = TeamNameList{*names};
     else
         showTrouble(m_dialogs, names.failure());
+    m_isDamaged = names ? goesOnAfterItsEnd(*names) : m_folder.exists(file_name::kTeamNames);
+    if (m_isDamaged)
+        m_known.noteDamage(m_folder.pathTo(file_name::kTeamNames));
 }
 
 void TeamNameEditor::add()
@@ -85,9 +97,11 @@ bool TeamNameEditor::saveChanges()
         return true;
     if (m_dialogs.show({kSaveCaption, kSavePrompt, ui::Buttons::YesNo, ui::Icon::Question}) == ui::Answer::Yes) {
         TeamNameList saved = m_names.withTypedNames();
-        if (!saveDataFile(m_dialogs, m_known, m_folder, file_name::kTeamNames, teamNameListFile(saved.rows())))
+        if (!saveDataFile(m_platform, m_known, m_folder, file_name::kTeamNames, teamNameListFile(saved.rows())))
             return false;
         m_names = std::move(saved);
+        m_isRead = true;
+        m_isDamaged = false;
     }
     m_names.forgetChanges();
     return true;

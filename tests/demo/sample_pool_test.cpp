@@ -18,7 +18,10 @@
 #include "pool/scoring.h"
 #include "screens/demo_mode.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace tallyhoop {
 namespace {
@@ -261,16 +264,32 @@ TEST(SamplePoolInstall, TakesThePlaceOfAPlayerListWithoutPlayers)
     EXPECT_EQ(readPlayerNames(scratch.folder()).size(), 4u);
 }
 
+TEST(SamplePoolInstall, CompletesWhatAnotherInstallerHasBegun)
+{
+    const test::ScratchFolder scratch;
+    const std::vector<demo::SampleFile> files = demo::sampleFiles();
+    for (const demo::SampleFile& file : files) { // whichever of them it has written so far
+        scratch.put(file.name, file.bytes);
+        EXPECT_TRUE(demo::installSamplePool(scratch.folder())) << file.name;
+        for (const demo::SampleFile& other : files)
+            EXPECT_EQ(scratch.get(other.name), other.bytes);
+        for (const demo::SampleFile& other : files)
+            std::filesystem::remove(scratch.path() / other.name);
+    }
+}
+
 TEST(SamplePoolInstall, TakesEverythingBackWhenAFileCannotBeWritten)
 {
     const test::ScratchFolder scratch;
-    std::filesystem::create_directory(scratch.path() / ".TALLYHOOP.INI.tmp~"); // in the way of the last file
+    const std::filesystem::path temporary = scratch.put(".TALLYHOOP.INI.tmp~", "");
+    const int held = ::open(temporary.c_str(), O_WRONLY | O_CLOEXEC); // another program seems to write the last file
+    ASSERT_EQ(::flock(held, LOCK_EX), 0);
     const Result<Done> installed = demo::installSamplePool(scratch.folder());
     ASSERT_FALSE(installed);
     EXPECT_THAT(installed.failure().message, HasSubstr("TALLYHOOP.INI"));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator{scratch.path()}, {}), 1);
 
-    std::filesystem::remove(scratch.path() / ".TALLYHOOP.INI.tmp~");
+    ::close(held);
     EXPECT_TRUE(demo::installSamplePool(scratch.folder())) << "once the trouble is gone it works";
 }
 

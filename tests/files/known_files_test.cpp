@@ -15,8 +15,14 @@ struct KnownFilesTest : testing::Test {
     KnownFiles known;
     fs::path file = scratch.path() / "A.THC";
 
-    bool wouldUndo(std::string_view bytes) const { return known.wouldUndoChanges(file, bytes); }
-    bool replace(std::string_view bytes) { return static_cast<bool>(known.replace(file, bytes)); }
+    bool wouldUndo(std::string_view bytes) const
+    {
+        return known.wouldUndoChanges(file, KnownFiles::contentOf(file), bytes);
+    }
+    bool replace(std::string_view bytes)
+    {
+        return known.replace(file, bytes, KnownFiles::contentOf(file)).replaced == KnownFiles::Replaced::Yes;
+    }
 };
 
 TEST_F(KnownFilesTest, SeeNoChangeInAFileThatIsAsItWas)
@@ -130,7 +136,7 @@ TEST_F(KnownFilesTest, DifferFromFileToFile)
     known.note(file);
     known.note(scratch.path() / "B.THC");
     scratch.put("A.THC", "theirs");
-    EXPECT_FALSE(known.wouldUndoChanges(scratch.path() / "B.THC", "mine"));
+    EXPECT_FALSE(known.wouldUndoChanges(scratch.path() / "B.THC", {true, {}, "b"}, "mine"));
     EXPECT_TRUE(wouldUndo("mine"));
 }
 
@@ -142,18 +148,69 @@ TEST_F(KnownFilesTest, KnowAFileByAnotherSpellingOfItsPath)
     EXPECT_TRUE(wouldUndo("ours"));
 }
 
-TEST_F(KnownFilesTest, FailWhereTheFileCannotBeWrittenAndStillKnowItAsItIs)
+TEST_F(KnownFilesTest, FailWhereTheFileCannotBeWritten)
+{
+    fs::create_directory(file); // in the way of every write
+    const KnownFiles::Outcome outcome = known.replace(file, "new", KnownFiles::contentOf(file));
+    EXPECT_EQ(outcome.replaced, KnownFiles::Replaced::No);
+    EXPECT_EQ(outcome.failure.message, "Is a directory");
+    fs::remove(file);
+    EXPECT_FALSE(wouldUndo("new"));
+    EXPECT_TRUE(replace("new"));
+}
+
+TEST_F(KnownFilesTest, ReplaceNothingThatWasChangedAfterItWasSeen)
 {
     scratch.put("A.THC", "old");
     known.note(file);
-    fs::create_directory(scratch.path() / ".A.THC.tmp~"); // in the way of every write
-    const Result<Done> replaced = known.replace(file, "new");
-    ASSERT_FALSE(replaced);
-    EXPECT_NE(replaced.failure().message, "");
-    EXPECT_EQ(scratch.get("A.THC"), "old");
-    fs::remove(scratch.path() / ".A.THC.tmp~");
-    EXPECT_FALSE(wouldUndo("new"));
+    const FileContent seen = KnownFiles::contentOf(file);
+    scratch.put("A.THC", "theirs");
+    EXPECT_EQ(known.replace(file, "ours", seen).replaced, KnownFiles::Replaced::ChangedMeanwhile);
+    EXPECT_EQ(scratch.get("A.THC"), "theirs");
+    EXPECT_TRUE(wouldUndo("ours")) << "it is still not known";
+    EXPECT_EQ(known.replace(file, "theirs", seen).replaced, KnownFiles::Replaced::Yes) << "the same in both";
+}
+
+TEST_F(KnownFilesTest, ReplaceAFileThatHasVanishedAfterItWasSeen)
+{
+    scratch.put("A.THC", "old");
+    const FileContent seen = KnownFiles::contentOf(file);
+    fs::remove(file);
+    EXPECT_EQ(known.replace(file, "ours", seen).replaced, KnownFiles::Replaced::Yes);
+    EXPECT_EQ(scratch.get("A.THC"), "ours");
+}
+
+TEST_F(KnownFilesTest, CallNoFileChangedThatCannotBeRead)
+{
+    scratch.put("A.THC", "old");
+    known.note(file);
+    const FileContent unreadable{true, Failure{"Permission denied"}, {}};
+    EXPECT_FALSE(known.wouldUndoChanges(file, unreadable, "new")) << "nobody can tell";
+    EXPECT_TRUE(known.wouldLoseUnread(file, unreadable));
+    EXPECT_FALSE(known.wouldLoseUnread(file, KnownFiles::contentOf(file)));
+    EXPECT_FALSE(known.wouldLoseUnread(file, {})) << "there is nothing to lose";
+}
+
+TEST_F(KnownFilesTest, TakeAFileThatIsTooLargeForOneThatCannotBeRead)
+{
+    scratch.put("A.THC", "x");
+    fs::resize_file(file, std::uintmax_t{200} << 20); // a hole: takes no room
+    const FileContent content = KnownFiles::contentOf(file);
+    EXPECT_TRUE(content.isThere && content.trouble);
+    EXPECT_TRUE(known.wouldLoseUnread(file, content));
+}
+
+TEST_F(KnownFilesTest, RememberDamageUntilTheFileIsReplacedOrAnother)
+{
+    scratch.put("A.THC", "half");
+    known.note(file);
+    known.noteDamage(file);
+    EXPECT_TRUE(known.wouldLoseUnread(file, KnownFiles::contentOf(file)));
+    scratch.put("A.THC", "repaired by somebody");
+    EXPECT_FALSE(known.wouldLoseUnread(file, KnownFiles::contentOf(file))) << "that is a change to be asked about";
+    scratch.put("A.THC", "half");
     EXPECT_TRUE(replace("new"));
+    EXPECT_FALSE(known.wouldLoseUnread(file, KnownFiles::contentOf(file)));
 }
 
 } // namespace

@@ -147,5 +147,17 @@ TEST(BackUp, NamesTheFolderThatIsGone)
     EXPECT_EQ(backup.failure().message, (gone.folder() / ".Backup.tmp~").string() + "\r\nNo such file or directory");
 }
 
+TEST(BackUp, KeepsOneFileBesideItAlsoWhenItIsTooLargeToBeRead)
+{
+    const ScratchFolder scratch;
+    const fs::path file = scratch.put("TALLYHOOP.THS", "x");
+    fs::resize_file(file, std::uintmax_t{200} << 20); // a hole: takes no room
+    const Result<fs::path> backup = backUpFile(file, kMoment);
+    ASSERT_TRUE(backup) << backup.failure().message;
+    EXPECT_EQ(*backup, scratch.path() / "Backup 2026-11-20 101530");
+    fs::remove(file);
+    EXPECT_EQ(fs::file_size(*backup / "TALLYHOOP.THS"), std::uintmax_t{200} << 20);
+}
+
 } // namespace
 } // namespace tallyhoop

@@ -190,8 +190,10 @@ TEST(ReplaceFile, DoesNotFollowALinkInTheTemporarysPlace)
     const ScratchFolder scratch;
     scratch.put("PRECIOUS", "keep");
     fs::create_symlink("PRECIOUS", scratch.path() / ".A.THC.tmp~");
-    EXPECT_FALSE(replaceFile(scratch.path() / "A.THC", "new"));
+    EXPECT_TRUE(replaceFile(scratch.path() / "A.THC", "new"));
     EXPECT_EQ(scratch.get("PRECIOUS"), "keep");
+    EXPECT_EQ(scratch.get("A.THC"), "new");
+    EXPECT_EQ(namesIn(scratch.path()), (Names{".A.THC.tmp~", "A.THC", "PRECIOUS"}));
 }
 
 TEST(ReplaceFile, TakesTheLongestNameAFileCanHave)
@@ -290,7 +292,8 @@ TEST(ReadFile, RefusesAFileThatIsNoneOfOurs)
     const ScratchFolder scratch;
     const fs::path file = scratch.put("HUGE", "x");
     fs::resize_file(file, std::uintmax_t{200} << 20); // a hole: takes no room
-    EXPECT_EQ(readFile(file).failure().message, "File too large");
+    EXPECT_EQ(readFile(file).failure().message, "The file is larger than 64 MB.");
+    EXPECT_EQ(readFile(file, kMostBytesOfSelection).failure().message, "The file is larger than 1 MB.");
 }
 
 } // namespace

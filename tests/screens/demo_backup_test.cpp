@@ -82,7 +82,7 @@ TEST(StartDemo, RemovesNothingWhenThePoolCannotBeKept)
     ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode cannot be started. Nothing was changed.\r\n"
                                                    " \r\n" +
-                                                       file.string() + "\r\nFile too large");
+                                                       file.string() + "\r\nThe file is larger than 64 MB.");
     EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
 }
 
@@ -118,7 +118,7 @@ TEST(LeaveDemo, RemovesNothingAndStaysOnWhenAChangedFileCannotBeKept)
     ASSERT_EQ(demo.platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(demo.platform.dialogs.shown[0].text, "Demonstration mode cannot be left. Nothing was changed.\r\n \r\n" +
                                                        (demo.scratch.path() / "TALLYHOOP.THS").string() +
-                                                       "\r\nFile too large");
+                                                       "\r\nThe file is larger than 64 MB.");
 }
 
 } // namespace
