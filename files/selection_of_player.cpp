@@ -64,6 +64,16 @@ std::optional<std::filesystem::path> selectionFileOf(const DataFolder& folder, s
     return onlyFileBeginningWith(folder, fitted(name, kFileNameWidth));
 }
 
+bool isCutName(std::string_view recorded, const std::filesystem::path& file)
+{
+    return !equalFolded(trimTrailingBlanks(recorded), shown(file.filename()));
+}
+
+bool isSameRecordedName(std::string_view left, std::string_view right)
+{
+    return equalFolded(trimTrailingBlanks(left), trimTrailingBlanks(right));
+}
+
 bool recordMeans(const DataFolder& folder, std::string_view recorded, std::string_view fileName)
 {
     const std::string name = trimTrailingBlanks(recorded);

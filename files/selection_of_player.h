@@ -24,6 +24,15 @@ std::string recordedFileName(const DataFolder& folder, const std::filesystem::pa
 ///          it, is ever found
 std::optional<std::filesystem::path> selectionFileOf(const DataFolder& folder, std::string_view recorded);
 
+/// Whether a file has another name than its record says: the name was cut, and other records may have been cut to the
+/// same.
+/// @param recorded the field, trailing blanks allowed
+/// @param file     what selectionFileOf() found for it
+bool isCutName(std::string_view recorded, const std::filesystem::path& file);
+
+/// Whether two records name the same file as far as their fields go: trailing blanks and case make no difference.
+bool isSameRecordedName(std::string_view left, std::string_view right);
+
 /// Whether a record belongs to a file, compared without the final ".THC" and without regard to case.
 /// @param recorded the field, trailing blanks allowed
 /// @param fileName as recordedFileName() gives it

@@ -36,6 +36,20 @@ const ui::Message kBothDeleted{kTitle,
                                "The player record and the Pool Selections\r\n"
                                "will both be deleted if you continue, Ok??",
                                ui::Buttons::OkCancel, ui::Icon::Question};
+/// @param file the selection file that one of two records means, nobody can tell which
+ui::Message selectionsOfEither(const std::filesystem::path& file)
+{
+    return {kTitle,
+            "Another record has the same File Name, cut to 33 characters,\r\n"
+            "but only one selection file begins with it:\r\n" +
+                shown(file.filename()) +
+                "\r\n"
+                "It may be the other player's, so it will NOT be deleted.\r\n"
+                "\r\n"
+                "If you continue, only this Player Name record will be deleted",
+            ui::Buttons::OkCancel, ui::Icon::Exclamation};
+}
+
 constexpr const char* kUnusableStatus = "The player list cannot be used until PLAYERNAMES.CSV is corrected";
 
 } // namespace
@@ -133,22 +147,35 @@ void PlayersScreen::fillList()
 void PlayersScreen::enterSaved(const SavedPlayer& saved)
 {
     focused = &txtEmail;
-    const auto row = std::ranges::find_if(lstNames.rows, [&](const std::string& text) {
-        return recordMeans(m_folder, parsePlayerRow(text).fileName, txtFileName.text);
-    });
-    if (row == lstNames.rows.end()) {
+    const std::optional<int> row = rowOfSaved(saved);
+    if (!row) {
         m_mode = SaveKind::NewFile;
         return;
     }
-    const auto index = static_cast<int>(row - lstNames.rows.begin());
     if (saved.kind == SaveKind::SameName) {
         m_mode = SaveKind::SameName;
-        lstNames.selected = index;
+        lstNames.selected = *row;
         showSelectedRow();
         return;
     }
     m_mode = SaveKind::Replaced;
-    takeRowOut(index, saved.name);
+    takeRowOut(*row, saved.name);
+}
+
+/// @returns the row that means the saved file. Of several that do, because their names were cut to the same, it is the
+///          one with the player's name: the record of another player is not to be changed.
+std::optional<int> PlayersScreen::rowOfSaved(const SavedPlayer& saved) const
+{
+    std::vector<int> found;
+    for (std::size_t row = 0; row < lstNames.rows.size(); ++row)
+        if (recordMeans(m_folder, parsePlayerRow(lstNames.rows[row]).fileName, txtFileName.text))
+            found.push_back(static_cast<int>(row));
+    if (found.size() > 1 && txtFileName.text.size() > kFileNameWidth)
+        std::erase_if(found, [&](int at) {
+            const std::string player = parsePlayerRow(lstNames.rows[static_cast<std::size_t>(at)]).name;
+            return !equalFolded(player, fitted(saved.name, kNameWidth));
+        });
+    return found.empty() ? std::nullopt : std::optional{found.front()};
 }
 
 void PlayersScreen::takeRowOut(int row, const std::string& playerName)
@@ -209,11 +236,22 @@ void PlayersScreen::deleteSelection()
         return;
     }
     const std::optional<std::filesystem::path> file = selectionFileOf(m_folder, upperCase(txtFileName.text));
-    if (file && m_dialogs.show(kBothDeleted) == ui::Answer::Cancel)
+    const bool isSure = !file || !isCutName(txtFileName.text, *file) || !anotherRowHasName(txtFileName.text);
+    if (file && m_dialogs.show(isSure ? kBothDeleted : selectionsOfEither(*file)) == ui::Answer::Cancel)
         return;
-    if (file)
+    if (file && isSure)
         m_pendingDeletions.push_back(*file);
     removeSelectedRow();
+}
+
+/// @returns whether a row other than the selected one has this file name
+bool PlayersScreen::anotherRowHasName(std::string_view recorded) const
+{
+    for (std::size_t row = 0; row < lstNames.rows.size(); ++row)
+        if (static_cast<int>(row) != lstNames.selected &&
+            isSameRecordedName(parsePlayerRow(lstNames.rows[row]).fileName, recorded))
+            return true;
+    return false;
 }
 
 void PlayersScreen::done()

@@ -57,11 +57,13 @@ private:
     void explainControls();
     void fillList();
     void enterSaved(const SavedPlayer& saved);
+    std::optional<int> rowOfSaved(const SavedPlayer& saved) const;
     void takeRowOut(int row, const std::string& playerName);
     void showSelectedRow();
     void addRecord();
     void completeChanges();
     void deleteSelection();
+    bool anotherRowHasName(std::string_view recorded) const;
     void done();
     void finish(std::vector<std::string> rows);
     void close();

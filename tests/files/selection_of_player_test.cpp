@@ -41,6 +41,14 @@ TEST_F(SelectionOfPlayer, IsFoundWhenTheNameWasCutAtABlank)
     EXPECT_TRUE(recordMeans(folder, "FEATHERSTONEHAUGH-WARBURTON BEAU", "FEATHERSTONEHAUGH-WARBURTON BEAU JR_FB.THC"));
 }
 
+TEST_F(SelectionOfPlayer, TellsACutNameFromAWholeOne)
+{
+    EXPECT_FALSE(isCutName("ADAMS_B.THC     ", in("Adams_B.thc")));
+    EXPECT_TRUE(isCutName(full, in(full + "elmina.THC")));
+    EXPECT_TRUE(isSameRecordedName("ADAMS_B.THC    ", "Adams_B.thc"));
+    EXPECT_FALSE(isSameRecordedName("ADAMS_B.THC", "ADAMS_C.THC"));
+}
+
 TEST_F(SelectionOfPlayer, IsNoFileThatOnlyBeginsWithAShortName)
 {
     scratch.put("Smithson_J.THC", "a bracket");

@@ -1,0 +1,81 @@
+// tests/screens/players/players_screen_cut_names_test.cpp - two players whose long file names are cut to the same.
+#include "screens/players/players_screen_fixture.h"
+
+namespace tallyhoop::test {
+namespace {
+
+/// Both names begin with the same 33 characters, which is all that a record keeps of them.
+class PlayersWithCutNames : public PlayersScreenTest
+{
+protected:
+    const std::string cutName = "MONTGOMERY-FEATHERSTONEHAUGH_WILH"; // 33 characters
+    const std::string filesName = "Montgomery-Featherstonehaugh_Wilhelmina.THC";
+    const std::string wilhelm = csv("Wilhelm,W", cutName, "w@example.org");
+    const std::string wilhelmina = csv("Wilhelmina,W", cutName, "wa@example.org");
+
+    PlayersWithCutNames() { scratch.put("PLAYERNAMES.CSV", playerFile({wilhelm, wilhelmina})); }
+};
+
+TEST_F(PlayersWithCutNames, DeletingOneKeepsTheOnlyFileForItMayBeTheOthers)
+{
+    scratch.put(filesName, "the picks of Wilhelmina");
+    platform.dialogs.answer(ui::Answer::Ok);
+    PlayersScreen& names = open();
+    select(0);
+    names.cmdDelete.click();
+    const std::string text = "Another record has the same File Name, cut to 33 characters,\r\n"
+                             "but only one selection file begins with it:\r\n" +
+                             filesName +
+                             "\r\nIt may be the other player's, so it will NOT be deleted.\r\n\r\n"
+                             "If you continue, only this Player Name record will be deleted";
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.shown.front().text, text);
+    names.cmdExit.click();
+    EXPECT_EQ(scratch.get(filesName), "the picks of Wilhelmina");
+    EXPECT_EQ(written(), playerFile({wilhelmina}));
+}
+
+TEST_F(PlayersWithCutNames, CancelledNothingIsDeleted)
+{
+    scratch.put(filesName, "the picks of Wilhelmina");
+    platform.dialogs.answer(ui::Answer::Cancel);
+    PlayersScreen& names = open();
+    select(0);
+    names.cmdDelete.click();
+    names.cmdExit.click();
+    EXPECT_TRUE(scratch.has(filesName));
+    EXPECT_EQ(written(), playerFile({wilhelm, wilhelmina}));
+}
+
+TEST_F(PlayersWithCutNames, TheLastRecordOfTheNameTakesItsFileAlong)
+{
+    scratch.put(filesName, "the picks of Wilhelmina");
+    scratch.put("PLAYERNAMES.CSV", playerFile({adams, wilhelmina}));
+    platform.dialogs.answer(ui::Answer::Ok);
+    PlayersScreen& names = open();
+    select(1);
+    names.cmdDelete.click();
+    names.cmdExit.click();
+    EXPECT_FALSE(scratch.has(filesName));
+    EXPECT_EQ(written(), playerFile({adams}));
+}
+
+TEST_F(PlayersWithCutNames, SavingOnesFileBringsThatPlayersRecord)
+{
+    scratch.put(filesName, "the picks of Wilhelmina");
+    PlayersScreen& names = openAfterSave(SaveKind::SameName, filesName, "Wilhelmina,W");
+    EXPECT_EQ(names.txtEmail.text, "wa@example.org");
+}
+
+TEST_F(PlayersWithCutNames, SavingTheFileOfAThirdPlayerTakesNobodysRecord)
+{
+    scratch.put(filesName, "the picks of a third");
+    PlayersScreen& names = openAfterSave(SaveKind::Replaced, filesName, "Somebody,E");
+    EXPECT_EQ(names.lstNames.rows.size(), 2u);
+    EXPECT_EQ(names.txtName.text, "Somebody,E");
+    names.cmdAdd.click();
+    EXPECT_EQ(written(), playerFile({csv("Somebody,E", cutName), wilhelm, wilhelmina}));
+}
+
+} // namespace
+} // namespace tallyhoop::test
