@@ -58,6 +58,13 @@ std::string fitted(std::string_view text, std::size_t width)
     return result;
 }
 
+std::string asOneLine(std::string text)
+{
+    std::ranges::replace_if(
+        text, [](char character) { return static_cast<unsigned char>(character) < ' '; }, ' ');
+    return text;
+}
+
 std::string blanks(std::size_t count) { return repeated(' ', count); }
 
 std::string repeated(char character, std::size_t count)

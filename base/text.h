@@ -30,6 +30,9 @@ std::string decodeLineBreaks(std::string_view text);
 /// @returns the text padded on the right with blanks, or cut, to exactly this many characters
 std::string fitted(std::string_view text, std::size_t width);
 
+/// Keeps a text on one line: a line break, and every other control character, becomes a blank of the same width.
+std::string asOneLine(std::string text);
+
 /// @returns this many blanks (or of the given character)
 std::string blanks(std::size_t count);
 std::string repeated(char character, std::size_t count);

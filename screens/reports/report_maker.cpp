@@ -3,6 +3,7 @@
 #include "screens/reports/report_maker.h"
 
 #include "base/lines.h"
+#include "base/text.h"
 #include "files/file_names.h"
 #include "files/player_names_file.h"
 #include "files/pool_files.h"
@@ -64,6 +65,14 @@ MadeReport outcome(const ReportKind& kind, const Result<ReportLines>& lines)
     return *lines;
 }
 
+/// The name of a file can hold line breaks: they would make lines of their own, which say what nobody has said.
+void keepOnOneLineEach(ReportLines& lines)
+{
+    for (std::string& line : lines)
+        if (line != kFormFeedLine)
+            line = asOneLine(std::move(line));
+}
+
 /// @returns the headings and the players of PLAYERNAMES.CSV, as its records hold them
 std::vector<PlayerListingRow> listingRows(std::string_view playerNames)
 {
@@ -90,8 +99,15 @@ ReportMaker::ReportMaker(const DataFolder& folder, const ui::Platform& platform,
 
 MadeReport ReportMaker::make(const ReportKind& kind, const std::string& title, std::span<const FolderFile> files)
 {
-    const Request request{kind, title, files};
-    switch (kind.id) {
+    MadeReport made = makeLines({kind, title, files});
+    if (auto* lines = std::get_if<ReportLines>(&made))
+        keepOnOneLineEach(*lines);
+    return made;
+}
+
+MadeReport ReportMaker::makeLines(const Request& request)
+{
+    switch (request.kind.id) {
     case ReportId::TournamentStandings:
         return makeStandings(request);
     case ReportId::PlayerListing:
@@ -106,7 +122,7 @@ MadeReport ReportMaker::make(const ReportKind& kind, const std::string& title, s
     case ReportId::ResultsByTeam:
         return makeResultsByTeam(request);
     }
-    return failed(kind, {});
+    return failed(request.kind, {});
 }
 
 MadeReport ReportMaker::makeStandings(const Request& request)

@@ -53,6 +53,7 @@ private:
         std::span<const FolderFile> files;
     };
 
+    MadeReport makeLines(const Request& request);
     MadeReport makeStandings(const Request& request);
     MadeReport makePlayerListing(const Request& request);
     MadeReport makeTeamSelection(const Request& request);

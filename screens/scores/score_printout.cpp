@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <fmt/format.h>
+#include <utility>
 
 namespace tallyhoop {
 
@@ -64,15 +65,7 @@ std::string printedRow(const Row& row, const std::vector<std::size_t>& widths)
             line += blanks(kGap);
         line += printedCell(row[column], widths[column]);
     }
-    return line;
-}
-
-/// A cell cannot hold what separates cells and lines.
-std::string pastable(std::string cell)
-{
-    std::ranges::replace_if(
-        cell, [](char c) { return c == '\t' || c == '\r' || c == '\n'; }, ' ');
-    return cell;
+    return asOneLine(std::move(line)); // the name of a file can hold line breaks
 }
 
 } // namespace
@@ -102,7 +95,7 @@ std::string tabSeparated(const ui::Grid& grid)
 {
     std::string text;
     const auto addCell = [&text](std::size_t column, const std::string& cell) {
-        text += (column > 0 ? "\t" : "") + pastable(cell);
+        text += (column > 0 ? "\t" : "") + asOneLine(cell); // a cell cannot hold what separates cells and lines
     };
     for (std::size_t column = 0; column < grid.columns.size(); ++column)
         addCell(column, grid.columns[column].heading);

@@ -108,5 +108,11 @@ TEST(JoinLines, PutsBreaksBetweenLinesOnly)
     EXPECT_EQ(joinLines({}), "");
 }
 
+TEST(AsOneLine, MakesABlankOfEveryControlCharacter)
+{
+    EXPECT_EQ(asOneLine("A\r\nB\tC\fD"), "A  B C D") << "each keeps its width";
+    EXPECT_EQ(asOneLine("caf\xE9 \x85"), "caf\xE9 \x85");
+}
+
 } // namespace
 } // namespace tallyhoop
