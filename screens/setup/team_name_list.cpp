@@ -13,8 +13,9 @@ TeamNameList::TeamNameList(std::span<const std::string> names)
     for (const std::string& name : names) {
         if (name.empty())
             break;
-        insertSorted(m_rows, name);
+        m_rows.push_back(name);
     }
+    std::ranges::stable_sort(m_rows, FoldedLess{}); // at once: sorting each name in would take minutes for a long list
 }
 
 std::size_t TeamNameList::add(const std::string& name)
@@ -25,7 +26,9 @@ std::size_t TeamNameList::add(const std::string& name)
     const auto same = std::ranges::find(m_rows, name);
     if (same == m_rows.end())
         return insertSorted(m_rows, name);
-    return static_cast<std::size_t>(m_rows.insert(same, name) - m_rows.begin());
+    const auto row = same - m_rows.begin(); // before the rows grow, which may move them all
+    m_rows.insert(same, name);
+    return static_cast<std::size_t>(row);
 }
 
 void TeamNameList::change(std::size_t row, const std::string& name)

@@ -31,6 +31,29 @@ TEST(TeamNameList, PutsADoubleNextToItsEqualAlsoWhereThatIsOutOfOrder)
     EXPECT_EQ(list.rows(), (Names{"Akron", "Zebra", "Zebra", "Texas"}));
 }
 
+TEST(TeamNameList, SaysTheRowOfADoubleHoweverTheListGrows)
+{
+    TeamNameList list{Names{"Akron", "Duke", "Texas"}};
+    for (int times = 0; times < 100; ++times) // several of them make room for more rows elsewhere
+        ASSERT_EQ(list.add("Duke"), 1U) << times;
+    EXPECT_EQ(list.rows().size(), 103U);
+}
+
+TEST(TeamNameList, SortsAListOfAnyLengthAtOnce)
+{
+    // In the opposite order: sorted in one by one, each would move all the names before it, 20 thousand million moves.
+    Names names;
+    for (int number = 200'000; number > 0; --number)
+        names.push_back("Team " + std::to_string(1'000'000 + number));
+    const TeamNameList list{names};
+    EXPECT_EQ(list.rows(), Names(names.rbegin(), names.rend()));
+}
+
+TEST(TeamNameList, KeepsNamesThatDifferOnlyInCaseInTheOrderOfTheFile)
+{
+    EXPECT_EQ((TeamNameList{Names{"duke", "Akron", "DUKE", "Duke"}}).rows(), (Names{"Akron", "duke", "DUKE", "Duke"}));
+}
+
 TEST(TeamNameList, AChangedNameKeepsItsRow)
 {
     TeamNameList list{Names{"Akron", "Duke"}};
