@@ -33,12 +33,14 @@ bool isThere(const fs::path& path)
 }
 
 /// Calls visit(entry) for every entry of a folder, as far as it can be read.
+/// @returns why it cannot be read whole, if so
 template <class Visit>
-void forEachEntry(const fs::path& folder, Visit visit)
+std::error_code forEachEntry(const fs::path& folder, Visit visit)
 {
     std::error_code error;
     for (fs::directory_iterator entry{folder, error}, end; !error && entry != end; entry.increment(error))
         visit(*entry);
+    return error;
 }
 
 /// A letter that our code page lacks is shown as "?".
@@ -124,10 +126,22 @@ bool DataFolder::exists(std::string_view name) const
     return isBareName(name) && findEntry(m_folder, name).has_value();
 }
 
-std::vector<FolderFile> DataFolder::files(std::string_view extension) const
+std::vector<std::string> DataFolder::spellingsOf(std::string_view name) const
+{
+    std::vector<std::string> spellings;
+    forEachEntry(m_folder, [&](const fs::directory_entry& entry) {
+        std::string spelling = shown(entry.path().filename());
+        if (equalFolded(spelling, name) && isShownWhole(entry.path().filename()))
+            spellings.push_back(std::move(spelling));
+    });
+    std::ranges::sort(spellings);
+    return spellings;
+}
+
+Read<std::vector<FolderFile>> DataFolder::list(std::string_view extension) const
 {
     std::vector<FolderFile> found;
-    forEachEntry(m_folder, [&](const fs::directory_entry& entry) {
+    const std::error_code error = forEachEntry(m_folder, [&](const fs::directory_entry& entry) {
         std::string name = shown(entry.path().filename());
         std::error_code ignored;
         if (endsWithFolded(name, extension) && entry.is_regular_file(ignored))
@@ -137,7 +151,9 @@ std::vector<FolderFile> DataFolder::files(std::string_view extension) const
         const int order = compareFolded(left.name, right.name);
         return order != 0 ? order < 0 : left.path < right.path;
     });
-    return found;
+    if (error)
+        return {std::move(found), Failure{fromUtf8(error.message())}};
+    return {std::move(found), {}};
 }
 
 Result<std::string> DataFolder::read(std::string_view name) const

@@ -41,10 +41,17 @@ public:
     /// @returns whether an entry of this name is there; false for a refused name
     bool exists(std::string_view name) const;
 
+    /// @returns the names of all entries that are this name but for the case of their letters, in byte order
+    std::vector<std::string> spellingsOf(std::string_view name) const;
+
     /// @param extension such as ".THC", matched in any case
     /// @returns the regular files with this extension in ascending case-insensitive order, equal ones in byte order;
-    ///          empty when the folder cannot be read
-    std::vector<FolderFile> files(std::string_view extension) const;
+    /// the
+    ///          trouble when the folder cannot be listed, or not whole
+    Read<std::vector<FolderFile>> list(std::string_view extension) const;
+
+    /// The same for those who need no reason; empty when the folder cannot be listed.
+    std::vector<FolderFile> files(std::string_view extension) const { return list(extension).value; }
 
     /// @returns the whole file, or a failure with the system's reason
     Result<std::string> read(std::string_view name) const;

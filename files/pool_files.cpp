@@ -29,7 +29,7 @@ constexpr std::size_t kFilesAtOnce = 16;
 
 Read<Entry> readOne(const SelectionReader& reader, const FolderFile& file)
 {
-    const Result<std::string> bytes = readFile(file.path);
+    const Result<std::string> bytes = readFile(file.path, kMostBytesOfSelection);
     Read<Entry> read = bytes ? reader.read(*bytes) : Read<Entry>{{}, bytes.failure()};
     read.value.fileName = file.name;
     return read;

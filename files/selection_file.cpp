@@ -22,7 +22,7 @@ Read<Entry> readSelection(std::string_view bytes, const Bracket& like) { return 
 
 Read<Entry> readSelectionFile(const std::filesystem::path& file, const Bracket& like)
 {
-    const Result<std::string> bytes = readFile(file);
+    const Result<std::string> bytes = readFile(file, kMostBytesOfSelection);
     Read<Entry> read = bytes ? readSelection(*bytes, like) : Read<Entry>{{}, bytes.failure()};
     read.value.fileName = shown(file.filename());
     return read;

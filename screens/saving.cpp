@@ -2,11 +2,13 @@
 #include "screens/saving.h"
 
 #include "base/text.h"
+#include "files/file_names.h"
 #include "files/player_names_file.h"
 #include "files/pool_backup.h"
 #include "files/replace_file.h"
 #include "screens/help_topics.h"
 
+#include <cstdint>
 #include <system_error>
 #include <utility>
 
@@ -114,6 +116,20 @@ void showReadingTrouble(ui::Dialogs& dialogs, const std::filesystem::path& file)
     dialogs.show({"** ERROR IN OPENING FILE - ReadSelections Routine **",
                   "There is a problem opening: " + shown(file) + "\r\n\r\n The program will attempt to continue ......",
                   ui::Buttons::Ok, ui::Icon::Critical});
+    std::error_code ignored;
+    const std::uintmax_t size = std::filesystem::file_size(file, ignored);
+    if (!ignored && size > kMostBytesOfSelection)
+        showTrouble(dialogs, Failure{joinLines({"This file is larger than 1 MB, and no selection is as large as that:",
+                                                shown(file), " ", "Nothing of it was read."})});
+}
+
+std::vector<FolderFile> listSelections(ui::Dialogs& dialogs, const DataFolder& folder)
+{
+    Read<std::vector<FolderFile>> listed = folder.list(file_name::kSelectionExtension);
+    if (listed.trouble)
+        showTrouble(dialogs, Failure{joinLines({"The selections in this folder cannot be listed, or not all of them:",
+                                                shown(folder.folder()), listed.trouble->message})});
+    return std::move(listed.value);
 }
 
 void showTrouble(ui::Dialogs& dialogs, const Failure& failure)

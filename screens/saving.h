@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallyhoop {
 
@@ -26,8 +27,13 @@ bool saveFile(const ui::Platform& platform, KnownFiles& known, const std::filesy
 bool saveDataFile(const ui::Platform& platform, KnownFiles& known, const DataFolder& folder, std::string_view name,
                   std::string_view bytes);
 
-/// Shows that a selection or results file could not be read, or not whole.
+/// Shows that a selection or results file could not be read, or not whole; a second message names the limit of a file
+/// that is too large.
 void showReadingTrouble(ui::Dialogs& dialogs, const std::filesystem::path& file);
+
+/// Lists the selection files; says so when the folder cannot be listed, which is another thing than a folder without
+/// any.
+std::vector<FolderFile> listSelections(ui::Dialogs& dialogs, const DataFolder& folder);
 
 /// Shows what is wrong, without a caption of its own.
 void showTrouble(ui::Dialogs& dialogs, const Failure& failure);

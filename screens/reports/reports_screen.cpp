@@ -1,6 +1,7 @@
 // screens/reports/reports_screen.cpp - the reports screen: opening, making the ticked reports, bringing them out.
 // Texts are kept letter for letter, odd spellings included.
 #include "screens/reports/reports_screen.h"
+#include "screens/saving.h"
 
 #include "base/lines.h"
 #include "files/file_names.h"
@@ -119,7 +120,7 @@ void ReportsScreen::closeRequested() { exitReports(); }
 void ReportsScreen::listFiles()
 {
     const std::string chosen = filList.selectedText();
-    m_files = m_folder.files(file_name::kSelectionExtension);
+    m_files = listSelections(m_platform.dialogs, m_folder);
     filList.rows.clear();
     for (const FolderFile& file : m_files)
         filList.rows.push_back(file.name);

@@ -69,7 +69,7 @@ void ScoresScreen::exit() { m_screens.unload(ScreenKind::Scores); }
 
 void ScoresScreen::listFiles()
 {
-    m_files = m_folder.files(file_name::kSelectionExtension);
+    m_files = listSelections(m_platform.dialogs, m_folder);
     filList.rows.clear();
     for (const FolderFile& file : m_files)
         filList.rows.push_back(file.name);

@@ -67,10 +67,18 @@ ui::Message damagedPlayerList(const fs::path& folder)
             ui::Buttons::Ok, ui::Icon::Critical, kHowToRepair};
 }
 
-std::vector<ui::Message> reportTrouble(ReportId id, const fs::path& folder, const Fault& fault)
+namespace {
+
+ui::Message folderCannotBeListed(const fs::path& folder, const Fault& fault)
 {
-    if (!fault.hidesFolder)
-        return {reportFailure(reportKind(id), fault.reason)};
+    return {"",
+            "The selections in this folder cannot be listed, or not all of them:\r\n" + folder.string() + "\r\n" +
+                fault.reason,
+            ui::Buttons::Ok, ui::Icon::Critical};
+}
+
+std::vector<ui::Message> troubleWithoutSelections(ReportId id, const fs::path& folder)
+{
     const std::string noFiles = "There aren't any Player Selection files saved,  so the\r\n";
     const auto noReport = [&](const char* report) { return reportFailure(reportKind(id), noFiles + report); };
     switch (id) {
@@ -95,6 +103,17 @@ std::vector<ui::Message> reportTrouble(ReportId id, const fs::path& folder, cons
         return {noReport("\"Projected Results by Team\" report cannot be prepared.")};
     }
     return {};
+}
+
+} // namespace
+
+std::vector<ui::Message> reportTrouble(ReportId id, const fs::path& folder, const Fault& fault)
+{
+    if (!fault.hidesFolder)
+        return {reportFailure(reportKind(id), fault.reason)};
+    std::vector<ui::Message> messages = troubleWithoutSelections(id, folder);
+    messages.insert(messages.begin(), folderCannotBeListed(folder, fault));
+    return messages;
 }
 
 } // namespace tallyhoop::test

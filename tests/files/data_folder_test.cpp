@@ -211,6 +211,27 @@ TEST(DataFolderRemove, SucceedsWhenThereIsNone)
     EXPECT_TRUE(scratch.folder().remove("TALLYHOOP.INI"));
 }
 
+TEST(DataFolderSpellings, AreAllThatDifferInCaseOnly)
+{
+    const ScratchFolder scratch;
+    for (const char* name : {"Adams_B.THC", "ADAMS_B.thc", "Adams_BC.THC"})
+        scratch.put(name, "");
+    EXPECT_EQ(scratch.folder().spellingsOf("adams_b.THC"), (std::vector<std::string>{"ADAMS_B.thc", "Adams_B.THC"}));
+    EXPECT_TRUE(scratch.folder().spellingsOf("Baker_C.THC").empty());
+}
+
+TEST(DataFolderList, TellsAFolderWithoutFilesFromOneThatCannotBeListed)
+{
+    const ScratchFolder scratch;
+    scratch.put("TALLYHOOP.THS", "");
+    EXPECT_TRUE(scratch.folder().list(".THC").value.empty());
+    EXPECT_FALSE(scratch.folder().list(".THC").trouble);
+    const DataFolder gone{scratch.path() / "gone"};
+    ASSERT_TRUE(gone.list(".THC").trouble);
+    EXPECT_EQ(gone.list(".THC").trouble->message, "No such file or directory");
+    EXPECT_TRUE(gone.files(".THC").empty());
+}
+
 TEST(DataFolderRemove, LeavesAFolderOfThatName)
 {
     const ScratchFolder scratch;

@@ -138,6 +138,19 @@ TEST_F(Saving, SaysThatASelectionCouldNotBeReadWhole)
                                         ui::Buttons::Ok, ui::Icon::Critical}}));
 }
 
+TEST_F(Saving, ListsTheSelectionsAndSaysWhenTheFolderCannotBeListed)
+{
+    scratch.put("A.THC", "");
+    EXPECT_EQ(listSelections(dialogs, scratch.folder()).size(), 1u);
+    EXPECT_EQ(dialogs.shown, Messages{});
+    const fs::path gone = scratch.path() / "gone";
+    EXPECT_TRUE(listSelections(dialogs, DataFolder{gone}).empty());
+    EXPECT_EQ(dialogs.shown, (Messages{{"",
+                                        "The selections in this folder cannot be listed, or not all of them:\r\n" +
+                                            gone.string() + "\r\nNo such file or directory",
+                                        ui::Buttons::Ok, ui::Icon::Critical}}));
+}
+
 TEST_F(Saving, ShowsAFailureInItsOwnWords)
 {
     showTrouble(dialogs, Failure{"Problem with file, will use default values"});

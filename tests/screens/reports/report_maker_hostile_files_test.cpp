@@ -45,5 +45,27 @@ TEST_F(HostileFilesInReports, ALineBreakInAFilesNameMakesNoLineOfItsOwn)
         << "each control character is a blank, and the columns after it are where they were: " << *line;
 }
 
+TEST_F(HostileFilesInReports, AFileLargerThanAnySelectionIsNamedAndNotRead)
+{
+    putFourPlayers(scratch);
+    scratch.put("Baker_C.THC", std::string((std::size_t{1} << 20) + 1, 'x'));
+    made(reportKind(ReportId::TeamSelectionSummary));
+    ASSERT_EQ(platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(platform.dialogs.shown[0].caption, "** ERROR IN OPENING FILE - ReadSelections Routine **");
+    EXPECT_EQ(platform.dialogs.shown[1].text,
+              "This file is larger than 1 MB, and no selection is as large as that:\r\n" +
+                  (scratch.path() / "Baker_C.THC").string() + "\r\n \r\nNothing of it was read.");
+}
+
+TEST_F(HostileFilesInReports, AFileOfTheLargestSizeIsRead)
+{
+    putFourPlayers(scratch);
+    scratch.put("Baker_C.THC", std::string(std::size_t{1} << 20, 'x'));
+    made(reportKind(ReportId::TeamSelectionSummary));
+    EXPECT_EQ(platform.dialogs.captionsShown(),
+              std::vector<std::string>{"** ERROR IN OPENING FILE - ReadSelections Routine **"})
+        << "it is no sound selection, but its size is not what is wrong with it";
+}
+
 } // namespace
 } // namespace tallyhoop::test
