@@ -2,6 +2,7 @@
 #include "screens/demo_mode.h"
 
 #include "base/text.h"
+#include "base/windows1252.h"
 #include "demo/sample_pool.h"
 #include "files/file_names.h"
 #include "files/player_names_file.h"
@@ -51,13 +52,23 @@ ui::Message trouble(const std::string& what, const Failure& failure)
     return {kCaption, what + "\r\n \r\n" + failure.message, ui::Buttons::Ok, ui::Icon::Critical};
 }
 
-/// The settings come last: a clearing that was cut short leaves demo mode on, and can be asked for again.
-std::vector<const char*> demoDataFiles()
+/// @returns the names as the folder has them: each in every case of its letters, for one that stays would be taken for
+///          the file of a pool. The settings come last: a clearing that was cut short leaves demo mode on, and can be
+///          asked for again.
+std::vector<std::string> demoDataFiles(const DataFolder& folder)
 {
     std::vector<const char*> names{file_name::kSetup, file_name::kResults, file_name::kPlayerNames};
     names.insert(names.end(), demo::kSelectionFiles.begin(), demo::kSelectionFiles.end());
     names.push_back(file_name::kSettings);
-    return names;
+
+    std::vector<std::string> spelled;
+    for (const char* name : names) {
+        const std::vector<std::string> spellings = folder.spellingsOf(name);
+        spelled.insert(spelled.end(), spellings.begin(), spellings.end());
+        if (spellings.empty())
+            spelled.emplace_back(name);
+    }
+    return spelled;
 }
 
 /// A file that cannot be read counts as the person's own. What is no file cannot be kept; the clearing names it.
@@ -70,9 +81,9 @@ bool isOwnFile(const DataFolder& folder, std::string_view name)
     const Result<std::string> bytes = readFile(*file);
     if (!bytes)
         return true;
-    if (name == file_name::kSettings)
+    if (equalFolded(name, file_name::kSettings))
         return !settingsSayDemo(*bytes);
-    if (name == file_name::kPlayerNames && *bytes == playerNamesFile({}))
+    if (equalFolded(name, file_name::kPlayerNames) && *bytes == playerNamesFile({}))
         return false;
     return !demo::isSampleFile(name, *bytes);
 }
@@ -126,7 +137,7 @@ Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& fold
     std::vector<std::string> own;
     std::vector<std::string> all;
     std::error_code ignored;
-    for (const char* name : demoDataFiles()) {
+    for (const std::string& name : demoDataFiles(folder)) {
         if (isOwnFile(folder, name))
             own.emplace_back(name);
         if (const auto file = folder.pathOf(name); file && std::filesystem::is_regular_file(*file, ignored))
@@ -146,7 +157,7 @@ Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& fold
 Result<Done> clearDemoDataFiles(const DataFolder& folder)
 {
     Result<Done> outcome = Done{};
-    for (const char* name : demoDataFiles())
+    for (const std::string& name : demoDataFiles(folder))
         if (const Result<Done> removed = folder.remove(name); !removed && outcome)
             outcome = failureAt(folder.shownPathOf(name), removed.failure());
     return outcome;

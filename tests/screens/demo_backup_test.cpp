@@ -36,6 +36,20 @@ TEST(StartDemo, MovesAPoolOfOnesOwnIntoADatedSubfolder)
     EXPECT_EQ(pool.scratch.get(std::string{kBackup} + "/PLAYERNAMES.CSV"), "own PLAYERNAMES.CSV");
 }
 
+TEST(StartDemo, MovesAFileOfTheSameNameInOtherLettersTooNextToTheDemos)
+{
+    OwnPool pool;
+    pool.scratch.put("Demo Prophet_DP.THC", "one player of this name");
+    pool.scratch.put("DEMO PROPHET_DP.THC", "another one");
+    pool.platform.programs.whenStarted = [&pool] {
+        EXPECT_EQ(entriesOf(pool.scratch.path()), (std::vector<std::string>{kBackup, "NCAALIST.THS", "Own_O.THC"}));
+        pool.scratch.put("TALLYHOOP.INI", "1\r\n");
+    };
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(pool.scratch.get(std::string{kBackup} + "/Demo Prophet_DP.THC"), "one player of this name");
+    EXPECT_EQ(pool.scratch.get(std::string{kBackup} + "/DEMO PROPHET_DP.THC"), "another one");
+}
+
 TEST(StartDemo, SaysNothingMoreOnAFirstStart)
 {
     const ScratchFolder scratch;
