@@ -1,5 +1,6 @@
 // app/main.cpp - the program's entry: creates the services of this computer, the frame and the screens, and runs them.
 
+#include "app/program_folder.h"
 #include "app/start_up.h"
 #include "app/wiring.h"
 #include "files/replace_file.h"
@@ -23,15 +24,19 @@
 #include <QFile>
 #include <QSettings>
 #include <QTimer>
+#include <cstdlib>
+#include <system_error>
 
 using namespace tallyhoop;
 
 namespace {
 
 /// A pool lives in the folder that holds the executable.
-DataFolder programFolder()
+Result<std::filesystem::path> ownFolder()
 {
-    return DataFolder{std::filesystem::path{QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString()}};
+    std::error_code systemDoesNotSay;
+    const std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", systemDoesNotSay);
+    return programFolder(QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString(), executable);
 }
 
 } // namespace
@@ -47,11 +52,16 @@ int main(int argc, char** argv)
     // Qt's file dialog would keep notes about itself in the person's home; this program keeps everything in its folder.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ":/kept-nowhere");
 
-    const DataFolder folder = programFolder();
-    SharedValues shared;
     qt::MainFrame frame;
     qt::Desk desk{&frame};
     qt::QtDialogs dialogs{desk};
+    const Result<std::filesystem::path> foundFolder = ownFolder();
+    if (!foundFolder) {
+        dialogs.show({"", foundFolder.failure().message, ui::Buttons::Ok, ui::Icon::Critical});
+        return EXIT_FAILURE;
+    }
+    const DataFolder folder{*foundFolder};
+    SharedValues shared;
     qt::QtPrinter printer{desk};
 #ifdef _WIN32
     qt::SimpleMapiMail mail;

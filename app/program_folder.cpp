@@ -1,0 +1,26 @@
+// app/program_folder.cpp - the same folder by both of its names, or none.
+#include "app/program_folder.h"
+
+#include "base/text.h"
+#include "files/data_folder.h"
+
+#include <system_error>
+
+namespace tallyhoop {
+
+Result<std::filesystem::path> programFolder(const std::filesystem::path& asNamed,
+                                            const std::filesystem::path& executable)
+{
+    std::error_code unknown;
+    const bool isRight = executable.empty()
+                             ? !asNamed.empty()
+                             : std::filesystem::equivalent(asNamed, executable.parent_path(), unknown) && !unknown;
+    if (isRight)
+        return asNamed;
+    return Failure{
+        joinLines({"Tallyhoop cannot work in its folder, because the name of the folder, or of one around it,",
+                   "has characters that cannot be read (they are not in UTF-8):", " ", shown(executable.parent_path()),
+                   " ", "Rename the folder, and start the program again. Nothing has been read or written."})};
+}
+
+} // namespace tallyhoop
