@@ -28,7 +28,19 @@ QString captionOf(const std::string& caption)
     return caption.empty() ? QStringLiteral("Tallyhoop") : titleText(toQString(caption));
 }
 
-/// @returns a text that fits a display, whatever names are in it: a line that is far too long loses its middle
+constexpr qsizetype kMostLines = 30; ///< twice as many as our longest message has
+
+/// Takes lines out of the middle of a text that would be taller than a display.
+void shorten(QStringList& lines)
+{
+    if (lines.size() <= kMostLines)
+        return;
+    const QStringList end = lines.mid(lines.size() - kMostLines / 2);
+    lines = lines.mid(0, kMostLines / 2) + QStringList{QStringLiteral("...")} + end;
+}
+
+/// @returns a text that fits a display, whatever names are in it: a line that is far too long loses its middle, and so
+///          does a text of far too many lines
 /// @param end how many characters are kept at either end of such a line
 QString shownText(const std::string& text, qsizetype end)
 {
@@ -36,6 +48,7 @@ QString shownText(const std::string& text, qsizetype end)
     for (QString& line : lines)
         if (line.size() > 2 * end)
             line = line.left(end) + QStringLiteral(" ... ") + line.right(end);
+    shorten(lines);
     return lines.join(QLatin1Char{'\n'});
 }
 

@@ -137,6 +137,37 @@ TEST(QtDialogs, ALineThatIsFarTooLongLosesItsMiddle)
     asking.dialogs.show({"", std::string(300, 'a') + std::string(300, 'b') + "\r\nshort"});
 }
 
+TEST(QtDialogs, ATextOfFarTooManyLinesLosesItsMiddle)
+{
+    Asking asking;
+    std::string text = "first\r\n";
+    for (int line = 2; line < 200; ++line) // the name of a file can be nothing but line breaks
+        text += "\r\n";
+    withNext<QMessageBox>([&](QMessageBox& box) {
+        const QStringList lines = box.text().split(QLatin1Char('\n'));
+        ASSERT_EQ(lines.size(), 31) << "15 from the beginning, 15 from the end";
+        EXPECT_EQ(lines.front(), QStringLiteral("first"));
+        EXPECT_EQ(lines.at(15), QStringLiteral("..."));
+        EXPECT_EQ(lines.back(), QStringLiteral("last"));
+        box.accept();
+    });
+    asking.dialogs.show({"", text + "last"});
+}
+
+TEST(QtDialogs, AnOrdinaryTextKeepsItsLines)
+{
+    Asking asking;
+    std::string text = "1";
+    for (int line = 2; line <= 30; ++line)
+        text += "\r\n" + std::to_string(line);
+    withNext<QMessageBox>([&](QMessageBox& box) {
+        EXPECT_EQ(box.text().count(QLatin1Char('\n')), 29);
+        EXPECT_FALSE(box.text().contains(QStringLiteral("...")));
+        box.accept();
+    });
+    asking.dialogs.show({"", text});
+}
+
 TEST(QtDialogs, TheAboutBoxNamesTheProgram)
 {
     Asking asking;
