@@ -32,7 +32,10 @@ ui::Message changedMeanwhile(std::string_view shownPath)
                 "If you continue, the changes of the other program will be lost..\r\n"
                 " \r\n"
                 "Do you want to replace the file?",
-            ui::Buttons::YesNo, ui::Icon::Question};
+            ui::Buttons::YesNo,
+            ui::Icon::Question,
+            {},
+            true};
 }
 
 /// @param reason of the system, when there is one

@@ -18,7 +18,8 @@ struct Message {
     std::string text;
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
-    std::string helpTopic = {}; ///< where F1 leads while it is shown; empty = to the topic of the current screen
+    std::string helpTopic = {};    ///< where F1 leads while it is shown; empty = to the topic of the current screen
+    bool refusalIsDefault = false; ///< Enter answers No or Cancel: the other answer loses something
 
     friend bool operator==(const Message&, const Message&) = default;
 };
@@ -57,7 +58,8 @@ public:
     virtual std::optional<std::filesystem::path> saveFile(const FileChoice& choice) = 0;
 
     /// Shows the program's about box and waits.
-    virtual void about() = 0;
+    /// @param folder where the pool is
+    virtual void about(const std::filesystem::path& folder) = 0;
 };
 
 } // namespace tallyhoop::ui

@@ -3,6 +3,7 @@
 #include "qt/services/qt_dialogs.h"
 
 #include "qt/look.h"
+#include "qt/paths.h"
 #include "qt/services/file_dialog.h"
 #include "qt/services/question.h"
 #include "qt/text.h"
@@ -85,7 +86,7 @@ QMessageBox::Icon toQt(ui::Icon icon)
     return QMessageBox::NoIcon;
 }
 
-void addButtons(QMessageBox& box, ui::Buttons buttons)
+void addButtons(QMessageBox& box, ui::Buttons buttons, bool refusalIsDefault)
 {
     switch (buttons) {
     case ui::Buttons::Ok:
@@ -95,12 +96,12 @@ void addButtons(QMessageBox& box, ui::Buttons buttons)
     case ui::Buttons::OkCancel:
         box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
         box.setEscapeButton(QMessageBox::Cancel);
-        box.setDefaultButton(QMessageBox::Ok);
+        box.setDefaultButton(refusalIsDefault ? QMessageBox::Cancel : QMessageBox::Ok);
         break;
     case ui::Buttons::YesNo:
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
         box.setEscapeButton(QMessageBox::No);
-        box.setDefaultButton(QMessageBox::Yes);
+        box.setDefaultButton(refusalIsDefault ? QMessageBox::No : QMessageBox::Yes);
         break;
     }
 }
@@ -138,7 +139,7 @@ ui::Answer QtDialogs::show(const ui::Message& message)
     box.setIcon(toQt(message.icon));
     box.setText(shownText(message.text, kMessageEnd));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    addButtons(box, message.buttons);
+    addButtons(box, message.buttons, message.refusalIsDefault);
     offerHelp(box, message.helpTopic.empty() ? m_desk.runningTopic() : message.helpTopic);
     return answerOf(box.exec());
 }
@@ -190,7 +191,7 @@ std::optional<std::filesystem::path> QtDialogs::choose(const ui::FileChoice& cho
     return dialog.exec() == QDialog::Accepted ? dialog.chosen() : std::nullopt;
 }
 
-void QtDialogs::about()
+void QtDialogs::about(const std::filesystem::path& folder)
 {
     const Question question{m_desk};
     QMessageBox box{m_desk.windowForDialogs()};
@@ -201,7 +202,8 @@ void QtDialogs::about()
         box.setIconPixmap(icon.pixmap(64, 64));
     box.setText(QStringLiteral("Tallyhoop ") + QApplication::applicationVersion());
     box.setInformativeText(QStringLiteral("Runs an office pool on the 64-team college basketball tournament: brackets, "
-                                          "results, scores and reports."));
+                                          "results, scores and reports.\n\nThe pool is in the folder\n") +
+                           fromPath(folder));
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();
 }

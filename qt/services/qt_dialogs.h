@@ -17,7 +17,7 @@ public:
     std::string ask(const ui::Question& question) override;
     std::optional<std::filesystem::path> openFile(const ui::FileChoice& choice) override;
     std::optional<std::filesystem::path> saveFile(const ui::FileChoice& choice) override;
-    void about() override;
+    void about(const std::filesystem::path& folder) override;
 
 private:
     void offerHelp(QMessageBox& box, const std::string& topic);

@@ -24,7 +24,7 @@ public:
     void fromDemo();
 
     void toHelp(const std::string& topic);
-    void toAbout() { m_platform.dialogs.about(); }
+    void toAbout() { m_platform.dialogs.about(m_folder.folder()); }
     void endProgram() { m_screens.endProgram(); }
 
 private:

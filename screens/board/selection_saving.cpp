@@ -44,9 +44,40 @@ std::filesystem::path meantFile(std::filesystem::path chosen)
     return isShownWhole ? findInAnyCase(chosen).value_or(chosen) : chosen;
 }
 
-bool confirms(ui::Dialogs& dialogs, std::string question)
+enum class Enter { Agrees, Refuses };
+
+bool confirms(ui::Dialogs& dialogs, std::string question, Enter enter = Enter::Agrees)
 {
-    return dialogs.show({"", std::move(question), ui::Buttons::YesNo, ui::Icon::Question}) == ui::Answer::Yes;
+    return dialogs.show(
+               {"", std::move(question), ui::Buttons::YesNo, ui::Icon::Question, {}, enter == Enter::Refuses}) ==
+           ui::Answer::Yes;
+}
+
+bool isThere(const std::filesystem::path& file)
+{
+    std::error_code missing;
+    return std::filesystem::exists(file, missing);
+}
+
+/// @returns "Demo Prophet (DP)"; nothing when the file holds nobody's name
+std::optional<std::string> playerIn(const std::filesystem::path& file)
+{
+    const Entry entry = readSelectionFile(file, {}).value;
+    if (entry.name.empty() && entry.initials.empty())
+        return std::nullopt;
+    return entry.name + " (" + entry.initials + ")";
+}
+
+/// The question about the two names does not say that one of the files would be lost.
+bool confirmsLossOf(ui::Dialogs& dialogs, const std::filesystem::path& existing)
+{
+    const std::optional<std::string> player = playerIn(existing);
+    return confirms(dialogs,
+                    "There is a file of this name already:    " + shown(existing) + "\r\n" +
+                        (player ? "It holds the selection of:    " + *player + "\r\n" : std::string{}) +
+                        "\r\n"
+                        "Do you want to replace that selection?",
+                    Enter::Refuses);
 }
 
 void refuse(ui::Dialogs& dialogs, const char* text)
@@ -72,6 +103,8 @@ std::optional<SaveTarget> askAboutOpened(ui::Dialogs& dialogs, const DataFolder&
                                "\r\n\r\n"
                                "IS THIS CORRECT?"))
         return std::nullopt;
+    if (isThere(chosen) && !confirmsLossOf(dialogs, chosen))
+        return std::nullopt;
     return SaveTarget{chosen, SaveKind::NewFile};
 }
 
@@ -83,10 +116,9 @@ std::optional<SaveTarget> askAboutNew(ui::Dialogs& dialogs, const DataFolder& fo
                         "when executing under DEMO Mode");
         return std::nullopt;
     }
-    std::error_code missing;
-    if (!std::filesystem::exists(chosen, missing))
+    if (!isThere(chosen))
         return SaveTarget{chosen, SaveKind::NewFile};
-    if (!confirms(dialogs, "Do you want to replace the existing file ?\r\n" + shown(chosen)))
+    if (!confirms(dialogs, "Do you want to replace the existing file ?\r\n" + shown(chosen), Enter::Refuses))
         return std::nullopt;
     return SaveTarget{chosen, SaveKind::Replaced};
 }

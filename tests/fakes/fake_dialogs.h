@@ -24,9 +24,21 @@ public:
     }
 
     /// The answer to the next question that leaves a choice. Messages with only OK need no script: they are recorded.
-    FakeDialogs& answer(ui::Answer answer) { m_answers.push_back(answer); return *this; }
-    FakeDialogs& type(std::string text) { m_texts.push_back(std::move(text)); return *this; }
-    FakeDialogs& pick(std::optional<std::filesystem::path> file) { m_files.push_back(std::move(file)); return *this; }
+    FakeDialogs& answer(ui::Answer answer)
+    {
+        m_answers.push_back(answer);
+        return *this;
+    }
+    FakeDialogs& type(std::string text)
+    {
+        m_texts.push_back(std::move(text));
+        return *this;
+    }
+    FakeDialogs& pick(std::optional<std::filesystem::path> file)
+    {
+        m_files.push_back(std::move(file));
+        return *this;
+    }
 
     /// Called while a message is shown: what does the screen look like meanwhile?
     std::function<void(const ui::Message&)> whileShown;
@@ -35,6 +47,7 @@ public:
     std::vector<ui::Question> asked;
     std::vector<ui::FileChoice> fileChoices;
     int aboutShown = 0;
+    std::filesystem::path folderTold; ///< by the about box
 
     std::vector<std::string> captionsShown() const
     {
@@ -78,7 +91,11 @@ public:
         return next(m_files, "save dialog", choice.caption);
     }
 
-    void about() override { ++aboutShown; }
+    void about(const std::filesystem::path& folder) override
+    {
+        ++aboutShown;
+        folderTold = folder;
+    }
 
 private:
     template <class T>

@@ -91,7 +91,7 @@ TEST_P(AccessibilityOfWindows, TheInputBox)
 TEST_P(AccessibilityOfWindows, TheAboutBox)
 {
     examineNext();
-    dialogs.about();
+    dialogs.about("/home/anna/Tallyhoop");
 }
 
 TEST_P(AccessibilityOfWindows, ThePreview)

@@ -168,15 +168,32 @@ TEST(QtDialogs, AnOrdinaryTextKeepsItsLines)
     asking.dialogs.show({"", text});
 }
 
+TEST(QtDialogs, EnterGivesTheAnswerThatLosesNothing)
+{
+    Asking asking;
+    for (const bool refusalIsDefault : {false, true}) {
+        withNext<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+        EXPECT_EQ(
+            asking.dialogs.show({"", "Replace it?", ui::Buttons::YesNo, ui::Icon::Question, {}, refusalIsDefault}),
+            refusalIsDefault ? ui::Answer::No : ui::Answer::Yes);
+        withNext<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+        EXPECT_EQ(
+            asking.dialogs.show({"", "Lose it?", ui::Buttons::OkCancel, ui::Icon::Question, {}, refusalIsDefault}),
+            refusalIsDefault ? ui::Answer::Cancel : ui::Answer::Ok);
+    }
+}
+
 TEST(QtDialogs, TheAboutBoxNamesTheProgram)
 {
     Asking asking;
     withNext<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), QStringLiteral("About Tallyhoop"));
         EXPECT_TRUE(box.text().startsWith(QStringLiteral("Tallyhoop ")));
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_TRUE(box.informativeText().endsWith(QStringLiteral("\n/home/anna & co/<b>Pool</b>")));
         box.accept();
     });
-    asking.dialogs.about();
+    asking.dialogs.about("/home/anna & co/<b>Pool</b>");
 }
 
 TEST(QtPrinterDialogs, CancelIsReported)

@@ -3,6 +3,7 @@
 
 #include "fakes/fake_dialogs.h"
 #include "fakes/scratch_folder.h"
+#include "files/selection_file.h"
 
 #include <fstream>
 
@@ -77,8 +78,12 @@ TEST_F(AskWhereToSave, AppendsTheExtensionUnlessItIsThereInWhateverCase)
 TEST_F(AskWhereToSave, AsksBeforeAnExistingFileIsReplaced)
 {
     scratch.put("Smith_JS.THC", "another Smith");
-    const ui::Message question{"", "Do you want to replace the existing file ?\r\n" + in("Smith_JS.THC").string(),
-                               ui::Buttons::YesNo, ui::Icon::Question};
+    const ui::Message question{"",
+                               "Do you want to replace the existing file ?\r\n" + in("Smith_JS.THC").string(),
+                               ui::Buttons::YesNo,
+                               ui::Icon::Question,
+                               {},
+                               true};
     EXPECT_FALSE(ask(in("Smith_JS"), {}, ui::Answer::No));
     expectTarget(ask(in("Smith_JS"), {}, ui::Answer::Yes), in("Smith_JS.THC"), SaveKind::Replaced);
     EXPECT_EQ(dialogs.shown, (std::vector{question, question}));
@@ -118,7 +123,6 @@ TEST_F(AskWhereToSave, SavesAnOpenedFileThatIsGoneUnderItsOwnNameWithoutAsking)
 TEST_F(AskWhereToSave, AsksOnceBeforeAnOpenedFileIsSavedUnderAnotherName)
 {
     scratch.put("Smith_JS.THC", "opened");
-    scratch.put("Jones_KJ.THC", "there already");
     const ui::Message question{"",
                                "You opened the file:    " + in("Smith_JS.THC").string() +
                                    "\r\nNow you are attempting to save this \r\n  file under the name:    " +
@@ -127,6 +131,36 @@ TEST_F(AskWhereToSave, AsksOnceBeforeAnOpenedFileIsSavedUnderAnotherName)
     EXPECT_FALSE(ask(in("Jones_KJ"), in("Smith_JS.THC"), ui::Answer::No));
     expectTarget(ask(in("Jones_KJ"), in("Smith_JS.THC"), ui::Answer::Yes), in("Jones_KJ.THC"), SaveKind::NewFile);
     EXPECT_EQ(dialogs.shown, (std::vector{question, question}));
+}
+
+TEST_F(AskWhereToSave, NamesThePlayerWhoseFileAnOpenedOneWouldReplace)
+{
+    scratch.put("Smith_JS.THC", "opened");
+    scratch.put("Jones_KJ.THC", selectionFile({{}, "KJ", "Kim Jones", "150", {}}));
+    const ui::Message question{"",
+                               "There is a file of this name already:    " + in("Jones_KJ.THC").string() +
+                                   "\r\nIt holds the selection of:    Kim Jones (KJ)\r\n"
+                                   "\r\nDo you want to replace that selection?",
+                               ui::Buttons::YesNo,
+                               ui::Icon::Question,
+                               {},
+                               true};
+    dialogs.answer(ui::Answer::Yes); // it is the name that was meant
+    EXPECT_FALSE(ask(in("Jones_KJ"), in("Smith_JS.THC"), ui::Answer::No));
+    ASSERT_EQ(dialogs.shown.size(), 2u);
+    EXPECT_EQ(dialogs.shown.back(), question);
+    dialogs.answer(ui::Answer::Yes);
+    expectTarget(ask(in("Jones_KJ"), in("Smith_JS.THC"), ui::Answer::Yes), in("Jones_KJ.THC"), SaveKind::NewFile);
+}
+
+TEST_F(AskWhereToSave, AsksAboutAnExistingFileAlsoWhenItHoldsNobodysName)
+{
+    scratch.put("Smith_JS.THC", "opened");
+    scratch.put("Jones_KJ.THC", "");
+    dialogs.answer(ui::Answer::Yes);
+    EXPECT_FALSE(ask(in("Jones_KJ"), in("Smith_JS.THC"), ui::Answer::No));
+    EXPECT_EQ(dialogs.shown.back().text, "There is a file of this name already:    " + in("Jones_KJ.THC").string() +
+                                             "\r\n\r\nDo you want to replace that selection?");
 }
 
 TEST_F(AskWhereToSave, TheSameNameElsewhereIsAnotherFile)
