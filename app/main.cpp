@@ -3,6 +3,7 @@
 #include "app/program_folder.h"
 #include "app/start_up.h"
 #include "app/wiring.h"
+#include "files/folder_lock.h"
 #include "files/replace_file.h"
 #include "qt/desk.h"
 #include "qt/look.h"
@@ -12,6 +13,7 @@
 #include "qt/services/qt_help_viewer.h"
 #include "qt/services/qt_printer.h"
 #include "qt/services/qt_system.h"
+#include "qt/text.h"
 #include "screens/help_display.h"
 
 #ifdef _WIN32
@@ -61,6 +63,8 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     const DataFolder folder{*foundFolder};
+    const FolderLock lock{folder.folder()};
+    frame.setToolTip(qt::plainToolTip(qt::toQString(shown(folder.folder()))));
     SharedValues shared;
     qt::QtPrinter printer{desk};
 #ifdef _WIN32
@@ -79,6 +83,10 @@ int main(int argc, char** argv)
     wireScreens(host, desk, folder, platform, shared);
     desk.helpWanted = [&](const std::string& topic) { showHelp(folder, platform, topic); };
     frame.open();
-    QTimer::singleShot(0, &frame, [&] { startUp(folder, platform, host); });
+    QTimer::singleShot(0, &frame, [&] {
+        if (lock.isHeldElsewhere())
+            sayThatItIsOpenAlready(folder, platform);
+        startUp(folder, platform, host);
+    });
     return QApplication::exec();
 }

@@ -21,6 +21,16 @@ constexpr const char* kOfferText = "It looks like you are just starting to work 
 
 } // namespace
 
+void sayThatItIsOpenAlready(const DataFolder& folder, const ui::Platform& platform)
+{
+    platform.dialogs.show({"TALLYHOOP IS OPEN ALREADY",
+                           "Another Tallyhoop has this folder open:\r\n" + shown(folder.folder()) +
+                               "\r\n \r\n"
+                               "You can go on here, but it is better to work in one of the two:\r\n"
+                               "each shows a file as it was when it was opened there.",
+                           ui::Buttons::Ok, ui::Icon::Information});
+}
+
 void startUp(const DataFolder& folder, const ui::Platform& platform, Screens& screens)
 {
     screens.load(ScreenKind::Board);

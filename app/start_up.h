@@ -7,6 +7,9 @@
 
 namespace tallyhoop {
 
+/// Says that another Tallyhoop has the same folder open.
+void sayThatItIsOpenAlready(const DataFolder& folder, const ui::Platform& platform);
+
 /// Shows the board; where no field was ever saved, offers the demonstration and, when it is wanted, reloads the board
 /// on the sample pool.
 void startUp(const DataFolder& folder, const ui::Platform& platform, Screens& screens);

@@ -28,6 +28,15 @@ TEST_F(StartUp, ShowsTheBoardAndAsksNothingWhenAFieldWasSaved)
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
 
+TEST_F(StartUp, NamesTheFolderThatAnotherTallyhoopHasOpen)
+{
+    sayThatItIsOpenAlready(scratch.folder(), platform.services);
+    ASSERT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"TALLYHOOP IS OPEN ALREADY"});
+    EXPECT_TRUE(platform.dialogs.shown[0].text.starts_with("Another Tallyhoop has this folder open:\r\n" +
+                                                           scratch.path().string() + "\r\n"));
+    EXPECT_FALSE(screens.ended) << "one may go on";
+}
+
 TEST_F(StartUp, OffersTheDemonstrationAfterTheBoardIsVisible)
 {
     std::size_t loadsAtTheOffer = 0;

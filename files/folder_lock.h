@@ -1,0 +1,26 @@
+// files/folder_lock.h - tells whether the program is open on a folder already, without leaving anything in it.
+#pragma once
+
+#include <filesystem>
+
+namespace tallyhoop {
+
+/// Held as long as it lives. Another program is not kept out: it is told.
+class FolderLock
+{
+public:
+    /// Tries to hold the folder. Where the system or the file system cannot tell, nobody else has it.
+    explicit FolderLock(const std::filesystem::path& folder);
+    ~FolderLock();
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+
+    /// @returns whether somebody else held it when this one tried
+    bool isHeldElsewhere() const { return m_heldElsewhere; }
+
+private:
+    int m_folder = -1;
+    bool m_heldElsewhere = false;
+};
+
+} // namespace tallyhoop
