@@ -2,6 +2,8 @@
 #include "qt/key_presses.h"
 #include "qt/page.h"
 
+#include <QEnterEvent>
+
 namespace tallyhoop::qt {
 
 bool Page::eventFilter(QObject* watched, QEvent* event)
@@ -11,7 +13,7 @@ bool Page::eventFilter(QObject* watched, QEvent* event)
         return QMainWindow::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::Enter:
-        m_statusLine.pointerCameTo(*control);
+        m_statusLine.pointerCameTo(*control, static_cast<QEnterEvent*>(event)->globalPosition().toPoint());
         break;
     case QEvent::Leave:
         m_statusLine.pointerLeft(*control);

@@ -5,6 +5,8 @@
 #include "qt/text.h"
 #include "qt/widgets/elided_label.h"
 
+#include <QApplication>
+#include <QCursor>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <algorithm>
@@ -19,9 +21,13 @@ constexpr int kEdge = look::kSection - 2; ///< aligns with the page's margin; th
 
 StatusLine::StatusLine(QMainWindow& page, const ui::Screen& screen) : m_page{page}, m_screen{screen} {}
 
-void StatusLine::pointerCameTo(const ui::Control& control)
+void StatusLine::pointerCameTo(const ui::Control& control, const QPoint& where)
 {
+    // Closing a box or a menu puts the pointer above another control, with the small shake of the hand that pressed.
+    if (m_restsAt && (where - *m_restsAt).manhattanLength() >= QApplication::startDragDistance())
+        m_restsAt.reset();
     m_pointed = &control;
+    m_pointerMoved = !m_restsAt;
     explain();
 }
 
@@ -35,7 +41,7 @@ void StatusLine::pointerLeft(const ui::Control& control)
 void StatusLine::focusMoved(bool first)
 {
     m_focusMoved = !first && !m_spokenNow;
-    m_pointed = nullptr;
+    m_pointerMoved = false;
 }
 
 void StatusLine::entryReached(const QString& explanation)
@@ -86,13 +92,21 @@ void StatusLine::make()
 /// When the screen speaks, a control has to be reached anew before it is explained again.
 void StatusLine::listen()
 {
-    if (m_heard == m_screen.news() && m_heardExplanation == m_screen.explanation)
+    const bool isNews = m_heard != m_screen.news();
+    const bool isOther = m_heardExplanation != m_screen.explanation;
+    if (!isNews && !isOther)
         return;
     m_heard = m_screen.news();
     m_heardExplanation = m_screen.explanation;
+    if (m_heard.text.empty() && !isOther) {
+        m_restsAt.reset();
+        m_pointerMoved = m_pointed != nullptr;
+        return;
+    }
     m_spokenNow = true;
     m_focusMoved = false;
-    m_pointed = nullptr;
+    m_pointerMoved = false;
+    m_restsAt = QCursor::pos();
 }
 
 void StatusLine::explain()
@@ -107,7 +121,7 @@ QString StatusLine::sentence() const
 {
     if (!m_entryExplained.isEmpty())
         return m_entryExplained;
-    if (m_pointed && !m_pointed->explanation.empty())
+    if (m_pointed && m_pointerMoved && !m_pointed->explanation.empty())
         return toQString(m_pointed->explanation);
     if (m_focus && m_focusMoved && !m_focus->explanation.empty())
         return toQString(m_focus->explanation);

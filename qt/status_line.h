@@ -3,7 +3,9 @@
 
 #include "ui/screen.h"
 
+#include <QPoint>
 #include <QString>
+#include <optional>
 
 class QLabel;
 class QMainWindow;
@@ -19,7 +21,8 @@ class StatusLine
 public:
     StatusLine(QMainWindow& page, const ui::Screen& screen);
 
-    void pointerCameTo(const ui::Control& control);
+    /// @param where the pointer is, on the desktop
+    void pointerCameTo(const ui::Control& control, const QPoint& where);
     void pointerLeft(const ui::Control& control);
 
     /// The focus came to another control. One that came with the window, or by a command that said something as well,
@@ -51,9 +54,11 @@ private:
     const ui::Control* m_focus = nullptr;
 
     // What was reached since the screen last spoke.
-    const ui::Control* m_pointed = nullptr;
+    const ui::Control* m_pointed = nullptr; ///< where the pointer is
+    bool m_pointerMoved = false;            ///< it came there since then
     bool m_focusMoved = false;
-    bool m_spokenNow = false; ///< in the command that is running
+    bool m_spokenNow = false;        ///< in the command that is running
+    std::optional<QPoint> m_restsAt; ///< the pointer, as long as it has not moved since the screen spoke
 
     QString m_entryExplained; ///< of the highlighted menu entry; empty = none
     ui::Screen::News m_heard; ///< the screen's news and explanation when it last spoke

@@ -15,7 +15,8 @@
 //   5. the explanation of the control that has the focus
 //
 // When a screen says something, or its own explanation changes, a control has to be reached anew to count for 2, and
-// the focus that the same command moved does not count: what happens last is shown.
+// the focus that the same command moved does not count: what happens last is shown. A pointer at rest reaches nothing,
+// also when a box closes and leaves it above another control. When news end, the pointer counts again.
 #pragma once
 
 #include "ui/control.h"

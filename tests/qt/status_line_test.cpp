@@ -117,6 +117,28 @@ TEST_F(StatusLineTest, NewsAreShownUntilPointerOrFocusMoves)
     EXPECT_EQ(shown(), QStringLiteral("Who it is."));
 }
 
+TEST_F(StatusLineTest, NewsAreShownWhenABoxClosesAboveAControl)
+{
+    const QPoint rest = page.title->mapToGlobal(page.title->rect().center());
+    QCursor::setPos(rest);
+    desk.run(screen, [&] { screen.say("It is saved."); });
+    pointerComesTo(*page.title); // which was below the box
+    EXPECT_EQ(shown(), QStringLiteral("It is saved."));
+    pointerLeaves(*page.title);
+    pointerComesTo(*page.ok);
+    EXPECT_EQ(shown(), QStringLiteral("Goes on.")) << "now it has moved";
+    pointerComesTo(*page.title);
+    EXPECT_EQ(shown(), QStringLiteral("Names the sample."));
+}
+
+TEST_F(StatusLineTest, WhenNewsEndThePointerCountsAgain)
+{
+    pointerComesTo(*page.ok);
+    desk.run(screen, [&] { screen.say("It is saved."); });
+    desk.run(screen, [&] { screen.say({}); });
+    EXPECT_EQ(shown(), QStringLiteral("Goes on."));
+}
+
 TEST_F(StatusLineTest, TheSameNewsAreShownAgain)
 {
     desk.run(screen, [&] { screen.say("It is saved."); });
