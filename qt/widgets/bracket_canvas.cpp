@@ -218,6 +218,14 @@ std::optional<Position> BracketCanvas::positionAt(const QPoint& point) const
     return at == allPositions().end() ? std::nullopt : std::optional{*at};
 }
 
+/// A place and its marker are outlined as one box: a team that is let go above the marker has arrived.
+std::optional<Position> BracketCanvas::landingAt(const QPoint& point) const
+{
+    const auto isAbove = [&](Position game) { return m_markers[*gameOf(game)]->geometry().contains(point); };
+    const auto at = std::ranges::find_if(gamePositions(), isAbove);
+    return at == gamePositions().end() ? positionAt(point) : std::optional{*at};
+}
+
 // Labels ignore the mouse, so every press on the bracket comes here, whether its label is enabled or not.
 void BracketCanvas::mousePressEvent(QMouseEvent* event)
 {
@@ -263,7 +271,7 @@ void BracketCanvas::mouseReleaseEvent(QMouseEvent* event)
         return;
     m_pressed = false;
     m_dragged->hide();
-    const std::optional<Position> position = positionAt(event->pos());
+    const std::optional<Position> position = landingAt(event->pos());
     m_page.run([this, position] {
         if (position)
             m_board.dropOnPosition(*position);

@@ -42,6 +42,7 @@ private:
     void chooseFonts();
     double fittingSize() const;
     std::optional<Position> positionAt(const QPoint& point) const;
+    std::optional<Position> landingAt(const QPoint& point) const;
     void hover(std::optional<Position> position);
     void showDrag(const QPoint& point);
     void loseDrag();

@@ -218,6 +218,24 @@ TEST_F(BoardViewTest, ADragWithoutAReleaseIsCancelled)
     EXPECT_EQ(team(24), "");
 }
 
+TEST_F(BoardViewTest, ATeamMayBeLetGoAboveTheMarkerOfAPlace)
+{
+    const QWidget& marker = find(QStringLiteral("lblResult_8")); // of place 24
+    pressAndDrag(place(0), onBracket(marker));
+    release(onBracket(marker));
+    EXPECT_EQ(team(24), "Arizona");
+    EXPECT_FALSE(board.isDragging());
+}
+
+TEST_F(BoardViewTest, APressOnAMarkerPicksNothing)
+{
+    const QWidget& marker = find(QStringLiteral("lblResult_8"));
+    const std::string before = team(28);
+    pressAndDrag(marker, onBracket(marker));
+    release(onBracket(marker));
+    EXPECT_EQ(team(28), before);
+}
+
 TEST_F(BoardViewTest, PressesOnTheFormAndOnDisabledLabelsRaiseTheScoreDisplay)
 {
     screens.open.insert(ScreenKind::Scores);
