@@ -50,6 +50,21 @@ class ScoreDisplay(unittest.TestCase):
         self.program.click("lblRegion_30")
         self.program.wait(lambda: self.program.text("lblRegion_124") == "Wisconsin", "the board being in use again")
 
+    def active(self):
+        return [window["name"] for window in self.program.windows() if window["active"]]
+
+    def test_a_press_anywhere_on_the_board_brings_the_scores_to_the_front(self):
+        # A row and a winner's place, a marker, a seed, a caption, a field, a comment: all of them are disabled.
+        for place in ("lblRegion_0", "lblRegion_16", "lblResult_0", "txtSeed_0", "lblRegionTitle_0", "txtPlayerName",
+                      "txtComment1"):
+            with self.subTest(place):
+                self.program.menu("mnuHelp")
+                self.program.key("Escape")
+                self.program.wait(lambda: self.active() == ["frmPoolMIDI"], "the frame having the focus")
+                x, y, width, height = self.program.widget(place)["rect"]
+                self.program.click_at((x + width // 2, y + height // 2))
+                self.program.wait(lambda: self.active() == ["frmPoolMisc"], f"the scores in front after {place}")
+
 
 if __name__ == "__main__":
     unittest.main()
