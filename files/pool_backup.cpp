@@ -117,7 +117,13 @@ Result<fs::path> backUp(const DataFolder& folder, const std::vector<std::string>
     for (const std::string& name : names)
         if (const std::optional<fs::path> source = folder.pathOf(name))
             sources.push_back(*source);
-    return keep(folder, sources, now, Unreadable::Fails);
+    return backUpFiles(folder, sources, now);
+}
+
+Result<fs::path> backUpFiles(const DataFolder& folder, const std::vector<fs::path>& files,
+                             std::chrono::local_seconds now)
+{
+    return keep(folder, files, now, Unreadable::Fails);
 }
 
 Result<fs::path> backUpFile(const fs::path& file, std::chrono::local_seconds now)

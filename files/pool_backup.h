@@ -24,4 +24,8 @@ Result<std::filesystem::path> backUp(const DataFolder& folder, const std::vector
 /// system can give a file a second name: the caller may then replace the first one.
 Result<std::filesystem::path> backUpFile(const std::filesystem::path& file, std::chrono::local_seconds now);
 
+/// The same for paths: two files of the folder may have names that look alike as text.
+Result<std::filesystem::path> backUpFiles(const DataFolder& folder, const std::vector<std::filesystem::path>& files,
+                                          std::chrono::local_seconds now);
+
 } // namespace tallyhoop

@@ -24,6 +24,13 @@ public:
 
     /// Prints what is on the board.
     virtual void printForm() = 0;
+
+    /// @returns whether results are on the board that no file holds as they are
+    virtual bool holdsUnsavedResults() const = 0;
+
+    /// Before the board turns to something else: offers to save such results. @returns false when it must not, because
+    /// the person does not want to, or because they could not be saved
+    virtual bool keepResults() = 0;
 };
 
 } // namespace tallyhoop

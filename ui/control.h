@@ -194,7 +194,7 @@ enum class MenuIcon {
 
 /// An entry of a menu, or a menu when it has children.
 struct MenuEntry : Control {
-    MenuEntry(Screen* owner, std::string_view name, std::string caption, std::function<void()> action = {},
+    MenuEntry(Screen* owner, std::string_view name, std::string caption = {}, std::function<void()> action = {},
               std::string shortcut = {});
 
     std::string caption;  ///< an `&` marks the mnemonic

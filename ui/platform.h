@@ -39,6 +39,9 @@ public:
     /// @returns nothing while it runs, or when none was started; a failure, with what the program says of it, when it
     ///          has failed
     virtual std::optional<Result<Done>> waitForEnd(std::chrono::milliseconds atMost) = 0;
+
+    /// Asks the desktop to show a folder. @returns a failure when it has nothing that does
+    virtual Result<Done> openFolder(const std::filesystem::path& folder) = 0;
 };
 
 class Clock

@@ -7,10 +7,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDateTime>
+#include <QDesktopServices>
 #include <QFileInfo>
 #include <QLabel>
 #include <QProcess>
 #include <QProgressDialog>
+#include <QUrl>
 #include <system_error>
 
 namespace tallyhoop::qt {
@@ -86,6 +88,13 @@ std::optional<Result<Done>> QtPrograms::waitForEnd(std::chrono::milliseconds atM
         return Done{};
     const QString errors = QString::fromUtf8(m_started->readAllStandardError()).trimmed();
     return Failure{errors.isEmpty() ? "It ended without saying why." : withCrLf(fromQString(errors))};
+}
+
+Result<Done> QtPrograms::openFolder(const std::filesystem::path& folder)
+{
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(fromPath(folder))))
+        return Done{};
+    return Failure{"No program was found that shows folders."};
 }
 
 std::chrono::year_month_day QtClock::today() const

@@ -24,6 +24,7 @@ public:
     Result<Done> check(const std::filesystem::path& program) override;
     Result<Done> start(const std::filesystem::path& program) override;
     std::optional<Result<Done>> waitForEnd(std::chrono::milliseconds atMost) override;
+    Result<Done> openFolder(const std::filesystem::path& folder) override;
 
 private:
     std::unique_ptr<QProcess> m_started;

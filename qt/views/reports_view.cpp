@@ -29,6 +29,7 @@ ReportsView::ReportsView(ReportsScreen& reports, Desk& desk) : Page{reports, des
 
     auto* const leaving = look::row();
     leaving->addStretch(1);
+    leaving->addWidget(add(reports.cmdOpenFolder));
     leaving->addWidget(add(reports.cmdExit));
     groups->addLayout(leaving);
 

@@ -3,6 +3,19 @@
 
 namespace tallyhoop {
 
+namespace {
+
+/// A name as part of a caption, in which an `&` would mark a mnemonic.
+std::string plain(std::string_view name)
+{
+    std::string caption;
+    for (const char character : name)
+        caption.append(character == '&' ? 2 : 1, character);
+    return caption;
+}
+
+} // namespace
+
 BoardMenus::BoardMenus(ui::Screen* owner, BoardCommands& commands, const BoardExits& exits)
     : m_owner{owner}, m_do{commands}, m_go{exits}
 {
@@ -13,8 +26,13 @@ BoardMenus::BoardMenus(ui::Screen* owner, BoardCommands& commands, const BoardEx
 
 void BoardMenus::arrange()
 {
-    mnuFile.children = {&mnuNewSelection, &mnuOpenSelection, &mnuSaveSelection, nullptr,
-                        &mnuPrintPreview, &mnuPrintForm,     nullptr,           &mnuExit};
+    for (std::size_t i = 0; i < mnuRecentFile.size(); ++i) {
+        mnuRecentFile[i].action = [this, i] { m_do.openRecent(i); };
+        mnuRecent.children.push_back(&mnuRecentFile[i]);
+    }
+    mnuFile.children = {&mnuNewSelection,  &mnuOpenSelection, &mnuRecent,       &mnuPrevious,  &mnuNext,
+                        &mnuSaveSelection, nullptr,           &mnuPrintPreview, &mnuPrintForm, nullptr,
+                        &mnuOpenFolder,    &mnuBackUp,        nullptr,          &mnuExit};
     mnuEdit.children = {&mnuUndo, &mnuRedo};
     mnuEntryAssist.children = {&mnuHighSeed};
     mnuOptions.children = {&mnuScoreSelections, &mnuGameResults, nullptr, &mnuEntryAssist, nullptr, &mnuEditNames};
@@ -32,6 +50,9 @@ void BoardMenus::chooseIcons()
     mnuPrintPreview.icon = ui::MenuIcon::Preview;
     mnuPrintForm.icon = ui::MenuIcon::Print;
     mnuExit.icon = ui::MenuIcon::Exit;
+    mnuPrevious.icon = mnuNext.icon = ui::MenuIcon::Open;
+    mnuOpenFolder.icon = ui::MenuIcon::Open;
+    mnuBackUp.icon = ui::MenuIcon::Save;
     mnuUndo.icon = ui::MenuIcon::Undo;
     mnuRedo.icon = ui::MenuIcon::Redo;
     mnuScoreSelections.icon = ui::MenuIcon::Score;
@@ -49,6 +70,15 @@ void BoardMenus::explain()
 {
     mnuNewSelection.explanation = "Empties the board for another player's selection.";
     mnuOpenSelection.explanation = "Shows a selection that was saved before.";
+    mnuRecent.explanation = "The selections that were opened or saved last.";
+    for (std::size_t i = 0; i < mnuRecentFile.size(); ++i) {
+        mnuRecentFile[i].explanation = "Shows this selection, which was opened or saved lately.";
+        mnuRecentFile[i].icon = ui::MenuIcon::Open;
+    }
+    mnuPrevious.explanation = "Shows the selection before this one in the program's folder.";
+    mnuNext.explanation = "Shows the selection after this one in the program's folder.";
+    mnuOpenFolder.explanation = "Shows the folder that holds the pool.";
+    mnuBackUp.explanation = "Copies the pool's files into a new folder inside this one, named after day and time.";
     mnuSaveSelection.explanation = "Saves the selection, or the results, as shown on the board.";
     mnuPrintPreview.explanation = "Shows the board as it will be printed.";
     mnuPrintForm.explanation = "Prints the board on one page.";
@@ -71,18 +101,31 @@ void BoardMenus::explain()
 void BoardMenus::enableMenus(const BoardState& state)
 {
     mnuNewSelection.enabled = mnuOpenSelection.enabled = state.finalized;
+    mnuPrevious.enabled = mnuNext.enabled = state.finalized;
+    showRecent(state);
     mnuSaveSelection.enabled = state.finalized && !state.scored;
     mnuGameResults.enabled = state.finalized && !state.resultsMode;
     mnuScoreSelections.enabled = state.finalized && !state.scored && (state.resultsMode || state.resultsThere);
     mnuReports.enabled = state.finalized && !state.reportsOpen;
-    mnuHighSeed.enabled = !state.marked;
     const bool editable = !state.marked && !state.scoreListOpen;
+    mnuHighSeed.enabled = editable;
     mnuUndo.enabled = editable && state.canUndo;
     mnuRedo.enabled = editable && state.canRedo;
     // A field that is final is not to be changed any more, but for that of the sample pool.
     mnuSetup.enabled = mnuDemo.enabled = state.demo || !state.finalized;
     mnuDemoSet.enabled = !state.demo && state.mayStartDemo;
     mnuDemoReset.enabled = state.demo;
+}
+
+void BoardMenus::showRecent(const BoardState& state)
+{
+    mnuRecent.enabled = state.finalized && !state.recent.empty();
+    for (std::size_t i = 0; i < mnuRecentFile.size(); ++i) {
+        const bool isThere = i < state.recent.size();
+        mnuRecentFile[i].visible = mnuRecentFile[i].enabled = isThere;
+        mnuRecentFile[i].caption =
+            "&" + std::to_string(i + 1) + " " + (isThere ? plain(state.recent[i]) : std::string{});
+    }
 }
 
 } // namespace tallyhoop

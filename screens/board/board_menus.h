@@ -4,6 +4,9 @@
 #include "screens/board/board_exits.h"
 #include "ui/screen.h"
 
+#include <string>
+#include <vector>
+
 namespace tallyhoop {
 
 /// What the menus can ask of the board.
@@ -22,7 +25,13 @@ public:
     virtual void scoreSelections() = 0;
     virtual void enterGameResults() = 0;
     virtual void selectHighSeeds() = 0;
+    virtual void openRecent(std::size_t index) = 0; ///< 0 = used last
+    virtual void openNeighbour(int step) = 0;       ///< -1 = the selection before the open one in the folder, 1 = after
+    virtual void openFolder() = 0;
+    virtual void backUpPool() = 0;
 };
+
+inline constexpr std::size_t kRecentSelections = 5;
 
 /// What decides which entries can be chosen.
 struct BoardState {
@@ -35,6 +44,7 @@ struct BoardState {
     bool marked = false;       ///< they are, or those of a player chosen in the list of scores
     bool scoreListOpen = false;
     bool reportsOpen = false;
+    std::vector<std::string> recent = {}; ///< names of the selections used last, at most kRecentSelections
     bool canUndo = false;
     bool canRedo = false;
 };
@@ -55,6 +65,13 @@ public:
                                    "Ctrl+O"};
     ui::MenuEntry mnuSaveSelection{m_owner, "mnuSaveSelection", "&Save Selection", [this] { m_do.saveSelection(); },
                                    "Ctrl+S"};
+    ui::MenuEntry mnuRecent{m_owner, "mnuRecent", "Open R&ecent"};
+    ui::ControlArray<ui::MenuEntry, kRecentSelections> mnuRecentFile{m_owner, "mnuRecentFile"};
+    ui::MenuEntry mnuPrevious{m_owner, "mnuPrevious", "P&revious Selection", [this] { m_do.openNeighbour(-1); },
+                              "Ctrl+PgUp"};
+    ui::MenuEntry mnuNext{m_owner, "mnuNext", "Nex&t Selection", [this] { m_do.openNeighbour(1); }, "Ctrl+PgDown"};
+    ui::MenuEntry mnuOpenFolder{m_owner, "mnuOpenFolder", "Open &Folder", [this] { m_do.openFolder(); }};
+    ui::MenuEntry mnuBackUp{m_owner, "mnuBackUp", "&Back Up Pool", [this] { m_do.backUpPool(); }};
     ui::MenuEntry mnuPrintPreview{m_owner, "mnuPrintPreview", "Print Pre&view", [this] { m_do.previewForm(); }};
     ui::MenuEntry mnuPrintForm{m_owner, "mnuPrintForm", "&Print Form", [this] { m_do.printForm(); }, "Ctrl+P"};
     ui::MenuEntry mnuExit{m_owner, "mnuExit", "E&xit", [this] { m_go.endProgram(); }, "Ctrl+Q"};
@@ -63,14 +80,15 @@ public:
     ui::MenuEntry mnuRedo{m_owner, "mnuRedo", "&Redo", [this] { m_do.redo(); }, "Ctrl+Shift+Z"};
     ui::MenuEntry mnuOptions{m_owner, "mnuOptions", "&Options"};
     ui::MenuEntry mnuScoreSelections{m_owner, "mnuScoreSelections", "&Score Selections",
-                                     [this] { m_do.scoreSelections(); }};
-    ui::MenuEntry mnuGameResults{m_owner, "mnuGameResults", "Enter &Game Results", [this] { m_do.enterGameResults(); }};
+                                     [this] { m_do.scoreSelections(); }, "F6"};
+    ui::MenuEntry mnuGameResults{m_owner, "mnuGameResults", "Enter &Game Results", [this] { m_do.enterGameResults(); },
+                                 "F5"};
     ui::MenuEntry mnuEntryAssist{m_owner, "mnuEntryAssist", "Entry &Assist"};
     ui::MenuEntry mnuHighSeed{m_owner, "mnuHighSeed", "Select &High Seeds", [this] { m_do.selectHighSeeds(); }};
-    ui::MenuEntry mnuEditNames{m_owner, "mnuEditNames", "Edit &Names File", [this] { m_go.toPlayers(); }};
+    ui::MenuEntry mnuEditNames{m_owner, "mnuEditNames", "Edit &Names File", [this] { m_go.toPlayers(); }, "F8"};
     ui::MenuEntry mnuSetup{m_owner, "mnuSetup", "&Setup"};
     ui::MenuEntry mnuSetupOptions{m_owner, "mnuSetupOptions", "Setup &Pool Options", [this] { m_go.toSetup(); }};
-    ui::MenuEntry mnuReports{m_owner, "mnuReports", "&Reports", [this] { m_go.toReports(); }};
+    ui::MenuEntry mnuReports{m_owner, "mnuReports", "&Reports", [this] { m_go.toReports(); }, "F7"};
     ui::MenuEntry mnuDemo{m_owner, "mnuDemo", "&DEMO Mode"};
     ui::MenuEntry mnuDemoSet{m_owner, "mnuDemoSet", "DEMO-&Start", [this] { m_go.toDemo(); }};
     ui::MenuEntry mnuDemoReset{m_owner, "mnuDemoReset", "DEMO-&Reset", [this] { m_go.fromDemo(); }};
@@ -83,6 +101,7 @@ public:
 
 private:
     void arrange();
+    void showRecent(const BoardState& state);
     void chooseIcons();
     void explain();
 };

@@ -12,11 +12,19 @@
 
 namespace tallyhoop {
 
+/// Whose names are on a board with markers.
+enum class MarkedNames {
+    Picks,   ///< those of the player whose picks are marked
+    Results, ///< the markers say what a player chosen in the list of scores has made of these games
+};
+
 struct BoardPicture {
     const Field& field;
     const Bracket& bracket;
     const Verdicts* verdicts = nullptr; ///< nullptr = the picks are not marked
     bool demo = false;
+    MarkedNames names = MarkedNames::Picks;
+    const Bracket* results = nullptr; ///< that the picks were marked with; nullptr = not known here
 
     /// @returns the verdict on a pick; None where nothing is marked
     Verdict verdictAt(Position position) const { return verdicts ? (*verdicts)[position] : Verdict::None; }

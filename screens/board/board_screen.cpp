@@ -6,6 +6,7 @@
 #include "files/setup_file.h"
 #include "pool/moves.h"
 #include "screens/board/board_geometry.h"
+#include "screens/board/board_words.h"
 #include "screens/help_topics.h"
 #include "screens/saving.h"
 
@@ -16,7 +17,7 @@ namespace tallyhoop {
 BoardScreen::BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared)
     : Screen{"frmPoolMain", "Tallyhoop"},
       BracketPanel{this},
-      PlayerStrip{this, [this] { unsaved = true; }, [this] { unmarkPicks(); }},
+      PlayerStrip{this, [this] { wasChanged(); }, [this] { unmarkPicks(); }},
       BoardMenus{this, *this, {folder, platform, screens}},
       m_folder{folder},
       m_platform{platform},
@@ -26,7 +27,11 @@ BoardScreen::BoardScreen(const DataFolder& folder, const ui::Platform& platform,
     focused = &txtPlayerInitials;
 }
 
-void BoardScreen::load() { loadBoard(); }
+void BoardScreen::load()
+{
+    m_recent.begin(m_folder);
+    loadBoard();
+}
 
 void BoardScreen::unloading() { m_shared.savedPlayer.reset(); }
 
@@ -71,7 +76,15 @@ const Verdicts* BoardScreen::shownVerdicts() const
     return m_shared.listedVerdicts ? &*m_shared.listedVerdicts : nullptr;
 }
 
-BoardPicture BoardScreen::picture() const { return {m_shared.field, m_bracket, shownVerdicts(), m_demo}; }
+BoardPicture BoardScreen::picture() const
+{
+    return {m_shared.field,
+            m_bracket,
+            shownVerdicts(),
+            m_demo,
+            m_verdicts ? MarkedNames::Picks : MarkedNames::Results,
+            m_verdicts ? &m_results : nullptr};
+}
 
 BoardState BoardScreen::state() const
 {
@@ -84,6 +97,7 @@ BoardState BoardScreen::state() const
             .marked = shownVerdicts() != nullptr,
             .scoreListOpen = m_screens.isLoaded(ScreenKind::Scores),
             .reportsOpen = m_screens.isLoaded(ScreenKind::Reports),
+            .recent = m_recent.names(),
             .canUndo = m_history.canUndo(),
             .canRedo = m_history.canRedo()};
 }
@@ -104,6 +118,7 @@ void BoardScreen::showState()
     enableMenus(now);
     document = documentName();
     explanation = whatToDo();
+    status = now.finalized ? progressOf(m_bracket, m_resultsMode) : std::string{};
 }
 
 std::string BoardScreen::documentName() const
@@ -118,6 +133,11 @@ std::string BoardScreen::whatToDo() const
     if (m_resultsMode)
         return "Game results: click the real winners forward and save.";
     return "Click the winners forward, then enter initials, name and the final's total points.";
+}
+
+std::string BoardScreen::thisSelection() const
+{
+    return m_openedFile.empty() ? "this selection" : shown(m_openedFile.filename());
 }
 
 /// The board as an entry, its texts as they are typed.
@@ -160,7 +180,14 @@ void BoardScreen::change(const Bracket& after)
         return;
     m_history.remember(snapshot());
     m_bracket = after;
+    wasChanged();
+}
+
+/// What was said of the board before is no longer true of it.
+void BoardScreen::wasChanged()
+{
     unsaved = true;
+    say({});
 }
 
 void BoardScreen::selectHighSeeds() { change(withHighSeeds(m_bracket, seedNumbers(m_shared.field))); }
@@ -194,11 +221,11 @@ void BoardScreen::restore(const BoardSnapshot& board)
     m_bracket = board.entry.picks;
     m_openedFile = board.openedFile;
     unsaved = board.unsaved || typedSince;
+    say({});
     if (board.resultsMode == m_resultsMode)
         return;
     m_resultsMode = board.resultsMode;
     m_resultsThere = m_files.resultsExist();
-    say({});
 }
 
 bool BoardScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)

@@ -10,6 +10,7 @@
 #include "screens/board/board_menus.h"
 #include "screens/board/bracket_panel.h"
 #include "screens/board/player_strip.h"
+#include "screens/board/recent_selections.h"
 #include "screens/board_printouts.h"
 #include "screens/hand_overs.h"
 #include "screens/screens.h"
@@ -64,6 +65,8 @@ public:
     void enterGameResults() override;
     void showScored(const std::filesystem::path& file) override;
     void printForm() override;
+    bool holdsUnsavedResults() const override { return m_resultsMode && unsaved; }
+    bool keepResults() override;
 
     // Screen
     std::string helpTopic() const override;
@@ -89,6 +92,10 @@ private:
     void redo() override;
     void scoreSelections() override;
     void selectHighSeeds() override;
+    void openRecent(std::size_t index) override;
+    void openNeighbour(int step) override;
+    void openFolder() override;
+    void backUpPool() override;
 
     // Showing.
     BoardPicture picture() const;
@@ -98,20 +105,25 @@ private:
     std::string documentName() const;
     std::string whatToDo() const;
     Entry typed() const;
+    std::string thisSelection() const;
 
     // Changing.
     void loadBoard();
     void showEntry(Entry entry);
     void beginUnmarked();
     void change(const Bracket& after);
+    void wasChanged();
     bool keyOnPosition(Position position, const ui::KeyPress& press);
     BoardSnapshot snapshot() const;
     void restore(const BoardSnapshot& board);
 
     // Files.
     void showSelection(const std::filesystem::path& file);
+    bool fieldIsStillFinal();
+    bool mayBeReplaced();
     bool mayBeSaved();
-    void saveResults();
+    bool trySaving();
+    bool saveResults();
     bool saveSelectionIn(const std::filesystem::path& file, SaveKind kind);
     bool save(const std::filesystem::path& file);
     void markPicks();
@@ -126,6 +138,7 @@ private:
 
     Bracket m_bracket;
     std::optional<Verdicts> m_verdicts; ///< on the picks, while they are marked
+    Bracket m_results;                  ///< that they were marked with
     std::optional<ShownScore> m_score;  ///< of the picks, when they were last scored
     std::filesystem::path m_openedFile; ///< opened or saved last; empty after New Selection and at the start
     bool m_resultsMode = false;         ///< the board holds the results
@@ -134,6 +147,7 @@ private:
 
     std::optional<Drag> m_drag;
     BoardHistory m_history;
+    RecentSelections m_recent;
     int m_sheet = 0; ///< counts the boards that New began
     BoardFiles m_files{m_folder, m_platform};
 };

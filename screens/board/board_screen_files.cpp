@@ -3,9 +3,12 @@
 #include "base/windows1252.h"
 #include "files/file_names.h"
 #include "files/selection_file.h"
+#include "files/setup_file.h"
 #include "pool/entry_check.h"
 #include "screens/board/board_drawing.h"
 #include "screens/board/board_screen.h"
+#include "screens/board/board_words.h"
+#include "screens/board/pool_copy.h"
 #include "screens/board/selection_saving.h"
 #include "screens/printing_trouble.h"
 #include "screens/saving.h"
@@ -18,10 +21,32 @@ namespace {
 
 constexpr const char* kNoResultsText = "The file TALLYHOOP.THS is not present in the application directory!";
 
+const ui::Message kUnsaved{"UNSAVED CHANGES",
+                           "The board holds changes that are not saved.\r\n"
+                           "If you continue, they are lost.",
+                           ui::Buttons::OkCancel,
+                           ui::Icon::Question,
+                           {},
+                           true};
+const ui::Message kResultsUnsaved{"UNSAVED RESULTS",
+                                  "The board holds results that are not saved.\r\n"
+                                  "If you continue, they are saved first.",
+                                  ui::Buttons::OkCancel, ui::Icon::Question};
+const ui::Message kNoLongerFinal{"FIELD IS NO LONGER FINAL",
+                                 "Another program has changed the field: it is no longer finalized.\r\n"
+                                 "If you continue, nothing can be saved until it is finalized again\r\n"
+                                 "in the setup, and what is on the board is lost then.",
+                                 ui::Buttons::OkCancel,
+                                 ui::Icon::Question,
+                                 {},
+                                 true};
+
 } // namespace
 
 void BoardScreen::newSelection()
 {
+    if (!fieldIsStillFinal())
+        return;
     leaveScoreList();
     const BoardSnapshot before = snapshot();
     BoardHistory history = m_history;
@@ -31,6 +56,50 @@ void BoardScreen::newSelection()
     m_history.remember(before);
     ++m_sheet;
 }
+
+/// A board on a field that is no longer final can neither be saved nor left for another selection.
+bool BoardScreen::fieldIsStillFinal()
+{
+    const Read<Field> field = readField(m_folder, m_shared.field);
+    return field.trouble || field.value.isFinalized() || !m_shared.field.isFinalized() ||
+           m_platform.dialogs.show(kNoLongerFinal) == ui::Answer::Ok;
+}
+
+void BoardScreen::openRecent(std::size_t index)
+{
+    const std::optional<std::filesystem::path> file = m_recent.at(index);
+    if (!file || !mayBeReplaced())
+        return;
+    leaveScoreList();
+    showSelection(*file);
+}
+
+void BoardScreen::openNeighbour(int step)
+{
+    const std::optional<std::filesystem::path> file = neighbouringSelection(m_folder, m_openedFile, step);
+    if (!file) {
+        say(m_folder.files(file_name::kSelectionExtension).empty() ? "There are no selections in the folder yet."
+            : step > 0                                             ? "This is the last selection of the folder."
+                                                                   : "This is the first selection of the folder.");
+        return;
+    }
+    if (!mayBeReplaced())
+        return;
+    leaveScoreList();
+    showSelection(*file);
+}
+
+/// One key is pressed by mistake sooner than a file is chosen in a dialog.
+bool BoardScreen::mayBeReplaced() { return !unsaved || m_platform.dialogs.show(kUnsaved) == ui::Answer::Ok; }
+
+void BoardScreen::openFolder()
+{
+    const Result<Done> shownThere = m_platform.programs.openFolder(m_folder.folder());
+    say(shownThere ? "The folder of the pool: " + shown(m_folder.folder())
+                   : "The folder cannot be shown here. It is " + shown(m_folder.folder()));
+}
+
+void BoardScreen::backUpPool() { say(tallyhoop::backUpPool(m_folder, m_platform)); }
 
 void BoardScreen::openSelection()
 {
@@ -47,21 +116,29 @@ void BoardScreen::showSelection(const std::filesystem::path& file)
     showEntry(m_files.read(file, m_shared.field));
     m_openedFile = file;
     beginUnmarked();
+    m_recent.note(file);
     say("Opened " + shown(file.filename()) + ".");
 }
 
 void BoardScreen::saveSelection()
 {
+    if (!trySaving())
+        say("Not saved.");
+}
+
+bool BoardScreen::trySaving()
+{
     if (!mayBeSaved())
-        return;
-    if (m_resultsMode) {
-        saveResults();
-        return;
-    }
+        return false;
+    if (m_resultsMode)
+        return saveResults();
     const bool isNew = m_openedFile.empty();
     const std::optional<SaveTarget> target = askWhereToSave(m_platform.dialogs, m_folder, typed(), m_openedFile);
-    if (target && saveSelectionIn(target->file, target->kind) && isNew)
+    if (!target || !saveSelectionIn(target->file, target->kind))
+        return false;
+    if (isNew)
         m_screens.load(ScreenKind::Players);
+    return true;
 }
 
 bool BoardScreen::mayBeSaved()
@@ -79,12 +156,13 @@ bool BoardScreen::mayBeSaved()
     return false;
 }
 
-void BoardScreen::saveResults()
+bool BoardScreen::saveResults()
 {
     if (!save(m_files.results()))
-        return;
+        return false;
     m_history.boardWasSaved(m_sheet, m_openedFile);
     say("The results are saved.");
+    return true;
 }
 
 bool BoardScreen::saveSelectionIn(const std::filesystem::path& file, SaveKind kind)
@@ -94,8 +172,9 @@ bool BoardScreen::saveSelectionIn(const std::filesystem::path& file, SaveKind ki
     m_openedFile = file;
     m_history.boardWasSaved(m_sheet, m_openedFile);
     m_shared.savedPlayer = SavedPlayer{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};
-    say("Saved " + shown(file.filename()) +
-        (m_files.isScored(file) ? "." : ". Only files in the program's folder are scored; this one is elsewhere."));
+    m_recent.note(file);
+    say("Saved " + shown(file.filename()) + "." + withoutPick(m_bracket) +
+        (m_files.isScored(file) ? "" : " Only files in the program's folder are scored; this one is elsewhere."));
     return true;
 }
 
@@ -104,6 +183,16 @@ bool BoardScreen::save(const std::filesystem::path& file)
     const bool isSaved = m_files.write(file, typed());
     unsaved = unsaved && !isSaved;
     return isSaved;
+}
+
+bool BoardScreen::keepResults()
+{
+    if (!holdsUnsavedResults())
+        return true;
+    if (m_platform.dialogs.show(kResultsUnsaved) != ui::Answer::Ok)
+        return false;
+    saveSelection();
+    return !unsaved;
 }
 
 void BoardScreen::enterGameResults()
@@ -144,13 +233,14 @@ void BoardScreen::markPicks()
     if (results.trouble)
         showReadingTrouble(m_platform.dialogs, file);
     Entry entry = typed();
-    entry.fileName = file_name::kResults;
+    entry.fileName = thisSelection();
     const Result<PlayerScore> score = scoreEntry(entry, results.value.picks, *payoffs);
     if (!score) {
         showTrouble(m_platform.dialogs, score.failure());
         return;
     }
     m_verdicts = score->verdicts;
+    m_results = results.value.picks;
     m_score = ShownScore{score->points, score->maxPoints};
     say("Green = right, red X wrong; picks that are still open stay blue.");
 }

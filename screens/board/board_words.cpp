@@ -4,6 +4,7 @@
 #include "base/numbers.h"
 #include "base/text.h"
 
+#include <algorithm>
 #include <string_view>
 
 namespace tallyhoop {
@@ -40,6 +41,16 @@ std::string spokenRow(const Field& field, TeamRow row)
            ", seed " + withoutOuterBlanks(field.seedOf(row));
 }
 
+/// @returns "Duke won, " for a decided game; why the pick is lost already for one that is still open
+std::string whoWon(const BoardPicture& picture, Position position)
+{
+    if (picture.results == nullptr)
+        return {};
+    if (!picture.results->isEmpty(position))
+        return picture.results->at(position) + " won, ";
+    return picture.bracket.isEmpty(position) ? std::string{} : picture.bracket.at(position) + " is out already, ";
+}
+
 std::string explanationOfMark(const BoardPicture& picture, Position position)
 {
     if (isFirstRound(position))
@@ -50,9 +61,27 @@ std::string explanationOfMark(const BoardPicture& picture, Position position)
     case Verdict::Good:
         return "A right pick: " + points + " earned.";
     case Verdict::Bad:
-        return (picture.bracket.isEmpty(position) ? "No pick: " : "A wrong pick: ") + points + " lost.";
+        return (picture.bracket.isEmpty(position) ? "No pick: " : "A wrong pick: ") + whoWon(picture, position) +
+               points + " lost.";
     default:
         return "Not decided yet: worth " + points + ".";
+    }
+}
+
+/// The names on the board are the results, not the player's picks.
+std::string explanationOfListed(const BoardPicture& picture, Position position)
+{
+    if (isFirstRound(position))
+        return "The marks are those of the player chosen in the list of scores.";
+    switch (picture.verdictAt(position)) {
+    case Verdict::Good:
+        return "The player in the list of scores picked " + picture.bracket.at(position) + ".";
+    case Verdict::Bad:
+        if (picture.bracket.isEmpty(position))
+            return "The player in the list of scores has no team here that can still win.";
+        return "The player in the list of scores did not pick " + picture.bracket.at(position) + ".";
+    default:
+        return "This game of the player in the list of scores is not decided yet.";
     }
 }
 
@@ -67,7 +96,7 @@ std::string spokenPlace(const BoardPicture& picture, Position position)
         if (const std::optional<int> region = regionOf(position))
             spoken = spokenRegion(picture.field, *region) + ", ";
         spoken += spokenGame(position);
-        if (const std::string mark = spokenMark(picture.verdictAt(position)); !mark.empty())
+        if (const std::string mark = spokenMark(picture.verdictAt(position), picture.names); !mark.empty())
             spoken += ", " + mark;
     }
     return spoken + ": " + (picture.bracket.isEmpty(position) ? "no team" : picture.bracket.at(position));
@@ -78,11 +107,13 @@ std::string spokenSeed(const Field& field, TeamRow row)
     return "Seed of " + spokenRegion(field, regionOf(row)) + ", row " + std::to_string(rowInRegion(row) + 1);
 }
 
-std::string spokenMark(Verdict verdict)
+std::string spokenMark(Verdict verdict, MarkedNames whose)
 {
     const std::string mark = markOf(verdict).text;
     if (mark.empty())
         return {};
+    if (whose == MarkedNames::Results)
+        return mark + (verdict == Verdict::Good ? " picked by the player" : " missed by the player");
     return mark + (verdict == Verdict::Good ? " right pick" : " wrong pick");
 }
 
@@ -91,7 +122,8 @@ std::string spokenPayoff(int round) { return std::string{"Points for a win in th
 std::string explanationOf(const BoardPicture& picture, Position position)
 {
     if (picture.verdicts != nullptr)
-        return explanationOfMark(picture, position);
+        return picture.names == MarkedNames::Results ? explanationOfListed(picture, position)
+                                                     : explanationOfMark(picture, position);
     if (picture.bracket.isEmpty(position))
         return "No team picked yet: click or drag a team that can get here.";
     const std::string& team = picture.bracket.at(position);
@@ -100,6 +132,26 @@ std::string explanationOf(const BoardPicture& picture, Position position)
     if (isFirstRound(position))
         return "Click or press Space to send " + team + " to the next round, or drag it as far as it goes.";
     return "Click or press Space to send " + team + " on, drag it further; right click or Delete takes it away.";
+}
+
+int gamesFilledIn(const Bracket& bracket)
+{
+    return static_cast<int>(
+        std::ranges::count_if(gamePositions(), [&](Position game) { return !bracket.isEmpty(game); }));
+}
+
+std::string progressOf(const Bracket& bracket, bool isResults)
+{
+    return std::to_string(gamesFilledIn(bracket)) + " of " + std::to_string(kGames) +
+           (isResults ? " played" : " picked");
+}
+
+std::string withoutPick(const Bracket& bracket)
+{
+    const int missing = static_cast<int>(kGames) - gamesFilledIn(bracket);
+    if (missing == 0)
+        return {};
+    return " " + std::to_string(missing) + (missing == 1 ? " game has no pick." : " games have no pick.");
 }
 
 } // namespace tallyhoop

@@ -15,12 +15,22 @@ std::string spokenPlace(const BoardPicture& picture, Position position);
 std::string spokenSeed(const Field& field, TeamRow row);
 
 /// @returns the marker as it is seen and what it means, "= right pick"; empty for a pick without a marker
-std::string spokenMark(Verdict verdict);
+/// @param whose the names beside the markers: a player's picks, or the results
+std::string spokenMark(Verdict verdict, MarkedNames whose);
 
 /// @returns "Points for a win in the first round" for rounds 1..6
 std::string spokenPayoff(int round);
 
 /// @returns what the person can do at a place, or what became of the pick there
 std::string explanationOf(const BoardPicture& picture, Position position);
+
+/// @returns how many of the 63 games have a winner
+int gamesFilledIn(const Bracket& bracket);
+
+/// @returns "60 of 63 picked", or played when the bracket is the results
+std::string progressOf(const Bracket& bracket, bool isResults);
+
+/// @returns " 3 games have no pick.", to follow another sentence; empty when every game has one
+std::string withoutPick(const Bracket& bracket);
 
 } // namespace tallyhoop

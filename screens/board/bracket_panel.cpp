@@ -58,8 +58,10 @@ void BracketPanel::showPlaces(const BoardPicture& picture, bool scoreListOpen)
         ui::Label& label = lblRegion[position];
         label.text = picture.bracket.at(position);
         label.spokenName = spokenPlace(picture, position);
-        label.explanation = scoreListOpen ? "The list of scores is open; close it to change the bracket."
-                                          : explanationOf(picture, position);
+        // Marks say what they mean; without them there is nothing to do here while the list is open.
+        label.explanation = scoreListOpen && picture.verdicts == nullptr
+                                ? "The list of scores is open; close it to change the bracket."
+                                : explanationOf(picture, position);
         showMark(picture, position);
     }
 }
@@ -79,7 +81,7 @@ void BracketPanel::showMark(const BoardPicture& picture, Position position)
     marker.text = mark.text;
     marker.colour = mark.colour;
     marker.background = mark.background;
-    marker.spokenName = spokenMark(verdict);
+    marker.spokenName = spokenMark(verdict, picture.names);
     marker.explanation = label.explanation;
 }
 

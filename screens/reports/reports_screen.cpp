@@ -34,6 +34,17 @@ void letThePersonChoose(ui::ControlArray<ui::OptionButton, N>& group, const std:
     }
 }
 
+/// @returns "Written to the program's folder: RPTOPT1.TXT, RPTOPT3.TXT."
+std::string whatWasMade(std::span<const std::filesystem::path> files, bool onPaper)
+{
+    if (onPaper)
+        return {};
+    std::string names;
+    for (const std::filesystem::path& file : files)
+        names += (names.empty() ? "" : ", ") + shown(file.filename());
+    return "Written to the program's folder: " + names + ".";
+}
+
 /// Signs on unless a session is open; signs off after the message.
 Result<Done> sendReports(ui::Mail& mail, const MailDraft& draft, std::span<const std::filesystem::path> files)
 {
@@ -71,6 +82,7 @@ ReportsScreen::ReportsScreen(const DataFolder& folder, const ui::Platform& platf
     cmdPreviewBoard.mnemonic = 'b';
     cmdSaveBoardPdf.mnemonic = 'a';
     cmdCustomReport.mnemonic = 'g';
+    cmdOpenFolder.mnemonic = 'o';
     cmdExit.mnemonic = 'x';
     explainControls();
     filList.spokenName = "Player selection files";
@@ -96,6 +108,7 @@ void ReportsScreen::explainControls()
     cmdPreviewBoard.explanation = "Shows the board as it will be printed.";
     cmdSaveBoardPdf.explanation = "Saves the board as a PDF file.";
     cmdCustomReport.explanation = "Puts the results on the board and opens the list of all scores.";
+    cmdOpenFolder.explanation = "Shows the folder that the reports are written to.";
     cmdExit.explanation = "Back to the board.";
 }
 
@@ -105,6 +118,7 @@ std::string ReportsScreen::helpTopic() const { return m_refusalTopic.empty() ? h
 void ReportsScreen::showState()
 {
     cmdDefaultPrinter.caption = m_useDefaultPrinter ? "Use default printer" : "Select non default printer";
+    status = m_board.holdsUnsavedResults() ? "Reports use the saved results; those on the board are not saved" : "";
 }
 
 void ReportsScreen::load()
@@ -119,15 +133,17 @@ void ReportsScreen::closeRequested() { exitReports(); }
 /// Shows the files that are there now; the chosen one stays chosen.
 void ReportsScreen::listFiles()
 {
-    const std::string chosen = filList.selectedText();
+    // By its path: two names may look alike as they are shown.
+    const std::filesystem::path chosen =
+        filList.selected ? m_files.at(static_cast<std::size_t>(*filList.selected)).path : std::filesystem::path{};
     m_files = listSelections(m_platform.dialogs, m_folder);
     filList.rows.clear();
     for (const FolderFile& file : m_files)
         filList.rows.push_back(file.name);
-    const auto at = std::ranges::find(filList.rows, chosen);
+    const auto at = std::ranges::find(m_files, chosen, &FolderFile::path);
     filList.selected.reset();
-    if (at != filList.rows.end())
-        filList.selected = static_cast<int>(at - filList.rows.begin());
+    if (at != m_files.end())
+        filList.selected = static_cast<int>(at - m_files.begin());
 }
 
 void ReportsScreen::createSelectedReports()
@@ -144,6 +160,7 @@ void ReportsScreen::createSelectedReports()
     };
     if (!forEachTickedReport("PrintSelections_Click ", cmdPrintSelections.caption, bringOut) || made.empty())
         return;
+    say(whatWasMade(made, destination == Destination::Printer));
     if (destination == Destination::Email || toEverybody)
         mailReports(made, toEverybody);
 }

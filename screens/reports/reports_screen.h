@@ -56,6 +56,7 @@ public:
 
     ui::Label fraCustomReports{this, "fraCustomReports", "Custom Reports Option"};
     ui::Command cmdCustomReport{this, "cmdCustomReport", "Goto Custom Reporting", [this] { gotoCustomReporting(); }};
+    ui::Command cmdOpenFolder{this, "cmdOpenFolder", "Open Folder", [this] { openFolder(); }};
     ui::Command cmdExit{this, "cmdExit", "Exit Reports", [this] { exitReports(); }};
 
 private:
@@ -89,6 +90,7 @@ private:
     void saveBoardAsPdf();
     ui::DrawingPrintout boardPrintout() const;
     void gotoCustomReporting();
+    void openFolder();
     void exitReports();
 
     const DataFolder& m_folder;

@@ -39,6 +39,8 @@ void ReportsScreen::createSelectedPrintout()
 
 void ReportsScreen::printResultsSheet()
 {
+    if (!m_board.keepResults())
+        return;
     m_screens.unload(ScreenKind::Reports);
     m_board.enterGameResults();
     m_board.printForm();
@@ -46,6 +48,8 @@ void ReportsScreen::printResultsSheet()
 
 void ReportsScreen::printScoredSelection()
 {
+    if (!m_board.keepResults())
+        return;
     const std::filesystem::path file = m_files.at(static_cast<std::size_t>(*filList.selected)).path;
     m_screens.bringToFront(ScreenKind::Board);
     m_screens.unload(ScreenKind::Reports);
@@ -64,9 +68,17 @@ ui::DrawingPrintout ReportsScreen::boardPrintout() const
 
 void ReportsScreen::gotoCustomReporting()
 {
+    if (!m_board.keepResults())
+        return;
     m_screens.unload(ScreenKind::Reports);
     m_board.enterGameResults();
     m_screens.load(ScreenKind::Scores);
+}
+
+void ReportsScreen::openFolder()
+{
+    if (!m_platform.programs.openFolder(m_folder.folder()))
+        say("The folder cannot be shown here. It is " + shown(m_folder.folder()));
 }
 
 void ReportsScreen::exitReports()

@@ -184,6 +184,11 @@ void ScoresScreen::print()
         showPrintingTrouble(m_platform.dialogs);
 }
 
-void ScoresScreen::copy() { m_platform.clipboard.put(tabSeparated(msgScoreDisplay)); }
+void ScoresScreen::copy()
+{
+    m_platform.clipboard.put(tabSeparated(msgScoreDisplay));
+    const std::size_t rows = msgScoreDisplay.rows.size();
+    say("Copied " + std::to_string(rows) + (rows == 1 ? " row" : " rows") + ", to be pasted into a spreadsheet.");
+}
 
 } // namespace tallyhoop

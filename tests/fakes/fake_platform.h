@@ -129,6 +129,8 @@ public:
     std::function<void()> whenStarted; ///< what the program does
     std::function<void()> whileWaitedFor;
     std::optional<Result<Done>> end; ///< how the started program has ended
+    std::vector<std::filesystem::path> foldersOpened;
+    std::optional<Failure> openFolderTrouble;
 
     Result<Done> check(const std::filesystem::path&) override
     {
@@ -148,6 +150,11 @@ public:
         if (whileWaitedFor)
             whileWaitedFor();
         return end;
+    }
+    Result<Done> openFolder(const std::filesystem::path& folder) override
+    {
+        foldersOpened.push_back(folder);
+        return openFolderTrouble ? Result<Done>{*openFolderTrouble} : Result<Done>{Done{}};
     }
 };
 

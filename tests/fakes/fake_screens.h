@@ -55,6 +55,16 @@ public:
         filesShown.push_back(file);
     }
     void printForm() override { calls.emplace_back("printForm"); }
+
+    bool unsavedResults = false;
+    bool resultsAreKept = true; ///< what the person decides
+    bool holdsUnsavedResults() const override { return unsavedResults; }
+    bool keepResults() override
+    {
+        if (unsavedResults)
+            calls.emplace_back("keepResults");
+        return !unsavedResults || resultsAreKept;
+    }
 };
 
 } // namespace tallyhoop::test

@@ -93,9 +93,10 @@ TEST_F(Captions, OfTheBoard)
                     "lblRoundName_8: Semi-final:", "lblRoundName_9: Final game:", "lblChampion: CHAMPION",
                     "lblDemoMode: Demonstration Mode", "lblPlayerInitials: Initials", "lblPlayerName: Name",
                     "lblFinalPoints: Predict total points in Championship game", "cmdDefaultColors: Default Colors"));
-    EXPECT_THAT(menusOf(board), ElementsAre("File: [New Selection] [Open Selection] [Save Selection] | [Print Preview] "
-                                            "[Print Form] | [Exit]",
-                                            "Edit: [Undo] [Redo]",
+    EXPECT_THAT(menusOf(board), ElementsAre("File: [New Selection] [Open Selection] [Open Recent] [Previous Selection] "
+                                            "[Next Selection] [Save Selection] | [Print Preview] [Print Form] | "
+                                            "[Open Folder] [Back Up Pool] | [Exit]",
+                                            "Open Recent: [] [] [] [] []", "Edit: [Undo] [Redo]",
                                             "Options: [Score Selections] [Enter Game Results] | [Entry Assist] | "
                                             "[Edit Names File]",
                                             "Entry Assist: [Select High Seeds]", "Setup: [Setup Pool Options]",
@@ -170,7 +171,7 @@ TEST_F(Captions, OfTheReports)
                     "optSelected_1: Tournament Results Sheet", "cmdSelectedPrintouts: Create Selected Printout",
                     "cmdPreviewBoard: Preview Board", "cmdSaveBoardPdf: Save Board as PDF",
                     "fraCustomReports: Custom Reports Option", "cmdCustomReport: Goto Custom Reporting",
-                    "cmdExit: Exit Reports"));
+                    "cmdOpenFolder: Open Folder", "cmdExit: Exit Reports"));
 }
 
 TEST_F(Captions, OfThePlayers)

@@ -28,6 +28,10 @@ struct RecordedCommands : BoardCommands {
     void scoreSelections() override { asked.emplace_back("scoreSelections"); }
     void enterGameResults() override { asked.emplace_back("enterGameResults"); }
     void selectHighSeeds() override { asked.emplace_back("selectHighSeeds"); }
+    void openRecent(std::size_t index) override { asked.push_back("openRecent " + std::to_string(index)); }
+    void openNeighbour(int step) override { asked.push_back("openNeighbour " + std::to_string(step)); }
+    void openFolder() override { asked.emplace_back("openFolder"); }
+    void backUpPool() override { asked.emplace_back("backUpPool"); }
 };
 
 struct MenuScreen : ui::Screen, BoardMenus {
@@ -64,6 +68,15 @@ std::set<std::string> together(std::set<std::string> names, const std::set<std::
     return names;
 }
 
+/// Without a field there are no selections to turn to; none was used yet in any of the states.
+std::set<std::string> withSelectionMenus(std::set<std::string> disabled)
+{
+    if (disabled.contains("mnuOpenSelection"))
+        disabled.insert({"mnuPrevious", "mnuNext"});
+    return together(std::move(disabled), {"mnuRecent", "mnuRecentFile_0", "mnuRecentFile_1", "mnuRecentFile_2",
+                                          "mnuRecentFile_3", "mnuRecentFile_4"});
+}
+
 /// Menus over a scratch folder, and everything that they can ask.
 struct MenusAndOthers {
     ScratchFolder scratch;
@@ -80,16 +93,17 @@ class BoardMenusIn : public testing::TestWithParam<State>, protected MenusAndOth
 
 TEST_P(BoardMenusIn, DisableExactlyWhatMakesNoSenseThere)
 {
+    const std::set<std::string> expected = withSelectionMenus(GetParam().disabled);
     for (const bool before : {false, true}) { // whatever it was before
         for (ui::MenuEntry* entry : menus.entries())
-            if (GetParam().disabled.contains(entry->name))
+            if (expected.contains(entry->name))
                 entry->enabled = before;
         menus.enableMenus(GetParam().state);
         std::set<std::string> disabled;
         for (const ui::MenuEntry* entry : menus.entries())
             if (!entry->enabled)
                 disabled.insert(entry->name);
-        EXPECT_EQ(disabled, GetParam().disabled);
+        EXPECT_EQ(disabled, expected);
     }
 }
 
@@ -130,7 +144,7 @@ const std::vector<State> kStates = {
       .scoreListOpen = true,
       .canUndo = true,
       .canRedo = true},
-     together(kSetupMenus, {"mnuGameResults", "mnuUndo", "mnuRedo"})},
+     together(kSetupMenus, {"mnuGameResults", "mnuHighSeed", "mnuUndo", "mnuRedo"})},
     {"PlayerOfTheListOfScores",
      {.finalized = true,
       .resultsMode = true,
@@ -153,13 +167,15 @@ struct BoardMenusTest : testing::Test, MenusAndOthers {
 
 TEST_F(BoardMenusTest, EachEntryOfTheBoardAsksForItsOwnCommand)
 {
-    for (ui::MenuEntry* entry : {&menus.mnuNewSelection, &menus.mnuOpenSelection, &menus.mnuSaveSelection,
-                                 &menus.mnuPrintPreview, &menus.mnuPrintForm, &menus.mnuUndo, &menus.mnuRedo,
-                                 &menus.mnuScoreSelections, &menus.mnuGameResults, &menus.mnuHighSeed})
+    for (ui::MenuEntry* entry :
+         {&menus.mnuNewSelection, &menus.mnuOpenSelection, &menus.mnuSaveSelection, &menus.mnuPrintPreview,
+          &menus.mnuPrintForm, &menus.mnuUndo, &menus.mnuRedo, &menus.mnuScoreSelections, &menus.mnuGameResults,
+          &menus.mnuHighSeed, &menus.mnuPrevious, &menus.mnuNext, &menus.mnuOpenFolder, &menus.mnuBackUp})
         entry->click();
     EXPECT_THAT(commands.asked,
                 ElementsAre("newSelection", "openSelection", "saveSelection", "previewForm", "printForm", "undo",
-                            "redo", "scoreSelections", "enterGameResults", "selectHighSeeds"));
+                            "redo", "scoreSelections", "enterGameResults", "selectHighSeeds", "openNeighbour -1",
+                            "openNeighbour 1", "openFolder", "backUpPool"));
     EXPECT_TRUE(screens.loads.empty());
 }
 
@@ -186,6 +202,21 @@ TEST_F(BoardMenusTest, EachOtherEntryLeadsWhereItSays)
     EXPECT_TRUE(commands.asked.empty());
 }
 
+TEST_F(BoardMenusTest, TheSelectionsUsedLastHaveAnEntryEach)
+{
+    menus.enableMenus({.finalized = true, .recent = {"Smith_JS.THC", "Bell & Co_B.THC"}});
+    EXPECT_TRUE(menus.mnuRecent.enabled);
+    EXPECT_EQ(menus.mnuRecentFile[0].caption, "&1 Smith_JS.THC");
+    EXPECT_EQ(menus.mnuRecentFile[1].caption, "&2 Bell && Co_B.THC") << "an ampersand in a name is no mnemonic";
+    EXPECT_TRUE(menus.mnuRecentFile[1].visible);
+    EXPECT_FALSE(menus.mnuRecentFile[2].visible);
+    menus.mnuRecentFile[1].click();
+    EXPECT_THAT(commands.asked, ElementsAre("openRecent 1"));
+    menus.enableMenus({.recent = {"Smith_JS.THC"}});
+    EXPECT_FALSE(menus.mnuRecent.enabled) << "without a final field no selection can be opened";
+    EXPECT_FALSE(menus.mnuRecentFile[1].visible);
+}
+
 TEST_F(BoardMenusTest, ADisabledEntryAsksForNothing)
 {
     menus.enableMenus({.mayStartDemo = true});
@@ -204,7 +235,7 @@ TEST_F(BoardMenusTest, EveryEntryIsInExactlyOneMenu)
                 placed.insert(child);
     for (const ui::MenuEntry* entry : menus.entries())
         EXPECT_EQ(placed.count(entry), 1u) << entry->name;
-    EXPECT_EQ(placed.size(), 25u);
+    EXPECT_EQ(placed.size(), 35u);
 }
 
 TEST_F(BoardMenusTest, EntriesHaveShortcutsOfTheirOwnAndSayWhatTheyDo)
@@ -220,8 +251,9 @@ TEST_F(BoardMenusTest, EntriesHaveShortcutsOfTheirOwnAndSayWhatTheyDo)
             EXPECT_EQ(entry->icon != ui::MenuIcon::None, hasIcon) << entry->name;
         }
     }
-    EXPECT_EQ(shortcuts, (std::set<std::string>{"Ctrl+N", "Ctrl+O", "Ctrl+S", "Ctrl+P", "Ctrl+Q", "Ctrl+Z",
-                                                "Ctrl+Shift+Z", "F1"}));
+    EXPECT_EQ(shortcuts,
+              (std::set<std::string>{"Ctrl+N", "Ctrl+O", "Ctrl+S", "Ctrl+P", "Ctrl+Q", "Ctrl+Z", "Ctrl+Shift+Z",
+                                     "Ctrl+PgUp", "Ctrl+PgDown", "F1", "F5", "F6", "F7", "F8"}));
 }
 
 } // namespace

@@ -164,7 +164,7 @@ TEST_F(BoardScreenScores, ATieBreakerThatDoesNotFitIsAnErrorWithAMessage)
     score();
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_TRUE(
-        platform.dialogs.shown[0].text.starts_with("The predicted total points of TALLYHOOP.THS cannot be used."))
+        platform.dialogs.shown[0].text.starts_with("The predicted total points of this selection cannot be used."))
         << platform.dialogs.shown[0].text;
     EXPECT_FALSE(marksShown());
     EXPECT_EQ(board->txtPointScore.text, "");

@@ -18,9 +18,9 @@ TEST_F(BoardScreenWords, SaysMarksToThoseWhoCannotSeeColours)
     verdicts[Position{16}] = Verdict::Good;
     verdicts[Position{24}] = Verdict::Bad;
     showListedVerdicts(verdicts);
-    EXPECT_EQ(board->lblRegion[16].spokenName, "West, winner of first round, game 1, = right pick: R1T0");
-    EXPECT_EQ(board->lblRegion[24].spokenName, "West, winner of second round, game 1, X wrong pick: R1T0");
-    EXPECT_EQ(board->lblResult[0].spokenName, "= right pick");
+    EXPECT_EQ(board->lblRegion[16].spokenName, "West, winner of first round, game 1, = picked by the player: R1T0");
+    EXPECT_EQ(board->lblRegion[24].spokenName, "West, winner of second round, game 1, X missed by the player: R1T0");
+    EXPECT_EQ(board->lblResult[0].spokenName, "= picked by the player");
     showListedVerdicts(std::nullopt);
     EXPECT_EQ(board->lblRegion[16].spokenName, "West, winner of first round, game 1: R1T0");
     EXPECT_EQ(board->lblResult[0].spokenName, "");
@@ -81,11 +81,12 @@ TEST_F(BoardScreenWords, AMarkedPlaceSaysWhatItIsWorth)
     score();
     const auto said = [&](std::size_t position) { return board->lblRegion[position].explanation; };
     EXPECT_EQ(said(16), "A right pick: 1 point earned."); // the default payoffs: 1, 2, 4, 8, 12, 16
-    EXPECT_EQ(said(24), "A wrong pick: 2 points lost.");
+    EXPECT_EQ(said(24), "A wrong pick: R1T3 won, 2 points lost.");
     EXPECT_EQ(said(25), "No pick: 2 points lost.");
     EXPECT_EQ(said(126), "No pick: 16 points lost.");
     EXPECT_EQ(said(0), "The picks are marked; choose Default Colors to change them again.");
     EXPECT_EQ(board->lblResult[0].explanation, said(16));
+    EXPECT_EQ(board->lblRegion[16].spokenName, "West, winner of first round, game 1, = right pick: R1T0");
     board->cmdDefaultColors.click();
     EXPECT_EQ(said(25), "No team picked yet: click or drag a team that can get here.");
 }

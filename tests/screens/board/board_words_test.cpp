@@ -82,10 +82,13 @@ TEST_F(BoardWords, ASeedIsSaidWithoutItsBlanks)
 
 TEST_F(BoardWords, AMarkerIsSaidAsItIsSeenAndWhatItMeans)
 {
-    EXPECT_EQ(spokenMark(Verdict::Good), "= right pick");
-    EXPECT_EQ(spokenMark(Verdict::Bad), "X wrong pick");
+    EXPECT_EQ(spokenMark(Verdict::Good, MarkedNames::Picks), "= right pick");
+    EXPECT_EQ(spokenMark(Verdict::Bad, MarkedNames::Picks), "X wrong pick");
+    EXPECT_EQ(spokenMark(Verdict::Good, MarkedNames::Results), "= picked by the player");
+    EXPECT_EQ(spokenMark(Verdict::Bad, MarkedNames::Results), "X missed by the player");
     for (const Verdict verdict : {Verdict::None, Verdict::Open, Verdict::Possible})
-        EXPECT_EQ(spokenMark(verdict), "");
+        for (const MarkedNames whose : {MarkedNames::Picks, MarkedNames::Results})
+            EXPECT_EQ(spokenMark(verdict, whose), "");
 }
 
 TEST_F(BoardWords, PointsAreThoseOfARound)
@@ -128,6 +131,56 @@ TEST_F(BoardWords, AMarkedPlaceSaysWhatItIsWorth)
     EXPECT_EQ(explained(30, &verdicts), "Not decided yet: worth 8 points.");
     EXPECT_EQ(explained(126, &verdicts), "Not decided yet: worth 16 points.");
     EXPECT_EQ(explained(0, &verdicts), "The picks are marked; choose Default Colors to change them again.");
+}
+
+TEST_F(BoardWords, AWrongPickSaysWhoWonOrThatTheTeamIsOut)
+{
+    Bracket results = startingBracket(field);
+    results.put(Position{16}, "TEAM2"); // TEAM1 lost its first game
+    bracket.put(Position{16}, "TEAM1");
+    bracket.put(Position{24}, "TEAM1");
+    verdicts.values.fill(Verdict::Bad);
+    verdicts[Position{17}] = Verdict::Good;
+    const auto explainedWithResults = [&](int position) {
+        return explanationOf({field, bracket, &verdicts, false, MarkedNames::Picks, &results}, Position{position});
+    };
+    EXPECT_EQ(explainedWithResults(16), "A wrong pick: TEAM2 won, 1 point lost.");
+    EXPECT_EQ(explainedWithResults(24), "A wrong pick: TEAM1 is out already, 2 points lost.");
+    EXPECT_EQ(explainedWithResults(17), "A right pick: 1 point earned.");
+    results.put(Position{18}, "TEAM5");
+    EXPECT_EQ(explainedWithResults(18), "No pick: TEAM5 won, 1 point lost.");
+    EXPECT_EQ(explainedWithResults(19), "No pick: 1 point lost.");
+}
+
+TEST_F(BoardWords, MarksOfAListedPlayerAreNotSaidOfTheResults)
+{
+    bracket.put(Position{16}, "TEAM1"); // who won, not who was picked
+    bracket.put(Position{17}, "TEAM3");
+    verdicts[Position{16}] = Verdict::Bad;
+    verdicts[Position{17}] = Verdict::Good;
+    verdicts[Position{18}] = Verdict::Bad;
+    verdicts[Position{19}] = Verdict::Possible;
+    const BoardPicture listed{field, bracket, &verdicts, false, MarkedNames::Results};
+    EXPECT_EQ(spokenPlace(listed, Position{16}), "West, winner of first round, game 1, X missed by the player: TEAM1");
+    EXPECT_EQ(explanationOf(listed, Position{16}), "The player in the list of scores did not pick TEAM1.");
+    EXPECT_EQ(explanationOf(listed, Position{17}), "The player in the list of scores picked TEAM3.");
+    EXPECT_EQ(explanationOf(listed, Position{18}),
+              "The player in the list of scores has no team here that can still win.");
+    EXPECT_EQ(explanationOf(listed, Position{19}), "This game of the player in the list of scores is not decided yet.");
+    EXPECT_EQ(explanationOf(listed, Position{0}), "The marks are those of the player chosen in the list of scores.");
+}
+
+TEST_F(BoardWords, CountTheGamesThatHaveAWinner)
+{
+    EXPECT_EQ(progressOf(bracket, false), "0 of 63 picked") << "the 64 teams of the first round are no picks";
+    EXPECT_EQ(withoutPick(bracket), " 63 games have no pick.");
+    for (const Position game : gamePositions())
+        bracket.put(game, "TEAM1");
+    EXPECT_EQ(progressOf(bracket, true), "63 of 63 played");
+    EXPECT_EQ(withoutPick(bracket), "");
+    bracket.clear(kChampion);
+    EXPECT_EQ(progressOf(bracket, false), "62 of 63 picked");
+    EXPECT_EQ(withoutPick(bracket), " 1 game has no pick.");
 }
 
 TEST_F(BoardWords, PointsAreSaidAsTheOrganiserTypedThem)

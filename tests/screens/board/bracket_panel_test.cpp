@@ -118,11 +118,13 @@ TEST_F(BracketPanelTest, SaysThatDemoModeIsOn)
 
 TEST_F(BracketPanelTest, IsDisabledWhileTheListOfScoresIsOpenAndSaysWhy)
 {
-    panel.showBracket({field, bracket, &verdicts}, true);
+    panel.showBracket({field, bracket}, true);
     for (const ui::Control* control : panel.controls())
         EXPECT_FALSE(control->enabled) << control->name;
     for (const Position position : allPositions())
         EXPECT_EQ(panel.lblRegion[position].explanation, "The list of scores is open; close it to change the bracket.");
+    panel.showBracket({field, bracket, &verdicts, false, MarkedNames::Results}, true);
+    EXPECT_EQ(panel.lblRegion[0].explanation, "The marks are those of the player chosen in the list of scores.");
     show();
     for (const ui::Control* control : panel.controls())
         EXPECT_TRUE(control->enabled) << control->name;

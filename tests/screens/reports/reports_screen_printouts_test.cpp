@@ -1,6 +1,8 @@
 // tests/screens/reports/reports_screen_printouts_test.cpp - printouts of the board, and the way to the score display.
 #include "screens/reports/reports_screen_fixture.h"
 
+#include <algorithm>
+
 namespace tallyhoop::test {
 namespace {
 
@@ -157,6 +159,57 @@ TEST_F(ReportsPrintouts, AreNotTheOnlyWayToTheResults)
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Reports});
     EXPECT_EQ(board.calls, std::vector<std::string>{"enterGameResults"});
     EXPECT_EQ(screens.loads, std::vector{ScreenKind::Scores});
+}
+
+TEST_F(ReportsPrintouts, LeaveResultsOnTheBoardThatAreNotSavedUntilThePersonHasDecided)
+{
+    board.unsavedResults = true;
+    board.resultsAreKept = false; // the person cancels
+    ui::selectOption(screen.optSelected, 1);
+    screen.cmdSelectedPrintouts.click();
+    screen.filList.selected = 0;
+    ui::selectOption(screen.optSelected, 0);
+    screen.cmdSelectedPrintouts.click();
+    screen.cmdCustomReport.click();
+
+    EXPECT_EQ(board.calls, std::vector<std::string>(3, "keepResults"));
+    EXPECT_TRUE(screens.unloads.empty());
+    EXPECT_TRUE(screens.loads.empty());
+
+    board.resultsAreKept = true; // the person saves them
+    screen.cmdCustomReport.click();
+    EXPECT_EQ(board.calls.back(), "enterGameResults");
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Scores});
+}
+
+TEST_F(ReportsPrintouts, SayThatReportsUseTheSavedResultsWhileTheBoardHoldsOthers)
+{
+    screen.showState();
+    EXPECT_EQ(screen.status, "");
+    board.unsavedResults = true;
+    screen.showState();
+    EXPECT_EQ(screen.status, "Reports use the saved results; those on the board are not saved");
+}
+
+TEST_F(ReportsPrintouts, AFileThatLooksLikeAnotherStaysChosen)
+{
+    for (const char8_t* name : {u8"\u0143owak_N.THC", u8"\u0141owak_N.THC"}) // both are shown as "?owak_N.THC"
+        std::filesystem::copy_file(folder.path() / screen.filList.rows[0], folder.path() / name);
+    screen.load();
+    const auto first = std::ranges::find(screen.filList.rows, "?owak_N.THC") - screen.filList.rows.begin();
+    screen.filList.selected = static_cast<int>(first) + 1;
+    tick({kStandings});
+    create(kFile); // lists the files anew
+    EXPECT_EQ(screen.filList.selected, static_cast<int>(first) + 1);
+}
+
+TEST_F(ReportsPrintouts, WrittenReportsAreNamedAndTheirFolderCanBeOpened)
+{
+    tick({kStandings, kListing});
+    create(kFile);
+    EXPECT_EQ(screen.news().text, "Written to the program's folder: RPTOPT1.TXT, RPTOPT2.TXT.");
+    screen.cmdOpenFolder.click();
+    EXPECT_EQ(platform.programs.foldersOpened, std::vector{folder.path()});
 }
 
 } // namespace

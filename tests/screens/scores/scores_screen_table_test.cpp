@@ -133,6 +133,23 @@ TEST_F(ScoreDisplay, KnowsAFileNameInWhateverColumnAndCaseItIs)
     EXPECT_EQ((*verdicts)[Position{16}], Verdict::Good);
 }
 
+TEST_F(ScoreDisplay, MarksThePlayerOfTheClickedRowWhenTwoFileNamesLookAlike)
+{
+    putPlayer("Template.TXT", "N", "Nowak", everyUpperTeamWins());
+    std::filesystem::copy_file(scratch.path() / "Template.TXT", scratch.path() / u8"\u0141owak_N.THC");
+    putPlayer("Template.TXT", "N", "Nowak", everyLowerTeamWins());
+    std::filesystem::copy_file(scratch.path() / "Template.TXT", scratch.path() / u8"\u0143owak_N.THC");
+    open();
+    screen.cmdOk.click();
+    ASSERT_EQ(column(0), (std::vector<std::string>{"?owak_N.THC", "?owak_N.THC"}));
+    for (std::size_t row = 0; row < 2; ++row) {
+        const bool hasAllRight = screen.msgScoreDisplay.rows[row][2] == "32";
+        screen.msgScoreDisplay.cellPressed(row, 0);
+        ASSERT_TRUE(verdicts);
+        EXPECT_EQ((*verdicts)[Position{16}], hasAllRight ? Verdict::Good : Verdict::Bad) << row;
+    }
+}
+
 TEST_F(ScoreDisplay, MarksTheRowThatIsClickedAfterSorting)
 {
     putThreePlayers();
@@ -221,6 +238,7 @@ TEST_F(ScoreDisplay, CopiesTheTableForASpreadsheet)
     screen.cmdCopy.click();
     EXPECT_EQ(platform.clipboard.text, "Score\tFile Name\tPlayer Name\t-MAX-\tWinning Pick\r\n"
                                        "32\tSmith_JS.THC\tJS, Smith\t168\tTeam 1\r\n");
+    EXPECT_EQ(screen.news().text, "Copied 1 row, to be pasted into a spreadsheet.");
 }
 
 } // namespace

@@ -1,0 +1,73 @@
+// screens/board/recent_selections.cpp - by the time of their files at first, then in the order in which they are used.
+#include "screens/board/recent_selections.h"
+
+#include "files/file_names.h"
+#include "screens/board/board_menus.h"
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A file whose time cannot be read counts as the oldest.
+fs::file_time_type timeOf(const fs::path& file)
+{
+    std::error_code unknown;
+    const fs::file_time_type time = fs::last_write_time(file, unknown);
+    return unknown ? fs::file_time_type::min() : time;
+}
+
+} // namespace
+
+void RecentSelections::begin(const DataFolder& folder)
+{
+    std::vector<std::pair<fs::file_time_type, fs::path>> files;
+    for (const FolderFile& file : folder.files(file_name::kSelectionExtension))
+        files.emplace_back(timeOf(file.path), file.path);
+    const auto end = files.begin() + static_cast<std::ptrdiff_t>(std::min(files.size(), kRecentSelections));
+    std::ranges::partial_sort(files, end, std::ranges::greater{}, [](const auto& file) { return file.first; });
+    m_files.clear();
+    for (auto file = files.begin(); file != end; ++file)
+        m_files.push_back(file->second);
+}
+
+void RecentSelections::note(const fs::path& file)
+{
+    std::erase(m_files, file);
+    m_files.insert(m_files.begin(), file);
+    m_files.resize(std::min(m_files.size(), kRecentSelections));
+}
+
+std::vector<std::string> RecentSelections::names() const
+{
+    std::vector<std::string> names;
+    for (const fs::path& file : m_files)
+        names.push_back(shown(file.filename()));
+    return names;
+}
+
+std::optional<fs::path> RecentSelections::at(std::size_t index) const
+{
+    return index < m_files.size() ? std::optional{m_files[index]} : std::nullopt;
+}
+
+std::optional<fs::path> neighbouringSelection(const DataFolder& folder, const fs::path& opened, int step)
+{
+    const std::vector<FolderFile> files = folder.files(file_name::kSelectionExtension);
+    if (files.empty())
+        return std::nullopt;
+    const auto at = std::ranges::find(files, opened, &FolderFile::path);
+    if (at == files.end())
+        return step > 0 ? files.front().path : files.back().path;
+    const std::ptrdiff_t next = at - files.begin() + step;
+    if (next < 0 || next >= std::ssize(files))
+        return std::nullopt;
+    return files[static_cast<std::size_t>(next)].path;
+}
+
+} // namespace tallyhoop

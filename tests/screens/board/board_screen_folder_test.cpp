@@ -1,0 +1,176 @@
+// tests/screens/board/board_screen_folder_test.cpp - turning to other selections of the folder, and the folder itself.
+#include "screens/board/board_fixture.h"
+
+#include <chrono>
+
+namespace tallyhoop::test {
+
+class BoardScreenFolder : public BoardTest
+{
+protected:
+    void putThreePlayers()
+    {
+        for (const char* name : {"Adams_A", "Baker_B", "Clark_C"})
+            putSelection(std::string{name} + ".THC", emptyBracket("X", name, "150"));
+    }
+
+    void next() { board->mnuNext.click(); }
+    void previous() { board->mnuPrevious.click(); }
+
+    std::vector<std::string> recent() const
+    {
+        std::vector<std::string> captions;
+        for (std::size_t i = 0; i < board->mnuRecentFile.size(); ++i)
+            if (board->mnuRecentFile[i].visible)
+                captions.push_back(board->mnuRecentFile[i].caption);
+        return captions;
+    }
+};
+
+TEST_F(BoardScreenFolder, IsGoneThroughInTheOrderOfTheNames)
+{
+    putThreePlayers();
+    loadFinalized();
+    next();
+    EXPECT_EQ(board->document, "Adams_A.THC");
+    EXPECT_EQ(board->txtPlayerName.text, "Adams_A");
+    next();
+    next();
+    EXPECT_EQ(board->document, "Clark_C.THC");
+    next();
+    EXPECT_EQ(board->document, "Clark_C.THC");
+    EXPECT_EQ(board->news().text, "This is the last selection of the folder.");
+    previous();
+    previous();
+    EXPECT_EQ(board->document, "Adams_A.THC");
+    previous();
+    EXPECT_EQ(board->document, "Adams_A.THC");
+    EXPECT_EQ(board->news().text, "This is the first selection of the folder.");
+}
+
+TEST_F(BoardScreenFolder, IsGoneThroughBackwardsFromANewSelection)
+{
+    putThreePlayers();
+    loadFinalized();
+    previous();
+    EXPECT_EQ(board->document, "Clark_C.THC");
+}
+
+TEST_F(BoardScreenFolder, WithoutSelectionsHasNoNext)
+{
+    loadFinalized();
+    next();
+    EXPECT_EQ(board->news().text, "There are no selections in the folder yet.");
+}
+
+TEST_F(BoardScreenFolder, ChangesThatAreNotSavedAreLeftOnlyAfterAQuestion)
+{
+    putThreePlayers();
+    loadFinalized();
+    next();
+    click(0);
+    platform.dialogs.answer(ui::Answer::Cancel);
+    next();
+    EXPECT_EQ(board->document, "Adams_A.THC");
+    EXPECT_EQ(at(16), "R1T0");
+    EXPECT_TRUE(platform.dialogs.shown.back().refusalIsDefault) << "Enter loses nothing";
+    platform.dialogs.answer(ui::Answer::Cancel);
+    board->mnuRecentFile[1].click();
+    EXPECT_EQ(at(16), "R1T0");
+    platform.dialogs.answer(ui::Answer::Ok);
+    next();
+    EXPECT_EQ(board->document, "Baker_B.THC");
+}
+
+TEST_F(BoardScreenFolder, OffersTheSelectionsSavedLastAtFirst)
+{
+    putThreePlayers();
+    const auto now = std::filesystem::file_time_type::clock::now();
+    const auto setAge = [&](const char* name, int hours) {
+        std::filesystem::last_write_time(scratch.path() / name, now - std::chrono::hours{hours});
+    };
+    setAge("Adams_A.THC", 2);
+    setAge("Baker_B.THC", 3);
+    setAge("Clark_C.THC", 1);
+    loadFinalized();
+    EXPECT_EQ(recent(), (std::vector<std::string>{"&1 Clark_C.THC", "&2 Adams_A.THC", "&3 Baker_B.THC"}));
+}
+
+TEST_F(BoardScreenFolder, OffersWhatWasOpenedOrSavedLastFirst)
+{
+    putThreePlayers();
+    loadFinalized();
+    open(scratch.path() / "Baker_B.THC");
+    EXPECT_EQ(recent().front(), "&1 Baker_B.THC");
+    board->mnuNewSelection.click();
+    fill("D", "Davis", "150");
+    saveAs(scratch.path() / "Davis_D.THC");
+    EXPECT_EQ(recent().size(), 4u);
+    EXPECT_EQ(recent()[0], "&1 Davis_D.THC");
+    EXPECT_EQ(recent()[1], "&2 Baker_B.THC");
+    board->mnuRecentFile[1].click();
+    EXPECT_EQ(board->document, "Baker_B.THC");
+    EXPECT_EQ(recent()[0], "&1 Baker_B.THC");
+}
+
+TEST_F(BoardScreenFolder, OffersFiveSelectionsAtTheMost)
+{
+    for (int i = 0; i < 7; ++i)
+        putSelection("Player" + std::to_string(i) + ".THC", emptyBracket("X", "Y", "150"));
+    loadFinalized();
+    EXPECT_EQ(recent().size(), 5u);
+    open(scratch.path() / "Player3.THC");
+    EXPECT_EQ(recent().size(), 5u);
+    EXPECT_EQ(recent().front(), "&1 Player3.THC");
+}
+
+TEST_F(BoardScreenFolder, IsShownInTheFileManager)
+{
+    loadFinalized();
+    board->mnuOpenFolder.click();
+    EXPECT_EQ(platform.programs.foldersOpened, std::vector{scratch.path()});
+    platform.programs.openFolderTrouble = Failure{"none"};
+    board->mnuOpenFolder.click();
+    EXPECT_EQ(board->news().text, "The folder cannot be shown here. It is " + scratch.path().string());
+}
+
+TEST_F(BoardScreenFolder, IsCopiedIntoADatedFolder)
+{
+    putThreePlayers();
+    putNoResultsYet();
+    scratch.put(file_name::kTeamNames, "names");
+    scratch.put("RPTOPT1.TXT", "a report");
+    loadFinalized(); // writes the setup and the player list: with the other five, seven files
+    board->mnuBackUp.click();
+    const std::string news = board->news().text;
+    ASSERT_TRUE(news.starts_with("Copied 7 files into the folder Backup ")) << news;
+    const std::string name = news.substr(news.find("Backup "));
+    const std::string copy = name.substr(0, name.size() - 1); // without the full stop
+    for (const char* file : {"POOLSTART.THS", "TALLYHOOP.THS", "NCAALIST.THS", "PLAYERNAMES.CSV", "Adams_A.THC",
+                             "Baker_B.THC", "Clark_C.THC"})
+        EXPECT_EQ(scratch.get(copy + "/" + file), scratch.get(file)) << file;
+    EXPECT_FALSE(scratch.has(copy + "/RPTOPT1.TXT")) << "reports can be made again";
+}
+
+TEST_F(BoardScreenFolder, ACopyHoldsBothOfTwoFilesWhoseNamesLookAlike)
+{
+    loadFinalized();
+    for (const char8_t* name : {u8"Ńowak_N.THC", u8"Łowak_N.THC"}) // "?owak_N.THC" in the program's character set
+        std::filesystem::copy_file(putSelection("Template.TXT", emptyBracket("N", "Nowak", "150")),
+                                   scratch.path() / name);
+    board->mnuBackUp.click();
+    EXPECT_TRUE(board->news().text.starts_with("Copied 4 files")) << board->news().text;
+}
+
+TEST_F(BoardScreenFolder, ACopyThatFailsIsSaid)
+{
+    loadFinalized();
+    std::filesystem::remove(scratch.path() / "PLAYERNAMES.CSV");
+    std::filesystem::create_directory(scratch.path() / "PLAYERNAMES.CSV"); // cannot be read as a file
+    board->mnuBackUp.click();
+    EXPECT_EQ(board->news().text, "The pool was not copied.");
+    ASSERT_FALSE(platform.dialogs.shown.empty());
+    EXPECT_TRUE(platform.dialogs.shown.back().text.starts_with("The pool could not be copied."));
+}
+
+} // namespace tallyhoop::test
