@@ -131,4 +131,15 @@ Result<fs::path> backUpFile(const fs::path& file, std::chrono::local_seconds now
     return keep(DataFolder{file.parent_path()}, {file}, now, Unreadable::IsLinked);
 }
 
+Result<Done> putBack(const DataFolder& folder, const fs::path& backup)
+{
+    Result<Done> outcome = Done{};
+    std::error_code error;
+    for (fs::directory_iterator entry{backup, error}; !error && entry != fs::directory_iterator{};
+         entry.increment(error))
+        if (Result<Done> copied = copyInto(folder.folder(), entry->path(), Unreadable::Fails); !copied && outcome)
+            outcome = copied;
+    return error ? failureAt(backup, error) : outcome;
+}
+
 } // namespace tallyhoop

@@ -28,4 +28,8 @@ Result<std::filesystem::path> backUpFile(const std::filesystem::path& file, std:
 Result<std::filesystem::path> backUpFiles(const DataFolder& folder, const std::vector<std::filesystem::path>& files,
                                           std::chrono::local_seconds now);
 
+/// Copies every file of a backup back into the folder, over what is there by the same name. The backup stays.
+/// @returns a failure that names the first file in the way; the others are put back all the same
+Result<Done> putBack(const DataFolder& folder, const std::filesystem::path& backup);
+
 } // namespace tallyhoop

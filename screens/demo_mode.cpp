@@ -44,6 +44,14 @@ ui::Message ownPoolIsIn(const std::filesystem::path& backup)
             ui::Buttons::Ok, ui::Icon::Information};
 }
 
+ui::Message ownChangesAreIn(const std::filesystem::path& backup)
+{
+    return {kCaption,
+            joinLines({"The files that you changed in demo mode are kept.", "They have been moved to the folder:", " ",
+                       shown(backup)}),
+            ui::Buttons::Ok, ui::Icon::Information};
+}
+
 /// Says which file or folder is in the way before the system's reason.
 Failure failureAt(const std::string& path, const Failure& failure) { return Failure{path + "\r\n" + failure.message}; }
 
@@ -88,16 +96,18 @@ bool isOwnFile(const DataFolder& folder, std::string_view name)
     return !demo::isSampleFile(name, *bytes);
 }
 
-/// Starts the installer in a folder that is clear now.
-/// @returns what went wrong, if anything
-std::optional<ui::Message> clearAndInstall(const DataFolder& folder, const std::filesystem::path& installer,
-                                           ui::Programs& programs)
+/// @returns what has become of the pool that was there, for the end of a message about the failed installation
+std::string putOwnPoolBack(const DataFolder& folder, const std::optional<std::filesystem::path>& backup)
 {
-    if (const Result<Done> cleared = clearDemoDataFiles(folder); !cleared)
-        return trouble("Demonstration mode cannot be started: a file could not be deleted.", cleared.failure());
-    if (const Result<Done> started = programs.start(installer); !started)
-        return trouble("Demonstration mode could not be started.", failureAt(shown(installer), started.failure()));
-    return std::nullopt;
+    if (!backup)
+        return {};
+    // What the installer has left is no pool; what cannot be deleted of it is replaced, as far as it has own names.
+    [[maybe_unused]] const Result<Done> cleared = clearDemoDataFiles(folder);
+    const Result<Done> done = putBack(folder, *backup);
+    std::string words = done ? "The files of your own pool have been put back. Copies of them are in the folder:"
+                             : "Your own pool could not be put back:\r\n" + done.failure().message +
+                                   "\r\n \r\nIts files are in the folder:";
+    return "\r\n \r\n" + words + "\r\n" + shown(*backup);
 }
 
 /// @returns why the sample pool could not be installed now, if so: to be asked before anything is deleted
@@ -130,6 +140,21 @@ std::optional<Failure> waitForSamplePool(const DataFolder& folder, const ui::Pla
     return Failure{"It has not finished."};
 }
 
+/// Clears the data files, starts the installer, waits for the person's OK and for the sample pool.
+/// @returns what went wrong, if anything
+std::optional<ui::Message> install(const DataFolder& folder, const std::filesystem::path& installer,
+                                   const ui::Platform& platform)
+{
+    if (const Result<Done> cleared = clearDemoDataFiles(folder); !cleared)
+        return trouble("Demonstration mode cannot be started: a file could not be deleted.", cleared.failure());
+    if (const Result<Done> started = platform.programs.start(installer); !started)
+        return trouble("Demonstration mode could not be started.", failureAt(shown(installer), started.failure()));
+    platform.dialogs.show(kContinueInDemo);
+    if (const std::optional<Failure> noPool = waitForSamplePool(folder, platform))
+        return trouble("The sample pool could not be installed.", failureAt(shown(installer), *noPool));
+    return std::nullopt;
+}
+
 } // namespace
 
 Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& folder, const ui::Clock& clock)
@@ -157,9 +182,12 @@ Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& fold
 Result<Done> clearDemoDataFiles(const DataFolder& folder)
 {
     Result<Done> outcome = Done{};
-    for (const std::string& name : demoDataFiles(folder))
+    for (const std::string& name : demoDataFiles(folder)) {
+        if (!outcome && equalFolded(name, file_name::kSettings))
+            break;
         if (const Result<Done> removed = folder.remove(name); !removed && outcome)
             outcome = failureAt(folder.shownPathOf(name), removed.failure());
+    }
     return outcome;
 }
 
@@ -176,16 +204,13 @@ bool startDemo(const DataFolder& folder, const ui::Platform& platform)
         platform.dialogs.show(trouble("Demonstration mode cannot be started. Nothing was changed.", backup.failure()));
         return false;
     }
-    const std::optional<ui::Message> failure = clearAndInstall(folder, installer, platform.programs);
-    platform.dialogs.show(failure.value_or(kContinueInDemo));
-    if (*backup)
+    std::optional<ui::Message> failure = install(folder, installer, platform);
+    if (failure) {
+        failure->text += putOwnPoolBack(folder, *backup);
+        platform.dialogs.show(*failure);
+    } else if (*backup) {
         platform.dialogs.show(ownPoolIsIn(**backup));
-    if (failure)
-        return true;
-    const std::optional<Failure> noPool = waitForSamplePool(folder, platform);
-    if (!noPool)
-        return true;
-    platform.dialogs.show(trouble("The sample pool could not be installed.", failureAt(shown(installer), *noPool)));
+    }
     return true;
 }
 
@@ -203,9 +228,18 @@ std::optional<std::string> leaveDemo(const DataFolder& folder, const ui::Platfor
         platform.dialogs.show(trouble("Demonstration mode cannot be left. Nothing was changed.", backup.failure()));
         return std::nullopt;
     }
-    if (const Result<Done> cleared = clearDemoDataFiles(folder); !cleared)
-        platform.dialogs.show(trouble("A file of the demonstration could not be deleted.", cleared.failure()));
-    platform.dialogs.show(kContinueNormally);
+    const Result<Done> cleared = clearDemoDataFiles(folder);
+    const bool stays = demoModeIsOn(folder);
+    if (!cleared)
+        platform.dialogs.show(trouble(stays ? "Demonstration mode cannot be left: a file could not be deleted."
+                                            : "A file of the demonstration could not be deleted.",
+                                      cleared.failure()));
+    if (!stays)
+        platform.dialogs.show(kContinueNormally);
+    if (*backup)
+        platform.dialogs.show(ownChangesAreIn(**backup));
+    if (stays)
+        return std::nullopt;
     if (!*backup)
         return std::string{};
     return "Files that you changed in demo mode are kept in the folder " + shown((*backup)->filename()) + ".";

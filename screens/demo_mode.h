@@ -15,21 +15,23 @@ namespace tallyhoop {
 /// @returns the subfolder; nothing when there is nothing to keep; or a failure, with nothing changed
 Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& folder, const ui::Clock& clock);
 
-/// Deletes the settings, setup, results and player files and the sample selections, as far as they exist.
-/// @returns a failure naming the first file that could not be deleted; the others are deleted all the same
+/// Deletes the setup, results and player files, the sample selections and at last the settings, as far as they exist.
+/// @returns a failure naming the first file that could not be deleted; the others are deleted all the same, but not the
+///          settings: demo mode stays on, so that leaving it can be tried again
 Result<Done> clearDemoDataFiles(const DataFolder& folder);
 
-/// Keeps the person's own files, clears the data files, starts the installer, waits for the person's OK, says where the
-/// own files are, and waits for the sample pool to be there. When the installer cannot be started, the folder cannot be
-/// written or a file cannot be kept, says so and deletes nothing. When the sample pool does not come, says that too.
-/// @returns whether the files have changed, so that the screen is to be loaded again; false when they are as they were
+/// Keeps the person's own files, clears the data files, starts the installer, waits for the person's OK and for the
+/// sample pool, and says where the own files are. When the installer cannot be started, the folder cannot be written or
+/// a file cannot be kept, says so and deletes nothing. When the sample pool does not come, puts the own files back, and
+/// says both.
+/// @returns whether files were deleted or written, so that the screen is to be loaded again
 bool startDemo(const DataFolder& folder, const ui::Platform& platform);
 
 /// The question before demo mode is entered. @returns as startDemo(); false when the person does not want it
 bool enterDemo(const DataFolder& folder, const ui::Platform& platform);
 
-/// Deletes the sample pool and says that normal operation follows. What the person has changed meanwhile is kept; when
-/// it cannot be, says so and deletes nothing.
+/// Deletes the sample pool and says that normal operation follows, and where what the person has changed meanwhile is
+/// kept. When that cannot be kept, says so and deletes nothing; when a file cannot be deleted, demo mode stays on.
 /// @returns a sentence for the status line of the screen that is to be loaded again, empty for none; nothing when demo
 ///          mode was not left
 std::optional<std::string> leaveDemo(const DataFolder& folder, const ui::Platform& platform);

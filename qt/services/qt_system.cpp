@@ -8,9 +8,9 @@
 #include <QClipboard>
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileInfo>
 #include <QLabel>
-#include <QProcess>
 #include <QProgressDialog>
 #include <QUrl>
 #include <system_error>
@@ -21,20 +21,31 @@ namespace {
 
 constexpr qint64 kRefresh = 50; ///< milliseconds between two updates of the progress window
 
-/// A program that keeps running when this object is destroyed.
-class Started : public QProcess
-{
-public:
-    Started() = default;
-    ~Started() override { setProcessState(NotRunning); } // or it would be killed
-    Started(const Started&) = delete;
-    Started& operator=(const Started&) = delete;
-};
-
 Failure failureOf(std::errc reason)
 {
     return Failure{fromQString(QString::fromStdString(std::make_error_code(reason).message()))};
 }
+
+#ifdef Q_OS_LINUX
+/// @returns whether the system can start a file: a program for this kind of processor, as ours is, or a script
+bool isProgram(const std::filesystem::path& path)
+{
+    constexpr qsizetype kKind = 6;       // the first bytes of a program: mark, width and byte order
+    constexpr qsizetype kProcessor = 18; // two bytes
+    const auto beginning = [](const QString& name) {
+        QFile file{name};
+        return file.open(QIODevice::ReadOnly) ? file.read(kProcessor + 2) : QByteArray{};
+    };
+    const QByteArray theirs = beginning(fromPath(path));
+    if (theirs.startsWith("#!"))
+        return true;
+    const QByteArray ours = beginning(QStringLiteral("/proc/self/exe"));
+    return theirs.size() == kProcessor + 2 && theirs.left(kKind) == ours.left(kKind) &&
+           theirs.mid(kProcessor) == ours.mid(kProcessor);
+}
+#else
+bool isProgram(const std::filesystem::path&) { return true; }
+#endif
 
 } // namespace
 
@@ -51,6 +62,8 @@ Result<Done> QtPrograms::check(const std::filesystem::path& program)
         return failureOf(std::errc::is_a_directory);
     if (!file.isExecutable())
         return failureOf(std::errc::permission_denied);
+    if (!isProgram(program))
+        return failureOf(std::errc::executable_format_error);
     return Done{};
 }
 
@@ -60,7 +73,7 @@ Result<Done> QtPrograms::start(const std::filesystem::path& program)
         return ready;
     // An absolute path: the system must not search for it anywhere else.
     const QFileInfo file{fromPath(program)};
-    m_started = std::make_unique<Started>();
+    m_started = std::make_unique<StartedProgram>();
     m_started->setProgram(file.absoluteFilePath());
     m_started->setWorkingDirectory(file.absolutePath());
     m_started->setStandardInputFile(QProcess::nullDevice());

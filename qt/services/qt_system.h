@@ -2,13 +2,13 @@
 #pragma once
 
 #include "qt/desk.h"
+#include "qt/services/started_program.h"
 #include "ui/platform.h"
 
 #include <QElapsedTimer>
 #include <memory>
 #include <optional>
 
-class QProcess;
 class QProgressDialog;
 
 namespace tallyhoop::qt {
@@ -27,7 +27,7 @@ public:
     Result<Done> openFolder(const std::filesystem::path& folder) override;
 
 private:
-    std::unique_ptr<QProcess> m_started;
+    std::unique_ptr<StartedProgram> m_started;
 };
 
 class QtClock : public ui::Clock

@@ -79,6 +79,21 @@ TEST(QtPrograms, AProgramOfNoKnownKindFailsToStart)
     EXPECT_FALSE(programs.start(file));
 }
 
+TEST(QtPrograms, AFileThatIsNoProgramIsRefusedBeforeAnythingIsStarted)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    QtPrograms programs;
+    const std::string mark = "\177ELF"; // of a program
+    for (const std::string& bytes : {std::string{}, std::string{"a text\n"}, mark, mark + std::string(60, '\x01')}) {
+        const auto file = scratch.put("DEMOSET.EXE", bytes);
+        makeExecutable(file);
+        const auto outcome = programs.check(file);
+        ASSERT_FALSE(outcome) << bytes.size() << " bytes";
+        EXPECT_EQ(outcome.failure().message, "Exec format error");
+    }
+    EXPECT_TRUE(programs.check("/proc/self/exe")) << "a program for this computer";
+}
+
 TEST(QtPrograms, AProgramThatStillRunsHasNoOutcome)
 {
     const tallyhoop::test::ScratchFolder scratch;

@@ -119,7 +119,8 @@ TEST(LeaveDemo, KeepsWhatThePersonChangedMeanwhile)
     EXPECT_EQ(entriesOf(demo.scratch.path() / kBackup),
               (std::vector<std::string>{"Demo Prophet_DP.THC", "TALLYHOOP.THS"}));
     EXPECT_EQ(demo.scratch.get(std::string{kBackup} + "/TALLYHOOP.THS"), "my results");
-    EXPECT_EQ(demo.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+    EXPECT_EQ(demo.platform.dialogs.shown,
+              (std::vector<ui::Message>{kContinueNormally, ownChangesAreIn(demo.scratch.path() / kBackup)}));
 }
 
 TEST(LeaveDemo, RemovesNothingAndStaysOnWhenAChangedFileCannotBeKept)

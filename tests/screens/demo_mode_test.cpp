@@ -8,11 +8,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
+std::string putBackFrom(const fs::path& backup)
+{
+    return "\r\n \r\nThe files of your own pool have been put back. Copies of them are in the folder:\r\n" +
+           backup.string();
+}
+
 ui::Message noSamplePool(const OwnPool& pool, const std::string& reason)
 {
     return {kCaption,
             "The sample pool could not be installed.\r\n \r\n" + (pool.scratch.path() / "DEMOSET.EXE").string() +
-                "\r\n" + reason,
+                "\r\n" + reason + putBackFrom(pool.scratch.path() / kBackup),
             ui::Buttons::Ok, ui::Icon::Critical};
 }
 
@@ -83,20 +89,48 @@ TEST(StartDemo, ShowsAtOnceThatTheInstallerHasFailedAndWhy)
     int looks = 0;
     pool.platform.programs.whileWaitedFor = [&] { ++looks; };
     pool.platform.programs.end = Failure{"The sample pool could not be written.\r\nNo space left on device"};
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "files were written";
     EXPECT_EQ(looks, 1);
     EXPECT_EQ(pool.platform.dialogs.shown,
-              (std::vector<ui::Message>{kContinueInDemo, ownPoolIsIn(pool.scratch.path() / kBackup),
-                                        noSamplePool(pool, "The sample pool could not be written.\r\n"
-                                                           "No space left on device")}));
+              (std::vector<ui::Message>{kContinueInDemo, noSamplePool(pool, "The sample pool could not be written.\r\n"
+                                                                            "No space left on device")}));
+    pool.expectPutBack();
 }
 
 TEST(StartDemo, ShowsThatTheInstallerHasEndedWithoutASamplePool)
 {
     OwnPool pool;
     pool.platform.programs.end = Done{};
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "files were written";
     EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has ended without writing a sample pool."));
+    pool.expectPutBack();
+}
+
+TEST(StartDemo, PutsThePoolBackInPlaceOfHalfASamplePool)
+{
+    OwnPool pool;
+    pool.platform.programs.whenStarted = [&pool] {
+        pool.scratch.put("POOLSTART.THS", "half a field");
+        pool.scratch.put("Demo Prophet_DP.THC", "half a selection");
+    };
+    pool.platform.programs.end = Failure{"No space left on device"};
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    pool.expectPutBack();
+}
+
+TEST(StartDemo, SaysWhereThePoolIsWhenItCannotBePutBack)
+{
+    OwnPool pool;
+    const fs::path inTheWay = pool.scratch.path() / "POOLSTART.THS";
+    pool.platform.programs.whenStarted = [&] { fs::create_directories(inTheWay / "full"); };
+    pool.platform.programs.end = Failure{"It broke."};
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
+    EXPECT_EQ(pool.platform.dialogs.shown.back().text,
+              "The sample pool could not be installed.\r\n \r\n" + (pool.scratch.path() / "DEMOSET.EXE").string() +
+                  "\r\nIt broke.\r\n \r\nYour own pool could not be put back:\r\n" + inTheWay.string() +
+                  "\r\nIs a directory\r\n \r\nIts files are in the folder:\r\n" +
+                  (pool.scratch.path() / kBackup).string());
+    EXPECT_EQ(pool.scratch.get("TALLYHOOP.THS"), "own TALLYHOOP.THS") << "the others are put back";
 }
 
 TEST(StartDemo, TakesTheSamplePoolOfAnInstallerThatHasEnded)
@@ -113,9 +147,10 @@ TEST(StartDemo, GivesAnInstallerUpThatDoesNotFinish)
     OwnPool pool;
     int looks = 0;
     pool.platform.programs.whileWaitedFor = [&] { ++looks; };
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "files were written";
     EXPECT_EQ(looks, 1000) << "a hundredth of a second each";
     EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has not finished."));
+    pool.expectPutBack();
 }
 
 TEST(StartDemo, GivesTheInstallerUpWhenThePersonDoes)
@@ -124,7 +159,7 @@ TEST(StartDemo, GivesTheInstallerUpWhenThePersonDoes)
     pool.platform.progress.cancelAt = 70;
     int looks = 0;
     pool.platform.programs.whileWaitedFor = [&] { ++looks; };
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "files were written";
     EXPECT_EQ(looks, 70);
     EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has not finished."));
     EXPECT_EQ(pool.platform.progress.ended, pool.platform.progress.begun);
@@ -163,23 +198,24 @@ TEST(StartDemo, DoesNotStartTheInstallerOverAFileThatCouldNotBeDeleted)
 {
     OwnPool pool;
     fs::create_directory(pool.scratch.path() / "TALLYHOOP.INI");
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "files were written";
     EXPECT_TRUE(pool.platform.programs.started.empty());
-    ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
-    EXPECT_EQ(pool.platform.dialogs.shown[1], ownPoolIsIn(pool.scratch.path() / kBackup)) << "part of it is gone";
+    for (const char* name : OwnPool::kNames)
+        EXPECT_EQ(pool.scratch.get(name), std::string{"own "} + name);
 }
 
 TEST(StartDemo, SaysThatTheInstallerFailedToStartAfterAll)
 {
     OwnPool pool;
     pool.platform.programs.startTrouble = Failure{"Out of memory"};
-    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "the old files are gone";
-    ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
-    EXPECT_EQ(pool.platform.dialogs.shown[1], ownPoolIsIn(pool.scratch.path() / kBackup));
-    EXPECT_EQ(pool.platform.dialogs.shown[0].text, "Demonstration mode could not be started.\r\n \r\n" +
-                                                       (pool.scratch.path() / "DEMOSET.EXE").string() +
-                                                       "\r\nOut of memory");
+    EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "files were written";
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(pool.platform.dialogs.shown[0].text,
+              "Demonstration mode could not be started.\r\n \r\n" + (pool.scratch.path() / "DEMOSET.EXE").string() +
+                  "\r\nOut of memory" + putBackFrom(pool.scratch.path() / kBackup));
+    pool.expectPutBack();
     EXPECT_EQ(pool.platform.dialogs.shown[0].icon, ui::Icon::Critical);
 }
 
@@ -222,7 +258,27 @@ TEST(LeaveDemo, ClearsWithoutAskingAndSaysWhatFollows)
     EXPECT_EQ(leaveDemo(pool.scratch.folder(), pool.platform.services), kOwnChangesAreKept);
     EXPECT_TRUE(pool.isCleared());
     EXPECT_FALSE(demoModeIsOn(pool.scratch.folder()));
-    EXPECT_EQ(pool.platform.dialogs.shown, std::vector<ui::Message>{kContinueNormally});
+    EXPECT_EQ(pool.platform.dialogs.shown,
+              (std::vector<ui::Message>{kContinueNormally, ownChangesAreIn(pool.scratch.path() / kBackup)}));
+}
+
+TEST(LeaveDemo, StaysOnWhenAFileCannotBeDeletedAndCanBeTriedAgain)
+{
+    InstalledDemo demo;
+    const fs::path inTheWay = demo.scratch.path() / "PLAYERNAMES.CSV";
+    fs::remove(inTheWay);
+    fs::create_directory(inTheWay);
+    EXPECT_EQ(leaveDemo(demo.scratch.folder(), demo.platform.services), std::nullopt);
+    EXPECT_TRUE(demoModeIsOn(demo.scratch.folder()));
+    ASSERT_EQ(demo.platform.dialogs.shown.size(), 1u) << "and not that normal operation continues";
+    EXPECT_EQ(demo.platform.dialogs.shown[0].text,
+              "Demonstration mode cannot be left: a file could not be deleted.\r\n \r\n" + inTheWay.string() +
+                  "\r\nIs a directory");
+
+    fs::remove(inTheWay);
+    EXPECT_EQ(leaveDemo(demo.scratch.folder(), demo.platform.services), "");
+    EXPECT_FALSE(demoModeIsOn(demo.scratch.folder()));
+    EXPECT_EQ(demo.platform.dialogs.shown.back(), kContinueNormally);
 }
 
 TEST(LeaveDemo, DeletesNothingWhenThereAreNoDemoFiles)
@@ -242,7 +298,7 @@ TEST(LeaveDemo, SaysWhichFileStayed)
     fs::remove(pool.scratch.path() / "POOLSTART.THS");
     fs::rename(pool.scratch.path() / "POOLSTART.THS.d", pool.scratch.path() / "POOLSTART.THS");
     EXPECT_TRUE(leaveDemo(pool.scratch.folder(), pool.platform.services));
-    ASSERT_EQ(pool.platform.dialogs.shown.size(), 2u);
+    ASSERT_EQ(pool.platform.dialogs.shown.size(), 3u);
     EXPECT_EQ(pool.platform.dialogs.shown[0].text, "A file of the demonstration could not be deleted.\r\n \r\n" +
                                                        (pool.scratch.path() / "POOLSTART.THS").string() +
                                                        "\r\nIs a directory");

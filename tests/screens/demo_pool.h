@@ -31,6 +31,14 @@ inline ui::Message ownPoolIsIn(const std::filesystem::path& backup)
             ui::Buttons::Ok, ui::Icon::Information};
 }
 
+inline ui::Message ownChangesAreIn(const std::filesystem::path& backup)
+{
+    return {kCaption,
+            "The files that you changed in demo mode are kept.\r\nThey have been moved to the folder:\r\n \r\n" +
+                backup.string(),
+            ui::Buttons::Ok, ui::Icon::Information};
+}
+
 inline constexpr const char* kOwnChangesAreKept =
     "Files that you changed in demo mode are kept in the folder Backup 2001-03-05 101530.";
 
@@ -79,6 +87,16 @@ struct OwnPool {
                 EXPECT_EQ(scratch.get(name), std::string{"own "} + name);
             }
     }
+    /// The pool is there as before, and a backup of it.
+    void expectPutBack() const
+    {
+        std::vector<std::string> names{kNames.begin(), kNames.end()};
+        names.insert(names.begin(), kBackup);
+        EXPECT_EQ(entriesOf(scratch.path()), names);
+        for (const char* name : kNames)
+            EXPECT_EQ(scratch.get(name), std::string{"own "} + name);
+    }
+
     bool isCleared() const
     {
         return !scratch.has("POOLSTART.THS") && !scratch.has("TALLYHOOP.THS") && !scratch.has("PLAYERNAMES.CSV");
