@@ -73,6 +73,13 @@ void keepOnOneLineEach(ReportLines& lines)
             line = asOneLine(std::move(line));
 }
 
+NoReport faultyPlayerNames(const ReportKind& kind)
+{
+    NoReport refusal = failed(kind, kFaultyPlayerNames);
+    refusal.message.helpTopic = help_topic::kRepair;
+    return refusal;
+}
+
 /// @returns the headings and the players of PLAYERNAMES.CSV, as its records hold them
 std::vector<PlayerListingRow> listingRows(std::string_view playerNames)
 {
@@ -144,15 +151,15 @@ MadeReport ReportMaker::makeStandings(const Request& request)
 
 MadeReport ReportMaker::makePlayerListing(const Request& request)
 {
-    if (!playerListIsSound(m_platform.dialogs, m_folder)) {
-        NoReport refusal = failed(request.kind, kFaultyPlayerNames);
-        refusal.message.helpTopic = help_topic::kRepair;
-        return refusal;
-    }
+    if (!playerListIsSound(m_platform.dialogs, m_folder))
+        return faultyPlayerNames(request.kind);
     const Result<std::string> bytes = m_folder.read(file_name::kPlayerNames);
     if (!bytes)
         return failed(request.kind, bytes.failure().message);
-    return playerListingLines(request.title, listingRows(*bytes));
+    const std::vector<PlayerListingRow> rows = listingRows(*bytes);
+    if (rows.empty()) // not even the headings
+        return faultyPlayerNames(request.kind);
+    return playerListingLines(request.title, rows);
 }
 
 MadeReport ReportMaker::makeTeamSelection(const Request& request)

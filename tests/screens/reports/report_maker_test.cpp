@@ -149,6 +149,17 @@ TEST_F(ReportMakerTest, RefusesThePlayerListingOfAFaultyListAndPointsToTheHelp)
     EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"** ERROR Found in PLAYERNAMES.CSV file **"});
 }
 
+TEST_F(ReportMakerTest, RefusesThePlayerListingOfAListWithoutEvenItsHeadings)
+{
+    scratch.put("PLAYERNAMES.CSV", "");
+    ui::Message refusal{"TALLYHOOP - frmPoolReports, Player Listing",
+                        "Problems found with PLAYERNAMES.CSV file\r\n"
+                        "This condition must be corrected, See Help content",
+                        ui::Buttons::Ok, ui::Icon::Critical};
+    refusal.helpTopic = "repair";
+    expectRefused(ReportId::PlayerListing, refusal);
+}
+
 TEST_F(ReportMakerTest, RefusesATitleThatIsTooWideWhereItIsNotLetThrough)
 {
     putFourPlayers(scratch);
