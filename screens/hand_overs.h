@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,13 @@ struct SavedPlayer {
     SaveKind kind = SaveKind::NewFile;
 };
 
+/// What a person has written for a message.
+struct MailText {
+    std::vector<std::string> recipients; ///< addresses in the order added
+    std::string subject;
+    std::string message;
+};
+
 /// What the reports screen asks of the e-mail dialog, and what that leaves for it.
 struct MailDraft {
     bool toEverybody = false; ///< the request: address every player
@@ -29,6 +37,7 @@ struct MailDraft {
     std::vector<std::string> recipients;
     std::string subject;
     std::string message;
+    std::optional<MailText> unsent{}; ///< what no mail program has taken: the dialog shows it again
 };
 
 } // namespace tallyhoop

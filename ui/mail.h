@@ -25,6 +25,12 @@ struct MailMessage {
     std::vector<Attachment> attachments;
 };
 
+/// Where a message is that was handed over.
+struct HandedOver {
+    std::filesystem::path file; ///< the message file that was written instead; empty = none, a mail client has it
+    std::string trouble;        ///< why no program has opened that file; empty = one has been asked to
+};
+
 /// A session with a mail client: sign on, send through the client's own window, sign off.
 class Mail
 {
@@ -36,8 +42,10 @@ public:
     /// Opens a session, the client's own log-on dialog allowed; no mail is fetched.
     virtual Result<Done> signOn() = 0;
 
-    /// Opens the client's compose window with everything filled in; the person confirms or edits there.
-    virtual Result<Done> send(const MailMessage& message) = 0;
+    /// Opens the client's compose window with everything filled in; the person confirms or edits there. Where no client
+    /// can be relied on to attach the files, writes a message file for the person to open.
+    /// @returns a failure when neither was possible, which names the files to attach by hand
+    virtual Result<HandedOver> send(const MailMessage& message) = 0;
 
     /// Closes the session; nothing happens when none is open.
     virtual void signOff() = 0;

@@ -3,8 +3,6 @@
 
 #include "qt/services/message_file.h"
 
-#include <QProcess>
-#include <QStandardPaths>
 #include <QStringList>
 #include <algorithm>
 #include <array>
@@ -15,54 +13,24 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kAnswerMilliseconds = 5000; ///< what a small tool of the desktop may take
-
 bool contains(const std::string& handler, const char* name)
 {
     return QString::fromStdString(handler).contains(QLatin1String{name}, Qt::CaseInsensitive);
 }
 
-bool isBrowser(const std::string& handler)
+/// Web browsers and most other handlers open a message without the files and say nothing.
+bool takesAttachmentsFromXdgEmail(const std::string& handler)
 {
-    constexpr std::array<const char*, 9> kBrowsers = {"firefox", "chrom",  "epiphany",  "opera", "brave",
-                                                      "vivaldi", "falkon", "konqueror", "msedge"};
-    return std::ranges::any_of(kBrowsers, [&](const char* browser) { return contains(handler, browser); });
+    constexpr std::array<const char*, 3> kClients = {"thunderbird", "evolution", "kmail"};
+    return std::ranges::any_of(kClients, [&](const char* client) { return contains(handler, client); });
 }
 
-QString installed(const char* program) { return QStandardPaths::findExecutable(QString::fromLatin1(program)); }
-
-QStringList asQt(const std::vector<std::string>& utf8)
-{
-    QStringList list;
-    for (const std::string& text : utf8)
-        list << QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-    return list;
-}
-
-/// @returns what a tool printed, without white space around it; empty when it is missing, fails or does not answer
-std::string answerOf(const char* program, const QStringList& arguments)
-{
-    const QString path = installed(program);
-    if (path.isEmpty())
-        return {};
-    QProcess process;
-    process.start(path, arguments, QIODevice::ReadOnly);
-    if (!process.waitForFinished(kAnswerMilliseconds) || process.exitCode() != 0)
-        return {};
-    return process.readAllStandardOutput().trimmed().toStdString();
-}
+bool isInstalled(const char* program) { return !installedProgram(program).isEmpty(); }
 
 std::string mailHandler()
 {
     return answerOf("xdg-mime",
                     {QStringLiteral("query"), QStringLiteral("default"), QStringLiteral("x-scheme-handler/mailto")});
-}
-
-std::optional<Failure> start(const char* program, const std::vector<std::string>& arguments)
-{
-    if (QProcess::startDetached(installed(program), asQt(arguments)))
-        return std::nullopt;
-    return Failure{std::string{program} + " could not be started."};
 }
 
 std::optional<Failure> missingFile(const OutgoingMail& mail)
@@ -93,15 +61,18 @@ Failure byHand(const Failure& reason, const OutgoingMail& mail)
 std::vector<MailRoute> mailRoutes(const std::string& handler, bool hasThunderbird, bool hasXdgEmail)
 {
     std::vector<MailRoute> routes;
-    if (hasThunderbird && (handler.empty() || contains(handler, "thunderbird")))
+    if (hasThunderbird && contains(handler, "thunderbird"))
         routes.push_back(MailRoute::Thunderbird);
-    if (hasXdgEmail && !isBrowser(handler))
+    if (hasXdgEmail && takesAttachmentsFromXdgEmail(handler))
         routes.push_back(MailRoute::XdgEmail);
     routes.push_back(MailRoute::MessageFile);
     return routes;
 }
 
-MailHandOver::MailHandOver(DataFolder folder) : m_folder{std::move(folder)} {}
+MailHandOver::MailHandOver(DataFolder folder, std::chrono::milliseconds patience)
+    : m_folder{std::move(folder)}, m_programs{patience}
+{
+}
 
 Result<Done> MailHandOver::signOn()
 {
@@ -109,59 +80,54 @@ Result<Done> MailHandOver::signOn()
     return Done{};
 }
 
-Result<Done> MailHandOver::send(const ui::MailMessage& message)
+Result<ui::HandedOver> MailHandOver::send(const ui::MailMessage& message)
 {
     const OutgoingMail mail = outgoing(message);
     if (const std::optional<Failure> missing = missingFile(mail))
         return byHand(*missing, mail);
-    std::optional<Failure> trouble;
-    for (const MailRoute route :
-         mailRoutes(mailHandler(), !installed("thunderbird").isEmpty(), !installed("xdg-email").isEmpty())) {
-        trouble = handOver(route, mail);
+    std::string troubles; // of the routes tried so far, a line each
+    for (const MailRoute route : mailRoutes(mailHandler(), isInstalled("thunderbird"), isInstalled("xdg-email"))) {
+        if (route == MailRoute::MessageFile)
+            break;
+        const std::optional<Failure> trouble = compose(route, mail);
         if (!trouble)
-            return Done{};
+            return ui::HandedOver{};
+        troubles += trouble->message + "\r\n";
     }
-    return byHand(*trouble, mail);
+    const Result<std::filesystem::path> file = writeMessageFile(mail);
+    if (!file)
+        return byHand({troubles + file.failure().message}, mail);
+    if (const std::optional<Failure> trouble = open(*file))
+        return ui::HandedOver{*file, troubles + trouble->message};
+    return ui::HandedOver{*file, {}};
 }
 
 void MailHandOver::signOff() { m_open = false; }
 
-std::optional<Failure> MailHandOver::handOver(MailRoute route, const OutgoingMail& mail) const
+std::optional<Failure> MailHandOver::compose(MailRoute route, const OutgoingMail& mail)
 {
-    switch (route) {
-    case MailRoute::Thunderbird:
-        return start("thunderbird", thunderbirdArguments(mail));
-    case MailRoute::XdgEmail:
-        return start("xdg-email", xdgEmailArguments(mail));
-    case MailRoute::MessageFile:
-        return openMessageFile(mail);
-    }
-    return std::nullopt;
+    return route == MailRoute::Thunderbird ? m_programs.run("thunderbird", thunderbirdArguments(mail))
+                                           : m_programs.run("xdg-email", xdgEmailArguments(mail));
 }
 
-std::optional<Failure> MailHandOver::openMessageFile(const OutgoingMail& mail) const
+Result<std::filesystem::path> MailHandOver::writeMessageFile(const OutgoingMail& mail) const
 {
-    const std::string opener = installed("gio").isEmpty() ? "xdg-open" : "gio";
-    if (installed(opener.c_str()).isEmpty())
-        return Failure{"No mail program was found."};
     const Result<std::string> bytes = messageFile(mail);
     if (!bytes)
         return bytes.failure();
-    const Result<Done> written = m_folder.write(kMessageFile, *bytes);
-    if (!written)
+    if (const Result<Done> written = m_folder.write(kMessageFile, *bytes); !written)
         return written.failure();
-    const std::string file = m_folder.pathOf(kMessageFile)->native();
-    if (opener == "xdg-open")
-        return start("xdg-open", {file});
+    return m_folder.pathTo(kMessageFile);
+}
 
-    // This one opens the file and ends at once; its exit code says whether any program could open it.
-    QProcess process;
-    process.start(installed("gio"), asQt({"open", file}), QIODevice::NotOpen);
-    if (!process.waitForFinished(kAnswerMilliseconds))
-        return Failure{"The desktop did not open the message."};
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        return Failure{"No mail program was found."};
-    return std::nullopt;
+/// Both programs end at once, and say whether anything could open the file.
+std::optional<Failure> MailHandOver::open(const std::filesystem::path& file)
+{
+    if (isInstalled("gio"))
+        return m_programs.run("gio", {"open", file.native()});
+    if (isInstalled("xdg-open"))
+        return m_programs.run("xdg-open", {file.native()});
+    return Failure{"No program was found that opens message files."};
 }
 
 } // namespace tallyhoop::qt

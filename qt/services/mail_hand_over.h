@@ -2,10 +2,12 @@
 #pragma once
 
 #include "files/data_folder.h"
+#include "qt/services/mail_programs.h"
 #include "qt/services/outgoing_mail.h"
 #include "ui/mail.h"
 
-#include <QString>
+#include <chrono>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
@@ -22,8 +24,8 @@ enum class MailRoute {
 /// @param handler        the desktop file of the user's mail program, such as "thunderbird.desktop"; empty = none
 /// @param hasThunderbird whether it can be started
 /// @param hasXdgEmail    the same for xdg-email
-/// @returns the ways to try, in this order. With a web browser as handler xdg-email would open a page and drop the
-///          attachments, so only the message file is tried
+/// @returns the ways to try, in this order. Only clients that are known to attach files get a message directly; for
+///          every other handler, and for none, it is the message file
 std::vector<MailRoute> mailRoutes(const std::string& handler, bool hasThunderbird, bool hasXdgEmail);
 
 /// Attachments are always handed over, or a message shows where they are: ways that may drop them silently (a plain
@@ -31,21 +33,22 @@ std::vector<MailRoute> mailRoutes(const std::string& handler, bool hasThunderbir
 class MailHandOver : public ui::Mail
 {
 public:
-    /// @param folder where the message file is written, if that way is used
-    explicit MailHandOver(DataFolder folder);
+    /// @param folder   where the message file is written, if that way is used
+    /// @param patience how long a client is watched for a refusal; one that runs longer has the message
+    explicit MailHandOver(DataFolder folder, std::chrono::milliseconds patience = std::chrono::seconds{3});
 
     bool isOpen() const override { return m_open; }
     Result<Done> signOn() override;
-
-    /// Starts the client and returns at once. @returns a failure that names the files to attach by hand
-    Result<Done> send(const ui::MailMessage& message) override;
+    Result<ui::HandedOver> send(const ui::MailMessage& message) override;
     void signOff() override;
 
 private:
-    std::optional<Failure> handOver(MailRoute route, const OutgoingMail& mail) const;
-    std::optional<Failure> openMessageFile(const OutgoingMail& mail) const;
+    std::optional<Failure> compose(MailRoute route, const OutgoingMail& mail);
+    Result<std::filesystem::path> writeMessageFile(const OutgoingMail& mail) const;
+    std::optional<Failure> open(const std::filesystem::path& file);
 
     DataFolder m_folder;
+    MailPrograms m_programs;
     bool m_open = false;
 };
 

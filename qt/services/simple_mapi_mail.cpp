@@ -140,7 +140,7 @@ Result<Done> SimpleMapiMail::signOn()
     return Done{};
 }
 
-Result<Done> SimpleMapiMail::send(const ui::MailMessage& message)
+Result<ui::HandedOver> SimpleMapiMail::send(const ui::MailMessage& message)
 {
     auto* const sendMail = functionOf<MAPISENDMAIL>(m_library, "MAPISendMail");
     if (sendMail == nullptr)
@@ -149,7 +149,7 @@ Result<Done> SimpleMapiMail::send(const ui::MailMessage& message)
     compose(message, client);
     const ULONG code = sendMail(static_cast<LHANDLE>(m_session), 0, &client.message, MAPI_DIALOG | MAPI_LOGON_UI, 0);
     if (code == SUCCESS_SUCCESS || code == MAPI_USER_ABORT)
-        return Done{};
+        return ui::HandedOver{};
     return failureOf(code);
 }
 

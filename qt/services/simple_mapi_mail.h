@@ -22,7 +22,7 @@ public:
     Result<Done> signOn() override;
 
     /// Waits until the client's window is closed. Closing it without sending is no failure.
-    Result<Done> send(const ui::MailMessage& message) override;
+    Result<ui::HandedOver> send(const ui::MailMessage& message) override;
     void signOff() override;
 
 private:

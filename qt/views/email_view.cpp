@@ -58,6 +58,7 @@ QLayout* EmailView::recipients(EmailScreen& mail)
 {
     QHBoxLayout* below = look::row();
     below->addWidget(add(mail.cmdDelete));
+    below->addWidget(add(mail.cmdCopy));
     below->addStretch(1);
 
     QListView* list = add(mail.lstTo);

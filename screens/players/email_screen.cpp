@@ -5,6 +5,7 @@
 #include "base/windows1252.h"
 #include "screens/help_topics.h"
 #include "screens/list_search.h"
+#include "screens/players/addresses.h"
 #include "screens/saving.h"
 
 #include <algorithm>
@@ -57,6 +58,7 @@ EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform,
     : ui::Screen{"frmPoolEMail", kCaption},
       m_folder{folder},
       m_dialogs{platform.dialogs},
+      m_clipboard{platform.clipboard},
       m_screens{screens},
       m_draft{draft}
 {
@@ -77,6 +79,7 @@ EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform,
     lstPlayerNames.emptyNote = "No players to choose from.";
     lstTo.emptyNote = "No address yet: press Enter on a player, or type an address.";
     cmdDelete.explanation = "Takes the selected address out again.";
+    cmdCopy.explanation = "Copies all addresses above, to be pasted into a message that you write elsewhere.";
     txtSubject.explanation = "The message's subject.";
     txtMessage.explanation = "What the message says; the reports are attached to it.";
     cmdSend.explanation = "Hands the message to your mail program, where you send it.";
@@ -85,7 +88,7 @@ EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform,
     int tab = 0;
     for (ui::Control* control :
          std::initializer_list<ui::Control*>{&txtEntry, &cmdFreeEntry, &cmdUseList, &lstPlayerNames, &lstTo, &cmdDelete,
-                                             &txtSubject, &txtMessage, &cmdSend, &cmdExit})
+                                             &cmdCopy, &txtSubject, &txtMessage, &cmdSend, &cmdExit})
         control->tabIndex = tab++;
     focused = &txtEntry;
 }
@@ -96,6 +99,11 @@ void EmailScreen::load()
 {
     m_draft.subject.clear();
     m_draft.message.clear();
+    if (m_draft.unsent) {
+        txtSubject.text = m_draft.unsent->subject;
+        txtMessage.text = m_draft.unsent->message;
+        say("This is the message that no mail program has taken. Change it as you like.");
+    }
     m_playersFaulty = !playerListIsSound(m_dialogs, m_folder);
     if (m_playersFaulty) {
         m_dialogs.show(kFaultyPlayerNames);
@@ -105,15 +113,18 @@ void EmailScreen::load()
     fillPlayers(records);
     if (m_draft.toEverybody)
         addressEverybody(records);
+    else if (m_draft.unsent)
+        lstTo.rows = m_draft.unsent->recipients;
 }
 
 void EmailScreen::showState()
 {
     lblTo.text = "Send To: (" + std::to_string(lstTo.rows.size()) + ")";
+    cmdCopy.enabled = !lstTo.rows.empty();
     cmdFreeEntry.enabled = !m_freeEntry;
     cmdUseList.enabled = m_freeEntry;
     txtEntry.explanation = m_freeEntry
-                               ? "Type an address, and press Enter to add it."
+                               ? "Type an address, or several with semicolons between them, and press Enter."
                                : "Type the first letters of a player's name, and press Enter to add the address.";
 }
 
@@ -133,10 +144,13 @@ void EmailScreen::fillPlayers(std::span<const PlayerRecord> records)
 
 void EmailScreen::addressEverybody(std::span<const PlayerRecord> records)
 {
-    for (const PlayerRecord& record : records)
-        if (std::string address = addressOf(record); !address.empty())
-            lstTo.rows.push_back(std::move(address));
-    if (lstTo.rows.size() < records.size())
+    bool somebodyWithout = false;
+    for (const PlayerRecord& record : records) {
+        const std::vector<std::string> addresses = addressesIn(record.email);
+        somebodyWithout = somebodyWithout || addresses.empty();
+        lstTo.rows.insert(lstTo.rows.end(), addresses.begin(), addresses.end());
+    }
+    if (somebodyWithout)
         m_dialogs.show(kSomebodyWithoutAddress);
 }
 
@@ -165,8 +179,7 @@ void EmailScreen::enter()
             txtEntry.text.clear();
         return;
     }
-    if (std::string address = withoutOuterBlanks(txtEntry.text); !address.empty())
-        lstTo.rows.push_back(std::move(address));
+    addRecipients(txtEntry.text);
     txtEntry.text.clear();
 }
 
@@ -175,13 +188,39 @@ bool EmailScreen::addSelectedPlayer()
 {
     if (!lstPlayerNames.selected)
         return false;
-    const std::string& address = m_addresses.at(static_cast<std::size_t>(*lstPlayerNames.selected));
-    if (address.empty()) {
-        m_dialogs.show(kNoAddress);
-        return false;
-    }
-    lstTo.rows.push_back(address);
-    return true;
+    if (addRecipients(m_addresses.at(static_cast<std::size_t>(*lstPlayerNames.selected))))
+        return true;
+    m_dialogs.show(kNoAddress);
+    return false;
+}
+
+/// @returns whether the text held an address
+bool EmailScreen::addRecipients(const std::string& text)
+{
+    const std::vector<std::string> addresses = addressesIn(text);
+    lstTo.rows.insert(lstTo.rows.end(), addresses.begin(), addresses.end());
+    return !addresses.empty();
+}
+
+/// For those who write their mail in a browser.
+void EmailScreen::copyAddresses()
+{
+    std::string all;
+    for (const std::string& address : lstTo.rows)
+        all += (all.empty() ? "" : ", ") + address;
+    m_clipboard.put(all);
+    say(lstTo.rows.size() == 1 ? "One address is copied."
+                               : std::to_string(lstTo.rows.size()) + " addresses are copied.");
+}
+
+/// What is left of a search must not become part of the address: a player's row goes, other text is replaced by typing.
+void EmailScreen::typeAddresses()
+{
+    setFreeEntry(true);
+    if (findRow(lstPlayerNames.rows, txtEntry.text))
+        txtEntry.text.clear();
+    txtEntry.selectionStart = 0;
+    txtEntry.selectionLength = static_cast<int>(txtEntry.text.size());
 }
 
 void EmailScreen::setFreeEntry(bool on)

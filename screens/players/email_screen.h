@@ -25,12 +25,13 @@ public:
 
     ui::Label lblEntry{this, "lblEntry", "Enter Email Addresses"};
     ui::TextBox txtEntry{this, "txtEntry", [this] { entryEdited(); }};
-    ui::Command cmdFreeEntry{this, "cmdFreeEntry", "&Not In List Below", [this] { setFreeEntry(true); }};
+    ui::Command cmdFreeEntry{this, "cmdFreeEntry", "&Not In List Below", [this] { typeAddresses(); }};
     ui::Command cmdUseList{this, "cmdUseList", "Match &List Below", [this] { matchList(); }};
     ui::ListBox lstPlayerNames{this, "lstPlayerNames"}; ///< alphabetical; row i is the player of address i
     ui::Label lblTo{this, "lblTo"};
     ui::ListBox lstTo{this, "lstTo"}; ///< addresses in the order added
     ui::Command cmdDelete{this, "cmdDelete", "&Delete Email Selected", [this] { deleteRecipient(); }};
+    ui::Command cmdCopy{this, "cmdCopy", "Copy &Addresses", [this] { copyAddresses(); }};
     ui::Label lblSubject{this, "lblSubject", "Subject:"};
     ui::TextBox txtSubject{this, "txtSubject"};
     ui::Label lblMessage{this, "lblMessage", "Enter Email Message:"};
@@ -50,6 +51,9 @@ private:
     void entryEdited();
     void enter();
     bool addSelectedPlayer();
+    bool addRecipients(const std::string& text);
+    void copyAddresses();
+    void typeAddresses();
     void setFreeEntry(bool on);
     void matchList();
     void deleteRecipient();
@@ -58,6 +62,7 @@ private:
 
     const DataFolder& m_folder;
     ui::Dialogs& m_dialogs;
+    ui::Clipboard& m_clipboard;
     Screens& m_screens;
     MailDraft& m_draft;
 

@@ -81,6 +81,8 @@ private:
     void refuse(const ReportKind& kind, const NoReport& reason);
     Result<Done> output(const ReportKind& kind, const ReportLines& lines, Destination destination);
     void mailReports(std::span<const std::filesystem::path> files, bool toEverybody);
+    Result<ui::HandedOver> handOver(std::span<const std::filesystem::path> files);
+    void offerMessageFile(const ui::HandedOver& sent);
 
     // Printouts of the board and ways out.
     void createSelectedPrintout();

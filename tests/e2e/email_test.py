@@ -17,6 +17,7 @@ ADDRESSES = ["favorite@example.org", "halfway@example.org", "longshot@example.or
 class Email(unittest.TestCase):
     def setUp(self):
         desktop = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory(prefix="tallyhoop-e2e-mail-")))
+        self.desktop = desktop
         self.record = desktop / "record"
         for name, script in {"thunderbird": CLIENT, "xdg-mime": "#!/bin/sh\necho thunderbird.desktop\n"}.items():
             (desktop / name).write_text(script)
@@ -82,6 +83,19 @@ class Email(unittest.TestCase):
         self.program.click("cmdSend")
         self.assertEqual(self.composed(), ["-compose", "to='prophet@example.org,o'brien@example.org',subject=,body=,"
                                                        "format=text," + self.attachments()])
+
+    def test_a_browser_gets_no_message_but_a_file_is_opened_and_named(self):
+        (self.desktop / "xdg-mime").write_text("#!/bin/sh\necho firefox-esr.desktop\n")
+        (self.desktop / "gio").write_text(CLIENT)
+        (self.desktop / "gio").chmod(0o755)
+        self.make_reports(destination=3)
+        self.program.type("txtSubject", "Standings")
+        self.program.click("cmdSend")
+        self.program.answer("No", "Tallyhoop - frmPoolReports, MailReports")
+        self.assertEqual(self.composed(), ["open", str(self.program.folder / "TALLYHOOP.EML")])
+        message = self.program.read("TALLYHOOP.EML")
+        self.assertIn(b"X-Unsent: 1", message)
+        self.assertIn(b"RPTOPT4.TXT", message)
 
     def test_the_library_for_message_files_is_no_part_of_the_start(self):
         libraries = pathlib.Path(f"/proc/{self.program.process_id()}/maps").read_text()

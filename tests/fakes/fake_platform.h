@@ -79,6 +79,7 @@ public:
     bool open = false;
     std::optional<Failure> signOnTrouble;
     std::optional<Failure> sendTrouble;
+    ui::HandedOver handedOver; ///< where each message is then
     int signOns = 0;
     int signOffs = 0;
     std::vector<ui::MailMessage> sent;
@@ -92,10 +93,10 @@ public:
         open = true;
         return Done{};
     }
-    Result<Done> send(const ui::MailMessage& message) override
+    Result<ui::HandedOver> send(const ui::MailMessage& message) override
     {
         sent.push_back(message);
-        return sendTrouble ? Result<Done>{*sendTrouble} : Result<Done>{Done{}};
+        return sendTrouble ? Result<ui::HandedOver>{*sendTrouble} : Result<ui::HandedOver>{handedOver};
     }
     void signOff() override
     {

@@ -12,6 +12,7 @@
 #include "screens/reports/reports_screen.h"
 
 #include <QByteArray>
+#include <algorithm>
 #include <fstream>
 #include <functional>
 #include <gmock/gmock.h>
@@ -71,7 +72,8 @@ struct Writer {
     const char* name;
     const char* file;
     void (*press)(Reports& reports, const fs::path& target);
-    std::vector<ui::Message> (*success)(const fs::path& target);
+    std::vector<ui::Message> (*asked)(const fs::path& target);
+    std::vector<ui::Message> (*said)(const fs::path& target); ///< once the file is written
     ui::Message (*trouble)(const fs::path& folder, const Fault& fault);
     const char* begin; ///< of the new file
     const char* end;
@@ -89,7 +91,12 @@ void saveBoardPdf(Reports& reports, const fs::path& target)
     reports.screen.cmdSaveBoardPdf.click();
 }
 
-void sendMail(Reports& reports, const fs::path& /*target*/) { reports.screen.cmdPrintSelections.click(); }
+void sendMail(Reports& reports, const fs::path& /*target*/)
+{
+    if (!reports.strike) // the message file will be written and offered
+        reports.fake.dialogs.answer(ui::Answer::No);
+    reports.screen.cmdPrintSelections.click();
+}
 
 std::vector<ui::Message> offerToReplace(const fs::path& target)
 {
@@ -97,7 +104,18 @@ std::vector<ui::Message> offerToReplace(const fs::path& target)
              ui::Icon::Question}};
 }
 
-std::vector<ui::Message> nothingSaid(const fs::path& /*target*/) { return {}; }
+std::vector<ui::Message> nothing(const fs::path& /*target*/) { return {}; }
+
+std::vector<ui::Message> offerOfTheFolder(const fs::path& target)
+{
+    return {{"Tallyhoop - frmPoolReports, MailReports",
+             "The message and its reports are in the file TALLYHOOP.EML, which the desktop has been asked to open.\r\n"
+             "Send the message from the window that opens.\r\n\r\n"
+             "If none does, open the file with your mail program, or attach the reports to a message of your own. All "
+             "files are in the folder\r\n" +
+                 target.parent_path().string() + "\r\n\r\nDo you want to see this folder?",
+             ui::Buttons::YesNo, ui::Icon::Information, "email"}};
+}
 
 /// A PDF file is a printout, and fails as one.
 ui::Message printingTrouble(const fs::path& /*folder*/, const Fault& /*fault*/)
@@ -120,9 +138,9 @@ ui::Message mailTrouble(const fs::path& folder, const Fault& fault)
 }
 
 const std::vector<Writer> kWriters{
-    {"ReportPdf", "Report.PDF", saveReportPdf, offerToReplace, printingTrouble, "%PDF-", "%%EOF\n"},
-    {"BoardPdf", "Bracket.PDF", saveBoardPdf, offerToReplace, printingTrouble, "%PDF-", "%%EOF\n"},
-    {"MessageFile", kMessageFile, sendMail, nothingSaid, mailTrouble, "X-Unsent: 1", "--\r\n"}};
+    {"ReportPdf", "Report.PDF", saveReportPdf, offerToReplace, nothing, printingTrouble, "%PDF-", "%%EOF\n"},
+    {"BoardPdf", "Bracket.PDF", saveBoardPdf, offerToReplace, nothing, printingTrouble, "%PDF-", "%%EOF\n"},
+    {"MessageFile", kMessageFile, sendMail, nothing, offerOfTheFolder, mailTrouble, "X-Unsent: 1", "--\r\n"}};
 
 void PrintTo(const Writer& writer, std::ostream* out) { *out << writer.name; }
 
@@ -171,7 +189,7 @@ TEST_P(ServicesUnderFaults, LoseNothingAndWorkAgainOnceItIsRepaired)
             fault.strike(scratch.path(), target);
         };
         const std::string shownBefore = reports.onScreen();
-        std::vector<ui::Message> expected = writer.success(target);
+        std::vector<ui::Message> expected = writer.asked(target);
         expected.push_back(writer.trouble(scratch.path(), fault));
 
         writer.press(reports, target);
@@ -183,7 +201,9 @@ TEST_P(ServicesUnderFaults, LoseNothingAndWorkAgainOnceItIsRepaired)
         reports.strike = nullptr;
         reports.fake.dialogs.shown.clear();
         writer.press(reports, target);
-        EXPECT_EQ(reports.fake.dialogs.shown, writer.success(target));
+        expected = writer.asked(target);
+        std::ranges::copy(writer.said(target), std::back_inserter(expected));
+        EXPECT_EQ(reports.fake.dialogs.shown, expected);
         EXPECT_THAT(scratch.get(writer.file), testing::HasSubstr(writer.begin));
         EXPECT_THAT(scratch.get(writer.file), testing::EndsWith(writer.end));
         EXPECT_EQ(filesIn(scratch.path()).size(), before.size());

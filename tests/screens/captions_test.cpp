@@ -195,7 +195,7 @@ TEST_F(Captions, OfTheEmailDialog)
     EXPECT_THAT(captionsOf(email),
                 ElementsAre("frmPoolEMail: Tallyhoop - EMail Selections", "lblEntry: Enter Email Addresses",
                             "cmdFreeEntry: Not In List Below", "cmdUseList: Match List Below", "lblTo: Send To: (0)",
-                            "cmdDelete: Delete Email Selected", "lblSubject: Subject:",
+                            "cmdDelete: Delete Email Selected", "cmdCopy: Copy Addresses", "lblSubject: Subject:",
                             "lblMessage: Enter Email Message:", "cmdSend: Send Email", "cmdExit: Exit/Cancel"));
 }
 

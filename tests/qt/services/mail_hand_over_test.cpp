@@ -97,6 +97,13 @@ protected:
                 .attachments = {{awkward / "RPTOPT1.TXT", 12}, {awkward / "RPTOPT7.TXT", 13}}};
     }
 
+    ui::MailMessage toThousands() const
+    {
+        ui::MailMessage everybody = message();
+        everybody.recipients.assign(10000, "somebody.or.other@example.org");
+        return everybody;
+    }
+
     std::string pipeName() const { return (programs.path() / "report").native(); }
     std::string encodedFolder() const
     {
@@ -113,28 +120,29 @@ private:
     int m_pipe = -1;
 };
 
-TEST(MailRoutes, PreferThunderbirdWhenItIsTheHandlerOrWhenThereIsNone)
+TEST(MailRoutes, PreferThunderbirdsOwnCommandWhenItIsTheHandler)
 {
     EXPECT_EQ(mailRoutes("thunderbird.desktop", true, true),
               (Routes{MailRoute::Thunderbird, MailRoute::XdgEmail, MailRoute::MessageFile}));
     EXPECT_EQ(mailRoutes("org.mozilla.Thunderbird.desktop", true, false),
               (Routes{MailRoute::Thunderbird, MailRoute::MessageFile}));
-    EXPECT_EQ(mailRoutes("", true, true),
-              (Routes{MailRoute::Thunderbird, MailRoute::XdgEmail, MailRoute::MessageFile}));
-}
-
-TEST(MailRoutes, UseXdgEmailOtherwise)
-{
-    EXPECT_EQ(mailRoutes("", false, true), (Routes{MailRoute::XdgEmail, MailRoute::MessageFile}));
-    EXPECT_EQ(mailRoutes("org.kde.kmail2.desktop", true, true), (Routes{MailRoute::XdgEmail, MailRoute::MessageFile}));
     EXPECT_EQ(mailRoutes("thunderbird.desktop", false, true), (Routes{MailRoute::XdgEmail, MailRoute::MessageFile}));
 }
 
-TEST(MailRoutes, WriteAMessageFileWhereAttachmentsWouldBeDropped)
+TEST(MailRoutes, UseXdgEmailForClientsKnownToAttachFiles)
+{
+    EXPECT_EQ(mailRoutes("org.kde.kmail2.desktop", true, true), (Routes{MailRoute::XdgEmail, MailRoute::MessageFile}));
+    EXPECT_EQ(mailRoutes("org.gnome.Evolution.desktop", false, true),
+              (Routes{MailRoute::XdgEmail, MailRoute::MessageFile}));
+    EXPECT_EQ(mailRoutes("org.kde.kmail2.desktop", true, false), Routes{MailRoute::MessageFile});
+}
+
+TEST(MailRoutes, WriteAMessageFileForEveryOtherHandlerAndForNone)
 {
     EXPECT_EQ(mailRoutes("firefox-esr.desktop", true, true), Routes{MailRoute::MessageFile});
+    EXPECT_EQ(mailRoutes("a-browser-of-next-year.desktop", true, true), Routes{MailRoute::MessageFile});
+    EXPECT_EQ(mailRoutes("", true, true), Routes{MailRoute::MessageFile});
     EXPECT_EQ(mailRoutes("", false, false), Routes{MailRoute::MessageFile});
-    EXPECT_EQ(mailRoutes("org.kde.kmail2.desktop", true, false), Routes{MailRoute::MessageFile});
 }
 
 TEST_F(MailHandOverTest, OpensAndClosesASession)
@@ -160,13 +168,14 @@ TEST_F(MailHandOverTest, ComposesInThunderbirdWhenItIsTheHandler)
                                         encodedFolder() + "/RPTOPT1.TXT," + encodedFolder() + "/RPTOPT7.TXT'"}));
 }
 
-TEST_F(MailHandOverTest, ComposesInThunderbirdWhenNoHandlerIsSet)
+TEST_F(MailHandOverTest, OpensAMessageFileWhenNoHandlerIsSet)
 {
     setHandler("");
     installRecording("thunderbird");
     installRecording("xdg-email");
+    installRecording("gio");
     EXPECT_TRUE(mail.send(message()));
-    EXPECT_EQ(started().at(0), "thunderbird");
+    EXPECT_EQ(started().at(0), "gio");
 }
 
 TEST_F(MailHandOverTest, GivesOtherHandlersToXdgEmailWithEachFile)
@@ -209,43 +218,89 @@ TEST_F(MailHandOverTest, TriesTheNextWayWhenAProgramCannotBeStarted)
     EXPECT_EQ(started().at(0), "xdg-email");
 }
 
-TEST_F(MailHandOverTest, TakesAClientThatFailsAfterItsStartForOneThatHasTheMessage)
+TEST_F(MailHandOverTest, TriesTheNextWayWhenAProgramEndsWithAnError)
 {
-    // A client may run as long as its window is open: nobody waits for its end.
     setHandler("thunderbird.desktop");
-    installRecording("thunderbird", 1);
-    installRecording("xdg-email", 1);
-    installRecording("gio");
-    EXPECT_TRUE(mail.send(message()));
-    EXPECT_EQ(started().at(0), "thunderbird");
-    EXPECT_FALSE(std::filesystem::exists(awkward / "TALLYHOOP.EML")) << "another way was tried";
-
-    setHandler("org.gnome.Evolution.desktop");
-    EXPECT_TRUE(mail.send(message()));
+    install("thunderbird", "exit 1");
+    installRecording("xdg-email");
+    const Result<ui::HandedOver> sent = mail.send(message());
+    ASSERT_TRUE(sent);
+    EXPECT_EQ(sent->file, std::filesystem::path{});
     EXPECT_EQ(started().at(0), "xdg-email");
     EXPECT_FALSE(std::filesystem::exists(awkward / "TALLYHOOP.EML")) << "another way was tried";
 }
 
-TEST_F(MailHandOverTest, NamesTheFilesWhenNothingCanTakeTheMessage)
+TEST_F(MailHandOverTest, OpensAMessageFileWhenXdgEmailFindsNoClient)
 {
-    const Result<Done> sent = mail.send(message());
+    setHandler("org.gnome.Evolution.desktop");
+    install("xdg-email", "exit 3");
+    installRecording("gio");
+    const Result<ui::HandedOver> sent = mail.send(message());
+    ASSERT_TRUE(sent);
+    EXPECT_EQ(sent->file, awkward / "TALLYHOOP.EML");
+    EXPECT_EQ(sent->trouble, "");
+    EXPECT_EQ(started().at(0), "gio");
+}
+
+TEST_F(MailHandOverTest, LeavesAClientRunningThatTakesLongAndCountsItAsOneThatHasTheMessage)
+{
+    const std::string gate = (programs.path() / "gate").native();
+    ASSERT_EQ(mkfifo(gate.c_str(), 0600), 0);
+    setHandler("thunderbird.desktop");
+    install("thunderbird", "read go < '" + gate + "'\nprintf 'still here\\0END\\0' > '" + pipeName() + "'\nexit 1");
+    installRecording("xdg-email");
+    {
+        MailHandOver hasty{DataFolder{awkward}, std::chrono::milliseconds{50}};
+        const Result<ui::HandedOver> sent = hasty.send(message());
+        ASSERT_TRUE(sent);
+        EXPECT_EQ(sent->file, std::filesystem::path{});
+        EXPECT_TRUE(nothingStarted());
+    }
+    const int out = ::open(gate.c_str(), O_RDWR | O_CLOEXEC); // both ends, so that it does not wait
+    ASSERT_EQ(::write(out, "go\n", 3), 3);
+    EXPECT_EQ(started(), Arguments{"still here"}) << "it was killed";
+    ::close(out);
+}
+
+TEST_F(MailHandOverTest, KeepsTheMessageInAFileWhenNothingCanTakeIt)
+{
+    const Result<ui::HandedOver> sent = mail.send(message());
+    ASSERT_TRUE(sent);
+    EXPECT_EQ(sent->file, awkward / "TALLYHOOP.EML");
+    EXPECT_EQ(sent->trouble, "No program was found that opens message files.");
+    EXPECT_NE(scratch.get("O'Brien, J 100% f\xC3\xBCr/TALLYHOOP.EML").find("X-Unsent: 1"), std::string::npos);
+}
+
+TEST_F(MailHandOverTest, SaysWhatEveryProgramAnsweredThatWasTried)
+{
+    setHandler("org.gnome.Evolution.desktop");
+    install("xdg-email", "exit 3");
+    install("gio", "exit 2");
+    const Result<ui::HandedOver> sent = mail.send(message());
+    ASSERT_TRUE(sent);
+    EXPECT_EQ(sent->trouble, "xdg-email ended with the error 3.\r\ngio ended with the error 2.");
+}
+
+TEST_F(MailHandOverTest, TakesACrashForARefusal)
+{
+    install("gio", "kill -KILL $$");
+    const Result<ui::HandedOver> sent = mail.send(message());
+    ASSERT_TRUE(sent);
+    EXPECT_EQ(sent->trouble, "gio has crashed.");
+}
+
+TEST_F(MailHandOverTest, NamesTheFilesWhenNotEvenAMessageFileCanBeWritten)
+{
+    std::filesystem::create_directories(awkward / "TALLYHOOP.EML" / "in the way");
+    const Result<ui::HandedOver> sent = mail.send(message());
     ASSERT_FALSE(sent);
     EXPECT_EQ(sent.failure().message, "The message could not be handed to a mail program.\r\n"
-                                      "No mail program was found.\r\n\r\n"
+                                      "Is a directory\r\n\r\n"
                                       "You can attach the files yourself:\r\n\r\n"
                                       "RPTOPT1.TXT\r\nRPTOPT7.TXT\r\n\r\n"
                                       "They are in the folder " +
                                           scratch.path().native() + "/O'Brien, J 100% f\xFCr");
     EXPECT_EQ(scratch.get("O'Brien, J 100% f\xC3\xBCr/RPTOPT1.TXT"), "first\r\n");
-}
-
-TEST_F(MailHandOverTest, FailsWhenNothingOpensMessageFiles)
-{
-    installRecording("gio", 2);
-    const Result<Done> sent = mail.send(message());
-    ASSERT_FALSE(sent);
-    EXPECT_NE(sent.failure().message.find("No mail program was found."), std::string::npos);
-    EXPECT_NE(sent.failure().message.find("RPTOPT7.TXT"), std::string::npos);
 }
 
 TEST_F(MailHandOverTest, DoesNotSendAMessageWithAReportMissing)
@@ -254,7 +309,7 @@ TEST_F(MailHandOverTest, DoesNotSendAMessageWithAReportMissing)
     installRecording("thunderbird");
     const ui::MailMessage incomplete = message();
     std::filesystem::remove(awkward / "RPTOPT7.TXT");
-    const Result<Done> sent = mail.send(incomplete);
+    const Result<ui::HandedOver> sent = mail.send(incomplete);
     ASSERT_FALSE(sent);
     EXPECT_NE(sent.failure().message.find("RPTOPT7.TXT is not there."), std::string::npos);
     EXPECT_TRUE(nothingStarted());
@@ -267,10 +322,19 @@ TEST_F(MailHandOverTest, HandsTenThousandRecipientsOverInAFile)
     installRecording("thunderbird");
     installRecording("xdg-email");
     installRecording("gio");
-    ui::MailMessage everybody = message();
-    everybody.recipients.assign(10000, "somebody.or.other@example.org");
-    EXPECT_TRUE(mail.send(everybody));
+    EXPECT_TRUE(mail.send(toThousands()));
     EXPECT_EQ(started(), (Arguments{"gio", "open", (awkward / "TALLYHOOP.EML").native()}));
+}
+
+TEST_F(MailHandOverTest, SaysThatAMessageIsTooLongWhenNothingOpensItsFile)
+{
+    setHandler("thunderbird.desktop");
+    installRecording("thunderbird");
+    const Result<ui::HandedOver> sent = mail.send(toThousands());
+    ASSERT_TRUE(sent);
+    EXPECT_EQ(sent->trouble, "The message is too long for the command line of a mail program.\r\n"
+                             "No program was found that opens message files.");
+    EXPECT_TRUE(nothingStarted());
 }
 
 } // namespace

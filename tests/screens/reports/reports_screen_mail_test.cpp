@@ -192,6 +192,107 @@ TEST_F(ReportsMail, SaysSoWhenTheMessageCouldNotBeHandedOverAndSignsOff)
     EXPECT_TRUE(folder.has("RPTOPT1.TXT"));
 }
 
+TEST_F(ReportsMail, SaysThatTheMailProgramHasTheMessage)
+{
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_EQ(screen.news().text, "Your mail program has the message: send it there.");
+    EXPECT_FALSE(draft.unsent);
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+}
+
+TEST_F(ReportsMail, KeepsWhatWasWrittenUntilAMailProgramHasIt)
+{
+    platform.mail.sendTrouble = Failure{"The mail client did not start."};
+    tick({kStandings});
+
+    create(kEmail);
+
+    ASSERT_TRUE(draft.unsent);
+    EXPECT_EQ(draft.unsent->recipients, (std::vector<std::string>{"a@example.org", "b@example.org"}));
+    EXPECT_EQ(draft.unsent->subject, "Standings");
+    EXPECT_EQ(draft.unsent->message, "Hello all");
+    EXPECT_EQ(screen.news().text, "Not sent. What you wrote comes back when you mail reports again.");
+
+    platform.mail.sendTrouble.reset();
+    create(kEmail);
+
+    ASSERT_TRUE(requested.unsent) << "the dialog could not show it again";
+    EXPECT_EQ(requested.unsent->message, "Hello all");
+    EXPECT_FALSE(draft.unsent);
+}
+
+TEST_F(ReportsMail, NamesTheMessageFileAndOffersItsFolder)
+{
+    platform.mail.handedOver = {folder.path() / "TALLYHOOP.EML", ""};
+    platform.dialogs.answer(ui::Answer::Yes);
+    tick({kStandings});
+
+    create(kEmail);
+
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(
+        platform.dialogs.shown[0],
+        (ui::Message{"Tallyhoop - frmPoolReports, MailReports",
+                     "The message and its reports are in the file TALLYHOOP.EML, which the desktop has been asked "
+                     "to open.\r\n"
+                     "Send the message from the window that opens.\r\n\r\n"
+                     "If none does, open the file with your mail program, or attach the reports to a message of "
+                     "your own. All files are in the folder\r\n" +
+                         folder.path().string() + "\r\n\r\nDo you want to see this folder?",
+                     ui::Buttons::YesNo, ui::Icon::Information, "email"}));
+    EXPECT_EQ(platform.programs.foldersOpened, std::vector{folder.path()});
+    EXPECT_FALSE(draft.unsent) << "the file was opened";
+    EXPECT_EQ(screen.news().text, "The message is in the file TALLYHOOP.EML.");
+}
+
+TEST_F(ReportsMail, SaysWhyNoProgramHasOpenedTheMessageFile)
+{
+    platform.mail.handedOver = {folder.path() / "TALLYHOOP.EML", "gio ended with the error 2."};
+    platform.dialogs.answer(ui::Answer::No);
+    tick({kStandings});
+
+    create(kEmail);
+
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.shown[0].text,
+              "The message could not be handed to a mail program.\r\n"
+              "gio ended with the error 2.\r\n\r\n"
+              "It is in the file TALLYHOOP.EML, with its reports. Open this file with your mail program, or attach the "
+              "reports to a message of your own. All files are in the folder\r\n" +
+                  folder.path().string() + "\r\n\r\nDo you want to see this folder?");
+    EXPECT_EQ(platform.dialogs.shown[0].icon, ui::Icon::Exclamation);
+    EXPECT_TRUE(platform.programs.foldersOpened.empty());
+    EXPECT_TRUE(draft.unsent);
+}
+
+TEST_F(ReportsMail, SaysSoWhenTheFolderCannotBeShown)
+{
+    platform.mail.handedOver = {folder.path() / "TALLYHOOP.EML", ""};
+    platform.programs.openFolderTrouble = Failure{"No program was found that shows folders."};
+    platform.dialogs.answer(ui::Answer::Yes);
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_EQ(platform.dialogs.shown.back(),
+              exclamation("Tallyhoop - frmPoolReports, MailReports", "No program was found that shows folders."));
+}
+
+TEST_F(ReportsMail, ShowsABusyPointerWhileTheMailProgramStarts)
+{
+    tick({kStandings});
+    int begunBefore = 0;
+    screens.whenLoaded = [&](ScreenKind) { begunBefore = platform.progress.begun; };
+
+    create(kEmail);
+
+    EXPECT_EQ(platform.progress.begun, begunBefore + 1);
+    EXPECT_EQ(platform.progress.ended, platform.progress.begun);
+}
+
 TEST_F(ReportsMail, CarriesAllSevenReports)
 {
     tickAll();
