@@ -84,7 +84,9 @@ Page* ScreenHost::page(ScreenKind kind) const
 
 void ScreenHost::load(ScreenKind kind, const std::string& news)
 {
-    if (isLoaded(kind)) {
+    if (Loaded* one = loaded(kind)) {
+        if (!news.empty())
+            one->screen->say(news);
         bringToFront(kind);
         return;
     }
@@ -195,7 +197,10 @@ void ScreenHost::showLastStacked()
 {
     for (auto one = m_loaded.rbegin(); one != m_loaded.rend(); ++one)
         if ((*one)->placement == Placement::Stacked && (*one)->page->parentWidget()) {
-            m_frame.showPage(*(*one)->page);
+            Page& page = *(*one)->page;
+            m_frame.showPage(page);
+            if (QWidget* last = page.focusWidget()) // had the focus before the page was covered
+                last->setFocus(Qt::OtherFocusReason);
             return;
         }
 }

@@ -14,7 +14,7 @@ public:
     virtual ~Screens() = default;
 
     /// Loads a screen and shows it; a modal one returns when it has closed. One that is loaded comes to the front.
-    /// @param news what a fresh screen says first, of what led to it; empty = nothing
+    /// @param news what the screen says then, of what led to it; empty = nothing
     virtual void load(ScreenKind kind, const std::string& news = {}) = 0;
 
     /// Unloads a screen; nothing happens when it is not loaded.

@@ -204,6 +204,8 @@ void BoardScreen::enterGameResults()
     showEntry(m_files.readResults(m_shared.field));
     beginUnmarked();
     m_resultsMode = true;
+    if (focused == &txtPlayerName || focused == &txtPlayerInitials) // which are locked now
+        focused = &lblRegion[Position{0}];
 }
 
 void BoardScreen::scoreSelections()

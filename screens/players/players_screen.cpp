@@ -23,6 +23,8 @@ constexpr const char* kTitle = "Pool Names Maintenance";
 
 const ui::Message kSelectBeforeChange{kTitle, "** You need to select one record prior to CHANGE **", ui::Buttons::Ok,
                                       ui::Icon::Exclamation};
+const ui::Message kNothingToAdd{kTitle, "The boxes are empty: there is nothing to add.", ui::Buttons::Ok,
+                                ui::Icon::Exclamation, help_topic::kPlayers};
 const ui::Message kSelectBeforeDelete{kTitle, "** You need to select one record prior to DELETE **", ui::Buttons::Ok,
                                       ui::Icon::Exclamation};
 const ui::Message kNoSelections{kTitle,
@@ -150,6 +152,7 @@ void PlayersScreen::enterSaved(const SavedPlayer& saved)
     const std::optional<int> row = rowOfSaved(saved);
     if (!row) {
         m_mode = SaveKind::NewFile;
+        say("Add Record puts " + txtName.text + " into the list.");
         return;
     }
     if (saved.kind == SaveKind::SameName) {
@@ -196,12 +199,38 @@ void PlayersScreen::showSelectedRow()
 
 void PlayersScreen::addRecord()
 {
+    if (!mayBeAdded())
+        return;
     std::vector<std::string> rows = lstNames.rows;
     insertSorted(rows, rowFromBoxes());
     m_changed = true;
     // Should the list not be written now, Done (or another row selected) still finds the record in the boxes.
     m_boxesHoldRecord = true;
     finish(std::move(rows));
+}
+
+/// @returns false for an empty record, and for a file that has one already unless the person wants another
+bool PlayersScreen::mayBeAdded()
+{
+    const auto isBlank = [](const ui::TextBox* box) { return withoutOuterBlanks(box->text).empty(); };
+    if (std::ranges::all_of(std::initializer_list<const ui::TextBox*>{&txtName, &txtFileName, &txtEmail, &txtPhone},
+                            isBlank)) {
+        m_dialogs.show(kNothingToAdd);
+        focused = &txtName;
+        return false;
+    }
+    if (isBlank(&txtFileName))
+        return true;
+    const auto listed = std::ranges::find_if(lstNames.rows, [this](const std::string& row) {
+        return recordMeans(m_folder, parsePlayerRow(row).fileName, txtFileName.text);
+    });
+    if (listed == lstNames.rows.end())
+        return true;
+    const PlayerRecord record = parsePlayerRow(*listed);
+    return m_dialogs.show({kTitle,
+                           "The list has a record for this file already:\r\n\r\n" + trimTrailingBlanks(record.name) +
+                               "   " + trimTrailingBlanks(record.fileName) + "\r\n\r\nDo you want to add another one?",
+                           ui::Buttons::OkCancel, ui::Icon::Question, help_topic::kPlayers}) != ui::Answer::Cancel;
 }
 
 void PlayersScreen::completeChanges()
@@ -284,10 +313,21 @@ void PlayersScreen::finish(std::vector<std::string> rows)
         std::filesystem::remove(file, ignored);
     }
     m_pendingDeletions.clear();
+    m_isAdded = m_saved && std::ranges::any_of(records, [&](const PlayerRecord& record) {
+                    return recordMeans(m_folder, record.fileName, recordedFileName(m_folder, m_saved->file));
+                });
     close();
 }
 
-void PlayersScreen::close() { m_screens.unload(ScreenKind::Players); }
+/// Leaves; the board says so when the selection that was saved has no record.
+void PlayersScreen::close()
+{
+    const std::string file = m_saved ? shown(m_saved->file.filename()) : std::string{};
+    const bool isMissing = m_mode == SaveKind::NewFile && !m_isAdded;
+    m_screens.unload(ScreenKind::Players);
+    if (isMissing)
+        m_screens.load(ScreenKind::Board, file + " is saved, and has no record in the player list.");
+}
 
 bool PlayersScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
 {

@@ -61,6 +61,7 @@ private:
     void takeRowOut(int row, const std::string& playerName);
     void showSelectedRow();
     void addRecord();
+    bool mayBeAdded();
     void completeChanges();
     void deleteSelection();
     bool anotherRowHasName(std::string_view recorded) const;
@@ -83,6 +84,7 @@ private:
 
     std::optional<SaveKind> m_mode;                        ///< nothing = opened without a player to enter
     bool m_listFaulty = false;                             ///< PLAYERNAMES.CSV has to be repaired
+    bool m_isAdded = false;                                ///< the list on disk has the saved player's record
     bool m_changed = false;                                ///< set by every add, change and delete
     bool m_boxesHoldRecord = false;                        ///< the boxes hold a record that no row holds
     std::vector<std::filesystem::path> m_pendingDeletions; ///< selection files to delete once the list is written

@@ -71,8 +71,10 @@ TEST(ScreenHost, AFreshScreenSaysWhatItWasGivenToSayAfterItsLoad)
     EXPECT_EQ(program.screen(ScreenKind::Board).news().text, "A sentence.");
     EXPECT_EQ(program.page(ScreenKind::Board).findChild<QLabel*>(QStringLiteral("explanation"))->text(),
               QStringLiteral("A sentence."));
-    program.host.load(ScreenKind::Board, "Another."); // is there, and only comes to the front
-    EXPECT_EQ(program.screen(ScreenKind::Board).news().text, "A sentence.");
+    program.host.load(ScreenKind::Board, "Another."); // is there, and comes to the front
+    EXPECT_EQ(program.screen(ScreenKind::Board).news().text, "Another.");
+    program.host.load(ScreenKind::Board);
+    EXPECT_EQ(program.screen(ScreenKind::Board).news().text, "Another.") << "nothing else has happened";
 }
 
 TEST(ScreenHost, APageEnteringTheFrameKeepsTheFocusItsScreenChose)
@@ -99,6 +101,18 @@ TEST(ScreenHost, TheScreenBelowComesBackWhenTheOneAboveIsUnloaded)
     program.host.unload(ScreenKind::Reports);
     EXPECT_FALSE(program.host.isLoaded(ScreenKind::Reports));
     EXPECT_TRUE(program.page(ScreenKind::Board).isVisible());
+}
+
+TEST(ScreenHost, TheScreenBelowHasTheFocusAgainWhenTheOneAboveIsUnloaded)
+{
+    Program program;
+    activate(program.frame);
+    program.host.load(ScreenKind::Board);
+    program.page(ScreenKind::Board).other->setFocus();
+    program.desk.run(program.screen(ScreenKind::Board), [&] { program.host.load(ScreenKind::Reports); });
+    program.page(ScreenKind::Reports).name->setFocus();
+    program.desk.run(program.screen(ScreenKind::Reports), [&] { program.host.unload(ScreenKind::Reports); });
+    EXPECT_TRUE(program.page(ScreenKind::Board).other->hasFocus());
 }
 
 TEST(ScreenHost, AReloadIsAFreshScreenWhileTheOldOneFinishes)

@@ -217,6 +217,14 @@ TEST_F(BoardScreenState, TheListOfScoresDoesNotUnlockAScoredBoard)
     EXPECT_FALSE(board->mnuSaveSelection.enabled);
 }
 
+TEST_F(BoardScreenState, TheResultsDoNotLeaveTheFocusOnALockedBox)
+{
+    loadFinalized();
+    ASSERT_EQ(board->focused, &board->txtPlayerInitials);
+    enterResults();
+    EXPECT_EQ(board->focused, &board->lblRegion[Position{0}]);
+}
+
 TEST_F(BoardScreenState, AFieldThatOtherScreensChangeIsShownAtOnce)
 {
     loadFinalized();
