@@ -101,6 +101,9 @@ TEST(HelpLinks, TheTopicsThatMessagesNameAnswerThem)
     const auto topics = helpTopics();
     EXPECT_THAT(topics.at(help_topic::kDemo), HasSubstr("DEMO-Reset"));
     EXPECT_THAT(topics.at(help_topic::kDemo), HasSubstr("saving the field is refused"));
+    EXPECT_THAT(topics.at(help_topic::kDemo), HasSubstr("stays on"));
+    EXPECT_THAT(topics.at(help_topic::kEmail), HasSubstr("TALLYHOOP.EML"));
+    EXPECT_THAT(topics.at(help_topic::kPlayers), HasSubstr("Empty boxes are not added"));
     const std::string& repair = topics.at(help_topic::kRepair);
     for (const char* word : {"PLAYERNAMES.CSV", "PLAYERNAMES.TXT", "backup", "**Following Record was too long**",
                              "** Following record too short**", "**Formatting of following record incorrect**"})
