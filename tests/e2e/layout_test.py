@@ -8,6 +8,17 @@ import unittest
 from program import BUILD, CMAKE
 
 
+def build_type():
+    cache = (BUILD / "CMakeCache.txt").read_text()
+    return cache.split("CMAKE_BUILD_TYPE:STRING=", 1)[1].split("\n", 1)[0]
+
+
+def sections(program):
+    """What readelf lists of a program's sections."""
+    return subprocess.run(["readelf", "--wide", "--sections", program], check=True, text=True,
+                          stdout=subprocess.PIPE).stdout
+
+
 class ProgramFolder(unittest.TestCase):
     def setUp(self):
         self.folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
@@ -22,6 +33,16 @@ class ProgramFolder(unittest.TestCase):
     def test_everything_is_directly_in_the_folder(self):
         self.install()
         self.assertEqual(self.names(), ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", "tallyhoop"])
+
+    @unittest.skipUnless(build_type().startswith("Rel"), "only what people run is stripped")
+    def test_the_installed_programs_are_stripped(self):
+        self.install()
+        for program in ("tallyhoop", "DEMOSET.EXE"):
+            self.assertIn(".symtab", sections(BUILD / program))
+            shown = sections(self.folder / program)
+            self.assertIn(".text", shown)
+            for stripped in (".symtab", ".debug_info"):
+                self.assertNotIn(stripped, shown, program)
 
     def test_the_shipped_team_list_holds_the_369_names_between_its_marks(self):
         self.install()

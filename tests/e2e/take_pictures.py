@@ -6,6 +6,7 @@ scale, to look at other sizes: python3 -B take_pictures.py /somewhere 1920x1080 
 """
 
 import pathlib
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -17,26 +18,8 @@ SIZE = tuple(map(int, sys.argv[2].split("x"))) if sys.argv[2:] else (1366, 768)
 SCALE = float(sys.argv[3]) if sys.argv[3:] else 1
 PLAYER = "Demo Prophet_DP.THC"
 
-# The dark colours of a desktop; Qt reads them where the session names KDE as the desktop.
-DARK = """[Colors:Window]
-BackgroundNormal=49,54,59
-ForegroundNormal=252,252,252
-[Colors:View]
-BackgroundNormal=27,30,32
-BackgroundAlternate=35,38,41
-ForegroundNormal=252,252,252
-ForegroundInactive=161,169,177
-[Colors:Button]
-BackgroundNormal=49,54,59
-BackgroundAlternate=42,46,50
-ForegroundNormal=252,252,252
-[Colors:Selection]
-BackgroundNormal=29,111,165
-ForegroundNormal=252,252,252
-[Colors:Tooltip]
-BackgroundNormal=49,54,59
-ForegroundNormal=252,252,252
-"""
+# The dark colours of a desktop, which the README recommends where Qt does not know those of the desktop.
+DARK = pathlib.Path(__file__).parents[2] / "packaging/dark-colours"
 
 
 def take(program, name):
@@ -165,8 +148,8 @@ def take_reports(program):
 def main():
     PICTURES.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory() as settings:
-        (pathlib.Path(settings) / "kdeglobals").write_text(DARK)
-        night = {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": settings}
+        shutil.copy(DARK, pathlib.Path(settings) / "kdeglobals")
+        night = {"QT_QPA_PLATFORMTHEME": "kde", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": settings}
         for suffix, environment in (("", {}), ("-dark", night)):
             with Program(environment=environment, size=SIZE, scale=SCALE) as program:
                 program.suffix = suffix
