@@ -15,7 +15,8 @@ Result<Payoffs> pointsOf(const std::array<std::string, kRounds>& texts)
     for (std::size_t round = 0; round < texts.size(); ++round) {
         const Result<std::int16_t> payoff = wholeNumber(texts[round]);
         if (!payoff)
-            return payoff.failure();
+            return Failure{"The payoff of round " + std::to_string(round + 1) + " cannot be used. " +
+                           payoff.failure().message};
         payoffs[round] = *payoff;
     }
     return payoffs;

@@ -188,7 +188,11 @@ TEST_F(ReportMakerTest, ScoresWithThePayoffsOfTheField)
 
     field.payoffs = PayoffTexts{{"1", "2", "4", "8", "12", "40000"}};
     for (const ReportId id : kScoring)
-        expectRefused(id, critical(id, "The number \"40000\" is out of range: it must lie between -32768 and 32767."));
+        expectRefused(
+            id,
+            critical(id,
+                     "The payoff of round 6 cannot be used. The number \"40000\" is out of range: it must lie between "
+                     "-32768 and 32767."));
 }
 
 TEST_F(ReportMakerTest, NamesADamagedSelectionOnceAndGoesOnWithWhatWasRead)
