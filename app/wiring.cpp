@@ -46,11 +46,11 @@ public:
                 Placement::Stacked,
                 std::make_unique<BoardScreen>(
                     m_folder, m_platform, m_host,
-                    BoardScreen::Shared{m_shared.field, m_shared.savedPlayer, m_shared.listedVerdicts}));
+                    BoardScreen::Shared{m_shared.field, m_shared.savedPlayer, m_shared.listedPlayer}));
         case ScreenKind::Scores:
             return shownBy<qt::ScoresView>(Placement::OwnWindow,
                                            std::make_unique<ScoresScreen>(m_folder, m_platform, m_host, m_shared.field,
-                                                                          board().bracket(), m_shared.listedVerdicts));
+                                                                          board().bracket(), m_shared.listedPlayer));
         case ScreenKind::Setup:
             return shownBy<qt::SetupView>(Placement::Stacked,
                                           std::make_unique<SetupScreen>(m_folder, m_platform, m_host, m_shared.field));

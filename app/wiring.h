@@ -14,10 +14,10 @@ namespace tallyhoop {
 
 /// What outlives a screen. Nobody gets all of it: each value is handed to the screens that need it.
 struct SharedValues {
-    Field field;                            ///< the open field
-    std::optional<SavedPlayer> savedPlayer; ///< from the board to the player list
-    std::optional<Verdicts> listedVerdicts; ///< from the list of scores to the board
-    MailDraft mailDraft;                    ///< between the reports and the e-mail dialog
+    Field field;                             ///< the open field
+    std::optional<SavedPlayer> savedPlayer;  ///< from the board to the player list
+    std::optional<PlayerScore> listedPlayer; ///< from the list of scores to the board
+    MailDraft mailDraft;                     ///< between the reports and the e-mail dialog
 };
 
 /// Lets the host make every screen. All arguments must outlive the host's screens.

@@ -127,8 +127,8 @@ public:
     test::FakePlatform platform;
     test::FakeScreens screens;
     Field field = demo::sampleField();
-    std::optional<Verdicts> verdicts;
-    ScoresScreen screen{folder, platform.services, screens, field, results(), verdicts};
+    std::optional<PlayerScore> marked;
+    ScoresScreen screen{folder, platform.services, screens, field, results(), marked};
 };
 
 /// The reference for Calculate: the same files, read and thrown away.

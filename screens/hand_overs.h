@@ -1,6 +1,8 @@
 // screens/hand_overs.h - the few values that one screen leaves for another.
 #pragma once
 
+#include "pool/scoring.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -29,6 +31,12 @@ struct MailText {
     std::string subject;
     std::string message;
 };
+
+/// @returns what board and list of scores say of the player whose picks are marked
+inline std::string markedPlayer(const PlayerScore& score)
+{
+    return "Marked: " + score.fileName + ", " + std::to_string(score.points) + " of " + std::to_string(score.maxPoints);
+}
 
 /// What the reports screen asks of the e-mail dialog, and what that leaves for it.
 struct MailDraft {

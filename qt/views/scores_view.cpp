@@ -1,34 +1,83 @@
-// qt/views/scores_view.cpp - the score display's widgets, placed.
+// qt/views/scores_view.cpp - the score display's widgets, placed; a window that is as high as its rows.
 #include "qt/views/scores_view.h"
 
 #include "qt/look.h"
 #include "qt/widgets/page_area.h"
 
+#include <QHeaderView>
+#include <QScreen>
+#include <algorithm>
+
 namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kWidth = 840; ///< every column at its own width
-constexpr int kHeight = 420;
+constexpr int kWidth = 840;   ///< every column at its own width
+constexpr int kLeastRows = 4; ///< room for the note that there are none
 
 } // namespace
+
+QPoint placeBeside(QSize window, const QRect& owner, const QRect& room)
+{
+    const int top = std::clamp(owner.top(), room.top(), std::max(room.top(), room.bottom() + 1 - window.height()));
+    if (owner.right() + 1 + window.width() <= room.right() + 1)
+        return {owner.right() + 1, top};
+    if (owner.left() - window.width() >= room.left())
+        return {owner.left() - window.width(), top};
+    return {std::max(room.left(), room.right() + 1 - window.width()),
+            std::max(room.top(), room.bottom() + 1 - window.height())};
+}
 
 ScoresView::ScoresView(ScoresScreen& scores, Desk& desk) : Page{scores, desk}
 {
     auto* const commands = look::row();
     commands->addWidget(add(scores.cmdOk));
     commands->addStretch();
+    commands->addWidget(add(scores.cmdBestFirst));
     commands->addWidget(add(scores.cmdPrint));
     commands->addWidget(add(scores.cmdCopy));
     commands->addWidget(add(scores.cmdExit));
 
+    m_table = add(scores.msgScoreDisplay);
     auto* const whole = look::column();
     whole->addWidget(add(scores.lblInformation));
-    whole->addWidget(add(scores.msgScoreDisplay), 1);
+    whole->addWidget(m_table, 1);
     whole->addLayout(commands);
     whole->addWidget(add(scores.filList)); // hidden
     setContent(whole);
-    resize(QSize{kWidth, kHeight}.boundedTo(roomForWindow(*this)));
+    follow(scores.msgScoreDisplay.revision, [this](unsigned) { fitRows(); });
+}
+
+/// Only now it is known over which window it opens, and that its line at the bottom needs room as well.
+void ScoresView::showEvent(QShowEvent* event)
+{
+    fitRows();
+    Page::showEvent(event);
+}
+
+/// Makes the window as high as its rows, within the display, unless the person has chosen another size.
+void ScoresView::fitRows()
+{
+    if (m_fitted.isValid() && size() != m_fitted)
+        return;
+    const int others = sizeHint().height() - m_table->sizeHint().height();
+    const int rows = std::max(kLeastRows, m_table->model()->rowCount());
+    const int table = m_table->horizontalHeader()->sizeHint().height() +
+                      rows * m_table->verticalHeader()->defaultSectionSize() + 2 * m_table->frameWidth();
+    m_fitted = QSize{kWidth, others + table}.boundedTo(roomForWindow(*this));
+    resize(m_fitted);
+    place();
+}
+
+/// Places the window where it hides as little of the board as possible, unless the person has moved it.
+void ScoresView::place()
+{
+    const QWidget* const board = parentWidget();
+    if (!board || !isWindow() || (m_placed && pos() != *m_placed))
+        return;
+    const QSize frame = isVisible() ? frameGeometry().size() - size() : kWindowFrame;
+    m_placed = placeBeside(m_fitted + frame, board->frameGeometry(), board->screen()->availableGeometry());
+    move(*m_placed);
 }
 
 } // namespace tallyhoop::qt

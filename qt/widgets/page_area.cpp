@@ -10,7 +10,6 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr QSize kFrame{8, 36};         ///< what a window manager puts around a window
 constexpr QSize kMenuAndStatus{0, 60}; ///< above and below the content
 
 } // namespace
@@ -55,6 +54,6 @@ void PageArea::follow(QWidget* focused)
         ensureWidgetVisible(focused);
 }
 
-QSize roomForWindow(const QWidget& widget) { return widget.screen()->availableGeometry().size() - kFrame; }
+QSize roomForWindow(const QWidget& widget) { return widget.screen()->availableGeometry().size() - kWindowFrame; }
 
 } // namespace tallyhoop::qt

@@ -27,6 +27,9 @@ private:
     void follow(QWidget* focused);
 };
 
+/// What a window manager puts around a window, roughly: it is not known before the window is shown.
+inline constexpr QSize kWindowFrame{8, 36};
+
 /// @returns the room for a window without its frame on the display of a widget
 QSize roomForWindow(const QWidget& widget);
 

@@ -73,7 +73,7 @@ const Verdicts* BoardScreen::shownVerdicts() const
 {
     if (m_verdicts)
         return &*m_verdicts;
-    return m_shared.listedVerdicts ? &*m_shared.listedVerdicts : nullptr;
+    return m_shared.listedPlayer ? &m_shared.listedPlayer->verdicts : nullptr;
 }
 
 BoardPicture BoardScreen::picture() const
@@ -119,6 +119,8 @@ void BoardScreen::showState()
     document = documentName();
     explanation = whatToDo();
     status = now.finalized ? progressOf(m_bracket, m_resultsMode) : std::string{};
+    if (m_shared.listedPlayer)
+        status = markedPlayer(*m_shared.listedPlayer);
 }
 
 std::string BoardScreen::documentName() const
@@ -130,6 +132,8 @@ std::string BoardScreen::whatToDo() const
 {
     if (!m_shared.field.isFinalized())
         return "The field is not finalized yet: see Setup, Setup Pool Options.";
+    if (m_demo && m_openedFile.empty() && !m_resultsMode && !unsaved)
+        return "This is the sample pool: choose File, Open Selection to look at one of its players.";
     if (m_resultsMode)
         return "Game results: click the real winners forward and save.";
     return "Click the winners forward, then enter initials, name and the final's total points.";

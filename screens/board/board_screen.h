@@ -37,7 +37,8 @@ public:
     struct Shared {
         Field& field;                            ///< the open field, read again when the board is loaded
         std::optional<SavedPlayer>& savedPlayer; ///< left for the player list
-        std::optional<Verdicts>& listedVerdicts; ///< of the player chosen in the list of scores, whose picks are marked
+        std::optional<PlayerScore>&
+            listedPlayer; ///< of the player chosen in the list of scores, whose picks are marked
     };
 
     BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared);

@@ -102,6 +102,16 @@ std::vector<std::size_t> naturalOrder(std::size_t count)
     return places;
 }
 
+std::vector<std::size_t> sorted(std::vector<SortRow>& rows, CompareCells compare)
+{
+    mergeSort(rows, compare);
+    std::vector<std::size_t> places;
+    places.reserve(rows.size());
+    for (const SortRow& row : rows)
+        places.push_back(row.place);
+    return places;
+}
+
 /// A heading, and how wide its column is in characters.
 ui::GridColumn headingOf(ScoreColumn column)
 {
@@ -151,26 +161,46 @@ void ScoreTable::moveColumn(std::size_t from, std::size_t to)
 {
     if (from >= m_columns.size() || to >= m_columns.size())
         return;
+    shift(from, to);
+    arrange(sortedOrder(allCells()));
+}
+
+void ScoreTable::bestFirst()
+{
+    const auto score = std::ranges::find(m_columns, ScoreColumn::Score);
+    if (score == m_columns.end())
+        return;
+    shift(static_cast<std::size_t>(score - m_columns.begin()), 0);
+    arrange(orderFromTheHighest(allCells()));
+}
+
+/// Moves a column to the place of another; those between move up.
+void ScoreTable::shift(std::size_t from, std::size_t to)
+{
     const auto at = [this](std::size_t place) { return m_columns.begin() + static_cast<std::ptrdiff_t>(place); };
     if (from < to)
         std::rotate(at(from), at(from + 1), at(to + 1));
     else
         std::rotate(at(to), at(from), at(from + 1));
-    sort();
-    ++m_revision;
 }
 
-void ScoreTable::sort()
+std::vector<std::vector<std::string>> ScoreTable::allCells() const
 {
     std::vector<std::vector<std::string>> cells;
     cells.reserve(m_rows.size());
     for (const ListedScore& row : m_rows)
         cells.push_back(cellsOf(row));
+    return cells;
+}
+
+void ScoreTable::arrange(const std::vector<std::size_t>& places)
+{
     std::vector<ListedScore> sorted;
     sorted.reserve(m_rows.size());
-    for (const std::size_t place : sortedOrder(cells))
+    for (const std::size_t place : places)
         sorted.push_back(std::move(m_rows[place]));
     m_rows = std::move(sorted);
+    ++m_revision;
 }
 
 void ScoreTable::show(ui::Grid& grid) const
@@ -200,12 +230,13 @@ std::vector<std::size_t> sortedOrder(const std::vector<std::vector<std::string>>
     if (rows.empty() || rows.front().empty())
         return naturalOrder(rows.size());
     std::vector<SortRow> order = sortRows(rows);
-    mergeSort(order, directionOf(order));
-    std::vector<std::size_t> places;
-    places.reserve(order.size());
-    for (const SortRow& row : order)
-        places.push_back(row.place);
-    return places;
+    return sorted(order, directionOf(order));
+}
+
+std::vector<std::size_t> orderFromTheHighest(const std::vector<std::vector<std::string>>& rows)
+{
+    std::vector<SortRow> order = sortRows(rows);
+    return sorted(order, numericDescending);
 }
 
 } // namespace tallyhoop

@@ -35,6 +35,9 @@ public:
     /// @param from, to places of columns; nothing happens when one is not
     void moveColumn(std::size_t from, std::size_t to);
 
+    /// Moves the scores to the front and sorts by them, the highest first also where the first row has none.
+    void bestFirst();
+
     /// Counts the changes.
     unsigned revision() const { return m_revision; }
 
@@ -43,7 +46,9 @@ public:
 
 private:
     std::vector<std::string> cellsOf(const ListedScore& row) const;
-    void sort();
+    void shift(std::size_t from, std::size_t to);
+    void arrange(const std::vector<std::size_t>& places);
+    std::vector<std::vector<std::string>> allCells() const;
 
     std::vector<ScoreColumn> m_columns;
     std::vector<ListedScore> m_rows;
@@ -57,5 +62,8 @@ private:
 /// cells as text without regard to case.
 /// @returns the places of the rows in their new order
 std::vector<std::size_t> sortedOrder(const std::vector<std::vector<std::string>>& rows);
+
+/// The same, but always with the highest numbers first.
+std::vector<std::size_t> orderFromTheHighest(const std::vector<std::vector<std::string>>& rows);
 
 } // namespace tallyhoop

@@ -4,6 +4,7 @@
 #include "base/windows1252.h"
 #include "files/file_names.h"
 #include "files/pool_files.h"
+#include "screens/hand_overs.h"
 #include "screens/help_topics.h"
 #include "screens/printer_setup.h"
 #include "screens/printing_trouble.h"
@@ -28,14 +29,14 @@ constexpr const char* kNoneReadable = "None of the saved selections could be sco
 } // namespace
 
 ScoresScreen::ScoresScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Field& field,
-                           const Bracket& results, std::optional<Verdicts>& verdicts)
+                           const Bracket& results, std::optional<PlayerScore>& marked)
     : ui::Screen{"frmPoolMisc", "Display Scores (Total, Possible)"},
       m_folder{folder},
       m_platform{platform},
       m_screens{screens},
       m_field{field},
       m_results{results},
-      m_verdicts{verdicts}
+      m_marked{marked}
 {
     cmdOk.isDefault = true;
     filList.visible = false;
@@ -44,6 +45,7 @@ ScoresScreen::ScoresScreen(const DataFolder& folder, const ui::Platform& platfor
     msgScoreDisplay.explanation =
         "Drag a heading to another place to sort by it; click a file name to mark those picks on the board.";
     cmdOk.explanation = "Scores every selection in the program's folder against the results on the board.";
+    cmdBestFirst.explanation = "Moves Score to the front and sorts by it, the highest first.";
     cmdPrint.explanation = "Prints the list in its present order.";
     cmdCopy.explanation = "Puts the list on the clipboard, ready for a spreadsheet.";
     cmdExit.explanation = "Back to the board.";
@@ -60,10 +62,17 @@ void ScoresScreen::load()
     showTable({});
 }
 
+void ScoresScreen::showState()
+{
+    m_table.show(msgScoreDisplay);
+    cmdBestFirst.enabled = !msgScoreDisplay.rows.empty();
+    status = m_marked ? markedPlayer(*m_marked) : std::string{};
+}
+
 void ScoresScreen::closeRequested() { exit(); }
 
 /// Marks would leave the board read-only without the screen that explains them.
-void ScoresScreen::unloading() { m_verdicts.reset(); }
+void ScoresScreen::unloading() { m_marked.reset(); }
 
 void ScoresScreen::exit() { m_screens.unload(ScreenKind::Scores); }
 
@@ -83,7 +92,7 @@ void ScoresScreen::showTable(std::vector<ListedScore> rows)
 
 void ScoresScreen::calculate()
 {
-    m_verdicts.reset();
+    m_marked.reset();
     listFiles();
     const Result<Payoffs>& payoffs = m_field.payoffs.points();
     if (!payoffs) {
@@ -130,7 +139,7 @@ void ScoresScreen::cellClicked(std::size_t row, std::size_t column)
     const std::string text = msgScoreDisplay.rows.at(row).at(column);
     if (!endsWithFolded(text, file_name::kSelectionExtension))
         return;
-    m_verdicts.reset();
+    m_marked.reset();
     if (const FolderFile* file = fileMeantBy(row, column))
         markPicksOf(*file);
     else
@@ -156,8 +165,7 @@ void ScoresScreen::markPicksOf(const FolderFile& file)
         return;
     }
     readSelections(std::span{&file, 1}, m_results, [&](const FolderFile&, const Read<Entry>& selection) {
-        if (const std::optional<PlayerScore> score = scoreSelection(file, selection, *payoffs))
-            m_verdicts = score->verdicts;
+        m_marked = scoreSelection(file, selection, *payoffs);
         return true;
     });
 }
@@ -168,6 +176,12 @@ void ScoresScreen::headingDropped(std::optional<std::size_t> target)
     if (!dragged || !target)
         return;
     m_table.moveColumn(*dragged, *target);
+}
+
+void ScoresScreen::bestFirst()
+{
+    msgScoreDisplay.headingPressed.reset();
+    m_table.bestFirst();
 }
 
 void ScoresScreen::print()

@@ -20,18 +20,19 @@ class ScoresScreen : public ui::Screen
 {
 public:
     /// @param results  those on the board, saved or not
-    /// @param verdicts receives those on the picks of the player chosen here, for the board to show; nothing while none
-    ///                 is chosen
+    /// @param marked   receives the score of the player chosen here, whose picks the board marks; nothing while none is
+    ///                 chosen
     ScoresScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Field& field,
-                 const Bracket& results, std::optional<Verdicts>& verdicts);
+                 const Bracket& results, std::optional<PlayerScore>& marked);
 
     std::string helpTopic() const override;
-    void showState() override { m_table.show(msgScoreDisplay); }
+    void showState() override;
     void load() override;
     void closeRequested() override;
     void unloading() override;
 
     ui::Command cmdOk{this, "cmdOk", "&Calculate Totals Based on Results Displayed", [this] { calculate(); }};
+    ui::Command cmdBestFirst{this, "cmdBestFirst", "&Best First", [this] { bestFirst(); }};
     ui::Command cmdPrint{this, "cmdPrint", "&Print", [this] { print(); }};
     ui::Command cmdCopy{this, "cmdCopy", "C&opy", [this] { copy(); }};
     ui::Command cmdExit{this, "cmdExit", "E&xit", [this] { exit(); }};
@@ -42,6 +43,7 @@ public:
 
 private:
     void calculate();
+    void bestFirst();
     void print();
     void copy();
     void exit();
@@ -65,7 +67,7 @@ private:
     Screens& m_screens;
     const Field& m_field;
     const Bracket& m_results;
-    std::optional<Verdicts>& m_verdicts;
+    std::optional<PlayerScore>& m_marked;
     std::vector<FolderFile> m_files; ///< what filList lists
     ScoreTable m_table;
 };

@@ -47,7 +47,7 @@ public:
     FakeScreens screens;
     Field field;
     std::optional<SavedPlayer> savedPlayer;
-    std::optional<Verdicts> listedVerdicts;
+    std::optional<PlayerScore> listedPlayer;
     MailDraft draft;
     FakeBoard board;
 };

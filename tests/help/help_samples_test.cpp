@@ -43,8 +43,8 @@ protected:
     FakeScreens screens;
     Field field; // what the board shares, and reads
     std::optional<SavedPlayer> savedPlayer;
-    std::optional<Verdicts> listedVerdicts;
-    const BoardScreen::Shared shared{field, savedPlayer, listedVerdicts};
+    std::optional<PlayerScore> listedPlayer;
+    const BoardScreen::Shared shared{field, savedPlayer, listedPlayer};
 };
 
 } // namespace

@@ -36,7 +36,7 @@ protected:
     {
         if (!m_board) {
             m_board = std::make_unique<BoardScreen>(folder, platform.services, screens,
-                                                    BoardScreen::Shared{field, savedPlayer, listedVerdicts});
+                                                    BoardScreen::Shared{field, savedPlayer, listedPlayer});
             m_board->load();
             m_board->showState();
         }
@@ -55,7 +55,7 @@ protected:
     FakeScreens screens;
     Field field;
     std::optional<SavedPlayer> savedPlayer;
-    std::optional<Verdicts> listedVerdicts;
+    std::optional<PlayerScore> listedPlayer;
     MailDraft draft;
     std::unique_ptr<BoardScreen> m_board;
 };
@@ -109,7 +109,7 @@ TEST_F(HelpTopic, OfTheListOfScoresIsHowToReadItAlsoOnTheBoardBelowIt)
     putOwnPool();
     board().mnuGameResults.click();
     board().mnuScoreSelections.click();
-    ScoresScreen scores{folder, platform.services, screens, field, board().bracket(), listedVerdicts};
+    ScoresScreen scores{folder, platform.services, screens, field, board().bracket(), listedPlayer};
     scores.load();
     EXPECT_EQ(scores.helpTopic(), "ranking");
     EXPECT_EQ(board().helpTopic(), "ranking");

@@ -92,7 +92,7 @@ TEST_F(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
     field.finalized = "1";
     scratch.put(file_name::kSetup, setupFile(field));
     const DataFolder folder = scratch.folder();
-    BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedVerdicts}};
+    BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedPlayer}};
     board.load();
 
     const QStringList pages = pagesOf(ui::DrawingPrintout{"<b>&%1", board.drawing(), ui::Orientation::Landscape});

@@ -27,7 +27,7 @@ struct Captions : testing::Test {
     Field field;
     MailDraft draft;
     std::optional<SavedPlayer> savedPlayer;
-    std::optional<Verdicts> verdicts;
+    std::optional<PlayerScore> marked;
     SeedTexts seeds;
 };
 
@@ -83,7 +83,7 @@ std::vector<std::string> menusOf(const ui::Screen& screen)
 
 TEST_F(Captions, OfTheBoard)
 {
-    const BoardScreen board{folder, platform.services, screens, {field, savedPlayer, verdicts}};
+    const BoardScreen board{folder, platform.services, screens, {field, savedPlayer, marked}};
 
     EXPECT_THAT(
         captionsOf(board),
@@ -107,12 +107,12 @@ TEST_F(Captions, OfTheBoard)
 TEST_F(Captions, OfTheListOfScores)
 {
     const Bracket results;
-    const ScoresScreen scores{folder, platform.services, screens, field, results, verdicts};
+    const ScoresScreen scores{folder, platform.services, screens, field, results, marked};
 
     EXPECT_THAT(captionsOf(scores),
                 ElementsAre("frmPoolMisc: Display Scores (Total, Possible)",
-                            "cmdOk: Calculate Totals Based on Results Displayed", "cmdPrint: Print", "cmdCopy: Copy",
-                            "cmdExit: Exit",
+                            "cmdOk: Calculate Totals Based on Results Displayed", "cmdBestFirst: Best First",
+                            "cmdPrint: Print", "cmdCopy: Copy", "cmdExit: Exit",
                             "lblInformation: Select a Heading Column and drag to another position to change sequence"));
 }
 

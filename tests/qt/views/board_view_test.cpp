@@ -94,7 +94,7 @@ protected:
     test::FakePlatform platform;
     SharedValues shared;
     test::FakeScreens screens;
-    BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedVerdicts}};
+    BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedPlayer}};
     Desk desk;
     BoardView view{board, desk};
 };
@@ -319,8 +319,8 @@ TEST_F(BoardViewTest, APlaceReachedByKeysShowsThePathOfItsTeam)
 
 TEST_F(BoardViewTest, AnEmptyPickThatIsWrongIsRedLikeItsMark)
 {
-    shared.listedVerdicts.emplace();
-    (*shared.listedVerdicts)[Position{16}] = Verdict::Bad;
+    shared.listedPlayer.emplace();
+    shared.listedPlayer->verdicts[Position{16}] = Verdict::Bad;
     desk.push();
     const auto textColour = [](const QWidget& widget) { return widget.palette().color(QPalette::WindowText); };
     EXPECT_EQ(place(16).text(), QString{});
@@ -328,7 +328,7 @@ TEST_F(BoardViewTest, AnEmptyPickThatIsWrongIsRedLikeItsMark)
     EXPECT_EQ(find<QAbstractButton>(QStringLiteral("lblResult_0")).text(), QStringLiteral("X"));
     EXPECT_EQ(textColour(find(QStringLiteral("lblResult_0"))), QColor(255, 0, 0));
     EXPECT_EQ(textColour(place(17)), QColor(0, 0, 255));
-    shared.listedVerdicts.reset();
+    shared.listedPlayer.reset();
     desk.push();
     EXPECT_EQ(textColour(place(16)), QColor(0, 0, 255));
     EXPECT_EQ(textColour(find(QStringLiteral("lblResult_0"))), QColor(0, 0, 255));

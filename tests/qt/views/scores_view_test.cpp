@@ -78,7 +78,7 @@ protected:
     SharedValues shared;
     test::FakeScreens screens;
     const Bracket results{demo::sampleResults().picks};
-    ScoresScreen scores{folder, platform.services, screens, shared.field, results, shared.listedVerdicts};
+    ScoresScreen scores{folder, platform.services, screens, shared.field, results, shared.listedPlayer};
     Desk desk;
     ScoresView view{scores, desk};
 };
@@ -117,11 +117,11 @@ TEST_F(ScoresViewTest, MarksTheBoardWhenAFileNameIsPressedAndOnlyThen)
 {
     press("cmdOk");
     pressCell(0, 2);
-    EXPECT_FALSE(shared.listedVerdicts);
+    EXPECT_FALSE(shared.listedPlayer);
     pressCell(0, 0);
-    ASSERT_TRUE(shared.listedVerdicts);
+    ASSERT_TRUE(shared.listedPlayer);
     // The favorite's first game, Arizona over Jackson St., came true.
-    EXPECT_EQ((*shared.listedVerdicts)[gamePositions().front()], Verdict::Good);
+    EXPECT_EQ(shared.listedPlayer->verdicts[gamePositions().front()], Verdict::Good);
 }
 
 TEST_F(ScoresViewTest, MarksTheBoardWithTheKeyboardToo)
@@ -130,13 +130,51 @@ TEST_F(ScoresViewTest, MarksTheBoardWithTheKeyboardToo)
     table().setFocus();
     table().setCurrentIndex(table().model()->index(1, 0));
     QTest::keyClick(&table(), Qt::Key_Space);
-    EXPECT_TRUE(shared.listedVerdicts);
+    EXPECT_TRUE(shared.listedPlayer);
 }
 
 TEST_F(ScoresViewTest, LeavesOnEscape)
 {
     QTest::keyClick(&view, Qt::Key_Escape);
     EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::Scores));
+}
+
+TEST_F(ScoresViewTest, PutsTheBestFirstAtThePressOfAButton)
+{
+    EXPECT_FALSE(view.findChild<QPushButton*>(QStringLiteral("cmdBestFirst"))->isEnabled());
+    press("cmdOk");
+    press("cmdBestFirst");
+    EXPECT_EQ(heading(0), "Score");
+    EXPECT_THAT(shown(0), ElementsAre("80", "59", "55", "31"));
+}
+
+TEST_F(ScoresViewTest, IsAsHighAsItsRowsUntilThePersonChoosesAnotherSize)
+{
+    press("cmdOk"); // four rows
+    const int four = view.height();
+    const QRect lastRow = table().visualRect(table().model()->index(3, 0));
+    EXPECT_NEAR(table().viewport()->height(), lastRow.bottom() + 1, 2);
+    for (int player = 0; player < 6; ++player)
+        scratch.put("More" + std::to_string(player) + ".THC", scratch.get("Demo Prophet_DP.THC"));
+    press("cmdOk");
+    EXPECT_EQ(view.height(), four + 6 * table().rowHeight(0));
+    view.resize(700, 300);
+    scratch.put("Last.THC", scratch.get("Demo Prophet_DP.THC"));
+    press("cmdOk");
+    EXPECT_EQ(table().model()->rowCount(), 11);
+    EXPECT_EQ(view.size(), QSize(700, 300));
+}
+
+TEST(PlaceBeside, IsRightOfTheOtherWindowThenLeftThenLowAndRight)
+{
+    const QRect room{0, 30, 1920, 1050}; // ends at 1920 and 1080
+    const QSize window{600, 400};
+    EXPECT_EQ(placeBeside(window, {100, 50, 1220, 900}, room), QPoint(1320, 50));
+    EXPECT_EQ(placeBeside(window, {101, 50, 1220, 900}, room), QPoint(1320, 680)) << "a pixel too little";
+    EXPECT_EQ(placeBeside(window, {600, 50, 1320, 900}, room), QPoint(0, 50));
+    EXPECT_EQ(placeBeside(window, {0, 30, 1920, 1050}, room), QPoint(1320, 680));
+    EXPECT_EQ(placeBeside(window, {100, 900, 1220, 180}, room), QPoint(1320, 680)) << "lifted to be seen whole";
+    EXPECT_EQ(placeBeside({2000, 1200}, {0, 30, 1920, 1050}, room), QPoint(0, 30)) << "its title has to be seen";
 }
 
 } // namespace

@@ -24,7 +24,7 @@ protected:
     FakeScreens screens;
     Field field;
     std::optional<SavedPlayer> savedPlayer;
-    std::optional<Verdicts> listedVerdicts;
+    std::optional<PlayerScore> listedPlayer;
     DataFolder folder = scratch.folder();
     std::unique_ptr<BoardScreen> board;
 
@@ -63,7 +63,7 @@ protected:
     BoardScreen& load()
     {
         board = std::make_unique<BoardScreen>(folder, platform.services, screens,
-                                              BoardScreen::Shared{field, savedPlayer, listedVerdicts});
+                                              BoardScreen::Shared{field, savedPlayer, listedPlayer});
         board->load();
         board->showState();
         return *board;
@@ -142,7 +142,14 @@ protected:
     /// Marks the picks as those of a player chosen in the list of scores.
     void showListedVerdicts(const std::optional<Verdicts>& verdicts)
     {
-        listedVerdicts = verdicts;
+        listedPlayer.reset();
+        if (verdicts) {
+            listedPlayer.emplace();
+            listedPlayer->fileName = "Demo Prophet_DP.THC";
+            listedPlayer->points = 92;
+            listedPlayer->maxPoints = 120;
+            listedPlayer->verdicts = *verdicts;
+        }
         board->showState();
     }
 

@@ -179,6 +179,20 @@ TEST_F(BoardScreenLoad, KeepsWhatItWasGivenToSayUntilABoardIsBegun)
     EXPECT_EQ(board->news().text, "");
 }
 
+TEST_F(BoardScreenLoad, InDemoModeLeadsToOpenSelectionUntilSomethingIsBegun)
+{
+    putDemoMode();
+    loadFinalized();
+    const std::string lead = "This is the sample pool: choose File, Open Selection to look at one of its players.";
+    EXPECT_EQ(board->explanation, lead);
+    board->pressPosition(Position{0}, MouseButton::Left);
+    board->dropOnPosition(Position{16});
+    board->showState();
+    EXPECT_NE(board->explanation, lead);
+    board->mnuGameResults.click();
+    EXPECT_EQ(board->explanation, "Game results: click the real winners forward and save.");
+}
+
 TEST_F(BoardScreenLoad, SaysWhatToDo)
 {
     load();

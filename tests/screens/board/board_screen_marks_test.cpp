@@ -23,6 +23,7 @@ TEST_F(BoardScreenMarks, ShowsRightAndWrongPicksOfAListedPlayerAndLeavesTheOpenO
     verdicts[Position{126}] = Verdict::Good;
     verdicts[Position{0}] = Verdict::Bad;
     showListedVerdicts(verdicts);
+    EXPECT_EQ(board->status, "Marked: Demo Prophet_DP.THC, 92 of 120");
     EXPECT_EQ(board->lblRegion[16].colour, kGreen);
     EXPECT_EQ(board->lblResult[0].text, "=");
     EXPECT_EQ(board->lblRegion[24].colour, kRed);

@@ -65,6 +65,13 @@ TEST(SortedOrder, GoesUpwardsWhenTheFirstRowHoldsZero)
         << "also once it is sorted: the first row still holds 0";
 }
 
+TEST(OrderFromTheHighest, IsThatAlsoWhenTheFirstRowHoldsZero)
+{
+    EXPECT_THAT(orderFromTheHighest({{"0", "x"}, {"20", "y"}, {"3", "z"}}), ElementsAre(1U, 2U, 0U));
+    EXPECT_THAT(orderFromTheHighest({{"5", "60"}, {"5", "90"}}), ElementsAre(1U, 0U)) << "the next column decides";
+    EXPECT_THAT(orderFromTheHighest({}), IsEmpty());
+}
+
 TEST(SortedOrder, TakesATextThatOnlyBeginsWithANumberAsText)
 {
     // By numbers: 1st 2nd 10th, or the other way round.

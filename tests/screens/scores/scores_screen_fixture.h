@@ -21,8 +21,8 @@ struct ScoreDisplay : ::testing::Test {
     Field field = defaultField(); // its payoffs: 1, 2, 4, 8, 12, 16
     // Region 1 is played: its upper teams won, 8 * 1 + 4 * 2 + 2 * 4 + 8 = 32 points.
     Bracket results = without(everyUpperTeamWins(), 31, 126);
-    std::optional<Verdicts> verdicts;
-    ScoresScreen screen{folder, platform.services, screens, field, results, verdicts};
+    std::optional<PlayerScore> marked;
+    ScoresScreen screen{folder, platform.services, screens, field, results, marked};
 
     void putPlayer(const std::string& fileName, const std::string& initials, const std::string& name,
                    const Bracket& picks, const std::string& finalPoints = "145")
@@ -72,8 +72,8 @@ struct ScoreDisplay : ::testing::Test {
     /// Marks that an earlier click has left.
     void markSomebody()
     {
-        verdicts.emplace();
-        verdicts->values.fill(Verdict::Open);
+        marked.emplace();
+        marked->verdicts.values.fill(Verdict::Open);
     }
 };
 

@@ -53,15 +53,15 @@ TEST_F(ScoreDisplay, MarksThePicksOfThePlayerWhoseFileNameIsClicked)
     putThreePlayers();
     open();
     screen.cmdOk.click();
-    EXPECT_FALSE(verdicts);
+    EXPECT_FALSE(marked);
     screen.msgScoreDisplay.cellPressed(0, 0); // Adams
-    ASSERT_TRUE(verdicts);
-    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Bad);
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->verdicts[Position{16}], Verdict::Bad);
     screen.msgScoreDisplay.cellPressed(2, 0); // Smith
-    ASSERT_TRUE(verdicts);
-    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Good);
-    EXPECT_EQ((*verdicts)[Position{30}], Verdict::Good);
-    EXPECT_EQ((*verdicts)[Position{47}], Verdict::Possible);
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->verdicts[Position{16}], Verdict::Good);
+    EXPECT_EQ(marked->verdicts[Position{30}], Verdict::Good);
+    EXPECT_EQ(marked->verdicts[Position{47}], Verdict::Possible);
 }
 
 TEST_F(ScoreDisplay, MarksWhatTheFileHoldsWhenItsNameIsClicked)
@@ -71,8 +71,8 @@ TEST_F(ScoreDisplay, MarksWhatTheFileHoldsWhenItsNameIsClicked)
     screen.cmdOk.click();
     putPlayer("Smith_JS.THC", "JS", "Smith", everyUpperTeamWins());
     screen.msgScoreDisplay.cellPressed(0, 0);
-    ASSERT_TRUE(verdicts);
-    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Good);
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->verdicts[Position{16}], Verdict::Good);
 }
 
 TEST_F(ScoreDisplay, MarksNobodyWhenTheClickedFileCannotBeScored)
@@ -83,13 +83,13 @@ TEST_F(ScoreDisplay, MarksNobodyWhenTheClickedFileCannotBeScored)
     markSomebody();
     putPlayer("Adams_QA.THC", "QA", "Adams", everyUpperTeamWins(), "99999");
     screen.msgScoreDisplay.cellPressed(0, 0);
-    EXPECT_FALSE(verdicts);
+    EXPECT_FALSE(marked);
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
 
     markSomebody();
     setPayoffs({"99999", "2", "4", "8", "12", "16"});
     screen.msgScoreDisplay.cellPressed(2, 0);
-    EXPECT_FALSE(verdicts);
+    EXPECT_FALSE(marked);
     ASSERT_EQ(platform.dialogs.shown.size(), 2u);
     EXPECT_EQ(platform.dialogs.shown[1].text, field.payoffs.points().failure().message);
 }
@@ -104,9 +104,38 @@ TEST_F(ScoreDisplay, ReportsAClickedFileThatIsGoneAndMarksEmptyPicks)
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(platform.dialogs.shown[0].caption, "** ERROR IN OPENING FILE - ReadSelections Routine **");
     EXPECT_THAT(platform.dialogs.shown[0].text, ::testing::HasSubstr("Adams_QA.THC"));
-    ASSERT_TRUE(verdicts);
-    EXPECT_THAT(verdicts->values, ::testing::Each(Verdict::Bad))
+    ASSERT_TRUE(marked);
+    EXPECT_THAT(marked->verdicts.values, ::testing::Each(Verdict::Bad))
         << "64 rows that do not match and 63 games without a pick";
+}
+
+TEST_F(ScoreDisplay, PutsTheBestFirstWhoeverIsInTheFirstRow)
+{
+    putThreePlayers();
+    open();
+    EXPECT_FALSE(screen.cmdBestFirst.enabled);
+    screen.cmdOk.click();
+    EXPECT_TRUE(screen.cmdBestFirst.enabled);
+    EXPECT_EQ(column(2), (std::vector<std::string>{"0", "8", "32"})); // a drag would sort these upwards
+    screen.cmdBestFirst.click();
+    EXPECT_EQ(headings(), (std::vector<std::string>{"Score", "File Name", "Player Name", "-MAX-", "Winning Pick"}));
+    EXPECT_EQ(column(0), (std::vector<std::string>{"32", "8", "0"}));
+    EXPECT_EQ(column(1), (std::vector<std::string>{"Smith_JS.THC", "Brown_TB.THC", "Adams_QA.THC"}));
+    screen.cmdBestFirst.click();
+    EXPECT_EQ(column(0), (std::vector<std::string>{"32", "8", "0"})) << "a second press changes nothing";
+}
+
+TEST_F(ScoreDisplay, SaysWhosePicksAreMarked)
+{
+    putThreePlayers();
+    open();
+    screen.cmdOk.click();
+    EXPECT_EQ(screen.status, "");
+    screen.msgScoreDisplay.cellPressed(2, 0); // Smith: 32 earned; open are 3 regions of 32 and 2 * 12 + 16 = 136 more
+    screen.showState();
+    EXPECT_EQ(screen.status, "Marked: Smith_JS.THC, 32 of 168");
+    screen.cmdOk.click();
+    EXPECT_EQ(screen.status, "");
 }
 
 TEST_F(ScoreDisplay, DoesNothingWhenAnotherCellIsClicked)
@@ -115,10 +144,10 @@ TEST_F(ScoreDisplay, DoesNothingWhenAnotherCellIsClicked)
     open();
     screen.cmdOk.click();
     markSomebody();
-    const std::optional<Verdicts> before = verdicts;
+    const std::optional<PlayerScore> before = marked;
     for (const std::size_t other : {1u, 2u, 3u, 4u})
         screen.msgScoreDisplay.cellPressed(0, other);
-    EXPECT_EQ(verdicts, before);
+    EXPECT_EQ(marked, before);
 }
 
 TEST_F(ScoreDisplay, KnowsAFileNameInWhateverColumnAndCaseItIs)
@@ -129,8 +158,8 @@ TEST_F(ScoreDisplay, KnowsAFileNameInWhateverColumnAndCaseItIs)
     dragHeading(0, 4); // to the end
     markSomebody();
     screen.msgScoreDisplay.cellPressed(0, 4);
-    ASSERT_TRUE(verdicts);
-    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Good);
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->verdicts[Position{16}], Verdict::Good);
 }
 
 TEST_F(ScoreDisplay, MarksThePlayerOfTheClickedRowWhenTwoFileNamesLookAlike)
@@ -145,8 +174,8 @@ TEST_F(ScoreDisplay, MarksThePlayerOfTheClickedRowWhenTwoFileNamesLookAlike)
     for (std::size_t row = 0; row < 2; ++row) {
         const bool hasAllRight = screen.msgScoreDisplay.rows[row][2] == "32";
         screen.msgScoreDisplay.cellPressed(row, 0);
-        ASSERT_TRUE(verdicts);
-        EXPECT_EQ((*verdicts)[Position{16}], hasAllRight ? Verdict::Good : Verdict::Bad) << row;
+        ASSERT_TRUE(marked);
+        EXPECT_EQ(marked->verdicts[Position{16}], hasAllRight ? Verdict::Good : Verdict::Bad) << row;
     }
 }
 
@@ -158,11 +187,11 @@ TEST_F(ScoreDisplay, MarksTheRowThatIsClickedAfterSorting)
     dragHeading(3, 0); // the maximum: Smith comes first
     ASSERT_EQ(screen.msgScoreDisplay.rows[0][1], "Smith_JS.THC");
     screen.msgScoreDisplay.cellPressed(0, 1);
-    ASSERT_TRUE(verdicts);
-    EXPECT_EQ((*verdicts)[Position{30}], Verdict::Good);
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->verdicts[Position{30}], Verdict::Good);
     screen.msgScoreDisplay.cellPressed(2, 1); // Adams
-    ASSERT_TRUE(verdicts);
-    EXPECT_EQ((*verdicts)[Position{30}], Verdict::Bad);
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->verdicts[Position{30}], Verdict::Bad);
 }
 
 TEST_F(ScoreDisplay, MarksAFileWhoseNameIsNoneOfTheFolder)
@@ -172,8 +201,8 @@ TEST_F(ScoreDisplay, MarksAFileWhoseNameIsNoneOfTheFolder)
     screen.cmdOk.click();
     screen.msgScoreDisplay.cellPressed(0, 0);
     EXPECT_TRUE(platform.dialogs.shown.empty());
-    ASSERT_TRUE(verdicts);
-    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Good);
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->verdicts[Position{16}], Verdict::Good);
 }
 
 TEST_F(ScoreDisplay, NeverReadsOutsideTheFolderForACellThatLooksLikeAFileName)
@@ -187,7 +216,7 @@ TEST_F(ScoreDisplay, NeverReadsOutsideTheFolderForACellThatLooksLikeAFileName)
     markSomebody();
     for (std::size_t column = 1; column < 5; ++column)
         screen.msgScoreDisplay.cellPressed(0, column);
-    EXPECT_FALSE(verdicts);
+    EXPECT_FALSE(marked);
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);
 }
 

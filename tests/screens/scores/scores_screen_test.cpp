@@ -54,7 +54,7 @@ TEST_F(ScoreDisplay, CalculatesARowForEveryPlayerInTheOrderOfTheFiles)
     // regions 1 and 2 still has an entrant from region 2, so it counts as possible.
     EXPECT_THAT(screen.msgScoreDisplay.rows[1], ElementsAre("Brown_TB.THC", "TB, Brown", "8", "144", "Team 1"));
     EXPECT_THAT(screen.msgScoreDisplay.rows[2], ElementsAre("Smith_JS.THC", "JS, Smith", "32", "168", "Team 1"));
-    EXPECT_FALSE(verdicts) << "marks of a player who was chosen before";
+    EXPECT_FALSE(marked) << "marks of a player who was chosen before";
     EXPECT_EQ(platform.progress.begun, 1);
     EXPECT_EQ(platform.progress.ended, 1);
 }
@@ -147,7 +147,7 @@ TEST_F(ScoreDisplay, GivesTheBoardBackWithoutMarksWhoeverUnloadsIt)
     open();
     markSomebody();
     screen.unloading();
-    EXPECT_FALSE(verdicts);
+    EXPECT_FALSE(marked);
 }
 
 TEST_F(ScoreDisplay, TakesTheResultsFromTheBoardAndThePicksFromTheFiles)
@@ -161,10 +161,10 @@ TEST_F(ScoreDisplay, TakesTheResultsFromTheBoardAndThePicksFromTheFiles)
     // The champion, Team 1, lost its first game: 1 + 2 + 4 + 8 + 12 + 16 of the 168 points are gone.
     EXPECT_THAT(screen.msgScoreDisplay.rows[0], ElementsAre("Smith_JS.THC", "JS, Smith", "0", "125", "Team 1"));
     screen.msgScoreDisplay.cellPressed(0, 0);
-    ASSERT_TRUE(verdicts);
-    EXPECT_EQ((*verdicts)[Position{16}], Verdict::Bad);
-    EXPECT_EQ((*verdicts)[Position{24}], Verdict::Bad);
-    EXPECT_EQ((*verdicts)[Position{17}], Verdict::Possible);
+    ASSERT_TRUE(marked);
+    EXPECT_EQ(marked->verdicts[Position{16}], Verdict::Bad);
+    EXPECT_EQ(marked->verdicts[Position{24}], Verdict::Bad);
+    EXPECT_EQ(marked->verdicts[Position{17}], Verdict::Possible);
 }
 
 } // namespace
