@@ -3,7 +3,9 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "base/windows1252.h"
 
+#include <algorithm>
 #include <set>
 #include <string>
 
@@ -39,6 +41,35 @@ std::optional<FieldFault> fieldFault(const Field& field)
         if (isBadPayoff(field.payoffs.text(round)))
             return BadPayoff{round};
     return std::nullopt;
+}
+
+std::vector<RepeatedTeam> repeatedTeams(const Field& field)
+{
+    std::vector<RepeatedTeam> teams;
+    for (const TeamRow row : allTeamRows()) {
+        const std::string name = withoutOuterBlanks(field.teams[row]);
+        if (name.empty())
+            continue;
+        const auto same =
+            std::ranges::find_if(teams, [&](const RepeatedTeam& team) { return equalFolded(team.name, name); });
+        if (same == teams.end())
+            teams.push_back({name, {row}});
+        else
+            same->rows.push_back(row);
+    }
+    std::erase_if(teams, [](const RepeatedTeam& team) { return team.rows.size() == 1; });
+    return teams;
+}
+
+std::vector<TeamRow> unnamedTeams(const Field& field)
+{
+    const Field initial = defaultField();
+    std::vector<TeamRow> rows;
+    for (const TeamRow row : allTeamRows())
+        if (std::ranges::any_of(initial.teams.values,
+                                [&](const std::string& name) { return equalFolded(name, field.teams[row]); }))
+            rows.push_back(row);
+    return rows;
 }
 
 std::optional<SeedTexts> wholeSeeds(const SeedTexts& typed)

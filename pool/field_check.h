@@ -5,7 +5,9 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <variant>
+#include <vector>
 
 namespace tallyhoop {
 
@@ -36,6 +38,20 @@ using FieldFault = std::variant<BlankTeam, BlankTitle, BlankRegionTitle, BadPayo
 
 /// @returns the first thing that keeps a field from being final, in the order above; nothing when it is complete
 std::optional<FieldFault> fieldFault(const Field& field);
+
+/// A team that more than one row of the field names.
+struct RepeatedTeam {
+    std::string name;          ///< as the first of the rows spells it
+    std::vector<TeamRow> rows; ///< two or more, ascending
+    friend bool operator==(const RepeatedTeam&, const RepeatedTeam&) = default;
+};
+
+/// @returns the names that several rows hold, in the order of their first rows; case and blanks around them make no
+///          difference, and blank rows hold none
+std::vector<RepeatedTeam> repeatedTeams(const Field& field);
+
+/// @returns the rows that still hold one of the default field's names, TEAM1 to TEAM64 in any case
+std::vector<TeamRow> unnamedTeams(const Field& field);
 
 /// @returns the seeds as the whole numbers that they are rounded to; nothing unless they are 1..16, each once
 std::optional<SeedTexts> wholeSeeds(const SeedTexts& typed);

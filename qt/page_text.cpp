@@ -55,6 +55,7 @@ QWidget* Page::addLine(ui::TextBox& box)
     auto* edit = new LineEdit{m_lastTyped, this};
     followBox(box, *edit);
     keepTextInSync(m_sync, box, *edit);
+    follow(box.selectedByClick, [edit](bool selected) { edit->selectedByClick = selected; });
     edit->changed = [this, &box] { run(box.edited); };
     return edit;
 }

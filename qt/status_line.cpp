@@ -76,9 +76,10 @@ void StatusLine::make()
     m_sentence->setObjectName(QStringLiteral("explanation"));
     // A long sentence is cut; it must not make the window wider.
     m_sentence->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_status = new QLabel{&m_page};
+    m_status = new ElidedLabel{&m_page};
+    m_status->setMinimumWidth(1); // as wide as its text where there is room; nor may it make the window wider
     m_status->setObjectName(QStringLiteral("status"));
-    for (QLabel* label : {static_cast<QLabel*>(m_sentence), m_status}) {
+    for (ElidedLabel* label : {m_sentence, m_status}) {
         label->setTextFormat(Qt::PlainText);
         label->setContentsMargins(kEdge, 0, kEdge, 0);
     }

@@ -7,7 +7,6 @@
 #include <QString>
 #include <optional>
 
-class QLabel;
 class QMainWindow;
 
 namespace tallyhoop::qt {
@@ -50,7 +49,7 @@ private:
     QMainWindow& m_page;
     const ui::Screen& m_screen;
     ElidedLabel* m_sentence = nullptr; ///< nullptr until there is a text
-    QLabel* m_status = nullptr;
+    ElidedLabel* m_status = nullptr;
     const ui::Control* m_focus = nullptr;
 
     // What was reached since the screen last spoke.

@@ -39,25 +39,31 @@ std::optional<int> findRow(std::span<const std::string> rows, std::string_view p
     return static_cast<int>(at - rows.begin());
 }
 
-bool typeAhead(ui::TextBox& box, ui::ListBox& list, const ui::KeyPress& press)
+std::optional<std::string> soughtText(const ui::TextBox& box, const ui::KeyPress& press)
 {
     const bool shortens = press.key == ui::Key::Backspace;
     if (press.control || press.alt || !(shortens || (press.key == ui::Key::Character && isAscii(press.character))))
-        return false;
+        return std::nullopt;
     if (shortens && box.text.empty())
-        return false;
+        return std::nullopt;
 
     // What comes before the caret was typed; the selected completion after it is dropped.
     std::string sought = firstCharacters(box.text, shortens ? box.selectionStart - 1 : box.selectionStart);
     if (!shortens)
         sought.push_back(press.character);
-    if (sought.empty()) {
+    return sought;
+}
+
+bool typeAhead(ui::TextBox& box, ui::ListBox& list, const ui::KeyPress& press)
+{
+    const std::optional<std::string> sought = soughtText(box, press);
+    if (!sought)
+        return false;
+    if (sought->empty()) {
         put(box, {}, 0);
-        return true;
-    }
-    if (const std::optional<int> row = findRow(list.rows, sought)) {
+    } else if (const std::optional<int> row = findRow(list.rows, *sought)) {
         list.selected = row;
-        put(box, list.rows[static_cast<std::size_t>(*row)], sought.size());
+        put(box, list.rows[static_cast<std::size_t>(*row)], sought->size());
     }
     return true;
 }

@@ -14,6 +14,11 @@ namespace tallyhoop {
 /// @returns the first row, from the top, that begins with the text without regard to case; nothing when none does
 std::optional<int> findRow(std::span<const std::string> rows, std::string_view prefix);
 
+/// @returns what a key press makes of the typed part of a box: the text to be looked for; nothing when typeAhead()
+/// leaves
+///          the key alone
+std::optional<std::string> soughtText(const ui::TextBox& box, const ui::KeyPress& press);
+
 /// Looks for the first row that begins with what has been typed, selects it and completes the box: the part that is not
 /// yet typed is selected, so that further typing replaces it. When no row does, box and list stay as they are. A
 /// Backspace looks for one character less; when none is left, it empties the box.

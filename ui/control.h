@@ -64,6 +64,7 @@ struct TextBox : Control {
     bool locked = false;
     bool multiLine = false;
     int maxLength = 0;                ///< most characters a person can type; 0 = no limit; never cuts a text set here
+    bool selectedByClick = false;     ///< a click selects the whole text, so that typing replaces it; one line only
     int selectionStart = 0;           ///< caret, or first selected character, 0..text.size()
     int selectionLength = 0;          ///< selected characters; 0 = a caret only
     std::optional<Colour> background; ///< nothing = the palette's window colour for boxes

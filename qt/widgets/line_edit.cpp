@@ -69,7 +69,8 @@ void LineEdit::keyPressEvent(QKeyEvent* event)
 }
 
 // A screen may select the text of a box that gets the focus, so that typing replaces it. The click that moved the focus
-// would place the caret and clear that selection; only the next click may do so.
+// would place the caret and clear that selection; only the next click may do so, and not even that one in a box that
+// has its text selected by every click.
 
 void LineEdit::focusInEvent(QFocusEvent* event)
 {
@@ -80,13 +81,14 @@ void LineEdit::focusInEvent(QFocusEvent* event)
 void LineEdit::mousePressEvent(QMouseEvent* event)
 {
     // A box that loses the focus drops its selection: what is selected now was selected for this focus.
-    m_selectedOnFocus = std::exchange(m_clickedInto, false) && hasSelectedText() && event->button() == Qt::LeftButton;
+    const bool isSelectedForFocus = std::exchange(m_clickedInto, false) && hasSelectedText();
+    m_selectsAll = (isSelectedForFocus || selectedByClick) && event->button() == Qt::LeftButton;
     QLineEdit::mousePressEvent(event);
 }
 
 void LineEdit::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (std::exchange(m_selectedOnFocus, false) && !hasSelectedText()) // else the mouse has selected a part
+    if (std::exchange(m_selectsAll, false) && !hasSelectedText()) // else the mouse has selected a part
         QMetaObject::invokeMethod(this, &QLineEdit::selectAll, Qt::QueuedConnection);
     if (event->button() == Qt::MiddleButton && !isReadOnly() && QApplication::clipboard()->supportsSelection())
         take(QApplication::clipboard()->text(QClipboard::Selection));

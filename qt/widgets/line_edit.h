@@ -30,6 +30,9 @@ public:
     /// @returns true when it was dealt with and must not be inserted
     std::function<bool(char)> typed;
 
+    /// Whether each click selects the whole text, instead of placing the caret; dragging selects a part all the same.
+    bool selectedByClick = false;
+
     /// Called when the person has changed the text. It is shown then as it will be saved: characters composed, and "?"
     /// for what Windows-1252 lacks.
     std::function<void()> changed;
@@ -64,8 +67,8 @@ private:
 
     LastTyped& m_lastTyped;
     Composing m_composing;
-    bool m_clickedInto = false;     ///< got its focus by a mouse press that has not been delivered yet
-    bool m_selectedOnFocus = false; ///< was clicked into, and got some text selected with the focus
+    bool m_clickedInto = false; ///< got its focus by a mouse press that has not been delivered yet
+    bool m_selectsAll = false;  ///< the press that is under way selects the whole text unless the mouse is dragged
 };
 
 } // namespace tallyhoop::qt

@@ -14,6 +14,7 @@ constexpr std::array<const char*, kRounds> kPayoffHints = {
     "Points for each win in 3rd round",     "Points for each win in Regional Finals",
     "Points for each winner in Semifinals", "Points for selecting winner in FINAL GAME",
 };
+constexpr int kLongestComment = 4000; ///< several times what the board has room for; wrapping far more takes seconds
 constexpr ui::Colour kLightGreen{0x80, 0xFF, 0x80};
 
 void arrangeTabs(SetupScreen& setup)
@@ -37,13 +38,16 @@ void arrangeTabs(SetupScreen& setup)
 void arrangeMenus(SetupScreen& setup)
 {
     setup.mnuFile.children = {&setup.mnuSaveStartingField, nullptr, &setup.mnuEnd};
+    setup.mnuEdit.children = {&setup.mnuUndo, &setup.mnuRedo};
     setup.mnuOptions.children = {&setup.mnuSeating};
     setup.mnuDemo.children = {&setup.mnuDemoSet, &setup.mnuDemoReset};
     setup.mnuHelp.children = {&setup.mnuHelpDisplay, &setup.mnuHelpAbout};
-    setup.menuBar = {&setup.mnuFile, &setup.mnuOptions, &setup.mnuDemo, &setup.mnuHelp};
+    setup.menuBar = {&setup.mnuFile, &setup.mnuEdit, &setup.mnuOptions, &setup.mnuDemo, &setup.mnuHelp};
 
     setup.mnuSaveStartingField.icon = ui::MenuIcon::Save;
     setup.mnuEnd.icon = ui::MenuIcon::Exit;
+    setup.mnuUndo.icon = ui::MenuIcon::Undo;
+    setup.mnuRedo.icon = ui::MenuIcon::Redo;
     setup.mnuSeating.icon = ui::MenuIcon::Seeds;
     setup.mnuDemoSet.icon = ui::MenuIcon::Demo;
     setup.mnuDemoReset.icon = ui::MenuIcon::Reset;
@@ -52,6 +56,8 @@ void arrangeMenus(SetupScreen& setup)
 
     setup.mnuSaveStartingField.explanation = "Saves everything on this screen but the list of team names.";
     setup.mnuEnd.explanation = "Goes back to the board; what was not saved is dropped.";
+    setup.mnuUndo.explanation = "Takes the last change on this screen back; the list of team names is not part of it.";
+    setup.mnuRedo.explanation = "Makes the change again that was taken back last.";
     setup.mnuSeating.explanation = "Opens the seed numbers of the sixteen rows of a region.";
     setup.mnuDemoSet.explanation = "Shows a sample pool, to try everything out.";
     setup.mnuDemoReset.explanation = "Takes the sample pool away again.";
@@ -76,6 +82,7 @@ void designBoxes(SetupScreen& setup)
     setup.txtComment2.spokenName = "Comment 2";
     for (ui::TextBox* comment : {&setup.txtComment1, &setup.txtComment2}) {
         comment->multiLine = true;
+        comment->maxLength = kLongestComment;
         comment->explanation = "Shown below the bracket: the fee, the deadline, the prizes.";
     }
 }
@@ -85,7 +92,7 @@ void designList(SetupScreen& setup)
     setup.lstTeamNames.background = kLightGreen;
     setup.lstTeamNames.spokenName = "Team names";
     setup.lstTeamNames.emptyNote = "There is no list of team names.";
-    setup.lstTeamNames.explanation = "Enter puts the selected name into the green box.";
+    setup.lstTeamNames.explanation = "Enter or a double click puts the selected name into the green box.";
     setup.cmdAddName.explanation = "Adds a team to the list of names.";
     setup.cmdChangeName.explanation = "Changes the selected name of the list.";
     setup.cmdDeleteName.explanation = "Takes the selected name out of the list.";

@@ -10,6 +10,7 @@
 #include "screens/help_display.h"
 #include "screens/help_topics.h"
 #include "screens/saving.h"
+#include "screens/setup/field_doubts.h"
 #include "screens/setup/setup_design.h"
 
 #include <utility>
@@ -22,10 +23,13 @@ constexpr const char* kCaption = "Define Starting Field & Options";
 constexpr const char* kOverrideCaption = "Override &Selecting Team Names";
 constexpr const char* kSelectingCaption = "Continue &Selecting";
 
+constexpr const char* kCommentCaption = "Comment Pasted";
 constexpr const char* kBetweenSentences = "  ";
 constexpr const char* kSavedStatus = "There are no unsaved changes.";
 constexpr const char* kUnsavedStatus = "There are changes that are not saved yet.";
 constexpr const char* kFinalizeStatus = "Finalize Tournament takes effect with File, Save.";
+constexpr const char* kDemoNews =
+    "The sample pool is there: leave this screen, and choose File, Open Selection to look at one of its players.";
 constexpr const char* kNoListStatus =
     "There is no list of team names: choose Override Selecting Team Names to type them.";
 
@@ -39,6 +43,7 @@ SetupScreen::SetupScreen(const DataFolder& folder, const ui::Platform& platform,
 {
     design(*this);
     lstTeamNames.pressed = [this] { m_picker.listPressed(); };
+    lstTeamNames.doubleClicked = [this] { m_picker.takeSelected(); };
     for (const TeamRow row : allTeamRows())
         txtRegion[row].edited = [this, row] { m_picker.boxEdited(row); };
 }
@@ -62,6 +67,7 @@ void SetupScreen::readPool()
     m_isDemo = demoModeIsOn(m_folder);
     m_isFinalizing = false;
     putOnScreen(m_field);
+    m_history.begin(textsOnScreen());
     m_saved = fieldOnScreen();
     focused = &txtRegion[0];
 }
@@ -80,8 +86,8 @@ void SetupScreen::putOnScreen(const Field& field)
     txtComment2.text = field.comment2;
 }
 
-/// @returns what a save writes, each text exactly as it is in its box
-Field SetupScreen::fieldOnScreen() const
+/// @returns the texts as they are in their boxes; the rest is empty
+Field SetupScreen::textsOnScreen() const
 {
     Field field;
     for (const TeamRow row : allTeamRows())
@@ -94,11 +100,32 @@ Field SetupScreen::fieldOnScreen() const
         payoffs[round] = txtInfo6[round].text;
     field.payoffs = PayoffTexts{payoffs};
     field.seeds = m_seeds;
+    field.comment1 = txtComment1.text;
+    field.comment2 = txtComment2.text;
+    return field;
+}
+
+/// @returns what a save writes, each text exactly as it is in its box
+Field SetupScreen::fieldOnScreen() const
+{
+    Field field = textsOnScreen();
     // A bar that is typed into a comment is a line break in the file.
-    field.comment1 = decodeLineBreaks(txtComment1.text);
-    field.comment2 = decodeLineBreaks(txtComment2.text);
+    field.comment1 = decodeLineBreaks(field.comment1);
+    field.comment2 = decodeLineBreaks(field.comment2);
     field.finalized = m_isFinalizing ? "1" : "0";
     return field;
+}
+
+/// Undo and redo. @param texts nothing when there is no such step
+void SetupScreen::goBack(const std::optional<Field>& texts)
+{
+    if (!texts)
+        return;
+    putOnScreen(*texts);
+    say({});
+    const auto row = focused == nullptr ? std::nullopt : txtRegion.indexOf<TeamRow>(*focused);
+    if (row)
+        m_picker.boxGotFocus(*row); // its text is another one, which is selected again
 }
 
 std::array<std::string, kRowsPerRegion> SetupScreen::teamsOfFirstRegion() const
@@ -111,6 +138,9 @@ std::array<std::string, kRowsPerRegion> SetupScreen::teamsOfFirstRegion() const
 
 void SetupScreen::showState()
 {
+    m_history.note(textsOnScreen());
+    mnuUndo.enabled = m_history.canUndo();
+    mnuRedo.enabled = m_history.canRedo();
     lblDemoMode.visible = m_isDemo;
     mnuDemoReset.enabled = m_isDemo;
     // A finalized pool of the person's own must not be replaced by the sample.
@@ -148,7 +178,10 @@ void SetupScreen::showExplanations()
 void SetupScreen::showStatus()
 {
     // Never empty: a line that comes and goes would move everything above it.
-    status = fieldOnScreen() == m_saved ? kSavedStatus : kUnsavedStatus;
+    const Field field = fieldOnScreen();
+    status = field == m_saved ? kSavedStatus : kUnsavedStatus;
+    if (const std::string doubts = doubtsInShort(field); !doubts.empty())
+        status = doubts + kBetweenSentences + status;
     if (m_editor.isDamaged())
         status = std::string{kUnreadableListStatus} + kBetweenSentences + status;
     else if (!m_editor.isRead())
@@ -169,9 +202,10 @@ bool SetupScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
         return m_picker.listKey(press);
     if (const auto row = txtRegion.indexOf<TeamRow>(control))
         return m_picker.boxKey(*row, press);
+    if (sayCommentIsFull(control, press))
+        return true;
     const bool isUpOrDown = press.key == ui::Key::Up || press.key == ui::Key::Down;
-    const bool isComment = &control == &txtComment1 || &control == &txtComment2;
-    return isUpOrDown && !isComment && dynamic_cast<ui::TextBox*>(&control) != nullptr;
+    return isUpOrDown && !isComment(control) && dynamic_cast<ui::TextBox*>(&control) != nullptr;
 }
 
 void SetupScreen::gotFocus(ui::Control& control)
@@ -188,8 +222,42 @@ void SetupScreen::lostFocus(ui::Control& control)
 
 bool SetupScreen::pasted(ui::TextBox& box, const std::string& text)
 {
+    if (isComment(box))
+        return refusesComment(box, text);
     const auto row = txtRegion.indexOf<TeamRow>(box);
     return row && m_picker.pasted(*row, text, m_platform.dialogs);
+}
+
+bool SetupScreen::isComment(const ui::Control& control) const
+{
+    return &control == &txtComment1 || &control == &txtComment2;
+}
+
+/// @returns whether the comment has no room for the text, after saying so
+bool SetupScreen::refusesComment(const ui::TextBox& comment, const std::string& pasted)
+{
+    const std::size_t length = comment.text.size() - static_cast<std::size_t>(comment.selectionLength) + pasted.size();
+    if (length <= static_cast<std::size_t>(comment.maxLength))
+        return false;
+    m_platform.dialogs.show({kCommentCaption,
+                             "A comment has room for " + std::to_string(comment.maxLength) +
+                                 " characters.\r\nWith what you pasted it would have " + std::to_string(length) +
+                                 ", so nothing was inserted.",
+                             ui::Buttons::Ok, ui::Icon::Exclamation});
+    return true;
+}
+
+/// @returns whether the key would make a comment longer than it may be, after saying so
+bool SetupScreen::sayCommentIsFull(const ui::Control& control, const ui::KeyPress& press)
+{
+    if (!isComment(control) || press.control || press.alt ||
+        (press.key != ui::Key::Character && press.key != ui::Key::Enter))
+        return false;
+    const auto& comment = static_cast<const ui::TextBox&>(control);
+    if (comment.selectionLength > 0 || comment.text.size() < static_cast<std::size_t>(comment.maxLength))
+        return false;
+    say("A comment has room for " + std::to_string(comment.maxLength) + " characters.");
+    return true;
 }
 
 void SetupScreen::leave()
@@ -210,7 +278,7 @@ void SetupScreen::unloading()
 void SetupScreen::startDemoMode()
 {
     if (enterDemo(m_folder, m_platform))
-        reload({});
+        reload(demoModeIsOn(m_folder) ? kDemoNews : "");
 }
 
 void SetupScreen::resetDemoMode()

@@ -5,12 +5,14 @@
 #include "files/known_files.h"
 #include "pool/field_check.h"
 #include "screens/screens.h"
+#include "screens/setup/setup_history.h"
 #include "screens/setup/team_name_editor.h"
 #include "screens/setup/team_picker.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 namespace tallyhoop {
@@ -51,6 +53,9 @@ public:
     ui::MenuEntry mnuSaveStartingField{this, "mnuSaveStartingField", "&Save", [this] { saveStartingField(); },
                                        "Ctrl+S"};
     ui::MenuEntry mnuEnd{this, "mnuEnd", "E&xit", [this] { leave(); }};
+    ui::MenuEntry mnuEdit{this, "mnuEdit", "&Edit"};
+    ui::MenuEntry mnuUndo{this, "mnuUndo", "&Undo", [this] { goBack(m_history.undo()); }, "Ctrl+Z"};
+    ui::MenuEntry mnuRedo{this, "mnuRedo", "&Redo", [this] { goBack(m_history.redo()); }, "Ctrl+Shift+Z"};
     ui::MenuEntry mnuOptions{this, "mnuOptions", "&Options"};
     ui::MenuEntry mnuSeating{this, "mnuSeating", "&Seeding Entry", [this] { m_screens.load(ScreenKind::Seeds); }};
     ui::MenuEntry mnuDemo{this, "mnuDemo", "DE&MO Mode"};
@@ -79,7 +84,9 @@ public:
 private:
     void readPool();
     void putOnScreen(const Field& field);
+    Field textsOnScreen() const;
     Field fieldOnScreen() const;
+    void goBack(const std::optional<Field>& texts);
 
     void showSeeds();
     void showExplanations();
@@ -88,7 +95,12 @@ private:
     void finalize();
     void saveStartingField();
     void refuse(const FieldFault& fault);
+    bool doubtsAreConfirmed();
     bool finalizingIsConfirmed();
+
+    bool isComment(const ui::Control& control) const;
+    bool refusesComment(const ui::TextBox& comment, const std::string& pasted);
+    bool sayCommentIsFull(const ui::Control& control, const ui::KeyPress& press);
 
     void leave();
     void startDemoMode();
@@ -101,9 +113,10 @@ private:
     Screens& m_screens;
     Field& m_field;
 
-    KnownFiles m_known;          ///< the field as it was read
-    Field m_saved;               ///< what the screen held when it was loaded or saved last
-    SeedTexts m_seeds;           ///< of the field on screen
+    KnownFiles m_known; ///< the field as it was read
+    Field m_saved;      ///< what the screen held when it was loaded or saved last
+    SeedTexts m_seeds;  ///< of the field on screen
+    SetupHistory m_history;
     bool m_isDemo = false;       ///< the folder holds the sample pool
     bool m_isFinalizing = false; ///< Finalize Tournament is pressed: the next save makes the field final
     TeamNameEditor m_editor{m_folder, m_platform, lstTeamNames};

@@ -6,6 +6,7 @@
 #include "files/setup_file.h"
 #include "screens/help_topics.h"
 #include "screens/saving.h"
+#include "screens/setup/field_doubts.h"
 
 namespace tallyhoop {
 
@@ -18,6 +19,12 @@ constexpr const char* kBlankTitlesCaption = "TITLE or REGION TITLES are BLANK";
 constexpr const char* kBadPayoffs =
     "You have selected FINALIZE and the PAYOFF POINTS / ROUND fields must be between 1 & 99!";
 constexpr const char* kBadPayoffsCaption = "PAYOFF POINTS / ROUND are INVALID";
+
+constexpr const char* kDoubtsCaption = "Teams of the Field";
+constexpr const char* kDoubtsBefore = "Some teams of this field may not be what you mean:\r\n \r\n";
+constexpr const char* kDoubtsAfter = "\r\n \r\nTeams are told apart by their names only, in picks as in results.\r\n"
+                                     "OK goes on all the same.  CANCEL leads to the first of them, and the\r\n"
+                                     "\"Finalize Tournament\" option will be reset.";
 
 constexpr const char* kFinalizeQuestion =
     "ARE YOU FINISHED WITH ALL SETUP OPTIONS??\r\n"
@@ -55,7 +62,7 @@ void SetupScreen::saveStartingField()
             refuse(*fault);
             return;
         }
-        if (!finalizingIsConfirmed())
+        if (!doubtsAreConfirmed() || !finalizingIsConfirmed())
             return;
     }
     if (demoModeIsOn(m_folder)) {
@@ -86,6 +93,22 @@ void SetupScreen::refuse(const FieldFault& fault)
         refuseBox(TxtInfo[title->region + 1], kBlankTitlesCaption, kBlankFields);
     else if (const auto* payoff = std::get_if<BadPayoff>(&fault))
         refuseBox(txtInfo6[roundIndex(payoff->round)], kBadPayoffsCaption, kBadPayoffs);
+}
+
+/// @returns false when the person wants to change the doubtful teams, if there are any; then Finalize Tournament is as
+///          if it had not been pressed
+bool SetupScreen::doubtsAreConfirmed()
+{
+    const Field field = fieldOnScreen();
+    const std::optional<TeamRow> doubt = firstDoubt(field);
+    if (!doubt)
+        return true;
+    const auto answer = m_platform.dialogs.show({kDoubtsCaption, kDoubtsBefore + doubtsInFull(field) + kDoubtsAfter,
+                                                 ui::Buttons::OkCancel, ui::Icon::Question, help_topic::kSetup});
+    m_isFinalizing = answer != ui::Answer::Cancel;
+    if (!m_isFinalizing)
+        focused = &txtRegion[*doubt];
+    return m_isFinalizing;
 }
 
 /// @returns false when the person cancels; then Finalize Tournament is as if it had not been pressed

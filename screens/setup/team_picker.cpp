@@ -14,6 +14,7 @@ namespace tallyhoop {
 namespace {
 
 constexpr const char* kPastedCaption = "Team Names Pasted";
+constexpr const char* kPlainLettersOnly = "The search knows plain letters only: choose such a name in the list.";
 constexpr TeamRow kFirstBox{0};
 
 void putText(ui::TextBox& box, const std::string& text)
@@ -38,6 +39,7 @@ void TeamPicker::clearBoxes()
     for (const TeamRow box : allTeamRows())
         m_boxes[box].text.clear();
     focusOn(m_boxes[kFirstBox]);
+    m_list.screen.say("All 64 team boxes are empty.  Edit, Undo brings the names back.");
 }
 
 void TeamPicker::boxGotFocus(TeamRow box)
@@ -66,8 +68,7 @@ bool TeamPicker::boxKey(TeamRow box, const ui::KeyPress& press)
     switch (press.key) {
     case ui::Key::Character:
     case ui::Key::Backspace:
-        // What the search leaves alone could only bring in what the list does not hold.
-        typeAhead(m_boxes[box], m_list, press);
+        search(m_boxes[box], press);
         return true;
     case ui::Key::Delete:
         putText(m_boxes[box], {});
@@ -75,6 +76,20 @@ bool TeamPicker::boxKey(TeamRow box, const ui::KeyPress& press)
     default:
         return false;
     }
+}
+
+/// What the search leaves alone could only bring in what the list does not hold: no such key reaches the box, and one
+/// that does nothing says why.
+void TeamPicker::search(ui::TextBox& box, const ui::KeyPress& press)
+{
+    const std::optional<std::string> sought = soughtText(box, press);
+    typeAhead(box, m_list, press);
+    if (!sought && press.key == ui::Key::Character)
+        box.screen.say(kPlainLettersOnly);
+    else if (sought && !sought->empty() && !findRow(m_list.rows, *sought))
+        box.screen.say("No name of the list begins with \"" + *sought + "\".");
+    else
+        box.screen.say({});
 }
 
 void TeamPicker::goToList(TeamRow box, ui::Key key)
@@ -105,9 +120,14 @@ bool TeamPicker::listKey(const ui::KeyPress& press)
     }
     if (press.key != ui::Key::Enter)
         return false;
+    takeSelected();
+    return true;
+}
+
+void TeamPicker::takeSelected()
+{
     putText(m_boxes[m_lastBox], m_list.selectedText());
     accept(m_lastBox);
-    return true;
 }
 
 void TeamPicker::boxEdited(TeamRow box)
@@ -134,6 +154,8 @@ void TeamPicker::showState()
     for (const TeamRow box : allTeamRows()) {
         const bool isMarked = m_listFillsBox && box == m_lastBox;
         m_boxes[box].background = isMarked ? m_list.background : std::nullopt;
+        // With the caret inside of a name, nothing that is typed would find another.
+        m_boxes[box].selectedByClick = !m_isOverridden;
     }
 }
 

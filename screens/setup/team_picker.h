@@ -40,6 +40,9 @@ public:
     bool boxKey(TeamRow box, const ui::KeyPress& press);
     bool listKey(const ui::KeyPress& press);
 
+    /// Puts the list's selected name into the box that had the focus last, and goes on to the next.
+    void takeSelected();
+
     /// The person changed a box other than by a key press: cut, undone, dropped into.
     void boxEdited(TeamRow box);
 
@@ -51,6 +54,7 @@ public:
     void showState();
 
 private:
+    void search(ui::TextBox& box, const ui::KeyPress& press);
     void goToList(TeamRow box, ui::Key key);
     void accept(TeamRow box);
 

@@ -105,5 +105,38 @@ TEST(WholeSeeds, RoundFractionsAndHalvesToTheEvenNumber)
     EXPECT_EQ(wholeSeeds(withSeed(14, "1.4")), std::nullopt); // row 0 has the 1
 }
 
+TEST(RepeatedTeams, AreComparedWithoutCaseAndOuterBlanks)
+{
+    Field field = defaultField();
+    EXPECT_TRUE(repeatedTeams(field).empty());
+    field.teams[TeamRow{60}] = "Iowa";
+    field.teams[TeamRow{7}] = "Duke";
+    field.teams[TeamRow{9}] = " IOWA ";
+    field.teams[TeamRow{20}] = "duke";
+    field.teams[TeamRow{63}] = "Duke";
+    field.teams[TeamRow{30}] = "Duke St.";
+    EXPECT_EQ(repeatedTeams(field), (std::vector<RepeatedTeam>{{"Duke", {TeamRow{7}, TeamRow{20}, TeamRow{63}}},
+                                                               {"IOWA", {TeamRow{9}, TeamRow{60}}}}));
+}
+
+TEST(RepeatedTeams, AreNotTheBlankRows)
+{
+    Field field = defaultField();
+    field.teams.values.fill(" ");
+    field.teams[TeamRow{5}] = "";
+    EXPECT_TRUE(repeatedTeams(field).empty());
+}
+
+TEST(UnnamedTeams, AreTheRowsWithANameOfTheDefaultWhereverItIs)
+{
+    Field field = defaultField();
+    EXPECT_EQ(unnamedTeams(field).size(), 64U);
+    field.teams.values.fill("Duke");
+    field.teams[TeamRow{8}] = "team64";
+    field.teams[TeamRow{9}] = "TEAM65"; // there are 64
+    field.teams[TeamRow{10}] = "TEAM1 Basketball";
+    EXPECT_EQ(unnamedTeams(field), std::vector{TeamRow{8}});
+}
+
 } // namespace
 } // namespace tallyhoop

@@ -129,8 +129,8 @@ TEST_F(Captions, OfTheSetup)
                     "lblComment1: Comment 1:", "lblComment2: Comment 2:", "lblPayoff: Payoff Per Round:",
                     "lblPayoffRounds:   1       2      3      4     5      6", "cmdFinalize: Finalize Tournament"));
     EXPECT_THAT(menusOf(setup),
-                ElementsAre("File: [Save] | [Exit]", "Options: [Seeding Entry]", "DEMO Mode: [DEMO-Start] [DEMO-Reset]",
-                            "Help: [Help Display] [About Tallyhoop]"));
+                ElementsAre("File: [Save] | [Exit]", "Edit: [Undo] [Redo]", "Options: [Seeding Entry]",
+                            "DEMO Mode: [DEMO-Start] [DEMO-Reset]", "Help: [Help Display] [About Tallyhoop]"));
     const std::vector<std::string> hints{
         "Points for each win in 1st round",     "Points for each win in 2nd round",
         "Points for each win in 3rd round",     "Points for each win in Regional Finals",

@@ -55,8 +55,9 @@ TEST_F(SetupWithDamagedList, ASoundListIsReplacedWithoutAWord)
 TEST_F(SetupWithDamagedList, TheStatusSaysThatItCouldNotBeReadAndNotThatThereIsNone)
 {
     files.put("NCAALIST.THS", crlf({"*START*", "Akron", "", "Duke", "*END*"}));
-    EXPECT_EQ(loadedAsIs().status, "The list of team names could not be read whole; a save keeps the old file.  "
-                                   "There are no unsaved changes.");
+    EXPECT_EQ(loadedAsIs().status,
+              "The list of team names could not be read whole; a save keeps the old file.  Not named "
+              "yet: TEAM1, TEAM2 and 62 more.  There are no unsaved changes.");
     std::filesystem::remove(files.path() / "NCAALIST.THS");
     EXPECT_TRUE(loadedAsIs().status.starts_with("There is no list of team names: "));
 }

@@ -40,6 +40,39 @@ TEST_F(SetupScreenKeys, ACharacterThatLeadsNowhereChangesNothing)
     EXPECT_EQ(screen.lstTeamNames.selected, 5);
 }
 
+TEST_F(SetupScreenKeys, AKeyThatIsSwallowedSaysWhyUntilOneFinds)
+{
+    SetupScreen& screen = loaded();
+    type("kx");
+    EXPECT_EQ(screen.news().text, "No name of the list begins with \"Kx\".");
+    type('a');
+    EXPECT_EQ(screen.news().text, "");
+    EXPECT_EQ(screen.txtRegion[0].text, "Kansas");
+    type('\xE9');
+    EXPECT_EQ(screen.news().text, "The search knows plain letters only: choose such a name in the list.");
+}
+
+TEST_F(SetupScreenKeys, ADoubleClickInTheListIsEnter)
+{
+    SetupScreen& screen = loaded();
+    focus(screen.txtRegion[3]);
+    pressRow(4);
+    screen.lstTeamNames.doubleClicked();
+    settle();
+    EXPECT_EQ(screen.txtRegion[3].text, "Iowa St.");
+    EXPECT_EQ(screen.focused, &screen.txtRegion[4]);
+    EXPECT_EQ(screen.txtRegion[3].background, std::nullopt);
+    EXPECT_EQ(screen.lstTeamNames.selected, std::nullopt);
+}
+
+TEST_F(SetupScreenKeys, AClickSelectsTheWholeNameAsLongAsNamesArePicked)
+{
+    SetupScreen& screen = loaded();
+    EXPECT_TRUE(screen.txtRegion[9].selectedByClick);
+    click(screen.cmdOverride);
+    EXPECT_FALSE(screen.txtRegion[9].selectedByClick);
+}
+
 TEST_F(SetupScreenKeys, AnAccentedLetterIsDiscardedWhileSelecting)
 {
     SetupScreen& screen = loaded();

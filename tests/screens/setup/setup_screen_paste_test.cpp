@@ -14,7 +14,7 @@ TEST_F(SetupScreenPaste, TakesANameOfTheListInAnyCaseAndSpellsItAsTheListDoes)
     EXPECT_TRUE(paste(screen.txtRegion[4], "iowa ST."));
     EXPECT_EQ(screen.txtRegion[4].text, "Iowa St.");
     EXPECT_TRUE(dialogs().shown.empty());
-    EXPECT_EQ(screen.status, "There are changes that are not saved yet.");
+    EXPECT_TRUE(screen.status.ends_with("There are changes that are not saved yet.")) << screen.status;
 }
 
 TEST_F(SetupScreenPaste, RefusesANameThatTheListLacks)
@@ -77,6 +77,45 @@ TEST_F(SetupScreenPaste, OtherBoxesTakeWhatIsPasted)
     SetupScreen& screen = loaded();
     EXPECT_FALSE(paste(screen.TxtInfo[0], "Our Pool"));
     EXPECT_FALSE(paste(screen.txtComment1, "one\r\ntwo"));
+}
+
+TEST_F(SetupScreenPaste, ACommentTakesFourThousandCharacters)
+{
+    SetupScreen& screen = loaded();
+    focus(screen.txtComment1);
+    screen.txtComment1.text = std::string(10, 'a');
+    EXPECT_FALSE(paste(screen.txtComment1, std::string(3990, 'b'))); // it fits, and the box inserts it
+    EXPECT_TRUE(paste(screen.txtComment1, std::string(3991, 'b')));
+    ASSERT_EQ(dialogs().shown.size(), 1U);
+    EXPECT_EQ(dialogs().shown[0], (ui::Message{"Comment Pasted",
+                                               "A comment has room for 4000 characters.\r\n"
+                                               "With what you pasted it would have 4001, so nothing was inserted.",
+                                               ui::Buttons::Ok, ui::Icon::Exclamation}));
+}
+
+TEST_F(SetupScreenPaste, WhatItReplacesInACommentMakesRoom)
+{
+    SetupScreen& screen = loaded();
+    focus(screen.txtComment2);
+    screen.txtComment2.text = std::string(4000, 'a');
+    screen.txtComment2.selectionLength = 5;
+    EXPECT_FALSE(paste(screen.txtComment2, "12345"));
+    EXPECT_TRUE(paste(screen.txtComment2, "123456"));
+}
+
+TEST_F(SetupScreenPaste, AFullCommentSaysSoWhenMoreIsTyped)
+{
+    SetupScreen& screen = loaded();
+    focus(screen.txtComment1);
+    screen.txtComment1.text = std::string(3999, 'a');
+    EXPECT_FALSE(type('b'));
+    screen.txtComment1.text += 'b';
+    EXPECT_TRUE(type('c'));
+    EXPECT_EQ(screen.news().text, "A comment has room for 4000 characters.");
+    EXPECT_TRUE(press(ui::Key::Enter));
+    EXPECT_FALSE(press(ui::Key::Backspace));
+    screen.txtComment1.selectionLength = 1;
+    EXPECT_FALSE(type('c')); // it replaces the selected one
 }
 
 } // namespace

@@ -11,6 +11,16 @@ constexpr const char* kBlank = "You have selected FINALIZE and there are blank f
 class SetupScreenSave : public SetupFixture
 {
 protected:
+    /// With a field without doubtful teams.
+    SetupScreen& loaded()
+    {
+        SetupFixture::loaded();
+        for (std::size_t i = 0; i < 64; ++i)
+            made->txtRegion[i].text = "Team " + std::to_string(i);
+        settle();
+        return *made;
+    }
+
     void finalizeAndSave()
     {
         if (!isFinalizing())
@@ -243,6 +253,54 @@ TEST_F(SetupScreenSave, InDemoModeTheFinalizeQuestionStillComesBeforeTheRefusal)
     EXPECT_FALSE(screen.cmdFinalize.enabled);
     EXPECT_FALSE(files.has("POOLSTART.THS"));
     EXPECT_TRUE(screens.unloads.empty());
+}
+
+TEST_F(SetupScreenSave, FinalizingNamesDoubtfulTeamsBeforeItsQuestion)
+{
+    SetupScreen& screen = loaded();
+    screen.TxtInfo[2].text = "Midwest";
+    screen.txtRegion[5].text = "Duke";
+    screen.txtRegion[20].text = "duke "; // region 2, row 5
+    screen.txtRegion[63].text = "TEAM64";
+    dialogs().answer(Answer::Ok).answer(Answer::Ok);
+    finalizeAndSave();
+    ASSERT_EQ(dialogs().shown.size(), 2U);
+    EXPECT_EQ(dialogs().shown[0],
+              (ui::Message{"Teams of the Field",
+                           "Some teams of this field may not be what you mean:\r\n"
+                           " \r\n"
+                           "Duke is in the field 2 times: West Region, row 6; Midwest, row 5.\r\n"
+                           "Not named yet: TEAM64 (South Region, row 16).\r\n"
+                           " \r\n"
+                           "Teams are told apart by their names only, in picks as in results.\r\n"
+                           "OK goes on all the same.  CANCEL leads to the first of them, and the\r\n"
+                           "\"Finalize Tournament\" option will be reset.",
+                           ui::Buttons::OkCancel, ui::Icon::Question, "setup"}));
+    EXPECT_TRUE(dialogs().shown[1].text.starts_with("ARE YOU FINISHED"));
+    EXPECT_NE(files.get("POOLSTART.THS").find("\r\n1\r\n*END*\r\n"), std::string::npos);
+}
+
+TEST_F(SetupScreenSave, CancelAtTheDoubtfulTeamsLeadsToTheFirstOfThemAndWritesNothing)
+{
+    SetupScreen& screen = loaded();
+    screen.txtRegion[5].text = screen.txtRegion[20].text = "Duke";
+    screen.txtRegion[40].text = "team7";
+    dialogs().answer(Answer::Cancel);
+    finalizeAndSave();
+    EXPECT_EQ(dialogs().captionsShown(), std::vector<std::string>{"Teams of the Field"});
+    EXPECT_EQ(screen.focused, &screen.txtRegion[20]);
+    screen.showState();
+    EXPECT_TRUE(screen.cmdFinalize.enabled);
+    EXPECT_FALSE(files.has("POOLSTART.THS"));
+}
+
+TEST_F(SetupScreenSave, ASaveWithoutFinalizingAsksNothingAboutDoubtfulTeams)
+{
+    SetupScreen& screen = loaded();
+    screen.txtRegion[5].text = screen.txtRegion[20].text = "Duke";
+    screen.mnuSaveStartingField.click();
+    EXPECT_TRUE(dialogs().shown.empty());
+    EXPECT_TRUE(files.has("POOLSTART.THS"));
 }
 
 TEST_F(SetupScreenSave, AFailingWriteKeepsEverythingOnScreen)

@@ -224,16 +224,27 @@ TEST_F(SetupScreenTest, ClosingTheWindowMeansExitAndEscapeMeansNothing)
 TEST_F(SetupScreenTest, StatusLineShowsUnsavedEditsUntilTheyAreSaved)
 {
     SetupScreen& screen = loaded();
-    EXPECT_EQ(screen.status, "There are no unsaved changes.");
+    EXPECT_TRUE(screen.status.ends_with("There are no unsaved changes.")) << screen.status;
     edit(screen.TxtInfo[0], "Changed");
-    EXPECT_EQ(screen.status, "There are changes that are not saved yet.");
+    EXPECT_TRUE(screen.status.ends_with("There are changes that are not saved yet.")) << screen.status;
     EXPECT_FALSE(screen.unsaved);
     screen.mnuSaveStartingField.click();
-    EXPECT_EQ(screen.status, "There are no unsaved changes.");
+    EXPECT_TRUE(screen.status.ends_with("There are no unsaved changes.")) << screen.status;
     edit(screen.txtComment1, "Note");
-    EXPECT_EQ(screen.status, "There are changes that are not saved yet.");
+    EXPECT_TRUE(screen.status.ends_with("There are changes that are not saved yet.")) << screen.status;
     edit(screen.txtComment1, "");
-    EXPECT_EQ(screen.status, "There are no unsaved changes.");
+    EXPECT_TRUE(screen.status.ends_with("There are no unsaved changes.")) << screen.status;
+}
+
+TEST_F(SetupScreenTest, StatusLineNamesRepeatedTeamsAndThoseNotNamedYet)
+{
+    SetupScreen& screen = loaded();
+    EXPECT_EQ(screen.status, "Not named yet: TEAM1, TEAM2 and 62 more.  There are no unsaved changes.");
+    click(screen.cmdClear);
+    EXPECT_EQ(screen.status, "There are changes that are not saved yet.");
+    screen.txtRegion[0].text = screen.txtRegion[63].text = "Duke";
+    settle();
+    EXPECT_EQ(screen.status, "More than once: Duke.  There are changes that are not saved yet.");
 }
 
 TEST_F(SetupScreenTest, OpensTheSeedPositions)
@@ -270,6 +281,8 @@ TEST_F(SetupScreenTest, DemoStartReloadsThisScreenAfterTheQuestion)
     EXPECT_EQ(computer.programs.started.size(), 1U);
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
     EXPECT_EQ(screens.loads, std::vector{ScreenKind::Setup});
+    EXPECT_EQ(screens.news, std::vector<std::string>{"The sample pool is there: leave this screen, and choose File, Open "
+                                                     "Selection to look at one of its players."});
 }
 
 TEST_F(SetupScreenTest, DemoStartReloadsThisScreenAlsoWhenNoSamplePoolComes)
@@ -280,6 +293,7 @@ TEST_F(SetupScreenTest, DemoStartReloadsThisScreenAlsoWhenNoSamplePoolComes)
     screen.mnuDemoSet.click();
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
     EXPECT_EQ(screens.loads, std::vector{ScreenKind::Setup});
+    EXPECT_EQ(screens.news, std::vector<std::string>{""});
 }
 
 TEST_F(SetupScreenTest, DemoStartDoesNothingOnCancel)
