@@ -7,8 +7,10 @@
 #include "qt/services/file_dialog.h"
 #include "qt/services/question.h"
 #include "qt/text.h"
+#include "qt/widgets/page_area.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -67,6 +69,24 @@ std::string oneLine(const QString& typed)
     while (line.endsWith(QLatin1Char{'\n'}))
         line.chop(1);
     return fromQString(line.replace(QLatin1Char{'\n'}, QLatin1Char{' '}));
+}
+
+/// @returns how wide a window has to be for its title to be read, in a bold title bar with an icon and buttons
+int widthForTitle(const QWidget& window)
+{
+    constexpr int kIconAndButtons = 140;
+    QFont bold = QApplication::font();
+    bold.setBold(true);
+    const int width = QFontMetrics{bold}.horizontalAdvance(window.windowTitle()) + kIconAndButtons;
+    return std::min(width, roomForWindow(window).width());
+}
+
+/// A message box takes the size that its layout asks for, whatever its minimum width is.
+/// @param box with all its parts: each that is added makes a new layout
+void makeRoomForTitle(QMessageBox& box)
+{
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout()))
+        grid->addItem(new QSpacerItem{widthForTitle(box), 0}, grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 QMessageBox::Icon toQt(ui::Icon icon)
@@ -141,6 +161,7 @@ ui::Answer QtDialogs::show(const ui::Message& message)
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     addButtons(box, message.buttons, message.refusalIsDefault);
     offerHelp(box, message.helpTopic.empty() ? m_desk.runningTopic() : message.helpTopic);
+    makeRoomForTitle(box);
     return answerOf(box.exec());
 }
 
@@ -174,6 +195,7 @@ std::string QtDialogs::ask(const ui::Question& asked)
     dialog.setLabelText(prompt);
     if (auto* line = dialog.findChild<QLineEdit*>())
         line->setAccessibleName(prompt);
+    dialog.setMinimumWidth(widthForTitle(dialog));
     return dialog.exec() == QDialog::Accepted ? oneLine(dialog.textValue()) : std::string{};
 }
 

@@ -171,6 +171,20 @@ double BracketCanvas::fittingSize() const
     return std::max({kSmallestText, size * kSmallestShrink, std::min(size, size * room / widest)});
 }
 
+/// @returns how much smaller than this the captions of the rounds have to be, all alike, so that none is cut
+double BracketCanvas::captionShare(double size) const
+{
+    QFont trial = font();
+    trial.setPixelSize(static_cast<int>(std::lround(size)));
+    const QFontMetricsF metrics{trial};
+    double share = 1;
+    for (std::size_t i = 0; i < kRoundCaptions; ++i) {
+        const double width = metrics.horizontalAdvance(toQString(m_board.lblRoundName[i].text));
+        share = std::min(share, (m_geometry.roundCaptions[i].width - 2) / width);
+    }
+    return std::max(share, kSmallestText / size);
+}
+
 void BracketCanvas::chooseFonts()
 {
     const double size = fittingSize();
@@ -189,7 +203,7 @@ void BracketCanvas::chooseFonts()
     m_places[kChampion]->setFont(letters(1.3, true));
     use(m_markers.values, letters(1, true));
     use(m_seeds.values, letters(0.9, false));
-    use(m_roundNames, letters(0.9, false));
+    use(m_roundNames, letters(0.9 * captionShare(size * 0.9), false));
     use(m_roundPoints, letters(0.9, true));
     use(m_regionTitles, letters(1.3, true));
     m_title->setFont(letters(1.9, true));

@@ -41,6 +41,7 @@ private:
     void layOut();
     void chooseFonts();
     double fittingSize() const;
+    double captionShare(double size) const;
     std::optional<Position> positionAt(const QPoint& point) const;
     std::optional<Position> landingAt(const QPoint& point) const;
     void hover(std::optional<Position> position);

@@ -183,6 +183,26 @@ TEST(QtDialogs, EnterGivesTheAnswerThatLosesNothing)
     }
 }
 
+TEST(QtDialogs, AreAsWideAsTheirTitlesNeed)
+{
+    Asking asking;
+    const std::string caption = "** ERROR Found in PLAYERNAMES.CSV file **";
+    QFont bold = QApplication::font();
+    bold.setBold(true);
+    // Beside the title there are an icon and three buttons of about the height of a line.
+    const int title = QFontMetrics{bold}.horizontalAdvance(QString::fromStdString(caption)) + 100;
+    withNext<QMessageBox>([title](QMessageBox& box) {
+        EXPECT_GE(box.width(), title);
+        box.accept();
+    });
+    asking.dialogs.show({caption, "No."});
+    withNext<QInputDialog>([title](QInputDialog& dialog) {
+        EXPECT_GE(dialog.width(), title);
+        dialog.reject();
+    });
+    asking.dialogs.ask({caption, "Who?", {}});
+}
+
 TEST(QtDialogs, TheAboutBoxNamesTheProgram)
 {
     Asking asking;

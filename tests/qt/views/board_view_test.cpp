@@ -334,5 +334,19 @@ TEST_F(BoardViewTest, AnEmptyPickThatIsWrongIsRedLikeItsMark)
     EXPECT_EQ(textColour(find(QStringLiteral("lblResult_0"))), QColor(0, 0, 255));
 }
 
+TEST_F(BoardViewTest, CutsNoCaptionOfARound)
+{
+    for (const QSize size : {QSize{1280, 720}, QSize{1366, 700}, QSize{1920, 1000}, QSize{2560, 1300}}) {
+        view.resize(size);
+        QApplication::processEvents();
+        for (std::size_t i = 0; i < board.lblRoundName.size(); ++i) {
+            const QWidget& caption = find(QString::fromStdString(board.lblRoundName[i].name));
+            const QString text = QString::fromStdString(board.lblRoundName[i].text);
+            EXPECT_LE(caption.fontMetrics().horizontalAdvance(text), caption.width())
+                << text.toStdString() << " at " << size.width();
+        }
+    }
+}
+
 } // namespace
 } // namespace tallyhoop::qt
