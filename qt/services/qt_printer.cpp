@@ -8,6 +8,7 @@
 #include "qt/text.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QFontDialog>
@@ -26,6 +27,7 @@ namespace {
 
 constexpr int kTwipsPerInch = 1440;
 constexpr const char* kReportFont = "Courier New";
+constexpr int kReportFontPoints = 10;
 
 // Fonts with exactly its widths, which fontconfig substitutes for it.
 bool reportFontIsThere()
@@ -33,6 +35,19 @@ bool reportFontIsThere()
     const QString resolved = QFontInfo{QFont{QLatin1String{kReportFont}, 10}}.family();
     const std::array faces{"Courier New", "Liberation Mono", "Cousine"};
     return std::ranges::any_of(faces, [&](const char* face) { return resolved == QLatin1String{face}; });
+}
+
+/// @returns the family to propose where the report font is missing: the desktop's own fixed-pitch one if it has any;
+///          empty when no family is of a fixed pitch
+QString fixedPitchFamily()
+{
+    const QString preferred = QFontInfo{QFontDatabase::systemFont(QFontDatabase::FixedFont)}.family();
+    if (QFontDatabase::isFixedPitch(preferred))
+        return preferred;
+    const QStringList families = QFontDatabase::families();
+    const auto fixed =
+        std::ranges::find_if(families, [](const QString& family) { return QFontDatabase::isFixedPitch(family); });
+    return fixed == families.end() ? QString{} : *fixed;
 }
 
 QPageLayout::Orientation toQt(ui::Orientation orientation)
@@ -80,8 +95,13 @@ bool QtPrinter::choosePrinter()
 std::optional<ui::PrinterFont> QtPrinter::chooseFont()
 {
     const Question question{m_desk};
-    QFontDialog dialog{QFont{QLatin1String{kReportFont}, 10}, m_desk.windowForDialogs()};
-    dialog.setOptions(QFontDialog::DontUseNativeDialog | QFontDialog::MonospacedFonts);
+    QFontDialog dialog{m_desk.windowForDialogs()};
+    const QString fixedPitch = fixedPitchFamily();
+    dialog.setOption(QFontDialog::DontUseNativeDialog);
+    dialog.setOption(QFontDialog::MonospacedFonts, !fixedPitch.isEmpty());
+    // After the options: only a change of the font makes the dialog list its families anew.
+    dialog.setCurrentFont(
+        QFont{fixedPitch.isEmpty() ? QFontInfo{QApplication::font()}.family() : fixedPitch, kReportFontPoints});
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     const QFont font = dialog.selectedFont();
