@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QFontMetricsF>
+#include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
 
@@ -31,31 +32,93 @@ Qt::Alignment toQt(ui::Alignment alignment)
 // Letters are measured at this large size and scaled by the painter, so that their widths are the same on every device.
 constexpr int kFontUnits = 64;
 
+constexpr double kNarrowest = 0.5; ///< of the letters' own width
+constexpr double kSmallest = 0.6;  ///< of the size asked for
+constexpr double kSmaller = 0.95;  ///< from one attempt to the next
+
+QFont fontOf(const ui::Caption& caption)
+{
+    QFont font = QApplication::font();
+    font.setPixelSize(kFontUnits);
+    font.setBold(caption.bold);
+    font.setStrikeOut(caption.struck);
+    return font;
+}
+
+/// @param place from 0, 0, in the painter's units
+void paintLine(QPainter& painter, const ui::Caption& caption, QRectF place)
+{
+    const QFontMetricsF metrics{painter.font(), painter.device()};
+    const QString text = toQString(caption.text);
+    const double narrow = std::clamp(place.width() / metrics.horizontalAdvance(text), kNarrowest, 1.0);
+    painter.scale(narrow, 1);
+    place.setWidth(place.width() / narrow);
+    // Names that begin alike often end differently.
+    painter.drawText(place, static_cast<int>(toQt(caption.alignment) | Qt::AlignVCenter) | Qt::TextSingleLine,
+                     metrics.elidedText(text, Qt::ElideMiddle, place.width()));
+}
+
+/// Breaks a text into lines. @returns their height together
+double breakLines(QTextLayout& text, double width)
+{
+    double height = 0;
+    text.beginLayout();
+    for (QTextLine line = text.createLine(); line.isValid(); line = text.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition({0, height});
+        height += line.height();
+    }
+    text.endLayout();
+    return height;
+}
+
+/// Paints the lines that fit wholly; the last one says when there are more.
+void paintWholeLines(QPainter& painter, const QTextLayout& text, const QRectF& place)
+{
+    const QFontMetricsF metrics{painter.font(), painter.device()};
+    const auto fits = [&](const QTextLine& line) { return line.y() + line.height() <= place.height() + 1; };
+    for (int i = 0; i < text.lineCount() && fits(text.lineAt(i)); ++i) {
+        const QTextLine line = text.lineAt(i);
+        if (i + 1 == text.lineCount() || fits(text.lineAt(i + 1))) {
+            line.draw(&painter, {});
+            continue;
+        }
+        const QString last = text.text().mid(line.textStart(), line.textLength()).trimmed() + QChar{0x2026};
+        painter.drawText(QPointF{0, line.y() + line.ascent()}, metrics.elidedText(last, Qt::ElideRight, place.width()));
+    }
+}
+
+/// @param place from 0, 0, in the painter's units
+void paintParagraphs(QPainter& painter, const ui::Caption& caption, const QRectF& place)
+{
+    QString lines = toLines(caption.text);
+    lines.replace(QLatin1Char{'\n'}, QChar{QChar::LineSeparator});
+    QTextLayout text{lines, painter.font(), painter.device()};
+    QTextOption option{toQt(caption.alignment)};
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    text.setTextOption(option);
+    double scale = 1;
+    while (breakLines(text, place.width() / scale) * scale > place.height() && scale * kSmaller >= kSmallest)
+        scale *= kSmaller;
+    painter.scale(scale, scale);
+    paintWholeLines(painter, text, {0, 0, place.width() / scale, place.height() / scale});
+}
+
 void paintCaption(QPainter& painter, const ui::Caption& caption)
 {
     if (caption.text.empty() || caption.size <= 0 || caption.place.width <= 0)
         return;
     const double scale = caption.size / kFontUnits;
-    QFont font = QApplication::font();
-    font.setPixelSize(kFontUnits);
-    font.setBold(caption.bold);
     painter.save();
     painter.translate(caption.place.x, caption.place.y);
     painter.scale(scale, scale);
-    painter.setFont(font);
+    painter.setFont(fontOf(caption));
     painter.setPen(look::toQColor(caption.colour));
     const QRectF place{0, 0, caption.place.width / scale, caption.place.height / scale};
-    if (caption.wrap) {
-        QTextOption option{toQt(caption.alignment) | Qt::AlignTop};
-        option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-        painter.setClipRect(place);
-        painter.drawText(place, toLines(caption.text), option);
-    } else {
-        const QFontMetricsF metrics{font, painter.device()};
-        const QString text = metrics.elidedText(toQString(caption.text), Qt::ElideRight, place.width());
-        painter.drawText(place, static_cast<int>(toQt(caption.alignment) | Qt::AlignVCenter) | Qt::TextSingleLine,
-                         text);
-    }
+    if (caption.wrap)
+        paintParagraphs(painter, caption, place);
+    else
+        paintLine(painter, caption, place);
     painter.restore();
 }
 

@@ -7,8 +7,7 @@
 
 namespace tallyhoop::qt {
 
-/// Paints in the drawing's own units; the caller has scaled the painter. Vectors and text only, never pixels. A caption
-/// that does not fit its place is elided.
+/// Paints in the drawing's own units; the caller has scaled the painter. Vectors and text only, never pixels.
 void paintDrawing(QPainter& painter, const ui::Drawing& drawing);
 
 /// Scales and centres a drawing in this rectangle and paints it.

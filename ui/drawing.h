@@ -33,7 +33,9 @@ struct Box {
     Colour outline{};
 };
 
-/// A text inside a rectangle, vertically centred unless it wraps; one that does not fit is elided.
+/// A text inside a rectangle. One of a single line is vertically centred; where it is too wide its letters become
+/// narrower, and only then it is elided in its middle. One that wraps begins at the top; where it is too high its
+/// letters become smaller, and only then it ends with an ellipsis after the last whole line.
 struct Caption {
     Rectangle place;
     std::string text;
@@ -41,7 +43,8 @@ struct Caption {
     Colour colour{};
     Alignment alignment = Alignment::Left;
     bool bold = false;
-    bool wrap = false; ///< lines separated by CR LF, wrapped at the right edge, from the top
+    bool wrap = false;   ///< lines separated by CR LF, wrapped at the right edge
+    bool struck = false; ///< a line through the middle of the letters
 };
 
 /// Painted in this order: strokes, boxes, captions.

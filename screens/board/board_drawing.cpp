@@ -16,6 +16,22 @@ constexpr ui::Colour kLineColour{150, 155, 165};
 constexpr ui::Colour kTextColour{30, 32, 40};
 constexpr ui::Colour kPaper{255, 255, 255};
 
+/// The colours of the screen are too light for paper, and a grey printer has none: a wrong pick is struck through too.
+ui::Colour inkOf(Verdict verdict)
+{
+    switch (verdict) {
+    case Verdict::Good:
+        return {0, 95, 35};
+    case Verdict::Bad:
+        return {165, 0, 0};
+    case Verdict::None:
+    case Verdict::Open:
+    case Verdict::Possible:
+        break;
+    }
+    return kTextColour;
+}
+
 class Painter
 {
 public:
@@ -47,10 +63,11 @@ public:
 
 private:
     void write(const ui::Rectangle& place, const std::string& text, double size,
-               ui::Alignment alignment = ui::Alignment::Left, bool bold = false, ui::Colour colour = kTextColour)
+               ui::Alignment alignment = ui::Alignment::Left, bool bold = false, ui::Colour colour = kTextColour,
+               bool struck = false)
     {
         if (!text.empty())
-            m_drawing.captions.push_back({place, text, size, colour, alignment, bold, false});
+            m_drawing.captions.push_back({place, text, size, colour, alignment, bold, false, struck});
     }
 
     void paintHeaders()
@@ -80,15 +97,19 @@ private:
         const double size = m_places.textSize;
         const bool isChampion = position == kChampion;
         const std::optional<Game> game = gameOf(position);
-        const PickMark mark = markOf(game ? m_picture.verdictAt(position) : Verdict::None);
-        ui::Rectangle whole = m_places.positions[position];
+        const Verdict verdict = game ? m_picture.verdictAt(position) : Verdict::None;
+        const char* const mark = markOf(verdict).text;
+        ui::Rectangle name = m_places.positions[position];
+        ui::Rectangle whole = name;
         if (game)
             whole.width += m_places.results[*game].width;
-        m_drawing.boxes.push_back({whole, mark.background, kLineColour});
-        write(inset(m_places.positions[position]), m_picture.bracket.at(position), isChampion ? size * 1.25 : size,
-              ui::Alignment::Left, isChampion, mark.colour);
-        if (game)
-            write(m_places.results[*game], mark.text, size, ui::Alignment::Centre, true, mark.colour);
+        if (*mark == '\0')
+            name = whole; // a long name may use the place of the marker
+        else
+            write(m_places.results[*game], mark, size * 1.1, ui::Alignment::Centre, true, inkOf(verdict));
+        m_drawing.boxes.push_back({whole, kPaper, kLineColour});
+        write(inset(name), m_picture.bracket.at(position), isChampion ? size * 1.25 : size, ui::Alignment::Left,
+              isChampion, inkOf(verdict), verdict == Verdict::Bad);
     }
 
     void paintStrip()
@@ -96,12 +117,15 @@ private:
         const double size = 11;
         const auto field = [&](double x, double width, const std::string& name, const std::string& text) {
             write({x, kStripTop, width, 18}, name, size * 0.9);
-            write({x, kStripTop + 18, width, 22}, text, size * 1.2, ui::Alignment::Left, true);
+            // On a blank sheet the box is where to write.
+            const ui::Rectangle box{x, kStripTop + 19, width - 10, 26};
+            m_drawing.boxes.push_back({box, kPaper, kLineColour});
+            write(inset(box), text, size * 1.2, ui::Alignment::Left, true);
         };
         field(300, 90, kInitialsCaption, m_player.initials);
         field(390, 190, kNameCaption, m_player.name);
         field(580, 240, kFinalPointsCaption, m_player.finalPoints);
-        write({300, kStripTop + 48, 500, 24}, m_score, size * 1.4, ui::Alignment::Left, true);
+        write({300, kStripTop + 54, 500, 24}, m_score, size * 1.4, ui::Alignment::Left, true);
         comment({10, kStripTop, 270, kPageHeight - kStripTop - 6}, m_picture.field.comment1);
         comment({820, kStripTop, 270, kPageHeight - kStripTop - 6}, m_picture.field.comment2);
     }

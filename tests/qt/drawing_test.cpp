@@ -68,4 +68,74 @@ TEST(PaintDrawing, ACaptionThatDoesNotFitIsElidedInsideItsPlace)
     EXPECT_EQ(darkPixels(image, {305, 0, 690, 200}), 0);
 }
 
+TEST(PaintDrawing, ANameIsNarrowedBeforeItIsCut)
+{
+    const auto paintedName = [](const std::string& name, double width) {
+        ui::Drawing drawing = sheet(100, 20);
+        drawing.captions.push_back({{0, 0, width, 20}, name, 10});
+        return painted(drawing, {1000, 200});
+    };
+    // About 14 capitals of a tenth of the sheet's width each are 95 units wide at their natural width.
+    const QImage whole = paintedName("CENTRAL FLORIDA", 66);
+    const QImage other = paintedName("CENTRAL FLORIDO", 66);
+    EXPECT_NE(whole, other) << "the last letter was cut";
+    EXPECT_EQ(darkPixels(whole, {665, 0, 335, 200}), 0);
+}
+
+TEST(PaintDrawing, ANameFarTooLongIsCutInItsMiddleAndKeepsItsEnd)
+{
+    const auto paintedName = [](const std::string& name) {
+        ui::Drawing drawing = sheet(100, 20);
+        drawing.captions.push_back({{0, 0, 40, 20}, name, 10});
+        return painted(drawing, {1000, 200});
+    };
+    EXPECT_NE(paintedName("UNIVERSITY OF LOUISIANA AT LAFAYETTE"), paintedName("UNIVERSITY OF LOUISIANA AT MONROE"));
+}
+
+TEST(PaintDrawing, ACommentThatIsTooHighGetsSmallerLetters)
+{
+    // Five lines of 10 units are about 58 units high.
+    ui::Drawing drawing = sheet(100, 60);
+    drawing.captions.push_back({{0, 0, 100, 42}, "1\r\n2\r\n3\r\n4\r\nLAST", 10});
+    drawing.captions.back().wrap = true;
+    ui::Drawing without = drawing;
+    without.captions.back().text = "1\r\n2\r\n3\r\n4\r\n";
+    const QImage image = painted(drawing, {1000, 600});
+    EXPECT_NE(image, painted(without, {1000, 600})) << "the last line is not there";
+    EXPECT_EQ(darkPixels(image, {0, 425, 1000, 175}), 0);
+}
+
+TEST(PaintDrawing, ACommentFarTooHighEndsWithAWholeLineAndAnEllipsis)
+{
+    ui::Drawing drawing = sheet(100, 60);
+    drawing.captions.push_back({{0, 0, 100, 30}, {}, 10});
+    drawing.captions.back().wrap = true;
+    for (int line = 0; line < 30; ++line)
+        drawing.captions.back().text += "HHH\r\n";
+    const QImage image = painted(drawing, {1000, 600});
+    const auto rowIsEmpty = [&](int y) { return darkPixels(image, {0, y, 1000, 1}) == 0; };
+    int lowest = 599;
+    while (lowest > 0 && rowIsEmpty(lowest))
+        --lowest;
+    EXPECT_LT(lowest, 300);
+    EXPECT_GT(lowest, 200) << "the room is used";
+    // The last line has its ellipsis at the right of the letters, at their foot.
+    int widestAbove = 999;
+    const auto columnIsEmpty = [&](int x, int top, int bottom) {
+        return darkPixels(image, {x, top, 1, bottom - top}) == 0;
+    };
+    while (widestAbove > 0 && columnIsEmpty(widestAbove, 0, lowest - 40))
+        --widestAbove;
+    EXPECT_GT(darkPixels(image, {widestAbove + 5, lowest - 20, 200, 21}), 5);
+}
+
+TEST(PaintDrawing, AWrongPickIsStruckThrough)
+{
+    ui::Drawing drawing = sheet(100, 20);
+    drawing.captions.push_back({{0, 0, 100, 20}, "I          I", 10});
+    const int plain = darkPixels(painted(drawing, {1000, 200}), {40, 0, 100, 200});
+    drawing.captions.back().struck = true;
+    EXPECT_GT(darkPixels(painted(drawing, {1000, 200}), {40, 0, 100, 200}), plain + 50);
+}
+
 TEST(PaintDrawing, AnEmptyDrawingPaintsNothing) { EXPECT_EQ(darkPixels(painted({}, {50, 50}), {0, 0, 50, 50}), 0); }
