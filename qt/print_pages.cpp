@@ -1,12 +1,14 @@
 // qt/print_pages.cpp - divides lines into sheets and paints them in twips, so that every device has the same layout.
 #include "qt/print_pages.h"
 
+#include "base/text.h"
 #include "qt/paint_drawing.h"
 #include "qt/text.h"
 
 #include <QBuffer>
 #include <QFontMetricsF>
 #include <QPdfWriter>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -16,7 +18,8 @@ namespace {
 
 constexpr double kTwipsPerPoint = 20;
 constexpr double kTwipsPerInch = 1440;
-constexpr double kTightest = 10 * kTwipsPerPoint; ///< the smallest distance of two lines
+constexpr double kTightest = 9 * kTwipsPerPoint; ///< the smallest distance of two lines
+constexpr double kSmallest = 0.5;                ///< of the font's own size, for lines wider than the paper
 constexpr char kFormFeed = '\f';
 // A rounding error must not push the last line to another sheet.
 constexpr double kTolerance = 0.01;
@@ -61,6 +64,43 @@ QSizeF printableTwips(const QPageLayout& layout)
 void scaleToTwips(QPainter& painter)
 {
     painter.scale(painter.device()->logicalDpiX() / kTwipsPerInch, painter.device()->logicalDpiY() / kTwipsPerInch);
+}
+
+/// A line that is too wide even in the smallest letters goes on in the next one.
+std::vector<std::string> withoutOverlong(const std::vector<std::string>& lines, std::size_t most)
+{
+    std::vector<std::string> broken;
+    broken.reserve(lines.size());
+    for (const std::string& line : lines) {
+        const std::size_t end = lastNonBlank(line);
+        broken.push_back(line.substr(0, most));
+        for (std::size_t at = most; at < end; at += most)
+            broken.push_back(line.substr(at, most));
+    }
+    return broken;
+}
+
+double widestOf(const std::vector<std::string>& lines, const QFontMetricsF& metrics)
+{
+    double widest = 0;
+    for (const std::string& line : lines)
+        widest = std::max(widest, metrics.horizontalAdvance(toQString(trimTrailingBlanks(line))));
+    return widest;
+}
+
+bool paintSheets(QPainter& painter, QPagedPaintDevice& device, const std::vector<Sheet>& sheets, double ascent)
+{
+    bool first = true;
+    for (const Sheet& sheet : sheets) {
+        if (!std::exchange(first, false) && !device.newPage())
+            return false;
+        double baseline = ascent;
+        for (const std::string& line : sheet.lines) {
+            painter.drawText(QPointF{0, baseline}, toQString(line));
+            baseline += sheet.spacing;
+        }
+    }
+    return true;
 }
 
 template <class Printout>
@@ -116,18 +156,17 @@ bool paintPages(QPagedPaintDevice& device, const ui::TextPrintout& printout)
     const QFont font = fontOf(printout.font);
     painter.setFont(font);
     const QFontMetricsF metrics{font, &device};
-    const std::vector<Sheet> sheets =
-        layOut(printout.lines, printableTwips(device.pageLayout()).height(), metrics.lineSpacing());
-    bool first = true;
-    for (const Sheet& sheet : sheets) {
-        if (!std::exchange(first, false) && !device.newPage())
-            return false;
-        double baseline = metrics.ascent();
-        for (const std::string& line : sheet.lines) {
-            painter.drawText(QPointF{static_cast<double>(printout.originTwips), baseline}, toQString(line));
-            baseline += sheet.spacing;
-        }
-    }
+    const QSizeF paper = printableTwips(device.pageLayout());
+    const double width = std::max(paper.width() - printout.originTwips, 1.0);
+    const double most = std::floor(width / (kSmallest * metrics.horizontalAdvance(QLatin1Char{'0'})));
+    const std::vector<std::string> lines =
+        withoutOverlong(printout.lines, static_cast<std::size_t>(std::max(most, 1.0)));
+    // All lines alike, or columns would not be columns any more.
+    const double scale = std::min(1.0, width / std::max(widestOf(lines, metrics), 1.0));
+    painter.translate(printout.originTwips, 0);
+    painter.scale(scale, scale);
+    if (!paintSheets(painter, device, layOut(lines, paper.height() / scale, metrics.lineSpacing()), metrics.ascent()))
+        return false;
     return painter.end();
 }
 

@@ -18,13 +18,14 @@ struct Sheet {
 };
 
 /// Divides lines into sheets. A form feed ends a page of the report. A page that is too long for a sheet at the natural
-/// spacing is set tighter, down to 10 points a line; if that is not enough it keeps the natural spacing and continues
+/// spacing is set tighter, down to 9 points a line; if that is not enough it keeps the natural spacing and continues
 /// on another sheet. Pages without lines are left out; there is always at least one sheet.
 /// @param height  of the printable area, twips
 /// @param natural the font's own line spacing, twips
 std::vector<Sheet> layOut(const std::vector<std::string>& lines, double height, double natural);
 
-/// Paints onto sheets of the device, whose page layout and orientation are set already.
+/// Paints onto sheets of the device, whose page layout and orientation are set already. Where a line is wider than the
+/// paper all lines get smaller letters, down to half their size; what is wider still goes on in the next line.
 /// @returns false when the device gives no (further) page
 bool paintPages(QPagedPaintDevice& device, const ui::TextPrintout& printout);
 bool paintPages(QPagedPaintDevice& device, const ui::DrawingPrintout& printout);

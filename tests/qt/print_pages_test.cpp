@@ -9,6 +9,8 @@
 #include <QPageSize>
 #include <QPrinter>
 #include <QProcess>
+#include <QRegularExpression>
+#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace tallyhoop;
@@ -29,14 +31,36 @@ std::vector<std::string> numbered(int count)
 
 QPageLayout letter() { return {QPageSize{QPageSize::Letter}, QPageLayout::Portrait, QMarginsF{10, 10, 10, 10}}; }
 
-/// Keeps columns: one character is six points wide.
-QString textOf(const std::filesystem::path& pdf)
+QString saidAbout(const std::filesystem::path& pdf, const QStringList& options)
 {
     QProcess program;
-    program.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), QStringLiteral("-fixed"),
-                                                QStringLiteral("6"), fromPath(pdf), QStringLiteral("-")});
+    program.start(QStringLiteral("pdftotext"), options + QStringList{fromPath(pdf), QStringLiteral("-")});
     EXPECT_TRUE(program.waitForFinished()) << "pdftotext (poppler-utils) is needed";
     return QString::fromUtf8(program.readAllStandardOutput());
+}
+
+/// Keeps columns.
+/// @param points the width of a character
+QString textOf(const std::filesystem::path& pdf, const char* points = "6")
+{
+    return saidAbout(pdf, {QStringLiteral("-layout"), QStringLiteral("-fixed"), QLatin1String{points}});
+}
+
+/// @returns where the last word ends, points from the left edge of the paper
+double rightmostPoint(const std::filesystem::path& pdf)
+{
+    static const QRegularExpression kEnd{QStringLiteral("<word [^>]*xMax=\"([0-9.]+)\"")};
+    double rightmost = 0;
+    for (auto found = kEnd.globalMatch(saidAbout(pdf, {QStringLiteral("-bbox")})); found.hasNext();)
+        rightmost = std::max(rightmost, found.next().captured(1).toDouble());
+    return rightmost;
+}
+
+/// @returns where a word begins, points from the left edge of the paper
+double leftOf(const std::filesystem::path& pdf, const char* word)
+{
+    const QRegularExpression begin{QStringLiteral("<word xMin=\"([0-9.]+)\"[^>]*>") + QLatin1String{word}};
+    return begin.match(saidAbout(pdf, {QStringLiteral("-bbox")})).captured(1).toDouble();
 }
 
 } // namespace
@@ -56,22 +80,22 @@ TEST(PrintLayout, NoSheetIsWastedOnAFormFeedAtTheStartOrTheEnd)
     EXPECT_EQ(layOut({}, kLetterHeight, kNatural).size(), 1u);
 }
 
-TEST(PrintLayout, APageThatWouldNotFitIsSetTighterDownToTenPoints)
+TEST(PrintLayout, APageThatWouldNotFitIsSetTighterDownToNinePoints)
 {
-    // 15440 / 226.5 = 68.2 lines fit naturally, 15440 / 200 = 77.2 at 10 points.
+    // 15440 / 226.5 = 68.2 lines fit naturally, 15440 / 180 = 85.8 at 9 points.
     EXPECT_DOUBLE_EQ(layOut(numbered(68), kLetterHeight, kNatural)[0].spacing, kNatural);
-    const auto tight = layOut(numbered(70), kLetterHeight, kNatural);
+    const auto tight = layOut(numbered(82), kLetterHeight, kNatural);
     ASSERT_EQ(tight.size(), 1u);
-    EXPECT_DOUBLE_EQ(tight[0].spacing, kLetterHeight / 70);
-    EXPECT_EQ(layOut(numbered(77), kLetterHeight, kNatural).size(), 1u);
+    EXPECT_DOUBLE_EQ(tight[0].spacing, kLetterHeight / 82);
+    EXPECT_EQ(layOut(numbered(85), kLetterHeight, kNatural).size(), 1u);
 }
 
 TEST(PrintLayout, ALongerPageContinuesOnAnotherSheetAtItsNaturalSpacing)
 {
-    const auto sheets = layOut(numbered(78), kLetterHeight, kNatural);
+    const auto sheets = layOut(numbered(86), kLetterHeight, kNatural);
     ASSERT_EQ(sheets.size(), 2u);
     EXPECT_EQ(sheets[0].lines.size(), 68u);
-    EXPECT_EQ(sheets[1].lines.size(), 10u);
+    EXPECT_EQ(sheets[1].lines.size(), 18u);
     EXPECT_DOUBLE_EQ(sheets[1].spacing, kNatural);
 }
 
@@ -101,6 +125,48 @@ TEST(PrintPdf, ColumnsAndPagesAreKept)
                                               "\f"
                                               "        second page\n"
                                               "\f"));
+}
+
+TEST(PrintPdf, LinesWiderThanThePaperGetSmallerLettersAndColumnsStayColumns)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    ui::TextPrintout printout;
+    printout.font = {"Courier New", 10};
+    // 592 points of Letter hold 98 characters of 6 points; 148 of them need 4 points each.
+    printout.lines = {"left" + std::string(140, ' ') + "end.", std::string(54, ' ') + "right"};
+    const auto file = scratch.put("wide.pdf", toPdf(printout, letter()).toStdString());
+
+    EXPECT_NEAR(leftOf(file, "left"), 10, 0.5);
+    EXPECT_NEAR(leftOf(file, "end."), 10 + 144 * 4, 0.5);
+    EXPECT_NEAR(leftOf(file, "right"), 10 + 54 * 4, 0.5);
+    EXPECT_LE(rightmostPoint(file), 612 - 10 + 0.5);
+}
+
+TEST(PrintPdf, TrailingBlanksMakeNoLetterSmaller)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    ui::TextPrintout printout;
+    printout.font = {"Courier New", 10};
+    printout.lines = {"left" + std::string(40, '.') + "x" + std::string(200, ' ')};
+
+    const auto file = scratch.put("blanks.pdf", toPdf(printout, letter()).toStdString());
+
+    EXPECT_NEAR(rightmostPoint(file), 10 + 45 * 6, 1); // the margin, and 45 characters of 6 points
+}
+
+TEST(PrintPdf, ALineThatIsTooWideEvenInSmallLettersGoesOnInTheNextOne)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    ui::TextPrintout printout;
+    printout.font = {"Courier New", 10};
+    // At half size 197 characters fit into 592 points.
+    printout.lines = {std::string(197, 'a') + "bcd", "next"};
+
+    const auto file = scratch.put("wider.pdf", toPdf(printout, letter()).toStdString());
+
+    const QString text = textOf(file, "3").simplified();
+    EXPECT_EQ(text, QString(197, QLatin1Char('a')) + QStringLiteral(" bcd next"));
+    EXPECT_LE(rightmostPoint(file), 612 - 10 + 0.5);
 }
 
 TEST(PrintPdf, LandscapeIsWiderThanPortrait)

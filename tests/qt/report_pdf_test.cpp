@@ -63,17 +63,18 @@ std::vector<ReportLines> pagesOfReport(const ReportLines& lines)
 
 /// Where the words of a page have to be, line by line.
 /// @param height of the printable area, points
-std::vector<Word> expectedWords(const ReportLines& page, double left, double height)
+/// @param scale  of the letters, less than 1 where a line of the report is wider than the paper
+std::vector<Word> expectedWords(const ReportLines& page, double left, double height, double scale)
 {
     // A page that is too long is set tighter.
-    const double spacing = std::min(kReportLine, height / static_cast<double>(page.size()));
+    const double spacing = std::min(kReportLine * scale, height / static_cast<double>(page.size()));
     std::vector<Word> words;
     for (std::size_t row = 0; row < page.size(); ++row) {
         const QString line = toQString(page[row]);
         static const QRegularExpression kWord{QStringLiteral("[^ ]+")};
         for (auto found = kWord.globalMatch(line); found.hasNext();) {
             const QRegularExpressionMatch word = found.next();
-            words.push_back({word.captured(), left + kLetterWidth * static_cast<double>(word.capturedStart()),
+            words.push_back({word.captured(), left + scale * kLetterWidth * static_cast<double>(word.capturedStart()),
                              kPaperMargin + spacing * static_cast<double>(row)});
         }
     }
@@ -153,8 +154,10 @@ TEST_P(ReportPdf, HasEveryWordInItsColumnAndItsLineOfAPageForEachPage)
     ASSERT_EQ(printed.size(), expected.size());
     const double height = (kind.orientation == PageOrientation::Landscape ? 612 : 792) - 2 * kPaperMargin;
     const double left = kPaperMargin + printout.originTwips / kTwipsInAPoint;
+    const double width = (kind.orientation == PageOrientation::Landscape ? 792 : 612) - kPaperMargin - left;
+    const double scale = std::min(1.0, width / (kLetterWidth * static_cast<double>(longestLine(lines))));
     for (std::size_t page = 0; page < expected.size(); ++page) {
-        const std::vector<Word> words = expectedWords(expected[page], left, height);
+        const std::vector<Word> words = expectedWords(expected[page], left, height, scale);
         ASSERT_EQ(printed[page].size(), words.size()) << "page " << page + 1;
         for (std::size_t i = 0; i < words.size(); ++i) {
             const Word& word = printed[page][i];
