@@ -4,6 +4,7 @@
 #include "files/replace_file.h"
 #include "qt/paths.h"
 #include "qt/print_pages.h"
+#include "qt/services/paper.h"
 #include "qt/services/question.h"
 #include "qt/text.h"
 
@@ -17,6 +18,7 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrinter>
+#include <QPrinterInfo>
 #include <QScreen>
 #include <algorithm>
 #include <array>
@@ -67,6 +69,8 @@ QPrinter& QtPrinter::printer()
         m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
         m_printer->setResolution(kTwipsPerInch);
         m_printer->setCreator(QStringLiteral("Tallyhoop"));
+        // Qt would take A4 whatever the printer holds.
+        m_printer->setPageSize(paperOf(QPrinterInfo::printerInfo(m_printer->printerName())));
     }
     return *m_printer;
 }
@@ -86,10 +90,31 @@ bool QtPrinter::choosePrinter()
 {
     const Question question{m_desk};
     printer().setDocName({}); // or the dialog would name a file after the printout before
+    const QString before = printer().printerName();
+    const QPageSize paper = printer().pageLayout().pageSize();
     QPrintDialog dialog{&printer(), m_desk.windowForDialogs()};
     // Every printout is printed whole: no ranges.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);
-    return dialog.exec() == QDialog::Accepted;
+    if (dialog.exec() != QDialog::Accepted) {
+        goBackTo(before);
+        return false;
+    }
+    // Another printer may hold other paper; what was chosen in the dialog holds.
+    const QString now = printer().printerName();
+    if (now != before && printer().pageLayout().pageSize() == paper)
+        printer().setPageSize(paperOf(QPrinterInfo::printerInfo(now)));
+    return true;
+}
+
+/// Forgets the file of a PDF, which the dialog notes even when it is cancelled.
+/// @param printerName empty = there is none
+void QtPrinter::goBackTo(const QString& printerName)
+{
+    printer().setOutputFileName({});
+    if (printerName.isEmpty())
+        return;
+    printer().setOutputFormat(QPrinter::NativeFormat);
+    printer().setPrinterName(printerName);
 }
 
 std::optional<ui::PrinterFont> QtPrinter::chooseFont()
@@ -102,8 +127,10 @@ std::optional<ui::PrinterFont> QtPrinter::chooseFont()
     // After the options: only a change of the font makes the dialog list its families anew.
     dialog.setCurrentFont(
         QFont{fixedPitch.isEmpty() ? QFontInfo{QApplication::font()}.family() : fixedPitch, kReportFontPoints});
-    if (dialog.exec() != QDialog::Accepted)
+    if (dialog.exec() != QDialog::Accepted) {
+        printer().setOutputFileName({}); // it was for the printout that is not wanted any more
         return std::nullopt;
+    }
     const QFont font = dialog.selectedFont();
     return ui::PrinterFont{fromQString(font.family()), font.pointSizeF(), font.bold(), font.italic()};
 }

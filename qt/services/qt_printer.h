@@ -38,6 +38,7 @@ public:
     QPrinter& printer();
 
 private:
+    void goBackTo(const QString& printerName);
     template <class Printout>
     Result<Done> printOut(const Printout& printout);
     template <class Printout>

@@ -9,6 +9,7 @@
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
+#include <QPrinter>
 #include <gtest/gtest.h>
 
 using namespace tallyhoop;
@@ -224,6 +225,27 @@ TEST(QtPrinterDialogs, CancelIsReported)
     EXPECT_FALSE(printer.choosePrinter());
     withNext<QFontDialog>([](QFontDialog& dialog) { dialog.reject(); });
     EXPECT_EQ(printer.chooseFont(), std::nullopt);
+}
+
+TEST(QtPrinterDialogs, APdfChosenInACancelledDialogIsForgotten)
+{
+    Shown shown;
+    QtPrinter printer{shown.desk};
+    const auto chooseFile = [&] {
+        printer.printer().setOutputFormat(QPrinter::PdfFormat);
+        printer.printer().setOutputFileName(QStringLiteral("forgotten.pdf"));
+    };
+    withNext<QPrintDialog>([&](QPrintDialog& dialog) {
+        chooseFile();
+        dialog.reject();
+    });
+    EXPECT_FALSE(printer.choosePrinter());
+    EXPECT_EQ(printer.printer().outputFileName(), QString{});
+
+    chooseFile(); // accepted, but then the font is not
+    withNext<QFontDialog>([](QFontDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(printer.chooseFont(), std::nullopt);
+    EXPECT_EQ(printer.printer().outputFileName(), QString{});
 }
 
 TEST(QtPrinterDialogs, TheFontDialogOffersFixedPitchFamilies)
