@@ -128,6 +128,9 @@ void Desk::push()
 
 QWidget* Desk::windowForDialogs() const
 {
+    for (auto modal = m_modals.rbegin(); modal != m_modals.rend(); ++modal)
+        if (modal->window)
+            return modal->window;
     for (auto screen = m_running.rbegin(); screen != m_running.rend(); ++screen) {
         const Page* page = pageOf(**screen);
         if (page && page->isVisible())
@@ -167,9 +170,9 @@ void Desk::clearParked()
     }
 }
 
-Desk::Modal::Modal(Desk& desk, const ui::Screen* screen) : m_desk{desk}
+Desk::Modal::Modal(Desk& desk, const ui::Screen* screen, QWidget* window) : m_desk{desk}
 {
-    m_desk.m_modals.push_back({screen, m_desk.m_depth});
+    m_desk.m_modals.push_back({screen, m_desk.m_depth, window});
 }
 
 Desk::Modal::~Modal() { m_desk.m_modals.pop_back(); }

@@ -52,14 +52,16 @@ public:
     /// Pulls and pushes without a command, such as when a page comes to the front.
     void push();
 
-    /// @returns the window of the running screen, as the parent of dialogs; the frame when that is not visible
+    /// @returns the window of the running screen, or the one it has opened, as the parent of dialogs; the frame when
+    /// that is not visible
     QWidget* windowForDialogs() const;
 
     /// While one exists, commands of other screens are dropped. For message boxes (no screen) and modal screens.
     class Modal
     {
     public:
-        explicit Modal(Desk& desk, const ui::Screen* screen = nullptr);
+        /// @param window the parent of dialogs meanwhile; nullptr = as before
+        explicit Modal(Desk& desk, const ui::Screen* screen = nullptr, QWidget* window = nullptr);
         ~Modal();
         Modal(const Modal&) = delete;
         Modal& operator=(const Modal&) = delete;
@@ -96,7 +98,8 @@ private:
     };
     struct OpenModal {
         const ui::Screen* screen;
-        int depth; ///< of the commands that were running when it opened
+        int depth;       ///< of the commands that were running when it opened
+        QWidget* window; ///< the parent of dialogs while it is open; nullptr = that of the running screen
     };
 
     void execute(ui::Screen& screen, const std::function<void()>& command);

@@ -103,27 +103,6 @@ bool paintSheets(QPainter& painter, QPagedPaintDevice& device, const std::vector
     return true;
 }
 
-template <class Printout>
-QByteArray pdfOf(const Printout& printout, QPageLayout layout)
-{
-    layout.setOrientation(printout.orientation == ui::Orientation::Landscape ? QPageLayout::Landscape
-                                                                             : QPageLayout::Portrait);
-    QByteArray bytes;
-    QBuffer buffer{&bytes};
-    if (!buffer.open(QIODevice::WriteOnly))
-        return {};
-    bool painted = false;
-    {
-        QPdfWriter writer{&buffer};
-        writer.setResolution(static_cast<int>(kTwipsPerInch));
-        writer.setPageLayout(layout);
-        writer.setTitle(toQString(printout.title));
-        writer.setCreator(QStringLiteral("Tallyhoop"));
-        painted = paintPages(writer, printout);
-    }
-    return painted ? bytes : QByteArray{};
-}
-
 } // namespace
 
 std::vector<Sheet> layOut(const std::vector<std::string>& lines, double height, double natural)
@@ -176,8 +155,24 @@ bool paintPages(QPagedPaintDevice& device, const ui::DrawingPrintout& printout)
     if (!painter.begin(&device))
         return false;
     scaleToTwips(painter);
-    paintDrawing(painter, printout.drawing, QRectF{QPointF{}, printableTwips(device.pageLayout())});
+    const QRectF page{QPointF{}, printableTwips(device.pageLayout())};
+    for (std::size_t i = 0; i < printout.drawings.size(); ++i) {
+        if (i > 0 && !device.newPage())
+            return false;
+        paintDrawing(painter, printout.drawings[i], page);
+    }
     return painter.end();
+}
+
+bool paintPages(QPagedPaintDevice& device, const ui::Printout& printout)
+{
+    return std::visit([&device](const auto& any) { return paintPages(device, any); }, printout);
+}
+
+QPageLayout::Orientation orientationOf(const ui::Printout& printout)
+{
+    const auto orientation = std::visit([](const auto& any) { return any.orientation; }, printout);
+    return orientation == ui::Orientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
 
 int printableWidthTwips(const QPageLayout& layout)
@@ -185,8 +180,23 @@ int printableWidthTwips(const QPageLayout& layout)
     return static_cast<int>(std::lround(printableTwips(layout).width()));
 }
 
-QByteArray toPdf(const ui::TextPrintout& printout, const QPageLayout& layout) { return pdfOf(printout, layout); }
-
-QByteArray toPdf(const ui::DrawingPrintout& printout, const QPageLayout& layout) { return pdfOf(printout, layout); }
+QByteArray toPdf(const ui::Printout& printout, QPageLayout layout)
+{
+    layout.setOrientation(orientationOf(printout));
+    QByteArray bytes;
+    QBuffer buffer{&bytes};
+    if (!buffer.open(QIODevice::WriteOnly))
+        return {};
+    bool painted = false;
+    {
+        QPdfWriter writer{&buffer};
+        writer.setResolution(static_cast<int>(kTwipsPerInch));
+        writer.setPageLayout(layout);
+        writer.setTitle(toQString(ui::titleOf(printout)));
+        writer.setCreator(QStringLiteral("Tallyhoop"));
+        painted = paintPages(writer, printout);
+    }
+    return painted ? bytes : QByteArray{};
+}
 
 } // namespace tallyhoop::qt

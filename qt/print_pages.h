@@ -29,12 +29,14 @@ std::vector<Sheet> layOut(const std::vector<std::string>& lines, double height, 
 /// @returns false when the device gives no (further) page
 bool paintPages(QPagedPaintDevice& device, const ui::TextPrintout& printout);
 bool paintPages(QPagedPaintDevice& device, const ui::DrawingPrintout& printout);
+bool paintPages(QPagedPaintDevice& device, const ui::Printout& printout);
+
+QPageLayout::Orientation orientationOf(const ui::Printout& printout);
 
 /// @returns the width of the printable area in twips
 int printableWidthTwips(const QPageLayout& layout);
 
 /// @returns the printout as a PDF file, empty when that failed
-QByteArray toPdf(const ui::TextPrintout& printout, const QPageLayout& layout);
-QByteArray toPdf(const ui::DrawingPrintout& printout, const QPageLayout& layout);
+QByteArray toPdf(const ui::Printout& printout, QPageLayout layout);
 
 } // namespace tallyhoop::qt

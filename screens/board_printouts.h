@@ -1,7 +1,7 @@
 // screens/board_printouts.h - what the reports screen may ask of the board below it.
 #pragma once
 
-#include "ui/drawing.h"
+#include "ui/printer.h"
 
 #include <filesystem>
 
@@ -13,8 +13,8 @@ class BoardPrintouts
 public:
     virtual ~BoardPrintouts() = default;
 
-    /// @returns the board as a picture
-    virtual ui::Drawing drawing() const = 0;
+    /// @returns the board as it is, on one page; its title is whose it is
+    virtual ui::DrawingPrintout printout() const = 0;
 
     /// Puts the results on the board, to be edited.
     virtual void enterGameResults() = 0;

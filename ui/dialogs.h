@@ -57,6 +57,10 @@ public:
     /// Never asks about replacing a file: commands have their own question. @returns nothing when cancelled
     virtual std::optional<std::filesystem::path> saveFile(const FileChoice& choice) = 0;
 
+    /// @param folder where the dialog begins. @returns nothing when cancelled
+    virtual std::optional<std::filesystem::path> chooseFolder(const std::string& caption,
+                                                              const std::filesystem::path& folder) = 0;
+
     /// Shows the program's about box and waits.
     /// @param folder where the pool is
     virtual void about(const std::filesystem::path& folder) = 0;

@@ -5,8 +5,10 @@
 #include "ui/drawing.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 namespace tallyhoop::ui {
@@ -31,11 +33,26 @@ struct TextPrintout {
     int originTwips = 0; ///< how far the text starts to the right of the printable area's left edge, 1440 to the inch
 };
 
-/// A picture, fitted to one page.
+/// Pictures, each fitted to a page of its own.
 struct DrawingPrintout {
     std::string title;
-    Drawing drawing;
+    std::vector<Drawing> drawings;
     Orientation orientation = Orientation::Landscape;
+};
+
+using Printout = std::variant<TextPrintout, DrawingPrintout>;
+
+/// @returns a printout's title, whatever it shows
+inline const std::string& titleOf(const Printout& printout)
+{
+    return std::visit([](const auto& any) -> const std::string& { return any.title; }, printout);
+}
+
+/// What a preview shows, and what the person can do with the printout that is shown.
+struct Preview {
+    std::vector<Printout> printouts; ///< at least one; of several the person chooses in a list
+    std::function<void(const Printout&)> print;
+    std::function<void(const Printout&)> savePdf;
 };
 
 class Printer
@@ -55,15 +72,15 @@ public:
     /// @returns the width of the printable area, 1440 units to the inch
     virtual int pageWidthTwips(Orientation orientation) = 0;
 
-    virtual Result<Done> print(const TextPrintout& printout) = 0;
-    virtual Result<Done> print(const DrawingPrintout& printout) = 0;
+    /// @returns whether there is something to print on: a printer, or a file chosen in the printer dialog
+    virtual bool isThere() = 0;
 
-    virtual Result<Done> savePdf(const TextPrintout& printout, const std::filesystem::path& file) = 0;
-    virtual Result<Done> savePdf(const DrawingPrintout& printout, const std::filesystem::path& file) = 0;
+    virtual Result<Done> print(const Printout& printout) = 0;
 
-    /// Shows the pages in a window and waits until it is closed.
-    virtual void preview(const TextPrintout& printout) = 0;
-    virtual void preview(const DrawingPrintout& printout) = 0;
+    virtual Result<Done> savePdf(const Printout& printout, const std::filesystem::path& file) = 0;
+
+    /// Shows the pages in a window and waits until it is closed. What it does meanwhile is in the preview.
+    virtual void preview(const Preview& preview) = 0;
 };
 
 } // namespace tallyhoop::ui

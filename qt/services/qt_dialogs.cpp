@@ -213,6 +213,19 @@ std::optional<std::filesystem::path> QtDialogs::choose(const ui::FileChoice& cho
     return dialog.exec() == QDialog::Accepted ? dialog.chosen() : std::nullopt;
 }
 
+std::optional<std::filesystem::path> QtDialogs::chooseFolder(const std::string& caption,
+                                                             const std::filesystem::path& folder)
+{
+    const Question question{m_desk};
+    QFileDialog dialog{m_desk.windowForDialogs(), captionOf(caption), fromPath(folder)};
+    dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
+    dialog.setFileMode(QFileDialog::Directory);
+    dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Choose"));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return toPath(dialog.selectedFiles().constFirst());
+}
+
 void QtDialogs::about(const std::filesystem::path& folder)
 {
     const Question question{m_desk};

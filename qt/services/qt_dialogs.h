@@ -17,6 +17,8 @@ public:
     std::string ask(const ui::Question& question) override;
     std::optional<std::filesystem::path> openFile(const ui::FileChoice& choice) override;
     std::optional<std::filesystem::path> saveFile(const ui::FileChoice& choice) override;
+    std::optional<std::filesystem::path> chooseFolder(const std::string& caption,
+                                                      const std::filesystem::path& folder) override;
     void about(const std::filesystem::path& folder) override;
 
 private:

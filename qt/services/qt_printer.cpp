@@ -5,21 +5,17 @@
 #include "qt/paths.h"
 #include "qt/print_pages.h"
 #include "qt/services/paper.h"
+#include "qt/services/preview_dialog.h"
 #include "qt/services/question.h"
 #include "qt/text.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QComboBox>
 #include <QFontDatabase>
 #include <QFontDialog>
 #include <QFontInfo>
-#include <QLineEdit>
 #include <QPrintDialog>
-#include <QPrintPreviewDialog>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QScreen>
 #include <algorithm>
 #include <array>
 
@@ -142,18 +138,22 @@ int QtPrinter::pageWidthTwips(ui::Orientation orientation)
     return printableWidthTwips(layout);
 }
 
-template <class Printout>
-Result<Done> QtPrinter::printOut(const Printout& printout)
+bool QtPrinter::isThere()
+{
+    // Without any printer Qt switches to PDF by itself, without a file name.
+    return printer().outputFormat() != QPrinter::PdfFormat || !printer().outputFileName().isEmpty();
+}
+
+Result<Done> QtPrinter::print(const ui::Printout& printout)
 {
     QPrinter& device = printer();
-    device.setDocName(toQString(printout.title));
+    device.setDocName(toQString(ui::titleOf(printout)));
     // The dialog may have changed the orientation.
-    device.setPageOrientation(toQt(printout.orientation));
+    device.setPageOrientation(orientationOf(printout));
+    if (!isThere())
+        return Failure{"No printer is installed."};
     if (device.outputFormat() == QPrinter::PdfFormat) {
-        // Without any printer Qt switches to PDF by itself, without a file name.
-        if (device.outputFileName().isEmpty())
-            return Failure{"No printer is installed."};
-        Result<Done> written = writePdf(printout, toPath(device.outputFileName()));
+        Result<Done> written = savePdf(printout, toPath(device.outputFileName()));
         device.setOutputFileName({}); // back to the printer: the next printout must not replace this file
         return written;
     }
@@ -162,8 +162,7 @@ Result<Done> QtPrinter::printOut(const Printout& printout)
     return Done{};
 }
 
-template <class Printout>
-Result<Done> QtPrinter::writePdf(const Printout& printout, const std::filesystem::path& file)
+Result<Done> QtPrinter::savePdf(const ui::Printout& printout, const std::filesystem::path& file)
 {
     const QByteArray bytes = toPdf(printout, printer().pageLayout());
     if (bytes.isEmpty())
@@ -172,49 +171,16 @@ Result<Done> QtPrinter::writePdf(const Printout& printout, const std::filesystem
     return replaceFile(file, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
-template <class Printout>
-void QtPrinter::showPreview(const Printout& printout)
+void QtPrinter::preview(const ui::Preview& preview)
 {
     const Question question{m_desk};
     QPrinter shown{QPrinter::HighResolution};
     shown.setResolution(kTwipsPerInch);
     shown.setPageLayout(printer().pageLayout());
-    shown.setPageOrientation(toQt(printout.orientation));
-    QWidget* parent = m_desk.windowForDialogs();
-    QPrintPreviewDialog dialog{&shown, parent};
-    dialog.setWindowTitle(QStringLiteral("Preview - ") + titleText(toQString(printout.title)));
-    const auto actions = dialog.findChildren<QAction*>();
-    for (QAction* action : actions)
-        if (action->text() == QLatin1String{"Print"}) // it would print without our checks
-            action->setVisible(false);
-    // Qt gives its page number and its zoom no accessible name.
-    for (QLineEdit* number : dialog.findChildren<QLineEdit*>())
-        number->setAccessibleName(QStringLiteral("Page"));
-    for (QComboBox* zoom : dialog.findChildren<QComboBox*>())
-        zoom->setAccessibleName(QStringLiteral("Zoom"));
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog,
-                     [&printout](QPrinter* device) { static_cast<void>(paintPages(*device, printout)); });
-    const QSize room = (parent ? parent->screen() : dialog.screen())->availableSize();
-    dialog.resize(std::min(1000, room.width() - 60), std::min(900, room.height() - 60));
+    PreviewDialog dialog{shown, preview, m_desk.windowForDialogs()};
+    // The questions that its commands ask belong in front of it.
+    const Desk::Modal above{m_desk, nullptr, &dialog};
     dialog.exec();
 }
-
-Result<Done> QtPrinter::print(const ui::TextPrintout& printout) { return printOut(printout); }
-
-Result<Done> QtPrinter::print(const ui::DrawingPrintout& printout) { return printOut(printout); }
-
-Result<Done> QtPrinter::savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file)
-{
-    return writePdf(printout, file);
-}
-
-Result<Done> QtPrinter::savePdf(const ui::DrawingPrintout& printout, const std::filesystem::path& file)
-{
-    return writePdf(printout, file);
-}
-
-void QtPrinter::preview(const ui::TextPrintout& printout) { showPreview(printout); }
-
-void QtPrinter::preview(const ui::DrawingPrintout& printout) { showPreview(printout); }
 
 } // namespace tallyhoop::qt

@@ -25,26 +25,19 @@ public:
     std::optional<ui::PrinterFont> chooseFont() override;
     int pageWidthTwips(ui::Orientation orientation) override;
 
+    bool isThere() override;
+
     /// A printout to a PDF file, chosen in the printer's dialog, is written whole or not at all;
     /// that choice is for one printout.
-    Result<Done> print(const ui::TextPrintout& printout) override;
-    Result<Done> print(const ui::DrawingPrintout& printout) override;
-    Result<Done> savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file) override;
-    Result<Done> savePdf(const ui::DrawingPrintout& printout, const std::filesystem::path& file) override;
-    void preview(const ui::TextPrintout& printout) override;
-    void preview(const ui::DrawingPrintout& printout) override;
+    Result<Done> print(const ui::Printout& printout) override;
+    Result<Done> savePdf(const ui::Printout& printout, const std::filesystem::path& file) override;
+    void preview(const ui::Preview& preview) override;
 
     /// The printer as last chosen.
     QPrinter& printer();
 
 private:
     void goBackTo(const QString& printerName);
-    template <class Printout>
-    Result<Done> printOut(const Printout& printout);
-    template <class Printout>
-    Result<Done> writePdf(const Printout& printout, const std::filesystem::path& file);
-    template <class Printout>
-    void showPreview(const Printout& printout);
 
     Desk& m_desk;
     std::unique_ptr<QPrinter> m_printer; ///< made when first needed

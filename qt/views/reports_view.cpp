@@ -122,7 +122,10 @@ QLayout* ReportsView::printouts(ReportsScreen& reports)
 
     auto* const whole = look::row(look::kSection);
     whole->addLayout(left, 3);
-    whole->addWidget(files, 2);
+    auto* const players = look::column(look::kTight);
+    players->addWidget(add(reports.chkAllPlayers));
+    players->addWidget(files, 1);
+    whole->addLayout(players, 2);
     return whole;
 }
 

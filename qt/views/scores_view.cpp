@@ -35,6 +35,8 @@ ScoresView::ScoresView(ScoresScreen& scores, Desk& desk) : Page{scores, desk}
     commands->addStretch();
     commands->addWidget(add(scores.cmdBestFirst));
     commands->addWidget(add(scores.cmdPrint));
+    commands->addWidget(add(scores.cmdPreview));
+    commands->addWidget(add(scores.cmdSavePdf));
     commands->addWidget(add(scores.cmdCopy));
     commands->addWidget(add(scores.cmdExit));
 

@@ -62,7 +62,7 @@ public:
     const Bracket& bracket() const { return m_bracket; }
 
     // BoardPrintouts
-    ui::Drawing drawing() const override;
+    ui::DrawingPrintout printout() const override;
     void enterGameResults() override;
     void showScored(const std::filesystem::path& file) override;
     void printForm() override;
@@ -130,7 +130,6 @@ private:
     void markPicks();
     void unmarkPicks();
     void leaveScoreList() { m_screens.unload(ScreenKind::Scores); }
-    ui::DrawingPrintout printout() const;
 
     const DataFolder& m_folder;
     const ui::Platform& m_platform;

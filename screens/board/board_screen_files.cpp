@@ -10,7 +10,7 @@
 #include "screens/board/board_words.h"
 #include "screens/board/pool_copy.h"
 #include "screens/board/selection_saving.h"
-#include "screens/printing_trouble.h"
+#include "screens/printouts.h"
 #include "screens/saving.h"
 
 #include <utility>
@@ -259,20 +259,20 @@ void BoardScreen::showScored(const std::filesystem::path& file)
     scoreSelections();
 }
 
-ui::Drawing BoardScreen::drawing() const { return drawBoard(picture(), typed(), m_score); }
-
 ui::DrawingPrintout BoardScreen::printout() const
 {
     const std::string printed = documentName();
-    return {printed.empty() ? m_shared.field.title : printed, drawing(), ui::Orientation::Landscape};
+    return {printed.empty() ? m_shared.field.title : printed,
+            {drawBoard(picture(), typed(), m_score)},
+            ui::Orientation::Landscape};
 }
 
 void BoardScreen::printForm()
 {
-    if (m_platform.printer.choosePrinter() && !m_platform.printer.print(printout()))
-        showPrintingTrouble(m_platform.dialogs);
+    if (m_platform.printer.choosePrinter())
+        say(printOut(m_platform, printout()));
 }
 
-void BoardScreen::previewForm() { m_platform.printer.preview(printout()); }
+void BoardScreen::previewForm() { say(showPreview(m_platform, m_folder.folder(), {printout()})); }
 
 } // namespace tallyhoop

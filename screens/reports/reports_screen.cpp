@@ -6,7 +6,8 @@
 #include "base/lines.h"
 #include "files/file_names.h"
 #include "screens/help_topics.h"
-#include "screens/reports/report_delivery.h"
+#include "screens/printer_setup.h"
+#include "screens/printouts.h"
 #include "screens/reports/report_output.h"
 #include "ui/work.h"
 
@@ -38,10 +39,8 @@ void letThePersonChoose(ui::ControlArray<ui::OptionButton, N>& group, const std:
 }
 
 /// @returns "Written to the program's folder: RPTOPT1.TXT, RPTOPT3.TXT."
-std::string whatWasMade(std::span<const std::filesystem::path> files, bool onPaper)
+std::string whatWasWritten(std::span<const std::filesystem::path> files)
 {
-    if (onPaper)
-        return {};
     std::string names;
     for (const std::filesystem::path& file : files)
         names += (names.empty() ? "" : ", ") + shown(file.filename());
@@ -125,12 +124,14 @@ void ReportsScreen::explainControls()
     cmdPrintSelections.explanation = "Makes the ticked reports and brings them to their destination.";
     cmdDefaultPrinter.explanation = "Press to change: the default printer, or one that you choose for each report.";
     cmdPreview.explanation = "Shows the ticked reports as they will be printed.";
-    cmdSavePdf.explanation = "Saves each ticked report as a PDF file.";
+    cmdSavePdf.explanation = "Saves the ticked reports as PDF files: one is named, several go into a folder.";
+    chkAllPlayers.explanation = "Every player's scored bracket, a page each, instead of the one selected below.";
     filList.emptyNote = "No selections saved yet.";
     filList.explanation = "The player whose scored bracket is printed.";
     cmdSelectedPrintouts.explanation = "Prints the chosen sheet and goes back to the board.";
-    cmdPreviewBoard.explanation = "Shows the board as it will be printed.";
-    cmdSaveBoardPdf.explanation = "Saves the board as a PDF file.";
+    cmdPreviewBoard.explanation =
+        "Shows the chosen sheet as it will be printed; the board as it is when none is chosen.";
+    cmdSaveBoardPdf.explanation = "Saves the chosen sheet as a PDF file; the board as it is when none is chosen.";
     cmdCustomReport.explanation = "Puts the results on the board and opens the list of all scores.";
     cmdOpenFolder.explanation = "Shows the folder that the reports are written to.";
     cmdExit.explanation = "Back to the board.";
@@ -176,6 +177,7 @@ void ReportsScreen::createSelectedReports()
     const bool toEverybody = destination == Destination::EmailToEverybody;
     std::vector<std::filesystem::path> made; // only what this run has made may be mailed
     m_refusalTopic.clear();
+    m_printerMissing = false;
     const auto bringOut = [&](const ReportKind& kind, const ReportLines& lines) {
         if (const Result<Done> done = output(kind, lines, destination); !done)
             refuse(kind, {reportFailure(kind, done.failure().message)});
@@ -184,23 +186,36 @@ void ReportsScreen::createSelectedReports()
     };
     if (!forEachTickedReport("PrintSelections_Click ", cmdPrintSelections.caption, bringOut) || made.empty())
         return;
-    say(whatWasMade(made, destination == Destination::Printer));
+    if (destination != Destination::Printer)
+        say(whatWasWritten(made));
     if (destination == Destination::Email || toEverybody)
         mailReports(made, toEverybody);
 }
 
 void ReportsScreen::previewSelectedReports()
 {
-    forEachTickedReport("Preview", cmdPreview.caption, [this](const ReportKind& kind, const ReportLines& lines) {
-        previewReport(m_platform, kind, lines);
-    });
+    say(showPreview(m_platform, m_folder.folder(), tickedPrintouts("Preview", cmdPreview.caption)));
 }
 
 void ReportsScreen::saveSelectedReportsAsPdf()
 {
-    forEachTickedReport("Save as PDF", cmdSavePdf.caption, [this](const ReportKind& kind, const ReportLines& lines) {
-        saveAsPdf(m_platform, m_folder.folder(), kind, lines);
-    });
+    say(saveAsPdf(m_platform, m_folder.folder(), tickedPrintouts("Save as PDF", cmdSavePdf.caption)));
+}
+
+std::vector<ui::Printout> ReportsScreen::tickedPrintouts(const char* titleEnd, const std::string& commandCaption)
+{
+    std::vector<ui::Printout> printouts;
+    bool cancelled = false;
+    const auto collect = [&](const ReportKind& kind, const ReportLines& lines) {
+        if (cancelled)
+            return;
+        if (auto printout = printoutOf(kind, lines, false))
+            printouts.emplace_back(std::move(*printout));
+        else
+            cancelled = true; // the font: each report needs it
+    };
+    forEachTickedReport(titleEnd, commandCaption, collect);
+    return printouts;
 }
 
 ReportsScreen::Destination ReportsScreen::chosenDestination() const
@@ -254,8 +269,28 @@ Result<Done> ReportsScreen::output(const ReportKind& kind, const ReportLines& li
         return written;
     if (destination != Destination::Printer)
         return m_folder.write(kind.file, bytes);
-    printReport(m_platform, !m_useDefaultPrinter, kind, lines);
+    print(kind, lines);
     return Done{};
+}
+
+void ReportsScreen::print(const ReportKind& kind, const ReportLines& lines)
+{
+    if (m_printerMissing)
+        return;
+    const auto printout = printoutOf(kind, lines, !m_useDefaultPrinter);
+    if (!printout)
+        return;
+    m_printerMissing = m_useDefaultPrinter && !m_platform.printer.isThere();
+    say(printOut(m_platform, *printout));
+}
+
+std::optional<ui::TextPrintout> ReportsScreen::printoutOf(const ReportKind& kind, const ReportLines& lines,
+                                                          bool showDialog)
+{
+    const auto setup = setUpPrinter(m_platform, showDialog, orientationOf(kind.orientation));
+    if (!setup)
+        return std::nullopt;
+    return textPrintout(kind.name, lines, *setup, m_platform.printer);
 }
 
 /// Sends one message with all files. They stay where they are, and what was written for the message comes back with the

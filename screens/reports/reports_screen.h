@@ -7,6 +7,7 @@
 #include "reports/report_table.h"
 #include "screens/board_printouts.h"
 #include "screens/hand_overs.h"
+#include "screens/reports/bracket_sheets.h"
 #include "screens/reports/report_maker.h"
 #include "screens/screens.h"
 #include "ui/platform.h"
@@ -14,6 +15,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -48,7 +50,8 @@ public:
 
     ui::Label fraPrinterOnly{this, "fraPrinterOnly", "Printer Only Options"};
     ui::ControlArray<ui::OptionButton, 2> optSelected{this, "optSelected"};
-    ui::ListBox filList{this, "filList"}; ///< every player's file
+    ui::ListBox filList{this, "filList"};                             ///< every player's file
+    ui::CheckBox chkAllPlayers{this, "chkAllPlayers", "All players"}; ///< instead of the one selected in filList
     ui::Command cmdSelectedPrintouts{this, "cmdSelectedPrintouts", "Create Selected Printout",
                                      [this] { createSelectedPrintout(); }};
     ui::Command cmdPreviewBoard{this, "cmdPreviewBoard", "Preview Board", [this] { previewBoard(); }};
@@ -80,6 +83,13 @@ private:
     /// Shows why there is no report and, where it says so, unticks the report's box.
     void refuse(const ReportKind& kind, const NoReport& reason);
     Result<Done> output(const ReportKind& kind, const ReportLines& lines, Destination destination);
+    void print(const ReportKind& kind, const ReportLines& lines);
+
+    /// @returns nothing when the person cancelled a dialog
+    std::optional<ui::TextPrintout> printoutOf(const ReportKind& kind, const ReportLines& lines, bool showDialog);
+
+    /// @returns the ticked reports that could be made; empty after the reason was shown
+    std::vector<ui::Printout> tickedPrintouts(const char* titleEnd, const std::string& commandCaption);
     void mailReports(std::span<const std::filesystem::path> files, bool toEverybody);
     Result<ui::HandedOver> handOver(std::span<const std::filesystem::path> files);
     void offerMessageFile(const ui::HandedOver& sent);
@@ -88,9 +98,16 @@ private:
     void createSelectedPrintout();
     void printResultsSheet();
     void printScoredSelection();
+    void printAllPlayers();
     void previewBoard();
     void saveBoardAsPdf();
-    ui::DrawingPrintout boardPrintout() const;
+
+    /// @returns whether a sheet can be made of what is chosen; the message why not was shown
+    bool sheetIsPossible();
+
+    /// @returns what is chosen, or the board as it is when nothing is; nothing after a message was shown
+    std::optional<ui::Printout> chosenSheet();
+    std::optional<ui::DrawingPrintout> scoredSheets();
     void gotoCustomReporting();
     void openFolder();
     void exitReports();
@@ -102,9 +119,11 @@ private:
     MailDraft& m_draft;
     BoardPrintouts& m_board;
     ReportMaker m_maker;
+    BracketSheets m_sheets{m_folder, m_platform, m_field};
 
     std::vector<FolderFile> m_files; ///< the rows of filList
     bool m_useDefaultPrinter = true; ///< false = the person chooses a printer for each report
+    bool m_printerMissing = false;   ///< no printer was found in this run; said once
     std::string m_refusalTopic;      ///< help topic of the last refusal; empty = none of its own
 };
 

@@ -1,7 +1,9 @@
 // screens/reports/reports_screen_printouts.cpp - printouts of the board, and the ways out of the screen.
 #include "files/file_names.h"
-#include "screens/reports/report_delivery.h"
+#include "screens/printouts.h"
 #include "screens/reports/reports_screen.h"
+
+#include <utility>
 
 namespace tallyhoop {
 
@@ -23,18 +25,28 @@ ui::Message refusal(const char* text) { return {kTitle, text, ui::Buttons::Ok, u
 
 void ReportsScreen::createSelectedPrintout()
 {
-    const bool wantsSelection = optSelected[0].selected;
-    const bool wantsResults = optSelected[1].selected;
-    if (!wantsSelection && !wantsResults)
+    if (!optSelected[0].selected && !optSelected[1].selected)
         m_platform.dialogs.show(refusal(kNoOption));
-    else if (!m_folder.exists(file_name::kResults))
-        m_platform.dialogs.show(refusal(kNoResults));
-    else if (wantsResults)
+    else if (!sheetIsPossible())
+        return;
+    else if (optSelected[1].selected)
         printResultsSheet();
-    else if (!filList.selected)
-        m_platform.dialogs.show(refusal(kNoFile));
+    else if (chkAllPlayers.ticked)
+        printAllPlayers();
     else
         printScoredSelection();
+}
+
+bool ReportsScreen::sheetIsPossible()
+{
+    const bool wantsResults = optSelected[1].selected;
+    if (!m_folder.exists(file_name::kResults))
+        m_platform.dialogs.show(refusal(kNoResults));
+    else if (!wantsResults && (chkAllPlayers.ticked ? filList.rows.empty() : !filList.selected))
+        m_platform.dialogs.show(refusal(kNoFile));
+    else
+        return true;
+    return false;
 }
 
 void ReportsScreen::printResultsSheet()
@@ -57,13 +69,41 @@ void ReportsScreen::printScoredSelection()
     m_board.printForm();
 }
 
-void ReportsScreen::previewBoard() { m_platform.printer.preview(boardPrintout()); }
-
-void ReportsScreen::saveBoardAsPdf() { saveAsPdf(m_platform, m_folder.folder(), boardPrintout()); }
-
-ui::DrawingPrintout ReportsScreen::boardPrintout() const
+void ReportsScreen::printAllPlayers()
 {
-    return {"Tallyhoop", m_board.drawing(), ui::Orientation::Landscape};
+    const auto sheets = scoredSheets();
+    if (sheets && m_platform.printer.choosePrinter())
+        say(printOut(m_platform, *sheets));
+}
+
+void ReportsScreen::previewBoard()
+{
+    if (auto sheet = chosenSheet())
+        say(showPreview(m_platform, m_folder.folder(), {std::move(*sheet)}));
+}
+
+void ReportsScreen::saveBoardAsPdf()
+{
+    if (auto sheet = chosenSheet())
+        say(saveAsPdf(m_platform, m_folder.folder(), {std::move(*sheet)}));
+}
+
+std::optional<ui::Printout> ReportsScreen::chosenSheet()
+{
+    if (!optSelected[0].selected && !optSelected[1].selected)
+        return m_board.printout();
+    if (!sheetIsPossible())
+        return std::nullopt;
+    if (optSelected[1].selected)
+        return m_sheets.results();
+    return scoredSheets();
+}
+
+std::optional<ui::DrawingPrintout> ReportsScreen::scoredSheets()
+{
+    if (chkAllPlayers.ticked)
+        return m_sheets.scored(m_files);
+    return m_sheets.scored(std::span{&m_files.at(static_cast<std::size_t>(*filList.selected)), 1});
 }
 
 void ReportsScreen::gotoCustomReporting()

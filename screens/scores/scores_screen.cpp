@@ -7,7 +7,7 @@
 #include "screens/hand_overs.h"
 #include "screens/help_topics.h"
 #include "screens/printer_setup.h"
-#include "screens/printing_trouble.h"
+#include "screens/printouts.h"
 #include "screens/saving.h"
 #include "screens/scores/score_printout.h"
 #include "ui/work.h"
@@ -47,6 +47,8 @@ ScoresScreen::ScoresScreen(const DataFolder& folder, const ui::Platform& platfor
     cmdOk.explanation = "Scores every selection in the program's folder against the results on the board.";
     cmdBestFirst.explanation = "Moves Score to the front and sorts by it, the highest first.";
     cmdPrint.explanation = "Prints the list in its present order.";
+    cmdPreview.explanation = "Shows the list as it will be printed.";
+    cmdSavePdf.explanation = "Saves the list as a PDF file.";
     cmdCopy.explanation = "Puts the list on the clipboard, ready for a spreadsheet.";
     cmdExit.explanation = "Back to the board.";
     msgScoreDisplay.cellPressed = [this](std::size_t row, std::size_t column) { cellClicked(row, column); };
@@ -184,18 +186,35 @@ void ScoresScreen::bestFirst()
     m_table.bestFirst();
 }
 
-void ScoresScreen::print()
+std::optional<ui::TextPrintout> ScoresScreen::printout() const
 {
     const std::optional<PrinterSetup> setup = setUpPrinter(m_platform, false, ui::Orientation::Portrait);
     if (!setup)
-        return;
+        return std::nullopt;
     ui::TextPrintout printout;
     printout.title = "Tallyhoop Point Summary";
     printout.lines = scorePrintout(msgScoreDisplay, m_platform.clock.today());
     printout.font = setup->font;
     printout.orientation = setup->orientation;
-    if (!m_platform.printer.print(printout))
-        showPrintingTrouble(m_platform.dialogs);
+    return printout;
+}
+
+void ScoresScreen::print()
+{
+    if (const auto pages = printout())
+        say(printOut(m_platform, *pages));
+}
+
+void ScoresScreen::preview()
+{
+    if (auto pages = printout())
+        say(showPreview(m_platform, m_folder.folder(), {std::move(*pages)}));
+}
+
+void ScoresScreen::savePdf()
+{
+    if (auto pages = printout())
+        say(saveAsPdf(m_platform, m_folder.folder(), {std::move(*pages)}));
 }
 
 void ScoresScreen::copy()

@@ -34,6 +34,8 @@ public:
     ui::Command cmdOk{this, "cmdOk", "&Calculate Totals Based on Results Displayed", [this] { calculate(); }};
     ui::Command cmdBestFirst{this, "cmdBestFirst", "&Best First", [this] { bestFirst(); }};
     ui::Command cmdPrint{this, "cmdPrint", "&Print", [this] { print(); }};
+    ui::Command cmdPreview{this, "cmdPreview", "Pre&view", [this] { preview(); }};
+    ui::Command cmdSavePdf{this, "cmdSavePdf", "Save as P&DF", [this] { savePdf(); }};
     ui::Command cmdCopy{this, "cmdCopy", "C&opy", [this] { copy(); }};
     ui::Command cmdExit{this, "cmdExit", "E&xit", [this] { exit(); }};
     ui::Label lblInformation{this, "lblInformation",
@@ -45,6 +47,11 @@ private:
     void calculate();
     void bestFirst();
     void print();
+    void preview();
+    void savePdf();
+
+    /// @returns nothing when the person cancelled the font dialog
+    std::optional<ui::TextPrintout> printout() const;
     void copy();
     void exit();
 

@@ -91,6 +91,13 @@ public:
         return next(m_files, "save dialog", choice.caption);
     }
 
+    std::optional<std::filesystem::path> chooseFolder(const std::string& caption,
+                                                      const std::filesystem::path& folder) override
+    {
+        fileChoices.push_back({caption, {}, {}, folder, {}});
+        return next(m_files, "folder dialog", caption);
+    }
+
     void about(const std::filesystem::path& folder) override
     {
         ++aboutShown;

@@ -17,6 +17,7 @@ public:
     std::optional<ui::PrinterFont> chosenFont;
     std::map<ui::Orientation, int> pageWidths{{ui::Orientation::Portrait, 11840}, {ui::Orientation::Landscape, 15440}};
     std::optional<Failure> trouble; ///< every printout fails with it
+    bool there = true;
     std::function<void()> whilePrinting;
 
     int printerDialogs = 0;
@@ -25,6 +26,8 @@ public:
     std::vector<ui::DrawingPrintout> drawings;
     std::vector<ui::TextPrintout> previewedTexts;
     std::vector<ui::DrawingPrintout> previewedDrawings;
+    int previews = 0;
+    std::function<void(const ui::Preview&)> whilePreviewed; ///< what the person does there
     std::vector<std::filesystem::path> pdfs;
 
     std::vector<std::string> fontNames() override { return fonts; }
@@ -39,32 +42,37 @@ public:
         return chosenFont;
     }
     int pageWidthTwips(ui::Orientation orientation) override { return pageWidths.at(orientation); }
-    Result<Done> print(const ui::TextPrintout& printout) override
+    bool isThere() override { return there; }
+    Result<Done> print(const ui::Printout& printout) override
     {
-        texts.push_back(printout);
+        note(printout, texts, drawings);
         return outcome();
     }
-    Result<Done> print(const ui::DrawingPrintout& printout) override
+    Result<Done> savePdf(const ui::Printout& printout, const std::filesystem::path& file) override
     {
-        drawings.push_back(printout);
-        return outcome();
-    }
-    Result<Done> savePdf(const ui::TextPrintout& printout, const std::filesystem::path& file) override
-    {
-        texts.push_back(printout);
+        note(printout, texts, drawings);
         pdfs.push_back(file);
         return outcome();
     }
-    Result<Done> savePdf(const ui::DrawingPrintout& printout, const std::filesystem::path& file) override
+    void preview(const ui::Preview& preview) override
     {
-        drawings.push_back(printout);
-        pdfs.push_back(file);
-        return outcome();
+        ++previews;
+        for (const ui::Printout& printout : preview.printouts)
+            note(printout, previewedTexts, previewedDrawings);
+        if (whilePreviewed)
+            whilePreviewed(preview);
     }
-    void preview(const ui::TextPrintout& printout) override { previewedTexts.push_back(printout); }
-    void preview(const ui::DrawingPrintout& printout) override { previewedDrawings.push_back(printout); }
 
 private:
+    static void note(const ui::Printout& printout, std::vector<ui::TextPrintout>& asText,
+                     std::vector<ui::DrawingPrintout>& asDrawing)
+    {
+        if (const auto* text = std::get_if<ui::TextPrintout>(&printout))
+            asText.push_back(*text);
+        else
+            asDrawing.push_back(std::get<ui::DrawingPrintout>(printout));
+    }
+
     Result<Done> outcome() const
     {
         if (whilePrinting)

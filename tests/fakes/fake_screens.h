@@ -45,9 +45,9 @@ class FakeBoard : public BoardPrintouts
 public:
     std::vector<std::string> calls; ///< names of the operations, in order
     std::vector<std::filesystem::path> filesShown;
-    ui::Drawing picture;
+    ui::DrawingPrintout picture{"Smith_JS.THC", {ui::Drawing{}}, ui::Orientation::Landscape};
 
-    ui::Drawing drawing() const override { return picture; }
+    ui::DrawingPrintout printout() const override { return picture; }
     void enterGameResults() override { calls.emplace_back("enterGameResults"); }
     void showScored(const std::filesystem::path& file) override
     {

@@ -97,7 +97,10 @@ TEST_P(AccessibilityOfWindows, TheAboutBox)
 TEST_P(AccessibilityOfWindows, ThePreview)
 {
     examineNext();
-    printer.preview(ui::TextPrintout{"Report", {"one", "\f", "two"}, {"Courier New", 10}});
+    const ui::TextPrintout report{"Report", {"one", "\f", "two"}, {"Courier New", 10}};
+    printer.preview({{report}, {}, {}});
+    examineNext();
+    printer.preview({{report, report}, {}, {}}); // with a list
 }
 
 INSTANTIATE_TEST_SUITE_P(LightAndDark, AccessibilityOfWindows, testing::Values(ColourScheme::Light, ColourScheme::Dark),

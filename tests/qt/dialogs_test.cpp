@@ -1,15 +1,22 @@
 // tests/qt/dialogs_test.cpp - message boxes, input boxes and the printer's dialogs.
+#include "fakes/scratch_folder.h"
 #include "qt/asking.h"
 #include "qt/services/qt_printer.h"
 
 #include <QAbstractButton>
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QFileDialog>
 #include <QFontDialog>
 #include <QInputDialog>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QPushButton>
+#include <QToolBar>
 #include <gtest/gtest.h>
 
 using namespace tallyhoop;
@@ -270,6 +277,100 @@ TEST(QtPrinterDialogs, ThePreviewShowsThePages)
         pages = dialog.findChild<QPrintPreviewWidget*>()->pageCount();
         dialog.reject();
     });
-    printer.preview(ui::TextPrintout{"Report", {"one", "\f", "two"}, {"Courier New", 10}});
+    printer.preview({{ui::TextPrintout{"Report", {"one", "\f", "two"}, {"Courier New", 10}}}, {}, {}});
     EXPECT_EQ(pages, 2);
+}
+
+namespace {
+
+QAction* actionOf(const QPrintPreviewDialog& dialog, const char* text)
+{
+    for (QAction* const action : dialog.findChild<QToolBar*>()->actions())
+        if (action->text().remove(QLatin1Char{'&'}) == QLatin1String{text})
+            return action;
+    return nullptr;
+}
+
+} // namespace
+
+TEST(QtPrinterDialogs, ThePreviewOffersNothingThatDoesNothing)
+{
+    Shown shown;
+    QtPrinter printer{shown.desk};
+    withNext<QPrintPreviewDialog>([](QPrintPreviewDialog& dialog) {
+        for (const char* const useless : {"Portrait", "Landscape", "Page setup"})
+            EXPECT_EQ(actionOf(dialog, useless), nullptr) << useless;
+        EXPECT_NE(actionOf(dialog, "Fit page"), nullptr) << "the others are still there";
+        EXPECT_EQ(dialog.findChild<QListWidget*>(), nullptr) << "one printout needs no list";
+        dialog.reject();
+    });
+    printer.preview({{ui::TextPrintout{"Report", {"one", "\f", "two"}, {"Courier New", 10}}}, {}, {}});
+}
+
+TEST(QtPrinterDialogs, ThePreviewPrintsAndSavesTheReportThatIsShown)
+{
+    Shown shown;
+    QtPrinter printer{shown.desk};
+    std::vector<std::string> done;
+    int pages = 0;
+    bool across = false;
+    withNext<QPrintPreviewDialog>([&](QPrintPreviewDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Preview - First"));
+        actionOf(dialog, "Print")->trigger();
+        auto* const list = dialog.findChild<QListWidget*>();
+        ASSERT_NE(list, nullptr);
+        list->setCurrentRow(1);
+        QApplication::processEvents();
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Preview - Second"));
+        pages = dialog.findChild<QPrintPreviewWidget*>()->pageCount();
+        across = dialog.printer()->pageLayout().orientation() == QPageLayout::Landscape;
+        actionOf(dialog, "Save as PDF")->trigger();
+        dialog.reject();
+    });
+    printer.preview(
+        {{ui::TextPrintout{"First", {"one"}, {"Courier New", 10}},
+          ui::TextPrintout{"Second", {"two", "\f", "pages"}, {"Courier New", 10}, ui::Orientation::Landscape}},
+         [&](const ui::Printout& printout) { done.push_back("print " + ui::titleOf(printout)); },
+         [&](const ui::Printout& printout) { done.push_back("save " + ui::titleOf(printout)); }});
+    EXPECT_EQ(done, (std::vector<std::string>{"print First", "save Second"}));
+    EXPECT_EQ(pages, 2);
+    EXPECT_TRUE(across);
+}
+
+TEST(QtPrinterDialogs, AQuestionOfThePreviewIsInFrontOfIt)
+{
+    Asking asking;
+    QtPrinter printer{asking.desk};
+    const QWidget* owner = nullptr;
+    const QWidget* preview = nullptr;
+    withNext<QPrintPreviewDialog>([&](QPrintPreviewDialog& dialog) {
+        preview = &dialog;
+        withNext<QMessageBox>([&](QMessageBox& box) {
+            owner = box.parentWidget();
+            box.accept();
+        });
+        actionOf(dialog, "Print")->trigger();
+        dialog.reject();
+    });
+    printer.preview({{ui::TextPrintout{"Report", {"one", "\f", "two"}, {"Courier New", 10}}},
+                     [&](const ui::Printout&) {
+                         asking.dialogs.show({"", "No paper"});
+                     },
+                     {}});
+    ASSERT_NE(preview, nullptr);
+    EXPECT_EQ(owner, preview);
+}
+
+TEST(QtDialogs, AFolderIsChosen)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    Asking asking;
+    withNext<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Where to"));
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::Directory);
+        dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open)->click();
+    });
+    EXPECT_EQ(asking.dialogs.chooseFolder("Where to", scratch.path()), scratch.path());
+    withNext<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(asking.dialogs.chooseFolder("Where to", scratch.path()), std::nullopt);
 }

@@ -167,7 +167,8 @@ TEST_P(HostileNamesInDialogs, AreTextInThePreviewAndItsBoxes)
         EXPECT_EQ(dialog.findChild<QPrintPreviewWidget*>()->pageCount(), 1);
         dialog.reject();
     });
-    printer.preview(ui::TextPrintout{hostileName(), {hostileName(), "the next line"}, {"Courier New", 10}});
+    const ui::TextPrintout page{hostileName(), {hostileName(), "the next line"}, {"Courier New", 10}};
+    printer.preview({{page}, {}, {}});
 }
 
 TEST_P(HostileNamesInDialogs, AreSearchedForInTheHelpAsTheyAre)

@@ -95,7 +95,7 @@ TEST_F(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
     BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedPlayer}};
     board.load();
 
-    const QStringList pages = pagesOf(ui::DrawingPrintout{"<b>&%1", board.drawing(), ui::Orientation::Landscape});
+    const QStringList pages = pagesOf(board.printout());
 
     ASSERT_EQ(pages.size(), 1);
     EXPECT_TRUE(pages[0].contains(QStringLiteral("TEAM64"))) << "the last team";

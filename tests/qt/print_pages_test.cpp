@@ -223,13 +223,33 @@ TEST(PrintPdf, ADrawingIsPrintedAsTextAndVectors)
 {
     const tallyhoop::test::ScratchFolder scratch;
     ui::DrawingPrintout printout;
-    printout.drawing.width = 1000;
-    printout.drawing.height = 640;
-    printout.drawing.captions.push_back({{100, 100, 200, 20}, "MICHIGAN ST", 12});
-    printout.drawing.strokes.push_back({0, 0, 1000, 640});
+    ui::Drawing drawing;
+    drawing.width = 1000;
+    drawing.height = 640;
+    drawing.captions.push_back({{100, 100, 200, 20}, "MICHIGAN ST", 12});
+    drawing.strokes.push_back({0, 0, 1000, 640});
+    printout.drawings = {drawing};
     const QByteArray pdf = toPdf(printout, letter());
     EXPECT_LT(pdf.size(), 100'000); // a page of pixels would be megabytes
     EXPECT_TRUE(textOf(scratch.put("board.pdf", pdf.toStdString())).contains(QStringLiteral("MICHIGAN ST")));
+}
+
+TEST(PrintPdf, EachDrawingIsOnAPageOfItsOwn)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    ui::DrawingPrintout printout;
+    for (const char* const player : {"Adams", "Baker"}) {
+        ui::Drawing drawing;
+        drawing.width = 1000;
+        drawing.height = 640;
+        drawing.captions.push_back({{0, 0, 200, 20}, player, 12});
+        printout.drawings.push_back(drawing);
+    }
+
+    const auto file = scratch.put("all.pdf", toPdf(printout, letter()).toStdString());
+
+    EXPECT_EQ(textOf(file).simplified(), QStringLiteral("Adams Baker"));
+    EXPECT_EQ(textOf(file).count(QLatin1Char{'\f'}), 2);
 }
 
 TEST(PrintFonts, OffersTheReportFontWhenItResolvesToOneOfItsWidths)

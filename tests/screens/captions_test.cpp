@@ -112,7 +112,8 @@ TEST_F(Captions, OfTheListOfScores)
     EXPECT_THAT(captionsOf(scores),
                 ElementsAre("frmPoolMisc: Display Scores (Total, Possible)",
                             "cmdOk: Calculate Totals Based on Results Displayed", "cmdBestFirst: Best First",
-                            "cmdPrint: Print", "cmdCopy: Copy", "cmdExit: Exit",
+                            "cmdPrint: Print", "cmdPreview: Preview", "cmdSavePdf: Save as PDF", "cmdCopy: Copy",
+                            "cmdExit: Exit",
                             "lblInformation: Select a Heading Column and drag to another position to change sequence"));
 }
 
@@ -168,10 +169,10 @@ TEST_F(Captions, OfTheReports)
                     "cmdPrintSelections: Create Selected Reports", "cmdDefaultPrinter: Use default printer",
                     "cmdPreview: Preview", "cmdSavePdf: Save as PDF", "fraPrinterOnly: Printer Only Options",
                     "optSelected_0: Scored Player Selections (Select File at right --->)",
-                    "optSelected_1: Tournament Results Sheet", "cmdSelectedPrintouts: Create Selected Printout",
-                    "cmdPreviewBoard: Preview Board", "cmdSaveBoardPdf: Save Board as PDF",
-                    "fraCustomReports: Custom Reports Option", "cmdCustomReport: Goto Custom Reporting",
-                    "cmdOpenFolder: Open Folder", "cmdExit: Exit Reports"));
+                    "optSelected_1: Tournament Results Sheet", "chkAllPlayers: All players",
+                    "cmdSelectedPrintouts: Create Selected Printout", "cmdPreviewBoard: Preview Board",
+                    "cmdSaveBoardPdf: Save Board as PDF", "fraCustomReports: Custom Reports Option",
+                    "cmdCustomReport: Goto Custom Reporting", "cmdOpenFolder: Open Folder", "cmdExit: Exit Reports"));
 }
 
 TEST_F(Captions, OfThePlayers)

@@ -188,7 +188,7 @@ TEST_F(BoardScreenState, AScribbleOnALabelIsNeitherSavedNorScoredNorDrawn)
     EXPECT_EQ(board->lblResult[0].text, "=");
 
     scribbleOnLabels();
-    for (const ui::Caption& caption : board->drawing().captions)
+    for (const ui::Caption& caption : board->printout().drawings.at(0).captions)
         EXPECT_NE(caption.text, "scribble");
 
     board->cmdDefaultColors.click();

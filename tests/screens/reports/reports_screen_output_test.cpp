@@ -155,6 +155,7 @@ TEST_F(ReportsOutput, ShowsTickedReportsInAPreviewWithoutWritingOrPrintingAnythi
 
     screen.cmdPreview.click();
 
+    EXPECT_EQ(platform.printer.previews, 1) << "several reports are in one window";
     ASSERT_EQ(platform.printer.previewedTexts.size(), 2u);
     EXPECT_EQ(platform.printer.previewedTexts[0].lines.size(), 11u);
     EXPECT_EQ(platform.printer.previewedTexts[0].orientation, ui::Orientation::Landscape);
@@ -217,20 +218,102 @@ TEST_F(ReportsOutput, ShowsTheReasonWhenAPreviewedReportCannotBeMade)
     EXPECT_TRUE(platform.printer.previewedTexts.empty());
 }
 
-TEST_F(ReportsOutput, SavesEachTickedReportAsThePdfThatThePersonNames)
+TEST_F(ReportsOutput, SavesTheTickedReportAsThePdfThatThePersonNames)
 {
-    tick({kStandings, kTeamDetail});
-    platform.dialogs.pick(folder.path() / "standings.pdf").pick(folder.path() / "teams");
+    tick({kStandings});
+    platform.dialogs.pick(folder.path() / "mine");
 
     screen.cmdSavePdf.click();
 
-    EXPECT_EQ(platform.printer.pdfs, (std::vector{folder.path() / "standings.pdf", folder.path() / "teams.PDF"}));
-    ASSERT_EQ(platform.dialogs.fileChoices.size(), 2u);
-    EXPECT_EQ(platform.dialogs.fileChoices[0].proposedName, "RPTOPT1.PDF");
+    EXPECT_EQ(platform.printer.pdfs, std::vector{folder.path() / "mine.PDF"});
+    ASSERT_EQ(platform.dialogs.fileChoices.size(), 1u);
+    EXPECT_EQ(platform.dialogs.fileChoices[0].caption, "Save as PDF: Tournament Standings");
+    EXPECT_EQ(platform.dialogs.fileChoices[0].proposedName, "Tournament Standings.PDF");
     EXPECT_EQ(platform.dialogs.fileChoices[0].folder, folder.path());
-    EXPECT_EQ(platform.dialogs.fileChoices[1].proposedName, "RPTOPT4.PDF");
+    EXPECT_EQ(platform.printer.texts[0].title, "Tournament Standings");
+    EXPECT_EQ(screen.news().text, "Saved mine.PDF.");
+}
+
+TEST_F(ReportsOutput, AsksForOneFolderForSeveralReportsAndNamesThemItself)
+{
+    tick({kStandings, kTeamDetail});
+    const std::filesystem::path chosen = folder.path() / "paper";
+    std::filesystem::create_directory(chosen);
+    platform.dialogs.pick(chosen);
+
+    screen.cmdSavePdf.click();
+
+    EXPECT_EQ(platform.printer.pdfs,
+              (std::vector{chosen / "Tournament Standings.PDF", chosen / "Team Selection Detail.PDF"}));
+    ASSERT_EQ(platform.dialogs.fileChoices.size(), 1u);
     EXPECT_EQ(platform.printer.texts[0].orientation, ui::Orientation::Landscape);
     EXPECT_EQ(platform.printer.texts[1].orientation, ui::Orientation::Portrait);
+    EXPECT_EQ(screen.news().text, "Saved 2 PDF files in " + shown(chosen) + ".");
+}
+
+TEST_F(ReportsOutput, AsksOnceBeforeItReplacesSeveralPdfs)
+{
+    const std::filesystem::path first = folder.put("Tournament Standings.PDF", "old");
+    const std::filesystem::path second = folder.put("Team Selection Detail.PDF", "old");
+    tick({kStandings, kTeamSummary, kTeamDetail});
+
+    platform.dialogs.pick(folder.path()).answer(ui::Answer::No);
+    screen.cmdSavePdf.click();
+    EXPECT_TRUE(platform.printer.pdfs.empty());
+    EXPECT_EQ(platform.dialogs.shown,
+              (std::vector{ui::Message{
+                  "", "Do you want to replace the existing files ?\r\n" + shown(first) + "\r\n" + shown(second),
+                  ui::Buttons::YesNo, ui::Icon::Question}}));
+
+    platform.dialogs.pick(folder.path()).answer(ui::Answer::Yes);
+    screen.cmdSavePdf.click();
+    EXPECT_EQ(platform.printer.pdfs.size(), 3u);
+}
+
+TEST_F(ReportsOutput, SaysOnceThatThereIsNoPrinterAndNamesTheWayOut)
+{
+    platform.printer.there = false;
+    tick({kStandings, kListing, kTeamSummary});
+
+    create(kPrinter);
+
+    EXPECT_EQ(platform.dialogs.shown, std::vector{kPrintingFailed});
+    EXPECT_EQ(screen.news().text, "No printer is installed: Preview and Save as PDF work without one.");
+    EXPECT_TRUE(platform.printer.texts.empty());
+
+    create(kPrinter); // and again in the next run
+    EXPECT_EQ(platform.dialogs.shown.size(), 2u);
+}
+
+TEST_F(ReportsOutput, PrintsAndSavesFromThePreview)
+{
+    tick({kStandings, kListing});
+    platform.dialogs.pick(folder.path() / "listing");
+    platform.printer.whilePreviewed = [](const ui::Preview& preview) {
+        preview.print(preview.printouts.at(0));
+        preview.savePdf(preview.printouts.at(1));
+    };
+
+    screen.cmdPreview.click();
+
+    EXPECT_EQ(platform.printer.printerDialogs, 1) << "the person sees which printer it is";
+    ASSERT_EQ(platform.printer.texts.size(), 2u);
+    EXPECT_EQ(platform.printer.texts[0].title, "Tournament Standings");
+    EXPECT_EQ(platform.printer.texts[1].title, "Player Listing");
+    EXPECT_EQ(platform.printer.pdfs, std::vector{folder.path() / "listing.PDF"});
+    EXPECT_EQ(screen.news().text, "Saved listing.PDF.");
+}
+
+TEST_F(ReportsOutput, PrintsNothingFromThePreviewWhenThePrinterDialogIsCancelled)
+{
+    tick({kStandings});
+    platform.printer.dialogAccepted = false;
+    platform.printer.whilePreviewed = [](const ui::Preview& preview) { preview.print(preview.printouts.at(0)); };
+
+    screen.cmdPreview.click();
+
+    EXPECT_TRUE(platform.printer.texts.empty());
+    EXPECT_EQ(screen.news().text, "");
 }
 
 TEST_F(ReportsOutput, SavesNoPdfWhenThePersonCancels)
@@ -270,19 +353,6 @@ TEST_F(ReportsOutput, ReportsAPdfThatCouldNotBeWritten)
     screen.cmdSavePdf.click();
 
     EXPECT_EQ(platform.dialogs.shown, std::vector{kPrintingFailed});
-}
-
-TEST_F(ReportsOutput, PreviewsAndSavesTheBoard)
-{
-    platform.dialogs.pick(folder.path() / "board.pdf");
-
-    screen.cmdPreviewBoard.click();
-    screen.cmdSaveBoardPdf.click();
-
-    ASSERT_EQ(platform.printer.previewedDrawings.size(), 1u);
-    EXPECT_EQ(platform.printer.previewedDrawings[0].orientation, ui::Orientation::Landscape);
-    EXPECT_EQ(platform.printer.pdfs, std::vector{folder.path() / "board.pdf"});
-    EXPECT_EQ(platform.printer.drawings.size(), 1u);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "screens/reports/reports_screen_fixture.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace tallyhoop::test {
 namespace {
@@ -150,6 +151,121 @@ TEST_F(ReportsPrintouts, StartWithNeitherOptionWhenTheScreenOpensAgain)
 
     EXPECT_FALSE(again.optSelected[0].selected);
     EXPECT_FALSE(again.optSelected[1].selected);
+}
+
+/// @returns the texts of a page that are wanted, in the order in which they are painted
+std::vector<std::string> textsOf(const ui::Drawing& page, const std::function<bool(const ui::Caption&)>& wanted)
+{
+    std::vector<std::string> texts;
+    for (const ui::Caption& caption : page.captions)
+        if (wanted(caption))
+            texts.push_back(caption.text);
+    return texts;
+}
+
+bool has(const ui::Drawing& page, const std::string& text)
+{
+    return !textsOf(page, [&text](const ui::Caption& caption) { return caption.text == text; }).empty();
+}
+
+TEST_F(ReportsPrintouts, ShowAndSaveTheBoardAsItIsWhenNothingIsChosen)
+{
+    platform.dialogs.pick(folder.path() / "board");
+
+    screen.cmdPreviewBoard.click();
+    screen.cmdSaveBoardPdf.click();
+
+    ASSERT_EQ(platform.printer.previewedDrawings.size(), 1u);
+    EXPECT_EQ(platform.printer.previewedDrawings[0].title, "Smith_JS.THC");
+    EXPECT_EQ(platform.printer.previewedDrawings[0].orientation, ui::Orientation::Landscape);
+    EXPECT_EQ(platform.dialogs.fileChoices.at(0).proposedName, "Smith_JS.PDF");
+    EXPECT_EQ(platform.printer.pdfs, std::vector{folder.path() / "board.PDF"});
+}
+
+TEST_F(ReportsPrintouts, ShowTheChosenPlayersBracketScored)
+{
+    ui::selectOption(screen.optSelected, 0);
+    screen.filList.selected = 1;
+    platform.dialogs.pick(std::nullopt);
+
+    screen.cmdPreviewBoard.click();
+    screen.cmdSaveBoardPdf.click();
+
+    ASSERT_EQ(platform.printer.previewedDrawings.size(), 1u);
+    const ui::DrawingPrintout& sheet = platform.printer.previewedDrawings[0];
+    EXPECT_EQ(sheet.title, "Baker_C.THC");
+    ASSERT_EQ(sheet.drawings.size(), 1u);
+    EXPECT_TRUE(has(sheet.drawings[0], "="));
+    EXPECT_FALSE(textsOf(sheet.drawings[0], [](const ui::Caption& caption) {
+                     return caption.text.starts_with("Points: ");
+                 }).empty());
+    EXPECT_EQ(platform.dialogs.fileChoices.at(0).proposedName, "Baker_C.PDF");
+    EXPECT_TRUE(board.calls.empty()) << "the board stays as it is";
+    EXPECT_TRUE(screens.unloads.empty());
+}
+
+TEST_F(ReportsPrintouts, ShowTheResultsUnmarked)
+{
+    ui::selectOption(screen.optSelected, 1);
+
+    screen.cmdPreviewBoard.click();
+
+    ASSERT_EQ(platform.printer.previewedDrawings.size(), 1u);
+    EXPECT_EQ(platform.printer.previewedDrawings[0].title, "Tournament Results");
+    EXPECT_FALSE(has(platform.printer.previewedDrawings[0].drawings.at(0), "="));
+}
+
+TEST_F(ReportsPrintouts, SayWhatIsMissingForTheSheetThatIsChosen)
+{
+    ui::selectOption(screen.optSelected, 0);
+    screen.cmdPreviewBoard.click();
+    EXPECT_EQ(platform.dialogs.shown, std::vector{kNoFile});
+    removeResults();
+    screen.cmdSaveBoardPdf.click();
+    EXPECT_EQ(platform.dialogs.shown.back(), kNoResults);
+    EXPECT_TRUE(platform.printer.previewedDrawings.empty());
+}
+
+TEST_F(ReportsPrintouts, PrintEveryPlayerInOneJob)
+{
+    ui::selectOption(screen.optSelected, 0);
+    screen.chkAllPlayers.ticked = true;
+
+    screen.cmdSelectedPrintouts.click();
+
+    EXPECT_EQ(platform.printer.printerDialogs, 1);
+    ASSERT_EQ(platform.printer.drawings.size(), 1u);
+    EXPECT_EQ(platform.printer.drawings[0].title, "All Players");
+    ASSERT_EQ(platform.printer.drawings[0].drawings.size(), screen.filList.rows.size());
+    EXPECT_EQ(platform.printer.drawings[0].drawings.size(), 4u);
+    EXPECT_EQ(screen.news().text, "Printed All Players.");
+    EXPECT_TRUE(board.calls.empty());
+    EXPECT_TRUE(screens.unloads.empty()) << "the screen stays open";
+}
+
+TEST_F(ReportsPrintouts, SaveEveryPlayerInOneFile)
+{
+    ui::selectOption(screen.optSelected, 0);
+    screen.chkAllPlayers.ticked = true;
+    platform.dialogs.pick(folder.path() / "all");
+
+    screen.cmdSaveBoardPdf.click();
+
+    EXPECT_EQ(platform.dialogs.fileChoices.at(0).proposedName, "All Players.PDF");
+    EXPECT_EQ(platform.printer.pdfs, std::vector{folder.path() / "all.PDF"});
+    EXPECT_EQ(platform.printer.drawings.at(0).drawings.size(), 4u);
+}
+
+TEST_F(ReportsPrintouts, StopWhenThePersonCancelsAmongAllPlayers)
+{
+    ui::selectOption(screen.optSelected, 0);
+    screen.chkAllPlayers.ticked = true;
+    platform.progress.cancelAt = 2;
+
+    screen.cmdSelectedPrintouts.click();
+
+    EXPECT_TRUE(platform.printer.drawings.empty());
+    EXPECT_EQ(platform.printer.printerDialogs, 0);
 }
 
 TEST_F(ReportsPrintouts, AreNotTheOnlyWayToTheResults)

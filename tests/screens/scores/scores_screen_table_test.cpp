@@ -237,6 +237,37 @@ TEST_F(ScoreDisplay, PrintsTheTableInCourierNewPortraitWithoutAsking)
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
 
+TEST_F(ScoreDisplay, PreviewsAndSavesTheTableAsItIsPrinted)
+{
+    putThreePlayers();
+    open();
+    screen.cmdOk.click();
+    screen.cmdPrint.click();
+    platform.dialogs.pick(scratch.path() / "scores");
+
+    screen.cmdPreview.click();
+    screen.cmdSavePdf.click();
+
+    ASSERT_EQ(platform.printer.texts.size(), 2u);
+    ASSERT_EQ(platform.printer.previewedTexts.size(), 1u);
+    EXPECT_EQ(platform.printer.previewedTexts[0].lines, platform.printer.texts[0].lines);
+    EXPECT_EQ(platform.printer.texts[1].lines, platform.printer.texts[0].lines);
+    EXPECT_EQ(platform.printer.pdfs, std::vector{scratch.path() / "scores.PDF"});
+    EXPECT_EQ(platform.dialogs.fileChoices.at(0).proposedName, "Tallyhoop Point Summary.PDF");
+    EXPECT_EQ(screen.news().text, "Saved scores.PDF.");
+}
+
+TEST_F(ScoreDisplay, NamesTheWayOutWhenThereIsNoPrinter)
+{
+    open();
+    platform.printer.there = false;
+
+    screen.cmdPrint.click();
+
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(screen.news().text, "No printer is installed: Preview and Save as PDF work without one.");
+}
+
 TEST_F(ScoreDisplay, PrintsNothingWhenTheFontDialogIsCancelled)
 {
     platform.printer.fonts.clear();

@@ -1,0 +1,133 @@
+// screens/printouts.cpp - asks for files and folders, prints and saves, and says what has become of it.
+#include "screens/printouts.h"
+
+#include "base/windows1252.h"
+#include "files/data_folder.h"
+#include "files/file_names.h"
+#include "screens/printing_trouble.h"
+#include "ui/work.h"
+
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kPdfExtension = ".PDF";
+
+/// Thousands of pages take a moment to paint; the pointer is normal again before a failure is shown.
+bool deliverBusily(const ui::Platform& platform, const std::string& what, const std::function<Result<Done>()>& deliver)
+{
+    const Result<Done> delivered = [&] {
+        const Work work{platform.progress, what, 1};
+        return deliver();
+    }();
+    if (!delivered)
+        showPrintingTrouble(platform.dialogs);
+    return static_cast<bool>(delivered);
+}
+
+/// @returns the name of a PDF file after a title, such as "Demo Prophet_DP.PDF" after "Demo Prophet_DP.THC"
+std::string pdfName(std::string title)
+{
+    if (endsWithFolded(title, file_name::kSelectionExtension))
+        title.resize(title.size() - std::string_view{file_name::kSelectionExtension}.size());
+    for (char& c : title)
+        if (static_cast<unsigned char>(c) < ' ' || std::string_view{"<>:\"/\\|?*"}.find(c) != std::string_view::npos)
+            c = '_'; // no file system takes it in a name everywhere
+    return title + kPdfExtension;
+}
+
+/// @returns whether these files may be written
+bool mayReplace(ui::Dialogs& dialogs, const std::vector<fs::path>& files)
+{
+    std::string existing;
+    for (const fs::path& file : files) {
+        std::error_code unknown;
+        if (fs::exists(file, unknown))
+            existing += "\r\n" + shown(file);
+    }
+    if (existing.empty())
+        return true;
+    const char* const question = files.size() == 1 ? "Do you want to replace the existing file ?"
+                                                   : "Do you want to replace the existing files ?";
+    return dialogs.show({"", question + existing, ui::Buttons::YesNo, ui::Icon::Question}) == ui::Answer::Yes;
+}
+
+/// @returns where the printouts go, one file each; empty when the person cancelled
+std::vector<fs::path> chooseFiles(ui::Dialogs& dialogs, const fs::path& folder,
+                                  const std::vector<ui::Printout>& printouts)
+{
+    if (printouts.size() == 1) {
+        const std::string& title = ui::titleOf(printouts.front());
+        auto file = dialogs.saveFile({"Save as PDF: " + title, "PDF files (*.PDF)", "*.PDF", folder, pdfName(title)});
+        if (!file)
+            return {};
+        if (!endsWithFolded(file->filename().string(), kPdfExtension))
+            *file += kPdfExtension;
+        return {*file};
+    }
+    const auto chosen = dialogs.chooseFolder("Save as PDF: choose the folder", folder);
+    if (!chosen)
+        return {};
+    std::vector<fs::path> files;
+    for (const ui::Printout& printout : printouts)
+        files.push_back(DataFolder{*chosen}.pathTo(pdfName(ui::titleOf(printout))));
+    return files;
+}
+
+std::string savedSentence(const std::vector<fs::path>& files)
+{
+    if (files.size() == 1)
+        return "Saved " + shown(files.front().filename()) + ".";
+    return "Saved " + std::to_string(files.size()) + " PDF files in " + shown(files.front().parent_path()) + ".";
+}
+
+} // namespace
+
+std::string printOut(const ui::Platform& platform, const ui::Printout& printout)
+{
+    if (!platform.printer.isThere()) {
+        showPrintingTrouble(platform.dialogs);
+        return kNoPrinter;
+    }
+    const std::string& title = ui::titleOf(printout);
+    if (!deliverBusily(platform, title, [&] { return platform.printer.print(printout); }))
+        return {};
+    return "Printed " + title + ".";
+}
+
+std::string saveAsPdf(const ui::Platform& platform, const fs::path& folder, const std::vector<ui::Printout>& printouts)
+{
+    if (printouts.empty())
+        return {};
+    const std::vector<fs::path> files = chooseFiles(platform.dialogs, folder, printouts);
+    if (files.empty() || !mayReplace(platform.dialogs, files))
+        return {};
+    for (std::size_t i = 0; i < files.size(); ++i)
+        if (!deliverBusily(platform, ui::titleOf(printouts[i]),
+                           [&] { return platform.printer.savePdf(printouts[i], files[i]); }))
+            return {};
+    return savedSentence(files);
+}
+
+std::string showPreview(const ui::Platform& platform, const fs::path& folder, std::vector<ui::Printout> printouts)
+{
+    if (printouts.empty())
+        return {};
+    std::string said;
+    const auto print = [&](const ui::Printout& printout) {
+        if (platform.printer.choosePrinter())
+            said = printOut(platform, printout);
+    };
+    const auto save = [&](const ui::Printout& printout) { said = saveAsPdf(platform, folder, {printout}); };
+    platform.printer.preview({std::move(printouts), print, save});
+    return said;
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,33 @@
+// screens/printouts.h - printouts to the printer, to a preview and to PDF files, whichever screen they come from.
+#pragma once
+
+#include "ui/platform.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace tallyhoop {
+
+/// What there is instead of a printer, where none is installed.
+inline constexpr const char* kNoPrinter = "No printer is installed: Preview and Save as PDF work without one.";
+
+/// Prints under a busy pointer, and says so when that fails.
+/// @returns what has happened, a sentence for the status line; empty when the message has said it
+std::string printOut(const ui::Platform& platform, const ui::Printout& printout);
+
+/// Saves printouts as PDF files under a busy pointer, and says so when that fails. The person names the file of one
+/// printout, and the folder of several, which are called as their titles are. A name without the extension ".PDF" in
+/// any case gets it; existing files are replaced after one question.
+/// @param folder where the dialog begins
+/// @returns as printOut(); empty when the person does not want it after all
+std::string saveAsPdf(const ui::Platform& platform, const std::filesystem::path& folder,
+                      const std::vector<ui::Printout>& printouts);
+
+/// Shows printouts in one window, from which each can be printed, on a printer that the person chooses, or saved.
+/// @param printouts nothing is shown when there are none
+/// @returns as printOut(), of what was done last
+std::string showPreview(const ui::Platform& platform, const std::filesystem::path& folder,
+                        std::vector<ui::Printout> printouts);
+
+} // namespace tallyhoop
