@@ -85,7 +85,10 @@ protected:
                 << button->objectName().toStdString() << " has a mnemonic that comes from a name";
         }
         for (const QAction* action : page->findChildren<QAction*>()) {
-            EXPECT_FALSE(hostileName().size() > 3 && action->text().contains(toQString(hostileName())))
+            // The recent selections are named in the menu, where a single "&" would make a mnemonic.
+            const bool mayBeNamed = action->objectName().startsWith(QStringLiteral("mnuRecentFile_")) &&
+                                    hostileName().find('&') == std::string::npos;
+            EXPECT_FALSE(hostileName().size() > 3 && !mayBeNamed && action->text().contains(toQString(hostileName())))
                 << action->objectName().toStdString();
         }
     }

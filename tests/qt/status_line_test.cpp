@@ -5,6 +5,7 @@
 #include <QCursor>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 #include <QStatusBar>
 
 using namespace tallyhoop;
@@ -31,6 +32,7 @@ public:
 struct StatusLineTest : testing::Test {
     StatusLineTest()
     {
+        QCursor::setPos(QGuiApplication::primaryScreen()->geometry().bottomRight()); // where no window is
         screen.focused = &screen.txtName;
         page.show();
         activate(page);

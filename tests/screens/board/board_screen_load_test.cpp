@@ -138,8 +138,10 @@ TEST_F(BoardScreenLoad, MentionsAFolderThatCannotBeWrittenOnlyOnce)
     EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"** ERROR IN WRITING FILE **"});
     field.finalized = "1";
     board->showState();
+    platform.dialogs.answer(ui::Answer::Ok);
     board->mnuNewSelection.click();
-    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.captionsShown(),
+              (std::vector<std::string>{"** ERROR IN WRITING FILE **", "FIELD IS NO LONGER FINAL"}));
 }
 
 TEST_F(BoardScreenLoad, ForgetsTheSampleFieldWhenDemoModeWasLeft)
