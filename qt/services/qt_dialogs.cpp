@@ -239,6 +239,9 @@ void QtDialogs::about(const std::filesystem::path& folder)
     box.setInformativeText(QStringLiteral("Runs an office pool on the 64-team college basketball tournament: brackets, "
                                           "results, scores and reports.\n\nThe pool is in the folder\n") +
                            fromPath(folder));
+    // The format of the text above does not hold for this one: a folder's name is no markup either.
+    if (auto* details = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
+        details->setTextFormat(Qt::PlainText);
     box.setStandardButtons(QMessageBox::Ok);
     box.exec();
 }

@@ -217,7 +217,9 @@ TEST(QtDialogs, TheAboutBoxNamesTheProgram)
     withNext<QMessageBox>([](QMessageBox& box) {
         EXPECT_EQ(box.windowTitle(), QStringLiteral("About Tallyhoop"));
         EXPECT_TRUE(box.text().startsWith(QStringLiteral("Tallyhoop ")));
-        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        const auto* folder = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel"));
+        ASSERT_NE(folder, nullptr);
+        EXPECT_EQ(folder->textFormat(), Qt::PlainText);
         EXPECT_TRUE(box.informativeText().endsWith(QStringLiteral("\n/home/anna & co/<b>Pool</b>")));
         box.accept();
     });
