@@ -105,7 +105,7 @@ TEST_F(BoardDrawing, MarksRightAndWrongPicksDarkOnWhite)
     EXPECT_EQ(captions(drawing, "X")[0].colour, captions(drawing, "Late Loser").at(0).colour);
     EXPECT_NE(captions(drawing, "=")[0].colour, captions(drawing, "X")[0].colour);
     for (const ui::Caption& caption : drawing.captions)
-        EXPECT_LT(greyOf(caption.colour), 85) << caption.text << ": too light for grey paper";
+        EXPECT_LT(greyOf(caption.colour), 65) << caption.text << ": too light for grey paper";
     for (const ui::Box& box : drawing.boxes)
         EXPECT_EQ(box.fill, (ui::Colour{255, 255, 255}));
     EXPECT_TRUE(captions(draw(), "=").empty()) << "nothing is marked without verdicts";
