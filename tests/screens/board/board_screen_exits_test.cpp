@@ -29,7 +29,7 @@ TEST_F(BoardScreenExits, PrintsTheBoardOnOneLandscapePage)
     ASSERT_EQ(platform.printer.drawings.size(), 1u);
     EXPECT_EQ(platform.printer.drawings[0].orientation, ui::Orientation::Landscape);
     int found = 0;
-    for (const ui::Caption& caption : platform.printer.drawings[0].drawing.captions)
+    for (const ui::Caption& caption : platform.printer.drawings[0].drawings[0].captions)
         found += caption.text == "R1T0";
     EXPECT_EQ(found, 2) << "in the first round and as a winner";
 }

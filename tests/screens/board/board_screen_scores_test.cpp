@@ -209,7 +209,7 @@ TEST_F(BoardScreenScores, ScoresAPlayersFileForTheReports)
     board->printForm(); // as the reports do: both in one command
     ASSERT_EQ(platform.printer.drawings.size(), 1u);
     EXPECT_EQ(platform.printer.drawings[0].title, "Smith_JS.THC");
-    const auto& captions = platform.printer.drawings[0].drawing.captions;
+    const auto& captions = platform.printer.drawings[0].drawings[0].captions;
     for (const char* text : {"Smith", "Points: 1 / 1", "="})
         EXPECT_TRUE(std::ranges::any_of(captions, [text](const ui::Caption& caption) { return caption.text == text; }))
             << text;
