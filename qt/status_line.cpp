@@ -101,7 +101,6 @@ void StatusLine::listen()
     m_heardExplanation = m_screen.explanation;
     if (m_heard.text.empty() && !isOther) {
         m_restsAt.reset();
-        m_pointerMoved = m_pointed != nullptr;
         return;
     }
     m_spokenNow = true;

@@ -16,7 +16,7 @@
 //
 // When a screen says something, or its own explanation changes, a control has to be reached anew to count for 2, and
 // the focus that the same command moved does not count: what happens last is shown. A pointer at rest reaches nothing,
-// also when a box closes and leaves it above another control. When news end, the pointer counts again.
+// also when a box closes and leaves it above another control.
 #pragma once
 
 #include "ui/control.h"

@@ -133,14 +133,6 @@ TEST_F(StatusLineTest, NewsAreShownWhenABoxClosesAboveAControl)
     EXPECT_EQ(shown(), QStringLiteral("Names the sample."));
 }
 
-TEST_F(StatusLineTest, WhenNewsEndThePointerCountsAgain)
-{
-    pointerComesTo(*page.ok);
-    desk.run(screen, [&] { screen.say("It is saved."); });
-    desk.run(screen, [&] { screen.say({}); });
-    EXPECT_EQ(shown(), QStringLiteral("Goes on."));
-}
-
 TEST_F(StatusLineTest, TheSameNewsAreShownAgain)
 {
     desk.run(screen, [&] { screen.say("It is saved."); });
