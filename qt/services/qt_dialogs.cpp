@@ -195,7 +195,7 @@ std::string QtDialogs::ask(const ui::Question& asked)
     dialog.setLabelText(prompt);
     if (auto* line = dialog.findChild<QLineEdit*>())
         line->setAccessibleName(prompt);
-    dialog.setMinimumWidth(widthForTitle(dialog));
+    dialog.layout()->addItem(new QSpacerItem{widthForTitle(dialog), 0}); // its layout overrides a minimum width
     return dialog.exec() == QDialog::Accepted ? oneLine(dialog.textValue()) : std::string{};
 }
 

@@ -35,16 +35,21 @@ bool reportFontIsThere()
     return std::ranges::any_of(faces, [&](const char* face) { return resolved == QLatin1String{face}; });
 }
 
+/// Whether this is a family of a fixed pitch, and not a name such as "Monospace" that stands for whatever there is.
+bool isFixedPitch(const QString& family)
+{
+    return QFontDatabase::isFixedPitch(family) && QFontInfo{QFont{family}}.family() == family;
+}
+
 /// @returns the family to propose where the report font is missing: the desktop's own fixed-pitch one if it has any;
 ///          empty when no family is of a fixed pitch
 QString fixedPitchFamily()
 {
     const QString preferred = QFontInfo{QFontDatabase::systemFont(QFontDatabase::FixedFont)}.family();
-    if (QFontDatabase::isFixedPitch(preferred))
+    if (isFixedPitch(preferred))
         return preferred;
     const QStringList families = QFontDatabase::families();
-    const auto fixed =
-        std::ranges::find_if(families, [](const QString& family) { return QFontDatabase::isFixedPitch(family); });
+    const auto fixed = std::ranges::find_if(families, isFixedPitch);
     return fixed == families.end() ? QString{} : *fixed;
 }
 

@@ -6,13 +6,14 @@
 
 #include <QHeaderView>
 #include <QScreen>
+#include <QScrollBar>
 #include <algorithm>
 
 namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kWidth = 840;   ///< every column at its own width
+constexpr int kWidth = 840;   ///< at least
 constexpr int kLeastRows = 4; ///< room for the note that there are none
 
 } // namespace
@@ -62,11 +63,17 @@ void ScoresView::fitRows()
 {
     if (m_fitted.isValid() && size() != m_fitted)
         return;
-    const int others = sizeHint().height() - m_table->sizeHint().height();
+    const QSize room = roomForWindow(*this);
+    const QHeaderView& headings = *m_table->horizontalHeader();
+    const int edges = 2 * m_table->frameWidth();
+    // What is beside the table is known once it has been laid out; until then there are no rows.
+    const int columns = isVisible() ? width() - m_table->width() + headings.length() + edges : kWidth;
+    const int bar = columns > room.width() ? m_table->horizontalScrollBar()->sizeHint().height() : 0;
     const int rows = std::max(kLeastRows, m_table->model()->rowCount());
-    const int table = m_table->horizontalHeader()->sizeHint().height() +
-                      rows * m_table->verticalHeader()->defaultSectionSize() + 2 * m_table->frameWidth();
-    m_fitted = QSize{kWidth, others + table}.boundedTo(roomForWindow(*this));
+    const int table =
+        headings.sizeHint().height() + rows * m_table->verticalHeader()->defaultSectionSize() + bar + edges;
+    const int others = sizeHint().height() - m_table->sizeHint().height();
+    m_fitted = QSize{std::max(kWidth, columns), others + table}.boundedTo(room);
     resize(m_fitted);
     place();
 }

@@ -45,7 +45,8 @@ TEST(WithFixedPitch, OnlySuchFamiliesAreOfferedAndOneIsSelected)
 {
     ASSERT_TRUE(QFontDatabase::families().contains(QStringLiteral("DejaVu Sans")));
     const Offered seen = offered();
-    EXPECT_EQ(seen.families, QStringList{QStringLiteral("DejaVu Sans Mono")});
+    EXPECT_TRUE(seen.families.contains(QStringLiteral("DejaVu Sans Mono")));
+    EXPECT_FALSE(seen.families.contains(QStringLiteral("DejaVu Sans"))) << "its columns would not line up";
     EXPECT_EQ(seen.selected, QStringLiteral("DejaVu Sans Mono"));
     EXPECT_EQ(seen.accepted, (ui::PrinterFont{"DejaVu Sans Mono", 10, false, false}));
 }
@@ -53,7 +54,8 @@ TEST(WithFixedPitch, OnlySuchFamiliesAreOfferedAndOneIsSelected)
 TEST(WithoutFixedPitch, AllFamiliesAreOfferedAndOneIsSelected)
 {
     const Offered seen = offered();
-    EXPECT_EQ(seen.families, (QStringList{QStringLiteral("DejaVu Sans"), QStringLiteral("DejaVu Serif")}));
+    EXPECT_TRUE(seen.families.contains(QStringLiteral("DejaVu Sans")));
+    EXPECT_TRUE(seen.families.contains(QStringLiteral("DejaVu Serif")));
     EXPECT_TRUE(seen.families.contains(seen.selected)) << seen.selected.toStdString();
     ASSERT_TRUE(seen.accepted);
     EXPECT_EQ(QString::fromStdString(seen.accepted->name), seen.selected);

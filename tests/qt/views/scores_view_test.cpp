@@ -158,11 +158,11 @@ TEST_F(ScoresViewTest, IsAsHighAsItsRowsUntilThePersonChoosesAnotherSize)
         scratch.put("More" + std::to_string(player) + ".THC", scratch.get("Demo Prophet_DP.THC"));
     press("cmdOk");
     EXPECT_EQ(view.height(), four + 6 * table().rowHeight(0));
-    view.resize(700, 300);
+    view.resize(900, 300);
     scratch.put("Last.THC", scratch.get("Demo Prophet_DP.THC"));
     press("cmdOk");
     EXPECT_EQ(table().model()->rowCount(), 11);
-    EXPECT_EQ(view.size(), QSize(700, 300));
+    EXPECT_EQ(view.size(), QSize(900, 300));
 }
 
 TEST(PlaceBeside, IsRightOfTheOtherWindowThenLeftThenLowAndRight)
