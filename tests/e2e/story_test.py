@@ -163,15 +163,18 @@ class InDemoMode(Story):
         self.program.menu("mnuDemo", "mnuDemoReset")
         box = self.program.answer("OK", "STALLYHOOP DEMOSTRATION MODE")
         self.assertEqual(box["text"], "Select the OK Key to Continue Normal Operation of Program")
+        kept = self.program.answer("OK", "STALLYHOOP DEMOSTRATION MODE")["text"]
+        self.assertIn("The files that you changed in demo mode are kept.", kept)
         self.shows("lblRegion_0", "TEAM1")
         self.assertEqual(self.program.text("txtPlayerName"), "")
         self.assertFalse(self.program.visible("lblDemoMode"))
         self.assertFalse(self.program.action("mnuSaveSelection")["enabled"])
-        kept, players = self.program.files()
+        backup, players = self.program.files()
         self.assertEqual(players, "PLAYERNAMES.CSV")
-        self.assertTrue(kept.startswith("Backup "), kept)
-        self.assertEqual([file.name for file in (self.program.folder / kept).iterdir()], [PROPHET])
-        self.assertEqual((self.program.folder / kept / PROPHET).read_bytes(), changed)
+        self.assertTrue(backup.startswith("Backup "), backup)
+        self.assertIn(str(self.program.folder / backup), kept)
+        self.assertEqual([file.name for file in (self.program.folder / backup).iterdir()], [PROPHET])
+        self.assertEqual((self.program.folder / backup / PROPHET).read_bytes(), changed)
         self.assertEqual(self.program.errors(), "")
 
     def test_declining_leaves_the_default_field(self):
