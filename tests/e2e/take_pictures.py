@@ -48,10 +48,8 @@ def open_player(program):
 
 
 def sort_by_score(program):
-    """Drags the heading to the front; the file names are then in the second column."""
-    headings = program.table("msgScoreDisplay")["headings"]
-    first = headings[0]["rect"]
-    program.drag_between(centre(headings[2]["rect"]), (first[0] + 4, centre(first)[1]))
+    """The file names are in the second column then."""
+    program.click("cmdBestFirst")
     program.wait(lambda: program.rows("msgScoreDisplay")[0][0] == "80", "the best first")
 
 
@@ -140,7 +138,25 @@ def take_reports(program):
     take(program, "preview")
     program.key("Escape")
     program.wait(lambda: not program.modal(), "the preview going away")
+    if not program.suffix:  # paper is white on a dark desktop, too
+        take_printed_board(program)
     program.click("cmdExit")
+
+
+def take_printed_board(program):
+    """A scored selection as it comes from the printer, and from one without colours."""
+    program.click("optSelected_0")
+    row = next(rect for rect, text in zip(*(program.table("filList")[part] for part in ("rects", "rows")))
+               if text == [PLAYER])
+    program.click_at(centre(row[0]))
+    program.click("cmdSaveBoardPdf")
+    program.file_dialog("Board.PDF")
+    program.wait(lambda: "Board.PDF" in program.files(), "the printed board")
+    for name, colours in (("printed-board", []), ("printed-board-grey", ["-gray"])):
+        path = PICTURES / name
+        subprocess.run(["pdftoppm", "-png", "-r", "110", "-singlefile", *colours, program.folder / "Board.PDF", path],
+                       check=True)
+        print(f"{path}.png")
 
 
 def main():
