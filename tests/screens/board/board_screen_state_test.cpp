@@ -188,7 +188,8 @@ TEST_F(BoardScreenState, AScribbleOnALabelIsNeitherSavedNorScoredNorDrawn)
     EXPECT_EQ(board->lblResult[0].text, "=");
 
     scribbleOnLabels();
-    for (const ui::Caption& caption : board->printout().drawings.at(0).captions)
+    const ui::DrawingPrintout printout = board->printout();
+    for (const ui::Caption& caption : printout.drawings.at(0).captions)
         EXPECT_NE(caption.text, "scribble");
 
     board->cmdDefaultColors.click();
