@@ -149,7 +149,7 @@ void PlayersScreen::fillList()
 void PlayersScreen::enterSaved(const SavedPlayer& saved)
 {
     focused = &txtEmail;
-    const std::optional<int> row = rowOfSaved(saved);
+    const std::optional<int> row = rowOfFile(lstNames.rows, txtFileName.text, saved.name);
     if (!row) {
         m_mode = SaveKind::NewFile;
         say("Add Record puts " + txtName.text + " into the list.");
@@ -165,18 +165,20 @@ void PlayersScreen::enterSaved(const SavedPlayer& saved)
     takeRowOut(*row, saved.name);
 }
 
-/// @returns the row that means the saved file. Of several that do, because their names were cut to the same, it is the
-///          one with the player's name: the record of another player is not to be changed.
-std::optional<int> PlayersScreen::rowOfSaved(const SavedPlayer& saved) const
+/// @param fileName as recordedFileName() gives it, or as a record has it
+/// @param player   the name in the player's record
+/// @returns the row that means the file. Of several that do, because their names were cut to the same, it
+///          is the one with the player's name: another player's record is not this file's.
+std::optional<int> PlayersScreen::rowOfFile(const std::vector<std::string>& rows, std::string_view fileName,
+                                            std::string_view player) const
 {
     std::vector<int> found;
-    for (std::size_t row = 0; row < lstNames.rows.size(); ++row)
-        if (recordMeans(m_folder, parsePlayerRow(lstNames.rows[row]).fileName, txtFileName.text))
+    for (std::size_t row = 0; row < rows.size(); ++row)
+        if (recordMeans(m_folder, parsePlayerRow(rows[row]).fileName, fileName))
             found.push_back(static_cast<int>(row));
-    if (found.size() > 1 && txtFileName.text.size() > kFileNameWidth)
+    if (found.size() > 1 && fileName.size() > kFileNameWidth)
         std::erase_if(found, [&](int at) {
-            const std::string player = parsePlayerRow(lstNames.rows[static_cast<std::size_t>(at)]).name;
-            return !equalFolded(player, fitted(saved.name, kNameWidth));
+            return !equalFolded(parsePlayerRow(rows[static_cast<std::size_t>(at)]).name, fitted(player, kNameWidth));
         });
     return found.empty() ? std::nullopt : std::optional{found.front()};
 }
@@ -221,12 +223,10 @@ bool PlayersScreen::mayBeAdded()
     }
     if (isBlank(&txtFileName))
         return true;
-    const auto listed = std::ranges::find_if(lstNames.rows, [this](const std::string& row) {
-        return recordMeans(m_folder, parsePlayerRow(row).fileName, txtFileName.text);
-    });
-    if (listed == lstNames.rows.end())
+    const std::optional<int> listed = rowOfFile(lstNames.rows, txtFileName.text, txtName.text);
+    if (!listed)
         return true;
-    const PlayerRecord record = parsePlayerRow(*listed);
+    const PlayerRecord record = parsePlayerRow(lstNames.rows[static_cast<std::size_t>(*listed)]);
     return m_dialogs.show({kTitle,
                            "The list has a record for this file already:\r\n\r\n" + trimTrailingBlanks(record.name) +
                                "   " + trimTrailingBlanks(record.fileName) + "\r\n\r\nDo you want to add another one?",
@@ -305,6 +305,7 @@ void PlayersScreen::finish(std::vector<std::string> rows)
         records.push_back(parsePlayerRow(row));
     if (!saveDataFile(m_platform, m_known, m_folder, file_name::kPlayerNames, playerNamesFile(records)))
         return;
+    m_isAdded = m_saved && rowOfFile(rows, recordedFileName(m_folder, m_saved->file), txtName.text);
     lstNames.rows = std::move(rows);
     lstNames.selected.reset();
     m_boxesHoldRecord = false;
@@ -313,9 +314,6 @@ void PlayersScreen::finish(std::vector<std::string> rows)
         std::filesystem::remove(file, ignored);
     }
     m_pendingDeletions.clear();
-    m_isAdded = m_saved && std::ranges::any_of(records, [&](const PlayerRecord& record) {
-                    return recordMeans(m_folder, record.fileName, recordedFileName(m_folder, m_saved->file));
-                });
     close();
 }
 

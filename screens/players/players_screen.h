@@ -57,7 +57,8 @@ private:
     void explainControls();
     void fillList();
     void enterSaved(const SavedPlayer& saved);
-    std::optional<int> rowOfSaved(const SavedPlayer& saved) const;
+    std::optional<int> rowOfFile(const std::vector<std::string>& rows, std::string_view fileName,
+                                 std::string_view player) const;
     void takeRowOut(int row, const std::string& playerName);
     void showSelectedRow();
     void addRecord();

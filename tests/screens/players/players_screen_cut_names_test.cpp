@@ -75,6 +75,31 @@ TEST_F(PlayersWithCutNames, SavingTheFileOfAThirdPlayerTakesNobodysRecord)
     EXPECT_EQ(names.txtName.text, "Somebody,E");
     names.cmdAdd.click();
     EXPECT_EQ(written(), playerFile({csv("Somebody,E", cutName), wilhelm, wilhelmina}));
+    EXPECT_TRUE(screens.news.empty()) << "it has a record now";
+}
+
+TEST_F(PlayersWithCutNames, TheRecordsOfOthersAreNotTheRecordOfTheSavedFile)
+{
+    scratch.put(filesName, "the picks of a third");
+    PlayersScreen& names = openAfterSave(SaveKind::Replaced, filesName, "Somebody,E");
+    select(0);
+    names.txtPhone.text = "555-9999";
+    names.cmdChange.click();
+    names.cmdExit.click();
+    EXPECT_EQ(written(), playerFile({csv("Wilhelm,W", cutName, "w@example.org", "555-9999"), wilhelmina}));
+    EXPECT_EQ(screens.news, std::vector{filesName + " is saved, and has no record in the player list."});
+}
+
+TEST_F(PlayersWithCutNames, AddingAPlayerTwiceNamesTheRecordThatIsThere)
+{
+    scratch.put(filesName, "the picks of Wilhelmina");
+    platform.dialogs.answer(ui::Answer::Cancel);
+    PlayersScreen& names = openAfterSave(SaveKind::NewFile, filesName, "Somebody,E");
+    names.txtName.text = "Wilhelmina,W";
+    names.cmdAdd.click();
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_NE(platform.dialogs.shown[0].text.find("\r\n\r\nWilhelmina,W   " + cutName + "\r\n\r\n"), std::string::npos);
+    EXPECT_EQ(written(), playerFile({wilhelm, wilhelmina}));
 }
 
 } // namespace
