@@ -44,9 +44,9 @@ public:
         case ScreenKind::Board:
             return shownBy<qt::BoardView>(
                 Placement::Stacked,
-                std::make_unique<BoardScreen>(
-                    m_folder, m_platform, m_host,
-                    BoardScreen::Shared{m_shared.field, m_shared.savedPlayer, m_shared.listedPlayer}));
+                std::make_unique<BoardScreen>(m_folder, m_platform, m_host,
+                                              BoardScreen::Shared{m_shared.field, m_shared.savedPlayer,
+                                                                  m_shared.listedPlayer, m_shared.folderTroubleSaid}));
         case ScreenKind::Scores:
             return shownBy<qt::ScoresView>(Placement::OwnWindow,
                                            std::make_unique<ScoresScreen>(m_folder, m_platform, m_host, m_shared.field,

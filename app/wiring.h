@@ -17,6 +17,7 @@ struct SharedValues {
     Field field;                             ///< the open field
     std::optional<SavedPlayer> savedPlayer;  ///< from the board to the player list
     std::optional<PlayerScore> listedPlayer; ///< from the list of scores to the board
+    bool folderTroubleSaid = false;          ///< that the folder cannot be written is said once
     MailDraft mailDraft;                     ///< between the reports and the e-mail dialog
 };
 

@@ -16,6 +16,8 @@ namespace tallyhoop {
 
 namespace {
 
+constexpr const char* kCheckSpace = " Check for adequate space in the Application Directory";
+
 ui::Message writingTrouble(std::string_view shownPath, std::string_view advice)
 {
     return {"** ERROR IN WRITING FILE **",
@@ -110,8 +112,17 @@ bool saveFile(const ui::Platform& platform, KnownFiles& known, const std::filesy
 bool saveDataFile(const ui::Platform& platform, KnownFiles& known, const DataFolder& folder, std::string_view name,
                   std::string_view bytes)
 {
-    return saveFile(platform, known, folder.pathTo(name), bytes, folder.shownPathOf(name),
-                    " Check for adequate space in the Application Directory");
+    return saveFile(platform, known, folder.pathTo(name), bytes, folder.shownPathOf(name), kCheckSpace);
+}
+
+void createDataFile(ui::Dialogs& dialogs, const DataFolder& folder, std::string_view name, std::string_view bytes,
+                    bool& troubleSaid)
+{
+    const Result<Done> created = replaceFile(folder.pathTo(name), bytes, [&] { return !folder.exists(name); });
+    if (created || troubleSaid || folder.exists(name))
+        return;
+    troubleSaid = true;
+    showWritingTrouble(dialogs, folder.shownPathOf(name), kCheckSpace, created.failure());
 }
 
 void showReadingTrouble(ui::Dialogs& dialogs, const std::filesystem::path& file)

@@ -27,6 +27,11 @@ bool saveFile(const ui::Platform& platform, KnownFiles& known, const std::filesy
 bool saveDataFile(const ui::Platform& platform, KnownFiles& known, const DataFolder& folder, std::string_view name,
                   std::string_view bytes);
 
+/// Creates a file of the program's folder. One that another program has created meanwhile is left as it is.
+/// @param troubleSaid whether it was said before that the folder cannot be written: then it is not said again
+void createDataFile(ui::Dialogs& dialogs, const DataFolder& folder, std::string_view name, std::string_view bytes,
+                    bool& troubleSaid);
+
 /// Shows that a selection or results file could not be read, or not whole; a second message names the limit of a file
 /// that is too large.
 void showReadingTrouble(ui::Dialogs& dialogs, const std::filesystem::path& file);

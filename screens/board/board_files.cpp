@@ -46,15 +46,12 @@ bool BoardFiles::isScored(const std::filesystem::path& file) const
     return isSameFile(file, m_folder.folder() / file.filename());
 }
 
-void BoardFiles::checkPlayers()
+void BoardFiles::checkPlayers(bool& folderTroubleSaid)
 {
-    if (m_folder.exists(file_name::kPlayerNames)) {
+    if (m_folder.exists(file_name::kPlayerNames))
         m_playersFaulty = !playerListIsSound(m_platform.dialogs, m_folder);
-    } else if (!m_warnedAboutFolder) {
-        KnownFiles nothingKnown; // there is no file that somebody could have changed
-        m_warnedAboutFolder =
-            !saveDataFile(m_platform, nothingKnown, m_folder, file_name::kPlayerNames, playerNamesFile({}));
-    }
+    else
+        createDataFile(m_platform.dialogs, m_folder, file_name::kPlayerNames, playerNamesFile({}), folderTroubleSaid);
 }
 
 } // namespace tallyhoop

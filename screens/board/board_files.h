@@ -35,9 +35,9 @@ public:
     /// @returns whether a selection in this file is in the folder that is scored
     bool isScored(const std::filesystem::path& file) const;
 
-    /// Looks whether the list of players can be used, and writes an empty one when there is none. A folder that cannot
-    /// be written is mentioned once.
-    void checkPlayers();
+    /// Looks whether the list of players can be used, and writes an empty one when there is none.
+    /// @param folderTroubleSaid whether it was said that the folder cannot be written: then it is not said again
+    void checkPlayers(bool& folderTroubleSaid);
 
     /// @returns whether the list had to be repaired when it was last looked at
     bool playersAreFaulty() const { return m_playersFaulty; }
@@ -47,7 +47,6 @@ private:
     const ui::Platform& m_platform;
     KnownFiles m_known;
     bool m_playersFaulty = false;
-    bool m_warnedAboutFolder = false;
 };
 
 } // namespace tallyhoop

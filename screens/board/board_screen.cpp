@@ -47,7 +47,7 @@ void BoardScreen::loadBoard()
     showEntry({startingBracket(m_shared.field), {}, {}, {}, {}});
     m_openedFile.clear();
     beginUnmarked();
-    m_files.checkPlayers();
+    m_files.checkPlayers(m_shared.folderTroubleSaid);
 }
 
 void BoardScreen::showEntry(Entry entry)

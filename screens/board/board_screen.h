@@ -38,7 +38,8 @@ public:
         Field& field;                            ///< the open field, read again when the board is loaded
         std::optional<SavedPlayer>& savedPlayer; ///< left for the player list
         std::optional<PlayerScore>&
-            listedPlayer; ///< of the player chosen in the list of scores, whose picks are marked
+            listedPlayer;        ///< of the player chosen in the list of scores, whose picks are marked
+        bool& folderTroubleSaid; ///< that the folder cannot be written is said once, not whenever a board is loaded
     };
 
     BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared);

@@ -84,7 +84,7 @@ class BoardWriter : public ScreenWriter<BoardScreen>
 public:
     explicit BoardWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        open(BoardScreen::Shared{field, savedPlayer, listedPlayer});
+        open(BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid});
     }
 
 protected:

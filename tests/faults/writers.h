@@ -48,6 +48,7 @@ public:
     Field field;
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> listedPlayer;
+    bool folderTroubleSaid = false;
     MailDraft draft;
     FakeBoard board;
 };

@@ -44,7 +44,8 @@ protected:
     Field field; // what the board shares, and reads
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> listedPlayer;
-    const BoardScreen::Shared shared{field, savedPlayer, listedPlayer};
+    bool folderTroubleSaid = false;
+    const BoardScreen::Shared shared{field, savedPlayer, listedPlayer, folderTroubleSaid};
 };
 
 } // namespace

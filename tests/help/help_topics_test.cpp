@@ -36,7 +36,7 @@ protected:
     {
         if (!m_board) {
             m_board = std::make_unique<BoardScreen>(folder, platform.services, screens,
-                                                    BoardScreen::Shared{field, savedPlayer, listedPlayer});
+                                                    BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid});
             m_board->load();
             m_board->showState();
         }
@@ -56,6 +56,7 @@ protected:
     Field field;
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> listedPlayer;
+    bool folderTroubleSaid = false;
     MailDraft draft;
     std::unique_ptr<BoardScreen> m_board;
 };

@@ -92,7 +92,10 @@ TEST_F(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
     field.finalized = "1";
     scratch.put(file_name::kSetup, setupFile(field));
     const DataFolder folder = scratch.folder();
-    BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedPlayer}};
+    BoardScreen board{folder,
+                      platform.services,
+                      screens,
+                      {shared.field, shared.savedPlayer, shared.listedPlayer, shared.folderTroubleSaid}};
     board.load();
 
     const QStringList pages = pagesOf(board.printout());

@@ -28,6 +28,7 @@ struct Captions : testing::Test {
     MailDraft draft;
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> marked;
+    bool folderTroubleSaid = false;
     SeedTexts seeds;
 };
 
@@ -83,7 +84,7 @@ std::vector<std::string> menusOf(const ui::Screen& screen)
 
 TEST_F(Captions, OfTheBoard)
 {
-    const BoardScreen board{folder, platform.services, screens, {field, savedPlayer, marked}};
+    const BoardScreen board{folder, platform.services, screens, {field, savedPlayer, marked, folderTroubleSaid}};
 
     EXPECT_THAT(
         captionsOf(board),

@@ -94,7 +94,10 @@ protected:
     test::FakePlatform platform;
     SharedValues shared;
     test::FakeScreens screens;
-    BoardScreen board{folder, platform.services, screens, {shared.field, shared.savedPlayer, shared.listedPlayer}};
+    BoardScreen board{folder,
+                      platform.services,
+                      screens,
+                      {shared.field, shared.savedPlayer, shared.listedPlayer, shared.folderTroubleSaid}};
     Desk desk;
     BoardView view{board, desk};
 };

@@ -25,6 +25,7 @@ protected:
     Field field;
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> listedPlayer;
+    bool folderTroubleSaid = false;
     DataFolder folder = scratch.folder();
     std::unique_ptr<BoardScreen> board;
 
@@ -63,7 +64,7 @@ protected:
     BoardScreen& load()
     {
         board = std::make_unique<BoardScreen>(folder, platform.services, screens,
-                                              BoardScreen::Shared{field, savedPlayer, listedPlayer});
+                                              BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid});
         board->load();
         board->showState();
         return *board;

@@ -135,6 +135,7 @@ TEST_F(BoardScreenLoad, MentionsAFolderThatCannotBeWrittenOnlyOnce)
 {
     folder = DataFolder{scratch.path() / "gone"};
     load();
+    load(); // another board, as after the setup
     EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"** ERROR IN WRITING FILE **"});
     field.finalized = "1";
     board->showState();
@@ -142,6 +143,16 @@ TEST_F(BoardScreenLoad, MentionsAFolderThatCannotBeWrittenOnlyOnce)
     board->mnuNewSelection.click();
     EXPECT_EQ(platform.dialogs.captionsShown(),
               (std::vector<std::string>{"** ERROR IN WRITING FILE **", "FIELD IS NO LONGER FINAL"}));
+}
+
+TEST_F(BoardScreenLoad, CreatesThePlayerListOnceTheFolderCanBeWritten)
+{
+    folder = DataFolder{scratch.path() / "gone"};
+    load();
+    std::filesystem::create_directory(scratch.path() / "gone");
+    load();
+    EXPECT_TRUE(folder.exists(file_name::kPlayerNames));
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
 }
 
 TEST_F(BoardScreenLoad, ForgetsTheSampleFieldWhenDemoModeWasLeft)
