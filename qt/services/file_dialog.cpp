@@ -25,6 +25,12 @@ bool isFile(const fs::path& path)
     return fs::is_regular_file(path, ignored);
 }
 
+bool isFolder(const fs::path& path)
+{
+    std::error_code ignored;
+    return fs::is_directory(path, ignored);
+}
+
 /// @returns the file of this name in another case; nothing when the name exists as it is, or not at all
 std::optional<fs::path> inAnotherCase(const fs::path& file)
 {
@@ -32,23 +38,43 @@ std::optional<fs::path> inAnotherCase(const fs::path& file)
     return found && *found != file && isFile(*found) ? found : std::nullopt;
 }
 
+QFileDialog::FileMode fileModeOf(FileDialog::Purpose purpose)
+{
+    switch (purpose) {
+    case FileDialog::Purpose::SaveFile:
+        return QFileDialog::AnyFile;
+    case FileDialog::Purpose::ChooseFolder:
+        return QFileDialog::Directory;
+    case FileDialog::Purpose::OpenFile:
+        break;
+    }
+    return QFileDialog::ExistingFile;
+}
+
 } // namespace
 
-FileDialog::FileDialog(QWidget* parent, const QString& caption, const fs::path& folder, bool save)
-    : QFileDialog{parent, caption, fromPath(folder)}, m_save{save}
+FileDialog::FileDialog(QWidget* parent, const QString& caption, const fs::path& folder, Purpose purpose)
+    : QFileDialog{parent, caption, fromPath(folder)}, m_purpose{purpose}
 {
     setOption(DontUseNativeDialog); // only Qt's own dialog has the line edit below
     setOption(DontConfirmOverwrite);
-    setAcceptMode(save ? AcceptSave : AcceptOpen);
-    setFileMode(save ? AnyFile : ExistingFile);
+    setOption(ShowDirsOnly, purpose == Purpose::ChooseFolder);
+    setAcceptMode(purpose == Purpose::SaveFile ? AcceptSave : AcceptOpen);
+    setFileMode(fileModeOf(purpose));
     m_name = findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     m_name->installEventFilter(this);
-    if (!save)
-        connect(m_name, &QLineEdit::textChanged, this, [this] {
-            auto* open = findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open);
-            if (inAnotherCase(typedPath()))
-                open->setEnabled(true); // Qt disables it when it finds no such file
-        });
+    connect(m_name, &QLineEdit::textChanged, this, &FileDialog::enableForName);
+}
+
+/// Qt disables the button when it finds no such file.
+void FileDialog::enableForName()
+{
+    const fs::path path = typedPath();
+    const bool isQuoted = m_name->text().contains(kQuote) && (isFolder(path) || mayBeChosen(path));
+    if (isQuoted || (m_purpose == Purpose::OpenFile && inAnotherCase(path)))
+        findChild<QDialogButtonBox*>()
+            ->button(m_purpose == Purpose::SaveFile ? QDialogButtonBox::Save : QDialogButtonBox::Open)
+            ->setEnabled(true);
 }
 
 std::optional<fs::path> FileDialog::chosen() const
@@ -67,13 +93,29 @@ QString FileDialog::typed() const
 
 fs::path FileDialog::typedPath() const
 {
-    return (toPath(directory().absolutePath()) / toPath(typed())).lexically_normal();
+    const fs::path shown = toPath(directory().absolutePath());
+    const fs::path literal = (shown / toPath(m_name->text())).lexically_normal();
+    std::error_code ignored;
+    return fs::exists(literal, ignored) ? literal : (shown / toPath(typed())).lexically_normal();
+}
+
+bool FileDialog::mayBeChosen(const fs::path& path) const
+{
+    switch (m_purpose) {
+    case Purpose::SaveFile:
+        return isFolder(path.parent_path()) && !isFolder(path);
+    case Purpose::ChooseFolder:
+        return isFolder(path);
+    case Purpose::OpenFile:
+        break;
+    }
+    return isFile(path);
 }
 
 /// Replaces what was typed by the name of the file that it means.
 void FileDialog::preferExistingName()
 {
-    if (m_save)
+    if (m_purpose != Purpose::OpenFile)
         return;
     if (const std::optional<fs::path> found = inAnotherCase(typedPath()))
         m_name->setText(fromPath(*found));
@@ -82,13 +124,15 @@ void FileDialog::preferExistingName()
 /// Accepts a name with quotation marks in or around it, which Qt would take for separators of several names.
 void FileDialog::acceptQuoted()
 {
-    const fs::path file = typedPath();
-    std::error_code ignored;
-    const bool possible =
-        m_save ? fs::is_directory(file.parent_path(), ignored) && !fs::is_directory(file, ignored) : isFile(file);
-    if (possible) {
-        m_quoted = file;
+    const fs::path path = typedPath();
+    if (mayBeChosen(path)) {
+        m_quoted = path;
         done(Accepted); // without Qt's own interpretation of the name
+        return;
+    }
+    if (isFolder(path)) {
+        setDirectory(fromPath(path));
+        m_name->clear();
         return;
     }
     QMessageBox box{QMessageBox::Warning, windowTitle(), typed() + QStringLiteral("\nThere is no such file or folder."),

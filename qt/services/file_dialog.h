@@ -1,4 +1,4 @@
-// qt/services/file_dialog.h - Qt's file dialog for one file, which takes a typed name literally.
+// qt/services/file_dialog.h - Qt's file dialog for one file or folder, which takes a typed name literally.
 #pragma once
 
 #include <QFileDialog>
@@ -10,15 +10,17 @@ class QLineEdit;
 namespace tallyhoop::qt {
 
 /// Names are matched without regard to case when a file is opened, as the program does everywhere. Quotation marks
-/// around a name are dropped; inside one they belong to it.
+/// belong to a name that exists with them; else those around a name are dropped.
 class FileDialog : public QFileDialog
 {
     Q_OBJECT
 
 public:
-    FileDialog(QWidget* parent, const QString& caption, const std::filesystem::path& folder, bool save);
+    enum class Purpose { OpenFile, SaveFile, ChooseFolder };
 
-    /// @returns the file after the dialog was accepted
+    FileDialog(QWidget* parent, const QString& caption, const std::filesystem::path& folder, Purpose purpose);
+
+    /// @returns the file or folder after the dialog was accepted
     std::optional<std::filesystem::path> chosen() const;
 
 protected:
@@ -28,11 +30,13 @@ protected:
 private:
     QString typed() const;
     std::filesystem::path typedPath() const;
+    bool mayBeChosen(const std::filesystem::path& path) const;
+    void enableForName();
     void preferExistingName();
     void acceptQuoted();
 
     QLineEdit* m_name;
-    bool m_save;
+    Purpose m_purpose;
     std::optional<std::filesystem::path> m_quoted;
 };
 

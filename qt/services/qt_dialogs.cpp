@@ -206,7 +206,8 @@ std::optional<std::filesystem::path> QtDialogs::saveFile(const ui::FileChoice& c
 std::optional<std::filesystem::path> QtDialogs::choose(const ui::FileChoice& choice, bool save)
 {
     const Question question{m_desk};
-    FileDialog dialog{m_desk.windowForDialogs(), captionOf(choice.caption), choice.folder, save};
+    FileDialog dialog{m_desk.windowForDialogs(), captionOf(choice.caption), choice.folder,
+                      save ? FileDialog::Purpose::SaveFile : FileDialog::Purpose::OpenFile};
     dialog.setNameFilter(nameFilter(choice)); // Qt matches it in any case
     if (!choice.proposedName.empty())
         dialog.selectFile(toQString(choice.proposedName));
@@ -217,13 +218,9 @@ std::optional<std::filesystem::path> QtDialogs::chooseFolder(const std::string& 
                                                              const std::filesystem::path& folder)
 {
     const Question question{m_desk};
-    QFileDialog dialog{m_desk.windowForDialogs(), captionOf(caption), fromPath(folder)};
-    dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ShowDirsOnly);
-    dialog.setFileMode(QFileDialog::Directory);
+    FileDialog dialog{m_desk.windowForDialogs(), captionOf(caption), folder, FileDialog::Purpose::ChooseFolder};
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Choose"));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return std::nullopt;
-    return toPath(dialog.selectedFiles().constFirst());
+    return dialog.exec() == QDialog::Accepted ? dialog.chosen() : std::nullopt;
 }
 
 void QtDialogs::about(const std::filesystem::path& folder)
