@@ -71,14 +71,16 @@ std::string oneLine(const QString& typed)
     return fromQString(line.replace(QLatin1Char{'\n'}, QLatin1Char{' '}));
 }
 
-/// @returns how wide a window has to be for its title to be read, in a bold title bar with an icon and buttons
+/// @returns how wide the content of a window has to be for its title to be read, in a bold title bar with an icon and
+///          buttons
 int widthForTitle(const QWidget& window)
 {
     constexpr int kIconAndButtons = 140;
     QFont bold = QApplication::font();
     bold.setBold(true);
     const int width = QFontMetrics{bold}.horizontalAdvance(window.windowTitle()) + kIconAndButtons;
-    return std::min(width, roomForWindow(window).width());
+    const QMargins margins = window.layout()->contentsMargins();
+    return std::min(width, roomForWindow(window).width()) - margins.left() - margins.right();
 }
 
 /// A message box takes the size that its layout asks for, whatever its minimum width is.
