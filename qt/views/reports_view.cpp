@@ -9,7 +9,7 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr int kWidest = 960; ///< in wider lines, what belongs together would be too far apart
-constexpr int kFileRows = 7;
+constexpr int kFileRows = 7; ///< at least
 constexpr int kFileCharacters = 34;
 
 QLabel* strong(QLabel* label)
@@ -25,13 +25,10 @@ ReportsView::ReportsView(ReportsScreen& reports, Desk& desk) : Page{reports, des
     auto* const groups = look::column(look::kSection);
     groups->addWidget(frame(reports.fraMultipleOutput, textReports(reports)));
     groups->addWidget(frame(reports.fraPrinterOnly, printouts(reports)), 1);
-    groups->addWidget(frame(reports.fraCustomReports, customReports(reports)));
-
-    auto* const leaving = look::row();
-    leaving->addStretch(1);
-    leaving->addWidget(add(reports.cmdOpenFolder));
-    leaving->addWidget(add(reports.cmdExit));
-    groups->addLayout(leaving);
+    auto* const last = look::row(look::kSection); // together: a row more would be too high for a small display
+    last->addWidget(frame(reports.fraCustomReports, customReports(reports)), 1);
+    last->addWidget(add(reports.cmdExit), 0, Qt::AlignBottom);
+    groups->addLayout(last);
 
     auto* const block = new QWidget;
     block->setLayout(groups);
@@ -87,16 +84,17 @@ QLayout* ReportsView::selections(ReportsScreen& reports)
 
 QLayout* ReportsView::destinations(ReportsScreen& reports)
 {
-    auto* const printer = look::row();
-    printer->addWidget(add(reports.cmdDefaultPrinter));
-    printer->addStretch(1);
+    auto* const helpers = look::row();
+    helpers->addWidget(add(reports.cmdDefaultPrinter));
+    helpers->addWidget(add(reports.cmdOpenFolder));
+    helpers->addStretch(1);
 
     auto* const column = look::column(look::kTight);
     column->addWidget(strong(add(reports.lblDestination)));
     for (QRadioButton* const destination : addOptions(reports.optDestination))
         column->addWidget(destination);
     column->addSpacing(look::kGap);
-    column->addLayout(printer);
+    column->addLayout(helpers);
     column->addStretch(1);
     return column;
 }
@@ -113,8 +111,9 @@ QLayout* ReportsView::printouts(ReportsScreen& reports)
     auto* const left = look::column(look::kTight);
     for (QRadioButton* const printout : addOptions(reports.optSelected))
         left->addWidget(printout);
-    left->addStretch(1);
+    left->addSpacing(look::kGap);
     left->addLayout(commands);
+    left->addStretch(1); // below, so that in a high window the commands stay with what they act on
 
     QListView* const files = add(reports.filList);
     const QFontMetrics metrics = files->fontMetrics();
@@ -133,7 +132,9 @@ QLayout* ReportsView::customReports(ReportsScreen& reports)
 {
     auto* const row = look::row();
     row->addWidget(add(reports.cmdCustomReport));
-    row->addWidget(look::hint(tr("Enter results on the board and sort the players' scores as you like.")), 1);
+    QLabel* const hint = look::hint(tr("Enter results on the board and sort the players' scores as you like."));
+    hint->setWordWrap(false); // a text that wraps would keep the page from being lower than it would like to be
+    row->addWidget(hint, 1);
     return row;
 }
 

@@ -31,21 +31,25 @@ QPoint placeBeside(QSize window, const QRect& owner, const QRect& room)
 
 ScoresView::ScoresView(ScoresScreen& scores, Desk& desk) : Page{scores, desk}
 {
-    auto* const commands = look::row();
-    commands->addWidget(add(scores.cmdOk));
-    commands->addStretch();
-    commands->addWidget(add(scores.cmdBestFirst));
-    commands->addWidget(add(scores.cmdPrint));
-    commands->addWidget(add(scores.cmdPreview));
-    commands->addWidget(add(scores.cmdSavePdf));
-    commands->addWidget(add(scores.cmdCopy));
-    commands->addWidget(add(scores.cmdExit));
+    auto* const scoring = look::row();
+    scoring->addWidget(add(scores.cmdOk));
+    scoring->addWidget(add(scores.cmdBestFirst));
+    scoring->addStretch();
+
+    auto* const ways = look::row(); // in one row with those above, the window would be too wide for a small display
+    ways->addWidget(add(scores.cmdPrint));
+    ways->addWidget(add(scores.cmdPreview));
+    ways->addWidget(add(scores.cmdSavePdf));
+    ways->addWidget(add(scores.cmdCopy));
+    ways->addStretch();
+    ways->addWidget(add(scores.cmdExit));
 
     m_table = add(scores.msgScoreDisplay);
     auto* const whole = look::column();
     whole->addWidget(add(scores.lblInformation));
     whole->addWidget(m_table, 1);
-    whole->addLayout(commands);
+    whole->addLayout(scoring);
+    whole->addLayout(ways);
     whole->addWidget(add(scores.filList)); // hidden
     setContent(whole);
     follow(scores.msgScoreDisplay.revision, [this](unsigned) { fitRows(); });

@@ -7,6 +7,7 @@
 #include "fakes/scratch_folder.h"
 #include "qt/widgets/page_area.h"
 
+#include <QApplication>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QTest>
@@ -53,6 +54,11 @@ TEST_F(ReportsViewTest, FitsASmallScreen)
 {
     EXPECT_LE(view.findChild<PageArea*>()->widget()->minimumSizeHint().width(), 1024);
     EXPECT_LE(view.minimumSizeHint().height(), 700);
+
+    // Nor does it scroll on a display of 1024 x 768 pixels, whose title bars and panel take 68.
+    view.resize(1024, 700);
+    QApplication::processEvents();
+    EXPECT_LE(view.findChild<PageArea*>()->widget()->height(), view.findChild<PageArea*>()->viewport()->height());
 }
 
 TEST_F(ReportsViewTest, TitlesItsFrames)
