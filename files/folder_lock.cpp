@@ -21,7 +21,8 @@ FolderLock::~FolderLock() = default;
 FolderLock::FolderLock(const std::filesystem::path& folder)
     : m_folder{open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)} // programs that this one starts do not hold it
 {
-    m_heldElsewhere = m_folder >= 0 && flock(m_folder, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    m_heldHere = m_folder >= 0 && flock(m_folder, LOCK_EX | LOCK_NB) == 0;
+    m_heldElsewhere = m_folder >= 0 && !m_heldHere && errno == EWOULDBLOCK;
 }
 
 FolderLock::~FolderLock()

@@ -1,4 +1,4 @@
-// files/folder_lock.h - tells whether the program is open on a folder already, without leaving anything in it.
+// files/folder_lock.h - tells whether a program is at work on a folder already, without leaving anything in it.
 #pragma once
 
 #include <filesystem>
@@ -18,8 +18,12 @@ public:
     /// @returns whether somebody else held it when this one tried
     bool isHeldElsewhere() const { return m_heldElsewhere; }
 
+    /// @returns whether this one holds it, and everybody else would be told; false also where nobody can tell
+    bool isHeldHere() const { return m_heldHere; }
+
 private:
     int m_folder = -1;
+    bool m_heldHere = false;
     bool m_heldElsewhere = false;
 };
 

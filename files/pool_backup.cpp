@@ -2,11 +2,13 @@
 #include "files/pool_backup.h"
 
 #include "base/windows1252.h"
+#include "files/folder_lock.h"
 #include "files/replace_file.h"
 #include "files/replace_file_steps.h"
 
 #include <fmt/format.h>
 #include <optional>
+#include <random>
 #include <system_error>
 
 namespace tallyhoop {
@@ -14,8 +16,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A fixed name: what a crash leaves is swept away by the next backup.
-constexpr const char* kGathering = ".Backup.tmp~";
+/// Around a number in the name of the hidden folder in which a backup is gathered.
+constexpr const char* kGatheringBegins = ".Backup.";
+constexpr const char* kGatheringEnds = ".tmp~";
 
 Failure failureAt(const fs::path& path, const std::string& reason) { return Failure{shown(path) + "\r\n" + reason}; }
 
@@ -47,10 +50,12 @@ enum class Unreadable {
     IsLinked ///< it gets a second name, where the file system has such
 };
 
-Result<Done> copyInto(const fs::path& gathering, const fs::path& source, Unreadable unreadable)
+/// @param shownFolder the folder as a failure names it
+Result<Done> copyInto(const fs::path& folder, const fs::path& source, Unreadable unreadable,
+                      const fs::path& shownFolder)
 {
     const Result<std::string> bytes = readFile(source);
-    const fs::path copy = gathering / source.filename();
+    const fs::path copy = folder / source.filename();
     if (!bytes) {
         if (unreadable == Unreadable::Fails)
             return failureAt(source, bytes.failure().message);
@@ -60,23 +65,65 @@ Result<Done> copyInto(const fs::path& gathering, const fs::path& source, Unreada
         return error ? Result<Done>{failureAt(source, bytes.failure().message)} : Done{};
     }
     if (const Result<Done> written = replaceFile(copy, *bytes); !written)
-        return failureAt(copy, written.failure().message);
+        return failureAt(shownFolder / source.filename(), written.failure().message);
     keepTimeAndMode(source, copy);
     return Done{};
 }
 
-Result<Done> gather(const std::vector<fs::path>& sources, const fs::path& gathering, Unreadable unreadable)
+/// A hidden folder of a program's own, in which a backup grows. It is held as long as its program works on it, and is
+/// removed at the end unless it has become the backup by then.
+class Gathering
 {
-    std::error_code error;
-    fs::remove_all(gathering, error);
-    if (!error)
-        fs::create_directory(gathering, error);
-    if (error)
-        return failureAt(gathering, error);
-    for (const fs::path& source : sources)
-        if (Result<Done> copied = copyInto(gathering, source, unreadable); !copied)
-            return copied;
-    return Done{};
+public:
+    /// @param folder where the backup will be
+    explicit Gathering(const fs::path& folder)
+    {
+        do
+            create(folder); // until the name is new, and nobody has taken the new folder for one left by a crash
+        while (!m_error && (!m_lock || m_lock->isHeldElsewhere() || !fs::is_directory(m_path)));
+    }
+    ~Gathering()
+    {
+        std::error_code ignored;
+        if (!m_error)
+            fs::remove_all(m_path, ignored);
+    }
+    Gathering(const Gathering&) = delete;
+    Gathering& operator=(const Gathering&) = delete;
+
+    const fs::path& path() const { return m_path; }
+
+    /// @returns why the folder could not be made
+    std::error_code error() const { return m_error; }
+
+private:
+    void create(const fs::path& folder)
+    {
+        m_lock.reset();
+        m_path = folder / fmt::format("{}{:08x}{}", kGatheringBegins, std::random_device{}(), kGatheringEnds);
+        if (fs::create_directory(m_path, m_error) && !m_error)
+            m_lock.emplace(m_path);
+    }
+
+    fs::path m_path;
+    std::error_code m_error;
+    std::optional<FolderLock> m_lock;
+};
+
+/// Removes what crashed programs have left. Where nobody can tell whether a program is still at work on it, it stays.
+void removeLeftovers(const fs::path& folder)
+{
+    std::error_code ignored;
+    std::vector<fs::path> leftovers;
+    for (fs::directory_iterator entry{folder, ignored}; !ignored && entry != fs::directory_iterator{};
+         entry.increment(ignored)) {
+        const std::string name = shown(entry->path().filename());
+        if (name.starts_with(kGatheringBegins) && name.ends_with(kGatheringEnds) && !entry->is_symlink(ignored))
+            leftovers.push_back(entry->path());
+    }
+    for (const fs::path& leftover : leftovers)
+        if (const FolderLock lock{leftover}; lock.isHeldHere())
+            fs::remove_all(leftover, ignored);
 }
 
 /// @returns a subfolder that is not there yet
@@ -88,24 +135,34 @@ fs::path freeName(const DataFolder& folder, const std::string& name)
     return folder.folder() / candidate;
 }
 
+/// Lets what was gathered take a free name, which another program may want at the same moment.
+Result<fs::path> appear(const DataFolder& folder, const fs::path& gathering, const std::string& name)
+{
+    for (;;) {
+        const fs::path backup = freeName(folder, name);
+        std::error_code error;
+        fs::rename(gathering, backup, error);
+        if (!error)
+            return backup;
+        if (freeName(folder, name) == backup)
+            return failureAt(backup, error);
+    }
+}
+
 Result<fs::path> keep(const DataFolder& folder, const std::vector<fs::path>& sources, std::chrono::local_seconds now,
                       Unreadable unreadable)
 {
-    const fs::path gathering = folder.folder() / kGathering;
-    const fs::path backup = freeName(folder, backupName(now));
-    Result<Done> kept = gather(sources, gathering, unreadable);
-    if (kept) {
-        std::error_code error;
-        fs::rename(gathering, backup, error);
-        if (error)
-            kept = failureAt(backup, error);
-    }
-    if (!kept) {
-        std::error_code ignored;
-        fs::remove_all(gathering, ignored);
-        return kept.failure();
-    }
-    flushFolder(folder.folder());
+    removeLeftovers(folder.folder());
+    const Gathering gathering{folder.folder()};
+    if (gathering.error())
+        return failureAt(folder.folder(), gathering.error());
+    const std::string name = backupName(now);
+    for (const fs::path& source : sources)
+        if (Result<Done> copied = copyInto(gathering.path(), source, unreadable, freeName(folder, name)); !copied)
+            return copied.failure();
+    Result<fs::path> backup = appear(folder, gathering.path(), name);
+    if (backup)
+        flushFolder(folder.folder());
     return backup;
 }
 
@@ -137,7 +194,8 @@ Result<Done> putBack(const DataFolder& folder, const fs::path& backup)
     std::error_code error;
     for (fs::directory_iterator entry{backup, error}; !error && entry != fs::directory_iterator{};
          entry.increment(error))
-        if (Result<Done> copied = copyInto(folder.folder(), entry->path(), Unreadable::Fails); !copied && outcome)
+        if (Result<Done> copied = copyInto(folder.folder(), entry->path(), Unreadable::Fails, folder.folder());
+            !copied && outcome)
             outcome = copied;
     return error ? failureAt(backup, error) : outcome;
 }

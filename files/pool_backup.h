@@ -13,10 +13,12 @@ namespace tallyhoop {
 
 /// Copies files of the folder, with their times and modes, into a new subfolder such as "Backup 2026-11-20 101530". An
 /// existing one is never added to: then " (2)", " (3)" ... follows the name. The subfolder appears with all its
-/// files or, whatever happens meanwhile, not at all; the files themselves stay where they are.
+/// files or, whatever happens meanwhile, not at all; the files themselves stay where they are. Several programs can do
+/// so at the same time.
 /// @param names bare names of files that are there, at least one; a symbolic link is kept as the file that it leads to
 /// @param now   local time, for the subfolder's name
-/// @returns the subfolder; or a failure that names the file or folder in the way, with nothing changed
+/// @returns the subfolder; or a failure that names the file or folder in the way, the copy by its place in the
+///          subfolder that was to be, with nothing changed
 Result<std::filesystem::path> backUp(const DataFolder& folder, const std::vector<std::string>& names,
                                      std::chrono::local_seconds now);
 

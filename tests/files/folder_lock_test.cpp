@@ -13,6 +13,8 @@ TEST(FolderLock, IsHeldByOneAtATime)
     {
         const FolderLock first{scratch.path()};
         EXPECT_FALSE(first.isHeldElsewhere());
+        EXPECT_TRUE(first.isHeldHere());
+        EXPECT_FALSE(FolderLock{scratch.path()}.isHeldHere());
         EXPECT_TRUE(FolderLock{scratch.path()}.isHeldElsewhere());
         EXPECT_TRUE(FolderLock{scratch.path() / "."}.isHeldElsewhere()) << "the same folder by another name";
     }
@@ -39,6 +41,7 @@ TEST(FolderLock, OfAFolderThatIsNotThereIsNotHeldElsewhere)
     const ScratchFolder scratch;
     const FolderLock lock{scratch.path() / "missing"};
     EXPECT_FALSE(FolderLock{scratch.path() / "missing"}.isHeldElsewhere());
+    EXPECT_FALSE(lock.isHeldHere());
 }
 
 } // namespace tallyhoop::test

@@ -2,9 +2,14 @@
 #include "files/pool_backup.h"
 
 #include "fakes/scratch_folder.h"
+#include "files/folder_lock.h"
+#include "files/replace_file.h"
 
 #include <algorithm>
+#include <atomic>
 #include <gtest/gtest.h>
+#include <thread>
+#include <vector>
 
 namespace tallyhoop {
 namespace {
@@ -86,12 +91,46 @@ TEST(BackUp, RemovesWhatACrashLeft)
 {
     const ScratchFolder scratch;
     scratch.put("POOLSTART.THS", "field");
-    fs::create_directory(scratch.path() / ".Backup.tmp~");
-    scratch.put(".Backup.tmp~/TALLYHOOP.THS", "half a backup");
+    fs::create_directory(scratch.path() / ".Backup.0badcafe.tmp~");
+    scratch.put(".Backup.0badcafe.tmp~/TALLYHOOP.THS", "half a backup");
     const Result<fs::path> backup = backUp(scratch.folder(), {"POOLSTART.THS"}, kMoment);
     ASSERT_TRUE(backup);
     EXPECT_EQ(entriesOf(*backup), std::vector<std::string>{"POOLSTART.THS"});
-    EXPECT_FALSE(scratch.has(".Backup.tmp~"));
+    EXPECT_FALSE(scratch.has(".Backup.0badcafe.tmp~"));
+}
+
+TEST(BackUp, LeavesWhatAnotherProgramIsStillGathering)
+{
+    const ScratchFolder scratch;
+    scratch.put("POOLSTART.THS", "field");
+    const fs::path theirs = scratch.path() / ".Backup.0badcafe.tmp~";
+    fs::create_directory(theirs);
+    scratch.put(".Backup.0badcafe.tmp~/TALLYHOOP.THS", "half a backup");
+    const FolderLock held{theirs};
+    ASSERT_TRUE(backUp(scratch.folder(), {"POOLSTART.THS"}, kMoment));
+    EXPECT_EQ(scratch.get(".Backup.0badcafe.tmp~/TALLYHOOP.THS"), "half a backup");
+}
+
+TEST(BackUp, IsWholeAlsoWhenSeveralProgramsMakeOneAtTheSameMoment)
+{
+    const ScratchFolder scratch;
+    const fs::path file = scratch.put("POOLSTART.THS", "field");
+    constexpr int kPrograms = 4;
+    constexpr int kBackupsOfEach = 20;
+    std::atomic<int> whole = 0;
+    std::vector<std::thread> programs;
+    for (int program = 0; program < kPrograms; ++program)
+        programs.emplace_back([&] {
+            for (int i = 0; i < kBackupsOfEach; ++i) {
+                const Result<fs::path> backup = backUpFile(file, kMoment + std::chrono::seconds{i});
+                if (backup && readFile(*backup / "POOLSTART.THS"))
+                    ++whole;
+            }
+        });
+    for (std::thread& program : programs)
+        program.join();
+    EXPECT_EQ(whole, kPrograms * kBackupsOfEach);
+    EXPECT_EQ(entriesOf(scratch.path()).size(), 1u + kPrograms * kBackupsOfEach) << "the file and every backup";
 }
 
 TEST(BackUp, KeepsTimeAndMode)
@@ -144,7 +183,7 @@ TEST(BackUp, NamesTheFolderThatIsGone)
     const DataFolder gone{scratch.path() / "gone"};
     const Result<fs::path> backup = backUp(gone, {"POOLSTART.THS"}, kMoment);
     ASSERT_FALSE(backup);
-    EXPECT_EQ(backup.failure().message, (gone.folder() / ".Backup.tmp~").string() + "\r\nNo such file or directory");
+    EXPECT_EQ(backup.failure().message, gone.folder().string() + "\r\nNo such file or directory");
 }
 
 TEST(BackUp, KeepsOneFileBesideItAlsoWhenItIsTooLargeToBeRead)

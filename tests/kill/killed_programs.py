@@ -73,7 +73,11 @@ class KilledProgram:
             return content == self.pool.pristine.get(file.name), content == self.pool.demo.get(file.name)
 
         known = {*self.pool.pristine, *self.pool.demo, *self.writer.files}
-        return frozenset(("Backup" if file.name.startswith("Backup ") else file.name, kind(file))
+        def name(file):
+            """Without what is different every time."""
+            return file.name[:file.name.index("Backup") + 6] if file.name.startswith(("Backup ", ".Backup.")) else file.name
+
+        return frozenset((name(file), kind(file))
                          for file in self.pool.folder.iterdir()
                          if not self.pool.is_program(file) or file.is_dir()
                          if file.name in known or file.is_dir() or file.name.endswith(".tmp~"))
