@@ -3,7 +3,6 @@
 
 #include "base/text.h"
 #include "base/windows1252.h"
-#include "files/replace_file.h"
 
 #include <algorithm>
 #include <array>
@@ -156,10 +155,10 @@ Read<std::vector<FolderFile>> DataFolder::list(std::string_view extension) const
     return {std::move(found), {}};
 }
 
-Result<std::string> DataFolder::read(std::string_view name) const
+Result<std::string> DataFolder::read(std::string_view name, std::size_t mostBytes) const
 {
     const std::optional<fs::path> file = pathOf(name);
-    return file ? readFile(*file) : refusedName(name);
+    return file ? readFile(*file, mostBytes) : refusedName(name);
 }
 
 Result<Done> DataFolder::write(std::string_view name, std::string_view bytes) const

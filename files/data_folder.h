@@ -6,7 +6,9 @@
 #pragma once
 
 #include "base/result.h"
+#include "files/replace_file.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -46,15 +48,14 @@ public:
 
     /// @param extension such as ".THC", matched in any case
     /// @returns the regular files with this extension in ascending case-insensitive order, equal ones in byte order;
-    /// the
-    ///          trouble when the folder cannot be listed, or not whole
+    ///          the trouble when the folder cannot be listed, or not whole
     Read<std::vector<FolderFile>> list(std::string_view extension) const;
 
     /// The same for those who need no reason; empty when the folder cannot be listed.
     std::vector<FolderFile> files(std::string_view extension) const { return list(extension).value; }
 
-    /// @returns the whole file, or a failure with the system's reason
-    Result<std::string> read(std::string_view name) const;
+    /// @returns the whole file, or a failure with the system's reason, also when it is larger than may be
+    Result<std::string> read(std::string_view name, std::size_t mostBytes = kMostBytesOfList) const;
 
     /// Replaces the file as a whole.
     Result<Done> write(std::string_view name, std::string_view bytes) const;

@@ -28,9 +28,10 @@ Result<Done> replaceFile(const std::filesystem::path& file, std::string_view byt
 /// called once, before anything is written.
 void outliveFileSizeLimits();
 
-/// The largest files that are read: no selection and no list of ours comes near, and a larger one would only fill the
-/// memory.
+/// The largest files that are read: no selection, no field and settings, and no list of ours comes near, and a larger
+/// one would only fill the memory.
 inline constexpr std::size_t kMostBytesOfSelection = 1u << 20;
+inline constexpr std::size_t kMostBytesOfSetup = 1u << 20;
 inline constexpr std::size_t kMostBytesOfList = 64u << 20;
 
 /// Reads a whole file.

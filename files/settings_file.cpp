@@ -3,6 +3,7 @@
 
 #include "base/lines.h"
 #include "files/file_names.h"
+#include "files/replace_file.h"
 
 #include <string>
 #include <vector>
@@ -11,7 +12,7 @@ namespace tallyhoop {
 
 bool demoModeIsOn(const DataFolder& folder)
 {
-    const Result<std::string> bytes = folder.read(file_name::kSettings);
+    const Result<std::string> bytes = folder.read(file_name::kSettings, kMostBytesOfSetup);
     return bytes && settingsSayDemo(*bytes);
 }
 

@@ -4,6 +4,7 @@
 #include "base/lines.h"
 #include "base/text.h"
 #include "files/file_names.h"
+#include "files/replace_file.h"
 
 #include <algorithm>
 #include <array>
@@ -50,31 +51,53 @@ Field fieldOfLines(const Lines& lines)
     return field;
 }
 
-Read<Field> damaged() { return {defaultField(), Failure{"Problem with file, will use default values"}}; }
+constexpr std::size_t kComment1 = 91;
+constexpr std::size_t kComment2 = 92;
+
+/// @returns whether they were short enough
+bool shortenComments(Lines& lines)
+{
+    const bool areShort =
+        lines[kComment1].size() <= kLongestCommentRead && lines[kComment2].size() <= kLongestCommentRead;
+    lines[kComment1].resize(std::min(lines[kComment1].size(), kLongestCommentRead));
+    lines[kComment2].resize(std::min(lines[kComment2].size(), kLongestCommentRead));
+    return areShort;
+}
+
+ReadField nothingYet() { return {{defaultField(), {}}, true}; }
+
+ReadField damagedInSilence() { return {{defaultField(), {}}, false}; }
+
+ReadField damaged() { return {{defaultField(), Failure{"Problem with file, will use default values"}}, false}; }
 
 } // namespace
 
-Read<Field> readSetup(std::string_view bytes, const Field& before)
+ReadField readSetup(std::string_view bytes, const Field& before)
 {
     const Lines fileLines = linesOf(bytes);
     if (fileLines.empty())
-        return {defaultField(), {}};
+        return nothingYet();
     if (fileLines.front() != kStartMarker)
         return damaged();
     const std::size_t afterMarker = fileLines.size() - 1;
-    if (afterMarker == 0 || afterMarker > kMostLines)
-        return {defaultField(), {}};
+    if (afterMarker == 0)
+        return nothingYet();
+    if (afterMarker > kMostLines)
+        return damagedInSilence();
     if (fileLines.back() != kEndMarker)
         return damaged();
     Lines lines = linesOfField(before);
     std::copy_n(fileLines.begin() + 1, std::min(afterMarker, kFieldLines), lines.begin());
-    return {fieldOfLines(lines), {}};
+    const bool isWhole = shortenComments(lines) && afterMarker <= kFieldLines + 1;
+    return {{fieldOfLines(lines), {}}, isWhole};
 }
 
-Read<Field> readField(const DataFolder& folder, const Field& before)
+ReadField readField(const DataFolder& folder, const Field& before)
 {
-    const Result<std::string> bytes = folder.read(file_name::kSetup);
-    return bytes ? readSetup(*bytes, before) : Read<Field>{defaultField(), {}};
+    const Result<std::string> bytes = folder.read(file_name::kSetup, kMostBytesOfSetup);
+    if (bytes)
+        return readSetup(*bytes, before);
+    return folder.exists(file_name::kSetup) ? damagedInSilence() : nothingYet();
 }
 
 std::string setupFile(const Field& field)

@@ -5,19 +5,28 @@
 #include "files/data_folder.h"
 #include "pool/field.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace tallyhoop {
 
+/// A field as it was read; the trouble is what a person is told of.
+struct [[nodiscard]] ReadField : Read<Field> {
+    bool isWhole = true; ///< false = the file holds more than the field: a save would lose that
+};
+
+/// Of a longer line only this much is taken for a comment: to show a far longer one takes minutes.
+inline constexpr std::size_t kLongestCommentRead = 32'000;
+
 /// Reads a setup file's bytes. A short file is taken as far as it goes, when it ends with its end marker. One that
 /// holds nothing, or far too much, gives the default field; a damaged one does, too, and the trouble is set.
 /// @param before what the fields hold that a short file lacks
-Read<Field> readSetup(std::string_view bytes, const Field& before = {});
+ReadField readSetup(std::string_view bytes, const Field& before = {});
 
-/// Reads the folder's field; one that is missing or cannot be opened is the default field without any trouble, for that
+/// Reads the folder's field; one that is missing or cannot be read is the default field without any trouble, for that
 /// is how every pool begins.
-Read<Field> readField(const DataFolder& folder, const Field& before = {});
+ReadField readField(const DataFolder& folder, const Field& before = {});
 
 /// @returns the bytes of a field's file
 std::string setupFile(const Field& field);

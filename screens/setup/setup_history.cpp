@@ -1,6 +1,8 @@
 // screens/setup/setup_history.cpp - compares the texts one by one to tell a step from a step that goes on.
 #include "screens/setup/setup_history.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 
@@ -8,7 +10,8 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr std::size_t kMostSteps = 200; ///< a few megabytes at the most
+constexpr std::size_t kMostSteps = 200;
+constexpr std::size_t kMostBytes = 16u << 20; ///< of all steps: a file may hold texts far longer than anybody types
 
 std::vector<std::string> textsOf(const Field& field)
 {
@@ -31,6 +34,14 @@ std::vector<int> differences(const Field& left, const Field& right)
         if (before[i] != after[i])
             places.push_back(static_cast<int>(i));
     return places;
+}
+
+std::size_t mostStepsBefore(const Field& field)
+{
+    std::size_t bytes = 1;
+    for (const std::string& text : textsOf(field))
+        bytes += text.size();
+    return std::clamp(kMostBytes / bytes, std::size_t{1}, kMostSteps);
 }
 
 } // namespace
@@ -57,8 +68,8 @@ void SetupHistory::note(Field now)
         m_past.pop_back(); // typed back to what it was: nothing of this step is left to undo
         m_lastText.reset();
     }
-    if (m_past.size() > kMostSteps)
-        m_past.erase(m_past.begin());
+    if (const std::size_t most = mostStepsBefore(now); m_past.size() > most)
+        m_past.erase(m_past.begin(), m_past.end() - static_cast<std::ptrdiff_t>(most));
     m_future.clear();
     m_now = std::move(now);
 }

@@ -32,7 +32,7 @@ constexpr const char* kDemoNews =
     "The sample pool is there: leave this screen, and choose File, Open Selection to look at one of its players.";
 constexpr const char* kNoListStatus =
     "There is no list of team names: choose Override Selecting Team Names to type them.";
-
+constexpr const char* kUnreadableFieldStatus = "The field could not be read whole; a save keeps the old file.";
 constexpr const char* kUnreadableListStatus =
     "The list of team names could not be read whole; a save keeps the old file.";
 
@@ -58,11 +58,12 @@ void SetupScreen::load()
 void SetupScreen::readPool()
 {
     m_known.note(m_folder.pathTo(file_name::kSetup));
-    const Read<Field> read = readField(m_folder, m_field);
-    if (read.trouble) {
+    const ReadField read = readField(m_folder, m_field);
+    m_fieldIsWhole = read.isWhole;
+    if (!read.isWhole)
         m_known.noteDamage(m_folder.pathTo(file_name::kSetup));
+    if (read.trouble)
         showTrouble(m_platform.dialogs, *read.trouble);
-    }
     m_field = read.value;
     m_isDemo = demoModeIsOn(m_folder);
     m_isFinalizing = false;
@@ -186,6 +187,8 @@ void SetupScreen::showStatus()
         status = std::string{kUnreadableListStatus} + kBetweenSentences + status;
     else if (!m_editor.isRead())
         status = std::string{kNoListStatus} + kBetweenSentences + status;
+    if (!m_fieldIsWhole)
+        status = std::string{kUnreadableFieldStatus} + kBetweenSentences + status;
     if (m_isFinalizing)
         status += std::string{kBetweenSentences} + kFinalizeStatus;
 }

@@ -117,6 +117,7 @@ private:
     Field m_saved;      ///< what the screen held when it was loaded or saved last
     SeedTexts m_seeds;  ///< of the field on screen
     SetupHistory m_history;
+    bool m_fieldIsWhole = true;  ///< the field on the disk holds no more than was read of it
     bool m_isDemo = false;       ///< the folder holds the sample pool
     bool m_isFinalizing = false; ///< Finalize Tournament is pressed: the next save makes the field final
     TeamNameEditor m_editor{m_folder, m_platform, lstTeamNames};

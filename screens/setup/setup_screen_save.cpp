@@ -74,6 +74,7 @@ void SetupScreen::saveStartingField()
     if (!saveDataFile(m_platform, m_known, m_folder, file_name::kSetup, setupFile(field)))
         return;
     m_saved = std::move(field);
+    m_fieldIsWhole = true;
     if (m_isFinalizing)
         leave();
 }

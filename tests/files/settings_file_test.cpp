@@ -37,6 +37,15 @@ TEST(DemoModeIsOff, WithAnyOtherFirstLine)
     }
 }
 
+TEST(DemoModeIsOff, WithAFileThatIsNoneOfOurs)
+{
+    const ScratchFolder scratch;
+    scratch.put("TALLYHOOP.INI", "1\r\n" + std::string((1u << 20) - 3, 'x')); // 1 MB
+    EXPECT_TRUE(demoModeIsOn(scratch.folder()));
+    scratch.put("TALLYHOOP.INI", "1\r\n" + std::string((1u << 20) - 2, 'x'));
+    EXPECT_FALSE(demoModeIsOn(scratch.folder()));
+}
+
 TEST(DemoModeIsOff, WithoutSettings)
 {
     const ScratchFolder scratch;

@@ -194,6 +194,53 @@ TEST(ReadSetup, TurnsBarsInCommentsIntoLineBreaksAndLeavesThemElsewhere)
     EXPECT_EQ(field.finalized, "a|b");
 }
 
+TEST(ReadSetup, SaysWhenTheFileHoldsMoreThanTheField)
+{
+    EXPECT_TRUE(readSetup(fileWith(94, "*END*")).isWhole);
+    EXPECT_FALSE(readSetup(fileWith(95, "*END*")).isWhole) << "a line of which the field knows nothing";
+    EXPECT_FALSE(readSetup(fileWith(101, "*END*")).isWhole) << "the defaults, without trouble";
+    EXPECT_FALSE(readSetup(crlf({"*start*", "Duke", "*END*"})).isWhole) << "the defaults, with trouble";
+    EXPECT_TRUE(readSetup("").isWhole) << "nothing is lost with nothing";
+    EXPECT_TRUE(readSetup("*START*\r\n").isWhole);
+}
+
+TEST(ReadSetup, TakesTheBeginningOfACommentThatIsFarTooLong)
+{
+    Field field = numberedField();
+    field.comment1 = std::string(32'000, 'a');
+    field.comment2 = std::string(32'000, 'b');
+    EXPECT_EQ(readSetup(setupFile(field)).value, field);
+    EXPECT_TRUE(readSetup(setupFile(field)).isWhole);
+    const Field expected = field;
+    field.comment1 += 'c';
+    EXPECT_EQ(readSetup(setupFile(field)).value, expected);
+    EXPECT_FALSE(readSetup(setupFile(field)).isWhole);
+    field = expected;
+    field.comment2 += 'c';
+    EXPECT_EQ(readSetup(setupFile(field)).value, expected);
+    EXPECT_FALSE(readSetup(setupFile(field)).isWhole);
+}
+
+TEST(ReadField, IsWholeWhereThereIsNoFileAndNotWhereItCannotBeRead)
+{
+    const ScratchFolder scratch;
+    EXPECT_TRUE(readField(scratch.folder()).isWhole);
+    fs::create_directory(scratch.path() / "POOLSTART.THS");
+    EXPECT_FALSE(readField(scratch.folder()).isWhole);
+}
+
+TEST(ReadField, TakesAFileOfUpToAMegabyte)
+{
+    const ScratchFolder scratch;
+    std::string bytes = fileWith(94, "*END*");
+    bytes.insert(9, std::string((1u << 20) - bytes.size(), 'x')); // before the first team, after "*START*\r\n"
+    scratch.put("POOLSTART.THS", bytes);
+    EXPECT_EQ(readField(scratch.folder()).value.title, "line 64");
+    scratch.put("POOLSTART.THS", bytes + "x");
+    expectDefaultsWithoutTrouble(readField(scratch.folder()));
+    EXPECT_FALSE(readField(scratch.folder()).isWhole);
+}
+
 TEST(ReadField, GivesDefaultsWithoutTroubleWhenThereIsNoFile)
 {
     const ScratchFolder scratch;
