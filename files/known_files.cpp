@@ -1,6 +1,7 @@
 // files/known_files.cpp - comparing a file with what it held.
 #include "files/known_files.h"
 
+#include "base/windows1252.h"
 #include "files/data_folder.h"
 #include "files/replace_file.h"
 
@@ -17,9 +18,15 @@ bool FileContent::isSameAs(const FileContent& other) const
 
 FileContent KnownFiles::contentOf(const std::filesystem::path& file)
 {
-    std::error_code ignored;
-    if (!std::filesystem::is_regular_file(file, ignored))
-        return {}; // what is no file cannot be replaced: the writing says so
+    namespace fs = std::filesystem;
+    std::error_code error;
+    const fs::file_status status = fs::status(file, error);
+    // Of a folder that may not be entered nothing is replaced either: the writing says so, as it does of what is no
+    // file.
+    if (status.type() == fs::file_type::none && error != std::errc::permission_denied)
+        return {true, Failure{fromUtf8(error.message())}, {}};
+    if (!fs::is_regular_file(status))
+        return {};
     const Result<std::string> bytes = readFile(file);
     return bytes ? FileContent{true, {}, *bytes} : FileContent{true, bytes.failure(), {}};
 }

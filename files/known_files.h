@@ -17,7 +17,7 @@ namespace tallyhoop {
 
 /// What is at the place of a file.
 struct FileContent {
-    bool isThere = false;
+    bool isThere = false;             ///< also when nobody can tell
     std::optional<Failure> trouble{}; ///< why it cannot be read
     std::string bytes;                ///< empty also when it cannot be read
 

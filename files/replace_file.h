@@ -17,10 +17,10 @@ inline constexpr const char* kHeldByAnother = "Another program is saving this fi
 /// flushed to the disk, and take the file's place by a rename. Where that name cannot be used, the temporary gets one
 /// of its own. A symbolic link is followed, a file's mode is kept.
 /// @param mayReplace asked just before the file takes its place, when no other program can be about to replace it; no =
-///                   it stays as it is. Empty = yes
-/// @returns a failure with the system's reason, or kHeldByAnother when another program has been saving the file for
-/// half
-///          a second; then the old file is untouched and the temporary is gone
+///                   it stays as it is. Empty = yes. (Two programs can be about to where the file system has no locks,
+///                   or where what is in the way of the temporary is a link or may not even be read.)
+/// @returns a failure with the system's reason, or kHeldByAnother when other programs have been saving the file for
+///          half a second in all; then the old file is untouched and the temporary is gone
 Result<Done> replaceFile(const std::filesystem::path& file, std::string_view bytes,
                          const std::function<bool()>& mayReplace = {});
 
@@ -36,8 +36,7 @@ inline constexpr std::size_t kMostBytesOfList = 64u << 20;
 
 /// Reads a whole file.
 /// @returns a failure with the system's reason when it is missing, not a file, or unreadable; with a sentence that
-/// names
-///          the limit when it is larger
+///          names the limit when it is larger
 Result<std::string> readFile(const std::filesystem::path& file, std::size_t mostBytes = kMostBytesOfList);
 
 } // namespace tallyhoop

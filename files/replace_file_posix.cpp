@@ -61,11 +61,12 @@ std::optional<bool> isStillAt(const fs::path& path, const struct stat& open)
     return open.st_dev == there.st_dev && open.st_ino == there.st_ino;
 }
 
-/// @returns 0, or -1 and errno; EWOULDBLOCK when another program has held the lock for half a second
-int lockInTime(int descriptor)
+using Deadline = std::chrono::steady_clock::time_point;
+
+/// @returns 0, or -1 and errno; EWOULDBLOCK when another program holds the lock until the deadline
+int lockInTime(int descriptor, Deadline deadline)
 {
     using namespace std::chrono_literals;
-    const auto deadline = std::chrono::steady_clock::now() + 500ms;
     for (;;) {
         if (uninterrupted([&] { return ::flock(descriptor, LOCK_EX | LOCK_NB); }) == 0)
             return 0;
@@ -79,26 +80,28 @@ int lockInTime(int descriptor)
     }
 }
 
-/// Opens the shared temporary file for us alone: the demo installer may be writing the same file of the same folder
-/// right now. Nothing but a file that has no other name is ever opened so: what a link leads to is not ours.
-/// @returns -1 and errno when it cannot be had; EWOULDBLOCK when another program keeps it
-int openShared(const fs::path& temporary)
+/// Opens what is at the shared temporary's place for us alone: another program may be saving the same file right now.
+/// What a link leads to is never opened so: it is not ours.
+/// @param accepts whether it is of use, once it is locked
+/// @returns -1 and errno when it cannot be had; EWOULDBLOCK when others keep it until the deadline
+int openLocked(const fs::path& temporary, int flags, Deadline deadline, bool (*accepts)(const struct stat&))
 {
-    constexpr int kMostHolders = 50; // one after the other, each of whom saves something
-    for (int holder = 0; holder < kMostHolders; ++holder) {
+    for (;;) {
         const int descriptor = uninterrupted(
-            [&] { return ::open(temporary.c_str(), O_CREAT | O_WRONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666); });
+            [&] { return ::open(temporary.c_str(), flags | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY, 0666); });
         if (descriptor < 0)
             return -1;
         struct stat status {
         };
         std::optional<bool> isStillThere = false;
         int error = 0;
-        if (lockInTime(descriptor) != 0 || ::fstat(descriptor, &status) != 0 ||
+        if (lockInTime(descriptor, deadline) != 0 || ::fstat(descriptor, &status) != 0 ||
             !(isStillThere = isStillAt(temporary, status)))
             error = errno;
-        else if (*isStillThere && (!S_ISREG(status.st_mode) || status.st_nlink != 1))
+        else if (*isStillThere && !accepts(status))
             error = EMLINK;
+        else if (!*isStillThere && std::chrono::steady_clock::now() >= deadline)
+            error = EWOULDBLOCK;
         if (error == 0 && *isStillThere)
             return descriptor;
         ::close(descriptor);
@@ -108,8 +111,40 @@ int openShared(const fs::path& temporary)
         }
         // While we waited, the other one has put this very file in place, or taken it away.
     }
-    errno = EWOULDBLOCK;
-    return -1;
+}
+
+/// Opens the shared temporary to write into it, unless that is something else than a file of one name.
+int openShared(const fs::path& temporary, Deadline deadline)
+{
+    return openLocked(temporary, O_CREAT | O_WRONLY, deadline,
+                      [](const struct stat& status) { return S_ISREG(status.st_mode) && status.st_nlink == 1; });
+}
+
+/// Opens what is in the shared temporary's place only to hold it: who may write into it does the same.
+int holdShared(const fs::path& temporary, Deadline deadline)
+{
+    return openLocked(temporary, O_RDONLY, deadline, [](const struct stat&) { return true; });
+}
+
+/// A turn at saving, until its descriptor is closed.
+struct Turn {
+    int descriptor = -1;   ///< -1 and errno: nothing could be held; EWOULDBLOCK when others have their turn
+    bool isShared = false; ///< the descriptor is that of the shared temporary, to be written into
+};
+
+/// Something that is not ours may be in the shared temporary's place: another user's file, a link, a folder. It stays,
+/// and we go round it, but hold it as far as we may: its owner, or somebody else who goes round it, may be saving too.
+Turn takeTurn(const fs::path& shared, Deadline deadline)
+{
+    constexpr int kMostAttempts = 3;
+    for (int attempt = 1;; ++attempt) {
+        if (const int descriptor = openShared(shared, deadline); descriptor >= 0 || errno == EWOULDBLOCK)
+            return {descriptor, true};
+        if (const int descriptor = holdShared(shared, deadline);
+            descriptor >= 0 || errno != ENOENT || attempt == kMostAttempts)
+            return {descriptor, false};
+        // What was in the way has just been put in place.
+    }
 }
 
 int openOwn(const fs::path& temporary)
@@ -208,15 +243,15 @@ void flushFolder(const fs::path& folder)
 std::error_code replaceThrough(const Temporaries& temporaries, const fs::path& target, std::string_view bytes,
                                const std::function<bool()>& mayReplace)
 {
-    const Descriptor shared{openShared(temporaries.shared)};
-    if (!shared.isOpen() && errno == EWOULDBLOCK)
+    const Turn turn = takeTurn(temporaries.shared, std::chrono::steady_clock::now() + std::chrono::milliseconds{500});
+    const Descriptor held{turn.descriptor};
+    if (!held.isOpen() && errno == EWOULDBLOCK)
         return lastError();
-    // Something that is not ours is in the way: another user's file, a link, a folder. It stays, and we go round it.
-    const Descriptor own{shared.isOpen() ? -1 : openOwn(temporaries.own)};
-    if (!shared.isOpen() && !own.isOpen())
+    const Descriptor own{turn.isShared ? -1 : openOwn(temporaries.own)};
+    if (!turn.isShared && !own.isOpen())
         return lastError();
-    const int descriptor = shared.isOpen() ? shared.number() : own.number();
-    const fs::path& temporary = shared.isOpen() ? temporaries.shared : temporaries.own;
+    const int descriptor = turn.isShared ? held.number() : own.number();
+    const fs::path& temporary = turn.isShared ? temporaries.shared : temporaries.own;
 
     std::error_code error = keepModeOf(target, descriptor);
     if (!error)

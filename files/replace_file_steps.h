@@ -19,8 +19,9 @@ struct Temporaries {
 /// Writes the bytes to a temporary file, flushes them to the disk and lets it take the target's place.
 /// @param target     a full path without symbolic links at its end; it may not exist yet
 /// @param mayReplace asked last, while the temporary file is ours alone
-/// @returns no error, or why the target is as it was; then the temporary is gone. "Operation would block" when another
-///          program has held the shared one for half a second, "operation canceled" when it may not be replaced
+/// @returns no error, or why the target is as it was; then the temporary is gone. "Operation would block" when other
+///          programs have held the shared one for half a second in all, "operation canceled" when it may not be
+///          replaced
 std::error_code replaceThrough(const Temporaries& temporaries, const std::filesystem::path& target,
                                std::string_view bytes, const std::function<bool()>& mayReplace);
 
