@@ -152,7 +152,10 @@ Pool readPool(const DataFolder& folder)
         like = results.value.picks;
         pool.results = std::move(results.value);
     }
-    ReadEntries read = readEntries(folder.files(file_name::kSelectionExtension), like);
+    const Read<std::vector<FolderFile>> selections = folder.list(file_name::kSelectionExtension);
+    if (selections.trouble)
+        pool.trouble.push_back(troubleOf(folder.folder(), *selections.trouble));
+    ReadEntries read = readEntries(selections.value, like);
     pool.entries = std::move(read.entries);
     for (const FileTrouble& trouble : read.troubles)
         pool.trouble.push_back(troubleOf(trouble.file, trouble.failure));

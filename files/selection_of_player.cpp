@@ -7,6 +7,7 @@
 #include "files/player_names_file.h"
 
 #include <system_error>
+#include <vector>
 
 namespace tallyhoop {
 
@@ -27,8 +28,11 @@ bool isSelectionFile(const std::filesystem::path& file)
 /// @returns the only selection file whose name begins with this text
 std::optional<std::filesystem::path> onlyFileBeginningWith(const DataFolder& folder, std::string_view beginning)
 {
+    const Read<std::vector<FolderFile>> listed = folder.list(file_name::kSelectionExtension);
+    if (listed.trouble)
+        return std::nullopt; // there may be another one
     std::optional<std::filesystem::path> found;
-    for (const FolderFile& file : folder.files(file_name::kSelectionExtension)) {
+    for (const FolderFile& file : listed.value) {
         if (!startsWithFolded(file.name, beginning))
             continue;
         if (found)

@@ -141,9 +141,14 @@ std::vector<FolderFile> listSelections(ui::Dialogs& dialogs, const DataFolder& f
 {
     Read<std::vector<FolderFile>> listed = folder.list(file_name::kSelectionExtension);
     if (listed.trouble)
-        showTrouble(dialogs, Failure{joinLines({"The selections in this folder cannot be listed, or not all of them:",
-                                                shown(folder.folder()), listed.trouble->message})});
+        showListingTrouble(dialogs, folder, *listed.trouble);
     return std::move(listed.value);
+}
+
+void showListingTrouble(ui::Dialogs& dialogs, const DataFolder& folder, const Failure& reason)
+{
+    showTrouble(dialogs, Failure{joinLines({"The selections in this folder cannot be listed, or not all of them:",
+                                            shown(folder.folder()), reason.message})});
 }
 
 void showTrouble(ui::Dialogs& dialogs, const Failure& failure)

@@ -40,6 +40,9 @@ void showReadingTrouble(ui::Dialogs& dialogs, const std::filesystem::path& file)
 /// any.
 std::vector<FolderFile> listSelections(ui::Dialogs& dialogs, const DataFolder& folder);
 
+/// Shows that the selections cannot be listed, or not all of them, and why.
+void showListingTrouble(ui::Dialogs& dialogs, const DataFolder& folder, const Failure& reason);
+
 /// Shows what is wrong, without a caption of its own.
 void showTrouble(ui::Dialogs& dialogs, const Failure& failure);
 

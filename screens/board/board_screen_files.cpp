@@ -76,11 +76,17 @@ void BoardScreen::openRecent(std::size_t index)
 
 void BoardScreen::openNeighbour(int step)
 {
-    const std::optional<std::filesystem::path> file = neighbouringSelection(m_folder, m_openedFile, step);
+    const Read<std::vector<FolderFile>> listed = m_folder.list(file_name::kSelectionExtension);
+    if (listed.trouble) {
+        showListingTrouble(m_platform.dialogs, m_folder, *listed.trouble);
+        say("No other selection was opened.");
+        return;
+    }
+    const std::optional<std::filesystem::path> file = neighbouringSelection(listed.value, m_openedFile, step);
     if (!file) {
-        say(m_folder.files(file_name::kSelectionExtension).empty() ? "There are no selections in the folder yet."
-            : step > 0                                             ? "This is the last selection of the folder."
-                                                                   : "This is the first selection of the folder.");
+        say(listed.value.empty() ? "There are no selections in the folder yet."
+            : step > 0           ? "This is the last selection of the folder."
+                                 : "This is the first selection of the folder.");
         return;
     }
     if (!mayBeReplaced())

@@ -22,6 +22,14 @@ fs::file_time_type timeOf(const fs::path& file)
     return unknown ? fs::file_time_type::min() : time;
 }
 
+/// A dialog may spell the way to the folder differently.
+bool isOne(const fs::path& left, const fs::path& right)
+{
+    std::error_code unknown;
+    return left == right ||
+           (left.filename() == right.filename() && fs::equivalent(left.parent_path(), right.parent_path(), unknown));
+}
+
 } // namespace
 
 void RecentSelections::begin(const DataFolder& folder)
@@ -38,7 +46,7 @@ void RecentSelections::begin(const DataFolder& folder)
 
 void RecentSelections::note(const fs::path& file)
 {
-    std::erase(m_files, file);
+    std::erase_if(m_files, [&](const fs::path& known) { return isOne(known, file); });
     m_files.insert(m_files.begin(), file);
     m_files.resize(std::min(m_files.size(), kRecentSelections));
 }
@@ -56,18 +64,17 @@ std::optional<fs::path> RecentSelections::at(std::size_t index) const
     return index < m_files.size() ? std::optional{m_files[index]} : std::nullopt;
 }
 
-std::optional<fs::path> neighbouringSelection(const DataFolder& folder, const fs::path& opened, int step)
+std::optional<fs::path> neighbouringSelection(std::span<const FolderFile> selections, const fs::path& opened, int step)
 {
-    const std::vector<FolderFile> files = folder.files(file_name::kSelectionExtension);
-    if (files.empty())
+    if (selections.empty())
         return std::nullopt;
-    const auto at = std::ranges::find(files, opened, &FolderFile::path);
-    if (at == files.end())
-        return step > 0 ? files.front().path : files.back().path;
-    const std::ptrdiff_t next = at - files.begin() + step;
-    if (next < 0 || next >= std::ssize(files))
+    const auto at = std::ranges::find_if(selections, [&](const FolderFile& file) { return isOne(file.path, opened); });
+    if (at == selections.end())
+        return step > 0 ? selections.front().path : selections.back().path;
+    const std::ptrdiff_t next = at - selections.begin() + step;
+    if (next < 0 || next >= std::ssize(selections))
         return std::nullopt;
-    return files[static_cast<std::size_t>(next)].path;
+    return selections[static_cast<std::size_t>(next)].path;
 }
 
 } // namespace tallyhoop

@@ -5,6 +5,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -29,10 +30,11 @@ private:
     std::vector<std::filesystem::path> m_files;
 };
 
-/// @param opened empty, or not of the folder: the first selection is after it, and the last one before it
-/// @param step   1 = after the opened file, -1 = before it
-/// @returns the selection in the folder, nothing at the end of the list
-std::optional<std::filesystem::path> neighbouringSelection(const DataFolder& folder,
+/// @param selections those of the folder, in order
+/// @param opened     empty, or none of them: the first selection is after it, and the last one before it
+/// @param step       1 = after the opened file, -1 = before it
+/// @returns the selection, nothing at the end of the list
+std::optional<std::filesystem::path> neighbouringSelection(std::span<const FolderFile> selections,
                                                            const std::filesystem::path& opened, int step);
 
 } // namespace tallyhoop

@@ -93,10 +93,15 @@ void remount(const fs::path& folder, unsigned long flags)
 
 fs::path elsewhere(const fs::path& folder) { return folder.string() + ".elsewhere"; }
 
-void takeFromEverybody(const fs::path& folder, const fs::path& target)
+void giveAway(const fs::path& folder)
 {
     if (isRoot() && ::chown(folder.c_str(), kNobody, kNobody) != 0)
         ADD_FAILURE() << cannot("the folder cannot be given away");
+}
+
+void takeFromEverybody(const fs::path& folder, const fs::path& target)
+{
+    giveAway(folder);
     fs::permissions(target, fs::perms{0444});
     dropRights();
 }
@@ -154,6 +159,21 @@ const std::vector<Fault>& allFaults()
          }},
     };
     return faults;
+}
+
+const Fault& unlistedFolder()
+{
+    static const Fault fault{"UnlistedFolder", "Permission denied", letOthersIn,
+                             [](const fs::path& folder, const fs::path&) {
+                                 giveAway(folder);
+                                 fs::permissions(folder, fs::perms{0300});
+                                 dropRights();
+                             },
+                             [](const fs::path& folder, const fs::path&) {
+                                 takeRightsBack();
+                                 fs::permissions(folder, fs::perms{0755});
+                             }};
+    return fault;
 }
 
 } // namespace tallyhoop::test

@@ -30,6 +30,9 @@ inline void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.name;
 /// permission.
 const std::vector<Fault>& allFaults();
 
+/// A folder that may be entered and written into, but not listed.
+const Fault& unlistedFolder();
+
 /// Fills the disk of the folder, but for so many bytes, with a file of this name.
 inline constexpr const char* kFiller = "Holiday film.mpg";
 void fillDisk(const std::filesystem::path& folder, std::size_t bytesFree);

@@ -38,7 +38,10 @@ ui::Message changedMeanwhile(const fs::path& file)
                 "If you continue, the changes of the other program will be lost..\r\n"
                 " \r\n"
                 "Do you want to replace the file?",
-            ui::Buttons::YesNo, ui::Icon::Question, {}, true};
+            ui::Buttons::YesNo,
+            ui::Icon::Question,
+            {},
+            true};
 }
 
 std::vector<ui::Message> teamListTrouble(const fs::path& folder)

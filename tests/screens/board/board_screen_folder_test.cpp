@@ -63,6 +63,29 @@ TEST_F(BoardScreenFolder, WithoutSelectionsHasNoNext)
     EXPECT_EQ(board->news().text, "There are no selections in the folder yet.");
 }
 
+TEST_F(BoardScreenFolder, ThatCannotBeListedIsNotOneWithoutSelections)
+{
+    loadFinalized();
+    std::filesystem::remove_all(scratch.path());
+    next();
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_EQ(platform.dialogs.shown.back().text,
+              "The selections in this folder cannot be listed, or not all of them:\r\n" + scratch.path().string() +
+                  "\r\nNo such file or directory");
+    EXPECT_EQ(board->news().text, "No other selection was opened.");
+}
+
+TEST_F(BoardScreenFolder, KnowsAFileByAnotherSpellingOfItsWay)
+{
+    putThreePlayers();
+    loadFinalized();
+    std::filesystem::create_directory(scratch.path() / "elsewhere");
+    open(scratch.path() / "elsewhere" / ".." / "Adams_A.THC");
+    EXPECT_EQ(recent().size(), 3u) << "not one of them twice";
+    next();
+    EXPECT_EQ(board->document, "Baker_B.THC");
+}
+
 TEST_F(BoardScreenFolder, ChangesThatAreNotSavedAreLeftOnlyAfterAQuestion)
 {
     putThreePlayers();
