@@ -37,10 +37,7 @@ std::string pdfName(std::string title)
 {
     if (endsWithFolded(title, file_name::kSelectionExtension))
         title.resize(title.size() - std::string_view{file_name::kSelectionExtension}.size());
-    for (char& c : title)
-        if (static_cast<unsigned char>(c) < ' ' || std::string_view{"<>:\"/\\|?*"}.find(c) != std::string_view::npos)
-            c = '_'; // no file system takes it in a name everywhere
-    return title + kPdfExtension;
+    return withoutUnsafeCharacters(title + kPdfExtension);
 }
 
 /// @returns whether these files may be written
