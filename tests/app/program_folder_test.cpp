@@ -38,6 +38,17 @@ TEST(ProgramFolder, IsRefusedWhenTheLostNameIsThatOfAnotherFolder)
     EXPECT_FALSE(programFolder(scratch.path() / "Pool caf", scratch.path() / "Pool caf\xE9" / "Tallyhoop"));
 }
 
+TEST(ProgramFolder, ThatCannotBeReachedIsNotBlamedOnItsName)
+{
+    const ScratchFolder scratch;
+    const fs::path gone = scratch.path() / "gone";
+    const Result<fs::path> folder = programFolder(gone, gone / "Tallyhoop");
+    ASSERT_FALSE(folder);
+    EXPECT_EQ(folder.failure().message,
+              "Tallyhoop cannot work in its folder, because the system does not lead there:\r\n \r\n" + gone.string() +
+                  "\r\nNo such file or directory\r\n \r\nNothing has been read or written.");
+}
+
 TEST(ProgramFolder, IsTakenAsNamedWhereTheSystemDoesNotSay)
 {
     EXPECT_EQ(*programFolder("/pool", {}), fs::path{"/pool"});
