@@ -11,6 +11,9 @@ FAULTY_LIST = "** ERROR Found in PLAYERNAMES.CSV file **"
 OFFER = "** DEMO MODE OPTION **"
 DEMO = "STALLYHOOP DEMOSTRATION MODE"  # sic
 
+OWN_FILES = ["POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV", "Demo Favorite_DF.THC", "Demo Halfway_DH.THC",
+             "Demo Longshot_DL.THC", "Demo Prophet_DP.THC"]
+
 
 def without_marks(content):
     return MARK.sub(b"MARK", content)
@@ -69,9 +72,8 @@ WRITERS = {writer.name: writer for writer in [
     Writer("message", ["TALLYHOOP.EML", "RPTOPT2.TXT"], None),
     Writer("pdf", ["Bracket.PDF"], pdf, boxes=["Tallyhoop"]),
     Writer("installer", [], lambda content: content),
-    Writer("backup", [], None, finalized=False, boxes=["** DEMO MODE SET **", DEMO],
-           own_files=["POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV", "Demo Favorite_DF.THC",
-                      "Demo Halfway_DH.THC", "Demo Longshot_DL.THC", "Demo Prophet_DP.THC"]),
+    Writer("backup", [], None, finalized=False, boxes=["** DEMO MODE SET **", DEMO], own_files=OWN_FILES),
+    Writer("copy", [], None, own_files=OWN_FILES),
 ]}
 
 

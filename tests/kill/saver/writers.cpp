@@ -69,7 +69,7 @@ void makeReport(int round)
     click("cmdPrintSelections");
 }
 
-const std::array<Writer, 17> kWriters{{
+const std::array<Writer, 18> kWriters{{
     {"nothing", nothing, [](int) {}},
     {"setup", [] { choose("mnuSetupOptions"); }, saveSetup},
     {"results", [] { choose("mnuGameResults"); }, saveBoard},
@@ -87,6 +87,7 @@ const std::array<Writer, 17> kWriters{{
     {"message", prepareReport<'1', '3'>, makeReport},
     {"pdf", [] { choose("mnuReports"); }, [](int) { click("cmdSaveBoardPdf"); }},
     {"backup", nothing, [](int) { choose("mnuDemoSet"); }},
+    {"copy", nothing, [](int) { choose("mnuBackUp"); }},
 }};
 
 } // namespace
