@@ -15,8 +15,7 @@ namespace tallyhoop {
 std::optional<int> findRow(std::span<const std::string> rows, std::string_view prefix);
 
 /// @returns what a key press makes of the typed part of a box: the text to be looked for; nothing when typeAhead()
-/// leaves
-///          the key alone
+///          leaves the key alone
 std::optional<std::string> soughtText(const ui::TextBox& box, const ui::KeyPress& press);
 
 /// Looks for the first row that begins with what has been typed, selects it and completes the box: the part that is not

@@ -63,7 +63,8 @@ public:
     ui::MenuEntry mnuDemoReset{this, "mnuDemoReset", "DEMO-&Reset", [this] { resetDemoMode(); }};
     ui::MenuEntry mnuHelp{this, "mnuHelp", "&Help"};
     ui::MenuEntry mnuHelpDisplay{this, "mnuHelpDisplay", "&Help Display", [this] { showHelpText(); }, "F1"};
-    ui::MenuEntry mnuHelpAbout{this, "mnuHelpAbout", "&About Tallyhoop", [this] { m_platform.dialogs.about(m_folder.folder()); }};
+    ui::MenuEntry mnuHelpAbout{this, "mnuHelpAbout", "&About Tallyhoop",
+                               [this] { m_platform.dialogs.about(m_folder.folder()); }};
 
     /// The seeds of the field on screen, for the seeds screen to change.
     SeedTexts& seeds() { return m_seeds; }

@@ -29,7 +29,10 @@ struct Saving : testing::Test {
                                    "If you continue, the changes of the other program will be lost..\r\n"
                                    " \r\n"
                                    "Do you want to replace the file?",
-                               ui::Buttons::YesNo, ui::Icon::Question, {}, true};
+                               ui::Buttons::YesNo,
+                               ui::Icon::Question,
+                               {},
+                               true};
 
     bool save(std::string_view bytes)
     {

@@ -281,8 +281,9 @@ TEST_F(SetupScreenTest, DemoStartReloadsThisScreenAfterTheQuestion)
     EXPECT_EQ(computer.programs.started.size(), 1U);
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Setup});
     EXPECT_EQ(screens.loads, std::vector{ScreenKind::Setup});
-    EXPECT_EQ(screens.news, std::vector<std::string>{"The sample pool is there: leave this screen, and choose File, Open "
-                                                     "Selection to look at one of its players."});
+    EXPECT_EQ(screens.news,
+              std::vector<std::string>{"The sample pool is there: leave this screen, and choose File, Open "
+                                       "Selection to look at one of its players."});
 }
 
 TEST_F(SetupScreenTest, DemoStartReloadsThisScreenAlsoWhenNoSamplePoolComes)
