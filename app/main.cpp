@@ -5,6 +5,7 @@
 #include "app/wiring.h"
 #include "files/folder_lock.h"
 #include "files/replace_file.h"
+#include "qt/colours.h"
 #include "qt/desk.h"
 #include "qt/look.h"
 #include "qt/main_frame.h"
@@ -51,8 +52,10 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(TALLYHOOP_VERSION);
     QApplication::setQuitOnLastWindowClosed(false); // the screens decide, last loaded first
     qt::look::apply(application);
-    // Qt's file dialog would keep notes about itself in the person's home; this program keeps everything in its folder.
+    // Qt's file dialog would keep notes about itself in the person's home; this program keeps everything in its folder,
+    // but for the choice of colours.
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, ":/kept-nowhere");
+    qt::useColours(qt::keptColours());
 
     qt::MainFrame frame;
     qt::Desk desk{&frame};

@@ -5,7 +5,9 @@
 #include "qt/text_sync.h"
 #include "qt/widgets/lines_edit.h"
 
+#include <QApplication>
 #include <QSignalBlocker>
+#include <utility>
 
 namespace tallyhoop::qt {
 
@@ -40,6 +42,12 @@ void Page::followBox(ui::TextBox& box, Edit& edit)
         showBackground(box, edit);
     });
     follow(box.background, [&edit, &box](const auto&) { showBackground(box, edit); });
+    // A locked box has the colour of the window, which a person or the desktop can change.
+    onPush([&edit, &box, shown = QApplication::palette().color(QPalette::Window)]() mutable {
+        const QColor now = QApplication::palette().color(QPalette::Window);
+        if (now != std::exchange(shown, now))
+            showBackground(box, edit);
+    });
     edit.pasted = [this, &box](const QString& text) {
         bool consumed = false;
         run([&] { consumed = m_screen.pasted(box, fromLines(text)); });

@@ -123,6 +123,29 @@ QPalette Style::calmPalette()
     return palette;
 }
 
+QPalette Style::darkPalette()
+{
+    const QColor textColour{0xfc, 0xfc, 0xfc};
+    const QColor background{0x2b, 0x2f, 0x34};
+    const QColor base{0x1b, 0x1e, 0x20};
+    QPalette palette{QColor{0x3a, 0x40, 0x46}, background};
+    palette.setColor(QPalette::Base, base);
+    palette.setColor(QPalette::AlternateBase, QColor{0x23, 0x26, 0x29});
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText, QPalette::HighlightedText})
+        palette.setColor(role, textColour);
+    palette.setColor(QPalette::BrightText, Qt::white);
+    palette.setColor(QPalette::ToolTipBase, base);
+    palette.setColor(QPalette::PlaceholderText, QColor{0xa8, 0xb0, 0xb8});
+    palette.setColor(QPalette::Highlight, QColor{0x1d, 0x6f, 0xa5});
+    palette.setColor(QPalette::Link, kLinkOnDark);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor{0x98, 0xa0, 0xa8});
+    palette.setColor(QPalette::Disabled, QPalette::Base, background);
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor{0x4a, 0x51, 0x59});
+    return readableRoles(palette).resolve(palette);
+}
+
 QPalette Style::readableRoles(const QPalette& platform)
 {
     const QColor background = platform.color(QPalette::Window);

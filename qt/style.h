@@ -17,6 +17,9 @@ public:
     /// The colours used where the platform has none of its own.
     static QPalette calmPalette();
 
+    /// Those of a person who chose dark ones.
+    static QPalette darkPalette();
+
     /// Some desktops define their main colours only, and Qt fills in colours that suit a light background.
     /// @returns a palette that sets just those roles which have too little contrast with this one's background
     static QPalette readableRoles(const QPalette& platform);

@@ -236,6 +236,18 @@ void HelpWindow::showMatch()
     m_text->ensureCursorVisible();
 }
 
+/// The links of a document have the colour that links had when it was read: with other colours it is read again.
+void HelpWindow::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || m_text->document()->isEmpty())
+        return;
+    const int place = m_text->verticalScrollBar()->value();
+    m_text->reload();
+    search(); // the matches were places in the old text
+    m_text->verticalScrollBar()->setValue(place);
+}
+
 void HelpWindow::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape)

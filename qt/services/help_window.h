@@ -47,6 +47,7 @@ public:
     void clearHistory(); ///< so that Back does not lead to what was read before
 
 protected:
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -1,11 +1,13 @@
 // qt/views/board_view.cpp - the board's widgets, placed; a press beside the bracket goes to the model.
 #include "qt/views/board_view.h"
 
+#include "qt/colour_menu.h"
 #include "qt/look.h"
 #include "qt/widgets/bracket_canvas.h"
 
 #include <QFrame>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QVBoxLayout>
 
 namespace tallyhoop::qt {
@@ -40,6 +42,7 @@ BoardView::BoardView(BoardScreen& board, Desk& desk) : Page{board, desk}, m_boar
     whole->addWidget(makeStrip(board));
     setContent(whole);
     whole->setContentsMargins(0, 0, 0, 0);
+    menuBar()->insertAction(actionOf(board.mnuOptions), colourMenu(*this));
 }
 
 /// The canvas handles the presses on the bracket; those that arrive here were made beside it.
