@@ -6,6 +6,7 @@
 #include "files/player_names_file.h"
 #include "files/pool_backup.h"
 #include "files/replace_file.h"
+#include "screens/file_changes.h"
 #include "screens/help_topics.h"
 
 #include <cstdint>
@@ -37,7 +38,8 @@ ui::Message changedMeanwhile(std::string_view shownPath)
             ui::Buttons::YesNo,
             ui::Icon::Question,
             {},
-            true};
+            true,
+            "&Show Changes"};
 }
 
 /// @param reason of the system, when there is one
@@ -57,19 +59,40 @@ ui::Message keptIn(const std::filesystem::path& file, const std::filesystem::pat
             ui::Buttons::Ok, ui::Icon::Information};
 }
 
-/// Replaces the file as long as the person wants it to: what somebody else saves in between is asked about, too.
-KnownFiles::Outcome replaceAsking(ui::Dialogs& dialogs, KnownFiles& known, const std::filesystem::path& file,
-                                  std::string_view bytes, FileContent seen)
+/// Everything about one save that stays the same while the person is asked.
+struct Saving {
+    const ui::Platform& platform;
+    KnownFiles& known;
+    const std::filesystem::path& file;
+    std::string_view bytes;
+    std::string_view shownPath;
+    std::string_view advice;
+    DescribeChanges changesIn;
+};
+
+void showChanges(const Saving& saving)
 {
-    bool mustAsk = known.wouldUndoChanges(file, seen, bytes);
+    const FileContent now = KnownFiles::contentOf(saving.file);
+    std::vector<std::string> lines;
+    if (!now.isThere)
+        lines = {"The file is not there any more."};
+    else if (now.trouble)
+        lines = {"The file cannot be read:", now.trouble->message};
+    else
+        lines = shortList(saving.changesIn(now.bytes));
+    if (lines.empty())
+        lines = {"Nothing that can be seen is different."};
+    lines.insert(lines.begin(), {shown(saving.file), " "});
+    saving.platform.dialogs.show({"CHANGES IN THE FILE", joinLines(lines), ui::Buttons::Ok, ui::Icon::Information});
+}
+
+bool mayChangesBeLost(const Saving& saving)
+{
     for (;;) {
-        if (mustAsk && dialogs.show(changedMeanwhile(shown(file))) != ui::Answer::Yes)
-            return {KnownFiles::Replaced::ChangedMeanwhile};
-        KnownFiles::Outcome outcome = known.replace(file, bytes, seen);
-        if (outcome.replaced != KnownFiles::Replaced::ChangedMeanwhile)
-            return outcome;
-        mustAsk = true;
-        seen = KnownFiles::contentOf(file);
+        const ui::Answer answer = saving.platform.dialogs.show(changedMeanwhile(shown(saving.file)));
+        if (answer != ui::Answer::More)
+            return answer == ui::Answer::Yes;
+        showChanges(saving);
     }
 }
 
@@ -81,32 +104,50 @@ void showWritingTrouble(ui::Dialogs& dialogs, std::string_view shownPath, std::s
         showTrouble(dialogs, failure);
 }
 
+/// Replaces the file, after what would be lost unread is kept. Shows why not, except when somebody else has changed it.
+KnownFiles::Replaced replaceKeeping(const Saving& saving, const FileContent& seen)
+{
+    ui::Dialogs& dialogs = saving.platform.dialogs;
+    std::optional<std::filesystem::path> backup;
+    if (saving.known.wouldLoseUnread(saving.file, seen)) {
+        const Result<std::filesystem::path> kept = backUpFile(saving.file, saving.platform.clock.now());
+        if (!kept) {
+            dialogs.show(cannotBeKept(saving.file, kept.failure()));
+            return KnownFiles::Replaced::No;
+        }
+        backup = *kept;
+    }
+    const KnownFiles::Outcome outcome = saving.known.replace(saving.file, saving.bytes, seen);
+    if (outcome.replaced == KnownFiles::Replaced::No)
+        showWritingTrouble(dialogs, saving.shownPath, saving.advice, outcome.failure);
+    if (backup && outcome.replaced == KnownFiles::Replaced::Yes) {
+        dialogs.show(keptIn(saving.file, *backup));
+    } else if (backup) {
+        std::error_code ignored;
+        std::filesystem::remove_all(*backup, ignored); // the file itself is still there
+    }
+    return outcome.replaced;
+}
+
 } // namespace
 
 bool saveFile(const ui::Platform& platform, KnownFiles& known, const std::filesystem::path& file,
-              std::string_view bytes, std::string_view shownPath, std::string_view advice)
+              std::string_view bytes, std::string_view shownPath, std::string_view advice,
+              const DescribeChanges& changesIn)
 {
-    ui::Dialogs& dialogs = platform.dialogs;
-    const FileContent seen = KnownFiles::contentOf(file);
-    std::optional<Result<std::filesystem::path>> backup;
-    if (known.wouldLoseUnread(file, seen)) {
-        backup = backUpFile(file, platform.clock.now());
-        if (!*backup) {
-            dialogs.show(cannotBeKept(file, backup->failure()));
+    const auto changedLinesIn = [bytes](std::string_view theirs) { return changedLines(bytes, theirs); };
+    const Saving saving{platform, known, file, bytes, shownPath, advice, changesIn ? changesIn : changedLinesIn};
+    FileContent seen = KnownFiles::contentOf(file);
+    bool mustAsk = known.wouldUndoChanges(file, seen, bytes);
+    for (;;) {
+        if (mustAsk && !mayChangesBeLost(saving))
             return false;
-        }
+        const KnownFiles::Replaced replaced = replaceKeeping(saving, seen);
+        if (replaced != KnownFiles::Replaced::ChangedMeanwhile)
+            return replaced == KnownFiles::Replaced::Yes;
+        seen = KnownFiles::contentOf(file);
+        mustAsk = true; // what somebody else saves while the person is asked, is asked about too
     }
-    const KnownFiles::Outcome outcome = replaceAsking(dialogs, known, file, bytes, seen);
-    const bool isSaved = outcome.replaced == KnownFiles::Replaced::Yes;
-    if (outcome.replaced == KnownFiles::Replaced::No)
-        showWritingTrouble(dialogs, shownPath, advice, outcome.failure);
-    if (backup && isSaved)
-        dialogs.show(keptIn(file, **backup));
-    if (backup && !isSaved) {
-        std::error_code ignored;
-        std::filesystem::remove_all(**backup, ignored); // the file itself is still there
-    }
-    return isSaved;
 }
 
 bool saveDataFile(const ui::Platform& platform, KnownFiles& known, const DataFolder& folder, std::string_view name,

@@ -7,21 +7,29 @@
 #include "ui/platform.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tallyhoop {
 
+/// What is different in the file that somebody else has saved, a line for each difference.
+/// @param theirs the bytes of that file
+using DescribeChanges = std::function<std::vector<std::string>(std::string_view theirs)>;
+
 /// Replaces a file as a whole; asks first when somebody else has changed it since it was noted, and only Yes proceeds.
+/// The question has a button that shows what is different, and asks again.
 /// A file that cannot be written shows "** ERROR IN WRITING FILE **" and is as it was. What cannot be read, or was read
 /// only in part, is kept in a dated subfolder before it is replaced, and a message says where; what cannot be kept is
 /// not replaced.
 /// @param shownPath the file's full path as text
 /// @param advice    that message's last line
+/// @param changesIn empty = compares the lines of the two
 /// @returns whether the file holds the bytes now
 bool saveFile(const ui::Platform& platform, KnownFiles& known, const std::filesystem::path& file,
-              std::string_view bytes, std::string_view shownPath, std::string_view advice);
+              std::string_view bytes, std::string_view shownPath, std::string_view advice,
+              const DescribeChanges& changesIn = {});
 
 /// The same for a file of the program's folder that the program itself names.
 bool saveDataFile(const ui::Platform& platform, KnownFiles& known, const DataFolder& folder, std::string_view name,

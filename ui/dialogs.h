@@ -10,7 +10,7 @@ namespace tallyhoop::ui {
 
 enum class Icon { None, Information, Question, Exclamation, Critical };
 enum class Buttons { Ok, OkCancel, YesNo };
-enum class Answer { Ok, Cancel, Yes, No };
+enum class Answer { Ok, Cancel, Yes, No, More };
 
 /// A message box. The text is plain; its lines are separated by CR LF.
 struct Message {
@@ -20,6 +20,7 @@ struct Message {
     Icon icon = Icon::None;
     std::string helpTopic = {};    ///< where F1 leads while it is shown; empty = to the topic of the current screen
     bool refusalIsDefault = false; ///< Enter answers No or Cancel: the other answer loses something
+    std::string moreButton = {};   ///< the caption of a further button, which answers More; empty = none
 
     friend bool operator==(const Message&, const Message&) = default;
 };

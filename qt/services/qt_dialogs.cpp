@@ -162,9 +162,13 @@ ui::Answer QtDialogs::show(const ui::Message& message)
     box.setText(shownText(message.text, kMessageEnd));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     addButtons(box, message.buttons, message.refusalIsDefault);
+    const QAbstractButton* more = nullptr;
+    if (!message.moreButton.empty())
+        more = box.addButton(toQString(message.moreButton), QMessageBox::ActionRole);
     offerHelp(box, message.helpTopic.empty() ? m_desk.runningTopic() : message.helpTopic);
     makeRoomForTitle(box);
-    return answerOf(box.exec());
+    const int button = box.exec();
+    return more != nullptr && box.clickedButton() == more ? ui::Answer::More : answerOf(button);
 }
 
 /// F1 opens the help while the message is shown.

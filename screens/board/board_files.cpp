@@ -6,9 +6,13 @@
 #include "files/player_names_file.h"
 #include "files/selection_file.h"
 #include "pool/results.h"
+#include "screens/board/selection_changes.h"
 #include "screens/saving.h"
 
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 namespace tallyhoop {
 
@@ -31,10 +35,18 @@ Entry BoardFiles::readResults(const Field& field)
     return newResults(field);
 }
 
-bool BoardFiles::write(const std::filesystem::path& file, Entry entry)
+bool BoardFiles::write(const std::filesystem::path& file, Entry entry, const Field& field)
 {
     entry.initials = upperCase(entry.initials);
-    return saveFile(m_platform, m_known, file, selectionFile(entry), shown(file), " Check your selection and retry.");
+    const auto changesIn = [&](std::string_view bytes) {
+        const Read<Entry> theirs = readSelection(bytes, entry.picks);
+        std::vector<std::string> lines = selectionChanges(field, entry, theirs.value);
+        if (theirs.trouble)
+            lines.insert(lines.begin(), "The file is damaged, and could not be read whole.");
+        return lines;
+    };
+    return saveFile(m_platform, m_known, file, selectionFile(entry), shown(file), " Check your selection and retry.",
+                    changesIn);
 }
 
 std::filesystem::path BoardFiles::results() const { return m_folder.pathTo(file_name::kResults); }

@@ -26,8 +26,9 @@ public:
     Entry readResults(const Field& field);
 
     /// Saves a selection or the results, the initials in capitals.
+    /// @param field names the places of the bracket when the changes of somebody else are shown
     /// @returns false when it failed or the person did not want to replace the file
-    bool write(const std::filesystem::path& file, Entry entry);
+    bool write(const std::filesystem::path& file, Entry entry, const Field& field);
 
     std::filesystem::path results() const;
     bool resultsExist() const;

@@ -186,7 +186,7 @@ bool BoardScreen::saveSelectionIn(const std::filesystem::path& file, SaveKind ki
 
 bool BoardScreen::save(const std::filesystem::path& file)
 {
-    const bool isSaved = m_files.write(file, typed());
+    const bool isSaved = m_files.write(file, typed(), m_shared.field);
     unsaved = unsaved && !isSaved;
     return isSaved;
 }

@@ -87,18 +87,20 @@ std::string explanationOfListed(const BoardPicture& picture, Position position)
 
 } // namespace
 
+std::string nameOfPlace(const Field& field, Position position)
+{
+    if (const std::optional<TeamRow> row = teamRowOf(position))
+        return spokenRow(field, *row);
+    const std::optional<int> region = regionOf(position);
+    return (region ? spokenRegion(field, *region) + ", " : std::string{}) + spokenGame(position);
+}
+
 std::string spokenPlace(const BoardPicture& picture, Position position)
 {
-    std::string spoken;
-    if (const std::optional<TeamRow> row = teamRowOf(position)) {
-        spoken = spokenRow(picture.field, *row);
-    } else {
-        if (const std::optional<int> region = regionOf(position))
-            spoken = spokenRegion(picture.field, *region) + ", ";
-        spoken += spokenGame(position);
+    std::string spoken = nameOfPlace(picture.field, position);
+    if (!isFirstRound(position))
         if (const std::string mark = spokenMark(picture.verdictAt(position), picture.names); !mark.empty())
             spoken += ", " + mark;
-    }
     return spoken + ": " + (picture.bracket.isEmpty(position) ? "no team" : picture.bracket.at(position));
 }
 

@@ -7,6 +7,9 @@
 
 namespace tallyhoop {
 
+/// @returns where a place is, such as "West, winner of second round, game 3"
+std::string nameOfPlace(const Field& field, Position position);
+
 /// @returns where a place is, what became of the pick there, and the team, such as
 ///          "West, winner of second round, game 3, X wrong pick: Duke"
 std::string spokenPlace(const BoardPicture& picture, Position position);

@@ -41,7 +41,8 @@ ui::Message changedMeanwhile(const fs::path& file)
             ui::Buttons::YesNo,
             ui::Icon::Question,
             {},
-            true};
+            true,
+            "&Show Changes"};
 }
 
 std::vector<ui::Message> teamListTrouble(const fs::path& folder)

@@ -87,6 +87,27 @@ TEST(QtDialogs, YesIsYes)
     EXPECT_EQ(asking.dialogs.show({"", "text", ui::Buttons::YesNo}), ui::Answer::Yes);
 }
 
+TEST(QtDialogs, AFurtherButtonAsksForMore)
+{
+    Asking asking;
+    ui::Message message{"", "Replace it?", ui::Buttons::YesNo, ui::Icon::Question, {}, true, "&Show Changes"};
+    const auto pressed = [&](const char* caption) {
+        withNext<QMessageBox>([caption](QMessageBox& box) {
+            for (QAbstractButton* button : box.buttons())
+                if (button->text() == QString::fromLatin1(caption))
+                    return button->click();
+            box.close();
+        });
+        return asking.dialogs.show(message);
+    };
+    EXPECT_EQ(pressed("&Show Changes"), ui::Answer::More);
+    EXPECT_EQ(pressed("&Yes"), ui::Answer::Yes);
+    withNext<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(asking.dialogs.show(message), ui::Answer::No);
+    withNext<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    EXPECT_EQ(asking.dialogs.show(message), ui::Answer::No);
+}
+
 TEST(QtDialogs, WithoutACaptionTheProgramsNameIsShown)
 {
     Asking asking;

@@ -32,7 +32,8 @@ struct Saving : testing::Test {
                                ui::Buttons::YesNo,
                                ui::Icon::Question,
                                {},
-                               true};
+                               true,
+                               "&Show Changes"};
 
     bool save(std::string_view bytes)
     {
@@ -71,6 +72,53 @@ TEST_F(Saving, LeavesTheFileAloneOnNoAndAsksAgainNextTime)
     EXPECT_FALSE(save("ours"));
     EXPECT_EQ(scratch.get("A.THC"), "theirs");
     EXPECT_EQ(dialogs.shown, (Messages{question, question}));
+}
+
+TEST_F(Saving, ShowsTheChangesOfSomebodyElseAndAsksAgain)
+{
+    scratch.put("A.THC", "old");
+    known.note(file);
+    scratch.put("A.THC", "Duke\r\ntheirs\r\n");
+    dialogs.answer(ui::Answer::More).answer(ui::Answer::More).answer(ui::Answer::No);
+    EXPECT_FALSE(save("Duke\r\nours\r\n"));
+    const ui::Message changes{"CHANGES IN THE FILE",
+                              file.string() + "\r\n \r\nOnly here: ours\r\nOnly in the file: theirs", ui::Buttons::Ok,
+                              ui::Icon::Information};
+    EXPECT_EQ(dialogs.shown, (Messages{question, changes, question, changes, question}));
+    EXPECT_EQ(scratch.get("A.THC"), "Duke\r\ntheirs\r\n");
+}
+
+TEST_F(Saving, ShowsTheChangesInTheWordsOfTheScreen)
+{
+    scratch.put("A.THC", "old");
+    known.note(file);
+    scratch.put("A.THC", "theirs");
+    dialogs.answer(ui::Answer::More).answer(ui::Answer::Yes);
+    const auto inWords = [](std::string_view theirs) { return std::vector{"what is " + std::string{theirs}}; };
+    EXPECT_TRUE(saveFile(platform.services, known, file, "ours", "", "", inWords));
+    ASSERT_EQ(dialogs.shown.size(), 3u);
+    EXPECT_EQ(dialogs.shown[1].text, file.string() + "\r\n \r\nwhat is theirs");
+    EXPECT_EQ(scratch.get("A.THC"), "ours");
+}
+
+TEST_F(Saving, ShowsWhatTheFileHoldsAtThatMoment)
+{
+    scratch.put("A.THC", "old");
+    known.note(file);
+    scratch.put("A.THC", "theirs");
+    std::vector<std::string> texts;
+    dialogs.whileShown = [&](const ui::Message& message) {
+        texts.push_back(message.text);
+        if (texts.size() == 1)
+            fs::resize_file(file, std::uintmax_t{200} << 20); // no reader takes so large a file
+        else if (texts.size() == 3)
+            fs::remove(file);
+    };
+    dialogs.answer(ui::Answer::More).answer(ui::Answer::More).answer(ui::Answer::No);
+    EXPECT_FALSE(save("ours"));
+    ASSERT_EQ(texts.size(), 5u);
+    EXPECT_EQ(texts[1], file.string() + "\r\n \r\nThe file cannot be read:\r\nThe file is larger than 64 MB.");
+    EXPECT_EQ(texts[3], file.string() + "\r\n \r\nThe file is not there any more.");
 }
 
 TEST_F(Saving, AsksAboutAFileThatSomebodyElseHasCreatedMeanwhile)

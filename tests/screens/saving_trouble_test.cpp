@@ -97,6 +97,23 @@ TEST_F(SavingInTrouble, NoBackupIsLeftWhenTheFileWasNotReplacedAfterAll)
     EXPECT_EQ(shownMessages().back().text, "Another program is saving this file just now. Try again in a moment.");
 }
 
+TEST_F(SavingInTrouble, AFileThatBecomesUnreadableWhileTheQuestionIsShownIsKept)
+{
+    scratch.put("TALLYHOOP.THS", "old");
+    known.note(file);
+    scratch.put("TALLYHOOP.THS", "theirs");
+    platform.dialogs.whileShown = [&](const ui::Message&) {
+        if (shownMessages().size() == 1)
+            makeUnreadable();
+    };
+    platform.dialogs.answer(ui::Answer::Yes).answer(ui::Answer::Yes);
+    EXPECT_TRUE(save("ours"));
+    EXPECT_EQ(scratch.get("TALLYHOOP.THS"), "ours");
+    EXPECT_TRUE(scratch.has(backup + "/TALLYHOOP.THS"));
+    ASSERT_EQ(shownMessages().size(), 3u);
+    EXPECT_NE(shownMessages().back().text.find("is kept in the folder"), std::string::npos);
+}
+
 TEST_F(SavingInTrouble, WhatAnotherProgramSavesWhileTheQuestionIsShownIsAskedAboutAgain)
 {
     scratch.put("TALLYHOOP.THS", "old");

@@ -203,6 +203,47 @@ TEST_F(BoardScreenSaving, AFileThatSomebodyElseHasChangedSinceIsReplacedOnlyAfte
     EXPECT_FALSE(board->unsaved);
 }
 
+TEST_F(BoardScreenSaving, WhatSomebodyElseHasChangedCanBeSeenBeforeTheAnswer)
+{
+    const auto file = putSelection("Smith_JS.THC", emptyBracket("JS", "Smith", "150"));
+    loadFinalized();
+    open(file);
+    Entry theirs = emptyBracket("JS", "Smith", "99");
+    theirs.picks.put(Position{17}, "R1T3");
+    putSelection("Smith_JS.THC", theirs);
+    click(0);
+    board->txtPlayerInitials.text = "js"; // saved in capitals, as it is in the file
+    platform.dialogs.answer(ui::Answer::More).answer(ui::Answer::No);
+    saveAs(file);
+    ASSERT_GE(platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(platform.dialogs.shown[platform.dialogs.shown.size() - 2].text,
+              file.string() + "\r\n \r\n"
+                              "Final points: here 150, in the file 99\r\n"
+                              "West, winner of first round, game 1: here R1T0, in the file no team\r\n"
+                              "West, winner of first round, game 2: here no team, in the file R1T3");
+    EXPECT_EQ(saved("Smith_JS.THC"), theirs);
+}
+
+TEST_F(BoardScreenSaving, ADamagedFileOfSomebodyElseIsCalledThat)
+{
+    const Entry entry = emptyBracket("JS", "Smith", "150");
+    const auto file = putSelection("Smith_JS.THC", entry);
+    loadFinalized();
+    open(file);
+    std::string bytes = selectionFile(entry);
+    bytes.resize(bytes.find("150")); // and nothing after it
+    scratch.put("Smith_JS.THC", bytes);
+    click(0);
+    platform.dialogs.answer(ui::Answer::More).answer(ui::Answer::No);
+    saveAs(file);
+    ASSERT_GE(platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(platform.dialogs.shown[platform.dialogs.shown.size() - 2].text,
+              file.string() + "\r\n \r\n"
+                              "The file is damaged, and could not be read whole.\r\n"
+                              "Final points: here 150, in the file nothing\r\n"
+                              "West, winner of first round, game 1: here R1T0, in the file no team");
+}
+
 TEST_F(BoardScreenSaving, ResultsThatSomebodyElseHasEnteredSinceAreReplacedOnlyAfterAYes)
 {
     loadFinalized();
