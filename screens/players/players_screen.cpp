@@ -167,20 +167,18 @@ void PlayersScreen::enterSaved(const SavedPlayer& saved)
 
 /// @param fileName as recordedFileName() gives it, or as a record has it
 /// @param player   the name in the player's record
-/// @returns the row that means the file. Of several that do, because their names were cut to the same, it
-///          is the one with the player's name: another player's record is not this file's.
+/// @returns the row that means the file. One whose name was cut may mean another player's file, also one that is gone:
+///          it has to have the player's name.
 std::optional<int> PlayersScreen::rowOfFile(const std::vector<std::string>& rows, std::string_view fileName,
                                             std::string_view player) const
 {
-    std::vector<int> found;
-    for (std::size_t row = 0; row < rows.size(); ++row)
-        if (recordMeans(m_folder, parsePlayerRow(rows[row]).fileName, fileName))
-            found.push_back(static_cast<int>(row));
-    if (found.size() > 1 && fileName.size() > kFileNameWidth)
-        std::erase_if(found, [&](int at) {
-            return !equalFolded(parsePlayerRow(rows[static_cast<std::size_t>(at)]).name, fitted(player, kNameWidth));
-        });
-    return found.empty() ? std::nullopt : std::optional{found.front()};
+    const bool isCut = fileName.size() > kFileNameWidth;
+    const auto found = std::ranges::find_if(rows, [&](const std::string& row) {
+        const PlayerRecord record = parsePlayerRow(row);
+        return recordMeans(m_folder, record.fileName, fileName) &&
+               (!isCut || equalFolded(record.name, fitted(player, kNameWidth)));
+    });
+    return found == rows.end() ? std::nullopt : std::optional{static_cast<int>(found - rows.begin())};
 }
 
 void PlayersScreen::takeRowOut(int row, const std::string& playerName)
@@ -265,7 +263,7 @@ void PlayersScreen::deleteSelection()
         return;
     }
     const std::optional<std::filesystem::path> file = selectionFileOf(m_folder, upperCase(txtFileName.text));
-    const bool isSure = !file || !isCutName(txtFileName.text, *file) || !anotherRowHasName(txtFileName.text);
+    const bool isSure = !file || !isCutName(txtFileName.text, *file) || !anotherPlayerHasName(txtFileName.text);
     if (file && m_dialogs.show(isSure ? kBothDeleted : selectionsOfEither(*file)) == ui::Answer::Cancel)
         return;
     if (file && isSure)
@@ -273,9 +271,12 @@ void PlayersScreen::deleteSelection()
     removeSelectedRow();
 }
 
-/// @returns whether a row other than the selected one has this file name
-bool PlayersScreen::anotherRowHasName(std::string_view recorded) const
+/// @returns whether a row other than the selected one has this file name, or the player to be added will have it
+bool PlayersScreen::anotherPlayerHasName(std::string_view recorded) const
 {
+    if (m_mode == SaveKind::NewFile &&
+        isSameRecordedName(fitted(recordedFileName(m_folder, m_saved->file), kFileNameWidth), recorded))
+        return true;
     for (std::size_t row = 0; row < lstNames.rows.size(); ++row)
         if (static_cast<int>(row) != lstNames.selected &&
             isSameRecordedName(parsePlayerRow(lstNames.rows[row]).fileName, recorded))

@@ -65,7 +65,7 @@ private:
     bool mayBeAdded();
     void completeChanges();
     void deleteSelection();
-    bool anotherRowHasName(std::string_view recorded) const;
+    bool anotherPlayerHasName(std::string_view recorded) const;
     void done();
     void finish(std::vector<std::string> rows);
     void close();

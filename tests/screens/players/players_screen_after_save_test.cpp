@@ -127,12 +127,13 @@ TEST_F(PlayersScreenTest, AFullRecordMeansTheOneFileThatBeginsWithIt)
 {
     const std::string longName = "Montgomery-Featherstonehaugh_Wilhelmina.THC"; // 43 characters
     scratch.put(longName, "a bracket");
-    scratch.put("PLAYERNAMES.CSV", playerFile({csv("Montgomery", "MONTGOMERY-FEATHERSTONEHAUGH_WILHELMINA.THC")}));
+    const std::string record = csv("Montgomery-Featherstoneha", "MONTGOMERY-FEATHERSTONEHAUGH_WILH", "m@example.org");
+    scratch.put("PLAYERNAMES.CSV", playerFile({record}));
     platform.dialogs.answer(ui::Answer::Ok);
     PlayersScreen& names = openAfterSave(SaveKind::NewFile, longName, "Montgomery-Featherstonehaugh,Wilhelmina");
     EXPECT_TRUE(names.lstNames.rows.empty()) << "its record was not found";
     names.cmdAdd.click();
-    EXPECT_EQ(written(), playerFile({csv("Montgomery-Featherstoneha", "MONTGOMERY-FEATHERSTONEHAUGH_WILH")}));
+    EXPECT_EQ(written(), playerFile({record}));
 
     saved.reset();
     PlayersScreen& later = open();

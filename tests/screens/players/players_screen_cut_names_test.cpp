@@ -78,6 +78,39 @@ TEST_F(PlayersWithCutNames, SavingTheFileOfAThirdPlayerTakesNobodysRecord)
     EXPECT_TRUE(screens.news.empty()) << "it has a record now";
 }
 
+/// The list has only one of the two, and his file is gone.
+class PlayersWithOneCutName : public PlayersWithCutNames
+{
+protected:
+    PlayersWithOneCutName()
+    {
+        scratch.put("PLAYERNAMES.CSV", playerFile({wilhelm}));
+        scratch.put(filesName, "the picks of Wilhelmina");
+    }
+};
+
+TEST_F(PlayersWithOneCutName, SavingTheOthersFileDoesNotTakeTheRecord)
+{
+    PlayersScreen& names = openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
+    EXPECT_EQ(names.lstNames.rows.size(), 1u);
+    EXPECT_EQ(names.txtEmail.text, "");
+    names.cmdAdd.click();
+    EXPECT_EQ(written(), playerFile({wilhelm, csv("Wilhelmina,W", cutName)}));
+}
+
+TEST_F(PlayersWithOneCutName, DeletingTheRecordKeepsTheFileThatWasJustSaved)
+{
+    platform.dialogs.answer(ui::Answer::Ok);
+    PlayersScreen& names = openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
+    select(0);
+    names.cmdDelete.click();
+    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
+    EXPECT_NE(platform.dialogs.shown.front().text.find("it will NOT be deleted"), std::string::npos);
+    names.cmdExit.click();
+    EXPECT_EQ(scratch.get(filesName), "the picks of Wilhelmina");
+    EXPECT_EQ(written(), playerFile({}));
+}
+
 TEST_F(PlayersWithCutNames, TheRecordsOfOthersAreNotTheRecordOfTheSavedFile)
 {
     scratch.put(filesName, "the picks of a third");
