@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QLayout>
 #include <QScreen>
 #include <QScrollBar>
+#include <algorithm>
 
 namespace tallyhoop::qt {
 
@@ -18,7 +20,6 @@ PageArea::PageArea(QWidget* content)
 {
     setFrameShape(NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    setWidgetResizable(true);
     setWidget(content);
     content->setAutoFillBackground(false); // shows the window's background, as without the area
     viewport()->setAutoFillBackground(false);
@@ -42,9 +43,40 @@ QSize PageArea::minimumSizeHint() const { return within(widget()->minimumSizeHin
 
 bool PageArea::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == widget() && event->type() == QEvent::LayoutRequest)
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
         updateGeometry();
+        fit();
+    }
     return QScrollArea::eventFilter(watched, event);
+}
+
+void PageArea::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    fit();
+}
+
+/// @returns the least size of the content in a page of this width
+QSize PageArea::leastFor(int width) const
+{
+    QSize least = widget()->minimumSizeHint();
+    const QLayout* const layout = widget()->layout();
+    if (layout && layout->hasHeightForWidth())
+        least.setHeight(layout->totalMinimumHeightForWidth(std::max(width, least.width())));
+    return least;
+}
+
+/// Gives the content the whole area, and more where it cannot be that small. Qt's own resizing asks content with a text
+/// that wraps for the height that it would like to have, and so scrolls where there is room enough.
+void PageArea::fit()
+{
+    QSize room = maximumViewportSize();
+    if (leastFor(room.width()).height() > room.height())
+        room.rwidth() -= verticalScrollBar()->sizeHint().width();
+    const QSize least = leastFor(room.width());
+    if (least.width() > room.width())
+        room.rheight() -= horizontalScrollBar()->sizeHint().height();
+    widget()->resize(room.expandedTo(least));
 }
 
 /// Scrolls to the widget that gets the focus, by a key or by the program.

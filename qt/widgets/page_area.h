@@ -21,8 +21,11 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    QSize leastFor(int width) const;
+    void fit();
     QSize within(QSize wanted) const;
     void follow(QWidget* focused);
 };

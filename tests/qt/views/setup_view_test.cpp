@@ -94,6 +94,10 @@ TEST_F(SetupViewTest, FitsASmallScreen)
     // 768 lines less the title bar and a panel of the desktop.
     EXPECT_LE(view->findChild<PageArea*>()->widget()->minimumSizeHint().width(), 1024);
     EXPECT_LE(view->minimumSizeHint().height(), 700);
+    view->resize(1366, 700);
+    QApplication::processEvents();
+    const auto& area = *view->findChild<PageArea*>();
+    EXPECT_EQ(area.widget()->height(), area.viewport()->height()) << "it scrolls";
 }
 
 TEST_F(SetupViewTest, ClipsAndCoversNothing)
