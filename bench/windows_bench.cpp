@@ -152,7 +152,7 @@ void standings(Program& program)
 
 void scores(Program& program)
 {
-    program.host.find<BoardScreen>(ScreenKind::Board)->enterGameResults();
+    program.host.find<BoardScreen>(ScreenKind::Board)->showGameResults();
     program.desk.push();
     program.host.load(ScreenKind::Scores);
     auto& grid = program.find<QTableView>(ScreenKind::Scores, "msgScoreDisplay");

@@ -17,7 +17,7 @@ public:
     virtual ui::DrawingPrintout printout() const = 0;
 
     /// Puts the results on the board, to be edited.
-    virtual void enterGameResults() = 0;
+    virtual void showGameResults() = 0;
 
     /// Puts a player's file on the board as opening it does, and marks right and wrong picks.
     virtual void showScored(const std::filesystem::path& file) = 0;
@@ -28,9 +28,13 @@ public:
     /// @returns whether results are on the board that no file holds as they are
     virtual bool holdsUnsavedResults() const = 0;
 
-    /// Before the board turns to something else: offers to save such results. @returns false when it must not, because
-    /// the person does not want to, or because they could not be saved
-    virtual bool keepResults() = 0;
+    /// Before the board turns to something else: offers to save such results, and asks whether the unsaved changes of a
+    /// selection may be lost. @returns false when it must not, because the person does not want to, or because the
+    /// results could not be saved
+    virtual bool mayBeLeft() = 0;
+
+    /// The same before it turns to the results; asks as well before it loads a field that is no longer final.
+    virtual bool mayShowGameResults() = 0;
 };
 
 } // namespace tallyhoop

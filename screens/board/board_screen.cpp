@@ -69,6 +69,13 @@ void BoardScreen::beginUnmarked()
     say({});
 }
 
+void BoardScreen::setResultsMode(bool on)
+{
+    m_resultsMode = on;
+    if (on && (focused == &txtPlayerName || focused == &txtPlayerInitials)) // which are locked then
+        focused = &lblRegion[Position{0}];
+}
+
 const Verdicts* BoardScreen::shownVerdicts() const
 {
     if (m_verdicts)
@@ -228,7 +235,7 @@ void BoardScreen::restore(const BoardSnapshot& board)
     say({});
     if (board.resultsMode == m_resultsMode)
         return;
-    m_resultsMode = board.resultsMode;
+    setResultsMode(board.resultsMode);
     m_resultsThere = m_files.resultsExist();
 }
 

@@ -64,11 +64,12 @@ public:
 
     // BoardPrintouts
     ui::DrawingPrintout printout() const override;
-    void enterGameResults() override;
+    void showGameResults() override;
     void showScored(const std::filesystem::path& file) override;
     void printForm() override;
     bool holdsUnsavedResults() const override { return m_resultsMode && unsaved; }
-    bool keepResults() override;
+    bool mayBeLeft() override;
+    bool mayShowGameResults() override;
 
     // Screen
     std::string helpTopic() const override;
@@ -93,6 +94,7 @@ private:
     void undo() override;
     void redo() override;
     void scoreSelections() override;
+    void enterGameResults() override;
     void selectHighSeeds() override;
     void openRecent(std::size_t index) override;
     void openNeighbour(int step) override;
@@ -113,6 +115,7 @@ private:
     void loadBoard();
     void showEntry(Entry entry);
     void beginUnmarked();
+    void setResultsMode(bool on);
     void change(const Bracket& after);
     void wasChanged();
     bool keyOnPosition(Position position, const ui::KeyPress& press);
@@ -123,6 +126,7 @@ private:
     void showSelection(const std::filesystem::path& file);
     bool fieldIsStillFinal();
     bool mayBeReplaced();
+    bool keepResults();
     bool mayBeSaved();
     bool trySaving();
     bool saveResults();

@@ -32,9 +32,10 @@ const ui::Message kResultsUnsaved{"UNSAVED RESULTS",
                                   "The board holds results that are not saved.\r\n"
                                   "If you continue, they are saved first.",
                                   ui::Buttons::OkCancel, ui::Icon::Question};
-const ui::Message kNoLongerFinal{"FIELD IS NO LONGER FINAL",
-                                 "Another program has changed the field: it is no longer finalized.\r\n"
-                                 "If you continue, nothing can be saved until it is finalized again\r\n"
+const ui::Message kNoLongerFinal{"NO FINAL FIELD IN THE FOLDER",
+                                 "The field's file, POOLSTART.THS, has been changed or removed, or cannot\r\n"
+                                 "be read: the folder holds no field that is finalized.\r\n"
+                                 "If you continue, nothing can be saved until a field is finalized again\r\n"
                                  "in the setup, and what is on the board is lost then.",
                                  ui::Buttons::OkCancel,
                                  ui::Icon::Question,
@@ -95,7 +96,7 @@ void BoardScreen::openNeighbour(int step)
     showSelection(*file);
 }
 
-/// One key is pressed by mistake sooner than a file is chosen in a dialog.
+/// One key is pressed by mistake sooner than a file is chosen in a dialog, and nothing brings the changes back.
 bool BoardScreen::mayBeReplaced() { return !unsaved || m_platform.dialogs.show(kUnsaved) == ui::Answer::Ok; }
 
 void BoardScreen::openFolder()
@@ -193,15 +194,24 @@ bool BoardScreen::save(const std::filesystem::path& file)
 
 bool BoardScreen::keepResults()
 {
-    if (!holdsUnsavedResults())
-        return true;
     if (m_platform.dialogs.show(kResultsUnsaved) != ui::Answer::Ok)
         return false;
     saveSelection();
     return !unsaved;
 }
 
+bool BoardScreen::mayBeLeft() { return holdsUnsavedResults() ? keepResults() : mayBeReplaced(); }
+
+/// Without a results file the field is loaded again, as it is for a new selection.
+bool BoardScreen::mayShowGameResults() { return mayBeLeft() && (m_files.resultsExist() || fieldIsStillFinal()); }
+
 void BoardScreen::enterGameResults()
+{
+    if (mayShowGameResults())
+        showGameResults();
+}
+
+void BoardScreen::showGameResults()
 {
     leaveScoreList();
     m_shared.savedPlayer.reset();
@@ -209,9 +219,7 @@ void BoardScreen::enterGameResults()
         loadBoard();
     showEntry(m_files.readResults(m_shared.field));
     beginUnmarked();
-    m_resultsMode = true;
-    if (focused == &txtPlayerName || focused == &txtPlayerInitials) // which are locked now
-        focused = &lblRegion[Position{0}];
+    setResultsMode(true);
 }
 
 void BoardScreen::scoreSelections()

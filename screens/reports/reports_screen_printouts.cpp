@@ -51,16 +51,16 @@ bool ReportsScreen::sheetIsPossible()
 
 void ReportsScreen::printResultsSheet()
 {
-    if (!m_board.keepResults())
+    if (!m_board.mayShowGameResults())
         return;
     m_screens.unload(ScreenKind::Reports);
-    m_board.enterGameResults();
+    m_board.showGameResults();
     m_board.printForm();
 }
 
 void ReportsScreen::printScoredSelection()
 {
-    if (!m_board.keepResults())
+    if (!m_board.mayBeLeft())
         return;
     const std::filesystem::path file = m_files.at(static_cast<std::size_t>(*filList.selected)).path;
     m_screens.bringToFront(ScreenKind::Board);
@@ -108,10 +108,10 @@ std::optional<ui::DrawingPrintout> ReportsScreen::scoredSheets()
 
 void ReportsScreen::gotoCustomReporting()
 {
-    if (!m_board.keepResults())
+    if (!m_board.mayShowGameResults())
         return;
     m_screens.unload(ScreenKind::Reports);
-    m_board.enterGameResults();
+    m_board.showGameResults();
     m_screens.load(ScreenKind::Scores);
 }
 

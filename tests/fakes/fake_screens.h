@@ -48,7 +48,7 @@ public:
     ui::DrawingPrintout picture{"Smith_JS.THC", {ui::Drawing{}}, ui::Orientation::Landscape};
 
     ui::DrawingPrintout printout() const override { return picture; }
-    void enterGameResults() override { calls.emplace_back("enterGameResults"); }
+    void showGameResults() override { calls.emplace_back("showGameResults"); }
     void showScored(const std::filesystem::path& file) override
     {
         calls.emplace_back("showScored");
@@ -57,13 +57,17 @@ public:
     void printForm() override { calls.emplace_back("printForm"); }
 
     bool unsavedResults = false;
-    bool resultsAreKept = true; ///< what the person decides
+    bool isLetGo = true; ///< what the person decides
     bool holdsUnsavedResults() const override { return unsavedResults; }
-    bool keepResults() override
+    bool mayBeLeft() override { return isAsked("mayBeLeft"); }
+    bool mayShowGameResults() override { return isAsked("mayShowGameResults"); }
+
+private:
+    bool isAsked(const char* question)
     {
         if (unsavedResults)
-            calls.emplace_back("keepResults");
-        return !unsavedResults || resultsAreKept;
+            calls.emplace_back(question);
+        return !unsavedResults || isLetGo;
     }
 };
 

@@ -130,7 +130,7 @@ TEST_P(Accessibility, OfTheLongestNamesOfTheList)
 TEST_P(Accessibility, OfTheScores)
 {
     onBoard([&] {
-        board().enterGameResults();
+        board().showGameResults();
         board().mnuScoreSelections.click();
     });
     auto* const scores = host.find<ScoresScreen>(ScreenKind::Scores);

@@ -25,7 +25,7 @@ protected:
         wireScreens(host, desk, folder, platform.services, shared);
         frame.open();
         host.load(ScreenKind::Board);
-        desk.runInside(board(), [this] { board().enterGameResults(); });
+        desk.runInside(board(), [this] { board().showGameResults(); });
         desk.runInside(board(), [this] { board().mnuScoreSelections.click(); });
         desk.runInside(scores(), [this] { scores().cmdOk.click(); });
     }

@@ -34,7 +34,7 @@ TEST_P(HostileNamesOnScreens, AreTextOnTheBoard)
 TEST_P(HostileNamesOnScreens, AreTextWhenTheyAreScored)
 {
     onBoard([&] {
-        board().enterGameResults();
+        board().showGameResults();
         board().mnuScoreSelections.click();
     });
     auto* const scores = host.find<ScoresScreen>(ScreenKind::Scores);

@@ -131,7 +131,13 @@ protected:
         save();
     }
 
-    void enterResults() { board->mnuGameResults.click(); }
+    /// Puts the results on the board; what is not saved there may be lost.
+    void enterResults()
+    {
+        if (board->unsaved)
+            platform.dialogs.answer(ui::Answer::Ok);
+        board->mnuGameResults.click();
+    }
 
     void score() { board->mnuScoreSelections.click(); }
 

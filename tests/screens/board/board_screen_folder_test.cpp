@@ -105,6 +105,62 @@ TEST_F(BoardScreenFolder, ChangesThatAreNotSavedAreLeftOnlyAfterAQuestion)
     EXPECT_EQ(board->document, "Baker_B.THC");
 }
 
+TEST_F(BoardScreenFolder, ChangesThatAreNotSavedAreLeftForTheResultsOnlyAfterAQuestion)
+{
+    loadFinalized();
+    click(0);
+    platform.dialogs.answer(ui::Answer::Cancel);
+    board->mnuGameResults.click();
+    EXPECT_FALSE(resultsMode());
+    EXPECT_EQ(at(16), "R1T0");
+    EXPECT_TRUE(board->unsaved);
+    EXPECT_EQ(platform.dialogs.shown.back().caption, "UNSAVED CHANGES");
+    EXPECT_TRUE(platform.dialogs.shown.back().refusalIsDefault) << "Enter loses nothing";
+    platform.dialogs.answer(ui::Answer::Ok);
+    board->mnuGameResults.click();
+    EXPECT_TRUE(resultsMode());
+    EXPECT_EQ(at(16), "");
+}
+
+TEST_F(BoardScreenFolder, ResultsAreEnteredWithoutAQuestionWhenNothingIsLost)
+{
+    putNoResultsYet();
+    loadFinalized();
+    board->mnuGameResults.click();
+    EXPECT_TRUE(resultsMode());
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+}
+
+TEST_F(BoardScreenFolder, OtherScreensAskBeforeTheyTakeTheBoardFromAnUnsavedSelection)
+{
+    loadFinalized();
+    EXPECT_TRUE(board->mayBeLeft());
+    EXPECT_TRUE(board->mayShowGameResults());
+    click(0);
+    platform.dialogs.answer(ui::Answer::Cancel).answer(ui::Answer::Cancel);
+    EXPECT_FALSE(board->mayBeLeft());
+    EXPECT_FALSE(board->mayShowGameResults());
+    platform.dialogs.answer(ui::Answer::Ok).answer(ui::Answer::Ok);
+    EXPECT_TRUE(board->mayBeLeft());
+    EXPECT_TRUE(board->mayShowGameResults());
+    EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>(4, "UNSAVED CHANGES"));
+}
+
+TEST_F(BoardScreenFolder, FirstResultsAskWhenTheFieldIsNoLongerFinal)
+{
+    loadFinalized();
+    putField(fieldOfTeams("0")); // by another program
+    platform.dialogs.answer(ui::Answer::Cancel);
+    board->mnuGameResults.click();
+    EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"NO FINAL FIELD IN THE FOLDER"});
+    EXPECT_FALSE(resultsMode());
+    EXPECT_TRUE(field.isFinalized());
+    putNoResultsYet(); // then the field is not loaded again
+    board->mnuGameResults.click();
+    EXPECT_TRUE(resultsMode());
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
+}
+
 TEST_F(BoardScreenFolder, OffersTheSelectionsSavedLastAtFirst)
 {
     putThreePlayers();

@@ -140,6 +140,17 @@ TEST_F(BoardScreenHistory, UndoingNewComesBackToResultsMode)
     EXPECT_EQ(board->explanation, "Game results: click the real winners forward and save.");
 }
 
+TEST_F(BoardScreenHistory, ComingBackToResultsModeLeavesTheFocusOnNoLockedBox)
+{
+    loadFinalized();
+    enterResults();
+    board->mnuNewSelection.click();
+    board->focused = &board->txtPlayerName;
+    undo();
+    ASSERT_TRUE(resultsMode());
+    EXPECT_EQ(board->focused, &board->lblRegion[Position{0}]);
+}
+
 TEST_F(BoardScreenHistory, ComingBackToResultsModeSaysWhatToDoThere)
 {
     loadFinalized();

@@ -142,7 +142,7 @@ TEST_F(BoardScreenLoad, MentionsAFolderThatCannotBeWrittenOnlyOnce)
     platform.dialogs.answer(ui::Answer::Ok);
     board->mnuNewSelection.click();
     EXPECT_EQ(platform.dialogs.captionsShown(),
-              (std::vector<std::string>{"** ERROR IN WRITING FILE **", "FIELD IS NO LONGER FINAL"}));
+              (std::vector<std::string>{"** ERROR IN WRITING FILE **", "NO FINAL FIELD IN THE FOLDER"}));
 }
 
 TEST_F(BoardScreenLoad, CreatesThePlayerListOnceTheFolderCanBeWritten)

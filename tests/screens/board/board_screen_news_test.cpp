@@ -134,17 +134,17 @@ TEST_F(BoardScreenNews, ATieBreakerThatCannotBeUsedIsThatOfTheBoard)
 TEST_F(BoardScreenNews, ResultsThatAreNotSavedAreSavedBeforeTheBoardTurnsToSomethingElse)
 {
     loadFinalized();
-    EXPECT_TRUE(board->keepResults()) << "a selection is left as it is";
+    EXPECT_TRUE(board->mayBeLeft()) << "there is nothing to lose";
     enterResults();
-    EXPECT_TRUE(board->keepResults());
+    EXPECT_TRUE(board->mayBeLeft());
     EXPECT_TRUE(platform.dialogs.shown.empty());
     click(0);
     EXPECT_TRUE(board->holdsUnsavedResults());
     platform.dialogs.answer(ui::Answer::Cancel);
-    EXPECT_FALSE(board->keepResults());
+    EXPECT_FALSE(board->mayBeLeft());
     EXPECT_FALSE(scratch.has("TALLYHOOP.THS"));
     platform.dialogs.answer(ui::Answer::Ok);
-    EXPECT_TRUE(board->keepResults());
+    EXPECT_TRUE(board->mayBeLeft());
     EXPECT_EQ(platform.dialogs.shown.back().text, "The board holds results that are not saved.\r\n"
                                                   "If you continue, they are saved first.");
     EXPECT_EQ(savedAt(saved("TALLYHOOP.THS"), 16), "R1T0");
@@ -158,7 +158,7 @@ TEST_F(BoardScreenNews, ResultsThatCannotBeSavedKeepTheBoard)
     click(0);
     board->txtFinalPoints.text = "251";
     platform.dialogs.answer(ui::Answer::Ok);
-    EXPECT_FALSE(board->keepResults());
+    EXPECT_FALSE(board->mayBeLeft());
     EXPECT_TRUE(board->unsaved);
 }
 
@@ -169,7 +169,7 @@ TEST_F(BoardScreenNews, NewAsksWhenTheFieldIsNoLongerFinalInTheFolder)
     putField(fieldOfTeams("0")); // by another program
     platform.dialogs.answer(ui::Answer::Cancel);
     board->mnuNewSelection.click();
-    EXPECT_EQ(platform.dialogs.shown.back().caption, "FIELD IS NO LONGER FINAL");
+    EXPECT_EQ(platform.dialogs.shown.back().caption, "NO FINAL FIELD IN THE FOLDER");
     EXPECT_TRUE(platform.dialogs.shown.back().refusalIsDefault);
     EXPECT_EQ(at(16), "R1T0") << "the board stays, and can be saved";
     EXPECT_TRUE(board->mnuSaveSelection.enabled);

@@ -73,7 +73,7 @@ TEST_F(ReportsPrintouts, PrintTheBoardWithTheResults)
     screen.cmdSelectedPrintouts.click();
 
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Reports});
-    EXPECT_EQ(board.calls, (std::vector<std::string>{"enterGameResults", "printForm"}));
+    EXPECT_EQ(board.calls, (std::vector<std::string>{"showGameResults", "printForm"}));
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
 
@@ -84,7 +84,7 @@ TEST_F(ReportsPrintouts, IgnoreTheChosenFileForTheResultsSheet)
 
     screen.cmdSelectedPrintouts.click();
 
-    EXPECT_EQ(board.calls, (std::vector<std::string>{"enterGameResults", "printForm"}));
+    EXPECT_EQ(board.calls, (std::vector<std::string>{"showGameResults", "printForm"}));
     EXPECT_TRUE(board.filesShown.empty());
 }
 
@@ -116,7 +116,7 @@ struct WatchingBoard : FakeBoard {
         unloadedBefore = screens.unloads.size();
         loadedBefore = screens.loads.size();
     }
-    void enterGameResults() override { note(); }
+    void showGameResults() override { note(); }
     void showScored(const std::filesystem::path&) override { note(); }
 };
 
@@ -273,14 +273,14 @@ TEST_F(ReportsPrintouts, AreNotTheOnlyWayToTheResults)
     screen.cmdCustomReport.click();
 
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Reports});
-    EXPECT_EQ(board.calls, std::vector<std::string>{"enterGameResults"});
+    EXPECT_EQ(board.calls, std::vector<std::string>{"showGameResults"});
     EXPECT_EQ(screens.loads, std::vector{ScreenKind::Scores});
 }
 
 TEST_F(ReportsPrintouts, LeaveResultsOnTheBoardThatAreNotSavedUntilThePersonHasDecided)
 {
     board.unsavedResults = true;
-    board.resultsAreKept = false; // the person cancels
+    board.isLetGo = false; // the person cancels
     ui::selectOption(screen.optSelected, 1);
     screen.cmdSelectedPrintouts.click();
     screen.filList.selected = 0;
@@ -288,13 +288,13 @@ TEST_F(ReportsPrintouts, LeaveResultsOnTheBoardThatAreNotSavedUntilThePersonHasD
     screen.cmdSelectedPrintouts.click();
     screen.cmdCustomReport.click();
 
-    EXPECT_EQ(board.calls, std::vector<std::string>(3, "keepResults"));
+    EXPECT_EQ(board.calls, (std::vector<std::string>{"mayShowGameResults", "mayBeLeft", "mayShowGameResults"}));
     EXPECT_TRUE(screens.unloads.empty());
     EXPECT_TRUE(screens.loads.empty());
 
-    board.resultsAreKept = true; // the person saves them
+    board.isLetGo = true; // the person saves them
     screen.cmdCustomReport.click();
-    EXPECT_EQ(board.calls.back(), "enterGameResults");
+    EXPECT_EQ(board.calls.back(), "showGameResults");
     EXPECT_EQ(screens.loads, std::vector{ScreenKind::Scores});
 }
 
