@@ -17,7 +17,7 @@ constexpr ui::Colour kTextColour{30, 32, 40};
 constexpr ui::Colour kPaper{255, 255, 255};
 
 /// The colours of the screen are too light for paper, and a grey printer has none: a wrong pick is struck through too.
-ui::Colour inkOf(Verdict verdict)
+ui::Colour printedColour(Verdict verdict)
 {
     switch (verdict) {
     case Verdict::Good:
@@ -38,7 +38,7 @@ public:
     Painter(const BoardPicture& picture, const Entry& player, const std::optional<ShownScore>& score)
         : m_picture{picture},
           m_player{player},
-          m_score{scoreText(score)},
+          m_score{score ? scoreText(score) : picture.marked},
           m_places{layOutBoard(kPageWidth, kStripTop - 8)}
     {
     }
@@ -106,10 +106,12 @@ private:
         if (*mark == '\0')
             name = whole; // a long name may use the place of the marker
         else
-            write(m_places.results[*game], mark, size * 1.1, ui::Alignment::Centre, true, inkOf(verdict));
+            write(m_places.results[*game], mark, size * 1.1, ui::Alignment::Centre, true, printedColour(verdict));
         m_drawing.boxes.push_back({whole, kPaper, kLineColour});
+        // The name of a real winner is neither right nor wrong; only the mark beside it is the player's.
+        const Verdict onName = m_picture.names == MarkedNames::Picks ? verdict : Verdict::None;
         write(inset(name), m_picture.bracket.at(position), isChampion ? size * 1.25 : size, ui::Alignment::Left,
-              isChampion, inkOf(verdict), verdict == Verdict::Bad);
+              isChampion, printedColour(onName), onName == Verdict::Bad);
     }
 
     void paintStrip()
@@ -145,7 +147,7 @@ private:
 
     const BoardPicture& m_picture;
     const Entry& m_player;
-    std::string m_score;
+    std::string m_score; ///< or whose marks these are: results have no score
     BoardGeometry m_places;
     ui::Drawing m_drawing;
 };

@@ -25,6 +25,7 @@ struct BoardPicture {
     bool demo = false;
     MarkedNames names = MarkedNames::Picks;
     const Bracket* results = nullptr; ///< that the picks were marked with; nullptr = not known here
+    std::string marked = {};          ///< whose marks are beside the results, in words; empty for picks
 
     /// @returns the verdict on a pick; None where nothing is marked
     Verdict verdictAt(Position position) const { return verdicts ? (*verdicts)[position] : Verdict::None; }

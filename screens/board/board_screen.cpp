@@ -90,7 +90,8 @@ BoardPicture BoardScreen::picture() const
             shownVerdicts(),
             m_demo,
             m_verdicts ? MarkedNames::Picks : MarkedNames::Results,
-            m_verdicts ? &m_results : nullptr};
+            m_verdicts ? &m_results : nullptr,
+            !m_verdicts && m_shared.listedPlayer ? markedPlayer(*m_shared.listedPlayer) : std::string{}};
 }
 
 BoardState BoardScreen::state() const

@@ -124,6 +124,24 @@ TEST_F(BoardDrawing, StrikesWrongPicksThroughForPrintersWithoutColour)
         << "neither the mark, nor a right pick, nor a row of the field, which is no pick";
 }
 
+TEST_F(BoardDrawing, MarksTheResultsWithWhatAPlayerMadeOfThemAndStrikesNoWinnerThrough)
+{
+    bracket.put(Position{16}, "Upset U");
+    bracket.put(Position{17}, "Real Winner");
+    verdicts[Position{16}] = Verdict::Good;
+    verdicts[Position{17}] = Verdict::Bad;
+    const ui::Drawing drawing =
+        drawBoard({field, bracket, &verdicts, false, MarkedNames::Results, nullptr, "Marked: Baker_C.THC, 92 of 120"},
+                  player, {});
+    EXPECT_EQ(std::ranges::count(drawing.captions, true, &ui::Caption::struck), 0);
+    const ui::Colour plain = captions(drawing, "TEAM1").at(0).colour;
+    EXPECT_EQ(captions(drawing, "Real Winner").at(0).colour, plain);
+    EXPECT_EQ(captions(drawing, "Upset U").at(0).colour, plain);
+    EXPECT_NE(captions(drawing, "X").at(0).colour, plain);
+    EXPECT_EQ(captions(drawing, "=").size(), 1u);
+    EXPECT_EQ(captions(drawing, "Marked: Baker_C.THC, 92 of 120").size(), 1u);
+}
+
 TEST_F(BoardDrawing, LetsANameUseThePlaceOfTheMarkerThatIsNotThere)
 {
     bracket.put(Position{16}, "Upset U");
