@@ -16,7 +16,7 @@
 
 namespace tallyhoop {
 
-Entry BoardFiles::read(const std::filesystem::path& file, const Field& field)
+Read<Entry> BoardFiles::read(const std::filesystem::path& file, const Field& field)
 {
     m_known.note(file);
     Read<Entry> read = readSelectionFile(file, startingBracket(field));
@@ -24,13 +24,13 @@ Entry BoardFiles::read(const std::filesystem::path& file, const Field& field)
         m_known.noteDamage(file);
         showReadingTrouble(m_platform.dialogs, file);
     }
-    return std::move(read.value);
+    return read;
 }
 
 Entry BoardFiles::readResults(const Field& field)
 {
     if (resultsExist())
-        return completedResults(read(results(), field), field);
+        return completedResults(read(results(), field).value, field);
     m_known.note(results());
     return newResults(field);
 }

@@ -19,8 +19,9 @@ public:
     /// Both outlive it.
     BoardFiles(const DataFolder& folder, const ui::Platform& platform) : m_folder{folder}, m_platform{platform} {}
 
-    /// @returns what the file holds; where it cannot be read, what a fresh board on this field holds
-    Entry read(const std::filesystem::path& file, const Field& field);
+    /// @returns what the file holds; where it cannot be read, what a fresh board on this field holds. The trouble is
+    ///          shown already
+    Read<Entry> read(const std::filesystem::path& file, const Field& field);
 
     /// @returns the results, completed from the field; new ones when there is no file yet
     Entry readResults(const Field& field);

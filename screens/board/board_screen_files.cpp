@@ -119,8 +119,13 @@ void BoardScreen::openSelection()
 
 void BoardScreen::showSelection(const std::filesystem::path& file)
 {
+    if (read.trouble) {
+        say(shown(file.filename()) + " could not be read, or not whole.");
+        return;
+    }
     m_shared.savedPlayer.reset();
-    showEntry(m_files.read(file, m_shared.field));
+    Read<Entry> read = m_files.read(file, m_shared.field);
+    showEntry(std::move(read.value));
     m_openedFile = file;
     beginUnmarked();
     m_recent.note(file);

@@ -31,7 +31,7 @@ std::optional<ui::DrawingPrintout> BracketSheets::scored(std::span<const FolderF
     printout.title = files.size() == 1 ? files.front().name : "All Players";
     Work work{m_platform.progress, "Drawing the brackets", files.size()};
     for (const FolderFile& file : files) {
-        const Entry entry = pool.read(file.path, m_field);
+        const Entry entry = pool.read(file.path, m_field).value;
         const Result<PlayerScore> score = scoreEntry(entry, results.picks, *payoffs);
         if (!score) {
             showTrouble(m_platform.dialogs, score.failure());

@@ -192,6 +192,17 @@ TEST_F(BoardScreenFolder, OffersWhatWasOpenedOrSavedLastFirst)
     EXPECT_EQ(recent()[0], "&1 Baker_B.THC");
 }
 
+TEST_F(BoardScreenFolder, DoesNotSayThatAFileIsOpenThatCouldNotBeRead)
+{
+    loadFinalized();
+    open(scratch.path() / "Gone_G.THC");
+    EXPECT_EQ(board->news().text, "Gone_G.THC could not be read, or not whole.");
+    EXPECT_TRUE(recent().empty());
+    open(scratch.put("Half_H.THC", "TEAM1\r\n"));
+    EXPECT_EQ(board->news().text, "Half_H.THC could not be read, or not whole.");
+    EXPECT_TRUE(recent().empty());
+}
+
 TEST_F(BoardScreenFolder, OffersFiveSelectionsAtTheMost)
 {
     for (int i = 0; i < 7; ++i)
