@@ -102,6 +102,7 @@ void EmailScreen::load()
     if (m_draft.unsent) {
         txtSubject.text = m_draft.unsent->subject;
         txtMessage.text = m_draft.unsent->message;
+        lstTo.rows = m_draft.unsent->recipients;
         say("This is the message that no mail program has taken. Change it as you like.");
     }
     m_playersFaulty = !playerListIsSound(m_dialogs, m_folder);
@@ -113,8 +114,6 @@ void EmailScreen::load()
     fillPlayers(records);
     if (m_draft.toEverybody)
         addressEverybody(records);
-    else if (m_draft.unsent)
-        lstTo.rows = m_draft.unsent->recipients;
 }
 
 void EmailScreen::showState()
@@ -145,6 +144,7 @@ void EmailScreen::fillPlayers(std::span<const PlayerRecord> records)
 void EmailScreen::addressEverybody(std::span<const PlayerRecord> records)
 {
     bool somebodyWithout = false;
+    lstTo.rows.clear();
     for (const PlayerRecord& record : records) {
         const std::vector<std::string> addresses = addressesIn(record.email);
         somebodyWithout = somebodyWithout || addresses.empty();

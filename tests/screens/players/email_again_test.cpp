@@ -109,6 +109,15 @@ TEST_F(EmailAgain, ShowsWhatNoMailProgramHasTaken)
     EXPECT_EQ(draft.subject, "") << "the result is empty until Send Email";
 }
 
+TEST_F(EmailAgain, KeepsTheRecipientsWhenThePlayerListCannotBeUsed)
+{
+    scratch.put("PLAYERNAMES.CSV", "damaged\r\n");
+    draft.unsent = MailText{{"z@x.org", "a@x.org"}, "Standings", "Hello"};
+    open();
+    EXPECT_EQ(screen.lstTo.rows, (Rows{"z@x.org", "a@x.org"}));
+    EXPECT_TRUE(screen.lstPlayerNames.rows.empty());
+}
+
 TEST_F(EmailAgain, AddressesEverybodyAnewWhenThatIsAsked)
 {
     draft.unsent = MailText{{"z@x.org"}, "Standings", "Hello"};
