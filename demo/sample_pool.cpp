@@ -56,10 +56,10 @@ Result<Done> checkNoPool(const DataFolder& folder, std::span<const SampleFile> f
 }
 
 /// What was not there before is taken away again.
-void takeBack(const DataFolder& folder, std::span<const SampleFile> written)
+void takeBack(const DataFolder& folder, std::span<const std::string> written)
 {
-    for (const SampleFile& file : written)
-        (void)folder.remove(file.name); // the failure that led here is the one to report
+    for (const std::string& name : written)
+        (void)folder.remove(name); // the failure that led here is the one to report
 }
 
 } // namespace
@@ -112,13 +112,17 @@ Result<Done> installSamplePool(const DataFolder& folder)
     const std::vector<SampleFile> files = sampleFiles();
     if (const Result<Done> free = checkNoPool(folder, files); !free)
         return free;
-    for (std::size_t i = 0; i < files.size(); ++i) {
-        const Result<Done> written = folder.write(files[i].name, files[i].bytes);
-        if (written)
-            continue;
-        takeBack(folder, std::span{files}.first(i));
-        return Failure{"The sample pool could not be written: " + folder.shownPathOf(files[i].name) + "\r\n" +
-                       written.failure().message};
+    std::vector<std::string> writtenHere;
+    for (const SampleFile& file : files) {
+        if (isOursAlready(folder, file))
+            continue; // another installer's
+        const Result<Done> written = folder.write(file.name, file.bytes);
+        if (!written) {
+            takeBack(folder, writtenHere);
+            return Failure{"The sample pool could not be written: " + folder.shownPathOf(file.name) + "\r\n" +
+                           written.failure().message};
+        }
+        writtenHere.push_back(file.name);
     }
     return Done{};
 }

@@ -62,11 +62,12 @@ ui::Message trouble(const std::string& what, const Failure& failure)
 
 /// @returns the names as the folder has them: each in every case of its letters, for one that stays would be taken for
 ///          the file of a pool. The settings come last: a clearing that was cut short leaves demo mode on, and can be
-///          asked for again.
+///          asked for again; and before them the setup, for a board without a field is of no use meanwhile.
 std::vector<std::string> demoDataFiles(const DataFolder& folder)
 {
-    std::vector<const char*> names{file_name::kSetup, file_name::kResults, file_name::kPlayerNames};
+    std::vector<const char*> names{file_name::kResults, file_name::kPlayerNames};
     names.insert(names.end(), demo::kSelectionFiles.begin(), demo::kSelectionFiles.end());
+    names.push_back(file_name::kSetup);
     names.push_back(file_name::kSettings);
 
     std::vector<std::string> spelled;
@@ -102,7 +103,8 @@ std::string putOwnPoolBack(const DataFolder& folder, const std::optional<std::fi
     if (!backup)
         return {};
     // What the installer has left is no pool; what cannot be deleted of it is replaced, as far as it has own names.
-    [[maybe_unused]] const Result<Done> cleared = clearDemoDataFiles(folder);
+    for (const std::string& name : demoDataFiles(folder))
+        static_cast<void>(folder.remove(name));
     const Result<Done> done = putBack(folder, *backup);
     std::string words = done ? "The files of your own pool have been put back. Copies of them are in the folder:"
                              : "Your own pool could not be put back:\r\n" + done.failure().message +
@@ -150,8 +152,10 @@ std::optional<ui::Message> install(const DataFolder& folder, const std::filesyst
     if (const Result<Done> started = platform.programs.start(installer); !started)
         return trouble("Demonstration mode could not be started.", failureAt(shown(installer), started.failure()));
     platform.dialogs.show(kContinueInDemo);
-    if (const std::optional<Failure> noPool = waitForSamplePool(folder, platform))
+    if (const std::optional<Failure> noPool = waitForSamplePool(folder, platform)) {
+        platform.programs.stop(); // it must not write among the files that are put back
         return trouble("The sample pool could not be installed.", failureAt(shown(installer), *noPool));
+    }
     return std::nullopt;
 }
 
@@ -181,14 +185,10 @@ Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& fold
 
 Result<Done> clearDemoDataFiles(const DataFolder& folder)
 {
-    Result<Done> outcome = Done{};
-    for (const std::string& name : demoDataFiles(folder)) {
-        if (!outcome && equalFolded(name, file_name::kSettings))
-            break;
-        if (const Result<Done> removed = folder.remove(name); !removed && outcome)
-            outcome = failureAt(folder.shownPathOf(name), removed.failure());
-    }
-    return outcome;
+    for (const std::string& name : demoDataFiles(folder))
+        if (const Result<Done> removed = folder.remove(name); !removed)
+            return failureAt(folder.shownPathOf(name), removed.failure());
+    return Done{};
 }
 
 bool startDemo(const DataFolder& folder, const ui::Platform& platform)

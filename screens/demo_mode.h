@@ -15,9 +15,10 @@ namespace tallyhoop {
 /// @returns the subfolder; nothing when there is nothing to keep; or a failure, with nothing changed
 Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& folder, const ui::Clock& clock);
 
-/// Deletes the setup, results and player files, the sample selections and at last the settings, as far as they exist.
-/// @returns a failure naming the first file that could not be deleted; the others are deleted all the same, but not the
-///          settings: demo mode stays on, so that leaving it can be tried again
+/// Deletes the results and player files, the sample selections, the setup and at last the settings, as far as they
+/// exist.
+/// @returns a failure naming the first file that could not be deleted; those after it stay. So does demo mode, and
+///          leaving it can be tried again
 Result<Done> clearDemoDataFiles(const DataFolder& folder);
 
 /// Keeps the person's own files, clears the data files, starts the installer, waits for the person's OK and for the

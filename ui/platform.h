@@ -40,6 +40,9 @@ public:
     ///          has failed
     virtual std::optional<Result<Done>> waitForEnd(std::chrono::milliseconds atMost) = 0;
 
+    /// Ends the program that was started last, if it is still running, and waits until it is gone.
+    virtual void stop() = 0;
+
     /// Asks the desktop to show a folder. @returns a failure when it has nothing that does
     virtual Result<Done> openFolder(const std::filesystem::path& folder) = 0;
 };

@@ -103,6 +103,14 @@ std::optional<Result<Done>> QtPrograms::waitForEnd(std::chrono::milliseconds atM
     return Failure{errors.isEmpty() ? "It ended without saying why." : withCrLf(fromQString(errors))};
 }
 
+void QtPrograms::stop()
+{
+    if (!m_started || m_started->state() == QProcess::NotRunning)
+        return;
+    m_started->kill();
+    m_started->waitForFinished();
+}
+
 Result<Done> QtPrograms::openFolder(const std::filesystem::path& folder)
 {
     if (QDesktopServices::openUrl(QUrl::fromLocalFile(fromPath(folder))))

@@ -24,6 +24,7 @@ public:
     Result<Done> check(const std::filesystem::path& program) override;
     Result<Done> start(const std::filesystem::path& program) override;
     std::optional<Result<Done>> waitForEnd(std::chrono::milliseconds atMost) override;
+    void stop() override;
     Result<Done> openFolder(const std::filesystem::path& folder) override;
 
 private:

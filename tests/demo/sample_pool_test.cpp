@@ -293,6 +293,21 @@ TEST(SamplePoolInstall, TakesEverythingBackWhenAFileCannotBeWritten)
     EXPECT_TRUE(demo::installSamplePool(scratch.folder())) << "once the trouble is gone it works";
 }
 
+TEST(SamplePoolInstall, TakesBackOnlyWhatItHasWrittenItself)
+{
+    const test::ScratchFolder scratch;
+    const std::vector<demo::SampleFile> files = demo::sampleFiles();
+    scratch.put(files.front().name, files.front().bytes); // by another installer
+    const std::filesystem::path temporary = scratch.put(".TALLYHOOP.INI.tmp~", "");
+    const int held = ::open(temporary.c_str(), O_WRONLY | O_CLOEXEC);
+    ASSERT_EQ(::flock(held, LOCK_EX), 0);
+    EXPECT_FALSE(demo::installSamplePool(scratch.folder()));
+    ::close(held);
+    EXPECT_EQ(scratch.get(files.front().name), files.front().bytes);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator{scratch.path()}, {}), 2)
+        << "the temporary is the other";
+}
+
 TEST(SamplePoolInstall, LeavesNothingToKeepWhenTheDemoIsLeftUntouched)
 {
     const test::ScratchFolder scratch;

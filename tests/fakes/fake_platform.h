@@ -140,6 +140,8 @@ public:
     std::optional<Result<Done>> end; ///< how the started program has ended
     std::vector<std::filesystem::path> foldersOpened;
     std::optional<Failure> openFolderTrouble;
+    std::function<void()> whenStopped;
+    int stops = 0;
 
     Result<Done> check(const std::filesystem::path&) override
     {
@@ -162,6 +164,12 @@ public:
     }
     Result<Done> openFolder(const std::filesystem::path& folder) override
     {
+    void stop() override
+    {
+        ++stops;
+        if (whenStopped)
+            whenStopped();
+    }
         foldersOpened.push_back(folder);
         return openFolderTrouble ? Result<Done>{*openFolderTrouble} : Result<Done>{Done{}};
     }

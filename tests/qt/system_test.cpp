@@ -109,6 +109,20 @@ TEST(QtPrograms, AProgramThatStillRunsHasNoOutcome)
     EXPECT_TRUE(QTest::qWaitFor([&] { return scratch.has("gone"); })) << "it keeps running";
 }
 
+TEST(QtPrograms, AProgramThatStillRunsCanBeEnded)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    const auto file = scratch.put("patient", "#!/bin/sh\nuntil [ -e go ]; do sleep 0.01; done\ntouch gone\n");
+    makeExecutable(file);
+    QtPrograms programs;
+    programs.stop(); // none was started
+    ASSERT_TRUE(programs.start(file));
+    programs.stop();
+    const auto end = programs.waitForEnd(0ms);
+    ASSERT_TRUE(end.has_value()) << "it is gone already";
+    EXPECT_FALSE(*end);
+}
+
 TEST(QtPrograms, AProgramThatSucceedsIsDone)
 {
     QtPrograms programs;

@@ -38,7 +38,30 @@ TEST(ClearDemoDataFiles, SucceedsWhenThereAreNone)
     EXPECT_TRUE(clearDemoDataFiles(scratch.folder()));
 }
 
-TEST(ClearDemoDataFiles, NamesTheFirstFileItCouldNotDeleteAndDeletesTheOthers)
+TEST(ClearDemoDataFiles, DeletesNothingMoreAfterAFileThatItCouldNotDelete)
+{
+    InstalledDemo demo;
+    fs::remove(demo.scratch.path() / "PLAYERNAMES.CSV");
+    fs::create_directory(demo.scratch.path() / "PLAYERNAMES.CSV");
+    const Result<Done> outcome = clearDemoDataFiles(demo.scratch.folder());
+    ASSERT_FALSE(outcome);
+    EXPECT_TRUE(outcome.failure().message.starts_with((demo.scratch.path() / "PLAYERNAMES.CSV").string()));
+    for (const char* name : demo::kSelectionFiles)
+        EXPECT_TRUE(demo.scratch.has(name)) << name;
+    EXPECT_TRUE(demo.scratch.has("POOLSTART.THS")) << "the board still has its field";
+    EXPECT_TRUE(demo.scratch.has("TALLYHOOP.INI"));
+}
+
+TEST(ClearDemoDataFiles, KeepsTheFieldUntilEverythingButTheSettingsIsGone)
+{
+    InstalledDemo demo;
+    fs::remove(demo.scratch.path() / "POOLSTART.THS");
+    fs::create_directory(demo.scratch.path() / "POOLSTART.THS");
+    EXPECT_FALSE(clearDemoDataFiles(demo.scratch.folder()));
+    EXPECT_EQ(entriesOf(demo.scratch.path()), (std::vector<std::string>{"POOLSTART.THS", "TALLYHOOP.INI"}));
+}
+
+TEST(ClearDemoDataFiles, NamesTheFileItCouldNotDelete)
 {
     OwnPool pool;
     fs::create_directory(pool.scratch.path() / "TALLYHOOP.INI");
@@ -147,8 +170,14 @@ TEST(StartDemo, GivesAnInstallerUpThatDoesNotFinish)
     OwnPool pool;
     int looks = 0;
     pool.platform.programs.whileWaitedFor = [&] { ++looks; };
+    // What it writes until it is ended must not come after the own files.
+    pool.platform.programs.whenStopped = [&] {
+        EXPECT_TRUE(pool.isCleared());
+        pool.scratch.put("TALLYHOOP.THS", "half a sample");
+    };
     EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services)) << "files were written";
     EXPECT_EQ(looks, 1000) << "a hundredth of a second each";
+    EXPECT_EQ(pool.platform.programs.stops, 1);
     EXPECT_EQ(pool.platform.dialogs.shown.back(), noSamplePool(pool, "It has not finished."));
     pool.expectPutBack();
 }
