@@ -94,15 +94,28 @@ std::size_t insertSorted(std::vector<std::string>& rows, std::string row)
     return index;
 }
 
-std::string joinLines(const std::vector<std::string>& lines)
+std::string joinLines(const std::vector<std::string>& lines) { return joined(lines, kLineBreak); }
+
+std::string joined(std::span<const std::string> texts, std::string_view between)
 {
-    std::string joined;
-    for (const std::string& line : lines) {
-        if (&line != &lines.front())
-            joined += kLineBreak;
-        joined += line;
+    std::string all;
+    for (const std::string& text : texts) {
+        if (&text != &texts.front())
+            all += between;
+        all += text;
     }
-    return joined;
+    return all;
+}
+
+std::vector<std::string> fewEnoughForAMessage(std::vector<std::string> lines)
+{
+    constexpr std::size_t kMostLines = 20;
+    if (lines.size() > kMostLines) {
+        const std::size_t left = lines.size() - kMostLines;
+        lines.resize(kMostLines);
+        lines.push_back("and " + std::to_string(left) + " more");
+    }
+    return lines;
 }
 
 } // namespace tallyhoop

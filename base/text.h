@@ -1,6 +1,7 @@
 // base/text.h - small text helpers that several screens and reports share.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -46,5 +47,11 @@ std::size_t insertSorted(std::vector<std::string>& rows, std::string row);
 
 /// Joins lines with CR LF, none after the last.
 std::string joinLines(const std::vector<std::string>& lines);
+
+/// Joins texts with something between each two of them.
+std::string joined(std::span<const std::string> texts, std::string_view between);
+
+/// Keeps the first twenty lines, for a message box has to fit the screen, and adds "and 5 more" for the others.
+std::vector<std::string> fewEnoughForAMessage(std::vector<std::string> lines);
 
 } // namespace tallyhoop

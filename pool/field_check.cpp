@@ -65,10 +65,11 @@ std::vector<TeamRow> unnamedTeams(const Field& field)
 {
     const Field initial = defaultField();
     std::vector<TeamRow> rows;
-    for (const TeamRow row : allTeamRows())
-        if (std::ranges::any_of(initial.teams.values,
-                                [&](const std::string& name) { return equalFolded(name, field.teams[row]); }))
+    for (const TeamRow row : allTeamRows()) {
+        const std::string team = withoutOuterBlanks(field.teams[row]);
+        if (std::ranges::any_of(initial.teams.values, [&](const std::string& name) { return equalFolded(name, team); }))
             rows.push_back(row);
+    }
     return rows;
 }
 

@@ -192,6 +192,13 @@ void showListingTrouble(ui::Dialogs& dialogs, const DataFolder& folder, const Fa
                                             shown(folder.folder()), reason.message})});
 }
 
+std::string showFolder(const ui::Platform& platform, const DataFolder& folder)
+{
+    const std::string where = shown(folder.folder());
+    return platform.programs.openFolder(folder.folder()) ? "The folder of the pool: " + where
+                                                         : "The folder cannot be shown here. It is " + where;
+}
+
 void showTrouble(ui::Dialogs& dialogs, const Failure& failure)
 {
     dialogs.show({"", failure.message, ui::Buttons::Ok, ui::Icon::Critical});

@@ -51,6 +51,10 @@ std::vector<FolderFile> listSelections(ui::Dialogs& dialogs, const DataFolder& f
 /// Shows that the selections cannot be listed, or not all of them, and why.
 void showListingTrouble(ui::Dialogs& dialogs, const DataFolder& folder, const Failure& reason);
 
+/// Asks the desktop to show the pool's folder. @returns a sentence for the status line: where it is, and whether it is
+/// shown
+std::string showFolder(const ui::Platform& platform, const DataFolder& folder);
+
 /// Shows what is wrong, without a caption of its own.
 void showTrouble(ui::Dialogs& dialogs, const Failure& failure);
 

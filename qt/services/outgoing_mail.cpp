@@ -1,6 +1,7 @@
 // qt/services/outgoing_mail.cpp - quoting for each client.
 #include "qt/services/outgoing_mail.h"
 
+#include "base/text.h"
 #include "base/windows1252.h"
 
 #include <QByteArray>
@@ -23,14 +24,6 @@ std::string withoutPlaceholders(const ui::MailMessage& message)
     for (std::size_t i = 0; i < message.placeholders && body.ends_with(' '); ++i)
         body.pop_back();
     return body;
-}
-
-std::string joined(const std::vector<std::string>& texts)
-{
-    std::string all;
-    for (const std::string& text : texts)
-        all += (all.empty() ? "" : ",") + text;
-    return all;
 }
 
 /// In Thunderbird's composing argument a value in apostrophes is taken as it is and ends at an apostrophe before a
@@ -71,7 +64,7 @@ std::vector<std::string> thunderbirdArguments(const OutgoingMail& mail)
 {
     std::string compose;
     if (!mail.recipients.empty())
-        compose += "to=" + composeValue(joined(mail.recipients)) + ",";
+        compose += "to=" + composeValue(joined(mail.recipients, ",")) + ",";
     compose += "subject=" + percentEncoded(mail.subject);
     compose += ",body=" + percentEncoded(mail.body);
     compose += ",format=text"; // Otherwise a "<b>" in the text would become bold.
@@ -79,7 +72,7 @@ std::vector<std::string> thunderbirdArguments(const OutgoingMail& mail)
     for (const std::filesystem::path& file : mail.files)
         urls.push_back(fileUrl(file));
     if (!urls.empty())
-        compose += ",attachment='" + joined(urls) + "'";
+        compose += ",attachment='" + joined(urls, ",") + "'";
     return {"-compose", compose};
 }
 
@@ -93,7 +86,7 @@ std::vector<std::string> xdgEmailArguments(const OutgoingMail& mail)
     std::vector<std::string> recipients;
     for (const std::string& recipient : mail.recipients)
         recipients.push_back(percentEncoded(recipient, "@"));
-    std::string address = "mailto:" + joined(recipients) + "?subject=" + percentEncoded(mail.subject);
+    std::string address = "mailto:" + joined(recipients, ",") + "?subject=" + percentEncoded(mail.subject);
     if (!mail.body.empty())
         address += "&body=" + percentEncoded(mail.body);
     arguments.push_back(address);

@@ -99,12 +99,7 @@ void BoardScreen::openNeighbour(int step)
 /// One key is pressed by mistake sooner than a file is chosen in a dialog, and nothing brings the changes back.
 bool BoardScreen::mayBeReplaced() { return !unsaved || m_platform.dialogs.show(kUnsaved) == ui::Answer::Ok; }
 
-void BoardScreen::openFolder()
-{
-    const Result<Done> shownThere = m_platform.programs.openFolder(m_folder.folder());
-    say(shownThere ? "The folder of the pool: " + shown(m_folder.folder())
-                   : "The folder cannot be shown here. It is " + shown(m_folder.folder()));
-}
+void BoardScreen::openFolder() { say(showFolder(m_platform, m_folder)); }
 
 void BoardScreen::backUpPool() { say(tallyhoop::backUpPool(m_folder, m_platform)); }
 

@@ -1,6 +1,7 @@
 // screens/board/selection_saving.cpp - which file is meant, and what is asked about a new, an existing or another name.
 #include "screens/board/selection_saving.h"
 
+#include "base/text.h"
 #include "base/windows1252.h"
 #include "files/file_names.h"
 #include "files/selection_file.h"
@@ -59,13 +60,17 @@ bool isThere(const std::filesystem::path& file)
     return std::filesystem::exists(file, missing);
 }
 
-/// @returns "Demo Prophet (DP)"; nothing when the file holds nobody's name
+/// @returns "Demo Prophet (DP)", or the one of both that is there; nothing when the file holds nobody's name
 std::optional<std::string> playerIn(const std::filesystem::path& file)
 {
     const Entry entry = readSelectionFile(file, {}).value;
-    if (entry.name.empty() && entry.initials.empty())
+    const std::string name = withoutOuterBlanks(entry.name);
+    const std::string initials = withoutOuterBlanks(entry.initials);
+    if (name.empty() && initials.empty())
         return std::nullopt;
-    return entry.name + " (" + entry.initials + ")";
+    if (name.empty() || initials.empty())
+        return name + initials;
+    return name + " (" + initials + ")";
 }
 
 /// The question about the two names does not say that one of the files would be lost.

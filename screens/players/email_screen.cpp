@@ -205,10 +205,7 @@ bool EmailScreen::addRecipients(const std::string& text)
 /// For those who write their mail in a browser.
 void EmailScreen::copyAddresses()
 {
-    std::string all;
-    for (const std::string& address : lstTo.rows)
-        all += (all.empty() ? "" : ", ") + address;
-    m_clipboard.put(all);
+    m_clipboard.put(joined(lstTo.rows, ", "));
     say(lstTo.rows.size() == 1 ? "One address is copied."
                                : std::to_string(lstTo.rows.size()) + " addresses are copied.");
 }

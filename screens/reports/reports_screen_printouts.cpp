@@ -2,6 +2,7 @@
 #include "files/file_names.h"
 #include "screens/printouts.h"
 #include "screens/reports/reports_screen.h"
+#include "screens/saving.h"
 
 #include <utility>
 
@@ -115,11 +116,7 @@ void ReportsScreen::gotoCustomReporting()
     m_screens.load(ScreenKind::Scores);
 }
 
-void ReportsScreen::openFolder()
-{
-    if (!m_platform.programs.openFolder(m_folder.folder()))
-        say("The folder cannot be shown here. It is " + shown(m_folder.folder()));
-}
+void ReportsScreen::openFolder() { say(showFolder(m_platform, m_folder)); }
 
 void ReportsScreen::exitReports()
 {

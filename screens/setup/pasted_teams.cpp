@@ -3,7 +3,6 @@
 
 #include "base/text.h"
 
-#include <algorithm>
 #include <optional>
 
 namespace tallyhoop {
@@ -12,7 +11,6 @@ namespace {
 
 constexpr const char* kNotInList = "These lines are not in the list of team names and were not entered:";
 constexpr const char* kNoBoxLeft = "These lines come after the last team box and were not entered:";
-constexpr std::size_t kMostLinesShown = 20; ///< a message box has to fit the screen
 
 void addLines(std::vector<std::string>& message, const char* heading, const std::vector<std::string>& lines)
 {
@@ -21,10 +19,8 @@ void addLines(std::vector<std::string>& message, const char* heading, const std:
     if (!message.empty())
         message.emplace_back(" ");
     message.emplace_back(heading);
-    const std::size_t shown = std::min(lines.size(), kMostLinesShown);
-    message.insert(message.end(), lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(shown));
-    if (shown < lines.size())
-        message.push_back("and " + std::to_string(lines.size() - shown) + " more");
+    const std::vector<std::string> shown = fewEnoughForAMessage(lines);
+    message.insert(message.end(), shown.begin(), shown.end());
 }
 
 } // namespace

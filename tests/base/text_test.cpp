@@ -108,6 +108,23 @@ TEST(JoinLines, PutsBreaksBetweenLinesOnly)
     EXPECT_EQ(joinLines({}), "");
 }
 
+TEST(Joined, PutsTheTextBetweenOnly)
+{
+    EXPECT_EQ(joined(std::vector<std::string>{"a", "", "b"}, ", "), "a, , b");
+    EXPECT_EQ(joined(std::vector<std::string>{"a"}, ", "), "a");
+    EXPECT_EQ(joined({}, ", "), "");
+}
+
+TEST(FewEnoughForAMessage, KeepsTwentyLinesAndCountsTheOthers)
+{
+    std::vector<std::string> lines(20, "x");
+    EXPECT_EQ(fewEnoughForAMessage(lines), lines);
+    lines.insert(lines.end(), {"y", "z"});
+    std::vector<std::string> few(20, "x");
+    few.emplace_back("and 2 more");
+    EXPECT_EQ(fewEnoughForAMessage(lines), few);
+}
+
 TEST(AsOneLine, MakesABlankOfEveryControlCharacter)
 {
     EXPECT_EQ(asOneLine("A\r\nB\tC\fD"), "A  B C D") << "each keeps its width";

@@ -135,7 +135,8 @@ TEST(UnnamedTeams, AreTheRowsWithANameOfTheDefaultWhereverItIs)
     field.teams[TeamRow{8}] = "team64";
     field.teams[TeamRow{9}] = "TEAM65"; // there are 64
     field.teams[TeamRow{10}] = "TEAM1 Basketball";
-    EXPECT_EQ(unnamedTeams(field), std::vector{TeamRow{8}});
+    field.teams[TeamRow{11}] = " TEAM1  ";
+    EXPECT_EQ(unnamedTeams(field), (std::vector{TeamRow{8}, TeamRow{11}}));
 }
 
 } // namespace

@@ -153,6 +153,23 @@ TEST_F(AskWhereToSave, NamesThePlayerWhoseFileAnOpenedOneWouldReplace)
     expectTarget(ask(in("Jones_KJ"), in("Smith_JS.THC"), ui::Answer::Yes), in("Jones_KJ.THC"), SaveKind::NewFile);
 }
 
+TEST_F(AskWhereToSave, NamesAPlayerWithoutInitialsOrNameByWhatThereIs)
+{
+    scratch.put("Smith_JS.THC", "opened");
+    const auto named = [this](const std::string& initials, const std::string& name) {
+        scratch.put("Jones_KJ.THC", selectionFile({{}, initials, name, "150", {}}));
+        dialogs.answer(ui::Answer::Yes);
+        EXPECT_FALSE(ask(in("Jones_KJ"), in("Smith_JS.THC"), ui::Answer::No));
+        const std::string& text = dialogs.shown.back().text;
+        const std::string before = "It holds the selection of:    ";
+        const std::size_t begin = text.find(before) + before.size();
+        return text.substr(begin, text.find("\r\n", begin) - begin);
+    };
+    EXPECT_EQ(named("", "Jones"), "Jones");
+    EXPECT_EQ(named(" ", "Jones "), "Jones");
+    EXPECT_EQ(named("KJ", "  "), "KJ");
+}
+
 TEST_F(AskWhereToSave, AsksAboutAnExistingFileAlsoWhenItHoldsNobodysName)
 {
     scratch.put("Smith_JS.THC", "opened");

@@ -326,6 +326,7 @@ TEST_F(ReportsPrintouts, WrittenReportsAreNamedAndTheirFolderCanBeOpened)
     EXPECT_EQ(screen.news().text, "Written to the program's folder: RPTOPT1.TXT, RPTOPT2.TXT.");
     screen.cmdOpenFolder.click();
     EXPECT_EQ(platform.programs.foldersOpened, std::vector{folder.path()});
+    EXPECT_EQ(screen.news().text, "The folder of the pool: " + shown(folder.path()));
 }
 
 } // namespace
