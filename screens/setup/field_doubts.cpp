@@ -1,4 +1,5 @@
-// screens/setup/field_doubts.cpp - names the doubtful teams, a few in the status line and most of them in a message.
+// screens/setup/field_doubts.cpp - names the doubtful teams, one of each kind in the status line and most of them in a
+// message.
 #include "screens/setup/field_doubts.h"
 
 #include "base/text.h"
@@ -7,30 +8,26 @@
 #include <algorithm>
 #include <cstddef>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace tallyhoop {
 
 namespace {
 
-constexpr std::size_t kMostNamed = 2;       ///< of either kind in the status line, which is shared with other words
-constexpr std::size_t kLongestName = 16;    ///< there
-constexpr std::size_t kMostLinesShown = 20; ///< a message box has to fit the screen
+constexpr std::size_t kLongestName = 16; ///< in the status line, which is shared with other words
 
 std::string shortened(const std::string& name)
 {
     return name.size() > kLongestName ? name.substr(0, kLongestName) + "..." : name;
 }
 
-/// @returns "Duke, Iowa and 3 more"
-std::string someOf(std::span<const std::string> names)
+/// @returns "Duke and 3 more"
+/// @param names at least one
+std::string firstOf(std::span<const std::string> names)
 {
-    std::string text;
-    for (const std::string& name : names.first(std::min(names.size(), kMostNamed)))
-        text += (text.empty() ? "" : ", ") + shortened(name);
-    if (names.size() > kMostNamed)
-        text += " and " + std::to_string(names.size() - kMostNamed) + " more";
-    return text;
+    const std::string others = names.size() == 1 ? "" : " and " + std::to_string(names.size() - 1) + " more";
+    return shortened(names.front()) + others;
 }
 
 /// @returns "East Region, row 5"
@@ -59,12 +56,12 @@ std::string doubtsInShort(const Field& field)
     for (const TeamRow row : unnamedTeams(field))
         unnamed.push_back(field.teams[row]);
 
-    std::string text;
+    std::vector<std::string> doubts;
     if (!repeated.empty())
-        text = "More than once: " + someOf(repeated) + ".";
+        doubts.push_back("More than once: " + firstOf(repeated) + ".");
     if (!unnamed.empty())
-        text += std::string{text.empty() ? "" : "  "} + "Not named yet: " + someOf(unnamed) + ".";
-    return text;
+        doubts.push_back("Not named yet: " + firstOf(unnamed) + ".");
+    return joined(doubts, "  ");
 }
 
 std::string doubtsInFull(const Field& field)
@@ -74,12 +71,7 @@ std::string doubtsInFull(const Field& field)
         lines.push_back(lineOn(field, team));
     for (const TeamRow row : unnamedTeams(field))
         lines.push_back("Not named yet: " + field.teams[row] + " (" + placeOf(field, row) + ").");
-    if (lines.size() > kMostLinesShown) {
-        const std::size_t left = lines.size() - kMostLinesShown;
-        lines.resize(kMostLinesShown);
-        lines.push_back("... and " + std::to_string(left) + " more");
-    }
-    return joinLines(lines);
+    return joinLines(fewEnoughForAMessage(std::move(lines)));
 }
 
 std::optional<TeamRow> firstDoubt(const Field& field)

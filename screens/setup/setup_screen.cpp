@@ -14,6 +14,7 @@
 #include "screens/setup/setup_design.h"
 
 #include <utility>
+#include <vector>
 
 namespace tallyhoop {
 
@@ -178,19 +179,21 @@ void SetupScreen::showExplanations()
 
 void SetupScreen::showStatus()
 {
-    // Never empty: a line that comes and goes would move everything above it.
+    // Never empty: a line that comes and goes would move everything above it. What is cut off when it is too long is at
+    // its end.
     const Field field = fieldOnScreen();
-    status = field == m_saved ? kSavedStatus : kUnsavedStatus;
-    if (const std::string doubts = doubtsInShort(field); !doubts.empty())
-        status = doubts + kBetweenSentences + status;
-    if (m_editor.isDamaged())
-        status = std::string{kUnreadableListStatus} + kBetweenSentences + status;
-    else if (!m_editor.isRead())
-        status = std::string{kNoListStatus} + kBetweenSentences + status;
-    if (!m_fieldIsWhole)
-        status = std::string{kUnreadableFieldStatus} + kBetweenSentences + status;
+    std::vector<std::string> sentences{field == m_saved ? kSavedStatus : kUnsavedStatus};
     if (m_isFinalizing)
-        status += std::string{kBetweenSentences} + kFinalizeStatus;
+        sentences.emplace_back(kFinalizeStatus);
+    if (!m_fieldIsWhole)
+        sentences.emplace_back(kUnreadableFieldStatus);
+    if (std::string doubts = doubtsInShort(field); !doubts.empty())
+        sentences.push_back(std::move(doubts));
+    if (m_editor.isDamaged())
+        sentences.emplace_back(kUnreadableListStatus);
+    else if (!m_editor.isRead())
+        sentences.emplace_back(kNoListStatus);
+    status = joined(sentences, kBetweenSentences);
 }
 
 // The sample field is there to be looked at: the help on demo mode says what can and cannot be done with it.

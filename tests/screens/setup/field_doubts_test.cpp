@@ -22,7 +22,7 @@ TEST(FieldDoubts, AreNoneInAFieldOfSixtyFourTeams)
     EXPECT_EQ(firstDoubt(soundField()), std::nullopt);
 }
 
-TEST(FieldDoubts, NameTwoTeamsOfEachKindInShort)
+TEST(FieldDoubts, NameOneTeamOfEachKindInShort)
 {
     Field field = soundField();
     for (const int row : {0, 10, 20})
@@ -32,7 +32,11 @@ TEST(FieldDoubts, NameTwoTeamsOfEachKindInShort)
     for (const int row : {2, 12})
         field.teams[TeamRow{row}] = "Iowa";
     field.teams[TeamRow{30}] = "TEAM31";
-    EXPECT_EQ(doubtsInShort(field), "More than once: Duke, A name of far mo... and 1 more.  Not named yet: TEAM31.");
+    EXPECT_EQ(doubtsInShort(field), "More than once: Duke and 2 more.  Not named yet: TEAM31.");
+    field.teams[TeamRow{0}] = "A name of far more than sixteen";
+    field.teams[TeamRow{31}] = "TEAM32";
+    EXPECT_EQ(doubtsInShort(field),
+              "More than once: A name of far mo... and 2 more.  Not named yet: TEAM31 and 1 more.");
 }
 
 TEST(FieldDoubts, BeginWithTheSecondRowOfARepeatedTeamOrAnUnnamedRow)
@@ -55,7 +59,7 @@ TEST(FieldDoubts, HaveALineForEachOfTheFirstTwenty)
     field.teams[TeamRow{40}] = field.teams[TeamRow{41}] = "Duke";
     const std::string more = doubtsInFull(field);
     EXPECT_TRUE(more.starts_with("Duke is in the field 2 times: East Region, row 9; East Region, row 10.\r\n")) << more;
-    EXPECT_TRUE(more.ends_with("TEAM35 (East Region, row 3).\r\n... and 1 more")) << more;
+    EXPECT_TRUE(more.ends_with("TEAM35 (East Region, row 3).\r\nand 1 more")) << more;
 }
 
 } // namespace

@@ -329,7 +329,7 @@ TEST_F(SetupScreenNames, ADemoCommandKeepsTheScreenAndTheNamesThatCannotBeWritte
     EXPECT_FALSE(screen.mnuDemoReset.enabled);
     EXPECT_TRUE(screen.mnuDemoSet.enabled);
     EXPECT_TRUE(screen.cmdFinalize.enabled);
-    EXPECT_TRUE(screen.status.ends_with("There are no unsaved changes.")) << screen.status;
+    EXPECT_TRUE(screen.status.starts_with("There are no unsaved changes.")) << screen.status;
     EXPECT_EQ(screen.news().text, "Files that you changed in demo mode are kept in the folder "
                                   "Backup 2001-03-05 101530."); // such as the field above
 

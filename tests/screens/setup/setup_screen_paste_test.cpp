@@ -14,7 +14,7 @@ TEST_F(SetupScreenPaste, TakesANameOfTheListInAnyCaseAndSpellsItAsTheListDoes)
     EXPECT_TRUE(paste(screen.txtRegion[4], "iowa ST."));
     EXPECT_EQ(screen.txtRegion[4].text, "Iowa St.");
     EXPECT_TRUE(dialogs().shown.empty());
-    EXPECT_TRUE(screen.status.ends_with("There are changes that are not saved yet.")) << screen.status;
+    EXPECT_TRUE(screen.status.starts_with("There are changes that are not saved yet.")) << screen.status;
 }
 
 TEST_F(SetupScreenPaste, RefusesANameThatTheListLacks)

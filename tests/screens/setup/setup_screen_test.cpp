@@ -224,27 +224,48 @@ TEST_F(SetupScreenTest, ClosingTheWindowMeansExitAndEscapeMeansNothing)
 TEST_F(SetupScreenTest, StatusLineShowsUnsavedEditsUntilTheyAreSaved)
 {
     SetupScreen& screen = loaded();
-    EXPECT_TRUE(screen.status.ends_with("There are no unsaved changes.")) << screen.status;
+    EXPECT_TRUE(screen.status.starts_with("There are no unsaved changes.")) << screen.status;
     edit(screen.TxtInfo[0], "Changed");
-    EXPECT_TRUE(screen.status.ends_with("There are changes that are not saved yet.")) << screen.status;
+    EXPECT_TRUE(screen.status.starts_with("There are changes that are not saved yet.")) << screen.status;
     EXPECT_FALSE(screen.unsaved);
     screen.mnuSaveStartingField.click();
-    EXPECT_TRUE(screen.status.ends_with("There are no unsaved changes.")) << screen.status;
+    EXPECT_TRUE(screen.status.starts_with("There are no unsaved changes.")) << screen.status;
     edit(screen.txtComment1, "Note");
-    EXPECT_TRUE(screen.status.ends_with("There are changes that are not saved yet.")) << screen.status;
+    EXPECT_TRUE(screen.status.starts_with("There are changes that are not saved yet.")) << screen.status;
     edit(screen.txtComment1, "");
-    EXPECT_TRUE(screen.status.ends_with("There are no unsaved changes.")) << screen.status;
+    EXPECT_TRUE(screen.status.starts_with("There are no unsaved changes.")) << screen.status;
 }
 
 TEST_F(SetupScreenTest, StatusLineNamesRepeatedTeamsAndThoseNotNamedYet)
 {
     SetupScreen& screen = loaded();
-    EXPECT_EQ(screen.status, "Not named yet: TEAM1, TEAM2 and 62 more.  There are no unsaved changes.");
+    EXPECT_EQ(screen.status, "There are no unsaved changes.  Not named yet: TEAM1 and 63 more.");
     click(screen.cmdClear);
     EXPECT_EQ(screen.status, "There are changes that are not saved yet.");
     screen.txtRegion[0].text = screen.txtRegion[63].text = "Duke";
     settle();
-    EXPECT_EQ(screen.status, "More than once: Duke.  There are changes that are not saved yet.");
+    EXPECT_EQ(screen.status, "There are changes that are not saved yet.  More than once: Duke.");
+}
+
+TEST_F(SetupScreenTest, StatusLineBeginsWithWhatMustNotBeCutOff)
+{
+    std::filesystem::remove(files.path() / "NCAALIST.THS");
+    SetupScreen& screen = loaded();
+    screen.txtRegion[0].text = screen.txtRegion[63].text = "Duke";
+    click(screen.cmdFinalize);
+    EXPECT_EQ(screen.status, "There are changes that are not saved yet.  Finalize Tournament takes effect with File, "
+                             "Save.  More than once: Duke.  Not named yet: TEAM2 and 61 more.  There is no list of "
+                             "team names: choose Override Selecting Team Names to type them.");
+}
+
+TEST_F(SetupScreenTest, ASaveIsNotAnnouncedAndEndsWhatWasSaidBefore)
+{
+    SetupScreen& screen = loaded();
+    click(screen.cmdClear);
+    ASSERT_NE(screen.news().text, "");
+    screen.mnuSaveStartingField.click();
+    EXPECT_TRUE(files.has("POOLSTART.THS"));
+    EXPECT_EQ(screen.news().text, "");
 }
 
 TEST_F(SetupScreenTest, OpensTheSeedPositions)

@@ -81,7 +81,7 @@ TEST_F(SetupScreenUndo, ReachesBackBeyondASaveAndThenTheFieldIsUnsavedAgain)
     screen.mnuSaveStartingField.click();
     undo();
     EXPECT_EQ(screen.TxtInfo[0].text, "2001 NCAA Tournament");
-    EXPECT_TRUE(screen.status.ends_with("not saved yet.")) << screen.status;
+    EXPECT_TRUE(screen.status.starts_with("There are changes that are not saved yet.")) << screen.status;
 }
 
 } // namespace
