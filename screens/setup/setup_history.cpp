@@ -54,11 +54,11 @@ void SetupHistory::begin(Field now)
     m_lastText.reset();
 }
 
-void SetupHistory::note(Field now)
+bool SetupHistory::note(Field now)
 {
     const std::vector<int> changed = differences(m_now, now);
     if (changed.empty())
-        return;
+        return false;
     const bool isOneText = changed.size() == 1;
     const bool goesOn = isOneText && m_lastText == changed.front() && !m_past.empty();
     m_lastText = isOneText ? std::optional{changed.front()} : std::nullopt;
@@ -72,6 +72,7 @@ void SetupHistory::note(Field now)
         m_past.erase(m_past.begin(), m_past.end() - static_cast<std::ptrdiff_t>(most));
     m_future.clear();
     m_now = std::move(now);
+    return true;
 }
 
 std::optional<Field> SetupHistory::undo() { return step(m_past, m_future); }

@@ -17,7 +17,8 @@ public:
     void begin(Field now);
 
     /// A command has ended. When it changed anything, what had been undone can no longer be redone.
-    void note(Field now);
+    /// @returns whether it did
+    bool note(Field now);
 
     /// @returns what the screen is to hold; nothing when there is no such step
     std::optional<Field> undo();

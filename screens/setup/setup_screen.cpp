@@ -140,7 +140,10 @@ std::array<std::string, kRowsPerRegion> SetupScreen::teamsOfFirstRegion() const
 
 void SetupScreen::showState()
 {
-    m_history.note(textsOnScreen());
+    // What was said before the change is no longer true of what is there now.
+    if (m_history.note(textsOnScreen()) && news().number == m_newsBefore)
+        say({});
+    m_newsBefore = news().number;
     mnuUndo.enabled = m_history.canUndo();
     mnuRedo.enabled = m_history.canRedo();
     lblDemoMode.visible = m_isDemo;

@@ -95,6 +95,7 @@ private:
 
     void finalize();
     void saveStartingField();
+    bool trySaving();
     void refuse(const FieldFault& fault);
     bool doubtsAreConfirmed();
     bool finalizingIsConfirmed();
@@ -118,6 +119,7 @@ private:
     Field m_saved;      ///< what the screen held when it was loaded or saved last
     SeedTexts m_seeds;  ///< of the field on screen
     SetupHistory m_history;
+    int m_newsBefore = 0;        ///< the number of what had been said when the state was shown last
     bool m_fieldIsWhole = true;  ///< the field on the disk holds no more than was read of it
     bool m_isDemo = false;       ///< the folder holds the sample pool
     bool m_isFinalizing = false; ///< Finalize Tournament is pressed: the next save makes the field final

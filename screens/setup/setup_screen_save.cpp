@@ -55,28 +55,37 @@ void SetupScreen::finalize()
         focused = controlAtTab(cmdFinalize.tabIndex - 1);
 }
 
+/// A save that has succeeded is not announced: the status says that there is nothing unsaved.
 void SetupScreen::saveStartingField()
+{
+    const bool isSaved = trySaving();
+    say(isSaved ? "" : "Not saved.");
+    if (isSaved && m_isFinalizing)
+        leave();
+}
+
+/// @returns false after the reason was shown
+bool SetupScreen::trySaving()
 {
     if (m_isFinalizing) {
         if (const std::optional<FieldFault> fault = fieldFault(fieldOnScreen())) {
             refuse(*fault);
-            return;
+            return false;
         }
         if (!doubtsAreConfirmed() || !finalizingIsConfirmed())
-            return;
+            return false;
     }
     if (demoModeIsOn(m_folder)) {
         m_platform.dialogs.show(
             {kDemoCaption, kDemoRefusal, ui::Buttons::Ok, ui::Icon::Exclamation, help_topic::kDemo});
-        return;
+        return false;
     }
     Field field = fieldOnScreen();
     if (!saveDataFile(m_platform, m_known, m_folder, file_name::kSetup, setupFile(field)))
-        return;
+        return false;
     m_saved = std::move(field);
     m_fieldIsWhole = true;
-    if (m_isFinalizing)
-        leave();
+    return true;
 }
 
 /// Goes to the box with the fault and says what it lacks.

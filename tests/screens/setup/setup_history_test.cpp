@@ -29,7 +29,7 @@ struct SetupHistoryTest : testing::Test {
 
 TEST_F(SetupHistoryTest, HasNoStepsUntilSomethingChanges)
 {
-    history.note(now);
+    EXPECT_FALSE(history.note(now));
     EXPECT_FALSE(history.canUndo());
     EXPECT_EQ(history.undo(), std::nullopt);
     EXPECT_EQ(history.redo(), std::nullopt);

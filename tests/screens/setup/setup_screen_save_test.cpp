@@ -36,6 +36,7 @@ protected:
         EXPECT_FALSE(files.has("POOLSTART.THS"));
         EXPECT_TRUE(screens.unloads.empty());
         EXPECT_TRUE(isFinalizing());
+        EXPECT_EQ(made->news().text, "Not saved.");
     }
 };
 

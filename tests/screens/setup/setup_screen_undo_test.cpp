@@ -36,6 +36,17 @@ TEST_F(SetupScreenUndo, BringsTheTeamsBackThatClearAllTookAway)
     EXPECT_FALSE(screen.mnuRedo.enabled);
 }
 
+TEST_F(SetupScreenUndo, IsNotOfferedAnyMoreInWordsAfterTheNextChange)
+{
+    SetupScreen& screen = loaded();
+    click(screen.cmdClear);
+    settle();
+    ASSERT_NE(screen.news().text, "") << "it stays until something changes";
+    screen.txtRegion[5].text = "Duke";
+    settle();
+    EXPECT_EQ(screen.news().text, "");
+}
+
 TEST_F(SetupScreenUndo, TakesAPastedBlockBackInOneStep)
 {
     SetupScreen& screen = loaded();
