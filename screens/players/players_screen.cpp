@@ -52,6 +52,16 @@ ui::Message selectionsOfEither(const std::filesystem::path& file)
             ui::Buttons::OkCancel, ui::Icon::Exclamation};
 }
 
+constexpr const char* kSavedNews = "The player list is saved.";
+constexpr const char* kDoneSaves = "  Done saves that, Cancel forgets it.";
+
+/// @returns a player's name in a sentence
+std::string shownName(const std::string& name)
+{
+    const std::string text = withoutOuterBlanks(name);
+    return text.empty() ? "The record" : text;
+}
+
 constexpr const char* kUnusableStatus = "The player list cannot be used until PLAYERNAMES.CSV is corrected";
 
 } // namespace
@@ -199,14 +209,17 @@ void PlayersScreen::showSelectedRow()
 
 void PlayersScreen::addRecord()
 {
-    if (!mayBeAdded())
+    if (!mayBeAdded()) {
+        say("Not added.");
         return;
+    }
+    const std::string added = shownName(txtName.text);
     std::vector<std::string> rows = lstNames.rows;
     insertSorted(rows, rowFromBoxes());
     m_changed = true;
     // Should the list not be written now, Done (or another row selected) still finds the record in the boxes.
     m_boxesHoldRecord = true;
-    finish(std::move(rows));
+    finish(std::move(rows), added + " is in the list now.");
 }
 
 /// @returns false for an empty record, and for a file that has one already unless the person wants another
@@ -248,9 +261,10 @@ void PlayersScreen::completeChanges()
         rows.erase(row);
     m_changed = true;
     if (m_mode == SaveKind::SameName) {
-        finish(std::move(rows)); // The boxes stay filled until the list is written: another try needs them.
+        finish(std::move(rows), kSavedNews); // The boxes stay filled until the list is written: another try needs them.
         return;
     }
+    say(shownName(txtName.text) + (keep ? " is changed." : " is deleted.") + kDoneSaves);
     lstNames.rows = std::move(rows);
     lstNames.selected.reset(); // The boxes are empty now: a second press must not take them for this row's.
     emptyBoxes();
@@ -268,6 +282,7 @@ void PlayersScreen::deleteSelection()
         return;
     if (file && isSure)
         m_pendingDeletions.push_back(*file);
+    say(shownName(txtName.text) + " is deleted." + kDoneSaves);
     removeSelectedRow();
 }
 
@@ -293,19 +308,22 @@ void PlayersScreen::done()
     std::vector<std::string> rows = lstNames.rows;
     if (m_boxesHoldRecord)
         insertSorted(rows, rowFromBoxes());
-    finish(std::move(rows));
+    finish(std::move(rows), kSavedNews);
 }
 
 /// Writes the list, deletes what was deleted from it, and closes. When the list cannot be written, nothing is deleted
 /// and the screen stays as it is.
-void PlayersScreen::finish(std::vector<std::string> rows)
+/// @param news what the board says then
+void PlayersScreen::finish(std::vector<std::string> rows, const std::string& news)
 {
     std::vector<PlayerRecord> records;
     records.reserve(rows.size());
     for (const std::string& row : rows)
         records.push_back(parsePlayerRow(row));
-    if (!saveDataFile(m_platform, m_known, m_folder, file_name::kPlayerNames, playerNamesFile(records)))
+    if (!saveDataFile(m_platform, m_known, m_folder, file_name::kPlayerNames, playerNamesFile(records))) {
+        say("Not saved.");
         return;
+    }
     m_isAdded = m_saved && rowOfFile(rows, recordedFileName(m_folder, m_saved->file), txtName.text);
     lstNames.rows = std::move(rows);
     lstNames.selected.reset();
@@ -315,17 +333,20 @@ void PlayersScreen::finish(std::vector<std::string> rows)
         std::filesystem::remove(file, ignored);
     }
     m_pendingDeletions.clear();
-    close();
+    close(news);
 }
 
 /// Leaves; the board says so when the selection that was saved has no record.
-void PlayersScreen::close()
+/// @param news what it says otherwise; empty = nothing
+void PlayersScreen::close(const std::string& news)
 {
     const std::string file = m_saved ? shown(m_saved->file.filename()) : std::string{};
     const bool isMissing = m_mode == SaveKind::NewFile && !m_isAdded;
     m_screens.unload(ScreenKind::Players);
     if (isMissing)
         m_screens.load(ScreenKind::Board, file + " is saved, and has no record in the player list.");
+    else if (!news.empty())
+        m_screens.load(ScreenKind::Board, news);
 }
 
 bool PlayersScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)

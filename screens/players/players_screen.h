@@ -67,8 +67,8 @@ private:
     void deleteSelection();
     bool anotherPlayerHasName(std::string_view recorded) const;
     void done();
-    void finish(std::vector<std::string> rows);
-    void close();
+    void finish(std::vector<std::string> rows, const std::string& news);
+    void close(const std::string& news = {});
 
     std::string rowFromBoxes();
     void fillBoxes(const PlayerRecord& record);

@@ -42,11 +42,35 @@ TEST_F(PlayersScreenAdding, TheBoardSaysSoWhenOnlyOtherRecordsWereSaved)
     EXPECT_EQ(screens.news, std::vector<std::string>{"Baker_C.THC is saved, and has no record in the player list."});
 }
 
-TEST_F(PlayersScreenAdding, NothingIsSaidOfARecordThatWasAdded)
+TEST_F(PlayersScreenAdding, TheBoardSaysWhoIsInTheListNow)
 {
     openAfterSave(SaveKind::NewFile, "Baker_C.THC", "Baker,C").cmdAdd.click();
     EXPECT_TRUE(closed());
-    EXPECT_TRUE(screens.loads.empty());
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::Board});
+    EXPECT_EQ(screens.news, std::vector<std::string>{"Baker,C is in the list now."});
+}
+
+TEST_F(PlayersScreenAdding, AChangeAndADeletionAreAnnouncedAndSavedWithDone)
+{
+    open();
+    select(0);
+    screen->cmdChange.click();
+    EXPECT_EQ(screen->news().text, "Adams,B is changed.  Done saves that, Cancel forgets it.");
+    select(1);
+    screen->cmdDelete.click();
+    EXPECT_EQ(screen->news().text, "Smith,JS is deleted.  Done saves that, Cancel forgets it.");
+    screen->cmdExit.click();
+    EXPECT_EQ(screens.news, std::vector<std::string>{"The player list is saved."});
+}
+
+TEST_F(PlayersScreenAdding, AListThatCannotBeSavedIsAnnounced)
+{
+    open();
+    screen->txtName.text = "Baker,C";
+    blockWriting();
+    screen->cmdAdd.click();
+    EXPECT_TRUE(stillOpen());
+    EXPECT_EQ(screen->news().text, "Not saved.");
 }
 
 TEST_F(PlayersScreenAdding, NothingIsSaidWhenTheListIsOpenedByItself)
