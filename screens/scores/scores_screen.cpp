@@ -94,6 +94,7 @@ void ScoresScreen::showTable(std::vector<ListedScore> rows)
 
 void ScoresScreen::calculate()
 {
+    say({}); // what was copied or printed was another table
     m_marked.reset();
     listFiles();
     const Result<Payoffs>& payoffs = m_field.payoffs.points();
@@ -177,11 +178,13 @@ void ScoresScreen::headingDropped(std::optional<std::size_t> target)
     const std::optional<std::size_t> dragged = std::exchange(msgScoreDisplay.headingPressed, std::nullopt);
     if (!dragged || !target)
         return;
+    say({});
     m_table.moveColumn(*dragged, *target);
 }
 
 void ScoresScreen::bestFirst()
 {
+    say({});
     msgScoreDisplay.headingPressed.reset();
     m_table.bestFirst();
 }
@@ -201,18 +204,21 @@ std::optional<ui::TextPrintout> ScoresScreen::printout() const
 
 void ScoresScreen::print()
 {
+    say({});
     if (const auto pages = printout())
         say(printOut(m_platform, *pages));
 }
 
 void ScoresScreen::preview()
 {
+    say({});
     if (auto pages = printout())
         say(showPreview(m_platform, m_folder.folder(), {std::move(*pages)}));
 }
 
 void ScoresScreen::savePdf()
 {
+    say({});
     if (auto pages = printout())
         say(saveAsPdf(m_platform, m_folder.folder(), {std::move(*pages)}));
 }

@@ -301,5 +301,23 @@ TEST_F(ScoreDisplay, CopiesTheTableForASpreadsheet)
     EXPECT_EQ(screen.news().text, "Copied 1 row, to be pasted into a spreadsheet.");
 }
 
+TEST_F(ScoreDisplay, SaysNothingOfACopyOfAnotherTable)
+{
+    putThreePlayers();
+    open();
+    screen.cmdOk.click();
+    const auto expectForgottenAfter = [this](const std::function<void()>& change) {
+        screen.cmdCopy.click();
+        ASSERT_NE(screen.news().text, "");
+        change();
+        EXPECT_EQ(screen.news().text, "");
+    };
+    expectForgottenAfter([this] { screen.cmdOk.click(); });
+    expectForgottenAfter([this] { screen.cmdBestFirst.click(); });
+    expectForgottenAfter([this] { dragHeading(2, 1); });
+    platform.printer.fonts.clear();
+    expectForgottenAfter([this] { screen.cmdPrint.click(); });
+}
+
 } // namespace
 } // namespace tallyhoop::test
