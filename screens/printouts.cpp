@@ -1,6 +1,7 @@
 // screens/printouts.cpp - asks for files and folders, prints and saves, and says what has become of it.
 #include "screens/printouts.h"
 
+#include "base/text.h"
 #include "base/windows1252.h"
 #include "files/data_folder.h"
 #include "files/file_names.h"
@@ -78,14 +79,21 @@ std::vector<fs::path> chooseFiles(ui::Dialogs& dialogs, const fs::path& folder,
     return files;
 }
 
-std::string savedSentence(const std::vector<fs::path>& files)
+/// @param saved as many of the files, from the first
+std::string savedSentence(const std::vector<fs::path>& files, std::size_t saved)
 {
+    if (saved == 0)
+        return {};
     if (files.size() == 1)
         return "Saved " + shown(files.front().filename()) + ".";
-    return "Saved " + std::to_string(files.size()) + " PDF files in " + shown(files.front().parent_path()) + ".";
+    const std::string all = std::to_string(files.size());
+    return "Saved " + (saved < files.size() ? std::to_string(saved) + " of " : std::string{}) + all + " PDF files in " +
+           shown(files.front().parent_path()) + ".";
 }
 
 } // namespace
+
+std::string printedSentence(std::span<const std::string> titles) { return "Printed " + joined(titles, ", ") + "."; }
 
 std::string printOut(const ui::Platform& platform, const ui::Printout& printout)
 {
@@ -94,9 +102,10 @@ std::string printOut(const ui::Platform& platform, const ui::Printout& printout)
         return kNoPrinter;
     }
     const std::string& title = ui::titleOf(printout);
+    const fs::path file = platform.printer.outputFile();
     if (!deliverBusily(platform, title, [&] { return platform.printer.print(printout); }))
         return {};
-    return "Printed " + title + ".";
+    return file.empty() ? printedSentence(std::span{&title, 1}) : savedSentence({file}, 1);
 }
 
 std::string saveAsPdf(const ui::Platform& platform, const fs::path& folder, const std::vector<ui::Printout>& printouts)
@@ -109,8 +118,8 @@ std::string saveAsPdf(const ui::Platform& platform, const fs::path& folder, cons
     for (std::size_t i = 0; i < files.size(); ++i)
         if (!deliverBusily(platform, ui::titleOf(printouts[i]),
                            [&] { return platform.printer.savePdf(printouts[i], files[i]); }))
-            return {};
-    return savedSentence(files);
+            return savedSentence(files, i);
+    return savedSentence(files, files.size());
 }
 
 std::string showPreview(const ui::Platform& platform, const fs::path& folder, std::vector<ui::Printout> printouts)

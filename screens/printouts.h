@@ -4,6 +4,7 @@
 #include "ui/platform.h"
 
 #include <filesystem>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -16,11 +17,15 @@ inline constexpr const char* kNoPrinter = "No printer is installed: Preview and 
 /// @returns what has happened, a sentence for the status line; empty when the message has said it
 std::string printOut(const ui::Platform& platform, const ui::Printout& printout);
 
+/// @returns "Printed Tournament Standings, Player Listing."
+std::string printedSentence(std::span<const std::string> titles);
+
 /// Saves printouts as PDF files under a busy pointer, and says so when that fails. The person names the file of one
 /// printout, and the folder of several, which are called as their titles are. A name without the extension ".PDF" in
 /// any case gets it; existing files are replaced after one question.
 /// @param folder where the dialog begins
-/// @returns as printOut(); empty when the person does not want it after all
+/// @returns as printOut(), with those that were saved before one that could not be; empty when the person does not want
+///          it after all
 std::string saveAsPdf(const ui::Platform& platform, const std::filesystem::path& folder,
                       const std::vector<ui::Printout>& printouts);
 

@@ -75,6 +75,9 @@ public:
     /// @returns whether there is something to print on: a printer, or a file chosen in the printer dialog
     virtual bool isThere() = 0;
 
+    /// @returns the file that was chosen in the printer dialog for the next printout; empty = it goes to paper
+    virtual std::filesystem::path outputFile() = 0;
+
     virtual Result<Done> print(const Printout& printout) = 0;
 
     virtual Result<Done> savePdf(const Printout& printout, const std::filesystem::path& file) = 0;

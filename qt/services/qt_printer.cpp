@@ -149,6 +149,12 @@ bool QtPrinter::isThere()
     return printer().outputFormat() != QPrinter::PdfFormat || !printer().outputFileName().isEmpty();
 }
 
+std::filesystem::path QtPrinter::outputFile()
+{
+    return printer().outputFormat() == QPrinter::PdfFormat ? toPath(printer().outputFileName())
+                                                           : std::filesystem::path{};
+}
+
 Result<Done> QtPrinter::print(const ui::Printout& printout)
 {
     QPrinter& device = printer();

@@ -26,6 +26,7 @@ public:
     int pageWidthTwips(ui::Orientation orientation) override;
 
     bool isThere() override;
+    std::filesystem::path outputFile() override;
 
     /// A printout to a PDF file, chosen in the printer's dialog, is written whole or not at all;
     /// that choice is for one printout.

@@ -114,15 +114,15 @@ void BoardScreen::openSelection()
 
 void BoardScreen::showSelection(const std::filesystem::path& file)
 {
-    if (read.trouble) {
-        say(shown(file.filename()) + " could not be read, or not whole.");
-        return;
-    }
     m_shared.savedPlayer.reset();
     Read<Entry> read = m_files.read(file, m_shared.field);
     showEntry(std::move(read.value));
     m_openedFile = file;
     beginUnmarked();
+    if (read.trouble) {
+        say(shown(file.filename()) + " could not be read, or not whole.");
+        return;
+    }
     m_recent.note(file);
     say("Opened " + shown(file.filename()) + ".");
 }
@@ -283,6 +283,7 @@ ui::DrawingPrintout BoardScreen::printout() const
 
 void BoardScreen::printForm()
 {
+    say({});
     if (m_platform.printer.choosePrinter())
         say(printOut(m_platform, printout()));
 }

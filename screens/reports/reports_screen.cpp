@@ -4,6 +4,7 @@
 #include "screens/saving.h"
 
 #include "base/lines.h"
+#include "base/text.h"
 #include "files/file_names.h"
 #include "screens/help_topics.h"
 #include "screens/printer_setup.h"
@@ -41,10 +42,10 @@ void letThePersonChoose(ui::ControlArray<ui::OptionButton, N>& group, const std:
 /// @returns "Written to the program's folder: RPTOPT1.TXT, RPTOPT3.TXT."
 std::string whatWasWritten(std::span<const std::filesystem::path> files)
 {
-    std::string names;
+    std::vector<std::string> names;
     for (const std::filesystem::path& file : files)
-        names += (names.empty() ? "" : ", ") + shown(file.filename());
-    return "Written to the program's folder: " + names + ".";
+        names.push_back(shown(file.filename()));
+    return "Written to the program's folder: " + joined(names, ", ") + ".";
 }
 
 /// Signs on unless a session is open; signs off after the message.
@@ -128,7 +129,8 @@ void ReportsScreen::explainControls()
     chkAllPlayers.explanation = "Every player's scored bracket, a page each, instead of the one selected below.";
     filList.emptyNote = "No selections saved yet.";
     filList.explanation = "The player whose scored bracket is printed.";
-    cmdSelectedPrintouts.explanation = "Prints the chosen sheet and goes back to the board.";
+    cmdSelectedPrintouts.explanation =
+        "Prints the chosen sheet; one player's, or the results, stay on the board afterwards.";
     cmdPreviewBoard.explanation =
         "Shows the chosen sheet as it will be printed; the board as it is when none is chosen.";
     cmdSaveBoardPdf.explanation = "Saves the chosen sheet as a PDF file; the board as it is when none is chosen.";
@@ -176,19 +178,25 @@ void ReportsScreen::createSelectedReports()
     const Destination destination = chosenDestination();
     const bool toEverybody = destination == Destination::EmailToEverybody;
     std::vector<std::filesystem::path> made; // only what this run has made may be mailed
+    std::vector<std::string> printed;
     m_refusalTopic.clear();
     m_printerMissing = false;
+    say({});
     const auto bringOut = [&](const ReportKind& kind, const ReportLines& lines) {
-        if (const Result<Done> done = output(kind, lines, destination); !done)
-            refuse(kind, {reportFailure(kind, done.failure().message)});
-        else
+        const Result<bool> isOut = output(kind, lines, destination);
+        if (!isOut)
+            refuse(kind, {reportFailure(kind, isOut.failure().message)});
+        else if (destination != Destination::Printer)
             made.push_back(m_folder.pathTo(kind.file));
+        else if (*isOut)
+            printed.emplace_back(kind.name);
     };
-    if (!forEachTickedReport("PrintSelections_Click ", cmdPrintSelections.caption, bringOut) || made.empty())
-        return;
-    if (destination != Destination::Printer)
+    const bool isWhole = forEachTickedReport("PrintSelections_Click ", cmdPrintSelections.caption, bringOut);
+    if (!printed.empty())
+        say(printedSentence(printed));
+    if (!made.empty())
         say(whatWasWritten(made));
-    if (destination == Destination::Email || toEverybody)
+    if (isWhole && !made.empty() && (destination == Destination::Email || toEverybody))
         mailReports(made, toEverybody);
 }
 
@@ -262,26 +270,29 @@ void ReportsScreen::refuse(const ReportKind& kind, const NoReport& reason)
 }
 
 /// Writes the work file, and then either prints the report or writes its own file.
-Result<Done> ReportsScreen::output(const ReportKind& kind, const ReportLines& lines, Destination destination)
+Result<bool> ReportsScreen::output(const ReportKind& kind, const ReportLines& lines, Destination destination)
 {
     const std::string bytes = fileOf(lines);
-    if (Result<Done> written = m_folder.write(file_name::kWorkFile, bytes); !written)
-        return written;
-    if (destination != Destination::Printer)
-        return m_folder.write(kind.file, bytes);
-    print(kind, lines);
-    return Done{};
+    if (const Result<Done> written = m_folder.write(file_name::kWorkFile, bytes); !written)
+        return written.failure();
+    if (destination == Destination::Printer)
+        return print(kind, lines);
+    if (const Result<Done> written = m_folder.write(kind.file, bytes); !written)
+        return written.failure();
+    return true;
 }
 
-void ReportsScreen::print(const ReportKind& kind, const ReportLines& lines)
+bool ReportsScreen::print(const ReportKind& kind, const ReportLines& lines)
 {
     if (m_printerMissing)
-        return;
+        return false;
     const auto printout = printoutOf(kind, lines, !m_useDefaultPrinter);
     if (!printout)
-        return;
+        return false;
     m_printerMissing = m_useDefaultPrinter && !m_platform.printer.isThere();
-    say(printOut(m_platform, *printout));
+    const std::string outcome = printOut(m_platform, *printout);
+    say(outcome);
+    return outcome == printedSentence(std::span{&printout->title, 1});
 }
 
 std::optional<ui::TextPrintout> ReportsScreen::printoutOf(const ReportKind& kind, const ReportLines& lines,

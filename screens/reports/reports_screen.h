@@ -82,8 +82,12 @@ private:
 
     /// Shows why there is no report and, where it says so, unticks the report's box.
     void refuse(const ReportKind& kind, const NoReport& reason);
-    Result<Done> output(const ReportKind& kind, const ReportLines& lines, Destination destination);
-    void print(const ReportKind& kind, const ReportLines& lines);
+
+    /// @returns whether it was written or printed: a print can be cancelled, go to a file, or fail with a message of
+    /// its
+    ///          own
+    Result<bool> output(const ReportKind& kind, const ReportLines& lines, Destination destination);
+    bool print(const ReportKind& kind, const ReportLines& lines);
 
     /// @returns nothing when the person cancelled a dialog
     std::optional<ui::TextPrintout> printoutOf(const ReportKind& kind, const ReportLines& lines, bool showDialog);

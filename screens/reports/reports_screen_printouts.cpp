@@ -26,6 +26,7 @@ ui::Message refusal(const char* text) { return {kTitle, text, ui::Buttons::Ok, u
 
 void ReportsScreen::createSelectedPrintout()
 {
+    say({});
     if (!optSelected[0].selected && !optSelected[1].selected)
         m_platform.dialogs.show(refusal(kNoOption));
     else if (!sheetIsPossible())
@@ -79,12 +80,14 @@ void ReportsScreen::printAllPlayers()
 
 void ReportsScreen::previewBoard()
 {
+    say({});
     if (auto sheet = chosenSheet())
         say(showPreview(m_platform, m_folder.folder(), {std::move(*sheet)}));
 }
 
 void ReportsScreen::saveBoardAsPdf()
 {
+    say({});
     if (auto sheet = chosenSheet())
         say(saveAsPdf(m_platform, m_folder.folder(), {std::move(*sheet)}));
 }

@@ -18,6 +18,7 @@ public:
     std::map<ui::Orientation, int> pageWidths{{ui::Orientation::Portrait, 11840}, {ui::Orientation::Landscape, 15440}};
     std::optional<Failure> trouble; ///< every printout fails with it
     bool there = true;
+    std::filesystem::path chosenFile; ///< that was chosen in the printer dialog
     std::function<void()> whilePrinting;
 
     int printerDialogs = 0;
@@ -43,6 +44,7 @@ public:
     }
     int pageWidthTwips(ui::Orientation orientation) override { return pageWidths.at(orientation); }
     bool isThere() override { return there; }
+    std::filesystem::path outputFile() override { return chosenFile; }
     Result<Done> print(const ui::Printout& printout) override
     {
         note(printout, texts, drawings);
@@ -138,10 +140,10 @@ public:
     std::function<void()> whenStarted; ///< what the program does
     std::function<void()> whileWaitedFor;
     std::optional<Result<Done>> end; ///< how the started program has ended
-    std::vector<std::filesystem::path> foldersOpened;
-    std::optional<Failure> openFolderTrouble;
     std::function<void()> whenStopped;
     int stops = 0;
+    std::vector<std::filesystem::path> foldersOpened;
+    std::optional<Failure> openFolderTrouble;
 
     Result<Done> check(const std::filesystem::path&) override
     {
@@ -162,14 +164,14 @@ public:
             whileWaitedFor();
         return end;
     }
-    Result<Done> openFolder(const std::filesystem::path& folder) override
-    {
     void stop() override
     {
         ++stops;
         if (whenStopped)
             whenStopped();
     }
+    Result<Done> openFolder(const std::filesystem::path& folder) override
+    {
         foldersOpened.push_back(folder);
         return openFolderTrouble ? Result<Done>{*openFolderTrouble} : Result<Done>{Done{}};
     }
@@ -189,10 +191,14 @@ class FakeProgress : public ui::Progress
 public:
     int begun = 0;
     int ended = 0;
-    std::optional<int> cancelAt; ///< the step at which the person cancels
+    std::optional<int> cancelAt;       ///< the step at which the person cancels
+    std::optional<int> cancelFromWork; ///< the work, counted from 1, that the person cancels
 
     void begin(const std::string&, int) override { ++begun; }
-    bool advance(int stepsDone) override { return !cancelAt || stepsDone < *cancelAt; }
+    bool advance(int stepsDone) override
+    {
+        return (!cancelAt || stepsDone < *cancelAt) && (!cancelFromWork || begun < *cancelFromWork);
+    }
     void end() override { ++ended; }
 };
 
