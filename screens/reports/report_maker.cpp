@@ -20,6 +20,7 @@
 #include "screens/saving.h"
 #include "ui/work.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tallyhoop {
@@ -79,6 +80,8 @@ NoReport faultyPlayerNames(const ReportKind& kind)
     refusal.message.helpTopic = help_topic::kRepair;
     return refusal;
 }
+
+bool isBlank(const PlayerListingRow& row) { return lastNonBlank(row.name + row.fileName + row.email + row.phone) == 0; }
 
 /// @returns the headings and the players of PLAYERNAMES.CSV, as its records hold them
 std::vector<PlayerListingRow> listingRows(std::string_view playerNames)
@@ -157,7 +160,7 @@ MadeReport ReportMaker::makePlayerListing(const Request& request)
     if (!bytes)
         return failed(request.kind, bytes.failure().message);
     const std::vector<PlayerListingRow> rows = listingRows(*bytes);
-    if (rows.empty()) // not even the headings
+    if (std::ranges::all_of(rows, isBlank)) // not even the headings
         return faultyPlayerNames(request.kind);
     return playerListingLines(request.title, rows);
 }

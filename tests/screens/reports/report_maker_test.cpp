@@ -2,6 +2,8 @@
 // goes into the lines.
 #include "screens/reports/report_maker.h"
 
+#include "files/player_names_file.h"
+
 #include "fakes/fake_platform.h"
 #include "files/file_names.h"
 #include "reports/report_pool.h"
@@ -151,13 +153,17 @@ TEST_F(ReportMakerTest, RefusesThePlayerListingOfAFaultyListAndPointsToTheHelp)
 
 TEST_F(ReportMakerTest, RefusesThePlayerListingOfAListWithoutEvenItsHeadings)
 {
-    scratch.put("PLAYERNAMES.CSV", "");
     ui::Message refusal{"TALLYHOOP - frmPoolReports, Player Listing",
                         "Problems found with PLAYERNAMES.CSV file\r\n"
                         "This condition must be corrected, See Help content",
                         ui::Buttons::Ok, ui::Icon::Critical};
     refusal.helpTopic = "repair";
-    expectRefused(ReportId::PlayerListing, refusal);
+    const std::string blankRecord = recordLine({}) + "\r\n";
+    for (const std::string& bytes :
+         {std::string{}, std::string{"\r\n"}, std::string{"\r\n  \r\n\r\n"}, blankRecord, blankRecord + blankRecord}) {
+        scratch.put("PLAYERNAMES.CSV", bytes);
+        expectRefused(ReportId::PlayerListing, refusal);
+    }
 }
 
 TEST_F(ReportMakerTest, RefusesATitleThatIsTooWideWhereItIsNotLetThrough)
