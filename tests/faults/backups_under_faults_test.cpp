@@ -123,13 +123,6 @@ TEST_P(BackupsUnderFaults, WhatCannotBePutBackStaysInTheBackup)
     });
 }
 
-std::vector<Fault> faultsOfTheFolder()
-{
-    std::vector<Fault> faults = allFaults();
-    std::erase_if(faults, [](const Fault& fault) { return fault.wantsTarget; });
-    return faults;
-}
-
 INSTANTIATE_TEST_SUITE_P(All, BackupsUnderFaults, testing::ValuesIn(faultsOfTheFolder()),
                          [](const auto& instance) { return std::string{instance.param.name}; });
 

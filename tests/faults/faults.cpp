@@ -161,6 +161,13 @@ const std::vector<Fault>& allFaults()
     return faults;
 }
 
+std::vector<Fault> faultsOfTheFolder()
+{
+    std::vector<Fault> faults = allFaults();
+    std::erase_if(faults, [](const Fault& fault) { return fault.wantsTarget; });
+    return faults;
+}
+
 const Fault& unlistedFolder()
 {
     static const Fault fault{"UnlistedFolder", "Permission denied", letOthersIn,

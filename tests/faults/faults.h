@@ -30,6 +30,9 @@ inline void PrintTo(const Fault& fault, std::ostream* out) { *out << fault.name;
 /// permission.
 const std::vector<Fault>& allFaults();
 
+/// @returns those that a writer meets which replaces no file: one that is held can still be copied
+std::vector<Fault> faultsOfTheFolder();
+
 /// A folder that may be entered and written into, but not listed.
 const Fault& unlistedFolder();
 

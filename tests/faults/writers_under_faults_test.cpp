@@ -184,14 +184,6 @@ TEST_P(DemoUnderFaults, APoolOfOnesOwnStaysWhereItIsWhenItCannotBeKept)
     });
 }
 
-/// The demo replaces no file, and one that is held can still be copied.
-std::vector<Fault> faultsOfTheFolder()
-{
-    std::vector<Fault> faults = allFaults();
-    std::erase_if(faults, [](const Fault& fault) { return fault.wantsTarget; });
-    return faults;
-}
-
 INSTANTIATE_TEST_SUITE_P(All, DemoUnderFaults, testing::ValuesIn(faultsOfTheFolder()),
                          [](const auto& instance) { return std::string{instance.param.name}; });
 
