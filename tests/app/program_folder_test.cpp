@@ -27,6 +27,7 @@ TEST(ProgramFolder, IsRefusedWhenItsNameIsLostOnTheWay)
         const Result<fs::path> folder = programFolder(asNamed, real / "Tallyhoop");
         ASSERT_FALSE(folder);
         EXPECT_NE(folder.failure().message.find("Pool caf?\r\n"), std::string::npos) << "it says which folder";
+        EXPECT_NE(folder.failure().message.find("they are not in UTF-8"), std::string::npos) << "and why";
     }
 }
 

@@ -103,11 +103,11 @@ TEST_F(SetupHistoryTest, KnowsTitlesPayoffsSeedsAndComments)
 
 TEST_F(SetupHistoryTest, KeepsFewerStepsOfTextsThatAreFarTooLong)
 {
-    const auto steps = [this](std::size_t length) {
+    const auto stepsKept = [this](int steps, std::size_t length) {
         Field field;
         field.teams[TeamRow{0}] = std::string(length, 'x');
         history.begin(field);
-        for (int step = 0; step < 250; ++step) {
+        for (int step = 0; step < steps; ++step) {
             field.teams[TeamRow{step % 2 + 1}] += 'a'; // now one text, now the other: each is a step
             history.note(field);
         }
@@ -116,9 +116,9 @@ TEST_F(SetupHistoryTest, KeepsFewerStepsOfTextsThatAreFarTooLong)
             ++undone;
         return undone;
     };
-    EXPECT_EQ(steps(10), 200);
-    EXPECT_EQ(steps(std::size_t{1} << 20), 15) << "16 MB hold 15 fields of a megabyte and a little";
-    EXPECT_EQ(steps(std::size_t{20} << 20), 1);
+    EXPECT_EQ(stepsKept(250, 10), 200);
+    EXPECT_EQ(stepsKept(20, std::size_t{1} << 20), 15) << "16 MB hold 15 fields of a megabyte and a little";
+    EXPECT_EQ(stepsKept(3, std::size_t{20} << 20), 1);
 }
 
 } // namespace
