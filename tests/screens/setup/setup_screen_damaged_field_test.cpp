@@ -78,7 +78,7 @@ TEST_F(SetupWithDamagedField, TheStatusSaysSoUntilItIsSaved)
     files.put("POOLSTART.THS", setupFile(real));
     SetupScreen& screen = loaded();
     EXPECT_EQ(screen.status,
-              "The field could not be read whole; a save keeps the old file.  There are no unsaved changes.");
+              "There are no unsaved changes.  The field could not be read whole; a save keeps the old file.");
     screen.mnuSaveStartingField.click();
     settle();
     EXPECT_EQ(screen.status, "There are no unsaved changes.");
