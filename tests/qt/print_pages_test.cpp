@@ -201,8 +201,10 @@ TEST(PrintPdf, AChosenPdfFileIsForOnePrintoutAndIsNotReplacedByTheNext)
     QtPrinter printer{desk};
     printer.printer().setOutputFormat(QPrinter::PdfFormat);
     printer.printer().setOutputFileName(fromPath(scratch.path() / "out.pdf"));
+    EXPECT_EQ(printer.outputFile(), scratch.path() / "out.pdf");
     EXPECT_TRUE(printer.print(ui::TextPrintout{"First", {"the first"}, {"Courier New", 10}}));
 
+    EXPECT_EQ(printer.outputFile(), std::filesystem::path{});
     EXPECT_FALSE(printer.print(ui::TextPrintout{"Second", {"the second"}, {"Courier New", 10}}));
 
     EXPECT_TRUE(textOf(scratch.path() / "out.pdf").contains(QStringLiteral("the first")));

@@ -202,7 +202,7 @@ TEST_F(BoardScreenLoad, InDemoModeLeadsToOpenSelectionUntilSomethingIsBegun)
     board->dropOnPosition(Position{16});
     board->showState();
     EXPECT_NE(board->explanation, lead);
-    board->mnuGameResults.click();
+    enterResults();
     EXPECT_EQ(board->explanation, "Game results: click the real winners forward and save.");
 }
 

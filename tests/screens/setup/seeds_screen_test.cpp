@@ -62,7 +62,7 @@ TEST_F(SeedsScreenTest, TheDefaultsPassAndLoseTheirLeadingBlanks)
     for (std::size_t row = 0; row < 16; ++row)
         EXPECT_EQ(made->seeds().at(row), kPlainDefaults[row]);
     EXPECT_EQ(screens.unloads, std::vector{ScreenKind::Seeds});
-    EXPECT_TRUE(made->status.ends_with("There are changes that are not saved yet.")) << made->status;
+    EXPECT_TRUE(made->status.starts_with("There are changes that are not saved yet.")) << made->status;
 }
 
 TEST_F(SeedsScreenTest, NewSeedsAreWrittenOnlyWhenTheSetupIsSaved)

@@ -249,13 +249,13 @@ TEST_F(SetupScreenTest, StatusLineNamesRepeatedTeamsAndThoseNotNamedYet)
 
 TEST_F(SetupScreenTest, StatusLineBeginsWithWhatMustNotBeCutOff)
 {
-    std::filesystem::remove(files.path() / "NCAALIST.THS");
+    files.put("NCAALIST.THS", "*START*\r\nAkron\r\n\r\nDuke\r\n*END*\r\n");
     SetupScreen& screen = loaded();
     screen.txtRegion[0].text = screen.txtRegion[63].text = "Duke";
     click(screen.cmdFinalize);
     EXPECT_EQ(screen.status, "There are changes that are not saved yet.  Finalize Tournament takes effect with File, "
-                             "Save.  More than once: Duke.  Not named yet: TEAM2 and 61 more.  There is no list of "
-                             "team names: choose Override Selecting Team Names to type them.");
+                             "Save.  More than once: Duke.  Not named yet: TEAM2 and 61 more.  The list of team "
+                             "names could not be read whole; a save keeps the old file.");
 }
 
 TEST_F(SetupScreenTest, ASaveIsNotAnnouncedAndEndsWhatWasSaidBefore)
