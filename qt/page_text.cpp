@@ -70,7 +70,7 @@ QWidget* Page::addLine(ui::TextBox& box)
 
 QWidget* Page::addLines(ui::TextBox& box)
 {
-    auto* edit = new LinesEdit{this};
+    auto* edit = new LinesEdit{m_lastTyped, this};
     followBox(box, *edit);
     connect(edit, &QPlainTextEdit::textChanged, this,
             [this, edit, &box, textBefore = keepTextInSync(m_sync, box, *edit)] {
@@ -84,6 +84,7 @@ QWidget* Page::addLines(ui::TextBox& box)
                         edit->undo();
                     edit->showAsSaved();
                 }
+                edit->noteTyped();
                 run(box.edited);
             });
     return edit;

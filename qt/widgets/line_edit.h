@@ -11,7 +11,7 @@ class LineEdit;
 /// Of the boxes of a window, the one that typing into was the last thing done; nullptr when something else was done
 /// since. What was done last is undone first.
 struct LastTyped {
-    const LineEdit* box = nullptr;
+    const QWidget* box = nullptr;
 };
 
 class LineEdit : public QLineEdit

@@ -4,16 +4,38 @@
 #include "qt/text.h"
 #include "qt/widgets/input_method.h"
 
+#include <QKeyEvent>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <algorithm>
 
 namespace tallyhoop::qt {
 
-LinesEdit::LinesEdit(QWidget* parent) : QPlainTextEdit{parent}
+LinesEdit::LinesEdit(LastTyped& lastTyped, QWidget* parent) : QPlainTextEdit{parent}, m_lastTyped{lastTyped}
 {
     setTabChangesFocus(true);
     setUndoRedoEnabled(true);
+}
+
+/// Undo and redo belong to the box while typing into it was the last thing done, as in a LineEdit.
+bool LinesEdit::event(QEvent* event)
+{
+    if (event->type() != QEvent::ShortcutOverride)
+        return QPlainTextEdit::event(event);
+    auto& key = static_cast<QKeyEvent&>(*event);
+    const bool isUndoOrRedo = key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo);
+    if (!isUndoOrRedo || (m_lastTyped.box == this && isUndone(key)))
+        return QPlainTextEdit::event(event);
+    key.ignore();
+    return true;
+}
+
+/// @returns whether a key would undo or redo something in the box itself
+bool LinesEdit::isUndone(const QKeyEvent& key) const
+{
+    if (isReadOnly())
+        return false;
+    return key.matches(QKeySequence::Undo) ? document()->isUndoAvailable() : document()->isRedoAvailable();
 }
 
 QString LinesEdit::rawText() const { return document()->toRawText(); }

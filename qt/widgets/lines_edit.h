@@ -2,6 +2,8 @@
 // saved.
 #pragma once
 
+#include "qt/widgets/line_edit.h"
+
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <functional>
@@ -13,7 +15,7 @@ class LinesEdit : public QPlainTextEdit
     Q_OBJECT
 
 public:
-    explicit LinesEdit(QWidget* parent = nullptr);
+    LinesEdit(LastTyped& lastTyped, QWidget* parent);
 
     /// Called with pasted or dropped text. @returns true when it was dealt with and must not be inserted
     std::function<bool(const QString&)> pasted;
@@ -28,14 +30,23 @@ public:
     /// Shows the text as it will be saved: characters composed, and "?" for what Windows-1252 lacks.
     void showAsSaved();
 
+    /// Remembers that typing into this box was the last thing done.
+    void noteTyped() { m_lastTyped.box = this; }
+
     /// Caret and selection, counted in characters of rawText().
     void select(int start, int length);
     int selectionStart() const;
     int selectionLength() const;
 
 protected:
+    bool event(QEvent* event) override;
     void insertFromMimeData(const QMimeData* source) override;
     void inputMethodEvent(QInputMethodEvent* event) override;
+
+private:
+    bool isUndone(const QKeyEvent& key) const;
+
+    LastTyped& m_lastTyped;
 };
 
 } // namespace tallyhoop::qt

@@ -397,6 +397,20 @@ TEST_F(SetupViewTest, TheMenuTakesBackWhatClearAllDidWhereverTheFocusIs)
     EXPECT_EQ(team(63).text(), QStringLiteral("TEAM64"));
 }
 
+TEST_F(SetupViewTest, TheMenuTakesClearAllBackFromACommentUntilSomethingIsTypedThere)
+{
+    QTest::mouseClick(view->widgetOf(setup.cmdClear), Qt::LeftButton);
+    auto& comment = widget<QPlainTextEdit>(setup.txtComment1);
+    comment.setFocus();
+    QTest::keyClick(&comment, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(team(63).text(), QStringLiteral("TEAM64"));
+
+    QTest::keyClicks(&comment, "ab");
+    QTest::keyClick(&comment, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(comment.toPlainText(), QString{}) << "what was typed goes, as in any box";
+    EXPECT_EQ(team(63).text(), QStringLiteral("TEAM64"));
+}
+
 TEST_F(SetupViewTest, AHugeLineIsNotPastedIntoAComment)
 {
     QApplication::clipboard()->setText(QString{300'000, QLatin1Char{'x'}});
