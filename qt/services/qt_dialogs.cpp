@@ -45,9 +45,9 @@ void shorten(QStringList& lines)
 /// @returns a text that fits a display, whatever names are in it: a line that is far too long loses its middle, and so
 ///          does a text of far too many lines
 /// @param end how many characters are kept at either end of such a line
-QString shownText(const std::string& text, qsizetype end)
+QString shownText(const QString& text, qsizetype end)
 {
-    QStringList lines = toLines(text).split(QLatin1Char{'\n'});
+    QStringList lines = text.split(QLatin1Char{'\n'});
     for (QString& line : lines)
         if (line.size() > 2 * end)
             line = line.left(end) + QStringLiteral(" ... ") + line.right(end);
@@ -159,7 +159,7 @@ ui::Answer QtDialogs::show(const ui::Message& message)
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(captionOf(message.caption));
     box.setIcon(toQt(message.icon));
-    box.setText(shownText(message.text, kMessageEnd));
+    box.setText(shownText(toLines(message.text), kMessageEnd));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     addButtons(box, message.buttons, message.refusalIsDefault);
     const QAbstractButton* more = nullptr;
@@ -195,7 +195,7 @@ std::string QtDialogs::ask(const ui::Question& asked)
         label->setTextFormat(Qt::PlainText);
         label->setBuddy(nullptr);
     }
-    const QString prompt = shownText(asked.prompt, kPromptEnd);
+    const QString prompt = shownText(toLines(asked.prompt), kPromptEnd);
     for (QLabel* label : labels)
         label->setWordWrap(isWide(prompt));
     dialog.setLabelText(prompt);
@@ -241,7 +241,7 @@ void QtDialogs::about(const std::filesystem::path& folder)
     box.setText(QStringLiteral("Tallyhoop ") + QApplication::applicationVersion());
     box.setInformativeText(QStringLiteral("Runs an office pool on the 64-team college basketball tournament: brackets, "
                                           "results, scores and reports.\n\nThe pool is in the folder\n") +
-                           fromPath(folder));
+                           shownText(fromPath(folder), kMessageEnd));
     // The format of the text above does not hold for this one: a folder's name is no markup either.
     if (auto* details = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
         details->setTextFormat(Qt::PlainText);

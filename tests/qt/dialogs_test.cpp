@@ -247,6 +247,17 @@ TEST(QtDialogs, TheAboutBoxNamesTheProgram)
     asking.dialogs.about("/home/anna & co/<b>Pool</b>");
 }
 
+TEST(QtDialogs, TheAboutBoxFitsADisplayWhateverTheFolderIsCalled)
+{
+    Asking asking;
+    withNext<QMessageBox>([](QMessageBox& box) {
+        EXPECT_LE(box.informativeText().count(QLatin1Char('\n')), 40) << "of the hundred of the name";
+        EXPECT_TRUE(box.informativeText().endsWith(QStringLiteral("Pool")));
+        box.accept();
+    });
+    asking.dialogs.about("/home/" + std::string(100, '\n') + "Pool");
+}
+
 TEST(QtPrinterDialogs, CancelIsReported)
 {
     Shown shown;
