@@ -62,7 +62,7 @@ Result<Done> QtPrograms::check(const std::filesystem::path& program)
         return failureOf(std::errc::is_a_directory);
     if (!file.isExecutable())
         return failureOf(std::errc::permission_denied);
-    if (!isProgram(program))
+    if (!file.isFile() || !isProgram(program)) // whose beginning a pipe would keep us waiting for
         return failureOf(std::errc::executable_format_error);
     return Done{};
 }

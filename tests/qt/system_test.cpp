@@ -10,6 +10,7 @@
 #include <QProgressDialog>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace tallyhoop;
 using namespace tallyhoop::qt;
@@ -92,6 +93,15 @@ TEST(QtPrograms, AFileThatIsNoProgramIsRefusedBeforeAnythingIsStarted)
         EXPECT_EQ(outcome.failure().message, "Exec format error");
     }
     EXPECT_TRUE(programs.check("/proc/self/exe")) << "a program for this computer";
+}
+
+TEST(QtPrograms, APipeIsNoProgramAndIsNotWaitedFor)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    const std::filesystem::path pipe = scratch.path() / "DEMOSET.EXE";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0700), 0);
+    QtPrograms programs;
+    EXPECT_FALSE(programs.check(pipe));
 }
 
 TEST(QtPrograms, AProgramThatStillRunsHasNoOutcome)
