@@ -67,7 +67,7 @@ int main(int argc, char** argv)
     }
     const DataFolder folder{*foundFolder};
     const FolderLock lock{folder.folder()};
-    frame.setToolTip(qt::plainToolTip(qt::toQString(shown(folder.folder()))));
+    frame.setToolTip(qt::plainToolTip(qt::shownText(qt::toLines(shown(folder.folder())))));
     SharedValues shared;
     qt::QtPrinter printer{desk};
 #ifdef _WIN32

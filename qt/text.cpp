@@ -8,6 +8,21 @@
 
 namespace tallyhoop::qt {
 
+namespace {
+
+constexpr qsizetype kMostLines = 30; ///< twice as many as our longest message has
+
+/// Takes lines out of the middle of a text that would be taller than a display.
+void shorten(QStringList& lines)
+{
+    if (lines.size() <= kMostLines)
+        return;
+    const QStringList end = lines.mid(lines.size() - kMostLines / 2);
+    lines = lines.mid(0, kMostLines / 2) + QStringList{QStringLiteral("...")} + end;
+}
+
+} // namespace
+
 QString toQString(std::string_view text)
 {
     QString shown;
@@ -74,6 +89,16 @@ QString withMnemonic(QString caption, char mnemonic)
         (QLatin1Char{' '} + caption).indexOf(QLatin1Char{' '} + QString{letter}, 0, Qt::CaseInsensitive);
     const auto at = atWord >= 0 ? atWord : caption.indexOf(letter, 0, Qt::CaseInsensitive);
     return at >= 0 ? caption.insert(at, mark) : caption;
+}
+
+QString shownText(const QString& text, qsizetype end)
+{
+    QStringList lines = text.split(QLatin1Char{'\n'});
+    for (QString& line : lines)
+        if (line.size() > 2 * end)
+            line = line.left(end) + QStringLiteral(" ... ") + line.right(end);
+    shorten(lines);
+    return lines.join(QLatin1Char{'\n'});
 }
 
 QString plainToolTip(const QString& data)

@@ -31,6 +31,13 @@ QString withoutMnemonics(const QString& data);
 /// there or a letter is marked already
 QString withMnemonic(QString caption, char mnemonic);
 
+inline constexpr qsizetype kLineEnd = 200; ///< enough for most paths
+
+/// @returns a text that fits a display, whatever names are in it: a line that is far too long loses its middle, and so
+///          does a text of far too many lines
+/// @param end how many characters are kept at either end of such a line
+QString shownText(const QString& text, qsizetype end = kLineEnd);
+
 /// @returns plain data as a tool tip that Qt cannot take for markup; empty stays empty
 QString plainToolTip(const QString& data);
 

@@ -1,7 +1,6 @@
 // qt/services/paper.cpp - the printer's own paper, or what the desktop's settings suggest.
 #include "qt/services/paper.h"
 
-#include <QPrinterInfo>
 #include <algorithm>
 #include <array>
 
@@ -25,10 +24,6 @@ QLocale::Territory territoryOfPaper()
     return QLocale::system().territory();
 }
 
-QPageSize paperOf(const QPrinterInfo& printer)
-{
-    const QPageSize own = printer.isNull() ? QPageSize{} : printer.defaultPageSize();
-    return own.isValid() ? own : usualPaper(territoryOfPaper());
-}
+QPageSize paperOf(const QPageSize& own) { return own.isValid() ? own : usualPaper(territoryOfPaper()); }
 
 } // namespace tallyhoop::qt

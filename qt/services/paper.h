@@ -4,8 +4,6 @@
 #include <QLocale>
 #include <QPageSize>
 
-class QPrinterInfo;
-
 namespace tallyhoop::qt {
 
 /// @returns the size of paper that is usual in a territory: Letter or A4
@@ -14,7 +12,8 @@ QPageSize usualPaper(QLocale::Territory territory);
 /// @returns what the desktop's settings say where we are; on Linux LC_PAPER goes before the language
 QLocale::Territory territoryOfPaper();
 
-/// @returns the printer's own default size, the usual one where it names none or there is no printer
-QPageSize paperOf(const QPrinterInfo& printer);
+/// @param own the printer's default size; not valid = it names none, or there is no printer
+/// @returns that size, or else the usual one
+QPageSize paperOf(const QPageSize& own);
 
 } // namespace tallyhoop::qt

@@ -23,36 +23,11 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr qsizetype kMessageEnd = 200; ///< enough for most paths
-constexpr qsizetype kPromptEnd = 40;   ///< less, as an input box does not break words
+constexpr qsizetype kPromptEnd = 40; ///< less, as an input box does not break words
 
 QString captionOf(const std::string& caption)
 {
     return caption.empty() ? QStringLiteral("Tallyhoop") : titleText(toQString(caption));
-}
-
-constexpr qsizetype kMostLines = 30; ///< twice as many as our longest message has
-
-/// Takes lines out of the middle of a text that would be taller than a display.
-void shorten(QStringList& lines)
-{
-    if (lines.size() <= kMostLines)
-        return;
-    const QStringList end = lines.mid(lines.size() - kMostLines / 2);
-    lines = lines.mid(0, kMostLines / 2) + QStringList{QStringLiteral("...")} + end;
-}
-
-/// @returns a text that fits a display, whatever names are in it: a line that is far too long loses its middle, and so
-///          does a text of far too many lines
-/// @param end how many characters are kept at either end of such a line
-QString shownText(const QString& text, qsizetype end)
-{
-    QStringList lines = text.split(QLatin1Char{'\n'});
-    for (QString& line : lines)
-        if (line.size() > 2 * end)
-            line = line.left(end) + QStringLiteral(" ... ") + line.right(end);
-    shorten(lines);
-    return lines.join(QLatin1Char{'\n'});
 }
 
 bool isWide(const QString& text)
@@ -159,7 +134,7 @@ ui::Answer QtDialogs::show(const ui::Message& message)
     box.setTextFormat(Qt::PlainText);
     box.setWindowTitle(captionOf(message.caption));
     box.setIcon(toQt(message.icon));
-    box.setText(shownText(toLines(message.text), kMessageEnd));
+    box.setText(shownText(toLines(message.text)));
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     addButtons(box, message.buttons, message.refusalIsDefault);
     const QAbstractButton* more = nullptr;
@@ -241,7 +216,7 @@ void QtDialogs::about(const std::filesystem::path& folder)
     box.setText(QStringLiteral("Tallyhoop ") + QApplication::applicationVersion());
     box.setInformativeText(QStringLiteral("Runs an office pool on the 64-team college basketball tournament: brackets, "
                                           "results, scores and reports.\n\nThe pool is in the folder\n") +
-                           shownText(fromPath(folder), kMessageEnd));
+                           shownText(fromPath(folder)));
     // The format of the text above does not hold for this one: a folder's name is no markup either.
     if (auto* details = box.findChild<QLabel*>(QStringLiteral("qt_msgbox_informativelabel")))
         details->setTextFormat(Qt::PlainText);

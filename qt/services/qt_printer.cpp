@@ -58,6 +58,12 @@ QPageLayout::Orientation toQt(ui::Orientation orientation)
     return orientation == ui::Orientation::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait;
 }
 
+/// @param printerName empty = there is none
+QPageSize paperIn(const QString& printerName)
+{
+    return paperOf(QPrinterInfo::printerInfo(printerName).defaultPageSize());
+}
+
 } // namespace
 
 QtPrinter::QtPrinter(Desk& desk) : m_desk{desk} {}
@@ -71,7 +77,7 @@ QPrinter& QtPrinter::printer()
         m_printer->setResolution(kTwipsPerInch);
         m_printer->setCreator(QStringLiteral("Tallyhoop"));
         // Qt would take A4 whatever the printer holds.
-        m_printer->setPageSize(paperOf(QPrinterInfo::printerInfo(m_printer->printerName())));
+        m_printer->setPageSize(paperIn(m_printer->printerName()));
     }
     return *m_printer;
 }
@@ -103,7 +109,7 @@ bool QtPrinter::choosePrinter()
     // Another printer may hold other paper; what was chosen in the dialog holds.
     const QString now = printer().printerName();
     if (now != before && printer().pageLayout().pageSize() == paper)
-        printer().setPageSize(paperOf(QPrinterInfo::printerInfo(now)));
+        printer().setPageSize(paperIn(now));
     return true;
 }
 

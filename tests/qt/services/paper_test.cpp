@@ -1,7 +1,10 @@
 // tests/qt/services/paper_test.cpp - the paper that a printout is for.
+#include "qt/desk.h"
 #include "qt/services/paper.h"
+#include "qt/services/qt_printer.h"
 
 #include <QByteArray>
+#include <QPrinter>
 #include <QPrinterInfo>
 #include <gtest/gtest.h>
 #include <optional>
@@ -55,14 +58,38 @@ TEST(Paper, FollowsTheDesktopsSettings)
 {
     {
         const LocaleVariables american{"", "", "en_US.UTF-8"};
-        EXPECT_EQ(paperOf(QPrinterInfo{}).id(), QPageSize::Letter);
+        EXPECT_EQ(paperOf(QPageSize{}).id(), QPageSize::Letter);
     }
     {
         const LocaleVariables americanInGermany{"", "de_DE.UTF-8", "en_US.UTF-8"};
-        EXPECT_EQ(paperOf(QPrinterInfo{}).id(), QPageSize::A4);
+        EXPECT_EQ(paperOf(QPageSize{}).id(), QPageSize::A4);
     }
     {
         const LocaleVariables overridden{"en_US.UTF-8", "de_DE.UTF-8", "de_DE.UTF-8"};
-        EXPECT_EQ(paperOf(QPrinterInfo{}).id(), QPageSize::Letter);
+        EXPECT_EQ(paperOf(QPageSize{}).id(), QPageSize::Letter);
     }
+}
+
+TEST(Paper, IsThePrintersOwnWhereItNamesOne)
+{
+    const LocaleVariables german{"", "", "de_DE.UTF-8"};
+    EXPECT_EQ(paperOf(QPageSize{QPageSize::Letter}).id(), QPageSize::Letter);
+    EXPECT_EQ(paperOf(QPageSize{QPageSize::A3}).id(), QPageSize::A3);
+}
+
+TEST(Paper, IsWhatAPrintoutIsLaidOutForWithoutAPrinter)
+{
+    if (!QPrinterInfo::defaultPrinterName().isEmpty())
+        GTEST_SKIP() << "there is a printer here, and its own paper counts";
+    const auto chosen = [] {
+        Desk desk;
+        QtPrinter printer{desk};
+        return printer.printer().pageLayout().pageSize().id();
+    };
+    {
+        const LocaleVariables american{"", "", "en_US.UTF-8"};
+        EXPECT_EQ(chosen(), QPageSize::Letter);
+    }
+    const LocaleVariables german{"", "", "de_DE.UTF-8"};
+    EXPECT_EQ(chosen(), QPageSize::A4);
 }
