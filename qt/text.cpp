@@ -12,13 +12,15 @@ namespace {
 
 constexpr qsizetype kMostLines = 30; ///< twice as many as our longest message has
 
-/// Takes lines out of the middle of a text that would be taller than a display.
-void shorten(QStringList& lines)
+/// @returns a text's lines, without those in its middle when they would be taller than a display
+QStringList fewEnough(const QStringList& lines)
 {
     if (lines.size() <= kMostLines)
-        return;
-    const QStringList end = lines.mid(lines.size() - kMostLines / 2);
-    lines = lines.mid(0, kMostLines / 2) + QStringList{QStringLiteral("...")} + end;
+        return lines;
+    QStringList kept = lines.mid(0, kMostLines / 2);
+    kept.append(QStringLiteral("..."));
+    kept.append(lines.mid(lines.size() - kMostLines / 2));
+    return kept;
 }
 
 } // namespace
@@ -97,8 +99,7 @@ QString shownText(const QString& text, qsizetype end)
     for (QString& line : lines)
         if (line.size() > 2 * end)
             line = line.left(end) + QStringLiteral(" ... ") + line.right(end);
-    shorten(lines);
-    return lines.join(QLatin1Char{'\n'});
+    return fewEnough(lines).join(QLatin1Char{'\n'});
 }
 
 QString plainToolTip(const QString& data)

@@ -102,7 +102,7 @@ std::vector<std::size_t> naturalOrder(std::size_t count)
     return places;
 }
 
-std::vector<std::size_t> sorted(std::vector<SortRow>& rows, CompareCells compare)
+std::vector<std::size_t> sorted(std::span<SortRow> rows, CompareCells compare)
 {
     mergeSort(rows, compare);
     std::vector<std::size_t> places;
