@@ -138,7 +138,7 @@ ReadEntries readEntries(std::span<const FolderFile> files, const Bracket& like, 
 Pool readPool(const DataFolder& folder)
 {
     Pool pool;
-    Read<Field> field = readField(folder);
+    ReadField field = readField(folder);
     pool.field = std::move(field.value);
     if (field.trouble)
         pool.trouble.push_back(troubleOf(folder.pathTo(file_name::kSetup), *field.trouble));

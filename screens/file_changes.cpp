@@ -13,8 +13,8 @@ namespace {
 /// @returns the line with one blank where it has several
 std::string withoutPadding(std::string line)
 {
-    const auto padding = std::ranges::unique(line, [](char left, char right) { return left == ' ' && right == ' '; });
-    line.erase(padding.begin(), padding.end());
+    const auto isPadding = [](char left, char right) { return left == ' ' && right == ' '; };
+    line.erase(std::unique(line.begin(), line.end(), isPadding), line.end());
     return line;
 }
 

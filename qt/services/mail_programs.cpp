@@ -11,8 +11,8 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kAnswerMilliseconds = 5000;            ///< what a small tool of the desktop may take
-constexpr std::size_t kLongestArgument = 128 * 1024; ///< bytes of one argument with the zero at its end: Linux's limit
+constexpr int kAnswerMilliseconds = 5000;         ///< what a small tool of the desktop may take
+constexpr std::size_t kLongestArgument = 131'072; ///< bytes of one argument with its final zero: Linux has this limit
 
 QStringList asQt(const std::vector<std::string>& utf8)
 {

@@ -39,7 +39,7 @@ void BoardScreen::unloading() { m_shared.savedPlayer.reset(); }
 void BoardScreen::loadBoard()
 {
     m_shared.savedPlayer.reset();
-    Read<Field> field = readField(m_folder, m_shared.field);
+    ReadField field = readField(m_folder, m_shared.field);
     if (field.trouble)
         showTrouble(m_platform.dialogs, *field.trouble);
     m_shared.field = std::move(field.value);

@@ -61,7 +61,7 @@ void BoardScreen::newSelection()
 /// A board on a field that is no longer final can neither be saved nor left for another selection.
 bool BoardScreen::fieldIsStillFinal()
 {
-    const Read<Field> field = readField(m_folder, m_shared.field);
+    const ReadField field = readField(m_folder, m_shared.field);
     return field.trouble || field.value.isFinalized() || !m_shared.field.isFinalized() ||
            m_platform.dialogs.show(kNoLongerFinal) == ui::Answer::Ok;
 }

@@ -259,7 +259,7 @@ TEST(ReadField, FindsTheFileInAnyCase)
 {
     const ScratchFolder scratch;
     scratch.put("PoolStart.ths", crlf({"*START*", "Duke", "*END*"}));
-    const Read<Field> read = readField(scratch.folder());
+    const ReadField read = readField(scratch.folder());
     EXPECT_FALSE(read.trouble);
     EXPECT_EQ(read.value.teams[TeamRow{0}], "Duke");
 }
