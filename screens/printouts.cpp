@@ -74,6 +74,7 @@ std::vector<fs::path> chooseFiles(ui::Dialogs& dialogs, const fs::path& folder,
     if (!chosen)
         return {};
     std::vector<fs::path> files;
+    files.reserve(printouts.size());
     for (const ui::Printout& printout : printouts)
         files.push_back(DataFolder{*chosen}.pathTo(pdfName(ui::titleOf(printout))));
     return files;
