@@ -16,7 +16,7 @@ public:
     /// @returns the board as it is, on one page; its title is whose it is
     virtual ui::DrawingPrintout printout() const = 0;
 
-    /// Puts the results on the board, to be edited.
+    /// Puts the results on the board, to be edited. Changes of a selection that are not saved can be undone back to.
     virtual void showGameResults() = 0;
 
     /// Puts a player's file on the board as opening it does, and marks right and wrong picks.
@@ -28,9 +28,8 @@ public:
     /// @returns whether results are on the board that no file holds as they are
     virtual bool holdsUnsavedResults() const = 0;
 
-    /// Before the board turns to something else: offers to save such results, and asks whether the unsaved changes of a
-    /// selection may be lost. @returns false when it must not, because the person does not want to, or because the
-    /// results could not be saved
+    /// Before the board turns to something else: offers to save such results.
+    /// @returns false when it must not, because the person does not want to, or because they could not be saved
     virtual bool mayBeLeft() = 0;
 
     /// The same before it turns to the results; asks as well before it loads a field that is no longer final.

@@ -17,6 +17,7 @@
 #include "ui/platform.h"
 #include "ui/screen.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -123,7 +124,9 @@ private:
     void restore(const BoardSnapshot& board);
 
     // Files.
-    void showSelection(const std::filesystem::path& file);
+    bool showSelection(const std::filesystem::path& file);
+    void showInstead(const std::function<void()>& show);
+    void replaceBoard(const std::function<void()>& show);
     bool fieldIsStillFinal();
     bool mayBeReplaced();
     bool keepResults();

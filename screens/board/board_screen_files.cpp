@@ -13,6 +13,7 @@
 #include "screens/printouts.h"
 #include "screens/saving.h"
 
+#include <functional>
 #include <utility>
 
 namespace tallyhoop {
@@ -49,21 +50,38 @@ void BoardScreen::newSelection()
     if (!fieldIsStillFinal())
         return;
     leaveScoreList();
+    showInstead([this] { loadBoard(); });
+}
+
+/// What is shown now begins without a past; a person who chose it by mistake wants the board as it was.
+void BoardScreen::showInstead(const std::function<void()>& show)
+{
     const BoardSnapshot before = snapshot();
     BoardHistory history = m_history;
-    loadBoard();
-    // The load forgets the past; a person who chose New by mistake wants it back.
+    show();
     m_history = std::move(history);
     m_history.remember(before);
     ++m_sheet;
 }
 
-/// A board on a field that is no longer final can neither be saved nor left for another selection.
+/// Shows something else without a question: changes that are not saved stay within the reach of Undo.
+void BoardScreen::replaceBoard(const std::function<void()>& show)
+{
+    if (!unsaved) {
+        show();
+        return;
+    }
+    showInstead(show);
+    say("What was on the board is not saved: Edit, Undo brings it back.");
+}
+
+/// On a field that is no longer final, changes can neither be saved nor be of use when they are brought back.
 bool BoardScreen::fieldIsStillFinal()
 {
+    if (!unsaved || !m_shared.field.isFinalized())
+        return true;
     const ReadField field = readField(m_folder, m_shared.field);
-    return field.trouble || field.value.isFinalized() || !m_shared.field.isFinalized() ||
-           m_platform.dialogs.show(kNoLongerFinal) == ui::Answer::Ok;
+    return (!field.trouble && field.value.isFinalized()) || m_platform.dialogs.show(kNoLongerFinal) == ui::Answer::Ok;
 }
 
 void BoardScreen::openRecent(std::size_t index)
@@ -96,7 +114,7 @@ void BoardScreen::openNeighbour(int step)
     showSelection(*file);
 }
 
-/// One key is pressed by mistake sooner than a file is chosen in a dialog, and nothing brings the changes back.
+/// One key is pressed by mistake sooner than a file is chosen in a dialog.
 bool BoardScreen::mayBeReplaced() { return !unsaved || m_platform.dialogs.show(kUnsaved) == ui::Answer::Ok; }
 
 void BoardScreen::openFolder() { say(showFolder(m_platform, m_folder)); }
@@ -112,19 +130,21 @@ void BoardScreen::openSelection()
     showSelection(*file);
 }
 
-void BoardScreen::showSelection(const std::filesystem::path& file)
+/// @returns whether it could be read, and whole
+bool BoardScreen::showSelection(const std::filesystem::path& file)
 {
     m_shared.savedPlayer.reset();
     Read<Entry> read = m_files.read(file, m_shared.field);
     showEntry(std::move(read.value));
     m_openedFile = file;
     beginUnmarked();
-    if (read.trouble) {
-        say(shown(file.filename()) + " could not be read, or not whole.");
-        return;
-    }
-    m_recent.note(file);
-    say("Opened " + shown(file.filename()) + ".");
+    if (read.trouble)
+        m_recent.forget(file);
+    else
+        m_recent.note(file);
+    say(read.trouble ? shown(file.filename()) + " could not be read, or not whole."
+                     : "Opened " + shown(file.filename()) + ".");
+    return !read.trouble;
 }
 
 void BoardScreen::saveSelection()
@@ -200,7 +220,7 @@ bool BoardScreen::keepResults()
     return !unsaved;
 }
 
-bool BoardScreen::mayBeLeft() { return holdsUnsavedResults() ? keepResults() : mayBeReplaced(); }
+bool BoardScreen::mayBeLeft() { return !holdsUnsavedResults() || keepResults(); }
 
 /// Without a results file the field is loaded again, as it is for a new selection.
 bool BoardScreen::mayShowGameResults() { return mayBeLeft() && (m_files.resultsExist() || fieldIsStillFinal()); }
@@ -215,11 +235,13 @@ void BoardScreen::showGameResults()
 {
     leaveScoreList();
     m_shared.savedPlayer.reset();
-    if (!m_files.resultsExist())
-        loadBoard();
-    showEntry(m_files.readResults(m_shared.field));
-    beginUnmarked();
-    setResultsMode(true);
+    replaceBoard([this] {
+        if (!m_files.resultsExist())
+            loadBoard();
+        showEntry(m_files.readResults(m_shared.field));
+        beginUnmarked();
+        setResultsMode(true);
+    });
 }
 
 void BoardScreen::scoreSelections()
@@ -269,8 +291,13 @@ void BoardScreen::unmarkPicks()
 
 void BoardScreen::showScored(const std::filesystem::path& file)
 {
-    showSelection(file);
+    const bool wasUnsaved = unsaved;
+    bool isWhole = true;
+    replaceBoard([&] { isWhole = showSelection(file); });
+    const std::string warning = wasUnsaved || !isWhole ? news().text : std::string{};
     scoreSelections();
+    if (!warning.empty())
+        say(warning); // which matters more than what the marks mean
 }
 
 ui::DrawingPrintout BoardScreen::printout() const

@@ -46,9 +46,14 @@ void RecentSelections::begin(const DataFolder& folder)
 
 void RecentSelections::note(const fs::path& file)
 {
-    std::erase_if(m_files, [&](const fs::path& known) { return isOne(known, file); });
+    forget(file);
     m_files.insert(m_files.begin(), file);
     m_files.resize(std::min(m_files.size(), kRecentSelections));
+}
+
+void RecentSelections::forget(const fs::path& file)
+{
+    std::erase_if(m_files, [&](const fs::path& known) { return isOne(known, file); });
 }
 
 std::vector<std::string> RecentSelections::names() const

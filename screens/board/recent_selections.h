@@ -20,6 +20,9 @@ public:
     /// A selection was opened or saved.
     void note(const std::filesystem::path& file);
 
+    /// A selection could not be read.
+    void forget(const std::filesystem::path& file);
+
     /// @returns their names as text, that used last first; at most kRecentSelections
     std::vector<std::string> names() const;
 

@@ -131,13 +131,7 @@ protected:
         save();
     }
 
-    /// Puts the results on the board; what is not saved there may be lost.
-    void enterResults()
-    {
-        if (board->unsaved)
-            platform.dialogs.answer(ui::Answer::Ok);
-        board->mnuGameResults.click();
-    }
+    void enterResults() { board->mnuGameResults.click(); }
 
     void score() { board->mnuScoreSelections.click(); }
 

@@ -105,21 +105,46 @@ TEST_F(BoardScreenFolder, ChangesThatAreNotSavedAreLeftOnlyAfterAQuestion)
     EXPECT_EQ(board->document, "Baker_B.THC");
 }
 
-TEST_F(BoardScreenFolder, ChangesThatAreNotSavedAreLeftForTheResultsOnlyAfterAQuestion)
+TEST_F(BoardScreenFolder, ChangesThatAreNotSavedComeBackFromTheResultsWithUndo)
 {
+    putNoResultsYet();
     loadFinalized();
     click(0);
-    platform.dialogs.answer(ui::Answer::Cancel);
-    board->mnuGameResults.click();
-    EXPECT_FALSE(resultsMode());
-    EXPECT_EQ(at(16), "R1T0");
-    EXPECT_TRUE(board->unsaved);
-    EXPECT_EQ(platform.dialogs.shown.back().caption, "UNSAVED CHANGES");
-    EXPECT_TRUE(platform.dialogs.shown.back().refusalIsDefault) << "Enter loses nothing";
-    platform.dialogs.answer(ui::Answer::Ok);
+    fill("A", "Adams", "150");
     board->mnuGameResults.click();
     EXPECT_TRUE(resultsMode());
     EXPECT_EQ(at(16), "");
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+    EXPECT_EQ(board->news().text, "What was on the board is not saved: Edit, Undo brings it back.");
+    board->mnuUndo.click();
+    EXPECT_FALSE(resultsMode());
+    EXPECT_EQ(at(16), "R1T0");
+    EXPECT_EQ(board->txtPlayerName.text, "Adams");
+    EXPECT_TRUE(board->unsaved);
+}
+
+TEST_F(BoardScreenFolder, ChangesThatAreNotSavedComeBackFromAScoredSelectionWithUndo)
+{
+    putNoResultsYet();
+    putThreePlayers();
+    loadFinalized();
+    click(0);
+    board->showScored(scratch.path() / "Baker_B.THC");
+    board->showState();
+    EXPECT_EQ(board->news().text, "What was on the board is not saved: Edit, Undo brings it back.");
+    board->cmdDefaultColors.click();
+    EXPECT_EQ(board->document, "Baker_B.THC");
+    board->mnuUndo.click();
+    EXPECT_EQ(at(16), "R1T0");
+    EXPECT_EQ(board->document, "");
+}
+
+TEST_F(BoardScreenFolder, AScoredSelectionThatCouldNotBeReadIsSaidToBeSo)
+{
+    putNoResultsYet();
+    loadFinalized();
+    board->showScored(scratch.put("Half_H.THC", "TEAM1\r\n"));
+    EXPECT_EQ(board->news().text, "Half_H.THC could not be read, or not whole.");
 }
 
 TEST_F(BoardScreenFolder, ResultsAreEnteredWithoutAQuestionWhenNothingIsLost)
@@ -131,24 +156,10 @@ TEST_F(BoardScreenFolder, ResultsAreEnteredWithoutAQuestionWhenNothingIsLost)
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
 
-TEST_F(BoardScreenFolder, OtherScreensAskBeforeTheyTakeTheBoardFromAnUnsavedSelection)
-{
-    loadFinalized();
-    EXPECT_TRUE(board->mayBeLeft());
-    EXPECT_TRUE(board->mayShowGameResults());
-    click(0);
-    platform.dialogs.answer(ui::Answer::Cancel).answer(ui::Answer::Cancel);
-    EXPECT_FALSE(board->mayBeLeft());
-    EXPECT_FALSE(board->mayShowGameResults());
-    platform.dialogs.answer(ui::Answer::Ok).answer(ui::Answer::Ok);
-    EXPECT_TRUE(board->mayBeLeft());
-    EXPECT_TRUE(board->mayShowGameResults());
-    EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>(4, "UNSAVED CHANGES"));
-}
-
 TEST_F(BoardScreenFolder, FirstResultsAskWhenTheFieldIsNoLongerFinal)
 {
     loadFinalized();
+    click(0);
     putField(fieldOfTeams("0")); // by another program
     platform.dialogs.answer(ui::Answer::Cancel);
     board->mnuGameResults.click();
@@ -201,6 +212,16 @@ TEST_F(BoardScreenFolder, DoesNotSayThatAFileIsOpenThatCouldNotBeRead)
     open(scratch.put("Half_H.THC", "TEAM1\r\n"));
     EXPECT_EQ(board->news().text, "Half_H.THC could not be read, or not whole.");
     EXPECT_TRUE(recent().empty());
+}
+
+TEST_F(BoardScreenFolder, NoLongerOffersAFileThatHasVanished)
+{
+    putThreePlayers();
+    loadFinalized();
+    ASSERT_EQ(recent().size(), 3u);
+    std::filesystem::remove(scratch.path() / "Baker_B.THC");
+    open(scratch.path() / "Baker_B.THC");
+    EXPECT_EQ(recent().size(), 2u);
 }
 
 TEST_F(BoardScreenFolder, OffersFiveSelectionsAtTheMost)
