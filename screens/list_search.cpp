@@ -54,6 +54,14 @@ std::optional<std::string> soughtText(const ui::TextBox& box, const ui::KeyPress
     return sought;
 }
 
+std::string nothingFound(const ui::TextBox& box, const ui::ListBox& list, const ui::KeyPress& press)
+{
+    const std::optional<std::string> sought = soughtText(box, press);
+    if (!sought || sought->empty() || findRow(list.rows, *sought))
+        return {};
+    return "No name of the list begins with \"" + *sought + "\".";
+}
+
 bool typeAhead(ui::TextBox& box, ui::ListBox& list, const ui::KeyPress& press)
 {
     const std::optional<std::string> sought = soughtText(box, press);

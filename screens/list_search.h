@@ -18,6 +18,10 @@ std::optional<int> findRow(std::span<const std::string> rows, std::string_view p
 ///          leaves the key alone
 std::optional<std::string> soughtText(const ui::TextBox& box, const ui::KeyPress& press);
 
+/// @returns what to say of a key press that finds no row: "No name of the list begins with "qx"."; empty where one is
+///          found, or nothing is looked for
+std::string nothingFound(const ui::TextBox& box, const ui::ListBox& list, const ui::KeyPress& press);
+
 /// Looks for the first row that begins with what has been typed, selects it and completes the box: the part that is not
 /// yet typed is selected, so that further typing replaces it. When no row does, box and list stay as they are. A
 /// Backspace looks for one character less; when none is left, it empties the box.

@@ -135,8 +135,10 @@ void FileDialog::acceptQuoted()
         m_name->clear();
         return;
     }
-    QMessageBox box{QMessageBox::Warning, windowTitle(), typed() + QStringLiteral("\nThere is no such file or folder."),
-                    QMessageBox::Ok, this};
+    std::error_code unknown;
+    const QString reason = fs::exists(path, unknown) ? QStringLiteral("\nThis is neither a file nor a folder.")
+                                                     : QStringLiteral("\nThere is no such file or folder.");
+    QMessageBox box{QMessageBox::Warning, windowTitle(), typed() + reason, QMessageBox::Ok, this};
     box.setTextFormat(Qt::PlainText);
     box.exec();
 }

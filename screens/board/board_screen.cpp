@@ -142,6 +142,8 @@ std::string BoardScreen::whatToDo() const
         return "The field is not finalized yet: see Setup, Setup Pool Options.";
     if (m_demo && m_openedFile.empty() && !m_resultsMode && !unsaved)
         return "This is the sample pool: choose File, Open Selection to look at one of its players.";
+    if (m_screens.isLoaded(ScreenKind::Scores))
+        return "The list of scores is open; close it to change the bracket.";
     if (m_resultsMode)
         return "Game results: click the real winners forward and save.";
     return "Click the winners forward, then enter initials, name and the final's total points.";

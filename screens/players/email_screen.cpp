@@ -161,7 +161,10 @@ bool EmailScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
         enter();
         return true;
     }
-    return inEntry && !m_freeEntry && typeAhead(txtEntry, lstPlayerNames, press);
+    if (!inEntry || m_freeEntry)
+        return false;
+    say(nothingFound(txtEntry, lstPlayerNames, press));
+    return typeAhead(txtEntry, lstPlayerNames, press);
 }
 
 /// Text that did not come through the search (pasted, or accented letters): the selected row must not be another

@@ -126,6 +126,10 @@ void ReportsScreen::explainControls()
     cmdDefaultPrinter.explanation = "Press to change: the default printer, or one that you choose for each report.";
     cmdPreview.explanation = "Shows the ticked reports as they will be printed.";
     cmdSavePdf.explanation = "Saves the ticked reports as PDF files: one is named, several go into a folder.";
+    chkAllPlayers.changed = [this] {
+        if (chkAllPlayers.ticked)
+            ui::selectOption(optSelected, 0); // the only sheet that there is for each player
+    };
     chkAllPlayers.explanation = "Every player's scored bracket, a page each, instead of the one selected below.";
     filList.emptyNote = "No selections saved yet.";
     filList.explanation = "The player whose scored bracket is printed.";

@@ -26,6 +26,11 @@ constexpr const char* kNotYet = "No scores yet: press the long button below. Eac
 constexpr const char* kNoSelections = "No selections are saved in the program's folder, so there are no scores.";
 constexpr const char* kNoneReadable = "None of the saved selections could be scored.";
 
+std::string scoredSentence(std::size_t selections)
+{
+    return std::to_string(selections) + (selections == 1 ? " selection is scored." : " selections are scored.");
+}
+
 } // namespace
 
 ScoresScreen::ScoresScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Field& field,
@@ -42,8 +47,7 @@ ScoresScreen::ScoresScreen(const DataFolder& folder, const ui::Platform& platfor
     filList.visible = false;
     msgScoreDisplay.spokenName = "Scores";
     msgScoreDisplay.emptyNote = kNotYet;
-    msgScoreDisplay.explanation =
-        "Drag a heading to another place to sort by it; click a file name to mark those picks on the board.";
+    msgScoreDisplay.explanation = "Drag a heading to sort by it; click a file name to mark those picks on the board.";
     cmdOk.explanation = "Scores every selection in the program's folder against the results on the board.";
     cmdBestFirst.explanation = "Moves Score to the front and sorts by it, the highest first.";
     cmdPrint.explanation = "Prints the list in its present order.";
@@ -67,7 +71,7 @@ void ScoresScreen::load()
 void ScoresScreen::showState()
 {
     m_table.show(msgScoreDisplay);
-    cmdBestFirst.enabled = !msgScoreDisplay.rows.empty();
+    cmdBestFirst.enabled = cmdPreview.enabled = cmdSavePdf.enabled = cmdCopy.enabled = !msgScoreDisplay.rows.empty();
     status = m_marked ? markedPlayer(*m_marked) : std::string{};
 }
 
@@ -104,6 +108,7 @@ void ScoresScreen::calculate()
     }
     if (std::optional<std::vector<ListedScore>> rows = scoreEverybody(*payoffs)) {
         msgScoreDisplay.emptyNote = m_files.empty() ? kNoSelections : kNoneReadable;
+        say(scoredSentence(rows->size()));
         showTable(std::move(*rows));
     } else {
         m_platform.dialogs.show(kCancelled);

@@ -78,7 +78,7 @@ std::optional<TeamRow> firstDoubt(const Field& field)
 {
     std::vector<TeamRow> rows = unnamedTeams(field);
     for (const RepeatedTeam& team : repeatedTeams(field))
-        rows.push_back(team.rows.at(1));
+        rows.push_back(team.rows.front());
     if (rows.empty())
         return std::nullopt;
     return std::ranges::min(rows);

@@ -82,14 +82,10 @@ bool TeamPicker::boxKey(TeamRow box, const ui::KeyPress& press)
 /// that does nothing says why.
 void TeamPicker::search(ui::TextBox& box, const ui::KeyPress& press)
 {
-    const std::optional<std::string> sought = soughtText(box, press);
+    const bool isSearched = soughtText(box, press).has_value();
+    box.screen.say(!isSearched && press.key == ui::Key::Character ? kPlainLettersOnly
+                                                                  : nothingFound(box, m_list, press));
     typeAhead(box, m_list, press);
-    if (!sought && press.key == ui::Key::Character)
-        box.screen.say(kPlainLettersOnly);
-    else if (sought && !sought->empty() && !findRow(m_list.rows, *sought))
-        box.screen.say("No name of the list begins with \"" + *sought + "\".");
-    else
-        box.screen.say({});
 }
 
 void TeamPicker::goToList(TeamRow box, ui::Key key)
@@ -106,6 +102,9 @@ void TeamPicker::accept(TeamRow box)
     if (m_isOverridden)
         m_names.addTyped(m_boxes[box].text);
     m_list.selected.reset();
+    // The completed part of a name is no longer to be replaced, nor to look as if it had the focus.
+    m_boxes[box].selectionStart = static_cast<int>(m_boxes[box].text.size());
+    m_boxes[box].selectionLength = 0;
     focusOn(m_boxes[rowAfter(box).value_or(kFirstBox)]);
 }
 

@@ -89,6 +89,15 @@ TEST_F(EmailScreenTest, OpensWithTheFocusInTheEntryBox)
     EXPECT_FALSE(mail.cmdUseList.enabled);
 }
 
+TEST_F(EmailScreenTest, AKeyThatFindsNobodySaysSoUntilOneFinds)
+{
+    EmailScreen& mail = open();
+    type("q");
+    EXPECT_EQ(mail.news().text, "No name of the list begins with \"q\".");
+    type(std::string_view{mail.lstPlayerNames.rows.at(0)}.substr(0, 1));
+    EXPECT_EQ(mail.news().text, "");
+}
+
 TEST_F(EmailScreenTest, ListsPlayersAlphabeticallyWithTheirAddresses)
 {
     EXPECT_EQ(open().lstPlayerNames.rows,

@@ -245,8 +245,8 @@ TEST_F(ReportsPrintouts, PrintEveryPlayerInOneJob)
 
 TEST_F(ReportsPrintouts, SaveEveryPlayerInOneFile)
 {
-    ui::selectOption(screen.optSelected, 0);
     screen.chkAllPlayers.ticked = true;
+    screen.chkAllPlayers.changed(); // a tick chooses the sheets that it is for
     platform.dialogs.pick(folder.path() / "all");
 
     screen.cmdSaveBoardPdf.click();

@@ -306,13 +306,13 @@ TEST_F(ScoreDisplay, SaysNothingOfACopyOfAnotherTable)
     putThreePlayers();
     open();
     screen.cmdOk.click();
-    const auto expectForgottenAfter = [this](const std::function<void()>& change) {
+    const auto expectForgottenAfter = [this](const std::function<void()>& change, const char* news = "") {
         screen.cmdCopy.click();
-        ASSERT_NE(screen.news().text, "");
+        ASSERT_TRUE(screen.news().text.starts_with("Copied")) << screen.news().text;
         change();
-        EXPECT_EQ(screen.news().text, "");
+        EXPECT_EQ(screen.news().text, news);
     };
-    expectForgottenAfter([this] { screen.cmdOk.click(); });
+    expectForgottenAfter([this] { screen.cmdOk.click(); }, "3 selections are scored.");
     expectForgottenAfter([this] { screen.cmdBestFirst.click(); });
     expectForgottenAfter([this] { dragHeading(2, 1); });
     platform.printer.fonts.clear();

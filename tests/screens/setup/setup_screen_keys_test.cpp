@@ -40,6 +40,17 @@ TEST_F(SetupScreenKeys, ACharacterThatLeadsNowhereChangesNothing)
     EXPECT_EQ(screen.lstTeamNames.selected, 5);
 }
 
+TEST_F(SetupScreenKeys, EnterLeavesNothingSelectedInTheBox)
+{
+    SetupScreen& screen = loaded();
+    type('k');
+    ASSERT_GT(screen.txtRegion[0].selectionLength, 0);
+    press(Key::Enter);
+    EXPECT_EQ(screen.txtRegion[0].text, "Kansas");
+    EXPECT_EQ(screen.txtRegion[0].selectionLength, 0);
+    EXPECT_EQ(screen.focused, &screen.txtRegion[1]);
+}
+
 TEST_F(SetupScreenKeys, AKeyThatIsSwallowedSaysWhyUntilOneFinds)
 {
     SetupScreen& screen = loaded();

@@ -289,7 +289,7 @@ TEST_F(SetupScreenSave, CancelAtTheDoubtfulTeamsLeadsToTheFirstOfThemAndWritesNo
     dialogs().answer(Answer::Cancel);
     finalizeAndSave();
     EXPECT_EQ(dialogs().captionsShown(), std::vector<std::string>{"Teams of the Field"});
-    EXPECT_EQ(screen.focused, &screen.txtRegion[20]);
+    EXPECT_EQ(screen.focused, &screen.txtRegion[5]);
     screen.showState();
     EXPECT_TRUE(screen.cmdFinalize.enabled);
     EXPECT_FALSE(files.has("POOLSTART.THS"));
