@@ -16,14 +16,24 @@ bool FileContent::isSameAs(const FileContent& other) const
     return isThere == other.isThere && trouble.has_value() == other.trouble.has_value() && bytes == other.bytes;
 }
 
+namespace {
+
+/// Whether a file that the system does not examine is one that cannot be replaced either: its folder may not be
+/// entered, its name is too long, or it is behind a link that leads to itself. The writing then fails, and says so.
+bool isOutOfReach(std::error_code error)
+{
+    return error == std::errc::permission_denied || error == std::errc::filename_too_long ||
+           error == std::errc::too_many_symbolic_link_levels;
+}
+
+} // namespace
+
 FileContent KnownFiles::contentOf(const std::filesystem::path& file)
 {
     namespace fs = std::filesystem;
     std::error_code error;
     const fs::file_status status = fs::status(file, error);
-    // Of a folder that may not be entered nothing is replaced either: the writing says so, as it does of what is no
-    // file.
-    if (status.type() == fs::file_type::none && error != std::errc::permission_denied)
+    if (status.type() == fs::file_type::none && !isOutOfReach(error))
         return {true, Failure{fromUtf8(error.message())}, {}};
     if (!fs::is_regular_file(status))
         return {};

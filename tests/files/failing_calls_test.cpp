@@ -76,13 +76,18 @@ TEST(FailingCalls, AFileThatCannotBeExaminedIsThereAndCannotBeRead)
     });
 }
 
-TEST(FailingCalls, ALinkThatLeadsToItselfIsThereAndCannotBeRead)
+TEST(FailingCalls, BehindALinkThatLeadsToItselfThereIsNoFile)
 {
     const test::ScratchFolder scratch;
     const fs::path file = scratch.path() / "A.THC";
     fs::create_symlink("A.THC", file);
-    EXPECT_TRUE(KnownFiles::contentOf(file).isThere);
-    EXPECT_TRUE(KnownFiles::contentOf(file).trouble);
+    EXPECT_FALSE(KnownFiles::contentOf(file).isThere);
+}
+
+TEST(FailingCalls, AFileWhoseNameIsLongerThanAnyCanBeIsNotThere)
+{
+    const test::ScratchFolder scratch;
+    EXPECT_FALSE(KnownFiles::contentOf(scratch.path() / std::string(300, 'A')).isThere);
 }
 
 TEST(FailingCalls, AFileInAFolderThatIsNotThereIsNotThere)

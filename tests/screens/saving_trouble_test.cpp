@@ -68,6 +68,22 @@ TEST_F(SavingInTrouble, ADamagedFileIsKeptToo)
     EXPECT_EQ(shownMessages().size(), 1u);
 }
 
+TEST_F(SavingInTrouble, AFileThatCannotBeThereIsNotCalledUnreadable)
+{
+    const ui::Message trouble{"** ERROR IN WRITING FILE **",
+                              "There is a problem writing file: TALLYHOOP.THS of the pool\r\n Retry.", ui::Buttons::Ok,
+                              ui::Icon::Critical};
+    file = scratch.path() / (std::string(300, 'A') + ".THC");
+    EXPECT_FALSE(save("new"));
+    EXPECT_EQ(shownMessages(), std::vector{trouble}) << "the name is too long";
+    platform.dialogs.shown.clear();
+    file = scratch.path() / "A.THC";
+    fs::create_symlink("A.THC", file);
+    EXPECT_FALSE(save("new"));
+    EXPECT_EQ(shownMessages(), std::vector{trouble}) << "a link that leads to itself";
+    EXPECT_FALSE(scratch.has(backup));
+}
+
 TEST_F(SavingInTrouble, WhatCannotBeKeptIsNotReplaced)
 {
     fs::create_symlink("/proc/self/mem",
