@@ -88,7 +88,7 @@ ReadField readSetup(std::string_view bytes, const Field& before)
         return damaged();
     Lines lines = linesOfField(before);
     std::copy_n(fileLines.begin() + 1, std::min(afterMarker, kFieldLines), lines.begin());
-    const bool isWhole = shortenComments(lines) && afterMarker <= kFieldLines + 1;
+    const bool isWhole = shortenComments(lines);
     return {{fieldOfLines(lines), {}}, isWhole};
 }
 

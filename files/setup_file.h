@@ -13,14 +13,15 @@ namespace tallyhoop {
 
 /// A field as it was read; the trouble is what a person is told of.
 struct [[nodiscard]] ReadField : Read<Field> {
-    bool isWhole = true; ///< false = the file holds more than the field: a save would lose that
+    bool isWhole = true; ///< false = it was not read, or a comment was cut: a save would lose the rest of the file
 };
 
 /// Of a longer line only this much is taken for a comment: to show a far longer one takes minutes.
 inline constexpr std::size_t kLongestCommentRead = 32'000;
 
-/// Reads a setup file's bytes. A short file is taken as far as it goes, when it ends with its end marker. One that
-/// holds nothing, or far too much, gives the default field; a damaged one does, too, and the trouble is set.
+/// Reads a setup file's bytes. A short file is taken as far as it goes, when it ends with its end marker; in one that
+/// is a few lines too long, what follows the field is passed over. One that holds nothing, or far too much, gives the
+/// default field; a damaged one does, too, and the trouble is set.
 /// @param before what the fields hold that a short file lacks
 ReadField readSetup(std::string_view bytes, const Field& before = {});
 

@@ -10,7 +10,7 @@ class SetupWithDamagedField : public SetupFixture
 protected:
     const std::string backup = "Backup 2001-03-05 101530"; // the moment of the fake clock
 
-    /// Real teams, so that the status has no doubts to tell.
+    /// Real teams, so that the status says nothing about the teams.
     static Field realField()
     {
         Field real = defaultField();
@@ -69,6 +69,17 @@ TEST_F(SetupWithDamagedField, ASoundFieldIsReplacedWithoutAWord)
     saveOver(setupFile(realField()));
     EXPECT_FALSE(files.has(backup));
     EXPECT_TRUE(dialogs().shown.empty());
+}
+
+TEST_F(SetupWithDamagedField, AFileWithAsManyLinesAsTheFormatAllowsIsReplacedWithoutAWord)
+{
+    std::string bytes = setupFile(realField());
+    for (int line = 0; line < 5; ++line) // the field and its end marker are 95 lines after the start marker
+        bytes += "appended\r\n";
+    saveOver(bytes + "*END*\r\n"); // 101
+    EXPECT_FALSE(files.has(backup));
+    EXPECT_TRUE(dialogs().shown.empty());
+    EXPECT_EQ(made->txtRegion[TeamRow{0}].text, "Real 1");
 }
 
 TEST_F(SetupWithDamagedField, TheStatusSaysSoUntilItIsSaved)
