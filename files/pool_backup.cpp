@@ -80,7 +80,7 @@ public:
     {
         do
             create(folder); // until the name is new, and nobody has taken the new folder for one left by a crash
-        while (!m_error && (!m_lock || m_lock->isHeldElsewhere() || !fs::is_directory(m_path)));
+        while (!m_error && (!m_lock || m_lock->isHeldElsewhere() || isGone()));
     }
     ~Gathering()
     {
@@ -103,6 +103,13 @@ private:
         m_path = folder / fmt::format("{}{:08x}{}", kGatheringBegins, std::random_device{}(), kGatheringEnds);
         if (fs::create_directory(m_path, m_error) && !m_error)
             m_lock.emplace(m_path);
+    }
+
+    /// Not so where nobody can tell: what is copied then fails, or does not.
+    bool isGone() const
+    {
+        std::error_code ignored;
+        return fs::status(m_path, ignored).type() == fs::file_type::not_found;
     }
 
     fs::path m_path;
@@ -157,8 +164,9 @@ Result<fs::path> keep(const DataFolder& folder, const std::vector<fs::path>& sou
     if (gathering.error())
         return failureAt(folder.folder(), gathering.error());
     const std::string name = backupName(now);
+    const fs::path shownFolder = freeName(folder, name);
     for (const fs::path& source : sources)
-        if (Result<Done> copied = copyInto(gathering.path(), source, unreadable, freeName(folder, name)); !copied)
+        if (Result<Done> copied = copyInto(gathering.path(), source, unreadable, shownFolder); !copied)
             return copied.failure();
     Result<fs::path> backup = appear(folder, gathering.path(), name);
     if (backup)

@@ -1,11 +1,13 @@
 // tests/files/failing_calls_test.cpp - calls of the system that fail although the file is there, as on a network.
 #include "files/known_files.h"
+#include "files/pool_backup.h"
 #include "files/replace_file.h"
 
 #include "fakes/scratch_folder.h"
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstddef>
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -73,6 +75,16 @@ TEST(FailingCalls, AFileThatCannotBeExaminedIsThereAndCannotBeRead)
         const FileContent content = KnownFiles::contentOf(file);
         return content.isThere && content.trouble && content.trouble->message == "Stale file handle" &&
                known.wouldLoseUnread(file, content);
+    });
+}
+
+TEST(FailingCalls, ABackupIsMadeWhereItsFolderCannotBeExamined)
+{
+    const test::ScratchFolder scratch;
+    const fs::path file = scratch.put("A.THC", "old");
+    whileStatFails(0, EIO, [&] {
+        const Result<fs::path> backup = backUpFile(file, std::chrono::local_seconds{});
+        return backup && *readFile(*backup / "A.THC") == std::string{"old"};
     });
 }
 
