@@ -1,4 +1,4 @@
-// screens/file_changes.cpp - counts lines, and leaves out what a box has no room for.
+// screens/file_changes.cpp - counts how often each file has a line.
 #include "screens/file_changes.h"
 
 #include "base/lines.h"
@@ -37,17 +37,6 @@ std::vector<std::string> changedLines(std::string_view here, std::string_view th
     appendOnlyIn(found, "Only here: ", here, theirs);
     appendOnlyIn(found, "Only in the file: ", theirs, here);
     return found;
-}
-
-std::vector<std::string> shortList(std::vector<std::string> lines)
-{
-    constexpr std::size_t kMost = 20;
-    if (lines.size() <= kMost)
-        return lines;
-    const std::string more = "... and " + std::to_string(lines.size() - kMost) + " more";
-    lines.resize(kMost);
-    lines.push_back(more);
-    return lines;
 }
 
 } // namespace tallyhoop

@@ -79,7 +79,7 @@ void showChanges(const Saving& saving)
     else if (now.trouble)
         lines = {"The file cannot be read:", now.trouble->message};
     else
-        lines = shortList(saving.changesIn(now.bytes));
+        lines = fewEnoughForAMessage(saving.changesIn(now.bytes));
     if (lines.empty())
         lines = {"Nothing that can be seen is different."};
     lines.insert(lines.begin(), {shown(saving.file), " "});

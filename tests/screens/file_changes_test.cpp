@@ -28,13 +28,5 @@ TEST(FileChanges, LeaveOutTheBlanksThatPadAField)
                 ElementsAre("Only in the file: \"Smith,JS \",\"SMITH_JS.THC \""));
 }
 
-TEST(FileChanges, OfAManyTheFirstTwentyAreListedAndTheOthersCounted)
-{
-    EXPECT_EQ(shortList(std::vector<std::string>(20, "a")), std::vector<std::string>(20, "a"));
-    std::vector<std::string> expected(20, "a");
-    expected.emplace_back("... and 43 more");
-    EXPECT_EQ(shortList(std::vector<std::string>(63, "a")), expected);
-}
-
 } // namespace
 } // namespace tallyhoop::test

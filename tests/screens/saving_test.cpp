@@ -101,6 +101,21 @@ TEST_F(Saving, ShowsTheChangesInTheWordsOfTheScreen)
     EXPECT_EQ(scratch.get("A.THC"), "ours");
 }
 
+TEST_F(Saving, CountsTheChangesThatABoxHasNoRoomFor)
+{
+    scratch.put("A.THC", "old");
+    known.note(file);
+    scratch.put("A.THC", "theirs");
+    dialogs.answer(ui::Answer::More).answer(ui::Answer::No);
+    const auto many = [](std::string_view) { return std::vector<std::string>(63, "a game"); };
+    EXPECT_FALSE(saveFile(platform.services, known, file, "ours", "", "", many));
+    ASSERT_EQ(dialogs.shown.size(), 3u);
+    std::string twenty;
+    for (int line = 0; line < 20; ++line)
+        twenty += "a game\r\n";
+    EXPECT_EQ(dialogs.shown[1].text, file.string() + "\r\n \r\n" + twenty + "and 43 more");
+}
+
 TEST_F(Saving, ShowsWhatTheFileHoldsAtThatMoment)
 {
     scratch.put("A.THC", "old");
