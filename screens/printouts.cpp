@@ -96,17 +96,19 @@ std::string savedSentence(const std::vector<fs::path>& files, std::size_t saved)
 
 std::string printedSentence(std::span<const std::string> titles) { return "Printed " + joined(titles, ", ") + "."; }
 
-std::string printOut(const ui::Platform& platform, const ui::Printout& printout)
+PrintOutcome printOut(const ui::Platform& platform, const ui::Printout& printout)
 {
     if (!platform.printer.isThere()) {
         showPrintingTrouble(platform.dialogs);
-        return kNoPrinter;
+        return {kNoPrinter};
     }
     const std::string& title = ui::titleOf(printout);
     const fs::path file = platform.printer.outputFile();
     if (!deliverBusily(platform, title, [&] { return platform.printer.print(printout); }))
         return {};
-    return file.empty() ? printedSentence(std::span{&title, 1}) : savedSentence({file}, 1);
+    if (!file.empty())
+        return {savedSentence({file}, 1)};
+    return {printedSentence(std::span{&title, 1}), true};
 }
 
 std::string saveAsPdf(const ui::Platform& platform, const fs::path& folder, const std::vector<ui::Printout>& printouts)
@@ -130,7 +132,7 @@ std::string showPreview(const ui::Platform& platform, const fs::path& folder, st
     std::string said;
     const auto print = [&](const ui::Printout& printout) {
         if (platform.printer.choosePrinter())
-            said = printOut(platform, printout);
+            said = printOut(platform, printout).sentence;
     };
     const auto save = [&](const ui::Printout& printout) { said = saveAsPdf(platform, folder, {printout}); };
     platform.printer.preview({std::move(printouts), print, save});

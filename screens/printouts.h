@@ -13,9 +13,14 @@ namespace tallyhoop {
 /// What there is instead of a printer, where none is installed.
 inline constexpr const char* kNoPrinter = "No printer is installed: Preview and Save as PDF work without one.";
 
+/// What has become of a printout.
+struct PrintOutcome {
+    std::string sentence;   ///< for the status line; empty when a message has said it
+    bool isOnPaper = false; ///< it went to a printer, not to a file, and nothing failed
+};
+
 /// Prints under a busy pointer, and says so when that fails.
-/// @returns what has happened, a sentence for the status line; empty when the message has said it
-std::string printOut(const ui::Platform& platform, const ui::Printout& printout);
+PrintOutcome printOut(const ui::Platform& platform, const ui::Printout& printout);
 
 /// @returns "Printed Tournament Standings, Player Listing."
 std::string printedSentence(std::span<const std::string> titles);
@@ -24,14 +29,14 @@ std::string printedSentence(std::span<const std::string> titles);
 /// printout, and the folder of several, which are called as their titles are. A name without the extension ".PDF" in
 /// any case gets it; existing files are replaced after one question.
 /// @param folder where the dialog begins
-/// @returns as printOut(), with those that were saved before one that could not be; empty when the person does not want
-///          it after all
+/// @returns what has happened, a sentence for the status line, with those that were saved before one that could not be;
+///          empty when nothing was, or the person does not want it after all
 std::string saveAsPdf(const ui::Platform& platform, const std::filesystem::path& folder,
                       const std::vector<ui::Printout>& printouts);
 
 /// Shows printouts in one window, from which each can be printed, on a printer that the person chooses, or saved.
 /// @param printouts nothing is shown when there are none
-/// @returns as printOut(), of what was done last
+/// @returns the sentence of what was done last
 std::string showPreview(const ui::Platform& platform, const std::filesystem::path& folder,
                         std::vector<ui::Printout> printouts);
 

@@ -312,7 +312,7 @@ void BoardScreen::printForm()
 {
     say({});
     if (m_platform.printer.choosePrinter())
-        say(printOut(m_platform, printout()));
+        say(printOut(m_platform, printout()).sentence);
 }
 
 void BoardScreen::previewForm() { say(showPreview(m_platform, m_folder.folder(), {printout()})); }

@@ -294,9 +294,9 @@ bool ReportsScreen::print(const ReportKind& kind, const ReportLines& lines)
     if (!printout)
         return false;
     m_printerMissing = m_useDefaultPrinter && !m_platform.printer.isThere();
-    const std::string outcome = printOut(m_platform, *printout);
-    say(outcome);
-    return outcome == printedSentence(std::span{&printout->title, 1});
+    const PrintOutcome outcome = printOut(m_platform, *printout);
+    say(outcome.sentence);
+    return outcome.isOnPaper;
 }
 
 std::optional<ui::TextPrintout> ReportsScreen::printoutOf(const ReportKind& kind, const ReportLines& lines,

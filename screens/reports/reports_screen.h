@@ -83,9 +83,7 @@ private:
     /// Shows why there is no report and, where it says so, unticks the report's box.
     void refuse(const ReportKind& kind, const NoReport& reason);
 
-    /// @returns whether it was written or printed: a print can be cancelled, go to a file, or fail with a message of
-    /// its
-    ///          own
+    /// @returns whether it was written or printed: a print can be cancelled, go to a file, or fail with its own message
     Result<bool> output(const ReportKind& kind, const ReportLines& lines, Destination destination);
     bool print(const ReportKind& kind, const ReportLines& lines);
 

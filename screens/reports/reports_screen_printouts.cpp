@@ -75,7 +75,7 @@ void ReportsScreen::printAllPlayers()
 {
     const auto sheets = scoredSheets();
     if (sheets && m_platform.printer.choosePrinter())
-        say(printOut(m_platform, *sheets));
+        say(printOut(m_platform, *sheets).sentence);
 }
 
 void ReportsScreen::previewBoard()

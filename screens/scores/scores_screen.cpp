@@ -211,7 +211,7 @@ void ScoresScreen::print()
 {
     say({});
     if (const auto pages = printout())
-        say(printOut(m_platform, *pages));
+        say(printOut(m_platform, *pages).sentence);
 }
 
 void ScoresScreen::preview()
