@@ -36,11 +36,11 @@ fs::path withoutLinks(fs::path file, std::error_code& error)
 }
 
 /// @returns a hidden name that no pattern of ours matches
-fs::path hiddenBeside(const fs::path& target, const std::string& ending)
+fs::path hiddenBeside(const fs::path& target, const std::string& extension)
 {
     constexpr std::size_t kMostUnits = 255; // longest name that file systems take
     const fs::path::string_type before = fs::path{"."}.native();
-    const fs::path::string_type after = fs::path{ending}.native();
+    const fs::path::string_type after = fs::path{extension}.native();
     const fs::path::string_type name = target.filename().native().substr(0, kMostUnits - before.size() - after.size());
     return target.parent_path() / fs::path{before + name + after};
 }

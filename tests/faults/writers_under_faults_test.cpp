@@ -143,7 +143,8 @@ protected:
     /// A folder that takes no file at all is noticed before anything is copied; missing room by the first copy.
     fs::path whereItStops(const Fault& fault) const
     {
-        return fault.takesEmptyFiles ? scratch.path() / "Backup 2001-03-05 101530" / file_name::kResults : scratch.path();
+        return fault.takesEmptyFiles ? scratch.path() / "Backup 2001-03-05 101530" / file_name::kResults
+                                     : scratch.path();
     }
 };
 

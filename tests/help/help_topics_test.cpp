@@ -35,8 +35,9 @@ protected:
     BoardScreen& board()
     {
         if (!m_board) {
-            m_board = std::make_unique<BoardScreen>(folder, platform.services, screens,
-                                                    BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid});
+            m_board =
+                std::make_unique<BoardScreen>(folder, platform.services, screens,
+                                              BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid});
             m_board->load();
             m_board->showState();
         }
