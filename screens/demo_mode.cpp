@@ -102,14 +102,19 @@ std::string putOwnPoolBack(const DataFolder& folder, const std::optional<std::fi
 {
     if (!backup)
         return {};
-    // What the installer has left is no pool; what cannot be deleted of it is replaced, as far as it has own names.
-    for (const std::string& name : demoDataFiles(folder))
-        static_cast<void>(folder.remove(name));
     const Result<Done> done = putBack(folder, *backup);
     std::string words = done ? "The files of your own pool have been put back. Copies of them are in the folder:"
                              : "Your own pool could not be put back:\r\n" + done.failure().message +
                                    "\r\n \r\nIts files are in the folder:";
     return "\r\n \r\n" + words + "\r\n" + shown(*backup);
+}
+
+/// Deletes what an installer that was stopped has left. It is no pool, but its field would be taken for the final one
+/// of a person's own, which neither the setup nor demo mode touches. All these names were free before it was started.
+void removeHalfASamplePool(const DataFolder& folder)
+{
+    for (const std::string& name : demoDataFiles(folder)) // one that cannot be deleted keeps none of the others
+        static_cast<void>(folder.remove(name));
 }
 
 /// @returns why the sample pool could not be installed now, if so: to be asked before anything is deleted
@@ -154,6 +159,7 @@ std::optional<ui::Message> install(const DataFolder& folder, const std::filesyst
     platform.dialogs.show(kContinueInDemo);
     if (const std::optional<Failure> noPool = waitForSamplePool(folder, platform)) {
         platform.programs.stop(); // it must not write among the files that are put back
+        removeHalfASamplePool(folder);
         return trouble("The sample pool could not be installed.", failureAt(shown(installer), *noPool));
     }
     return std::nullopt;

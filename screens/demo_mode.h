@@ -23,8 +23,8 @@ Result<Done> clearDemoDataFiles(const DataFolder& folder);
 
 /// Keeps the person's own files, clears the data files, starts the installer, waits for the person's OK and for the
 /// sample pool, and says where the own files are. When the installer cannot be started, the folder cannot be written or
-/// a file cannot be kept, says so and deletes nothing. When the sample pool does not come, puts the own files back, and
-/// says both.
+/// a file cannot be kept, says so and deletes nothing. When the sample pool does not come, deletes what came of it,
+/// puts the own files back, and says so.
 /// @returns whether files were deleted or written, so that the screen is to be loaded again
 bool startDemo(const DataFolder& folder, const ui::Platform& platform);
 

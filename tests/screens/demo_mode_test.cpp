@@ -194,6 +194,24 @@ TEST(StartDemo, GivesTheInstallerUpWhenThePersonDoes)
     EXPECT_EQ(pool.platform.progress.ended, pool.platform.progress.begun);
 }
 
+TEST(StartDemo, LeavesNothingOfHalfASamplePoolOnAFirstStart)
+{
+    const ScratchFolder scratch;
+    FakePlatform platform;
+    platform.programs.whenStopped = [&scratch] { // a moment ago it wrote these, and the settings are still to come
+        for (const demo::SampleFile& file : demo::sampleFiles())
+            if (std::string_view{file.name} != "TALLYHOOP.INI")
+                scratch.put(file.name, file.bytes);
+    };
+    platform.progress.cancelAt = 1;
+    EXPECT_TRUE(startDemo(scratch.folder(), platform.services)) << "files were written";
+    EXPECT_EQ(platform.programs.stops, 1);
+    EXPECT_EQ(entriesOf(scratch.path()), std::vector<std::string>{});
+    EXPECT_EQ(platform.dialogs.shown.back().text, "The sample pool could not be installed.\r\n \r\n" +
+                                                      (scratch.path() / "DEMOSET.EXE").string() +
+                                                      "\r\nIt has not finished.");
+}
+
 TEST(StartDemo, DeletesNothingWhenTheInstallerCannotBeStarted)
 {
     OwnPool pool;
