@@ -52,6 +52,14 @@ ui::Message ownChangesAreIn(const std::filesystem::path& backup)
             ui::Buttons::Ok, ui::Icon::Information};
 }
 
+ui::Message copiesOfOwnChangesAreIn(const std::filesystem::path& backup)
+{
+    return {kCaption,
+            joinLines({"Files that you changed in demo mode have been deleted.",
+                       "Copies of them are in the folder:", " ", shown(backup)}),
+            ui::Buttons::Ok, ui::Icon::Information};
+}
+
 /// Says which file or folder is in the way before the system's reason.
 Failure failureAt(const std::string& path, const Failure& failure) { return Failure{path + "\r\n" + failure.message}; }
 
@@ -165,6 +173,17 @@ std::optional<ui::Message> install(const DataFolder& folder, const std::filesyst
     return std::nullopt;
 }
 
+/// @returns whether each file that a backup has is in its place as well: then nothing is lost without the backup
+bool isSpare(const DataFolder& folder, const std::filesystem::path& backup)
+{
+    std::error_code error;
+    std::filesystem::directory_iterator entry{backup, error};
+    for (; !error && entry != std::filesystem::directory_iterator{}; entry.increment(error))
+        if (std::error_code none; !std::filesystem::is_regular_file(folder.folder() / entry->path().filename(), none))
+            return false;
+    return !error;
+}
+
 } // namespace
 
 Result<std::optional<std::filesystem::path>> keepOwnFiles(const DataFolder& folder, const ui::Clock& clock)
@@ -229,26 +248,32 @@ bool enterDemo(const DataFolder& folder, const ui::Platform& platform)
 
 std::optional<std::string> leaveDemo(const DataFolder& folder, const ui::Platform& platform)
 {
-    const Result<std::optional<std::filesystem::path>> backup = keepOwnFiles(folder, platform.clock);
-    if (!backup) {
-        platform.dialogs.show(trouble("Demonstration mode cannot be left. Nothing was changed.", backup.failure()));
+    const Result<std::optional<std::filesystem::path>> kept = keepOwnFiles(folder, platform.clock);
+    if (!kept) {
+        platform.dialogs.show(trouble("Demonstration mode cannot be left. Nothing was changed.", kept.failure()));
         return std::nullopt;
     }
     const Result<Done> cleared = clearDemoDataFiles(folder);
     const bool stays = demoModeIsOn(folder);
+    std::optional<std::filesystem::path> backup = *kept;
+    if (!cleared && backup && isSpare(folder, *backup)) { // each further try would make another one
+        std::error_code ignored;
+        std::filesystem::remove_all(*backup, ignored);
+        backup.reset();
+    }
     if (!cleared)
         platform.dialogs.show(trouble(stays ? "Demonstration mode cannot be left: a file could not be deleted."
                                             : "A file of the demonstration could not be deleted.",
                                       cleared.failure()));
     if (!stays)
         platform.dialogs.show(kContinueNormally);
-    if (*backup)
-        platform.dialogs.show(ownChangesAreIn(**backup));
+    if (backup)
+        platform.dialogs.show(cleared ? ownChangesAreIn(*backup) : copiesOfOwnChangesAreIn(*backup));
     if (stays)
         return std::nullopt;
-    if (!*backup)
+    if (!backup)
         return std::string{};
-    return "Files that you changed in demo mode are kept in the folder " + shown((*backup)->filename()) + ".";
+    return "Files that you changed in demo mode are kept in the folder " + shown(backup->filename()) + ".";
 }
 
 } // namespace tallyhoop

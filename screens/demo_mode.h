@@ -32,7 +32,8 @@ bool startDemo(const DataFolder& folder, const ui::Platform& platform);
 bool enterDemo(const DataFolder& folder, const ui::Platform& platform);
 
 /// Deletes the sample pool and says that normal operation follows, and where what the person has changed meanwhile is
-/// kept. When that cannot be kept, says so and deletes nothing; when a file cannot be deleted, demo mode stays on.
+/// kept. When that cannot be kept, says so and deletes nothing. When a file cannot be deleted, demo mode stays on, and
+/// what the person has changed is kept only if some of it was deleted before.
 /// @returns a sentence for the status line of the screen that is to be loaded again, empty for none; nothing when demo
 ///          mode was not left
 std::optional<std::string> leaveDemo(const DataFolder& folder, const ui::Platform& platform);

@@ -123,6 +123,53 @@ TEST(LeaveDemo, KeepsWhatThePersonChangedMeanwhile)
               (std::vector<ui::Message>{kContinueNormally, ownChangesAreIn(demo.scratch.path() / kBackup)}));
 }
 
+/// The player list comes after the results and before the selections when the demo is deleted.
+void blockPlayerList(const InstalledDemo& demo)
+{
+    fs::remove(demo.scratch.path() / "PLAYERNAMES.CSV");
+    fs::create_directory(demo.scratch.path() / "PLAYERNAMES.CSV");
+}
+
+TEST(LeaveDemo, KeepsOneCopyOfAChangedFileThatWasDeletedBeforeAnotherCouldNotBe)
+{
+    InstalledDemo demo;
+    demo.scratch.put("TALLYHOOP.THS", "my results");
+    demo.scratch.put("Demo Prophet_DP.THC", "my picks");
+    blockPlayerList(demo);
+    EXPECT_EQ(leaveDemo(demo.scratch.folder(), demo.platform.services), std::nullopt);
+    const fs::path backup = demo.scratch.path() / kBackup;
+    ASSERT_EQ(demo.platform.dialogs.shown.size(), 2u);
+    EXPECT_EQ(demo.platform.dialogs.shown[1], (ui::Message{kCaption,
+                                                           "Files that you changed in demo mode have been deleted.\r\n"
+                                                           "Copies of them are in the folder:\r\n \r\n" +
+                                                               backup.string(),
+                                                           ui::Buttons::Ok, ui::Icon::Information}));
+    EXPECT_FALSE(demo.scratch.has("TALLYHOOP.THS"));
+    EXPECT_EQ(demo.scratch.get(std::string{kBackup} + "/TALLYHOOP.THS"), "my results");
+    EXPECT_EQ(demo.scratch.get("Demo Prophet_DP.THC"), "my picks");
+
+    EXPECT_EQ(leaveDemo(demo.scratch.folder(), demo.platform.services), std::nullopt);
+    EXPECT_EQ(demo.platform.dialogs.shown.size(), 3u) << "only what is still in the way";
+    EXPECT_FALSE(demo.scratch.has(std::string{kBackup} + " (2)"));
+
+    fs::remove(demo.scratch.path() / "PLAYERNAMES.CSV");
+    EXPECT_TRUE(leaveDemo(demo.scratch.folder(), demo.platform.services));
+    EXPECT_EQ(demo.platform.dialogs.shown.back(), ownChangesAreIn(backup.string() + " (2)"));
+    EXPECT_EQ(demo.scratch.get(std::string{kBackup} + " (2)/Demo Prophet_DP.THC"), "my picks");
+}
+
+TEST(LeaveDemo, MakesNoCopiesWhereEveryChangedFileHasStayed)
+{
+    InstalledDemo demo;
+    demo.scratch.put("Demo Prophet_DP.THC", "my picks");
+    blockPlayerList(demo);
+    EXPECT_EQ(leaveDemo(demo.scratch.folder(), demo.platform.services), std::nullopt);
+    ASSERT_EQ(demo.platform.dialogs.shown.size(), 1u);
+    EXPECT_TRUE(demo.platform.dialogs.shown[0].text.starts_with("Demonstration mode cannot be left: "));
+    EXPECT_FALSE(demo.scratch.has(kBackup));
+    EXPECT_EQ(demo.scratch.get("Demo Prophet_DP.THC"), "my picks");
+}
+
 TEST(LeaveDemo, RemovesNothingAndStaysOnWhenAChangedFileCannotBeKept)
 {
     InstalledDemo demo;
