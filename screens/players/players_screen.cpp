@@ -162,6 +162,7 @@ void PlayersScreen::enterSaved(const SavedPlayer& saved)
     const std::optional<int> row = rowOfFile(lstNames.rows, txtFileName.text, saved.name);
     if (!row) {
         m_mode = SaveKind::NewFile;
+        m_boxesHoldSaved = true;
         say("Add Record puts " + txtName.text + " into the list.");
         return;
     }
@@ -215,7 +216,7 @@ void PlayersScreen::addRecord()
     }
     const std::string added = shownName(txtName.text);
     std::vector<std::string> rows = lstNames.rows;
-    insertSorted(rows, rowFromBoxes());
+    insertBoxes(rows);
     m_changed = true;
     // Should the list not be written now, Done (or another row selected) still finds the record in the boxes.
     m_boxesHoldRecord = true;
@@ -255,10 +256,14 @@ void PlayersScreen::completeChanges()
     const bool keep = selectionFileOf(m_folder, txtFileName.text).has_value();
     if (!keep && m_dialogs.show(kNoSelections) == ui::Answer::Cancel)
         return;
-    if (keep)
+    if (keep) {
+        const bool isSaved = m_savedRow == *row;
         *row = rowFromBoxes();
-    else
+        if (isSaved)
+            m_savedRow = *row;
+    } else {
         rows.erase(row);
+    }
     m_changed = true;
     if (m_mode == SaveKind::SameName) {
         finish(std::move(rows), kSavedNews); // The boxes stay filled until the list is written: another try needs them.
@@ -307,7 +312,7 @@ void PlayersScreen::done()
     }
     std::vector<std::string> rows = lstNames.rows;
     if (m_boxesHoldRecord)
-        insertSorted(rows, rowFromBoxes());
+        insertBoxes(rows);
     finish(std::move(rows), kSavedNews);
 }
 
@@ -324,7 +329,7 @@ void PlayersScreen::finish(std::vector<std::string> rows, const std::string& new
         say("Not saved.");
         return;
     }
-    m_isAdded = m_saved && rowOfFile(rows, recordedFileName(m_folder, m_saved->file), txtName.text);
+    m_isAdded = hasSaved(rows);
     lstNames.rows = std::move(rows);
     lstNames.selected.reset();
     m_boxesHoldRecord = false;
@@ -334,6 +339,13 @@ void PlayersScreen::finish(std::vector<std::string> rows, const std::string& new
     }
     m_pendingDeletions.clear();
     close(news);
+}
+
+/// @returns whether a row is the saved player's: the one that was added here, or another that was given the name
+bool PlayersScreen::hasSaved(const std::vector<std::string>& rows) const
+{
+    return (m_savedRow && std::ranges::find(rows, *m_savedRow) != rows.end()) ||
+           (m_saved && rowOfFile(rows, recordedFileName(m_folder, m_saved->file), m_saved->name));
 }
 
 /// Leaves; the board says so when the selection that was saved has no record.
@@ -374,12 +386,22 @@ std::string PlayersScreen::rowFromBoxes()
                       cut(txtPhone, kPhoneWidth)});
 }
 
+/// @returns where the record in the boxes is in the rows now
+std::size_t PlayersScreen::insertBoxes(std::vector<std::string>& rows)
+{
+    const std::string row = rowFromBoxes();
+    if (m_boxesHoldSaved)
+        m_savedRow = row;
+    return insertSorted(rows, row);
+}
+
 void PlayersScreen::fillBoxes(const PlayerRecord& record)
 {
     txtName.text = trimTrailingBlanks(record.name);
     txtFileName.text = trimTrailingBlanks(record.fileName);
     txtEmail.text = trimTrailingBlanks(record.email);
     txtPhone.text = trimTrailingBlanks(record.phone);
+    m_boxesHoldSaved = false;
 }
 
 /// The record in the boxes goes back into the list before they show another, so that no player vanishes.
@@ -388,7 +410,7 @@ void PlayersScreen::putBoxesBack()
     if (!m_boxesHoldRecord)
         return;
     m_boxesHoldRecord = false;
-    const auto at = static_cast<int>(insertSorted(lstNames.rows, rowFromBoxes()));
+    const auto at = static_cast<int>(insertBoxes(lstNames.rows));
     if (lstNames.selected && at <= *lstNames.selected)
         ++*lstNames.selected;
 }

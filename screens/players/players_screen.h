@@ -9,6 +9,7 @@
 #include "ui/platform.h"
 #include "ui/screen.h"
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -68,9 +69,11 @@ private:
     bool anotherPlayerHasName(std::string_view recorded) const;
     void done();
     void finish(std::vector<std::string> rows, const std::string& news);
+    bool hasSaved(const std::vector<std::string>& rows) const;
     void close(const std::string& news = {});
 
     std::string rowFromBoxes();
+    std::size_t insertBoxes(std::vector<std::string>& rows);
     void fillBoxes(const PlayerRecord& record);
     void emptyBoxes() { fillBoxes({}); }
     void putBoxesBack();
@@ -85,6 +88,8 @@ private:
 
     std::optional<SaveKind> m_mode;                        ///< nothing = opened without a player to enter
     bool m_listFaulty = false;                             ///< PLAYERNAMES.CSV has to be repaired
+    bool m_boxesHoldSaved = false;                         ///< the boxes show the saved player, to be added
+    std::optional<std::string> m_savedRow;                 ///< what has become of that in the list
     bool m_isAdded = false;                                ///< the list on disk has the saved player's record
     bool m_changed = false;                                ///< set by every add, change and delete
     bool m_boxesHoldRecord = false;                        ///< the boxes hold a record that no row holds

@@ -50,6 +50,36 @@ TEST_F(PlayersScreenAdding, TheBoardSaysWhoIsInTheListNow)
     EXPECT_EQ(screens.news, std::vector<std::string>{"Baker,C is in the list now."});
 }
 
+TEST_F(PlayersScreenAdding, TheBoardSaysWhoIsInTheListNowForAFileInAFolderFarAwayToo)
+{
+    // Its record holds 33 characters of the path, which is no name of a selection file.
+    openAfterSave(SaveKind::NewFile, "../a folder with a very long name/Baker_C.THC", "Baker,C").cmdAdd.click();
+    EXPECT_TRUE(closed());
+    EXPECT_EQ(screens.news, std::vector<std::string>{"Baker,C is in the list now."});
+}
+
+TEST_F(PlayersScreenAdding, NothingIsMissingAfterARecordThatWasAddedUnderAnotherName)
+{
+    openAfterSave(SaveKind::NewFile, "Baker_C.THC", "Baker,C");
+    blockWriting();
+    screen->txtName.text = "Baker,Charles";
+    screen->cmdAdd.click();
+    std::filesystem::remove_all(scratch.path() / "PLAYERNAMES.CSV");
+    select(0); // the record goes back into the list
+    screen->cmdExit.click();
+    EXPECT_EQ(written(), playerFile({adams, csv("Baker,Charles", "BAKER_C.THC"), smith}));
+    EXPECT_EQ(screens.news, std::vector<std::string>{"The player list is saved."});
+}
+
+TEST_F(PlayersScreenAdding, TheBoardSaysThatARecordIsMissingWhichCouldNotBeWritten)
+{
+    openAfterSave(SaveKind::NewFile, "Baker_C.THC", "Baker,C");
+    blockWriting();
+    screen->cmdAdd.click();
+    screen->cmdCancel.click();
+    EXPECT_EQ(screens.news, std::vector<std::string>{"Baker_C.THC is saved, and has no record in the player list."});
+}
+
 TEST_F(PlayersScreenAdding, AChangeAndADeletionAreAnnouncedAndSavedWithDone)
 {
     open();

@@ -111,6 +111,17 @@ TEST_F(PlayersWithOneCutName, DeletingTheRecordKeepsTheFileThatWasJustSaved)
     EXPECT_EQ(written(), playerFile({}));
 }
 
+TEST_F(PlayersWithOneCutName, ARecordThatWasGivenThePlayersNameIsTheMissingOne)
+{
+    openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
+    select(0);
+    screen->txtName.text = "Wilhelmina,W";
+    screen->cmdChange.click();
+    screen->cmdExit.click();
+    EXPECT_EQ(written(), playerFile({csv("Wilhelmina,W", cutName, "w@example.org")}));
+    EXPECT_EQ(screens.news, std::vector<std::string>{"The player list is saved."});
+}
+
 TEST_F(PlayersWithCutNames, TheRecordsOfOthersAreNotTheRecordOfTheSavedFile)
 {
     scratch.put(filesName, "the picks of a third");
@@ -121,6 +132,37 @@ TEST_F(PlayersWithCutNames, TheRecordsOfOthersAreNotTheRecordOfTheSavedFile)
     names.cmdExit.click();
     EXPECT_EQ(written(), playerFile({csv("Wilhelm,W", cutName, "w@example.org", "555-9999"), wilhelmina}));
     EXPECT_EQ(screens.news, std::vector{filesName + " is saved, and has no record in the player list."});
+}
+
+TEST_F(PlayersWithCutNames, ARecordThatWentIntoTheListWithTheNextRowIsNotMissing)
+{
+    scratch.put("PLAYERNAMES.CSV", twoPlayers);
+    scratch.put(filesName, "the picks of Wilhelmina");
+    openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
+    blockWriting();
+    screen->cmdAdd.click();
+    std::filesystem::remove_all(scratch.path() / "PLAYERNAMES.CSV");
+    select(0);
+    screen->cmdExit.click();
+    EXPECT_EQ(written(), playerFile({adams, smith, csv("Wilhelmina,W", cutName)}));
+    EXPECT_EQ(screens.news, std::vector<std::string>{"The player list is saved."});
+}
+
+TEST_F(PlayersWithCutNames, ARecordThatIsChangedAfterwardsIsNotMissingEither)
+{
+    scratch.put("PLAYERNAMES.CSV", twoPlayers);
+    scratch.put(filesName, "the picks of Wilhelmina");
+    openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
+    blockWriting();
+    screen->cmdAdd.click();
+    std::filesystem::remove_all(scratch.path() / "PLAYERNAMES.CSV");
+    select(0);
+    select(2);
+    screen->txtName.text = "Wilhelmina,X";
+    screen->cmdChange.click();
+    screen->cmdExit.click();
+    EXPECT_EQ(written(), playerFile({adams, smith, csv("Wilhelmina,X", cutName)}));
+    EXPECT_EQ(screens.news, std::vector<std::string>{"The player list is saved."});
 }
 
 TEST_F(PlayersWithCutNames, AddingAPlayerTwiceNamesTheRecordThatIsThere)
