@@ -235,14 +235,27 @@ bool PlayersScreen::mayBeAdded()
     }
     if (isBlank(&txtFileName))
         return true;
-    const std::optional<int> listed = rowOfFile(lstNames.rows, txtFileName.text, txtName.text);
+    const std::optional<PlayerRecord> listed = recordOfFileInBoxes();
     if (!listed)
         return true;
-    const PlayerRecord record = parsePlayerRow(lstNames.rows[static_cast<std::size_t>(*listed)]);
     return m_dialogs.show({kTitle,
-                           "The list has a record for this file already:\r\n\r\n" + trimTrailingBlanks(record.name) +
-                               "   " + trimTrailingBlanks(record.fileName) + "\r\n\r\nDo you want to add another one?",
+                           "The list has a record for this file already:\r\n\r\n" + trimTrailingBlanks(listed->name) +
+                               "   " + trimTrailingBlanks(listed->fileName) + "\r\n\r\nDo you want to add another one?",
                            ui::Buttons::OkCancel, ui::Icon::Question, help_topic::kPlayers}) != ui::Answer::Cancel;
+}
+
+/// @returns the record that means the file in the boxes: the player's if there is one, else another's. Its player may
+///          have been renamed; only the person knows.
+std::optional<PlayerRecord> PlayersScreen::recordOfFileInBoxes() const
+{
+    // The box may show the saved file's name cut by then, after a first try that failed.
+    const std::string fileName = m_boxesHoldSaved ? recordedFileName(m_folder, m_saved->file) : txtFileName.text;
+    if (const std::optional<int> players = rowOfFile(lstNames.rows, fileName, txtName.text))
+        return parsePlayerRow(lstNames.rows[static_cast<std::size_t>(*players)]);
+    for (const std::string& row : lstNames.rows)
+        if (PlayerRecord record = parsePlayerRow(row); recordMeans(m_folder, record.fileName, fileName))
+            return record;
+    return std::nullopt;
 }
 
 void PlayersScreen::completeChanges()

@@ -64,6 +64,7 @@ private:
     void showSelectedRow();
     void addRecord();
     bool mayBeAdded();
+    std::optional<PlayerRecord> recordOfFileInBoxes() const;
     void completeChanges();
     void deleteSelection();
     bool anotherPlayerHasName(std::string_view recorded) const;

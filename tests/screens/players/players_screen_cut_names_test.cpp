@@ -13,6 +13,14 @@ protected:
     const std::string wilhelm = csv("Wilhelm,W", cutName, "w@example.org");
     const std::string wilhelmina = csv("Wilhelmina,W", cutName, "wa@example.org");
 
+    ui::Message listedAlready(const std::string& player) const
+    {
+        return {"Pool Names Maintenance",
+                "The list has a record for this file already:\r\n\r\n" + player + "   " + cutName +
+                    "\r\n\r\nDo you want to add another one?",
+                ui::Buttons::OkCancel, ui::Icon::Question, "players"};
+    }
+
     PlayersWithCutNames() { scratch.put("PLAYERNAMES.CSV", playerFile({wilhelm, wilhelmina})); }
 };
 
@@ -73,7 +81,9 @@ TEST_F(PlayersWithCutNames, SavingTheFileOfAThirdPlayerTakesNobodysRecord)
     PlayersScreen& names = openAfterSave(SaveKind::Replaced, filesName, "Somebody,E");
     EXPECT_EQ(names.lstNames.rows.size(), 2u);
     EXPECT_EQ(names.txtName.text, "Somebody,E");
+    platform.dialogs.answer(ui::Answer::Ok);
     names.cmdAdd.click();
+    EXPECT_EQ(platform.dialogs.shown, std::vector{listedAlready("Wilhelm,W")});
     EXPECT_EQ(written(), playerFile({csv("Somebody,E", cutName), wilhelm, wilhelmina}));
     EXPECT_EQ(screens.news, std::vector<std::string>{"Somebody,E is in the list now."});
 }
@@ -94,7 +104,41 @@ TEST_F(PlayersWithOneCutName, SavingTheOthersFileDoesNotTakeTheRecord)
     PlayersScreen& names = openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
     EXPECT_EQ(names.lstNames.rows.size(), 1u);
     EXPECT_EQ(names.txtEmail.text, "");
+    platform.dialogs.answer(ui::Answer::Ok);
     names.cmdAdd.click();
+    EXPECT_EQ(platform.dialogs.shown, std::vector{listedAlready("Wilhelm,W")});
+    EXPECT_EQ(written(), playerFile({wilhelm, csv("Wilhelmina,W", cutName)}));
+}
+
+TEST_F(PlayersWithOneCutName, ARecordThatWasRenamedIsNotDoubledUnasked)
+{
+    scratch.put("PLAYERNAMES.CSV", playerFile({csv("Mina,W", cutName, "w@example.org")}));
+    PlayersScreen& names = openAfterSave(SaveKind::SameName, filesName, "Wilhelmina,W");
+    platform.dialogs.answer(ui::Answer::Cancel);
+    names.cmdAdd.click();
+    EXPECT_EQ(platform.dialogs.shown, std::vector{listedAlready("Mina,W")});
+    EXPECT_EQ(written(), playerFile({csv("Mina,W", cutName, "w@example.org")}));
+    EXPECT_TRUE(stillOpen());
+}
+
+TEST_F(PlayersWithOneCutName, NothingIsAskedOnceThereAreTwoSuchFiles)
+{
+    scratch.put("Montgomery-Featherstonehaugh_Wilhelm.THC", "the picks of Wilhelm");
+    openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W").cmdAdd.click();
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+    EXPECT_EQ(written(), playerFile({wilhelm, csv("Wilhelmina,W", cutName)}));
+}
+
+TEST_F(PlayersWithOneCutName, NorWhenItIsTriedAgainAfterAFailure)
+{
+    scratch.put("Montgomery-Featherstonehaugh_Wilhelm.THC", "the picks of Wilhelm");
+    openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
+    blockWriting();
+    screen->cmdAdd.click();
+    EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"** ERROR IN WRITING FILE **"});
+    std::filesystem::remove_all(scratch.path() / "PLAYERNAMES.CSV");
+    screen->cmdAdd.click();
+    EXPECT_EQ(platform.dialogs.shown.size(), 1u);
     EXPECT_EQ(written(), playerFile({wilhelm, csv("Wilhelmina,W", cutName)}));
 }
 
@@ -172,8 +216,7 @@ TEST_F(PlayersWithCutNames, AddingAPlayerTwiceNamesTheRecordThatIsThere)
     PlayersScreen& names = openAfterSave(SaveKind::NewFile, filesName, "Somebody,E");
     names.txtName.text = "Wilhelmina,W";
     names.cmdAdd.click();
-    ASSERT_EQ(platform.dialogs.shown.size(), 1u);
-    EXPECT_NE(platform.dialogs.shown[0].text.find("\r\n\r\nWilhelmina,W   " + cutName + "\r\n\r\n"), std::string::npos);
+    EXPECT_EQ(platform.dialogs.shown, std::vector{listedAlready("Wilhelmina,W")});
     EXPECT_EQ(written(), playerFile({wilhelm, wilhelmina}));
 }
 
