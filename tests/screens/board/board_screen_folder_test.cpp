@@ -1,5 +1,6 @@
 // tests/screens/board/board_screen_folder_test.cpp - turning to other selections of the folder, and the folder itself.
 #include "screens/board/board_fixture.h"
+#include "screens/board/recent_selections.h"
 
 #include <chrono>
 
@@ -233,6 +234,15 @@ TEST_F(BoardScreenFolder, OffersFiveSelectionsAtTheMost)
     open(scratch.path() / "Player3.THC");
     EXPECT_EQ(recent().size(), 5u);
     EXPECT_EQ(recent().front(), "&1 Player3.THC");
+}
+
+TEST(RecentSelections, AreTheLastFive)
+{
+    RecentSelections recent;
+    for (const char* name : {"A.THC", "B.THC", "C.THC", "D.THC", "E.THC", "F.THC"})
+        recent.note(std::filesystem::path{"pool"} / name);
+    EXPECT_EQ(recent.names(), (std::vector<std::string>{"F.THC", "E.THC", "D.THC", "C.THC", "B.THC"}));
+    EXPECT_FALSE(recent.at(5));
 }
 
 TEST_F(BoardScreenFolder, IsShownInTheFileManager)

@@ -67,6 +67,7 @@ struct ReportsScreenTest : testing::Test {
             requested = draft;
             draft = written;
             draft.toEverybody = requested.toEverybody;
+            draft.unsent = requested.unsent;
         };
     }
 

@@ -82,6 +82,18 @@ TEST_F(ReportsMail, LeavesOutAReportThatFailed)
     EXPECT_EQ(attachedNames(), std::vector<std::string>{"RPTOPT3.TXT"});
 }
 
+TEST_F(ReportsMail, SendsNothingWhenThePersonCancelledAReport)
+{
+    tick({kStandings, kPlayerDetail});
+    platform.progress.cancelFromWork = 3; // each of the two reads the selections and then scores them
+
+    create(kEmail);
+
+    EXPECT_TRUE(folder.has("RPTOPT1.TXT"));
+    EXPECT_TRUE(screens.loads.empty());
+    EXPECT_TRUE(platform.mail.sent.empty());
+}
+
 TEST_F(ReportsMail, NeverAttachesTheOlderFileOfAReportThatFailedButStaysTicked)
 {
     for (const Entry& player : fourPlayers())

@@ -59,15 +59,15 @@ TEST_F(SetupScreenUndo, TakesAPastedBlockBackInOneStep)
 TEST_F(SetupScreenUndo, GivesTheNameBackThatWasReplacedFromTheListAndSelectsIt)
 {
     SetupScreen& screen = loaded();
-    focus(screen.txtRegion[5]);
+    focus(screen.txtRegion[9]);
     press(ui::Key::Down); // empties the box
     press(ui::Key::Enter);
-    EXPECT_EQ(screen.txtRegion[5].text, "Akron");
-    focus(screen.txtRegion[5]);
+    EXPECT_EQ(screen.txtRegion[9].text, "Akron");
+    focus(screen.txtRegion[9]);
     undo();
-    EXPECT_EQ(screen.txtRegion[5].text, "TEAM6");
-    EXPECT_EQ(screen.txtRegion[5].selectionStart, 0);
-    EXPECT_EQ(screen.txtRegion[5].selectionLength, 5);
+    EXPECT_EQ(screen.txtRegion[9].text, "TEAM10");
+    EXPECT_EQ(screen.txtRegion[9].selectionStart, 0);
+    EXPECT_EQ(screen.txtRegion[9].selectionLength, 6) << "not the five letters of the name before";
     EXPECT_FALSE(screen.mnuUndo.enabled);
 }
 
