@@ -113,7 +113,7 @@ struct InAQuotedFolder {
     std::optional<std::filesystem::path> chosen(bool save, const std::function<void(QFileDialog&)>& act)
     {
         withNext<QFileDialog>([&](QFileDialog& dialog) {
-            giveUp.start(500);
+            giveUp.start(30'000);
             act(dialog);
         });
         const ui::FileChoice choice{"File", "PoolSelections (*.THC)", "*.THC", folder, save ? "Clark_D.THC" : ""};
@@ -206,7 +206,7 @@ TEST(FileDialog, AFolderWithQuotationMarksIsEntered)
     den.scratch.put("\"Home\"/Smith_JS.THC", "");
     const auto openedIn = [&](const std::filesystem::path& folder, bool fromList) {
         withNext<QFileDialog>([&](QFileDialog& dialog) {
-            den.giveUp.start(500);
+            den.giveUp.start(30'000);
             const QString name = fromPath(folder.filename());
             fromList ? den.clickListed(dialog, name) : den.name(dialog).setText(name);
             den.press(dialog, QDialogButtonBox::Open);
@@ -226,7 +226,7 @@ TEST(FileDialog, AFolderWithQuotationMarksIsChosen)
     InAQuotedFolder den;
     const auto chosenIn = [&](const std::filesystem::path& folder, const std::function<void(QFileDialog&)>& act) {
         withNext<QFileDialog>([&](QFileDialog& dialog) {
-            den.giveUp.start(500);
+            den.giveUp.start(30'000);
             act(dialog);
             den.press(dialog, QDialogButtonBox::Open);
         });
