@@ -20,7 +20,7 @@ struct Entry {
 };
 
 constexpr std::array kEntries{Entry{Colours::Desktop, "mnuViewColoursDesktop", "&Colours of the Desktop",
-                                    "Takes the colours from the desktop, where it tells them."},
+                                    "The colours that the desktop has, where it makes them known."},
                               Entry{Colours::Light, "mnuViewColoursLight", "&Light Colours",
                                     "Dark letters on a light background, whatever the desktop has."},
                               Entry{Colours::Dark, "mnuViewColoursDark", "&Dark Colours",
