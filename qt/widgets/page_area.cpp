@@ -59,6 +59,8 @@ void PageArea::resizeEvent(QResizeEvent* event)
 /// @returns the least size of the content in a page of this width
 QSize PageArea::leastFor(int width) const
 {
+    if (!widget())
+        return {};
     QSize least = widget()->minimumSizeHint();
     const QLayout* const layout = widget()->layout();
     if (layout && layout->hasHeightForWidth())
@@ -70,6 +72,8 @@ QSize PageArea::leastFor(int width) const
 /// that wraps for the height that it would like to have, and so scrolls where there is room enough.
 void PageArea::fit()
 {
+    if (!widget())
+        return;
     QSize room = maximumViewportSize();
     if (leastFor(room.width()).height() > room.height())
         room.rwidth() -= verticalScrollBar()->sizeHint().width();

@@ -6,6 +6,7 @@
 
 #include <QScreen>
 #include <QScrollBar>
+#include <memory>
 
 namespace tallyhoop::qt {
 namespace {
@@ -53,6 +54,16 @@ TEST(PageArea, HasNoScrollBarsWhereEverythingFits)
     area.show();
     EXPECT_EQ(area.verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(area.horizontalScrollBar()->maximum(), 0);
+}
+
+TEST(PageArea, CanBeResizedWithoutItsContent)
+{
+    PageArea area{new Tall};
+    area.resize(300, 200);
+    area.show();
+    const std::unique_ptr<QWidget> content{area.takeWidget()};
+    area.resize(400, 300);
+    EXPECT_EQ(area.size(), QSize(400, 300));
 }
 
 TEST(PageArea, ShowsWhatGetsTheFocus)
