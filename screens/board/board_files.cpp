@@ -60,9 +60,9 @@ bool BoardFiles::isScored(const std::filesystem::path& file) const
 
 void BoardFiles::checkPlayers(bool& folderTroubleSaid)
 {
-    if (m_folder.exists(file_name::kPlayerNames))
-        m_playersFaulty = !playerListIsSound(m_platform.dialogs, m_folder);
-    else
+    const bool isThere = m_folder.exists(file_name::kPlayerNames);
+    m_playersFaulty = isThere && !playerListIsSound(m_platform.dialogs, m_folder);
+    if (!isThere)
         createDataFile(m_platform.dialogs, m_folder, file_name::kPlayerNames, playerNamesFile({}), folderTroubleSaid);
 }
 

@@ -131,6 +131,17 @@ TEST_F(BoardScreenLoad, SaysThatThePlayerListIsFaulty)
     EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"** ERROR Found in PLAYERNAMES.CSV file **"});
 }
 
+TEST_F(BoardScreenLoad, LeadsToTheRepairOnlyUntilAFaultyPlayerListIsGone)
+{
+    scratch.put(file_name::kPlayerNames, "nonsense\r\n");
+    loadFinalized();
+    EXPECT_EQ(board->helpTopic(), "repair");
+    std::filesystem::remove(scratch.path() / file_name::kPlayerNames);
+    board->mnuNewSelection.click();
+    EXPECT_TRUE(scratch.has(file_name::kPlayerNames)) << "an empty one is written";
+    EXPECT_EQ(board->helpTopic(), "selections");
+}
+
 TEST_F(BoardScreenLoad, MentionsAFolderThatCannotBeWrittenOnlyOnce)
 {
     folder = DataFolder{scratch.path() / "gone"};
