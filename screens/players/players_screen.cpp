@@ -53,7 +53,7 @@ ui::Message selectionsOfEither(const std::filesystem::path& file)
 }
 
 constexpr const char* kSavedNews = "The player list is saved.";
-constexpr const char* kDoneSaves = "  Done saves that, Cancel forgets it.";
+constexpr const char* kDoneSaves = "  Done saves this; Cancel forgets it.";
 
 /// @returns a player's name in a sentence
 std::string shownName(const std::string& name)

@@ -85,10 +85,10 @@ TEST_F(PlayersScreenAdding, AChangeAndADeletionAreAnnouncedAndSavedWithDone)
     open();
     select(0);
     screen->cmdChange.click();
-    EXPECT_EQ(screen->news().text, "Adams,B is changed.  Done saves that, Cancel forgets it.");
+    EXPECT_EQ(screen->news().text, "Adams,B is changed.  Done saves this; Cancel forgets it.");
     select(1);
     screen->cmdDelete.click();
-    EXPECT_EQ(screen->news().text, "Smith,JS is deleted.  Done saves that, Cancel forgets it.");
+    EXPECT_EQ(screen->news().text, "Smith,JS is deleted.  Done saves this; Cancel forgets it.");
     screen->cmdExit.click();
     EXPECT_EQ(screens.news, std::vector<std::string>{"The player list is saved."});
 }
