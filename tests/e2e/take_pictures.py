@@ -165,9 +165,11 @@ def main():
         shutil.copy(DARK, pathlib.Path(settings) / "kdeglobals")
         night = {"QT_QPA_PLATFORMTHEME": "kde", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": settings}
         for suffix, environment in (("", {}), ("-dark", night)):
-            with Program(environment=environment, size=SIZE, scale=SCALE) as program:
+            pool = pathlib.Path(tempfile.gettempdir()) / "Tallyhoop"  # the pictures show its name
+            with Program(folder=pool, environment=environment, size=SIZE, scale=SCALE) as program:
                 program.suffix = suffix
                 take_all(program)
+            shutil.rmtree(pool)
 
 
 if __name__ == "__main__":
