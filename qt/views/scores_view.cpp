@@ -18,6 +18,13 @@ constexpr int kLeastRows = 4; ///< room for the note that there are none
 
 } // namespace
 
+QSize plausibleFrame(QSize frame)
+{
+    const bool isPlausible = frame.width() >= 0 && frame.height() > 0 && frame.width() <= 2 * kWindowFrame.width() &&
+                             frame.height() <= 2 * kWindowFrame.height();
+    return isPlausible ? frame : kWindowFrame;
+}
+
 QPoint placeBeside(QSize window, const QRect& owner, const QRect& room)
 {
     const int top = std::clamp(owner.top(), room.top(), std::max(room.top(), room.bottom() + 1 - window.height()));
@@ -88,8 +95,8 @@ void ScoresView::place()
     const QWidget* const board = parentWidget();
     if (!board || !isWindow() || (m_placed && pos() != *m_placed))
         return;
-    const QSize frame = isVisible() ? frameGeometry().size() - size() : kWindowFrame;
-    m_placed = placeBeside(m_fitted + frame, board->frameGeometry(), board->screen()->availableGeometry());
+    m_placed = placeBeside(m_fitted + plausibleFrame(frameGeometry().size() - size()), board->frameGeometry(),
+                           board->screen()->availableGeometry());
     move(*m_placed);
 }
 

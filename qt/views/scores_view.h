@@ -30,6 +30,12 @@ private:
     std::optional<QPoint> m_placed; ///< the place that was last chosen here, likewise
 };
 
+/// While the window manager puts a frame around a window, Qt can take the frame to be of any size, less than nothing
+/// included.
+/// @param frame how much larger than the window Qt takes it to be with its frame
+/// @returns the same where a frame can be like that, else a usual one
+QSize plausibleFrame(QSize frame);
+
 /// Says where a window that belongs to another is best opened.
 /// @param window its size with its frame
 /// @param owner  the other window with its frame

@@ -165,6 +165,14 @@ TEST_F(ScoresViewTest, IsAsHighAsItsRowsUntilThePersonChoosesAnotherSize)
     EXPECT_EQ(view.size(), QSize(900, 300));
 }
 
+TEST(PlaceBeside, BelievesOnlyAFrameThatCanBe)
+{
+    EXPECT_EQ(plausibleFrame({2, 21}), QSize(2, 21));
+    EXPECT_EQ(plausibleFrame({0, 20}), QSize(0, 20)) << "a title bar alone";
+    for (const QSize frame : {QSize{0, 0}, QSize{-757, -232}, QSize{-1, 20}, QSize{526, 509}, QSize{2, 400}})
+        EXPECT_EQ(plausibleFrame(frame), QSize(8, 36)) << frame.width() << " " << frame.height();
+}
+
 TEST(PlaceBeside, IsRightOfTheOtherWindowThenLeftThenLowAndRight)
 {
     const QRect room{0, 30, 1920, 1050}; // ends at 1920 and 1080
