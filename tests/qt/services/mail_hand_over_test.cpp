@@ -273,12 +273,15 @@ TEST_F(MailHandOverTest, KeepsTheMessageInAFileWhenNothingCanTakeIt)
 
 TEST_F(MailHandOverTest, SaysWhatEveryProgramAnsweredThatWasTried)
 {
-    setHandler("org.gnome.Evolution.desktop");
+    setHandler("thunderbird.desktop");
+    install("thunderbird", "exit 4");
     install("xdg-email", "exit 3");
     install("gio", "exit 2");
     const Result<ui::HandedOver> sent = mail.send(message());
     ASSERT_TRUE(sent);
-    EXPECT_EQ(sent->trouble, "xdg-email ended with the error 3.\r\ngio ended with the error 2.");
+    EXPECT_EQ(sent->trouble, "thunderbird ended with the error 4.\r\n"
+                             "xdg-email ended with the error 3.\r\n"
+                             "gio ended with the error 2.");
 }
 
 TEST_F(MailHandOverTest, TakesACrashForARefusal)

@@ -180,4 +180,13 @@ TEST_F(BoardScreenNews, NewAsksWhenTheFieldIsNoLongerFinalInTheFolder)
     EXPECT_TRUE(board->mnuSetup.enabled) << "the way on";
 }
 
+TEST_F(BoardScreenNews, NewAsksNothingAboutTheFieldWhenNothingIsLost)
+{
+    loadFinalized();
+    putField(fieldOfTeams("0")); // by another program
+    board->mnuNewSelection.click();
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+    EXPECT_FALSE(board->mnuSaveSelection.enabled) << "the field was loaded again";
+}
+
 } // namespace tallyhoop::test
