@@ -1,4 +1,4 @@
-// files/folder_lock.h - tells whether a program is at work on a folder already, without leaving anything in it.
+// files/folder_lock.h - finds out whether a program is at work on a folder already, without leaving anything in it.
 #pragma once
 
 #include <filesystem>

@@ -35,7 +35,7 @@ bool reportFontIsThere()
     return std::ranges::any_of(faces, [&](const char* face) { return resolved == QLatin1String{face}; });
 }
 
-/// Whether this is a family of a fixed pitch, and not a name such as "Monospace" that stands for whatever there is.
+/// Whether this is a family of a fixed pitch, and not a name such as "Monospace" that means whatever there is.
 bool isFixedPitch(const QString& family)
 {
     return QFontDatabase::isFixedPitch(family) && QFontInfo{QFont{family}}.family() == family;
