@@ -132,9 +132,7 @@ QLayout* ReportsView::customReports(ReportsScreen& reports)
 {
     auto* const row = look::row();
     row->addWidget(add(reports.cmdCustomReport));
-    QLabel* const hint = look::hint(tr("Enter results on the board and sort the players' scores as you like."));
-    hint->setWordWrap(false); // a text that wraps would keep the page from being lower than it would like to be
-    row->addWidget(hint, 1);
+    row->addWidget(look::hint(tr("Enter results on the board and sort the players' scores as you like.")), 1);
     return row;
 }
 
