@@ -21,6 +21,18 @@ protected:
                 ui::Buttons::OkCancel, ui::Icon::Question, "players"};
     }
 
+    /// A new selection's record could not be added; it goes into the list when another row is selected.
+    void putNewRecordIntoTheListWithTheNextRow()
+    {
+        scratch.put("PLAYERNAMES.CSV", twoPlayers);
+        scratch.put(filesName, "the picks of Wilhelmina");
+        openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
+        blockWriting();
+        screen->cmdAdd.click();
+        std::filesystem::remove_all(scratch.path() / "PLAYERNAMES.CSV");
+        select(0);
+    }
+
     PlayersWithCutNames() { scratch.put("PLAYERNAMES.CSV", playerFile({wilhelm, wilhelmina})); }
 };
 
@@ -180,13 +192,7 @@ TEST_F(PlayersWithCutNames, TheRecordsOfOthersAreNotTheRecordOfTheSavedFile)
 
 TEST_F(PlayersWithCutNames, ARecordThatWentIntoTheListWithTheNextRowIsNotMissing)
 {
-    scratch.put("PLAYERNAMES.CSV", twoPlayers);
-    scratch.put(filesName, "the picks of Wilhelmina");
-    openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
-    blockWriting();
-    screen->cmdAdd.click();
-    std::filesystem::remove_all(scratch.path() / "PLAYERNAMES.CSV");
-    select(0);
+    putNewRecordIntoTheListWithTheNextRow();
     screen->cmdExit.click();
     EXPECT_EQ(written(), playerFile({adams, smith, csv("Wilhelmina,W", cutName)}));
     EXPECT_EQ(screens.news, std::vector<std::string>{"The player list is saved."});
@@ -194,13 +200,7 @@ TEST_F(PlayersWithCutNames, ARecordThatWentIntoTheListWithTheNextRowIsNotMissing
 
 TEST_F(PlayersWithCutNames, ARecordThatIsChangedAfterwardsIsNotMissingEither)
 {
-    scratch.put("PLAYERNAMES.CSV", twoPlayers);
-    scratch.put(filesName, "the picks of Wilhelmina");
-    openAfterSave(SaveKind::NewFile, filesName, "Wilhelmina,W");
-    blockWriting();
-    screen->cmdAdd.click();
-    std::filesystem::remove_all(scratch.path() / "PLAYERNAMES.CSV");
-    select(0);
+    putNewRecordIntoTheListWithTheNextRow();
     select(2);
     screen->txtName.text = "Wilhelmina,X";
     screen->cmdChange.click();
