@@ -7,6 +7,7 @@
 #include "files/selection_of_player.h"
 #include "screens/help_topics.h"
 #include "screens/players/field_text.h"
+#include "screens/players/players_words.h"
 #include "screens/saving.h"
 
 #include <algorithm>
@@ -18,50 +19,8 @@ namespace tallyhoop {
 
 namespace {
 
-// Texts are kept letter for letter, odd spellings included.
-constexpr const char* kTitle = "Pool Names Maintenance";
-
-const ui::Message kSelectBeforeChange{kTitle, "** You need to select one record prior to CHANGE **", ui::Buttons::Ok,
-                                      ui::Icon::Exclamation};
-const ui::Message kNothingToAdd{kTitle, "The boxes are empty: there is nothing to add.", ui::Buttons::Ok,
-                                ui::Icon::Exclamation, help_topic::kPlayers};
-const ui::Message kSelectBeforeDelete{kTitle, "** You need to select one record prior to DELETE **", ui::Buttons::Ok,
-                                      ui::Icon::Exclamation};
-const ui::Message kNoSelections{kTitle,
-                                "** You selected a change record where no Pool \r\n"
-                                "Selections have been made **\r\n"
-                                "\r\n"
-                                "If you continue this Player Name record will\r\n"
-                                "be deleted",
-                                ui::Buttons::OkCancel, ui::Icon::Question};
-const ui::Message kBothDeleted{kTitle,
-                               "The player record and the Pool Selections\r\n"
-                               "will both be deleted if you continue, Ok??",
-                               ui::Buttons::OkCancel, ui::Icon::Question};
-/// @param file the selection file that one of two records means, nobody can tell which
-ui::Message selectionsOfEither(const std::filesystem::path& file)
-{
-    return {kTitle,
-            "Another record has the same File Name, cut to 33 characters,\r\n"
-            "but only one selection file begins with it:\r\n" +
-                shown(file.filename()) +
-                "\r\n"
-                "It may be the other player's, so it will NOT be deleted.\r\n"
-                "\r\n"
-                "If you continue, only this Player Name record will be deleted",
-            ui::Buttons::OkCancel, ui::Icon::Exclamation};
-}
-
 constexpr const char* kSavedNews = "The player list is saved.";
 constexpr const char* kDoneSaves = "  Done saves this; Cancel forgets it.";
-
-/// @returns a player's name in a sentence
-std::string shownName(const std::string& name)
-{
-    const std::string text = withoutOuterBlanks(name);
-    return text.empty() ? "The record" : text;
-}
-
 constexpr const char* kUnusableStatus = "The player list cannot be used until PLAYERNAMES.CSV is corrected";
 
 } // namespace
@@ -238,10 +197,7 @@ bool PlayersScreen::mayBeAdded()
     const std::optional<PlayerRecord> listed = recordOfFileInBoxes();
     if (!listed)
         return true;
-    return m_dialogs.show({kTitle,
-                           "The list has a record for this file already:\r\n\r\n" + trimTrailingBlanks(listed->name) +
-                               "   " + trimTrailingBlanks(listed->fileName) + "\r\n\r\nDo you want to add another one?",
-                           ui::Buttons::OkCancel, ui::Icon::Question, help_topic::kPlayers}) != ui::Answer::Cancel;
+    return m_dialogs.show(listedAlready(*listed)) != ui::Answer::Cancel;
 }
 
 /// @returns the record that means the file in the boxes: the player's if there is one, else another's. Its player may
