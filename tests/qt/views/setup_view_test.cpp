@@ -1,83 +1,17 @@
-// tests/qt/views/setup_view_test.cpp - the setup screen in its window.
-#include "qt/views/setup_view.h"
-
-#include "fakes/fake_platform.h"
-#include "fakes/fake_screens.h"
-#include "fakes/scratch_folder.h"
+// tests/qt/views/setup_view_test.cpp - the setup screen in its window: its places, the team boxes and the list.
+#include "qt/views/setup_view_fixture.h"
 #include "qt/widgets/page_area.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
-#include <QPlainTextEdit>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace tallyhoop::qt {
 namespace {
 
 using test::crlf;
-
-class SetupViewTest : public ::testing::Test
-{
-protected:
-    SetupViewTest()
-    {
-        files.put("NCAALIST.THS",
-                  crlf({"*START*", "Akron", "Duke", "Duquesne", "Iowa", "Iowa St.", "Kansas", "*END*"}));
-        view = std::make_unique<SetupView>(setup, desk);
-        desk.runInside(setup, [this] { setup.load(); });
-        view->resize(1366, 720);
-        view->show();
-        QApplication::setActiveWindow(view.get());
-        QApplication::processEvents();
-    }
-
-    template <class Widget>
-    Widget& widget(const ui::Control& control)
-    {
-        return *qobject_cast<Widget*>(view->widgetOf(control));
-    }
-
-    QLineEdit& team(std::size_t index) { return widget<QLineEdit>(setup.txtRegion[index]); }
-    QListView& list() { return widget<QListView>(setup.lstTeamNames); }
-
-    /// Presses a key where the focus is, as a keyboard does.
-    void press(int key) { QTest::keyClick(view->focusWidget(), static_cast<Qt::Key>(key)); }
-    void type(const QString& text) { QTest::keyClicks(view->focusWidget(), text); }
-
-    /// An input method shows a text it is still composing; an empty one gives it up.
-    void compose(const QString& text)
-    {
-        QInputMethodEvent event{text, {}};
-        QApplication::sendEvent(view->focusWidget(), &event);
-    }
-
-    void commit(const QString& text)
-    {
-        QInputMethodEvent event;
-        event.setCommitString(text);
-        QApplication::sendEvent(view->focusWidget(), &event);
-    }
-
-    void pressRow(int row)
-    {
-        const QRect place = list().visualRect(list().model()->index(row, 0));
-        QTest::mouseClick(list().viewport(), Qt::LeftButton, {}, place.center());
-    }
-
-    test::ScratchFolder files;
-    DataFolder folder = files.folder();
-    test::FakePlatform computer;
-    test::FakeScreens screens;
-    Field field;
-    SetupScreen setup{folder, computer.services, screens, field};
-    Desk desk;
-    std::unique_ptr<SetupView> view;
-};
 
 TEST_F(SetupViewTest, ShowsEveryControl)
 {
@@ -299,126 +233,6 @@ TEST_F(SetupViewTest, TheListLooksDisabledWhileSelectingIsOverridden)
     EXPECT_EQ(list().palette().color(QPalette::Base), (QColor{0x80, 0xFF, 0x80}));
     widget<QPushButton>(setup.cmdOverride).click();
     EXPECT_EQ(text(), QColor(Qt::black));
-}
-
-TEST_F(SetupViewTest, CommentsHoldSeveralLines)
-{
-    auto& comment = widget<QPlainTextEdit>(setup.txtComment1);
-    comment.setFocus();
-    type("one");
-    press(Qt::Key_Return);
-    type("two");
-    EXPECT_EQ(setup.txtComment1.text, "one\r\ntwo");
-    EXPECT_TRUE(setup.status.starts_with("There are changes that are not saved yet.")) << setup.status;
-}
-
-TEST_F(SetupViewTest, AnInputMethodThatComposesLettersGoesOnWithTheTypedBeginning)
-{
-    type("du");
-    compose("q");
-    commit("q");
-    EXPECT_EQ(team(0).text(), "Duquesne");
-    EXPECT_EQ(team(0).selectedText(), "uesne");
-    compose("u");
-    compose("");
-    EXPECT_EQ(team(0).text(), "Duquesne"); // given up
-    EXPECT_EQ(setup.txtRegion[0].text, "Duquesne");
-    compose("x");
-    commit("x");
-    EXPECT_EQ(team(0).text(), "Duquesne"); // leads nowhere
-    compose("e");
-    press(Qt::Key_Tab);
-    EXPECT_EQ(team(0).text(), "Duquesne");
-}
-
-TEST_F(SetupViewTest, AComposedTextReplacesTheSelectedOneWhileSelectingIsOverridden)
-{
-    widget<QPushButton>(setup.cmdOverride).click();
-    team(0).setSelection(1, 3); // of TEAM1
-    compose("o");
-    commit("o");
-    EXPECT_EQ(team(0).text(), "To1");
-    EXPECT_EQ(setup.txtRegion[0].text, "To1");
-}
-
-TEST_F(SetupViewTest, EnterPressedTwiceOnFinalizeEmptiesNoTeamBox)
-{
-    widget<QPushButton>(setup.cmdFinalize).setFocus();
-    press(Qt::Key_Return);
-    EXPECT_FALSE(setup.cmdFinalize.enabled);
-    EXPECT_EQ(view->focusWidget(), view->widgetOf(setup.txtInfo6[5]));
-    press(Qt::Key_Return);
-    EXPECT_EQ(team(0).text(), "TEAM1");
-}
-
-TEST_F(SetupViewTest, EscapeDoesNotLeaveTheScreen)
-{
-    press(Qt::Key_Escape);
-    EXPECT_TRUE(screens.unloads.empty());
-}
-
-TEST_F(SetupViewTest, AClickIntoTheFocusedBoxSelectsItsNameSoThatTypingStartsAnother)
-{
-    type(QStringLiteral("d"));
-    press(Qt::Key_End); // the whole name is typed, so to speak
-    for (int click = 0; click < 2; ++click) {
-        QTest::mouseClick(&team(0), Qt::LeftButton, {}, team(0).rect().center());
-        QApplication::processEvents();
-        EXPECT_EQ(team(0).selectedText(), QStringLiteral("Duke"));
-    }
-    type(QStringLiteral("k"));
-    EXPECT_EQ(team(0).text(), QStringLiteral("Kansas"));
-}
-
-TEST_F(SetupViewTest, WhenNamesAreTypedFreelyAClickPlacesTheCaret)
-{
-    QTest::mouseClick(view->widgetOf(setup.cmdOverride), Qt::LeftButton);
-    EXPECT_EQ(view->focusWidget(), &team(0));
-    QTest::mouseClick(&team(0), Qt::LeftButton, {}, team(0).rect().center());
-    QApplication::processEvents();
-    EXPECT_FALSE(team(0).hasSelectedText());
-}
-
-TEST_F(SetupViewTest, ADoubleClickInTheListPutsTheNameIntoTheBox)
-{
-    team(7).setFocus();
-    pressRow(3);
-    const QRect place = list().visualRect(list().model()->index(3, 0));
-    QTest::mouseDClick(list().viewport(), Qt::LeftButton, {}, place.center());
-    EXPECT_EQ(team(7).text(), QStringLiteral("Iowa"));
-    EXPECT_EQ(view->focusWidget(), &team(8));
-}
-
-TEST_F(SetupViewTest, TheMenuTakesBackWhatClearAllDidWhereverTheFocusIs)
-{
-    QTest::mouseClick(view->widgetOf(setup.cmdClear), Qt::LeftButton);
-    EXPECT_EQ(team(63).text(), QString{});
-    QTest::keyClick(view->focusWidget(), Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(team(63).text(), QStringLiteral("TEAM64"));
-}
-
-TEST_F(SetupViewTest, TheMenuTakesClearAllBackFromACommentUntilSomethingIsTypedThere)
-{
-    QTest::mouseClick(view->widgetOf(setup.cmdClear), Qt::LeftButton);
-    auto& comment = widget<QPlainTextEdit>(setup.txtComment1);
-    comment.setFocus();
-    QTest::keyClick(&comment, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(team(63).text(), QStringLiteral("TEAM64"));
-
-    QTest::keyClicks(&comment, "ab");
-    QTest::keyClick(&comment, Qt::Key_Z, Qt::ControlModifier);
-    EXPECT_EQ(comment.toPlainText(), QString{}) << "what was typed goes, as in any box";
-    EXPECT_EQ(team(63).text(), QStringLiteral("TEAM64"));
-}
-
-TEST_F(SetupViewTest, AHugeLineIsNotPastedIntoAComment)
-{
-    QApplication::clipboard()->setText(QString{300'000, QLatin1Char{'x'}});
-    auto& comment = widget<QPlainTextEdit>(setup.txtComment1);
-    comment.setFocus();
-    QTest::keyClick(&comment, Qt::Key_V, Qt::ControlModifier);
-    EXPECT_EQ(comment.toPlainText(), QString{});
-    EXPECT_EQ(computer.dialogs.captionsShown(), std::vector<std::string>{"Comment Pasted"});
 }
 
 } // namespace
