@@ -1,0 +1,40 @@
+// pool/outlook/contest.cpp - a pool in numbers.
+#include "pool/outlook/contest.h"
+
+#include "pool/results.h"
+
+namespace tallyhoop {
+
+Contest::Contest(const Bracket& results, std::span<const Bracket> picks, const Payoffs& payoffs) : m_games{results}
+{
+    m_picks.reserve(picks.size());
+    for (const Bracket& bracket : picks)
+        m_picks.push_back(numbersIn(m_games.known().names(), bracket));
+    for (const Position game : gamePositions())
+        m_payoffs[game] = payoffs[roundIndex(roundOf(game))];
+}
+
+Result<Contest> Contest::of(const Pool& pool)
+{
+    const Result<Payoffs>& payoffs = pool.field.payoffs.points();
+    if (!payoffs)
+        return payoffs.failure();
+    const Entry results = completedResults(pool.results.value_or(Entry{}), pool.field);
+    std::vector<Bracket> picks;
+    picks.reserve(pool.entries.size());
+    for (const Entry& entry : pool.entries)
+        picks.push_back(entry.picks);
+    return Contest{results.picks, picks, *payoffs};
+}
+
+std::int32_t Contest::points(std::size_t player, const ByPosition<TeamNumber>& teams) const
+{
+    const ByPosition<TeamNumber>& picked = m_picks[player];
+    std::int32_t sum = 0;
+    for (const Position game : gamePositions())
+        if (teams[game] != kNoTeam && teams[game] == picked[game])
+            sum += m_payoffs[game];
+    return sum;
+}
+
+} // namespace tallyhoop

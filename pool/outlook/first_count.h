@@ -1,0 +1,45 @@
+// pool/outlook/first_count.h - counts every outcome of the open games: who is first in how many of them.
+#pragma once
+
+#include "pool/outlook/contest.h"
+#include "pool/outlook/first_places.h"
+
+#include <memory>
+
+namespace tallyhoop {
+
+/// As many open games can be counted while people wait: some seconds for a pool of an office.
+inline constexpr std::size_t kMostCountedGames = 31;
+
+/// Counts in slices, so that whoever runs it can show progress, stop, or do other things in between. Knows nothing of
+/// threads: one object belongs to one thread at a time.
+class FirstCount
+{
+public:
+    /// Prepares the count, which takes some milliseconds. The contest is not needed any longer afterwards.
+    /// @pre the contest has at most 40 open games
+    explicit FirstCount(const Contest& contest);
+    ~FirstCount();
+    FirstCount(FirstCount&&) noexcept;
+    FirstCount& operator=(FirstCount&&) noexcept;
+
+    bool isDone() const;
+
+    /// How much is done, 0..1, growing steadily.
+    double fraction() const;
+
+    /// Does one slice of the work: some milliseconds at most, usually less than one. Nothing when it is done.
+    void advance();
+
+    /// @pre isDone()
+    FirstOutlook outlook() const;
+
+private:
+    class Work;
+    std::unique_ptr<Work> m_work;
+};
+
+/// Counts all at once, for tests and for few open games.
+FirstOutlook countFirsts(const Contest& contest);
+
+} // namespace tallyhoop

@@ -1,0 +1,55 @@
+// pool/outlook/first_places.h - how often a player ends first: counts over outcomes, as whole numbers.
+#pragma once
+
+#include "pool/outlook/open_games.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace tallyhoop {
+
+/// In how many of some outcomes a player is first: has as many points as anybody. Exact counts.
+struct FirstPlaces {
+    std::uint64_t alone = 0;
+    std::vector<std::uint64_t> shared; ///< [i]: together with i + 1 others, so that i + 2 are first; the last is not 0
+
+    /// The outcomes in which the player is first, alone or together.
+    std::uint64_t outcomes() const;
+
+    /// The player's share of first place, in outcomes: one that k players share counts 1/k.
+    double share() const;
+
+    /// Counts more outcomes in which so many players are first together, the player being one of them.
+    /// @param together 1 or more
+    void add(std::size_t together, std::uint64_t outcomes);
+
+    friend bool operator==(const FirstPlaces&, const FirstPlaces&) = default;
+};
+
+/// @returns what is left of `all` without `part`, which is in it
+FirstPlaces without(const FirstPlaces& all, const FirstPlaces& part);
+
+/// The first places of one player.
+struct PlayerFirsts {
+    FirstPlaces all;                      ///< of all outcomes
+    std::vector<FirstPlaces> ifUpperWins; ///< for each open game: of the outcomes in which its upper side wins
+
+    /// An outcome in which the player is first, alone or together; nothing when there is none.
+    std::optional<OutcomeNumber> witness;
+
+    /// @returns the first places of the outcomes, half of all, in which this side wins an open game
+    /// @param openGame index in OpenGames::games()
+    FirstPlaces given(std::size_t openGame, Side side) const;
+};
+
+/// The first places of every player over all outcomes. For each k the sum over the players of those shared by k is a
+/// multiple of k; divided by it and added up, with those alone, they make the number of outcomes, as long as there are
+/// players.
+struct FirstOutlook {
+    std::uint64_t outcomes = 0;
+    std::vector<PlayerFirsts> players; ///< in the order of the contest
+};
+
+} // namespace tallyhoop

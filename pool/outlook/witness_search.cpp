@@ -1,0 +1,84 @@
+// pool/outlook/witness_search.cpp - a player's own bracket, then one game after the other.
+#include "pool/outlook/witness_search.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace tallyhoop {
+
+namespace {
+
+/// @returns by how much a player is ahead of the best of the others; not positive unless alone in front
+std::int32_t leadOf(std::size_t player, const std::vector<std::int32_t>& points)
+{
+    std::int32_t others = std::numeric_limits<std::int32_t>::min() / 2;
+    for (std::size_t other = 0; other < points.size(); ++other)
+        if (other != player)
+            others = std::max(others, points[other]);
+    return points[player] - others;
+}
+
+/// @returns the last round into which somebody picks a team from here on; 0 for none
+int furthestPick(const ByPosition<TeamNumber>& picks, TeamNumber team, Position from)
+{
+    int furthest = 0;
+    for (std::optional<Position> game = from; game; game = next(*game))
+        if (picks[*game] == team)
+            furthest = roundOf(*game);
+    return furthest;
+}
+
+} // namespace
+
+WitnessSearch::Found WitnessSearch::bestFor(std::size_t player, bool climb) const
+{
+    Found best = evaluated(ownOutcome(player));
+    std::int32_t lead = leadOf(player, best.points);
+    for (bool improved = climb; improved && lead < 0;) {
+        improved = false;
+        const Found start = best;
+        for (std::size_t game = 0; game < m_contest.games().size(); ++game) {
+            Found changed = evaluated(start.outcome ^ OutcomeNumber{1} << game);
+            const std::int32_t changedLead = leadOf(player, changed.points);
+            if (changedLead <= lead)
+                continue;
+            lead = changedLead;
+            best = std::move(changed);
+            improved = true;
+        }
+    }
+    return best;
+}
+
+OutcomeNumber WitnessSearch::ownOutcome(std::size_t player) const
+{
+    const OpenGames& games = m_contest.games();
+    const ByPosition<TeamNumber>& picks = m_contest.picks(player);
+    ByPosition<TeamNumber> teams = games.known().numbers();
+    OutcomeNumber outcome = 0;
+    std::size_t open = 0;
+    for (const Position game : gamePositions()) {
+        Side side = Side::Upper;
+        if (open < games.size() && games.games()[open] == game) {
+            const auto [upper, lower] = *feeders(game);
+            if (furthestPick(picks, teams[lower], game) > furthestPick(picks, teams[upper], game)) {
+                side = Side::Lower;
+                outcome |= OutcomeNumber{1} << open;
+            }
+            ++open;
+        }
+        games.play(game, side, teams);
+    }
+    return outcome;
+}
+
+WitnessSearch::Found WitnessSearch::evaluated(OutcomeNumber outcome) const
+{
+    const ByPosition<TeamNumber> teams = m_contest.games().outcomeNumbers(outcome);
+    Found found{outcome, std::vector<std::int32_t>(m_contest.players())};
+    for (std::size_t player = 0; player < found.points.size(); ++player)
+        found.points[player] = m_contest.points(player, teams);
+    return found;
+}
+
+} // namespace tallyhoop
