@@ -1,7 +1,12 @@
 # tests/unit_tests.cmake - the test programs of the floors and of the windows.
 include(GoogleTest)
 
-add_library(tallyhoop_sample_brackets STATIC files/naive_reader.cpp pool/naive_scorer.cpp pool/sample_brackets.cpp)
+add_library(tallyhoop_sample_brackets STATIC 
+    files/naive_reader.cpp
+    pool/naive_scorer.cpp
+    pool/outlook/brute_force.cpp
+    pool/outlook/invented_pools.cpp
+    pool/sample_brackets.cpp)
 target_include_directories(tallyhoop_sample_brackets PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(tallyhoop_sample_brackets PUBLIC tallyhoop_pool)
 

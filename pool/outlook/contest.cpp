@@ -27,14 +27,24 @@ Result<Contest> Contest::of(const Pool& pool)
     return Contest{results.picks, picks, *payoffs};
 }
 
-std::int32_t Contest::points(std::size_t player, const ByPosition<TeamNumber>& teams) const
+std::int32_t Contest::points(std::size_t player, const ByPosition<TeamNumber>& teams,
+                             std::span<const Position> played) const
 {
     const ByPosition<TeamNumber>& picked = m_picks[player];
     std::int32_t sum = 0;
-    for (const Position game : gamePositions())
+    for (const Position game : played)
         if (teams[game] != kNoTeam && teams[game] == picked[game])
             sum += m_payoffs[game];
     return sum;
+}
+
+Contest Contest::among(std::span<const std::size_t> players) const
+{
+    Contest some = *this;
+    some.m_picks.clear();
+    for (const std::size_t player : players)
+        some.m_picks.push_back(m_picks[player]);
+    return some;
 }
 
 } // namespace tallyhoop

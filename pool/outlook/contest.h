@@ -40,8 +40,12 @@ public:
     /// Whole points for a right pick there; 0 for the first-round rows.
     std::int32_t payoff(Position game) const { return m_payoffs[game]; }
 
-    /// @returns what a player has at the end of an outcome; with fewer teams, what these bring
-    std::int32_t points(std::size_t player, const ByPosition<TeamNumber>& teams) const;
+    /// @returns what a player gets for some games, given their winners
+    std::int32_t points(std::size_t player, const ByPosition<TeamNumber>& teams,
+                        std::span<const Position> played = gamePositions()) const;
+
+    /// @returns the same contest between some of the players
+    Contest among(std::span<const std::size_t> players) const;
 
 private:
     OpenGames m_games;

@@ -33,9 +33,10 @@ Margins::Margins(const Contest& contest) : m_contest{contest}
     }
 }
 
-void Margins::find(std::size_t leader)
+void Margins::find(std::size_t player, std::int32_t sign)
 {
-    m_leader = leader;
+    m_player = player;
+    m_sign = sign;
     for (const Position game : gamePositions())
         findAt(game);
 }
@@ -85,9 +86,9 @@ void Margins::findAt(Position game)
 
 void Margins::addGame(Position game, TeamNumber winner, Leads& leads) const
 {
-    const std::int32_t payoff = m_contest.payoff(game);
+    const std::int32_t payoff = m_sign * m_contest.payoff(game);
     const std::vector<TeamNumber>& picks = m_picks[game];
-    const std::int32_t earned = picks[m_leader] == winner ? payoff : 0;
+    const std::int32_t earned = picks[m_player] == winner ? payoff : 0;
     for (std::size_t i = 0; i < leads.size(); ++i)
         leads[i] += earned - (picks[i] == winner ? payoff : 0);
 }

@@ -19,15 +19,19 @@ public:
     /// @param contest must outlive this
     explicit Margins(const Contest& contest);
 
-    /// Finds the leads of one player; forgets those of the one before.
-    void find(std::size_t leader);
+    /// Finds the largest leads of one player over each other; forgets what was found before.
+    void findLeads(std::size_t leader) { find(leader, 1); }
 
-    /// @returns for each player the most points by which the leader can be ahead of him at the end; negative where he
-    ///          can be neither ahead nor level; 0 for himself
+    /// Finds the largest leads of each other over one player; forgets what was found before.
+    void findLeadsOver(std::size_t player) { find(player, -1); }
+
+    /// @returns for each player the lead found, in points at the end; negative when that one is behind in every
+    /// outcome;
+    ///          0 for the player himself
     std::vector<std::int32_t> atTheEnd() const;
 
-    /// @returns the same in the games up to a position, itself included, of those outcomes in which a team comes out
-    ///          there
+    /// @returns the same, counting only the games up to a position, itself included, in those outcomes in which a team
+    ///          comes out there
     /// @param candidate index in OpenGames::candidates(position)
     std::span<const std::int32_t> at(Position position, std::size_t candidate) const
     {
@@ -37,12 +41,14 @@ public:
 private:
     using Leads = std::vector<std::int32_t>; ///< one for each player
 
+    void find(std::size_t player, std::int32_t sign);
     void findAt(Position game);
     Leads most(Position position) const;
     void addGame(Position game, TeamNumber winner, Leads& leads) const;
 
     const Contest& m_contest;
-    std::size_t m_leader = 0;
+    std::size_t m_player = 0;
+    std::int32_t m_sign = 1;                     ///< -1 = leads over the player
     ByPosition<std::vector<TeamNumber>> m_picks; ///< one for each player
     ByPosition<std::vector<Leads>> m_leads;      ///< one for each candidate; one where nobody comes out
 };

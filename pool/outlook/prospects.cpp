@@ -49,7 +49,7 @@ std::vector<PlayerProspect> findProspects(const Contest& contest, const Step& st
     Margins margins{contest};
     std::vector<PlayerProspect> limited = prospects;
     for (std::size_t player = 0; player < players; ++player) {
-        margins.find(player);
+        margins.findLeads(player);
         addLeads(margins.atTheEnd(), player, limited);
         if (!step())
             return prospects;

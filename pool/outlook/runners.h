@@ -1,0 +1,22 @@
+// pool/outlook/runners.h - those players who may still be first, each way of picking once.
+#pragma once
+
+#include "pool/outlook/contest.h"
+
+#include <cstddef>
+#include <vector>
+
+namespace tallyhoop {
+
+/// Players who have the same points in every outcome run as one.
+struct Runners {
+    Contest contest; ///< one player of each
+    std::vector<std::vector<std::size_t>>
+        players; ///< of each: those who have these points, in the order of the contest
+};
+
+/// Leaves out everyone who is behind some other player in every outcome.
+/// @returns one runner or more when there are players
+Runners runnersOf(const Contest& contest);
+
+} // namespace tallyhoop
