@@ -17,7 +17,6 @@ public:
     virtual ~Tree() = default;
     virtual std::size_t slices() const = 0;
     virtual void count(std::size_t slice) = 0;
-    virtual void finish() = 0;
 
     /// Adds what was counted for a runner to each player that it stands for.
     virtual void addTo(FirstOutlook& outlook, const std::vector<std::vector<std::size_t>>& playersOf) const = 0;
@@ -31,7 +30,6 @@ public:
 
     std::size_t slices() const override { return m_tree.slices(); }
     void count(std::size_t slice) override { m_tree.count(slice); }
-    void finish() override { m_tree.finish(); }
 
     void addTo(FirstOutlook& outlook, const std::vector<std::vector<std::size_t>>& playersOf) const override
     {
@@ -44,10 +42,10 @@ private:
     void add(std::size_t runner, std::size_t runners, PlayerFirsts& firsts) const
     {
         firsts.witness = m_tree.witness(runner);
-        for (const auto& size : m_tree.sizes()) {
-            firsts.all.add(size.together, size.all[runner]);
+        for (const auto& count : m_tree.counts()) {
+            firsts.all.add(count.together, count.all[runner]);
             for (std::size_t game = 0; game < firsts.ifUpperWins.size(); ++game)
-                firsts.ifUpperWins[game].add(size.together, size.ifUpperWins[game * runners + runner]);
+                firsts.ifUpperWins[game].add(count.together, count.ifUpperWins[game * runners + runner]);
         }
     }
 
@@ -89,11 +87,8 @@ public:
 
     void advance()
     {
-        if (isDone())
-            return;
-        m_tree->count(m_next++);
-        if (isDone())
-            m_tree->finish();
+        if (!isDone())
+            m_tree->count(m_next++);
     }
 
     FirstOutlook outlook() const

@@ -28,7 +28,18 @@ TALLYHOOP_INLINE bool anySet(const Vector& vector)
     return (words[0] | words[1] | words[2] | words[3]) != 0;
 }
 
-/// A chance for each lane of a vector of points. (The size of a vector type must not depend on a template's argument.)
+/// A weight for each lane. (The size of a vector type must not depend on a template's argument.)
+template <class Weight>
+struct WeightLanes;
+template <>
+struct WeightLanes<std::uint16_t> {
+    using Vector [[gnu::vector_size(32)]] = std::uint16_t;
+};
+template <>
+struct WeightLanes<std::uint32_t> {
+    using Vector [[gnu::vector_size(32)]] = std::uint32_t;
+};
+
 template <std::size_t kLanes>
 struct ChanceLanes;
 template <>
@@ -57,7 +68,7 @@ TALLYHOOP_INLINE void listTies(Heat<Points, Number>& heat, std::size_t lane, Vec
             if (!anySet(isFirst))
                 continue;
             Tie<Points>& tie = heat.ties.emplace_back();
-            tie.vector = lane / kCount;
+            tie.firstLane = lane;
             tie.runner = i;
             tie.players = static_cast<std::size_t>(together);
             store(isFirst, tie.lanes.data());
@@ -69,14 +80,17 @@ template <class Points>
 TALLYHOOP_INLINE void countAlone(Heat<Points, std::uint64_t>& heat, std::size_t lane, std::size_t runner,
                                  const typename Lanes<Points>::Vector& isAlone)
 {
-    using Vector = typename Lanes<Points>::Vector;
-    Vector counts;
+    using Weights = typename WeightLanes<std::make_unsigned_t<Points>>::Vector;
+    const auto mask = reinterpret_cast<Weights>(isAlone);
+    Weights counts;
     load(counts, heat.runners[runner].alone + lane);
-    counts -= isAlone;
+    counts += mask & heat.before;
     store(counts, heat.runners[runner].alone + lane);
-    Vector sums;
+    Weights weights;
+    load(weights, heat.weights + lane);
+    Weights sums;
     load(sums, &heat.sums[runner * Lanes<Points>::kCount]);
-    sums -= isAlone;
+    sums += mask & weights;
     store(sums, &heat.sums[runner * Lanes<Points>::kCount]);
 }
 
@@ -88,15 +102,14 @@ TALLYHOOP_INLINE void countAlone(Heat<Points, double>& heat, std::size_t lane, s
     const Chances minusOne = __builtin_convertvector(isAlone, Chances);
     Chances counts;
     load(counts, heat.runners[runner].alone + lane);
-    counts -= minusOne * heat.chance;
+    counts -= minusOne * heat.before;
     store(counts, heat.runners[runner].alone + lane);
-    Chances laneChances;
-    load(laneChances, heat.laneChances + lane);
-    laneChances *= minusOne;
-    float sum = 0;
-    for (std::size_t i = 0; i < Lanes<Points>::kCount; ++i)
-        sum -= laneChances[i];
-    heat.runners[runner].sum += static_cast<double>(sum);
+    Chances weights;
+    load(weights, heat.weights + lane);
+    Chances sums;
+    load(sums, &heat.sums[runner * Lanes<Points>::kCount]);
+    sums -= minusOne * weights;
+    store(sums, &heat.sums[runner * Lanes<Points>::kCount]);
 }
 
 template <class Points, class Number>
@@ -147,10 +160,34 @@ TALLYHOOP_INLINE void countAll(Heat<Points, Number>& heat)
     heat.sums.assign(heat.runners.size() * kCount, 0);
     for (std::size_t lane = 0; lane < heat.lanes; lane += kCount)
         countVector(heat, lane);
-    if constexpr (std::is_integral_v<Number>)
-        for (std::size_t i = 0; i < heat.runners.size(); ++i)
-            for (std::size_t lane = 0; lane < kCount; ++lane)
-                heat.runners[i].sum += static_cast<Number>(heat.sums[i * kCount + lane]);
+    for (std::size_t i = 0; i < heat.runners.size(); ++i)
+        for (std::size_t lane = 0; lane < kCount; ++lane)
+            heat.runners[i].sum += static_cast<Number>(heat.sums[i * kCount + lane]);
+}
+
+template <class Points>
+TALLYHOOP_INLINE bool isBeaten(const Points* limits, Points before, const std::vector<Points>& points)
+{
+    using Vector = typename Lanes<Points>::Vector;
+    for (std::size_t i = 0; i < points.size(); i += Lanes<Points>::kCount) {
+        Vector limit;
+        Vector other;
+        load(limit, limits + i);
+        load(other, &points[i]);
+        if (anySet(limit + before < other))
+            return true;
+    }
+    return false;
+}
+
+template <class Points>
+TALLYHOOP_INLINE void keep(const std::vector<Points>& limits, const std::vector<Points>& points,
+                           const std::vector<std::size_t>& all, std::vector<std::size_t>& kept)
+{
+    kept.clear();
+    for (const std::size_t i : all)
+        if (!isBeaten(&limits[i * points.size()], points[i], points))
+            kept.push_back(i);
 }
 
 #if defined(__x86_64__)
@@ -158,6 +195,13 @@ template <class Points, class Number>
 [[gnu::target("avx2")]] void countWithAvx2(Heat<Points, Number>& heat)
 {
     countAll(heat);
+}
+
+template <class Points>
+[[gnu::target("avx2")]] void keepWithAvx2(const std::vector<Points>& limits, const std::vector<Points>& points,
+                                          const std::vector<std::size_t>& all, std::vector<std::size_t>& kept)
+{
+    keep(limits, points, all, kept);
 }
 
 bool hasAvx2()
@@ -181,9 +225,26 @@ void countLanes(Heat<Points, Number>& heat)
     countAll(heat);
 }
 
+template <class Points>
+void keepAlive(const std::vector<Points>& limits, const std::vector<Points>& points,
+               const std::vector<std::size_t>& all, std::vector<std::size_t>& kept)
+{
+#if defined(__x86_64__)
+    if (hasAvx2()) {
+        keepWithAvx2(limits, points, all, kept);
+        return;
+    }
+#endif
+    keep(limits, points, all, kept);
+}
+
 template void countLanes(Heat<std::int16_t, std::uint64_t>&);
 template void countLanes(Heat<std::int32_t, std::uint64_t>&);
 template void countLanes(Heat<std::int16_t, double>&);
 template void countLanes(Heat<std::int32_t, double>&);
+template void keepAlive(const std::vector<std::int16_t>&, const std::vector<std::int16_t>&,
+                        const std::vector<std::size_t>&, std::vector<std::size_t>&);
+template void keepAlive(const std::vector<std::int32_t>&, const std::vector<std::int32_t>&,
+                        const std::vector<std::size_t>&, std::vector<std::size_t>&);
 
 } // namespace tallyhoop

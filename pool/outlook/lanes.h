@@ -23,65 +23,57 @@ struct Lanes {
     static constexpr std::size_t padded(std::size_t numbers) { return (numbers + kCount - 1) / kCount * kCount; }
 };
 
-/// What a lane counts: outcomes, or their chances. The counter of outcomes has as many bits as the points.
+/// The weight of a lane: how many outcomes it counts for, or how likely they are. What counts has as many bits as the
+/// points.
+/// @tparam Number std::uint64_t for outcomes, double for chances
 template <class Points, class Number>
-using LaneCounter = std::conditional_t<std::is_integral_v<Number>, std::make_unsigned_t<Points>, float>;
+using LaneWeight = std::conditional_t<std::is_integral_v<Number>, std::make_unsigned_t<Points>, float>;
 
 /// One who may be first in some of the lanes. The pointers are to as many numbers as there are lanes.
 template <class Points, class Number>
-struct Runner {
-    const Points* points = nullptr;               ///< in each lane
-    Points before = 0;                            ///< points that come on top in every lane
-    Points players = 1;                           ///< how many have these points
-    LaneCounter<Points, Number>* alone = nullptr; ///< raised in the lanes in which the runner is first and one player
-    Number sum{};                                 ///< raised by the lanes counted so
+struct HeatRunner {
+    const Points* points = nullptr;              ///< in each lane
+    Points before = 0;                           ///< points that come on top in every lane
+    Points players = 1;                          ///< how many have these points
+    LaneWeight<Points, Number>* alone = nullptr; ///< raised in the lanes in which the runner is first and one player
+    Number sum{};                                ///< raised by the weights of these lanes
 };
 
-/// Lanes of one vector in which several players are first.
+/// Lanes of one vector in which a runner is first together with others.
 template <class Points>
 struct Tie {
-    std::size_t vector = 0; ///< number of the vector
+    std::size_t firstLane = 0;
     std::size_t runner = 0;
-    std::size_t players = 0;                           ///< how many are first in them, 2 or more
+    std::size_t players = 0;                           ///< how many are first, 2 or more
     std::array<Points, Lanes<Points>::kCount> lanes{}; ///< -1 for those in which it is so, 0 for others
 };
 
 /// A comparison of some runners in all lanes.
 template <class Points, class Number>
 struct Heat {
-    std::size_t lanes = 0;                       ///< a multiple of Lanes<Points>::kCount
-    const Points* inUse = nullptr;               ///< -1 for each lane, 0 for those that only fill up the last vector
-    const float* laneChances = nullptr;          ///< with chances only: of each lane, given what comes before
-    float chance = 1;                            ///< with chances only: of what comes before
-    std::vector<Runner<Points, Number>> runners; ///< 1 or more
-    std::vector<Tie<Points>> ties;               ///< those found; one for each runner in it
+    std::size_t lanes = 0;                               ///< a multiple of Lanes<Points>::kCount
+    const Points* inUse = nullptr;                       ///< -1 for each lane, 0 for those that fill up a vector
+    const LaneWeight<Points, Number>* weights = nullptr; ///< of each lane; counts add up to no more than they hold
+    LaneWeight<Points, Number> before = 1;               ///< by so much `alone` is raised
+    std::vector<HeatRunner<Points, Number>> runners;     ///< 1 or more
+    std::vector<Tie<Points>> ties;                       ///< those found, one for each runner in it
 
-    std::vector<Points> scores; ///< for the use of countLanes()
-    std::vector<Points> sums;   ///< likewise
+    std::vector<Points> scores;                   ///< for the use of countLanes()
+    std::vector<LaneWeight<Points, Number>> sums; ///< likewise
 };
 
 /// Finds who is first in each lane. Those alone are counted; ties are listed.
 template <class Points, class Number>
 void countLanes(Heat<Points, Number>& heat);
 
-/// @returns whether for some i limits[i] + before < others[i]
-/// @param lanes a multiple of Lanes<Points>::kCount
+/// Keeps of some runners those who can still be first.
+/// @param limits runner by runner, in rows of a multiple of Lanes<Points>::kCount: the most by which the one can still
+///               gain on each other; what fills up a row is out of reach
+/// @param points a row
+/// @param all    indices of runners
+/// @param kept   those of them who are not behind anybody by more than their limit
 template <class Points>
-inline bool isBeaten(const Points* limits, Points before, const Points* others, std::size_t lanes)
-{
-    using Vector = typename Lanes<Points>::Vector;
-    for (std::size_t i = 0; i < lanes; i += Lanes<Points>::kCount) {
-        Vector limit;
-        Vector other;
-        __builtin_memcpy(&limit, limits + i, sizeof limit);
-        __builtin_memcpy(&other, others + i, sizeof other);
-        const auto less = limit + before < other;
-        std::array<std::uint64_t, Lanes<Points>::kBytes / sizeof(std::uint64_t)> words;
-        __builtin_memcpy(&words, &less, sizeof words);
-        if ((words[0] | words[1] | words[2] | words[3]) != 0)
-            return true;
-    }
-    return false;
-}
+void keepAlive(const std::vector<Points>& limits, const std::vector<Points>& points,
+               const std::vector<std::size_t>& all, std::vector<std::size_t>& kept);
 
 } // namespace tallyhoop
