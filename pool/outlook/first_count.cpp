@@ -1,117 +1,95 @@
-// pool/outlook/first_count.cpp - hands the counts of those who run as one to each of the players.
+// pool/outlook/first_count.cpp - hands what was counted for those who run as one to each of the players.
 #include "pool/outlook/first_count.h"
 
-#include "pool/outlook/count_tree.h"
-#include "pool/outlook/runners.h"
+#include "pool/outlook/counted_runners.h"
 
-#include <cstdlib>
+#include <utility>
 
 namespace tallyhoop {
 
 namespace {
 
-/// A count for points of any size.
-class Tree
+void add(FirstChances& chances, std::size_t together, double chance)
 {
-public:
-    virtual ~Tree() = default;
-    virtual std::size_t slices() const = 0;
-    virtual void count(std::size_t slice) = 0;
+    (together == 1 ? chances.alone : chances.together) += chance;
+    chances.share += chance / static_cast<double>(together);
+}
 
-    /// Adds what was counted for a runner to each player that it stands for.
-    virtual void addTo(FirstOutlook& outlook, const std::vector<std::vector<std::size_t>>& playersOf) const = 0;
-};
-
-template <class Points>
-class TreeOf : public Tree
+template <class Count>
+auto countedAll(Count count)
 {
-public:
-    TreeOf(const Contest& contest, const std::vector<std::size_t>& players) : m_tree{contest, players, {}} {}
-
-    std::size_t slices() const override { return m_tree.slices(); }
-    void count(std::size_t slice) override { m_tree.count(slice); }
-
-    void addTo(FirstOutlook& outlook, const std::vector<std::vector<std::size_t>>& playersOf) const override
-    {
-        for (std::size_t runner = 0; runner < playersOf.size(); ++runner)
-            for (const std::size_t player : playersOf[runner])
-                add(runner, playersOf.size(), outlook.players[player]);
-    }
-
-private:
-    void add(std::size_t runner, std::size_t runners, PlayerFirsts& firsts) const
-    {
-        firsts.witness = m_tree.witness(runner);
-        for (const auto& count : m_tree.counts()) {
-            firsts.all.add(count.together, count.all[runner]);
-            for (std::size_t game = 0; game < firsts.ifUpperWins.size(); ++game)
-                firsts.ifUpperWins[game].add(count.together, count.ifUpperWins[game * runners + runner]);
-        }
-    }
-
-    CountTree<Points, std::uint64_t> m_tree;
-};
-
-std::int32_t sumOfPayoffs(const Contest& contest)
-{
-    std::int32_t sum = 0;
-    for (const Position game : gamePositions())
-        sum += std::abs(contest.payoff(game));
-    return sum;
+    while (!count.isDone())
+        count.advance();
+    return count.outlook();
 }
 
 } // namespace
 
-class FirstCount::Work
+class FirstCount::Work : public CountedRunners<std::uint64_t>
 {
 public:
     explicit Work(const Contest& contest)
-        : m_runners{runnersOf(contest)},
+        : CountedRunners{contest, {}},
           m_players{contest.players()},
           m_games{contest.games().size()},
           m_outcomes{contest.games().outcomes()}
     {
-        std::vector<std::size_t> counts;
-        for (const std::vector<std::size_t>& players : m_runners.players)
-            counts.push_back(players.size());
-        if (counts.empty())
-            return;
-        if (sumOfPayoffs(contest) <= kMostSmallPoints)
-            m_tree = std::make_unique<TreeOf<std::int16_t>>(m_runners.contest, counts);
-        else
-            m_tree = std::make_unique<TreeOf<std::int32_t>>(m_runners.contest, counts);
-    }
-
-    bool isDone() const { return m_next == slices(); }
-    double fraction() const { return isDone() ? 1 : static_cast<double>(m_next) / static_cast<double>(slices()); }
-
-    void advance()
-    {
-        if (!isDone())
-            m_tree->count(m_next++);
     }
 
     FirstOutlook outlook() const
     {
-        FirstOutlook outlook;
-        outlook.outcomes = m_outcomes;
-        outlook.players.resize(m_players);
+        FirstOutlook outlook{m_outcomes, std::vector<PlayerFirsts>(m_players)};
         for (PlayerFirsts& player : outlook.players)
             player.ifUpperWins.resize(m_games);
-        if (m_tree)
-            m_tree->addTo(outlook, m_runners.players);
+        forEachPlayer([&](std::size_t player, std::size_t runner, std::size_t runners, const auto& tree) {
+            PlayerFirsts& firsts = outlook.players[player];
+            firsts.witness = tree.witness(runner);
+            for (const auto& count : tree.counts()) {
+                firsts.all.add(count.together, count.all[runner]);
+                for (std::size_t game = 0; game < m_games; ++game)
+                    firsts.ifUpperWins[game].add(count.together, count.ifUpperWins[game * runners + runner]);
+            }
+        });
         return outlook;
     }
 
 private:
-    std::size_t slices() const { return m_tree ? m_tree->slices() : 0; }
-
-    Runners m_runners;
     std::size_t m_players;
     std::size_t m_games;
     std::uint64_t m_outcomes;
-    std::unique_ptr<Tree> m_tree;
-    std::size_t m_next = 0;
+};
+
+class ChanceCount::Work : public CountedRunners<double>
+{
+public:
+    Work(const Contest& contest, const UpperChance& upperChance)
+        : CountedRunners{contest, upperChance}, m_players{contest.players()}, m_games{contest.games().size()}
+    {
+    }
+
+    ChanceOutlook outlook() const
+    {
+        ChanceOutlook outlook{std::vector<PlayerChances>(m_players), std::vector<double>(m_games)};
+        for (PlayerChances& player : outlook.players)
+            player.andUpperWins.resize(m_games);
+        forEachPlayer([&](std::size_t player, std::size_t runner, std::size_t runners, const auto& tree) {
+            PlayerChances& chances = outlook.players[player];
+            for (const auto& count : tree.counts()) {
+                add(chances.all, count.together, count.all[runner]);
+                for (std::size_t game = 0; game < m_games; ++game)
+                    add(chances.andUpperWins[game], count.together, count.ifUpperWins[game * runners + runner]);
+            }
+        });
+        // In every outcome the shares of the players make one.
+        for (const PlayerChances& player : outlook.players)
+            for (std::size_t game = 0; game < m_games; ++game)
+                outlook.upperWins[game] += player.andUpperWins[game].share;
+        return outlook;
+    }
+
+private:
+    std::size_t m_players;
+    std::size_t m_games;
 };
 
 FirstCount::FirstCount(const Contest& contest) : m_work{std::make_unique<Work>(contest)} {}
@@ -124,12 +102,24 @@ double FirstCount::fraction() const { return m_work->fraction(); }
 void FirstCount::advance() { m_work->advance(); }
 FirstOutlook FirstCount::outlook() const { return m_work->outlook(); }
 
-FirstOutlook countFirsts(const Contest& contest)
+ChanceCount::ChanceCount(const Contest& contest, UpperChance upperChance)
+    : m_work{std::make_unique<Work>(contest, std::move(upperChance))}
 {
-    FirstCount count{contest};
-    while (!count.isDone())
-        count.advance();
-    return count.outlook();
+}
+ChanceCount::~ChanceCount() = default;
+ChanceCount::ChanceCount(ChanceCount&&) noexcept = default;
+ChanceCount& ChanceCount::operator=(ChanceCount&&) noexcept = default;
+
+bool ChanceCount::isDone() const { return m_work->isDone(); }
+double ChanceCount::fraction() const { return m_work->fraction(); }
+void ChanceCount::advance() { m_work->advance(); }
+ChanceOutlook ChanceCount::outlook() const { return m_work->outlook(); }
+
+FirstOutlook countFirsts(const Contest& contest) { return countedAll(FirstCount{contest}); }
+
+ChanceOutlook countChances(const Contest& contest, UpperChance upperChance)
+{
+    return countedAll(ChanceCount{contest, std::move(upperChance)});
 }
 
 } // namespace tallyhoop

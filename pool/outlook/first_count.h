@@ -1,6 +1,7 @@
 // pool/outlook/first_count.h - counts every outcome of the open games: who is first in how many of them.
 #pragma once
 
+#include "pool/outlook/chances.h"
 #include "pool/outlook/contest.h"
 #include "pool/outlook/first_places.h"
 
@@ -39,7 +40,31 @@ private:
     std::unique_ptr<Work> m_work;
 };
 
-/// Counts all at once, for tests and for few open games.
+/// Adds up chances in the same way.
+class ChanceCount
+{
+public:
+    /// @param upperChance called while it is prepared and while it counts
+    /// @pre as for FirstCount
+    ChanceCount(const Contest& contest, UpperChance upperChance);
+    ~ChanceCount();
+    ChanceCount(ChanceCount&&) noexcept;
+    ChanceCount& operator=(ChanceCount&&) noexcept;
+
+    bool isDone() const;
+    double fraction() const;
+    void advance();
+
+    /// @pre isDone()
+    ChanceOutlook outlook() const;
+
+private:
+    class Work;
+    std::unique_ptr<Work> m_work;
+};
+
+/// Counts all at once, for few open games.
 FirstOutlook countFirsts(const Contest& contest);
+ChanceOutlook countChances(const Contest& contest, UpperChance upperChance);
 
 } // namespace tallyhoop

@@ -45,4 +45,19 @@ FirstPlaces PlayerFirsts::given(std::size_t openGame, Side side) const
     return side == Side::Upper ? upper : without(all, upper);
 }
 
+FirstChances ChanceOutlook::given(std::size_t player, std::size_t openGame, Side side) const
+{
+    const PlayerChances& own = players.at(player);
+    const FirstChances& upper = own.andUpperWins.at(openGame);
+    if (side == Side::Upper) {
+        const double wins = upperWins.at(openGame);
+        return wins > 0 ? FirstChances{upper.alone / wins, upper.together / wins, upper.share / wins} : own.all;
+    }
+    const double wins = 1 - upperWins.at(openGame);
+    if (wins <= 0)
+        return own.all;
+    return {(own.all.alone - upper.alone) / wins, (own.all.together - upper.together) / wins,
+            (own.all.share - upper.share) / wins};
+}
+
 } // namespace tallyhoop

@@ -52,4 +52,28 @@ struct FirstOutlook {
     std::vector<PlayerFirsts> players; ///< in the order of the contest
 };
 
+/// How likely a player is to be first, 0..1. Chances, not counts: rounded like all calculations with them.
+struct FirstChances {
+    double alone = 0;
+    double together = 0; ///< with one or more others
+    double share = 0;    ///< of first place: where k players share it, each has 1/k of the chance
+
+    friend bool operator==(const FirstChances&, const FirstChances&) = default;
+};
+
+/// The chances of one player.
+struct PlayerChances {
+    FirstChances all;
+    std::vector<FirstChances> andUpperWins; ///< for each open game: that this comes true and its upper side wins
+};
+
+/// The chances of every player to be first.
+struct ChanceOutlook {
+    std::vector<PlayerChances> players; ///< in the order of the contest
+    std::vector<double> upperWins;      ///< for each open game: that its upper side wins; 0 without players
+
+    /// @returns a player's chances once this side has won an open game; those at all when it has no chance to win
+    FirstChances given(std::size_t player, std::size_t openGame, Side side) const;
+};
+
 } // namespace tallyhoop

@@ -1,20 +1,16 @@
 // pool/outlook/region_points.h - what the outcomes of one region bring the players, sorted by who wins the region.
 #pragma once
 
+#include "pool/outlook/chances.h"
 #include "pool/outlook/contest.h"
 #include "pool/outlook/lanes.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 namespace tallyhoop {
-
-/// The chance that the upper team wins an open game when these two meet in it, 0..1.
-/// @param openGame index in OpenGames::games()
-using UpperChance = std::function<double(std::size_t openGame, TeamNumber upper, TeamNumber lower)>;
 
 /// All outcomes of a region's open games after which the same team has won it. The regions and the last three games
 /// have nothing in common but these teams.
