@@ -20,6 +20,7 @@ CountTree<Points, Number>::CountTree(const Contest& contest, const std::vector<s
       m_race{players},
       m_witnesses(contest.players())
 {
+    addLeads(contest, m_regions);
     std::iota(m_everybody.begin(), m_everybody.end(), std::size_t{0});
     for (const RegionPoints<Points>& region : m_regions)
         m_slices *= region.ends.size();

@@ -31,13 +31,43 @@ Margins::Margins(const Contest& contest) : m_contest{contest}
         const std::size_t candidates = contest.games().candidates(position).size();
         m_leads[position].assign(std::max(candidates, std::size_t{1}), Leads(contest.players()));
     }
+    findClosed();
+}
+
+void Margins::findClosed()
+{
+    const OpenGames& open = m_contest.games();
+    ByPosition<bool> isClosed;
+    for (const Position position : allPositions()) {
+        const auto from = feeders(position);
+        isClosed[position] = !from || (isClosed[from->front()] && isClosed[from->back()] &&
+                                       open.candidates(position).size() <= 1 && position < kSemifinalA);
+    }
+    for (const Position game : gamePositions()) {
+        if (!isClosed[game])
+            m_open.push_back(game);
+        else if (!isClosed[*next(game)]) {
+            Closed& closed = m_closed.emplace_back(Closed{game, Leads(m_contest.players())});
+            std::vector<Position> games;
+            for (const Position before : gamePositions())
+                if (isOnPath(before, game))
+                    games.push_back(before);
+            for (std::size_t player = 0; player < m_contest.players(); ++player)
+                closed.points[player] = m_contest.points(player, open.known().numbers(), games);
+        }
+    }
 }
 
 void Margins::find(std::size_t player, std::int32_t sign)
 {
     m_player = player;
     m_sign = sign;
-    for (const Position game : gamePositions())
+    for (const Closed& closed : m_closed) {
+        Leads& leads = m_leads[closed.position].front();
+        for (std::size_t i = 0; i < leads.size(); ++i)
+            leads[i] = sign * (closed.points[player] - closed.points[i]);
+    }
+    for (const Position game : m_open)
         findAt(game);
 }
 

@@ -41,6 +41,13 @@ public:
 private:
     using Leads = std::vector<std::int32_t>; ///< one for each player
 
+    /// A position before which nothing is open, nor at it, and what the games up to it have brought each player.
+    struct Closed {
+        Position position{};
+        Leads points;
+    };
+
+    void findClosed();
     void find(std::size_t player, std::int32_t sign);
     void findAt(Position game);
     Leads most(Position position) const;
@@ -49,6 +56,8 @@ private:
     const Contest& m_contest;
     std::size_t m_player = 0;
     std::int32_t m_sign = 1;                     ///< -1 = leads over the player
+    std::vector<Closed> m_closed;                ///< the last ones on their ways, no later than the region's winner
+    std::vector<Position> m_open;                ///< those of the games that come after these, ascending
     ByPosition<std::vector<TeamNumber>> m_picks; ///< one for each player
     ByPosition<std::vector<Leads>> m_leads;      ///< one for each candidate; one where nobody comes out
 };

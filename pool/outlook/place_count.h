@@ -51,4 +51,7 @@ private:
     std::unique_ptr<Work> m_work;
 };
 
+/// Counts all at once, for few open games.
+std::vector<PlayerPlaces> countPlaces(const Contest& contest);
+
 } // namespace tallyhoop

@@ -25,14 +25,16 @@ void addLeads(std::span<const std::int32_t> leads, std::size_t leader, std::vect
     }
 }
 
-/// What the end of one outcome says about everybody's places.
-void addOutcome(std::span<const std::int32_t> points, std::vector<PlayerProspect>& prospects)
+/// What the end of one outcome says about everybody.
+void addOutcome(OutcomeNumber outcome, std::span<const std::int32_t> points, std::vector<PlayerProspect>& prospects)
 {
     std::vector<std::int32_t> sorted{points.begin(), points.end()};
     std::ranges::sort(sorted, std::greater{});
     for (std::size_t player = 0; player < points.size(); ++player) {
         const auto ahead = std::ranges::lower_bound(sorted, points[player], std::greater{}) - sorted.begin();
         const std::size_t place = static_cast<std::size_t>(ahead) + 1;
+        if (ahead == 0 && !prospects[player].witness)
+            prospects[player].witness = outcome;
         prospects[player].best.most = std::min(prospects[player].best.most, place);
         prospects[player].worst.least = std::max(prospects[player].worst.least, place);
     }
@@ -56,20 +58,21 @@ std::vector<PlayerProspect> findProspects(const Contest& contest, const Step& st
     }
     prospects = std::move(limited);
 
-    WitnessSearch search{contest};
+    const WitnessSearch search{contest};
     for (std::size_t player = 0; player < players; ++player) {
-        PlayerProspect& prospect = prospects[player];
-        const WitnessSearch::Found found = search.bestFor(player, !prospect.rival);
-        addOutcome(found.points, prospects);
-        if (prospect.rival) {
-            prospect.prospect = Prospect::Out;
-        } else if (found.points[player] == std::ranges::max(found.points)) {
-            prospect.prospect = prospect.worst.most == 1 ? Prospect::Clinched : Prospect::Alive;
-            prospect.witness = found.outcome;
-        }
+        const PlayerProspect& own = prospects[player];
+        const WitnessSearch::Found found = search.bestFor(player, !own.rival && !own.witness);
+        addOutcome(found.outcome, found.points, prospects);
         if (!step())
             break;
     }
+    for (PlayerProspect& prospect : prospects)
+        if (prospect.rival)
+            prospect.prospect = Prospect::Out;
+        else if (prospect.worst.most == 1)
+            prospect.prospect = Prospect::Clinched;
+        else if (prospect.witness)
+            prospect.prospect = Prospect::Alive;
     return prospects;
 }
 

@@ -42,8 +42,9 @@ struct PlayerProspect {
 /// Finds what can be proven without counting, for any number of open games. Clinched is always found. Out is found
 /// where a single rival is ahead in every outcome. Alive is found where a search comes upon a witness; it nearly always
 /// does where there is one. The places are exact where the limits that any two players set each other are reached.
-/// @param step called after each player
-/// @returns one for each player, in the order of the contest; those after a stop are Open, with any place possible
+/// @param step called two times for each player; after a stop what is not proven by then stays Open, with every place
+///             possible that is not excluded by then
+/// @returns one for each player, in the order of the contest
 std::vector<PlayerProspect> findProspects(const Contest& contest, const Step& step = goOn);
 
 /// Adds what a count has found: afterwards none is Open.

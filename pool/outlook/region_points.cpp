@@ -28,6 +28,25 @@ void addOutcome(const Contest& contest, std::span<const Position> played, const 
         end->points[row + player] = static_cast<Points>(contest.points(player, teams, played));
 }
 
+} // namespace
+
+template <class Points>
+std::array<RegionPoints<Points>, kRegions> regionPoints(const Contest& contest, const UpperChance& upperChance)
+{
+    std::array<RegionPoints<Points>, kRegions> regions;
+    for (int number = 0; number < kRegions; ++number) {
+        RegionPoints<Points>& region = regions.at(static_cast<std::size_t>(number));
+        const std::span<const Position> played = gamesOfRegion(number);
+        region.games = openAmong(contest.games(), played);
+        for (const OutcomeNumber outcome : combinations(region.games)) {
+            ByPosition<TeamNumber> teams = contest.games().known().numbers();
+            const double chance = playAll(contest.games(), played, outcome, teams, upperChance);
+            addOutcome(contest, played, teams, outcome, chance, region.ends);
+        }
+    }
+    return regions;
+}
+
 template <class Points>
 void addLeads(const Contest& contest, std::array<RegionPoints<Points>, kRegions>& regions)
 {
@@ -48,28 +67,11 @@ void addLeads(const Contest& contest, std::array<RegionPoints<Points>, kRegions>
     }
 }
 
-} // namespace
-
-template <class Points>
-std::array<RegionPoints<Points>, kRegions> regionPoints(const Contest& contest, const UpperChance& upperChance)
-{
-    std::array<RegionPoints<Points>, kRegions> regions;
-    for (int number = 0; number < kRegions; ++number) {
-        RegionPoints<Points>& region = regions.at(static_cast<std::size_t>(number));
-        const std::span<const Position> played = gamesOfRegion(number);
-        region.games = openAmong(contest.games(), played);
-        for (const OutcomeNumber outcome : combinations(region.games)) {
-            ByPosition<TeamNumber> teams = contest.games().known().numbers();
-            const double chance = playAll(contest.games(), played, outcome, teams, upperChance);
-            addOutcome(contest, played, teams, outcome, chance, region.ends);
-        }
-    }
-    addLeads(contest, regions);
-    return regions;
-}
-
 template std::array<RegionPoints<std::int16_t>, kRegions> regionPoints(const Contest&, const UpperChance&);
 template std::array<RegionPoints<std::int32_t>, kRegions> regionPoints(const Contest&, const UpperChance&);
+
+template void addLeads(const Contest&, std::array<RegionPoints<std::int16_t>, kRegions>&);
+template void addLeads(const Contest&, std::array<RegionPoints<std::int32_t>, kRegions>&);
 
 double playAll(const OpenGames& games, std::span<const Position> played, OutcomeNumber outcome,
                ByPosition<TeamNumber>& teams, const UpperChance& upperChance)

@@ -21,7 +21,7 @@ struct RegionEnd {
     std::vector<OutcomeNumber> outcomes; ///< ascending, 1 or more; the bits of all other games are 0
     std::vector<double> chances;         ///< of each outcome; 1 without chances
     std::vector<Points> points;          ///< outcome by outcome, in rows: what it brings each player
-    std::vector<Points> leads;           ///< player by player, in rows: the largest of him over each player
+    std::vector<Points> leads; ///< see addLeads(); player by player, in rows: the largest of him over each player
 };
 
 /// One region. A row has Lanes<Points>::padded(players) numbers, 0 at its end.
@@ -32,9 +32,13 @@ struct RegionPoints {
 };
 
 /// @param upperChance empty = without chances
-/// @returns the four regions of a contest
+/// @returns the four regions of a contest, without leads
 template <class Points>
 std::array<RegionPoints<Points>, kRegions> regionPoints(const Contest& contest, const UpperChance& upperChance = {});
+
+/// Finds the leads in the regions of a contest.
+template <class Points>
+void addLeads(const Contest& contest, std::array<RegionPoints<Points>, kRegions>& regions);
 
 /// Fills in the winners of some neighbouring games as an outcome says.
 /// @param upperChance empty = without chances

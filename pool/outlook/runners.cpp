@@ -91,13 +91,19 @@ std::vector<std::size_t> notBehind(const Contest& contest)
 
 } // namespace
 
-Runners runnersOf(const Contest& contest)
+Runners allRunners(const Contest& contest)
 {
     Runners runners{contest, grouped(contest)};
     std::vector<std::size_t> first;
     for (const std::vector<std::size_t>& group : runners.players)
         first.push_back(group.front());
     runners.contest = contest.among(first);
+    return runners;
+}
+
+Runners runnersOf(const Contest& contest)
+{
+    Runners runners = allRunners(contest);
     for (const auto find : {&notFarBehind, &notBehind}) {
         const std::vector<std::size_t> kept = find(runners.contest);
         runners.contest = runners.contest.among(kept);

@@ -15,6 +15,9 @@ struct Runners {
         players; ///< of each: those who have these points, in the order of the contest
 };
 
+/// @returns all players
+Runners allRunners(const Contest& contest);
+
 /// Leaves out everyone who is behind some other player in every outcome.
 /// @returns one runner or more when there are players
 Runners runnersOf(const Contest& contest);

@@ -38,7 +38,7 @@ WitnessSearch::Found WitnessSearch::bestFor(std::size_t player, bool climb) cons
         improved = false;
         const Found start = best;
         for (std::size_t game = 0; game < m_contest.games().size(); ++game) {
-            Found changed = evaluated(start.outcome ^ OutcomeNumber{1} << game);
+            Found changed = changedAt(start, game);
             const std::int32_t changedLead = leadOf(player, changed.points);
             if (changedLead <= lead)
                 continue;
@@ -48,6 +48,25 @@ WitnessSearch::Found WitnessSearch::bestFor(std::size_t player, bool climb) cons
         }
     }
     return best;
+}
+
+/// Only the places that change are scored anew.
+WitnessSearch::Found WitnessSearch::changedAt(const Found& start, std::size_t game) const
+{
+    Found changed{start.outcome ^ OutcomeNumber{1} << game, {}, start.points};
+    changed.teams = m_contest.games().outcomeNumbers(changed.outcome);
+    for (const Position position : gamePositions()) {
+        const TeamNumber before = start.teams[position];
+        const TeamNumber after = changed.teams[position];
+        if (before == after)
+            continue;
+        for (std::size_t player = 0; player < changed.points.size(); ++player) {
+            const TeamNumber pick = m_contest.picks(player)[position];
+            if (pick != kNoTeam && (pick == before || pick == after))
+                changed.points[player] += pick == after ? m_contest.payoff(position) : -m_contest.payoff(position);
+        }
+    }
+    return changed;
 }
 
 OutcomeNumber WitnessSearch::ownOutcome(std::size_t player) const
@@ -74,10 +93,9 @@ OutcomeNumber WitnessSearch::ownOutcome(std::size_t player) const
 
 WitnessSearch::Found WitnessSearch::evaluated(OutcomeNumber outcome) const
 {
-    const ByPosition<TeamNumber> teams = m_contest.games().outcomeNumbers(outcome);
-    Found found{outcome, std::vector<std::int32_t>(m_contest.players())};
+    Found found{outcome, m_contest.games().outcomeNumbers(outcome), std::vector<std::int32_t>(m_contest.players())};
     for (std::size_t player = 0; player < found.points.size(); ++player)
-        found.points[player] = m_contest.points(player, teams);
+        found.points[player] = m_contest.points(player, found.teams);
     return found;
 }
 

@@ -16,6 +16,7 @@ class WitnessSearch
 public:
     struct Found {
         OutcomeNumber outcome = 0;
+        ByPosition<TeamNumber> teams;     ///< who wins in it
         std::vector<std::int32_t> points; ///< every player's at the end of it
     };
 
@@ -28,6 +29,7 @@ public:
 private:
     OutcomeNumber ownOutcome(std::size_t player) const;
     Found evaluated(OutcomeNumber outcome) const;
+    Found changedAt(const Found& start, std::size_t game) const;
 
     const Contest& m_contest;
 };

@@ -79,5 +79,108 @@ TEST(FirstCount, AgreesWithScoringOnDamagedBrackets)
     }
 }
 
+TEST(FirstCount, HasNobodyWithoutPlayersAndOnePlayerInEveryOutcome)
+{
+    const Contest nobody{test::InventedPools{1}.withOpen(test::InventedPools{2}.picked(), 15), {}, test::kUsualPayoffs};
+    EXPECT_EQ(countFirsts(nobody).outcomes, 32768u);
+    EXPECT_TRUE(countFirsts(nobody).players.empty());
+
+    InventedPools pools{3};
+    const std::vector<Bracket> one{pools.picked()};
+    const FirstOutlook outlook = countFirsts({pools.withOpen(pools.picked(), 15), one, test::kUsualPayoffs});
+    EXPECT_EQ(outlook.players[0].all, (FirstPlaces{32768, {}}));
+    EXPECT_EQ(outlook.players[0].ifUpperWins[7], (FirstPlaces{16384, {}}));
+    EXPECT_EQ(outlook.players[0].given(7, Side::Lower), (FirstPlaces{16384, {}}));
+}
+
+TEST(FirstCount, AddsUpToTheNumberOfOutcomes)
+{
+    InventedPools pools{18};
+    for (const std::size_t open : {13, 18, 20}) {
+        const FirstOutlook outlook =
+            countFirsts({pools.withOpen(pools.picked(), open), pools.office(40), test::kUsualPayoffs});
+        std::uint64_t sum = 0;
+        for (std::size_t together = 1; together <= 40; ++together) {
+            std::uint64_t first = 0;
+            for (const PlayerFirsts& player : outlook.players)
+                if (together == 1)
+                    first += player.all.alone;
+                else if (player.all.shared.size() > together - 2)
+                    first += player.all.shared[together - 2];
+            ASSERT_EQ(first % together, 0u) << together;
+            sum += first / together;
+        }
+        EXPECT_EQ(sum, std::uint64_t{1} << open);
+    }
+}
+
+TEST(FirstCount, FollowsThePlayersWhenTheyChangePlaces)
+{
+    InventedPools pools{19};
+    const Bracket results = pools.withOpen(pools.picked(), 15);
+    std::vector<Bracket> picks = pools.office(20);
+    const FirstOutlook outlook = countFirsts({results, picks, test::kUsualPayoffs});
+    std::ranges::reverse(picks);
+    const FirstOutlook reversed = countFirsts({results, picks, test::kUsualPayoffs});
+    for (std::size_t player = 0; player < picks.size(); ++player) {
+        EXPECT_EQ(outlook.players[player].all, reversed.players[19 - player].all);
+        EXPECT_EQ(outlook.players[player].ifUpperWins, reversed.players[19 - player].ifUpperWins);
+    }
+}
+
+TEST(FirstCount, GivesAPlayerAndHisCopyHalfEach)
+{
+    InventedPools pools{20};
+    const Bracket results = pools.withOpen(pools.picked(), 15);
+    std::vector<Bracket> picks = pools.office(12);
+    const FirstOutlook outlook = countFirsts({results, picks, test::kUsualPayoffs});
+    const auto most =
+        std::ranges::max_element(outlook.players, {}, [](const PlayerFirsts& player) { return player.all.alone; });
+    const auto player = static_cast<std::size_t>(most - outlook.players.begin());
+    ASSERT_GT(most->all.alone, 0u);
+    picks.push_back(picks[player]);
+    const FirstOutlook copied = countFirsts({results, picks, test::kUsualPayoffs});
+    // What was his alone is now shared by two; what he shared with k - 1 is shared by k + 1.
+    const FirstPlaces& now = copied.players[player].all;
+    EXPECT_EQ(now.alone, 0u);
+    EXPECT_EQ(now.shared.at(0), most->all.alone);
+    for (std::size_t i = 0; i < most->all.shared.size(); ++i)
+        EXPECT_EQ(now.shared.at(i + 1), most->all.shared[i]);
+    EXPECT_EQ(copied.players.back().all, now);
+}
+
+TEST(FirstCount, LeavesTheConditionalFiguresWhenAResultIsEntered)
+{
+    InventedPools pools{21};
+    const std::vector<Bracket> picks = pools.office(15);
+    Bracket results = pools.withOpen(pools.picked(), 14);
+    const Contest contest{results, picks, test::kUsualPayoffs};
+    const FirstOutlook outlook = countFirsts(contest);
+    // Game 0 is one whose two teams are known.
+    const Position game = contest.games().games()[0];
+    for (const Side side : {Side::Upper, Side::Lower}) {
+        results.copy((*feeders(game))[side == Side::Upper ? 0 : 1], game);
+        const FirstOutlook entered = countFirsts({results, picks, test::kUsualPayoffs});
+        for (std::size_t player = 0; player < picks.size(); ++player)
+            EXPECT_EQ(outlook.players[player].given(0, side), entered.players[player].all);
+    }
+}
+
+TEST(FirstCount, CanBeStoppedAndTellsHowFarItIs)
+{
+    InventedPools pools{22};
+    FirstCount count{Contest{pools.withOpen(pools.picked(), 15), pools.office(9), test::kUsualPayoffs}};
+    EXPECT_EQ(count.fraction(), 0);
+    double last = 0;
+    while (!count.isDone()) {
+        count.advance();
+        EXPECT_GT(count.fraction(), last);
+        last = count.fraction();
+    }
+    EXPECT_EQ(last, 1);
+    count.advance(); // nothing
+    EXPECT_EQ(count.outlook().outcomes, 32768u);
+}
+
 } // namespace
 } // namespace tallyhoop

@@ -1,0 +1,167 @@
+// tests/pool/outlook/chance_count_test.cpp - chances against the sum over every outcome, and where they come from.
+#include "pool/outlook/first_count.h"
+
+#include "pool/outlook/invented_pools.h"
+#include "pool/sample_brackets.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+using test::InventedPools;
+
+/// Some chance for every pairing, 0 and 1 among them.
+double someChance(std::size_t game, TeamNumber upper, TeamNumber lower)
+{
+    return static_cast<double>((game * 7 + upper * 3U + lower * 5U) % 11) / 10;
+}
+
+double chanceOf(const Contest& contest, OutcomeNumber outcome, const UpperChance& upperChance)
+{
+    const OpenGames& games = contest.games();
+    const ByPosition<TeamNumber> teams = games.outcomeNumbers(outcome);
+    double chance = 1;
+    for (std::size_t i = 0; i < games.size(); ++i) {
+        const auto [upper, lower] = test::entrantsOf(games.games()[i]);
+        const double wins = upperChance(i, teams[upper], teams[lower]);
+        chance *= sideOf(outcome, i) == Side::Upper ? wins : 1 - wins;
+    }
+    return chance;
+}
+
+/// One outcome after the other.
+ChanceOutlook summed(const Contest& contest, const UpperChance& upperChance)
+{
+    const std::size_t games = contest.games().size();
+    ChanceOutlook sums{std::vector<PlayerChances>(contest.players()), std::vector<double>(games)};
+    for (PlayerChances& player : sums.players)
+        player.andUpperWins.resize(games);
+    for (OutcomeNumber outcome = 0; outcome < contest.games().outcomes(); ++outcome) {
+        const double chance = chanceOf(contest, outcome, upperChance);
+        std::vector<std::int32_t> points;
+        for (std::size_t player = 0; player < contest.players(); ++player)
+            points.push_back(contest.points(player, contest.games().outcomeNumbers(outcome)));
+        const std::int32_t most = std::ranges::max(points);
+        const auto together = static_cast<double>(std::ranges::count(points, most));
+        const auto add = [&](FirstChances& chances) {
+            (together == 1 ? chances.alone : chances.together) += chance;
+            chances.share += chance / together;
+        };
+        for (std::size_t player = 0; player < points.size(); ++player) {
+            if (points[player] < most)
+                continue;
+            add(sums.players[player].all);
+            for (std::size_t game = 0; game < games; ++game)
+                if (sideOf(outcome, game) == Side::Upper)
+                    add(sums.players[player].andUpperWins[game]);
+        }
+        for (std::size_t game = 0; game < games; ++game)
+            sums.upperWins[game] += sideOf(outcome, game) == Side::Upper ? chance : 0;
+    }
+    return sums;
+}
+
+void expectClose(const FirstChances& chances, const FirstChances& expected)
+{
+    ASSERT_NEAR(chances.alone, expected.alone, 1e-6);
+    ASSERT_NEAR(chances.together, expected.together, 1e-6);
+    ASSERT_NEAR(chances.share, expected.share, 1e-6);
+}
+
+TEST(ChanceCount, AgreesWithTheSumOverEveryOutcome)
+{
+    InventedPools pools{77};
+    for (int round = 0; round < 100; ++round) {
+        const std::vector<Bracket> picks = pools.office(1 + pools.number(8));
+        const Contest contest{pools.withOpenAnywhere(pools.picked(), pools.number(10)), picks, pools.payoffs()};
+        const ChanceOutlook outlook = countChances(contest, someChance);
+        const ChanceOutlook expected = summed(contest, someChance);
+        for (std::size_t player = 0; player < picks.size(); ++player) {
+            ASSERT_NO_FATAL_FAILURE(expectClose(outlook.players[player].all, expected.players[player].all));
+            for (std::size_t game = 0; game < contest.games().size(); ++game) {
+                ASSERT_NO_FATAL_FAILURE(expectClose(outlook.players[player].andUpperWins[game],
+                                                    expected.players[player].andUpperWins[game]));
+                ASSERT_NEAR(outlook.upperWins[game], expected.upperWins[game], 1e-6);
+            }
+        }
+    }
+}
+
+TEST(ChanceCount, OfOneHalfForEveryGameIsThePlainCount)
+{
+    InventedPools pools{50};
+    for (int round = 0; round < 30; ++round) {
+        const Contest contest{pools.withOpen(pools.picked(), pools.number(12)), pools.office(1 + pools.number(12)),
+                              pools.payoffs()};
+        const FirstOutlook counted = countFirsts(contest);
+        const ChanceOutlook outlook = countChances(contest, alikeChances());
+        const auto outcomes = static_cast<double>(counted.outcomes);
+        for (std::size_t player = 0; player < contest.players(); ++player) {
+            const FirstPlaces& firsts = counted.players[player].all;
+            // Halves of halves are exact; only thirds of a shared first place are rounded.
+            ASSERT_EQ(outlook.players[player].all.alone * outcomes, static_cast<double>(firsts.alone));
+            ASSERT_NEAR(outlook.players[player].all.share * outcomes, firsts.share(), 1e-9 * outcomes);
+            for (std::size_t game = 0; game < contest.games().size(); ++game) {
+                const FirstPlaces lower = counted.players[player].given(game, Side::Lower);
+                ASSERT_NEAR(outlook.given(player, game, Side::Lower).share, lower.share() / (outcomes / 2), 1e-9);
+            }
+        }
+    }
+}
+
+TEST(ChanceCount, OfAGameThatOneSideCannotLoseIsWhatTheResultMakesCertain)
+{
+    // Given: the final is open, and its lower side is sure to win.
+    InventedPools pools{3};
+    Bracket results = pools.tossed();
+    results.copy(kSemifinalB, kChampion);
+    const Bracket right = results;
+    Bracket wrong = results;
+    wrong.copy(kSemifinalA, kChampion);
+    results.clear(kChampion);
+    const Contest contest{results, std::vector<Bracket>{right, wrong}, test::kUsualPayoffs};
+    const ChanceOutlook outlook = countChances(contest, [](std::size_t, TeamNumber, TeamNumber) { return 0.0; });
+    EXPECT_EQ(outlook.players[0].all.share, 1);
+    EXPECT_EQ(outlook.players[1].all.share, 0);
+    // A side without a chance has nothing to tell.
+    EXPECT_EQ(outlook.given(1, 0, Side::Upper), outlook.players[1].all);
+}
+
+TEST(SeedChances, AreTheOtherSeedsPartOfTheSum)
+{
+    Field field = defaultField();
+    field.seeds = {"1", "16", "8", "9", "5", "12", "4", "13", "6", "11", "3", "14", "7", "10", "2", "x"};
+    const OpenGames games{test::startingField()};
+    const UpperChance chance = seedChances(games, field);
+    const auto team = [&](const char* name) { return games.known().names().numberOf(name); };
+    EXPECT_DOUBLE_EQ(chance(0, team("Team 1"), team("Team 2")), 16.0 / 17.0);
+    EXPECT_DOUBLE_EQ(chance(0, team("Team 2"), team("Team 1")), 1.0 / 17.0);
+    EXPECT_DOUBLE_EQ(chance(0, team("Team 17"), team("Team 1")), 0.5);
+    EXPECT_DOUBLE_EQ(chance(0, team("Team 15"), team("Team 16")), 0.5) << "not a number";
+}
+
+TEST(PickedChances, AreThePartsOfThePlayersWithAFloor)
+{
+    // Given: the final is open; three of four players have Team 1 as champion, one has Team 33, nobody Team 17.
+    const Bracket results = test::without(test::everyUpperTeamWins(), 126, 126);
+    std::vector<Bracket> picks(4, test::everyUpperTeamWins());
+    picks[3].put(kChampion, "Team 33");
+    const Contest contest{results, picks, test::kUsualPayoffs};
+    const UpperChance chance = pickedChances(contest);
+    const auto team = [&](const char* name) { return contest.games().known().names().numberOf(name); };
+    EXPECT_DOUBLE_EQ(chance(0, team("Team 1"), team("Team 33")), 0.75);
+    EXPECT_DOUBLE_EQ(chance(0, team("Team 1"), team("Team 17")), 0.75 / 0.77);
+    EXPECT_DOUBLE_EQ(chance(0, team("Team 17"), team("Team 49")), 0.5);
+}
+
+TEST(PickedChances, AreOneHalfWithoutPlayers)
+{
+    const Contest contest{test::startingField(), {}, test::kUsualPayoffs};
+    EXPECT_DOUBLE_EQ(pickedChances(contest)(0, 1, 2), 0.5);
+}
+
+} // namespace
+} // namespace tallyhoop
