@@ -222,6 +222,12 @@ void countLanes(Heat<Points, Number>& heat)
         return;
     }
 #endif
+    countLanesAnywhere(heat);
+}
+
+template <class Points, class Number>
+void countLanesAnywhere(Heat<Points, Number>& heat)
+{
     countAll(heat);
 }
 
@@ -242,6 +248,10 @@ template void countLanes(Heat<std::int16_t, std::uint64_t>&);
 template void countLanes(Heat<std::int32_t, std::uint64_t>&);
 template void countLanes(Heat<std::int16_t, double>&);
 template void countLanes(Heat<std::int32_t, double>&);
+template void countLanesAnywhere(Heat<std::int16_t, std::uint64_t>&);
+template void countLanesAnywhere(Heat<std::int32_t, std::uint64_t>&);
+template void countLanesAnywhere(Heat<std::int16_t, double>&);
+template void countLanesAnywhere(Heat<std::int32_t, double>&);
 template void keepAlive(const std::vector<std::int16_t>&, const std::vector<std::int16_t>&,
                         const std::vector<std::size_t>&, std::vector<std::size_t>&);
 template void keepAlive(const std::vector<std::int32_t>&, const std::vector<std::int32_t>&,

@@ -66,6 +66,10 @@ struct Heat {
 template <class Points, class Number>
 void countLanes(Heat<Points, Number>& heat);
 
+/// The same as on a processor without AVX2.
+template <class Points, class Number>
+void countLanesAnywhere(Heat<Points, Number>& heat);
+
 /// Keeps of some runners those who can still be first.
 /// @param limits runner by runner, in rows of a multiple of Lanes<Points>::kCount: the most by which the one can still
 ///               gain on each other; what fills up a row is out of reach

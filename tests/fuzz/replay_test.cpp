@@ -47,6 +47,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Replayed{"players", &fuzz::players, "players"}, Replayed{"teams", &fuzz::teams, "teams"},
                     Replayed{"settings", &fuzz::settings, "settings"}, Replayed{"scoring", &fuzz::scoring, "scoring"},
                     Replayed{"list_search", &fuzz::list_search, "list_search"},
+                    Replayed{"outlook", &fuzz::outlook, "pools"},
                     Replayed{"standings", &fuzz::standings, "pools"},
                     Replayed{"player_listing", &fuzz::player_listing, "pools"},
                     Replayed{"team_selection_summary", &fuzz::team_selection_summary, "pools"},

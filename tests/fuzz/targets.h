@@ -26,6 +26,10 @@ Complaint settings(std::string_view bytes);
 /// @param bytes lines separated by LF: six payoffs, the tie-breaker, 127 picks, 127 results; missing ones are empty
 Complaint scoring(std::string_view bytes);
 
+/// Counts who can still be first in a pool, and compares with scoring every outcome.
+/// @param bytes a pool as decodePool() takes it; of many open games or players only some are used
+Complaint outlook(std::string_view bytes);
+
 /// @name The reports: the bytes are a pool as decodePool() takes it.
 /// @{
 Complaint standings(std::string_view bytes);
