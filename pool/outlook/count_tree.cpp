@@ -96,7 +96,9 @@ void CountTree<Points, Number>::addRegion(std::size_t region, const std::vector<
             const Number ofClass = ofClasses[number * m_running.size() + i];
             if (ofClass == 0)
                 continue;
-            const Number ofWeight = ofClass * chance / classes.weights[number]; // counts: a whole number
+            const Number weight = classes.weights[number];
+            const Number ofWeight =
+                weight == 1 ? ofClass * chance : ofClass * chance / weight; // counts: a whole number
             for (std::size_t game = 0; game < games.size(); ++game)
                 count.ifUpperWins[games[game] * m_contest.players() + m_running[i]] +=
                     ofWeight * classes.ifUpperWins[number * games.size() + game];

@@ -196,11 +196,12 @@ void Race<Points, Number>::addTie(const Tie<Points>& tie, LaneWeight<Points, Num
     const LaneWeight<Points, Number>* weights = m_block.weights() + tie.firstLane;
     LaneWeight<Points, Number>* lanes = &count.lanes[i * m_block.lanes() + tie.firstLane];
     LaneWeight<Points, Number> sum{};
-    for (std::size_t lane = 0; lane < Lanes<Points>::kCount; ++lane)
-        if (tie.lanes[lane] != 0) {
-            lanes[lane] = static_cast<LaneWeight<Points, Number>>(lanes[lane] + laneWeight);
-            sum = static_cast<LaneWeight<Points, Number>>(sum + weights[lane]);
-        }
+    for (std::size_t lane = 0; lane < Lanes<Points>::kCount; ++lane) {
+        // Without branches, as ties come unpredictably.
+        const auto isTied = static_cast<LaneWeight<Points, Number>>(-tie.lanes[lane]);
+        lanes[lane] = static_cast<LaneWeight<Points, Number>>(lanes[lane] + isTied * laneWeight);
+        sum = static_cast<LaneWeight<Points, Number>>(sum + isTied * weights[lane]);
+    }
     count.sums[0][i] += static_cast<Number>(sum) * weight;
     if (!m_witnesses[i])
         findWitness(tie.runner);
@@ -228,7 +229,7 @@ void Race<Points, Number>::addSums(std::size_t level)
     }
 }
 
-/// Adds the lanes up for the classes that they combine.
+/// Adds the lanes up for the classes that they combine. Most of them are 0, often whole vectors.
 template <class Points, class Number>
 void Race<Points, Number>::addLanes(Number factor)
 {
@@ -236,19 +237,30 @@ void Race<Points, Number>::addLanes(Number factor)
     for (Count& count : m_counts) {
         if (!count.isUsed)
             continue;
-        for (std::size_t i = 0; i < m_runners.size(); ++i) {
-            LaneWeight<Points, Number>* lanes = &count.lanes[i * m_block.lanes()];
-            for (std::size_t lane = 0; lane < m_block.size(); ++lane) {
-                if (lanes[lane] == 0)
-                    continue;
-                const Number number = factor * static_cast<Number>(std::exchange(lanes[lane], 0)) *
-                                      static_cast<Number>(m_block.weights()[lane]);
-                for (std::size_t region = 0; region < m_laneRegions.size(); ++region)
-                    count.ofClasses[m_laneRegions[region]]
-                                   [m_block.stride(region).classOf(lane) * m_runners.size() + i] += number;
+        for (std::size_t i = 0; i < m_runners.size(); ++i)
+            for (std::size_t first = 0; first < m_block.lanes(); first += Lanes<Points>::kCount) {
+                LaneWeight<Points, Number>* lanes = &count.lanes[i * m_block.lanes() + first];
+                LaneWeight<Points, Number> any{};
+                for (std::size_t lane = 0; lane < Lanes<Points>::kCount; ++lane)
+                    any = static_cast<LaneWeight<Points, Number>>(any + (lanes[lane] != 0));
+                if (any != 0)
+                    addVector(first, factor, lanes, i, count);
             }
-            std::fill(lanes + m_block.size(), lanes + m_block.lanes(), LaneWeight<Points, Number>{});
-        }
+    }
+}
+
+template <class Points, class Number>
+void Race<Points, Number>::addVector(std::size_t first, Number factor, LaneWeight<Points, Number>* lanes, std::size_t i,
+                                     Count& count) const
+{
+    for (std::size_t lane = first; lane < std::min(first + Lanes<Points>::kCount, m_block.size()); ++lane) {
+        const auto raised = std::exchange(lanes[lane - first], LaneWeight<Points, Number>{});
+        if (raised == 0)
+            continue;
+        const Number number = factor * static_cast<Number>(raised) * static_cast<Number>(m_block.weights()[lane]);
+        for (std::size_t region = 0; region < m_laneRegions.size(); ++region)
+            count.ofClasses[m_laneRegions[region]][m_block.stride(region).classOf(lane) * m_runners.size() + i] +=
+                number;
     }
 }
 

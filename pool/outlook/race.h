@@ -71,6 +71,8 @@ private:
     void addTie(const Tie<Points>& tie, LaneWeight<Points, Number> laneWeight, Number weight);
     void addSums(std::size_t level);
     void addLanes(Number factor);
+    void addVector(std::size_t first, Number factor, LaneWeight<Points, Number>* lanes, std::size_t i,
+                   Count& count) const;
     void addEveryClass();
 
     Count& countFor(std::size_t together);
