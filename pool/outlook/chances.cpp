@@ -1,11 +1,35 @@
 // pool/outlook/chances.cpp - the seeds and the picks as chances.
 #include "pool/outlook/chances.h"
 
-#include <algorithm>
 #include <array>
+#include <cstdint>
+#include <limits>
+#include <utility>
 #include <vector>
 
 namespace tallyhoop {
+
+namespace {
+
+template <class T>
+using ByTeam = std::array<T, std::numeric_limits<TeamNumber>::max() + 1>;
+
+/// @returns the seed of each team; 0 for those without
+ByTeam<std::int16_t> seedsOf(const TeamNames& names, const Field& field)
+{
+    ByTeam<std::int16_t> seeds{};
+    ByTeam<int> rows{};
+    const ByTeamRow<std::int16_t> seedNumbersOfRows = seedNumbers(field);
+    for (const TeamRow row : allTeamRows()) {
+        const TeamNumber team = names.numberOf(field.teams[row]);
+        ++rows[team];
+        seeds[team] = rows[team] == 1 ? seedNumbersOfRows[row] : std::int16_t{0};
+    }
+    seeds[kNoTeam] = 0;
+    return seeds;
+}
+
+} // namespace
 
 UpperChance alikeChances()
 {
@@ -14,30 +38,23 @@ UpperChance alikeChances()
 
 UpperChance seedChances(const OpenGames& games, const Field& field)
 {
-    std::array<double, 256> seedOf{}; // by team number
-    const ByTeamRow<std::int16_t> seeds = seedNumbers(field);
-    for (const TeamRow row : allTeamRows())
-        seedOf.at(games.known().numbers()[positionOf(row)]) = seeds[row];
-    return [seedOf](std::size_t, TeamNumber upper, TeamNumber lower) {
-        const double own = seedOf.at(upper);
-        const double other = seedOf.at(lower);
+    return [seeds = seedsOf(games.known().names(), field)](std::size_t, TeamNumber upper, TeamNumber lower) {
+        const double own = seeds[upper];
+        const double other = seeds[lower];
         return own > 0 && other > 0 ? other / (own + other) : 0.5;
     };
 }
 
 UpperChance pickedChances(const Contest& contest)
 {
-    const std::vector<Position>& games = contest.games().games();
-    std::vector<std::array<double, 256>> parts(games.size()); // by team number
-    for (std::size_t game = 0; game < games.size(); ++game) {
+    std::vector<ByTeam<double>> picked(contest.games().size()); // the players who picked a team to win an open game
+    for (std::size_t openGame = 0; openGame < picked.size(); ++openGame)
         for (std::size_t player = 0; player < contest.players(); ++player)
-            parts[game].at(contest.picks(player)[games[game]]) += 1.0 / static_cast<double>(contest.players());
-        for (double& part : parts[game])
-            part = std::max(part, kPickedFloor);
-    }
-    return [parts](std::size_t game, TeamNumber upper, TeamNumber lower) {
-        const double own = parts.at(game).at(upper);
-        return own / (own + parts[game].at(lower));
+            ++picked[openGame][contest.picks(player)[contest.games().games()[openGame]]];
+    return [picked = std::move(picked)](std::size_t openGame, TeamNumber upper, TeamNumber lower) {
+        const double own = picked[openGame][upper];
+        const double other = picked[openGame][lower];
+        return (own + 1) / (own + other + 2);
     };
 }
 

@@ -4,26 +4,31 @@
 #include "pool/field.h"
 #include "pool/outlook/contest.h"
 
+#include <cstddef>
 #include <functional>
 
 namespace tallyhoop {
 
-/// The chance that the upper team wins an open game when these two meet in it, 0..1.
+/// The chance that the upper team wins an open game when these two meet in it, 0..1. Needs nothing of what it was made
+/// from any longer.
 /// @param openGame index in OpenGames::games()
+/// @param upper    a team that can come there from above, as known().names() of the OpenGames numbers it; `lower` from
+///                 below
 using UpperChance = std::function<double(std::size_t openGame, TeamNumber upper, TeamNumber lower)>;
 
 /// Every game is the toss of a coin, so that all outcomes are alike.
 UpperChance alikeChances();
 
-/// The better seed wins more often: a beats b with the chance b / (a + b), where a and b are the seeds. One half where
-/// a seed is not a number above 0.
+/// The better seed wins more often: a beats b with the chance b / (a + b), where a and b are the seeds.
+/// @param field tells the seeds of its teams, whose names are compared exactly
+/// @note One half when one of the two has no seed: its name is on no row of the field or on more than one, or the text
+///       of its seed does not begin with a number of 1 to 32767. Equal seeds make one half, too.
 UpperChance seedChances(const OpenGames& games, const Field& field);
 
-/// The least part of the players that a team counts as picked by.
-inline constexpr double kPickedFloor = 0.02;
-
-/// The team wins more often that more players picked to win this game: u / (u + l), where u and l are the parts of the
-/// players who picked the upper and the lower team in it, each at least kPickedFloor. One half without players.
+/// The team wins more often that more players have picked to win this game: u of them the upper one, l the lower one,
+/// whatever the others picked. The chance is (u + 1) / (u + l + 2), as if each of the two had one player more. So no
+/// team is without a chance because nobody dared to pick it: its floor is 1 / (n + 2) against a team that all n players
+/// picked. And where few players are left with a pick, or none, the chance is near one half.
 UpperChance pickedChances(const Contest& contest);
 
 } // namespace tallyhoop

@@ -1,4 +1,4 @@
-// tests/pool/outlook/chance_count_test.cpp - chances against the sum over every outcome, and where they come from.
+// tests/pool/outlook/chance_count_test.cpp - chances against the sum over every outcome.
 #include "pool/outlook/first_count.h"
 
 #include "pool/outlook/invented_pools.h"
@@ -128,39 +128,6 @@ TEST(ChanceCount, OfAGameThatOneSideCannotLoseIsWhatTheResultMakesCertain)
     EXPECT_EQ(outlook.players[1].all.share, 0);
     // A side without a chance has nothing to tell.
     EXPECT_EQ(outlook.given(1, 0, Side::Upper), outlook.players[1].all);
-}
-
-TEST(SeedChances, AreTheOtherSeedsPartOfTheSum)
-{
-    Field field = defaultField();
-    field.seeds = {"1", "16", "8", "9", "5", "12", "4", "13", "6", "11", "3", "14", "7", "10", "2", "x"};
-    const OpenGames games{test::startingField()};
-    const UpperChance chance = seedChances(games, field);
-    const auto team = [&](const char* name) { return games.known().names().numberOf(name); };
-    EXPECT_DOUBLE_EQ(chance(0, team("Team 1"), team("Team 2")), 16.0 / 17.0);
-    EXPECT_DOUBLE_EQ(chance(0, team("Team 2"), team("Team 1")), 1.0 / 17.0);
-    EXPECT_DOUBLE_EQ(chance(0, team("Team 17"), team("Team 1")), 0.5);
-    EXPECT_DOUBLE_EQ(chance(0, team("Team 15"), team("Team 16")), 0.5) << "not a number";
-}
-
-TEST(PickedChances, AreThePartsOfThePlayersWithAFloor)
-{
-    // Given: the final is open; three of four players have Team 1 as champion, one has Team 33, nobody Team 17.
-    const Bracket results = test::without(test::everyUpperTeamWins(), 126, 126);
-    std::vector<Bracket> picks(4, test::everyUpperTeamWins());
-    picks[3].put(kChampion, "Team 33");
-    const Contest contest{results, picks, test::kUsualPayoffs};
-    const UpperChance chance = pickedChances(contest);
-    const auto team = [&](const char* name) { return contest.games().known().names().numberOf(name); };
-    EXPECT_DOUBLE_EQ(chance(0, team("Team 1"), team("Team 33")), 0.75);
-    EXPECT_DOUBLE_EQ(chance(0, team("Team 1"), team("Team 17")), 0.75 / 0.77);
-    EXPECT_DOUBLE_EQ(chance(0, team("Team 17"), team("Team 49")), 0.5);
-}
-
-TEST(PickedChances, AreOneHalfWithoutPlayers)
-{
-    const Contest contest{test::startingField(), {}, test::kUsualPayoffs};
-    EXPECT_DOUBLE_EQ(pickedChances(contest)(0, 1, 2), 0.5);
 }
 
 } // namespace
