@@ -60,4 +60,12 @@ FirstChances ChanceOutlook::given(std::size_t player, std::size_t openGame, Side
             (own.all.share - upper.share) / wins};
 }
 
+FirstChances& FirstChances::operator/=(double by)
+{
+    alone /= by;
+    together /= by;
+    share /= by;
+    return *this;
+}
+
 } // namespace tallyhoop

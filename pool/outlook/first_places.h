@@ -58,6 +58,15 @@ struct FirstChances {
     double together = 0; ///< with one or more others
     double share = 0;    ///< of first place: where k players share it, each has 1/k of the chance
 
+    FirstChances& operator+=(const FirstChances& more)
+    {
+        alone += more.alone;
+        together += more.together;
+        share += more.share;
+        return *this;
+    }
+    FirstChances& operator/=(double by);
+
     friend bool operator==(const FirstChances&, const FirstChances&) = default;
 };
 

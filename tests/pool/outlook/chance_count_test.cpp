@@ -2,67 +2,14 @@
 #include "pool/outlook/first_count.h"
 
 #include "pool/outlook/invented_pools.h"
-#include "pool/sample_brackets.h"
+#include "pool/outlook/summed_chances.h"
 
-#include <algorithm>
-#include <cmath>
 #include <gtest/gtest.h>
 
 namespace tallyhoop {
 namespace {
 
 using test::InventedPools;
-
-/// Some chance for every pairing, 0 and 1 among them.
-double someChance(std::size_t game, TeamNumber upper, TeamNumber lower)
-{
-    return static_cast<double>((game * 7 + upper * 3U + lower * 5U) % 11) / 10;
-}
-
-double chanceOf(const Contest& contest, OutcomeNumber outcome, const UpperChance& upperChance)
-{
-    const OpenGames& games = contest.games();
-    const ByPosition<TeamNumber> teams = games.outcomeNumbers(outcome);
-    double chance = 1;
-    for (std::size_t i = 0; i < games.size(); ++i) {
-        const auto [upper, lower] = test::entrantsOf(games.games()[i]);
-        const double wins = upperChance(i, teams[upper], teams[lower]);
-        chance *= sideOf(outcome, i) == Side::Upper ? wins : 1 - wins;
-    }
-    return chance;
-}
-
-/// One outcome after the other.
-ChanceOutlook summed(const Contest& contest, const UpperChance& upperChance)
-{
-    const std::size_t games = contest.games().size();
-    ChanceOutlook sums{std::vector<PlayerChances>(contest.players()), std::vector<double>(games)};
-    for (PlayerChances& player : sums.players)
-        player.andUpperWins.resize(games);
-    for (OutcomeNumber outcome = 0; outcome < contest.games().outcomes(); ++outcome) {
-        const double chance = chanceOf(contest, outcome, upperChance);
-        std::vector<std::int32_t> points;
-        for (std::size_t player = 0; player < contest.players(); ++player)
-            points.push_back(contest.points(player, contest.games().outcomeNumbers(outcome)));
-        const std::int32_t most = std::ranges::max(points);
-        const auto together = static_cast<double>(std::ranges::count(points, most));
-        const auto add = [&](FirstChances& chances) {
-            (together == 1 ? chances.alone : chances.together) += chance;
-            chances.share += chance / together;
-        };
-        for (std::size_t player = 0; player < points.size(); ++player) {
-            if (points[player] < most)
-                continue;
-            add(sums.players[player].all);
-            for (std::size_t game = 0; game < games; ++game)
-                if (sideOf(outcome, game) == Side::Upper)
-                    add(sums.players[player].andUpperWins[game]);
-        }
-        for (std::size_t game = 0; game < games; ++game)
-            sums.upperWins[game] += sideOf(outcome, game) == Side::Upper ? chance : 0;
-    }
-    return sums;
-}
 
 void expectClose(const FirstChances& chances, const FirstChances& expected)
 {
@@ -77,8 +24,8 @@ TEST(ChanceCount, AgreesWithTheSumOverEveryOutcome)
     for (int round = 0; round < 100; ++round) {
         const std::vector<Bracket> picks = pools.office(1 + pools.number(8));
         const Contest contest{pools.withOpenAnywhere(pools.picked(), pools.number(10)), picks, pools.payoffs()};
-        const ChanceOutlook outlook = countChances(contest, someChance);
-        const ChanceOutlook expected = summed(contest, someChance);
+        const ChanceOutlook outlook = countChances(contest, test::someChance);
+        const ChanceOutlook expected = test::summedChances(contest, test::someChance);
         for (std::size_t player = 0; player < picks.size(); ++player) {
             ASSERT_NO_FATAL_FAILURE(expectClose(outlook.players[player].all, expected.players[player].all));
             for (std::size_t game = 0; game < contest.games().size(); ++game) {
