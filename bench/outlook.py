@@ -77,3 +77,16 @@ if not is_small:
               f"24 open {fewer[1] * 1000:.0f} ms")
         tell(f"31 open, 50 players, {kind}: against the halves", counted[1] / split[1], 0.5)
         tell(f"24 open, 50 players, {kind}: against the halves of 31", fewer[1] / split[1], 0.01)
+
+print(f"forecast of 200,000 samples: {'players':>7} {'open':>4}  {'pool':<9} {'processor':>9} {'samples a second':>17} "
+      f"{'errors against plain':>20} {'off the exact share':>19}")
+for number in players:
+    for count in (games[:1] if is_small else (31, 63)):
+        for kind in ("realistic", "random"):
+            if number == 1000 and count == 31:
+                continue  # the exact count takes minutes
+            run = subprocess.run([measure.BUILD / "bench/tallyhoop_bench_forecast", str(number), str(count), kind],
+                                 check=True, text=True, stdout=subprocess.PIPE)
+            processor, ratio, off = map(float, run.stdout.split())
+            print(f"{number:>36} {count:>4}  {kind:<9} {processor:9.3f} {200_000 / processor:17,.0f} {ratio:20.2f} "
+                  f"{off * 100 if count <= 31 else float('nan'):17.3f} %", flush=True)

@@ -33,7 +33,7 @@ public:
     /// @param upperChance called while it is prepared
     Forecast(const Contest& contest, const UpperChance& upperChance, std::uint64_t seed = kForecastSeed);
 
-    /// Takes so many samples more: some 200,000 a second for fifty players. None where one is enough and taken.
+    /// Takes so many samples more; one takes some microseconds for fifty players. None where one is enough and taken.
     void add(std::uint64_t samples);
 
     std::uint64_t samples() const { return m_samples; }
@@ -63,7 +63,6 @@ private:
     void addSample();
 
     std::size_t m_players;
-    std::size_t m_openGames;
     std::uint64_t m_seed;
     std::mt19937_64 m_random; ///< makes the same numbers on every platform
     std::uint64_t m_samples = 0;

@@ -42,7 +42,7 @@ private:
     void follow(std::size_t level, Side side, std::size_t outcome, double chance);
     void addOutcome(std::size_t outcome, double chance);
 
-    const std::vector<PlannedGame> m_games;
+    std::vector<PlannedGame> m_games;
     std::vector<std::size_t> m_openGames; ///< of those that are open: the index in OpenGames::games()
     std::size_t m_players;
 

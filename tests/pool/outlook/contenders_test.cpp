@@ -53,6 +53,33 @@ TEST(Contenders, AreThoseWhoCatchUpWithTheLeaderInSomeOutcome)
     EXPECT_GT(dropped, 100U);
 }
 
+/// Of the third and the fourth region nobody is known, so who wins the first semi-final is champion without a game.
+Bracket championByWalkover()
+{
+    Bracket results = test::everyUpperTeamWins();
+    for (const Position position : allPositions())
+        if (regionOf(position) == 2 || regionOf(position) == 3)
+            results.clear(position);
+    for (const Position position : {kSemifinalA, kSemifinalB, kChampion})
+        results.clear(position);
+    return results;
+}
+
+TEST(Contenders, CatchUpByAWalkover)
+{
+    // Given: the second player is 3 points behind, and gets 1 for the semi-final and 5 for the walkover after it.
+    Bracket leader = test::everyUpperTeamWins();
+    Bracket other = leader;
+    other.clear(*next(firstRoundPosition(0, 0)));
+    other.put(kSemifinalA, "Team 17");
+    other.put(kChampion, "Team 17");
+    const Contest contest{championByWalkover(), std::vector<Bracket>{leader, other}, {3, 0, 0, 0, 1, 5}};
+    const std::vector<PlannedGame> games = plannedGames(contest, alikeChances());
+    Contenders contenders{games, 2};
+    contenders.find(decidedPoints(contest), {});
+    EXPECT_EQ(contenders.players(), (std::vector<std::size_t>{0, 1}));
+}
+
 TEST(Staged, TakesTheLatestRoundsForTheLastGames)
 {
     const Contest contest{test::startingField(), {}, {}};
@@ -75,14 +102,7 @@ TEST(Staged, TakesNoMoreOpenGamesThanAskedFor)
 
 TEST(Staged, PutsAWalkoverAfterTheGameThatItWaitsFor)
 {
-    // Given: of the second semi-final's half nobody is known, so who wins the first one is champion without a game.
-    Bracket results = test::everyUpperTeamWins();
-    for (const Position position : allPositions())
-        if (regionOf(position) == 2 || regionOf(position) == 3)
-            results.clear(position);
-    for (const Position position : {kSemifinalA, kSemifinalB, kChampion})
-        results.clear(position);
-    const Contest contest{results, {}, {}};
+    const Contest contest{championByWalkover(), {}, {}};
     ASSERT_EQ(contest.games().games(), std::vector<Position>{kSemifinalA});
     const Stages stages = staged(plannedGames(contest, alikeChances()), 1);
     ASSERT_EQ(stages.last.size(), 2U);
