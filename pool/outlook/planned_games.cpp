@@ -13,6 +13,7 @@ namespace {
 std::vector<CandidateNumber> numbersAmong(const std::vector<TeamNumber>& winners, const std::vector<TeamNumber>& teams)
 {
     std::vector<CandidateNumber> numbers;
+    numbers.reserve(teams.size());
     for (const TeamNumber team : teams)
         numbers.push_back(static_cast<CandidateNumber>(std::ranges::lower_bound(winners, team) - winners.begin()));
     return numbers;
