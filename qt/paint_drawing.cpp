@@ -127,7 +127,7 @@ void paintCaption(QPainter& painter, const ui::Caption& caption)
 void paintDrawing(QPainter& painter, const ui::Drawing& drawing)
 {
     for (const ui::Stroke& stroke : drawing.strokes) {
-        painter.setPen(QPen{look::toQColor(stroke.colour), 1});
+        painter.setPen(QPen{look::toQColor(stroke.colour), stroke.thickness});
         painter.drawLine(QPointF{stroke.x1, stroke.y1}, QPointF{stroke.x2, stroke.y2});
     }
     for (const ui::Box& box : drawing.boxes) {

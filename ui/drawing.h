@@ -24,6 +24,7 @@ struct Rectangle {
 struct Stroke {
     double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
     Colour colour{};
+    double thickness = 1;
 };
 
 /// A filled box with an outline.

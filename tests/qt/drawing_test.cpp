@@ -49,6 +49,18 @@ TEST(PaintDrawing, PaintsStrokesBoxesAndCaptionsInTheirPlaces)
     EXPECT_GT(darkPixels(image, {0, 140, 240, 40}), 50);
 }
 
+TEST(PaintDrawing, PaintsAThickStrokeToBothSides)
+{
+    ui::Drawing drawing = sheet(100, 50);
+    drawing.strokes.push_back({0, 10, 100, 10, {255, 0, 0}});
+    drawing.strokes.push_back({0, 30, 100, 30, {255, 0, 0}, 5});
+    const QImage image = painted(drawing, {400, 200});
+    // 6 pixels beside the middle: a unit and a half.
+    EXPECT_EQ(image.pixelColor(200, 46), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(200, 114), QColor(255, 0, 0));
+    EXPECT_EQ(image.pixelColor(200, 126), QColor(255, 0, 0));
+}
+
 TEST(PaintDrawing, KeepsItsProportionsAndIsCentred)
 {
     ui::Drawing drawing = sheet(100, 100);
