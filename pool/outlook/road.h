@@ -44,8 +44,8 @@ struct RoadPoint {
 
 /// How much work a road may be.
 struct RoadLimits {
-    std::size_t countedGames = 24;            ///< count where no more games are open, forecast where more are; 0..40
-    std::uint64_t samples = kForecastSamples; ///< of each forecast, 2 or more
+    std::size_t countedGames = kMostCountedGames; ///< where more games are open, forecast; 0..40
+    std::uint64_t samples = kForecastSamples;     ///< of each forecast, 2 or more
     std::uint64_t seed = kForecastSeed;
 };
 
