@@ -1,0 +1,206 @@
+// screens/outlook/outlook_work.cpp - which parts the work has, and what each adds to what is known.
+#include "screens/outlook/outlook_work.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+/// Samples of one slice: a sample takes longer the more players there are.
+std::uint64_t samplesOfASlice(std::size_t players)
+{
+    return std::clamp<std::uint64_t>(25'000 / (players + 1), 10, 500);
+}
+
+FirstChances partOf(const FirstPlaces& places, double outcomes)
+{
+    const auto alone = static_cast<double>(places.alone);
+    return {alone / outcomes, (static_cast<double>(places.outcomes()) - alone) / outcomes, places.share() / outcomes};
+}
+
+/// The counts as parts of all outcomes, which are all alike.
+ChanceOutlook partsOf(const FirstOutlook& counted, std::size_t games)
+{
+    const auto outcomes = static_cast<double>(counted.outcomes);
+    ChanceOutlook parts;
+    parts.upperWins.assign(games, counted.players.empty() ? 0 : 0.5);
+    for (const PlayerFirsts& firsts : counted.players) {
+        PlayerChances player{partOf(firsts.all, outcomes), {}};
+        for (const FirstPlaces& given : firsts.ifUpperWins)
+            player.andUpperWins.push_back(partOf(given, outcomes));
+        parts.players.push_back(std::move(player));
+    }
+    return parts;
+}
+
+} // namespace
+
+UpperChance chancesOf(ChanceKind kind, const Contest& contest, const Field& field)
+{
+    switch (kind) {
+    case ChanceKind::BySeed:
+        return seedChances(contest.games(), field);
+    case ChanceKind::AsPicked:
+        return pickedChances(contest);
+    case ChanceKind::Alike:
+        break;
+    }
+    return alikeChances();
+}
+
+OutlookWork::OutlookWork(Contest contest, const Field& field, ChanceKind kind)
+    : m_contest{std::move(contest)},
+      m_upperChance{chancesOf(kind, m_contest, field)},
+      m_plan{planFor(m_contest.games().size(), kind)}
+{
+}
+
+std::vector<OutlookWork::Stage> OutlookWork::planFor(std::size_t openGames, ChanceKind kind)
+{
+    if (openGames > kMostCountedGames)
+        return {Stage::Prospects, Stage::Forecast};
+    std::vector<Stage> plan;
+    if (kind != ChanceKind::Alike)
+        plan.push_back(Stage::Chances);
+    plan.push_back(Stage::Firsts); // also beside other chances: it decides the verdicts
+    plan.insert(openGames > kFewGames ? plan.begin() : plan.end(), Stage::Prospects);
+    if (openGames <= kMostPlacedGames)
+        plan.push_back(Stage::Places);
+    return plan;
+}
+
+void OutlookWork::advance(const Step& step)
+{
+    if (isDone())
+        return;
+    switch (m_plan[m_stage]) {
+    case Stage::Prospects:
+        findCertainties(step);
+        break;
+    case Stage::Chances:
+        count<ChanceCount>(
+            [this] {
+                return ChanceCount{m_contest, m_upperChance};
+            },
+            [this](const ChanceCount& done) { m_chances = done.outlook(); });
+        break;
+    case Stage::Firsts:
+        count<FirstCount>([this] { return FirstCount{m_contest}; },
+                          [this](const FirstCount& done) { m_firsts = done.outlook(); });
+        break;
+    case Stage::Places:
+        count<PlaceCount>([this] { return PlaceCount{m_contest}; },
+                          [this](const PlaceCount& done) { m_places = done.places(); });
+        break;
+    case Stage::Forecast:
+        forecast();
+        break;
+    }
+}
+
+void OutlookWork::findCertainties(const Step& step)
+{
+    bool stopped = false;
+    m_proven = findProspects(m_contest, [&] {
+        stopped = stopped || !step();
+        return !stopped;
+    });
+    if (stopped)
+        m_stage = m_plan.size();
+    else
+        finishStage();
+}
+
+template <class Count, class Make, class Take>
+void OutlookWork::count(Make make, Take take)
+{
+    if (!std::holds_alternative<Count>(m_running))
+        m_running.emplace<Count>(make());
+    else
+        std::get<Count>(m_running).advance();
+    const Count& running = std::get<Count>(m_running);
+    if (!running.isDone())
+        return;
+    take(running);
+    finishStage();
+}
+
+void OutlookWork::forecast()
+{
+    if (!m_forecast)
+        m_forecast.emplace(m_contest, m_upperChance);
+    m_forecast->add(samplesOfASlice(m_contest.players()));
+    if (m_forecast->samples() >= kMostSamples || m_contest.players() == 0)
+        finishStage();
+}
+
+void OutlookWork::finishStage()
+{
+    m_running = std::monostate{};
+    ++m_stage;
+}
+
+double OutlookWork::fraction() const
+{
+    return isDone() ? 1 : (static_cast<double>(m_stage) + fractionOfStage()) / static_cast<double>(m_plan.size());
+}
+
+double OutlookWork::fractionOfStage() const
+{
+    if (m_forecast)
+        return std::min(static_cast<double>(m_forecast->samples()) / static_cast<double>(kForecastSamples), 1.0);
+    if (const auto* firsts = std::get_if<FirstCount>(&m_running))
+        return firsts->fraction();
+    if (const auto* chances = std::get_if<ChanceCount>(&m_running))
+        return chances->fraction();
+    if (const auto* places = std::get_if<PlaceCount>(&m_running))
+        return places->fraction();
+    return 0;
+}
+
+OutlookFigures OutlookWork::figures() const
+{
+    OutlookFigures figures;
+    figures.prospects = prospects();
+    addChances(figures);
+    if (m_firsts)
+        for (const PlayerFirsts& player : m_firsts->players)
+            figures.firstOutcomes.push_back(player.all.outcomes());
+    return figures;
+}
+
+std::vector<PlayerProspect> OutlookWork::prospects() const
+{
+    const std::size_t players = m_contest.players();
+    PlayerProspect unknown;
+    unknown.best.most = unknown.worst.most = players;
+    std::vector<PlayerProspect> known = m_proven.value_or(std::vector<PlayerProspect>(players, unknown));
+    if (m_firsts)
+        addCount(known, *m_firsts);
+    if (m_places)
+        addCount(known, *m_places);
+    return known;
+}
+
+void OutlookWork::addChances(OutlookFigures& figures) const
+{
+    const std::size_t players = m_contest.players();
+    const bool counted = m_chances || m_firsts;
+    if (!counted && !(m_forecast && m_forecast->samples() > 0))
+        return;
+    figures.errors.resize(players);
+    if (counted) {
+        figures.source = ChanceSource::Counted;
+        figures.chances = m_chances ? *m_chances : partsOf(*m_firsts, m_contest.games().size());
+        return;
+    }
+    figures.source = ChanceSource::Forecast;
+    figures.chances = m_forecast->outlook();
+    figures.samples = m_forecast->samples();
+    for (std::size_t player = 0; player < players; ++player)
+        figures.errors[player] = m_forecast->standardError(player);
+}
+
+} // namespace tallyhoop

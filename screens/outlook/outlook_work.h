@@ -1,0 +1,104 @@
+// screens/outlook/outlook_work.h - works an outlook out in slices: what is certain, who is first how often, which
+// places.
+#pragma once
+
+#include "base/step.h"
+#include "pool/field.h"
+#include "pool/outlook/chances.h"
+#include "pool/outlook/contest.h"
+#include "pool/outlook/first_count.h"
+#include "pool/outlook/first_places.h"
+#include "pool/outlook/forecast.h"
+#include "pool/outlook/place_count.h"
+#include "pool/outlook/prospects.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <variant>
+#include <vector>
+
+namespace tallyhoop {
+
+/// How likely each side of a game is said to be, in the order of the options on the screen.
+enum class ChanceKind { Alike, BySeed, AsPicked };
+
+/// @returns the chances of this kind; `field` tells the seeds
+UpperChance chancesOf(ChanceKind kind, const Contest& contest, const Field& field);
+
+/// Where the chances come from.
+enum class ChanceSource {
+    None,     ///< there are none yet
+    Forecast, ///< estimated from samples
+    Counted,  ///< every outcome was counted
+};
+
+/// What is known so far, a value for each player in the order of the contest.
+struct OutlookFigures {
+    std::vector<PlayerProspect> prospects; ///< those that nothing is known of yet are Open, with every place possible
+    ChanceSource source = ChanceSource::None; ///< of the chances
+    ChanceOutlook chances;                    ///< empty as long as there is no source
+    std::vector<double> errors; ///< the standard error of each share, 0..1; 0 = exact; empty without source
+    std::uint64_t samples = 0;  ///< that a forecast is made of so far
+    std::vector<std::uint64_t> firstOutcomes; ///< in how many outcomes a player is first; empty = not counted
+};
+
+/// Works an outlook out. Knows nothing of threads: one object belongs to one thread at a time, and needs nothing of
+/// what it was made from any longer.
+///
+/// Few open games are counted first, because that is done at once; with more of them it is first found what can be
+/// proven without counting. Too many to count make a forecast, which grows until it is stopped or large enough.
+class OutlookWork
+{
+public:
+    /// So few open games are counted before anything else.
+    static constexpr std::size_t kFewGames = 15;
+
+    /// A forecast does not grow further.
+    static constexpr std::uint64_t kMostSamples = 20 * kForecastSamples;
+
+    OutlookWork(Contest contest, const Field& field, ChanceKind kind);
+
+    const Contest& contest() const { return m_contest; }
+
+    /// Nothing is left to do.
+    bool isDone() const { return m_stage == m_plan.size(); }
+
+    /// How much of the result is there, 0..1, growing steadily. A forecast of kForecastSamples counts as whole,
+    /// although it grows further.
+    double fraction() const;
+
+    /// Does one slice: some milliseconds. Only finding what is certain about hundreds of players takes longer.
+    /// @param step called while such a slice lasts; when it asks to stop, what is known by then stays, and all is done
+    void advance(const Step& step = goOn);
+
+    /// What is known so far.
+    OutlookFigures figures() const;
+
+private:
+    enum class Stage { Prospects, Chances, Firsts, Places, Forecast };
+
+    static std::vector<Stage> planFor(std::size_t openGames, ChanceKind kind);
+    void findCertainties(const Step& step);
+    template <class Count, class Make, class Take>
+    void count(Make make, Take take);
+    void forecast();
+    double fractionOfStage() const;
+    std::vector<PlayerProspect> prospects() const;
+    void addChances(OutlookFigures& figures) const;
+    void finishStage();
+
+    Contest m_contest;
+    UpperChance m_upperChance;
+    std::vector<Stage> m_plan;
+    std::size_t m_stage = 0; ///< in the plan
+
+    std::variant<std::monostate, FirstCount, ChanceCount, PlaceCount> m_running;
+    std::optional<Forecast> m_forecast;
+    std::optional<std::vector<PlayerProspect>> m_proven;
+    std::optional<FirstOutlook> m_firsts;
+    std::optional<ChanceOutlook> m_chances;
+    std::optional<std::vector<PlayerPlaces>> m_places;
+};
+
+} // namespace tallyhoop

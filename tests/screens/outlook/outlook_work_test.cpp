@@ -1,0 +1,142 @@
+// tests/screens/outlook/outlook_work_test.cpp - the parts of the work, their order, slices and stopping.
+#include "screens/outlook/outlook_work.h"
+
+#include "pool/outlook/invented_pools.h"
+#include "screens/outlook/final_pool.h"
+
+#include <gmock/gmock.h>
+
+namespace tallyhoop::test {
+namespace {
+
+using testing::Each;
+using testing::ElementsAre;
+using testing::SizeIs;
+
+/// @returns the figures once all is done
+OutlookFigures workedOut(OutlookWork work)
+{
+    while (!work.isDone())
+        work.advance();
+    return work.figures();
+}
+
+Contest inventedContest(std::size_t players, std::size_t openGames)
+{
+    InventedPools invented{7};
+    const Bracket results = invented.withOpen(invented.picked(), openGames);
+    return {results, invented.office(players), kUsualPayoffs};
+}
+
+TEST(OutlookWorkTest, CountsTheOnlyGameThatIsLeft)
+{
+    // Ann picks the one finalist, Bob and Cleo the other; all had the same points before.
+    const OutlookFigures figures = workedOut({finalContest(), finalField(), ChanceKind::Alike});
+    EXPECT_EQ(figures.source, ChanceSource::Counted);
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(0).all.alone, 0.5);
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(0).all.together, 0);
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(1).all.alone, 0);
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(1).all.together, 0.5);
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(1).all.share, 0.25);
+    EXPECT_DOUBLE_EQ(figures.chances.given(0, 0, Side::Upper).share, 1);
+    EXPECT_DOUBLE_EQ(figures.chances.given(0, 0, Side::Lower).share, 0);
+    EXPECT_THAT(figures.firstOutcomes, ElementsAre(1, 1, 1));
+    EXPECT_THAT(figures.errors, ElementsAre(0, 0, 0));
+}
+
+TEST(OutlookWorkTest, TakesThePicksOfThePoolAsChances)
+{
+    // One has picked the upper finalist, two the lower one: (1 + 1) / (1 + 2 + 2) = 0.4 for the upper.
+    const OutlookFigures figures = workedOut({finalContest(), finalField(), ChanceKind::AsPicked});
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(0).all.share, 0.4);
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(1).all.share, 0.3);
+    EXPECT_THAT(figures.firstOutcomes, ElementsAre(1, 1, 1)) << "the verdicts come from counting, whatever the chances";
+}
+
+TEST(OutlookWorkTest, TakesTheSeedsAsChances)
+{
+    // The upper finalist is seeded 1, the lower one 3: 3 / (1 + 3).
+    const OutlookFigures figures = workedOut({finalContest(), finalField(), ChanceKind::BySeed});
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(0).all.share, 0.75);
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(2).all.share, 0.125);
+}
+
+TEST(OutlookWorkTest, KnowsEveryPlaceOfFewGames)
+{
+    const OutlookFigures figures = workedOut({finalContest(), finalField(), ChanceKind::Alike});
+    EXPECT_EQ(figures.prospects.at(0).prospect, Prospect::Alive);
+    EXPECT_EQ(figures.prospects.at(0).best, (PlaceBetween{1, 1}));
+    EXPECT_EQ(figures.prospects.at(0).worst, (PlaceBetween{3, 3}));
+    EXPECT_EQ(figures.prospects.at(1).worst, (PlaceBetween{2, 2}));
+}
+
+TEST(OutlookWorkTest, KnowsNothingBeforeTheFirstSlice)
+{
+    const OutlookWork work{finalContest(), finalField(), ChanceKind::Alike};
+    const OutlookFigures figures = work.figures();
+    EXPECT_EQ(work.fraction(), 0);
+    EXPECT_EQ(figures.source, ChanceSource::None);
+    ASSERT_THAT(figures.prospects, SizeIs(3));
+    EXPECT_EQ(figures.prospects.at(0).prospect, Prospect::Open);
+    EXPECT_EQ(figures.prospects.at(0).best, (PlaceBetween{1, 3}));
+}
+
+TEST(OutlookWorkTest, FindsWhatIsCertainBeforeItCountsManyGames)
+{
+    OutlookWork work{inventedContest(4, 20), finalField(), ChanceKind::Alike};
+    work.advance();
+    EXPECT_EQ(work.figures().source, ChanceSource::None);
+    EXPECT_LT(work.figures().prospects.at(0).best.most, 4u) << "the search has found better places than the last";
+}
+
+TEST(OutlookWorkTest, WorksInSlicesWithAGrowingFraction)
+{
+    OutlookWork work{inventedContest(12, 22), finalField(), ChanceKind::Alike};
+    double before = 0;
+    int slices = 0;
+    while (!work.isDone()) {
+        work.advance();
+        EXPECT_GE(work.fraction(), before);
+        before = work.fraction();
+        ++slices;
+    }
+    EXPECT_EQ(before, 1);
+    EXPECT_GT(slices, 10);
+}
+
+TEST(OutlookWorkTest, ForecastsWhatCannotBeCounted)
+{
+    OutlookWork work{inventedContest(3, 40), finalField(), ChanceKind::BySeed};
+    work.advance(); // what is certain
+    work.advance(); // the first samples
+    work.advance();
+    const OutlookFigures figures = work.figures();
+    EXPECT_EQ(figures.source, ChanceSource::Forecast);
+    EXPECT_EQ(figures.samples, 1000u);
+    EXPECT_THAT(figures.firstOutcomes, SizeIs(0));
+    EXPECT_THAT(figures.errors, Each(testing::Gt(0)));
+    double shares = 0;
+    for (const PlayerChances& player : figures.chances.players)
+        shares += player.all.share;
+    EXPECT_NEAR(shares, 1, 1e-9);
+    EXPECT_FALSE(work.isDone());
+}
+
+TEST(OutlookWorkTest, StopsWhileItFindsWhatIsCertain)
+{
+    OutlookWork work{inventedContest(4, 20), finalField(), ChanceKind::Alike};
+    int steps = 0;
+    work.advance([&] { return ++steps < 2; });
+    EXPECT_EQ(steps, 2);
+    EXPECT_TRUE(work.isDone());
+    EXPECT_EQ(work.figures().prospects.at(3).prospect, Prospect::Open);
+}
+
+TEST(OutlookWorkTest, IsDoneAtOnceWithoutPlayers)
+{
+    EXPECT_THAT(workedOut({inventedContest(0, 5), finalField(), ChanceKind::Alike}).prospects, SizeIs(0));
+    EXPECT_THAT(workedOut({inventedContest(0, 40), finalField(), ChanceKind::Alike}).prospects, SizeIs(0));
+}
+
+} // namespace
+} // namespace tallyhoop::test
