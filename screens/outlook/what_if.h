@@ -1,0 +1,47 @@
+// screens/outlook/what_if.h - a copy of the results to play with: nothing that is supposed here can reach a file.
+#pragma once
+
+#include "pool/bracket.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace tallyhoop {
+
+/// The results as they are entered, and as somebody supposes them. Each change tells whether there was one.
+class WhatIf
+{
+public:
+    explicit WhatIf(Bracket entered);
+
+    const Bracket& entered() const { return m_entered; }
+    const Bracket& supposed() const { return m_supposed; }
+
+    /// Whether anything differs from the results as entered.
+    bool isChanged() const { return !(m_supposed == m_entered); }
+    bool canUndo() const { return !m_past.empty(); }
+
+    /// Lets the team at a position win its game there; where it has won that already, takes this back, and with it
+    /// what followed. Nothing changes at the champion and where nobody is.
+    bool press(Position position);
+
+    /// Empties a position and takes back what followed. Nothing changes at a first-round row.
+    bool takeBack(Position position);
+
+    bool asEntered();
+
+    /// Lets the better-seeded team win every game inside the regions that nobody has won; equal seeds let the lower of
+    /// the two rows win. The last three games stay.
+    bool fillWithHigherSeeds(const ByTeamRow<std::int16_t>& seeds);
+
+    bool undo();
+
+private:
+    bool change(Bracket after);
+
+    Bracket m_entered;
+    Bracket m_supposed;
+    std::vector<Bracket> m_past; ///< oldest first
+};
+
+} // namespace tallyhoop

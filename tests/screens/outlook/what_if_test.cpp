@@ -1,0 +1,88 @@
+// tests/screens/outlook/what_if_test.cpp - supposing winners, taking them back, undo.
+#include "screens/outlook/what_if.h"
+
+#include "screens/outlook/final_pool.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyhoop::test {
+namespace {
+
+const ByTeamRow<std::int16_t> kSeeds = seedNumbers(finalField());
+
+TEST(WhatIfTest, LetsATeamWinAndTakesItBackWhenItIsPressedAgain)
+{
+    WhatIf whatIf{beforeTheFinal()};
+    EXPECT_TRUE(whatIf.press(kSemifinalA));
+    EXPECT_EQ(whatIf.supposed().at(kChampion), "Team 1");
+    EXPECT_TRUE(whatIf.isChanged());
+    EXPECT_TRUE(whatIf.press(kSemifinalB)) << "the other team instead";
+    EXPECT_EQ(whatIf.supposed().at(kChampion), "Team 35");
+    EXPECT_TRUE(whatIf.press(kSemifinalB));
+    EXPECT_TRUE(whatIf.supposed().isEmpty(kChampion));
+    EXPECT_FALSE(whatIf.isChanged());
+}
+
+TEST(WhatIfTest, TakesBackWhatFollowedAsWell)
+{
+    WhatIf whatIf{beforeTheFinal()};
+    whatIf.press(kSemifinalA);
+    EXPECT_TRUE(whatIf.press(regionWinner(0))) << "takes the semi-final back that Team 1 has won";
+    EXPECT_TRUE(whatIf.supposed().isEmpty(kSemifinalA));
+    EXPECT_TRUE(whatIf.supposed().isEmpty(kChampion));
+}
+
+TEST(WhatIfTest, ChangesNothingAtTheChampionAndWhereNobodyIs)
+{
+    WhatIf whatIf{beforeTheFinal()};
+    EXPECT_FALSE(whatIf.press(kChampion));
+    EXPECT_FALSE(whatIf.takeBack(kChampion));
+    EXPECT_FALSE(whatIf.canUndo());
+    WhatIf empty{Bracket{}};
+    EXPECT_FALSE(empty.press(kSemifinalA));
+}
+
+TEST(WhatIfTest, EmptiesAPlaceButNoRowOfTheField)
+{
+    WhatIf whatIf{beforeTheFinal()};
+    EXPECT_TRUE(whatIf.takeBack(kSemifinalB));
+    EXPECT_TRUE(whatIf.supposed().isEmpty(kSemifinalB));
+    EXPECT_EQ(whatIf.supposed().at(regionWinner(2)), "Team 35");
+    EXPECT_FALSE(whatIf.takeBack(Position{0}));
+    EXPECT_EQ(whatIf.supposed().at(Position{0}), "Team 1");
+}
+
+TEST(WhatIfTest, GoesBackStepByStepAndToTheResultsAsEntered)
+{
+    WhatIf whatIf{beforeTheFinal()};
+    whatIf.press(kSemifinalA);
+    whatIf.takeBack(regionWinner(0));
+    EXPECT_TRUE(whatIf.asEntered());
+    EXPECT_FALSE(whatIf.isChanged());
+    EXPECT_FALSE(whatIf.asEntered());
+    EXPECT_TRUE(whatIf.undo()) << "also this can be undone";
+    EXPECT_TRUE(whatIf.supposed().isEmpty(regionWinner(0)));
+    EXPECT_TRUE(whatIf.undo());
+    EXPECT_EQ(whatIf.supposed().at(kChampion), "Team 1");
+    EXPECT_TRUE(whatIf.undo());
+    EXPECT_FALSE(whatIf.isChanged());
+    EXPECT_FALSE(whatIf.undo());
+}
+
+TEST(WhatIfTest, FillsOnlyWhatNobodyHasWonWithHigherSeeds)
+{
+    // Team 2 (seeded 2, second row) has beaten Team 1; everything else of region 1 is open.
+    Bracket results = startingField();
+    results = advanced(results, Position{1});
+    WhatIf whatIf{results};
+    EXPECT_TRUE(whatIf.fillWithHigherSeeds(kSeeds));
+    EXPECT_EQ(whatIf.supposed().at(Position{16}), "Team 2");
+    EXPECT_EQ(whatIf.supposed().at(Position{17}), "Team 3") << "seeded 3, against 4";
+    EXPECT_EQ(whatIf.supposed().at(regionWinner(0)), "Team 2");
+    EXPECT_EQ(whatIf.supposed().at(regionWinner(3)), "Team 49");
+    EXPECT_TRUE(whatIf.supposed().isEmpty(kSemifinalA));
+    EXPECT_FALSE(whatIf.fillWithHigherSeeds(kSeeds));
+}
+
+} // namespace
+} // namespace tallyhoop::test
