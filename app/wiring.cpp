@@ -1,14 +1,17 @@
 // app/wiring.cpp - one case for each screen: where it is placed, how it is made, which view shows it.
 #include "app/wiring.h"
 
+#include "files/pool_files.h"
 #include "qt/views/board_view.h"
 #include "qt/views/email_view.h"
+#include "qt/views/outlook_view.h"
 #include "qt/views/players_view.h"
 #include "qt/views/reports_view.h"
 #include "qt/views/scores_view.h"
 #include "qt/views/seeds_view.h"
 #include "qt/views/setup_view.h"
 #include "screens/board/board_screen.h"
+#include "screens/outlook/outlook_screen.h"
 #include "screens/players/email_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -69,6 +72,9 @@ public:
         case ScreenKind::Email:
             return shownBy<qt::EmailView>(
                 Placement::Modal, std::make_unique<EmailScreen>(m_folder, m_platform, m_host, m_shared.mailDraft));
+        case ScreenKind::Outlook:
+            return shownBy<qt::OutlookView>(Placement::Stacked,
+                                            std::make_unique<OutlookScreen>(readPool(m_folder), m_platform, m_host));
         }
         throw std::logic_error{"There is no screen of this kind."};
     }

@@ -32,6 +32,12 @@ void BoardExits::toReports()
     m_screens.load(ScreenKind::Reports);
 }
 
+void BoardExits::toOutlook()
+{
+    m_screens.unload(ScreenKind::Scores);
+    m_screens.load(ScreenKind::Outlook);
+}
+
 void BoardExits::toDemo()
 {
     if (!enterDemo(m_folder, m_platform))

@@ -18,6 +18,7 @@ public:
     void toPlayers();
     void toSetup();
     void toReports();
+    void toOutlook();
 
     /// Enters demo mode, or leaves it, and shows what the folder then holds on a fresh board.
     void toDemo();

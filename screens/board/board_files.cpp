@@ -53,6 +53,8 @@ std::filesystem::path BoardFiles::results() const { return m_folder.pathTo(file_
 
 bool BoardFiles::resultsExist() const { return m_folder.exists(file_name::kResults); }
 
+bool BoardFiles::selectionsExist() const { return !m_folder.files(file_name::kSelectionExtension).empty(); }
+
 bool BoardFiles::isScored(const std::filesystem::path& file) const
 {
     return isSameFile(file, m_folder.folder() / file.filename());

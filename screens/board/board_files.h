@@ -34,6 +34,9 @@ public:
     std::filesystem::path results() const;
     bool resultsExist() const;
 
+    /// Whether there is a selection in the folder.
+    bool selectionsExist() const;
+
     /// @returns whether a selection in this file is in the folder that is scored
     bool isScored(const std::filesystem::path& file) const;
 

@@ -35,7 +35,8 @@ void BoardMenus::arrange()
                         &mnuOpenFolder,    &mnuBackUp,        nullptr,          &mnuExit};
     mnuEdit.children = {&mnuUndo, &mnuRedo};
     mnuEntryAssist.children = {&mnuHighSeed};
-    mnuOptions.children = {&mnuScoreSelections, &mnuGameResults, nullptr, &mnuEntryAssist, nullptr, &mnuEditNames};
+    mnuOptions.children = {&mnuScoreSelections, &mnuGameResults, &mnuOutlook,  nullptr,
+                           &mnuEntryAssist,     nullptr,         &mnuEditNames};
     mnuSetup.children = {&mnuSetupOptions};
     mnuDemo.children = {&mnuDemoSet, &mnuDemoReset};
     mnuHelp.children = {&mnuHelpDisplay, &mnuHelpAbout};
@@ -57,6 +58,7 @@ void BoardMenus::chooseIcons()
     mnuRedo.icon = ui::MenuIcon::Redo;
     mnuScoreSelections.icon = ui::MenuIcon::Score;
     mnuGameResults.icon = ui::MenuIcon::Results;
+    mnuOutlook.icon = ui::MenuIcon::Score;
     mnuHighSeed.icon = ui::MenuIcon::Assist;
     mnuEditNames.icon = ui::MenuIcon::People;
     mnuSetupOptions.icon = ui::MenuIcon::Setup;
@@ -87,6 +89,7 @@ void BoardMenus::explain()
     mnuRedo.explanation = "Makes the change again that was taken back last.";
     mnuScoreSelections.explanation = "Marks right and wrong picks; from the results it opens the list of all scores.";
     mnuGameResults.explanation = "Shows the real results, to enter the winners as they become known.";
+    mnuOutlook.explanation = "Who can still win the pool, how, and whom to root for.";
     mnuEntryAssist.explanation = "Help with filling the board in.";
     mnuHighSeed.explanation = "The better seed wins every game of the regions; picks already made there are replaced.";
     mnuEditNames.explanation = "Opens the list of players with their e-mail addresses.";
@@ -106,6 +109,7 @@ void BoardMenus::enableMenus(const BoardState& state)
     mnuSaveSelection.enabled = state.finalized && !state.scored;
     mnuGameResults.enabled = state.finalized && !state.resultsMode;
     mnuScoreSelections.enabled = state.finalized && !state.scored && (state.resultsMode || state.resultsThere);
+    mnuOutlook.enabled = state.finalized && state.selectionsThere;
     mnuReports.enabled = state.finalized && !state.reportsOpen;
     const bool editable = !state.marked && !state.scoreListOpen;
     mnuHighSeed.enabled = editable;

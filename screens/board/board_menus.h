@@ -35,13 +35,14 @@ inline constexpr std::size_t kRecentSelections = 5;
 
 /// What decides which entries can be chosen.
 struct BoardState {
-    bool finalized = false;    ///< the field is
-    bool demo = false;         ///< demo mode is on
-    bool mayStartDemo = false; ///< nobody has said that the field is final
-    bool resultsMode = false;  ///< the board holds the results
-    bool resultsThere = false; ///< there is a results file to score against
-    bool scored = false;       ///< the board's own picks are marked
-    bool marked = false;       ///< they are, or those of a player chosen in the list of scores
+    bool finalized = false;       ///< the field is
+    bool demo = false;            ///< demo mode is on
+    bool mayStartDemo = false;    ///< nobody has said that the field is final
+    bool resultsMode = false;     ///< the board holds the results
+    bool selectionsThere = false; ///< there is a selection in the folder
+    bool resultsThere = false;    ///< there is a results file to score against
+    bool scored = false;          ///< the board's own picks are marked
+    bool marked = false;          ///< they are, or those of a player chosen in the list of scores
     bool scoreListOpen = false;
     bool reportsOpen = false;
     std::vector<std::string> recent = {}; ///< names of the selections used last, at most kRecentSelections
@@ -83,6 +84,7 @@ public:
                                      [this] { m_do.scoreSelections(); }, "F6"};
     ui::MenuEntry mnuGameResults{m_owner, "mnuGameResults", "Enter &Game Results", [this] { m_do.enterGameResults(); },
                                  "F5"};
+    ui::MenuEntry mnuOutlook{m_owner, "mnuOutlook", "Pool &Outlook", [this] { m_go.toOutlook(); }, "F9"};
     ui::MenuEntry mnuEntryAssist{m_owner, "mnuEntryAssist", "Entry &Assist"};
     ui::MenuEntry mnuHighSeed{m_owner, "mnuHighSeed", "Select &High Seeds", [this] { m_do.selectHighSeeds(); }};
     ui::MenuEntry mnuEditNames{m_owner, "mnuEditNames", "Edit &Names File", [this] { m_go.toPlayers(); }, "F8"};

@@ -64,6 +64,7 @@ void BoardScreen::beginUnmarked()
     m_score.reset();
     m_resultsMode = false;
     m_resultsThere = m_files.resultsExist();
+    m_selectionsThere = m_files.selectionsExist();
     unsaved = false;
     m_history.clear();
     say({});
@@ -100,6 +101,7 @@ BoardState BoardScreen::state() const
             .demo = m_demo,
             .mayStartDemo = m_shared.field.mayBeReplaced(),
             .resultsMode = m_resultsMode,
+            .selectionsThere = m_selectionsThere,
             .resultsThere = m_resultsThere,
             .scored = m_verdicts.has_value(),
             .marked = shownVerdicts() != nullptr,

@@ -151,6 +151,7 @@ private:
     std::filesystem::path m_openedFile; ///< opened or saved last; empty after New Selection and at the start
     bool m_resultsMode = false;         ///< the board holds the results
     bool m_resultsThere = false;        ///< a results file was there when it was last looked for
+    bool m_selectionsThere = false;     ///< likewise a selection
     bool m_demo = false;
 
     std::optional<Drag> m_drag;

@@ -198,6 +198,7 @@ bool BoardScreen::saveSelectionIn(const std::filesystem::path& file, SaveKind ki
         return false;
     m_openedFile = file;
     m_history.boardWasSaved(m_sheet, m_openedFile);
+    m_selectionsThere = m_files.selectionsExist();
     m_shared.savedPlayer = SavedPlayer{txtPlayerName.text + "," + txtPlayerInitials.text, file, kind};
     m_recent.note(file);
     say("Saved " + shown(file.filename()) + "." + withoutPick(m_bracket) +

@@ -187,11 +187,10 @@ std::vector<PlayerProspect> OutlookWork::prospects() const
 void OutlookWork::addChances(OutlookFigures& figures) const
 {
     const std::size_t players = m_contest.players();
-    const bool counted = m_chances || m_firsts;
-    if (!counted && !(m_forecast && m_forecast->samples() > 0))
+    if (!hasChances())
         return;
     figures.errors.resize(players);
-    if (counted) {
+    if (!m_forecast) {
         figures.source = ChanceSource::Counted;
         figures.chances = m_chances ? *m_chances : partsOf(*m_firsts, m_contest.games().size());
         return;

@@ -72,6 +72,9 @@ public:
     /// @param step called while such a slice lasts; when it asks to stop, what is known by then stays, and all is done
     void advance(const Step& step = goOn);
 
+    /// Whether there are chances already, counted or estimated.
+    bool hasChances() const { return m_chances || m_firsts || (m_forecast && m_forecast->samples() > 0); }
+
     /// What is known so far.
     OutlookFigures figures() const;
 

@@ -4,6 +4,7 @@
 #include "pool/bracket.h"
 
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace tallyhoop {
@@ -29,6 +30,9 @@ public:
     bool takeBack(Position position);
 
     bool asEntered();
+
+    /// Supposes a whole bracket, such as one way in which somebody is first.
+    bool suppose(Bracket bracket) { return change(std::move(bracket)); }
 
     /// Lets the better-seeded team win every game inside the regions that nobody has won; equal seeds let the lower of
     /// the two rows win. The last three games stay.

@@ -94,15 +94,15 @@ TEST_F(Captions, OfTheBoard)
                     "lblRoundName_8: Semi-final:", "lblRoundName_9: Final game:", "lblChampion: CHAMPION",
                     "lblDemoMode: Demonstration Mode", "lblPlayerInitials: Initials", "lblPlayerName: Name",
                     "lblFinalPoints: Predict total points in Championship game", "cmdDefaultColors: Default Colors"));
-    EXPECT_THAT(menusOf(board), ElementsAre("File: [New Selection] [Open Selection] [Open Recent] [Previous Selection] "
-                                            "[Next Selection] [Save Selection] | [Print Preview] [Print Form] | "
-                                            "[Open Folder] [Back Up Pool] | [Exit]",
-                                            "Open Recent: [] [] [] [] []", "Edit: [Undo] [Redo]",
-                                            "Options: [Score Selections] [Enter Game Results] | [Entry Assist] | "
-                                            "[Edit Names File]",
-                                            "Entry Assist: [Select High Seeds]", "Setup: [Setup Pool Options]",
-                                            "Reports:", "DEMO Mode: [DEMO-Start] [DEMO-Reset]",
-                                            "Help: [Help Display] [About Tallyhoop]"));
+    EXPECT_THAT(menusOf(board),
+                ElementsAre("File: [New Selection] [Open Selection] [Open Recent] [Previous Selection] "
+                            "[Next Selection] [Save Selection] | [Print Preview] [Print Form] | "
+                            "[Open Folder] [Back Up Pool] | [Exit]",
+                            "Open Recent: [] [] [] [] []", "Edit: [Undo] [Redo]",
+                            "Options: [Score Selections] [Enter Game Results] [Pool Outlook] | [Entry Assist] | "
+                            "[Edit Names File]",
+                            "Entry Assist: [Select High Seeds]", "Setup: [Setup Pool Options]", "Reports:",
+                            "DEMO Mode: [DEMO-Start] [DEMO-Reset]", "Help: [Help Display] [About Tallyhoop]"));
 }
 
 TEST_F(Captions, OfTheListOfScores)

@@ -68,13 +68,13 @@ std::set<std::string> together(std::set<std::string> names, const std::set<std::
     return names;
 }
 
-/// Without a field there are no selections to turn to; none was used yet in any of the states.
+/// Without a field there are no selections to turn to; none is there, and none was used yet, in any of the states.
 std::set<std::string> withSelectionMenus(std::set<std::string> disabled)
 {
     if (disabled.contains("mnuOpenSelection"))
         disabled.insert({"mnuPrevious", "mnuNext"});
-    return together(std::move(disabled), {"mnuRecent", "mnuRecentFile_0", "mnuRecentFile_1", "mnuRecentFile_2",
-                                          "mnuRecentFile_3", "mnuRecentFile_4"});
+    return together(std::move(disabled), {"mnuOutlook", "mnuRecent", "mnuRecentFile_0", "mnuRecentFile_1",
+                                          "mnuRecentFile_2", "mnuRecentFile_3", "mnuRecentFile_4"});
 }
 
 /// Menus over a scratch folder, and everything that they can ask.
@@ -183,7 +183,8 @@ TEST_F(BoardMenusTest, EachOtherEntryLeadsWhereItSays)
 {
     menus.mnuEditNames.click();
     menus.mnuReports.click();
-    EXPECT_THAT(screens.loads, ElementsAre(ScreenKind::Players, ScreenKind::Reports));
+    menus.mnuOutlook.click();
+    EXPECT_THAT(screens.loads, ElementsAre(ScreenKind::Players, ScreenKind::Reports, ScreenKind::Outlook));
     menus.mnuSetupOptions.click();
     EXPECT_EQ(screens.loads.back(), ScreenKind::Setup);
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
@@ -200,6 +201,16 @@ TEST_F(BoardMenusTest, EachOtherEntryLeadsWhereItSays)
     menus.mnuExit.click();
     EXPECT_TRUE(screens.ended);
     EXPECT_TRUE(commands.asked.empty());
+}
+
+TEST_F(BoardMenusTest, TheOutlookNeedsAFinalFieldAndASelection)
+{
+    menus.enableMenus({.finalized = true, .selectionsThere = true});
+    EXPECT_TRUE(menus.mnuOutlook.enabled);
+    menus.enableMenus({.selectionsThere = true});
+    EXPECT_FALSE(menus.mnuOutlook.enabled);
+    menus.enableMenus({.finalized = true});
+    EXPECT_FALSE(menus.mnuOutlook.enabled);
 }
 
 TEST_F(BoardMenusTest, TheSelectionsUsedLastHaveAnEntryEach)
@@ -235,7 +246,7 @@ TEST_F(BoardMenusTest, EveryEntryIsInExactlyOneMenu)
                 placed.insert(child);
     for (const ui::MenuEntry* entry : menus.entries())
         EXPECT_EQ(placed.count(entry), 1u) << entry->name;
-    EXPECT_EQ(placed.size(), 35u);
+    EXPECT_EQ(placed.size(), 36u);
 }
 
 TEST_F(BoardMenusTest, EntriesHaveShortcutsOfTheirOwnAndSayWhatTheyDo)
@@ -253,7 +264,7 @@ TEST_F(BoardMenusTest, EntriesHaveShortcutsOfTheirOwnAndSayWhatTheyDo)
     }
     EXPECT_EQ(shortcuts,
               (std::set<std::string>{"Ctrl+N", "Ctrl+O", "Ctrl+S", "Ctrl+P", "Ctrl+Q", "Ctrl+Z", "Ctrl+Shift+Z",
-                                     "Ctrl+PgUp", "Ctrl+PgDown", "F1", "F5", "F6", "F7", "F8"}));
+                                     "Ctrl+PgUp", "Ctrl+PgDown", "F1", "F5", "F6", "F7", "F8", "F9"}));
 }
 
 } // namespace

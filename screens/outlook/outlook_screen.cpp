@@ -1,0 +1,307 @@
+// screens/outlook/outlook_screen.cpp - supposing, working, choosing; everything shown is derived in showState().
+#include "screens/outlook/outlook_screen.h"
+
+#include "base/text.h"
+#include "pool/results.h"
+#include "screens/board/board_geometry.h"
+#include "screens/help_topics.h"
+#include "screens/outlook/outlook_words.h"
+#include "screens/saving.h"
+#include "screens/scores/score_printout.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+std::vector<Bracket> picksOf(const Pool& pool)
+{
+    std::vector<Bracket> picks;
+    for (const Entry& entry : pool.entries)
+        picks.push_back(entry.picks);
+    return picks;
+}
+
+WhatIf whatIfOf(const Pool& pool) { return WhatIf{completedResults(pool.results.value_or(Entry{}), pool.field).picks}; }
+
+} // namespace
+
+OutlookScreen::OutlookScreen(Pool pool, const ui::Platform& platform, Screens& screens)
+    : ui::Screen{"frmPoolOutlook", "Pool Outlook"},
+      OutlookBoard{this},
+      m_platform{platform},
+      m_screens{screens},
+      m_pool{std::move(pool)},
+      m_picks{picksOf(m_pool)},
+      m_whatIf{whatIfOf(m_pool)}
+{
+    constexpr std::array kCaptions{"All A&like", "By &Seed", "As This &Pool Picked"};
+    for (std::size_t kind = 0; kind < optChances.size(); ++kind) {
+        optChances[kind].caption = kCaptions.at(kind);
+        optChances[kind].explanation = explanationOf(ChanceKind(kind));
+        optChances[kind].changed = [this] { chooseChances(); };
+    }
+    selectOption(optChances, 0);
+    cmdAsEntered.explanation = "Puts the real results back.";
+    cmdHigherSeeds.explanation = "Supposes that the better seed wins every open game of the regions.";
+    cmdUndo.explanation = "Takes back what was supposed last.";
+    cmdShowWay.explanation = "Supposes one way for the games to end in which the chosen player is first.";
+    cmdStop.explanation = "Stops counting; what is known by then stays.";
+    cmdCopy.explanation = "Puts the table on the clipboard, ready for a spreadsheet.";
+    cmdExit.explanation = "Back to the board.";
+    grdPlayers.spokenName = "Players";
+    grdPlayers.columns = outlookColumns();
+    grdPlayers.emptyNote = "There are no selections.";
+    grdPlayers.cellPressed = [this](std::size_t row, std::size_t column) { choosePlayer(row, column); };
+    grdPlayers.columnPressed = [this](std::size_t column) { m_headingPressed = column; };
+    grdPlayers.columnReleased = [this](std::optional<std::size_t> column) {
+        if (const auto pressed = std::exchange(m_headingPressed, std::nullopt); pressed && pressed == column)
+            sortBy(*column);
+    };
+    grdGames.spokenName = "Games that matter most";
+    grdGames.columns = {
+        {"Game", ui::Alignment::Left, 30}, {"Root for", ui::Alignment::Left, 16}, {"Swing", ui::Alignment::Right, 7}};
+    grdGames.emptyNote = "No open game makes a difference.";
+    grdGames.explanation = "Swing: how much the shares of all players differ between the two ways a game can end.";
+}
+
+std::string OutlookScreen::helpTopic() const { return help_topic::kScoreList; }
+
+void OutlookScreen::load()
+{
+    for (const Failure& failure : m_pool.trouble)
+        showTrouble(m_platform.dialogs, failure);
+    startWork();
+}
+
+void OutlookScreen::startWork()
+{
+    m_work.reset();
+    m_stopped = false;
+    const Result<Payoffs>& payoffs = m_pool.field.payoffs.points();
+    if (!payoffs) {
+        grdPlayers.emptyNote = payoffs.failure().message;
+        return;
+    }
+    m_standings = standingsBy(m_pool.entries, m_whatIf.supposed(), *payoffs);
+    m_work.emplace(Contest{m_whatIf.supposed(), m_picks, *payoffs}, m_pool.field, m_kind);
+    // Few games are counted before anybody sees that they are not yet.
+    while (m_work->contest().games().size() <= OutlookWork::kFewGames && !m_work->hasChances())
+        m_work->advance();
+    m_hasNews = true;
+}
+
+void OutlookScreen::advance(const Step& step)
+{
+    if (!isWorking())
+        return;
+    m_work->advance(step);
+    m_hasNews = true;
+}
+
+void OutlookScreen::supposed(bool changed)
+{
+    if (!changed)
+        return;
+    say({});
+    startWork();
+}
+
+void OutlookScreen::fillWithHigherSeeds() { supposed(m_whatIf.fillWithHigherSeeds(seedNumbers(m_pool.field))); }
+
+void OutlookScreen::chooseChances()
+{
+    for (std::size_t kind = 0; kind < optChances.size(); ++kind)
+        if (optChances[kind].selected)
+            m_kind = ChanceKind(kind);
+    say(explanationOf(m_kind));
+    startWork();
+}
+
+void OutlookScreen::choosePlayer(std::size_t row, std::size_t column)
+{
+    m_chosen = m_rows.at(row).player;
+    const auto pressed = static_cast<OutlookColumn>(column);
+    say(pressed == OutlookColumn::Verdict ? explanationOf(m_rows[row].prospect) : explanationOf(pressed));
+}
+
+void OutlookScreen::sortBy(std::size_t column)
+{
+    const auto chosen = static_cast<OutlookColumn>(column);
+    m_order = {chosen, m_order.column == chosen && !m_order.reversed};
+    m_hasNews = true;
+    say(explanationOf(chosen));
+}
+
+void OutlookScreen::showWay()
+{
+    const std::optional<OutcomeNumber> witness = m_figures.prospects.at(*m_chosen).witness;
+    supposed(m_whatIf.suppose(m_work->contest().games().outcome(*witness)));
+    say("This is one way in which " + m_pool.entries.at(*m_chosen).name + " is first.");
+}
+
+void OutlookScreen::copy()
+{
+    m_platform.clipboard.put(lblOutcomes.text + std::string{kLineBreak} + tabSeparated(grdPlayers));
+    const std::size_t rows = grdPlayers.rows.size();
+    say("Copied " + std::to_string(rows) + (rows == 1 ? " row" : " rows") + ", to be pasted into a spreadsheet.");
+}
+
+bool OutlookScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
+{
+    if (const std::optional<Position> position = positionOfLabel(control); position && pressedKey(*position, press))
+        return true;
+    if (&control == &grdPlayers && grdPlayers.current && press.key == ui::Key::Enter && press.control) {
+        sortBy(grdPlayers.current->column);
+        return true;
+    }
+    return ui::Screen::keyPressed(control, press);
+}
+
+bool OutlookScreen::pressedKey(Position position, const ui::KeyPress& press)
+{
+    if (press.control || press.alt)
+        return false;
+    if (const std::optional<Direction> direction = directionOf(press.key)) {
+        static const BoardGeometry kShape = layOutBoard(1000, 600);
+        focused = &lblRegion[neighbour(kShape, position, *direction)];
+        return true;
+    }
+    if (press.key == ui::Key::Enter || (press.key == ui::Key::Character && press.character == ' ')) {
+        pressPosition(position);
+        return true;
+    }
+    if (press.key == ui::Key::Delete || press.key == ui::Key::Backspace) {
+        takeBackPosition(position);
+        return true;
+    }
+    return false;
+}
+
+void OutlookScreen::gotFocus(ui::Control& control)
+{
+    if (const std::optional<Position> position = positionOfLabel(control))
+        makeTabStop(*position);
+}
+
+void OutlookScreen::showState()
+{
+    takeFigures();
+    showSupposed(m_pool.field, m_whatIf.entered(), m_whatIf.supposed());
+    const std::vector<OpenGame> games = m_work ? openGamesOf(m_work->contest().games()) : std::vector<OpenGame>{};
+    showSwings(games, swings());
+    showGames(games);
+    showPlayer();
+    lblWhatIf.text = m_whatIf.isChanged() ? "What if: nothing here is saved" : "The results as entered";
+    cmdAsEntered.enabled = m_whatIf.isChanged();
+    cmdUndo.enabled = m_whatIf.canUndo();
+    cmdStop.enabled = isWorking();
+    cmdCopy.enabled = !grdPlayers.rows.empty();
+    lblOutcomes.text = howFar();
+    status = lblOutcomes.text;
+    explanation =
+        m_chosen ? "" : "Choose a player to see whom to root for; click a team on the board to suppose that it wins.";
+    grdPlayers.explanation = grdPlayers.current
+                                 ? explanationOf(static_cast<OutlookColumn>(grdPlayers.current->column))
+                                 : "Click a heading, or press Ctrl+Enter in its column, to sort; choose a player to "
+                                   "see whom to root for.";
+}
+
+void OutlookScreen::takeFigures()
+{
+    if (!std::exchange(m_hasNews, false))
+        return;
+    m_figures = m_work->figures();
+    keepAsEntered();
+    makeRows();
+    showRows();
+}
+
+/// What is known of the results as entered is what later suppositions are compared with.
+void OutlookScreen::keepAsEntered()
+{
+    if (m_whatIf.isChanged() || m_figures.source == ChanceSource::None)
+        return;
+    std::vector<double>& shares = m_entered.at(static_cast<std::size_t>(m_kind));
+    shares.clear();
+    for (const PlayerChances& player : m_figures.chances.players)
+        shares.push_back(player.all.share);
+}
+
+void OutlookScreen::makeRows()
+{
+    const std::vector<double>& entered = m_entered.at(static_cast<std::size_t>(m_kind));
+    m_rows = outlookRows(m_pool.entries, m_standings, m_figures,
+                         m_whatIf.isChanged() ? std::span<const double>{entered} : std::span<const double>{});
+    sortRows(m_rows, m_order);
+}
+
+void OutlookScreen::showRows()
+{
+    grdPlayers.rows.clear();
+    for (const OutlookRow& row : m_rows) {
+        std::vector<std::string> cells;
+        for (std::size_t column = 0; column < kOutlookColumns; ++column)
+            cells.push_back(cellOf(row, static_cast<OutlookColumn>(column)));
+        grdPlayers.rows.push_back(std::move(cells));
+    }
+    ++grdPlayers.revision;
+}
+
+std::vector<double> OutlookScreen::swings() const
+{
+    return m_chosen && m_figures.source != ChanceSource::None ? swingsFor(*m_chosen, m_figures.chances)
+                                                              : std::vector<double>{};
+}
+
+void OutlookScreen::showGames(const std::vector<OpenGame>& games)
+{
+    std::vector<std::vector<std::string>> rows;
+    const std::vector<double> ofChosen = swings();
+    if (m_figures.source != ChanceSource::None)
+        for (const GameWeight& weight : weightsOf(m_figures.chances))
+            rows.push_back({gameText(games[weight.openGame]),
+                            ofChosen.empty() ? "" : rootFor(games[weight.openGame], ofChosen[weight.openGame]),
+                            fixedText(weight.swing)});
+    if (rows == grdGames.rows)
+        return;
+    grdGames.rows = std::move(rows);
+    ++grdGames.revision;
+}
+
+void OutlookScreen::showPlayer()
+{
+    lblPlayer.text = m_chosen
+                         ? m_pool.entries.at(*m_chosen).name + ": " + wordOf(m_figures.prospects.at(*m_chosen).prospect)
+                         : "Nobody is chosen";
+    lblProof.text = m_chosen ? proofFor(*m_chosen) : "";
+    cmdShowWay.enabled = m_chosen && m_figures.prospects.at(*m_chosen).witness;
+}
+
+std::string OutlookScreen::proofFor(std::size_t player) const
+{
+    const PlayerProspect& prospect = m_figures.prospects.at(player);
+    const std::size_t openGames = m_work->contest().games().size();
+    if (!m_figures.firstOutcomes.empty())
+        return countedWords(m_figures.firstOutcomes.at(player), m_work->contest().games().outcomes()) +
+               (prospect.rival ? " " + m_pool.entries.at(*prospect.rival).name + " is ahead in every one." : "");
+    if (prospect.rival)
+        return m_pool.entries.at(*prospect.rival).name + " is ahead, however the games end.";
+    return provenWords(prospect.prospect, openGames);
+}
+
+std::string OutlookScreen::howFar() const
+{
+    if (!m_work)
+        return "The payoffs are no numbers, so there is no outlook.";
+    const std::string kind = nameOf(m_kind) + ". ";
+    if (m_stopped && !m_work->isDone())
+        return kind + "Stopped. " + sourceWords(m_figures, m_work->contest().games());
+    if (m_figures.source == ChanceSource::None)
+        return kind + workingWords(m_work->fraction());
+    return kind + sourceWords(m_figures, m_work->contest().games());
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,95 @@
+// screens/outlook/outlook_words.cpp - the sentences themselves.
+#include "screens/outlook/outlook_words.h"
+
+#include "screens/outlook/outlook_rows.h"
+
+#include <cmath>
+#include <fmt/format.h>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr const char* kManyTeams = "winner of an earlier game";
+
+std::string sideText(const std::string& side) { return side.empty() ? kManyTeams : side; }
+
+} // namespace
+
+std::string nameOf(ChanceKind kind)
+{
+    switch (kind) {
+    case ChanceKind::BySeed:
+        return "Chances by seed";
+    case ChanceKind::AsPicked:
+        return "Chances as this pool picked";
+    case ChanceKind::Alike:
+        break;
+    }
+    return "All outcomes alike";
+}
+
+std::string explanationOf(ChanceKind kind)
+{
+    switch (kind) {
+    case ChanceKind::BySeed:
+        return "By seed: a team seeded a beats one seeded b with the chance b / (a + b).";
+    case ChanceKind::AsPicked:
+        return "As this pool picked: the more players picked a team to win this game, the likelier; each has one more.";
+    case ChanceKind::Alike:
+        break;
+    }
+    return "All alike: every outcome counts the same, as if each game were the toss of a coin.";
+}
+
+std::string sourceWords(const OutlookFigures& figures, const OpenGames& games)
+{
+    switch (figures.source) {
+    case ChanceSource::Forecast:
+        return fmt::format("Forecast from {} samples of {} open games, seed {}.", figures.samples, games.size(),
+                           kForecastSeed);
+    case ChanceSource::Counted:
+        return games.size() == 0 ? "No game is open."
+                                 : fmt::format("{} outcomes left, every one counted.", games.outcomes());
+    case ChanceSource::None:
+        break;
+    }
+    return "Nothing is counted yet.";
+}
+
+std::string workingWords(double fraction)
+{
+    return fmt::format("Working: {} %.", static_cast<int>(std::floor(100 * fraction)));
+}
+
+std::string countedWords(std::uint64_t first, std::uint64_t outcomes)
+{
+    return fmt::format("First in {} of {} outcomes, alone or together with others.", first, outcomes);
+}
+
+std::string provenWords(Prospect prospect, std::size_t openGames)
+{
+    switch (prospect) {
+    case Prospect::Clinched:
+        return "Nobody can come ahead any more.";
+    case Prospect::Alive:
+        return fmt::format("One way for the {} open games to end is known in which the player is first.", openGames);
+    case Prospect::Out:
+    case Prospect::Open:
+        break;
+    }
+    return explanationOf(prospect);
+}
+
+std::string gameText(const OpenGame& game) { return sideText(game.upper) + " - " + sideText(game.lower); }
+
+std::string rootFor(const OpenGame& game, double swing)
+{
+    if (std::abs(swing) < kLeastSwing)
+        return "-";
+    return sideText(swing > 0 ? game.upper : game.lower);
+}
+
+std::string fixedText(double number) { return fmt::format("{:.1f}", number); }
+
+} // namespace tallyhoop

@@ -1,0 +1,246 @@
+// tests/screens/outlook/outlook_screen_test.cpp - what is shown of the outlook, and what a person can suppose.
+#include "screens/outlook/outlook_screen.h"
+
+#include "fakes/fake_platform.h"
+#include "fakes/fake_screens.h"
+#include "screens/outlook/final_pool.h"
+
+#include <gmock/gmock.h>
+
+namespace tallyhoop::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using testing::StartsWith;
+
+struct OutlookScreenTest : testing::Test {
+    FakePlatform platform;
+    FakeScreens screens;
+    Pool pool = finalPool();
+    std::unique_ptr<OutlookScreen> screen;
+
+    void open()
+    {
+        screen = std::make_unique<OutlookScreen>(pool, platform.services, screens);
+        screen->load();
+        workItOut();
+    }
+
+    void workItOut()
+    {
+        while (screen->isWorking())
+            screen->advance();
+        screen->showState();
+    }
+
+    std::vector<std::string> column(OutlookColumn column) const
+    {
+        std::vector<std::string> cells;
+        for (const auto& row : screen->grdPlayers.rows)
+            cells.push_back(row.at(static_cast<std::size_t>(column)));
+        return cells;
+    }
+
+    void choose(const std::string& name, OutlookColumn pressed = OutlookColumn::Player)
+    {
+        const std::vector<std::string> names = column(OutlookColumn::Player);
+        const auto row = static_cast<std::size_t>(std::ranges::find(names, name) - names.begin());
+        screen->grdPlayers.cellPressed(row, static_cast<std::size_t>(pressed));
+        screen->showState();
+    }
+
+    void suppose(Position position)
+    {
+        screen->pressPosition(position);
+        workItOut();
+    }
+
+    void pressHeading(OutlookColumn heading)
+    {
+        screen->grdPlayers.columnPressed(static_cast<std::size_t>(heading));
+        screen->grdPlayers.columnReleased(static_cast<std::size_t>(heading));
+        screen->showState();
+    }
+};
+
+TEST_F(OutlookScreenTest, ShowsWhoCanStillBeFirst)
+{
+    open();
+    EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Ann", "X, Bob", "X, Cleo"));
+    EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("50.0 %", "25.0 %", "25.0 %"));
+    EXPECT_EQ(screen->lblOutcomes.text, "All outcomes alike. 2 outcomes left, every one counted.");
+    EXPECT_EQ(screen->lblWhatIf.text, "The results as entered");
+    EXPECT_FALSE(screen->cmdAsEntered.enabled);
+    EXPECT_FALSE(screen->cmdStop.enabled);
+}
+
+TEST_F(OutlookScreenTest, CountsFewGamesBeforeItIsSeen)
+{
+    screen = std::make_unique<OutlookScreen>(pool, platform.services, screens);
+    screen->load();
+    screen->showState();
+    EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("50.0 %", "25.0 %", "25.0 %"));
+}
+
+TEST_F(OutlookScreenTest, FollowsWhatIsSupposedAndComparesIt)
+{
+    open();
+    suppose(kSemifinalB);
+    EXPECT_EQ(screen->lblWhatIf.text, "What if: nothing here is saved");
+    EXPECT_EQ(screen->lblRegion[kChampion].text, "Team 35");
+    EXPECT_TRUE(screen->lblRegion[kChampion].background.has_value());
+    EXPECT_FALSE(screen->lblRegion[kSemifinalB].background.has_value());
+    EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Bob", "X, Cleo", "X, Ann"));
+    EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("50.0 %", "50.0 %", "0.0 %"));
+    EXPECT_THAT(column(OutlookColumn::Change), ElementsAre("+25.0", "+25.0", "-50.0"));
+    EXPECT_THAT(column(OutlookColumn::Verdict), ElementsAre("Clinched", "Clinched", "Out"));
+    EXPECT_THAT(column(OutlookColumn::Points), ElementsAre("168", "168", "152"));
+    EXPECT_EQ(screen->lblOutcomes.text, "All outcomes alike. No game is open.");
+}
+
+TEST_F(OutlookScreenTest, PutsTheResultsBack)
+{
+    open();
+    suppose(kSemifinalB);
+    screen->cmdAsEntered.click();
+    EXPECT_EQ(screen->lblRegion[kChampion].text, "");
+    EXPECT_THAT(column(OutlookColumn::Change), ElementsAre("", "", ""));
+    screen->cmdUndo.click();
+    EXPECT_EQ(screen->lblRegion[kChampion].text, "Team 35");
+    screen->takeBackPosition(kChampion);
+    screen->showState();
+    EXPECT_FALSE(screen->cmdAsEntered.enabled);
+}
+
+TEST_F(OutlookScreenTest, SaysWhomToRootFor)
+{
+    open();
+    EXPECT_EQ(screen->lblSwing[kSemifinalA].text, "") << "nobody is chosen";
+    choose("X, Ann");
+    EXPECT_EQ(screen->lblSwing[kSemifinalA].text, "+100.0");
+    EXPECT_EQ(screen->lblSwing[kSemifinalB].text, "-100.0");
+    EXPECT_THAT(screen->grdGames.rows, ElementsAre(ElementsAre("Team 1 - Team 35", "Team 1", "200.0")));
+    EXPECT_EQ(screen->lblPlayer.text, "Ann: Alive");
+    EXPECT_EQ(screen->lblProof.text, "First in 1 of 2 outcomes, alone or together with others.");
+    choose("X, Bob", OutlookColumn::Verdict);
+    EXPECT_EQ(screen->lblSwing[kSemifinalA].text, "-50.0");
+    EXPECT_EQ(screen->grdGames.rows.at(0).at(1), "Team 35");
+    EXPECT_EQ(screen->news().text, "Alive: first in at least one outcome that is left.");
+}
+
+TEST_F(OutlookScreenTest, ShowsAWayToWin)
+{
+    open();
+    EXPECT_FALSE(screen->cmdShowWay.enabled);
+    choose("X, Cleo");
+    screen->cmdShowWay.click();
+    EXPECT_EQ(screen->lblRegion[kChampion].text, "Team 35");
+    EXPECT_EQ(screen->news().text, "This is one way in which Cleo is first.");
+    choose("X, Ann");
+    EXPECT_FALSE(screen->cmdShowWay.enabled);
+    EXPECT_THAT(screen->lblProof.text, StartsWith("First in 0 of 1 outcomes"));
+}
+
+TEST_F(OutlookScreenTest, TakesOtherChances)
+{
+    open();
+    selectOption(screen->optChances, 1);
+    screen->optChances[1].changed();
+    workItOut();
+    EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("75.0 %", "12.5 %", "12.5 %"));
+    EXPECT_THAT(screen->lblOutcomes.text, StartsWith("Chances by seed. "));
+    EXPECT_THAT(screen->news().text, HasSubstr("b / (a + b)"));
+}
+
+TEST_F(OutlookScreenTest, SortsByAHeadingAndTurnsTheOrderRound)
+{
+    open();
+    pressHeading(OutlookColumn::Player);
+    EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Ann", "X, Bob", "X, Cleo"));
+    EXPECT_THAT(screen->news().text, StartsWith("Player: "));
+    pressHeading(OutlookColumn::Player);
+    EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Cleo", "X, Bob", "X, Ann"));
+    screen->grdPlayers.columnPressed(1);
+    screen->grdPlayers.columnReleased(2);
+    screen->showState();
+    EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Cleo", "X, Bob", "X, Ann")) << "columns stay";
+}
+
+TEST_F(OutlookScreenTest, StopsWhenItIsAskedTo)
+{
+    pool.results->picks = startingField();
+    screen = std::make_unique<OutlookScreen>(pool, platform.services, screens);
+    screen->load();
+    screen->showState();
+    EXPECT_EQ(screen->lblOutcomes.text, "All outcomes alike. Working: 0 %.");
+    screen->advance();
+    screen->advance();
+    screen->showState();
+    EXPECT_EQ(screen->lblOutcomes.text, "All outcomes alike. Forecast from 500 samples of 63 open games, seed 2000.");
+    screen->cmdStop.click();
+    EXPECT_FALSE(screen->isWorking());
+    EXPECT_FALSE(screen->cmdStop.enabled);
+    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("Stopped. Forecast from 500 samples"));
+}
+
+TEST_F(OutlookScreenTest, CopiesTheTableWithTheKindOfItsChances)
+{
+    open();
+    screen->cmdCopy.click();
+    EXPECT_THAT(platform.clipboard.text,
+                StartsWith("All outcomes alike. 2 outcomes left, every one counted.\r\nNow\tPlayer\t"));
+    EXPECT_THAT(platform.clipboard.text, HasSubstr("1\tX, Ann\t152\t168\t50.0 %\t50.0 %\t1\t3\tAlive\t\r\n"));
+    EXPECT_EQ(screen->news().text, "Copied 3 rows, to be pasted into a spreadsheet.");
+}
+
+TEST_F(OutlookScreenTest, IsPlayedWithByKeysAlone)
+{
+    open();
+    ui::Label& semifinal = screen->lblRegion[kSemifinalA];
+    EXPECT_TRUE(screen->keyPressed(semifinal, {.key = ui::Key::Character, .character = ' '}));
+    workItOut();
+    EXPECT_EQ(screen->lblRegion[kChampion].text, "Team 1");
+    EXPECT_TRUE(screen->keyPressed(screen->lblRegion[kChampion], {.key = ui::Key::Delete}));
+    workItOut();
+    EXPECT_EQ(screen->lblRegion[kChampion].text, "");
+    EXPECT_TRUE(screen->keyPressed(screen->lblRegion[Position{0}], {.key = ui::Key::Down}));
+    EXPECT_EQ(screen->focused, &screen->lblRegion[Position{1}]);
+    screen->gotFocus(*screen->focused);
+    EXPECT_TRUE(screen->lblRegion[Position{1}].tabStop);
+    EXPECT_FALSE(screen->lblRegion[Position{0}].tabStop);
+    screen->grdPlayers.current = ui::GridCell{0, static_cast<std::size_t>(OutlookColumn::Worst)};
+    EXPECT_TRUE(screen->keyPressed(screen->grdPlayers, {.key = ui::Key::Enter, .control = true}));
+    screen->showState();
+    EXPECT_THAT(column(OutlookColumn::Worst), ElementsAre("2", "2", "3"));
+}
+
+TEST_F(OutlookScreenTest, SaysThatThereIsNoOutlookWithoutPayoffs)
+{
+    pool.field.payoffs = PayoffTexts{{"99999", "", "", "", "", ""}};
+    open();
+    EXPECT_THAT(screen->grdPlayers.rows, IsEmpty());
+    EXPECT_EQ(screen->grdPlayers.emptyNote, pool.field.payoffs.points().failure().message);
+    EXPECT_FALSE(screen->cmdCopy.enabled);
+    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("no outlook"));
+}
+
+TEST_F(OutlookScreenTest, ShowsWhatCouldNotBeRead)
+{
+    pool.trouble.push_back(Failure{"Smith_JS.THC cannot be read"});
+    open();
+    ASSERT_THAT(platform.dialogs.shown, SizeIs(1));
+    EXPECT_THAT(platform.dialogs.shown[0].text, HasSubstr("Smith_JS.THC"));
+}
+
+TEST_F(OutlookScreenTest, LeavesToTheBoard)
+{
+    open();
+    screen->cmdExit.click();
+    EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::Outlook));
+}
+
+} // namespace
+} // namespace tallyhoop::test
