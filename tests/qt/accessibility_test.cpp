@@ -9,6 +9,7 @@
 #include "qt/main_frame.h"
 #include "qt/screen_host.h"
 #include "screens/board/board_screen.h"
+#include "screens/outlook/outlook_screen.h"
 #include "screens/scores/scores_screen.h"
 
 #include <QAccessible>
@@ -146,6 +147,18 @@ TEST_P(Accessibility, OfTheReports)
 {
     onBoard([&] { board().mnuReports.click(); });
     examine(ScreenKind::Reports);
+}
+
+TEST_P(Accessibility, OfTheOutlook)
+{
+    onBoard([&] { board().mnuOutlook.click(); });
+    examine(ScreenKind::Outlook);
+    OutlookScreen& outlook = *host.find<OutlookScreen>(ScreenKind::Outlook);
+    desk.run(outlook, [&] {
+        outlook.pressPosition(regionWinner(0));
+        outlook.grdPlayers.cellPressed(0, 1);
+    });
+    examine(ScreenKind::Outlook);
 }
 
 TEST_P(Accessibility, OfThePlayerList)
