@@ -16,6 +16,9 @@ QLabel* Page::add(ui::Label& label)
         QPalette palette;
         if (shown.colour)
             palette.setColor(QPalette::WindowText, look::toQColor(*shown.colour));
+        if (shown.background)
+            palette.setColor(QPalette::Window, look::toQColor(*shown.background));
+        widget->setAutoFillBackground(shown.background.has_value());
         widget->setPalette(palette);
     });
 }

@@ -10,16 +10,17 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr qint64 kSlice = 10;    ///< milliseconds of work between two looks at the events
-constexpr qint64 kRefresh = 150; ///< milliseconds between two looks at what is known
+constexpr int kWhatIfWidth = 240; ///< room for either of its texts
+constexpr qint64 kSlice = 10;     ///< milliseconds of work between two looks at the events
+constexpr qint64 kRefresh = 150;  ///< milliseconds between two looks at what is known
 
 } // namespace
 
 OutlookView::OutlookView(OutlookScreen& outlook, Desk& desk) : Page{outlook, desk}, m_outlook{outlook}
 {
     auto* const middle = look::row(look::kSection);
-    middle->addWidget(new OutlookCanvas{outlook, *this}, 3);
-    middle->addWidget(add(outlook.grdPlayers), 2);
+    middle->addWidget(new OutlookCanvas{outlook, *this}, 11);
+    middle->addWidget(add(outlook.grdPlayers), 10);
     auto* const whole = look::column();
     whole->addLayout(makeBar());
     whole->addLayout(middle, 3);
@@ -39,6 +40,8 @@ QLayout* OutlookView::makeBar()
     auto* const bar = look::row();
     QLabel* const whatIf = add(m_outlook.lblWhatIf);
     whatIf->setFont(look::boldFont());
+    whatIf->setMinimumWidth(kWhatIfWidth);
+    whatIf->setMargin(look::kTight);
     bar->addWidget(whatIf);
     bar->addWidget(add(m_outlook.cmdAsEntered));
     bar->addWidget(add(m_outlook.cmdHigherSeeds));

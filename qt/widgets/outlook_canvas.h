@@ -20,7 +20,7 @@ class OutlookCanvas : public QWidget
 public:
     OutlookCanvas(OutlookScreen& outlook, Page& page);
 
-    QSize minimumSizeHint() const override { return {700, 400}; }
+    QSize minimumSizeHint() const override { return {640, 360}; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -10,8 +10,6 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr ui::Colour kText{0, 0, 0};
-constexpr ui::Colour kSupposed{255, 231, 172};
 constexpr ui::Colour kWhite{255, 255, 255};
 constexpr ui::Colour kHelps{11, 107, 43};
 constexpr ui::Colour kHarms{160, 21, 21};
@@ -38,8 +36,8 @@ void OutlookBoard::showSupposed(const Field& field, const Bracket& entered, cons
         label.spokenName = spokenPlace(picture, position);
         if (differs)
             label.spokenName += ", supposed";
-        label.colour = differs ? std::optional{kText} : std::nullopt;
-        label.background = differs ? std::optional{kSupposed} : std::nullopt;
+        label.colour = differs ? std::optional{kSupposedText} : std::nullopt;
+        label.background = differs ? std::optional{kSupposedBackground} : std::nullopt;
         label.explanation = supposed.isEmpty(position)
                                 ? "An open game. Click one of its teams to suppose that it wins."
                                 : "Click to suppose that this team wins, once more to take it back; nothing is saved.";

@@ -11,6 +11,10 @@
 
 namespace tallyhoop {
 
+/// What is supposed has this background, in light and in dark windows, and this text on it.
+inline constexpr ui::Colour kSupposedBackground{255, 231, 172};
+inline constexpr ui::Colour kSupposedText{0, 0, 0};
+
 class OutlookBoard
 {
     ui::Screen* m_owner; // first: the controls list themselves with it

@@ -24,17 +24,17 @@ struct ColumnWords {
 };
 
 constexpr std::array<ColumnWords, kOutlookColumns> kColumns{{
-    {"Now", ui::Alignment::Right, 4, "Now: the place by the points so far; players with the same points share it."},
-    {"Player", ui::Alignment::Left, 22, "Player: choose one to see whom to root for."},
+    {"Now", ui::Alignment::Right, 3, "Now: the place by the points so far; players with the same points share it."},
+    {"Player", ui::Alignment::Left, 15, "Player: choose one to see whom to root for."},
     {"Points", ui::Alignment::Right, 6, "Points: earned so far."},
     {"Possible", ui::Alignment::Right, 8, "Possible: earned, and what the open games can still bring."},
-    {"First", ui::Alignment::Right, 8, "First: how often the player ends first, alone or together with others."},
-    {"Share", ui::Alignment::Right, 14, "Share: of first place; a first place that several share counts in parts."},
-    {"Best", ui::Alignment::Right, 7, "Best: the best place that the player can still end at."},
-    {"Worst", ui::Alignment::Right, 7, "Worst: the worst place that the player can still end at."},
+    {"First", ui::Alignment::Right, 7, "First: how often the player ends first, alone or together with others."},
+    {"Share", ui::Alignment::Right, 12, "Share: of first place; a first place that several share counts in parts."},
     {"Verdict", ui::Alignment::Left, 8,
      "Verdict: Clinched is always first, Alive can be first, Out cannot, Open is unproven."},
-    {"Change", ui::Alignment::Right, 7, "Change: of the share, against the results as entered."},
+    {"Best", ui::Alignment::Right, 4, "Best: the best place that the player can still end at."},
+    {"Worst", ui::Alignment::Right, 5, "Worst: the worst place that the player can still end at."},
+    {"Change", ui::Alignment::Right, 6, "Change: of the share, against the results as entered."},
 }};
 
 const ColumnWords& wordsOf(OutlookColumn column) { return kColumns.at(static_cast<std::size_t>(column)); }

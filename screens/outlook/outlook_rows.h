@@ -24,7 +24,7 @@ struct PlayerStanding {
 std::vector<PlayerStanding> standingsBy(std::span<const Entry> entries, const Bracket& results, const Payoffs& payoffs);
 
 /// The columns of the table, from the left.
-enum class OutlookColumn { Now, Player, Points, Possible, First, Share, Best, Worst, Verdict, Change };
+enum class OutlookColumn { Now, Player, Points, Possible, First, Share, Verdict, Best, Worst, Change };
 inline constexpr std::size_t kOutlookColumns = 10;
 
 /// A player's row. Chances are in percent, 0..100; nothing = not known yet.

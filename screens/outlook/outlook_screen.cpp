@@ -16,6 +16,9 @@ namespace tallyhoop {
 
 namespace {
 
+constexpr const char* kWhatIf = "What if: nothing here is saved";
+constexpr const char* kAsEntered = "The results as entered";
+
 std::vector<Bracket> picksOf(const Pool& pool)
 {
     std::vector<Bracket> picks;
@@ -194,8 +197,11 @@ void OutlookScreen::showState()
     showSwings(games, swings());
     showGames(games);
     showPlayer();
-    lblWhatIf.text = m_whatIf.isChanged() ? "What if: nothing here is saved" : "The results as entered";
-    cmdAsEntered.enabled = m_whatIf.isChanged();
+    const bool isSupposed = m_whatIf.isChanged();
+    lblWhatIf.text = isSupposed ? kWhatIf : kAsEntered;
+    lblWhatIf.colour = isSupposed ? std::optional{kSupposedText} : std::nullopt;
+    lblWhatIf.background = isSupposed ? std::optional{kSupposedBackground} : std::nullopt;
+    cmdAsEntered.enabled = isSupposed;
     cmdUndo.enabled = m_whatIf.canUndo();
     cmdStop.enabled = isWorking();
     cmdCopy.enabled = !grdPlayers.rows.empty();

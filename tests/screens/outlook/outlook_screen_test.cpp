@@ -90,6 +90,7 @@ TEST_F(OutlookScreenTest, FollowsWhatIsSupposedAndComparesIt)
     open();
     suppose(kSemifinalB);
     EXPECT_EQ(screen->lblWhatIf.text, "What if: nothing here is saved");
+    EXPECT_EQ(screen->lblWhatIf.background, kSupposedBackground);
     EXPECT_EQ(screen->lblRegion[kChampion].text, "Team 35");
     EXPECT_TRUE(screen->lblRegion[kChampion].background.has_value());
     EXPECT_FALSE(screen->lblRegion[kSemifinalB].background.has_value());
@@ -192,7 +193,7 @@ TEST_F(OutlookScreenTest, CopiesTheTableWithTheKindOfItsChances)
     screen->cmdCopy.click();
     EXPECT_THAT(platform.clipboard.text,
                 StartsWith("All outcomes alike. 2 outcomes left, every one counted.\r\nNow\tPlayer\t"));
-    EXPECT_THAT(platform.clipboard.text, HasSubstr("1\tX, Ann\t152\t168\t50.0 %\t50.0 %\t1\t3\tAlive\t\r\n"));
+    EXPECT_THAT(platform.clipboard.text, HasSubstr("1\tX, Ann\t152\t168\t50.0 %\t50.0 %\tAlive\t1\t3\t\r\n"));
     EXPECT_EQ(screen->news().text, "Copied 3 rows, to be pasted into a spreadsheet.");
 }
 
