@@ -13,12 +13,13 @@ inline constexpr const char* kSelections = "selections";
 inline constexpr const char* kResults = "results";
 inline constexpr const char* kScores = "scores";     ///< the marks and the score of one selection
 inline constexpr const char* kScoreList = "ranking"; ///< the scores of all players
+inline constexpr const char* kOutlook = "outlook";
 inline constexpr const char* kReports = "reports";
 inline constexpr const char* kEmail = "email";
 inline constexpr const char* kPlayers = "players";
 inline constexpr const char* kRepair = "repair"; ///< of a faulty player list
 
-inline constexpr std::array kAll{kStart,  kDemo,      kSetup,   kSeeds, kSelections, kResults,
-                                 kScores, kScoreList, kReports, kEmail, kPlayers,    kRepair};
+inline constexpr std::array kAll{kStart,     kDemo,    kSetup,   kSeeds, kSelections, kResults, kScores,
+                                 kScoreList, kOutlook, kReports, kEmail, kPlayers,    kRepair};
 
 } // namespace tallyhoop::help_topic

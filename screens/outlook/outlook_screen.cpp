@@ -70,7 +70,7 @@ OutlookScreen::OutlookScreen(Pool pool, const ui::Platform& platform, Screens& s
     grdGames.explanation = "Swing: how much the shares of all players differ between the two ways a game can end.";
 }
 
-std::string OutlookScreen::helpTopic() const { return help_topic::kScoreList; }
+std::string OutlookScreen::helpTopic() const { return help_topic::kOutlook; }
 
 void OutlookScreen::load()
 {

@@ -241,6 +241,7 @@ TEST_F(OutlookScreenTest, LeavesToTheBoard)
     open();
     screen->cmdExit.click();
     EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::Outlook));
+    EXPECT_EQ(screen->helpTopic(), "outlook");
 }
 
 } // namespace
