@@ -59,5 +59,30 @@ TEST(GameSwings, NameNobodyWhereMoreThanTwoCanCome)
     EXPECT_EQ(games.back(), (OpenGame{kChampion, "", "Team 35 / Team 49", false}));
 }
 
+/// Forgets so many of the right picks of a round.
+void forget(Bracket& picks, int round, int games)
+{
+    for (const Position game : gamePositions())
+        if (roundOf(game) == round && games-- > 0)
+            picks.clear(game);
+}
+
+TEST(GameSwings, AreThoseOfTheExampleInTheHelp)
+{
+    // Before the semi-finals 128 points were to be had. A is Team 1, B Team 17, C Team 35, D Team 49.
+    const Bracket results = cleared(cleared(beforeTheFinal(), kSemifinalA), kSemifinalB);
+    Bracket ann =
+        dropped(dropped(results, regionWinner(0), kChampion, "Team 1"), regionWinner(2), kSemifinalB, "Team 35");
+    Bracket bob =
+        dropped(dropped(results, regionWinner(1), kChampion, "Team 17"), regionWinner(2), kSemifinalB, "Team 35");
+    forget(ann, 1, 32); // of 1 point
+    forget(ann, 2, 8);  // of 2 points: 128 - 32 - 16 = 80
+    forget(bob, 2, 14); // 128 - 28 = 100
+    const Contest contest{results, std::vector<Bracket>{ann, bob}, {1, 2, 4, 8, 12, 16}};
+    const ChanceOutlook chances = counted(contest);
+    EXPECT_DOUBLE_EQ(chances.players.at(0).all.share, 0.25);
+    EXPECT_THAT(swingsFor(0, chances), ElementsAre(DoubleEq(50), DoubleEq(0), DoubleEq(50)));
+}
+
 } // namespace
 } // namespace tallyhoop::test
