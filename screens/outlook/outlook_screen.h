@@ -5,6 +5,7 @@
 #include "screens/outlook/outlook_board.h"
 #include "screens/outlook/outlook_rows.h"
 #include "screens/outlook/outlook_work.h"
+#include "screens/outlook/road_drawing.h"
 #include "screens/outlook/what_if.h"
 #include "screens/screens.h"
 #include "ui/platform.h"
@@ -53,6 +54,10 @@ public:
     void pressPosition(Position position) { supposed(m_whatIf.press(position)); }
     void takeBackPosition(Position position) { supposed(m_whatIf.takeBack(position)); }
 
+    /// How everybody's chances have changed from round to round, by the results as entered and the chances chosen; with
+    /// as many points as are known.
+    RoadPicture roadPicture() const;
+
     /// Whether advance() has something to do.
     bool isWorking() const { return m_work && !m_stopped && !m_work->isDone(); }
 
@@ -94,6 +99,7 @@ private:
     OutlookFigures m_figures;
     std::array<std::vector<double>, 3>
         m_entered; ///< shares by the results as entered, for each kind; empty = not known
+    std::array<std::vector<RoadPoint>, 3> m_roads; ///< by the results as entered, for each kind: the points known
 
     std::vector<PlayerStanding> m_standings;
     OutlookOrder m_order;

@@ -236,6 +236,24 @@ TEST_F(OutlookScreenTest, ShowsWhatCouldNotBeRead)
     EXPECT_THAT(platform.dialogs.shown[0].text, HasSubstr("Smith_JS.THC"));
 }
 
+TEST_F(OutlookScreenTest, NamesTheTimesAndThePlayersOfTheRoad)
+{
+    open();
+    RoadPicture road = screen->roadPicture();
+    EXPECT_THAT(road.times, ElementsAre("Start", "Round 1", "Round 2", "Round 3", "Round 4", "Now"))
+        << "the semifinals are the fifth round, and it is now";
+    EXPECT_THAT(road.names, ElementsAre("X, Ann", "X, Bob", "X, Cleo"));
+    EXPECT_EQ(road.chances, "all outcomes alike");
+    EXPECT_EQ(road.chosen, std::nullopt);
+    suppose(kSemifinalB);
+    choose("X, Bob");
+    road = screen->roadPicture();
+    EXPECT_EQ(road.times.back(), "Now") << "what is supposed has not happened";
+    EXPECT_THAT(road.times, SizeIs(6));
+    EXPECT_THAT(road.names, ElementsAre("X, Ann", "X, Bob", "X, Cleo")) << "in the order of the pool, not of the table";
+    EXPECT_EQ(road.chosen, 1u);
+}
+
 TEST_F(OutlookScreenTest, LeavesToTheBoard)
 {
     open();
