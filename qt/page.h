@@ -32,7 +32,13 @@
 class QButtonGroup;
 class QKeyEvent;
 
+namespace tallyhoop::ui {
+struct Picture;
+}
+
 namespace tallyhoop::qt {
+
+class PictureView;
 
 class Page : public QMainWindow
 {
@@ -56,6 +62,7 @@ public:
     QRadioButton* add(ui::OptionButton& option); ///< those added singly form one group; for more see addOptions()
     QListView* add(ui::ListBox& list);           ///< a lazy view on a snapshot of the rows: 10,000 are fine
     QTableView* add(ui::Grid& grid);             ///< the same; dragging a heading moves columns through the model only
+    PictureView* add(ui::Picture& picture);      ///< drawn anew whenever its room or the colours of the window change
 
     /// Makes the radio buttons of one group, of which the person can select one.
     template <class Options>

@@ -1,10 +1,11 @@
-// qt/page_lists.cpp - list boxes and grids: lazy views on snapshots of the model's rows.
+// qt/page_lists.cpp - list boxes and grids: lazy views on snapshots of the model's rows; and pictures.
 #include "qt/look.h"
 #include "qt/page.h"
 #include "qt/text.h"
 #include "qt/widgets/empty_note.h"
 #include "qt/widgets/grid_header.h"
 #include "qt/widgets/grid_view.h"
+#include "qt/widgets/picture_view.h"
 #include "qt/widgets/rows_model.h"
 #include "qt/widgets/rows_view.h"
 
@@ -62,6 +63,10 @@ QTableView* Page::add(ui::Grid& grid)
             return;
         run([&] { grid.cellPressed(static_cast<std::size_t>(index.row()), static_cast<std::size_t>(index.column())); });
     });
+    view->rowReached = [this, &grid](std::size_t row) {
+        if (grid.rowReached && !m_sync.isPushing())
+            run([&] { grid.rowReached(row); });
+    };
     view->header().columnPressed = [this, &grid](std::size_t column) {
         run([&] {
             if (grid.columnPressed)
@@ -74,6 +79,14 @@ QTableView* Page::add(ui::Grid& grid)
                 grid.columnReleased(column);
         });
     };
+    return view;
+}
+
+PictureView* Page::add(ui::Picture& picture)
+{
+    auto* view = new PictureView{picture, this};
+    followCommonParts(picture, *view);
+    follow(picture.revision, [view](unsigned) { view->update(); });
     return view;
 }
 

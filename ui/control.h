@@ -131,7 +131,8 @@ enum class Alignment { Left, Right, Centre };
 struct GridColumn {
     std::string heading;
     Alignment alignment = Alignment::Left;
-    int width = 0; ///< characters
+    int width = 0;      ///< characters
+    bool grows = false; ///< takes the room that is left over; where no column does, the last one
 
     friend bool operator==(const GridColumn&, const GridColumn&) = default;
 };
@@ -144,6 +145,20 @@ struct GridCell {
     friend bool operator==(const GridCell&, const GridCell&) = default;
 };
 
+/// By which column the rows of a grid are sorted.
+struct GridSort {
+    std::size_t column = 0;
+    bool ascending = true; ///< from A to Z, from the smallest to the largest
+
+    friend bool operator==(const GridSort&, const GridSort&) = default;
+};
+
+/// A bar in each cell of a column, beside the text.
+struct GridBars {
+    std::size_t column = 0;
+    std::vector<double> parts; ///< of the longest bar, 0..1, for each row
+};
+
 /// A table with one heading row. Moving a column moves `columns` and the cells of every row alike, so that cell [r][c]
 /// is always in the c-th column from the left.
 struct Grid : Control {
@@ -153,8 +168,13 @@ struct Grid : Control {
     std::vector<std::vector<std::string>> rows; ///< data rows, each with columns.size() cells
     std::optional<std::size_t> headingPressed;  ///< the heading that is being dragged, if any
     std::optional<GridCell> current;            ///< where the keyboard is; nothing = nowhere yet
+    bool wholeRows = false;                     ///< the row of the current cell is marked, not that cell alone
+    std::optional<GridSort> sorted;             ///< shown in the heading; nothing = the order has another reason
+    std::vector<bool> muted;                    ///< for each row, whether its text is paler; those left out are not
+    std::optional<GridBars> bars;
     std::string emptyNote; ///< how things stand, shown in it as long as there are no rows; empty = nothing is
-    unsigned revision = 0; ///< increase after changing rows or columns: tables are compared by this
+    unsigned revision = 0; ///< increase after changing rows, columns or their look: tables are compared by this
+    std::function<void(std::size_t row)> rowReached; ///< called after the person moved to another row, by key or mouse
     std::function<void(std::size_t row, std::size_t column)> cellPressed;
     std::function<void(std::size_t column)> columnPressed;                 ///< a press on a heading
     std::function<void(std::optional<std::size_t> column)> columnReleased; ///< its release; nothing = outside the grid

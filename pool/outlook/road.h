@@ -40,6 +40,8 @@ struct RoadPoint {
     std::uint64_t samples = 0;         ///< of the forecast; 0 = counted
     std::vector<FirstChances> chances; ///< one for each player, in the order of the picks
     std::vector<double> errors;        ///< the standard error of each one's share of first place, 0..1; 0 = counted
+
+    friend bool operator==(const RoadPoint&, const RoadPoint&) = default;
 };
 
 /// How much work a road may be.

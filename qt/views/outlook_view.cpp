@@ -3,29 +3,60 @@
 
 #include "qt/look.h"
 #include "qt/widgets/outlook_canvas.h"
+#include "qt/widgets/picture_view.h"
 
 #include <QLabel>
+#include <QSplitter>
+#include <initializer_list>
 
 namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kWhatIfWidth = 240; ///< room for either of its texts
+constexpr int kMargin = 12;       ///< around the page
+constexpr int kWhatIfWidth = 230; ///< room for either of its texts
 constexpr qint64 kSlice = 10;     ///< milliseconds of work between two looks at the events
 constexpr qint64 kRefresh = 150;  ///< milliseconds between two looks at what is known
+
+/// Nothing is ever hidden by moving a bar. @param stretch how room that is left over is shared
+void share(QSplitter& splitter, std::initializer_list<int> stretch)
+{
+    splitter.setChildrenCollapsible(false);
+    splitter.setHandleWidth(look::kGap);
+    for (int i = 0; i < splitter.count(); ++i)
+        splitter.setStretchFactor(i, *(stretch.begin() + i));
+}
+
+QWidget* part(QLayout* content)
+{
+    auto* const widget = new QWidget;
+    widget->setLayout(content);
+    return widget;
+}
 
 } // namespace
 
 OutlookView::OutlookView(OutlookScreen& outlook, Desk& desk) : Page{outlook, desk}, m_outlook{outlook}
 {
-    auto* const middle = look::row(look::kSection);
-    middle->addWidget(new OutlookCanvas{outlook, *this}, 11);
-    middle->addWidget(add(outlook.grdPlayers), 10);
+    auto* const upper = new QSplitter{Qt::Horizontal};
+    upper->addWidget(new OutlookCanvas{outlook, *this});
+    upper->addWidget(addTable(outlook.grdPlayers));
+    share(*upper, {4, 1});
+    auto* const lower = new QSplitter{Qt::Horizontal};
+    lower->addWidget(makeRoad());
+    lower->addWidget(makeGames());
+    lower->addWidget(makePlayer());
+    share(*lower, {3, 2, 2});
+    auto* const both = new QSplitter{Qt::Vertical};
+    both->addWidget(upper);
+    both->addWidget(lower);
+    share(*both, {3, 1});
+
     auto* const whole = look::column();
     whole->addLayout(makeBar());
-    whole->addLayout(middle, 3);
-    whole->addLayout(makeFoot(), 1);
+    whole->addWidget(both, 1);
     setContent(whole);
+    whole->setContentsMargins(kMargin, kMargin, kMargin, look::kTight);
 
     m_shown.start();
     connect(&m_timer, &QTimer::timeout, this, &OutlookView::work);
@@ -43,46 +74,66 @@ QLayout* OutlookView::makeBar()
     whatIf->setMinimumWidth(kWhatIfWidth);
     whatIf->setMargin(look::kTight);
     bar->addWidget(whatIf);
-    bar->addWidget(add(m_outlook.cmdAsEntered));
-    bar->addWidget(add(m_outlook.cmdHigherSeeds));
-    bar->addWidget(add(m_outlook.cmdUndo));
-    bar->addStretch();
+    for (ui::Command* command : {&m_outlook.cmdAsEntered, &m_outlook.cmdHigherSeeds, &m_outlook.cmdUndo})
+        bar->addWidget(add(*command));
+    bar->addSpacing(look::kSection);
     bar->addWidget(add(m_outlook.lblChances));
     for (QRadioButton* option : addOptions(m_outlook.optChances))
         bar->addWidget(option);
+    bar->addSpacing(look::kGap);
+    QLabel* const outcomes = add(m_outlook.lblOutcomes);
+    outcomes->setWordWrap(true);
+    outcomes->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    outcomes->setFixedHeight(2 * outcomes->fontMetrics().lineSpacing()); // also where it needs one line only
+    bar->addWidget(outcomes, 1);
     return bar;
 }
 
-QLayout* OutlookView::makeFoot()
+/// In small letters, so that there is room for the bracket.
+QTableView* OutlookView::addTable(ui::Grid& grid)
+{
+    QTableView* const table = add(grid);
+    table->setFont(look::smallFont());
+    return table;
+}
+
+QWidget* OutlookView::makeRoad()
+{
+    auto* const road = look::column(look::kTight);
+    QLabel* const heading = add(m_outlook.lblRoad);
+    heading->setFont(look::boldFont());
+    road->addWidget(heading);
+    road->addWidget(add(m_outlook.picRoad), 1);
+    return part(road);
+}
+
+QWidget* OutlookView::makeGames()
 {
     auto* const games = look::column(look::kTight);
-    games->addWidget(add(m_outlook.lblGames));
-    games->addWidget(add(m_outlook.grdGames));
+    QLabel* const heading = add(m_outlook.lblGames);
+    heading->setFont(look::boldFont());
+    games->addWidget(heading);
+    games->addWidget(addTable(m_outlook.grdGames), 1);
+    return part(games);
+}
 
-    auto* const ways = look::row();
-    ways->addWidget(add(m_outlook.cmdShowWay));
-    ways->addWidget(add(m_outlook.cmdStop));
-    ways->addWidget(add(m_outlook.cmdCopy));
-    ways->addStretch();
-    ways->addWidget(add(m_outlook.cmdExit));
-
+QWidget* OutlookView::makePlayer()
+{
     auto* const player = look::column(look::kTight);
     QLabel* const name = add(m_outlook.lblPlayer);
-    name->setFont(look::headingFont());
+    name->setFont(look::boldFont());
     QLabel* const proof = add(m_outlook.lblProof);
     proof->setWordWrap(true);
-    QLabel* const outcomes = add(m_outlook.lblOutcomes);
-    outcomes->setWordWrap(true);
+    auto* const buttons = look::row();
+    for (ui::Command* command : {&m_outlook.cmdShowWay, &m_outlook.cmdStop, &m_outlook.cmdCopy})
+        buttons->addWidget(add(*command));
+    buttons->addStretch();
+    buttons->addWidget(add(m_outlook.cmdExit));
     player->addWidget(name);
     player->addWidget(proof);
-    player->addWidget(outcomes);
     player->addStretch();
-    player->addLayout(ways);
-
-    auto* const foot = look::row(look::kSection);
-    foot->addLayout(games, 1);
-    foot->addLayout(player, 1);
-    return foot;
+    player->addLayout(buttons);
+    return part(player);
 }
 
 void OutlookView::work()

@@ -18,7 +18,10 @@ public:
 
 private:
     QLayout* makeBar();
-    QLayout* makeFoot();
+    QTableView* addTable(ui::Grid& grid);
+    QWidget* makeRoad();
+    QWidget* makeGames();
+    QWidget* makePlayer();
     void work();
 
     OutlookScreen& m_outlook;

@@ -67,6 +67,35 @@ void GridHeader::setTarget(int column)
     viewport()->update();
 }
 
+void GridHeader::setSorted(std::optional<ui::GridSort> sorted)
+{
+    if (sorted == m_sorted)
+        return;
+    m_sorted = sorted;
+    viewport()->update();
+}
+
+void GridHeader::paintSection(QPainter* painter, const QRect& place, int column) const
+{
+    painter->save();
+    QHeaderView::paintSection(painter, place, column);
+    painter->restore();
+    if (!m_sorted || m_sorted->column != static_cast<std::size_t>(column))
+        return;
+    constexpr int kHalf = 5; ///< of the arrow's width
+    constexpr int kHeight = 4;
+    const int top = place.top() + 2;
+    const int tip = m_sorted->ascending ? top : top + kHeight;
+    const int base = m_sorted->ascending ? top + kHeight : top;
+    const int middle = place.center().x();
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(palette().color(QPalette::ButtonText));
+    painter->drawPolygon(QPolygon{{QPoint{middle - kHalf, base}, QPoint{middle + kHalf, base}, QPoint{middle, tip}}});
+    painter->restore();
+}
+
 void GridHeader::paintEvent(QPaintEvent* event)
 {
     QHeaderView::paintEvent(event);

@@ -3,6 +3,8 @@
 
 #include "qt/text.h"
 
+#include <algorithm>
+
 namespace tallyhoop::qt {
 
 namespace {
@@ -20,14 +22,43 @@ int toQt(ui::Alignment alignment)
     return Qt::AlignLeft | Qt::AlignVCenter;
 }
 
+QString sortedInWords(bool ascending)
+{
+    return ascending ? QStringLiteral(", sorted, ascending") : QStringLiteral(", sorted, descending");
+}
+
 } // namespace
 
 void GridModel::show(const ui::Grid& grid)
 {
-    beginResetModel();
+    if (grid.columns != m_columns || grid.rows.size() != m_rows.size() || m_rows.empty()) {
+        beginResetModel();
+        take(grid);
+        endResetModel();
+        return;
+    }
+    const bool isSortedAnew = grid.sorted != m_sorted;
+    take(grid);
+    Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    if (isSortedAnew)
+        Q_EMIT headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+}
+
+void GridModel::take(const ui::Grid& grid)
+{
     m_columns = grid.columns;
     m_rows = grid.rows;
-    endResetModel();
+    m_sorted = grid.sorted;
+    m_muted = grid.muted;
+    m_bars = grid.bars;
+}
+
+double GridModel::barIn(const QModelIndex& index) const
+{
+    const auto row = static_cast<std::size_t>(index.row());
+    const bool isThere =
+        m_bars && m_bars->column == static_cast<std::size_t>(index.column()) && row < m_bars->parts.size();
+    return isThere ? std::clamp(m_bars->parts[row], 0.0, 1.0) : 0;
 }
 
 int GridModel::rowCount(const QModelIndex& parent) const
@@ -47,6 +78,10 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     const auto column = static_cast<std::size_t>(index.column());
     if (role == Qt::TextAlignmentRole)
         return toQt(m_columns.at(column).alignment);
+    if (role == kMutedRole)
+        return static_cast<std::size_t>(index.row()) < m_muted.size() && m_muted[static_cast<std::size_t>(index.row())];
+    if (role == kBarRole)
+        return barIn(index);
     const std::vector<std::string>& row = m_rows.at(static_cast<std::size_t>(index.row()));
     if (column >= row.size())
         return {};
@@ -66,6 +101,8 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
         return toQString(column.heading).trimmed();
     if (role == Qt::TextAlignmentRole)
         return toQt(column.alignment);
+    if (role == Qt::AccessibleTextRole && m_sorted && m_sorted->column == static_cast<std::size_t>(section))
+        return toQString(column.heading).trimmed() + sortedInWords(m_sorted->ascending);
     return {};
 }
 

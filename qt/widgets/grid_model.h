@@ -4,6 +4,7 @@
 #include "ui/control.h"
 
 #include <QAbstractTableModel>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,11 @@ class GridModel : public QAbstractTableModel
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    /// Takes a snapshot of the grid.
+    static constexpr int kMutedRole = Qt::UserRole;   ///< bool: the row's text is paler
+    static constexpr int kBarRole = Qt::UserRole + 1; ///< double 0..1: the length of a bar; 0 = none
+
+    /// Takes a snapshot of the grid. As long as it has as many rows and the same columns, cells only change: whoever
+    /// reads or scrolls the table stays where they are.
     void show(const ui::Grid& grid);
 
     int rowCount(const QModelIndex& parent = {}) const override;
@@ -25,8 +30,14 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    void take(const ui::Grid& grid);
+    double barIn(const QModelIndex& index) const;
+
     std::vector<ui::GridColumn> m_columns;
     std::vector<std::vector<std::string>> m_rows;
+    std::optional<ui::GridSort> m_sorted;
+    std::vector<bool> m_muted;
+    std::optional<ui::GridBars> m_bars;
 };
 
 } // namespace tallyhoop::qt

@@ -3,42 +3,107 @@
 
 #include "qt/look.h"
 #include "qt/text.h"
+#include "qt/widgets/grid_delegate.h"
 #include "qt/widgets/grid_header.h"
 #include "qt/widgets/grid_model.h"
 
+#include <QEvent>
+#include <QScrollBar>
 #include <algorithm>
+#include <numeric>
 
 namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kCellPadding = 16; ///< on both sides of a cell together, in pixels
+constexpr int kCellPadding = 13; ///< on both sides of a cell together, in pixels
 
 } // namespace
 
 GridView::GridView(QWidget* parent) : QTableView{parent}, m_header{*new GridHeader}, m_cells{*new GridModel{this}}
 {
     setModel(&m_cells);
+    setItemDelegate(new GridDelegate{this});
     setHorizontalHeader(&m_header);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + look::kGap);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setAlternatingRowColors(true);
     setShowGrid(false);
     setWordWrap(false);
     setTabKeyNavigation(false);
+    measure();
 }
 
 void GridView::show(const ui::Grid& grid)
 {
+    setSelectionBehavior(grid.wholeRows ? SelectRows : SelectItems);
     m_cells.show(grid);
-    for (std::size_t c = 0; c < grid.columns.size(); ++c) {
-        const int heading = fontMetrics().horizontalAdvance(toQString(grid.columns[c].heading).trimmed());
-        const int cells = fontMetrics().horizontalAdvance(QLatin1Char{'0'}) * grid.columns[c].width;
-        m_header.resizeSection(static_cast<int>(c), std::max(heading, cells) + kCellPadding);
+    m_header.setSorted(grid.sorted);
+    if (grid.columns == m_columns)
+        return;
+    m_columns = grid.columns;
+    measure();
+}
+
+void GridView::measure()
+{
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + look::kGap);
+    m_widths.clear();
+    m_growing.reset();
+    for (std::size_t c = 0; c < m_columns.size(); ++c) {
+        const int heading = fontMetrics().horizontalAdvance(toQString(m_columns[c].heading).trimmed());
+        const int cells = fontMetrics().horizontalAdvance(QLatin1Char{'0'}) * m_columns[c].width;
+        m_widths.push_back(std::max(heading, cells) + kCellPadding);
+        if (m_columns[c].grows)
+            m_growing = static_cast<int>(c);
     }
+    m_header.setStretchLastSection(!m_growing);
+    shareRoom();
+    updateGeometry();
+}
+
+void GridView::changeEvent(QEvent* event)
+{
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        measure();
+}
+
+int GridView::widthOfColumns() const { return std::accumulate(m_widths.begin(), m_widths.end(), 0); }
+
+QSize GridView::minimumSizeHint() const
+{
+    QSize least = QTableView::minimumSizeHint();
+    if (m_growing)
+        least.setWidth(widthOfColumns() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth());
+    return least;
+}
+
+void GridView::shareRoom()
+{
+    const int left = viewport()->width() - widthOfColumns();
+    for (int c = 0; c < static_cast<int>(m_widths.size()); ++c)
+        m_header.resizeSection(c, m_widths[static_cast<std::size_t>(c)] + (c == m_growing ? std::max(0, left) : 0));
+}
+
+void GridView::resizeEvent(QResizeEvent* event)
+{
+    QTableView::resizeEvent(event);
+    shareRoom();
+}
+
+void GridView::currentChanged(const QModelIndex& current, const QModelIndex& previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (current.row() < 0 || current.row() == previous.row())
+        return;
+    // Qt makes a cell the current one when the table gets the focus, but does not mark it.
+    if (selectionBehavior() == SelectRows && !selectionModel()->isSelected(current))
+        selectionModel()->select(current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    if (rowReached)
+        rowReached(static_cast<std::size_t>(current.row()));
 }
 
 std::optional<ui::GridCell> GridView::currentCell() const

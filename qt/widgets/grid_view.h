@@ -4,7 +4,9 @@
 #include "ui/control.h"
 
 #include <QTableView>
+#include <functional>
 #include <optional>
+#include <vector>
 
 namespace tallyhoop::qt {
 
@@ -27,7 +29,24 @@ public:
 
     GridHeader& header() const { return m_header; }
 
+    /// Where one column takes the room that is left over, none of the others is ever hidden.
+    QSize minimumSizeHint() const override;
+
+    std::function<void(std::size_t row)> rowReached; ///< another row is the current one
+
+protected:
+    void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
 private:
+    void measure();
+    int widthOfColumns() const;
+    void shareRoom();
+
+    std::vector<ui::GridColumn> m_columns;
+    std::vector<int> m_widths;    ///< of the columns, at least
+    std::optional<int> m_growing; ///< the column that takes the rest
     GridHeader& m_header;
     GridModel& m_cells;
 };

@@ -1,4 +1,5 @@
-// qt/widgets/outlook_canvas.cpp - places, swings on their right ends, and connectors below them.
+// qt/widgets/outlook_canvas.cpp - places, swings beside them, connectors below them, and a frame around what is
+// supposed.
 #include "qt/widgets/outlook_canvas.h"
 
 #include "qt/look.h"
@@ -7,6 +8,7 @@
 #include "qt/widgets/elided_label.h"
 #include "qt/widgets/slot_label.h"
 #include "screens/board/board_picture.h"
+#include "screens/outlook/outlook_geometry.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -17,8 +19,8 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr double kSmallestText = 8;
-constexpr double kSwingShare = 0.42; ///< of a place's width
+constexpr double kSmallestText = 9;
+constexpr int kSupposedFrame = 3;
 
 QRect rounded(double x, double y, double width, double height)
 {
@@ -53,6 +55,12 @@ OutlookCanvas::OutlookCanvas(OutlookScreen& outlook, Page& page) : m_outlook{out
     for (std::size_t i = 0; i < m_regionTitles.size(); ++i)
         m_regionTitles[i] = caption(outlook.lblRegionTitle[i]);
     makePlaces();
+    page.follow(outlook.lblWhatIf.background, [this](const auto&) { update(); });
+    page.onPush([this] {
+        for (const Position position : allPositions())
+            m_places[position]->setEmphasis(m_outlook.isMarked(position) ? SlotLabel::Emphasis::OnPath
+                                                                         : SlotLabel::Emphasis::None);
+    });
 }
 
 QLabel* OutlookCanvas::caption(ui::Label& label)
@@ -74,27 +82,37 @@ void OutlookCanvas::makePlaces()
     }
     for (const Position position : allPositions()) { // above the places
         auto* const swing = new SlotLabel{SlotLabel::Part::Marker, this};
-        m_page.adopt(m_outlook.lblSwing[position], swing, shownBy(swing));
-        swing->setFocusPolicy(Qt::NoFocus);
         m_swings[position] = swing;
+        m_page.adopt(m_outlook.lblSwing[position], swing,
+                     [this, position, show = shownBy(swing)](const ui::Label& label) {
+                         show(label);
+                         arrange(position);
+                     });
+        swing->setFocusPolicy(Qt::NoFocus);
     }
+}
+
+/// A swing may take room from its team.
+void OutlookCanvas::arrange(Position position)
+{
+    const bool hasSwing = !m_outlook.lblSwing[position].text.empty();
+    m_places[position]->setGeometry(
+        rounded(hasSwing ? teamBesideSwing(m_geometry, position) : m_geometry.positions[position]));
+    m_swings[position]->setGeometry(rounded(swingPlace(m_geometry, position)));
 }
 
 void OutlookCanvas::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    m_geometry = layOutBoard(std::max(1, width()), std::max(1, height()));
+    m_geometry = layOutOutlook(std::max(1, width()), std::max(1, height()));
     const double size = m_geometry.textSize;
     for (const Position position : allPositions()) {
-        const ui::Rectangle& place = m_geometry.positions[position];
-        const double swing = place.width * kSwingShare;
-        m_places[position]->setGeometry(rounded(place));
+        arrange(position);
         m_places[position]->setFont(scaled(font(), size, position == kChampion));
-        m_swings[position]->setGeometry(rounded(place.right() - swing, place.y, swing, place.height));
-        m_swings[position]->setFont(scaled(font(), size * 0.9, true));
+        m_swings[position]->setFont(scaled(font(), size, true));
     }
     m_champion->setGeometry(rounded(m_geometry.championCaption));
-    m_champion->setFont(scaled(font(), size * 0.9, true));
+    m_champion->setFont(scaled(font(), size, true));
     for (std::size_t i = 0; i < m_regionTitles.size(); ++i) {
         m_regionTitles[i]->setGeometry(rounded(m_geometry.regionTitles[i]));
         m_regionTitles[i]->setFont(scaled(font(), size * 1.3, true));
@@ -113,6 +131,13 @@ void OutlookCanvas::paintEvent(QPaintEvent*)
         line.colour = {part(grey.red()), part(grey.green()), part(grey.blue())};
     QPainter painter{this};
     paintDrawing(painter, lines);
+    if (const std::optional<ui::Colour> supposed = m_outlook.lblWhatIf.background) {
+        // Filled areas, not lines: with fractional scaling, lines at the edge can disappear.
+        const QRegion frame = QRegion{rect()}.subtracted(
+            rect().adjusted(kSupposedFrame, kSupposedFrame, -kSupposedFrame, -kSupposedFrame));
+        for (const QRect& edge : frame)
+            painter.fillRect(edge, look::toQColor(*supposed));
+    }
 }
 
 std::optional<Position> OutlookCanvas::positionAt(const QPoint& point) const

@@ -20,7 +20,7 @@ class OutlookCanvas : public QWidget
 public:
     OutlookCanvas(OutlookScreen& outlook, Page& page);
 
-    QSize minimumSizeHint() const override { return {640, 360}; }
+    QSize minimumSizeHint() const override { return {560, 380}; }
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -29,6 +29,7 @@ protected:
 
 private:
     void makePlaces();
+    void arrange(Position position);
     QLabel* caption(ui::Label& label);
     std::optional<Position> positionAt(const QPoint& point) const;
 

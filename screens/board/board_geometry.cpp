@@ -9,13 +9,10 @@ namespace tallyhoop {
 namespace {
 
 constexpr int kRowsDown = 2 * kRowsPerRegion; ///< two regions are above one another
-constexpr double kSeedShare = 0.19;           ///< width of a seed, in columns
-constexpr double kMarkerShare = 0.14;         ///< width of a marker, in columns
-constexpr double kFirstColumnShare = 1.24;    ///< seed and team of the first column
-constexpr double kCentreShare = 0.16;         ///< half the room between the halves, in columns
 
 /// The measures from which every rectangle follows.
 struct Measures {
+    BoardShares shares;
     double width, height;
     double margin, gap;      ///< at the edges; between columns
     double top, regionGap;   ///< room above the first row; between upper and lower region
@@ -23,19 +20,20 @@ struct Measures {
     double textSize;
 };
 
-Measures measure(double width, double height)
+Measures measure(double width, double height, const BoardShares& shares)
 {
     Measures m{};
+    m.shares = shares;
     m.width = width;
     m.height = height;
     m.margin = std::max(4.0, width * 0.006);
     m.gap = width * 0.0085;
-    m.top = height * 0.094;
+    m.top = height * shares.top;
     m.regionGap = height * 0.026;
     m.row = (height - m.top - m.regionGap - m.margin) / kRowsDown;
     m.box = m.row * 0.9;
-    m.column = (width / 2 - m.margin - 5 * m.gap) / (kFirstColumnShare + 4 + kCentreShare);
-    m.textSize = std::min(m.row * 0.72, m.column * 0.102);
+    m.column = (width / 2 - m.margin - 5 * m.gap) / (shares.firstColumn + 4 + shares.centre);
+    m.textSize = std::min(m.row * shares.textOfRow, m.column * shares.textOfColumn);
     return m;
 }
 
@@ -49,7 +47,7 @@ double columnLeft(const Measures& m, int round)
 {
     if (round == 0)
         return m.margin;
-    return m.margin + kFirstColumnShare * m.column + m.gap + (round - 1) * (m.column + m.gap);
+    return m.margin + m.shares.firstColumn * m.column + m.gap + (round - 1) * (m.column + m.gap);
 }
 
 /// Middle height of row 0..15, which may lie between two rows, of the upper (0) or lower (1) region.
@@ -62,9 +60,9 @@ double rowCentre(const Measures& m, int lower, double row)
 ui::Rectangle placeInRegion(const Measures& m, int lower, Position position)
 {
     if (const std::optional<TeamRow> row = teamRowOf(position)) {
-        const double left = columnLeft(m, 0) + kSeedShare * m.column;
+        const double left = columnLeft(m, 0) + m.shares.seed * m.column;
         const double middle = rowCentre(m, lower, rowInRegion(*row));
-        return {left, middle - m.box / 2, (kFirstColumnShare - kSeedShare) * m.column, m.box};
+        return {left, middle - m.box / 2, (m.shares.firstColumn - m.shares.seed) * m.column, m.box};
     }
     const int round = roundOf(position);
     const double rowsPerGame = std::pow(2, round);
@@ -83,7 +81,7 @@ void placeRegions(const Measures& m, BoardGeometry& board)
             board.positions[team] = side(placeInRegion(m, region % 2, team));
             const TeamRow row = *teamRowOf(team);
             const double middle = rowCentre(m, region % 2, rowInRegion(row));
-            board.seeds[row] = side({columnLeft(m, 0), middle - m.box / 2, kSeedShare * m.column, m.box});
+            board.seeds[row] = side({columnLeft(m, 0), middle - m.box / 2, m.shares.seed * m.column, m.box});
         }
         board.regionTitles[static_cast<std::size_t>(region)] =
             side({columnLeft(m, 3), rowCentre(m, region % 2, 0) - m.row / 2, 1.5 * m.column + m.gap, 1.7 * m.row});
@@ -93,7 +91,7 @@ void placeRegions(const Measures& m, BoardGeometry& board)
 void placeFinals(const Measures& m, BoardGeometry& board)
 {
     const double middle = m.top + (m.height - m.top - m.margin) / 2;
-    const double champion = middle - 4.6 * m.row;
+    const double champion = middle - m.shares.champion * m.row;
     const ui::Rectangle semifinal{columnLeft(m, 4), middle - m.box / 2, m.column, m.box};
     const double width = 1.5 * m.column;
     board.positions[kSemifinalA] = semifinal;
@@ -106,7 +104,7 @@ void placeMarkers(const Measures& m, BoardGeometry& board)
 {
     for (const Position position : gamePositions()) {
         ui::Rectangle& place = board.positions[position];
-        const double width = kMarkerShare * m.column;
+        const double width = m.shares.marker * m.column;
         place.width -= width;
         board.results[*gameOf(position)] = {place.right(), place.y, width, place.height};
     }
@@ -213,9 +211,9 @@ Reach reach(const ui::Rectangle& from, const ui::Rectangle& to, Direction direct
 
 } // namespace
 
-BoardGeometry layOutBoard(double width, double height)
+BoardGeometry layOutBoard(double width, double height, const BoardShares& shares)
 {
-    const Measures m = measure(width, height);
+    const Measures m = measure(width, height, shares);
     BoardGeometry board;
     board.textSize = m.textSize;
     placeRegions(m, board);

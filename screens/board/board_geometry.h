@@ -32,9 +32,21 @@ struct BoardGeometry {
     std::vector<ui::Stroke> connectors; ///< black; whoever draws them chooses the colour
 };
 
+/// How the room is shared out; by default as on the board.
+struct BoardShares {
+    double top = 0.094;          ///< room for the headers above the first row, of the height
+    double seed = 0.19;          ///< width of a seed, in columns
+    double marker = 0.14;        ///< width of a marker, in columns
+    double firstColumn = 1.24;   ///< width of seed and team of the first column, in columns
+    double centre = 0.16;        ///< half the room between the halves, in columns
+    double champion = 4.6;       ///< height of the champion above the middle, in rows
+    double textOfRow = 0.72;     ///< letters are not higher, in rows
+    double textOfColumn = 0.102; ///< nor than this, in columns
+};
+
 /// Lays the bracket out in an area of this size.
 /// @param width, height in the caller's units, at least 1
-BoardGeometry layOutBoard(double width, double height);
+BoardGeometry layOutBoard(double width, double height, const BoardShares& shares = {});
 
 /// Which way an arrow key goes.
 enum class Direction { Up, Down, Left, Right };

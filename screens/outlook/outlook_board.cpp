@@ -70,6 +70,11 @@ void OutlookBoard::showSwing(Position side, double swing)
     lblRegion[side].spokenName += ", " + label.spokenName;
 }
 
+bool OutlookBoard::isMarked(Position position) const
+{
+    return markedGame && (position == *markedGame || next(position) == markedGame);
+}
+
 std::optional<Position> OutlookBoard::positionOfLabel(const ui::Control& control) const
 {
     return lblRegion.indexOf<Position>(control);

@@ -30,6 +30,11 @@ public:
     /// does not matter; empty elsewhere.
     ui::ControlArray<ui::Label, kPositions> lblSwing{m_owner, "lblSwing"};
 
+    /// The open game that is marked together with its two sides; nothing = none.
+    std::optional<Position> markedGame;
+
+    bool isMarked(Position position) const;
+
     /// @param entered a place where the supposed bracket differs from it has another background
     void showSupposed(const Field& field, const Bracket& entered, const Bracket& supposed);
 

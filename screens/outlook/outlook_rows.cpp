@@ -14,6 +14,7 @@ namespace tallyhoop {
 
 namespace {
 
+constexpr const char* kPlusMinus = " \xB1";
 constexpr double kSmallestShown = 0.05; ///< percent: less rounds to 0.0
 
 struct ColumnWords {
@@ -25,12 +26,12 @@ struct ColumnWords {
 
 constexpr std::array<ColumnWords, kOutlookColumns> kColumns{{
     {"Now", ui::Alignment::Right, 3, "Now: the place by the points so far; players with the same points share it."},
-    {"Player", ui::Alignment::Left, 15, "Player: choose one to see whom to root for."},
+    {"Player", ui::Alignment::Left, 17, "Player: choose one to see whom to root for."},
     {"Points", ui::Alignment::Right, 6, "Points: earned so far."},
     {"Possible", ui::Alignment::Right, 8, "Possible: earned, and what the open games can still bring."},
     {"First", ui::Alignment::Right, 7, "First: how often the player ends first, alone or together with others."},
-    {"Share", ui::Alignment::Right, 12, "Share: of first place; a first place that several share counts in parts."},
-    {"Verdict", ui::Alignment::Left, 8,
+    {"Share", ui::Alignment::Right, 10, "Share: of first place; a first place that several share counts in parts."},
+    {"Verdict", ui::Alignment::Left, 7,
      "Verdict: Clinched is always first, Alive can be first, Out cannot, Open is unproven."},
     {"Best", ui::Alignment::Right, 4, "Best: the best place that the player can still end at."},
     {"Worst", ui::Alignment::Right, 5, "Worst: the worst place that the player can still end at."},
@@ -96,7 +97,7 @@ std::string shareText(const OutlookRow& row)
     if (!row.share)
         return {};
     const std::string share = percentText(*row.share);
-    return row.error > 0 ? fmt::format("{} +-{:.1f}", share, std::max(row.error, 0.1)) : share;
+    return row.error > 0 ? share + kPlusMinus + fmt::format("{:.1f}", std::max(row.error, 0.1)) : share;
 }
 
 } // namespace
@@ -161,6 +162,24 @@ void sortRows(std::vector<OutlookRow>& rows, OutlookOrder order)
         std::ranges::stable_sort(rows, isBefore);
 }
 
+bool isAscending(OutlookOrder order)
+{
+    constexpr std::array kSmallestFirst{OutlookColumn::Now, OutlookColumn::Player, OutlookColumn::Verdict,
+                                        OutlookColumn::Best, OutlookColumn::Worst};
+    return (std::ranges::find(kSmallestFirst, order.column) != kSmallestFirst.end()) != order.reversed;
+}
+
+std::string sortedWords(OutlookOrder order)
+{
+    const bool up = isAscending(order);
+    const char* how = up ? "from the smallest" : "from the largest";
+    if (order.column == OutlookColumn::Player)
+        how = up ? "from A to Z" : "from Z to A";
+    if (order.column == OutlookColumn::Verdict)
+        how = up ? "from Clinched to Out" : "from Out to Clinched";
+    return fmt::format("Sorted by {}, {}.", wordsOf(order.column).heading, how);
+}
+
 std::string wordOf(Prospect prospect)
 {
     constexpr std::array kWords{"Clinched", "Alive", "Open", "Out"};
@@ -213,6 +232,7 @@ std::vector<ui::GridColumn> outlookColumns()
     std::vector<ui::GridColumn> columns;
     for (const ColumnWords& words : kColumns)
         columns.push_back({words.heading, words.alignment, words.width});
+    columns.at(static_cast<std::size_t>(OutlookColumn::Player)).grows = true;
     return columns;
 }
 

@@ -59,6 +59,12 @@ struct OutlookOrder {
 /// names.
 void sortRows(std::vector<OutlookRow>& rows, OutlookOrder order);
 
+/// @returns whether the rows go from A to Z, from the smallest to the largest, from the best verdict to the worst
+bool isAscending(OutlookOrder order);
+
+/// @returns how the rows are sorted, such as "Sorted by Share, from the largest."
+std::string sortedWords(OutlookOrder order);
+
 /// @returns "Clinched", "Alive", "Out" or "Open"
 std::string wordOf(Prospect prospect);
 

@@ -18,6 +18,7 @@ namespace {
 
 constexpr const char* kWhatIf = "What if: nothing here is saved";
 constexpr const char* kAsEntered = "The results as entered";
+constexpr const char* kHowToSort = " To sort, click a heading, or press Ctrl+Enter in its column.";
 
 std::vector<Bracket> picksOf(const Pool& pool)
 {
@@ -54,20 +55,13 @@ OutlookScreen::OutlookScreen(Pool pool, const ui::Platform& platform, Screens& s
     cmdStop.explanation = "Stops counting; what is known by then stays.";
     cmdCopy.explanation = "Puts the table on the clipboard, ready for a spreadsheet.";
     cmdExit.explanation = "Back to the board.";
-    grdPlayers.spokenName = "Players";
-    grdPlayers.columns = outlookColumns();
-    grdPlayers.emptyNote = "There are no selections.";
-    grdPlayers.cellPressed = [this](std::size_t row, std::size_t column) { choosePlayer(row, column); };
-    grdPlayers.columnPressed = [this](std::size_t column) { m_headingPressed = column; };
-    grdPlayers.columnReleased = [this](std::optional<std::size_t> column) {
-        if (const auto pressed = std::exchange(m_headingPressed, std::nullopt); pressed && pressed == column)
-            sortBy(*column);
+    describeGrids();
+    orderTabs();
+    picRoad.explanation = "Each player's share of first place after every round, by the results as entered.";
+    picRoad.draw = [this](double width, double height, const ui::PictureColours& colours) {
+        return drawRoad(m_road, width, height,
+                        {colours.text, colours.grid, colours.line, colours.accent, colours.soft});
     };
-    grdGames.spokenName = "Games that matter most";
-    grdGames.columns = {
-        {"Game", ui::Alignment::Left, 30}, {"Root for", ui::Alignment::Left, 16}, {"Swing", ui::Alignment::Right, 7}};
-    grdGames.emptyNote = "No open game makes a difference.";
-    grdGames.explanation = "Swing: how much the shares of all players differ between the two ways a game can end.";
 }
 
 std::string OutlookScreen::helpTopic() const { return help_topic::kOutlook; }
@@ -108,6 +102,7 @@ void OutlookScreen::supposed(bool changed)
 {
     if (!changed)
         return;
+    m_followsLeader = false;
     say({});
     startWork();
 }
@@ -125,7 +120,7 @@ void OutlookScreen::chooseChances()
 
 void OutlookScreen::choosePlayer(std::size_t row, std::size_t column)
 {
-    m_chosen = m_rows.at(row).player;
+    choose(row);
     const auto pressed = static_cast<OutlookColumn>(column);
     say(pressed == OutlookColumn::Verdict ? explanationOf(m_rows[row].prospect) : explanationOf(pressed));
 }
@@ -133,9 +128,10 @@ void OutlookScreen::choosePlayer(std::size_t row, std::size_t column)
 void OutlookScreen::sortBy(std::size_t column)
 {
     const auto chosen = static_cast<OutlookColumn>(column);
+    m_followsLeader = false;
     m_order = {chosen, m_order.column == chosen && !m_order.reversed};
     m_hasNews = true;
-    say(explanationOf(chosen));
+    say(explanationOf(chosen) + " " + sortedWords(m_order));
 }
 
 void OutlookScreen::showWay()
@@ -197,6 +193,7 @@ void OutlookScreen::showState()
     showSwings(games, swings());
     showGames(games);
     showPlayer();
+    showRoad();
     const bool isSupposed = m_whatIf.isChanged();
     lblWhatIf.text = isSupposed ? kWhatIf : kAsEntered;
     lblWhatIf.colour = isSupposed ? std::optional{kSupposedText} : std::nullopt;
@@ -206,13 +203,10 @@ void OutlookScreen::showState()
     cmdStop.enabled = isWorking();
     cmdCopy.enabled = !grdPlayers.rows.empty();
     lblOutcomes.text = howFar();
-    status = lblOutcomes.text;
-    explanation =
-        m_chosen ? "" : "Choose a player to see whom to root for; click a team on the board to suppose that it wins.";
+    explanation = "Click a team on the board to suppose that it wins; choose a player to see whom to root for.";
     grdPlayers.explanation = grdPlayers.current
-                                 ? explanationOf(static_cast<OutlookColumn>(grdPlayers.current->column))
-                                 : "Click a heading, or press Ctrl+Enter in its column, to sort; choose a player to "
-                                   "see whom to root for.";
+                                 ? explanationOf(static_cast<OutlookColumn>(grdPlayers.current->column)) + kHowToSort
+                                 : "Choose a player to see whom to root for." + std::string{kHowToSort};
 }
 
 void OutlookScreen::takeFigures()
@@ -222,6 +216,7 @@ void OutlookScreen::takeFigures()
     m_figures = m_work->figures();
     keepAsEntered();
     makeRows();
+    chooseLeader();
     showRows();
 }
 
@@ -244,37 +239,10 @@ void OutlookScreen::makeRows()
     sortRows(m_rows, m_order);
 }
 
-void OutlookScreen::showRows()
-{
-    grdPlayers.rows.clear();
-    for (const OutlookRow& row : m_rows) {
-        std::vector<std::string> cells;
-        for (std::size_t column = 0; column < kOutlookColumns; ++column)
-            cells.push_back(cellOf(row, static_cast<OutlookColumn>(column)));
-        grdPlayers.rows.push_back(std::move(cells));
-    }
-    ++grdPlayers.revision;
-}
-
 std::vector<double> OutlookScreen::swings() const
 {
     return m_chosen && m_figures.source != ChanceSource::None ? swingsFor(*m_chosen, m_figures.chances)
                                                               : std::vector<double>{};
-}
-
-void OutlookScreen::showGames(const std::vector<OpenGame>& games)
-{
-    std::vector<std::vector<std::string>> rows;
-    const std::vector<double> ofChosen = swings();
-    if (m_figures.source != ChanceSource::None)
-        for (const GameWeight& weight : weightsOf(m_figures.chances))
-            rows.push_back({gameText(games[weight.openGame]),
-                            ofChosen.empty() ? "" : rootFor(games[weight.openGame], ofChosen[weight.openGame]),
-                            fixedText(weight.swing)});
-    if (rows == grdGames.rows)
-        return;
-    grdGames.rows = std::move(rows);
-    ++grdGames.revision;
 }
 
 void OutlookScreen::showPlayer()

@@ -8,6 +8,7 @@
 #include "screens/outlook/road_drawing.h"
 #include "screens/outlook/what_if.h"
 #include "screens/screens.h"
+#include "ui/picture.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
 
@@ -44,7 +45,9 @@ public:
     ui::Label lblPlayer{this, "lblPlayer"};
     ui::Label lblProof{this, "lblProof"};
     ui::Command cmdShowWay{this, "cmdShowWay", "Show a &Way to Win", [this] { showWay(); }};
-    ui::Label lblGames{this, "lblGames", "Games that matter most"};
+    ui::Label lblRoad{this, "lblRoad"};
+    ui::Picture picRoad{this, "picRoad"};
+    ui::Label lblGames{this, "lblGames", "Games that matter"};
     ui::Grid grdGames{this, "grdGames"};
     ui::Command cmdStop{this, "cmdStop", "S&top", [this] { m_stopped = true; }};
     ui::Command cmdCopy{this, "cmdCopy", "C&opy", [this] { copy(); }};
@@ -66,6 +69,8 @@ public:
     void advance(const Step& step = goOn);
 
 private:
+    void describeGrids();
+    void orderTabs();
     void supposed(bool changed);
     void fillWithHigherSeeds();
     void chooseChances();
@@ -73,6 +78,8 @@ private:
     void keepAsEntered();
     void choosePlayer(std::size_t row, std::size_t column);
     void sortBy(std::size_t column);
+    void reachGame(std::size_t row);
+    void pressGame(std::size_t row);
     void showWay();
     void copy();
     bool pressedKey(Position position, const ui::KeyPress& press);
@@ -80,8 +87,11 @@ private:
     void takeFigures();
     void makeRows();
     void showRows();
+    void chooseLeader();
+    void choose(std::size_t row);
     void showGames(const std::vector<OpenGame>& games);
     void showPlayer();
+    void showRoad();
     std::string howFar() const;
     std::string proofFor(std::size_t player) const;
     std::vector<double> swings() const;
@@ -105,7 +115,10 @@ private:
     OutlookOrder m_order;
     std::vector<OutlookRow> m_rows;
     std::optional<std::size_t> m_chosen; ///< player whom to root for
+    bool m_followsLeader = true;         ///< nobody has chosen one yet
     std::optional<std::size_t> m_headingPressed;
+    std::vector<OpenGame> m_listed; ///< the games of the list, row by row
+    RoadPicture m_road;             ///< as it is shown
 };
 
 } // namespace tallyhoop

@@ -22,6 +22,8 @@ struct RoadPicture {
     std::vector<std::string> names; ///< of the players
     std::optional<std::size_t> chosen; ///< the player in bold; nothing = none
     std::string chances;               ///< in words, such as "all outcomes alike"
+
+    friend bool operator==(const RoadPicture&, const RoadPicture&) = default;
 };
 
 /// By default for white paper.

@@ -90,9 +90,9 @@ TEST_F(OutlookRowsTest, ShowsTheErrorOfAForecast)
     OutlookRow row;
     row.share = 34.44;
     row.error = 0.26;
-    EXPECT_EQ(cellOf(row, OutlookColumn::Share), "34.4 % +-0.3");
+    EXPECT_EQ(cellOf(row, OutlookColumn::Share), "34.4 % \xB1" "0.3");
     row.error = 0.02;
-    EXPECT_EQ(cellOf(row, OutlookColumn::Share), "34.4 % +-0.1") << "an error is never shown as none";
+    EXPECT_EQ(cellOf(row, OutlookColumn::Share), "34.4 % \xB1" "0.1") << "an error is never shown as none";
 }
 
 TEST_F(OutlookRowsTest, NeverShowsAChanceAsNoneOrAsCertainThatIsNot)
