@@ -58,4 +58,17 @@ UpperChance pickedChances(const Contest& contest)
     };
 }
 
+UpperChance chancesOf(ChanceKind kind, const Contest& contest, const Field& field)
+{
+    switch (kind) {
+    case ChanceKind::BySeed:
+        return seedChances(contest.games(), field);
+    case ChanceKind::AsPicked:
+        return pickedChances(contest);
+    case ChanceKind::Alike:
+        break;
+    }
+    return alikeChances();
+}
+
 } // namespace tallyhoop

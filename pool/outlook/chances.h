@@ -31,4 +31,10 @@ UpperChance seedChances(const OpenGames& games, const Field& field);
 /// picked. And where few players are left with a pick, or none, the chance is near one half.
 UpperChance pickedChances(const Contest& contest);
 
+/// The three, in the order in which people are offered them.
+enum class ChanceKind { Alike, BySeed, AsPicked };
+
+/// @param field tells the seeds
+UpperChance chancesOf(ChanceKind kind, const Contest& contest, const Field& field);
+
 } // namespace tallyhoop

@@ -1,8 +1,8 @@
 // screens/outlook/outlook_board.cpp - texts and colours of the places.
 #include "screens/outlook/outlook_board.h"
 
+#include "reports/outlook_words.h"
 #include "screens/board/board_words.h"
-#include "screens/outlook/outlook_rows.h"
 
 #include <cmath>
 
@@ -63,10 +63,10 @@ void OutlookBoard::showSwing(Position side, double swing)
 {
     ui::Label& label = lblSwing[side];
     label.visible = true;
-    label.text = changeText(swing);
+    label.text = changeInWords(swing);
     label.colour = kWhite;
     label.background = std::abs(swing) < kLeastSwing ? kNoMatter : swing > 0 ? kHelps : kHarms;
-    label.spokenName = std::abs(swing) < kLeastSwing ? "does not matter" : changeText(swing) + " percent if it wins";
+    label.spokenName = std::abs(swing) < kLeastSwing ? "does not matter" : changeInWords(swing) + " percent if it wins";
     lblRegion[side].spokenName += ", " + label.spokenName;
 }
 

@@ -1,81 +1,23 @@
-// screens/outlook/outlook_rows.h - the table of players: who is where, who can still be first, and what it is worth.
+// screens/outlook/outlook_rows.h - the table of players on the screen and on paper: headings, cells, explanations.
 #pragma once
 
-#include "pool/entry.h"
-#include "screens/outlook/outlook_work.h"
+#include "reports/outlook_rows.h"
 #include "ui/control.h"
 
-#include <cstddef>
-#include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
 namespace tallyhoop {
 
-/// How a player stands by some results. Points are whole points.
-struct PlayerStanding {
-    std::size_t place = 1; ///< one more than the number of players with more points
-    int points = 0;
-    int possible = 0; ///< earned and still possible
-};
-
-/// @returns one for each entry, in their order
-std::vector<PlayerStanding> standingsBy(std::span<const Entry> entries, const Bracket& results, const Payoffs& payoffs);
-
-/// The columns of the table, from the left.
-enum class OutlookColumn { Now, Player, Points, Possible, First, Share, Verdict, Best, Worst, Change };
-inline constexpr std::size_t kOutlookColumns = 10;
-
-/// A player's row. Chances are in percent, 0..100; nothing = not known yet.
-struct OutlookRow {
-    std::size_t player = 0; ///< in the order of the entries
-    std::string name;
-    PlayerStanding standing;
-    std::optional<double> first; ///< the chance to be first, alone or together with others
-    std::optional<double> share; ///< of first place: where k players share it, each has 1/k
-    double error = 0;            ///< the standard error of the share; 0 = exact
-    PlaceBetween best;
-    PlaceBetween worst;
-    Prospect prospect = Prospect::Open;
-    std::optional<double> change; ///< of the share, against the results as entered; nothing = nothing is supposed
-};
-
-/// @param standings one for each entry
-/// @param entered   the shares by the results as entered, 0..1, one for each entry; empty = there is nothing to compare
-std::vector<OutlookRow> outlookRows(std::span<const Entry> entries, std::span<const PlayerStanding> standings,
-                                    const OutlookFigures& figures, std::span<const double> entered = {});
-
-/// By which column the rows are sorted, and whether upside down.
-struct OutlookOrder {
-    OutlookColumn column = OutlookColumn::Share;
-    bool reversed = false;
-
-    friend bool operator==(const OutlookOrder&, const OutlookOrder&) = default;
-};
-
-/// Sorts by one column: the best places and the highest numbers first, names from A to Z, Clinched before Alive before
-/// Open before Out, what is not known last. Rows that are equal there are in the order of their places, then of their
-/// names.
-void sortRows(std::vector<OutlookRow>& rows, OutlookOrder order);
+/// @returns what a cell shows, in the words of reports/outlook_words.h, with the percent sign; empty for what is not
+///          known
+std::string cellOf(const OutlookRow& row, OutlookColumn column);
 
 /// @returns whether the rows go from A to Z, from the smallest to the largest, from the best verdict to the worst
 bool isAscending(OutlookOrder order);
 
 /// @returns how the rows are sorted, such as "Sorted by Share, from the largest."
-std::string sortedWords(OutlookOrder order);
-
-/// @returns "Clinched", "Alive", "Out" or "Open"
-std::string wordOf(Prospect prospect);
-
-/// @returns "48.4 %"; a chance that is neither 0 nor 100 is never shown as if it were: "< 0.1 %", "> 99.9 %"
-std::string percentText(double percent);
-
-/// @returns "+4.1", "-0.3"; "0.0" for what rounds to nothing
-std::string changeText(double percent);
-
-/// @returns what a cell shows; empty for what is not known
-std::string cellOf(const OutlookRow& row, OutlookColumn column);
+std::string sortedInWords(OutlookOrder order);
 
 /// The headings, with alignments and widths.
 std::vector<ui::GridColumn> outlookColumns();

@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "pool/results.h"
+#include "reports/outlook_words.h"
 #include "screens/board/board_geometry.h"
 #include "screens/help_topics.h"
 #include "screens/outlook/outlook_words.h"
@@ -131,7 +132,7 @@ void OutlookScreen::sortBy(std::size_t column)
     m_followsLeader = false;
     m_order = {chosen, m_order.column == chosen && !m_order.reversed};
     m_hasNews = true;
-    say(explanationOf(chosen) + " " + sortedWords(m_order));
+    say(explanationOf(chosen) + " " + sortedInWords(m_order));
 }
 
 void OutlookScreen::showWay()
@@ -247,9 +248,9 @@ std::vector<double> OutlookScreen::swings() const
 
 void OutlookScreen::showPlayer()
 {
-    lblPlayer.text = m_chosen
-                         ? m_pool.entries.at(*m_chosen).name + ": " + wordOf(m_figures.prospects.at(*m_chosen).prospect)
-                         : "Nobody is chosen";
+    lblPlayer.text =
+        m_chosen ? m_pool.entries.at(*m_chosen).name + ": " + verdictInWords(m_figures.prospects.at(*m_chosen).prospect)
+                 : "Nobody is chosen";
     lblProof.text = m_chosen ? proofFor(*m_chosen) : "";
     cmdShowWay.enabled = m_chosen && m_figures.prospects.at(*m_chosen).witness;
 }
@@ -270,12 +271,10 @@ std::string OutlookScreen::howFar() const
 {
     if (!m_work)
         return "The payoffs are no numbers, so there is no outlook.";
-    const std::string kind = nameOf(m_kind) + ". ";
-    if (m_stopped && !m_work->isDone())
-        return kind + "Stopped. " + sourceWords(m_figures, m_work->contest().games());
-    if (m_figures.source == ChanceSource::None)
-        return kind + workingWords(m_work->fraction());
-    return kind + sourceWords(m_figures, m_work->contest().games());
+    if (m_figures.source == ChanceSource::None && !m_stopped)
+        return "Chances: " + chancesInWords(m_kind) + ". " + workingWords(m_work->fraction());
+    const std::string stopped = m_stopped && !m_work->isDone() ? "Stopped. " : "";
+    return stopped + sentencesOf(basisInWords(basisOf(m_kind, m_work->contest().games().size(), m_figures)));
 }
 
 } // namespace tallyhoop

@@ -1,9 +1,7 @@
 // screens/outlook/outlook_screen_work.cpp - what the outlook screen works out: when it begins, and what comes of it.
 #include "screens/outlook/outlook_screen.h"
 
-#include "screens/outlook/outlook_words.h"
-
-#include <cctype>
+#include "reports/outlook_words.h"
 
 namespace tallyhoop {
 
@@ -17,8 +15,7 @@ RoadPicture OutlookScreen::roadPicture() const
     for (const OutlookRow& row : m_rows)
         picture.names[row.player] = row.name;
     picture.chosen = m_chosen;
-    picture.chances = nameOf(m_kind);
-    picture.chances.front() = static_cast<char>(std::tolower(picture.chances.front()));
+    picture.chances = chancesInWords(m_kind);
     return picture;
 }
 

@@ -1,6 +1,7 @@
 // screens/outlook/outlook_words.cpp - the sentences themselves.
 #include "screens/outlook/outlook_words.h"
 
+#include "base/text.h"
 #include "screens/outlook/outlook_rows.h"
 
 #include <cmath>
@@ -16,19 +17,6 @@ std::string sideText(const std::string& side) { return side.empty() ? kManyTeams
 
 } // namespace
 
-std::string nameOf(ChanceKind kind)
-{
-    switch (kind) {
-    case ChanceKind::BySeed:
-        return "Chances by seed";
-    case ChanceKind::AsPicked:
-        return "Chances as this pool picked";
-    case ChanceKind::Alike:
-        break;
-    }
-    return "All outcomes alike";
-}
-
 std::string explanationOf(ChanceKind kind)
 {
     switch (kind) {
@@ -42,20 +30,7 @@ std::string explanationOf(ChanceKind kind)
     return "All alike: every outcome counts the same, as if each game were the toss of a coin.";
 }
 
-std::string sourceWords(const OutlookFigures& figures, const OpenGames& games)
-{
-    switch (figures.source) {
-    case ChanceSource::Forecast:
-        return fmt::format("Forecast from {} samples of {} open games, seed {}.", figures.samples, games.size(),
-                           kForecastSeed);
-    case ChanceSource::Counted:
-        return games.size() == 0 ? "No game is open."
-                                 : fmt::format("{} outcomes left, every one counted.", games.outcomes());
-    case ChanceSource::None:
-        break;
-    }
-    return "Nothing is counted yet.";
-}
+std::string sentencesOf(std::span<const std::string> lines) { return joined(lines, ". ") + "."; }
 
 std::string workingWords(double fraction)
 {

@@ -1,22 +1,21 @@
-// screens/outlook/outlook_words.h - the sentences of the outlook: which chances, how far it is, what is proven.
+// screens/outlook/outlook_words.h - the sentences of the outlook's screen: how far it is, what is proven.
 #pragma once
 
+#include "pool/outlook/chances.h"
+#include "pool/outlook/prospects.h"
 #include "screens/outlook/game_swings.h"
-#include "screens/outlook/outlook_work.h"
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 namespace tallyhoop {
 
-/// @returns which chances these are, in a few words; all outcomes alike are never called a chance to win
-std::string nameOf(ChanceKind kind);
-
 /// @returns how these chances come about, in a sentence
 std::string explanationOf(ChanceKind kind);
 
-/// @returns "128 outcomes left, every one counted." or how large the forecast is and where it began
-std::string sourceWords(const OutlookFigures& figures, const OpenGames& games);
+/// @returns lines as sentences, one after the other
+std::string sentencesOf(std::span<const std::string> lines);
 
 /// @param fraction 0..1
 std::string workingWords(double fraction);

@@ -37,19 +37,6 @@ ChanceOutlook partsOf(const FirstOutlook& counted, std::size_t games)
 
 } // namespace
 
-UpperChance chancesOf(ChanceKind kind, const Contest& contest, const Field& field)
-{
-    switch (kind) {
-    case ChanceKind::BySeed:
-        return seedChances(contest.games(), field);
-    case ChanceKind::AsPicked:
-        return pickedChances(contest);
-    case ChanceKind::Alike:
-        break;
-    }
-    return alikeChances();
-}
-
 OutlookWork::OutlookWork(Contest contest, const Field& field, ChanceKind kind)
     : m_contest{std::move(contest)},
       m_upperChance{chancesOf(kind, m_contest, field)},

@@ -6,6 +6,7 @@
 #include "pool/field.h"
 #include "pool/outlook/chances.h"
 #include "pool/outlook/contest.h"
+#include "pool/outlook/figures.h"
 #include "pool/outlook/first_count.h"
 #include "pool/outlook/first_places.h"
 #include "pool/outlook/forecast.h"
@@ -19,29 +20,6 @@
 #include <vector>
 
 namespace tallyhoop {
-
-/// How likely each side of a game is said to be, in the order of the options on the screen.
-enum class ChanceKind { Alike, BySeed, AsPicked };
-
-/// @returns the chances of this kind; `field` tells the seeds
-UpperChance chancesOf(ChanceKind kind, const Contest& contest, const Field& field);
-
-/// Where the chances come from.
-enum class ChanceSource {
-    None,     ///< there are none yet
-    Forecast, ///< estimated from samples
-    Counted,  ///< every outcome was counted
-};
-
-/// What is known so far, a value for each player in the order of the contest.
-struct OutlookFigures {
-    std::vector<PlayerProspect> prospects; ///< those that nothing is known of yet are Open, with every place possible
-    ChanceSource source = ChanceSource::None; ///< of the chances
-    ChanceOutlook chances;                    ///< empty as long as there is no source
-    std::vector<double> errors; ///< the standard error of each share, 0..1; 0 = exact; empty without source
-    std::uint64_t samples = 0;  ///< that a forecast is made of so far
-    std::vector<std::uint64_t> firstOutcomes; ///< in how many outcomes a player is first; empty = not counted
-};
 
 /// Works an outlook out. Knows nothing of threads: one object belongs to one thread at a time, and needs nothing of
 /// what it was made from any longer.

@@ -1,10 +1,11 @@
 // screens/outlook/road_words.cpp - one player from time to time, or a few players now.
 #include "screens/outlook/road_words.h"
 
-#include "screens/outlook/outlook_rows.h"
+#include "reports/outlook_words.h"
 
 #include <algorithm>
 #include <cctype>
+#include <functional>
 #include <numeric>
 
 namespace tallyhoop {
@@ -21,7 +22,7 @@ std::string uncapitalized(std::string words)
 
 std::string shareAt(const RoadPoint& point, std::size_t player)
 {
-    return percentText(100 * point.chances[player].share) + (point.samples > 0 ? " (forecast)" : "");
+    return percentInWords(100 * point.chances[player].share) + (point.samples > 0 ? " % (forecast)" : " %");
 }
 
 std::string roadOf(std::size_t player, const RoadPicture& picture)

@@ -71,7 +71,7 @@ TEST_F(OutlookScreenTest, ShowsWhoCanStillBeFirst)
     open();
     EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Ann", "X, Bob", "X, Cleo"));
     EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("50.0 %", "25.0 %", "25.0 %"));
-    EXPECT_EQ(screen->lblOutcomes.text, "All outcomes alike. 2 outcomes left, every one counted.");
+    EXPECT_EQ(screen->lblOutcomes.text, "Chances: all outcomes alike. Counted: all 2 outcomes of 1 open game.");
     EXPECT_EQ(screen->lblWhatIf.text, "The results as entered");
     EXPECT_FALSE(screen->cmdAsEntered.enabled);
     EXPECT_FALSE(screen->cmdStop.enabled);
@@ -99,7 +99,7 @@ TEST_F(OutlookScreenTest, FollowsWhatIsSupposedAndComparesIt)
     EXPECT_THAT(column(OutlookColumn::Change), ElementsAre("+25.0", "+25.0", "-50.0"));
     EXPECT_THAT(column(OutlookColumn::Verdict), ElementsAre("Clinched", "Clinched", "Out"));
     EXPECT_THAT(column(OutlookColumn::Points), ElementsAre("168", "168", "152"));
-    EXPECT_EQ(screen->lblOutcomes.text, "All outcomes alike. No game is open.");
+    EXPECT_EQ(screen->lblOutcomes.text, "No game is open: these are the final places.");
 }
 
 TEST_F(OutlookScreenTest, PutsTheResultsBack)
@@ -150,7 +150,7 @@ TEST_F(OutlookScreenTest, TakesOtherChances)
     screen->optChances[1].changed();
     workItOut();
     EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("75.0 %", "12.5 %", "12.5 %"));
-    EXPECT_THAT(screen->lblOutcomes.text, StartsWith("Chances by seed. "));
+    EXPECT_THAT(screen->lblOutcomes.text, StartsWith("Chances: by seed, "));
     EXPECT_THAT(screen->news().text, HasSubstr("b / (a + b)"));
 }
 
@@ -174,15 +174,17 @@ TEST_F(OutlookScreenTest, StopsWhenItIsAskedTo)
     screen = std::make_unique<OutlookScreen>(pool, platform.services, screens);
     screen->load();
     screen->showState();
-    EXPECT_EQ(screen->lblOutcomes.text, "All outcomes alike. Working: 0 %.");
+    EXPECT_EQ(screen->lblOutcomes.text, "Chances: all outcomes alike. Working: 0 %.");
     screen->advance();
     screen->advance();
     screen->showState();
-    EXPECT_EQ(screen->lblOutcomes.text, "All outcomes alike. Forecast from 500 samples of 63 open games, seed 2000.");
+    EXPECT_THAT(screen->lblOutcomes.text,
+                StartsWith("Chances: all outcomes alike. Forecast: 500 samples of 63 open games, seed 2000. Standard "
+                           "error of the share: at most "));
     screen->cmdStop.click();
     EXPECT_FALSE(screen->isWorking());
     EXPECT_FALSE(screen->cmdStop.enabled);
-    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("Stopped. Forecast from 500 samples"));
+    EXPECT_THAT(screen->lblOutcomes.text, StartsWith("Stopped. Chances: all outcomes alike. Forecast: 500 samples"));
 }
 
 TEST_F(OutlookScreenTest, CopiesTheTableWithTheKindOfItsChances)
@@ -190,7 +192,7 @@ TEST_F(OutlookScreenTest, CopiesTheTableWithTheKindOfItsChances)
     open();
     screen->cmdCopy.click();
     EXPECT_THAT(platform.clipboard.text,
-                StartsWith("All outcomes alike. 2 outcomes left, every one counted.\r\nNow\tPlayer\t"));
+                StartsWith("Chances: all outcomes alike. Counted: all 2 outcomes of 1 open game.\r\nNow\tPlayer\t"));
     EXPECT_THAT(platform.clipboard.text, HasSubstr("1\tX, Ann\t152\t168\t50.0 %\t50.0 %\tAlive\t1\t3\t\r\n"));
     EXPECT_EQ(screen->news().text, "Copied 3 rows, to be pasted into a spreadsheet.");
 }

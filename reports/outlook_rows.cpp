@@ -1,0 +1,123 @@
+// reports/outlook_rows.cpp - places, percentages, and the order of the rows.
+#include "reports/outlook_rows.h"
+
+#include "base/windows1252.h"
+#include "pool/scoring.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+namespace tallyhoop {
+
+namespace {
+
+/// Clinched first, Out last.
+int rankOf(Prospect prospect)
+{
+    switch (prospect) {
+    case Prospect::Clinched:
+        return 0;
+    case Prospect::Alive:
+        return 1;
+    case Prospect::Open:
+        return 2;
+    case Prospect::Out:
+        break;
+    }
+    return 3;
+}
+
+/// What a column sorts by, the smallest first; for names 0.
+double sortKey(const OutlookRow& row, OutlookColumn column)
+{
+    const auto highestFirst = [](std::optional<double> value) { return value ? -*value : HUGE_VAL; };
+    const auto place = [](PlaceBetween between) { return static_cast<double>(between.least + between.most); };
+    switch (column) {
+    case OutlookColumn::Now:
+        return static_cast<double>(row.standing.place);
+    case OutlookColumn::Player:
+        return 0;
+    case OutlookColumn::Points:
+        return -row.standing.points;
+    case OutlookColumn::Possible:
+        return -row.standing.possible;
+    case OutlookColumn::First:
+        return highestFirst(row.first);
+    case OutlookColumn::Share:
+        return highestFirst(row.share);
+    case OutlookColumn::Best:
+        return place(row.best);
+    case OutlookColumn::Worst:
+        return place(row.worst);
+    case OutlookColumn::Verdict:
+        return rankOf(row.prospect);
+    case OutlookColumn::Change:
+        break;
+    }
+    return highestFirst(row.change);
+}
+
+} // namespace
+
+std::vector<PlayerStanding> standingsBy(std::span<const Entry> entries, const Bracket& results, const Payoffs& payoffs)
+{
+    std::vector<PlayerStanding> standings;
+    std::vector<int> points;
+    for (const Entry& entry : entries) {
+        const Score scored = score(entry.picks, results, payoffs);
+        standings.push_back({1, scored.points, scored.points + scored.possible});
+        points.push_back(scored.points);
+    }
+    std::ranges::sort(points, std::greater{});
+    for (PlayerStanding& standing : standings)
+        standing.place += static_cast<std::size_t>(std::ranges::lower_bound(points, standing.points, std::greater{}) -
+                                                   points.begin());
+    return standings;
+}
+
+std::vector<OutlookRow> outlookRows(std::span<const Entry> entries, std::span<const PlayerStanding> standings,
+                                    const OutlookFigures& figures, std::span<const double> entered)
+{
+    std::vector<OutlookRow> rows;
+    for (std::size_t player = 0; player < entries.size(); ++player) {
+        OutlookRow row;
+        row.player = player;
+        row.name = entries[player].initials + ", " + entries[player].name;
+        row.standing = standings[player];
+        row.best = figures.prospects[player].best;
+        row.worst = figures.prospects[player].worst;
+        row.prospect = figures.prospects[player].prospect;
+        if (figures.source != ChanceSource::None) {
+            const FirstChances& chances = figures.chances.players[player].all;
+            row.first = 100 * (chances.alone + chances.together);
+            row.share = 100 * chances.share;
+            row.error = 100 * figures.errors[player];
+            if (!entered.empty())
+                row.change = *row.share - 100 * entered[player];
+        }
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+void sortRows(std::vector<OutlookRow>& rows, OutlookOrder order)
+{
+    const auto byName = [](const OutlookRow& left, const OutlookRow& right) {
+        return compareFolded(left.name, right.name) < 0;
+    };
+    std::ranges::stable_sort(rows, byName);
+    std::ranges::stable_sort(rows, {}, [](const OutlookRow& row) { return row.standing.place; });
+    const auto isBefore = [&](const OutlookRow& left, const OutlookRow& right) {
+        if (order.column == OutlookColumn::Player)
+            return byName(left, right);
+        return sortKey(left, order.column) < sortKey(right, order.column);
+    };
+    if (order.reversed)
+        std::ranges::stable_sort(
+            rows, [&](const OutlookRow& left, const OutlookRow& right) { return isBefore(right, left); });
+    else
+        std::ranges::stable_sort(rows, isBefore);
+}
+
+} // namespace tallyhoop
