@@ -16,14 +16,6 @@ constexpr std::array<const char*, kRounds> kSpokenRounds = {"first round",    "s
 
 const char* spokenRound(int round) { return kSpokenRounds.at(roundIndex(round)); }
 
-/// @returns a region's title, without the word that every listener knows: "West Region" is "West"
-std::string spokenRegion(const Field& field, int region)
-{
-    constexpr std::string_view kRegion = " Region";
-    const std::string& title = field.regionTitles.at(static_cast<std::size_t>(region));
-    return title.ends_with(kRegion) ? title.substr(0, title.size() - kRegion.size()) : title;
-}
-
 /// @returns "winner of second round, game 3": the games of a column are counted downwards, region by region
 std::string spokenGame(Position position)
 {
@@ -37,7 +29,7 @@ std::string spokenGame(Position position)
 
 std::string spokenRow(const Field& field, TeamRow row)
 {
-    return spokenRegion(field, regionOf(row)) + ", first round, row " + std::to_string(rowInRegion(row) + 1) +
+    return shortNameOfRegion(field, regionOf(row)) + ", first round, row " + std::to_string(rowInRegion(row) + 1) +
            ", seed " + withoutOuterBlanks(field.seedOf(row));
 }
 
@@ -87,12 +79,19 @@ std::string explanationOfListed(const BoardPicture& picture, Position position)
 
 } // namespace
 
+std::string shortNameOfRegion(const Field& field, int region)
+{
+    constexpr std::string_view kRegion = " Region";
+    const std::string& title = field.regionTitles.at(static_cast<std::size_t>(region));
+    return title.ends_with(kRegion) ? title.substr(0, title.size() - kRegion.size()) : title;
+}
+
 std::string nameOfPlace(const Field& field, Position position)
 {
     if (const std::optional<TeamRow> row = teamRowOf(position))
         return spokenRow(field, *row);
     const std::optional<int> region = regionOf(position);
-    return (region ? spokenRegion(field, *region) + ", " : std::string{}) + spokenGame(position);
+    return (region ? shortNameOfRegion(field, *region) + ", " : std::string{}) + spokenGame(position);
 }
 
 std::string spokenPlace(const BoardPicture& picture, Position position)
@@ -106,7 +105,7 @@ std::string spokenPlace(const BoardPicture& picture, Position position)
 
 std::string spokenSeed(const Field& field, TeamRow row)
 {
-    return "Seed of " + spokenRegion(field, regionOf(row)) + ", row " + std::to_string(rowInRegion(row) + 1);
+    return "Seed of " + shortNameOfRegion(field, regionOf(row)) + ", row " + std::to_string(rowInRegion(row) + 1);
 }
 
 std::string spokenMark(Verdict verdict, MarkedNames whose)

@@ -7,6 +7,9 @@
 
 namespace tallyhoop {
 
+/// @returns a region's title without the word that everybody knows: "West Region" is "West"
+std::string shortNameOfRegion(const Field& field, int region);
+
 /// @returns where a place is, such as "West, winner of second round, game 3"
 std::string nameOfPlace(const Field& field, Position position);
 

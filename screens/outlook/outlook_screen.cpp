@@ -190,7 +190,8 @@ void OutlookScreen::showState()
 {
     takeFigures();
     showSupposed(m_pool.field, m_whatIf.entered(), m_whatIf.supposed());
-    const std::vector<OpenGame> games = m_work ? openGamesOf(m_work->contest().games()) : std::vector<OpenGame>{};
+    const std::vector<OpenGame> games =
+        m_work ? openGamesOf(m_work->contest().games(), m_pool.field) : std::vector<OpenGame>{};
     showSwings(games, swings());
     showGames(games);
     showPlayer();

@@ -9,14 +9,6 @@
 
 namespace tallyhoop {
 
-namespace {
-
-constexpr const char* kManyTeams = "winner of an earlier game";
-
-std::string sideText(const std::string& side) { return side.empty() ? kManyTeams : side; }
-
-} // namespace
-
 std::string explanationOf(ChanceKind kind)
 {
     switch (kind) {
@@ -56,13 +48,13 @@ std::string provenWords(Prospect prospect, std::size_t openGames)
     return explanationOf(prospect);
 }
 
-std::string gameText(const OpenGame& game) { return sideText(game.upper) + " - " + sideText(game.lower); }
+std::string gameText(const OpenGame& game) { return game.round.empty() ? game.upper + " - " + game.lower : game.round; }
 
 std::string rootFor(const OpenGame& game, double swing)
 {
     if (std::abs(swing) < kLeastSwing)
         return "-";
-    return sideText(swing > 0 ? game.upper : game.lower);
+    return swing > 0 ? game.upper : game.lower;
 }
 
 std::string fixedText(double number) { return fmt::format("{:.1f}", number); }

@@ -26,7 +26,7 @@ std::string countedWords(std::uint64_t first, std::uint64_t outcomes);
 /// @returns what is proven without counting
 std::string provenWords(Prospect prospect, std::size_t openGames);
 
-/// @returns "Duke - Kansas"; a side of more than two teams is "winner of an earlier game"
+/// @returns "Duke - Kansas", "Duke / Kansas - Florida"; its round where a side has more than two teams: "West final"
 std::string gameText(const OpenGame& game);
 
 /// @returns the side that helps; "-" where the game does not matter

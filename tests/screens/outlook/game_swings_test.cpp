@@ -43,20 +43,53 @@ TEST(GameSwings, NameTheTwoSides)
     Pool pool = finalPool();
     pool.results->picks = cleared(cleared(pool.results->picks, kSemifinalA), kSemifinalB);
     const Contest contest = *Contest::of(pool);
-    const std::vector<OpenGame> games = openGamesOf(contest.games());
+    const std::vector<OpenGame> games = openGamesOf(contest.games(), pool.field);
     EXPECT_THAT(games, ElementsAre(OpenGame{kSemifinalA, "Team 1", "Team 17", true},
                                    OpenGame{kSemifinalB, "Team 35", "Team 49", true},
                                    OpenGame{kChampion, "Team 1 / Team 17", "Team 35 / Team 49", false}));
 }
 
-TEST(GameSwings, NameNobodyWhereMoreThanTwoCanCome)
+/// Nothing is played; the regions are those of a new field: West, Midwest, East and South.
+OpenGame gameBeforeTheFirst(Position position)
+{
+    Field field = finalField();
+    field.regionTitles = defaultField().regionTitles;
+    const OpenGames games{startingBracket(field)};
+    const std::vector<OpenGame> open = openGamesOf(games, field);
+    return *std::ranges::find(open, position, &OpenGame::game);
+}
+
+TEST(GameSwings, NameTheTeamsWhereNoMoreThanTwoCanCome)
+{
+    EXPECT_EQ(gameBeforeTheFirst(Position{16}), (OpenGame{Position{16}, "Team 1", "Team 2", true}));
+    EXPECT_EQ(gameBeforeTheFirst(Position{24}), (OpenGame{Position{24}, "Team 1 / Team 2", "Team 3 / Team 4", false}));
+}
+
+TEST(GameSwings, NameThePartOfTheBracketWhereMoreThanTwoCanCome)
+{
+    // A region has 16 rows, 8 winners of the first round, 4 of the second, then 2, then its winner.
+    EXPECT_EQ(gameBeforeTheFirst(Position{28}),
+              (OpenGame{Position{28}, "West 1st quarter", "West 2nd quarter", false, "West upper semi-final"}));
+    EXPECT_EQ(
+        gameBeforeTheFirst(Position{31 + 29}),
+        (OpenGame{Position{60}, "Midwest 3rd quarter", "Midwest 4th quarter", false, "Midwest lower semi-final"}));
+    EXPECT_EQ(gameBeforeTheFirst(regionWinner(3)),
+              (OpenGame{regionWinner(3), "South upper half", "South lower half", false, "South final"}));
+    EXPECT_EQ(gameBeforeTheFirst(kSemifinalB),
+              (OpenGame{kSemifinalB, "East winner", "South winner", false, "Semi-final: East - South"}));
+    EXPECT_EQ(gameBeforeTheFirst(kChampion),
+              (OpenGame{kChampion, "West / Midwest winner", "East / South winner", false, "Final"}));
+}
+
+TEST(GameSwings, NameTheTeamsOfOneSideOnly)
 {
     Pool pool = finalPool();
+    pool.field.regionTitles = defaultField().regionTitles;
     Bracket results = cleared(cleared(pool.results->picks, kSemifinalA), kSemifinalB);
     pool.results->picks = cleared(cleared(results, regionWinner(0)), regionWinner(1));
-    const std::vector<OpenGame> games = openGamesOf(Contest::of(pool)->games());
+    const std::vector<OpenGame> games = openGamesOf(Contest::of(pool)->games(), pool.field);
     ASSERT_THAT(games, SizeIs(5));
-    EXPECT_EQ(games.back(), (OpenGame{kChampion, "", "Team 35 / Team 49", false}));
+    EXPECT_EQ(games.back(), (OpenGame{kChampion, "West / Midwest winner", "Team 35 / Team 49", false, "Final"}));
 }
 
 /// Forgets so many of the right picks of a round.
