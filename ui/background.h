@@ -1,0 +1,30 @@
+// ui/background.h - long work that goes on beside the person.
+#pragma once
+
+#include "base/step.h"
+
+#include <functional>
+
+namespace tallyhoop::ui {
+
+/// Does one piece of work at a time, in slices.
+class Background
+{
+public:
+    /// Does some milliseconds of the work. Shares nothing with its maker but what it guards itself.
+    /// @param step says in between whether to go on; after a false what the slice has found is not wanted any longer
+    /// @returns whether there is more to do
+    using Slice = std::function<bool(const Step& step)>;
+
+    virtual ~Background() = default;
+
+    /// Calls a slice again and again until it returns false. What ran before is abandoned: its Step says so, it is not
+    /// called again, and it has ended before the new slice begins. Nobody waits here for any of that.
+    /// @returns false when the system has nothing that could do the work now
+    virtual bool run(Slice slice) = 0;
+
+    /// Abandons what runs.
+    virtual void abandon() = 0;
+};
+
+} // namespace tallyhoop::ui
