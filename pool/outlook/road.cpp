@@ -101,11 +101,20 @@ void Road::addPoint()
 {
     const bool sampled = m_forecast && !m_forecast->isExact();
     const ChanceOutlook outlook = m_count ? m_count->outlook() : m_forecast->outlook();
-    RoadPoint point{stage().round, stage().isNow, m_openGames, sampled ? m_forecast->samples() : 0, {}, {}};
+    RoadPoint point{0, false, m_openGames, sampled ? m_forecast->samples() : 0, {}, {}};
     for (std::size_t player = 0; player < outlook.players.size(); ++player) {
         point.chances.push_back(outlook.players[player].all);
         point.errors.push_back(sampled ? m_forecast->standardError(player) : 0);
     }
+    add(std::move(point));
+}
+
+void Road::takeNow(RoadPoint now) { add(std::move(now)); }
+
+void Road::add(RoadPoint point)
+{
+    point.round = stage().round;
+    point.isNow = stage().isNow;
     m_points.insert(m_points.begin(), std::move(point));
     m_count.reset();
     m_forecast.reset();

@@ -68,6 +68,11 @@ public:
     /// How much is done, 0..1, growing steadily; each stage counts the same.
     double fraction() const;
 
+    /// Takes over what is known of now from elsewhere, so that it is not worked out once more.
+    /// @param now its round and isNow are those of the stage, whatever they are here
+    /// @pre no point is found yet
+    void takeNow(RoadPoint now);
+
     /// Does one slice of the work: some milliseconds, more for hundreds of players. Nothing when it is done.
     void advance();
 
@@ -83,6 +88,7 @@ private:
     double stageFraction() const;
     bool stageIsDone() const;
     void addPoint();
+    void add(RoadPoint point);
 
     std::vector<RoadStage> m_stages;
     std::vector<Bracket> m_picks;
