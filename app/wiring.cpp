@@ -18,6 +18,7 @@
 #include "screens/scores/scores_screen.h"
 #include "screens/setup/seeds_screen.h"
 #include "screens/setup/setup_screen.h"
+#include "ui/background_thread.h"
 
 #include <memory>
 #include <stdexcept>
@@ -74,7 +75,8 @@ public:
                 Placement::Modal, std::make_unique<EmailScreen>(m_folder, m_platform, m_host, m_shared.mailDraft));
         case ScreenKind::Outlook:
             return shownBy<qt::OutlookView>(Placement::Stacked,
-                                            std::make_unique<OutlookScreen>(readPool(m_folder), m_platform, m_host));
+                                            std::make_unique<OutlookScreen>(readPool(m_folder), m_platform, m_host,
+                                                                            std::make_unique<ui::BackgroundThread>()));
         }
         throw std::logic_error{"There is no screen of this kind."};
     }

@@ -1,4 +1,4 @@
-// qt/views/outlook_view.cpp - the outlook's widgets, placed; works in the pauses between events.
+// qt/views/outlook_view.cpp - the outlook's widgets, placed; shows what is known while more is worked out.
 #include "qt/views/outlook_view.h"
 
 #include "qt/look.h"
@@ -15,8 +15,8 @@ namespace {
 
 constexpr int kMargin = 12;       ///< around the page
 constexpr int kWhatIfWidth = 230; ///< room for either of its texts
-constexpr qint64 kSlice = 10;     ///< milliseconds of work between two looks at the events
-constexpr qint64 kRefresh = 150;  ///< milliseconds between two looks at what is known
+constexpr int kLook = 30;         ///< milliseconds until the next look at what is known
+constexpr qint64 kRefresh = 100;  ///< the fewest milliseconds between two times that it is shown
 
 /// Nothing is ever hidden by moving a bar. @param stretch how room that is left over is shared
 void share(QSplitter& splitter, std::initializer_list<int> stretch)
@@ -62,7 +62,7 @@ OutlookView::OutlookView(OutlookScreen& outlook, Desk& desk) : Page{outlook, des
     connect(&m_timer, &QTimer::timeout, this, &OutlookView::work);
     onPush([this] {
         if (m_outlook.isWorking() && !m_timer.isActive())
-            m_timer.start(0);
+            m_timer.start(kLook);
     });
 }
 
@@ -138,14 +138,9 @@ QWidget* OutlookView::makePlayer()
 
 void OutlookView::work()
 {
-    QElapsedTimer slice;
-    slice.start();
-    while (m_outlook.isWorking() && slice.elapsed() < kSlice)
-        m_outlook.advance();
-    const bool isOver = !m_outlook.isWorking();
-    if (isOver)
+    if (!m_outlook.isWorking())
         m_timer.stop();
-    if (!isOver && m_shown.elapsed() < kRefresh)
+    else if (m_shown.elapsed() < kRefresh)
         return;
     m_shown.restart();
     run([] {}); // shows what is known by now

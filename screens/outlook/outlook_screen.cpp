@@ -33,15 +33,18 @@ WhatIf whatIfOf(const Pool& pool) { return WhatIf{completedResults(pool.results.
 
 } // namespace
 
-OutlookScreen::OutlookScreen(Pool pool, const ui::Platform& platform, Screens& screens)
+OutlookScreen::OutlookScreen(Pool pool, const ui::Platform& platform, Screens& screens,
+                             std::unique_ptr<ui::Background> background)
     : ui::Screen{"frmPoolOutlook", "Pool Outlook"},
       OutlookBoard{this},
       m_platform{platform},
       m_screens{screens},
       m_pool{std::move(pool)},
-      m_picks{picksOf(m_pool)},
-      m_whatIf{whatIfOf(m_pool)}
+      m_whatIf{whatIfOf(m_pool)},
+      m_games{m_whatIf.entered()}
 {
+    if (const Result<Payoffs>& payoffs = m_pool.field.payoffs.points())
+        m_worker.emplace(m_whatIf.entered(), picksOf(m_pool), *payoffs, m_pool.field, std::move(background));
     constexpr std::array kCaptions{"All A&like", "By &Seed", "As This &Pool Picked"};
     for (std::size_t kind = 0; kind < optChances.size(); ++kind) {
         optChances[kind].caption = kCaptions.at(kind);
@@ -66,38 +69,6 @@ OutlookScreen::OutlookScreen(Pool pool, const ui::Platform& platform, Screens& s
 }
 
 std::string OutlookScreen::helpTopic() const { return help_topic::kOutlook; }
-
-void OutlookScreen::load()
-{
-    for (const Failure& failure : m_pool.trouble)
-        showTrouble(m_platform.dialogs, failure);
-    startWork();
-}
-
-void OutlookScreen::startWork()
-{
-    m_work.reset();
-    m_stopped = false;
-    const Result<Payoffs>& payoffs = m_pool.field.payoffs.points();
-    if (!payoffs) {
-        grdPlayers.emptyNote = payoffs.failure().message;
-        return;
-    }
-    m_standings = standingsBy(m_pool.entries, m_whatIf.supposed(), *payoffs);
-    m_work.emplace(Contest{m_whatIf.supposed(), m_picks, *payoffs}, m_pool.field, m_kind);
-    // Few games are counted before anybody sees that they are not yet.
-    while (m_work->contest().games().size() <= OutlookWork::kFewGames && !m_work->hasChances())
-        m_work->advance();
-    m_hasNews = true;
-}
-
-void OutlookScreen::advance(const Step& step)
-{
-    if (!isWorking())
-        return;
-    m_work->advance(step);
-    m_hasNews = true;
-}
 
 void OutlookScreen::supposed(bool changed)
 {
@@ -138,7 +109,7 @@ void OutlookScreen::sortBy(std::size_t column)
 void OutlookScreen::showWay()
 {
     const std::optional<OutcomeNumber> witness = m_figures.prospects.at(*m_chosen).witness;
-    supposed(m_whatIf.suppose(m_work->contest().games().outcome(*witness)));
+    supposed(m_whatIf.suppose(m_games.outcome(*witness)));
     say("This is one way in which " + m_pool.entries.at(*m_chosen).name + " is first.");
 }
 
@@ -190,8 +161,7 @@ void OutlookScreen::showState()
 {
     takeFigures();
     showSupposed(m_pool.field, m_whatIf.entered(), m_whatIf.supposed());
-    const std::vector<OpenGame> games =
-        m_work ? openGamesOf(m_work->contest().games(), m_pool.field) : std::vector<OpenGame>{};
+    const std::vector<OpenGame> games = m_worker ? openGamesOf(m_games, m_pool.field) : std::vector<OpenGame>{};
     showSwings(games, swings());
     showGames(games);
     showPlayer();
@@ -202,7 +172,7 @@ void OutlookScreen::showState()
     lblWhatIf.background = isSupposed ? std::optional{kSupposedBackground} : std::nullopt;
     cmdAsEntered.enabled = isSupposed;
     cmdUndo.enabled = m_whatIf.canUndo();
-    cmdStop.enabled = isWorking();
+    cmdStop.enabled = isWorking() && !m_stopped;
     cmdCopy.enabled = !grdPlayers.rows.empty();
     lblOutcomes.text = howFar();
     explanation = "Click a team on the board to suppose that it wins; choose a player to see whom to root for.";
@@ -211,31 +181,9 @@ void OutlookScreen::showState()
                                  : "Choose a player to see whom to root for." + std::string{kHowToSort};
 }
 
-void OutlookScreen::takeFigures()
-{
-    if (!std::exchange(m_hasNews, false))
-        return;
-    m_figures = m_work->figures();
-    keepAsEntered();
-    makeRows();
-    chooseLeader();
-    showRows();
-}
-
-/// What is known of the results as entered is what later suppositions are compared with.
-void OutlookScreen::keepAsEntered()
-{
-    if (m_whatIf.isChanged() || m_figures.source == ChanceSource::None)
-        return;
-    std::vector<double>& shares = m_entered.at(static_cast<std::size_t>(m_kind));
-    shares.clear();
-    for (const PlayerChances& player : m_figures.chances.players)
-        shares.push_back(player.all.share);
-}
-
 void OutlookScreen::makeRows()
 {
-    const std::vector<double>& entered = m_entered.at(static_cast<std::size_t>(m_kind));
+    const std::vector<double>& entered = m_entered.at(static_cast<std::size_t>(m_kind)).shares;
     m_rows = outlookRows(m_pool.entries, m_standings, m_figures,
                          m_whatIf.isChanged() ? std::span<const double>{entered} : std::span<const double>{});
     sortRows(m_rows, m_order);
@@ -259,9 +207,9 @@ void OutlookScreen::showPlayer()
 std::string OutlookScreen::proofFor(std::size_t player) const
 {
     const PlayerProspect& prospect = m_figures.prospects.at(player);
-    const std::size_t openGames = m_work->contest().games().size();
+    const std::size_t openGames = m_games.size();
     if (!m_figures.firstOutcomes.empty())
-        return countedWords(m_figures.firstOutcomes.at(player), m_work->contest().games().outcomes()) +
+        return countedWords(m_figures.firstOutcomes.at(player), m_games.outcomes()) +
                (prospect.rival ? " " + m_pool.entries.at(*prospect.rival).name + " is ahead in every one." : "");
     if (prospect.rival)
         return m_pool.entries.at(*prospect.rival).name + " is ahead, however the games end.";
@@ -270,12 +218,12 @@ std::string OutlookScreen::proofFor(std::size_t player) const
 
 std::string OutlookScreen::howFar() const
 {
-    if (!m_work)
+    if (!m_worker)
         return "The payoffs are no numbers, so there is no outlook.";
-    if (m_figures.source == ChanceSource::None && !m_stopped)
-        return "Chances: " + chancesInWords(m_kind) + ". " + workingWords(m_work->fraction());
-    const std::string stopped = m_stopped && !m_work->isDone() ? "Stopped. " : "";
-    return stopped + sentencesOf(basisInWords(basisOf(m_kind, m_work->contest().games().size(), m_figures)));
+    if (m_figures.source == ChanceSource::None && !m_stopped && isWorking())
+        return workingWords(m_worker->fraction());
+    const std::string stopped = !m_isWhole && (m_stopped || !isWorking()) ? "Stopped. " : "";
+    return stopped + basisInShort(basisOf(m_kind, m_games.size(), m_figures));
 }
 
 } // namespace tallyhoop

@@ -4,16 +4,19 @@
 #include "pool/entry.h"
 #include "screens/outlook/outlook_board.h"
 #include "screens/outlook/outlook_rows.h"
-#include "screens/outlook/outlook_work.h"
+#include "screens/outlook/outlook_worker.h"
 #include "screens/outlook/road_drawing.h"
 #include "screens/outlook/what_if.h"
 #include "screens/screens.h"
+#include "ui/background.h"
 #include "ui/picture.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,8 +27,10 @@ namespace tallyhoop {
 class OutlookScreen : public ui::Screen, public OutlookBoard
 {
 public:
-    /// @param pool as it is in the files; what could not be read is shown when the screen is loaded
-    OutlookScreen(Pool pool, const ui::Platform& platform, Screens& screens);
+    /// @param pool       as it is in the files; what could not be read is shown when the screen is loaded
+    /// @param background where the outlook is worked out
+    OutlookScreen(Pool pool, const ui::Platform& platform, Screens& screens,
+                  std::unique_ptr<ui::Background> background);
 
     std::string helpTopic() const override;
     void showState() override;
@@ -49,7 +54,7 @@ public:
     ui::Picture picRoad{this, "picRoad"};
     ui::Label lblGames{this, "lblGames", "Games that matter"};
     ui::Grid grdGames{this, "grdGames"};
-    ui::Command cmdStop{this, "cmdStop", "S&top", [this] { m_stopped = true; }};
+    ui::Command cmdStop{this, "cmdStop", "S&top", [this] { stop(); }};
     ui::Command cmdCopy{this, "cmdCopy", "C&opy", [this] { copy(); }};
     ui::Command cmdExit{this, "cmdExit", "E&xit", [this] { closeRequested(); }};
 
@@ -61,12 +66,8 @@ public:
     /// as many points as are known.
     RoadPicture roadPicture() const;
 
-    /// Whether advance() has something to do.
-    bool isWorking() const { return m_work && !m_stopped && !m_work->isDone(); }
-
-    /// Does a slice of the work, of some milliseconds; showState() then shows what is known. Whoever shows the screen
-    /// calls it again and again while it is working.
-    void advance(const Step& step = goOn);
+    /// Whether more will be known than is shown. Whoever shows the screen then calls showState() again and again.
+    bool isWorking() const { return m_worker && m_worker->isWorking(); }
 
 private:
     void describeGrids();
@@ -75,7 +76,7 @@ private:
     void fillWithHigherSeeds();
     void chooseChances();
     void startWork();
-    void keepAsEntered();
+    void stop();
     void choosePlayer(std::size_t row, std::size_t column);
     void sortBy(std::size_t column);
     void reachGame(std::size_t row);
@@ -85,6 +86,7 @@ private:
     bool pressedKey(Position position, const ui::KeyPress& press);
 
     void takeFigures();
+    void keepAsEntered();
     void makeRows();
     void showRows();
     void chooseLeader();
@@ -99,17 +101,23 @@ private:
     const ui::Platform& m_platform;
     Screens& m_screens;
     Pool m_pool;
-    std::vector<Bracket> m_picks;
     WhatIf m_whatIf;
     ChanceKind m_kind = ChanceKind::Alike;
 
-    std::optional<OutlookWork> m_work; ///< nothing = the payoffs are no numbers
+    /// Everybody's shares of first place by the results as entered.
+    struct EnteredShares {
+        std::vector<double> shares; ///< 0..1; empty = not known
+        std::uint64_t samples = 0;  ///< of the forecast; 0 = counted
+    };
+
+    std::optional<OutlookWorker> m_worker; ///< nothing = the payoffs are no numbers
+    OpenGames m_games;                     ///< of the results as supposed
     bool m_stopped = false;
-    bool m_hasNews = false; ///< of the work: what is shown is not all that is known
+    bool m_hasNews = false; ///< the rows are not as they should be
     OutlookFigures m_figures;
-    std::array<std::vector<double>, 3>
-        m_entered; ///< shares by the results as entered, for each kind; empty = not known
-    std::array<std::vector<RoadPoint>, 3> m_roads; ///< by the results as entered, for each kind: the points known
+    bool m_isWhole = false;                        ///< there is nothing more to find than these figures
+    std::array<EnteredShares, 3> m_entered;        ///< by ChanceKind
+    std::array<std::vector<RoadPoint>, 3> m_roads; ///< by ChanceKind: the points known, by the results as entered
 
     std::vector<PlayerStanding> m_standings;
     OutlookOrder m_order;

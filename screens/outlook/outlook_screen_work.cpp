@@ -2,8 +2,75 @@
 #include "screens/outlook/outlook_screen.h"
 
 #include "reports/outlook_words.h"
+#include "screens/outlook/outlook_words.h"
+#include "screens/saving.h"
+
+#include <utility>
 
 namespace tallyhoop {
+
+void OutlookScreen::load()
+{
+    for (const Failure& failure : m_pool.trouble)
+        showTrouble(m_platform.dialogs, failure);
+    startWork();
+}
+
+void OutlookScreen::startWork()
+{
+    m_stopped = false;
+    if (!m_worker) {
+        grdPlayers.emptyNote = m_pool.field.payoffs.points().failure().message;
+        return;
+    }
+    m_games = OpenGames{m_whatIf.supposed()};
+    m_standings = standingsBy(m_pool.entries, m_whatIf.supposed(), *m_pool.field.payoffs.points());
+    m_worker->begin(m_whatIf.supposed(), m_kind);
+}
+
+void OutlookScreen::stop()
+{
+    m_stopped = true;
+    m_worker->stop();
+    say("Stopped: what is known by now stays.");
+}
+
+void OutlookScreen::takeFigures()
+{
+    if (std::optional<OutlookKnown> known = m_worker ? m_worker->news() : std::nullopt) {
+        m_figures = std::move(known->figures);
+        m_isWhole = known->isWhole;
+        if (!known->road.empty())
+            m_roads.at(static_cast<std::size_t>(m_kind)) = std::move(known->road);
+        keepAsEntered();
+        m_hasNews = true;
+    }
+    if (!std::exchange(m_hasNews, false))
+        return;
+    makeRows();
+    chooseLeader();
+    showRows();
+}
+
+/// What is known of the results as entered is what later suppositions are compared with: the best there was.
+void OutlookScreen::keepAsEntered()
+{
+    EnteredShares& best = m_entered.at(static_cast<std::size_t>(m_kind));
+    const auto isBetter = [&best](std::uint64_t samples) {
+        return best.shares.empty() || (best.samples > 0 && (samples == 0 || samples > best.samples));
+    };
+    if (!m_whatIf.isChanged() && m_figures.source != ChanceSource::None && isBetter(m_figures.samples)) {
+        best = {{}, m_figures.samples};
+        for (const PlayerChances& player : m_figures.chances.players)
+            best.shares.push_back(player.all.share);
+    }
+    const std::vector<RoadPoint>& road = m_roads.at(static_cast<std::size_t>(m_kind));
+    if (!road.empty() && isBetter(road.back().samples)) {
+        best = {{}, road.back().samples};
+        for (const FirstChances& player : road.back().chances)
+            best.shares.push_back(player.share);
+    }
+}
 
 RoadPicture OutlookScreen::roadPicture() const
 {

@@ -24,6 +24,22 @@ std::string explanationOf(ChanceKind kind)
 
 std::string sentencesOf(std::span<const std::string> lines) { return joined(lines, ". ") + "."; }
 
+std::string basisInShort(const OutlookBasis& basis)
+{
+    if (basis.openGames == 0)
+        return sentencesOf(basisInWords(basis));
+    switch (basis.source) {
+    case ChanceSource::Forecast:
+        return fmt::format("Forecast from {} samples, seed {}; standard error at most {}.", basis.samples, basis.seed,
+                           errorInWords(basis.error));
+    case ChanceSource::Counted:
+        return fmt::format("{} outcomes left, every one counted.", std::uint64_t{1} << basis.openGames);
+    case ChanceSource::None:
+        break;
+    }
+    return "Nothing is counted yet: only what is proven is known.";
+}
+
 std::string workingWords(double fraction)
 {
     return fmt::format("Working: {} %.", static_cast<int>(std::floor(100 * fraction)));

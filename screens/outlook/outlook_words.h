@@ -3,6 +3,7 @@
 
 #include "pool/outlook/chances.h"
 #include "pool/outlook/prospects.h"
+#include "reports/outlook_words.h"
 #include "screens/outlook/game_swings.h"
 
 #include <cstdint>
@@ -16,6 +17,10 @@ std::string explanationOf(ChanceKind kind);
 
 /// @returns lines as sentences, one after the other
 std::string sentencesOf(std::span<const std::string> lines);
+
+/// @returns whether an outlook is counted or a forecast, in a sentence for the place beside the choice of chances, such
+///          as "32768 outcomes left, every one counted."
+std::string basisInShort(const OutlookBasis& basis);
 
 /// @param fraction 0..1
 std::string workingWords(double fraction);

@@ -91,6 +91,7 @@ void OutlookWork::findCertainties(const Step& step)
 {
     bool stopped = false;
     m_proven = findProspects(m_contest, [&] {
+        ++m_prospectSteps;
         stopped = stopped || !step();
         return !stopped;
     });
@@ -144,7 +145,14 @@ double OutlookWork::fractionOfStage() const
         return chances->fraction();
     if (const auto* places = std::get_if<PlaceCount>(&m_running))
         return places->fraction();
+    if (m_plan[m_stage] == Stage::Prospects && m_contest.players() > 0)
+        return static_cast<double>(m_prospectSteps) / static_cast<double>(2 * m_contest.players());
     return 0;
+}
+
+bool OutlookWork::hasFigures() const
+{
+    return m_forecast ? m_forecast->samples() >= kForecastSamples || isDone() : hasChances();
 }
 
 OutlookFigures OutlookWork::figures() const

@@ -53,6 +53,12 @@ public:
     /// Whether there are chances already, counted or estimated.
     bool hasChances() const { return m_chances || m_firsts || (m_forecast && m_forecast->samples() > 0); }
 
+    /// Whether there are chances that may be shown as a result: counted, or a forecast of kForecastSamples.
+    bool hasFigures() const;
+
+    /// How many parts of the work are finished.
+    std::size_t stagesDone() const { return m_stage; }
+
     /// What is known so far.
     OutlookFigures figures() const;
 
@@ -72,7 +78,8 @@ private:
     Contest m_contest;
     UpperChance m_upperChance;
     std::vector<Stage> m_plan;
-    std::size_t m_stage = 0; ///< in the plan
+    std::size_t m_stage = 0;         ///< in the plan
+    std::size_t m_prospectSteps = 0; ///< done of finding what is certain, two for each player
 
     std::variant<std::monostate, FirstCount, ChanceCount, PlaceCount> m_running;
     std::optional<Forecast> m_forecast;

@@ -1,6 +1,7 @@
 // tests/screens/outlook/outlook_screen_test.cpp - what is shown of the outlook, and what a person can suppose.
 #include "screens/outlook/outlook_screen.h"
 
+#include "fakes/fake_background.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "screens/outlook/final_pool.h"
@@ -10,6 +11,7 @@
 namespace tallyhoop::test {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -20,19 +22,29 @@ struct OutlookScreenTest : testing::Test {
     FakePlatform platform;
     FakeScreens screens;
     Pool pool = finalPool();
+    FakeBackground* background = nullptr;
     std::unique_ptr<OutlookScreen> screen;
+
+    void openBeforeAnyWork()
+    {
+        auto fake = std::make_unique<FakeBackground>();
+        background = fake.get();
+        screen = std::make_unique<OutlookScreen>(pool, platform.services, screens, std::move(fake));
+        screen->load();
+        screen->showState();
+    }
 
     void open()
     {
-        screen = std::make_unique<OutlookScreen>(pool, platform.services, screens);
-        screen->load();
+        openBeforeAnyWork();
         workItOut();
     }
 
+    /// Does as much as it takes to know all about one open game, and little of the road.
     void workItOut()
     {
-        while (screen->isWorking())
-            screen->advance();
+        for (int slice = 0; slice < 30; ++slice)
+            background->doSlice();
         screen->showState();
     }
 
@@ -71,17 +83,15 @@ TEST_F(OutlookScreenTest, ShowsWhoCanStillBeFirst)
     open();
     EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Ann", "X, Bob", "X, Cleo"));
     EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("50.0 %", "25.0 %", "25.0 %"));
-    EXPECT_EQ(screen->lblOutcomes.text, "Chances: all outcomes alike. Counted: all 2 outcomes of 1 open game.");
+    EXPECT_EQ(screen->lblOutcomes.text, "2 outcomes left, every one counted.");
     EXPECT_EQ(screen->lblWhatIf.text, "The results as entered");
     EXPECT_FALSE(screen->cmdAsEntered.enabled);
-    EXPECT_FALSE(screen->cmdStop.enabled);
+    EXPECT_TRUE(screen->cmdStop.enabled) << "there is still the road";
 }
 
 TEST_F(OutlookScreenTest, CountsFewGamesBeforeItIsSeen)
 {
-    screen = std::make_unique<OutlookScreen>(pool, platform.services, screens);
-    screen->load();
-    screen->showState();
+    openBeforeAnyWork();
     EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("50.0 %", "25.0 %", "25.0 %"));
 }
 
@@ -150,7 +160,7 @@ TEST_F(OutlookScreenTest, TakesOtherChances)
     screen->optChances[1].changed();
     workItOut();
     EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("75.0 %", "12.5 %", "12.5 %"));
-    EXPECT_THAT(screen->lblOutcomes.text, StartsWith("Chances: by seed, "));
+    EXPECT_EQ(screen->lblOutcomes.text, "2 outcomes left, every one counted.");
     EXPECT_THAT(screen->news().text, HasSubstr("b / (a + b)"));
 }
 
@@ -171,20 +181,83 @@ TEST_F(OutlookScreenTest, SortsByAHeadingAndTurnsTheOrderRound)
 TEST_F(OutlookScreenTest, StopsWhenItIsAskedTo)
 {
     pool.results->picks = startingField();
-    screen = std::make_unique<OutlookScreen>(pool, platform.services, screens);
+    openBeforeAnyWork();
+    EXPECT_EQ(screen->lblOutcomes.text, "Working: 0 %.");
+    background->doSlice(); // what is certain
+    screen->showState();
+    background->doSlice();
+    screen->showState();
+    EXPECT_THAT(screen->lblOutcomes.text, StartsWith("Forecast from 500 samples, seed 2000; standard error at most "));
+    EXPECT_TRUE(screen->cmdStop.enabled);
+    screen->cmdStop.click();
+    screen->showState();
+    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("Stopped. Forecast from 500 samples"));
+    EXPECT_FALSE(screen->cmdStop.enabled);
+    EXPECT_EQ(screen->news().text, "Stopped: what is known by now stays.");
+    EXPECT_FALSE(background->doSlice()) << "the one that was running";
+    screen->showState();
+    EXPECT_FALSE(screen->isWorking());
+    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("Stopped. Forecast from 1000 samples"));
+    EXPECT_THAT(column(OutlookColumn::Share), Each(HasSubstr("%")));
+}
+
+TEST_F(OutlookScreenTest, GoesOnAfterAStopWhenSomethingIsSupposed)
+{
+    pool.results->picks = startingField();
+    openBeforeAnyWork();
+    screen->cmdStop.click();
+    background->doSlice();
+    screen->showState();
+    screen->pressPosition(Position{0});
+    screen->showState();
+    EXPECT_TRUE(screen->cmdStop.enabled);
+    EXPECT_EQ(screen->lblOutcomes.text, "Working: 0 %.");
+    EXPECT_TRUE(background->doSlice());
+}
+
+TEST_F(OutlookScreenTest, SaysThatItHasStoppedWhereNothingWorks)
+{
+    pool.results->picks = startingField();
+    auto fake = std::make_unique<FakeBackground>();
+    fake->isThere = false;
+    screen = std::make_unique<OutlookScreen>(pool, platform.services, screens, std::move(fake));
     screen->load();
     screen->showState();
-    EXPECT_EQ(screen->lblOutcomes.text, "Chances: all outcomes alike. Working: 0 %.");
-    screen->advance();
-    screen->advance();
-    screen->showState();
-    EXPECT_THAT(screen->lblOutcomes.text,
-                StartsWith("Chances: all outcomes alike. Forecast: 500 samples of 63 open games, seed 2000. Standard "
-                           "error of the share: at most "));
-    screen->cmdStop.click();
-    EXPECT_FALSE(screen->isWorking());
+    EXPECT_EQ(screen->lblOutcomes.text, "Stopped. Nothing is counted yet: only what is proven is known.");
     EXPECT_FALSE(screen->cmdStop.enabled);
-    EXPECT_THAT(screen->lblOutcomes.text, StartsWith("Stopped. Chances: all outcomes alike. Forecast: 500 samples"));
+}
+
+TEST_F(OutlookScreenTest, ComparesWithTheResultsAsEnteredByChancesThatAreChosenLater)
+{
+    open();
+    suppose(kSemifinalB);
+    selectOption(screen->optChances, 1);
+    screen->optChances[1].changed();
+    workItOut();
+    // By seed 75 %, 12.5 % and 12.5 % as entered; 0 %, 50 % and 50 % with this champion.
+    EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Bob", "X, Cleo", "X, Ann"));
+    EXPECT_THAT(column(OutlookColumn::Change), ElementsAre("+37.5", "+37.5", "-75.0"));
+}
+
+TEST_F(OutlookScreenTest, ShowsAsMuchOfTheRoadAsIsKnown)
+{
+    openBeforeAnyWork();
+    EXPECT_THAT(screen->roadPicture().points, IsEmpty());
+    workItOut();
+    RoadPicture road = screen->roadPicture();
+    ASSERT_THAT(road.points, SizeIs(testing::Ge(2u)));
+    EXPECT_DOUBLE_EQ(road.points.back().chances.at(0).share, 0.5);
+    EXPECT_TRUE(road.points.back().isNow);
+    EXPECT_EQ(road.points[road.points.size() - 2].round, 4);
+    selectOption(screen->optChances, 1);
+    screen->optChances[1].changed();
+    screen->showState();
+    EXPECT_THAT(screen->roadPicture().points, IsEmpty()) << "by other chances";
+    EXPECT_THAT(screen->roadPicture().chances, StartsWith("by seed, "));
+    selectOption(screen->optChances, 0);
+    screen->optChances[0].changed();
+    screen->showState();
+    EXPECT_THAT(screen->roadPicture().points, SizeIs(road.points.size())) << "it is not lost";
 }
 
 TEST_F(OutlookScreenTest, CopiesTheTableWithTheKindOfItsChances)
@@ -221,7 +294,7 @@ TEST_F(OutlookScreenTest, IsPlayedWithByKeysAlone)
 TEST_F(OutlookScreenTest, SaysThatThereIsNoOutlookWithoutPayoffs)
 {
     pool.field.payoffs = PayoffTexts{{"99999", "", "", "", "", ""}};
-    open();
+    openBeforeAnyWork();
     EXPECT_THAT(screen->grdPlayers.rows, IsEmpty());
     EXPECT_EQ(screen->grdPlayers.emptyNote, pool.field.payoffs.points().failure().message);
     EXPECT_FALSE(screen->cmdCopy.enabled);
