@@ -135,9 +135,10 @@ ReadEntries readEntries(std::span<const FolderFile> files, const Bracket& like, 
     return read;
 }
 
-Pool readPool(const DataFolder& folder)
+ReadPool readPoolInSteps(const DataFolder& folder, const Step& step)
 {
-    Pool pool;
+    ReadPool read;
+    Pool& pool = read.pool;
     ReadField field = readField(folder);
     pool.field = std::move(field.value);
     if (field.trouble)
@@ -155,11 +156,17 @@ Pool readPool(const DataFolder& folder)
     const Read<std::vector<FolderFile>> selections = folder.list(file_name::kSelectionExtension);
     if (selections.trouble)
         pool.trouble.push_back(troubleOf(folder.folder(), *selections.trouble));
-    ReadEntries read = readEntries(selections.value, like);
-    pool.entries = std::move(read.entries);
-    for (const FileTrouble& trouble : read.troubles)
-        pool.trouble.push_back(troubleOf(trouble.file, trouble.failure));
-    return pool;
+    readSelections(selections.value, like, [&](const FolderFile& file, Read<Entry>& selection) {
+        if (selection.trouble) {
+            read.damagedEntries.push_back(pool.entries.size());
+            pool.trouble.push_back(troubleOf(file.path, *selection.trouble));
+        }
+        pool.entries.push_back(std::move(selection.value));
+        return step();
+    });
+    return read;
 }
+
+Pool readPool(const DataFolder& folder) { return readPoolInSteps(folder, goOn).pool; }
 
 } // namespace tallyhoop

@@ -43,7 +43,17 @@ void readSelections(std::span<const FolderFile> files, const Bracket& like, cons
 /// @returns what was read when the work was stopped
 ReadEntries readEntries(std::span<const FolderFile> files, const Bracket& like, const Step& step = goOn);
 
-/// Reads the field, the results and every selection of a folder.
+/// A pool, and which of its entries are not whole.
+struct ReadPool {
+    Pool pool;
+    std::vector<std::size_t> damagedEntries; ///< indices in pool.entries, ascending
+};
+
+/// Reads the field, the results and every selection of a folder, one step of work for each selection.
+/// @returns what was read when the work was stopped
+ReadPool readPoolInSteps(const DataFolder& folder, const Step& step);
+
+/// The same for those who wait.
 Pool readPool(const DataFolder& folder);
 
 } // namespace tallyhoop

@@ -240,6 +240,22 @@ TEST_F(PoolFiles, MakeAPoolThatSaysWhatCouldNotBeRead)
     EXPECT_THAT(pool.trouble[2].message, HasSubstr("/Clark_D.THC: "));
 }
 
+TEST_F(PoolFiles, NameTheEntriesThatAreNotWhole)
+{
+    scratch.put("Baker_C.THC", "");
+    scratch.put("Dunn_EF.THC", selectionFile(dunn) + "more\r\n");
+    const ReadPool read = readPoolInSteps(scratch.folder(), goOn);
+    EXPECT_THAT(read.damagedEntries, ElementsAre(1, 3));
+    EXPECT_EQ(read.pool.entries.at(3), dunn);
+}
+
+TEST_F(PoolFiles, AreReadStepByStepUntilSomebodyStops)
+{
+    int steps = 0;
+    const ReadPool read = readPoolInSteps(scratch.folder(), [&] { return ++steps < 2; });
+    EXPECT_THAT(read.pool.entries, ElementsAre(adams, baker));
+}
+
 TEST(PoolFilesOfAnEmptyFolder, MakeThePoolThatNobodyHasSetUpYet)
 {
     const test::ScratchFolder scratch;
