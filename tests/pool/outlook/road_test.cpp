@@ -204,5 +204,24 @@ TEST(Road, IsTheSameForTheSameSeed)
     }
 }
 
+TEST(Road, TakesOverWhatIsKnownOfNow)
+{
+    Road road{test::without(wonByTeam33(), 126, 126), leaderAndChaser(), kUsualPayoffs, alike};
+    RoadPoint now;
+    now.samples = 12;
+    now.chances = {{.alone = 0.75, .share = 0.75}, {.alone = 0.25, .share = 0.25}};
+    now.errors = {0.5, 0.5};
+    road.takeNow(now);
+    ASSERT_EQ(road.points().size(), 1u);
+    EXPECT_EQ(road.points()[0].round, 5) << "the semifinals are played";
+    EXPECT_TRUE(road.points()[0].isNow);
+    EXPECT_EQ(road.points()[0].samples, 12u);
+    EXPECT_EQ(road.points()[0].chances[0].share, 0.75);
+    while (road.points().size() < 2)
+        road.advance();
+    EXPECT_EQ(road.points()[0].round, 4) << "it goes on with the stage before";
+    EXPECT_EQ(road.points()[1].samples, 12u);
+}
+
 } // namespace
 } // namespace tallyhoop
