@@ -1,7 +1,6 @@
 // app/wiring.cpp - one case for each screen: where it is placed, how it is made, which view shows it.
 #include "app/wiring.h"
 
-#include "files/pool_files.h"
 #include "qt/views/board_view.h"
 #include "qt/views/email_view.h"
 #include "qt/views/outlook_view.h"
@@ -74,9 +73,9 @@ public:
             return shownBy<qt::EmailView>(
                 Placement::Modal, std::make_unique<EmailScreen>(m_folder, m_platform, m_host, m_shared.mailDraft));
         case ScreenKind::Outlook:
-            return shownBy<qt::OutlookView>(Placement::Stacked,
-                                            std::make_unique<OutlookScreen>(readPool(m_folder), m_platform, m_host,
-                                                                            std::make_unique<ui::BackgroundThread>()));
+            return shownBy<qt::OutlookView>(
+                Placement::Stacked, std::make_unique<OutlookScreen>(openPool(m_folder, m_platform, board()), m_platform,
+                                                                    m_host, std::make_unique<ui::BackgroundThread>()));
         }
         throw std::logic_error{"There is no screen of this kind."};
     }

@@ -20,6 +20,8 @@ namespace {
 constexpr const char* kWhatIf = "What if: nothing here is saved";
 constexpr const char* kAsEntered = "The results as entered";
 constexpr const char* kHowToSort = " To sort, click a heading, or press Ctrl+Enter in its column.";
+constexpr const char* kAsSaved = "The results as saved";
+constexpr const char* kUnsaved = "The outlook uses the saved results; those on the board are not saved";
 
 std::vector<Bracket> picksOf(const Pool& pool)
 {
@@ -33,13 +35,13 @@ WhatIf whatIfOf(const Pool& pool) { return WhatIf{completedResults(pool.results.
 
 } // namespace
 
-OutlookScreen::OutlookScreen(Pool pool, const ui::Platform& platform, Screens& screens,
+OutlookScreen::OutlookScreen(OpenedPool opened, const ui::Platform& platform, Screens& screens,
                              std::unique_ptr<ui::Background> background)
     : ui::Screen{"frmPoolOutlook", "Pool Outlook"},
       OutlookBoard{this},
       m_platform{platform},
       m_screens{screens},
-      m_pool{std::move(pool)},
+      m_opened{std::move(opened)},
       m_whatIf{whatIfOf(m_pool)},
       m_games{m_whatIf.entered()}
 {
@@ -167,7 +169,7 @@ void OutlookScreen::showState()
     showPlayer();
     showRoad();
     const bool isSupposed = m_whatIf.isChanged();
-    lblWhatIf.text = isSupposed ? kWhatIf : kAsEntered;
+    lblWhatIf.text = isSupposed ? kWhatIf : m_opened.unsavedResults ? kAsSaved : kAsEntered;
     lblWhatIf.colour = isSupposed ? std::optional{kSupposedText} : std::nullopt;
     lblWhatIf.background = isSupposed ? std::optional{kSupposedBackground} : std::nullopt;
     cmdAsEntered.enabled = isSupposed;
@@ -175,6 +177,9 @@ void OutlookScreen::showState()
     cmdStop.enabled = isWorking() && !m_stopped;
     cmdCopy.enabled = !grdPlayers.rows.empty();
     lblOutcomes.text = howFar();
+    if (const std::string unread = unreadWords(m_opened); !unread.empty())
+        lblOutcomes.text += " " + unread;
+    status = m_opened.unsavedResults ? kUnsaved : "";
     explanation = "Click a team on the board to suppose that it wins; choose a player to see whom to root for.";
     grdPlayers.explanation = grdPlayers.current
                                  ? explanationOf(static_cast<OutlookColumn>(grdPlayers.current->column)) + kHowToSort

@@ -5,6 +5,7 @@
 #include "screens/outlook/outlook_board.h"
 #include "screens/outlook/outlook_rows.h"
 #include "screens/outlook/outlook_worker.h"
+#include "screens/outlook/pool_opening.h"
 #include "screens/outlook/road_drawing.h"
 #include "screens/outlook/what_if.h"
 #include "screens/screens.h"
@@ -27,9 +28,9 @@ namespace tallyhoop {
 class OutlookScreen : public ui::Screen, public OutlookBoard
 {
 public:
-    /// @param pool       as it is in the files; what could not be read is shown when the screen is loaded
+    /// @param opened     what could not be read is shown when the screen is loaded
     /// @param background where the outlook is worked out
-    OutlookScreen(Pool pool, const ui::Platform& platform, Screens& screens,
+    OutlookScreen(OpenedPool opened, const ui::Platform& platform, Screens& screens,
                   std::unique_ptr<ui::Background> background);
 
     std::string helpTopic() const override;
@@ -100,7 +101,8 @@ private:
 
     const ui::Platform& m_platform;
     Screens& m_screens;
-    Pool m_pool;
+    OpenedPool m_opened;
+    const Pool& m_pool = m_opened.pool;
     WhatIf m_whatIf;
     ChanceKind m_kind = ChanceKind::Alike;
 

@@ -3,7 +3,6 @@
 
 #include "reports/outlook_words.h"
 #include "screens/outlook/outlook_words.h"
-#include "screens/saving.h"
 
 #include <utility>
 
@@ -11,8 +10,12 @@ namespace tallyhoop {
 
 void OutlookScreen::load()
 {
-    for (const Failure& failure : m_pool.trouble)
-        showTrouble(m_platform.dialogs, failure);
+    if (m_opened.isCancelled) {
+        m_screens.unload(ScreenKind::Outlook);
+        m_screens.load(ScreenKind::Board, "The outlook was cancelled: not every selection was read.");
+        return;
+    }
+    showUnread(m_platform.dialogs, m_opened);
     startWork();
 }
 

@@ -23,7 +23,8 @@ public:
         EXPECT_TRUE(m_files.empty()) << m_files.size() << " scripted file(s) were never asked for";
     }
 
-    /// The answer to the next question that leaves a choice. Messages with only OK need no script: they are recorded.
+    /// The answer to the next question that leaves a choice. Messages with only OK need no script: they are recorded. A
+    /// further button beside it is pressed when the script says so.
     FakeDialogs& answer(ui::Answer answer)
     {
         m_answers.push_back(answer);
@@ -62,7 +63,7 @@ public:
         shown.push_back(message);
         if (whileShown)
             whileShown(message);
-        if (message.buttons == ui::Buttons::Ok)
+        if (message.buttons == ui::Buttons::Ok && (message.moreButton.empty() || m_answers.empty()))
             return ui::Answer::Ok;
         if (m_answers.empty()) {
             ADD_FAILURE() << "unscripted question: " << message.caption << "\n" << message.text;

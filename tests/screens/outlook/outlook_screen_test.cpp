@@ -21,7 +21,8 @@ using testing::StartsWith;
 struct OutlookScreenTest : testing::Test {
     FakePlatform platform;
     FakeScreens screens;
-    Pool pool = finalPool();
+    OpenedPool opened{.pool = finalPool()};
+    Pool& pool = opened.pool;
     FakeBackground* background = nullptr;
     std::unique_ptr<OutlookScreen> screen;
 
@@ -29,7 +30,7 @@ struct OutlookScreenTest : testing::Test {
     {
         auto fake = std::make_unique<FakeBackground>();
         background = fake.get();
-        screen = std::make_unique<OutlookScreen>(pool, platform.services, screens, std::move(fake));
+        screen = std::make_unique<OutlookScreen>(opened, platform.services, screens, std::move(fake));
         screen->load();
         screen->showState();
     }
@@ -220,7 +221,7 @@ TEST_F(OutlookScreenTest, SaysThatItHasStoppedWhereNothingWorks)
     pool.results->picks = startingField();
     auto fake = std::make_unique<FakeBackground>();
     fake->isThere = false;
-    screen = std::make_unique<OutlookScreen>(pool, platform.services, screens, std::move(fake));
+    screen = std::make_unique<OutlookScreen>(opened, platform.services, screens, std::move(fake));
     screen->load();
     screen->showState();
     EXPECT_EQ(screen->lblOutcomes.text, "Stopped. Nothing is counted yet: only what is proven is known.");
@@ -301,12 +302,39 @@ TEST_F(OutlookScreenTest, SaysThatThereIsNoOutlookWithoutPayoffs)
     EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("no outlook"));
 }
 
-TEST_F(OutlookScreenTest, ShowsWhatCouldNotBeRead)
+TEST_F(OutlookScreenTest, SaysHowManyPlayersAreMissing)
 {
     pool.trouble.push_back(Failure{"Smith_JS.THC cannot be read"});
+    opened.missing = 1;
     open();
     ASSERT_THAT(platform.dialogs.shown, SizeIs(1));
     EXPECT_THAT(platform.dialogs.shown[0].text, HasSubstr("Smith_JS.THC"));
+    EXPECT_EQ(screen->lblOutcomes.text, "All outcomes alike. 2 outcomes left, every one counted. "
+                                        "1 player is missing: the selection cannot be read.");
+    EXPECT_EQ(screen->status, screen->lblOutcomes.text);
+}
+
+TEST_F(OutlookScreenTest, SaysThatItUsesTheSavedResultsWhileTheBoardHoldsOthers)
+{
+    opened.unsavedResults = true;
+    open();
+    EXPECT_EQ(screen->lblWhatIf.text, "The results as saved");
+    EXPECT_EQ(screen->status, "The outlook uses the saved results; those on the board are not saved");
+    suppose(kSemifinalB);
+    EXPECT_EQ(screen->lblWhatIf.text, "What if: nothing here is saved");
+    EXPECT_THAT(screen->status, HasSubstr("the saved results"));
+}
+
+TEST_F(OutlookScreenTest, IsLeftAgainWhenThePersonCancelsTheReading)
+{
+    opened.isCancelled = true;
+    pool.trouble.push_back(Failure{"Smith_JS.THC cannot be read"});
+    openBeforeAnyWork();
+    EXPECT_THAT(screens.unloads, ElementsAre(ScreenKind::Outlook));
+    EXPECT_THAT(screens.loads, ElementsAre(ScreenKind::Board));
+    EXPECT_THAT(screens.news, ElementsAre("The outlook was cancelled: not every selection was read."));
+    EXPECT_THAT(platform.dialogs.shown, IsEmpty());
+    EXPECT_EQ(background->begun, 0);
 }
 
 TEST_F(OutlookScreenTest, NamesTheTimesAndThePlayersOfTheRoad)
