@@ -55,7 +55,8 @@ OutlookScreen::OutlookScreen(OpenedPool opened, const ui::Platform& platform, Sc
     }
     selectOption(optChances, 0);
     cmdAsEntered.explanation = "Puts the real results back.";
-    cmdHigherSeeds.explanation = "Supposes that the better seed wins every open game of the regions.";
+    cmdHigherSeeds.explanation =
+        "Supposes that the better seed wins every open game; of equal seeds, the team listed later.";
     cmdUndo.explanation = "Takes back what was supposed last.";
     cmdShowWay.explanation = "Supposes one way for the games to end in which the chosen player is first.";
     cmdStop.explanation = "Stops counting; what is known by then stays.";

@@ -2,6 +2,7 @@
 #include "screens/outlook/what_if.h"
 
 #include "pool/moves.h"
+#include "pool/outlook/open_games.h"
 
 #include <optional>
 #include <utility>
@@ -38,14 +39,13 @@ bool WhatIf::asEntered() { return change(m_entered); }
 
 bool WhatIf::fillWithHigherSeeds(const ByTeamRow<std::int16_t>& seeds)
 {
-    Bracket filled = m_supposed;
-    for (int region = 0; region < kRegions; ++region) {
-        for (const Position winner : gamesOfRegion(region)) {
-            if (!filled.isEmpty(winner))
-                continue;
-            const auto [upper, lower] = *feeders(winner);
-            filled.copy(seedAt(filled, upper, seeds) >= seedAt(filled, lower, seeds) ? lower : upper, winner);
-        }
+    // A game whose winner has won a later one has nothing to choose.
+    Bracket filled = OpenGames{m_supposed}.known();
+    for (const Position game : gamePositions()) {
+        if (!filled.isEmpty(game))
+            continue;
+        const auto [upper, lower] = *feeders(game);
+        filled.copy(seedAt(filled, upper, seeds) >= seedAt(filled, lower, seeds) ? lower : upper, game);
     }
     return change(std::move(filled));
 }

@@ -34,8 +34,8 @@ public:
     /// Supposes a whole bracket, such as one way in which somebody is first.
     bool suppose(Bracket bracket) { return change(std::move(bracket)); }
 
-    /// Lets the better-seeded team win every game inside the regions that nobody has won; equal seeds let the lower of
-    /// the two rows win. The last three games stay.
+    /// Lets the better-seeded team win every open game; of equal seeds wins the team on the later row of the field, as
+    /// with withHighSeeds(). A game that is missing before one that is entered goes to the team that won the later one.
     bool fillWithHigherSeeds(const ByTeamRow<std::int16_t>& seeds);
 
     bool undo();

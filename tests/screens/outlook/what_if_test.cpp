@@ -1,6 +1,7 @@
 // tests/screens/outlook/what_if_test.cpp - supposing winners, taking them back, undo.
 #include "screens/outlook/what_if.h"
 
+#include "pool/outlook/open_games.h"
 #include "screens/outlook/final_pool.h"
 
 #include <gtest/gtest.h>
@@ -71,7 +72,7 @@ TEST(WhatIfTest, GoesBackStepByStepAndToTheResultsAsEntered)
 
 TEST(WhatIfTest, FillsOnlyWhatNobodyHasWonWithHigherSeeds)
 {
-    // Team 2 (seeded 2, second row) has beaten Team 1; everything else of region 1 is open.
+    // Team 2 (seeded 2, second row) has beaten Team 1; everything else is open.
     Bracket results = startingField();
     results = advanced(results, Position{1});
     WhatIf whatIf{results};
@@ -79,9 +80,34 @@ TEST(WhatIfTest, FillsOnlyWhatNobodyHasWonWithHigherSeeds)
     EXPECT_EQ(whatIf.supposed().at(Position{16}), "Team 2");
     EXPECT_EQ(whatIf.supposed().at(Position{17}), "Team 3") << "seeded 3, against 4";
     EXPECT_EQ(whatIf.supposed().at(regionWinner(0)), "Team 2");
-    EXPECT_EQ(whatIf.supposed().at(regionWinner(3)), "Team 49");
-    EXPECT_TRUE(whatIf.supposed().isEmpty(kSemifinalA));
+    EXPECT_EQ(whatIf.supposed().at(regionWinner(1)), "Team 17");
+    EXPECT_EQ(whatIf.supposed().at(kSemifinalA), "Team 17") << "seeded 1, against 2";
+    EXPECT_TRUE(OpenGames{whatIf.supposed()}.games().empty());
     EXPECT_FALSE(whatIf.fillWithHigherSeeds(kSeeds));
+}
+
+TEST(WhatIfTest, LetsTheLaterOfTwoEqualSeedsWin)
+{
+    WhatIf whatIf{startingField()};
+    EXPECT_TRUE(whatIf.fillWithHigherSeeds(kSeeds));
+    // The teams seeded 1 win the regions: 1, 17, 33 and 49.
+    EXPECT_EQ(whatIf.supposed().at(kSemifinalA), "Team 17");
+    EXPECT_EQ(whatIf.supposed().at(kSemifinalB), "Team 49");
+    EXPECT_EQ(whatIf.supposed().at(kChampion), "Team 49");
+}
+
+TEST(WhatIfTest, FillsInTheWayOfATeamThatWonALaterGame)
+{
+    // Team 2 has won region 1 and its semi-final; none of its games before is entered.
+    Bracket results = startingField();
+    results.put(regionWinner(0), "Team 2");
+    results.put(kSemifinalA, "Team 2");
+    WhatIf whatIf{results};
+    EXPECT_TRUE(whatIf.fillWithHigherSeeds(kSeeds));
+    for (const int place : {16, 24, 28, 30, 124})
+        EXPECT_EQ(whatIf.supposed().at(Position{place}), "Team 2") << place;
+    EXPECT_EQ(whatIf.supposed().at(Position{29}), "Team 9") << "of the rows seeded 9 to 16";
+    EXPECT_EQ(whatIf.supposed().at(kChampion), "Team 49");
 }
 
 } // namespace
