@@ -6,6 +6,7 @@ add_library(tallyhoop_sample_brackets STATIC
     pool/naive_scorer.cpp
     pool/outlook/brute_force.cpp
     pool/outlook/invented_pools.cpp
+    pool/outlook/odd_pools.cpp
     pool/outlook/summed_chances.cpp
     pool/sample_brackets.cpp)
 target_include_directories(tallyhoop_sample_brackets PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})

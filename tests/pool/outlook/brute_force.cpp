@@ -4,6 +4,7 @@
 #include "pool/scoring.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace tallyhoop::test {
 
@@ -28,6 +29,19 @@ void addOutcome(OutcomeNumber outcome, const std::vector<std::int32_t>& points, 
     }
 }
 
+/// @returns the same picks, with the numbers of the results where all of their names have one: scored faster
+std::vector<Bracket> numberedAs(const Bracket& results, const std::vector<Bracket>& picks)
+{
+    std::vector<Bracket> numbered;
+    for (const Bracket& bracket : picks) {
+        ByPosition<std::string_view> teams;
+        for (const Position position : allPositions())
+            teams[position] = bracket.at(position);
+        numbered.push_back(Bracket::of(teams, results));
+    }
+    return numbered;
+}
+
 } // namespace
 
 Counted countByScoring(const OpenGames& games, const std::vector<Bracket>& picks, const Payoffs& payoffs)
@@ -42,11 +56,12 @@ Counted countByScoring(const OpenGames& games, const std::vector<Bracket>& picks
         player.outcomes.resize(picks.size());
     if (picks.empty())
         return counted;
+    const std::vector<Bracket> numbered = numberedAs(games.known(), picks);
     std::vector<std::int32_t> points(picks.size());
     for (OutcomeNumber outcome = 0; outcome < games.outcomes(); ++outcome) {
         const Bracket results = games.outcome(outcome);
         for (std::size_t player = 0; player < picks.size(); ++player)
-            points[player] = score(picks[player], results, payoffs).points;
+            points[player] = score(numbered[player], results, payoffs).points;
         addOutcome(outcome, points, counted);
     }
     return counted;

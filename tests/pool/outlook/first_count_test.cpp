@@ -2,7 +2,7 @@
 #include "pool/outlook/first_count.h"
 
 #include "pool/outlook/brute_force.h"
-#include "pool/outlook/invented_pools.h"
+#include "pool/outlook/odd_pools.h"
 #include "pool/scoring.h"
 
 #include <algorithm>
@@ -99,18 +99,7 @@ TEST(FirstCount, AddsUpToTheNumberOfOutcomes)
     for (const std::size_t open : {13, 18, 20}) {
         const FirstOutlook outlook =
             countFirsts({pools.withOpen(pools.picked(), open), pools.office(40), test::kUsualPayoffs});
-        std::uint64_t sum = 0;
-        for (std::size_t together = 1; together <= 40; ++together) {
-            std::uint64_t first = 0;
-            for (const PlayerFirsts& player : outlook.players)
-                if (together == 1)
-                    first += player.all.alone;
-                else if (player.all.shared.size() > together - 2)
-                    first += player.all.shared[together - 2];
-            ASSERT_EQ(first % together, 0u) << together;
-            sum += first / together;
-        }
-        EXPECT_EQ(sum, std::uint64_t{1} << open);
+        EXPECT_EQ(test::sumOfShares(outlook), std::uint64_t{1} << open);
     }
 }
 

@@ -9,35 +9,35 @@
 namespace tallyhoop {
 namespace {
 
-using Points = std::int16_t;
-constexpr std::size_t kVector = Lanes<Points>::kCount;
-
 /// Some runners with random points, so few different ones that there are many ties.
+template <class Points, class Number>
 struct RandomHeat {
+    using Weight = LaneWeight<Points, Number>;
+    static constexpr std::size_t kVector = Lanes<Points>::kCount;
     static constexpr std::size_t kLanes = 4 * kVector;
     static constexpr std::size_t kUsed = kLanes - 5;
 
     std::vector<std::vector<Points>> points;
-    std::vector<std::vector<std::uint16_t>> alone;
+    std::vector<std::vector<Weight>> alone;
     std::vector<Points> inUse = std::vector<Points>(kLanes);
-    std::vector<std::uint16_t> weights = std::vector<std::uint16_t>(kLanes);
-    Heat<Points, std::uint64_t> heat;
+    std::vector<Weight> weights = std::vector<Weight>(kLanes);
+    Heat<Points, Number> heat;
 
     RandomHeat(std::mt19937& random, std::size_t runners)
-        : points(runners, std::vector<Points>(kLanes)), alone(runners, std::vector<std::uint16_t>(kLanes))
+        : points(runners, std::vector<Points>(kLanes)), alone(runners, std::vector<Weight>(kLanes))
     {
         std::fill_n(inUse.begin(), kUsed, Points{-1});
-        for (std::uint16_t& weight : weights)
-            weight = static_cast<std::uint16_t>(random() % 100);
+        for (Weight& weight : weights)
+            weight = static_cast<Weight>(random() % 100);
         heat.lanes = kLanes;
         heat.inUse = inUse.data();
         heat.weights = weights.data();
-        heat.before = static_cast<std::uint16_t>(random() % 9 + 1);
+        heat.before = static_cast<Weight>(random() % 9 + 1);
         for (std::size_t i = 0; i < runners; ++i) {
             for (Points& each : points[i])
                 each = static_cast<Points>(static_cast<int>(random() % 7) - 3);
             heat.runners.push_back({points[i].data(), static_cast<Points>(static_cast<int>(random() % 3) - 1),
-                                    static_cast<Points>(random() % 4 == 0 ? 2 : 1), alone[i].data(), 0});
+                                    static_cast<Points>(random() % 4 == 0 ? 2 : 1), alone[i].data(), Number{}});
         }
     }
 
@@ -70,35 +70,51 @@ struct RandomHeat {
     }
 };
 
-class LanesOnEveryProcessor : public testing::TestWithParam<void (*)(Heat<Points, std::uint64_t>&)>
+template <class Points, class Number>
+void expectCounted(void (*countThem)(Heat<Points, Number>&))
 {
-};
-
-TEST_P(LanesOnEveryProcessor, CountThoseWhoAreAloneAndListTheTies)
-{
+    using Test = RandomHeat<Points, Number>;
     std::mt19937 random{16};
-    for (int round = 0; round < 200; ++round) {
-        RandomHeat test{random, 1 + random() % 6};
-        GetParam()(test.heat);
+    for (int round = 0; round < 100; ++round) {
+        Test test{random, 1 + random() % 6};
+        countThem(test.heat);
         for (std::size_t runner = 0; runner < test.points.size(); ++runner) {
-            std::uint64_t sum = 0;
-            for (std::size_t lane = 0; lane < RandomHeat::kLanes; ++lane) {
-                const std::size_t together = lane < RandomHeat::kUsed ? test.together(runner, lane) : 0;
+            Number sum{};
+            for (std::size_t lane = 0; lane < Test::kLanes; ++lane) {
+                const std::size_t together = lane < Test::kUsed ? test.together(runner, lane) : 0;
                 ASSERT_EQ(test.alone[runner][lane], together == 1 ? test.heat.before : 0);
                 ASSERT_EQ(test.listed(runner, lane), together > 1 ? together : 0);
-                sum += together == 1 ? test.weights[lane] : 0U;
+                sum += together == 1 ? static_cast<Number>(test.weights[lane]) : Number{};
             }
             ASSERT_EQ(test.heat.runners[runner].sum, sum);
         }
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, LanesOnEveryProcessor,
-                         testing::Values(&countLanes<Points, std::uint64_t>,
-                                         &countLanesAnywhere<Points, std::uint64_t>));
+/// All weights are small whole numbers, so that also chances are added up without rounding.
+template <class Points, class Number>
+void expectCountedOnEveryProcessor()
+{
+    ASSERT_NO_FATAL_FAILURE(expectCounted(&countLanes<Points, Number>));
+    ASSERT_NO_FATAL_FAILURE(expectCounted(&countLanesAnywhere<Points, Number>));
+}
+
+TEST(LanesOnEveryProcessor, CountThoseWhoAreAloneAndListTheTies)
+{
+    expectCountedOnEveryProcessor<std::int16_t, std::uint64_t>();
+    expectCountedOnEveryProcessor<std::int32_t, std::uint64_t>();
+}
+
+TEST(LanesOnEveryProcessor, AddUpChancesAsWell)
+{
+    expectCountedOnEveryProcessor<std::int16_t, double>();
+    expectCountedOnEveryProcessor<std::int32_t, double>();
+}
 
 TEST(KeepAlive, DropsThoseWhoCannotReachSomebodyAnyMore)
 {
+    using Points = std::int16_t;
+    constexpr std::size_t kVector = Lanes<Points>::kCount;
     // Given: the second is 3 behind the first and can gain 3; the third is 4 behind the first and can gain 3.
     std::vector<Points> limits(3 * kVector, 3);
     std::vector<Points> points(kVector, -100);

@@ -36,7 +36,9 @@ TEST(Prospects, AreOutWhenTheSamePickBringsTheLeaderAsMuch)
     const Score leader = score(picks[0], finalOpen(), test::kUsualPayoffs);
     const Score behind = score(picks[1], finalOpen(), test::kUsualPayoffs);
     ASSERT_GT(behind.points + behind.possible, leader.points);
-    const auto prospects = findProspects({finalOpen(), picks, test::kUsualPayoffs});
+    const Contest contest{finalOpen(), picks, test::kUsualPayoffs};
+    EXPECT_EQ(countFirsts(contest).players[1].all, FirstPlaces{});
+    const auto prospects = findProspects(contest);
     EXPECT_EQ(prospects[1].prospect, Prospect::Out);
     EXPECT_EQ(prospects[1].rival, 0u);
     EXPECT_EQ(prospects[0].prospect, Prospect::Clinched);
@@ -48,7 +50,11 @@ TEST(Prospects, AreAliveThoughAnothersHighestScoreIsHigher)
     // Given: one is 3 points behind and hopes for Team 33, the leader for Team 1: at most 3 less than the leader's
     // most.
     const std::vector<Bracket> picks{pick(0, "Team 1"), pick(3, "Team 33")};
+    const Score leader = score(picks[0], finalOpen(), test::kUsualPayoffs);
+    const Score behind = score(picks[1], finalOpen(), test::kUsualPayoffs);
+    ASSERT_LT(behind.points + behind.possible, leader.points + leader.possible);
     const Contest contest{finalOpen(), picks, test::kUsualPayoffs};
+    EXPECT_EQ(countFirsts(contest).players[1].all, (FirstPlaces{1, {}}));
     const auto prospects = findProspects(contest);
     EXPECT_EQ(prospects[1].prospect, Prospect::Alive);
     EXPECT_EQ(prospects[0].prospect, Prospect::Alive);
