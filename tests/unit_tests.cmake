@@ -7,6 +7,7 @@ add_library(tallyhoop_sample_brackets STATIC
     pool/outlook/brute_force.cpp
     pool/outlook/invented_pools.cpp
     pool/outlook/odd_pools.cpp
+    pool/outlook/results_2000.cpp
     pool/outlook/summed_chances.cpp
     pool/sample_brackets.cpp)
 target_include_directories(tallyhoop_sample_brackets PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})

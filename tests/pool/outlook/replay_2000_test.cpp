@@ -1,50 +1,39 @@
-// tests/pool/outlook/replay_2000_test.cpp - the tournament of 2000, game by game: what is once certain stays so.
+// tests/pool/outlook/replay_2000_test.cpp - the tournament of 2000, game by game: what is once certain stays so, and
+// the chances move as they were foretold to.
 #include "pool/outlook/first_count.h"
-#include "pool/outlook/invented_pools.h"
+#include "pool/outlook/forecast.h"
 #include "pool/outlook/prospects.h"
-#include "pool/sample_brackets.h"
+#include "pool/outlook/results_2000.h"
 
 #include <algorithm>
-#include <array>
+#include <cmath>
 #include <gtest/gtest.h>
-#include <string>
+#include <optional>
 #include <vector>
 
 namespace tallyhoop {
 namespace {
 
-/// The winners in the order of their games, as numbers of the teams in the field: 17 is Michigan St., 37 Florida.
-constexpr std::array<int, kGames> kWinners{1,  3,  5,  7,  9,  11, 14, 15, 3,  7,  9,  14, 3,  9,  3,  // West
-                                           17, 19, 21, 23, 25, 27, 29, 31, 17, 23, 25, 31, 17, 31, 17, // Midwest
-                                           33, 35, 37, 39, 42, 43, 46, 47, 33, 37, 43, 46, 37, 43, 37, // East
-                                           49, 51, 53, 55, 57, 59, 61, 63, 51, 55, 57, 61, 51, 61, 51, // South
-                                           17, 37, 17};
-
-Bracket resultsOf2000()
-{
-    Bracket results = test::startingField();
-    for (const Position game : gamePositions())
-        results.put(game, "Team " + std::to_string(kWinners.at(static_cast<std::size_t>(index(*gameOf(game))))));
-    return results;
-}
-
-/// Holds what has been found so far against what is found now.
+/// Holds what is found against what was found before, and against how it ended.
 class Record
 {
 public:
-    explicit Record(std::size_t players) : m_last(players, Prospect::Open) {}
-
     void add(const std::vector<PlayerProspect>& prospects, std::size_t open)
     {
+        ASSERT_EQ(prospects.size(), m_places.size());
         for (std::size_t player = 0; player < prospects.size(); ++player) {
-            const Prospect now = prospects[player].prospect;
+            const PlayerProspect& now = prospects[player];
             Prospect& last = m_last[player];
-            ASSERT_FALSE(last == Prospect::Out && now != Prospect::Out && now != Prospect::Open)
+            ASSERT_TRUE(last != Prospect::Out || now.prospect == Prospect::Out)
                 << "player " << player << " is back with " << open << " open";
-            ASSERT_FALSE(last == Prospect::Clinched && now != Prospect::Clinched)
+            ASSERT_TRUE(last != Prospect::Clinched || now.prospect == Prospect::Clinched)
                 << "player " << player << " has lost with " << open << " open";
-            if (now != Prospect::Open)
-                last = now;
+            ASSERT_TRUE(now.prospect != Prospect::Out || m_places[player] > 1) << "player " << player << " has won";
+            ASSERT_TRUE(now.prospect != Prospect::Clinched || m_places[player] == 1)
+                << "player " << player << " has not won";
+            ASSERT_LE(now.best.least, m_places[player]) << "player " << player << " with " << open << " open";
+            ASSERT_GE(now.worst.most, m_places[player]) << "player " << player << " with " << open << " open";
+            last = now.prospect;
         }
     }
 
@@ -54,40 +43,145 @@ public:
     }
 
 private:
-    std::vector<Prospect> m_last;
+    std::vector<std::size_t> m_places = test::placesOf2000();
+    std::vector<Prospect> m_last = std::vector<Prospect>(m_places.size(), Prospect::Open);
 };
 
-TEST(ReplayOf2000, NeverTakesBackAVerdictAndEndsWithTheWinner)
+TEST(ReplayOf2000, NeverTakesBackWhatIsProvenWithoutCounting)
 {
-    test::InventedPools pools{2000};
-    const std::vector<Bracket> picks = pools.office(100);
-    Record record{picks.size()};
-    std::vector<FirstOutlook> counted;
-    for (const std::size_t open : {63, 47, 31, 23, 15, 12, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0}) {
-        const Contest contest{pools.withOpen(resultsOf2000(), open), picks, test::kUsualPayoffs};
-        ASSERT_EQ(contest.games().size(), open);
+    Record record;
+    for (std::size_t played = 0; played <= kGames; ++played) {
+        ASSERT_NO_FATAL_FAILURE(record.add(findProspects(test::contestOf2000(played)), kGames - played));
+        if (played == 48) {
+            EXPECT_GE(record.count(Prospect::Out), 10U) << "some are out long before the end";
+            EXPECT_GE(record.count(Prospect::Alive), 10U);
+        }
+    }
+}
+
+TEST(ReplayOf2000, NeverTakesBackWhatIsCounted)
+{
+    Record record;
+    for (std::size_t open = 13; open-- > 0;) {
+        const Contest contest = test::contestOf2000(kGames - open);
         std::vector<PlayerProspect> prospects = findProspects(contest);
+        addCount(prospects, countFirsts(contest));
+        addCount(prospects, countPlaces(contest));
         ASSERT_NO_FATAL_FAILURE(record.add(prospects, open));
-        if (open > 12)
-            continue;
-        counted.push_back(countFirsts(contest));
-        addCount(prospects, counted.back());
-        ASSERT_NO_FATAL_FAILURE(record.add(prospects, open));
-        ASSERT_EQ(std::ranges::count(prospects, Prospect::Open, &PlayerProspect::prospect), 0);
+        ASSERT_EQ(record.count(Prospect::Open), 0U);
     }
-    // At the end those with the most points have clinched, and had a chance all along.
-    const std::vector<PlayerFirsts>& ended = counted.back().players;
-    EXPECT_EQ(record.count(Prospect::Alive), 0u);
-    std::size_t winners = 0;
-    for (std::size_t player = 0; player < picks.size(); ++player) {
-        if (ended[player].all.outcomes() == 0)
-            continue;
-        ++winners;
-        for (const FirstOutlook& before : counted)
-            EXPECT_GT(before.players[player].all.outcomes(), 0u);
+    EXPECT_EQ(record.count(Prospect::Clinched), 1U);
+    EXPECT_EQ(record.count(Prospect::Out), test::picksOf2000().size() - 1);
+}
+
+/// The open game that is played next, and who wins it.
+struct NextGame {
+    std::size_t openGame = 0;
+    Side winner = Side::Upper;
+};
+
+NextGame nextGame(const Contest& contest, std::size_t played)
+{
+    const Position game = test::gamesOf2000()[played];
+    const std::vector<Position>& open = contest.games().games();
+    const Bracket results = test::resultsOf2000();
+    const bool isUpper = results.at(game) == results.at(feeders(game)->front());
+    return {static_cast<std::size_t>(std::ranges::lower_bound(open, game) - open.begin()),
+            isUpper ? Side::Upper : Side::Lower};
+}
+
+TEST(ReplayOf2000, CountsAfterEachGameWhatWasCountedBeforeIfItEndedSo)
+{
+    std::optional<FirstOutlook> foretold;
+    NextGame next;
+    for (std::size_t open = 16; open-- > 0;) {
+        const Contest contest = test::contestOf2000(kGames - open);
+        FirstOutlook counted = countFirsts(contest);
+        for (std::size_t player = 0; foretold && player < counted.players.size(); ++player)
+            ASSERT_EQ(counted.players[player].all, foretold->players[player].given(next.openGame, next.winner))
+                << "player " << player << " with " << open << " open";
+        foretold = std::move(counted);
+        if (open > 0)
+            next = nextGame(contest, kGames - open);
     }
-    EXPECT_EQ(record.count(Prospect::Clinched), winners);
-    EXPECT_GE(winners, 1u);
+}
+
+/// The share of first place of one player, as well as one knows it.
+struct Estimate {
+    double share = 0;
+    double error = 0; ///< standard error; 0 = exact
+};
+
+/// The forecasts of the tournament, with few samples each.
+class Forecasts
+{
+public:
+    /// @returns everybody's shares after so many games
+    std::vector<Estimate> after(std::size_t played)
+    {
+        const Contest contest = test::contestOf2000(played);
+        m_latest.emplace(contest, alikeChances());
+        m_latest->add(150);
+        if (played < kGames)
+            m_next = nextGame(contest, played);
+        const ChanceOutlook outlook = m_latest->outlook();
+        std::vector<Estimate> estimates;
+        for (std::size_t player = 0; player < contest.players(); ++player)
+            estimates.push_back({outlook.players[player].all.share, m_latest->standardError(player)});
+        return estimates;
+    }
+
+    /// @returns the shares after the game that follows, as foretold by what is known before it
+    std::vector<Estimate> foretold() const
+    {
+        const ChanceOutlook outlook = m_latest->outlook();
+        const double upperWins = outlook.upperWins[m_next.openGame];
+        const double wins = m_next.winner == Side::Upper ? upperWins : 1 - upperWins;
+        std::vector<Estimate> estimates;
+        for (std::size_t player = 0; player < outlook.players.size(); ++player) {
+            const double share = outlook.given(player, m_next.openGame, m_next.winner).share;
+            estimates.push_back({share, m_latest->standardErrorGiven(share, wins)});
+        }
+        return estimates;
+    }
+
+private:
+    std::optional<Forecast> m_latest;
+    NextGame m_next;
+};
+
+void expectAgreement(const std::vector<Estimate>& some, const std::vector<Estimate>& others)
+{
+    for (std::size_t player = 0; player < some.size(); ++player)
+        ASSERT_NEAR(some[player].share, others[player].share,
+                    5 * std::hypot(some[player].error, others[player].error) + 1e-9)
+            << "player " << player;
+}
+
+std::vector<Estimate> exactShares(const Contest& contest)
+{
+    std::vector<Estimate> shares;
+    for (const PlayerChances& player : countChances(contest, alikeChances()).players)
+        shares.push_back({player.all.share, 0});
+    return shares;
+}
+
+TEST(ReplayOf2000, MovesEverybodysChanceAsForetoldUntilOneIsCertain)
+{
+    Forecasts forecasts;
+    std::vector<Estimate> now = forecasts.after(0);
+    for (std::size_t played = 1; played <= kGames; ++played) {
+        const std::vector<Estimate> foretold = forecasts.foretold();
+        now = forecasts.after(played);
+        ASSERT_NO_FATAL_FAILURE(expectAgreement(now, foretold)) << "after " << played << " games";
+        if (kGames - played <= 15) {
+            ASSERT_NO_FATAL_FAILURE(expectAgreement(now, exactShares(test::contestOf2000(played))))
+                << "after " << played << " games";
+        }
+    }
+    const std::vector<std::size_t> places = test::placesOf2000();
+    for (std::size_t player = 0; player < places.size(); ++player)
+        EXPECT_NEAR(now[player].share, places[player] == 1 ? 1 : 0, 1e-9);
 }
 
 } // namespace
