@@ -51,8 +51,6 @@ peak = 0
 for count in games:
     for number in players:
         for kind in ("realistic", "random"):
-            if count == 31 and number == 1000 and kind == "random":
-                continue  # minutes
             [(seconds, processor, kib, longest, _)] = in_turns(1 if count > 24 else arguments.rounds,
                                                                ("count", number, count, kind))
             peak = max(peak, kib)
@@ -83,10 +81,19 @@ print(f"forecast of 200,000 samples: {'players':>7} {'open':>4}  {'pool':<9} {'p
 for number in players:
     for count in (games[:1] if is_small else (31, 63)):
         for kind in ("realistic", "random"):
-            if number == 1000 and count == 31:
-                continue  # the exact count takes minutes
             run = subprocess.run([measure.BUILD / "bench/tallyhoop_bench_forecast", str(number), str(count), kind],
                                  check=True, text=True, stdout=subprocess.PIPE)
             processor, ratio, off = map(float, run.stdout.split())
             print(f"{number:>36} {count:>4}  {kind:<9} {processor:9.3f} {200_000 / processor:17,.0f} {ratio:20.2f} "
                   f"{off * 100 if count <= 31 else float('nan'):17.3f} %", flush=True)
+
+counted, samples = (15, 100) if is_small else (31, 200_000)
+print(f"the tournament of 2000, game by game: the share of first place of the winner of a pool of 100 players, counted with "
+      f"up to {counted} open games, else forecast with {samples:,} samples")
+run = subprocess.run([measure.BUILD / "bench/tallyhoop_bench_replay", str(counted), str(samples)], check=True, text=True,
+                     stdout=subprocess.PIPE)
+print(f"{'round':>5} {'open':>4} {'share':>7} {'error':>6} {'alive':>5} {'out':>3} {'neither':>7} {'processor':>9}")
+for line in run.stdout.splitlines():
+    latest, count, share, error, alive, out, neither, processor = map(float, line.split())
+    print(f"{latest:>5.0f} {count:>4.0f} {share * 100:6.2f}% {error * 100:5.2f}% {alive:>5.0f} {out:>3.0f} {neither:>7.0f} "
+          f"{processor:9.3f} {'#' * round(share * 50)}")

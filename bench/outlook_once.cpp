@@ -1,6 +1,7 @@
 // bench/outlook_once.cpp - one count of an invented pool, for bench/outlook.py: prepares it, counts, tells time and
 // memory.
 #include "bench/half_split.h"
+#include "bench/peak_memory.h"
 #include "pool/outlook/brute_force.h"
 #include "pool/outlook/first_count.h"
 #include "pool/outlook/invented_pools.h"
@@ -13,7 +14,6 @@
 #include <ctime>
 #include <fmt/format.h>
 #include <string_view>
-#include <sys/resource.h>
 
 namespace tallyhoop {
 namespace {
@@ -73,10 +73,8 @@ int run(std::string_view way, std::size_t players, std::size_t open, bool isRand
                          : Firsts{0, aloneOf(test::countByScoring(contest.games(), picks, test::kUsualPayoffs).firsts)};
     const Clock end;
 
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
     fmt::print("{:.6f} {:.6f} {} {:.6f} {:.0f}\n", std::chrono::duration<double>(end.wall - begin.wall).count(),
-               static_cast<double>(end.processor - begin.processor) / CLOCKS_PER_SEC, usage.ru_maxrss,
+               static_cast<double>(end.processor - begin.processor) / CLOCKS_PER_SEC, bench::peakKilobytes(),
                firsts.longestSlice, firsts.alone);
     return 0;
 }

@@ -2,6 +2,7 @@
 // folder of the pool, the report's place in the table ("none" only opens the screen).
 //
 // Prints the seconds it took, those of the processor, the peak memory in KiB, and every message that was shown.
+#include "bench/peak_memory.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "files/setup_file.h"
@@ -11,25 +12,7 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
-#include <fstream>
-#include <optional>
 #include <string>
-
-namespace {
-
-using namespace tallyhoop;
-
-/// Of this process alone: what the system says of children may be the memory of the parent they were forked from.
-long peakKilobytes()
-{
-    std::ifstream status{"/proc/self/status"};
-    for (std::string line; std::getline(status, line);)
-        if (line.starts_with("VmHWM:"))
-            return std::stol(line.substr(6));
-    return 0;
-}
-
-} // namespace
 
 int main(int argc, char** argv)
 {
@@ -37,6 +20,7 @@ int main(int argc, char** argv)
         std::fputs("usage: tallyhoop_bench_report FOLDER REPORT\n", stderr);
         return 2;
     }
+    using namespace tallyhoop;
     const std::string_view wanted{argv[2]};
     std::size_t report = 0;
     const bool any = std::from_chars(wanted.begin(), wanted.end(), report).ec == std::errc{} && report < kReports;
@@ -58,7 +42,7 @@ int main(int argc, char** argv)
         reports.cmdPrintSelections.click();
     const std::chrono::duration<double> took = std::chrono::steady_clock::now() - begin;
     const double processor = static_cast<double>(std::clock() - processorBegin) / CLOCKS_PER_SEC;
-    std::printf("%.6f %.6f %ld\n", took.count(), processor, peakKilobytes());
+    std::printf("%.6f %.6f %ld\n", took.count(), processor, bench::peakKilobytes());
     for (const ui::Message& message : platform.dialogs.shown)
         std::printf("%s: %s\n", message.caption.c_str(), message.text.c_str());
     return 0;
