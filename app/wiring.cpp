@@ -74,8 +74,9 @@ public:
                 Placement::Modal, std::make_unique<EmailScreen>(m_folder, m_platform, m_host, m_shared.mailDraft));
         case ScreenKind::Outlook:
             return shownBy<qt::OutlookView>(
-                Placement::Stacked, std::make_unique<OutlookScreen>(openPool(m_folder, m_platform, board()), m_platform,
-                                                                    m_host, std::make_unique<ui::BackgroundThread>()));
+                Placement::Stacked,
+                std::make_unique<OutlookScreen>(m_folder, openPool(m_folder, m_platform, board()), m_platform, m_host,
+                                                std::make_unique<ui::BackgroundThread>()));
         }
         throw std::logic_error{"There is no screen of this kind."};
     }

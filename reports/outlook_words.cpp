@@ -153,7 +153,7 @@ std::string percentAsNumber(double percent)
 std::string errorInWords(double percent)
 {
     constexpr double kRounding = 1e-9; // of what is meant as a whole number of hundredths
-    return fmt::format("{:.2f}", std::ceil(percent * 100 - kRounding) / 100);
+    return fmt::format("{:.2f}", std::ceil(std::max(percent * 100 - kRounding, 0.0)) / 100);
 }
 
 std::string changeInWords(double percent)

@@ -125,13 +125,19 @@ QWidget* OutlookView::makePlayer()
     QLabel* const proof = add(m_outlook.lblProof);
     proof->setWordWrap(true);
     auto* const buttons = look::row();
-    for (ui::Command* command : {&m_outlook.cmdShowWay, &m_outlook.cmdStop, &m_outlook.cmdCopy})
+    for (ui::Command* command : {&m_outlook.cmdShowWay, &m_outlook.cmdStop})
         buttons->addWidget(add(*command));
     buttons->addStretch();
     buttons->addWidget(add(m_outlook.cmdExit));
     player->addWidget(name);
     player->addWidget(proof);
     player->addStretch();
+    auto* const output = look::row();
+    for (ui::Command* command : {&m_outlook.cmdSaveReport, &m_outlook.cmdSavePdf, &m_outlook.cmdPrint,
+                                 &m_outlook.cmdPreview, &m_outlook.cmdCopy})
+        output->addWidget(add(*command));
+    output->addStretch();
+    player->addLayout(output);
     player->addLayout(buttons);
     return part(player);
 }

@@ -1,14 +1,12 @@
 // screens/outlook/outlook_screen.cpp - supposing, working, choosing; everything shown is derived in showState().
 #include "screens/outlook/outlook_screen.h"
 
-#include "base/text.h"
 #include "pool/results.h"
 #include "reports/outlook_words.h"
 #include "screens/board/board_geometry.h"
 #include "screens/help_topics.h"
 #include "screens/outlook/outlook_words.h"
 #include "screens/saving.h"
-#include "screens/scores/score_printout.h"
 
 #include <algorithm>
 #include <utility>
@@ -35,15 +33,16 @@ WhatIf whatIfOf(const Pool& pool) { return WhatIf{completedResults(pool.results.
 
 } // namespace
 
-OutlookScreen::OutlookScreen(OpenedPool opened, const ui::Platform& platform, Screens& screens,
-                             std::unique_ptr<ui::Background> background)
+OutlookScreen::OutlookScreen(const DataFolder& folder, OpenedPool opened, const ui::Platform& platform,
+                             Screens& screens, std::unique_ptr<ui::Background> background)
     : ui::Screen{"frmPoolOutlook", "Pool Outlook"},
       OutlookBoard{this},
       m_platform{platform},
       m_screens{screens},
       m_opened{std::move(opened)},
       m_whatIf{whatIfOf(m_pool)},
-      m_games{m_whatIf.entered()}
+      m_games{m_whatIf.entered()},
+      m_output{folder, platform}
 {
     if (const Result<Payoffs>& payoffs = m_pool.field.payoffs.points())
         m_worker.emplace(m_whatIf.entered(), picksOf(m_pool), *payoffs, m_pool.field, std::move(background));
@@ -60,6 +59,10 @@ OutlookScreen::OutlookScreen(OpenedPool opened, const ui::Platform& platform, Sc
     cmdUndo.explanation = "Takes back what was supposed last.";
     cmdShowWay.explanation = "Supposes one way for the games to end in which the chosen player is first.";
     cmdStop.explanation = "Stops counting; what is known by then stays.";
+    cmdSaveReport.explanation = "Writes the table as it is shown to OUTLOOK.TXT in the program's folder.";
+    cmdSavePdf.explanation = "Saves the table, the road and the games that matter as a PDF file.";
+    cmdPrint.explanation = "Prints the table, the road and the games that matter.";
+    cmdPreview.explanation = "Shows the pages as they will be printed.";
     cmdCopy.explanation = "Puts the table on the clipboard, ready for a spreadsheet.";
     cmdExit.explanation = "Back to the board.";
     describeGrids();
@@ -116,13 +119,6 @@ void OutlookScreen::showWay()
     say("This is one way in which " + m_pool.entries.at(*m_chosen).name + " is first.");
 }
 
-void OutlookScreen::copy()
-{
-    m_platform.clipboard.put(lblOutcomes.text + std::string{kLineBreak} + tabSeparated(grdPlayers));
-    const std::size_t rows = grdPlayers.rows.size();
-    say("Copied " + std::to_string(rows) + (rows == 1 ? " row" : " rows") + ", to be pasted into a spreadsheet.");
-}
-
 bool OutlookScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
 {
     if (const std::optional<Position> position = positionOfLabel(control); position && pressedKey(*position, press))
@@ -176,7 +172,8 @@ void OutlookScreen::showState()
     cmdAsEntered.enabled = isSupposed;
     cmdUndo.enabled = m_whatIf.canUndo();
     cmdStop.enabled = isWorking() && !m_stopped;
-    cmdCopy.enabled = !grdPlayers.rows.empty();
+    for (ui::Command* const output : {&cmdSaveReport, &cmdSavePdf, &cmdPrint, &cmdPreview, &cmdCopy})
+        output->enabled = !grdPlayers.rows.empty();
     lblOutcomes.text = howFar();
     if (const std::string unread = unreadWords(m_opened); !unread.empty())
         lblOutcomes.text += " " + unread;

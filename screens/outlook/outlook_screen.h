@@ -3,6 +3,7 @@
 
 #include "pool/entry.h"
 #include "screens/outlook/outlook_board.h"
+#include "screens/outlook/outlook_output.h"
 #include "screens/outlook/outlook_rows.h"
 #include "screens/outlook/outlook_worker.h"
 #include "screens/outlook/pool_opening.h"
@@ -24,13 +25,14 @@
 
 namespace tallyhoop {
 
-/// Works with a copy of the pool: there is no way from here to a file.
+/// Works with a copy of the pool: there is no way from here to the files that it was read from.
 class OutlookScreen : public ui::Screen, public OutlookBoard
 {
 public:
+    /// @param folder     where the report is written
     /// @param opened     what could not be read is shown when the screen is loaded
     /// @param background where the outlook is worked out
-    OutlookScreen(OpenedPool opened, const ui::Platform& platform, Screens& screens,
+    OutlookScreen(const DataFolder& folder, OpenedPool opened, const ui::Platform& platform, Screens& screens,
                   std::unique_ptr<ui::Background> background);
 
     std::string helpTopic() const override;
@@ -56,7 +58,11 @@ public:
     ui::Label lblGames{this, "lblGames", "Games that matter"};
     ui::Grid grdGames{this, "grdGames"};
     ui::Command cmdStop{this, "cmdStop", "S&top", [this] { stop(); }};
-    ui::Command cmdCopy{this, "cmdCopy", "C&opy", [this] { copy(); }};
+    ui::Command cmdSaveReport{this, "cmdSaveReport", "Save &Report", [this] { bringOut(&OutlookOutput::saveReport); }};
+    ui::Command cmdSavePdf{this, "cmdSavePdf", "Save as P&DF", [this] { bringOut(&OutlookOutput::savePdf); }};
+    ui::Command cmdPrint{this, "cmdPrint", "Pri&nt", [this] { bringOut(&OutlookOutput::print); }};
+    ui::Command cmdPreview{this, "cmdPreview", "Pre&view", [this] { bringOut(&OutlookOutput::preview); }};
+    ui::Command cmdCopy{this, "cmdCopy", "C&opy", [this] { bringOut(&OutlookOutput::copy); }};
     ui::Command cmdExit{this, "cmdExit", "E&xit", [this] { closeRequested(); }};
 
     // What happens on the bracket.
@@ -83,8 +89,11 @@ private:
     void reachGame(std::size_t row);
     void pressGame(std::size_t row);
     void showWay();
-    void copy();
     bool pressedKey(Position position, const ui::KeyPress& press);
+
+    void bringOut(std::string (OutlookOutput::*way)(const OutlookSheet&) const);
+    OutlookSheet sheet() const;
+    std::vector<SheetGame> gamesOfSheet() const;
 
     void takeFigures();
     void keepAsEntered();
@@ -129,6 +138,7 @@ private:
     std::optional<std::size_t> m_headingPressed;
     std::vector<OpenGame> m_listed; ///< the games of the list, row by row
     RoadPicture m_road;             ///< as it is shown
+    OutlookOutput m_output;
 };
 
 } // namespace tallyhoop

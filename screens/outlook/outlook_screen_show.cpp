@@ -66,7 +66,8 @@ void OutlookScreen::orderTabs()
     for (const Position position : allPositions())
         lblRegion[position].tabIndex = place++;
     for (ui::Control* control :
-         std::initializer_list<ui::Control*>{&grdPlayers, &grdGames, &cmdShowWay, &cmdStop, &cmdCopy, &cmdExit})
+         std::initializer_list<ui::Control*>{&grdPlayers, &grdGames, &cmdSaveReport, &cmdSavePdf, &cmdPrint,
+                                             &cmdPreview, &cmdCopy, &cmdShowWay, &cmdStop, &cmdExit})
         control->tabIndex = place++;
     focused = &grdPlayers;
 }

@@ -3,6 +3,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "files/data_folder.h"
 
 #include <algorithm>
 
@@ -41,6 +42,14 @@ ui::TextPrintout textPrintout(const std::string& title, const ReportLines& lines
 {
     return {title, lines, setup.font, setup.orientation,
             originTwips(printer.pageWidthTwips(setup.orientation), longestLine(lines))};
+}
+
+std::string writtenSentence(std::span<const std::filesystem::path> files)
+{
+    std::vector<std::string> names;
+    for (const std::filesystem::path& file : files)
+        names.push_back(shown(file.filename()));
+    return "Written to the program's folder: " + joined(names, ", ") + ".";
 }
 
 ui::MailMessage reportMessage(const MailDraft& draft, std::span<const std::filesystem::path> files)

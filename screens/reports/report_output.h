@@ -31,6 +31,9 @@ int originTwips(int pageWidthTwips, std::size_t longestLine);
 ui::TextPrintout textPrintout(const std::string& title, const ReportLines& lines, const PrinterSetup& setup,
                               ui::Printer& printer);
 
+/// @returns "Written to the program's folder: RPTOPT1.TXT, RPTOPT3.TXT."
+std::string writtenSentence(std::span<const std::filesystem::path> files);
+
 /// Makes the message that carries report files: the draft's text, then ten blanks as places for the attachments.
 /// @param files at most seven, in order
 ui::MailMessage reportMessage(const MailDraft& draft, std::span<const std::filesystem::path> files);

@@ -39,15 +39,6 @@ void letThePersonChoose(ui::ControlArray<ui::OptionButton, N>& group, const std:
     }
 }
 
-/// @returns "Written to the program's folder: RPTOPT1.TXT, RPTOPT3.TXT."
-std::string whatWasWritten(std::span<const std::filesystem::path> files)
-{
-    std::vector<std::string> names;
-    for (const std::filesystem::path& file : files)
-        names.push_back(shown(file.filename()));
-    return "Written to the program's folder: " + joined(names, ", ") + ".";
-}
-
 /// Signs on unless a session is open; signs off after the message.
 Result<ui::HandedOver> sendReports(ui::Mail& mail, const MailDraft& draft, std::span<const std::filesystem::path> files)
 {
@@ -199,7 +190,7 @@ void ReportsScreen::createSelectedReports()
     if (!printed.empty())
         say(printedSentence(printed));
     if (!made.empty())
-        say(whatWasWritten(made));
+        say(writtenSentence(made));
     if (isWhole && !made.empty() && (destination == Destination::Email || toEverybody))
         mailReports(made, toEverybody);
 }

@@ -2,6 +2,7 @@
 #include "screens/scores/score_printout.h"
 
 #include "base/text.h"
+#include "screens/spreadsheet.h"
 
 #include <algorithm>
 #include <array>
@@ -93,18 +94,12 @@ std::vector<std::string> scorePrintout(const ui::Grid& grid, std::chrono::year_m
 
 std::string tabSeparated(const ui::Grid& grid)
 {
-    std::string text;
-    const auto addCell = [&text](std::size_t column, const std::string& cell) {
-        text += (column > 0 ? "\t" : "") + asOneLine(cell); // a cell cannot hold what separates cells and lines
-    };
-    for (std::size_t column = 0; column < grid.columns.size(); ++column)
-        addCell(column, grid.columns[column].heading);
-    text += kLineBreak;
-    for (const Row& row : grid.rows) {
-        for (std::size_t column = 0; column < row.size(); ++column)
-            addCell(column, row[column]);
-        text += kLineBreak;
-    }
+    std::vector<std::string> headings;
+    for (const ui::GridColumn& column : grid.columns)
+        headings.push_back(column.heading);
+    std::string text = tabSeparatedLine(headings);
+    for (const Row& row : grid.rows)
+        text += tabSeparatedLine(row);
     return text;
 }
 

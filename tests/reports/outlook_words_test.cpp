@@ -155,6 +155,7 @@ TEST(OutlookPercentAsNumber, HasTheDecimalsThatItTakes)
 
 TEST(OutlookErrorInWords, IsNeverLessThanItIs)
 {
+    EXPECT_EQ(errorInWords(0), "0.00");
     EXPECT_EQ(errorInWords(0.26), "0.26");
     EXPECT_EQ(errorInWords(0.261), "0.27");
     EXPECT_EQ(errorInWords(0.0001), "0.01") << "an error is never shown as none";

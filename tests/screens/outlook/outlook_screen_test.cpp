@@ -4,6 +4,7 @@
 #include "fakes/fake_background.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
+#include "fakes/scratch_folder.h"
 #include "screens/outlook/final_pool.h"
 
 #include <gmock/gmock.h>
@@ -19,6 +20,8 @@ using testing::SizeIs;
 using testing::StartsWith;
 
 struct OutlookScreenTest : testing::Test {
+    ScratchFolder scratch;
+    DataFolder folder = scratch.folder();
     FakePlatform platform;
     FakeScreens screens;
     OpenedPool opened{.pool = finalPool()};
@@ -30,7 +33,7 @@ struct OutlookScreenTest : testing::Test {
     {
         auto fake = std::make_unique<FakeBackground>();
         background = fake.get();
-        screen = std::make_unique<OutlookScreen>(opened, platform.services, screens, std::move(fake));
+        screen = std::make_unique<OutlookScreen>(folder, opened, platform.services, screens, std::move(fake));
         screen->load();
         screen->showState();
     }
@@ -221,7 +224,7 @@ TEST_F(OutlookScreenTest, SaysThatItHasStoppedWhereNothingWorks)
     pool.results->picks = startingField();
     auto fake = std::make_unique<FakeBackground>();
     fake->isThere = false;
-    screen = std::make_unique<OutlookScreen>(opened, platform.services, screens, std::move(fake));
+    screen = std::make_unique<OutlookScreen>(folder, opened, platform.services, screens, std::move(fake));
     screen->load();
     screen->showState();
     EXPECT_EQ(screen->lblOutcomes.text, "Stopped. Nothing is counted yet: only what is proven is known.");
@@ -261,16 +264,6 @@ TEST_F(OutlookScreenTest, ShowsAsMuchOfTheRoadAsIsKnown)
     EXPECT_THAT(screen->roadPicture().points, SizeIs(road.points.size())) << "it is not lost";
 }
 
-TEST_F(OutlookScreenTest, CopiesTheTableWithTheKindOfItsChances)
-{
-    open();
-    screen->cmdCopy.click();
-    EXPECT_THAT(platform.clipboard.text,
-                StartsWith("Chances: all outcomes alike. Counted: all 2 outcomes of 1 open game.\r\nNow\tPlayer\t"));
-    EXPECT_THAT(platform.clipboard.text, HasSubstr("1\tX, Ann\t152\t168\t50.0 %\t50.0 %\tAlive\t1\t3\t\r\n"));
-    EXPECT_EQ(screen->news().text, "Copied 3 rows, to be pasted into a spreadsheet.");
-}
-
 TEST_F(OutlookScreenTest, IsPlayedWithByKeysAlone)
 {
     open();
@@ -298,7 +291,9 @@ TEST_F(OutlookScreenTest, SaysThatThereIsNoOutlookWithoutPayoffs)
     openBeforeAnyWork();
     EXPECT_THAT(screen->grdPlayers.rows, IsEmpty());
     EXPECT_EQ(screen->grdPlayers.emptyNote, pool.field.payoffs.points().failure().message);
-    EXPECT_FALSE(screen->cmdCopy.enabled);
+    for (const ui::Command* const output :
+         {&screen->cmdSaveReport, &screen->cmdSavePdf, &screen->cmdPrint, &screen->cmdPreview, &screen->cmdCopy})
+        EXPECT_FALSE(output->enabled) << output->name;
     EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("no outlook"));
 }
 

@@ -1,0 +1,103 @@
+// screens/outlook/outlook_output.cpp - what each way out takes of the outlook, and what has become of it.
+#include "screens/outlook/outlook_output.h"
+
+#include "base/lines.h"
+#include "reports/outlook_words.h"
+#include "screens/outlook/outlook_rows.h"
+#include "screens/outlook/outlook_words.h"
+#include "screens/printouts.h"
+#include "screens/reports/report_output.h"
+#include "screens/scores/score_printout.h"
+#include "screens/spreadsheet.h"
+
+#include <array>
+#include <filesystem>
+#include <fmt/format.h>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr const char* kReportTrouble = "Tallyhoop - frmPoolOutlook, cmdSaveReport";
+
+using SpreadsheetRow = std::array<std::string, kOutlookColumns + 1>;
+
+const SpreadsheetRow kHeadings{"Now",     "Player",  "Points", "Possible", "First %", "Share %",
+                               "Error %", "Verdict", "Best",   "Worst",    "Change"};
+
+/// Spreadsheets take "2-5" for a day in May.
+std::string placeForSpreadsheets(const PlaceBetween& place)
+{
+    return place.isExact() ? placeInWords(place) : fmt::format("{} to {}", place.least, place.most);
+}
+
+SpreadsheetRow cellsOf(const OutlookRow& row)
+{
+    return {cellOf(row, OutlookColumn::Now),
+            row.name,
+            cellOf(row, OutlookColumn::Points),
+            cellOf(row, OutlookColumn::Possible),
+            row.first ? percentAsNumber(*row.first) : "",
+            row.share ? percentAsNumber(*row.share) : "",
+            row.share ? errorInWords(row.error) : "",
+            cellOf(row, OutlookColumn::Verdict),
+            placeForSpreadsheets(row.best),
+            placeForSpreadsheets(row.worst),
+            cellOf(row, OutlookColumn::Change)};
+}
+
+} // namespace
+
+std::string outlookForSpreadsheets(const OutlookSheet& sheet)
+{
+    std::vector<std::string> about{std::string{kOutlookName} + ": " + sheet.heading.title};
+    about.insert(about.end(), sheet.heading.whatIf.begin(), sheet.heading.whatIf.end());
+    about.insert(about.end(), sheet.heading.basis.begin(), sheet.heading.basis.end());
+    std::string text = tabSeparatedLine(std::array{sentencesOf(about)}) + tabSeparatedLine(kHeadings);
+    for (const OutlookRow& row : sheet.rows)
+        text += tabSeparatedLine(cellsOf(row));
+    return text;
+}
+
+std::string OutlookOutput::saveReport(const OutlookSheet& sheet) const
+{
+    const std::string bytes = fileOf(outlookLines(sheet.heading, sheet.rows));
+    if (const Result<Done> written = m_folder.write(kOutlookFile, bytes); !written) {
+        m_platform.dialogs.show({kReportTrouble,
+                                 std::string{kOutlookFile} + " could not be written.\r\n" + written.failure().message,
+                                 ui::Buttons::Ok, ui::Icon::Critical});
+        return {};
+    }
+    return writtenSentence(std::array{m_folder.pathTo(kOutlookFile)});
+}
+
+std::string OutlookOutput::print(const OutlookSheet& sheet) const
+{
+    if (!m_platform.printer.choosePrinter())
+        return {};
+    return printOut(m_platform, printoutOf(sheet)).sentence;
+}
+
+std::string OutlookOutput::preview(const OutlookSheet& sheet) const
+{
+    return showPreview(m_platform, m_folder.folder(), {printoutOf(sheet)});
+}
+
+std::string OutlookOutput::savePdf(const OutlookSheet& sheet) const
+{
+    return saveAsPdf(m_platform, m_folder.folder(), {printoutOf(sheet)});
+}
+
+std::string OutlookOutput::copy(const OutlookSheet& sheet) const
+{
+    m_platform.clipboard.put(outlookForSpreadsheets(sheet));
+    return fmt::format("Copied {} row{}, to be pasted into a spreadsheet.", sheet.rows.size(),
+                       sheet.rows.size() == 1 ? "" : "s");
+}
+
+ui::DrawingPrintout OutlookOutput::printoutOf(const OutlookSheet& sheet) const
+{
+    return {kOutlookName, drawOutlook(sheet, shortDate(m_platform.clock.today())), ui::Orientation::Portrait};
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,53 @@
+// screens/outlook/outlook_screen_output.cpp - what the outlook's screen shows, as it goes out.
+#include "screens/outlook/outlook_screen.h"
+
+#include "reports/outlook_words.h"
+#include "screens/outlook/outlook_words.h"
+
+#include <cmath>
+
+namespace tallyhoop {
+
+void OutlookScreen::bringOut(std::string (OutlookOutput::*way)(const OutlookSheet&) const)
+{
+    say({});
+    say((m_output.*way)(sheet()));
+}
+
+OutlookSheet OutlookScreen::sheet() const
+{
+    OutlookSheet sheet;
+    sheet.heading = {m_pool.field.title, whatIfInWords(m_whatIf.entered(), m_whatIf.supposed()),
+                     basisInWords(basisOf(m_kind, m_games.size(), m_figures))};
+    if (std::string unread = unreadWords(m_opened); !unread.empty())
+        sheet.heading.basis.push_back(unread.substr(0, unread.size() - 1)); // lines have no full stop
+    sheet.rows = m_rows;
+    sheet.road = roadPicture();
+    sheet.games = gamesOfSheet();
+    if (m_chosen) {
+        sheet.chosen = m_chosen;
+        sheet.chosenName = m_pool.entries.at(*m_chosen).name;
+        sheet.proof = verdictInWords(m_figures.prospects.at(*m_chosen).prospect) + ". " + proofFor(*m_chosen);
+    }
+    return sheet;
+}
+
+std::vector<SheetGame> OutlookScreen::gamesOfSheet() const
+{
+    std::vector<SheetGame> games;
+    if (m_figures.source == ChanceSource::None)
+        return games;
+    const std::vector<OpenGame> open = openGamesOf(m_games, m_pool.field);
+    const std::vector<double> ofChosen = swings();
+    for (const GameWeight& weight : weightsOf(m_figures.chances)) {
+        SheetGame game{gameText(open[weight.openGame]), {}, {}, fixedText(weight.swing)};
+        if (!ofChosen.empty()) {
+            game.rootFor = rootFor(open[weight.openGame], ofChosen[weight.openGame]);
+            game.helps = changeInWords(std::abs(ofChosen[weight.openGame]));
+        }
+        games.push_back(game);
+    }
+    return games;
+}
+
+} // namespace tallyhoop
