@@ -120,4 +120,10 @@ std::vector<ui::Message> reportTrouble(ReportId id, const fs::path& folder, cons
     return messages;
 }
 
+ui::Message outlookTrouble(const Fault& fault)
+{
+    return {"Tallyhoop - frmPoolOutlook, cmdSaveReport",
+            std::string{"OUTLOOK.TXT could not be written.\r\n"} + fault.reason, ui::Buttons::Ok, ui::Icon::Critical};
+}
+
 } // namespace tallyhoop::test

@@ -27,4 +27,7 @@ ui::Message damagedPlayerList(const std::filesystem::path& folder);
 /// A report whose folder has vanished finds no selections, or no player list, before it comes to writing.
 std::vector<ui::Message> reportTrouble(ReportId id, const std::filesystem::path& folder, const Fault& fault);
 
+/// The outlook is read before anything happens to the folder.
+ui::Message outlookTrouble(const Fault& fault);
+
 } // namespace tallyhoop::test

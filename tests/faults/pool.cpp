@@ -2,6 +2,7 @@
 #include "faults/writers.h"
 #include "files/file_names.h"
 #include "files/setup_file.h"
+#include "reports/outlook.h"
 #include "reports/report_pool.h"
 #include "reports/report_table.h"
 
@@ -27,6 +28,7 @@ void putPool(const ScratchFolder& folder)
     folder.put(file_name::kWorkFile, "an older report");
     for (const ReportKind& kind : reportTable())
         folder.put(kind.file, "an older report");
+    folder.put(kOutlookFile, "an older report");
 }
 
 std::vector<std::pair<std::string, std::string>> filesIn(const fs::path& folder)

@@ -3,8 +3,11 @@
 
 #include "faults/messages.h"
 #include "files/file_names.h"
+#include "files/pool_files.h"
 #include "files/setup_file.h"
+#include "reports/outlook.h"
 #include "screens/board/board_screen.h"
+#include "screens/outlook/outlook_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
 #include "screens/setup/setup_screen.h"
@@ -216,6 +219,21 @@ public:
     }
 };
 
+class OutlookWriter : public Writer
+{
+public:
+    explicit OutlookWriter(const fs::path& folderPath) : Writer{folderPath}
+    {
+        m_screen.load();
+        m_screen.showState();
+    }
+    void save(std::optional<ui::Answer> /*mayReplace*/) override { m_screen.cmdSaveReport.click(); }
+    std::string onScreen() const override { return textOf(m_screen); }
+
+private:
+    OutlookScreen m_screen{folder, readPool(folder), platform.services, screens};
+};
+
 constexpr std::size_t kToPrinter = 0;
 constexpr std::size_t kToFile = 1;
 
@@ -279,6 +297,8 @@ const std::vector<WriterKind>& allWriters()
         reportFile<ReportId::PlayerSelectionDetail>("PlayerSelectionDetail"),
         reportFile<ReportId::ResultsByPlayer>("ResultsByPlayer"),
         reportFile<ReportId::ResultsByTeam>("ResultsByTeam"),
+        {"Outlook", kOutlookFile, "Pool Outlook", true, false, opened<OutlookWriter>,
+         [](const fs::path&, const Fault& fault) { return std::vector{outlookTrouble(fault)}; }},
     };
     return writers;
 }

@@ -6,9 +6,11 @@
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "files/file_names.h"
+#include "files/pool_files.h"
 #include "files/setup_file.h"
 #include "help/help_file.h"
 #include "screens/board/board_screen.h"
+#include "screens/outlook/outlook_screen.h"
 #include "screens/reports/reports_screen.h"
 
 #include <algorithm>
@@ -37,6 +39,32 @@ protected:
         reports.cmdPrintSelections.click();
     }
 
+    void saveOutlook()
+    {
+        OutlookScreen outlook{folder, readPool(folder), platform.services, screens};
+        outlook.load();
+        while (outlook.isWorking())
+            outlook.advance();
+        outlook.showState();
+        outlook.cmdSaveReport.click();
+    }
+
+    /// @param caption of the section that shows some lines of the file
+    void expectSample(const std::string& caption, const std::string& file) const
+    {
+        const std::vector<std::string> sample = sampleUnder(caption);
+        ASSERT_FALSE(sample.empty()) << caption;
+        std::vector<std::string> report = linesOf(scratch.get(file));
+        for (std::string& line : report)
+            line = trimTrailingBlanks(line);
+        auto from = report.begin();
+        for (const std::string& line : sample) { // in their order, others may be between them
+            const auto at = std::find(from, report.end(), line);
+            ASSERT_NE(at, report.end()) << file << " has no line: " << line;
+            from = at + 1;
+        }
+    }
+
     ScratchFolder scratch;
     DataFolder folder = scratch.folder();
     FakePlatform platform;
@@ -53,19 +81,14 @@ protected:
 TEST_F(HelpSamples, OfTheReportsAreWhatTheSamplePoolGives)
 {
     makeReports();
-    for (const ReportKind& kind : reportTable()) {
-        const std::vector<std::string> sample = sampleUnder(kind.caption);
-        ASSERT_FALSE(sample.empty()) << kind.caption;
-        std::vector<std::string> report = linesOf(scratch.get(kind.file));
-        for (std::string& line : report)
-            line = trimTrailingBlanks(line);
-        auto from = report.begin();
-        for (const std::string& line : sample) { // in their order, others may be between them
-            const auto at = std::find(from, report.end(), line);
-            ASSERT_NE(at, report.end()) << kind.file << " has no line: " << line;
-            from = at + 1;
-        }
-    }
+    for (const ReportKind& kind : reportTable())
+        expectSample(kind.caption, kind.file);
+}
+
+TEST_F(HelpSamples, OfTheOutlookIsWhatTheSamplePoolGives)
+{
+    saveOutlook();
+    expectSample("The pool outlook", kOutlookFile);
 }
 
 TEST_F(HelpSamples, OfTheScoresAreWhatTheBoardSays)
