@@ -1,9 +1,9 @@
 // tests/faults/writers.cpp - for each file, the screen that writes it and the presses up to the last one.
 #include "faults/writers.h"
 
+#include "fakes/fake_background.h"
 #include "faults/messages.h"
 #include "files/file_names.h"
-#include "files/pool_files.h"
 #include "files/setup_file.h"
 #include "reports/outlook.h"
 #include "screens/board/board_screen.h"
@@ -231,7 +231,8 @@ public:
     std::string onScreen() const override { return textOf(m_screen); }
 
 private:
-    OutlookScreen m_screen{folder, readPool(folder), platform.services, screens};
+    OutlookScreen m_screen{folder, openPool(folder, platform.services, board), platform.services, screens,
+                           std::make_unique<FakeBackground>()};
 };
 
 constexpr std::size_t kToPrinter = 0;

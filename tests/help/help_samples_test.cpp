@@ -2,11 +2,11 @@
 #include "base/lines.h"
 #include "base/text.h"
 #include "demo/sample_pool.h"
+#include "fakes/fake_background.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "files/file_names.h"
-#include "files/pool_files.h"
 #include "files/setup_file.h"
 #include "help/help_file.h"
 #include "screens/board/board_screen.h"
@@ -41,10 +41,10 @@ protected:
 
     void saveOutlook()
     {
-        OutlookScreen outlook{folder, readPool(folder), platform.services, screens};
-        outlook.load();
-        while (outlook.isWorking())
-            outlook.advance();
+        FakeBoard board;
+        OutlookScreen outlook{folder, openPool(folder, platform.services, board), platform.services, screens,
+                              std::make_unique<FakeBackground>()};
+        outlook.load(); // counts so few games at once
         outlook.showState();
         outlook.cmdSaveReport.click();
     }
