@@ -10,11 +10,11 @@ namespace tallyhoop::ui {
 
 /// The colours of the window, for a drawing in it.
 struct PictureColours {
-    Colour text;
-    Colour accent; ///< what matters most, also as a text; on the background as easy to read as the text
-    Colour soft;   ///< the accent, paler
-    Colour line;   ///< what is to be seen, but does not matter most
-    Colour grid;   ///< what is there to hold on to, such as the lines of a scale
+    Colour text{};
+    Colour accent{}; ///< what matters most, also as a text; on the background as easy to read as the text
+    Colour soft{};   ///< the accent, paler
+    Colour line{};   ///< what is to be seen, but does not matter most
+    Colour grid{};   ///< what is there to hold on to, such as the lines of a scale
 };
 
 /// A picture. Who cannot see it hears spokenName, which says the same in words.

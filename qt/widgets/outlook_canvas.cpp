@@ -19,7 +19,6 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr double kSmallestText = 9;
 constexpr int kSupposedFrame = 3;
 
 QRect rounded(double x, double y, double width, double height)
@@ -41,7 +40,7 @@ std::function<void(const ui::Label&)> shownBy(SlotLabel* widget)
 
 QFont scaled(QFont font, double size, bool bold)
 {
-    font.setPixelSize(static_cast<int>(std::lround(std::max(kSmallestText, size))));
+    font.setPixelSize(static_cast<int>(std::lround(size)));
     font.setBold(bold);
     return font;
 }

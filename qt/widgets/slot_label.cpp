@@ -135,7 +135,7 @@ void SlotLabel::paintEvent(QPaintEvent*)
 
 bool SlotLabel::event(QEvent* event)
 {
-    if (event->type() != QEvent::ToolTip || m_part == Part::Row)
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty())
         // NOLINTNEXTLINE(bugprone-parent-virtual-call): a disabled button would keep presses from the canvas
         return isEnabled() ? QAbstractButton::event(event) : QWidget::event(event);
     if (isElided())

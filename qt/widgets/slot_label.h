@@ -13,7 +13,7 @@ class SlotLabel : public QAbstractButton
 
 public:
     enum class Part {
-        Row,    ///< a first-round row: a box of its own, with a tool tip of its own
+        Row,    ///< a box of its own, such as a first-round row
         Winner, ///< a winner's place, continued by its marker
         Marker,
     };

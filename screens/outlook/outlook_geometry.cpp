@@ -14,7 +14,8 @@ constexpr BoardShares kShares{.top = 0.02,
                               .centre = 0.05,
                               .champion = 2,
                               .textOfRow = 0.8,
-                              .textOfColumn = 0.185};
+                              .textOfColumn = 0.17};
+constexpr double kSmallestText = 9; ///< where the units are pixels, less cannot be read
 
 // In heights of a letter.
 constexpr double kSwing = 3.9;      ///< room for "+100.0"
@@ -48,6 +49,7 @@ void placeTitles(BoardGeometry& board, double height)
 BoardGeometry layOutOutlook(double width, double height)
 {
     BoardGeometry board = layOutBoard(width, height, kShares);
+    board.textSize = std::max(board.textSize, kSmallestText);
     placeTitles(board, height);
     board.championCaption.x = board.positions[kChampion].x;
     board.championCaption.width = board.positions[kChampion].width;

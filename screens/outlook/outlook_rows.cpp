@@ -21,7 +21,7 @@ struct ColumnWords {
 
 constexpr std::array<ColumnWords, kOutlookColumns> kColumns{{
     {"Now", ui::Alignment::Right, 3, "Now: the place by the points so far; players with the same points share it."},
-    {"Player", ui::Alignment::Left, 17, "Player: choose one to see whom to root for."},
+    {"Player", ui::Alignment::Left, 16, "Player: choose one to see whom to root for."},
     {"Points", ui::Alignment::Right, 6, "Points: earned so far."},
     {"Possible", ui::Alignment::Right, 8, "Possible: earned, and what the open games can still bring."},
     {"First", ui::Alignment::Right, 7, "First: how often the player ends first, alone or together with others."},
@@ -97,6 +97,7 @@ std::vector<ui::GridColumn> outlookColumns()
     std::vector<ui::GridColumn> columns;
     for (const ColumnWords& words : kColumns)
         columns.push_back({words.heading, words.alignment, words.width});
+    columns.at(static_cast<std::size_t>(OutlookColumn::Player)).grows = true;
     return columns;
 }
 

@@ -1,4 +1,5 @@
-// tests/screens/outlook/outlook_geometry_test.cpp - the outlook's bracket at several sizes, with a swing at every place.
+// tests/screens/outlook/outlook_geometry_test.cpp - the outlook's bracket at several sizes, with a swing at every
+// place.
 #include "screens/outlook/outlook_geometry.h"
 
 #include <cmath>

@@ -35,9 +35,12 @@ TEST(OutlookCells, AreEmptyWhereNothingIsKnownYet)
 TEST(OutlookCells, ShowTheErrorOfAForecast)
 {
     OutlookRow row{.share = 34.44, .error = 0.26};
-    EXPECT_EQ(cellOf(row, OutlookColumn::Share), "34.4 % \xB1" "0.26");
+    EXPECT_EQ(cellOf(row, OutlookColumn::Share), "34.4 % \xB1"
+                                                 "0.26");
     row.error = 0.002;
-    EXPECT_EQ(cellOf(row, OutlookColumn::Share), "34.4 % \xB1" "0.01") << "an error is never shown as none";
+    EXPECT_EQ(cellOf(row, OutlookColumn::Share), "34.4 % \xB1"
+                                                 "0.01")
+        << "an error is never shown as none";
 }
 
 TEST(OutlookCells, NeverShowAChanceAsNoneOrAsCertainThatIsNot)
