@@ -11,7 +11,7 @@ namespace tallyhoop {
 
 template <class Points, class Number>
 CountTree<Points, Number>::CountTree(const Contest& contest, const std::vector<std::size_t>& players,
-                                     UpperChance upperChance)
+                                     UpperChance upperChance, const Step& step)
     : m_contest{contest},
       m_upperChance{std::move(upperChance)},
       m_finalGames{openAmong(contest.games(), finalGames())},
@@ -20,7 +20,7 @@ CountTree<Points, Number>::CountTree(const Contest& contest, const std::vector<s
       m_race{players},
       m_witnesses(contest.players())
 {
-    addLeads(contest, m_regions);
+    addLeads(contest, m_regions, step);
     std::iota(m_everybody.begin(), m_everybody.end(), std::size_t{0});
     for (const RegionPoints<Points>& region : m_regions)
         m_slices *= region.ends.size();

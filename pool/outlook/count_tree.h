@@ -35,7 +35,9 @@ public:
     ///                    outlive this
     /// @param players     how many players each of them stands for
     /// @param upperChance for chances; empty for counts
-    CountTree(const Contest& contest, const std::vector<std::size_t>& players, UpperChance upperChance);
+    /// @param step        called for each runner; after a stop nothing can be counted
+    CountTree(const Contest& contest, const std::vector<std::size_t>& players, UpperChance upperChance,
+              const Step& step);
 
     /// The work comes in so many slices, each to be counted once, in any order.
     std::size_t slices() const { return m_slices; }

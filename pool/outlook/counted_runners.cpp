@@ -19,16 +19,16 @@ std::int32_t sumOfPayoffs(const Contest& contest)
 } // namespace
 
 template <class Number>
-CountedRunners<Number>::CountedRunners(const Contest& contest, const UpperChance& upperChance)
-    : m_runners{runnersOf(contest)}
+CountedRunners<Number>::CountedRunners(const Contest& contest, const UpperChance& upperChance, const Step& step)
+    : m_runners{runnersOf(contest, step)}
 {
     std::vector<std::size_t> players;
     for (const std::vector<std::size_t>& same : m_runners.players)
         players.push_back(same.size());
-    if (players.empty())
+    if (players.empty() || !step())
         return;
     const auto make = [&]<class Points>(Points) {
-        auto tree = std::make_unique<CountTree<Points, Number>>(m_runners.contest, players, upperChance);
+        auto tree = std::make_unique<CountTree<Points, Number>>(m_runners.contest, players, upperChance, step);
         m_slices = tree->slices();
         m_tree = std::move(tree);
     };
@@ -36,6 +36,8 @@ CountedRunners<Number>::CountedRunners(const Contest& contest, const UpperChance
         make(std::int16_t{});
     else
         make(std::int32_t{});
+    if (!step())
+        m_slices = 0; // without all leads there is nothing to count with
 }
 
 template <class Number>

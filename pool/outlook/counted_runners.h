@@ -16,7 +16,8 @@ template <class Number>
 class CountedRunners
 {
 public:
-    CountedRunners(const Contest& contest, const UpperChance& upperChance);
+    /// @param step as for FirstCount
+    CountedRunners(const Contest& contest, const UpperChance& upperChance, const Step& step);
 
     bool isDone() const { return m_next == m_slices; }
     double fraction() const { return isDone() ? 1 : static_cast<double>(m_next) / static_cast<double>(m_slices); }

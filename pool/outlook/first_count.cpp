@@ -28,8 +28,8 @@ auto countedAll(Count count)
 class FirstCount::Work : public CountedRunners<std::uint64_t>
 {
 public:
-    explicit Work(const Contest& contest)
-        : CountedRunners{contest, {}},
+    Work(const Contest& contest, const Step& step)
+        : CountedRunners{contest, {}, step},
           m_players{contest.players()},
           m_games{contest.games().size()},
           m_outcomes{contest.games().outcomes()}
@@ -62,8 +62,8 @@ private:
 class ChanceCount::Work : public CountedRunners<double>
 {
 public:
-    Work(const Contest& contest, const UpperChance& upperChance)
-        : CountedRunners{contest, upperChance}, m_players{contest.players()}, m_games{contest.games().size()}
+    Work(const Contest& contest, const UpperChance& upperChance, const Step& step)
+        : CountedRunners{contest, upperChance, step}, m_players{contest.players()}, m_games{contest.games().size()}
     {
     }
 
@@ -92,7 +92,7 @@ private:
     std::size_t m_games;
 };
 
-FirstCount::FirstCount(const Contest& contest) : m_work{std::make_unique<Work>(contest)} {}
+FirstCount::FirstCount(const Contest& contest, const Step& step) : m_work{std::make_unique<Work>(contest, step)} {}
 FirstCount::~FirstCount() = default;
 FirstCount::FirstCount(FirstCount&&) noexcept = default;
 FirstCount& FirstCount::operator=(FirstCount&&) noexcept = default;
@@ -102,8 +102,8 @@ double FirstCount::fraction() const { return m_work->fraction(); }
 void FirstCount::advance() { m_work->advance(); }
 FirstOutlook FirstCount::outlook() const { return m_work->outlook(); }
 
-ChanceCount::ChanceCount(const Contest& contest, UpperChance upperChance)
-    : m_work{std::make_unique<Work>(contest, std::move(upperChance))}
+ChanceCount::ChanceCount(const Contest& contest, UpperChance upperChance, const Step& step)
+    : m_work{std::make_unique<Work>(contest, std::move(upperChance), step)}
 {
 }
 ChanceCount::~ChanceCount() = default;

@@ -1,6 +1,7 @@
 // pool/outlook/first_count.h - counts every outcome of the open games: who is first in how many of them.
 #pragma once
 
+#include "base/step.h"
 #include "pool/outlook/chances.h"
 #include "pool/outlook/contest.h"
 #include "pool/outlook/first_places.h"
@@ -17,9 +18,11 @@ inline constexpr std::size_t kMostCountedGames = 31;
 class FirstCount
 {
 public:
-    /// Prepares the count, which takes some milliseconds. The contest is not needed any longer afterwards.
+    /// Prepares the count, which takes some milliseconds, more for hundreds of players. The contest is not needed any
+    /// longer afterwards.
+    /// @param step called often meanwhile; once it has asked to stop, the count is of no use
     /// @pre the contest has at most 40 open games
-    explicit FirstCount(const Contest& contest);
+    explicit FirstCount(const Contest& contest, const Step& step = goOn);
     ~FirstCount();
     FirstCount(FirstCount&&) noexcept;
     FirstCount& operator=(FirstCount&&) noexcept;
@@ -46,7 +49,7 @@ class ChanceCount
 public:
     /// @param upperChance called while it is prepared and while it counts
     /// @pre as for FirstCount
-    ChanceCount(const Contest& contest, UpperChance upperChance);
+    ChanceCount(const Contest& contest, UpperChance upperChance, const Step& step = goOn);
     ~ChanceCount();
     ChanceCount(ChanceCount&&) noexcept;
     ChanceCount& operator=(ChanceCount&&) noexcept;

@@ -48,11 +48,11 @@ std::array<RegionPoints<Points>, kRegions> regionPoints(const Contest& contest, 
 }
 
 template <class Points>
-void addLeads(const Contest& contest, std::array<RegionPoints<Points>, kRegions>& regions)
+void addLeads(const Contest& contest, std::array<RegionPoints<Points>, kRegions>& regions, const Step& step)
 {
     const std::size_t row = Lanes<Points>::padded(contest.players());
     Margins margins{contest};
-    for (std::size_t leader = 0; leader < contest.players(); ++leader) {
+    for (std::size_t leader = 0; leader < contest.players() && step(); ++leader) {
         margins.findLeads(leader);
         for (int region = 0; region < kRegions; ++region) {
             const std::vector<TeamNumber>& winners = contest.games().candidates(regionWinner(region));
@@ -70,8 +70,8 @@ void addLeads(const Contest& contest, std::array<RegionPoints<Points>, kRegions>
 template std::array<RegionPoints<std::int16_t>, kRegions> regionPoints(const Contest&, const UpperChance&);
 template std::array<RegionPoints<std::int32_t>, kRegions> regionPoints(const Contest&, const UpperChance&);
 
-template void addLeads(const Contest&, std::array<RegionPoints<std::int16_t>, kRegions>&);
-template void addLeads(const Contest&, std::array<RegionPoints<std::int32_t>, kRegions>&);
+template void addLeads(const Contest&, std::array<RegionPoints<std::int16_t>, kRegions>&, const Step&);
+template void addLeads(const Contest&, std::array<RegionPoints<std::int32_t>, kRegions>&, const Step&);
 
 double playAll(const OpenGames& games, std::span<const Position> played, OutcomeNumber outcome,
                ByPosition<TeamNumber>& teams, const UpperChance& upperChance)

@@ -1,6 +1,7 @@
 // pool/outlook/region_points.h - what the outcomes of one region bring the players, sorted by who wins the region.
 #pragma once
 
+#include "base/step.h"
 #include "pool/outlook/chances.h"
 #include "pool/outlook/contest.h"
 #include "pool/outlook/lanes.h"
@@ -37,8 +38,9 @@ template <class Points>
 std::array<RegionPoints<Points>, kRegions> regionPoints(const Contest& contest, const UpperChance& upperChance = {});
 
 /// Finds the leads in the regions of a contest.
+/// @param step called for each player; after a stop some are missing
 template <class Points>
-void addLeads(const Contest& contest, std::array<RegionPoints<Points>, kRegions>& regions);
+void addLeads(const Contest& contest, std::array<RegionPoints<Points>, kRegions>& regions, const Step& step);
 
 /// Fills in the winners of some neighbouring games as an outcome says.
 /// @param upperChance empty = without chances

@@ -73,13 +73,17 @@ bool Road::stageIsDone() const
     return m_forecast->samples() >= (m_forecast->isExact() ? 1 : m_limits.samples);
 }
 
-void Road::advance()
+void Road::advance(const Step& step)
 {
     if (isDone())
         return;
-    if (!m_count && !m_forecast)
-        begin();
-    else if (m_count)
+    if (!m_count && !m_forecast) {
+        begin(step);
+        if (!step()) {
+            m_count.reset();
+            return;
+        }
+    } else if (m_count)
         m_count->advance();
     else
         m_forecast->add(std::min(kSamplesOfSlice, m_limits.samples - m_forecast->samples()));
@@ -87,12 +91,12 @@ void Road::advance()
         addPoint();
 }
 
-void Road::begin()
+void Road::begin(const Step& step)
 {
     const Contest contest{stage().results, m_picks, m_payoffs};
     m_openGames = contest.games().size();
     if (m_openGames <= m_limits.countedGames)
-        m_count.emplace(contest, m_chances(contest));
+        m_count.emplace(contest, m_chances(contest), step);
     else
         m_forecast.emplace(contest, m_chances(contest), m_limits.seed);
 }

@@ -1,6 +1,7 @@
 // pool/outlook/road.h - how each player's chance to be first has changed from round to round.
 #pragma once
 
+#include "base/step.h"
 #include "pool/outlook/chances.h"
 #include "pool/outlook/contest.h"
 #include "pool/outlook/first_count.h"
@@ -74,7 +75,8 @@ public:
     void takeNow(RoadPoint now);
 
     /// Does one slice of the work: some milliseconds, more for hundreds of players. Nothing when it is done.
-    void advance();
+    /// @param step called while such a slice lasts; when it asks to stop, the next slice begins it anew
+    void advance(const Step& step = goOn);
 
     /// Those of all stages, done or not.
     const std::vector<RoadStage>& stages() const { return m_stages; }
@@ -84,7 +86,7 @@ public:
 
 private:
     const RoadStage& stage() const { return m_stages[m_stages.size() - 1 - m_points.size()]; }
-    void begin();
+    void begin(const Step& step);
     double stageFraction() const;
     bool stageIsDone() const;
     void addPoint();

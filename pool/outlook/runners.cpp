@@ -54,7 +54,7 @@ void keep(std::vector<T>& all, const std::vector<std::size_t>& kept)
 }
 
 /// @returns the players whom none of a few with many points always leaves behind
-std::vector<std::size_t> notFarBehind(const Contest& contest)
+std::vector<std::size_t> notFarBehind(const Contest& contest, const Step& step)
 {
     constexpr std::size_t kFew = 12;
     std::vector<std::int32_t> points;
@@ -65,7 +65,7 @@ std::vector<std::size_t> notFarBehind(const Contest& contest)
     std::ranges::stable_sort(order, std::greater{}, [&](std::size_t player) { return points[player]; });
     std::vector<bool> isBehind(points.size());
     Margins margins{contest};
-    for (std::size_t i = 0; i < std::min(kFew, order.size()); ++i) {
+    for (std::size_t i = 0; i < std::min(kFew, order.size()) && step(); ++i) {
         margins.findLeadsOver(order[i]);
         const std::vector<std::int32_t> leads = margins.atTheEnd();
         for (std::size_t player = 0; player < leads.size(); ++player)
@@ -77,7 +77,7 @@ std::vector<std::size_t> notFarBehind(const Contest& contest)
 }
 
 /// @returns the players whom nobody always leaves behind
-std::vector<std::size_t> notBehind(const Contest& contest)
+std::vector<std::size_t> notBehind(const Contest& contest, const Step& step)
 {
     std::vector<std::size_t> kept;
     Margins margins{contest};
@@ -85,6 +85,8 @@ std::vector<std::size_t> notBehind(const Contest& contest)
         margins.findLeads(player);
         if (std::ranges::min(margins.atTheEnd()) >= 0)
             kept.push_back(player);
+        if (!step())
+            break;
     }
     return kept;
 }
@@ -101,11 +103,11 @@ Runners allRunners(const Contest& contest)
     return runners;
 }
 
-Runners runnersOf(const Contest& contest)
+Runners runnersOf(const Contest& contest, const Step& step)
 {
     Runners runners = allRunners(contest);
     for (const auto find : {&notFarBehind, &notBehind}) {
-        const std::vector<std::size_t> kept = find(runners.contest);
+        const std::vector<std::size_t> kept = find(runners.contest, step);
         runners.contest = runners.contest.among(kept);
         keep(runners.players, kept);
     }

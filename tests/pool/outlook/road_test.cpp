@@ -223,5 +223,19 @@ TEST(Road, TakesOverWhatIsKnownOfNow)
     EXPECT_EQ(road.points()[1].samples, 12u);
 }
 
+TEST(Road, BeginsAStageAnewAfterItWasStoppedThere)
+{
+    const Bracket beforeFinal = test::without(wonByTeam33(), 126, 126);
+    Road road{beforeFinal, leaderAndChaser(), kUsualPayoffs, alike};
+    road.advance([] { return false; });
+    EXPECT_TRUE(road.points().empty());
+    EXPECT_EQ(road.fraction(), 0);
+    while (road.points().empty())
+        road.advance();
+    // The leader is a point ahead; the chaser needs Team 33.
+    EXPECT_DOUBLE_EQ(road.points()[0].chances[0].share, 0.5);
+    EXPECT_DOUBLE_EQ(road.points()[0].chances[1].share, 0.5);
+}
+
 } // namespace
 } // namespace tallyhoop
