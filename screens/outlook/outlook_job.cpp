@@ -20,17 +20,17 @@ void OutlookJob::countFewGames()
 void OutlookJob::advance(const Step& step)
 {
     if (m_work.hasFigures() && m_road->points().empty())
-        findNow();
+        findNow(step);
     else if (m_work.fraction() >= 1 && !m_road->isDone())
-        m_road->advance();
+        m_road->advance(step);
     else
         m_work.advance(step);
 }
 
-void OutlookJob::findNow()
+void OutlookJob::findNow(const Step& step)
 {
     if (!m_isAsEntered) {
-        m_road->advance();
+        m_road->advance(step);
         return;
     }
     OutlookFigures figures = m_work.figures();

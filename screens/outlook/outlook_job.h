@@ -34,7 +34,7 @@ public:
     void advance(const Step& step = goOn);
 
 private:
-    void findNow();
+    void findNow(const Step& step);
 
     OutlookWork m_work;
     std::shared_ptr<Road> m_road;

@@ -68,18 +68,24 @@ void OutlookWork::advance(const Step& step)
         break;
     case Stage::Chances:
         count<ChanceCount>(
-            [this] {
-                return ChanceCount{m_contest, m_upperChance};
+            step,
+            [&] {
+                return ChanceCount{m_contest, m_upperChance, step};
             },
             [this](const ChanceCount& done) { m_chances = done.outlook(); });
         break;
     case Stage::Firsts:
-        count<FirstCount>([this] { return FirstCount{m_contest}; },
-                          [this](const FirstCount& done) { m_firsts = done.outlook(); });
+        count<FirstCount>(
+            step,
+            [&] {
+                return FirstCount{m_contest, step};
+            },
+            [this](const FirstCount& done) { m_firsts = done.outlook(); });
         break;
     case Stage::Places:
-        count<PlaceCount>([this] { return PlaceCount{m_contest}; },
-                          [this](const PlaceCount& done) { m_places = done.places(); });
+        count<PlaceCount>(
+            step, [this] { return PlaceCount{m_contest}; },
+            [this](const PlaceCount& done) { m_places = done.places(); });
         break;
     case Stage::Forecast:
         forecast();
@@ -102,12 +108,17 @@ void OutlookWork::findCertainties(const Step& step)
 }
 
 template <class Count, class Make, class Take>
-void OutlookWork::count(Make make, Take take)
+void OutlookWork::count(const Step& step, Make make, Take take)
 {
     if (!std::holds_alternative<Count>(m_running))
         m_running.emplace<Count>(make());
     else
         std::get<Count>(m_running).advance();
+    if (!step()) {
+        m_running = std::monostate{};
+        m_stage = m_plan.size();
+        return;
+    }
     const Count& running = std::get<Count>(m_running);
     if (!running.isDone())
         return;

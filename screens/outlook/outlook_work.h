@@ -46,7 +46,8 @@ public:
     /// although it grows further.
     double fraction() const;
 
-    /// Does one slice: some milliseconds. Only finding what is certain about hundreds of players takes longer.
+    /// Does one slice: some milliseconds. Only finding what is certain about hundreds of players, and preparing to
+    /// count for them, takes longer.
     /// @param step called while such a slice lasts; when it asks to stop, what is known by then stays, and all is done
     void advance(const Step& step = goOn);
 
@@ -68,7 +69,7 @@ private:
     static std::vector<Stage> planFor(std::size_t openGames, ChanceKind kind);
     void findCertainties(const Step& step);
     template <class Count, class Make, class Take>
-    void count(Make make, Take take);
+    void count(const Step& step, Make make, Take take);
     void forecast();
     double fractionOfStage() const;
     std::vector<PlayerProspect> prospects() const;

@@ -132,6 +132,28 @@ TEST(OutlookWorkTest, StopsWhileItFindsWhatIsCertain)
     EXPECT_EQ(work.figures().prospects.at(3).prospect, Prospect::Open);
 }
 
+TEST(OutlookWorkTest, StopsWhileItPreparesACount)
+{
+    OutlookWork work{inventedContest(40, 22), finalField(), ChanceKind::Alike};
+    work.advance(); // what is certain
+    int steps = 0;
+    work.advance([&] { return ++steps < 3; });
+    EXPECT_GE(steps, 3) << "asked in between, for the players that are compared";
+    EXPECT_LT(steps, 3 + 6) << "it goes on no longer";
+    EXPECT_TRUE(work.isDone());
+    EXPECT_EQ(work.figures().source, ChanceSource::None);
+}
+
+TEST(OutlookWorkTest, StopsWhileItCounts)
+{
+    OutlookWork work{inventedContest(4, 22), finalField(), ChanceKind::Alike};
+    work.advance(); // what is certain
+    work.advance(); // prepares
+    work.advance([] { return false; });
+    EXPECT_TRUE(work.isDone());
+    EXPECT_EQ(work.figures().source, ChanceSource::None);
+}
+
 TEST(OutlookWorkTest, IsDoneAtOnceWithoutPlayers)
 {
     EXPECT_THAT(workedOut({inventedContest(0, 5), finalField(), ChanceKind::Alike}).prospects, SizeIs(0));
