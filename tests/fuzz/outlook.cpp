@@ -3,15 +3,18 @@
 #include "fuzz/targets.h"
 #include "pool/outlook/brute_force.h"
 #include "pool/outlook/first_count.h"
+#include "pool/outlook/forecast.h"
 #include "pool/outlook/prospects.h"
+#include "pool/outlook/summed_chances.h"
 
 #include <algorithm>
+#include <cmath>
 #include <vector>
 
 namespace tallyhoop::fuzz {
 namespace {
 
-constexpr std::size_t kMostOpen = 7;
+constexpr std::size_t kMostOpen = Forecast::kCountedGames; // so that a forecast leaves nothing to chance
 constexpr std::size_t kMostPlayers = 6;
 
 /// Plays all open games but the last few, so that every outcome can be scored.
@@ -40,6 +43,38 @@ Complaint compare(const PlayerProspect& found, const PlayerFirsts& firsts, const
     return std::nullopt;
 }
 
+bool areClose(const FirstChances& some, const FirstChances& others)
+{
+    const auto isClose = [](double one, double other) { return std::abs(one - other) < 1e-5; };
+    return isClose(some.alone, others.alone) && isClose(some.together, others.together) &&
+           isClose(some.share, others.share);
+}
+
+bool areClose(const ChanceOutlook& some, const ChanceOutlook& others)
+{
+    for (std::size_t player = 0; player < some.players.size(); ++player) {
+        const PlayerChances& one = some.players[player];
+        const PlayerChances& other = others.players[player];
+        if (!areClose(one.all, other.all) ||
+            !std::ranges::equal(one.andUpperWins, other.andUpperWins,
+                                [](const auto& ofOne, const auto& ofOther) { return areClose(ofOne, ofOther); }))
+            return false;
+    }
+    return true;
+}
+
+Complaint compareChances(const Contest& contest)
+{
+    const ChanceOutlook expected = test::summedChances(contest, test::someChance);
+    if (!areClose(countChances(contest, test::someChance), expected))
+        return "the chances are not the sum over every outcome";
+    Forecast forecast{contest, test::someChance};
+    forecast.add(1);
+    if (!areClose(forecast.outlook(), expected))
+        return "a forecast that counts everything is not the sum over every outcome";
+    return std::nullopt;
+}
+
 } // namespace
 
 Complaint outlook(std::string_view bytes)
@@ -64,7 +99,7 @@ Complaint outlook(std::string_view bytes)
         if (Complaint complaint = compare(prospects[player], firsts, expected.places[player], expected.firsts.outcomes))
             return complaint;
     }
-    return std::nullopt;
+    return picks.empty() ? std::nullopt : compareChances(contest);
 }
 
 } // namespace tallyhoop::fuzz
