@@ -8,7 +8,7 @@ namespace tallyhoop::test {
 
 namespace {
 
-constexpr std::array<Payoffs, 11> kPayoffs{{
+constexpr std::array<Payoffs, 12> kPayoffs{{
     {1, 2, 4, 8, 12, 16},
     {1, 1, 1, 1, 1, 1},
     {0, 0, 0, 0, 0, 0},
@@ -18,6 +18,7 @@ constexpr std::array<Payoffs, 11> kPayoffs{{
     {32767, 32767, 32767, 32767, 32767, 32767},
     {-32768, -32768, -32768, -32768, -32768, -32768},
     {32767, -32768, 32767, 30000, -32768, 32767},
+    {500, 500, -500, 500, -500, 500},   // points within 16 bits, differences beyond
     {125, 125, 125, 125, 125, 250},     // 8000 for all games: the most for which 16 bits are used
     {-125, 125, -125, 125, -125, -251}, // 8001, without the signs
 }};

@@ -11,10 +11,9 @@ namespace tallyhoop::test {
 
 namespace {
 
-double chanceOf(const Contest& contest, OutcomeNumber outcome, const UpperChance& upperChance)
+double chanceOf(const OpenGames& games, OutcomeNumber outcome, const ByPosition<TeamNumber>& teams,
+                const UpperChance& upperChance)
 {
-    const OpenGames& games = contest.games();
-    const ByPosition<TeamNumber> teams = games.outcomeNumbers(outcome);
     double chance = 1;
     for (std::size_t i = 0; i < games.size(); ++i) {
         const auto [upper, lower] = entrantsOf(games.games()[i]);
@@ -38,10 +37,11 @@ ChanceOutlook summedChances(const Contest& contest, const UpperChance& upperChan
     for (PlayerChances& player : sums.players)
         player.andUpperWins.resize(games);
     for (OutcomeNumber outcome = 0; outcome < contest.games().outcomes(); ++outcome) {
-        const double chance = chanceOf(contest, outcome, upperChance);
+        const ByPosition<TeamNumber> teams = contest.games().outcomeNumbers(outcome);
+        const double chance = chanceOf(contest.games(), outcome, teams, upperChance);
         std::vector<std::int32_t> points;
         for (std::size_t player = 0; player < contest.players(); ++player)
-            points.push_back(contest.points(player, contest.games().outcomeNumbers(outcome)));
+            points.push_back(contest.points(player, teams));
         const std::int32_t most = std::ranges::max(points);
         const auto together = static_cast<double>(std::ranges::count(points, most));
         const auto add = [&](FirstChances& chances) {
