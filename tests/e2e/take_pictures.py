@@ -11,6 +11,7 @@ import subprocess
 import sys
 import tempfile
 
+import office_pool
 from program import Program, centre
 
 PICTURES = pathlib.Path(sys.argv[1] if sys.argv[1:] else pathlib.Path(__file__).parents[2] / "docs/pictures")
@@ -159,6 +160,26 @@ def take_printed_board(program):
         print(f"{path}.png")
 
 
+def take_outlook(program):
+    """The table before, while and after something is supposed."""
+    office_pool.write(program)
+    program.start()
+    program.key("F9")
+    program.wait(lambda: program.has("grdPlayers") and program.rows("grdPlayers"), "the outlook")
+    program.wait(lambda: not program.enabled("cmdStop"), "all being counted")
+    program.click_at(centre(program.table("grdPlayers")["rects"][1][1]))
+    program.wait(lambda: program.text("lblSwing_28"), "whom to root for")
+    out_of_the_way(program)
+    take(program, "outlook")
+    program.click("lblRegion_59")
+    shows(program, "lblRegion_61", program.text("lblRegion_59"))
+    program.wait(lambda: not program.enabled("cmdStop"), "all being counted")
+    out_of_the_way(program)
+    take(program, "outlook-what-if")
+    program.click("cmdAsEntered")
+    shows(program, "lblRegion_61", "")
+
+
 def main():
     PICTURES.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory() as settings:
@@ -169,6 +190,10 @@ def main():
             with Program(folder=pool, environment=environment, size=SIZE, scale=SCALE) as program:
                 program.suffix = suffix
                 take_all(program)
+            shutil.rmtree(pool)
+            with Program(folder=pool, environment=environment, size=SIZE, scale=SCALE) as program:
+                program.suffix = suffix
+                take_outlook(program)
             shutil.rmtree(pool)
 
 
