@@ -42,7 +42,7 @@ TEST(BackgroundThread, EndsTheWorkBeforeBeforeItBeginsTheNext)
             began.set_value();
         lastUntilAbandoned(step);
         hasFirstEnded = true;
-        return true;
+        return slicesOfFirst < 3;
     });
     began.get_future().wait();
     std::promise<bool> second;
@@ -91,11 +91,10 @@ TEST(BackgroundThread, LetsGoOfAbandonedWork)
                                         gone.set_value();
                                     }};
     };
-    background.run([&, isFirst = true, owned = own()](const Step& step) mutable {
-        if (std::exchange(isFirst, false))
-            began.set_value();
+    background.run([&, owned = own()](const Step& step) {
+        began.set_value();
         lastUntilAbandoned(step);
-        return true;
+        return false;
     });
     began.get_future().wait();
     background.abandon();
@@ -112,7 +111,7 @@ TEST(BackgroundThread, EndsWhileThereIsWork)
             began.set_value();
             lastUntilAbandoned(step);
             hasEnded = true;
-            return true;
+            return false;
         });
         began.get_future().wait();
     }

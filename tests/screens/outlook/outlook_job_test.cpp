@@ -117,5 +117,17 @@ TEST_F(OutlookJobTest, IsDoneWithoutPlayers)
     EXPECT_THAT(road->points(), SizeIs(6));
 }
 
+TEST_F(OutlookJobTest, TakesAForecastWithItsSamplesAsThatOfNow)
+{
+    picks.clear(); // without players the first slice of a forecast is enough
+    entered = startingField();
+    OutlookJob job = begin(entered);
+    while (!job.isDone())
+        job.advance();
+    ASSERT_THAT(road->points(), SizeIs(1));
+    EXPECT_EQ(road->points()[0].samples, 500u);
+    EXPECT_EQ(road->points()[0].openGames, 63u);
+}
+
 } // namespace
 } // namespace tallyhoop::test

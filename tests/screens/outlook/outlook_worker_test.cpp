@@ -134,7 +134,7 @@ TEST_F(OutlookWorkerTest, GoesOnWithTheNextJobAfterAStop)
 {
     begin();
     worker->stop();
-    background->doAll();
+    EXPECT_FALSE(background->doSlice());
     worker->begin(advanced(entered, kSemifinalB), ChanceKind::Alike);
     EXPECT_DOUBLE_EQ(worker->news()->figures.chances.players.at(1).all.share, 0.5);
     EXPECT_TRUE(background->doSlice());

@@ -142,6 +142,14 @@ TEST_F(PoolOpening, TurnsOverThePagesOfManyDamagedFiles)
     EXPECT_EQ(platform.dialogs.shown[2].moreButton, "");
 }
 
+TEST_F(PoolOpening, HasNoButtonAfterAFullPage)
+{
+    showUnread(platform.dialogs, withTrouble(12));
+    ASSERT_THAT(platform.dialogs.shown, SizeIs(1));
+    EXPECT_EQ(platform.dialogs.shown[0].moreButton, "");
+    EXPECT_THAT(platform.dialogs.shown[0].text, Not(HasSubstr("of 12")));
+}
+
 TEST_F(PoolOpening, NeedsOneAnswerForAHundredDamagedFiles)
 {
     showUnread(platform.dialogs, withTrouble(100)); // the person presses OK
