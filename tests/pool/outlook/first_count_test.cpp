@@ -3,6 +3,7 @@
 
 #include "pool/outlook/brute_force.h"
 #include "pool/outlook/odd_pools.h"
+#include "pool/outlook/runners.h"
 #include "pool/scoring.h"
 
 #include <algorithm>
@@ -169,6 +170,30 @@ TEST(FirstCount, CanBeStoppedAndTellsHowFarItIs)
     EXPECT_EQ(last, 1);
     count.advance(); // nothing
     EXPECT_EQ(count.outlook().outcomes, 32768u);
+}
+
+TEST(FirstCount, IsOfNoUseAfterItWasStoppedWhileItWasPrepared)
+{
+    InventedPools pools{22};
+    const Contest contest{pools.withOpen(pools.picked(), 15), pools.office(9), test::kUsualPayoffs};
+    int steps = 0;
+    const FirstCount whole{contest, [&] { return ++steps > 0; }};
+    EXPECT_FALSE(whole.isDone());
+    const int last = steps;
+    for (int stop = 1; stop <= last; ++stop) {
+        steps = 0;
+        EXPECT_TRUE((FirstCount{contest, [&] { return ++steps < stop; }}.isDone())) << "stopped at step " << stop;
+    }
+}
+
+TEST(Runners, AreNotComparedFurtherAfterAStop)
+{
+    InventedPools pools{22};
+    const Contest contest{pools.withOpen(pools.picked(), 22), pools.office(40), test::kUsualPayoffs};
+    int steps = 0;
+    // A dozen steps for those with the most points, then one for each who is left.
+    EXPECT_LE(runnersOf(contest, [&] { return ++steps < 14; }).players.size(), 2u);
+    EXPECT_EQ(steps, 14);
 }
 
 } // namespace
