@@ -1,6 +1,7 @@
 // tests/pool/outlook/chance_count_test.cpp - chances against the sum over every outcome.
 #include "pool/outlook/first_count.h"
 
+#include "pool/outlook/close_chances.h"
 #include "pool/outlook/invented_pools.h"
 #include "pool/outlook/summed_chances.h"
 
@@ -11,13 +12,6 @@ namespace {
 
 using test::InventedPools;
 
-void expectClose(const FirstChances& chances, const FirstChances& expected)
-{
-    ASSERT_NEAR(chances.alone, expected.alone, 1e-6);
-    ASSERT_NEAR(chances.together, expected.together, 1e-6);
-    ASSERT_NEAR(chances.share, expected.share, 1e-6);
-}
-
 TEST(ChanceCount, AgreesWithTheSumOverEveryOutcome)
 {
     InventedPools pools{77};
@@ -27,10 +21,10 @@ TEST(ChanceCount, AgreesWithTheSumOverEveryOutcome)
         const ChanceOutlook outlook = countChances(contest, test::someChance);
         const ChanceOutlook expected = test::summedChances(contest, test::someChance);
         for (std::size_t player = 0; player < picks.size(); ++player) {
-            ASSERT_NO_FATAL_FAILURE(expectClose(outlook.players[player].all, expected.players[player].all));
+            ASSERT_NO_FATAL_FAILURE(test::expectClose(outlook.players[player].all, expected.players[player].all));
             for (std::size_t game = 0; game < contest.games().size(); ++game) {
-                ASSERT_NO_FATAL_FAILURE(expectClose(outlook.players[player].andUpperWins[game],
-                                                    expected.players[player].andUpperWins[game]));
+                ASSERT_NO_FATAL_FAILURE(test::expectClose(outlook.players[player].andUpperWins[game],
+                                                          expected.players[player].andUpperWins[game]));
                 ASSERT_NEAR(outlook.upperWins[game], expected.upperWins[game], 1e-6);
             }
         }

@@ -1,4 +1,5 @@
 // tests/pool/outlook/changed_pools_test.cpp - what must become of the figures when a pool is changed, on odd pools.
+#include "pool/outlook/close_chances.h"
 #include "pool/outlook/first_count.h"
 #include "pool/outlook/odd_pools.h"
 #include "pool/outlook/prospects.h"
@@ -37,13 +38,6 @@ UpperChance bySeed(const Contest& contest)
     return seedChances(contest.games(), field);
 }
 
-void expectNear(const FirstChances& found, const FirstChances& expected)
-{
-    ASSERT_NEAR(found.alone, expected.alone, 1e-6);
-    ASSERT_NEAR(found.together, expected.together, 1e-6);
-    ASSERT_NEAR(found.share, expected.share, 1e-6);
-}
-
 TEST(ChangedPools, WithPlayersInAnotherOrderHaveTheFiguresInThatOrder)
 {
     forManyPools(1, [](const OddPool& pool, InventedPools& pools) {
@@ -64,7 +58,7 @@ TEST(ChangedPools, WithPlayersInAnotherOrderHaveTheFiguresInThatOrder)
             ASSERT_EQ(firstsAfter.players[i].all, firsts.players[order[i]].all);
             ASSERT_EQ(firstsAfter.players[i].ifUpperWins, firsts.players[order[i]].ifUpperWins);
             ASSERT_EQ(placesAfter[i], places[order[i]]);
-            ASSERT_NO_FATAL_FAILURE(expectNear(chancesAfter.players[i].all, chances.players[order[i]].all));
+            ASSERT_NO_FATAL_FAILURE(test::expectClose(chancesAfter.players[i].all, chances.players[order[i]].all));
         }
     });
 }
@@ -133,7 +127,7 @@ std::vector<PlayerPlaces> enter(const OddPool& pool, std::size_t game, Side side
     const ChanceOutlook chancesAfter = countChances(after, bySeed(after));
     for (std::size_t player = 0; player < pool.picks.size(); ++player) {
         EXPECT_EQ(firstsAfter.players[player].all, firsts.players[player].given(game, side));
-        expectNear(chancesAfter.players[player].all, chances.given(player, game, side));
+        test::expectClose(chancesAfter.players[player].all, chances.given(player, game, side));
     }
     return countPlaces(after);
 }

@@ -2,6 +2,7 @@
 // theirs.
 #include "pool/outlook/forecast.h"
 
+#include "pool/outlook/close_chances.h"
 #include "pool/outlook/first_count.h"
 #include "pool/outlook/invented_pools.h"
 #include "pool/outlook/summed_chances.h"
@@ -34,23 +35,16 @@ void expectSame(const ChanceOutlook& made, const ChanceOutlook& expected)
     }
 }
 
-void expectNear(const FirstChances& made, const FirstChances& expected)
-{
-    ASSERT_NEAR(made.alone, expected.alone, 1e-9);
-    ASSERT_NEAR(made.together, expected.together, 1e-9);
-    ASSERT_NEAR(made.share, expected.share, 1e-9);
-}
-
 void expectExact(const Contest& contest)
 {
     const ChanceOutlook made = forecast(contest, 1, test::someChance);
     const ChanceOutlook expected = test::summedChances(contest, test::someChance);
     for (std::size_t player = 0; player < contest.players(); ++player) {
-        ASSERT_NO_FATAL_FAILURE(expectNear(made.players[player].all, expected.players[player].all));
+        ASSERT_NO_FATAL_FAILURE(test::expectClose(made.players[player].all, expected.players[player].all, 1e-9));
         for (std::size_t game = 0; game < contest.games().size(); ++game) {
             ASSERT_NEAR(made.upperWins[game], expected.upperWins[game], 1e-9);
-            ASSERT_NO_FATAL_FAILURE(
-                expectNear(made.players[player].andUpperWins[game], expected.players[player].andUpperWins[game]));
+            ASSERT_NO_FATAL_FAILURE(test::expectClose(made.players[player].andUpperWins[game],
+                                                      expected.players[player].andUpperWins[game], 1e-9));
         }
     }
 }
