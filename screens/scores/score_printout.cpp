@@ -97,7 +97,7 @@ std::string tabSeparated(const ui::Grid& grid)
     std::vector<std::string> headings;
     for (const ui::GridColumn& column : grid.columns)
         headings.push_back(column.heading);
-    std::string text = tabSeparatedLine(headings);
+    std::string text = joined(headings, "\t").append(kLineBreak); // ours: "-MAX-" stays as it is
     for (const Row& row : grid.rows)
         text += tabSeparatedLine(row);
     return text;

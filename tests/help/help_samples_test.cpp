@@ -42,9 +42,13 @@ protected:
     void saveOutlook()
     {
         FakeBoard board;
+        auto made = std::make_unique<FakeBackground>();
+        FakeBackground& background = *made;
         OutlookScreen outlook{folder, openPool(folder, platform.services, board), platform.services, screens,
-                              std::make_unique<FakeBackground>()};
-        outlook.load(); // counts so few games at once
+                              std::move(made)};
+        outlook.load();
+        for (int slice = 0; slice < 30; ++slice) // as many as it takes to count eight outcomes
+            background.doSlice();
         outlook.showState();
         outlook.cmdSaveReport.click();
     }
