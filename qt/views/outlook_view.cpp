@@ -84,7 +84,8 @@ QLayout* OutlookView::makeBar()
     QLabel* const outcomes = add(m_outlook.lblOutcomes);
     outcomes->setWordWrap(true);
     outcomes->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    outcomes->setFixedHeight(2 * outcomes->fontMetrics().lineSpacing()); // also where it needs one line only
+    outcomes->setFont(look::smallFont());
+    outcomes->setMinimumHeight(2 * outcomes->fontMetrics().lineSpacing()); // also where it needs one line only
     bar->addWidget(outcomes, 1);
     return bar;
 }

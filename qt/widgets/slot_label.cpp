@@ -103,7 +103,7 @@ QFont SlotLabel::fittingFont() const
 {
     QFont fitting = font();
     const int room = textPlace().width();
-    for (int stretch = 100; stretch > kNarrowest && QFontMetrics{fitting}.horizontalAdvance(text()) > room;) {
+    for (int stretch = 100; stretch > kNarrowest && QFontMetrics{fitting}.horizontalAdvance(text()) >= room;) {
         stretch -= 10; // few steps, because each is a font of its own
         fitting.setStretch(stretch);
     }

@@ -51,8 +51,9 @@ BoardGeometry layOutOutlook(double width, double height)
     BoardGeometry board = layOutBoard(width, height, kShares);
     board.textSize = std::max(board.textSize, kSmallestText);
     placeTitles(board, height);
-    board.championCaption.x = board.positions[kChampion].x;
-    board.championCaption.width = board.positions[kChampion].width;
+    const ui::Rectangle& champion = board.positions[kChampion];
+    const double caption = board.championCaption.height;
+    board.championCaption = {champion.x, champion.y - caption, champion.width, caption};
     return board;
 }
 

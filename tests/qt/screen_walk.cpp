@@ -1,6 +1,7 @@
 // tests/qt/screen_walk.cpp - checks what a screen reader gets of a window: names, roles and descriptions.
 #include "qt/screen_walk.h"
 
+#include "qt/widgets/picture_view.h"
 #include "qt/widgets/slot_label.h"
 
 #include <QAccessible>
@@ -67,6 +68,8 @@ QAccessible::Role roleOfClass(const QWidget& widget)
                                        Expected{"QStatusBar", QAccessible::StatusBar}};
     if (const auto* slot = qobject_cast<const SlotLabel*>(&widget))
         return slot->part() == SlotLabel::Part::Marker ? QAccessible::StaticText : QAccessible::Button;
+    if (qobject_cast<const PictureView*>(&widget))
+        return QAccessible::Graphic;
     if (qobject_cast<const QToolButton*>(&widget))
         return qobject_cast<const QToolButton*>(&widget)->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
     const auto* found = std::ranges::find_if(kRoles, [&](const Expected& one) { return widget.inherits(one.kind); });

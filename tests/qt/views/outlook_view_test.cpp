@@ -23,7 +23,11 @@ namespace {
 constexpr QSize kSmallDisplay{1366, 768 - 36}; ///< without a title bar
 constexpr QSize kLargeDisplay{1920, 1080 - 36};
 
-/// The sample pool: the regions are played, three games are open.
+const Position kTeam = *next(*next(firstRoundPosition(0, 0))); ///< the first winner of the second round
+const Position kTeamOnTheRight = *next(*next(firstRoundPosition(3, 0)));
+const Position kThirdRound = *next(kTeam);
+
+/// The sample pool after two rounds: 15 games are open, of which eight can be played next.
 class OutlookViewTest : public testing::Test
 {
 protected:
@@ -42,7 +46,11 @@ protected:
     OpenedPool samplePool() const
     {
         EXPECT_TRUE(demo::installSamplePool(folder));
-        return {.pool = readPool(folder)};
+        OpenedPool opened{.pool = readPool(folder)};
+        for (const Position position : gamePositions())
+            if (roundOf(position) > 2)
+                opened.pool.results->picks.clear(position);
+        return opened;
     }
 
     std::unique_ptr<ui::Background> makeBackground()
@@ -85,7 +93,7 @@ protected:
 
 TEST_F(OutlookViewTest, FitsTheDisplayWithoutScrollingAndShowsEveryColumn)
 {
-    for (const QSize display : {kSmallDisplay, kLargeDisplay, QSize{1280, 860}}) {
+    for (const QSize display : {QSize{1280, 860}, kSmallDisplay, kLargeDisplay}) {
         view.resize(display);
         QApplication::processEvents();
         const auto* const area = dynamic_cast<PageArea*>(view.centralWidget());
@@ -102,25 +110,23 @@ TEST_F(OutlookViewTest, FitsTheDisplayWithoutScrollingAndShowsEveryColumn)
 
 TEST_F(OutlookViewTest, AClickForwardsAndARightPressTakesBack)
 {
-    const Position arizona = regionWinner(0);
-    ASSERT_FALSE(outlook.lblRegion[arizona].text.empty());
-    click(kSemifinalA); // nobody is there yet
+    click(kThirdRound); // nobody is there yet
     EXPECT_FALSE(outlook.cmdUndo.enabled);
-    click(arizona);
-    EXPECT_EQ(outlook.lblRegion[kSemifinalA].text, outlook.lblRegion[arizona].text);
+    click(kTeam);
+    EXPECT_EQ(outlook.lblRegion[kThirdRound].text, outlook.lblRegion[kTeam].text);
     EXPECT_EQ(outlook.lblWhatIf.text, "What if: nothing here is saved");
-    click(kSemifinalA, Qt::RightButton);
-    EXPECT_EQ(outlook.lblRegion[kSemifinalA].text, "");
-    click(arizona);
-    click(arizona);
-    EXPECT_EQ(outlook.lblRegion[kSemifinalA].text, "") << "once more takes it back";
+    click(kThirdRound, Qt::RightButton);
+    EXPECT_EQ(outlook.lblRegion[kThirdRound].text, "");
+    click(kTeam);
+    click(kTeam);
+    EXPECT_EQ(outlook.lblRegion[kThirdRound].text, "") << "once more takes it back";
 }
 
 TEST_F(OutlookViewTest, AFrameAroundTheBoardSaysThatItIsSupposed)
 {
     const auto corner = [this] { return canvas().grab().toImage().pixelColor(1, 1); };
     const QColor before = corner();
-    click(regionWinner(0));
+    click(kTeam);
     EXPECT_EQ(corner(), (QColor{255, 231, 172}));
     desk.run(outlook, [this] { outlook.cmdAsEntered.click(); });
     EXPECT_EQ(corner(), before);
@@ -128,7 +134,7 @@ TEST_F(OutlookViewTest, AFrameAroundTheBoardSaysThatItIsSupposed)
 
 TEST_F(OutlookViewTest, ASwingIsBesideItsTeamAndCoversNothing)
 {
-    for (const Position team : {regionWinner(0), regionWinner(3)}) {
+    for (const Position team : {kTeam, kTeamOnTheRight}) {
         const auto& swing = widget<SlotLabel>(outlook.lblSwing[team]);
         ASSERT_TRUE(swing.isVisible());
         EXPECT_FALSE(swing.isElided());

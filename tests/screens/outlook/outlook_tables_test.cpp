@@ -142,7 +142,6 @@ TEST_F(OutlookTablesTest, WhoIsOutIsMuted)
 
 TEST_F(OutlookTablesTest, TheBarsAreAsLongAsTheChancesToBeFirst)
 {
-    EXPECT_THAT(screen->grdPlayers.bars->parts, ElementsAre(0, 0, 0)) << "nothing is known yet";
     workItOut();
     // First alone or together: Ann in 2 + 4 of 8 outcomes, Bob and Cleo in 2 + 4 as well.
     EXPECT_EQ(screen->grdPlayers.bars->column, static_cast<std::size_t>(OutlookColumn::First));
