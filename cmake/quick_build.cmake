@@ -35,6 +35,7 @@ set(TALLYHOOP_ALONE
     tests/qt/services/.* # in a namespace with a part called test, in which names of another such part are looked for
     tests/qt/hostile_names.*
     tests/qt/printer_dialogs_test.cpp
+    tests/qt/writers_under_faults_test.cpp
     tests/reports/team_selection_test.cpp
     tests/screens/players/players_screen_test.cpp
     tests/screens/reports/report_maker_test.cpp
