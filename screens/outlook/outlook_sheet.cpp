@@ -28,7 +28,8 @@ constexpr double kHeadingLine = 22;
 constexpr double kSpace = 14; ///< before a section
 constexpr double kDate = 140;
 constexpr double kChart = 260;
-constexpr double kGap = 6; ///< between two columns
+constexpr double kGap = 6;        ///< around what is supposed
+constexpr double kColumnGap = 12; ///< between two columns
 constexpr std::size_t kRowsOfAGoodEnd = 3;
 
 constexpr ui::Colour kInk{30, 32, 40};
@@ -61,8 +62,8 @@ void fillWidth(std::vector<SheetColumn>& columns, std::size_t widest)
 {
     double left = kWidth;
     for (const SheetColumn& column : columns)
-        left -= column.width + kGap;
-    columns[widest].width += left + kGap;
+        left -= column.width + kColumnGap;
+    columns[widest].width += left + kColumnGap;
 }
 
 SheetTable tableOfPlayers(const OutlookSheet& sheet)
@@ -188,7 +189,7 @@ private:
         double x = kMargin;
         for (const SheetColumn& column : table.columns) {
             page().captions.push_back({{x, m_y, column.width, kLine}, column.heading, kText, kGrey, column.alignment});
-            x += column.width + kGap;
+            x += column.width + kColumnGap;
         }
         m_y += kLine;
         page().strokes.push_back({kMargin, m_y, kMargin + kWidth, m_y, kInk});
@@ -215,7 +216,7 @@ private:
             const SheetColumn& column = table.columns[i];
             page().captions.push_back(
                 {{x, m_y, column.width, kLine}, row.cells[i], kText, row.colour, column.alignment, row.isChosen});
-            x += column.width + kGap;
+            x += column.width + kColumnGap;
         }
         m_y += kLine;
         page().strokes.push_back({kMargin, m_y, kMargin + kWidth, m_y, kRule, 0.5});
