@@ -20,7 +20,9 @@ constexpr double kSmallestText = 9; ///< where the units are pixels, less cannot
 // In heights of a letter.
 constexpr double kSwing = 3.9;      ///< room for "+100.0"
 constexpr double kShortSwing = 3.1; ///< room for "+12.3": before the second round nobody has more at stake
-constexpr double kTitle = 2;
+constexpr double kTitle = 1.8;
+
+constexpr double kFrame = 3; ///< room at the edges for a frame
 
 /// Rounds 1 to 3 have their swings on the side of the middle of the board, later ones on the other: there the next or
 /// the last column has no place at that height.
@@ -39,7 +41,7 @@ void placeTitles(BoardGeometry& board, double height)
         const ui::Rectangle& inner = board.positions[winner];
         const double left = std::min(outer.x, inner.x);
         const double room = kTitle * board.textSize;
-        board.regionTitles[static_cast<std::size_t>(region)] = {left, region % 2 == 0 ? 0 : height - room,
+        board.regionTitles[static_cast<std::size_t>(region)] = {left, region % 2 == 0 ? kFrame : height - kFrame - room,
                                                                 std::max(outer.right(), inner.right()) - left, room};
     }
 }

@@ -27,6 +27,14 @@ std::vector<double> partsOfLargest(std::span<const OutlookRow> rows)
     return parts;
 }
 
+/// @returns why no game is listed
+std::string noteWithoutGames(bool noneIsOpen, ChanceSource source)
+{
+    if (noneIsOpen)
+        return "No game is open.";
+    return source == ChanceSource::None ? "Nothing is counted yet." : "No open game makes a difference.";
+}
+
 } // namespace
 
 void OutlookScreen::describeGrids()
@@ -48,7 +56,6 @@ void OutlookScreen::describeGrids()
                         {"Swing", ui::Alignment::Right, 5},
                         {"When", ui::Alignment::Left, 5}};
     grdGames.wholeRows = true;
-    grdGames.emptyNote = "No open game makes a difference.";
     grdGames.explanation =
         "Swing: how much the shares of all players differ between the two ways a game can end. Next: "
         "both teams are known. Press a game to go to it on the board.";
@@ -110,6 +117,7 @@ void OutlookScreen::showGames(const std::vector<OpenGame>& games)
     if (m_figures.source != ChanceSource::None)
         weights = weightsOf(m_figures.chances);
     std::ranges::stable_partition(weights, [&](const GameWeight& weight) { return games[weight.openGame].isNext; });
+    grdGames.emptyNote = noteWithoutGames(games.empty(), m_figures.source);
     const std::vector<double> ofChosen = swings();
     std::vector<std::vector<std::string>> rows;
     m_listed.clear();

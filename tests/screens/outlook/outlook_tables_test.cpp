@@ -162,6 +162,30 @@ TEST_F(OutlookTablesTest, GamesThatCanBePlayedNextComeFirst)
     EXPECT_THAT(screen->grdGames.rows[2], ElementsAre(testing::_, testing::_, "100.0", "later"));
 }
 
+TEST_F(OutlookTablesTest, AnEmptyListOfGamesSaysWhy)
+{
+    screen->cmdHigherSeeds.click();
+    workItOut();
+    EXPECT_THAT(screen->grdGames.rows, IsEmpty());
+    EXPECT_EQ(screen->grdGames.emptyNote, "No game is open.");
+    for (const Position position : gamePositions())
+        opened.pool.results->picks.clear(position);
+    auto idle = std::make_unique<FakeBackground>();
+    screen = std::make_unique<OutlookScreen>(folder, opened, platform.services, screens, std::move(idle));
+    screen->load();
+    screen->showState();
+    EXPECT_EQ(screen->grdGames.emptyNote, "Nothing is counted yet.");
+    // Where all have picked alike no game makes a difference.
+    for (Entry& entry : opened.pool.entries)
+        entry.picks = beforeTheFinal();
+    opened.pool.results->picks = beforeTheFinal();
+    screen =
+        std::make_unique<OutlookScreen>(folder, opened, platform.services, screens, std::make_unique<FakeBackground>());
+    screen->load();
+    screen->showState();
+    EXPECT_EQ(screen->grdGames.emptyNote, "No open game makes a difference.");
+}
+
 TEST_F(OutlookTablesTest, AGameOfTheListIsMarkedOnTheBoard)
 {
     workItOut();
