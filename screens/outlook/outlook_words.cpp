@@ -9,17 +9,30 @@
 
 namespace tallyhoop {
 
+std::string captionOf(ChanceKind kind)
+{
+    switch (kind) {
+    case ChanceKind::BySeed:
+        return "By seed";
+    case ChanceKind::AsPicked:
+        return "As this pool picked";
+    case ChanceKind::Alike:
+        break;
+    }
+    return "All alike";
+}
+
 std::string explanationOf(ChanceKind kind)
 {
     switch (kind) {
     case ChanceKind::BySeed:
-        return "By seed: a team seeded a beats one seeded b with the chance b / (a + b).";
+        return captionOf(kind) + ": a team seeded a beats one seeded b with the chance b / (a + b).";
     case ChanceKind::AsPicked:
-        return "As this pool picked: the more players picked a team to win this game, the likelier; each has one more.";
+        return captionOf(kind) + ": the more players picked a team to win this game, the likelier; each has one more.";
     case ChanceKind::Alike:
         break;
     }
-    return "All alike: every outcome counts the same, as if each game were the toss of a coin.";
+    return captionOf(kind) + ": every outcome counts the same, as if each game were the toss of a coin.";
 }
 
 std::string sentencesOf(std::span<const std::string> lines) { return joined(lines, ". ") + "."; }
@@ -30,10 +43,11 @@ std::string basisInShort(const OutlookBasis& basis)
         return sentencesOf(basisInWords(basis));
     switch (basis.source) {
     case ChanceSource::Forecast:
-        return fmt::format("Forecast from {} samples, seed {}; standard error at most {}.", basis.samples, basis.seed,
-                           errorInWords(basis.error));
+        return fmt::format("{}: forecast from {} samples, seed {}; standard error at most {}.",
+                           captionOf(basis.chances), basis.samples, basis.seed, errorInWords(basis.error));
     case ChanceSource::Counted:
-        return fmt::format("{} outcomes left, every one counted.", std::uint64_t{1} << basis.openGames);
+        return fmt::format("{}: {} outcomes left, every one counted.", captionOf(basis.chances),
+                           std::uint64_t{1} << basis.openGames);
     case ChanceSource::None:
         break;
     }

@@ -12,14 +12,17 @@
 
 namespace tallyhoop {
 
+/// @returns what these chances are called on the screen, "All alike"
+std::string captionOf(ChanceKind kind);
+
 /// @returns how these chances come about, in a sentence
 std::string explanationOf(ChanceKind kind);
 
 /// @returns lines as sentences, one after the other
 std::string sentencesOf(std::span<const std::string> lines);
 
-/// @returns whether an outlook is counted or a forecast, in a sentence for the place beside the choice of chances, such
-///          as "32768 outcomes left, every one counted."
+/// @returns by which chances an outlook is made, and whether it is counted or a forecast, in a short sentence, such as
+///          "All alike: 32768 outcomes left, every one counted."
 std::string basisInShort(const OutlookBasis& basis);
 
 /// @param fraction 0..1

@@ -87,7 +87,7 @@ TEST_F(OutlookScreenTest, ShowsWhoCanStillBeFirst)
     open();
     EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Ann", "X, Bob", "X, Cleo"));
     EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("50.0 %", "25.0 %", "25.0 %"));
-    EXPECT_EQ(screen->lblOutcomes.text, "2 outcomes left, every one counted.");
+    EXPECT_EQ(screen->lblOutcomes.text, "All alike: 2 outcomes left, every one counted.");
     EXPECT_EQ(screen->lblWhatIf.text, "The results as entered");
     EXPECT_FALSE(screen->cmdAsEntered.enabled);
     EXPECT_TRUE(screen->cmdStop.enabled) << "there is still the road";
@@ -164,7 +164,7 @@ TEST_F(OutlookScreenTest, TakesOtherChances)
     screen->optChances[1].changed();
     workItOut();
     EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("75.0 %", "12.5 %", "12.5 %"));
-    EXPECT_EQ(screen->lblOutcomes.text, "2 outcomes left, every one counted.");
+    EXPECT_EQ(screen->lblOutcomes.text, "By seed: 2 outcomes left, every one counted.");
     EXPECT_THAT(screen->news().text, HasSubstr("b / (a + b)"));
 }
 
@@ -191,17 +191,18 @@ TEST_F(OutlookScreenTest, StopsWhenItIsAskedTo)
     screen->showState();
     background->doSlice();
     screen->showState();
-    EXPECT_THAT(screen->lblOutcomes.text, StartsWith("Forecast from 500 samples, seed 2000; standard error at most "));
+    EXPECT_THAT(screen->lblOutcomes.text,
+                StartsWith("All alike: forecast from 500 samples, seed 2000; standard error at most "));
     EXPECT_TRUE(screen->cmdStop.enabled);
     screen->cmdStop.click();
     screen->showState();
-    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("Stopped. Forecast from 500 samples"));
+    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("Stopped. All alike: forecast from 500 samples"));
     EXPECT_FALSE(screen->cmdStop.enabled);
     EXPECT_EQ(screen->news().text, "Stopped: what is known by now stays.");
     EXPECT_FALSE(background->doSlice()) << "the one that was running";
     screen->showState();
     EXPECT_FALSE(screen->isWorking());
-    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("Stopped. Forecast from 1000 samples"));
+    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("Stopped. All alike: forecast from 1000 samples"));
     EXPECT_THAT(column(OutlookColumn::Share), Each(HasSubstr("%")));
 }
 
@@ -304,7 +305,7 @@ TEST_F(OutlookScreenTest, SaysHowManyPlayersAreMissing)
     open();
     ASSERT_THAT(platform.dialogs.shown, SizeIs(1));
     EXPECT_THAT(platform.dialogs.shown[0].text, HasSubstr("Smith_JS.THC"));
-    EXPECT_EQ(screen->lblOutcomes.text, "2 outcomes left, every one counted. "
+    EXPECT_EQ(screen->lblOutcomes.text, "All alike: 2 outcomes left, every one counted. "
                                         "1 player is missing: the selection cannot be read.");
 }
 
