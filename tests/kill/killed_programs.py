@@ -7,7 +7,7 @@ import subprocess
 import time
 
 from saving_program import BUILD, Broken, Pool, SavingProgram
-from writers import DEMO, FAULTY_LIST, OFFER, comparable
+from writers import DEMO, FAULTY_LIST, OFFER, OPEN_ALREADY, comparable
 
 BETWEEN_STARTS = 25  # after so many kills the program starts on what is left, even when nothing about it is new
 
@@ -50,7 +50,8 @@ class KilledProgram:
 
     # --- what is left after a kill ---
 
-    def look(self):
+    def look(self, is_open=False):
+        """is_open: the program that was not killed itself still has the folder open, and the next one says so."""
         self.kills += 1
         if self.writer.own_files:
             self.look_for_own_files()
@@ -59,7 +60,7 @@ class KilledProgram:
         state = self.state()
         if state not in self.states or self.kills % BETWEEN_STARTS == 0:
             self.states.add(state)
-            self.start_on_rest()
+            self.start_on_rest({OPEN_ALREADY} if is_open else set())
         self.pool.reset()  # otherwise the program would first ask about the changed file, which takes time
 
     def state(self):
@@ -82,10 +83,11 @@ class KilledProgram:
                          if not self.pool.is_program(file) or file.is_dir()
                          if file.name in known or file.is_dir() or file.name.endswith(".tmp~"))
 
-    def start_on_rest(self):
-        """Starts the program on exactly what a kill has left; it must show no unexpected message."""
+    def start_on_rest(self, boxes):
+        """Starts the program on exactly what a kill has left; it must show these messages and no unexpected one."""
         lacks_field = not (self.pool.folder / "POOLSTART.THS").exists()
-        boxes = {OFFER, DEMO} if lacks_field else set()  # the offer is accepted
+        if lacks_field:
+            boxes |= {OFFER, DEMO}  # the offer is accepted
         players = "PLAYERNAMES.CSV"
         if self.writer.name == "annotated" and self.pool.read(players) != self.pool.pristine[players]:
             boxes.add(FAULTY_LIST)  # which is true: the list itself has been damaged
@@ -169,7 +171,7 @@ class KilledProgram:
         with contextlib.suppress(ProcessLookupError):
             os.kill(child, signal.SIGKILL)
         status = program.child_status()
-        self.look()
+        self.look(is_open=True)
         if status == 0 and only_once:
             self.kills -= 1  # it ended before the kill
         elif status != signal.SIGKILL:
@@ -200,7 +202,7 @@ class KilledProgram:
                 call += 1
                 program.child(f"forkone {10 + call} {call}")
                 status = program.child_status()
-                self.look()
+                self.look(is_open=True)
         if status != 0:
             raise Broken(f"the child ended with {status}")
         self.kills -= 1  # the last one survived

@@ -6,9 +6,12 @@ import re
 
 MARK = re.compile(rb" *MARK\d+x*")  # titles are centred: the blanks differ with the length
 POINTS = re.compile(rb"\r\n1\d\d(\r\n\*END\*\r\n)\Z")
+CHANCES = re.compile(rb"^Chances: .*\r\n", re.MULTILINE)
+VERDICTS = re.compile(rb"( +\d+(-\d+)?){2}  (Clinched|Alive|Open|Out)\r\n")
 CHANGED = "** FILE HAS BEEN CHANGED **"
 FAULTY_LIST = "** ERROR Found in PLAYERNAMES.CSV file **"
 OFFER = "** DEMO MODE OPTION **"
+OPEN_ALREADY = "TALLYHOOP IS OPEN ALREADY"
 DEMO = "STALLYHOOP DEMOSTRATION MODE"  # sic
 
 OWN_FILES = ["POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV", "Demo Favorite_DF.THC", "Demo Halfway_DH.THC",
@@ -17,6 +20,12 @@ OWN_FILES = ["POOLSTART.THS", "TALLYHOOP.THS", "PLAYERNAMES.CSV", "Demo Favorite
 
 def without_marks(content):
     return MARK.sub(b"MARK", content)
+
+
+def without_chances_and_verdicts(content):
+    """In the sample pool one player is first by any chances. Places and verdicts are found in the background, by a thread
+    that a forked child does not have."""
+    return VERDICTS.sub(b"\r\n", CHANCES.sub(b"", content))
 
 
 def without_points(content):
@@ -69,6 +78,7 @@ WRITERS = {writer.name: writer for writer in [
     Writer("annotated", ["PLAYERNAMES.TXT"], without_marks, boxes=[FAULTY_LIST]),
     Writer("teams", ["NCAALIST.THS"], without_marked_lines, finalized=False, boxes=["TEAM NAMES Changed / Added"]),
     *[report(number) for number in range(1, 8)],
+    Writer("outlook", ["OUTLOOK.TXT"], without_chances_and_verdicts),
     Writer("message", ["TALLYHOOP.EML", "RPTOPT2.TXT"], None),
     Writer("pdf", ["Bracket.PDF"], pdf, boxes=["Tallyhoop"]),
     Writer("installer", [], lambda content: content),

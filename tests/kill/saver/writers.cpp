@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QSaveFile>
 #include <array>
+#include <string>
 
 namespace saver {
 namespace {
@@ -69,7 +70,15 @@ void makeReport(int round)
     click("cmdPrintSelections");
 }
 
-const std::array<Writer, 18> kWriters{{
+/// Each round names other chances in the report.
+void saveOutlook(int round)
+{
+    constexpr int kKinds = 3;
+    click(("optChances_" + std::to_string(round % kKinds)).c_str());
+    click("cmdSaveReport");
+}
+
+const std::array<Writer, 19> kWriters{{
     {"nothing", nothing, [](int) {}},
     {"setup", [] { choose("mnuSetupOptions"); }, saveSetup},
     {"results", [] { choose("mnuGameResults"); }, saveBoard},
@@ -84,6 +93,7 @@ const std::array<Writer, 18> kWriters{{
     {"report5", prepareReport<'4', '1'>, makeReport},
     {"report6", prepareReport<'5', '1'>, makeReport},
     {"report7", prepareReport<'6', '1'>, makeReport},
+    {"outlook", [] { choose("mnuOutlook"); }, saveOutlook},
     {"message", prepareReport<'1', '3'>, makeReport},
     {"pdf", [] { choose("mnuReports"); }, [](int) { click("cmdSaveBoardPdf"); }},
     {"backup", nothing, [](int) { choose("mnuDemoSet"); }},
