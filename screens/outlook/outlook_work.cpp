@@ -8,6 +8,8 @@ namespace tallyhoop {
 
 namespace {
 
+constexpr std::uint64_t kQuickSlices = 20; ///< of a quick forecast: about a tenth of a second
+
 /// Samples of one slice: a sample takes longer the more players there are.
 std::uint64_t samplesOfASlice(std::size_t players)
 {
@@ -52,7 +54,10 @@ std::vector<OutlookWork::Stage> OutlookWork::planFor(std::size_t openGames, Chan
     if (kind != ChanceKind::Alike)
         plan.push_back(Stage::Chances);
     plan.push_back(Stage::Firsts); // also beside other chances: it decides the verdicts
-    plan.insert(openGames > kFewGames ? plan.begin() : plan.end(), Stage::Prospects);
+    if (openGames > kFewGames)
+        plan.insert(plan.begin(), {Stage::QuickForecast, Stage::Prospects});
+    else
+        plan.push_back(Stage::Prospects);
     if (openGames <= kMostPlacedGames)
         plan.push_back(Stage::Places);
     return plan;
@@ -63,6 +68,9 @@ void OutlookWork::advance(const Step& step)
     if (isDone())
         return;
     switch (m_plan[m_stage]) {
+    case Stage::QuickForecast:
+        forecast(quickSamples());
+        break;
     case Stage::Prospects:
         findCertainties(step);
         break;
@@ -88,7 +96,7 @@ void OutlookWork::advance(const Step& step)
             [this](const PlaceCount& done) { m_places = done.places(); });
         break;
     case Stage::Forecast:
-        forecast();
+        forecast(kMostSamples);
         break;
     }
 }
@@ -123,15 +131,19 @@ void OutlookWork::count(const Step& step, Make make, Take take)
     if (!running.isDone())
         return;
     take(running);
+    m_forecast.reset();
     finishStage();
 }
 
-void OutlookWork::forecast()
+std::uint64_t OutlookWork::quickSamples() const { return kQuickSlices * samplesOfASlice(m_contest.players()); }
+
+/// @param samples that it grows to
+void OutlookWork::forecast(std::uint64_t samples)
 {
     if (!m_forecast)
         m_forecast.emplace(m_contest, m_upperChance);
     m_forecast->add(samplesOfASlice(m_contest.players()));
-    if (m_forecast->samples() >= kMostSamples || m_contest.players() == 0)
+    if (m_forecast->samples() >= samples || m_contest.players() == 0)
         finishStage();
 }
 
@@ -148,15 +160,18 @@ double OutlookWork::fraction() const
 
 double OutlookWork::fractionOfStage() const
 {
-    if (m_forecast)
-        return std::min(static_cast<double>(m_forecast->samples()) / static_cast<double>(kForecastSamples), 1.0);
+    const Stage stage = m_plan[m_stage];
+    if (m_forecast && (stage == Stage::QuickForecast || stage == Stage::Forecast)) {
+        const std::uint64_t whole = stage == Stage::QuickForecast ? quickSamples() : kForecastSamples;
+        return std::min(static_cast<double>(m_forecast->samples()) / static_cast<double>(whole), 1.0);
+    }
     if (const auto* firsts = std::get_if<FirstCount>(&m_running))
         return firsts->fraction();
     if (const auto* chances = std::get_if<ChanceCount>(&m_running))
         return chances->fraction();
     if (const auto* places = std::get_if<PlaceCount>(&m_running))
         return places->fraction();
-    if (m_plan[m_stage] == Stage::Prospects && m_contest.players() > 0)
+    if (stage == Stage::Prospects && m_contest.players() > 0)
         return static_cast<double>(m_prospectSteps) / static_cast<double>(2 * m_contest.players());
     return 0;
 }

@@ -25,7 +25,8 @@ namespace tallyhoop {
 /// what it was made from any longer.
 ///
 /// Few open games are counted first, because that is done at once; with more of them it is first found what can be
-/// proven without counting. Too many to count make a forecast, which grows until it is stopped or large enough.
+/// proven without counting. Before they are counted, a quick forecast says about what will come out. Too many to count
+/// make a forecast only, which grows until it is stopped or large enough.
 class OutlookWork
 {
 public:
@@ -54,7 +55,7 @@ public:
     /// Whether there are chances already, counted or estimated.
     bool hasChances() const { return m_chances || m_firsts || (m_forecast && m_forecast->samples() > 0); }
 
-    /// Whether there are chances that may be shown as a result: counted, or a forecast of kForecastSamples.
+    /// Whether there are chances that may be taken over as a result: counted, or a forecast of kForecastSamples.
     bool hasFigures() const;
 
     /// How many parts of the work are finished.
@@ -64,13 +65,14 @@ public:
     OutlookFigures figures() const;
 
 private:
-    enum class Stage { Prospects, Chances, Firsts, Places, Forecast };
+    enum class Stage { QuickForecast, Prospects, Chances, Firsts, Places, Forecast };
 
     static std::vector<Stage> planFor(std::size_t openGames, ChanceKind kind);
     void findCertainties(const Step& step);
     template <class Count, class Make, class Take>
     void count(const Step& step, Make make, Take take);
-    void forecast();
+    void forecast(std::uint64_t samples);
+    std::uint64_t quickSamples() const;
     double fractionOfStage() const;
     std::vector<PlayerProspect> prospects() const;
     void addChances(OutlookFigures& figures) const;
@@ -83,7 +85,7 @@ private:
     std::size_t m_prospectSteps = 0; ///< done of finding what is certain, two for each player
 
     std::variant<std::monostate, FirstCount, ChanceCount, PlaceCount> m_running;
-    std::optional<Forecast> m_forecast;
+    std::optional<Forecast> m_forecast; ///< nothing once there are counted chances
     std::optional<std::vector<PlayerProspect>> m_proven;
     std::optional<FirstOutlook> m_firsts;
     std::optional<ChanceOutlook> m_chances;

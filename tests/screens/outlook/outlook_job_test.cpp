@@ -2,6 +2,7 @@
 #include "screens/outlook/outlook_job.h"
 
 #include "pool/outlook/invented_pools.h"
+#include "screens/outlook/duel_pool.h"
 #include "screens/outlook/final_pool.h"
 
 #include <gmock/gmock.h>
@@ -64,6 +65,18 @@ TEST_F(OutlookJobTest, TakesItsOwnChancesAsThoseOfNow)
     EXPECT_THAT(road->points()[0].errors, testing::ElementsAre(0, 0, 0));
     EXPECT_TRUE(road->points()[0].isNow);
     EXPECT_EQ(road->points()[0].round, 5);
+}
+
+TEST_F(OutlookJobTest, TakesNoQuickForecastAsThatOfNow)
+{
+    pool = duelPool();
+    picks = {pool.entries[0].picks, pool.entries[1].picks};
+    entered = pool.results->picks;
+    OutlookJob job = begin(entered);
+    while (road->points().empty())
+        job.advance();
+    EXPECT_EQ(road->points()[0].samples, 0u);
+    EXPECT_EQ(shareNow(0), 0.5);
 }
 
 TEST_F(OutlookJobTest, FindsTheChancesAsEnteredBesideThoseSupposed)

@@ -2,6 +2,7 @@
 #include "screens/outlook/outlook_work.h"
 
 #include "pool/outlook/invented_pools.h"
+#include "screens/outlook/duel_pool.h"
 #include "screens/outlook/final_pool.h"
 
 #include <gmock/gmock.h>
@@ -26,6 +27,12 @@ Contest inventedContest(std::size_t players, std::size_t openGames)
     InventedPools invented{7};
     const Bracket results = invented.withOpen(invented.picked(), openGames);
     return {results, invented.office(players), kUsualPayoffs};
+}
+
+void forecastQuickly(OutlookWork& work)
+{
+    while (work.stagesDone() == 0)
+        work.advance();
 }
 
 TEST(OutlookWorkTest, CountsTheOnlyGameThatIsLeft)
@@ -84,9 +91,63 @@ TEST(OutlookWorkTest, KnowsNothingBeforeTheFirstSlice)
 TEST(OutlookWorkTest, FindsWhatIsCertainBeforeItCountsManyGames)
 {
     OutlookWork work{inventedContest(4, 20), finalField(), ChanceKind::Alike};
+    forecastQuickly(work);
+    EXPECT_EQ(work.figures().prospects.at(0).best.most, 4u);
     work.advance();
-    EXPECT_EQ(work.figures().source, ChanceSource::None);
+    EXPECT_EQ(work.figures().source, ChanceSource::Forecast);
     EXPECT_LT(work.figures().prospects.at(0).best.most, 4u) << "the search has found better places than the last";
+}
+
+TEST(OutlookWorkTest, ForecastsQuicklyBeforeItCountsManyGames)
+{
+    OutlookWork work{duelContest(), finalField(), ChanceKind::Alike};
+    work.advance();
+    const OutlookFigures first = work.figures();
+    EXPECT_EQ(first.source, ChanceSource::Forecast);
+    EXPECT_EQ(first.samples, 500u);
+    EXPECT_DOUBLE_EQ(work.fraction(), 1.0 / 20 / 4) << "of the first of four parts";
+    EXPECT_NEAR(first.chances.players.at(0).all.share, 0.5, 0.1);
+    // A sample is won or lost as a whole: the error is the root of 1/2 * 1/2 / 499.
+    EXPECT_NEAR(first.errors.at(0), 0.0224, 0.0002);
+    EXPECT_NEAR(first.chances.given(0, 0, Side::Upper).share, 1, 1e-9) << "who is right in the duel is first";
+    EXPECT_NEAR(first.chances.given(0, 0, Side::Lower).share, 0, 1e-9);
+    forecastQuickly(work);
+    EXPECT_EQ(work.figures().samples, 10'000u);
+    EXPECT_FALSE(work.hasFigures()) << "nothing to take over as a result";
+    while (!work.isDone())
+        work.advance();
+    const OutlookFigures counted = work.figures();
+    EXPECT_EQ(counted.source, ChanceSource::Counted);
+    EXPECT_EQ(counted.samples, 0u);
+    EXPECT_EQ(counted.chances.players.at(0).all.share, 0.5);
+    EXPECT_THAT(counted.errors, ElementsAre(0, 0));
+}
+
+TEST(OutlookWorkTest, ReplacesAForecastBySeedAsSoonAsTheChancesAreCounted)
+{
+    // The upper team of the duel is seeded 1, the lower one 3: 3 / (1 + 3).
+    OutlookWork work{duelContest(), finalField(), ChanceKind::BySeed};
+    forecastQuickly(work);
+    EXPECT_NEAR(work.figures().chances.players.at(0).all.share, 0.75, 0.03);
+    while (work.figures().source == ChanceSource::Forecast)
+        work.advance();
+    EXPECT_NEAR(work.figures().chances.players.at(0).all.share, 0.75, 1e-6);
+    EXPECT_THAT(work.figures().firstOutcomes, SizeIs(0)) << "the outcomes are counted later, for the verdicts";
+}
+
+TEST(OutlookWorkTest, ForecastsNoneOfFewGames)
+{
+    const Pool pool = duelPool();
+    const Bracket results = advanced(pool.results->picks, kUpperOfDuel);
+    OutlookWork work{{results, std::vector{pool.entries[0].picks, pool.entries[1].picks}, kUsualPayoffs},
+                     finalField(),
+                     ChanceKind::Alike};
+    ASSERT_EQ(work.contest().games().size(), 15u);
+    while (!work.isDone()) {
+        work.advance();
+        EXPECT_NE(work.figures().source, ChanceSource::Forecast);
+    }
+    EXPECT_EQ(work.figures().chances.players.at(0).all.share, 1);
 }
 
 TEST(OutlookWorkTest, WorksInSlicesWithAGrowingFraction)
@@ -125,6 +186,7 @@ TEST(OutlookWorkTest, ForecastsWhatCannotBeCounted)
 TEST(OutlookWorkTest, StopsWhileItFindsWhatIsCertain)
 {
     OutlookWork work{inventedContest(4, 20), finalField(), ChanceKind::Alike};
+    forecastQuickly(work);
     int steps = 0;
     work.advance([&] { return ++steps < 2; });
     EXPECT_EQ(steps, 2);
@@ -135,23 +197,25 @@ TEST(OutlookWorkTest, StopsWhileItFindsWhatIsCertain)
 TEST(OutlookWorkTest, StopsWhileItPreparesACount)
 {
     OutlookWork work{inventedContest(40, 22), finalField(), ChanceKind::Alike};
+    forecastQuickly(work);
     work.advance(); // what is certain
     int steps = 0;
     work.advance([&] { return ++steps < 3; });
     EXPECT_GE(steps, 3) << "asked in between, for the players that are compared";
     EXPECT_LT(steps, 3 + 6) << "it goes on no longer";
     EXPECT_TRUE(work.isDone());
-    EXPECT_EQ(work.figures().source, ChanceSource::None);
+    EXPECT_EQ(work.figures().source, ChanceSource::Forecast) << "what is known by then stays";
 }
 
 TEST(OutlookWorkTest, StopsWhileItCounts)
 {
     OutlookWork work{inventedContest(4, 22), finalField(), ChanceKind::Alike};
+    forecastQuickly(work);
     work.advance(); // what is certain
     work.advance(); // prepares
     work.advance([] { return false; });
     EXPECT_TRUE(work.isDone());
-    EXPECT_EQ(work.figures().source, ChanceSource::None);
+    EXPECT_EQ(work.figures().source, ChanceSource::Forecast) << "what is known by then stays";
 }
 
 TEST(OutlookWorkTest, IsDoneAtOnceWithoutPlayers)
