@@ -58,7 +58,7 @@ OutlookScreen::OutlookScreen(const DataFolder& folder, OpenedPool opened, const 
         "Supposes that the better seed wins every open game; of equal seeds, the team listed later.";
     cmdUndo.explanation = "Takes back what was supposed last.";
     cmdShowWay.explanation = "Supposes one way for the games to end in which the chosen player is first.";
-    cmdStop.explanation = "Stops counting; what is known by then stays.";
+    cmdStop.explanation = "Ends the work; what is known by then stays.";
     cmdSaveReport.explanation = "Writes the table as it is shown to OUTLOOK.TXT in the program's folder.";
     cmdSavePdf.explanation = "Saves the table, the road and the games that matter as a PDF file.";
     cmdPrint.explanation = "Prints the table, the road and the games that matter.";
@@ -226,7 +226,18 @@ std::string OutlookScreen::howFar() const
     if (m_figures.source == ChanceSource::None && !m_stopped && isWorking())
         return workingWords(m_worker->fraction());
     const std::string stopped = !m_isWhole && (m_stopped || !isWorking()) ? "Stopped. " : "";
-    return stopped + basisInShort(basisOf(m_kind, m_games.size(), m_figures));
+    const std::string toCome = stillToCome();
+    return stopped + basisInShort(basisOf(m_kind, m_games.size(), m_figures)) + (toCome.empty() ? "" : " " + toCome);
+}
+
+std::string OutlookScreen::stillToCome() const
+{
+    if (m_stopped || !isWorking())
+        return {};
+    if (const double fraction = m_worker->fraction(); fraction < 1)
+        return m_figures.source == ChanceSource::Counted ? "The verdicts and places are being worked out."
+                                                         : workingWords(fraction);
+    return m_road.points.size() < m_road.times.size() ? "The road is being worked out." : "";
 }
 
 } // namespace tallyhoop

@@ -105,6 +105,7 @@ private:
     void showPlayer();
     void showRoad();
     std::string howFar() const;
+    std::string stillToCome() const;
     std::string proofFor(std::size_t player) const;
     std::vector<double> swings() const;
 

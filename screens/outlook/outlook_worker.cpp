@@ -95,8 +95,9 @@ public:
     {
         m_job.advance([&] {
             m_exchange->setFraction(m_job.work().fraction());
-            m_isCut = m_isCut || m_exchange->isStopped();
-            return !m_isCut && goesOn();
+            const bool isStopped = m_exchange->isStopped();
+            m_isCut = m_isCut || (isStopped && !m_job.work().isDone());
+            return !isStopped && goesOn();
         });
         m_exchange->setFraction(m_job.work().fraction());
         const bool isOver = m_job.isDone() || m_exchange->isStopped();
@@ -118,7 +119,7 @@ private:
 
     OutlookJob m_job;
     std::shared_ptr<Exchange> m_exchange;
-    bool m_isCut = false; ///< in the middle of a slice
+    bool m_isCut = false; ///< in the middle of a slice of the figures
     std::size_t m_publishedStages = 0;
 };
 

@@ -87,7 +87,7 @@ TEST_F(OutlookScreenTest, ShowsWhoCanStillBeFirst)
     open();
     EXPECT_THAT(column(OutlookColumn::Player), ElementsAre("X, Ann", "X, Bob", "X, Cleo"));
     EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("50.0 %", "25.0 %", "25.0 %"));
-    EXPECT_EQ(screen->lblOutcomes.text, "All alike: 2 outcomes left, every one counted.");
+    EXPECT_EQ(screen->lblOutcomes.text, "All alike: 2 outcomes left, every one counted. The road is being worked out.");
     EXPECT_EQ(screen->lblWhatIf.text, "The results as entered");
     EXPECT_FALSE(screen->cmdAsEntered.enabled);
     EXPECT_TRUE(screen->cmdStop.enabled) << "there is still the road";
@@ -113,7 +113,7 @@ TEST_F(OutlookScreenTest, FollowsWhatIsSupposedAndComparesIt)
     EXPECT_THAT(column(OutlookColumn::Change), ElementsAre("+25.0", "+25.0", "-50.0"));
     EXPECT_THAT(column(OutlookColumn::Verdict), ElementsAre("Clinched", "Clinched", "Out"));
     EXPECT_THAT(column(OutlookColumn::Points), ElementsAre("168", "168", "152"));
-    EXPECT_EQ(screen->lblOutcomes.text, "No game is open: these are the final places.");
+    EXPECT_EQ(screen->lblOutcomes.text, "No game is open: these are the final places. The road is being worked out.");
 }
 
 TEST_F(OutlookScreenTest, PutsTheResultsBack)
@@ -164,7 +164,7 @@ TEST_F(OutlookScreenTest, TakesOtherChances)
     screen->optChances[1].changed();
     workItOut();
     EXPECT_THAT(column(OutlookColumn::Share), ElementsAre("75.0 %", "12.5 %", "12.5 %"));
-    EXPECT_EQ(screen->lblOutcomes.text, "By seed: 2 outcomes left, every one counted.");
+    EXPECT_EQ(screen->lblOutcomes.text, "By seed: 2 outcomes left, every one counted. The road is being worked out.");
     EXPECT_THAT(screen->news().text, HasSubstr("b / (a + b)"));
 }
 
@@ -305,7 +305,7 @@ TEST_F(OutlookScreenTest, SaysHowManyPlayersAreMissing)
     open();
     ASSERT_THAT(platform.dialogs.shown, SizeIs(1));
     EXPECT_THAT(platform.dialogs.shown[0].text, HasSubstr("Smith_JS.THC"));
-    EXPECT_EQ(screen->lblOutcomes.text, "All alike: 2 outcomes left, every one counted. "
+    EXPECT_EQ(screen->lblOutcomes.text, "All alike: 2 outcomes left, every one counted. The road is being worked out. "
                                         "1 player is missing: the selection cannot be read.");
 }
 
