@@ -7,7 +7,6 @@
 
 #include <QLabel>
 #include <QSplitter>
-#include <initializer_list>
 
 namespace tallyhoop::qt {
 
@@ -18,13 +17,16 @@ constexpr int kWhatIfWidth = 230; ///< room for either of its texts
 constexpr int kLook = 30;         ///< milliseconds until the next look at what is known
 constexpr qint64 kRefresh = 100;  ///< the fewest milliseconds between two times that it is shown
 
-/// Nothing is ever hidden by moving a bar. @param stretch how room that is left over is shared
-void share(QSplitter& splitter, std::initializer_list<int> stretch)
+/// Nothing is ever hidden by moving a bar. @param shares of the room, as far as all parts are large enough then
+void share(QSplitter& splitter, const QList<int>& shares)
 {
+    constexpr int kMore = 1000; // than a display has, so that Qt takes them for shares and not for pixels
+    QList<int> sizes;
+    for (const int one : shares)
+        sizes << kMore * one;
     splitter.setChildrenCollapsible(false);
     splitter.setHandleWidth(look::kGap);
-    for (int i = 0; i < splitter.count(); ++i)
-        splitter.setStretchFactor(i, *(stretch.begin() + i));
+    splitter.setSizes(sizes);
 }
 
 QWidget* part(QLayout* content)
@@ -41,16 +43,16 @@ OutlookView::OutlookView(OutlookScreen& outlook, Desk& desk) : Page{outlook, des
     auto* const upper = new QSplitter{Qt::Horizontal};
     upper->addWidget(new OutlookCanvas{outlook, *this});
     upper->addWidget(addTable(outlook.grdPlayers));
-    share(*upper, {4, 1});
+    share(*upper, {3, 2});
     auto* const lower = new QSplitter{Qt::Horizontal};
     lower->addWidget(makeRoad());
     lower->addWidget(makeGames());
     lower->addWidget(makePlayer());
-    share(*lower, {3, 2, 2});
+    share(*lower, {4, 4, 5});
     auto* const both = new QSplitter{Qt::Vertical};
     both->addWidget(upper);
     both->addWidget(lower);
-    share(*both, {3, 1});
+    share(*both, {11, 4});
 
     auto* const whole = look::column();
     whole->addLayout(makeBar());

@@ -106,6 +106,7 @@ TEST_F(OutlookViewTest, FitsTheDisplayWithoutScrollingAndShowsEveryColumn)
         EXPECT_GE(widget(outlook.lblRegion[Position{0}]).font().pixelSize(), 9) << display.width();
     }
     EXPECT_GE(canvas().width(), 900) << "on the large display";
+    EXPECT_GT(players().width(), players().minimumSizeHint().width() + 40) << "which has room for longer names, too";
 }
 
 TEST_F(OutlookViewTest, AClickForwardsAndARightPressTakesBack)
