@@ -3,6 +3,7 @@
 
 #include "base/step.h"
 
+#include <exception>
 #include <functional>
 
 namespace tallyhoop::ui {
@@ -16,12 +17,16 @@ public:
     /// @returns whether there is more to do
     using Slice = std::function<bool(const Step& step)>;
 
+    /// Takes what a slice has thrown, in the thread of the slice. Throws nothing itself: memory may be short.
+    using Failed = std::function<void(const std::exception_ptr& trouble)>;
+
     virtual ~Background() = default;
 
     /// Calls a slice again and again until it returns false. What ran before is abandoned: its Step says so, it is not
     /// called again, and it has ended before the new slice begins. Nobody waits here for any of that.
+    /// @param failed called when a slice throws, which is not called again then
     /// @returns false when the system has nothing that could do the work now
-    virtual bool run(Slice slice) = 0;
+    virtual bool run(Slice slice, Failed failed) = 0;
 
     /// Abandons what runs.
     virtual void abandon() = 0;

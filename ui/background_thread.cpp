@@ -6,9 +6,9 @@
 
 namespace tallyhoop::ui {
 
-BackgroundThread::~BackgroundThread() { abandon(); }
+BackgroundThread::~BackgroundThread() { replace({}); }
 
-bool BackgroundThread::run(Slice slice)
+bool BackgroundThread::run(Slice slice, Failed failed)
 {
     try {
         if (!m_thread.joinable())
@@ -16,7 +16,7 @@ bool BackgroundThread::run(Slice slice)
     } catch (const std::system_error&) {
         return false;
     }
-    replace({std::move(slice), {}});
+    replace({std::move(slice), std::move(failed), std::stop_source{}});
     return true;
 }
 
@@ -44,9 +44,19 @@ void BackgroundThread::work(const std::stop_token& ended)
                 return;
             current = std::exchange(m_next, {});
         }
-        const Step step = [&current] { return !current.abandoned.stop_requested(); };
-        while (step() && current.slice(step))
+        doAll(current);
+    }
+}
+
+/// An exception that left the thread would end the program, and with it what is not saved yet.
+void BackgroundThread::doAll(const Work& work)
+{
+    try {
+        const Step step = [&work] { return !work.abandoned.stop_requested(); };
+        while (step() && work.slice(step))
             ;
+    } catch (...) {
+        work.failed(std::current_exception());
     }
 }
 

@@ -15,28 +15,32 @@ class BackgroundThread : public Background
 {
 public:
     BackgroundThread() = default;
+    BackgroundThread(const BackgroundThread&) = delete;
+    BackgroundThread& operator=(const BackgroundThread&) = delete;
 
     /// Waits for the end of the slice that is running, which is abandoned.
     ~BackgroundThread() override;
 
-    bool run(Slice slice) override;
+    bool run(Slice slice, Failed failed) override;
     void abandon() override;
 
 private:
     /// A piece of work, and what ends it.
     struct Work {
         Slice slice; ///< empty = none
-        std::stop_source abandoned;
+        Failed failed;
+        std::stop_source abandoned{std::nostopstate}; ///< none where there is no slice: that takes no memory
     };
 
     void replace(Work next);
     void work(const std::stop_token& ended);
+    static void doAll(const Work& work);
 
     std::mutex m_mutex;
     std::condition_variable_any m_changed;
-    Work m_next;                    ///< that waits for the thread
-    std::stop_source m_abandonLast; ///< of the work that was run last
-    std::jthread m_thread;          ///< last: it ends before the rest is gone
+    Work m_next;                                      ///< that waits for the thread
+    std::stop_source m_abandonLast{std::nostopstate}; ///< of the work that was run last
+    std::jthread m_thread;                            ///< last: it ends before the rest is gone
 };
 
 } // namespace tallyhoop::ui

@@ -14,7 +14,6 @@ Forecast::Forecast(const Contest& contest, const UpperChance& upperChance, std::
 
 Forecast::Forecast(const Contest& contest, Stages stages, std::uint64_t seed)
     : m_players{contest.players()},
-      m_seed{seed},
       m_random{seed},
       m_earlyGames{std::move(stages.early)},
       m_lastGames{std::move(stages.last), contest.players()},

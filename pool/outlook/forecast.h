@@ -37,7 +37,6 @@ public:
     void add(std::uint64_t samples);
 
     std::uint64_t samples() const { return m_samples; }
-    std::uint64_t seed() const { return m_seed; }
 
     /// Whether nothing is left to chance: all open games are counted.
     bool isExact() const { return m_openEarly == 0; }
@@ -63,7 +62,6 @@ private:
     void addSample();
 
     std::size_t m_players;
-    std::uint64_t m_seed;
     std::mt19937_64 m_random; ///< makes the same numbers on every platform
     std::uint64_t m_samples = 0;
 

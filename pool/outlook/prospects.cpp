@@ -42,6 +42,13 @@ void addOutcome(OutcomeNumber outcome, std::span<const std::int32_t> points, std
 
 } // namespace
 
+std::vector<PlayerProspect> unknownProspects(std::size_t players)
+{
+    PlayerProspect unknown;
+    unknown.best.most = unknown.worst.most = players;
+    return std::vector<PlayerProspect>(players, unknown);
+}
+
 std::vector<PlayerProspect> findProspects(const Contest& contest, const Step& step)
 {
     const std::size_t players = contest.players();

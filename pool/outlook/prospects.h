@@ -39,6 +39,9 @@ struct PlayerProspect {
     PlaceBetween worst;                   ///< the worst place of all outcomes
 };
 
+/// @returns nothing known of anybody: each one Open, with every place possible
+std::vector<PlayerProspect> unknownProspects(std::size_t players);
+
 /// Finds what can be proven without counting, for any number of open games. Clinched is always found. Out is found
 /// where a single rival is ahead in every outcome. Alive is found where a search comes upon a witness; it nearly always
 /// does where there is one. The places are exact where the limits that any two players set each other are reached.

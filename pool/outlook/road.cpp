@@ -52,20 +52,6 @@ Road::Road(const Bracket& results, std::span<const Bracket> picks, const Payoffs
 {
 }
 
-double Road::fraction() const
-{
-    return (static_cast<double>(m_points.size()) + stageFraction()) / static_cast<double>(m_stages.size());
-}
-
-double Road::stageFraction() const
-{
-    if (m_count)
-        return m_count->fraction();
-    if (m_forecast)
-        return static_cast<double>(m_forecast->samples()) / static_cast<double>(m_limits.samples);
-    return 0;
-}
-
 bool Road::stageIsDone() const
 {
     if (m_count)
@@ -77,10 +63,20 @@ void Road::advance(const Step& step)
 {
     if (isDone())
         return;
+    try {
+        work(step);
+    } catch (...) {
+        leaveStage(); // what is half counted is of no use
+        throw;
+    }
+}
+
+void Road::work(const Step& step)
+{
     if (!m_count && !m_forecast) {
         begin(step);
         if (!step()) {
-            m_count.reset();
+            leaveStage();
             return;
         }
     } else if (m_count)
@@ -120,6 +116,11 @@ void Road::add(RoadPoint point)
     point.round = stage().round;
     point.isNow = stage().isNow;
     m_points.insert(m_points.begin(), std::move(point));
+    leaveStage();
+}
+
+void Road::leaveStage()
+{
     m_count.reset();
     m_forecast.reset();
 }

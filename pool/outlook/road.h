@@ -66,9 +66,6 @@ public:
 
     bool isDone() const { return m_points.size() == m_stages.size(); }
 
-    /// How much is done, 0..1, growing steadily; each stage counts the same.
-    double fraction() const;
-
     /// Takes over what is known of now from elsewhere, so that it is not worked out once more.
     /// @param now its round and isNow are those of the stage, whatever they are here
     /// @pre no point is found yet
@@ -76,18 +73,17 @@ public:
 
     /// Does one slice of the work: some milliseconds, more for hundreds of players. Nothing when it is done.
     /// @param step called while such a slice lasts; when it asks to stop, the next slice begins it anew
+    /// @note After an exception the next slice begins the stage anew; the points found before stay.
     void advance(const Step& step = goOn);
-
-    /// Those of all stages, done or not.
-    const std::vector<RoadStage>& stages() const { return m_stages; }
 
     /// The points found so far, in the order of time; the last is now.
     const std::vector<RoadPoint>& points() const { return m_points; }
 
 private:
     const RoadStage& stage() const { return m_stages[m_stages.size() - 1 - m_points.size()]; }
+    void work(const Step& step);
     void begin(const Step& step);
-    double stageFraction() const;
+    void leaveStage();
     bool stageIsDone() const;
     void addPoint();
     void add(RoadPoint point);

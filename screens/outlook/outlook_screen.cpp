@@ -225,9 +225,9 @@ std::string OutlookScreen::howFar() const
         return "The payoffs are no numbers, so there is no outlook.";
     if (m_figures.source == ChanceSource::None && !m_stopped && isWorking())
         return workingWords(m_worker->fraction());
-    const std::string stopped = !m_isWhole && (m_stopped || !isWorking()) ? "Stopped. " : "";
     const std::string toCome = stillToCome();
-    return stopped + basisInShort(basisOf(m_kind, m_games.size(), m_figures)) + (toCome.empty() ? "" : " " + toCome);
+    return stoppedInWords() + basisInShort(basisOf(m_kind, m_games.size(), m_figures)) +
+           (toCome.empty() ? "" : " " + toCome);
 }
 
 std::string OutlookScreen::stillToCome() const
@@ -238,6 +238,14 @@ std::string OutlookScreen::stillToCome() const
         return m_figures.source == ChanceSource::Counted ? "The verdicts and places are being worked out."
                                                          : workingWords(fraction);
     return m_road.points.size() < m_road.times.size() ? "The road is being worked out." : "";
+}
+
+/// @returns "" while it goes on and when all is found
+std::string OutlookScreen::stoppedInWords() const
+{
+    if (const std::exception_ptr trouble = m_worker->trouble())
+        return "Stopped: " + troubleInWords(trouble) + ". ";
+    return !m_isWhole && (m_stopped || !isWorking()) ? "Stopped. " : "";
 }
 
 } // namespace tallyhoop

@@ -106,6 +106,7 @@ private:
     void showRoad();
     std::string howFar() const;
     std::string stillToCome() const;
+    std::string stoppedInWords() const;
     std::string proofFor(std::size_t player) const;
     std::vector<double> swings() const;
 

@@ -26,9 +26,10 @@ void OutlookScreen::startWork()
         grdPlayers.emptyNote = m_pool.field.payoffs.points().failure().message;
         return;
     }
-    m_games = OpenGames{m_whatIf.supposed()};
+    OpenGames games{m_whatIf.supposed()};
     m_standings = standingsBy(m_pool.entries, m_whatIf.supposed(), *m_pool.field.payoffs.points());
     m_worker->begin(m_whatIf.supposed(), m_kind);
+    m_games = std::move(games); // together with the figures, which are news now
 }
 
 void OutlookScreen::stop()

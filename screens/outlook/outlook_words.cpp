@@ -6,6 +6,7 @@
 
 #include <cmath>
 #include <fmt/format.h>
+#include <new>
 
 namespace tallyhoop {
 
@@ -57,6 +58,19 @@ std::string basisInShort(const OutlookBasis& basis)
 std::string workingWords(double fraction)
 {
     return fmt::format("Working: {} %.", static_cast<int>(std::floor(100 * fraction)));
+}
+
+std::string troubleInWords(const std::exception_ptr& trouble)
+{
+    try {
+        std::rethrow_exception(trouble);
+    } catch (const std::bad_alloc&) {
+        return "there is not enough memory";
+    } catch (const std::exception& known) {
+        return known.what();
+    } catch (...) {
+        return "no reason is known";
+    }
 }
 
 std::string countedWords(std::uint64_t first, std::uint64_t outcomes)

@@ -7,6 +7,7 @@
 #include "screens/outlook/game_swings.h"
 
 #include <cstdint>
+#include <exception>
 #include <span>
 #include <string>
 
@@ -27,6 +28,9 @@ std::string basisInShort(const OutlookBasis& basis);
 
 /// @param fraction 0..1
 std::string workingWords(double fraction);
+
+/// @returns what has ended the work before its time, as the end of a sentence
+std::string troubleInWords(const std::exception_ptr& trouble);
 
 /// @returns "First in 44 of 128 outcomes."
 std::string countedWords(std::uint64_t first, std::uint64_t outcomes);

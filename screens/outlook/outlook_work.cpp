@@ -194,10 +194,7 @@ OutlookFigures OutlookWork::figures() const
 
 std::vector<PlayerProspect> OutlookWork::prospects() const
 {
-    const std::size_t players = m_contest.players();
-    PlayerProspect unknown;
-    unknown.best.most = unknown.worst.most = players;
-    std::vector<PlayerProspect> known = m_proven.value_or(std::vector<PlayerProspect>(players, unknown));
+    std::vector<PlayerProspect> known = m_proven ? *m_proven : unknownProspects(m_contest.players());
     if (m_firsts)
         addCount(known, *m_firsts);
     if (m_places)

@@ -33,6 +33,12 @@ public:
         return m_fraction;
     }
 
+    std::exception_ptr trouble() const
+    {
+        const std::lock_guard lock{m_mutex};
+        return m_trouble;
+    }
+
     std::optional<OutlookKnown> news()
     {
         const std::lock_guard lock{m_mutex};
@@ -70,10 +76,19 @@ public:
         m_isOver = isOver;
     }
 
+    /// Nothing follows; the news that there is stays.
+    void fail(const std::exception_ptr& trouble)
+    {
+        const std::lock_guard lock{m_mutex};
+        m_trouble = trouble;
+        m_isOver = true;
+    }
+
 private:
     mutable std::mutex m_mutex;
     std::optional<OutlookKnown> m_news;
     double m_fraction = 0;
+    std::exception_ptr m_trouble;
     bool m_isStopped = false;
     bool m_isOver = false;
 };
@@ -137,11 +152,26 @@ OutlookWorker::~OutlookWorker() = default;
 
 void OutlookWorker::begin(const Bracket& supposed, ChanceKind kind)
 {
-    m_exchange = std::make_shared<Exchange>();
+    auto exchange = std::make_shared<Exchange>();
+    OutlookKnown nothing;
+    nothing.figures.prospects = unknownProspects(m_picks.size());
+    exchange->publish(std::move(nothing), false);
+    m_exchange = std::move(exchange);
+    try {
+        run(supposed, kind);
+    } catch (...) {
+        m_background->abandon(); // what was begun before is no longer wanted
+        m_exchange->fail(std::current_exception());
+    }
+}
+
+void OutlookWorker::run(const Bracket& supposed, ChanceKind kind)
+{
     const auto slices = std::make_shared<Slices>(m_exchange, Contest{supposed, m_picks, m_payoffs}, m_field, kind,
                                                  roadOf(kind), supposed == m_entered);
     slices->publishStart(false);
-    if (!m_background->run([slices](const Step& goesOn) { return slices->advance(goesOn); }))
+    if (!m_background->run([slices](const Step& goesOn) { return slices->advance(goesOn); },
+                           [exchange = m_exchange](const std::exception_ptr& trouble) { exchange->fail(trouble); }))
         slices->publishStart(true);
 }
 
@@ -154,6 +184,8 @@ void OutlookWorker::stop()
 bool OutlookWorker::isWorking() const { return m_exchange && m_exchange->isWorking(); }
 
 double OutlookWorker::fraction() const { return m_exchange ? m_exchange->fraction() : 0; }
+
+std::exception_ptr OutlookWorker::trouble() const { return m_exchange ? m_exchange->trouble() : nullptr; }
 
 std::optional<OutlookKnown> OutlookWorker::news() { return m_exchange ? m_exchange->news() : std::nullopt; }
 

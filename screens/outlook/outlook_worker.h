@@ -6,6 +6,7 @@
 #include "ui/background.h"
 
 #include <array>
+#include <exception>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -32,7 +33,7 @@ public:
     OutlookWorker& operator=(const OutlookWorker&) = delete;
 
     /// Begins with other results or chances; what ran before is abandoned. Few open games are counted before this
-    /// returns: everybody's chances are news then.
+    /// returns: everybody's chances are news then. Where that fails, it is news that nothing is known.
     /// @param supposed the results, supposed ones with them
     void begin(const Bracket& supposed, ChanceKind kind);
 
@@ -45,6 +46,10 @@ public:
     /// How much of the figures is there, as OutlookWork::fraction().
     double fraction() const;
 
+    /// @returns what has ended the work before its time, such as a lack of memory; nothing when nothing has. What was
+    ///          news before stays known.
+    std::exception_ptr trouble() const;
+
     /// @returns what is known, when that is more than at the last time; it is collected anew only after it was taken
     std::optional<OutlookKnown> news();
 
@@ -52,6 +57,7 @@ private:
     class Exchange;
     class Slices;
 
+    void run(const Bracket& supposed, ChanceKind kind);
     std::shared_ptr<Road> roadOf(ChanceKind kind);
 
     Bracket m_entered;

@@ -5,6 +5,7 @@
 #include <future>
 #include <gtest/gtest.h>
 #include <memory>
+#include <new>
 
 namespace tallyhoop::test {
 namespace {
@@ -15,18 +16,22 @@ void lastUntilAbandoned(const Step& step)
         std::this_thread::yield();
 }
 
+void failsNot(const std::exception_ptr&) { ADD_FAILURE() << "a slice has thrown"; }
+
 TEST(BackgroundThread, DoesSlicesInAnotherThreadUntilThereAreNoMore)
 {
     ui::BackgroundThread background;
     std::atomic<int> slices = 0;
     std::promise<std::thread::id> done;
-    EXPECT_TRUE(background.run([&](const Step& step) {
-        EXPECT_TRUE(step()) << "nobody has abandoned it";
-        if (++slices < 3)
-            return true;
-        done.set_value(std::this_thread::get_id());
-        return false;
-    }));
+    EXPECT_TRUE(background.run(
+        [&](const Step& step) {
+            EXPECT_TRUE(step()) << "nobody has abandoned it";
+            if (++slices < 3)
+                return true;
+            done.set_value(std::this_thread::get_id());
+            return false;
+        },
+        failsNot));
     EXPECT_NE(done.get_future().get(), std::this_thread::get_id());
     EXPECT_EQ(slices, 3);
 }
@@ -37,19 +42,23 @@ TEST(BackgroundThread, EndsTheWorkBeforeBeforeItBeginsTheNext)
     std::promise<void> began;
     std::atomic<int> slicesOfFirst = 0;
     std::atomic<bool> hasFirstEnded = false;
-    background.run([&](const Step& step) {
-        if (++slicesOfFirst == 1)
-            began.set_value();
-        lastUntilAbandoned(step);
-        hasFirstEnded = true;
-        return slicesOfFirst < 3;
-    });
+    background.run(
+        [&](const Step& step) {
+            if (++slicesOfFirst == 1)
+                began.set_value();
+            lastUntilAbandoned(step);
+            hasFirstEnded = true;
+            return slicesOfFirst < 3;
+        },
+        failsNot);
     began.get_future().wait();
     std::promise<bool> second;
-    background.run([&](const Step&) {
-        second.set_value(hasFirstEnded);
-        return false;
-    });
+    background.run(
+        [&](const Step&) {
+            second.set_value(hasFirstEnded);
+            return false;
+        },
+        failsNot);
     EXPECT_TRUE(second.get_future().get());
     EXPECT_EQ(slicesOfFirst, 1) << "it said that there was more to do";
 }
@@ -59,22 +68,28 @@ TEST(BackgroundThread, DoesNotDoWhatWasReplacedWhileItWaited)
     ui::BackgroundThread background;
     std::promise<void> began;
     std::promise<void> mayEnd;
-    background.run([&, end = mayEnd.get_future().share()](const Step&) {
-        began.set_value();
-        end.wait();
-        return false;
-    });
+    background.run(
+        [&, end = mayEnd.get_future().share()](const Step&) {
+            began.set_value();
+            end.wait();
+            return false;
+        },
+        failsNot);
     began.get_future().wait();
     std::atomic<bool> wasReplacedDone = false;
-    background.run([&](const Step&) {
-        wasReplacedDone = true;
-        return false;
-    });
+    background.run(
+        [&](const Step&) {
+            wasReplacedDone = true;
+            return false;
+        },
+        failsNot);
     std::promise<void> last;
-    background.run([&](const Step&) {
-        last.set_value();
-        return false;
-    });
+    background.run(
+        [&](const Step&) {
+            last.set_value();
+            return false;
+        },
+        failsNot);
     mayEnd.set_value();
     last.get_future().wait();
     EXPECT_FALSE(wasReplacedDone);
@@ -91,14 +106,39 @@ TEST(BackgroundThread, LetsGoOfAbandonedWork)
                                         gone.set_value();
                                     }};
     };
-    background.run([&, owned = own()](const Step& step) {
-        began.set_value();
-        lastUntilAbandoned(step);
-        return false;
-    });
+    background.run(
+        [&, owned = own()](const Step& step) {
+            began.set_value();
+            lastUntilAbandoned(step);
+            return false;
+        },
+        failsNot);
     began.get_future().wait();
     background.abandon();
     gone.get_future().wait();
+}
+
+TEST(BackgroundThread, HandsOverWhatASliceThrowsAndDoesNotCallItAgain)
+{
+    ui::BackgroundThread background;
+    std::atomic<int> slices = 0;
+    std::promise<std::exception_ptr> thrown;
+    background.run(
+        [&](const Step&) -> bool {
+            ++slices;
+            throw std::bad_alloc{};
+        },
+        [&](const std::exception_ptr& trouble) { thrown.set_value(trouble); });
+    EXPECT_THROW(std::rethrow_exception(thrown.get_future().get()), std::bad_alloc);
+    std::promise<void> next; // the thread is still there
+    background.run(
+        [&](const Step&) {
+            next.set_value();
+            return false;
+        },
+        failsNot);
+    next.get_future().wait();
+    EXPECT_EQ(slices, 1);
 }
 
 TEST(BackgroundThread, EndsWhileThereIsWork)
@@ -107,12 +147,14 @@ TEST(BackgroundThread, EndsWhileThereIsWork)
     std::atomic<bool> hasEnded = false;
     {
         ui::BackgroundThread background;
-        background.run([&](const Step& step) {
-            began.set_value();
-            lastUntilAbandoned(step);
-            hasEnded = true;
-            return false;
-        });
+        background.run(
+            [&](const Step& step) {
+                began.set_value();
+                lastUntilAbandoned(step);
+                hasEnded = true;
+                return false;
+            },
+            failsNot);
         began.get_future().wait();
     }
     EXPECT_TRUE(hasEnded) << "nothing of it is left when the thread's owner is gone";

@@ -8,6 +8,8 @@
 #include "screens/outlook/final_pool.h"
 
 #include <gmock/gmock.h>
+#include <new>
+#include <stdexcept>
 
 namespace tallyhoop::test {
 namespace {
@@ -230,6 +232,39 @@ TEST_F(OutlookScreenTest, SaysThatItHasStoppedWhereNothingWorks)
     screen->showState();
     EXPECT_EQ(screen->lblOutcomes.text, "Stopped. Nothing is counted yet: only what is proven is known.");
     EXPECT_FALSE(screen->cmdStop.enabled);
+}
+
+TEST_F(OutlookScreenTest, SaysWhyItHasStoppedAndKeepsWhatIsKnown)
+{
+    pool.results->picks = startingField();
+    openBeforeAnyWork();
+    background->doSlice(); // what is certain
+    screen->showState();
+    background->doSlice(); // 500 samples
+    screen->showState();
+    const std::vector<std::string> shares = column(OutlookColumn::Share);
+    background->fail(std::make_exception_ptr(std::bad_alloc{}));
+    screen->showState();
+    EXPECT_THAT(screen->lblOutcomes.text,
+                StartsWith("Stopped: there is not enough memory. All alike: forecast from 500 samples"));
+    EXPECT_EQ(column(OutlookColumn::Share), shares);
+    EXPECT_FALSE(screen->isWorking());
+    EXPECT_FALSE(screen->cmdStop.enabled);
+    screen->pressPosition(Position{0});
+    screen->showState();
+    EXPECT_EQ(screen->lblOutcomes.text, "Working: 0 %.") << "it begins anew";
+}
+
+TEST_F(OutlookScreenTest, TellsTheReasonOfAnyOtherTrouble)
+{
+    openBeforeAnyWork();
+    background->fail(std::make_exception_ptr(std::runtime_error{"this went wrong"}));
+    screen->showState();
+    EXPECT_EQ(screen->lblOutcomes.text, "Stopped: this went wrong. All alike: 2 outcomes left, every one counted.");
+    openBeforeAnyWork();
+    background->fail(std::make_exception_ptr(1));
+    screen->showState();
+    EXPECT_THAT(screen->lblOutcomes.text, StartsWith("Stopped: no reason is known. "));
 }
 
 TEST_F(OutlookScreenTest, ComparesWithTheResultsAsEnteredByChancesThatAreChosenLater)

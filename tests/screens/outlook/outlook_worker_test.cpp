@@ -7,6 +7,7 @@
 #include "ui/background_thread.h"
 
 #include <gmock/gmock.h>
+#include <new>
 #include <thread>
 
 namespace tallyhoop::test {
@@ -166,6 +167,50 @@ TEST_F(OutlookWorkerTest, SaysThatNothingFollowsWhereThereIsNoThread)
     ASSERT_TRUE(known);
     EXPECT_EQ(known->figures.source, ChanceSource::Counted) << "few games are counted all the same";
     EXPECT_FALSE(known->isWhole);
+    EXPECT_FALSE(worker->isWorking());
+}
+
+bool lacksMemory() { throw std::bad_alloc{}; }
+
+TEST_F(OutlookWorkerTest, KeepsWhatIsKnownWhenASliceThrows)
+{
+    beginAForecast();
+    EXPECT_FALSE(worker->trouble());
+    EXPECT_FALSE(background->doSlice(lacksMemory));
+    ASSERT_TRUE(worker->trouble());
+    EXPECT_THROW(std::rethrow_exception(worker->trouble()), std::bad_alloc);
+    EXPECT_TRUE(worker->isWorking()) << "the news of before is not taken yet";
+    const std::optional<OutlookKnown> known = worker->news();
+    ASSERT_TRUE(known);
+    EXPECT_THAT(known->figures.prospects, SizeIs(3));
+    EXPECT_FALSE(known->isWhole);
+    EXPECT_FALSE(worker->isWorking());
+}
+
+TEST_F(OutlookWorkerTest, GoesOnWithTheNextJobAfterASliceHasThrown)
+{
+    beginAForecast();
+    background->doSlice(lacksMemory);
+    worker->begin(beforeTheFinal(), ChanceKind::Alike);
+    EXPECT_FALSE(worker->trouble());
+    EXPECT_DOUBLE_EQ(worker->news()->figures.chances.players.at(0).all.share, 0.5);
+    EXPECT_TRUE(background->doSlice());
+}
+
+/// The system has no memory to begin with.
+struct ScarceBackground : FakeBackground {
+    bool run(Slice, Failed) override { throw std::bad_alloc{}; }
+};
+
+TEST_F(OutlookWorkerTest, KnowsNothingOfWhatItCouldNotBegin)
+{
+    make(std::make_unique<ScarceBackground>());
+    worker->begin(startingField(), ChanceKind::Alike);
+    EXPECT_THROW(std::rethrow_exception(worker->trouble()), std::bad_alloc);
+    const std::optional<OutlookKnown> known = worker->news();
+    ASSERT_TRUE(known);
+    EXPECT_THAT(known->figures.prospects, SizeIs(3));
+    EXPECT_EQ(known->figures.prospects.at(2).best, (PlaceBetween{1, 3}));
     EXPECT_FALSE(worker->isWorking());
 }
 
