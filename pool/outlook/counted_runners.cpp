@@ -16,10 +16,21 @@ std::int32_t sumOfPayoffs(const Contest& contest)
     return sum;
 }
 
+/// @param bytes those of a number of points
+/// @returns the bytes of the largest tables of a count between some runners
+std::size_t bytesOfTables(const Contest& runners, std::size_t bytes)
+{
+    std::size_t ends = 1; // for their sums
+    for (int region = 0; region < kRegions; ++region)
+        ends += runners.games().candidates(regionWinner(region)).size();
+    return ends * runners.players() * runners.players() * bytes;
+}
+
 } // namespace
 
 template <class Number>
-CountedRunners<Number>::CountedRunners(const Contest& contest, const UpperChance& upperChance, const Step& step)
+CountedRunners<Number>::CountedRunners(const Contest& contest, const UpperChance& upperChance, const Step& step,
+                                       std::size_t mostBytes)
     : m_runners{runnersOf(contest, step)}
 {
     std::vector<std::size_t> players;
@@ -27,12 +38,16 @@ CountedRunners<Number>::CountedRunners(const Contest& contest, const UpperChance
         players.push_back(same.size());
     if (players.empty() || !step())
         return;
+    const bool isSmall = sumOfPayoffs(contest) <= kMostSmallPoints;
+    m_isTooLarge = bytesOfTables(m_runners.contest, isSmall ? sizeof(std::int16_t) : sizeof(std::int32_t)) > mostBytes;
+    if (m_isTooLarge)
+        return;
     const auto make = [&]<class Points>(Points) {
         auto tree = std::make_unique<CountTree<Points, Number>>(m_runners.contest, players, upperChance, step);
         m_slices = tree->slices();
         m_tree = std::move(tree);
     };
-    if (sumOfPayoffs(contest) <= kMostSmallPoints)
+    if (isSmall)
         make(std::int16_t{});
     else
         make(std::int32_t{});

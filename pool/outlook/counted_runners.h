@@ -16,8 +16,10 @@ template <class Number>
 class CountedRunners
 {
 public:
-    /// @param step as for FirstCount
-    CountedRunners(const Contest& contest, const UpperChance& upperChance, const Step& step);
+    /// @param step, mostBytes as for FirstCount
+    CountedRunners(const Contest& contest, const UpperChance& upperChance, const Step& step, std::size_t mostBytes);
+
+    bool isTooLarge() const { return m_isTooLarge; }
 
     bool isDone() const { return m_next == m_slices; }
     double fraction() const { return isDone() ? 1 : static_cast<double>(m_next) / static_cast<double>(m_slices); }
@@ -43,6 +45,7 @@ private:
 
     Runners m_runners;
     std::variant<Tree<std::int16_t>, Tree<std::int32_t>> m_tree; ///< none without players
+    bool m_isTooLarge = false;
     std::size_t m_slices = 0;
     std::size_t m_next = 0;
 };

@@ -28,8 +28,8 @@ auto countedAll(Count count)
 class FirstCount::Work : public CountedRunners<std::uint64_t>
 {
 public:
-    Work(const Contest& contest, const Step& step)
-        : CountedRunners{contest, {}, step},
+    Work(const Contest& contest, const Step& step, std::size_t mostBytes)
+        : CountedRunners{contest, {}, step, mostBytes},
           m_players{contest.players()},
           m_games{contest.games().size()},
           m_outcomes{contest.games().outcomes()}
@@ -62,8 +62,10 @@ private:
 class ChanceCount::Work : public CountedRunners<double>
 {
 public:
-    Work(const Contest& contest, const UpperChance& upperChance, const Step& step)
-        : CountedRunners{contest, upperChance, step}, m_players{contest.players()}, m_games{contest.games().size()}
+    Work(const Contest& contest, const UpperChance& upperChance, const Step& step, std::size_t mostBytes)
+        : CountedRunners{contest, upperChance, step, mostBytes},
+          m_players{contest.players()},
+          m_games{contest.games().size()}
     {
     }
 
@@ -92,24 +94,29 @@ private:
     std::size_t m_games;
 };
 
-FirstCount::FirstCount(const Contest& contest, const Step& step) : m_work{std::make_unique<Work>(contest, step)} {}
+FirstCount::FirstCount(const Contest& contest, const Step& step, std::size_t mostBytes)
+    : m_work{std::make_unique<Work>(contest, step, mostBytes)}
+{
+}
 FirstCount::~FirstCount() = default;
 FirstCount::FirstCount(FirstCount&&) noexcept = default;
 FirstCount& FirstCount::operator=(FirstCount&&) noexcept = default;
 
+bool FirstCount::isTooLarge() const { return m_work->isTooLarge(); }
 bool FirstCount::isDone() const { return m_work->isDone(); }
 double FirstCount::fraction() const { return m_work->fraction(); }
 void FirstCount::advance() { m_work->advance(); }
 FirstOutlook FirstCount::outlook() const { return m_work->outlook(); }
 
-ChanceCount::ChanceCount(const Contest& contest, UpperChance upperChance, const Step& step)
-    : m_work{std::make_unique<Work>(contest, std::move(upperChance), step)}
+ChanceCount::ChanceCount(const Contest& contest, UpperChance upperChance, const Step& step, std::size_t mostBytes)
+    : m_work{std::make_unique<Work>(contest, std::move(upperChance), step, mostBytes)}
 {
 }
 ChanceCount::~ChanceCount() = default;
 ChanceCount::ChanceCount(ChanceCount&&) noexcept = default;
 ChanceCount& ChanceCount::operator=(ChanceCount&&) noexcept = default;
 
+bool ChanceCount::isTooLarge() const { return m_work->isTooLarge(); }
 bool ChanceCount::isDone() const { return m_work->isDone(); }
 double ChanceCount::fraction() const { return m_work->fraction(); }
 void ChanceCount::advance() { m_work->advance(); }

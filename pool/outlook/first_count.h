@@ -6,12 +6,18 @@
 #include "pool/outlook/contest.h"
 #include "pool/outlook/first_places.h"
 
+#include <cstddef>
 #include <memory>
 
 namespace tallyhoop {
 
 /// As many open games can be counted while people wait: some seconds for a pool of an office.
 inline constexpr std::size_t kMostCountedGames = 31;
+
+/// A count whose largest tables would take more memory is not made: every two players who may be first have an entry
+/// in them for each team that can win a region. There is room for some 1,200 such players after the first round, and
+/// for more of them later.
+inline constexpr std::size_t kMostCountBytes = 100'000'000;
 
 /// Counts in slices, so that whoever runs it can show progress, stop, or do other things in between. Knows nothing of
 /// threads: one object belongs to one thread at a time.
@@ -20,12 +26,16 @@ class FirstCount
 public:
     /// Prepares the count, which takes some milliseconds, more for hundreds of players. The contest is not needed any
     /// longer afterwards.
-    /// @param step called often meanwhile; once it has asked to stop, the count is of no use
+    /// @param step      called often meanwhile; once it has asked to stop, the count is of no use
+    /// @param mostBytes see isTooLarge()
     /// @pre the contest has at most 40 open games
-    explicit FirstCount(const Contest& contest, const Step& step = goOn);
+    explicit FirstCount(const Contest& contest, const Step& step = goOn, std::size_t mostBytes = kMostCountBytes);
     ~FirstCount();
     FirstCount(FirstCount&&) noexcept;
     FirstCount& operator=(FirstCount&&) noexcept;
+
+    /// Nothing can be counted, because the tables for it would take more than mostBytes.
+    bool isTooLarge() const;
 
     bool isDone() const;
 
@@ -35,7 +45,7 @@ public:
     /// Does one slice of the work: some milliseconds at most, usually less than one. Nothing when it is done.
     void advance();
 
-    /// @pre isDone()
+    /// @pre isDone(), and not isTooLarge()
     FirstOutlook outlook() const;
 
 private:
@@ -49,16 +59,18 @@ class ChanceCount
 public:
     /// @param upperChance called while it is prepared and while it counts
     /// @pre as for FirstCount
-    ChanceCount(const Contest& contest, UpperChance upperChance, const Step& step = goOn);
+    ChanceCount(const Contest& contest, UpperChance upperChance, const Step& step = goOn,
+                std::size_t mostBytes = kMostCountBytes);
     ~ChanceCount();
     ChanceCount(ChanceCount&&) noexcept;
     ChanceCount& operator=(ChanceCount&&) noexcept;
 
+    bool isTooLarge() const;
     bool isDone() const;
     double fraction() const;
     void advance();
 
-    /// @pre isDone()
+    /// @pre isDone(), and not isTooLarge()
     ChanceOutlook outlook() const;
 
 private:

@@ -2,17 +2,22 @@
 #include "pool/outlook/first_places.h"
 
 #include <algorithm>
-#include <numeric>
 
 namespace tallyhoop {
 
-std::uint64_t FirstPlaces::outcomes() const { return std::accumulate(shared.begin(), shared.end(), alone); }
+std::uint64_t FirstPlaces::outcomes() const
+{
+    std::uint64_t sum = alone;
+    for (const SharedFirsts& some : shared)
+        sum += some.outcomes;
+    return sum;
+}
 
 double FirstPlaces::share() const
 {
     auto sum = static_cast<double>(alone);
-    for (std::size_t i = 0; i < shared.size(); ++i)
-        sum += static_cast<double>(shared[i]) / static_cast<double>(i + 2);
+    for (const SharedFirsts& some : shared)
+        sum += static_cast<double>(some.outcomes) / static_cast<double>(some.together);
     return sum;
 }
 
@@ -24,18 +29,19 @@ void FirstPlaces::add(std::size_t together, std::uint64_t outcomes)
         alone += outcomes;
         return;
     }
-    shared.resize(std::max(shared.size(), together - 1));
-    shared[together - 2] += outcomes;
+    auto place = std::ranges::lower_bound(shared, together, {}, &SharedFirsts::together);
+    if (place == shared.end() || place->together != together)
+        place = shared.insert(place, {together, 0});
+    place->outcomes += outcomes;
 }
 
 FirstPlaces without(const FirstPlaces& all, const FirstPlaces& part)
 {
     FirstPlaces rest = all;
     rest.alone -= part.alone;
-    for (std::size_t i = 0; i < part.shared.size(); ++i)
-        rest.shared[i] -= part.shared[i];
-    while (!rest.shared.empty() && rest.shared.back() == 0)
-        rest.shared.pop_back();
+    for (const SharedFirsts& some : part.shared)
+        std::ranges::lower_bound(rest.shared, some.together, {}, &SharedFirsts::together)->outcomes -= some.outcomes;
+    std::erase_if(rest.shared, [](const SharedFirsts& some) { return some.outcomes == 0; });
     return rest;
 }
 

@@ -10,10 +10,18 @@
 
 namespace tallyhoop {
 
+/// Outcomes in which so many players are first together.
+struct SharedFirsts {
+    std::size_t together = 2; ///< 2 or more
+    std::uint64_t outcomes = 0;
+
+    friend bool operator==(const SharedFirsts&, const SharedFirsts&) = default;
+};
+
 /// In how many of some outcomes a player is first: has as many points as anybody. Exact counts.
 struct FirstPlaces {
     std::uint64_t alone = 0;
-    std::vector<std::uint64_t> shared; ///< [i]: together with i + 1 others, so that i + 2 are first; the last is not 0
+    std::vector<SharedFirsts> shared; ///< by how many share it, ascending; only those that come true
 
     /// The outcomes in which the player is first, alone or together.
     std::uint64_t outcomes() const;

@@ -13,6 +13,10 @@ namespace tallyhoop {
 /// As many open games can be counted for every place while people wait.
 inline constexpr std::size_t kMostPlacedGames = 24;
 
+/// For as many players the places can be counted with little memory: each has a count for every place, and the counts
+/// are there twice when they are told. Those of 2,000 players take 2 * 32 MB.
+inline constexpr std::size_t kMostPlacedPlayers = 2'000;
+
 /// The places of one player over all outcomes. A player's place is one more than the number of players who have more
 /// points, so players with the same points share the better place.
 struct PlayerPlaces {

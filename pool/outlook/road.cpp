@@ -91,11 +91,18 @@ void Road::begin(const Step& step)
 {
     const Contest contest{stage().results, m_picks, m_payoffs};
     m_openGames = contest.games().size();
-    if (m_openGames <= m_limits.countedGames)
-        m_count.emplace(contest, m_chances(contest), step);
-    else
-        m_forecast.emplace(contest, m_chances(contest), m_limits.seed);
+    if (m_openGames > m_limits.countedGames) {
+        forecast(contest);
+        return;
+    }
+    m_count.emplace(contest, m_chances(contest), step, m_limits.countBytes);
+    if (m_count->isTooLarge()) {
+        m_count.reset();
+        forecast(contest);
+    }
 }
+
+void Road::forecast(const Contest& contest) { m_forecast.emplace(contest, m_chances(contest), m_limits.seed); }
 
 void Road::addPoint()
 {

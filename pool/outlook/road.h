@@ -50,13 +50,14 @@ struct RoadLimits {
     std::size_t countedGames = kMostCountedGames; ///< where more games are open, forecast; 0..40
     std::uint64_t samples = kForecastSamples;     ///< of each forecast, 2 or more
     std::uint64_t seed = kForecastSeed;
+    std::size_t countBytes = kMostCountBytes; ///< where a count would be too large for it, forecast
 };
 
 /// Finds the points of a road in slices, as FirstCount does, from now backwards: the later the faster.
 class Road
 {
 public:
-    /// Makes the chances of a stage's games; called once for each stage, while the work goes on.
+    /// Makes the chances of a stage's games; called for each stage while the work goes on.
     using Chances = std::function<UpperChance(const Contest& contest)>;
 
     /// @param results as for roadStages()
@@ -84,6 +85,7 @@ private:
     void work(const Step& step);
     void begin(const Step& step);
     void leaveStage();
+    void forecast(const Contest& contest);
     bool stageIsDone() const;
     void addPoint();
     void add(RoadPoint point);

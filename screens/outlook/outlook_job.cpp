@@ -13,7 +13,7 @@ OutlookJob::OutlookJob(Contest contest, const Field& field, ChanceKind kind, std
 
 void OutlookJob::countFewGames()
 {
-    while (m_work.contest().games().size() <= OutlookWork::kFewGames && !m_work.hasChances())
+    while (m_work.isCountedAtOnce() && !m_work.hasChances() && !m_work.isDone())
         m_work.advance();
 }
 

@@ -2,6 +2,7 @@
 #include "screens/outlook/outlook_work.h"
 
 #include <algorithm>
+#include <type_traits>
 #include <utility>
 
 namespace tallyhoop {
@@ -39,26 +40,29 @@ ChanceOutlook partsOf(const FirstOutlook& counted, std::size_t games)
 
 } // namespace
 
-OutlookWork::OutlookWork(Contest contest, const Field& field, ChanceKind kind)
+OutlookWork::OutlookWork(Contest contest, const Field& field, ChanceKind kind, const OutlookLimits& limits)
     : m_contest{std::move(contest)},
       m_upperChance{chancesOf(kind, m_contest, field)},
-      m_plan{planFor(m_contest.games().size(), kind)}
+      m_limits{limits},
+      m_plan{planFor(kind)}
 {
 }
 
-std::vector<OutlookWork::Stage> OutlookWork::planFor(std::size_t openGames, ChanceKind kind)
+std::vector<OutlookWork::Stage> OutlookWork::planFor(ChanceKind kind) const
 {
+    const std::size_t openGames = m_contest.games().size();
     if (openGames > kMostCountedGames)
         return {Stage::Prospects, Stage::Forecast};
+    const bool areFew = openGames <= kFewGames;
     std::vector<Stage> plan;
+    if (!areFew)
+        plan = {Stage::QuickForecast, Stage::Prospects};
     if (kind != ChanceKind::Alike)
         plan.push_back(Stage::Chances);
     plan.push_back(Stage::Firsts); // also beside other chances: it decides the verdicts
-    if (openGames > kFewGames)
-        plan.insert(plan.begin(), {Stage::QuickForecast, Stage::Prospects});
-    else
+    if (areFew)
         plan.push_back(Stage::Prospects);
-    if (openGames <= kMostPlacedGames)
+    if (openGames <= kMostPlacedGames && m_contest.players() <= m_limits.placed)
         plan.push_back(Stage::Places);
     return plan;
 }
@@ -78,7 +82,7 @@ void OutlookWork::advance(const Step& step)
         count<ChanceCount>(
             step,
             [&] {
-                return ChanceCount{m_contest, m_upperChance, step};
+                return ChanceCount{m_contest, m_upperChance, step, m_limits.countBytes};
             },
             [this](const ChanceCount& done) { m_chances = done.outlook(); });
         break;
@@ -86,7 +90,7 @@ void OutlookWork::advance(const Step& step)
         count<FirstCount>(
             step,
             [&] {
-                return FirstCount{m_contest, step};
+                return FirstCount{m_contest, step, m_limits.countBytes};
             },
             [this](const FirstCount& done) { m_firsts = done.outlook(); });
         break;
@@ -128,11 +132,26 @@ void OutlookWork::count(const Step& step, Make make, Take take)
         return;
     }
     const Count& running = std::get<Count>(m_running);
+    if constexpr (!std::is_same_v<Count, PlaceCount>)
+        if (running.isTooLarge()) {
+            forecastInstead();
+            return;
+        }
     if (!running.isDone())
         return;
     take(running);
     m_forecast.reset();
     finishStage();
+}
+
+/// What was found before stays.
+void OutlookWork::forecastInstead()
+{
+    m_running = std::monostate{};
+    m_plan.resize(m_stage);
+    if (!m_proven)
+        m_plan.push_back(Stage::Prospects);
+    m_plan.push_back(Stage::Forecast);
 }
 
 std::uint64_t OutlookWork::quickSamples() const { return kQuickSlices * samplesOfASlice(m_contest.players()); }
@@ -143,7 +162,7 @@ void OutlookWork::forecast(std::uint64_t samples)
     if (!m_forecast)
         m_forecast.emplace(m_contest, m_upperChance);
     m_forecast->add(samplesOfASlice(m_contest.players()));
-    if (m_forecast->samples() >= samples || m_contest.players() == 0)
+    if (m_forecast->samples() >= samples || m_forecast->isExact() || m_contest.players() == 0)
         finishStage();
 }
 
@@ -208,13 +227,14 @@ void OutlookWork::addChances(OutlookFigures& figures) const
     if (!hasChances())
         return;
     figures.errors.resize(players);
-    if (!m_forecast) {
-        figures.source = ChanceSource::Counted;
+    figures.source = ChanceSource::Counted;
+    if (!m_forecast)
         figures.chances = m_chances ? *m_chances : partsOf(*m_firsts, m_contest.games().size());
+    else
+        figures.chances = m_forecast->outlook();
+    if (!m_forecast || m_forecast->isExact())
         return;
-    }
     figures.source = ChanceSource::Forecast;
-    figures.chances = m_forecast->outlook();
     figures.samples = m_forecast->samples();
     for (std::size_t player = 0; player < players; ++player)
         figures.errors[player] = m_forecast->standardError(player);

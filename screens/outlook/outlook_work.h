@@ -21,6 +21,13 @@
 
 namespace tallyhoop {
 
+/// How many players are too many for what.
+struct OutlookLimits {
+    std::size_t atOnce = 1'000;               ///< more are counted later, because that takes longer than people wait
+    std::size_t placed = kMostPlacedPlayers;  ///< the places of more are not counted: they stay between two
+    std::size_t countBytes = kMostCountBytes; ///< where a count would be too large for it, there is a forecast
+};
+
 /// Works an outlook out. Knows nothing of threads: one object belongs to one thread at a time, and needs nothing of
 /// what it was made from any longer.
 ///
@@ -36,9 +43,15 @@ public:
     /// A forecast does not grow further.
     static constexpr std::uint64_t kMostSamples = 20 * kForecastSamples;
 
-    OutlookWork(Contest contest, const Field& field, ChanceKind kind);
+    OutlookWork(Contest contest, const Field& field, ChanceKind kind, const OutlookLimits& limits = {});
 
     const Contest& contest() const { return m_contest; }
+
+    /// Whether counting takes so little time that the person may wait for it.
+    bool isCountedAtOnce() const
+    {
+        return m_contest.games().size() <= kFewGames && m_contest.players() <= m_limits.atOnce;
+    }
 
     /// Nothing is left to do.
     bool isDone() const { return m_stage == m_plan.size(); }
@@ -67,7 +80,8 @@ public:
 private:
     enum class Stage { QuickForecast, Prospects, Chances, Firsts, Places, Forecast };
 
-    static std::vector<Stage> planFor(std::size_t openGames, ChanceKind kind);
+    std::vector<Stage> planFor(ChanceKind kind) const;
+    void forecastInstead();
     void findCertainties(const Step& step);
     template <class Count, class Make, class Take>
     void count(const Step& step, Make make, Take take);
@@ -80,6 +94,7 @@ private:
 
     Contest m_contest;
     UpperChance m_upperChance;
+    OutlookLimits m_limits;
     std::vector<Stage> m_plan;
     std::size_t m_stage = 0;         ///< in the plan
     std::size_t m_prospectSteps = 0; ///< done of finding what is certain, two for each player

@@ -68,8 +68,8 @@ FirstPlaces sharedWithACopy(const FirstPlaces& before)
 {
     FirstPlaces after;
     after.add(2, before.alone);
-    for (std::size_t i = 0; i < before.shared.size(); ++i)
-        after.add(i + 3, before.shared[i]);
+    for (const auto& [together, outcomes] : before.shared)
+        after.add(together + 1, outcomes);
     return after;
 }
 

@@ -28,8 +28,9 @@ struct Seen {
         ++open.at(contest.games().size());
         nobody += pool.picks.empty();
         one += pool.picks.size() == 1;
-        threeTogether +=
-            std::ranges::any_of(outlook.players, [](const auto& player) { return player.all.shared.size() > 1; });
+        threeTogether += std::ranges::any_of(outlook.players, [](const PlayerFirsts& player) {
+            return !player.all.shared.empty() && player.all.shared.back().together > 2;
+        });
         outOfOrder += std::ranges::any_of(gamePositions(), [&](Position game) {
             return game != kChampion && pool.results.isEmpty(game) && !pool.results.isEmpty(*next(game));
         });

@@ -4,6 +4,7 @@
 #include "pool/outlook/brute_force.h"
 #include "pool/outlook/odd_pools.h"
 #include "pool/outlook/runners.h"
+#include "pool/sample_brackets.h"
 #include "pool/scoring.h"
 
 #include <algorithm>
@@ -133,9 +134,10 @@ TEST(FirstCount, GivesAPlayerAndHisCopyHalfEach)
     // What was his alone is now shared by two; what he shared with k - 1 is shared by k + 1.
     const FirstPlaces& now = copied.players[player].all;
     EXPECT_EQ(now.alone, 0u);
-    EXPECT_EQ(now.shared.at(0), most->all.alone);
-    for (std::size_t i = 0; i < most->all.shared.size(); ++i)
-        EXPECT_EQ(now.shared.at(i + 1), most->all.shared[i]);
+    std::vector<SharedFirsts> shared{{2, most->all.alone}};
+    for (const auto& [together, outcomes] : most->all.shared)
+        shared.push_back({together + 1, outcomes});
+    EXPECT_EQ(now.shared, shared);
     EXPECT_EQ(copied.players.back().all, now);
 }
 
@@ -170,6 +172,44 @@ TEST(FirstCount, CanBeStoppedAndTellsHowFarItIs)
     EXPECT_EQ(last, 1);
     count.advance(); // nothing
     EXPECT_EQ(count.outlook().outcomes, 32768u);
+}
+
+TEST(FirstCount, KeepsOnlyTheTiesThatComeTrue)
+{
+    FirstPlaces places;
+    places.add(10'000, 5);
+    places.add(3, 4);
+    places.add(1, 2);
+    places.add(2, 0);
+    places.add(10'000, 1);
+    EXPECT_EQ(places, (FirstPlaces{2, {{3, 4}, {10'000, 6}}}));
+    EXPECT_EQ(places.outcomes(), 12u);
+    EXPECT_DOUBLE_EQ(places.share(), 2 + 4.0 / 3 + 6.0 / 10'000);
+    EXPECT_EQ(without(places, {1, {{3, 4}, {10'000, 2}}}), (FirstPlaces{1, {{10'000, 4}}}));
+}
+
+/// Two who have picked different champions, before the final.
+Contest twoBeforeTheFinal(const Payoffs& payoffs)
+{
+    const Bracket all = test::everyUpperTeamWins();
+    Bracket other = all;
+    other.copy(kSemifinalB, kChampion);
+    return {test::without(all, 126, 126), std::vector{all, other}, payoffs};
+}
+
+TEST(FirstCount, IsNotMadeWhereItsTablesAreTooLarge)
+{
+    // Given: two against two, for each of the teams that win the four regions and for their sum, 2 bytes each.
+    const Contest contest = twoBeforeTheFinal(test::kUsualPayoffs);
+    EXPECT_FALSE((FirstCount{contest, goOn, 2 * 2 * 5 * 2}.isTooLarge()));
+    const FirstCount tooLarge{contest, goOn, 2 * 2 * 5 * 2 - 1};
+    EXPECT_TRUE(tooLarge.isTooLarge());
+    EXPECT_TRUE(tooLarge.isDone());
+    EXPECT_TRUE((ChanceCount{contest, alikeChances(), goOn, 2 * 2 * 5 * 2 - 1}.isTooLarge()));
+    // Larger points take 4 bytes.
+    const Contest high = twoBeforeTheFinal({1000, 1000, 1000, 1000, 1000, 1000});
+    EXPECT_FALSE((FirstCount{high, goOn, 2 * 2 * 5 * 4}.isTooLarge()));
+    EXPECT_TRUE((FirstCount{high, goOn, 2 * 2 * 5 * 4 - 1}.isTooLarge()));
 }
 
 TEST(FirstCount, IsOfNoUseAfterItWasStoppedWhileItWasPrepared)

@@ -167,8 +167,8 @@ double plainError(const FirstOutlook& exact, std::size_t player, double samples)
     const auto outcomes = static_cast<double>(exact.outcomes);
     const double mean = firsts.share() / outcomes;
     double squares = static_cast<double>(firsts.alone) / outcomes;
-    for (std::size_t i = 0; i < firsts.shared.size(); ++i)
-        squares += static_cast<double>(firsts.shared[i]) / outcomes / std::pow(static_cast<double>(i) + 2, 2);
+    for (const SharedFirsts& some : firsts.shared)
+        squares += static_cast<double>(some.outcomes) / outcomes / std::pow(some.together, 2);
     return std::sqrt((squares - mean * mean) / samples);
 }
 

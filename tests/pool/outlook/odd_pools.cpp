@@ -65,8 +65,9 @@ std::optional<std::uint64_t> sumOfShares(const FirstOutlook& outlook)
         for (const PlayerFirsts& player : outlook.players)
             if (together == 1)
                 first += player.all.alone;
-            else if (player.all.shared.size() > together - 2)
-                first += player.all.shared[together - 2];
+            else
+                for (const SharedFirsts& some : player.all.shared)
+                    first += some.together == together ? some.outcomes : 0;
         if (first % together != 0)
             return std::nullopt;
         sum += first / together;

@@ -231,6 +231,15 @@ TEST(Road, BeginsAStageAnewAfterItWasStoppedThere)
     EXPECT_DOUBLE_EQ(road.points()[0].chances[1].share, 0.5);
 }
 
+TEST(Road, ForecastsWhatWouldBeTooLargeACount)
+{
+    const auto points =
+        pointsOf({wonByTeam33(), leaderAndChaser(), kUsualPayoffs, alike, {.samples = 1000, .countBytes = 1}});
+    EXPECT_EQ(points[2].openGames, 15u);
+    EXPECT_EQ(points[2].samples, 1000u);
+    EXPECT_EQ(points[3].samples, 0u) << "with 7 open games a forecast leaves nothing to chance";
+}
+
 TEST(Road, BeginsAStageAnewAfterAnException)
 {
     // Given: three open games, and chances that fail once, each time later than before.

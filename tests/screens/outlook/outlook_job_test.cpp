@@ -52,6 +52,18 @@ TEST_F(OutlookJobTest, LeavesManyGamesToTheSlices)
     EXPECT_EQ(job.work().fraction(), 0);
 }
 
+TEST_F(OutlookJobTest, LeavesManyPlayersToTheSlices)
+{
+    picks.assign(1001, picks.front());
+    OutlookJob job = begin(entered);
+    job.countFewGames();
+    EXPECT_FALSE(job.work().hasChances());
+    picks.resize(1000);
+    OutlookJob fewer = begin(entered);
+    fewer.countFewGames();
+    EXPECT_TRUE(fewer.work().hasChances());
+}
+
 TEST_F(OutlookJobTest, TakesItsOwnChancesAsThoseOfNow)
 {
     OutlookJob job = begin(entered, ChanceKind::BySeed);

@@ -218,6 +218,50 @@ TEST(OutlookWorkTest, StopsWhileItCounts)
     EXPECT_EQ(work.figures().source, ChanceSource::Forecast) << "what is known by then stays";
 }
 
+TEST(OutlookWorkTest, ForecastsWhereACountWouldTakeTooMuchMemory)
+{
+    OutlookWork work{duelContest(), finalField(), ChanceKind::BySeed, {.countBytes = 1}};
+    double before = 0;
+    while (work.figures().samples <= 10'000) {
+        work.advance();
+        EXPECT_GE(work.fraction(), before);
+        before = work.fraction();
+    }
+    EXPECT_EQ(work.figures().source, ChanceSource::Forecast);
+    EXPECT_NEAR(work.figures().chances.players.at(0).all.share, 0.75, 0.03);
+    EXPECT_EQ(work.figures().prospects.at(0).prospect, Prospect::Alive);
+    EXPECT_FALSE(work.isDone()) << "it grows further";
+}
+
+TEST(OutlookWorkTest, LeavesNothingToChanceOfFewGamesAlsoWithLittleMemory)
+{
+    const OutlookFigures figures = workedOut({finalContest(), finalField(), ChanceKind::BySeed, {.countBytes = 1}});
+    EXPECT_EQ(figures.source, ChanceSource::Counted);
+    EXPECT_EQ(figures.samples, 0u);
+    EXPECT_DOUBLE_EQ(figures.chances.players.at(0).all.share, 0.75);
+    EXPECT_THAT(figures.errors, ElementsAre(0, 0, 0));
+    EXPECT_EQ(figures.prospects.at(0).prospect, Prospect::Alive);
+}
+
+TEST(OutlookWorkTest, CountsTheFewGamesOfAnOfficeAtOnce)
+{
+    EXPECT_TRUE((OutlookWork{finalContest(), finalField(), ChanceKind::Alike, {.atOnce = 3}}.isCountedAtOnce()));
+    EXPECT_FALSE((OutlookWork{finalContest(), finalField(), ChanceKind::Alike, {.atOnce = 2}}.isCountedAtOnce()));
+    EXPECT_FALSE((OutlookWork{duelContest(), finalField(), ChanceKind::Alike}.isCountedAtOnce())) << "16 games";
+}
+
+TEST(OutlookWorkTest, CountsThePlacesOfNoMorePlayersThanThereIsMemoryFor)
+{
+    const auto parts = [](std::size_t placed) {
+        OutlookWork work{finalContest(), finalField(), ChanceKind::Alike, {.placed = placed}};
+        while (!work.isDone())
+            work.advance();
+        return work.stagesDone();
+    };
+    EXPECT_EQ(parts(3), 3u) << "first places, what is certain, places";
+    EXPECT_EQ(parts(2), 2u);
+}
+
 TEST(OutlookWorkTest, IsDoneAtOnceWithoutPlayers)
 {
     EXPECT_THAT(workedOut({inventedContest(0, 5), finalField(), ChanceKind::Alike}).prospects, SizeIs(0));
