@@ -45,10 +45,12 @@ BOB = selection({**without_picks(PLAYED, SECOND_ROUND, 14),
 
 
 class Outlook(unittest.TestCase):
+    results = RESULTS
+
     def setUp(self):
         self.program = self.enterContext(Program())
         self.program.write("POOLSTART.THS", setup_file())
-        self.program.write("TALLYHOOP.THS", RESULTS)
+        self.program.write("TALLYHOOP.THS", self.results)
         self.program.write("Ann_A.THC", ANN)
         self.program.write("Bob_B.THC", BOB)
         self.program.start()
@@ -79,10 +81,89 @@ class Outlook(unittest.TestCase):
                          ("B, Bob", "100", "140", "75.0 %", "Alive"), ("A, Ann", "80", "120", "25.0 %", "Alive"))
 
 
-class OutlookByMouse(Outlook):
     def choose(self, name):
         self.program.click_at(centre(self.program.table("grdPlayers")["rects"][self.row_of(name)][1]))
 
+
+# Bob is first in the six outcomes in which Ann is not, and the other of the two is second.
+REPORT = [
+    " ",
+    " " * 32 + "Office Pool",
+    " " * 32 + "Pool Outlook",
+    " ",
+    "Chances: all outcomes alike",
+    "Counted: all 8 outcomes of 3 open games",
+    " ",
+    "  Now               Points  Poss.    First    Share   Best  Worst",
+    "Place  Player Name  Earned  Score  Percent  Percent  Place  Place  Verdict",
+    "-----  -----------  ------  -----  -------  -------  -----  -----  --------",
+    "    1  B, Bob          100    140     75.0     75.0      1      2  Alive",
+    "    2  A, Ann          080    120     25.0     25.0      1      2  Alive",
+]
+
+# Michigan St. brings Bob 12 points; Ann can still get 12, for Duke in its semifinal.
+REPORT_SUPPOSED = [
+    " ",
+    " " * 36 + "Office Pool",
+    " " * 36 + "Pool Outlook",
+    " ",
+    "What if: 1 supposed winner; these are not the results as entered",
+    "Supposed: Michigan St. (round 5)",
+    "Chances: all outcomes alike",
+    "Counted: all 4 outcomes of 2 open games",
+    " ",
+    "  Now               Points  Poss.    First    Share   Share   Best  Worst",
+    "Place  Player Name  Earned  Score  Percent  Percent  Change  Place  Place  Verdict",
+    "-----  -----------  ------  -----  -------  -------  ------  -----  -----  --------",
+    "    1  B, Bob          112    140    100.0    100.0   +25.0      1      1  Clinched",
+    "    2  A, Ann          080    092      0.0      0.0   -25.0      2      2  Out",
+]
+
+
+class OutlookOnPaper(Outlook):
+    def setUp(self):
+        super().setUp()
+        self.program.menu("mnuOptions", "mnuOutlook")
+        self.as_entered()
+
+    def saves(self, lines):
+        self.program.click("cmdSaveReport")
+        expected = "".join(line + "\r\n" for line in lines).encode("cp1252")
+        self.program.wait(lambda: "OUTLOOK.TXT" in self.program.files(), "the report")
+        self.program.wait(lambda: self.program.read("OUTLOOK.TXT").count(b"\r\n") == len(lines), "all of its lines")
+        self.assertEqual(self.program.read("OUTLOOK.TXT").decode("cp1252"), expected.decode("cp1252"))
+
+    def test_the_report_is_the_table_also_with_something_supposed(self):
+        self.saves(REPORT)
+        self.program.click(f"lblRegion_{MICHIGAN}")
+        self.players_are(("Player", "Verdict", "Worst"), ("B, Bob", "Clinched", "1"), ("A, Ann", "Out", "2"))
+        self.saves(REPORT_SUPPOSED)
+        del (contents := self.contents())["OUTLOOK.TXT"]
+        self.assertEqual(contents, self.before)
+
+    def test_it_is_saved_as_a_pdf(self):
+        self.program.click("cmdSavePdf")
+        self.program.file_dialog("Outlook.PDF")
+        self.program.wait(lambda: "Outlook.PDF" in self.program.files(), "the file")
+        self.program.wait(lambda: not self.program.modal(), "the end of saving")
+        self.assertEqual(self.program.read("Outlook.PDF")[:4], b"%PDF")
+
+
+class OutlookBeforeTheFirstGame(Outlook):
+    results = selection({}, "X", "FinalResults")
+
+    def test_a_forecast_is_shown_and_can_be_stopped(self):
+        self.program.menu("mnuOptions", "mnuOutlook")
+        self.program.wait(lambda: self.program.text("lblOutcomes").startswith("All alike: forecast from "), "a forecast")
+        self.program.wait(lambda: all(" % ±" in share for [share] in self.cells("Share")), "everybody's share")
+        self.program.click("cmdStop")
+        self.program.wait(lambda: not self.program.enabled("cmdStop"), "the end of the work")
+        self.program.wait(lambda: self.program.text("lblOutcomes").startswith("Stopped. All alike: forecast from "),
+                          "the word that it has stopped")
+        self.assertEqual([len(self.cells("Share")), self.contents()], [2, self.before])
+
+
+class OutlookByMouse(Outlook):
     def press_heading(self, text):
         [heading] = [one for one in self.program.table("grdPlayers")["headings"] if one["text"] == text]
         self.program.click_at(centre(heading["rect"]))
@@ -93,12 +174,19 @@ class OutlookByMouse(Outlook):
         self.choose("Ann")
         for place, swing in ((ARIZONA, "+50.0"), (MICHIGAN, "-50.0"), (DUKE, "0.0"), (STANFORD, "0.0")):
             self.shows(f"lblSwing_{place}", swing)
+        self.speaks(ARIZONA, "Arizona, +50.0 ")
+        self.speaks(MICHIGAN, "Michigan St., -50.0 ")
+        self.speaks(DUKE, "Duke, does not matter")
         self.suppose_and_take_back()
         self.a_way_to_win()
         self.sorted_by_points()
         self.program.click("cmdExit")
         self.program.wait(lambda: not self.program.visible("grdPlayers"), "the board")
         self.assertEqual(self.contents(), self.before)
+
+    def speaks(self, place, words):
+        """The place with its swing, which is only drawn beside it."""
+        self.assertIn(": " + words, self.program.widget(f"lblRegion_{place}")["accessibleName"])
 
     def suppose_and_take_back(self):
         self.program.click(f"lblRegion_{MICHIGAN}")
