@@ -6,8 +6,8 @@
 namespace tallyhoop {
 
 OutlookJob::OutlookJob(Contest contest, const Field& field, ChanceKind kind, std::shared_ptr<Road> road,
-                       bool isAsEntered)
-    : m_work{std::move(contest), field, kind}, m_road{std::move(road)}, m_isAsEntered{isAsEntered}
+                       bool isAsEntered, WorkedOut known)
+    : m_work{std::move(contest), field, kind, {}, std::move(known)}, m_road{std::move(road)}, m_isAsEntered{isAsEntered}
 {
 }
 

@@ -18,7 +18,9 @@ public:
     /// @param road        of the results as entered by the same chances; what it lacks is added to it, so that the next
     ///                    job finds it there
     /// @param isAsEntered whether nothing is supposed: then the work's chances are those of now on the road
-    OutlookJob(Contest contest, const Field& field, ChanceKind kind, std::shared_ptr<Road> road, bool isAsEntered);
+    /// @param known       as for OutlookWork
+    OutlookJob(Contest contest, const Field& field, ChanceKind kind, std::shared_ptr<Road> road, bool isAsEntered,
+               WorkedOut known = {});
 
     /// Finds everybody's chances at once where few games are open, some dozen milliseconds for hundreds of players.
     void countFewGames();

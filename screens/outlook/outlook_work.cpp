@@ -2,6 +2,7 @@
 #include "screens/outlook/outlook_work.h"
 
 #include <algorithm>
+#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -40,12 +41,17 @@ ChanceOutlook partsOf(const FirstOutlook& counted, std::size_t games)
 
 } // namespace
 
-OutlookWork::OutlookWork(Contest contest, const Field& field, ChanceKind kind, const OutlookLimits& limits)
+OutlookWork::OutlookWork(Contest contest, const Field& field, ChanceKind kind, const OutlookLimits& limits,
+                         WorkedOut known)
     : m_contest{std::move(contest)},
+      m_kind{kind},
       m_upperChance{chancesOf(kind, m_contest, field)},
       m_limits{limits},
-      m_plan{planFor(kind)}
+      m_plan{planFor(kind)},
+      m_proven{known.proven},
+      m_known{std::move(known)}
 {
+    std::erase_if(m_plan, [this](Stage stage) { return isKnown(stage); });
 }
 
 std::vector<OutlookWork::Stage> OutlookWork::planFor(ChanceKind kind) const
@@ -67,6 +73,25 @@ std::vector<OutlookWork::Stage> OutlookWork::planFor(ChanceKind kind) const
     return plan;
 }
 
+bool OutlookWork::isKnown(Stage stage) const
+{
+    switch (stage) {
+    case Stage::QuickForecast:
+        return isCounted() || samples() >= quickSamples();
+    case Stage::Prospects:
+        return m_known.proven != nullptr;
+    case Stage::Chances:
+        return isCounted();
+    case Stage::Firsts:
+        return m_known.firsts != nullptr;
+    case Stage::Places:
+        return m_known.places != nullptr;
+    case Stage::Forecast:
+        return isCounted() || samples() >= kMostSamples;
+    }
+    return false;
+}
+
 void OutlookWork::advance(const Step& step)
 {
     if (isDone())
@@ -84,7 +109,7 @@ void OutlookWork::advance(const Step& step)
             [&] {
                 return ChanceCount{m_contest, m_upperChance, step, m_limits.countBytes};
             },
-            [this](const ChanceCount& done) { m_chances = done.outlook(); });
+            [this](const ChanceCount& done) { takeCounted(m_kind, done.outlook()); });
         break;
     case Stage::Firsts:
         count<FirstCount>(
@@ -92,12 +117,14 @@ void OutlookWork::advance(const Step& step)
             [&] {
                 return FirstCount{m_contest, step, m_limits.countBytes};
             },
-            [this](const FirstCount& done) { m_firsts = done.outlook(); });
+            [this](const FirstCount& done) { takeFirsts(done.outlook()); });
         break;
     case Stage::Places:
         count<PlaceCount>(
             step, [this] { return PlaceCount{m_contest}; },
-            [this](const PlaceCount& done) { m_places = done.places(); });
+            [this](const PlaceCount& done) {
+                m_known.places = std::make_shared<const std::vector<PlayerPlaces>>(done.places());
+            });
         break;
     case Stage::Forecast:
         forecast(kMostSamples);
@@ -108,15 +135,28 @@ void OutlookWork::advance(const Step& step)
 void OutlookWork::findCertainties(const Step& step)
 {
     bool stopped = false;
-    m_proven = findProspects(m_contest, [&] {
+    m_proven = std::make_shared<const std::vector<PlayerProspect>>(findProspects(m_contest, [&] {
         ++m_prospectSteps;
         stopped = stopped || !step();
         return !stopped;
-    });
-    if (stopped)
+    }));
+    if (stopped) {
         m_stage = m_plan.size();
-    else
-        finishStage();
+        return;
+    }
+    m_known.proven = m_proven;
+    finishStage();
+}
+
+void OutlookWork::takeFirsts(FirstOutlook counted)
+{
+    takeCounted(ChanceKind::Alike, partsOf(counted, m_contest.games().size()));
+    m_known.firsts = std::make_shared<const FirstOutlook>(std::move(counted));
+}
+
+void OutlookWork::takeCounted(ChanceKind kind, ChanceOutlook chances)
+{
+    m_known.counted.at(static_cast<std::size_t>(kind)) = std::make_shared<const ChanceOutlook>(std::move(chances));
 }
 
 template <class Count, class Make, class Take>
@@ -149,9 +189,9 @@ void OutlookWork::forecastInstead()
 {
     m_running = std::monostate{};
     m_plan.resize(m_stage);
-    if (!m_proven)
-        m_plan.push_back(Stage::Prospects);
-    m_plan.push_back(Stage::Forecast);
+    for (const Stage stage : {Stage::Prospects, Stage::Forecast})
+        if (!isKnown(stage))
+            m_plan.push_back(stage);
 }
 
 std::uint64_t OutlookWork::quickSamples() const { return kQuickSlices * samplesOfASlice(m_contest.players()); }
@@ -162,7 +202,10 @@ void OutlookWork::forecast(std::uint64_t samples)
     if (!m_forecast)
         m_forecast.emplace(m_contest, m_upperChance);
     m_forecast->add(samplesOfASlice(m_contest.players()));
-    if (m_forecast->samples() >= samples || m_forecast->isExact() || m_contest.players() == 0)
+    const bool isExact = m_forecast->isExact();
+    if (isExact)
+        takeCounted(m_kind, m_forecast->outlook());
+    if (m_forecast->samples() >= samples || isExact || m_contest.players() == 0)
         finishStage();
 }
 
@@ -180,9 +223,9 @@ double OutlookWork::fraction() const
 double OutlookWork::fractionOfStage() const
 {
     const Stage stage = m_plan[m_stage];
-    if (m_forecast && (stage == Stage::QuickForecast || stage == Stage::Forecast)) {
+    if (stage == Stage::QuickForecast || stage == Stage::Forecast) {
         const std::uint64_t whole = stage == Stage::QuickForecast ? quickSamples() : kForecastSamples;
-        return std::min(static_cast<double>(m_forecast->samples()) / static_cast<double>(whole), 1.0);
+        return std::min(static_cast<double>(samples()) / static_cast<double>(whole), 1.0);
     }
     if (const auto* firsts = std::get_if<FirstCount>(&m_running))
         return firsts->fraction();
@@ -197,16 +240,15 @@ double OutlookWork::fractionOfStage() const
 
 bool OutlookWork::hasFigures() const
 {
-    return m_forecast ? m_forecast->samples() >= kForecastSamples || isDone() : hasChances();
+    return isCounted() || samples() >= kForecastSamples || (isDone() && hasChances());
 }
 
 OutlookFigures OutlookWork::figures() const
 {
-    OutlookFigures figures;
+    OutlookFigures figures = chances();
     figures.prospects = prospects();
-    addChances(figures);
-    if (m_firsts)
-        for (const PlayerFirsts& player : m_firsts->players)
+    if (m_known.firsts)
+        for (const PlayerFirsts& player : m_known.firsts->players)
             figures.firstOutcomes.push_back(player.all.outcomes());
     return figures;
 }
@@ -214,30 +256,61 @@ OutlookFigures OutlookWork::figures() const
 std::vector<PlayerProspect> OutlookWork::prospects() const
 {
     std::vector<PlayerProspect> known = m_proven ? *m_proven : unknownProspects(m_contest.players());
-    if (m_firsts)
-        addCount(known, *m_firsts);
-    if (m_places)
-        addCount(known, *m_places);
+    if (m_known.firsts)
+        addCount(known, *m_known.firsts);
+    if (m_known.places)
+        addCount(known, *m_known.places);
     return known;
 }
 
-void OutlookWork::addChances(OutlookFigures& figures) const
+const WorkedOut::Found<OutlookFigures>& OutlookWork::keptForecast() const
 {
-    const std::size_t players = m_contest.players();
-    if (!hasChances())
-        return;
-    figures.errors.resize(players);
-    figures.source = ChanceSource::Counted;
-    if (!m_forecast)
-        figures.chances = m_chances ? *m_chances : partsOf(*m_firsts, m_contest.games().size());
-    else
-        figures.chances = m_forecast->outlook();
-    if (!m_forecast || m_forecast->isExact())
-        return;
+    return m_known.forecasts.at(static_cast<std::size_t>(m_kind));
+}
+
+bool OutlookWork::isCounted() const { return m_known.counted.at(static_cast<std::size_t>(m_kind)) != nullptr; }
+
+/// @returns those of the larger forecast, the kept or the new one
+std::uint64_t OutlookWork::samples() const
+{
+    return std::max(keptForecast() ? keptForecast()->samples : 0, m_forecast ? m_forecast->samples() : 0);
+}
+
+/// @returns figures without what is certain
+OutlookFigures OutlookWork::chances() const
+{
+    if (isCounted()) {
+        OutlookFigures figures;
+        figures.source = ChanceSource::Counted;
+        figures.chances = *m_known.counted.at(static_cast<std::size_t>(m_kind));
+        figures.errors.resize(m_contest.players());
+        return figures;
+    }
+    if (keptForecast() && keptForecast()->samples == samples())
+        return *keptForecast();
+    return samples() > 0 ? newForecast() : OutlookFigures{};
+}
+
+OutlookFigures OutlookWork::newForecast() const
+{
+    OutlookFigures figures;
     figures.source = ChanceSource::Forecast;
+    figures.chances = m_forecast->outlook();
     figures.samples = m_forecast->samples();
-    for (std::size_t player = 0; player < players; ++player)
-        figures.errors[player] = m_forecast->standardError(player);
+    for (std::size_t player = 0; player < m_contest.players(); ++player)
+        figures.errors.push_back(m_forecast->standardError(player));
+    return figures;
+}
+
+WorkedOut OutlookWork::workedOut() const
+{
+    WorkedOut found = m_known;
+    WorkedOut::Found<OutlookFigures>& forecast = found.forecasts.at(static_cast<std::size_t>(m_kind));
+    if (isCounted())
+        forecast.reset();
+    else if (m_forecast && m_forecast->samples() > (forecast ? forecast->samples : 0))
+        forecast = std::make_shared<const OutlookFigures>(newForecast());
+    return found;
 }
 
 } // namespace tallyhoop

@@ -12,6 +12,7 @@
 #include "pool/outlook/forecast.h"
 #include "pool/outlook/place_count.h"
 #include "pool/outlook/prospects.h"
+#include "screens/outlook/worked_out.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -43,7 +44,9 @@ public:
     /// A forecast does not grow further.
     static constexpr std::uint64_t kMostSamples = 20 * kForecastSamples;
 
-    OutlookWork(Contest contest, const Field& field, ChanceKind kind, const OutlookLimits& limits = {});
+    /// @param known of the same results, by whatever chances: this is not worked out once more
+    OutlookWork(Contest contest, const Field& field, ChanceKind kind, const OutlookLimits& limits = {},
+                WorkedOut known = {});
 
     const Contest& contest() const { return m_contest; }
 
@@ -66,7 +69,7 @@ public:
     void advance(const Step& step = goOn);
 
     /// Whether there are chances already, counted or estimated.
-    bool hasChances() const { return m_chances || m_firsts || (m_forecast && m_forecast->samples() > 0); }
+    bool hasChances() const { return isCounted() || samples() > 0; }
 
     /// Whether there are chances that may be taken over as a result: counted, or a forecast of kForecastSamples.
     bool hasFigures() const;
@@ -77,22 +80,34 @@ public:
     /// What is known so far.
     OutlookFigures figures() const;
 
+    /// What the next work by the same results need not find once more. A forecast begins anew, but its chances stay
+    /// until there are more samples again.
+    WorkedOut workedOut() const;
+
 private:
     enum class Stage { QuickForecast, Prospects, Chances, Firsts, Places, Forecast };
 
     std::vector<Stage> planFor(ChanceKind kind) const;
+    bool isKnown(Stage stage) const;
     void forecastInstead();
     void findCertainties(const Step& step);
+    void takeFirsts(FirstOutlook counted);
+    void takeCounted(ChanceKind kind, ChanceOutlook chances);
     template <class Count, class Make, class Take>
     void count(const Step& step, Make make, Take take);
     void forecast(std::uint64_t samples);
     std::uint64_t quickSamples() const;
     double fractionOfStage() const;
     std::vector<PlayerProspect> prospects() const;
-    void addChances(OutlookFigures& figures) const;
+    const WorkedOut::Found<OutlookFigures>& keptForecast() const;
+    bool isCounted() const;
+    std::uint64_t samples() const;
+    OutlookFigures chances() const;
+    OutlookFigures newForecast() const;
     void finishStage();
 
     Contest m_contest;
+    ChanceKind m_kind;
     UpperChance m_upperChance;
     OutlookLimits m_limits;
     std::vector<Stage> m_plan;
@@ -100,11 +115,9 @@ private:
     std::size_t m_prospectSteps = 0; ///< done of finding what is certain, two for each player
 
     std::variant<std::monostate, FirstCount, ChanceCount, PlaceCount> m_running;
-    std::optional<Forecast> m_forecast; ///< nothing once there are counted chances
-    std::optional<std::vector<PlayerProspect>> m_proven;
-    std::optional<FirstOutlook> m_firsts;
-    std::optional<ChanceOutlook> m_chances;
-    std::optional<std::vector<PlayerPlaces>> m_places;
+    std::optional<Forecast> m_forecast;                     ///< nothing once there are counted chances
+    WorkedOut::Found<std::vector<PlayerProspect>> m_proven; ///< also where the search was stopped
+    WorkedOut m_known;
 };
 
 } // namespace tallyhoop

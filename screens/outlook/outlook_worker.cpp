@@ -13,6 +13,10 @@ namespace tallyhoop {
 class OutlookWorker::Exchange
 {
 public:
+    /// @param results of which the job finds something
+    /// @param known   what it begins with
+    Exchange(Bracket results, WorkedOut known) : m_results{std::move(results)}, m_workedOut{std::move(known)} {}
+
     // For the thread that shows.
 
     void stop()
@@ -45,6 +49,14 @@ public:
         return std::exchange(m_news, std::nullopt);
     }
 
+    const Bracket& results() const { return m_results; }
+
+    WorkedOut workedOut() const
+    {
+        const std::lock_guard lock{m_mutex};
+        return m_workedOut;
+    }
+
     // For the thread that works.
 
     bool isStopped() const
@@ -66,6 +78,12 @@ public:
         m_fraction = fraction;
     }
 
+    void keep(WorkedOut found)
+    {
+        const std::lock_guard lock{m_mutex};
+        std::swap(m_workedOut, found);
+    }
+
     /// @param isOver nothing will follow
     void publish(OutlookKnown known, bool isOver)
     {
@@ -85,8 +103,10 @@ public:
     }
 
 private:
+    const Bracket m_results;
     mutable std::mutex m_mutex;
     std::optional<OutlookKnown> m_news;
+    WorkedOut m_workedOut;
     double m_fraction = 0;
     std::exception_ptr m_trouble;
     bool m_isStopped = false;
@@ -124,11 +144,16 @@ public:
     }
 
     /// What is known before the first slice. The road still belongs to the slice of another job.
-    void publishStart(bool isOver) { publish({}, isOver); }
+    void publishStart(bool isOver)
+    {
+        m_exchange->setFraction(m_job.work().fraction());
+        publish({}, isOver);
+    }
 
 private:
     void publish(std::vector<RoadPoint> road, bool isOver)
     {
+        m_exchange->keep(m_job.work().workedOut());
         m_exchange->publish({m_job.work().figures(), std::move(road), m_job.work().isDone() && !m_isCut}, isOver);
     }
 
@@ -141,6 +166,7 @@ private:
 OutlookWorker::OutlookWorker(Bracket entered, std::vector<Bracket> picks, const Payoffs& payoffs, Field field,
                              std::unique_ptr<ui::Background> background)
     : m_entered{std::move(entered)},
+      m_kept{m_entered},
       m_picks{std::move(picks)},
       m_payoffs{payoffs},
       m_field{std::move(field)},
@@ -152,7 +178,9 @@ OutlookWorker::~OutlookWorker() = default;
 
 void OutlookWorker::begin(const Bracket& supposed, ChanceKind kind)
 {
-    auto exchange = std::make_shared<Exchange>();
+    if (m_exchange)
+        m_kept.keep(m_exchange->results(), m_exchange->workedOut());
+    auto exchange = std::make_shared<Exchange>(supposed, m_kept.turnTo(supposed));
     OutlookKnown nothing;
     nothing.figures.prospects = unknownProspects(m_picks.size());
     exchange->publish(std::move(nothing), false);
@@ -168,7 +196,7 @@ void OutlookWorker::begin(const Bracket& supposed, ChanceKind kind)
 void OutlookWorker::run(const Bracket& supposed, ChanceKind kind)
 {
     const auto slices = std::make_shared<Slices>(m_exchange, Contest{supposed, m_picks, m_payoffs}, m_field, kind,
-                                                 roadOf(kind), supposed == m_entered);
+                                                 roadOf(kind), supposed == m_entered, m_exchange->workedOut());
     slices->publishStart(false);
     if (!m_background->run([slices](const Step& goesOn) { return slices->advance(goesOn); },
                            [exchange = m_exchange](const std::exception_ptr& trouble) { exchange->fail(trouble); }))

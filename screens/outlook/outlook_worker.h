@@ -3,6 +3,7 @@
 
 #include "pool/outlook/road.h"
 #include "screens/outlook/outlook_work.h"
+#include "screens/outlook/worked_out.h"
 #include "ui/background.h"
 
 #include <array>
@@ -33,7 +34,8 @@ public:
     OutlookWorker& operator=(const OutlookWorker&) = delete;
 
     /// Begins with other results or chances; what ran before is abandoned. Few open games are counted before this
-    /// returns: everybody's chances are news then. Where that fails, it is news that nothing is known.
+    /// returns: everybody's chances are news then, and what is known of these results from before. Where that fails, it
+    /// is news that nothing is known.
     /// @param supposed the results, supposed ones with them
     void begin(const Bracket& supposed, ChanceKind kind);
 
@@ -61,6 +63,7 @@ private:
     std::shared_ptr<Road> roadOf(ChanceKind kind);
 
     Bracket m_entered;
+    KeptOutlooks m_kept;
     std::vector<Bracket> m_picks;
     Payoffs m_payoffs;
     Field m_field;

@@ -107,13 +107,45 @@ TEST_F(OutlookStagesTest, SaysNothingMoreOnceTheRoadIsKnown)
     EXPECT_EQ(screen->lblOutcomes.text, "All alike: 65536 outcomes left, every one counted.");
 }
 
-TEST_F(OutlookStagesTest, ComparesWithWhatIsCountedAndNotWithALaterForecast)
+TEST_F(OutlookStagesTest, ShowsWhatIsCountedAtOnceWhenASuppositionIsTakenBack)
 {
     open();
     countAll();
+    const std::string counted = screen->lblOutcomes.text;
     press(kUpperOfDuel);
+    EXPECT_EQ(cell("X, Ann", OutlookColumn::Share), "100.0 %");
     EXPECT_EQ(cell("X, Ann", OutlookColumn::Change), "+50.0") << "from 50 % to 100 %";
-    press(kUpperOfDuel); // takes it back: the same is forecast once more
+    screen->cmdUndo.click();
+    screen->showState();
+    EXPECT_EQ(cell("X, Ann", OutlookColumn::Share), "50.0 %");
+    EXPECT_EQ(screen->lblOutcomes.text, counted);
+}
+
+TEST_F(OutlookStagesTest, KeepsTheVerdictsWhenTheChancesChange)
+{
+    open();
+    while (screen->isWorking() && cell("X, Ann", OutlookColumn::Verdict) == "Open")
+        doSlice();
+    EXPECT_EQ(cell("X, Ann", OutlookColumn::Verdict), "Alive");
+    countAll();
+    for (const std::size_t kind : {1u, 0u}) {
+        selectOption(screen->optChances, kind);
+        screen->optChances[kind].changed();
+        screen->showState();
+        EXPECT_EQ(cell("X, Ann", OutlookColumn::Verdict), "Alive");
+        EXPECT_EQ(cell("X, Bob", OutlookColumn::Verdict), "Alive");
+    }
+    EXPECT_EQ(cell("X, Ann", OutlookColumn::Share), "50.0 %") << "back on All Alike";
+}
+
+TEST_F(OutlookStagesTest, ComparesWithWhatIsCountedAndNotWithALaterForecast)
+{
+    open();
+    press(kUpperOfDuel);
+    while (screen->roadPicture().points.empty()) // by the results as entered
+        doSlice();
+    EXPECT_EQ(cell("X, Ann", OutlookColumn::Change), "+50.0") << "from 50 % to 100 %";
+    press(kUpperOfDuel); // takes it back: now the same is forecast
     doSlice();
     ASSERT_THAT(screen->lblOutcomes.text, HasSubstr("forecast from 500 samples"));
     ASSERT_THAT(cell("X, Ann", OutlookColumn::Share), Not(StartsWith("50.0"))) << "else it makes no difference";

@@ -36,6 +36,16 @@ struct OutlookWorkerTest : testing::Test {
         worker->begin(entered, kind);
     }
 
+    /// Without the road.
+    void findFigures()
+    {
+        std::optional<OutlookKnown> known;
+        while (!known || !known->isWhole) {
+            ASSERT_TRUE(background->doSlice());
+            known = worker->news();
+        }
+    }
+
     /// Too many open games to count them.
     void beginAForecast()
     {
@@ -155,6 +165,42 @@ TEST_F(OutlookWorkerTest, KeepsTheRoadOfEachKindOfChances)
     static_cast<void>(worker->news());
     background->doSlice();
     EXPECT_DOUBLE_EQ(worker->news()->road.back().chances.at(0).share, 0.75) << "found in no more than one slice";
+}
+
+TEST_F(OutlookWorkerTest, KnowsTheVerdictsAtOnceWhenTheChancesChange)
+{
+    begin();
+    findFigures();
+    worker->begin(entered, ChanceKind::BySeed);
+    const std::optional<OutlookKnown> known = worker->news();
+    EXPECT_DOUBLE_EQ(known->figures.chances.players.at(0).all.share, 0.75);
+    EXPECT_EQ(known->figures.prospects.at(0).worst, (PlaceBetween{3, 3}));
+    EXPECT_TRUE(known->isWhole);
+    EXPECT_EQ(worker->fraction(), 1);
+    EXPECT_TRUE(worker->isWorking()) << "on the road";
+}
+
+TEST_F(OutlookWorkerTest, KnowsTheResultsAsEnteredAfterASupposition)
+{
+    begin();
+    findFigures();
+    worker->begin(advanced(entered, kSemifinalB), ChanceKind::Alike);
+    EXPECT_FALSE(worker->news()->isWhole) << "they are other results";
+    worker->begin(entered, ChanceKind::Alike);
+    const std::optional<OutlookKnown> known = worker->news();
+    EXPECT_DOUBLE_EQ(known->figures.chances.players.at(0).all.share, 0.5);
+    EXPECT_EQ(known->figures.prospects.at(0).worst, (PlaceBetween{3, 3}));
+    EXPECT_TRUE(known->isWhole);
+}
+
+TEST_F(OutlookWorkerTest, KeepsWhatAnAbandonedJobHasFound)
+{
+    beginAForecast();
+    background->doSlice(); // what is certain
+    worker->begin(entered, ChanceKind::BySeed);
+    const std::optional<OutlookKnown> known = worker->news();
+    EXPECT_EQ(known->figures.source, ChanceSource::None);
+    EXPECT_EQ(known->figures.prospects.at(0).best.most, 1u) << "it is known after the search";
 }
 
 TEST_F(OutlookWorkerTest, SaysThatNothingFollowsWhereThereIsNoThread)
