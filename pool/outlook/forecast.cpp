@@ -12,7 +12,7 @@ Forecast::Forecast(const Contest& contest, const UpperChance& upperChance, std::
 {
 }
 
-Forecast::Forecast(const Contest& contest, Stages stages, std::uint64_t seed)
+Forecast::Forecast(const Contest& contest, Stages&& stages, std::uint64_t seed)
     : m_players{contest.players()},
       m_random{seed},
       m_earlyGames{std::move(stages.early)},

@@ -56,7 +56,7 @@ public:
     double standardErrorGiven(double share, double sideWins) const;
 
 private:
-    Forecast(const Contest& contest, Stages stages, std::uint64_t seed);
+    Forecast(const Contest& contest, Stages&& stages, std::uint64_t seed);
 
     void playEarlyGames();
     void addSample();

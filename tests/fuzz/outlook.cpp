@@ -14,7 +14,7 @@
 namespace tallyhoop::fuzz {
 namespace {
 
-constexpr std::size_t kMostOpen = Forecast::kCountedGames; // so that a forecast leaves nothing to chance
+constexpr std::size_t kMostOpen = 10; // some more than a forecast counts, few enough to score every outcome
 constexpr std::size_t kMostPlayers = 6;
 
 /// Plays all open games but the last few, so that every outcome can be scored.
@@ -70,7 +70,7 @@ Complaint compareChances(const Contest& contest)
         return "the chances are not the sum over every outcome";
     Forecast forecast{contest, test::someChance};
     forecast.add(1);
-    if (!areClose(forecast.outlook(), expected))
+    if (forecast.isExact() && !areClose(forecast.outlook(), expected))
         return "a forecast that counts everything is not the sum over every outcome";
     return std::nullopt;
 }

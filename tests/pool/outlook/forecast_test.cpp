@@ -219,12 +219,29 @@ TEST(Forecast, AgreesWithOneOfAnotherSeedWithinTheirErrors)
     EXPECT_FALSE(allEqual);
 }
 
-TEST(Forecast, MakesTheSameNumbersOnEveryPlatform)
+TEST(Forecast, PlaysAnEarlyGameByTheNumbersOfItsGenerator)
 {
-    // The 10,000th number of the generator as the C++ standard gives it, for the seed that it has by default.
-    std::mt19937_64 random;
-    random.discard(9999);
-    EXPECT_EQ(random(), 9981545732273789042U);
+    // Given: eight open games, of which seven are counted. The eighth decides: its round is the only one that brings
+    // points, one player picked the upper team there, the other one the lower.
+    const Bracket results = InventedPools{14}.withOpen(test::everyUpperTeamWins(), 8);
+    const Position early = *std::ranges::min_element(OpenGames{results}.games(), {}, roundOf);
+    std::vector<Bracket> picks(2);
+    for (std::size_t player = 0; player < 2; ++player)
+        picks[player].put(early, results.at((*feeders(early))[player]));
+    Payoffs payoffs{};
+    payoffs[roundIndex(roundOf(early))] = 1;
+    // When: the seed is the one that the generator has by default. It begins with 14514284786278117030 and
+    // 4620546740167642908, of 2^64 that is 0.787 and 0.2505.
+    const auto shareAfterTwo = [&](double upperWins) {
+        Forecast made{{results, picks, payoffs}, [=](std::size_t, TeamNumber, TeamNumber) { return upperWins; }, 5489};
+        made.add(2);
+        return made.outlook().players[0].all.share;
+    };
+    // Then: the upper team wins when the number is less than its chance.
+    EXPECT_NEAR(shareAfterTwo(0.25), 0, 1e-12);
+    EXPECT_NEAR(shareAfterTwo(0.251), 0.5, 1e-12);
+    EXPECT_NEAR(shareAfterTwo(0.786), 0.5, 1e-12);
+    EXPECT_NEAR(shareAfterTwo(0.787), 1, 1e-12);
 }
 
 TEST(Forecast, BeginsWithTheNumberThatIsShown)
