@@ -15,7 +15,9 @@ CountTree<Points, Number>::CountTree(const Contest& contest, const std::vector<s
     : m_contest{contest},
       m_upperChance{std::move(upperChance)},
       m_finalGames{openAmong(contest.games(), finalGames())},
-      m_regions{regionPoints<Points>(contest, m_upperChance)},
+      m_finalOutcomes{combinations(m_finalGames)},
+      m_regions{regionPoints<Points>(contest, m_upperChance, step)},
+      m_ways{m_finalOutcomes.size()},
       m_everybody(contest.players()),
       m_race{players},
       m_witnesses(contest.players())
@@ -23,31 +25,51 @@ CountTree<Points, Number>::CountTree(const Contest& contest, const std::vector<s
     addLeads(contest, m_regions, step);
     std::iota(m_everybody.begin(), m_everybody.end(), std::size_t{0});
     for (const RegionPoints<Points>& region : m_regions)
-        m_slices *= region.ends.size();
+        m_ways *= region.ends.size();
 }
 
 template <class Points, class Number>
-void CountTree<Points, Number>::count(std::size_t slice)
+double CountTree<Points, Number>::fraction() const
+{
+    return (static_cast<double>(m_way) + (m_race.isDone() ? 0 : m_race.fraction())) / static_cast<double>(m_ways);
+}
+
+template <class Points, class Number>
+void CountTree<Points, Number>::advance()
+{
+    if (m_race.isDone())
+        beginRace();
+    m_race.advance();
+    if (!m_race.isDone())
+        return;
+    addRace();
+    ++m_way;
+}
+
+/// @param number of the ways to win the regions
+template <class Points, class Number>
+void CountTree<Points, Number>::chooseEnds(std::size_t number)
 {
     for (std::size_t region = 0; region < kRegions; ++region) {
         const std::vector<End>& ends = m_regions[region].ends;
-        m_ends[region] = &ends[slice % ends.size()];
-        slice /= ends.size();
+        m_ends[region] = &ends[number % ends.size()];
+        number /= ends.size();
     }
     m_limits = m_ends[0]->leads;
     for (std::size_t region = 1; region < kRegions; ++region)
         std::ranges::transform(m_limits, m_ends[region]->leads, m_limits.begin(), std::plus{});
-    for (const OutcomeNumber outcome : combinations(m_finalGames))
-        countFinal(outcome);
 }
 
 template <class Points, class Number>
-void CountTree<Points, Number>::countFinal(OutcomeNumber outcome)
+void CountTree<Points, Number>::beginRace()
 {
+    const std::size_t finalOutcome = m_way % m_finalOutcomes.size();
+    if (finalOutcome == 0)
+        chooseEnds(m_way / m_finalOutcomes.size());
     ByPosition<TeamNumber> teams = m_contest.games().known().numbers();
     for (std::size_t region = 0; region < kRegions; ++region)
         teams[regionWinner(static_cast<int>(region))] = m_ends[region]->winner;
-    const double chance = playAll(m_contest.games(), finalGames(), outcome, teams, m_upperChance);
+    m_chance = playAll(m_contest.games(), finalGames(), m_finalOutcomes[finalOutcome], teams, m_upperChance);
     // Nobody is behind those who only fill up the row.
     std::vector<Points> points(Lanes<Points>::padded(m_contest.players()), std::numeric_limits<Points>::min() / 2);
     for (std::size_t runner = 0; runner < m_contest.players(); ++runner)
@@ -56,15 +78,15 @@ void CountTree<Points, Number>::countFinal(OutcomeNumber outcome)
     std::vector<Points> running;
     for (const std::size_t runner : m_running)
         running.push_back(points[runner]);
-    m_race.run(m_running, running, m_regions, m_ends);
-    addRace(outcome, chance);
+    m_race.begin(m_running, running, m_regions, m_ends);
 }
 
 /// Adds what the race has counted to the open games.
 template <class Points, class Number>
-void CountTree<Points, Number>::addRace(OutcomeNumber finalOutcome, double chance)
+void CountTree<Points, Number>::addRace()
 {
-    const auto weight = static_cast<Number>(chance);
+    const OutcomeNumber finalOutcome = m_finalOutcomes[m_way % m_finalOutcomes.size()];
+    const auto weight = static_cast<Number>(m_chance);
     const std::size_t runners = m_contest.players();
     for (const auto& raced : m_race.counts()) {
         if (!raced.isUsed)

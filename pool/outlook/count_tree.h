@@ -39,9 +39,13 @@ public:
     CountTree(const Contest& contest, const std::vector<std::size_t>& players, UpperChance upperChance,
               const Step& step);
 
-    /// The work comes in so many slices, each to be counted once, in any order.
-    std::size_t slices() const { return m_slices; }
-    void count(std::size_t slice);
+    bool isDone() const { return m_race.isDone() && m_way == m_ways; }
+
+    /// How much is done, 0..1, growing steadily.
+    double fraction() const;
+
+    /// Does one slice of the work. @pre !isDone()
+    void advance();
 
     /// For each number of players who were first together, in no order.
     const std::vector<Count>& counts() const { return m_counts; }
@@ -52,22 +56,25 @@ public:
 private:
     using End = RegionEnd<Points>;
 
-    void countFinal(OutcomeNumber outcome);
-    void findRunners(const std::vector<Points>& points);
-    void addRace(OutcomeNumber finalOutcome, double chance);
+    void chooseEnds(std::size_t number);
+    void beginRace();
+    void addRace();
     void addRegion(std::size_t region, const std::vector<Number>& ofClasses, Number chance, Count& count) const;
     Count& countFor(std::size_t together);
 
     const Contest& m_contest;
     UpperChance m_upperChance;
-    std::vector<std::size_t> m_finalGames; ///< the open ones of the last three
+    std::vector<std::size_t> m_finalGames;      ///< the open ones of the last three
+    std::vector<OutcomeNumber> m_finalOutcomes; ///< all of these
     std::array<RegionPoints<Points>, kRegions> m_regions;
-    std::size_t m_slices = 1;
+    std::size_t m_ways = 1; ///< to win the regions and the last three games: a race for each
+    std::size_t m_way = 0;  ///< that of the race being counted, or the next one
 
-    std::array<const End*, kRegions> m_ends{}; ///< those of the slice being counted
+    std::array<const End*, kRegions> m_ends{}; ///< those of the race
+    double m_chance = 1;                       ///< of the outcome of its last three games
     std::vector<Points> m_limits;              ///< runner by runner, in rows: the largest leads in all regions
     std::vector<std::size_t> m_everybody;
-    std::vector<std::size_t> m_running; ///< those in the race being counted
+    std::vector<std::size_t> m_running; ///< those in the race
     Race<Points, Number> m_race;
 
     std::vector<Count> m_counts;

@@ -18,11 +18,14 @@ class CountedRunners
 public:
     /// @param step, mostBytes as for FirstCount
     CountedRunners(const Contest& contest, const UpperChance& upperChance, const Step& step, std::size_t mostBytes);
+    CountedRunners(const CountedRunners&) = delete; // the tree refers to the runners
+    CountedRunners& operator=(const CountedRunners&) = delete;
+    ~CountedRunners() = default;
 
     bool isTooLarge() const { return m_isTooLarge; }
 
-    bool isDone() const { return m_next == m_slices; }
-    double fraction() const { return isDone() ? 1 : static_cast<double>(m_next) / static_cast<double>(m_slices); }
+    bool isDone() const;
+    double fraction() const;
     void advance();
 
     /// Tells each player's counts.
@@ -43,11 +46,12 @@ private:
     template <class Points>
     using Tree = std::unique_ptr<CountTree<Points, Number>>;
 
+    template <class Points>
+    void makeTree(const UpperChance& upperChance, const Step& step);
+
     Runners m_runners;
-    std::variant<Tree<std::int16_t>, Tree<std::int32_t>> m_tree; ///< none without players
+    std::variant<Tree<std::int16_t>, Tree<std::int32_t>> m_tree; ///< none without players, and after a stop
     bool m_isTooLarge = false;
-    std::size_t m_slices = 0;
-    std::size_t m_next = 0;
 };
 
 } // namespace tallyhoop

@@ -1,27 +1,27 @@
 // pool/outlook/lanes.cpp - two passes over the runners for each vector: the most points, then who has them.
 #include "pool/outlook/lanes.h"
 
+#include <atomic>
+
 namespace tallyhoop {
 
 namespace {
 
 // Everything below is inlined into the functions at the end, which are compiled for different processors.
-#define TALLYHOOP_INLINE [[gnu::always_inline]] inline
-
 template <class Vector, class Number>
-TALLYHOOP_INLINE void load(Vector& vector, const Number* from)
+[[gnu::always_inline]] inline void load(Vector& vector, const Number* from)
 {
     __builtin_memcpy(&vector, from, sizeof vector);
 }
 
 template <class Vector, class Number>
-TALLYHOOP_INLINE void store(const Vector& vector, Number* to)
+[[gnu::always_inline]] inline void store(const Vector& vector, Number* to)
 {
     __builtin_memcpy(to, &vector, sizeof vector);
 }
 
 template <class Vector>
-TALLYHOOP_INLINE bool anySet(const Vector& vector)
+[[gnu::always_inline]] inline bool anySet(const Vector& vector)
 {
     std::array<std::uint64_t, sizeof vector / sizeof(std::uint64_t)> words;
     __builtin_memcpy(&words, &vector, sizeof words);
@@ -53,7 +53,8 @@ struct ChanceLanes<16> {
 
 /// Lists the runners of the lanes in which several players are first.
 template <class Points, class Number, class Vector>
-TALLYHOOP_INLINE void listTies(Heat<Points, Number>& heat, std::size_t lane, Vector& tied, const Vector& players)
+[[gnu::always_inline]] inline void listTies(Heat<Points, Number>& heat, std::size_t lane, Vector& tied,
+                                            const Vector& players)
 {
     constexpr std::size_t kCount = Lanes<Points>::kCount;
     for (Points together = 2; anySet(tied); ++together) {
@@ -77,8 +78,8 @@ TALLYHOOP_INLINE void listTies(Heat<Points, Number>& heat, std::size_t lane, Vec
 }
 
 template <class Points>
-TALLYHOOP_INLINE void countAlone(Heat<Points, std::uint64_t>& heat, std::size_t lane, std::size_t runner,
-                                 const typename Lanes<Points>::Vector& isAlone)
+[[gnu::always_inline]] inline void countAlone(Heat<Points, std::uint64_t>& heat, std::size_t lane, std::size_t runner,
+                                              const typename Lanes<Points>::Vector& isAlone)
 {
     using Weights = typename WeightLanes<std::make_unsigned_t<Points>>::Vector;
     const auto mask = reinterpret_cast<Weights>(isAlone);
@@ -95,8 +96,8 @@ TALLYHOOP_INLINE void countAlone(Heat<Points, std::uint64_t>& heat, std::size_t 
 }
 
 template <class Points>
-TALLYHOOP_INLINE void countAlone(Heat<Points, double>& heat, std::size_t lane, std::size_t runner,
-                                 const typename Lanes<Points>::Vector& isAlone)
+[[gnu::always_inline]] inline void countAlone(Heat<Points, double>& heat, std::size_t lane, std::size_t runner,
+                                              const typename Lanes<Points>::Vector& isAlone)
 {
     using Chances = typename ChanceLanes<Lanes<Points>::kCount>::Vector;
     const Chances minusOne = __builtin_convertvector(isAlone, Chances);
@@ -113,7 +114,7 @@ TALLYHOOP_INLINE void countAlone(Heat<Points, double>& heat, std::size_t lane, s
 }
 
 template <class Points, class Number>
-TALLYHOOP_INLINE void countVector(Heat<Points, Number>& heat, std::size_t lane)
+[[gnu::always_inline]] inline void countVector(Heat<Points, Number>& heat, std::size_t lane)
 {
     using Vector = typename Lanes<Points>::Vector;
     constexpr std::size_t kCount = Lanes<Points>::kCount;
@@ -152,7 +153,7 @@ TALLYHOOP_INLINE void countVector(Heat<Points, Number>& heat, std::size_t lane)
 }
 
 template <class Points, class Number>
-TALLYHOOP_INLINE void countAll(Heat<Points, Number>& heat)
+[[gnu::always_inline]] inline void countAll(Heat<Points, Number>& heat)
 {
     constexpr std::size_t kCount = Lanes<Points>::kCount;
     heat.ties.clear();
@@ -166,7 +167,7 @@ TALLYHOOP_INLINE void countAll(Heat<Points, Number>& heat)
 }
 
 template <class Points>
-TALLYHOOP_INLINE bool isBeaten(const Points* limits, Points before, const std::vector<Points>& points)
+[[gnu::always_inline]] inline bool isBeaten(const Points* limits, Points before, const std::vector<Points>& points)
 {
     using Vector = typename Lanes<Points>::Vector;
     for (std::size_t i = 0; i < points.size(); i += Lanes<Points>::kCount) {
@@ -181,8 +182,8 @@ TALLYHOOP_INLINE bool isBeaten(const Points* limits, Points before, const std::v
 }
 
 template <class Points>
-TALLYHOOP_INLINE void keep(const std::vector<Points>& limits, const std::vector<Points>& points,
-                           const std::vector<std::size_t>& all, std::vector<std::size_t>& kept)
+[[gnu::always_inline]] inline void keep(const std::vector<Points>& limits, const std::vector<Points>& points,
+                                        const std::vector<std::size_t>& all, std::vector<std::size_t>& kept)
 {
     kept.clear();
     for (const std::size_t i : all)
@@ -204,30 +205,30 @@ template <class Points>
     keep(limits, points, all, kept);
 }
 
-bool hasAvx2()
-{
-    static const bool has = __builtin_cpu_supports("avx2") != 0;
-    return has;
-}
+bool hasAvx2() { return __builtin_cpu_supports("avx2") != 0; }
+#else
+bool hasAvx2() { return false; }
 #endif
 
+std::atomic<bool>& usesAvx2()
+{
+    static std::atomic<bool> uses{hasAvx2()};
+    return uses;
+}
+
 } // namespace
+
+bool useAvx2(bool wanted) { return usesAvx2().exchange(wanted && hasAvx2()); }
 
 template <class Points, class Number>
 void countLanes(Heat<Points, Number>& heat)
 {
 #if defined(__x86_64__)
-    if (hasAvx2()) {
+    if (usesAvx2()) {
         countWithAvx2(heat);
         return;
     }
 #endif
-    countLanesAnywhere(heat);
-}
-
-template <class Points, class Number>
-void countLanesAnywhere(Heat<Points, Number>& heat)
-{
     countAll(heat);
 }
 
@@ -236,7 +237,7 @@ void keepAlive(const std::vector<Points>& limits, const std::vector<Points>& poi
                const std::vector<std::size_t>& all, std::vector<std::size_t>& kept)
 {
 #if defined(__x86_64__)
-    if (hasAvx2()) {
+    if (usesAvx2()) {
         keepWithAvx2(limits, points, all, kept);
         return;
     }
@@ -248,10 +249,6 @@ template void countLanes(Heat<std::int16_t, std::uint64_t>&);
 template void countLanes(Heat<std::int32_t, std::uint64_t>&);
 template void countLanes(Heat<std::int16_t, double>&);
 template void countLanes(Heat<std::int32_t, double>&);
-template void countLanesAnywhere(Heat<std::int16_t, std::uint64_t>&);
-template void countLanesAnywhere(Heat<std::int32_t, std::uint64_t>&);
-template void countLanesAnywhere(Heat<std::int16_t, double>&);
-template void countLanesAnywhere(Heat<std::int32_t, double>&);
 template void keepAlive(const std::vector<std::int16_t>&, const std::vector<std::int16_t>&,
                         const std::vector<std::size_t>&, std::vector<std::size_t>&);
 template void keepAlive(const std::vector<std::int32_t>&, const std::vector<std::int32_t>&,

@@ -63,12 +63,9 @@ struct Heat {
 };
 
 /// Finds who is first in each lane. Those alone are counted; ties are listed.
+/// @pre `Points` can count all players
 template <class Points, class Number>
 void countLanes(Heat<Points, Number>& heat);
-
-/// The same as on a processor without AVX2.
-template <class Points, class Number>
-void countLanesAnywhere(Heat<Points, Number>& heat);
 
 /// Keeps of some runners those who can still be first.
 /// @param limits runner by runner, in rows of a multiple of Lanes<Points>::kCount: the most by which the one can still
@@ -79,5 +76,10 @@ void countLanesAnywhere(Heat<Points, Number>& heat);
 template <class Points>
 void keepAlive(const std::vector<Points>& limits, const std::vector<Points>& points,
                const std::vector<std::size_t>& all, std::vector<std::size_t>& kept);
+
+/// Chooses how all of this is done from now on; it begins with AVX2 where the processor has it.
+/// @param wanted without meaning on other processors
+/// @returns whether it was used before
+bool useAvx2(bool wanted);
 
 } // namespace tallyhoop

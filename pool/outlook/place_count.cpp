@@ -14,6 +14,9 @@ namespace {
 using Points = std::int32_t;
 using Regions = std::array<RegionPoints<Points>, kRegions>;
 
+constexpr std::size_t kWorkOfASlice = 1'000'000; ///< points looked at: about four milliseconds
+constexpr std::size_t kWorkOfAnOutcome = 100;    ///< besides everybody's points
+
 /// Finds how many have more points than each one. Points are mostly close together: then it is enough to count how many
 /// have each number of points.
 class Placing
@@ -92,15 +95,15 @@ std::size_t PlayerPlaces::worst() const
     return static_cast<std::size_t>(outcomes.rend() - found);
 }
 
-/// A slice is one class of the first region, for one way to win the regions and one outcome of the last three games.
+/// Outcome by outcome of the classes, for each way to win the regions and the last three games.
 class PlaceCount::Work
 {
 public:
-    explicit Work(const Contest& contest)
+    Work(const Contest& contest, const Step& step)
         : m_players{contest.players()},
           m_runners{allRunners(contest)},
           m_placing{sizesOf(m_runners)},
-          m_regions{regionPoints<Points>(m_runners.contest)},
+          m_regions{regionPoints<Points>(m_runners.contest, {}, step)},
           m_finals{combinations(openAmong(contest.games(), finalGames()))},
           m_places(m_runners.players.size() * contest.players())
     {
@@ -108,7 +111,9 @@ public:
         std::iota(m_everybody.begin(), m_everybody.end(), std::size_t{0});
         for (std::vector<Points>& points : m_points)
             points.resize(Lanes<Points>::padded(m_everybody.size()));
-        m_ways = m_everybody.empty() ? 0 : 1;
+        if (m_everybody.empty() || !step())
+            return;
+        m_ways = m_finals.size();
         for (const RegionPoints<Points>& region : m_regions)
             m_ways *= region.ends.size();
     }
@@ -119,25 +124,21 @@ public:
     {
         if (isDone())
             return 1;
-        const double ofWay = static_cast<double>(m_final) / static_cast<double>(m_finals.size());
-        return (static_cast<double>(m_way) + ofWay) / static_cast<double>(m_ways);
+        double done = 0;
+        if (m_isUnderWay) {
+            double part = 1;
+            for (std::size_t region = 0; region < kRegions; ++region) {
+                part /= static_cast<double>(m_classes[region].size());
+                done += part * static_cast<double>(m_chosen[region]);
+            }
+        }
+        return (static_cast<double>(m_way) + done) / static_cast<double>(m_ways);
     }
 
     void advance()
     {
-        if (isDone())
-            return;
-        if (m_final == 0 && m_class == 0)
-            findClasses();
-        setFinal(m_finals[m_final]);
-        count(0, m_class, 1);
-        if (++m_class < m_classes[0].size())
-            return;
-        m_class = 0;
-        if (++m_final < m_finals.size())
-            return;
-        m_final = 0;
-        ++m_way;
+        for (std::size_t work = 0; work < kWorkOfASlice && !isDone();)
+            work += m_isUnderWay ? place() : begin();
     }
 
     std::vector<PlayerPlaces> places() const
@@ -152,9 +153,9 @@ public:
     }
 
 private:
-    void findClasses()
+    /// @param way number of the ways to win the regions
+    void findClasses(std::size_t way)
     {
-        std::size_t way = m_way;
         m_teams = m_runners.contest.games().known().numbers();
         for (std::size_t region = 0; region < kRegions; ++region) {
             const auto& ends = m_regions[region].ends;
@@ -165,31 +166,53 @@ private:
         }
     }
 
-    void setFinal(OutcomeNumber outcome)
+    /// Begins with one way to win the regions and the last three games.
+    /// @returns about how many numbers it was necessary to look at
+    std::size_t begin()
     {
-        playAll(m_runners.contest.games(), finalGames(), outcome, m_teams);
+        const bool isFirstFinal = m_way % m_finals.size() == 0;
+        if (isFirstFinal)
+            findClasses(m_way / m_finals.size());
+        playAll(m_runners.contest.games(), finalGames(), m_finals[m_way % m_finals.size()], m_teams);
         for (const std::size_t runner : m_everybody)
             m_points[0][runner] = m_runners.contest.points(runner, m_teams, finalGames());
+        m_chosen.fill(0);
+        addPoints(0);
+        m_isUnderWay = true;
+        std::size_t outcomes = kRegions;
+        for (const auto& region : m_regions)
+            outcomes += isFirstFinal ? region.ends.front().outcomes.size() : 0;
+        return outcomes * m_points[0].size();
     }
 
-    /// Counts the outcomes in which a class comes true, given what is in m_points[region].
-    void count(std::size_t region, std::size_t number, std::uint64_t weight)
+    /// Adds the points of the classes chosen, from a region on.
+    void addPoints(std::size_t region)
     {
-        const RegionClasses<Points, std::uint64_t>& classes = m_classes[region];
-        const std::vector<Points>& before = m_points[region];
-        std::vector<Points>& after = m_points[region + 1];
-        const Points* more = &classes.points[number * before.size()];
-        for (std::size_t i = 0; i < before.size(); ++i)
-            after[i] = before[i] + more[i];
-        weight *= classes.weights[number];
-        if (region + 1 < kRegions) {
-            for (std::size_t next = 0; next < m_classes[region + 1].size(); ++next)
-                count(region + 1, next, weight);
-            return;
+        for (; region < kRegions; ++region) {
+            const std::vector<Points>& before = m_points[region];
+            std::vector<Points>& after = m_points[region + 1];
+            const Points* more = &m_classes[region].points[m_chosen[region] * before.size()];
+            for (std::size_t i = 0; i < before.size(); ++i)
+                after[i] = before[i] + more[i];
+            m_weights[region + 1] = m_weights[region] * m_classes[region].weights[m_chosen[region]];
         }
-        const std::vector<std::uint32_t>& ahead = m_placing.ahead(std::span{after}.first(m_everybody.size()));
+    }
+
+    /// Counts the outcomes in which the classes chosen come true, and chooses the next ones.
+    std::size_t place()
+    {
+        const std::vector<std::uint32_t>& ahead = m_placing.ahead(std::span{m_points.back()}.first(m_everybody.size()));
         for (std::size_t runner = 0; runner < ahead.size(); ++runner)
-            m_places[runner * m_players + ahead[runner]] += weight;
+            m_places[runner * m_players + ahead[runner]] += m_weights.back();
+        std::size_t region = kRegions;
+        while (region > 0 && ++m_chosen[region - 1] == m_classes[region - 1].size())
+            m_chosen[--region] = 0;
+        m_isUnderWay = region > 0;
+        if (m_isUnderWay)
+            addPoints(region - 1);
+        else
+            ++m_way;
+        return kWorkOfAnOutcome + m_points[0].size();
     }
 
     std::size_t m_players;
@@ -199,17 +222,18 @@ private:
     std::vector<OutcomeNumber> m_finals;
     std::vector<std::uint64_t> m_places; ///< runner by runner: of each place
     std::vector<std::size_t> m_everybody;
-    std::size_t m_ways = 0; ///< to win the regions
+    std::size_t m_ways = 0; ///< to win the regions and the last three games
 
     std::size_t m_way = 0;
-    std::size_t m_final = 0;
-    std::size_t m_class = 0;
+    bool m_isUnderWay = false;                    ///< some of this way's outcomes may be counted
+    std::array<std::size_t, kRegions> m_chosen{}; ///< by region: the class counted next
     ByPosition<TeamNumber> m_teams;
     std::array<RegionClasses<Points, std::uint64_t>, kRegions> m_classes;
     std::array<std::vector<Points>, kRegions + 1> m_points; ///< of the runners: before the first region, after it, ...
+    std::array<std::uint64_t, kRegions + 1> m_weights{1};   ///< likewise: in how many outcomes these are made
 };
 
-PlaceCount::PlaceCount(const Contest& contest) : m_work{std::make_unique<Work>(contest)} {}
+PlaceCount::PlaceCount(const Contest& contest, const Step& step) : m_work{std::make_unique<Work>(contest, step)} {}
 PlaceCount::~PlaceCount() = default;
 PlaceCount::PlaceCount(PlaceCount&&) noexcept = default;
 PlaceCount& PlaceCount::operator=(PlaceCount&&) noexcept = default;

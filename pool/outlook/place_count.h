@@ -1,6 +1,7 @@
 // pool/outlook/place_count.h - counts every outcome of the open games: in how many each player ends at each place.
 #pragma once
 
+#include "base/step.h"
 #include "pool/outlook/contest.h"
 
 #include <cstddef>
@@ -33,8 +34,9 @@ struct PlayerPlaces {
 class PlaceCount
 {
 public:
+    /// @param step as for FirstCount
     /// @pre the contest has at most 40 open games; more than kMostPlacedGames take minutes
-    explicit PlaceCount(const Contest& contest);
+    explicit PlaceCount(const Contest& contest, const Step& step = goOn);
     ~PlaceCount();
     PlaceCount(PlaceCount&&) noexcept;
     PlaceCount& operator=(PlaceCount&&) noexcept;
@@ -44,7 +46,7 @@ public:
     /// How much is done, 0..1, growing steadily.
     double fraction() const;
 
-    /// Does one slice of the work: some milliseconds at most. Nothing when it is done.
+    /// Does one slice of the work: some milliseconds, however many players there are. Nothing when it is done.
     void advance();
 
     /// One for each player, in the order of the contest. @pre isDone()

@@ -17,12 +17,15 @@ constexpr Points kOutOfReach = std::numeric_limits<Points>::max() / 2;
 template <class Number>
 constexpr bool kCounts = std::is_integral_v<Number>;
 
+/// Numbers that a slice looks at, most of them side by side: about four milliseconds.
+constexpr std::size_t kWorkOfASlice = std::size_t{1} << 24;
+
 } // namespace
 
 template <class Points, class Number>
-void Race<Points, Number>::run(std::span<const std::size_t> runners, std::span<const Points> points,
-                               const std::array<RegionPoints<Points>, kRegions>& regions,
-                               const std::array<const RegionEnd<Points>*, kRegions>& ends)
+void Race<Points, Number>::begin(std::span<const std::size_t> runners, std::span<const Points> points,
+                                 const std::array<RegionPoints<Points>, kRegions>& regions,
+                                 const std::array<const RegionEnd<Points>*, kRegions>& ends)
 {
     m_runners = runners;
     m_row = Lanes<Points>::padded(runners.size());
@@ -31,21 +34,21 @@ void Race<Points, Number>::run(std::span<const std::size_t> runners, std::span<c
         count.isUsed = false;
     for (std::size_t region = 0; region < kRegions; ++region)
         m_classes[region].find(regions[region], *ends[region], runners);
-    chooseLevels();
+    chooseLevels(ends);
     Level& top = m_levels[m_depth];
     top.points.assign(m_row, 0);
     std::ranges::copy(points, top.points.begin());
     top.alive.resize(runners.size());
     std::iota(top.alive.begin(), top.alive.end(), std::size_t{0});
-    descend(m_depth, 1);
-    addSums(m_depth);
-    addLanes(1);
-    addEveryClass();
+    top.weight = 1;
+    top.classNumber = 0;
+    m_level = m_depth;
+    m_isDone = false;
 }
 
 /// Those regions become lanes that make the most lanes.
 template <class Points, class Number>
-void Race<Points, Number>::chooseLevels()
+void Race<Points, Number>::chooseLevels(const std::array<const RegionEnd<Points>*, kRegions>& ends)
 {
     std::size_t best = 0;
     std::size_t mostLanes = 0;
@@ -74,76 +77,122 @@ void Race<Points, Number>::chooseLevels()
         if ((best >> region & 1) != 0) {
             m_laneRegions.push_back(region);
             m_block.add(m_classes[region]);
-            addLimits(m_classes[region], lanes.limits);
+            addLeads(*ends[region], lanes.limits);
         }
     m_block.close();
     lanes.outcomes = m_block.total();
     for (std::size_t region = 0; region < kRegions; ++region)
         if ((best >> region & 1) == 0) {
-            Level& below = m_levels[m_depth];
+            const Level& below = m_levels[m_depth];
             Level& here = m_levels[++m_depth];
             here.region = region;
             here.outcomes = below.outcomes * m_classes[region].total;
             here.limits = below.limits;
-            addLimits(m_classes[region], here.limits);
+            addLeads(*ends[region], here.limits);
         }
     for (std::size_t level = 0; level < m_depth; ++level)
         m_levels[level].points.resize(m_row);
 }
 
 template <class Points, class Number>
-void Race<Points, Number>::addLimits(const RegionClasses<Points, Number>& classes, std::vector<Points>& limits) const
+void Race<Points, Number>::addLeads(const RegionEnd<Points>& end, std::vector<Points>& limits) const
 {
-    for (std::size_t i = 0; i < m_runners.size(); ++i)
-        for (std::size_t j = 0; j < m_runners.size(); ++j) {
-            Points most = -kOutOfReach<Points>;
-            for (std::size_t number = 0; number < classes.size(); ++number) {
-                const Points* points = &classes.points[number * m_row];
-                most = std::max(most, static_cast<Points>(points[i] - points[j]));
-            }
-            limits[i * m_row + j] = static_cast<Points>(limits[i * m_row + j] + most);
-        }
+    const std::size_t endRow = end.points.size() / end.outcomes.size();
+    for (std::size_t i = 0; i < m_runners.size(); ++i) {
+        const Points* leads = &end.leads[m_runners[i] * endRow];
+        for (std::size_t j = 0; j < m_runners.size(); ++j)
+            limits[i * m_row + j] = static_cast<Points>(limits[i * m_row + j] + leads[m_runners[j]]);
+    }
 }
 
 template <class Points, class Number>
-void Race<Points, Number>::descend(std::size_t level, Number weight)
+void Race<Points, Number>::advance()
 {
-    Level& here = m_levels[level];
+    for (std::size_t work = 0; work < kWorkOfASlice && !m_isDone;)
+        work += goOn();
+}
+
+template <class Points, class Number>
+double Race<Points, Number>::fraction() const
+{
+    if (m_isDone)
+        return 1;
+    double done = 0;
+    double part = 1;
+    for (std::size_t level = m_depth; level > 0 && level >= m_level; --level) {
+        part /= static_cast<double>(m_classes[m_levels[level].region].size());
+        done += part * static_cast<double>(m_levels[level].classNumber);
+    }
+    return done;
+}
+
+/// Counts the branch that was come to, or goes on to the next.
+/// @returns about how many numbers it was necessary to look at
+template <class Points, class Number>
+std::size_t Race<Points, Number>::goOn()
+{
+    const Level& here = m_levels[m_level];
+    std::size_t work = m_row;
     if (here.alive.size() == 1) {
-        countWhole(level, here.alive.front(), weight);
-        return;
+        countWhole(here.alive.front());
+        leave();
+    } else if (m_level == 0) {
+        work += here.alive.size() * m_block.lanes();
+        countHeat(here.weight);
+        leave();
+    } else if (here.classNumber < m_classes[here.region].size()) {
+        work += here.alive.size() * m_row;
+        descend();
+    } else {
+        leave();
     }
-    if (level == 0) {
-        countHeat(weight);
-        return;
-    }
-    Level& below = m_levels[level - 1];
+    return work;
+}
+
+/// Comes to the branch of the next class.
+template <class Points, class Number>
+void Race<Points, Number>::descend()
+{
+    const Level& here = m_levels[m_level];
+    Level& below = m_levels[--m_level];
     const RegionClasses<Points, Number>& classes = m_classes[here.region];
-    for (here.classNumber = 0; here.classNumber < classes.size(); ++here.classNumber) {
-        const Points* more = &classes.points[here.classNumber * m_row];
-        for (std::size_t i = 0; i < m_row; ++i)
-            below.points[i] = static_cast<Points>(here.points[i] + more[i]);
-        keepAlive(below.limits, below.points, here.alive, below.alive);
-        descend(level - 1, weight * classes.weights[here.classNumber]);
-        addSums(level - 1);
+    const Points* more = &classes.points[here.classNumber * m_row];
+    for (std::size_t i = 0; i < m_row; ++i)
+        below.points[i] = static_cast<Points>(here.points[i] + more[i]);
+    keepAlive(below.limits, below.points, here.alive, below.alive);
+    below.weight = here.weight * classes.weights[here.classNumber];
+    below.classNumber = 0;
+}
+
+/// Goes back from a branch that is counted.
+template <class Points, class Number>
+void Race<Points, Number>::leave()
+{
+    addSums(m_level);
+    if (m_level < m_depth) {
+        ++m_levels[++m_level].classNumber;
+        return;
     }
+    addLanes(1);
+    addEveryClass();
+    m_isDone = true;
 }
 
 /// One is left: first in all outcomes of the branch.
 template <class Points, class Number>
-void Race<Points, Number>::countWhole(std::size_t level, std::size_t i, Number weight)
+void Race<Points, Number>::countWhole(std::size_t i)
 {
     Count& count = countFor(m_players[m_runners[i]]);
-    const Number all = weight * m_levels[level].outcomes;
-    count.sums[level][i] += all;
+    const Number all = m_levels[m_level].weight * m_levels[m_level].outcomes;
+    count.sums[m_level][i] += all;
     if (all == 0) // something on the branch has no chance, and cannot be divided by
         return;
-    for (std::size_t open = 1; open <= level; ++open)
+    for (std::size_t open = 1; open <= m_level; ++open)
         count.everyClass[m_levels[open].region][i] += all / m_classes[m_levels[open].region].total;
     for (const std::size_t region : m_laneRegions)
         count.everyClass[region][i] += all / m_classes[region].total;
     if (!m_witnesses[i])
-        m_witnesses[i] = decided(level) | m_block.outcome(0);
+        m_witnesses[i] = decided(m_level) | m_block.outcome(0);
 }
 
 template <class Points, class Number>
@@ -239,7 +288,7 @@ void Race<Points, Number>::addLanes(Number factor)
             continue;
         for (std::size_t i = 0; i < m_runners.size(); ++i)
             for (std::size_t first = 0; first < m_block.lanes(); first += Lanes<Points>::kCount) {
-                LaneWeight<Points, Number>* lanes = &count.lanes[i * m_block.lanes() + first];
+                LaneWeight<Points, Number>* lanes = count.lanes.data() + i * m_block.lanes() + first;
                 LaneWeight<Points, Number> any{};
                 for (std::size_t lane = 0; lane < Lanes<Points>::kCount; ++lane)
                     any = static_cast<LaneWeight<Points, Number>>(any + (lanes[lane] != 0));

@@ -37,13 +37,22 @@ public:
     /// @param players for each runner, how many players it stands for
     explicit Race(std::vector<std::size_t> players) : m_players{std::move(players)} {}
 
-    /// Counts. What an earlier race has counted is forgotten.
+    /// Begins. What an earlier race has counted is forgotten.
     /// @param runners who is in it, one or more
     /// @param points  for each of them: points from elsewhere
-    /// @param ends    for each region: the outcomes that are left
-    void run(std::span<const std::size_t> runners, std::span<const Points> points,
-             const std::array<RegionPoints<Points>, kRegions>& regions,
-             const std::array<const RegionEnd<Points>*, kRegions>& ends);
+    /// @param ends    for each region: the outcomes that are left, with leads
+    void begin(std::span<const std::size_t> runners, std::span<const Points> points,
+               const std::array<RegionPoints<Points>, kRegions>& regions,
+               const std::array<const RegionEnd<Points>*, kRegions>& ends);
+
+    /// Whether all is counted; also before the first race.
+    bool isDone() const { return m_isDone; }
+
+    /// How much is, 0..1, growing steadily.
+    double fraction() const;
+
+    /// Counts some of the branches. @pre !isDone()
+    void advance();
 
     const RegionClasses<Points, Number>& classes(std::size_t region) const { return m_classes[region]; }
     const std::vector<Count>& counts() const { return m_counts; }
@@ -55,17 +64,20 @@ private:
     /// What is known once so many regions besides the lanes are still open.
     struct Level {
         std::size_t region = 0;         ///< the one that is decided next; without a meaning for level 0
-        std::size_t classNumber = 0;    ///< of that one: the class being counted
+        std::size_t classNumber = 0;    ///< of that one: the class being counted; all of them are = size()
+        Number weight{};                ///< of all that is decided
         std::vector<Points> limits;     ///< runner by runner, in rows: most that the one can gain on each other
         Number outcomes{};              ///< in the regions still open
         std::vector<Points> points;     ///< a row: in all that is decided
         std::vector<std::size_t> alive; ///< those who can still be first
     };
 
-    void chooseLevels();
-    void addLimits(const RegionClasses<Points, Number>& classes, std::vector<Points>& limits) const;
-    void descend(std::size_t level, Number weight);
-    void countWhole(std::size_t level, std::size_t i, Number weight);
+    void chooseLevels(const std::array<const RegionEnd<Points>*, kRegions>& ends);
+    void addLeads(const RegionEnd<Points>& end, std::vector<Points>& limits) const;
+    std::size_t goOn();
+    void descend();
+    void leave();
+    void countWhole(std::size_t i);
     void countHeat(Number weight);
     void runHeat(LaneWeight<Points, Number> laneWeight, Number weight);
     void addTie(const Tie<Points>& tie, LaneWeight<Points, Number> laneWeight, Number weight);
@@ -86,6 +98,8 @@ private:
     std::vector<std::size_t> m_laneRegions;
     std::size_t m_depth = 0; ///< the highest level
     std::array<Level, kRegions + 1> m_levels;
+    std::size_t m_level = 0; ///< that of the branch being counted
+    bool m_isDone = true;
     LaneBlock<Points, Number> m_block;
     Heat<Points, Number> m_heat;
     Number m_laneWeights{}; ///< by how much a lane may have been raised since the lanes were last added up

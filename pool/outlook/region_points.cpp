@@ -4,45 +4,142 @@
 #include "pool/outlook/margins.h"
 
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 namespace tallyhoop {
 
 namespace {
 
-/// Adds an outcome with the points that it brings each player.
+/// Plays a region in every way, game after game, so that outcomes which begin alike are added up once as far as they
+/// do.
 template <class Points>
-void addOutcome(const Contest& contest, std::span<const Position> played, const ByPosition<TeamNumber>& teams,
-                OutcomeNumber outcome, double chance, std::vector<RegionEnd<Points>>& ends)
+class RegionOutcomes
 {
-    const TeamNumber winner = teams[played.back()];
-    auto end = std::ranges::find(ends, winner, &RegionEnd<Points>::winner);
-    if (end == ends.end()) {
-        end = ends.insert(end, RegionEnd<Points>{});
-        end->winner = winner;
+public:
+    RegionOutcomes(const Contest& contest, std::span<const Position> played, const UpperChance& upperChance,
+                   const Step& step)
+        : m_contest{contest},
+          m_played{played},
+          m_upperChance{upperChance},
+          m_step{step},
+          m_teams{contest.games().known().numbers()},
+          m_sums(played.size() + 1, std::vector<Points>(Lanes<Points>::padded(contest.players())))
+    {
+        for (const Position game : played) {
+            auto& brought = m_brought.emplace_back();
+            for (const TeamNumber winner : contest.games().candidates(game))
+                brought.push_back(pointsIfWonBy(game, winner));
+            brought.emplace_back(m_sums.front().size()); // for nobody
+        }
     }
-    end->outcomes.push_back(outcome);
-    end->chances.push_back(chance);
-    const std::size_t row = end->points.size();
-    end->points.resize(row + Lanes<Points>::padded(contest.players()));
-    for (std::size_t player = 0; player < contest.players(); ++player)
-        end->points[row + player] = static_cast<Points>(contest.points(player, teams, played));
-}
+
+    std::vector<RegionEnd<Points>> ends()
+    {
+        play(0, 0, 1);
+        return std::move(m_ends);
+    }
+
+private:
+    std::vector<Points> pointsIfWonBy(Position game, TeamNumber winner) const
+    {
+        std::vector<Points> points(m_sums.front().size());
+        for (std::size_t player = 0; player < m_contest.players(); ++player)
+            if (m_contest.picks(player)[game] == winner)
+                points[player] = static_cast<Points>(m_contest.payoff(game));
+        return points;
+    }
+
+    /// Plays the games from `number` on, after those before it have ended.
+    void play(std::size_t number, OutcomeNumber outcome, double chance)
+    {
+        if (number == m_played.size()) {
+            addOutcome(outcome, chance);
+            return;
+        }
+        const Position game = m_played[number];
+        const std::vector<Position>& open = m_contest.games().games();
+        const auto found = std::ranges::lower_bound(open, game);
+        if (found == open.end() || *found != game) {
+            playSide(number, Side::Upper, outcome, chance);
+            return;
+        }
+        const auto openGame = static_cast<std::size_t>(found - open.begin());
+        double ofUpper = 1;
+        double ofLower = 1;
+        if (m_upperChance) {
+            const auto [upper, lower] = *feeders(game);
+            ofUpper = m_upperChance(openGame, m_teams[upper], m_teams[lower]);
+            ofLower = 1 - ofUpper;
+        }
+        playSide(number, Side::Upper, outcome, chance * ofUpper);
+        playSide(number, Side::Lower, outcome | OutcomeNumber{1} << openGame, chance * ofLower);
+    }
+
+    void playSide(std::size_t number, Side side, OutcomeNumber outcome, double chance)
+    {
+        if (m_isStopped)
+            return;
+        const Position game = m_played[number];
+        m_contest.games().play(game, side, m_teams);
+        const std::vector<TeamNumber>& winners = m_contest.games().candidates(game);
+        const auto winner = std::ranges::lower_bound(winners, m_teams[game]);
+        addRows(m_sums[number], m_brought[number][static_cast<std::size_t>(winner - winners.begin())],
+                m_sums[number + 1]);
+        play(number + 1, outcome, chance);
+    }
+
+    static void addRows(const std::vector<Points>& one, const std::vector<Points>& other, std::vector<Points>& sums)
+    {
+        using Vector = typename Lanes<Points>::Vector;
+        for (std::size_t i = 0; i < sums.size(); i += Lanes<Points>::kCount) {
+            Vector sum;
+            Vector more;
+            std::memcpy(&sum, &one[i], sizeof sum);
+            std::memcpy(&more, &other[i], sizeof more);
+            sum += more;
+            std::memcpy(&sums[i], &sum, sizeof sum);
+        }
+    }
+
+    void addOutcome(OutcomeNumber outcome, double chance)
+    {
+        const TeamNumber winner = m_teams[m_played.back()];
+        auto end = std::ranges::find(m_ends, winner, &RegionEnd<Points>::winner);
+        if (end == m_ends.end()) {
+            end = m_ends.insert(end, RegionEnd<Points>{});
+            end->winner = winner;
+        }
+        end->outcomes.push_back(outcome);
+        end->chances.push_back(chance);
+        end->points.insert(end->points.end(), m_sums.back().begin(), m_sums.back().end());
+        constexpr std::size_t kOutcomesOfAStep = 64;
+        m_isStopped = end->outcomes.size() % kOutcomesOfAStep == 0 && !m_step();
+    }
+
+    const Contest& m_contest;
+    std::span<const Position> m_played;
+    const UpperChance& m_upperChance;
+    const Step& m_step;
+    ByPosition<TeamNumber> m_teams;
+    std::vector<std::vector<std::vector<Points>>> m_brought; ///< by game and candidate, nobody last: a row
+    std::vector<std::vector<Points>> m_sums;                 ///< rows: of the first 0, 1, ... games
+    std::vector<RegionEnd<Points>> m_ends;
+    bool m_isStopped = false;
+};
 
 } // namespace
 
 template <class Points>
-std::array<RegionPoints<Points>, kRegions> regionPoints(const Contest& contest, const UpperChance& upperChance)
+std::array<RegionPoints<Points>, kRegions> regionPoints(const Contest& contest, const UpperChance& upperChance,
+                                                        const Step& step)
 {
     std::array<RegionPoints<Points>, kRegions> regions;
     for (int number = 0; number < kRegions; ++number) {
         RegionPoints<Points>& region = regions.at(static_cast<std::size_t>(number));
         const std::span<const Position> played = gamesOfRegion(number);
         region.games = openAmong(contest.games(), played);
-        for (const OutcomeNumber outcome : combinations(region.games)) {
-            ByPosition<TeamNumber> teams = contest.games().known().numbers();
-            const double chance = playAll(contest.games(), played, outcome, teams, upperChance);
-            addOutcome(contest, played, teams, outcome, chance, region.ends);
-        }
+        region.ends = RegionOutcomes<Points>{contest, played, upperChance, step}.ends();
     }
     return regions;
 }
@@ -67,8 +164,8 @@ void addLeads(const Contest& contest, std::array<RegionPoints<Points>, kRegions>
     }
 }
 
-template std::array<RegionPoints<std::int16_t>, kRegions> regionPoints(const Contest&, const UpperChance&);
-template std::array<RegionPoints<std::int32_t>, kRegions> regionPoints(const Contest&, const UpperChance&);
+template std::array<RegionPoints<std::int16_t>, kRegions> regionPoints(const Contest&, const UpperChance&, const Step&);
+template std::array<RegionPoints<std::int32_t>, kRegions> regionPoints(const Contest&, const UpperChance&, const Step&);
 
 template void addLeads(const Contest&, std::array<RegionPoints<std::int16_t>, kRegions>&, const Step&);
 template void addLeads(const Contest&, std::array<RegionPoints<std::int32_t>, kRegions>&, const Step&);

@@ -19,7 +19,7 @@ namespace tallyhoop {
 template <class Points>
 struct RegionEnd {
     TeamNumber winner = kNoTeam;
-    std::vector<OutcomeNumber> outcomes; ///< ascending, 1 or more; the bits of all other games are 0
+    std::vector<OutcomeNumber> outcomes; ///< 1 or more; the bits of all other games are 0
     std::vector<double> chances;         ///< of each outcome; 1 without chances
     std::vector<Points> points;          ///< outcome by outcome, in rows: what it brings each player
     std::vector<Points> leads; ///< see addLeads(); player by player, in rows: the largest of him over each player
@@ -33,9 +33,11 @@ struct RegionPoints {
 };
 
 /// @param upperChance empty = without chances
+/// @param step called often; after a stop some outcomes are missing
 /// @returns the four regions of a contest, without leads
 template <class Points>
-std::array<RegionPoints<Points>, kRegions> regionPoints(const Contest& contest, const UpperChance& upperChance = {});
+std::array<RegionPoints<Points>, kRegions> regionPoints(const Contest& contest, const UpperChance& upperChance = {},
+                                                        const Step& step = goOn);
 
 /// Finds the leads in the regions of a contest.
 /// @param step called for each player; after a stop some are missing

@@ -121,7 +121,10 @@ void OutlookWork::advance(const Step& step)
         break;
     case Stage::Places:
         count<PlaceCount>(
-            step, [this] { return PlaceCount{m_contest}; },
+            step,
+            [&] {
+                return PlaceCount{m_contest, step};
+            },
             [this](const PlaceCount& done) {
                 m_known.places = std::make_shared<const std::vector<PlayerPlaces>>(done.places());
             });

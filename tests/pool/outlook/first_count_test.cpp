@@ -2,8 +2,11 @@
 #include "pool/outlook/first_count.h"
 
 #include "pool/outlook/brute_force.h"
+#include "pool/outlook/counted_runners.h"
 #include "pool/outlook/odd_pools.h"
+#include "pool/outlook/open_regions.h"
 #include "pool/outlook/runners.h"
+#include "pool/outlook/without_avx2.h"
 #include "pool/sample_brackets.h"
 #include "pool/scoring.h"
 
@@ -210,6 +213,61 @@ TEST(FirstCount, IsNotMadeWhereItsTablesAreTooLarge)
     const Contest high = twoBeforeTheFinal({1000, 1000, 1000, 1000, 1000, 1000});
     EXPECT_FALSE((FirstCount{high, goOn, 2 * 2 * 5 * 4}.isTooLarge()));
     EXPECT_TRUE((FirstCount{high, goOn, 2 * 2 * 5 * 4 - 1}.isTooLarge()));
+}
+
+TEST(FirstCount, AgreesWithScoringWithoutAvx2)
+{
+    const test::WithoutAvx2 plain;
+    InventedPools pools{25};
+    for (int round = 0; round < 20; ++round) {
+        const std::vector<Bracket> picks = pools.office(6 + pools.number(12));
+        const Bracket results = pools.withOpen(pools.picked(), 3 + pools.number(7));
+        ASSERT_NO_FATAL_FAILURE(expectCountedRight(results, picks, pools.payoffs())) << "round " << round;
+    }
+}
+
+TEST(FirstCount, CountsMorePlayersTogetherThanSixteenBitsHold)
+{
+    // Given: two games are open; each half of the players is right in one of them when its upper team wins.
+    constexpr std::size_t kHalf = 20'000;
+    Bracket results = test::everyUpperTeamWins();
+    std::vector<Bracket> picks;
+    for (const Position game : {gamesOfRegion(0)[1], gamesOfRegion(0)[3]}) {
+        Bracket half;
+        half.put(game, results.at(game));
+        picks.insert(picks.end(), kHalf, half);
+        results.clear(game);
+    }
+    // When:
+    CountedRunners<std::uint64_t> count{{results, picks, test::kUsualPayoffs}, {}, goOn, kMostCountBytes};
+    while (!count.isDone())
+        count.advance();
+    // Then: in two outcomes all are first, in one the half.
+    std::size_t told = 0;
+    count.forEachPlayer([&](std::size_t, std::size_t runner, std::size_t, const auto& tree) {
+        for (const auto& counted : tree.counts())
+            ASSERT_EQ(counted.all[runner], counted.together == 2 * kHalf ? 2u : counted.together == kHalf ? 1u : 0u);
+        ++told;
+    });
+    EXPECT_EQ(told, 2 * kHalf);
+}
+
+TEST(FirstCount, TakesManySlicesAlsoWhenAllRegionWinnersAreKnown)
+{
+    // Given: everybody differs in two regions only, of which no more than the winners is known.
+    InventedPools pools{27};
+    const Bracket results = pools.picked();
+    FirstCount count{
+        {test::withOpenRegions(results, 2), test::differingInRegions(pools, results, 2, 64), test::kUsualPayoffs}};
+    double last = 0;
+    double mostAtOnce = 0;
+    while (!count.isDone()) {
+        count.advance();
+        mostAtOnce = std::max(mostAtOnce, count.fraction() - last);
+        last = count.fraction();
+    }
+    EXPECT_LT(mostAtOnce, 0.7);
+    EXPECT_EQ(test::sumOfShares(count.outlook()), std::uint64_t{1} << 22);
 }
 
 TEST(FirstCount, IsOfNoUseAfterItWasStoppedWhileItWasPrepared)

@@ -2,6 +2,8 @@
 // processor.
 #include "pool/outlook/lanes.h"
 
+#include "pool/outlook/without_avx2.h"
+
 #include <algorithm>
 #include <gtest/gtest.h>
 #include <random>
@@ -71,13 +73,13 @@ struct RandomHeat {
 };
 
 template <class Points, class Number>
-void expectCounted(void (*countThem)(Heat<Points, Number>&))
+void expectCounted()
 {
     using Test = RandomHeat<Points, Number>;
     std::mt19937 random{16};
     for (int round = 0; round < 100; ++round) {
         Test test{random, 1 + random() % 6};
-        countThem(test.heat);
+        countLanes(test.heat);
         for (std::size_t runner = 0; runner < test.points.size(); ++runner) {
             Number sum{};
             for (std::size_t lane = 0; lane < Test::kLanes; ++lane) {
@@ -95,8 +97,9 @@ void expectCounted(void (*countThem)(Heat<Points, Number>&))
 template <class Points, class Number>
 void expectCountedOnEveryProcessor()
 {
-    ASSERT_NO_FATAL_FAILURE(expectCounted(&countLanes<Points, Number>));
-    ASSERT_NO_FATAL_FAILURE(expectCounted(&countLanesAnywhere<Points, Number>));
+    ASSERT_NO_FATAL_FAILURE((expectCounted<Points, Number>()));
+    const test::WithoutAvx2 plain;
+    ASSERT_NO_FATAL_FAILURE((expectCounted<Points, Number>()));
 }
 
 TEST(LanesOnEveryProcessor, CountThoseWhoAreAloneAndListTheTies)
@@ -111,7 +114,7 @@ TEST(LanesOnEveryProcessor, AddUpChancesAsWell)
     expectCountedOnEveryProcessor<std::int32_t, double>();
 }
 
-TEST(KeepAlive, DropsThoseWhoCannotReachSomebodyAnyMore)
+void expectDropped()
 {
     using Points = std::int16_t;
     constexpr std::size_t kVector = Lanes<Points>::kCount;
@@ -127,6 +130,23 @@ TEST(KeepAlive, DropsThoseWhoCannotReachSomebodyAnyMore)
     // Then: somebody who has dropped out earlier is not asked again, but still counts as a rival.
     keepAlive(limits, points, {1, 2}, kept);
     EXPECT_EQ(kept, (std::vector<std::size_t>{1}));
+}
+
+TEST(KeepAlive, DropsThoseWhoCannotReachSomebodyAnyMoreOnEveryProcessor)
+{
+    expectDropped();
+    const test::WithoutAvx2 plain;
+    expectDropped();
+}
+
+TEST(UseAvx2, IsTakenBackWhenNobodyDoesWithout)
+{
+    const bool had = useAvx2(true);
+    {
+        const test::WithoutAvx2 plain;
+        EXPECT_FALSE(useAvx2(false));
+    }
+    EXPECT_EQ(useAvx2(had), had);
 }
 
 } // namespace

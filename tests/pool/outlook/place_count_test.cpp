@@ -3,8 +3,10 @@
 
 #include "pool/outlook/brute_force.h"
 #include "pool/outlook/invented_pools.h"
+#include "pool/outlook/open_regions.h"
 
 #include <gtest/gtest.h>
+#include <numeric>
 
 namespace tallyhoop {
 namespace {
@@ -24,6 +26,47 @@ TEST(PlaceCount, AgreesWithScoringOnPoolsOfEveryKind)
         const Contest contest{results, picks, payoffs};
         ASSERT_EQ(countPlaces(contest), test::countByScoring(contest.games(), picks, payoffs).places)
             << "round " << round;
+    }
+}
+
+TEST(PlaceCount, TakesManySlicesAlsoWhenAllRegionWinnersAreKnown)
+{
+    // Given: two regions, of which the first is decided but for some late games, and the other but for its winner.
+    InventedPools pools{28};
+    const Bracket results = pools.picked();
+    Bracket open = test::withOpenRegions(results, 2);
+    for (std::size_t i = 0; i < 6; ++i)
+        open.copy((*feeders(gamesOfRegion(0)[i]))[0], gamesOfRegion(0)[i]);
+    const Contest contest{open, test::differingInRegions(pools, results, 2, 40), test::kUsualPayoffs};
+    PlaceCount count{contest};
+    EXPECT_EQ(count.fraction(), 0);
+    double last = 0;
+    while (!count.isDone()) {
+        count.advance();
+        EXPECT_GT(count.fraction(), last);
+        EXPECT_LT(count.fraction() - last, 0.4);
+        last = count.fraction();
+    }
+    EXPECT_EQ(last, 1);
+    for (const PlayerPlaces& player : count.places())
+        EXPECT_EQ(std::accumulate(player.outcomes.begin(), player.outcomes.end(), std::uint64_t{0}),
+                  contest.games().outcomes());
+}
+
+TEST(PlaceCount, IsOfNoUseAfterItWasStoppedWhileItWasPrepared)
+{
+    InventedPools pools{29};
+    const Bracket results = pools.picked();
+    const Contest contest{test::withOpenRegions(results, 1), pools.office(4), test::kUsualPayoffs};
+    int steps = 0;
+    const PlaceCount whole{contest, [&] { return ++steps > 0; }};
+    EXPECT_FALSE(whole.isDone());
+    const int last = steps;
+    EXPECT_GT(last, 20); // 2048 outcomes
+    for (int stop = 1; stop <= last; ++stop) {
+        steps = 0;
+        EXPECT_TRUE((PlaceCount{contest, [&] { return ++steps < stop; }}.isDone())) << "stopped at step " << stop;
+        EXPECT_LE(steps, stop + kRegions) << "went on long after the stop";
     }
 }
 
