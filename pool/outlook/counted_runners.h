@@ -20,6 +20,8 @@ public:
     CountedRunners(const Contest& contest, const UpperChance& upperChance, const Step& step, std::size_t mostBytes);
     CountedRunners(const CountedRunners&) = delete; // the tree refers to the runners
     CountedRunners& operator=(const CountedRunners&) = delete;
+    CountedRunners(CountedRunners&&) = delete;
+    CountedRunners& operator=(CountedRunners&&) = delete;
     ~CountedRunners() = default;
 
     bool isTooLarge() const { return m_isTooLarge; }

@@ -33,6 +33,8 @@ public:
     ~FirstCount();
     FirstCount(FirstCount&&) noexcept;
     FirstCount& operator=(FirstCount&&) noexcept;
+    FirstCount(const FirstCount&) = delete;
+    FirstCount& operator=(const FirstCount&) = delete;
 
     /// Nothing can be counted, because the tables for it would take more than mostBytes.
     bool isTooLarge() const;
@@ -42,8 +44,8 @@ public:
     /// How much is done, 0..1, growing steadily.
     double fraction() const;
 
-    /// Does one slice of the work: some milliseconds; a tenth of a second when a thousand players differ by no more than
-    /// two regions, so that all are in the race to the end. Nothing when it is done.
+    /// Does one slice of the work: some milliseconds; a tenth of a second when a thousand players differ by no more
+    /// than two regions, so that all are in the race to the end. Nothing when it is done.
     void advance();
 
     /// @pre isDone(), and not isTooLarge()
@@ -65,6 +67,8 @@ public:
     ~ChanceCount();
     ChanceCount(ChanceCount&&) noexcept;
     ChanceCount& operator=(ChanceCount&&) noexcept;
+    ChanceCount(const ChanceCount&) = delete;
+    ChanceCount& operator=(const ChanceCount&) = delete;
 
     bool isTooLarge() const;
     bool isDone() const;

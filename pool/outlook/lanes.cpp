@@ -23,7 +23,7 @@ template <class Vector, class Number>
 template <class Vector>
 [[gnu::always_inline]] inline bool anySet(const Vector& vector)
 {
-    std::array<std::uint64_t, sizeof vector / sizeof(std::uint64_t)> words;
+    std::array<std::uint64_t, sizeof vector / sizeof(std::uint64_t)> words{};
     __builtin_memcpy(&words, &vector, sizeof words);
     return (words[0] | words[1] | words[2] | words[3]) != 0;
 }

@@ -40,6 +40,8 @@ public:
     ~PlaceCount();
     PlaceCount(PlaceCount&&) noexcept;
     PlaceCount& operator=(PlaceCount&&) noexcept;
+    PlaceCount(const PlaceCount&) = delete;
+    PlaceCount& operator=(const PlaceCount&) = delete;
 
     bool isDone() const;
 
