@@ -105,4 +105,12 @@ double Forecast::standardErrorGiven(double share, double sideWins) const
     return std::max(std::sqrt(std::max(share * (1 - share), 0.0) / (samples - 1)), 1 / samples);
 }
 
+/// The two sides win in different outcomes, so that their errors are independent.
+double Forecast::standardErrorOfSwing(const ChanceOutlook& made, std::size_t player, std::size_t openGame) const
+{
+    const double upperWins = made.upperWins.at(openGame);
+    return std::hypot(standardErrorGiven(made.given(player, openGame, Side::Upper).share, upperWins),
+                      standardErrorGiven(made.given(player, openGame, Side::Lower).share, 1 - upperWins));
+}
+
 } // namespace tallyhoop

@@ -55,6 +55,10 @@ public:
     /// @returns what it would be if whole outcomes were sampled, which have larger errors; 1 where that is unknown
     double standardErrorGiven(double share, double sideWins) const;
 
+    /// A bound for the standard error of the difference that an open game makes to a player's share of first place.
+    /// @param made what outlook() has returned, with no sample taken since
+    double standardErrorOfSwing(const ChanceOutlook& made, std::size_t player, std::size_t openGame) const;
+
 private:
     Forecast(const Contest& contest, Stages&& stages, std::uint64_t seed);
 

@@ -300,8 +300,12 @@ OutlookFigures OutlookWork::newForecast() const
     figures.source = ChanceSource::Forecast;
     figures.chances = m_forecast->outlook();
     figures.samples = m_forecast->samples();
-    for (std::size_t player = 0; player < m_contest.players(); ++player)
+    for (std::size_t player = 0; player < m_contest.players(); ++player) {
         figures.errors.push_back(m_forecast->standardError(player));
+        std::vector<double>& errors = figures.swingErrors.emplace_back();
+        for (std::size_t game = 0; game < m_contest.games().size(); ++game)
+            errors.push_back(m_forecast->standardErrorOfSwing(figures.chances, player, game));
+    }
     return figures;
 }
 

@@ -114,6 +114,23 @@ void expectWithinErrors(const Contest& contest, const UpperChance& upperChance)
     }
 }
 
+TEST(Forecast, AddsTheErrorsOfTheTwoSidesOfASwing)
+{
+    // Given: a share of 0.2 when the upper side wins, which it does in a quarter of 404 samples, else of 0.5.
+    InventedPools pools{6};
+    Forecast forecast{{test::startingField(), pools.office(1), kUsualPayoffs}, alikeChances()};
+    forecast.add(404);
+    ChanceOutlook made;
+    made.upperWins = {0.25};
+    made.players = {{{.share = 0.25 * 0.2 + 0.75 * 0.5}, {{.share = 0.25 * 0.2}}}};
+
+    // 101 samples for the one, 303 for the other: sqrt(0.2 * 0.8 / 100) = 0.04 and sqrt(0.5 * 0.5 / 302).
+    EXPECT_NEAR(forecast.standardErrorOfSwing(made, 0, 0), std::sqrt(0.0016 + 0.25 / 302), 1e-12);
+    made.upperWins = {0.004};
+    made.players = {{{.share = 0.5}, {{.share = 0.002}}}};
+    EXPECT_GE(forecast.standardErrorOfSwing(made, 0, 0), 1) << "the upper side wins in 1.6 samples";
+}
+
 TEST(Forecast, IsWithinItsErrorsWhereverTheOpenGamesAre)
 {
     InventedPools pools{4};

@@ -49,6 +49,7 @@ TEST(OutlookWorkTest, CountsTheOnlyGameThatIsLeft)
     EXPECT_DOUBLE_EQ(figures.chances.given(0, 0, Side::Lower).share, 0);
     EXPECT_THAT(figures.firstOutcomes, ElementsAre(1, 1, 1));
     EXPECT_THAT(figures.errors, ElementsAre(0, 0, 0));
+    EXPECT_THAT(figures.swingErrors, SizeIs(0)) << "exact";
 }
 
 TEST(OutlookWorkTest, TakesThePicksOfThePoolAsChances)
@@ -176,6 +177,9 @@ TEST(OutlookWorkTest, ForecastsWhatCannotBeCounted)
     EXPECT_EQ(figures.samples, 1000u);
     EXPECT_THAT(figures.firstOutcomes, SizeIs(0));
     EXPECT_THAT(figures.errors, Each(testing::Gt(0)));
+    ASSERT_THAT(figures.swingErrors, SizeIs(3));
+    EXPECT_THAT(figures.swingErrors, Each(SizeIs(40)));
+    EXPECT_THAT(figures.swingErrors, Each(Each(testing::Gt(0))));
     double shares = 0;
     for (const PlayerChances& player : figures.chances.players)
         shares += player.all.share;
