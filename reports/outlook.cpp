@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <fmt/format.h>
-#include <optional>
 #include <string_view>
 
 namespace tallyhoop {
@@ -51,14 +50,13 @@ std::string lineOf(const Cells& cells, const Widths& widths)
                        cells.best, widths.best, cells.worst, widths.worst, cells.verdict);
 }
 
-std::string percent(std::optional<double> known) { return known ? percentInWords(*known) : std::string{}; }
-
 std::string rowLine(const OutlookRow& row, const Widths& widths)
 {
     const PlayerStanding& now = row.standing;
     return lineOf({std::to_string(now.place), asOneLine(row.name), threeDigits(now.points), threeDigits(now.possible),
-                   percent(row.first), percent(row.share), row.change ? changeInWords(*row.change) : std::string{},
-                   placeInWords(row.best), placeInWords(row.worst), verdictInWords(row.prospect)},
+                   chanceInWords(row, row.first), chanceInWords(row, row.share),
+                   row.change ? changeInWords(*row.change) : std::string{}, placeInWords(row.best),
+                   placeInWords(row.worst), verdictInWords(row.prospect)},
                   widths);
 }
 

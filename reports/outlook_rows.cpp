@@ -3,6 +3,7 @@
 
 #include "base/windows1252.h"
 #include "pool/scoring.h"
+#include "reports/outlook_words.h"
 
 #include <algorithm>
 #include <cmath>
@@ -28,6 +29,15 @@ int rankOf(Prospect prospect)
     return 3;
 }
 
+/// @returns the chance, or what is nearest to it of what is possible for who is Alive
+std::optional<double> possibleChance(const OutlookRow& row, std::optional<double> percent)
+{
+    constexpr double kLeast = 1e-9; // anything that is written as neither nothing nor everything
+    if (!percent || row.prospect != Prospect::Alive)
+        return percent;
+    return std::clamp(*percent, kLeast, 100 - kLeast);
+}
+
 /// What a column sorts by, the smallest first; for names 0.
 double sortKey(const OutlookRow& row, OutlookColumn column)
 {
@@ -43,9 +53,9 @@ double sortKey(const OutlookRow& row, OutlookColumn column)
     case OutlookColumn::Possible:
         return -row.standing.possible;
     case OutlookColumn::First:
-        return highestFirst(row.first);
+        return highestFirst(possibleChance(row, row.first));
     case OutlookColumn::Share:
-        return highestFirst(row.share);
+        return highestFirst(possibleChance(row, row.share));
     case OutlookColumn::Best:
         return place(row.best);
     case OutlookColumn::Worst:
@@ -56,6 +66,30 @@ double sortKey(const OutlookRow& row, OutlookColumn column)
         break;
     }
     return highestFirst(row.change);
+}
+
+/// A forecast does not know what is proven.
+void agreeWithVerdict(OutlookRow& row)
+{
+    if (row.prospect == Prospect::Clinched)
+        row.first = 100;
+    if (row.prospect == Prospect::Out) {
+        row.first = row.share = 0;
+        row.error = 0;
+    }
+}
+
+void addChances(OutlookRow& row, const OutlookFigures& figures, const SharesAsEntered& entered)
+{
+    const FirstChances& chances = figures.chances.players[row.player].all;
+    row.first = 100 * (chances.alone + chances.together);
+    row.share = 100 * chances.share;
+    row.error = 100 * figures.errors[row.player];
+    agreeWithVerdict(row);
+    if (entered.shares.empty())
+        return;
+    const double change = *row.share - 100 * entered.shares[row.player];
+    row.change = isBeyondError(change, std::hypot(row.error, 100 * entered.errors[row.player])) ? change : 0;
 }
 
 } // namespace
@@ -77,7 +111,7 @@ std::vector<PlayerStanding> standingsBy(std::span<const Entry> entries, const Br
 }
 
 std::vector<OutlookRow> outlookRows(std::span<const Entry> entries, std::span<const PlayerStanding> standings,
-                                    const OutlookFigures& figures, std::span<const double> entered)
+                                    const OutlookFigures& figures, const SharesAsEntered& entered)
 {
     std::vector<OutlookRow> rows;
     for (std::size_t player = 0; player < entries.size(); ++player) {
@@ -88,17 +122,23 @@ std::vector<OutlookRow> outlookRows(std::span<const Entry> entries, std::span<co
         row.best = figures.prospects[player].best;
         row.worst = figures.prospects[player].worst;
         row.prospect = figures.prospects[player].prospect;
-        if (figures.source != ChanceSource::None) {
-            const FirstChances& chances = figures.chances.players[player].all;
-            row.first = 100 * (chances.alone + chances.together);
-            row.share = 100 * chances.share;
-            row.error = 100 * figures.errors[player];
-            if (!entered.empty())
-                row.change = *row.share - 100 * entered[player];
-        }
+        if (figures.source != ChanceSource::None)
+            addChances(row, figures, entered);
         rows.push_back(row);
     }
     return rows;
+}
+
+std::string chanceInWords(const OutlookRow& row, std::optional<double> percent)
+{
+    const std::optional<double> possible = possibleChance(row, percent);
+    return possible ? percentInWords(*possible) : std::string{};
+}
+
+std::string chanceAsNumber(const OutlookRow& row, std::optional<double> percent)
+{
+    const bool agrees = possibleChance(row, percent) == percent;
+    return percent && agrees ? percentAsNumber(*percent) : chanceInWords(row, percent);
 }
 
 void sortRows(std::vector<OutlookRow>& rows, OutlookOrder order)

@@ -27,7 +27,8 @@ std::vector<PlayerStanding> standingsBy(std::span<const Entry> entries, const Br
 enum class OutlookColumn { Now, Player, Points, Possible, First, Share, Verdict, Best, Worst, Change };
 inline constexpr std::size_t kOutlookColumns = 10;
 
-/// A player's row. Chances are in percent, 0..100; nothing = not known yet.
+/// A player's row. Chances are in percent, 0..100; nothing = not known yet. What is proven goes before what a forecast
+/// has found: who is Out has no chance, and who has Clinched is always first.
 struct OutlookRow {
     std::size_t player = 0; ///< in the order of the entries
     std::string name{};     ///< initials, ", ", name
@@ -38,14 +39,28 @@ struct OutlookRow {
     PlaceBetween best{};
     PlaceBetween worst{};
     Prospect prospect = Prospect::Open;
-    std::optional<double> change{}; ///< of the share, against the results as entered; nothing = nothing is supposed
+    std::optional<double> change{}; ///< of the share, against the results as entered, 0 where it is within its error;
+                                    ///< nothing = nothing is supposed
+};
+
+/// Everybody's shares of first place by the results as entered.
+struct SharesAsEntered {
+    std::vector<double> shares; ///< 0..1, one for each entry; empty = there is nothing to compare
+    std::vector<double> errors; ///< the standard error of each; 0 = counted
 };
 
 /// @param standings one for each entry
-/// @param entered   the shares by the results as entered, 0..1, one for each entry; empty = there is nothing to compare
 /// @returns one for each entry, in their order
 std::vector<OutlookRow> outlookRows(std::span<const Entry> entries, std::span<const PlayerStanding> standings,
-                                    const OutlookFigures& figures, std::span<const double> entered = {});
+                                    const OutlookFigures& figures, const SharesAsEntered& entered = {});
+
+/// @param percent one of the row's chances
+/// @returns as percentInWords(), but never nothing and never everything for who is Alive, also where no sample of a
+///          forecast has shown it; empty where nothing is known
+std::string chanceInWords(const OutlookRow& row, std::optional<double> percent);
+
+/// @returns as percentAsNumber(); as chanceInWords() where no number is known that agrees with the verdict
+std::string chanceAsNumber(const OutlookRow& row, std::optional<double> percent);
 
 /// By which column the rows are sorted, and whether upside down.
 struct OutlookOrder {

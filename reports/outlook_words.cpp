@@ -14,6 +14,7 @@ namespace {
 constexpr double kEverything = 100 * (1 - 1e-12); ///< percent: sums of chances are rounded
 constexpr double kSmallestChange = 0.05;          ///< percent: less rounds to 0.0
 constexpr int kMostDecimals = 16;
+constexpr const char* kPlusMinus = " \xB1";
 constexpr std::size_t kMostNamed = 12;
 constexpr std::size_t kLine = 75;
 
@@ -154,6 +155,11 @@ std::string errorInWords(double percent)
 {
     constexpr double kRounding = 1e-9; // of what is meant as a whole number of hundredths
     return fmt::format("{:.2f}", std::ceil(std::max(percent * 100 - kRounding, 0.0)) / 100);
+}
+
+std::string withError(const std::string& figure, double error)
+{
+    return error > 0 ? figure + kPlusMinus + errorInWords(error) : figure;
 }
 
 std::string changeInWords(double percent)

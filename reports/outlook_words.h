@@ -55,6 +55,11 @@ std::string percentAsNumber(double percent);
 /// Writes a standard error in percentage points with two decimals, rounded up, so that none is less than it is: "0.27".
 std::string errorInWords(double percent);
 
+/// @param figure in words
+/// @param error  its standard error in percentage points
+/// @returns the figure with the error after it, as errorInWords() writes it; alone where it is exact
+std::string withError(const std::string& figure, double error);
+
 /// @returns "+4.1", "-0.3"; "0.0" for what rounds to nothing
 std::string changeInWords(double percent);
 

@@ -33,16 +33,11 @@ std::string placeForSpreadsheets(const PlaceBetween& place)
 
 SpreadsheetRow cellsOf(const OutlookRow& row)
 {
-    return {cellOf(row, OutlookColumn::Now),
-            row.name,
-            cellOf(row, OutlookColumn::Points),
-            cellOf(row, OutlookColumn::Possible),
-            row.first ? percentAsNumber(*row.first) : "",
-            row.share ? percentAsNumber(*row.share) : "",
-            row.share ? errorInWords(row.error) : "",
-            cellOf(row, OutlookColumn::Verdict),
-            placeForSpreadsheets(row.best),
-            placeForSpreadsheets(row.worst),
+    return {cellOf(row, OutlookColumn::Now),          row.name,
+            cellOf(row, OutlookColumn::Points),       cellOf(row, OutlookColumn::Possible),
+            chanceAsNumber(row, row.first),           chanceAsNumber(row, row.share),
+            row.share ? errorInWords(row.error) : "", cellOf(row, OutlookColumn::Verdict),
+            placeForSpreadsheets(row.best),           placeForSpreadsheets(row.worst),
             cellOf(row, OutlookColumn::Change)};
 }
 

@@ -10,8 +10,6 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr const char* kPlusMinus = " \xB1";
-
 struct ColumnWords {
     const char* heading;
     ui::Alignment alignment;
@@ -30,20 +28,13 @@ constexpr std::array<ColumnWords, kOutlookColumns> kColumns{{
      "Verdict: Clinched is always first, Alive can be first, Out cannot, Open is unproven."},
     {"Best", ui::Alignment::Right, 4, "Best: the best place that the player can still end at."},
     {"Worst", ui::Alignment::Right, 5, "Worst: the worst place that the player can still end at."},
-    {"Change", ui::Alignment::Right, 6, "Change: of the share, against the results as entered."},
+    {"Change", ui::Alignment::Right, 6,
+     "Change: of the share, against the results as entered; 0.0 within the error of a forecast."},
 }};
 
 const ColumnWords& wordsOf(OutlookColumn column) { return kColumns.at(static_cast<std::size_t>(column)); }
 
-std::string withSign(double percent) { return percentInWords(percent) + " %"; }
-
-std::string shareText(const OutlookRow& row)
-{
-    if (!row.share)
-        return {};
-    const std::string share = withSign(*row.share);
-    return row.error > 0 ? share + kPlusMinus + errorInWords(row.error) : share;
-}
+std::string withSign(const std::string& percent) { return percent.empty() ? percent : percent + " %"; }
 
 } // namespace
 
@@ -77,9 +68,9 @@ std::string cellOf(const OutlookRow& row, OutlookColumn column)
     case OutlookColumn::Possible:
         return std::to_string(row.standing.possible);
     case OutlookColumn::First:
-        return row.first ? withSign(*row.first) : std::string{};
+        return withSign(chanceInWords(row, row.first));
     case OutlookColumn::Share:
-        return shareText(row);
+        return withError(withSign(chanceInWords(row, row.share)), row.error);
     case OutlookColumn::Best:
         return placeInWords(row.best);
     case OutlookColumn::Worst:

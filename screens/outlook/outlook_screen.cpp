@@ -186,9 +186,8 @@ void OutlookScreen::showState()
 
 void OutlookScreen::makeRows()
 {
-    const std::vector<double>& entered = m_entered.at(static_cast<std::size_t>(m_kind)).shares;
-    m_rows = outlookRows(m_pool.entries, m_standings, m_figures,
-                         m_whatIf.isChanged() ? std::span<const double>{entered} : std::span<const double>{});
+    const SharesAsEntered& entered = m_entered.at(static_cast<std::size_t>(m_kind)).known;
+    m_rows = outlookRows(m_pool.entries, m_standings, m_figures, m_whatIf.isChanged() ? entered : SharesAsEntered{});
     sortRows(m_rows, m_order);
 }
 

@@ -117,10 +117,10 @@ private:
     WhatIf m_whatIf;
     ChanceKind m_kind = ChanceKind::Alike;
 
-    /// Everybody's shares of first place by the results as entered.
+    /// The best that is known by the results as entered.
     struct EnteredShares {
-        std::vector<double> shares; ///< 0..1; empty = not known
-        std::uint64_t samples = 0;  ///< of the forecast; 0 = counted
+        SharesAsEntered known;
+        std::uint64_t samples = 0; ///< of the forecast; 0 = counted
     };
 
     std::optional<OutlookWorker> m_worker; ///< nothing = the payoffs are no numbers

@@ -61,18 +61,18 @@ void OutlookScreen::keepAsEntered()
 {
     EnteredShares& best = m_entered.at(static_cast<std::size_t>(m_kind));
     const auto isBetter = [&best](std::uint64_t samples) {
-        return best.shares.empty() || (best.samples > 0 && (samples == 0 || samples > best.samples));
+        return best.known.shares.empty() || (best.samples > 0 && (samples == 0 || samples > best.samples));
     };
     if (!m_whatIf.isChanged() && m_figures.source != ChanceSource::None && isBetter(m_figures.samples)) {
-        best = {{}, m_figures.samples};
+        best = {{{}, m_figures.errors}, m_figures.samples};
         for (const PlayerChances& player : m_figures.chances.players)
-            best.shares.push_back(player.all.share);
+            best.known.shares.push_back(player.all.share);
     }
     const std::vector<RoadPoint>& road = m_roads.at(static_cast<std::size_t>(m_kind));
     if (!road.empty() && isBetter(road.back().samples)) {
-        best = {{}, road.back().samples};
+        best = {{{}, road.back().errors}, road.back().samples};
         for (const FirstChances& player : road.back().chances)
-            best.shares.push_back(player.share);
+            best.known.shares.push_back(player.share);
     }
 }
 

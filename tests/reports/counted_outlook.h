@@ -29,12 +29,12 @@ inline OutlookFigures countedFigures(const std::vector<Entry>& players, const Br
 }
 
 /// In the order of the players.
-/// @param entered as for outlookRows()
+/// @param entered the shares by the results as entered, which are counted too; empty = there is nothing to compare
 inline std::vector<OutlookRow> countedRows(const std::vector<Entry>& players, const Bracket& results,
                                            const std::vector<double>& entered = {})
 {
     return outlookRows(players, standingsBy(players, results, kUsualPayoffs), countedFigures(players, results),
-                       entered);
+                       {entered, std::vector<double>(entered.size())});
 }
 
 } // namespace tallyhoop::test

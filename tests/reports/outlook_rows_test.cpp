@@ -75,6 +75,94 @@ TEST(OutlookRows, CompareWithTheResultsAsEntered)
     EXPECT_EQ(rows[2].change, -12.5);
 }
 
+/// A forecast of two players, by which the first is in front.
+OutlookFigures forecastOfTwo(double share, double error)
+{
+    OutlookFigures figures;
+    figures.source = ChanceSource::Forecast;
+    figures.prospects.resize(2);
+    figures.chances.players.resize(2);
+    figures.chances.players[0].all = {.alone = share, .share = share};
+    figures.chances.players[1].all = {.alone = 1 - share, .share = 1 - share};
+    figures.errors = {error, error};
+    return figures;
+}
+
+std::vector<OutlookRow> rowsOfTwo(const OutlookFigures& figures, const SharesAsEntered& entered = {})
+{
+    const std::vector<Entry> players{{{}, "X", "Ann", {}, {}}, {{}, "X", "Bob", {}, {}}};
+    return outlookRows(players, std::vector<PlayerStanding>(2), figures, entered);
+}
+
+TEST(OutlookRows, OfAForecastDoNotContradictWhatIsProven)
+{
+    // Given: a forecast in which the second player was first in one sample of a hundred.
+    OutlookFigures figures = forecastOfTwo(0.99, 0.01);
+    figures.prospects[0].prospect = Prospect::Clinched;
+    figures.prospects[1].prospect = Prospect::Out;
+    const std::vector<OutlookRow> rows = rowsOfTwo(figures);
+
+    EXPECT_EQ(rows[0].first, 100);
+    EXPECT_EQ(rows[0].share, 99) << "first place may be shared";
+    EXPECT_EQ(rows[0].error, 1);
+    EXPECT_EQ(rows[1].first, 0);
+    EXPECT_EQ(rows[1].share, 0);
+    EXPECT_EQ(rows[1].error, 0);
+}
+
+TEST(OutlookRows, OfAForecastKeepWhatIsNotProven)
+{
+    OutlookFigures figures = forecastOfTwo(1, 0.01);
+    figures.prospects[0].prospect = Prospect::Alive;
+    const std::vector<OutlookRow> rows = rowsOfTwo(figures);
+
+    EXPECT_EQ(rows[0].first, 100);
+    EXPECT_EQ(rows[1].share, 0) << "Open";
+    EXPECT_EQ(rows[1].error, 1);
+}
+
+TEST(OutlookRows, ShowNoChangeWithinTheErrorsOfBothForecasts)
+{
+    // The errors of 0.03 and 0.04 make one of 0.05 points of a share: twice that is 0.1.
+    const OutlookFigures figures = forecastOfTwo(0.5, 0.03);
+    EXPECT_EQ(rowsOfTwo(figures, {{0.41, 0.39}, {0.04, 0.04}})[0].change, 0);
+    EXPECT_NEAR(rowsOfTwo(figures, {{0.41, 0.39}, {0.04, 0.04}})[1].change.value(), 11, 1e-9);
+    EXPECT_NEAR(rowsOfTwo(figures, {{0.43, 0.57}, {0, 0}})[0].change.value(), 7, 1e-9)
+        << "more than two of 0.03: the results as entered are counted";
+}
+
+TEST(OutlookRows, OfWhoIsAliveNeverSayNothingOrEverything)
+{
+    const OutlookRow alive{.prospect = Prospect::Alive};
+    EXPECT_EQ(chanceInWords(alive, 0), "<0.1");
+    EXPECT_EQ(chanceInWords(alive, 100), ">99.9");
+    EXPECT_EQ(chanceInWords(alive, 12.5), "12.5");
+    EXPECT_EQ(chanceInWords(alive, std::nullopt), "");
+    EXPECT_EQ(chanceInWords({.prospect = Prospect::Out}, 0), "0.0");
+    EXPECT_EQ(chanceInWords({.prospect = Prospect::Clinched}, 100), "100.0");
+    EXPECT_EQ(chanceInWords({.prospect = Prospect::Open}, 0), "0.0");
+}
+
+TEST(OutlookRows, HaveANumberWhereOneAgreesWithTheVerdict)
+{
+    const OutlookRow alive{.prospect = Prospect::Alive};
+    EXPECT_EQ(chanceAsNumber(alive, 0.04), "0.04");
+    EXPECT_EQ(chanceAsNumber(alive, 12.5), "12.5");
+    EXPECT_EQ(chanceAsNumber(alive, 0), "<0.1") << "there is no number for it";
+    EXPECT_EQ(chanceAsNumber(alive, 100), ">99.9");
+    EXPECT_EQ(chanceAsNumber(alive, std::nullopt), "");
+    EXPECT_EQ(chanceAsNumber({.prospect = Prospect::Out}, 0), "0.0");
+    EXPECT_EQ(chanceAsNumber({.prospect = Prospect::Clinched}, 100), "100.0");
+}
+
+TEST(OutlookRows, OfWhoIsAliveComeBeforeThoseWhoAreOut)
+{
+    const OutlookRow out{.name = "A, Out", .first = 0.0, .share = 0.0, .prospect = Prospect::Out};
+    const OutlookRow alive{.name = "B, Alive", .first = 0.0, .share = 0.0, .prospect = Prospect::Alive};
+    EXPECT_THAT(namesBy({out, alive}, {OutlookColumn::Share}), ElementsAre("B, Alive", "A, Out"));
+    EXPECT_THAT(namesBy({out, alive}, {OutlookColumn::First}), ElementsAre("B, Alive", "A, Out"));
+}
+
 TEST(OutlookRows, HaveNoChancesBeforeAnythingIsCounted)
 {
     const std::vector<Entry> players = fourPlayers();
@@ -82,7 +170,7 @@ TEST(OutlookRows, HaveNoChancesBeforeAnythingIsCounted)
     nothing.prospects.resize(4);
     nothing.prospects[0].best = {1, 4};
     const std::vector<OutlookRow> rows =
-        outlookRows(players, standingsBy(players, fourPlayersResults().picks, kUsualPayoffs), nothing, {});
+        outlookRows(players, standingsBy(players, fourPlayersResults().picks, kUsualPayoffs), nothing);
 
     EXPECT_EQ(rows[0].first, std::nullopt);
     EXPECT_EQ(rows[0].share, std::nullopt);

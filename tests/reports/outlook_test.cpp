@@ -65,6 +65,7 @@ TEST(OutlookReport, GrowsWithNamesAndWithPlacesThatAreNotKnown)
     const std::vector<OutlookRow> rows{
         {.name = "AB, Adams-Baker", .best = {1, 250}, .worst = {1000, 1200}},
         {.name = "C, D", .first = 0.01, .share = 0.01},
+        {.name = "E, F", .first = 0.0, .share = 0.0, .prospect = Prospect::Alive},
     };
     OutlookHeading heading{"Pool", {}, basisInWords({ChanceKind::Alike, 63, ChanceSource::Forecast, 200'000})};
     const ReportLines lines = outlookLines(heading, rows);
@@ -75,6 +76,8 @@ TEST(OutlookReport, GrowsWithNamesAndWithPlacesThatAreNotKnown)
     EXPECT_EQ(lines[11], "    1  AB, Adams-Baker     000    000                    1-250  1000-1200  Open")
         << "no chance where none is known";
     EXPECT_EQ(lines[12], "    1  C, D                000    000     <0.1     <0.1      1          1  Open");
+    EXPECT_EQ(lines[13], "    1  E, F                000    000     <0.1     <0.1      1          1  Alive")
+        << "who is proven to be alive has a chance, also when no sample shows it";
 }
 
 TEST(OutlookReport, KeepsEveryNameOnALine)

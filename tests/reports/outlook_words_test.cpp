@@ -162,6 +162,13 @@ TEST(OutlookErrorInWords, IsNeverLessThanItIs)
     EXPECT_EQ(errorInWords(0.29), "0.29") << "29.000000000000004 hundredths, as computers multiply";
 }
 
+TEST(OutlookErrorInWords, ComesAfterItsFigure)
+{
+    EXPECT_EQ(withError("34.4 %", 0.26), "34.4 % \xB1"
+                                         "0.26");
+    EXPECT_EQ(withError("34.4 %", 0), "34.4 %") << "exact";
+}
+
 TEST(OutlookChangeInWords, HasItsSign)
 {
     EXPECT_EQ(changeInWords(4.06), "+4.1");

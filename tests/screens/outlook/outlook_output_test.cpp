@@ -98,6 +98,14 @@ TEST_F(OutlookOutputTest, CopiesFiguresAsNumbers)
               "2\tX, Bob\t9\t168\t0.04\t0.04\t0.27\tOpen\t1 to 2\t2 to 5\t-12.5\r\n");
 }
 
+TEST_F(OutlookOutputTest, CopiesNoNothingForWhoIsAlive)
+{
+    sheet.rows[0].first = sheet.rows[0].share = 0;
+    sheet.rows[0].error = 0.001;
+    output.copy(sheet);
+    EXPECT_THAT(platform.clipboard.text, HasSubstr("1\tX, Ann\t152\t168\t<0.1\t<0.1\t0.01\tAlive\t"));
+}
+
 TEST_F(OutlookOutputTest, CopiesWhatIsSupposedWithIt)
 {
     sheet.heading.whatIf = {"What if: 1 supposed winner; these are not the results as entered"};

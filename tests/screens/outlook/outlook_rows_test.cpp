@@ -49,6 +49,17 @@ TEST(OutlookCells, NeverShowAChanceAsNoneOrAsCertainThatIsNot)
     EXPECT_EQ(cellOf({.share = 99.96}, OutlookColumn::Share), ">99.9 %");
 }
 
+TEST(OutlookCells, AgreeWithTheVerdict)
+{
+    const OutlookRow alive{.first = 0, .share = 0, .error = 0.001, .prospect = Prospect::Alive};
+    EXPECT_EQ(cellOf(alive, OutlookColumn::First), "<0.1 %");
+    EXPECT_EQ(cellOf(alive, OutlookColumn::Share), "<0.1 % \xB1"
+                                                   "0.01");
+    const OutlookRow out{.first = 0, .share = 0, .prospect = Prospect::Out};
+    EXPECT_EQ(cellOf(out, OutlookColumn::First), "0.0 %");
+    EXPECT_EQ(cellOf(out, OutlookColumn::Share), "0.0 %");
+}
+
 TEST(OutlookColumns, HaveAHeadingAndAnExplanation)
 {
     const std::vector<ui::GridColumn> columns = outlookColumns();
