@@ -69,10 +69,35 @@ std::string roundOfGame(Position game, const Field& field)
     return game == regionWinner(*region) ? name + " final" : name + " " + halfOf(game) + " semi-final";
 }
 
-double swingFor(std::size_t player, std::size_t openGame, const ChanceOutlook& chances)
+double errorOfSwing(std::size_t player, std::size_t openGame, const OutlookFigures& figures)
 {
-    return 100 *
-           (chances.given(player, openGame, Side::Upper).share - chances.given(player, openGame, Side::Lower).share);
+    return figures.swingErrors.empty() ? 0 : 100 * figures.swingErrors.at(player).at(openGame);
+}
+
+double swingFor(std::size_t player, std::size_t openGame, const OutlookFigures& figures)
+{
+    const double swing = 100 * (figures.chances.given(player, openGame, Side::Upper).share -
+                                figures.chances.given(player, openGame, Side::Lower).share);
+    return isBeyondError(swing, errorOfSwing(player, openGame, figures)) ? swing : 0;
+}
+
+/// Players who want the same side take first place from each other, so that the variance of their sum is not more than
+/// the sum of their variances. Those who want different sides can differ together: the two errors are added.
+GameWeight weightOf(std::size_t openGame, const OutlookFigures& figures)
+{
+    GameWeight weight{openGame};
+    double upperVariance = 0;
+    double lowerVariance = 0;
+    for (std::size_t player = 0; player < figures.chances.players.size(); ++player) {
+        const double swing = swingFor(player, openGame, figures);
+        if (swing == 0)
+            continue;
+        weight.swing += std::abs(swing);
+        const double error = errorOfSwing(player, openGame, figures);
+        (swing > 0 ? upperVariance : lowerVariance) += error * error;
+    }
+    weight.error = std::sqrt(upperVariance) + std::sqrt(lowerVariance);
+    return weight;
 }
 
 } // namespace
@@ -90,25 +115,22 @@ std::vector<OpenGame> openGamesOf(const OpenGames& games, const Field& field)
     return open;
 }
 
-std::vector<double> swingsFor(std::size_t player, const ChanceOutlook& chances)
+std::vector<double> swingsFor(std::size_t player, const OutlookFigures& figures)
 {
     std::vector<double> swings;
-    for (std::size_t game = 0; game < chances.upperWins.size(); ++game)
-        swings.push_back(swingFor(player, game, chances));
+    for (std::size_t game = 0; game < figures.chances.upperWins.size(); ++game)
+        swings.push_back(swingFor(player, game, figures));
     return swings;
 }
 
-std::vector<GameWeight> weightsOf(const ChanceOutlook& chances)
+std::vector<GameWeight> weightsOf(const OutlookFigures& figures, std::span<const OpenGame> games)
 {
     std::vector<GameWeight> weights;
-    for (std::size_t game = 0; game < chances.upperWins.size(); ++game) {
-        GameWeight weight{game, 0};
-        for (std::size_t player = 0; player < chances.players.size(); ++player)
-            weight.swing += std::abs(swingFor(player, game, chances));
-        if (weight.swing >= kLeastSwing)
+    for (std::size_t game = 0; game < figures.chances.upperWins.size(); ++game)
+        if (const GameWeight weight = weightOf(game, figures); weight.swing >= kLeastSwing)
             weights.push_back(weight);
-    }
     std::ranges::stable_sort(weights, std::greater{}, &GameWeight::swing);
+    std::ranges::stable_partition(weights, [&](const GameWeight& weight) { return games[weight.openGame].isNext; });
     return weights;
 }
 

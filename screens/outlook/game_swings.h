@@ -3,9 +3,10 @@
 
 #include "pool/field.h"
 #include "pool/outlook/contest.h"
-#include "pool/outlook/first_places.h"
+#include "pool/outlook/figures.h"
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -33,18 +34,23 @@ std::vector<OpenGame> openGamesOf(const OpenGames& games, const Field& field);
 /// A swing of less rounds to nothing.
 inline constexpr double kLeastSwing = 0.05;
 
-/// How much more of first place a player has when the upper side wins than when the lower one does, in percent:
-/// 31.2 = root for the upper side, -31.2 = for the lower one. In the order of OpenGames::games().
-/// @pre the chances are those of this contest
-std::vector<double> swingsFor(std::size_t player, const ChanceOutlook& chances);
+/// How much more of first place a player has when the upper side wins than when the lower one does, in percentage
+/// points: 31.2 = root for the upper side, -31.2 = for the lower one; 0 also for what is within the error of a
+/// forecast. In the order of OpenGames::games().
+/// @pre the figures have chances, which are those of this contest
+std::vector<double> swingsFor(std::size_t player, const OutlookFigures& figures);
 
 /// What an open game means to all players together.
 struct GameWeight {
     std::size_t openGame = 0; ///< index in OpenGames::games()
-    double swing = 0;         ///< the sum of the players' swings without their signs, in percent
+    double swing = 0;         ///< the sum of what swingsFor() says of the players, without signs
+    double error = 0;         ///< a bound for the standard error of this sum; 0 = exact
 };
 
-/// The games that matter, those that matter most first; of equal ones the earlier game first.
-std::vector<GameWeight> weightsOf(const ChanceOutlook& chances);
+/// The games that matter, in the order in which they are listed: those that can be played next first, then the later
+/// ones; of these those that matter most first, and of equal ones the earlier game.
+/// @param games of the contest, in the order of OpenGames::games()
+/// @returns none where the figures have no chances
+std::vector<GameWeight> weightsOf(const OutlookFigures& figures, std::span<const OpenGame> games);
 
 } // namespace tallyhoop

@@ -66,7 +66,8 @@ void OutlookBoard::showSwing(Position side, double swing)
     label.text = changeInWords(swing);
     label.colour = kWhite;
     label.background = std::abs(swing) < kLeastSwing ? kNoMatter : swing > 0 ? kHelps : kHarms;
-    label.spokenName = std::abs(swing) < kLeastSwing ? "does not matter" : changeInWords(swing) + " percent if it wins";
+    label.spokenName =
+        std::abs(swing) < kLeastSwing ? "does not matter" : changeInWords(swing) + " percentage points if it wins";
     lblRegion[side].spokenName += ", " + label.spokenName;
 }
 

@@ -193,8 +193,7 @@ void OutlookScreen::makeRows()
 
 std::vector<double> OutlookScreen::swings() const
 {
-    return m_chosen && m_figures.source != ChanceSource::None ? swingsFor(*m_chosen, m_figures.chances)
-                                                              : std::vector<double>{};
+    return m_chosen && m_figures.source != ChanceSource::None ? swingsFor(*m_chosen, m_figures) : std::vector<double>{};
 }
 
 void OutlookScreen::showPlayer()

@@ -55,7 +55,7 @@ public:
     ui::Command cmdShowWay{this, "cmdShowWay", "Show a &Way to Win", [this] { showWay(); }};
     ui::Label lblRoad{this, "lblRoad"};
     ui::Picture picRoad{this, "picRoad"};
-    ui::Label lblGames{this, "lblGames", "Games that matter"};
+    ui::Label lblGames{this, "lblGames", "Games that matter, the next ones first"};
     ui::Grid grdGames{this, "grdGames"};
     ui::Command cmdStop{this, "cmdStop", "S&top", [this] { stop(); }};
     ui::Command cmdSaveReport{this, "cmdSaveReport", "Save &Report", [this] { bringOut(&OutlookOutput::saveReport); }};
@@ -102,6 +102,7 @@ private:
     void chooseLeader();
     void choose(std::size_t row);
     void showGames(const std::vector<OpenGame>& games);
+    void showMarkedGame(const std::vector<GameWeight>& weights);
     void showPlayer();
     void showRoad();
     std::string howFar() const;

@@ -24,6 +24,7 @@ OutlookSheet OutlookScreen::sheet() const
     sheet.rows = m_rows;
     sheet.road = roadPicture();
     sheet.games = gamesOfSheet();
+    sheet.isForecast = m_figures.source == ChanceSource::Forecast;
     if (m_chosen) {
         sheet.chosen = m_chosen;
         sheet.chosenName = m_pool.entries.at(*m_chosen).name;
@@ -35,17 +36,16 @@ OutlookSheet OutlookScreen::sheet() const
 std::vector<SheetGame> OutlookScreen::gamesOfSheet() const
 {
     std::vector<SheetGame> games;
-    if (m_figures.source == ChanceSource::None)
-        return games;
     const std::vector<OpenGame> open = openGamesOf(m_games, m_pool.field);
     const std::vector<double> ofChosen = swings();
-    for (const GameWeight& weight : weightsOf(m_figures.chances)) {
-        SheetGame game{gameText(open[weight.openGame]), {}, {}, fixedText(weight.swing)};
+    for (const GameWeight& weight : weightsOf(m_figures, open)) {
+        const OpenGame& game = open[weight.openGame];
+        SheetGame words{gameText(game), {}, {}, weightText(weight), whenText(game)};
         if (!ofChosen.empty()) {
-            game.rootFor = rootFor(open[weight.openGame], ofChosen[weight.openGame]);
-            game.helps = changeInWords(std::abs(ofChosen[weight.openGame]));
+            words.rootFor = rootFor(game, ofChosen[weight.openGame]);
+            words.helps = changeInWords(std::abs(ofChosen[weight.openGame]));
         }
-        games.push_back(game);
+        games.push_back(words);
     }
     return games;
 }

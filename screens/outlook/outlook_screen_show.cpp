@@ -14,6 +14,9 @@ namespace tallyhoop {
 namespace {
 
 constexpr std::size_t kRootFor = 1; ///< a column of the games
+constexpr const char* kSwings = "Swing: how much the shares of all players differ between the two ways a game can end. "
+                                "Next: both teams are known. ";
+constexpr const char* kGoToGame = "Press a game to go to it on the board.";
 
 /// @returns each one's chance to be first as a part of the largest, 0..1
 std::vector<double> partsOfLargest(std::span<const OutlookRow> rows)
@@ -27,12 +30,32 @@ std::vector<double> partsOfLargest(std::span<const OutlookRow> rows)
     return parts;
 }
 
+/// @returns what the figures of a list of games mean
+/// @param current the game that is the current one; nothing = none is
+std::string explanationOfGames(const std::optional<GameWeight>& current)
+{
+    const std::string swings = current && current->error > 0
+                                   ? "Swing " + weightText(*current) +
+                                         ": a forecast with its standard error; players whose difference is "
+                                         "within two errors are left out. "
+                                   : kSwings;
+    return swings + kGoToGame;
+}
+
 /// @returns why no game is listed
 std::string noteWithoutGames(bool noneIsOpen, ChanceSource source)
 {
     if (noneIsOpen)
         return "No game is open.";
-    return source == ChanceSource::None ? "Nothing is counted yet." : "No open game makes a difference.";
+    switch (source) {
+    case ChanceSource::Forecast:
+        return "No difference is larger than the error of the forecast.";
+    case ChanceSource::Counted:
+        return "No open game makes a difference.";
+    case ChanceSource::None:
+        break;
+    }
+    return "Nothing is counted yet.";
 }
 
 } // namespace
@@ -56,9 +79,6 @@ void OutlookScreen::describeGrids()
                         {"Swing", ui::Alignment::Right, 5},
                         {"When", ui::Alignment::Left, 5}};
     grdGames.wholeRows = true;
-    grdGames.explanation =
-        "Swing: how much the shares of all players differ between the two ways a game can end. Next: "
-        "both teams are known. Press a game to go to it on the board.";
     grdGames.rowReached = [this](std::size_t row) { reachGame(row); };
     grdGames.cellPressed = [this](std::size_t row, std::size_t) { pressGame(row); };
 }
@@ -110,13 +130,9 @@ void OutlookScreen::showRows()
     ++grdPlayers.revision;
 }
 
-/// Those that can be played next come first.
 void OutlookScreen::showGames(const std::vector<OpenGame>& games)
 {
-    std::vector<GameWeight> weights;
-    if (m_figures.source != ChanceSource::None)
-        weights = weightsOf(m_figures.chances);
-    std::ranges::stable_partition(weights, [&](const GameWeight& weight) { return games[weight.openGame].isNext; });
+    const std::vector<GameWeight> weights = weightsOf(m_figures, games);
     grdGames.emptyNote = noteWithoutGames(games.empty(), m_figures.source);
     const std::vector<double> ofChosen = swings();
     std::vector<std::vector<std::string>> rows;
@@ -124,18 +140,29 @@ void OutlookScreen::showGames(const std::vector<OpenGame>& games)
     for (const GameWeight& weight : weights) {
         const OpenGame& game = m_listed.emplace_back(games[weight.openGame]);
         rows.push_back({gameText(game), ofChosen.empty() ? "" : rootFor(game, ofChosen[weight.openGame]),
-                        fixedText(weight.swing), game.isNext ? "next" : "later"});
+                        swingText(weight), whenText(game)});
     }
-    const auto marked =
-        std::ranges::find(m_listed, markedGame, [](const OpenGame& game) { return std::optional{game.game}; });
-    if (marked == m_listed.end())
-        markedGame.reset();
-    else if (grdGames.current)
-        grdGames.current->row = static_cast<std::size_t>(marked - m_listed.begin());
+    showMarkedGame(weights);
     if (rows == grdGames.rows)
         return;
     grdGames.rows = std::move(rows);
     ++grdGames.revision;
+}
+
+/// @param weights of the games that are listed
+void OutlookScreen::showMarkedGame(const std::vector<GameWeight>& weights)
+{
+    const auto marked =
+        std::ranges::find(m_listed, markedGame, [](const OpenGame& game) { return std::optional{game.game}; });
+    if (marked == m_listed.end()) {
+        markedGame.reset();
+        grdGames.explanation = explanationOfGames(std::nullopt);
+        return;
+    }
+    const auto row = static_cast<std::size_t>(marked - m_listed.begin());
+    grdGames.explanation = explanationOfGames(weights[row]);
+    if (grdGames.current)
+        grdGames.current->row = row;
 }
 
 void OutlookScreen::showRoad()

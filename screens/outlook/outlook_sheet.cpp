@@ -92,11 +92,12 @@ SheetTable tableOfGames(const OutlookSheet& sheet)
     if (isChosen)
         table.columns.insert(table.columns.end(),
                              {{"Root for", ui::Alignment::Left, 210}, {"Helps by", ui::Alignment::Right, 70}});
-    table.columns.push_back({"All players", ui::Alignment::Right, 80});
+    table.columns.insert(table.columns.end(),
+                         {{"All players", ui::Alignment::Right, 80}, {"When", ui::Alignment::Left, 40}});
     fillWidth(table.columns, 0);
     for (const SheetGame& game : sheet.games)
-        table.rows.push_back(
-            {isChosen ? std::vector{game.game, game.rootFor, game.helps, game.all} : std::vector{game.game, game.all}});
+        table.rows.push_back({isChosen ? std::vector{game.game, game.rootFor, game.helps, game.all, game.when}
+                                       : std::vector{game.game, game.all, game.when}});
     return table;
 }
 
@@ -267,12 +268,14 @@ private:
         if (m_sheet.games.empty())
             return;
         const SheetTable table = tableOfGames(m_sheet);
-        beginSection("Games that matter most", kLine * static_cast<double>(kRowsOfAGoodEnd));
+        beginSection("Games that matter, the next ones first", kLine * static_cast<double>(kRowsOfAGoodEnd));
         if (m_sheet.chosen)
             writeLine("Helps by: how much the share of " + asOneLine(m_sheet.chosenName) +
                           " is larger when that side wins, in percentage points.",
                       kLine, kText);
         writeLine("All players: how much the shares of all differ between the two ways a game can end.", kLine, kText);
+        if (m_sheet.isForecast)
+            writeLine("A difference within two standard errors of the forecast counts as 0.0.", kLine, kText);
         paintTable(table);
     }
 

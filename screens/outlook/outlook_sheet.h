@@ -18,6 +18,7 @@ struct SheetGame {
     std::string rootFor; ///< the side that helps the chosen player; "-" = neither does; empty = nobody is chosen
     std::string helps;   ///< by how much; empty = nobody is chosen
     std::string all;     ///< what it means to all players together
+    std::string when;    ///< when it can be played
 };
 
 /// The outlook as it is shown, which is what goes out of it.
@@ -28,7 +29,8 @@ struct OutlookSheet {
     std::string chosenName{};
     std::string proof{};            ///< what is proven about the chosen player, in a sentence
     RoadPicture road{};             ///< by the results as entered, whatever is supposed
-    std::vector<SheetGame> games{}; ///< those that matter most first
+    std::vector<SheetGame> games{}; ///< in the order in which they are listed
+    bool isForecast = false;        ///< the figures of the games have errors
 };
 
 /// Draws the sheet on upright pages of 800 by 1100 units, as many as it takes: first the table, its headings on each

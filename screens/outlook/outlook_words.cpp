@@ -101,6 +101,10 @@ std::string rootFor(const OpenGame& game, double swing)
     return swing > 0 ? game.upper : game.lower;
 }
 
-std::string fixedText(double number) { return fmt::format("{:.1f}", number); }
+std::string whenText(const OpenGame& game) { return game.isNext ? "next" : "later"; }
+
+std::string swingText(const GameWeight& weight) { return fmt::format("{:.1f}", weight.swing); }
+
+std::string weightText(const GameWeight& weight) { return withError(swingText(weight), weight.error); }
 
 } // namespace tallyhoop

@@ -44,7 +44,13 @@ std::string gameText(const OpenGame& game);
 /// @returns the side that helps; "-" where the game does not matter
 std::string rootFor(const OpenGame& game, double swing);
 
-/// @returns a number with one decimal, "93.8"
-std::string fixedText(double number);
+/// @returns "next" where both teams are known, else "later"
+std::string whenText(const OpenGame& game);
+
+/// @returns what a game means to all players, "93.8", with its standard error after it where it has one
+std::string weightText(const GameWeight& weight);
+
+/// @returns the sum alone, "93.8"
+std::string swingText(const GameWeight& weight);
 
 } // namespace tallyhoop

@@ -138,6 +138,7 @@ TEST_F(OutlookScreenTest, SaysWhomToRootFor)
     choose("X, Ann");
     EXPECT_EQ(screen->lblSwing[kSemifinalA].text, "+100.0");
     EXPECT_EQ(screen->lblSwing[kSemifinalB].text, "-100.0");
+    EXPECT_EQ(screen->lblSwing[kSemifinalB].spokenName, "-100.0 percentage points if it wins");
     EXPECT_THAT(screen->grdGames.rows, ElementsAre(ElementsAre("Team 1 - Team 35", "Team 1", "200.0", "next")));
     EXPECT_EQ(screen->lblPlayer.text, "Ann: Alive");
     EXPECT_EQ(screen->lblProof.text, "First in 1 of 2 outcomes, alone or together with others.");

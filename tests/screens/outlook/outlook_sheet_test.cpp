@@ -33,7 +33,7 @@ struct OutlookSheetTest : testing::Test {
     void addGames(std::size_t games)
     {
         for (std::size_t i = 0; i < games; ++i)
-            sheet.games.push_back({"Game " + std::to_string(i), "Side " + std::to_string(i), "+1.0", "2.0"});
+            sheet.games.push_back({"Game " + std::to_string(i), "Side " + std::to_string(i), "+1.0", "2.0", "later"});
     }
 
     void addRoad()
@@ -246,12 +246,24 @@ TEST_F(OutlookSheetTest, SaysWhomToRootForOnceAPlayerIsChosen)
     EXPECT_EQ(pagesWith(pages(), "Root for"), 0);
     EXPECT_EQ(pagesWith(pages(), "Side 0"), 0);
     EXPECT_EQ(pagesWith(pages(), "2.0"), 1);
+    EXPECT_EQ(pagesWith(pages(), "later"), 1);
+    EXPECT_EQ(pagesWith(pages(), "Games that matter, the next ones first"), 1);
     choose(0);
+    EXPECT_EQ(pagesWith(pages(), "later"), 1);
     EXPECT_EQ(pagesWith(pages(), "Root for"), 1);
     EXPECT_EQ(pagesWith(pages(), "Side 0"), 1);
     EXPECT_EQ(pagesWith(pages(), "+1.0"), 1);
     sheet.games.clear();
-    EXPECT_EQ(pagesWith(pages(), "Games that matter most"), 0);
+    EXPECT_EQ(pagesWith(pages(), "Games that matter, the next ones first"), 0);
+}
+
+TEST_F(OutlookSheetTest, SaysWhatAForecastsDifferencesAreWorth)
+{
+    const std::string note = "A difference within two standard errors of the forecast counts as 0.0.";
+    addGames(1);
+    EXPECT_EQ(pagesWith(pages(), note), 0);
+    sheet.isForecast = true;
+    EXPECT_EQ(pagesWith(pages(), note), 1);
 }
 
 TEST_F(OutlookSheetTest, KeepsNamesOnOneLine)

@@ -40,6 +40,20 @@ struct OutlookTablesTest : testing::Test {
         screen->showState();
     }
 
+    /// Takes 500 samples.
+    void forecast(const Bracket& results)
+    {
+        opened.pool.results->picks = results;
+        auto fake = std::make_unique<FakeBackground>();
+        background = fake.get();
+        screen = std::make_unique<OutlookScreen>(folder, opened, platform.services, screens, std::move(fake));
+        screen->load();
+        background->doSlice(); // what is certain
+        screen->showState();
+        background->doSlice();
+        screen->showState();
+    }
+
     void pressHeading(OutlookColumn heading)
     {
         screen->grdPlayers.columnPressed(static_cast<std::size_t>(heading));
@@ -184,6 +198,38 @@ TEST_F(OutlookTablesTest, AnEmptyListOfGamesSaysWhy)
     screen->load();
     screen->showState();
     EXPECT_EQ(screen->grdGames.emptyNote, "No open game makes a difference.");
+}
+
+TEST_F(OutlookTablesTest, AForecastsGamesHaveTheirErrorInTheExplanation)
+{
+    // Given: only the winners of the regions, and how they came there. Everybody has picked all the 44 other games
+    // alike, so that each of 500 samples has what the counted semi-finals and final make.
+    Bracket results = startingField();
+    for (int region = 0; region < kRegions; ++region)
+        results.put(regionWinner(region), beforeTheFinal().at(regionWinner(region)));
+    forecast(results);
+
+    // Ann has 7/12 of first place when Team 1 wins, else 1/4; Bob and Cleo have 5/24 and 3/8 each. There are 250
+    // samples for each side: sqrt((35/144 + 3/16) / 249) = 0.0416 for Ann, and sqrt((95/576 + 15/64) / 249) = 0.0400
+    // for the others. The swings are 33.3, -16.7 and -16.7, and 4.158 + sqrt(2) * 4.005 = 9.822.
+    ASSERT_EQ(screen->grdGames.rows.size(), 3u) << "those that make no difference are not listed";
+    EXPECT_THAT(screen->grdGames.rows[0], ElementsAre("Team 1 - Team 17", "Team 1", "66.7", "next"));
+    EXPECT_THAT(screen->grdGames.explanation, testing::StartsWith("Swing: "));
+    reach(screen->grdGames, 0);
+    EXPECT_THAT(screen->grdGames.explanation, testing::StartsWith("Swing 66.7 \xB1"
+                                                                  "9.83: a forecast"));
+}
+
+TEST_F(OutlookTablesTest, ADifferenceWithinTheErrorOfAForecastDoesNotMatter)
+{
+    // Given: nothing is played. Ann has a third of first place, and 1/64 of the outcomes more or less: in 500 samples
+    // no game makes a difference that could be told from chance.
+    forecast(startingField());
+    EXPECT_THAT(screen->grdGames.rows, IsEmpty());
+    EXPECT_EQ(screen->grdGames.emptyNote, "No difference is larger than the error of the forecast.");
+    const ui::Label& champions = screen->lblSwing[kSemifinalA];
+    EXPECT_EQ(champions.text, "0.0");
+    EXPECT_EQ(champions.spokenName, "does not matter");
 }
 
 TEST_F(OutlookTablesTest, AGameOfTheListIsMarkedOnTheBoard)
