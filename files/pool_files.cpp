@@ -141,6 +141,7 @@ ReadPool readPoolInSteps(const DataFolder& folder, const Step& step)
     Pool& pool = read.pool;
     ReadField field = readField(folder);
     pool.field = std::move(field.value);
+    read.isFieldDamaged = field.trouble.has_value();
     if (field.trouble)
         pool.trouble.push_back(troubleOf(folder.pathTo(file_name::kSetup), *field.trouble));
 
@@ -148,12 +149,14 @@ ReadPool readPoolInSteps(const DataFolder& folder, const Step& step)
     if (folder.exists(file_name::kResults)) {
         const std::filesystem::path file = folder.pathTo(file_name::kResults);
         Read<Entry> results = readSelectionFile(file, like);
+        read.areResultsDamaged = results.trouble.has_value();
         if (results.trouble)
             pool.trouble.push_back(troubleOf(file, *results.trouble));
         like = results.value.picks;
         pool.results = std::move(results.value);
     }
     const Read<std::vector<FolderFile>> selections = folder.list(file_name::kSelectionExtension);
+    read.isListDamaged = selections.trouble.has_value();
     if (selections.trouble)
         pool.trouble.push_back(troubleOf(folder.folder(), *selections.trouble));
     readSelections(selections.value, like, [&](const FolderFile& file, Read<Entry>& selection) {

@@ -43,10 +43,13 @@ void readSelections(std::span<const FolderFile> files, const Bracket& like, cons
 /// @returns what was read when the work was stopped
 ReadEntries readEntries(std::span<const FolderFile> files, const Bracket& like, const Step& step = goOn);
 
-/// A pool, and which of its entries are not whole.
+/// A pool, and what of it is not whole.
 struct ReadPool {
     Pool pool;
     std::vector<std::size_t> damagedEntries; ///< indices in pool.entries, ascending
+    bool isFieldDamaged = false;
+    bool areResultsDamaged = false;
+    bool isListDamaged = false; ///< there may be entries that are not even named
 };
 
 /// Reads the field, the results and every selection of a folder, one step of work for each selection.

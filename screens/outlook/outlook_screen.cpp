@@ -16,10 +16,16 @@ namespace tallyhoop {
 namespace {
 
 constexpr const char* kWhatIf = "What if: nothing here is saved";
-constexpr const char* kAsEntered = "The results as entered";
 constexpr const char* kHowToSort = " To sort, click a heading, or press Ctrl+Enter in its column.";
-constexpr const char* kAsSaved = "The results as saved";
 constexpr const char* kUnsaved = "The outlook uses the saved results; those on the board are not saved";
+
+/// @returns which results these are
+const char* resultsInWords(const OpenedPool& opened)
+{
+    if (opened.areResultsDamaged)
+        return "The results as far as they can be read";
+    return opened.unsavedResults ? "The results as saved" : "The results as entered";
+}
 
 std::vector<Bracket> picksOf(const Pool& pool)
 {
@@ -44,15 +50,10 @@ OutlookScreen::OutlookScreen(const DataFolder& folder, OpenedPool opened, const 
       m_games{m_whatIf.entered()},
       m_output{folder, platform}
 {
-    if (const Result<Payoffs>& payoffs = m_pool.field.payoffs.points())
+    const Result<Payoffs>& payoffs = m_pool.field.payoffs.points();
+    if (payoffs)
         m_worker.emplace(m_whatIf.entered(), picksOf(m_pool), *payoffs, m_pool.field, std::move(background));
-    constexpr std::array kCaptions{"All A&like", "By &Seed", "As This &Pool Picked"};
-    for (std::size_t kind = 0; kind < optChances.size(); ++kind) {
-        optChances[kind].caption = kCaptions.at(kind);
-        optChances[kind].explanation = explanationOf(ChanceKind(kind));
-        optChances[kind].changed = [this] { chooseChances(); };
-    }
-    selectOption(optChances, 0);
+    describeChances();
     cmdAsEntered.explanation = "Puts the real results back.";
     cmdHigherSeeds.explanation =
         "Supposes that the better seed wins every open game; of equal seeds, the team listed later.";
@@ -72,6 +73,17 @@ OutlookScreen::OutlookScreen(const DataFolder& folder, OpenedPool opened, const 
         return drawRoad(m_road, width, height,
                         {colours.text, colours.grid, colours.line, colours.accent, colours.soft});
     };
+}
+
+void OutlookScreen::describeChances()
+{
+    constexpr std::array kCaptions{"All A&like", "By &Seed", "As This &Pool Picked"};
+    for (std::size_t kind = 0; kind < optChances.size(); ++kind) {
+        optChances[kind].caption = kCaptions.at(kind);
+        optChances[kind].explanation = explanationOf(ChanceKind(kind));
+        optChances[kind].changed = [this] { chooseChances(); };
+    }
+    selectOption(optChances, 0);
 }
 
 std::string OutlookScreen::helpTopic() const { return help_topic::kOutlook; }
@@ -166,7 +178,7 @@ void OutlookScreen::showState()
     showPlayer();
     showRoad();
     const bool isSupposed = m_whatIf.isChanged();
-    lblWhatIf.text = isSupposed ? kWhatIf : m_opened.unsavedResults ? kAsSaved : kAsEntered;
+    lblWhatIf.text = isSupposed ? kWhatIf : resultsInWords(m_opened);
     lblWhatIf.colour = isSupposed ? std::optional{kSupposedText} : std::nullopt;
     lblWhatIf.background = isSupposed ? std::optional{kSupposedBackground} : std::nullopt;
     cmdAsEntered.enabled = isSupposed;
@@ -175,8 +187,8 @@ void OutlookScreen::showState()
     for (ui::Command* const output : {&cmdSaveReport, &cmdSavePdf, &cmdPrint, &cmdPreview, &cmdCopy})
         output->enabled = !grdPlayers.rows.empty();
     lblOutcomes.text = howFar();
-    if (const std::string unread = unreadWords(m_opened); !unread.empty())
-        lblOutcomes.text += " " + unread;
+    if (const std::vector<std::string> unread = unreadInWords(m_opened); !unread.empty())
+        lblOutcomes.text += " " + sentencesOf(unread);
     status = m_opened.unsavedResults ? kUnsaved : "";
     explanation = "Click a team on the board to suppose that it wins; choose a player to see whom to root for.";
     grdPlayers.explanation = grdPlayers.current

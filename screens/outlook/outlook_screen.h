@@ -77,6 +77,7 @@ public:
     bool isWorking() const { return m_worker && m_worker->isWorking(); }
 
 private:
+    void describeChances();
     void describeGrids();
     void orderTabs();
     void supposed(bool changed);

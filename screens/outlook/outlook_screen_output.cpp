@@ -19,8 +19,8 @@ OutlookSheet OutlookScreen::sheet() const
     OutlookSheet sheet;
     sheet.heading = {m_pool.field.title, whatIfInWords(m_whatIf.entered(), m_whatIf.supposed()),
                      basisInWords(basisOf(m_kind, m_games.size(), m_figures))};
-    if (std::string unread = unreadWords(m_opened); !unread.empty())
-        sheet.heading.basis.push_back(unread.substr(0, unread.size() - 1)); // lines have no full stop
+    const std::vector<std::string> unread = unreadInWords(m_opened);
+    sheet.heading.basis.insert(sheet.heading.basis.end(), unread.begin(), unread.end());
     sheet.rows = m_rows;
     sheet.road = roadPicture();
     sheet.games = gamesOfSheet();

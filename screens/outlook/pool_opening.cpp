@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "files/file_names.h"
 #include "files/pool_files.h"
+#include "screens/outlook/outlook_words.h"
 #include "ui/work.h"
 
 #include <algorithm>
@@ -44,7 +45,12 @@ OpenedPool openPool(const DataFolder& folder, const ui::Platform& platform, cons
 {
     Work work{platform.progress, "Reading the selections", folder.files(file_name::kSelectionExtension).size()};
     ReadPool read = readPoolInSteps(folder, [&work] { return work.step(); });
-    OpenedPool opened{std::move(read.pool), 0, 0, work.cancelled(), board.holdsUnsavedResults()};
+    OpenedPool opened{.pool = std::move(read.pool),
+                      .isCancelled = work.cancelled(),
+                      .unsavedResults = board.holdsUnsavedResults(),
+                      .isFieldDamaged = read.isFieldDamaged,
+                      .areResultsDamaged = read.areResultsDamaged,
+                      .isListDamaged = read.isListDamaged};
     std::vector<Entry>& entries = opened.pool.entries;
     // From the last one, so that the indices of those before stay.
     for (auto damaged = read.damagedEntries.rbegin(); damaged != read.damagedEntries.rend(); ++damaged)
@@ -61,8 +67,8 @@ void showUnread(ui::Dialogs& dialogs, const OpenedPool& opened)
     const std::vector<Failure>& trouble = opened.pool.trouble;
     for (std::size_t first = 0; first < trouble.size(); first += kFilesOfAPage) {
         ui::Message message{"", pageOf(trouble, first), ui::Buttons::Ok, ui::Icon::Critical};
-        if (const std::string words = unreadWords(opened); !words.empty())
-            message.text = joinLines({message.text, " ", words});
+        if (const std::vector<std::string> words = unreadInWords(opened); !words.empty())
+            message.text = joinLines({message.text, " ", sentencesOf(words)});
         if (first + kFilesOfAPage < trouble.size())
             message.moreButton = "&Next Files";
         if (dialogs.show(message) != ui::Answer::More)
@@ -70,17 +76,22 @@ void showUnread(ui::Dialogs& dialogs, const OpenedPool& opened)
     }
 }
 
-std::string unreadWords(const OpenedPool& opened)
+std::vector<std::string> unreadInWords(const OpenedPool& opened)
 {
-    std::string words;
+    std::vector<std::string> words;
+    if (opened.areResultsDamaged)
+        words.emplace_back("The results file is damaged: some winners may be missing");
+    if (opened.isFieldDamaged)
+        words.emplace_back("The setup file is damaged: some teams, seeds or payoffs may be missing");
+    if (opened.isListDamaged)
+        words.emplace_back("The folder cannot be read whole: some players may be missing");
     if (opened.missing > 0)
-        words = opened.missing == 1
-                    ? "1 player is missing: the selection cannot be read."
-                    : fmt::format("{} players are missing: their selections cannot be read.", opened.missing);
+        words.push_back(opened.missing == 1
+                            ? "1 player is missing: the selection cannot be read"
+                            : fmt::format("{} players are missing: their selections cannot be read", opened.missing));
     if (opened.inPart > 0)
-        words += (words.empty() ? "" : " ") +
-                 (opened.inPart == 1 ? std::string{"1 selection was read only in part."}
-                                     : fmt::format("{} selections were read only in part.", opened.inPart));
+        words.push_back(opened.inPart == 1 ? "1 selection was read only in part"
+                                           : fmt::format("{} selections were read only in part", opened.inPart));
     return words;
 }
 

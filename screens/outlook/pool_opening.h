@@ -8,16 +8,20 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace tallyhoop {
 
 /// A pool as it is in its files.
 struct OpenedPool {
-    Pool pool;                   ///< without the players of whom nothing could be read
-    std::size_t missing = 0;     ///< how many those are
-    std::size_t inPart = 0;      ///< how many of the others' selections could not be read whole
-    bool isCancelled = false;    ///< by the person: not everybody is there
-    bool unsavedResults = false; ///< the board holds results that are not saved; these here are the saved ones
+    Pool pool;                      ///< without the players of whom nothing could be read
+    std::size_t missing = 0;        ///< how many those are
+    std::size_t inPart = 0;         ///< how many of the others' selections could not be read whole
+    bool isCancelled = false;       ///< by the person: not everybody is there
+    bool unsavedResults = false;    ///< the board holds results that are not saved; these here are the saved ones
+    bool isFieldDamaged = false;    ///< the setup file was not read whole, if at all
+    bool areResultsDamaged = false; ///< the same of the results file
+    bool isListDamaged = false;     ///< the folder was not listed whole: who is missing is not known
 };
 
 /// Reads the pool under a progress window that can be cancelled. Shows no message.
@@ -27,8 +31,9 @@ OpenedPool openPool(const DataFolder& folder, const ui::Platform& platform, cons
 /// dozen are turned over with a button. Nothing is shown when all was read.
 void showUnread(ui::Dialogs& dialogs, const OpenedPool& opened);
 
-/// @returns "2 players are missing: their selections cannot be read. One selection was read only in part."; empty when
-///          all was read
-std::string unreadWords(const OpenedPool& opened);
+/// @returns what of the pool was not read, such as "2 players are missing: their selections cannot be read": lines of
+/// up
+///          to 75 characters, without full stops; none when all was read
+std::vector<std::string> unreadInWords(const OpenedPool& opened);
 
 } // namespace tallyhoop

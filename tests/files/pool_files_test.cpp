@@ -249,6 +249,20 @@ TEST_F(PoolFiles, NameTheEntriesThatAreNotWhole)
     EXPECT_EQ(read.pool.entries.at(3), dunn);
 }
 
+TEST_F(PoolFiles, SayWhichOfTheOthersIsNotWhole)
+{
+    ReadPool read = readPoolInSteps(scratch.folder(), goOn);
+    EXPECT_FALSE(read.isFieldDamaged);
+    EXPECT_FALSE(read.areResultsDamaged);
+    EXPECT_FALSE(read.isListDamaged);
+    scratch.put("TALLYHOOP.THS", "");
+    read = readPoolInSteps(scratch.folder(), goOn);
+    EXPECT_FALSE(read.isFieldDamaged);
+    EXPECT_TRUE(read.areResultsDamaged);
+    scratch.put("POOLSTART.THS", "");
+    EXPECT_TRUE(readPoolInSteps(scratch.folder(), goOn).isFieldDamaged);
+}
+
 TEST_F(PoolFiles, AreReadStepByStepUntilSomebodyStops)
 {
     int steps = 0;

@@ -41,6 +41,7 @@ struct OutlookWaysOut : testing::Test {
     {
         OpenedPool opened{.pool = finalPool()};
         opened.pool.field.title = "Office Pool";
+        opened.areResultsDamaged = true;
         opened.missing = 1;
         return opened;
     }
@@ -90,11 +91,14 @@ TEST_F(OutlookWaysOut, BringsOutWhatItShows)
     const std::string report = scratch.get("OUTLOOK.TXT");
     EXPECT_THAT(report, HasSubstr("Office Pool\r\n"));
     EXPECT_THAT(report, HasSubstr("Counted: all 2 outcomes of 1 open game\r\n"
+                                  "The results file is damaged: some winners may be missing\r\n"
                                   "1 player is missing: the selection cannot be read\r\n"));
     EXPECT_LT(report.find("X, Cleo"), report.find("X, Bob")) << "in the order of the table";
     EXPECT_THAT(report, Not(HasSubstr("What if")));
     screen.cmdCopy.click();
     EXPECT_THAT(platform.clipboard.text, HasSubstr("1\tX, Ann\t152\t168\t50.0\t50.0\t0.00\tAlive\t1\t3\t\r\n"));
+    EXPECT_THAT(platform.clipboard.text, HasSubstr("The results file is damaged: some winners may be missing. 1 player "
+                                                   "is missing: the selection cannot be read."));
     EXPECT_EQ(screen.news().text, "Copied 3 rows, to be pasted into a spreadsheet.");
 }
 
@@ -121,6 +125,7 @@ TEST_F(OutlookWaysOut, PrintsTheChosenPlayersRoadAndGames)
     EXPECT_EQ(screen.news().text, "Printed Pool Outlook.");
     ASSERT_THAT(platform.printer.drawings, SizeIs(1));
     const std::vector<std::string> captions = captionsOf(platform.printer.drawings[0]);
+    EXPECT_THAT(captions, Contains("The results file is damaged: some winners may be missing"));
     EXPECT_THAT(captions, Contains("The road of Ann, by the results as entered"));
     EXPECT_THAT(captions, Contains("Ann: Alive. First in 1 of 2 outcomes, alone or together with others."));
     EXPECT_THAT(captions, IsSupersetOf({"Team 1 - Team 35", "Team 1", "+100.0", "200.0"}));

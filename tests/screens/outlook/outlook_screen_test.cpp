@@ -356,6 +356,19 @@ TEST_F(OutlookScreenTest, SaysThatItUsesTheSavedResultsWhileTheBoardHoldsOthers)
     EXPECT_THAT(screen->status, HasSubstr("the saved results"));
 }
 
+TEST_F(OutlookScreenTest, SaysAsLongAsItIsOpenThatTheResultsAreDamaged)
+{
+    opened.areResultsDamaged = true;
+    opened.unsavedResults = true;
+    open();
+    EXPECT_EQ(screen->lblWhatIf.text, "The results as far as they can be read");
+    EXPECT_EQ(screen->lblOutcomes.text, "All alike: 2 outcomes left, every one counted. "
+                                        "The results file is damaged: some winners may be missing.");
+    suppose(kSemifinalB);
+    EXPECT_EQ(screen->lblWhatIf.text, "What if: nothing here is saved");
+    EXPECT_THAT(screen->lblOutcomes.text, HasSubstr("The results file is damaged: some winners may be missing."));
+}
+
 TEST_F(OutlookScreenTest, IsLeftAgainWhenThePersonCancelsTheReading)
 {
     opened.isCancelled = true;

@@ -7,6 +7,7 @@
 #include "files/selection_file.h"
 #include "screens/outlook/final_pool.h"
 
+#include <filesystem>
 #include <fmt/format.h>
 #include <gmock/gmock.h>
 
@@ -14,6 +15,7 @@ namespace tallyhoop::test {
 namespace {
 
 using testing::AllOf;
+using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
@@ -51,7 +53,7 @@ TEST_F(PoolOpening, TakesEverybody)
     EXPECT_EQ(opened.inPart, 0u);
     EXPECT_FALSE(opened.isCancelled);
     EXPECT_FALSE(opened.unsavedResults);
-    EXPECT_EQ(unreadWords(opened), "");
+    EXPECT_THAT(unreadInWords(opened), IsEmpty());
 }
 
 TEST_F(PoolOpening, LeavesOutPlayersOfWhomNothingCanBeRead)
@@ -64,7 +66,7 @@ TEST_F(PoolOpening, LeavesOutPlayersOfWhomNothingCanBeRead)
     EXPECT_EQ(opened.pool.entries[1].name, "Cleo");
     EXPECT_EQ(opened.missing, 2u);
     EXPECT_EQ(opened.inPart, 0u);
-    EXPECT_EQ(unreadWords(opened), "2 players are missing: their selections cannot be read.");
+    EXPECT_THAT(unreadInWords(opened), ElementsAre("2 players are missing: their selections cannot be read"));
 }
 
 TEST_F(PoolOpening, KeepsPlayersOfWhomAPartCanBeRead)
@@ -73,7 +75,7 @@ TEST_F(PoolOpening, KeepsPlayersOfWhomAPartCanBeRead)
     const OpenedPool opened = open();
     EXPECT_EQ(opened.pool.entries, pool.entries);
     EXPECT_EQ(opened.missing, 0u);
-    EXPECT_EQ(unreadWords(opened), "1 selection was read only in part.");
+    EXPECT_THAT(unreadInWords(opened), ElementsAre("1 selection was read only in part"));
 }
 
 TEST_F(PoolOpening, KeepsAnEmptySelectionThatIsWhole)
@@ -84,12 +86,40 @@ TEST_F(PoolOpening, KeepsAnEmptySelectionThatIsWhole)
     EXPECT_EQ(opened.missing, 0u);
 }
 
-TEST_F(PoolOpening, DoesNotCountOtherFilesAsPlayers)
+TEST_F(PoolOpening, SaysOfResultsWithoutTheirEndThatWinnersMayBeMissing)
 {
-    scratch.put("TALLYHOOP.THS", "");
+    const std::string whole = selectionFile(*pool.results);
+    scratch.put("TALLYHOOP.THS", whole.substr(0, whole.size() / 2));
     const OpenedPool opened = open();
-    EXPECT_FALSE(opened.pool.trouble.empty());
-    EXPECT_EQ(unreadWords(opened), "");
+    EXPECT_TRUE(opened.areResultsDamaged);
+    EXPECT_THAT(unreadInWords(opened), ElementsAre("The results file is damaged: some winners may be missing"));
+    EXPECT_EQ(opened.missing, 0u) << "they are nobody's";
+    EXPECT_EQ(opened.inPart, 0u);
+}
+
+TEST_F(PoolOpening, SaysTheSameOfResultsThatAreAFolder)
+{
+    std::filesystem::remove(scratch.path() / "TALLYHOOP.THS");
+    std::filesystem::create_directory(scratch.path() / "TALLYHOOP.THS");
+    EXPECT_THAT(unreadInWords(open()), ElementsAre("The results file is damaged: some winners may be missing"));
+}
+
+TEST_F(PoolOpening, SaysOfASetupFileThatIsCutWhatMayBeMissing)
+{
+    scratch.put("POOLSTART.THS", "Team 1\r\n");
+    EXPECT_THAT(unreadInWords(open()),
+                ElementsAre("The setup file is damaged: some teams, seeds or payoffs may be missing"));
+}
+
+TEST_F(PoolOpening, SaysAllThatIsMissing)
+{
+    OpenedPool opened;
+    opened.areResultsDamaged = true;
+    opened.isListDamaged = true;
+    opened.inPart = 2;
+    EXPECT_THAT(unreadInWords(opened), ElementsAre("The results file is damaged: some winners may be missing",
+                                                   "The folder cannot be read whole: some players may be missing",
+                                                   "2 selections were read only in part"));
 }
 
 TEST_F(PoolOpening, ShowsItsProgressAndCanBeCancelled)
@@ -123,7 +153,8 @@ TEST_F(PoolOpening, NamesDamagedFilesInOneMessage)
     ASSERT_THAT(platform.dialogs.shown, SizeIs(1));
     EXPECT_THAT(platform.dialogs.shown[0].text,
                 AllOf(HasSubstr("/Ann_X.THC: "), HasSubstr("/Bob_X.THC: "), HasSubstr("/TALLYHOOP.THS: "),
-                      HasSubstr("\r\n \r\n1 player is missing: the selection cannot be read. "
+                      HasSubstr("\r\n \r\nThe results file is damaged: some winners may be missing. "
+                                "1 player is missing: the selection cannot be read. "
                                 "1 selection was read only in part.")));
     EXPECT_EQ(platform.dialogs.shown[0].moreButton, "");
 }
