@@ -1,7 +1,9 @@
-// screens/outlook/outlook_geometry.cpp - the board's arrangement with other shares, and the room beside its places.
+// screens/outlook/outlook_geometry.cpp - the board's rows with columns that overlap, and the room beside its places.
 #include "screens/outlook/outlook_geometry.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
 
 namespace tallyhoop {
 
@@ -22,28 +24,119 @@ constexpr double kSwing = 3.9;      ///< room for "+100.0"
 constexpr double kShortSwing = 3.1; ///< room for "+12.3": before the second round nobody has more at stake
 constexpr double kTitle = 1.8;
 
-constexpr double kFrame = 3; ///< room at the edges for a frame
+constexpr double kFrame = 3;            ///< room at the edges for a frame
+constexpr double kGap = 0.0085;         ///< between columns, of the width
+constexpr double kWidestChampion = 1.4; ///< in widths of the other places
+
+bool isInRightHalf(Position position)
+{
+    const std::optional<int> region = regionOf(position);
+    return region ? *region >= 2 : position == kSemifinalB;
+}
 
 /// Rounds 1 to 3 have their swings on the side of the middle of the board, later ones on the other: there the next or
 /// the last column has no place at that height.
-bool isSwingOnTheRight(Position position)
+bool isSwingOnTheRight(Position position) { return isInRightHalf(position) == (roundOf(position) > 3); }
+
+/// Where the columns of the left half begin. No two places of rounds 1 to 4 are at the same height, so each column
+/// begins where the one two before it ends, and all are as wide as if there were only three.
+struct Columns {
+    double gap = 0;
+    double width = 0;             ///< of each place
+    std::array<double, 5> left{}; ///< of the teams and the winners of rounds 1 to 4
+};
+
+Columns columnsOf(const BoardGeometry& board, double width)
 {
-    const std::optional<int> region = regionOf(position);
-    const bool isRightHalf = region ? *region >= 2 : position == kSemifinalB;
-    return isRightHalf == (roundOf(position) > 3);
+    Columns columns;
+    columns.gap = width * kGap;
+    const double first = board.positions[allPositions().front()].x;
+    const double end = width / 2 - columns.gap;
+    columns.width = (end - first - 1.5 * columns.gap - kSwing * board.textSize) / 3;
+    const double second = first + columns.width + columns.gap;
+    const double last = end - columns.width;
+    columns.left = {first, second, last - columns.gap / 2 - columns.width, second + columns.width + columns.gap / 2,
+                    last};
+    return columns;
 }
 
-void placeTitles(BoardGeometry& board, double height)
+void spread(BoardGeometry& board, const Columns& columns, double width)
 {
-    for (int region = 0; region < kRegions; ++region) {
-        const Position winner = regionWinner(region);
-        const ui::Rectangle& outer = board.positions[feeders(winner)->front()];
-        const ui::Rectangle& inner = board.positions[winner];
-        const double left = std::min(outer.x, inner.x);
-        const double room = kTitle * board.textSize;
-        board.regionTitles[static_cast<std::size_t>(region)] = {left, region % 2 == 0 ? kFrame : height - kFrame - room,
-                                                                std::max(outer.right(), inner.right()) - left, room};
+    for (const Position position : allPositions()) {
+        if (position == kChampion)
+            continue;
+        const int column = teamRowOf(position) ? 0 : std::min(roundOf(position), 4);
+        ui::Rectangle& place = board.positions[position];
+        place.width = columns.width;
+        place.x = columns.left.at(static_cast<std::size_t>(column));
+        if (isInRightHalf(position))
+            place.x = width - place.right();
     }
+    ui::Rectangle& champion = board.positions[kChampion];
+    const double room = width / 2 - (columns.left[2] + columns.width + kSwing * board.textSize) - columns.gap / 2;
+    champion.width = std::min(2 * room, kWidestChampion * columns.width);
+    champion.x = (width - champion.width) / 2;
+}
+
+/// @param x1, x2 in the left half
+void connect(BoardGeometry& board, bool isRight, double width, double x1, double y1, double x2, double y2)
+{
+    if (isRight) {
+        x1 = width - x1;
+        x2 = width - x2;
+    }
+    board.connectors.push_back({x1, y1, x2, y2, {}});
+}
+
+/// Joins the entrants of a game with the place of its winner, which covers the middle of the line.
+void join(BoardGeometry& board, const Columns& columns, double width, Position game)
+{
+    const bool isRight = isInRightHalf(game);
+    const int round = roundOf(game);
+    const auto [first, second] = *feeders(game);
+    const double upper = board.positions[first].centreY();
+    const double lower = board.positions[second].centreY();
+    const double middle = board.positions[game].centreY();
+    const auto line = [&](double x1, double y1, double x2, double y2) {
+        connect(board, isRight, width, x1, y1, x2, y2);
+    };
+    if (round > 1 && round < 5) {
+        const double bend = columns.left.at(static_cast<std::size_t>(round)) + columns.gap / 2;
+        line(bend, upper, bend, lower);
+        return;
+    }
+    // Beside the first column, and at the inner edge of the last one.
+    const double edge = round == 1 ? columns.left[0] + columns.width : columns.left[4] + columns.width;
+    const double bend = edge + columns.gap / 2;
+    line(edge, upper, bend, upper);
+    line(edge, lower, bend, lower);
+    line(bend, upper, bend, lower);
+    line(bend, middle, round == 1 ? columns.left[1] : edge, middle);
+}
+
+void joinAll(BoardGeometry& board, const Columns& columns, double width)
+{
+    board.connectors.clear();
+    for (const Position game : gamePositions())
+        if (game != kChampion)
+            join(board, columns, width, game);
+    const ui::Rectangle& champion = board.positions[kChampion];
+    for (const Position entrant : {kSemifinalA, kSemifinalB}) {
+        const double x = board.positions[entrant].centreX();
+        board.connectors.push_back({x, board.positions[entrant].centreY(), x, champion.centreY(), {}});
+        board.connectors.push_back({x, champion.centreY(), champion.centreX(), champion.centreY(), {}});
+    }
+}
+
+/// Beside the places of the first round's winners, up to the middle.
+void placeTitles(BoardGeometry& board, const Columns& columns, double width, double height)
+{
+    const double room = kTitle * board.textSize;
+    const double left = columns.left[1] + columns.width + kSwing * board.textSize;
+    const double right = columns.left[4] + columns.width;
+    for (int region = 0; region < kRegions; ++region)
+        board.regionTitles[static_cast<std::size_t>(region)] = {
+            region < 2 ? left : width - right, region % 2 == 0 ? kFrame : height - kFrame - room, right - left, room};
 }
 
 } // namespace
@@ -52,7 +145,10 @@ BoardGeometry layOutOutlook(double width, double height)
 {
     BoardGeometry board = layOutBoard(width, height, kShares);
     board.textSize = std::max(board.textSize, kSmallestText);
-    placeTitles(board, height);
+    const Columns columns = columnsOf(board, width);
+    spread(board, columns, width);
+    joinAll(board, columns, width);
+    placeTitles(board, columns, width, height);
     const ui::Rectangle& champion = board.positions[kChampion];
     const double caption = board.championCaption.height;
     board.championCaption = {champion.x, champion.y - caption, champion.width, caption};

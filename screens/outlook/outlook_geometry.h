@@ -5,7 +5,8 @@
 
 namespace tallyhoop {
 
-/// Lays the bracket out without headers, seeds and markers. The lower regions have their titles below them.
+/// Lays the bracket out without headers, seeds and markers. A column overlaps the one before it where both have room at
+/// different heights. The lower regions have their titles below them.
 /// @param width, height in the caller's units, at least 1
 BoardGeometry layOutOutlook(double width, double height);
 

@@ -2,6 +2,7 @@
 // place.
 #include "screens/outlook/outlook_geometry.h"
 
+#include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <string>
@@ -70,6 +71,40 @@ TEST_P(OutlookGeometryAt, ASwingTouchesItsTeamAndHasItsHeight)
         EXPECT_EQ(swing.y, team.y);
         EXPECT_EQ(swing.height, team.height);
     }
+}
+
+TEST_P(OutlookGeometryAt, AllTeamsHaveTheSameRoomForTheirNames)
+{
+    for (const Position position : allPositions())
+        if (position != kChampion) {
+            EXPECT_NEAR(board.positions[position].width, board.positions[kSemifinalA].width, 0.01) << index(position);
+        }
+    EXPECT_GE(board.positions[kSemifinalA].width, 10 * board.textSize) << "of 15 to 20 letters";
+    EXPECT_GE(board.positions[kChampion].width, 10 * board.textSize);
+}
+
+TEST_P(OutlookGeometryAt, TheRightHalfMirrorsTheLeftOne)
+{
+    for (std::size_t i = 0; i < 62; ++i) {
+        const ui::Rectangle& left = board.positions[allPositions()[i]];
+        const ui::Rectangle& right = board.positions[allPositions()[i + 62]];
+        EXPECT_NEAR(left.x, width - right.right(), 0.01) << i;
+    }
+}
+
+TEST_P(OutlookGeometryAt, ALineLeadsFromEachEntrantToTheWinner)
+{
+    // Given: lines that are upright or level. Then: a place of a winner is touched by one that touches each entrant.
+    const auto touches = [](const ui::Stroke& line, const ui::Rectangle& place) {
+        return std::min(line.x1, line.x2) <= place.right() + 0.01 && std::max(line.x1, line.x2) >= place.x - 0.01 &&
+               std::min(line.y1, line.y2) <= place.bottom() + 0.01 && std::max(line.y1, line.y2) >= place.y - 0.01;
+    };
+    const auto touching = [&](Position position) {
+        return std::ranges::count_if(board.connectors,
+                                     [&](const ui::Stroke& line) { return touches(line, board.positions[position]); });
+    };
+    for (const Position position : allPositions())
+        EXPECT_GE(touching(position), 1) << index(position);
 }
 
 TEST_P(OutlookGeometryAt, LettersAreNotSmallerThanNinePixels) { EXPECT_GE(board.textSize, 9); }
