@@ -110,6 +110,18 @@ std::vector<PlayerStanding> standingsBy(std::span<const Entry> entries, const Br
     return standings;
 }
 
+std::string nameInRow(const Entry& entry)
+{
+    return entry.initials.empty() && entry.name.empty() ? entry.fileName : entry.initials + ", " + entry.name;
+}
+
+std::string nameInSentence(const Entry& entry)
+{
+    if (!entry.name.empty())
+        return entry.name;
+    return entry.initials.empty() ? entry.fileName : entry.initials;
+}
+
 std::vector<OutlookRow> outlookRows(std::span<const Entry> entries, std::span<const PlayerStanding> standings,
                                     const OutlookFigures& figures, const SharesAsEntered& entered)
 {
@@ -117,7 +129,7 @@ std::vector<OutlookRow> outlookRows(std::span<const Entry> entries, std::span<co
     for (std::size_t player = 0; player < entries.size(); ++player) {
         OutlookRow row;
         row.player = player;
-        row.name = entries[player].initials + ", " + entries[player].name;
+        row.name = nameInRow(entries[player]);
         row.standing = standings[player];
         row.best = figures.prospects[player].best;
         row.worst = figures.prospects[player].worst;

@@ -31,7 +31,7 @@ inline constexpr std::size_t kOutlookColumns = 10;
 /// has found: who is Out has no chance, and who has Clinched is always first.
 struct OutlookRow {
     std::size_t player = 0; ///< in the order of the entries
-    std::string name{};     ///< initials, ", ", name
+    std::string name{};     ///< see nameInRow()
     PlayerStanding standing{};
     std::optional<double> first{}; ///< the chance to be first, alone or together with others
     std::optional<double> share{}; ///< of first place: where k players share it, each has 1/k
@@ -48,6 +48,12 @@ struct SharesAsEntered {
     std::vector<double> shares; ///< 0..1, one for each entry; empty = there is nothing to compare
     std::vector<double> errors; ///< the standard error of each; 0 = counted
 };
+
+/// @returns what a player is called in a table: initials, ", ", name; a selection without either has that of its file
+std::string nameInRow(const Entry& entry);
+
+/// @returns what a player is called in a sentence: by name, else by what the table has
+std::string nameInSentence(const Entry& entry);
 
 /// @param standings one for each entry
 /// @returns one for each entry, in their order

@@ -72,7 +72,8 @@ std::string chancesInWords(ChanceKind chances)
 std::vector<std::string> basisInWords(const OutlookBasis& basis)
 {
     if (basis.openGames == 0)
-        return {"No game is open: these are the final places"};
+        return {basis.isSupposed ? "No game is open: these are the places if it ends so"
+                                 : "No game is open: these are the final places"};
     const std::string games = counted(basis.openGames, "open game");
     std::vector<std::string> words{"Chances: " + chancesInWords(basis.chances)};
     switch (basis.source) {

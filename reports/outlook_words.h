@@ -21,7 +21,8 @@ struct OutlookBasis {
     ChanceSource source = ChanceSource::Counted;
     std::uint64_t samples = 0; ///< of a forecast
     std::uint64_t seed = kForecastSeed;
-    double error = 0; ///< of a forecast: the largest standard error of a player's share, in percentage points
+    double error = 0;        ///< of a forecast: the largest standard error of a player's share, in percentage points
+    bool isSupposed = false; ///< by results other than those entered
 };
 
 OutlookBasis basisOf(ChanceKind chances, std::size_t openGames, const OutlookFigures& figures);

@@ -13,7 +13,7 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr int kMargin = 12;       ///< around the page
-constexpr int kWhatIfWidth = 230; ///< room for either of its texts
+constexpr int kWhatIfWidth = 215; ///< room for any of its texts; all before the words fits into 900
 constexpr int kLook = 30;         ///< milliseconds until the next look at what is known
 constexpr qint64 kRefresh = 100;  ///< the fewest milliseconds between two times that it is shown
 
@@ -78,7 +78,7 @@ QLayout* OutlookView::makeBar()
     bar->addWidget(whatIf);
     for (ui::Command* command : {&m_outlook.cmdAsEntered, &m_outlook.cmdHigherSeeds, &m_outlook.cmdUndo})
         bar->addWidget(add(*command));
-    bar->addSpacing(look::kSection);
+    bar->addSpacing(look::kGap);
     bar->addWidget(add(m_outlook.lblChances));
     for (QRadioButton* option : addOptions(m_outlook.optChances))
         bar->addWidget(option);

@@ -15,6 +15,24 @@ constexpr ui::Colour kHelps{11, 107, 43};
 constexpr ui::Colour kHarms{160, 21, 21};
 constexpr ui::Colour kNoMatter{96, 102, 114};
 
+/// @returns what a click on a place does, see WhatIf::press()
+const char* whatAPressDoes(Position position, const Bracket& entered, const Bracket& supposed)
+{
+    if (supposed.isEmpty(position))
+        return "An open game. Click one of its teams to suppose that it wins.";
+    const std::optional<Position> game = next(position);
+    if (!game)
+        return "The champion. Click the other team of the final to suppose that it wins; a right click takes this "
+               "back.";
+    if (supposed.isEmpty(*game))
+        return "Click to suppose that this team wins, once more to take it back; nothing is saved.";
+    if (supposed.at(*game) != supposed.at(position))
+        return "This team has lost. Click to suppose that it wins instead; nothing is saved.";
+    return supposed.at(*game) == entered.at(*game)
+               ? "This team has won. Click to suppose that the game is still open; nothing is saved."
+               : "Supposed to win its game. Click to take it back.";
+}
+
 } // namespace
 
 OutlookBoard::OutlookBoard(ui::Screen* owner) : m_owner{owner}
@@ -38,9 +56,7 @@ void OutlookBoard::showSupposed(const Field& field, const Bracket& entered, cons
             label.spokenName += ", supposed";
         label.colour = differs ? std::optional{kSupposedText} : std::nullopt;
         label.background = differs ? std::optional{kSupposedBackground} : std::nullopt;
-        label.explanation = supposed.isEmpty(position)
-                                ? "An open game. Click one of its teams to suppose that it wins."
-                                : "Click to suppose that this team wins, once more to take it back; nothing is saved.";
+        label.explanation = whatAPressDoes(position, entered, supposed);
     }
 }
 

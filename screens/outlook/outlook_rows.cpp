@@ -83,12 +83,20 @@ std::string cellOf(const OutlookRow& row, OutlookColumn column)
     return row.change ? changeInWords(*row.change) : std::string{};
 }
 
-std::vector<ui::GridColumn> outlookColumns()
+std::vector<ui::GridColumn> outlookColumns(std::size_t players)
 {
     std::vector<ui::GridColumn> columns;
     for (const ColumnWords& words : kColumns)
         columns.push_back({words.heading, words.alignment, words.width});
     columns.at(static_cast<std::size_t>(OutlookColumn::Player)).grows = true;
+    const int digits = static_cast<int>(std::to_string(players).size());
+    const auto widen = [&columns](OutlookColumn column, int characters) {
+        int& width = columns.at(static_cast<std::size_t>(column)).width;
+        width = std::max(width, characters);
+    };
+    widen(OutlookColumn::Now, digits);
+    for (const OutlookColumn place : {OutlookColumn::Best, OutlookColumn::Worst})
+        widen(place, 2 * digits + 1); // "980-1000"
     return columns;
 }
 

@@ -20,7 +20,7 @@ bool isAscending(OutlookOrder order);
 std::string sortedInWords(OutlookOrder order);
 
 /// The headings, with alignments and widths.
-std::vector<ui::GridColumn> outlookColumns();
+std::vector<ui::GridColumn> outlookColumns(std::size_t players);
 
 /// @returns what a column means, in a sentence
 std::string explanationOf(OutlookColumn column);

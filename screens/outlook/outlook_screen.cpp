@@ -23,7 +23,7 @@ constexpr const char* kUnsaved = "The outlook uses the saved results; those on t
 const char* resultsInWords(const OpenedPool& opened)
 {
     if (opened.areResultsDamaged)
-        return "The results as far as they can be read";
+        return "The results that can be read";
     return opened.unsavedResults ? "The results as saved" : "The results as entered";
 }
 
@@ -77,7 +77,7 @@ OutlookScreen::OutlookScreen(const DataFolder& folder, OpenedPool opened, const 
 
 void OutlookScreen::describeChances()
 {
-    constexpr std::array kCaptions{"All A&like", "By &Seed", "As This &Pool Picked"};
+    constexpr std::array kCaptions{"All A&like", "By &Seed", "As &Picked"};
     for (std::size_t kind = 0; kind < optChances.size(); ++kind) {
         optChances[kind].caption = kCaptions.at(kind);
         optChances[kind].explanation = explanationOf(ChanceKind(kind));
@@ -128,7 +128,7 @@ void OutlookScreen::showWay()
 {
     const std::optional<OutcomeNumber> witness = m_figures.prospects.at(*m_chosen).witness;
     supposed(m_whatIf.suppose(m_games.outcome(*witness)));
-    say("This is one way in which " + m_pool.entries.at(*m_chosen).name + " is first.");
+    say("This is one way in which " + nameInSentence(m_pool.entries.at(*m_chosen)) + " is first.");
 }
 
 bool OutlookScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
@@ -210,9 +210,9 @@ std::vector<double> OutlookScreen::swings() const
 
 void OutlookScreen::showPlayer()
 {
-    lblPlayer.text =
-        m_chosen ? m_pool.entries.at(*m_chosen).name + ": " + verdictInWords(m_figures.prospects.at(*m_chosen).prospect)
-                 : "Nobody is chosen";
+    lblPlayer.text = m_chosen ? nameInSentence(m_pool.entries.at(*m_chosen)) + ": " +
+                                    verdictInWords(m_figures.prospects.at(*m_chosen).prospect)
+                              : "Nobody is chosen";
     lblProof.text = m_chosen ? proofFor(*m_chosen) : "";
     cmdShowWay.enabled = m_chosen && m_figures.prospects.at(*m_chosen).witness;
 }
@@ -221,23 +221,25 @@ std::string OutlookScreen::proofFor(std::size_t player) const
 {
     const PlayerProspect& prospect = m_figures.prospects.at(player);
     const std::size_t openGames = m_games.size();
+    if (openGames == 0)
+        return decidedWords(m_whatIf.isChanged());
     if (!m_figures.firstOutcomes.empty())
         return countedWords(m_figures.firstOutcomes.at(player), m_games.outcomes()) +
-               (prospect.rival ? " " + m_pool.entries.at(*prospect.rival).name + " is ahead in every one." : "");
+               (prospect.rival ? " " + nameInSentence(m_pool.entries.at(*prospect.rival)) + " is ahead in every one."
+                               : "");
     if (prospect.rival)
-        return m_pool.entries.at(*prospect.rival).name + " is ahead, however the games end.";
+        return nameInSentence(m_pool.entries.at(*prospect.rival)) + " is ahead, however the games end.";
     return provenWords(prospect.prospect, openGames);
 }
 
 std::string OutlookScreen::howFar() const
 {
     if (!m_worker)
-        return "The payoffs are no numbers, so there is no outlook.";
+        return m_pool.field.payoffs.points().failure().message;
     if (m_figures.source == ChanceSource::None && !m_stopped && isWorking())
         return workingWords(m_worker->fraction());
     const std::string toCome = stillToCome();
-    return stoppedInWords() + basisInShort(basisOf(m_kind, m_games.size(), m_figures)) +
-           (toCome.empty() ? "" : " " + toCome);
+    return stoppedInWords() + basisInShort(basis()) + (toCome.empty() ? "" : " " + toCome);
 }
 
 std::string OutlookScreen::stillToCome() const

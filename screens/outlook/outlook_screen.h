@@ -2,6 +2,7 @@
 #pragma once
 
 #include "pool/entry.h"
+#include "reports/outlook_words.h"
 #include "screens/outlook/outlook_board.h"
 #include "screens/outlook/outlook_output.h"
 #include "screens/outlook/outlook_rows.h"
@@ -94,6 +95,7 @@ private:
 
     void bringOut(std::string (OutlookOutput::*way)(const OutlookSheet&) const);
     OutlookSheet sheet() const;
+    OutlookBasis basis() const;
     std::vector<SheetGame> gamesOfSheet() const;
 
     void takeFigures();
@@ -106,6 +108,7 @@ private:
     void showMarkedGame(const std::vector<GameWeight>& weights);
     void showPlayer();
     void showRoad();
+    std::string noteWithoutGames() const;
     std::string howFar() const;
     std::string stillToCome() const;
     std::string stoppedInWords() const;

@@ -17,20 +17,27 @@ void OutlookScreen::bringOut(std::string (OutlookOutput::*way)(const OutlookShee
 OutlookSheet OutlookScreen::sheet() const
 {
     OutlookSheet sheet;
-    sheet.heading = {m_pool.field.title, whatIfInWords(m_whatIf.entered(), m_whatIf.supposed()),
-                     basisInWords(basisOf(m_kind, m_games.size(), m_figures))};
+    sheet.heading = {m_pool.field.title, whatIfInWords(m_whatIf.entered(), m_whatIf.supposed()), basisInWords(basis())};
     const std::vector<std::string> unread = unreadInWords(m_opened);
     sheet.heading.basis.insert(sheet.heading.basis.end(), unread.begin(), unread.end());
     sheet.rows = m_rows;
     sheet.road = roadPicture();
+    sheet.road.isWorking = false; // it does not go on where it is brought out to
     sheet.games = gamesOfSheet();
     sheet.isForecast = m_figures.source == ChanceSource::Forecast;
     if (m_chosen) {
         sheet.chosen = m_chosen;
-        sheet.chosenName = m_pool.entries.at(*m_chosen).name;
+        sheet.chosenName = nameInSentence(m_pool.entries.at(*m_chosen));
         sheet.proof = verdictInWords(m_figures.prospects.at(*m_chosen).prospect) + ". " + proofFor(*m_chosen);
     }
     return sheet;
+}
+
+OutlookBasis OutlookScreen::basis() const
+{
+    OutlookBasis basis = basisOf(m_kind, m_games.size(), m_figures);
+    basis.isSupposed = m_whatIf.isChanged();
+    return basis;
 }
 
 std::vector<SheetGame> OutlookScreen::gamesOfSheet() const

@@ -42,28 +42,12 @@ std::string explanationOfGames(const std::optional<GameWeight>& current)
     return swings + kGoToGame;
 }
 
-/// @returns why no game is listed
-std::string noteWithoutGames(bool noneIsOpen, ChanceSource source)
-{
-    if (noneIsOpen)
-        return "No game is open.";
-    switch (source) {
-    case ChanceSource::Forecast:
-        return "No difference is larger than the error of the forecast.";
-    case ChanceSource::Counted:
-        return "No open game makes a difference.";
-    case ChanceSource::None:
-        break;
-    }
-    return "Nothing is counted yet.";
-}
-
 } // namespace
 
 void OutlookScreen::describeGrids()
 {
     grdPlayers.spokenName = "Players";
-    grdPlayers.columns = outlookColumns();
+    grdPlayers.columns = outlookColumns(m_pool.entries.size());
     grdPlayers.wholeRows = true;
     grdPlayers.emptyNote = "There are no selections.";
     grdPlayers.rowReached = [this](std::size_t row) { choose(row); };
@@ -99,10 +83,11 @@ void OutlookScreen::orderTabs()
     focused = &grdPlayers;
 }
 
-/// Nothing on the screen waits for a choice: until the person does something, the first row is the chosen one.
+/// Nothing on the screen waits for a choice: until the person does something, the first row is the chosen one. Before
+/// there are shares to sort by, who is first in the table leads in nothing.
 void OutlookScreen::chooseLeader()
 {
-    if (m_followsLeader && !m_rows.empty())
+    if (m_followsLeader && !m_rows.empty() && m_figures.source != ChanceSource::None)
         m_chosen = m_rows.front().player;
 }
 
@@ -130,10 +115,24 @@ void OutlookScreen::showRows()
     ++grdPlayers.revision;
 }
 
+/// @returns why no game is listed
+std::string OutlookScreen::noteWithoutGames() const
+{
+    if (!m_worker)
+        return "There is no outlook without payoffs.";
+    if (m_games.size() == 0)
+        return "No game is open.";
+    if (m_figures.source == ChanceSource::Forecast)
+        return "No difference is larger than the error of the forecast.";
+    if (m_figures.source == ChanceSource::Counted)
+        return "No open game makes a difference.";
+    return isWorking() && !m_stopped ? "Nothing is counted yet." : "Stopped before anything was counted.";
+}
+
 void OutlookScreen::showGames(const std::vector<OpenGame>& games)
 {
     const std::vector<GameWeight> weights = weightsOf(m_figures, games);
-    grdGames.emptyNote = noteWithoutGames(games.empty(), m_figures.source);
+    grdGames.emptyNote = noteWithoutGames();
     const std::vector<double> ofChosen = swings();
     std::vector<std::vector<std::string>> rows;
     m_listed.clear();
@@ -167,7 +166,7 @@ void OutlookScreen::showMarkedGame(const std::vector<GameWeight>& weights)
 
 void OutlookScreen::showRoad()
 {
-    lblRoad.text = m_chosen ? "The road of " + m_pool.entries.at(*m_chosen).name : "The road";
+    lblRoad.text = m_chosen ? "The road of " + nameInSentence(m_pool.entries.at(*m_chosen)) : "The road";
     RoadPicture road = roadPicture();
     if (road == m_road)
         return;

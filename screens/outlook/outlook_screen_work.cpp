@@ -87,6 +87,7 @@ RoadPicture OutlookScreen::roadPicture() const
         picture.names[row.player] = row.name;
     picture.chosen = m_chosen;
     picture.chances = chancesInWords(m_kind);
+    picture.isWorking = isWorking() && !m_stopped;
     return picture;
 }
 

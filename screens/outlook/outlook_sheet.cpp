@@ -71,7 +71,7 @@ SheetTable tableOfPlayers(const OutlookSheet& sheet)
     const std::size_t columns =
         sheet.heading.whatIf.empty() ? kOutlookColumns - 1 : kOutlookColumns; // the last: Change
     SheetTable table;
-    const std::vector<ui::GridColumn> shown = outlookColumns();
+    const std::vector<ui::GridColumn> shown = outlookColumns(sheet.rows.size());
     for (std::size_t i = 0; i < columns; ++i)
         table.columns.push_back({shown[i].heading, shown[i].alignment, kWidths.at(i)});
     fillWidth(table.columns, static_cast<std::size_t>(OutlookColumn::Player));

@@ -78,6 +78,11 @@ std::string countedWords(std::uint64_t first, std::uint64_t outcomes)
     return fmt::format("First in {} of {} outcomes, alone or together with others.", first, outcomes);
 }
 
+std::string decidedWords(bool isSupposed)
+{
+    return isSupposed ? "Every game has a winner, entered or supposed." : "All games are played.";
+}
+
 std::string provenWords(Prospect prospect, std::size_t openGames)
 {
     switch (prospect) {

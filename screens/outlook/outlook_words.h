@@ -35,6 +35,9 @@ std::string troubleInWords(const std::exception_ptr& trouble);
 /// @returns "First in 44 of 128 outcomes."
 std::string countedWords(std::uint64_t first, std::uint64_t outcomes);
 
+/// @returns why there is nothing to count, as every game has a winner
+std::string decidedWords(bool isSupposed);
+
 /// @returns what is proven without counting
 std::string provenWords(Prospect prospect, std::size_t openGames);
 

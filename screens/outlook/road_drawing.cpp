@@ -8,6 +8,7 @@
 #include <cmath>
 #include <fmt/format.h>
 #include <numeric>
+#include <string_view>
 #include <utility>
 
 namespace tallyhoop {
@@ -21,9 +22,20 @@ constexpr double kLabel = 14;   ///< height of a line of them
 constexpr double kPercent = 42; ///< width of the scale
 constexpr double kWidestNames = 120;
 constexpr double kFarthest = 1.5 * kLabel; ///< of a name from the end of its line
+constexpr std::size_t kLongestName = 24;   ///< longer ones would have letters too narrow to be read
 constexpr double kBold = 2.5;
 constexpr double kDot = 4;
 constexpr double kBandErrors = 2;
+
+/// @returns a name without its middle if it is too long: names that begin alike often end differently
+std::string shortened(const std::string& name)
+{
+    constexpr std::string_view kGap = "...";
+    if (name.size() <= kLongestName)
+        return name;
+    const std::size_t kept = kLongestName - kGap.size();
+    return name.substr(0, kept - kept / 2).append(kGap).append(name.substr(name.size() - kept / 2));
+}
 
 class RoadPainter
 {
@@ -112,11 +124,17 @@ private:
             const double width = std::min(step - 2, 80.0);
             const double left = std::max(xOfTime(time) - width / 2, 0.0);
             write({left, top, width, kLabel}, m_picture.times[time], ui::Alignment::Centre);
-            const std::size_t missing = times - m_picture.points.size();
-            if (time >= missing)
-                write({left, top + kLabel, width, kLabel},
-                      m_picture.points[time - missing].samples == 0 ? "counted" : "forecast", ui::Alignment::Centre);
+            write({left, top + kLabel, width, kLabel}, sourceOf(time), ui::Alignment::Centre);
         }
+    }
+
+    /// @returns where what is shown of a time comes from
+    const char* sourceOf(std::size_t time) const
+    {
+        const std::size_t missing = m_picture.times.size() - m_picture.points.size();
+        if (time < missing)
+            return m_picture.isWorking ? "working" : "not worked out";
+        return m_picture.points[time - missing].samples == 0 ? "counted" : "forecast";
     }
 
     void paintLine(std::size_t player, ui::Colour colour, double thickness)
@@ -203,8 +221,8 @@ private:
         const std::vector<double> middles = middlesOf(named);
         for (std::size_t i = 0; i < named.size(); ++i) {
             const bool chosen = named[i] == m_picture.chosen;
-            write({m_plot.right() + 6, middles[i] - kLabel / 2, m_namesWidth, kLabel}, m_picture.names[named[i]],
-                  ui::Alignment::Left);
+            write({m_plot.right() + 6, middles[i] - kLabel / 2, m_namesWidth, kLabel},
+                  shortened(m_picture.names[named[i]]), ui::Alignment::Left);
             m_drawing.captions.back().bold = chosen;
             m_drawing.captions.back().colour = chosen ? m_colours.chosen : m_colours.text;
         }

@@ -22,6 +22,7 @@ struct RoadPicture {
     std::vector<std::string> names; ///< of the players
     std::optional<std::size_t> chosen; ///< the player in bold; nothing = none
     std::string chances;               ///< in words, such as "all outcomes alike"
+    bool isWorking = false;            ///< the points that are missing will come
 
     friend bool operator==(const RoadPicture&, const RoadPicture&) = default;
 };
@@ -37,9 +38,9 @@ struct RoadColours {
 
 /// Draws each player's share of first place at each time as a line, in percent. The scale ends at 4, 8, 20, 40, 60 or
 /// 100 percent, the smallest that has room for all. At a time that is a forecast the chosen player has a band of two
-/// standard errors to either side, and the time says that it is one. At the right end are the names of the chosen
-/// player and of as many others as there is room for, the largest shares now first, in the height of their lines or as
-/// near as they can be.
+/// standard errors to either side, and the time says that it is one; a time without a point says why. At the right end
+/// are the names of the chosen player and of as many others as there is room for, the largest shares now first, in the
+/// height of their lines or as near as they can be.
 /// @param width, height in units; at least 200 by 120
 ui::Drawing drawRoad(const RoadPicture& picture, double width, double height, const RoadColours& colours = {});
 

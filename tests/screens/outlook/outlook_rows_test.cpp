@@ -62,12 +62,25 @@ TEST(OutlookCells, AgreeWithTheVerdict)
 
 TEST(OutlookColumns, HaveAHeadingAndAnExplanation)
 {
-    const std::vector<ui::GridColumn> columns = outlookColumns();
+    const std::vector<ui::GridColumn> columns = outlookColumns(12);
     ASSERT_THAT(columns, SizeIs(kOutlookColumns));
     for (std::size_t i = 0; i < columns.size(); ++i)
         EXPECT_TRUE(explanationOf(OutlookColumn(i)).starts_with(columns[i].heading + ":")) << columns[i].heading;
     for (const Prospect prospect : {Prospect::Clinched, Prospect::Alive, Prospect::Out, Prospect::Open})
         EXPECT_TRUE(explanationOf(prospect).starts_with(verdictInWords(prospect) + ":"));
+}
+
+TEST(OutlookColumns, HaveRoomForThePlacesOfAllPlayers)
+{
+    const auto widthOf = [](std::size_t players, OutlookColumn column) {
+        return outlookColumns(players)[static_cast<std::size_t>(column)].width;
+    };
+    EXPECT_EQ(widthOf(99, OutlookColumn::Worst), 5) << "12-99";
+    EXPECT_EQ(widthOf(999, OutlookColumn::Worst), 7) << "980-999";
+    EXPECT_EQ(widthOf(1005, OutlookColumn::Worst), 9) << "1001-1005";
+    EXPECT_EQ(widthOf(1005, OutlookColumn::Best), 9);
+    EXPECT_EQ(widthOf(1005, OutlookColumn::Now), 4);
+    EXPECT_EQ(widthOf(9, OutlookColumn::Worst), 5) << "its heading";
 }
 
 } // namespace

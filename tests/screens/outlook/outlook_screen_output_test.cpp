@@ -109,7 +109,7 @@ TEST_F(OutlookWaysOut, SaysInWhatItBringsOutThatItIsSupposed)
     EXPECT_THAT(scratch.get("OUTLOOK.TXT"),
                 HasSubstr("What if: 1 supposed winner; these are not the results as entered\r\n"
                           "Supposed: Team 35 (round 6)\r\n"
-                          "No game is open: these are the final places\r\n"));
+                          "No game is open: these are the places if it ends so\r\n"));
     EXPECT_THAT(scratch.get("OUTLOOK.TXT"), HasSubstr("-50.0"));
     screen.cmdCopy.click();
     EXPECT_THAT(platform.clipboard.text, HasSubstr("What if: 1 supposed winner"));
@@ -128,6 +128,8 @@ TEST_F(OutlookWaysOut, PrintsTheChosenPlayersRoadAndGames)
     EXPECT_THAT(captions, Contains("The results file is damaged: some winners may be missing"));
     EXPECT_THAT(captions, Contains("The road of Ann, by the results as entered"));
     EXPECT_THAT(captions, Contains("Ann: Alive. First in 1 of 2 outcomes, alone or together with others."));
+    EXPECT_THAT(captions, Contains("not worked out")) << "the road before this round";
+    EXPECT_THAT(captions, Not(Contains("working")));
     EXPECT_THAT(captions, IsSupersetOf({"Team 1 - Team 35", "Team 1", "+100.0", "200.0"}));
     platform.dialogs.pick(scratch.path() / "A.PDF");
     screen.cmdSavePdf.click();

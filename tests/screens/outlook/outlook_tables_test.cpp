@@ -26,6 +26,12 @@ struct OutlookTablesTest : testing::Test {
     {
         for (const Position position : finalGames())
             opened.pool.results->picks.clear(position);
+        open();
+    }
+
+    /// Once more with another pool.
+    void open()
+    {
         auto fake = std::make_unique<FakeBackground>();
         background = fake.get();
         screen = std::make_unique<OutlookScreen>(folder, opened, platform.services, screens, std::move(fake));
@@ -176,27 +182,40 @@ TEST_F(OutlookTablesTest, GamesThatCanBePlayedNextComeFirst)
     EXPECT_THAT(screen->grdGames.rows[2], ElementsAre(testing::_, testing::_, "100.0", "later"));
 }
 
-TEST_F(OutlookTablesTest, AnEmptyListOfGamesSaysWhy)
+TEST_F(OutlookTablesTest, AnEmptyListOfGamesSaysThatNoneIsOpen)
 {
     screen->cmdHigherSeeds.click();
     workItOut();
     EXPECT_THAT(screen->grdGames.rows, IsEmpty());
     EXPECT_EQ(screen->grdGames.emptyNote, "No game is open.");
-    for (const Position position : gamePositions())
-        opened.pool.results->picks.clear(position);
-    auto idle = std::make_unique<FakeBackground>();
-    screen = std::make_unique<OutlookScreen>(folder, opened, platform.services, screens, std::move(idle));
-    screen->load();
-    screen->showState();
+}
+
+TEST_F(OutlookTablesTest, AnEmptyListOfGamesSaysThatNothingIsCountedYetOrAnyMore)
+{
+    opened.pool.results->picks = startingField();
+    open();
     EXPECT_EQ(screen->grdGames.emptyNote, "Nothing is counted yet.");
-    // Where all have picked alike no game makes a difference.
-    for (Entry& entry : opened.pool.entries)
-        entry.picks = beforeTheFinal();
-    opened.pool.results->picks = beforeTheFinal();
-    screen =
-        std::make_unique<OutlookScreen>(folder, opened, platform.services, screens, std::make_unique<FakeBackground>());
-    screen->load();
+    screen->cmdStop.click();
+    background->doSlice();
     screen->showState();
+    EXPECT_THAT(screen->grdGames.rows, IsEmpty());
+    EXPECT_EQ(screen->grdGames.emptyNote, "Stopped before anything was counted.");
+}
+
+TEST_F(OutlookTablesTest, AnEmptyListOfGamesSaysThatThereAreNoPayoffs)
+{
+    opened.pool.field.payoffs = PayoffTexts{{"99999", "", "", "", "", ""}};
+    open();
+    EXPECT_EQ(screen->grdGames.emptyNote, "There is no outlook without payoffs.");
+}
+
+TEST_F(OutlookTablesTest, AnEmptyListOfGamesSaysThatNoneMatters)
+{
+    for (Entry& entry : opened.pool.entries)
+        entry.picks = beforeTheFinal(); // all alike, whatever comes
+    opened.pool.results->picks = beforeTheFinal();
+    open();
+    EXPECT_THAT(screen->grdGames.rows, IsEmpty());
     EXPECT_EQ(screen->grdGames.emptyNote, "No open game makes a difference.");
 }
 
@@ -230,6 +249,59 @@ TEST_F(OutlookTablesTest, ADifferenceWithinTheErrorOfAForecastDoesNotMatter)
     const ui::Label& champions = screen->lblSwing[kSemifinalA];
     EXPECT_EQ(champions.text, "0.0");
     EXPECT_EQ(champions.spokenName, "does not matter");
+}
+
+TEST_F(OutlookTablesTest, NobodyIsChosenBeforeThereAreShares)
+{
+    opened.pool.results->picks = startingField();
+    open();
+    background->doSlice(); // what is certain: nothing yet to sort by
+    screen->showState();
+    EXPECT_EQ(screen->grdPlayers.rows.size(), 3u);
+    EXPECT_FALSE(screen->grdPlayers.current);
+    EXPECT_EQ(screen->lblPlayer.text, "Nobody is chosen");
+    reach(screen->grdPlayers, 2);
+    workItOut();
+    EXPECT_EQ(nameInCurrentRow(), "X, Cleo");
+}
+
+TEST_F(OutlookTablesTest, WhoHasNoNameHasThatOfTheFile)
+{
+    for (Entry& entry : opened.pool.entries)
+        entry.name = entry.initials = "";
+    open();
+    EXPECT_EQ(nameInRow(0), "Ann_X.THC");
+    EXPECT_EQ(screen->lblPlayer.text, "Ann_X.THC: Alive");
+    EXPECT_EQ(screen->lblRoad.text, "The road of Ann_X.THC");
+    screen->cmdShowWay.click();
+    EXPECT_EQ(screen->news().text, "This is one way in which Ann_X.THC is first.");
+    screen->cmdSaveReport.click();
+    EXPECT_THAT(scratch.get("OUTLOOK.TXT"), HasSubstr("Bob_X.THC"));
+    screen->cmdCopy.click();
+    EXPECT_THAT(platform.clipboard.text, HasSubstr("\tCleo_X.THC\t"));
+    screen->cmdPreview.click();
+    const std::vector<ui::Drawing>& pages = platform.printer.previewedDrawings.at(0).drawings;
+    EXPECT_EQ(std::ranges::count(pages.at(0).captions, "Bob_X.THC", &ui::Caption::text), 1);
+}
+
+TEST_F(OutlookTablesTest, EachPlaceSaysWhatAClickDoesThere)
+{
+    const auto says = [this](Position position) { return screen->lblRegion[position].explanation; };
+    EXPECT_THAT(says(kSemifinalA), HasSubstr("An open game."));
+    EXPECT_THAT(says(regionWinner(0)), HasSubstr("once more to take it back"));
+    const Position team = positionOf(TeamRow{0});
+    EXPECT_THAT(says(team), HasSubstr("This team has won. Click to suppose that the game is still open"));
+    EXPECT_THAT(says(positionOf(TeamRow{1})), HasSubstr("This team has lost. Click to suppose that it wins instead"));
+    suppose(regionWinner(0));
+    EXPECT_EQ(says(regionWinner(0)), "Supposed to win its game. Click to take it back.");
+    suppose(regionWinner(2));
+    suppose(kSemifinalB);
+    EXPECT_THAT(says(kChampion), HasSubstr("The champion."));
+    // And so it is.
+    suppose(team);
+    EXPECT_EQ(screen->lblRegion[*next(team)].text, "");
+    suppose(positionOf(TeamRow{1}));
+    EXPECT_EQ(screen->lblRegion[*next(team)].text, "Team 2");
 }
 
 TEST_F(OutlookTablesTest, AGameOfTheListIsMarkedOnTheBoard)

@@ -177,6 +177,16 @@ TEST_F(RoadDrawing, NamesNobodyFarFromTheEndOfHisLine)
     EXPECT_GE(lower - upper, 14);
 }
 
+TEST_F(RoadDrawing, LeavesOutTheMiddleOfALongName)
+{
+    picture.names = {"Twenty-four letters long", "Twenty-five letters, long", "D, Clark"};
+    picture.points = {sharesAt({0.5, 0.2, 0})};
+    const ui::Drawing drawing = draw();
+    EXPECT_EQ(captions(drawing, "Twenty-four letters long").size(), 1u);
+    // 21 letters stay: the first 11 and the last 10.
+    EXPECT_EQ(captions(drawing, "Twenty-five...ters, long").size(), 1u);
+}
+
 TEST_F(RoadDrawing, ShowsWhatIsFoundWhileEarlierTimesAreMissing)
 {
     picture.points.erase(picture.points.begin(), picture.points.begin() + 2);
@@ -187,6 +197,11 @@ TEST_F(RoadDrawing, ShowsWhatIsFoundWhileEarlierTimesAreMissing)
     ASSERT_EQ(captions(drawing, "counted").size(), 1u);
     EXPECT_DOUBLE_EQ(captions(drawing, "counted")[0].place.centreX(), kRight);
     EXPECT_DOUBLE_EQ(captions(drawing, "Start").at(0).place.centreX(), kLeft);
+    EXPECT_EQ(captions(drawing, "not worked out").size(), 2u);
+    EXPECT_DOUBLE_EQ(captions(drawing, "not worked out")[0].place.centreX(), kLeft);
+    picture.isWorking = true;
+    EXPECT_EQ(captions(draw(), "working").size(), 2u);
+    EXPECT_EQ(captions(draw(), "not worked out").size(), 0u);
     picture.points.clear();
     const ui::Drawing empty = draw();
     EXPECT_EQ(empty.strokes.size(), 5u) << "only the grid";
