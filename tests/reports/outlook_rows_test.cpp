@@ -163,6 +163,17 @@ TEST(OutlookRows, OfWhoIsAliveComeBeforeThoseWhoAreOut)
     EXPECT_THAT(namesBy({out, alive}, {OutlookColumn::First}), ElementsAre("B, Alive", "A, Out"));
 }
 
+TEST(OutlookNames, AreThoseOfTheFileWhereThereIsNothingElse)
+{
+    const Entry whole{{}, "JB", "Joe", "", "Joe_JB.THC"};
+    EXPECT_EQ(nameInRow(whole), "JB, Joe");
+    EXPECT_EQ(nameInSentence(whole), "Joe");
+    EXPECT_EQ(nameInSentence({{}, "JB", "", "", "_JB.THC"}), "JB");
+    const Entry nameless{{}, "", "", "", "_.THC"};
+    EXPECT_EQ(nameInRow(nameless), "_.THC");
+    EXPECT_EQ(nameInSentence(nameless), "_.THC");
+}
+
 TEST(OutlookRows, HaveNoChancesBeforeAnythingIsCounted)
 {
     const std::vector<Entry> players = fourPlayers();

@@ -25,6 +25,7 @@ TEST(OutlookBasisInWords, AreThoseOfTheChancesAndOfTheCount)
     EXPECT_EQ(basisInWords({ChanceKind::AsPicked, 31}).front(),
               "Chances: as this pool picked, the team with more picks wins more often");
     EXPECT_THAT(basisInWords({ChanceKind::Alike, 0}), ElementsAre("No game is open: these are the final places"));
+    EXPECT_THAT(basisInWords({.isSupposed = true}), ElementsAre("No game is open: these are the places if it ends so"));
     EXPECT_THAT(basisInWords({ChanceKind::Alike, 20, ChanceSource::None}),
                 ElementsAre("Chances: all outcomes alike",
                             "Nothing is counted yet of 20 open games: only what is proven is known"));
