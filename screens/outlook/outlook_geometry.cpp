@@ -20,8 +20,9 @@ constexpr BoardShares kShares{.top = 0.02,
 constexpr double kSmallestText = 9; ///< where the units are pixels, less cannot be read
 
 // In heights of a letter.
-constexpr double kSwing = 3.9;      ///< room for "+100.0"
-constexpr double kShortSwing = 3.1; ///< room for "+12.3": before the second round nobody has more at stake
+constexpr double kSwing = 3.9;       ///< room for "+100.0"
+constexpr double kShortSwing = 3.1;  ///< room for "+12.3": before the second round nobody has more at stake
+constexpr double kFirstColumn = 2.2; ///< it is wider than the others: its swings take room from the names
 constexpr double kTitle = 1.8;
 
 constexpr double kFrame = 3;            ///< room at the edges for a frame
@@ -42,7 +43,8 @@ bool isSwingOnTheRight(Position position) { return isInRightHalf(position) == (r
 /// begins where the one two before it ends, and all are as wide as if there were only three.
 struct Columns {
     double gap = 0;
-    double width = 0;             ///< of each place
+    double width = 0;             ///< of each place after the first round
+    double firstWidth = 0;        ///< of each place before it
     std::array<double, 5> left{}; ///< of the teams and the winners of rounds 1 to 4
 };
 
@@ -52,8 +54,9 @@ Columns columnsOf(const BoardGeometry& board, double width)
     columns.gap = width * kGap;
     const double first = board.positions[allPositions().front()].x;
     const double end = width / 2 - columns.gap;
-    columns.width = (end - first - 1.5 * columns.gap - kSwing * board.textSize) / 3;
-    const double second = first + columns.width + columns.gap;
+    columns.width = (end - first - 1.5 * columns.gap - (kFirstColumn + kSwing) * board.textSize) / 3;
+    columns.firstWidth = columns.width + kFirstColumn * board.textSize;
+    const double second = first + columns.firstWidth + columns.gap;
     const double last = end - columns.width;
     columns.left = {first, second, last - columns.gap / 2 - columns.width, second + columns.width + columns.gap / 2,
                     last};
@@ -67,7 +70,7 @@ void spread(BoardGeometry& board, const Columns& columns, double width)
             continue;
         const int column = teamRowOf(position) ? 0 : std::min(roundOf(position), 4);
         ui::Rectangle& place = board.positions[position];
-        place.width = columns.width;
+        place.width = column == 0 ? columns.firstWidth : columns.width;
         place.x = columns.left.at(static_cast<std::size_t>(column));
         if (isInRightHalf(position))
             place.x = width - place.right();
@@ -106,7 +109,7 @@ void join(BoardGeometry& board, const Columns& columns, double width, Position g
         return;
     }
     // Beside the first column, and at the inner edge of the last one.
-    const double edge = round == 1 ? columns.left[0] + columns.width : columns.left[4] + columns.width;
+    const double edge = round == 1 ? columns.left[0] + columns.firstWidth : columns.left[4] + columns.width;
     const double bend = edge + columns.gap / 2;
     line(edge, upper, bend, upper);
     line(edge, lower, bend, lower);
