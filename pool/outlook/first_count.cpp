@@ -3,8 +3,6 @@
 
 #include "pool/outlook/counted_runners.h"
 
-#include <utility>
-
 namespace tallyhoop {
 
 namespace {
@@ -108,8 +106,9 @@ double FirstCount::fraction() const { return m_work->fraction(); }
 void FirstCount::advance() { m_work->advance(); }
 FirstOutlook FirstCount::outlook() const { return m_work->outlook(); }
 
-ChanceCount::ChanceCount(const Contest& contest, UpperChance upperChance, const Step& step, std::size_t mostBytes)
-    : m_work{std::make_unique<Work>(contest, std::move(upperChance), step, mostBytes)}
+ChanceCount::ChanceCount(const Contest& contest, const UpperChance& upperChance, const Step& step,
+                         std::size_t mostBytes)
+    : m_work{std::make_unique<Work>(contest, upperChance, step, mostBytes)}
 {
 }
 ChanceCount::~ChanceCount() = default;
@@ -124,9 +123,9 @@ ChanceOutlook ChanceCount::outlook() const { return m_work->outlook(); }
 
 FirstOutlook countFirsts(const Contest& contest) { return countedAll(FirstCount{contest}); }
 
-ChanceOutlook countChances(const Contest& contest, UpperChance upperChance)
+ChanceOutlook countChances(const Contest& contest, const UpperChance& upperChance)
 {
-    return countedAll(ChanceCount{contest, std::move(upperChance)});
+    return countedAll(ChanceCount{contest, upperChance});
 }
 
 } // namespace tallyhoop

@@ -62,7 +62,7 @@ class ChanceCount
 public:
     /// @param upperChance called while it is prepared and while it counts
     /// @pre as for FirstCount
-    ChanceCount(const Contest& contest, UpperChance upperChance, const Step& step = goOn,
+    ChanceCount(const Contest& contest, const UpperChance& upperChance, const Step& step = goOn,
                 std::size_t mostBytes = kMostCountBytes);
     ~ChanceCount();
     ChanceCount(ChanceCount&&) noexcept;
@@ -85,6 +85,6 @@ private:
 
 /// Counts all at once, for few open games.
 FirstOutlook countFirsts(const Contest& contest);
-ChanceOutlook countChances(const Contest& contest, UpperChance upperChance);
+ChanceOutlook countChances(const Contest& contest, const UpperChance& upperChance);
 
 } // namespace tallyhoop
