@@ -9,7 +9,7 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr BoardShares kShares{.top = 0.02,
+constexpr BoardShares kShares{.top = 0.034,
                               .seed = 0,
                               .marker = 0,
                               .firstColumn = 1.75,
@@ -17,6 +17,7 @@ constexpr BoardShares kShares{.top = 0.02,
                               .champion = 2,
                               .textOfRow = 0.8,
                               .textOfColumn = 0.17};
+constexpr double kBottom = 0.027;   ///< room below the last row for the titles of the lower regions, of the height
 constexpr double kSmallestText = 9; ///< where the units are pixels, less cannot be read
 
 // In heights of a letter.
@@ -131,11 +132,11 @@ void joinAll(BoardGeometry& board, const Columns& columns, double width)
     }
 }
 
-/// Beside the places of the first round's winners, up to the middle.
+/// Above and below the places of the later rounds, up to the middle.
 void placeTitles(BoardGeometry& board, const Columns& columns, double width, double height)
 {
     const double room = kTitle * board.textSize;
-    const double left = columns.left[1] + columns.width + kSwing * board.textSize;
+    const double left = columns.left[2];
     const double right = columns.left[4] + columns.width;
     for (int region = 0; region < kRegions; ++region)
         board.regionTitles[static_cast<std::size_t>(region)] = {
@@ -146,7 +147,7 @@ void placeTitles(BoardGeometry& board, const Columns& columns, double width, dou
 
 BoardGeometry layOutOutlook(double width, double height)
 {
-    BoardGeometry board = layOutBoard(width, height, kShares);
+    BoardGeometry board = layOutBoard(width, height * (1 - kBottom), kShares);
     board.textSize = std::max(board.textSize, kSmallestText);
     const Columns columns = columnsOf(board, width);
     spread(board, columns, width);

@@ -84,6 +84,12 @@ TEST_P(OutlookGeometryAt, EachPlaceHasRoomForAName)
     EXPECT_GE(board.positions[kChampion].width, 10 * board.textSize);
 }
 
+TEST_P(OutlookGeometryAt, RegionTitlesHaveRoomForWords)
+{
+    for (const ui::Rectangle& title : board.regionTitles)
+        EXPECT_GE(title.width, 14 * board.textSize) << "\"Midwest Region\" in larger letters";
+}
+
 TEST_P(OutlookGeometryAt, TheRightHalfMirrorsTheLeftOne)
 {
     for (std::size_t i = 0; i < 62; ++i) {
@@ -111,7 +117,8 @@ TEST_P(OutlookGeometryAt, ALineLeadsFromEachEntrantToTheWinner)
 TEST_P(OutlookGeometryAt, LettersAreNotSmallerThanNinePixels) { EXPECT_GE(board.textSize, 9); }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, OutlookGeometryAt,
-                         testing::Values(std::pair{650.0, 470.0}, std::pair{700.0, 450.0}, std::pair{1080.0, 760.0}));
+                         testing::Values(std::pair{650.0, 470.0}, std::pair{700.0, 450.0}, std::pair{1080.0, 760.0},
+                                         std::pair{1200.0, 700.0}));
 
 } // namespace
 } // namespace tallyhoop::test

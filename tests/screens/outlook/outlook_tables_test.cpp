@@ -196,6 +196,8 @@ TEST_F(OutlookTablesTest, AnEmptyListOfGamesSaysThatNothingIsCountedYetOrAnyMore
     open();
     EXPECT_EQ(screen->grdGames.emptyNote, "Nothing is counted yet.");
     screen->cmdStop.click();
+    screen->showState();
+    EXPECT_EQ(screen->grdGames.emptyNote, "Stopped before anything was counted.") << "while the last slice ends";
     background->doSlice();
     screen->showState();
     EXPECT_THAT(screen->grdGames.rows, IsEmpty());
