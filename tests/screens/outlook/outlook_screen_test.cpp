@@ -115,7 +115,8 @@ TEST_F(OutlookScreenTest, FollowsWhatIsSupposedAndComparesIt)
     EXPECT_THAT(column(OutlookColumn::Change), ElementsAre("+25.0", "+25.0", "-50.0"));
     EXPECT_THAT(column(OutlookColumn::Verdict), ElementsAre("Clinched", "Clinched", "Out"));
     EXPECT_THAT(column(OutlookColumn::Points), ElementsAre("168", "168", "152"));
-    EXPECT_EQ(screen->lblOutcomes.text, "No game is open: these are the places if it ends so. The road is being worked out.");
+    EXPECT_EQ(screen->lblOutcomes.text,
+              "No game is open: these are the places if it ends so. The road is being worked out.");
 }
 
 TEST_F(OutlookScreenTest, PutsTheResultsBack)
