@@ -259,7 +259,7 @@ TEST_F(PoolFiles, SayWhichOfTheOthersIsNotWhole)
     read = readPoolInSteps(scratch.folder(), goOn);
     EXPECT_FALSE(read.isFieldDamaged);
     EXPECT_TRUE(read.areResultsDamaged);
-    scratch.put("POOLSTART.THS", "");
+    scratch.put("POOLSTART.THS", "x\r\n"); // does not begin as one
     EXPECT_TRUE(readPoolInSteps(scratch.folder(), goOn).isFieldDamaged);
 }
 
