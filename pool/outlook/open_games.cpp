@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace tallyhoop {
 
@@ -24,7 +25,7 @@ bool contains(const std::vector<TeamNumber>& teams, TeamNumber team) { return st
 
 } // namespace
 
-OpenGames::OpenGames(const Bracket& results) : m_known{results}
+OpenGames::OpenGames(Bracket results) : m_known{std::move(results)}
 {
     findCandidates();
     fillInBelow();

@@ -31,7 +31,7 @@ class OpenGames
 {
 public:
     /// @param results teams in the first-round rows, winners as far as they are known
-    explicit OpenGames(const Bracket& results);
+    explicit OpenGames(Bracket results);
 
     /// The results with the games filled in that have nothing to choose.
     const Bracket& known() const { return m_known; }

@@ -36,6 +36,7 @@ std::vector<RoadStage> roadStages(const Bracket& results)
     const OpenGames games{results};
     const int latest = latestRound(results);
     std::vector<RoadStage> stages;
+    stages.reserve(static_cast<std::size_t>(latest) + 1);
     for (int round = 0; round < latest; ++round)
         stages.push_back({round, false, knownAfter(round, games.known())});
     stages.push_back({latest, true, results});

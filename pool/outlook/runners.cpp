@@ -48,6 +48,7 @@ template <class T>
 void keep(std::vector<T>& all, const std::vector<std::size_t>& kept)
 {
     std::vector<T> some;
+    some.reserve(kept.size());
     for (const std::size_t index : kept)
         some.push_back(std::move(all[index]));
     all = std::move(some);

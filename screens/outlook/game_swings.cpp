@@ -130,7 +130,8 @@ std::vector<GameWeight> weightsOf(const OutlookFigures& figures, std::span<const
         if (const GameWeight weight = weightOf(game, figures); weight.swing >= kLeastSwing)
             weights.push_back(weight);
     std::ranges::stable_sort(weights, std::greater{}, &GameWeight::swing);
-    std::ranges::stable_partition(weights, [&](const GameWeight& weight) { return games[weight.openGame].isNext; });
+    std::stable_partition(weights.begin(), weights.end(),
+                          [&](const GameWeight& weight) { return games[weight.openGame].isNext; });
     return weights;
 }
 

@@ -200,7 +200,8 @@ private:
         const auto height = [this](std::size_t player) { return yNow(player); };
         std::ranges::stable_sort(wanted, {}, height);
         // The chosen player is named whatever his share is.
-        std::ranges::stable_partition(wanted, [this](std::size_t player) { return player == m_picture.chosen; });
+        std::stable_partition(wanted.begin(), wanted.end(),
+                              [this](std::size_t player) { return player == m_picture.chosen; });
 
         const auto room = static_cast<std::size_t>(m_plot.height / kLabel);
         std::vector<std::size_t> named;
