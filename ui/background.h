@@ -1,4 +1,4 @@
-// ui/background.h - long work that goes on beside the person.
+// ui/background.h - long work that goes on in the background.
 #pragma once
 
 #include "base/step.h"

@@ -1,4 +1,4 @@
-// ui/background_thread.cpp - hands the work over, and tells the one before it that it is abandoned.
+// ui/background_thread.cpp - hands the work over, and abandons the one before it.
 #include "ui/background_thread.h"
 
 #include <system_error>

@@ -1,4 +1,4 @@
-// ui/background_thread.h - the work beside the person in a thread of its own.
+// ui/background_thread.h - work in the background, in a thread of its own.
 #pragma once
 
 #include "ui/background.h"

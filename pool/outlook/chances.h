@@ -20,7 +20,7 @@ using UpperChance = std::function<double(std::size_t openGame, TeamNumber upper,
 UpperChance alikeChances();
 
 /// The better seed wins more often: a beats b with the chance b / (a + b), where a and b are the seeds.
-/// @param field tells the seeds of its teams, whose names are compared exactly
+/// @param field has the seeds of its teams, whose names are compared exactly
 /// @note One half when one of the two has no seed: its name is on no row of the field or on more than one, or the text
 ///       of its seed does not begin with a number of 1 to 32767. Equal seeds make one half, too.
 UpperChance seedChances(const OpenGames& games, const Field& field);
@@ -34,7 +34,7 @@ UpperChance pickedChances(const Contest& contest);
 /// The three, in the order in which people are offered them.
 enum class ChanceKind { Alike, BySeed, AsPicked };
 
-/// @param field tells the seeds
+/// @param field has the seeds
 UpperChance chancesOf(ChanceKind kind, const Contest& contest, const Field& field);
 
 } // namespace tallyhoop

@@ -30,8 +30,8 @@ public:
     double fraction() const;
     void advance();
 
-    /// Tells each player's counts.
-    /// @param tell called with the player, the runner who stands for him, how many runners there are, and the tree
+    /// Hands out each player's counts.
+    /// @param tell called with the player, the runner who has the same picks, how many runners there are, and the tree
     template <class Tell>
     void forEachPlayer(const Tell& tell) const
     {

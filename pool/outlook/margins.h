@@ -27,7 +27,7 @@ public:
 
     /// @returns for each player the lead found, in points at the end; negative when that one is behind in every
     /// outcome;
-    ///          0 for the player himself
+    ///          0 for the player
     std::vector<std::int32_t> atTheEnd() const;
 
     /// @returns the same, counting only the games up to a position, itself included, in those outcomes in which a team

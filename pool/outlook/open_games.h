@@ -12,7 +12,7 @@ namespace tallyhoop {
 /// From where on the board a winner comes: the first or the second of feeders().
 enum class Side : std::uint8_t { Upper, Lower };
 
-/// One way the open games can end, 0 .. outcomes() - 1: bit i tells which side wins open game i, 0 the upper one.
+/// One way the open games can end, 0 .. outcomes() - 1: bit i is the side that wins open game i, 0 the upper one.
 using OutcomeNumber = std::uint64_t;
 
 constexpr Side sideOf(OutcomeNumber outcome, std::size_t openGame)

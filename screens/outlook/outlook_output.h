@@ -10,7 +10,7 @@
 namespace tallyhoop {
 
 /// Takes the outlook as it is shown. Each way returns a sentence for the status line, empty when a message has said
-/// what there is to say or the person has changed his mind.
+/// what there is to say or the person has cancelled it.
 class OutlookOutput
 {
 public:

@@ -86,6 +86,7 @@ std::string cellOf(const OutlookRow& row, OutlookColumn column)
 std::vector<ui::GridColumn> outlookColumns(std::size_t players)
 {
     std::vector<ui::GridColumn> columns;
+    columns.reserve(kColumns.size());
     for (const ColumnWords& words : kColumns)
         columns.push_back({words.heading, words.alignment, words.width});
     columns.at(static_cast<std::size_t>(OutlookColumn::Player)).grows = true;

@@ -32,7 +32,7 @@ constexpr double kGap = 6;        ///< around what is supposed
 constexpr double kColumnGap = 12; ///< between two columns
 constexpr std::size_t kRowsOfAGoodEnd = 3;
 
-constexpr ui::Colour kInk{30, 32, 40};
+constexpr ui::Colour kTextColour{30, 32, 40};
 constexpr ui::Colour kGrey{105, 108, 116};
 constexpr ui::Colour kRule{190, 193, 200};
 constexpr ui::Colour kChosenBackground{222, 232, 247};
@@ -48,7 +48,7 @@ struct SheetColumn {
 
 struct SheetRow {
     std::vector<std::string> cells;
-    ui::Colour colour = kInk;
+    ui::Colour colour = kTextColour;
     bool isChosen = false;
 };
 
@@ -76,7 +76,7 @@ SheetTable tableOfPlayers(const OutlookSheet& sheet)
         table.columns.push_back({shown[i].heading, shown[i].alignment, kWidths.at(i)});
     fillWidth(table.columns, static_cast<std::size_t>(OutlookColumn::Player));
     for (const OutlookRow& row : sheet.rows) {
-        SheetRow printed{{}, row.prospect == Prospect::Out ? kGrey : kInk, row.player == sheet.chosen};
+        SheetRow printed{{}, row.prospect == Prospect::Out ? kGrey : kTextColour, row.player == sheet.chosen};
         for (std::size_t i = 0; i < columns; ++i)
             printed.cells.push_back(asOneLine(cellOf(row, OutlookColumn(i))));
         table.rows.push_back(std::move(printed));
@@ -165,7 +165,7 @@ private:
 
     void write(const ui::Rectangle& place, const std::string& text, double size = kText, bool bold = false)
     {
-        page().captions.push_back({place, text, size, kInk, ui::Alignment::Left, bold});
+        page().captions.push_back({place, text, size, kTextColour, ui::Alignment::Left, bold});
     }
 
     void writeLine(const std::string& text, double height, double size, bool bold = false)
@@ -193,7 +193,7 @@ private:
             x += column.width + kColumnGap;
         }
         m_y += kLine;
-        page().strokes.push_back({kMargin, m_y, kMargin + kWidth, m_y, kInk});
+        page().strokes.push_back({kMargin, m_y, kMargin + kWidth, m_y, kTextColour});
     }
 
     void paintTable(const SheetTable& table)

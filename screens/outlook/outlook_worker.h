@@ -1,4 +1,4 @@
-// screens/outlook/outlook_worker.h - has the outlook worked out beside the person, and tells what is known by now.
+// screens/outlook/outlook_worker.h - has the outlook worked out in the background, and gives what is known by now.
 #pragma once
 
 #include "pool/outlook/road.h"

@@ -9,7 +9,7 @@
 
 namespace tallyhoop {
 
-/// The results as they are entered, and as somebody supposes them. Each change tells whether there was one.
+/// The results as they are entered, and as somebody supposes them. Each change returns whether there was one.
 class WhatIf
 {
 public:

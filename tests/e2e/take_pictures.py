@@ -161,7 +161,7 @@ def take_printed_board(program):
 
 
 def take_outlook(program):
-    """The table before, while and after something is supposed."""
+    """The table before and while something is supposed."""
     office_pool.write(program)
     program.start()
     program.key("F9")

@@ -1,4 +1,4 @@
-// tests/fakes/fake_background.h - work beside the person that is done when the test says so.
+// tests/fakes/fake_background.h - background work that is done when the test says so.
 #pragma once
 
 #include "ui/background.h"
