@@ -177,6 +177,7 @@ private:
     std::vector<double> middlesOf(const std::vector<std::size_t>& named) const
     {
         std::vector<double> middles;
+        middles.reserve(named.size());
         for (const std::size_t player : named)
             middles.push_back(yNow(player));
         return movedApart(std::move(middles), kLabel, m_plot.y, m_plot.bottom());
