@@ -9,6 +9,8 @@
 #include <QTextLayout>
 #include <QTextOption>
 #include <algorithm>
+#include <cstdint>
+#include <utility>
 
 namespace tallyhoop::qt {
 
@@ -151,6 +153,16 @@ void paintDrawing(QPainter& painter, const ui::Drawing& drawing, const QRectF& t
     painter.scale(scale, scale);
     paintDrawing(painter, drawing);
     painter.restore();
+}
+
+void paintLines(QPainter& painter, std::vector<ui::Stroke> lines, const QColor& colour)
+{
+    const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
+    for (ui::Stroke& line : lines)
+        line.colour = {part(colour.red()), part(colour.green()), part(colour.blue())};
+    ui::Drawing drawing;
+    drawing.strokes = std::move(lines);
+    paintDrawing(painter, drawing);
 }
 
 } // namespace tallyhoop::qt

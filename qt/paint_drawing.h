@@ -4,6 +4,7 @@
 #include "ui/drawing.h"
 
 #include <QPainter>
+#include <vector>
 
 namespace tallyhoop::qt {
 
@@ -12,5 +13,8 @@ void paintDrawing(QPainter& painter, const ui::Drawing& drawing);
 
 /// Scales and centres a drawing in this rectangle and paints it.
 void paintDrawing(QPainter& painter, const ui::Drawing& drawing, const QRectF& target);
+
+/// Paints lines in pixels, all in one colour instead of their own.
+void paintLines(QPainter& painter, std::vector<ui::Stroke> lines, const QColor& colour);
 
 } // namespace tallyhoop::qt

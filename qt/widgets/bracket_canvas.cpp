@@ -213,16 +213,8 @@ void BracketCanvas::chooseFonts()
 
 void BracketCanvas::paintEvent(QPaintEvent*)
 {
-    const QColor grey = palette().color(QPalette::Mid);
-    const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
-    ui::Drawing lines;
-    lines.width = width();
-    lines.height = height();
-    lines.strokes = m_geometry.connectors;
-    for (ui::Stroke& line : lines.strokes)
-        line.colour = {part(grey.red()), part(grey.green()), part(grey.blue())};
     QPainter painter{this};
-    paintDrawing(painter, lines);
+    paintLines(painter, m_geometry.connectors, palette().color(QPalette::Mid));
 }
 
 std::optional<Position> BracketCanvas::positionAt(const QPoint& point) const

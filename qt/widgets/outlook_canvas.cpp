@@ -120,16 +120,8 @@ void OutlookCanvas::resizeEvent(QResizeEvent* event)
 
 void OutlookCanvas::paintEvent(QPaintEvent*)
 {
-    const QColor grey = palette().color(QPalette::Mid);
-    const auto part = [](int value) { return static_cast<std::uint8_t>(value); };
-    ui::Drawing lines;
-    lines.width = width();
-    lines.height = height();
-    lines.strokes = m_geometry.connectors;
-    for (ui::Stroke& line : lines.strokes)
-        line.colour = {part(grey.red()), part(grey.green()), part(grey.blue())};
     QPainter painter{this};
-    paintDrawing(painter, lines);
+    paintLines(painter, m_geometry.connectors, palette().color(QPalette::Mid));
     if (const std::optional<ui::Colour> supposed = m_outlook.lblWhatIf.background) {
         // Filled areas, not lines: with fractional scaling, lines at the edge can disappear.
         const QRegion frame = QRegion{rect()}.subtracted(
