@@ -16,7 +16,7 @@ std::string captionOf(ChanceKind kind)
     case ChanceKind::BySeed:
         return "By seed";
     case ChanceKind::AsPicked:
-        return "As this pool picked";
+        return "As picked";
     case ChanceKind::Alike:
         break;
     }
