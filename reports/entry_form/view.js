@@ -74,7 +74,7 @@ function buildPage() {
   });
   for (const part of [0, 1, 2, 3, FINALS]) {
     byId('regions').append(make('a', { href: `#part-${part}` }, shortTitle(part)));
-    byId('status').before(makePart(part));
+    byId('status-lane').before(makePart(part));
   }
 }
 
@@ -104,6 +104,8 @@ function showPlace(board, place) {
   team.textContent = teamAt(board, place);
   button.title = teamAt(board, place); // where a narrow column cuts a long name
   button.disabled = isEmpty || place === CHAMPION;
+  if (isEmpty) button.setAttribute('aria-label', 'not yet picked');
+  else button.removeAttribute('aria-label');
   if (place !== CHAMPION) button.setAttribute('aria-pressed', isPicked(board, place));
 }
 
