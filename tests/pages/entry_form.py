@@ -58,6 +58,11 @@ class Pool:
         """The bytes that the program saves after these places were pressed on its board."""
         return make("file", self.field, name, initials, total, given=" ".join(map(str, places)))
 
+    @staticmethod
+    def name(name, initials):
+        """The name under which the program proposes to save it."""
+        return make("name", name, initials).decode()
+
 
 def make(*words, given=""):
     return subprocess.run([MAKER, *map(str, words)], input=given.encode(), capture_output=True, check=True).stdout

@@ -5,7 +5,7 @@ import unittest
 from selenium.webdriver.common.keys import Keys
 
 from browser import DESKTOP, TELEPHONE, Browser
-from entry_form import Form, Pool, make, presses
+from entry_form import Form, Pool, presses
 
 TOUCH = 44  # pixels: what a finger needs
 
@@ -26,7 +26,7 @@ class FillingIn(unittest.TestCase):
 
     def check_file(self):
         file = self.browser.downloaded()
-        self.assertEqual(file.name, make("name", NORA["name"], NORA["initials"]).decode())
+        self.assertEqual(file.name, self.pool.name(NORA["name"], NORA["initials"]))
         self.assertEqual(file.name, "Nora Lind_nl.THC")
         self.assertEqual(file.read_bytes(), self.pool.file(BRACKET, NORA["name"], NORA["initials"], NORA["total"]))
 
