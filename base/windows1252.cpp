@@ -23,21 +23,6 @@ constexpr unsigned char byteAt(std::string_view text, std::size_t place)
     return static_cast<unsigned char>(text[place]);
 }
 
-void appendUtf8(std::string& utf8, char32_t character)
-{
-    const auto put = [&utf8](char32_t bits) { utf8.push_back(static_cast<char>(static_cast<unsigned char>(bits))); };
-    if (character < 0x80) {
-        put(character);
-    } else if (character < 0x800) {
-        put(0xC0 | (character >> 6));
-        put(0x80 | (character & 0x3F));
-    } else { // no character of the table needs more than three bytes
-        put(0xE0 | (character >> 12));
-        put(0x80 | ((character >> 6) & 0x3F));
-        put(0x80 | (character & 0x3F));
-    }
-}
-
 /// What the first byte of a UTF-8 sequence announces.
 struct Lead {
     std::size_t following = 0; ///< bytes that must follow
@@ -129,6 +114,21 @@ std::optional<unsigned char> byteOf(char32_t character)
     if (found == kSpecial.end())
         return std::nullopt;
     return static_cast<unsigned char>(kFirstSpecial + (found - kSpecial.begin()));
+}
+
+void appendUtf8(std::string& utf8, char32_t character)
+{
+    const auto put = [&utf8](char32_t bits) { utf8.push_back(static_cast<char>(static_cast<unsigned char>(bits))); };
+    if (character < 0x80) {
+        put(character);
+    } else if (character < 0x800) {
+        put(0xC0 | (character >> 6));
+        put(0x80 | (character & 0x3F));
+    } else {
+        put(0xE0 | (character >> 12));
+        put(0x80 | ((character >> 6) & 0x3F));
+        put(0x80 | (character & 0x3F));
+    }
 }
 
 std::string toUtf8(std::string_view text)

@@ -17,6 +17,9 @@ char32_t unicodeOf(unsigned char byte);
 /// @returns the byte of a Unicode character, nothing when Windows-1252 lacks it
 std::optional<unsigned char> byteOf(char32_t character);
 
+/// Appends a character below 10000 hexadecimal to a text in UTF-8: none that we have a byte for is above.
+void appendUtf8(std::string& utf8, char32_t character);
+
 /// Converts a text to UTF-8.
 std::string toUtf8(std::string_view text);
 

@@ -18,13 +18,6 @@ namespace fs = std::filesystem;
 /// Shows whether we may write here; beside it the replacing makes a temporary of its own.
 constexpr const char* kWriteCheck = ".tallyhoop-check";
 
-/// @returns the system's own form of a name
-fs::path nativeName(std::string_view name)
-{
-    const std::string utf8 = toUtf8(name);
-    return fs::path{std::u8string{utf8.begin(), utf8.end()}};
-}
-
 bool isThere(const fs::path& path)
 {
     std::error_code ignored;
@@ -193,6 +186,12 @@ Result<Done> DataFolder::checkWritable() const
 std::string DataFolder::shownPathOf(std::string_view name) const
 {
     return joinPath(shown(m_folder), static_cast<char>(fs::path::preferred_separator), name);
+}
+
+fs::path nativeName(std::string_view name)
+{
+    const std::string utf8 = toUtf8(name);
+    return fs::path{std::u8string{utf8.begin(), utf8.end()}};
 }
 
 std::string shown(const fs::path& path)

@@ -76,6 +76,9 @@ private:
 /// @returns a path as text for people and for fields of files; never opened
 std::string shown(const std::filesystem::path& path);
 
+/// @returns the system's own form of a name
+std::filesystem::path nativeName(std::string_view name);
+
 /// @returns true for a name that a file of the folder may have
 bool isBareName(std::string_view name);
 
