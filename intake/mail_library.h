@@ -1,24 +1,28 @@
-// qt/services/mail_library.h - gmime, which writes message files: loaded when the first one is written.
+// intake/mail_library.h - gmime, which reads and writes mail messages: loaded when it is first needed, by the windows.
 //
-// Most people never write one, and loading it with the program, it and all that it needs, would be part of every start.
+// Most people never need it, and loading it with the program, it and all that it needs, would be part of every start.
+// So nothing links it: who uses it is given its functions.
 #pragma once
 
 // The macros of the library's types would call functions of it to check casts.
 #define G_DISABLE_CAST_CHECKS
-#include <QString>
 #include <gmime/gmime.h>
-#include <optional>
 
-namespace tallyhoop::qt {
+namespace tallyhoop {
 
 // NOLINTBEGIN(cppcoreguidelines-macro-usage, bugprone-macro-parentheses): only a macro makes a name and a text of one
 // word.
 
 /// Every function that we use: its name once, so that the type of each is that of the library's own header.
 #define TALLYHOOP_MAIL_FUNCTIONS(each)               \
+    each(g_convert_with_fallback);                   \
+    each(g_date_time_to_unix);                       \
+    each(g_free);                                    \
     each(g_mime_content_disposition_get_parameters); \
     each(g_mime_content_type_get_parameters);        \
+    each(g_mime_content_type_is_type);               \
     each(g_mime_data_wrapper_new_with_stream);       \
+    each(g_mime_data_wrapper_write_to_stream);       \
     each(g_mime_format_options_free);                \
     each(g_mime_format_options_new);                 \
     each(g_mime_format_options_set_newline_format);  \
@@ -26,13 +30,22 @@ namespace tallyhoop::qt {
     each(g_mime_header_set_raw_value);               \
     each(g_mime_init);                               \
     each(g_mime_message_get_addresses);              \
+    each(g_mime_message_get_date);                   \
+    each(g_mime_message_get_from);                   \
+    each(g_mime_message_get_mime_part);              \
     each(g_mime_message_new);                        \
+    each(g_mime_message_part_get_message);           \
+    each(g_mime_message_part_get_type);              \
     each(g_mime_message_set_mime_part);              \
     each(g_mime_message_set_subject);                \
     each(g_mime_multipart_add);                      \
+    each(g_mime_multipart_get_count);                \
+    each(g_mime_multipart_get_part);                 \
+    each(g_mime_multipart_get_type);                 \
     each(g_mime_multipart_new_with_subtype);         \
     each(g_mime_object_get_content_disposition);     \
     each(g_mime_object_get_content_type);            \
+    each(g_mime_object_get_content_type_parameter);  \
     each(g_mime_object_get_header_list);             \
     each(g_mime_object_set_content_type_parameter);  \
     each(g_mime_object_set_disposition);             \
@@ -40,6 +53,11 @@ namespace tallyhoop::qt {
     each(g_mime_object_write_to_stream);             \
     each(g_mime_param_list_get_parameter);           \
     each(g_mime_param_set_charset);                  \
+    each(g_mime_parser_construct_message);           \
+    each(g_mime_parser_new_with_stream);             \
+    each(g_mime_part_get_content);                   \
+    each(g_mime_part_get_filename);                  \
+    each(g_mime_part_get_type);                      \
     each(g_mime_part_new_with_type);                 \
     each(g_mime_part_set_content);                   \
     each(g_mime_part_set_content_encoding);          \
@@ -48,10 +66,13 @@ namespace tallyhoop::qt {
     each(g_mime_stream_mem_new);                     \
     each(g_mime_stream_mem_new_with_buffer);         \
     each(g_object_unref);                            \
+    each(g_type_check_instance_is_a);                \
     each(internet_address_list_add);                 \
     each(internet_address_list_get_address);         \
     each(internet_address_list_length);              \
     each(internet_address_list_parse);               \
+    each(internet_address_mailbox_get_addr);         \
+    each(internet_address_mailbox_get_type);         \
     each(internet_address_mailbox_new);              \
     each(internet_address_set_charset)
 
@@ -64,11 +85,4 @@ struct MailLibrary {
 
 // NOLINTEND(cppcoreguidelines-macro-usage, bugprone-macro-parentheses)
 
-/// Loads a library by its name without prefix and extension, such as "gmime-3.0"; it stays for good.
-/// @returns nothing when it, or one of the functions, is not there
-std::optional<MailLibrary> loadMailLibrary(const QString& name);
-
-/// @returns gmime, loaded and started at the first call; nullptr when it is not installed
-const MailLibrary* mailLibrary();
-
-} // namespace tallyhoop::qt
+} // namespace tallyhoop

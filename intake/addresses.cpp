@@ -1,0 +1,67 @@
+// intake/addresses.cpp - an address is what is around an "@", as far as its characters go.
+#include "intake/addresses.h"
+
+#include "intake/ascii_search.h"
+
+#include <algorithm>
+
+namespace tallyhoop {
+
+namespace {
+
+bool isLetterOrDigit(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+
+bool isOfName(char c)
+{
+    return isLetterOrDigit(c) || std::string_view{"!#$%&'*+-/=?^_`{|}~."}.find(c) != std::string_view::npos;
+}
+
+bool isOfHost(char c) { return isLetterOrDigit(c) || c == '-' || c == '.'; }
+
+/// @param at where the "@" is
+/// @returns empty when there is nothing on one of its sides
+std::string addressAround(std::string_view text, std::size_t at)
+{
+    std::size_t begin = at;
+    while (begin > 0 && isOfName(text[begin - 1]))
+        --begin;
+    std::size_t end = at + 1;
+    while (end < text.size() && isOfHost(text[end]))
+        ++end;
+    while (end > at + 1 && !isLetterOrDigit(text[end - 1]))
+        --end; // the full stop of a sentence
+    const bool isWhole = begin < at && end > at + 1;
+    return isWhole ? std::string{text.substr(begin, end - begin)} : std::string{};
+}
+
+} // namespace
+
+std::string firstAddressIn(std::string_view text)
+{
+    for (std::size_t at = text.find('@'); at != std::string_view::npos; at = text.find('@', at + 1))
+        if (std::string address = addressAround(text, at); !address.empty())
+            return address;
+    return {};
+}
+
+std::string lastWriterIn(std::string_view text)
+{
+    constexpr std::size_t kMostOfHeader = 200; // a name and an address, and a date
+    const std::size_t from = lastKey(text, "From");
+    const std::size_t wrote = lastKey(text, "wrote");
+    if (from == std::string_view::npos && wrote == std::string_view::npos)
+        return {};
+    if (from != std::string_view::npos && (wrote == std::string_view::npos || from > wrote)) {
+        std::string_view header = text.substr(from, kMostOfHeader);
+        header = header.substr(0, keyAt(header, "To", 0).begin);
+        return firstAddressIn(header);
+    }
+    const std::string_view attribution = text.substr(0, wrote).substr(wrote - std::min(wrote, kMostOfHeader));
+    for (std::size_t at = attribution.rfind('@'); at != std::string_view::npos && at > 0;
+         at = attribution.rfind('@', at - 1))
+        if (std::string address = addressAround(attribution, at); !address.empty())
+            return address;
+    return {};
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,17 @@
+// intake/addresses.h - finding e-mail addresses in text that mail programs have decorated.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tallyhoop {
+
+/// @returns the first thing that looks like an e-mail address, such as the first one in "a@b.c <mailto:a@b.c>"; empty
+///          when there is none
+std::string firstAddressIn(std::string_view text);
+
+/// Who wrote what follows a text, by its last "From: Ann <ann@b.c>" or "On Monday Ann <ann@b.c> wrote:".
+/// @returns empty when the text does not say
+std::string lastWriterIn(std::string_view text);
+
+} // namespace tallyhoop

@@ -1,0 +1,198 @@
+// intake/entry_table.cpp - which column is what, and a row after another.
+#include "intake/entry_table.h"
+
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "intake/addresses.h"
+#include "intake/csv_cells.h"
+#include "intake/game_words.h"
+#include "intake/limits.h"
+#include "intake/plain_text.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::array<std::string_view, 2> kNameTitles = {"name", "player"};
+constexpr std::array<std::string_view, 1> kInitialsTitles = {"initials"};
+constexpr std::array<std::string_view, 3> kTotalTitles = {"total", "final points", "predicted total"};
+constexpr std::array<std::string_view, 4> kEmailTitles = {"e-mail", "email", "mail", "address"};
+constexpr std::string_view kGameTitle = "game ";
+
+/// Which column holds what, counted from 0.
+struct Columns {
+    std::optional<std::size_t> name;
+    std::optional<std::size_t> initials;
+    std::optional<std::size_t> total;
+    std::optional<std::size_t> email;
+    ByGame<std::optional<std::size_t>> games{};
+    std::size_t count = 0;
+};
+
+template <std::size_t N>
+bool isOneOf(const std::array<std::string_view, N>& titles, std::string_view cell)
+{
+    return std::ranges::any_of(titles, [cell](std::string_view title) { return equalFolded(title, cell); });
+}
+
+/// @returns the game of a column named such as "Game 12 (West, round 1, game 4)"
+std::optional<Game> gameOfTitle(std::string_view title)
+{
+    if (!startsWithFolded(title, kGameTitle))
+        return std::nullopt;
+    int number = 0;
+    std::size_t digits = 0;
+    for (const char c : title.substr(kGameTitle.size(), 3)) {
+        if (c < '0' || c > '9')
+            break;
+        number = number * 10 + (c - '0');
+        ++digits;
+    }
+    return digits > 0 && number >= 1 && number <= kGames ? std::optional{Game{number - 1}} : std::nullopt;
+}
+
+std::string titleOf(const Field& field, Game game)
+{
+    return "Game " + std::to_string(index(game) + 1) + " (" + gameWords(field, game) + ")";
+}
+
+bool isHeader(const CsvRow& row)
+{
+    return std::ranges::any_of(
+        row, [](const std::string& cell) { return isOneOf(kInitialsTitles, withoutOuterBlanks(cell)); });
+}
+
+Columns columnsInOrder()
+{
+    Columns columns{0, 1, 2, {}, {}, kGames + 3};
+    std::size_t column = 3;
+    for (std::optional<std::size_t>& game : columns.games.values)
+        game = column++;
+    return columns;
+}
+
+/// Gives a column its meaning. @returns false when it has none that is known, or another has it already
+bool takeTitle(Columns& columns, const std::string& title, std::size_t column)
+{
+    std::optional<std::size_t>* place = nullptr;
+    if (isOneOf(kNameTitles, title))
+        place = &columns.name;
+    else if (isOneOf(kInitialsTitles, title))
+        place = &columns.initials;
+    else if (isOneOf(kTotalTitles, title))
+        place = &columns.total;
+    else if (isOneOf(kEmailTitles, title))
+        place = &columns.email;
+    else if (const std::optional<Game> game = gameOfTitle(title))
+        place = &columns.games[*game];
+    if (place == nullptr || *place)
+        return false;
+    *place = column;
+    return true;
+}
+
+/// @returns the columns; or a failure that names what the header lacks
+Result<Columns> columnsOf(const CsvRow& header)
+{
+    Columns columns;
+    columns.count = header.size();
+    std::vector<std::size_t> others;
+    for (std::size_t column = 0; column < header.size(); ++column) {
+        const std::string title = withoutOuterBlanks(header[column]);
+        if (!title.empty() && !takeTitle(columns, title, column))
+            others.push_back(column);
+    }
+    const auto isThere = [](const std::optional<std::size_t>& column) { return column.has_value(); };
+    if (std::ranges::none_of(columns.games.values, isThere) && others.size() == kGames)
+        std::ranges::copy(others, columns.games.values.begin());
+    std::vector<std::string> missing;
+    if (!columns.name)
+        missing.emplace_back("\"Name\"");
+    if (!columns.total)
+        missing.emplace_back("\"Total\"");
+    if (const auto games = std::ranges::count_if(columns.games.values, isThere); games < kGames)
+        missing.push_back(std::to_string(kGames - games) + " of the 63 games");
+    if (!missing.empty())
+        return Failure{"The header of the table lacks " + joined(missing, ", ") + "."};
+    return columns;
+}
+
+/// @returns UTF-8
+std::string cellAt(const CsvRow& row, const std::optional<std::size_t>& column)
+{
+    return column && *column < row.size() ? unguarded(row[*column]) : std::string{};
+}
+
+bool isEmptyRow(const CsvRow& row)
+{
+    return std::ranges::all_of(row, [](const std::string& cell) { return lastNonBlank(cell) == 0; });
+}
+
+HandedIn entryOf(const CsvRow& row, const Columns& columns, const KnownTeams& teams)
+{
+    HandedIn read;
+    read.entry.name = fromUtf8(cellAt(row, columns.name));
+    read.entry.initials = fromUtf8(cellAt(row, columns.initials));
+    read.entry.finalPoints = fromUtf8(cellAt(row, columns.total));
+    read.email = firstAddressIn(cellAt(row, columns.email));
+    ByGame<std::string> picks;
+    for (int game = 0; game < kGames; ++game)
+        picks[Game{game}] = asTyped(cellAt(row, columns.games[Game{game}]));
+    read.entry.picks = teams.bracketOf(picks);
+    if (row.size() > columns.count &&
+        !isEmptyRow({row.begin() + static_cast<std::ptrdiff_t>(columns.count), row.end()}))
+        read.refusals.push_back("The row has " + std::to_string(row.size()) + " columns; there should be " +
+                                std::to_string(columns.count) + ".");
+    return read;
+}
+
+} // namespace
+
+std::vector<HandedIn> readEntryTable(std::string_view bytes, const KnownTeams& teams, const Origin& origin)
+{
+    const Result<std::vector<CsvRow>> rows = csvRows(utf8Of(bytes));
+    if (!rows)
+        return {refusedWhole(origin, rows.failure().message)};
+    std::vector<HandedIn> entries;
+    Columns columns = columnsInOrder();
+    for (std::size_t i = 0; i < rows->size() && entries.size() < kMostEntriesHandedIn; ++i) {
+        const CsvRow& row = (*rows)[i];
+        if (i == 0 && isHeader(row)) {
+            const Result<Columns> named = columnsOf(row);
+            if (!named)
+                return {refusedWhole(origin, named.failure().message)};
+            columns = *named;
+        } else if (!isEmptyRow(row)) {
+            entries.push_back(entryOf(row, columns, teams));
+            entries.back().origin = origin;
+            entries.back().origin.number = static_cast<int>(i) + 1;
+        }
+    }
+    if (entries.empty())
+        return {refusedWhole(origin, "The table has no entries.")};
+    return entries;
+}
+
+std::string entryTable(std::span<const Entry> entries, const Field& field)
+{
+    std::vector<CsvRow> rows;
+    rows.reserve(entries.size() + 1);
+    CsvRow& header = rows.emplace_back(CsvRow{"Name", "Initials", "Total"});
+    for (int game = 0; game < kGames; ++game)
+        header.push_back(guarded(titleOf(field, Game{game})));
+    for (const Entry& entry : entries) {
+        CsvRow row{guarded(entry.name), guarded(entry.initials), guarded(entry.finalPoints)};
+        for (const Position position : gamePositions())
+            row.push_back(guarded(entry.picks.at(position)));
+        rows.push_back(std::move(row));
+    }
+    return std::string{kByteOrderMark} + toUtf8(csvText(rows));
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,146 @@
+// intake/html_text.cpp - tags and entities one after another, without a tree: text is all that is wanted.
+#include "intake/html_text.h"
+
+#include "base/windows1252.h"
+#include "intake/ascii_search.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <optional>
+
+namespace tallyhoop {
+
+namespace {
+
+struct Entity {
+    std::string_view name;
+    char32_t character;
+};
+
+/// Those that mail programs write; a character of another language comes as itself or as its number.
+constexpr std::array<Entity, 31> kEntities = {{
+    {"amp", U'&'},      {"lt", U'<'},      {"gt", U'>'},      {"quot", U'"'},     {"apos", U'\''},   {"nbsp", 0xA0},
+    {"shy", 0xAD},      {"lsquo", 0x2018}, {"rsquo", 0x2019}, {"sbquo", 0x201A},  {"ldquo", 0x201C}, {"rdquo", 0x201D},
+    {"bdquo", 0x201E},  {"ndash", 0x2013}, {"mdash", 0x2014}, {"hellip", 0x2026}, {"ensp", 0x2002},  {"emsp", 0x2003},
+    {"thinsp", 0x2009}, {"zwnj", 0x200C},  {"zwj", 0x200D},   {"acute", 0xB4},    {"prime", 0x2032}, {"eacute", 0xE9},
+    {"egrave", 0xE8},   {"agrave", 0xE0},  {"aacute", 0xE1},  {"auml", 0xE4},     {"ouml", 0xF6},    {"uuml", 0xFC},
+    {"szlig", 0xDF},
+}};
+
+constexpr std::array<std::string_view, 16> kLineTags = {"br", "p",  "div", "tr", "li", "ul", "ol",         "table",
+                                                        "h1", "h2", "h3",  "h4", "hr", "td", "blockquote", "pre"};
+constexpr std::array<std::string_view, 4> kHiddenTags = {"head", "script", "style", "title"};
+
+/// @param digits after "&#", such as "8217" or "x2019"
+std::optional<char32_t> characterOf(std::string_view digits)
+{
+    const bool isHexadecimal = digits.starts_with('x') || digits.starts_with('X');
+    if (isHexadecimal)
+        digits.remove_prefix(1);
+    unsigned number = 0;
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), number, isHexadecimal ? 16 : 10);
+    if (read.ec != std::errc{} || read.ptr != digits.data() + digits.size())
+        return std::nullopt;
+    const bool isText = number >= 0x20 && number < 0x10000 && (number < 0xD800 || number > 0xDFFF);
+    return isText ? char32_t{number} : U'?';
+}
+
+std::optional<char32_t> entityOf(std::string_view name)
+{
+    if (name.starts_with('#'))
+        return characterOf(name.substr(1));
+    const auto* found = std::ranges::find(kEntities, name, &Entity::name);
+    return found != kEntities.end() ? std::optional{found->character} : std::nullopt;
+}
+
+/// @returns a tag's name in small letters, without the "/" of one that closes
+std::string nameOf(std::string_view tag)
+{
+    if (tag.starts_with('/'))
+        tag.remove_prefix(1);
+    std::string name;
+    for (const char c : tag.substr(0, tag.find_first_of(" \t\r\n/>")))
+        name.push_back(static_cast<char>(folded(static_cast<unsigned char>(c))));
+    return name;
+}
+
+template <std::size_t N>
+bool isOneOf(const std::array<std::string_view, N>& names, std::string_view name)
+{
+    return std::ranges::find(names, name) != names.end();
+}
+
+class HtmlText
+{
+public:
+    explicit HtmlText(std::string_view html) : m_html{html} {}
+
+    std::string take()
+    {
+        while (m_at < m_html.size()) {
+            if (m_html[m_at] == '<' && takeTag())
+                continue;
+            if (m_html[m_at] == '&' && takeEntity())
+                continue;
+            const char c = m_html[m_at++];
+            m_text.push_back(c == '\r' || c == '\n' || c == '\t' ? ' ' : c); // lines are made by tags only
+        }
+        return std::move(m_text);
+    }
+
+private:
+    /// @returns false for a "<" that begins no tag
+    bool takeTag()
+    {
+        const std::string_view rest = m_html.substr(m_at + 1);
+        if (rest.starts_with("!--")) {
+            moveAfter(m_html.find("-->", m_at + 4), 3);
+            return true;
+        }
+        const bool begins = !rest.empty() && (rest.front() == '/' || rest.front() == '!' || rest.front() == '?' ||
+                                              (folded(static_cast<unsigned char>(rest.front())) >= 'a' &&
+                                               folded(static_cast<unsigned char>(rest.front())) <= 'z'));
+        const std::size_t end = rest.find('>');
+        if (!begins || end == std::string_view::npos)
+            return false;
+        const std::string name = nameOf(rest.substr(0, end));
+        m_at += end + 2;
+        if (isOneOf(kHiddenTags, name) && rest.front() != '/')
+            moveAfter(findInAnyCase(m_html, "</" + name, m_at), 0);
+        if (isOneOf(kLineTags, name))
+            m_text.push_back('\n');
+        return true;
+    }
+
+    /// Moves on after something that was found, to the end when it was not.
+    void moveAfter(std::size_t found, std::size_t size)
+    {
+        m_at = found == std::string_view::npos ? m_html.size() : found + size;
+    }
+
+    /// @returns false for a "&" that begins no entity
+    bool takeEntity()
+    {
+        constexpr std::size_t kLongest = 10;
+        const std::string_view rest = m_html.substr(m_at + 1, kLongest);
+        const std::size_t end = rest.find(';');
+        const std::optional<char32_t> character =
+            end == std::string_view::npos ? std::nullopt : entityOf(rest.substr(0, end));
+        if (!character)
+            return false;
+        appendUtf8(m_text, *character);
+        m_at += end + 2;
+        return true;
+    }
+
+    std::string_view m_html;
+    std::size_t m_at = 0;
+    std::string m_text;
+};
+
+} // namespace
+
+std::string textOfHtml(std::string_view utf8) { return HtmlText{utf8}.take(); }
+
+} // namespace tallyhoop

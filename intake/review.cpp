@@ -1,0 +1,193 @@
+// intake/review.cpp - each entry by itself first, then those that are for the same file.
+#include "intake/review.h"
+
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "files/file_names.h"
+#include "files/selection_file.h"
+#include "files/settings_file.h"
+#include "intake/entry_refusals.h"
+#include "intake/players_here.h"
+#include "intake/review_words.h"
+
+#include <algorithm>
+#include <unordered_map>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+/// The selections of a folder by their names in capitals.
+class SelectionsHere
+{
+public:
+    explicit SelectionsHere(const DataFolder& folder) : m_folder{folder.folder()}
+    {
+        for (FolderFile& file : folder.files(file_name::kSelectionExtension))
+            m_files[upperCase(file.name)].push_back(std::move(file));
+    }
+
+    /// @returns the file of this name, in any case of its letters when there is none of exactly this name; a new one
+    ///          otherwise
+    FolderFile fileOf(const std::string& name) const
+    {
+        const auto found = m_files.find(upperCase(name));
+        if (found == m_files.end())
+            return {name, m_folder / nativeName(name)};
+        const auto exact = std::ranges::find(found->second, name, &FolderFile::name);
+        return exact != found->second.end() ? *exact : found->second.front();
+    }
+
+private:
+    std::filesystem::path m_folder;
+    std::unordered_map<std::string, std::vector<FolderFile>> m_files;
+};
+
+/// What all entries are held against.
+struct Standards {
+    const Field& field;
+    SelectionsHere selections;
+    PlayersHere players;
+    int results = 0;                 ///< games that have been decided
+    std::vector<std::string> common; ///< why nothing is taken at all
+};
+
+int picksIn(const Bracket& bracket)
+{
+    return static_cast<int>(
+        std::ranges::count_if(gamePositions(), [&](Position position) { return !bracket.isEmpty(position); }));
+}
+
+int differentPicks(const Bracket& left, const Bracket& right)
+{
+    return static_cast<int>(std::ranges::count_if(
+        gamePositions(), [&](Position position) { return left.at(position) != right.at(position); }));
+}
+
+int resultsIn(const DataFolder& folder, const Field& field)
+{
+    if (!folder.exists(file_name::kResults))
+        return 0;
+    return picksIn(readSelectionFile(folder.pathTo(file_name::kResults), startingBracket(field)).value.picks);
+}
+
+std::vector<std::string> commonReasons(const DataFolder& folder, const Field& field)
+{
+    std::vector<std::string> reasons;
+    if (!field.isFinalized())
+        reasons.emplace_back("The field is not finalized yet.");
+    if (demoModeIsOn(folder))
+        reasons.emplace_back("The demo pool takes no new selections.");
+    return reasons;
+}
+
+/// What is there is read only now, and compared again when it is replaced.
+void compareWithFile(ReviewRow& row, const Bracket& like)
+{
+    row.seen = KnownFiles::contentOf(row.file);
+    if (!row.seen.isThere)
+        return;
+    row.effect = row.seen.bytes == bytesToWrite(row.handedIn) ? Effect::Identical : Effect::Replaces;
+    row.differentPicks = differentPicks(readSelection(row.seen.bytes, like).value.picks, row.handedIn.entry.picks);
+}
+
+ReviewRow rowOf(HandedIn handedIn, const Standards& standards)
+{
+    ReviewRow row;
+    row.handedIn = std::move(handedIn);
+    row.picks = picksIn(row.handedIn.entry.picks);
+    row.reasons = refusalsOf(row.handedIn, standards.field);
+    row.reasons.insert(row.reasons.end(), standards.common.begin(), standards.common.end());
+    if (!row.reasons.empty()) {
+        row.effect = Effect::Refused;
+        return row;
+    }
+    const Entry& entry = row.handedIn.entry;
+    FolderFile file = standards.selections.fileOf(proposedFileName(entry.name, entry.initials));
+    row.fileName = std::move(file.name);
+    row.file = std::move(file.path);
+    row.isLate = standards.results > 0;
+    compareWithFile(row, entry.picks);
+    row.isTicked = (row.effect == Effect::New || row.effect == Effect::Replaces) && row.isComplete() && !row.isLate;
+    return row;
+}
+
+/// @returns whether the second row, which comes after the first, was handed in later
+bool isLater(const ReviewRow& first, const ReviewRow& second)
+{
+    const std::optional<std::int64_t>& before = first.handedIn.origin.date;
+    const std::optional<std::int64_t>& after = second.handedIn.origin.date;
+    return !before || !after || *before <= *after;
+}
+
+/// Notes in each row the latest one for its file, and leaves one tick at most.
+void findRepeated(std::vector<ReviewRow>& rows)
+{
+    std::unordered_map<std::string, std::vector<std::size_t>> byFile;
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        if (rows[i].effect != Effect::Refused)
+            byFile[upperCase(rows[i].fileName)].push_back(i);
+    for (const auto& [name, indices] : byFile) {
+        std::size_t latest = indices.front();
+        std::optional<std::size_t> ticked;
+        for (const std::size_t i : indices) {
+            latest = isLater(rows[latest], rows[i]) ? i : latest;
+            if (rows[i].isTicked)
+                ticked = !ticked || isLater(rows[*ticked], rows[i]) ? i : *ticked;
+        }
+        for (const std::size_t i : indices) {
+            rows[i].isTicked = ticked == i;
+            if (i != latest)
+                rows[i].later = latest;
+        }
+    }
+}
+
+const PlayerRecord* recordOf(const ReviewRow& row, const PlayersHere& players)
+{
+    const Entry& entry = row.handedIn.entry;
+    return players.find({entry.name + "," + entry.initials, row.fileName, {}});
+}
+
+} // namespace
+
+Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const Field& field, const Step& step)
+{
+    const Standards standards{field, SelectionsHere{folder}, PlayersHere{readPlayerNames(folder)},
+                              resultsIn(folder, field), commonReasons(folder, field)};
+    Review review;
+    review.resultsHere = standards.results;
+    review.rows.reserve(handedIn.size());
+    for (HandedIn& entry : handedIn) {
+        review.rows.push_back(rowOf(std::move(entry), standards));
+        if (!step())
+            break;
+    }
+    findRepeated(review.rows);
+    for (ReviewRow& row : review.rows)
+        row.words = wordsOf(row, review.rows, recordOf(row, standards.players));
+    review.head = headOf(review);
+    return review;
+}
+
+void setTicked(Review& review, std::size_t row, bool isTicked)
+{
+    ReviewRow& chosen = review.rows.at(row);
+    if (chosen.effect == Effect::Refused)
+        return;
+    if (isTicked)
+        for (ReviewRow& other : review.rows)
+            if (other.isTicked && equalFolded(other.fileName, chosen.fileName))
+                other.isTicked = false;
+    chosen.isTicked = isTicked;
+}
+
+std::string bytesToWrite(const HandedIn& handedIn)
+{
+    Entry entry = handedIn.entry;
+    entry.initials = upperCase(entry.initials);
+    return selectionFile(entry);
+}
+
+} // namespace tallyhoop

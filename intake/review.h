@@ -1,0 +1,63 @@
+// intake/review.h - what an import would do, before anything is written: one row for each entry.
+#pragma once
+
+#include "base/step.h"
+#include "files/data_folder.h"
+#include "files/known_files.h"
+#include "intake/handed_in.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tallyhoop {
+
+/// What writing an entry does to the folder.
+enum class Effect {
+    New,       ///< there is no selection of this name
+    Identical, ///< there is, and it is the very same
+    Replaces,  ///< there is, and it is another one
+    Refused,   ///< nothing: it is not written
+};
+
+struct ReviewRow {
+    HandedIn handedIn;
+    std::string fileName;       ///< the file that it becomes, such as "Smith_JS.THC"; empty when it is refused
+    std::filesystem::path file; ///< the same, with its folder
+    FileContent seen;           ///< what is there now
+    int picks = 0;              ///< 0..63
+    Effect effect = Effect::New;
+    int differentPicks = 0;             ///< of 63, from the selection that it replaces
+    bool isLate = false;                ///< there are results already
+    std::optional<std::size_t> later{}; ///< the row of a later entry for the same file
+    std::vector<std::string> reasons;   ///< why it is refused, a sentence each
+    std::string words;                  ///< what would happen, and what is special about it, for the list
+    bool isTicked = false;
+
+    bool isComplete() const { return picks == kGames; }
+};
+
+struct Review {
+    std::vector<ReviewRow> rows; ///< in the order in which they were handed in
+    int resultsHere = 0;         ///< games that have been decided; all entries are late from the first one on
+    std::string head;            ///< how many of which kind, and whether it is late
+};
+
+/// Holds entries against the field, and against the selections, the results and the player list of a folder. Only files
+/// that would be replaced are read. One step of work for each entry.
+///
+/// Ticked are complete entries that are new or replace another one, as long as there are no results. Of several for one
+/// file the latest that may be ticked is: by the date that each has, otherwise by their order.
+/// @returns the rows so far when the work was stopped
+Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const Field& field, const Step& step = goOn);
+
+/// Sets or takes away a row's tick. A refused one gets none; a tick takes away those of the other rows for the same
+/// file: only one of them can be written.
+void setTicked(Review& review, std::size_t row, bool isTicked);
+
+/// @returns what is written for an entry: the bytes that a save on the board would write
+std::string bytesToWrite(const HandedIn& handedIn);
+
+} // namespace tallyhoop

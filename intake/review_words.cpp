@@ -1,0 +1,104 @@
+// intake/review_words.cpp - the words of the review, a sentence for each thing.
+#include "intake/review_words.h"
+
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "intake/players_here.h"
+
+#include <algorithm>
+
+namespace tallyhoop {
+
+namespace {
+
+std::string effectOf(const ReviewRow& row)
+{
+    switch (row.effect) {
+    case Effect::New:
+        return "New.";
+    case Effect::Identical:
+        return "Identical to what is here.";
+    case Effect::Refused:
+        return "Refused: " + joined(row.reasons, " ");
+    case Effect::Replaces:
+        break;
+    }
+    if (row.seen.trouble)
+        return "Replaces a file that cannot be read.";
+    if (row.differentPicks == 0)
+        return "Replaces (same picks; name, initials or total differ).";
+    return "Replaces (" + counted(static_cast<std::size_t>(row.differentPicks), "pick differs", "picks differ") + ").";
+}
+
+/// @returns whether two rows, both for one file, would write the same
+bool isSame(const ReviewRow& left, const ReviewRow& right)
+{
+    return bytesToWrite(left.handedIn) == bytesToWrite(right.handedIn);
+}
+
+std::string aboutOthers(const ReviewRow& row, const std::vector<ReviewRow>& rows)
+{
+    if (!row.later)
+        return {};
+    const std::string number = std::to_string(*row.later + 1);
+    return isSame(row, rows[*row.later]) ? "The same as row " + number + "."
+                                         : "Handed in again later: row " + number + ".";
+}
+
+/// Anybody can write anybody's name into a form.
+std::string aboutSender(const ReviewRow& row, const PlayerRecord* record)
+{
+    if (row.effect != Effect::Replaces || record == nullptr || row.handedIn.email.empty())
+        return {};
+    const std::string known = trimTrailingBlanks(record->email);
+    const bool isOther = !known.empty() && !equalFolded(known, recordedAddress(row.handedIn.email));
+    return isOther ? "The player list has another address: " + known + "." : std::string{};
+}
+
+} // namespace
+
+std::string counted(std::size_t count, const std::string& one, const std::string& more)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : more);
+}
+
+std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, const PlayerRecord* record)
+{
+    std::vector<std::string> sentences{effectOf(row)};
+    if (row.effect != Effect::Refused && !row.isComplete())
+        sentences.push_back("Incomplete: " + std::to_string(row.picks) + " of 63 picks.");
+    if (row.isLate)
+        sentences.emplace_back("Late.");
+    sentences.push_back(aboutOthers(row, rows));
+    sentences.push_back(aboutSender(row, record));
+    std::erase(sentences, std::string{});
+    return joined(sentences, " ");
+}
+
+std::string headOf(const Review& review)
+{
+    const auto count = [&](auto matches) {
+        return static_cast<std::size_t>(std::ranges::count_if(review.rows, matches));
+    };
+    const auto withEffect = [&](Effect effect) {
+        return count([effect](const ReviewRow& row) { return row.effect == effect; });
+    };
+    std::vector<std::string> kinds;
+    const auto add = [&](std::size_t number, const std::string& words) {
+        if (number > 0)
+            kinds.push_back(std::to_string(number) + " " + words);
+    };
+    add(withEffect(Effect::New), "new");
+    add(withEffect(Effect::Replaces), "replacing others");
+    add(withEffect(Effect::Identical), "identical to what is here");
+    add(withEffect(Effect::Refused), "refused");
+    add(count([](const ReviewRow& row) { return row.effect != Effect::Refused && !row.isComplete(); }), "incomplete");
+    std::string head = counted(review.rows.size(), "entry", "entries");
+    head += kinds.empty() ? "." : ": " + joined(kinds, ", ") + ".";
+    if (review.resultsHere > 0)
+        head += " They are late: the results of " +
+                counted(static_cast<std::size_t>(review.resultsHere), "game are", "games are") + " entered already.";
+    return head;
+}
+
+} // namespace tallyhoop

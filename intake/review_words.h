@@ -1,0 +1,23 @@
+// intake/review_words.h - what the review says of a row, and of all of them.
+#pragma once
+
+#include "files/player_names_file.h"
+#include "intake/review.h"
+
+#include <string>
+#include <vector>
+
+namespace tallyhoop {
+
+/// @param rows   all rows of the review
+/// @param record the player's, nullptr = the player is not in the list yet
+/// @returns what would happen, and what is special about it: "Replaces (4 picks differ). Incomplete: 60 of 63 picks."
+std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, const PlayerRecord* record);
+
+/// @returns "50 entries: 38 new, 2 replace others, 10 refused.", and a sentence when it is late
+std::string headOf(const Review& review);
+
+/// @returns "1 pick", "2 picks"
+std::string counted(std::size_t count, const std::string& one, const std::string& more);
+
+} // namespace tallyhoop

@@ -1,0 +1,177 @@
+// tests/intake/entry_readers_test.cpp - files and mails as they come in.
+#include "intake/entry_readers.h"
+
+#include "base/windows1252.h"
+#include "files/selection_file.h"
+#include "intake/entry_table.h"
+#include "intake/field_2000.h"
+#include "intake/linked_mail_library.h"
+#include "intake/mail_parts.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+using test::formText;
+using test::upperEntry;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+EntryReaders readers()
+{
+    return {test::field2000(), [](std::string_view bytes) { return mailParts(bytes, &test::linkedMailLibrary()); }};
+}
+
+std::vector<HandedIn> readFile(std::string name, std::string bytes)
+{
+    return readers().read({std::move(name), std::move(bytes), 1000});
+}
+
+/// The file that a save on the board makes of an entry.
+std::string savedFile(Entry entry)
+{
+    entry.initials = upperCase(entry.initials);
+    return selectionFile(entry);
+}
+
+std::string onlyRefusal(const std::vector<HandedIn>& read)
+{
+    return read.size() == 1 && read[0].refusals.size() == 1 ? read[0].refusals[0] : "none, or several";
+}
+
+const std::string kHeaders = "From: Ann <ann@home.example>\r\nDate: Thu, 1 Jan 1970 00:01:00 +0000\r\n";
+
+TEST(EntryReaders, KnowTheirFiles)
+{
+    EXPECT_TRUE(EntryReaders::isRead("a.thc"));
+    EXPECT_TRUE(EntryReaders::isRead("A.Eml"));
+    EXPECT_TRUE(EntryReaders::isRead("A.TXT"));
+    EXPECT_TRUE(EntryReaders::isRead("A.csv"));
+    EXPECT_FALSE(EntryReaders::isRead("A.THS"));
+    EXPECT_EQ(onlyRefusal(readFile("A.PNG", "x")),
+              "Files of this kind are not read: only *.THC, *.EML, *.TXT and *.CSV.");
+}
+
+TEST(EntryReaders, ReadSelections)
+{
+    const std::vector<HandedIn> read = readFile("x.THC", savedFile(upperEntry()));
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry, upperEntry("Ann Smith", "AS"));
+    EXPECT_THAT(read[0].refusals, IsEmpty());
+    EXPECT_EQ(read[0].origin, (Origin{"x.THC", "", 1, 1000}));
+}
+
+TEST(EntryReaders, SayWhatIsWrongWithASelection)
+{
+    const std::string file = savedFile(upperEntry());
+    EXPECT_EQ(onlyRefusal(readFile("x.THC", file + "more\r\n")), "The file has more than 131 lines.");
+    EXPECT_EQ(onlyRefusal(readFile("x.THC", "Arizona\r\n")), "The file has fewer than 131 lines.");
+    EXPECT_FALSE(readFile("x.THC", "Arizona\r\n")[0].isLegible);
+    EXPECT_EQ(onlyRefusal(readFile("x.THC", test::replaced(file, "*END*", "*end*"))),
+              "Line 131 of the file is not the end marker.");
+    EXPECT_EQ(onlyRefusal(readFile("x.THC", "")), "The file has fewer than 131 lines.");
+}
+
+TEST(EntryReaders, ReadTexts)
+{
+    const std::vector<HandedIn> read =
+        readFile("x.TXT", formText(upperEntry("Ann", "a")) + formText(upperEntry("Bob", "b")));
+    ASSERT_EQ(read.size(), 2u);
+    EXPECT_EQ(read[1].entry, upperEntry("Bob", "b"));
+    EXPECT_EQ(onlyRefusal(readFile("x.TXT", "Hello")), "There is no entry in this file.");
+    EXPECT_EQ(readFile("Ann_AS.THC.txt", savedFile(upperEntry()))[0].entry, upperEntry("Ann Smith", "AS"))
+        << "a selection that was renamed";
+}
+
+TEST(EntryReaders, ReadPastedText)
+{
+    EXPECT_EQ(readers().readPasted(test::exampleText())[0].entry.name, "Zo\xE9 O\x92Neil");
+    EXPECT_EQ(readers().readPasted(fromUtf8(test::exampleText()))[0].entry.name, "Zo\xE9 O\x92Neil");
+    EXPECT_EQ(readers().readPasted(test::exampleText())[0].origin, Origin{});
+    EXPECT_EQ(onlyRefusal(readers().readPasted("")), "There is no entry in this text.");
+    EXPECT_EQ(onlyRefusal(readers().readPasted(std::string((1u << 20) + 1, ' '))), "The text is larger than 1 MB.");
+}
+
+TEST(EntryReaders, ReadTables)
+{
+    const std::vector<Entry> entries{upperEntry(), upperEntry("Bob", "B")};
+    const std::vector<HandedIn> read = readFile("x.CSV", entryTable(entries, test::field2000()));
+    ASSERT_EQ(read.size(), 2u);
+    EXPECT_EQ(read[1].entry, upperEntry("Bob", "B"));
+}
+
+TEST(EntryReaders, ReadMails)
+{
+    const std::vector<HandedIn> read = readFile("x.EML", kHeaders + "\r\n" + formText(upperEntry(), ""));
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry, upperEntry());
+    EXPECT_EQ(read[0].email, "ann@home.example");
+    EXPECT_EQ(read[0].origin, (Origin{"x.EML", "ann@home.example", 1, 60})) << "the mail's date, not the file's";
+}
+
+TEST(EntryReaders, ReadMailsThatArePagesOnly)
+{
+    const std::string page = "<div>" + test::replaced(formText(upperEntry()), "\n", "</div>\n<div>") + "</div>";
+    const std::vector<HandedIn> read =
+        readFile("x.EML", kHeaders + "Content-Type: text/html; charset=utf-8\r\n\r\n" + page);
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry, upperEntry());
+}
+
+TEST(EntryReaders, TakeAnEntryOnceThatAMailBringsTwice)
+{
+    const std::string text = formText(upperEntry());
+    const std::string mail = kHeaders +
+                             "Content-Type: multipart/mixed; boundary=o\r\n\r\n"
+                             "--o\r\nContent-Type: multipart/alternative; boundary=i\r\n\r\n"
+                             "--i\r\nContent-Type: text/plain\r\n\r\n" +
+                             text + "\r\n--i\r\nContent-Type: text/html\r\n\r\n<p>" + text +
+                             "\r\n--i--\r\n"
+                             "--o\r\nContent-Type: application/octet-stream; name=\"Ann Smith_as.THC\"\r\n\r\n" +
+                             savedFile(upperEntry()) + "\r\n--o--\r\n";
+    EXPECT_EQ(readFile("x.EML", mail).size(), 1u);
+}
+
+TEST(EntryReaders, ReadWhatIsAttached)
+{
+    const std::string mail = kHeaders +
+                             "Content-Type: multipart/mixed; boundary=o\r\n\r\n--o\r\n\r\nsee attachment\r\n"
+                             "--o\r\nContent-Disposition: attachment; filename=\"..\\\\..\\\\x.thc\"\r\n\r\n" +
+                             savedFile(upperEntry()) + "\r\n--o--\r\n";
+    const std::vector<HandedIn> read = readFile("x.EML", mail);
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry, upperEntry("Ann Smith", "AS"));
+    EXPECT_EQ(read[0].email, "ann@home.example");
+    EXPECT_EQ(read[0].origin.file, "x.EML");
+    EXPECT_THAT(read[0].refusals, IsEmpty());
+}
+
+TEST(EntryReaders, ReadMailsAttachedToMailsAFewTimesOver)
+{
+    std::string mail = kHeaders + "\r\n" + formText(upperEntry());
+    const auto wrap = [](const std::string& inside) {
+        return "From: boss@example.org\r\nContent-Type: application/octet-stream; name=\"f.eml\"\r\n\r\n" + inside;
+    };
+    mail = wrap(wrap(mail));
+    ASSERT_EQ(readFile("x.EML", mail).size(), 1u);
+    EXPECT_EQ(readFile("x.EML", mail)[0].entry, upperEntry());
+    EXPECT_EQ(onlyRefusal(readFile("x.EML", wrap(mail))), "Mails are attached to mails too many times over.");
+}
+
+TEST(EntryReaders, SayWhatAMailWithoutEntryBringsInstead)
+{
+    EXPECT_EQ(onlyRefusal(readFile("x.EML", kHeaders + "\r\nHello\r\n")), "There is no entry in this mail.");
+    EXPECT_EQ(onlyRefusal(readFile("x.EML", kHeaders + "Content-Type: text/html; name=ENTRYFORM.HTML\r\n\r\n<p>")),
+              "There is no entry in this mail. Attached: \"ENTRYFORM.HTML\".");
+}
+
+TEST(EntryReaders, RefuseAnAttachmentThatIsTooLarge)
+{
+    const std::string large(1'100'000, 'x');
+    EXPECT_EQ(onlyRefusal(readFile("x.TXT", large)), "The file is larger than 1 MB.");
+}
+
+} // namespace
+} // namespace tallyhoop

@@ -1,0 +1,147 @@
+// tests/intake/entry_table_test.cpp - entries from spreadsheets, and for them.
+#include "intake/entry_table.h"
+
+#include "base/lines.h"
+#include "base/windows1252.h"
+#include "intake/field_2000.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+using test::field2000;
+using test::replaced;
+using test::upperEntry;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::vector<HandedIn> readTable(std::string_view bytes)
+{
+    return readEntryTable(bytes, KnownTeams{field2000()}, {"POOL.CSV", {}, 1, {}});
+}
+
+std::string onlyRefusal(std::string_view bytes)
+{
+    const std::vector<HandedIn> read = readTable(bytes);
+    return read.size() == 1 && read[0].refusals.size() == 1 ? read[0].refusals[0] : "none, or several";
+}
+
+/// @returns the picks in the order of the board, each in quotation marks
+std::string picksOf(const Bracket& picks, char separator = ',')
+{
+    std::string cells;
+    for (const int first : {16, 47, 78, 109, 124})
+        for (int place = first; place < (first == 124 ? 127 : first + 15); ++place)
+            cells += std::string{separator} + '"' + picks.at(Position{place}) + '"';
+    return cells;
+}
+
+TEST(EntryTable, MayHaveNoHeader)
+{
+    const std::vector<HandedIn> read = readTable("Ann Smith,as,142" + picksOf(test::upperTeamsWin()) + "\r\n");
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry, upperEntry());
+    EXPECT_THAT(read[0].refusals, IsEmpty());
+    EXPECT_EQ(read[0].origin.number, 1);
+}
+
+TEST(EntryTable, MayBeSeparatedBySemicolonsAndInWindows1252)
+{
+    const std::vector<HandedIn> read = readTable("Zo\xE9;zo;142" + picksOf(test::upperTeamsWin(), ';'));
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry, upperEntry("Zo\xE9", "zo"));
+    EXPECT_EQ(readTable("\xEF\xBB\xBFZo\xC3\xA9;zo;142" + picksOf(test::upperTeamsWin(), ';'))[0].entry,
+              upperEntry("Zo\xE9", "zo"));
+}
+
+TEST(EntryTable, HasItsColumnsInAnyOrderByTheirTitles)
+{
+    std::string header = "E-Mail,INITIALS";
+    std::string row = "ann@example.org,as";
+    const Bracket picks = test::upperTeamsWin();
+    for (int game = 63; game >= 1; --game) {
+        header += ",\"Game " + std::to_string(game) + " (whatever)\"";
+        row += ",\"" + picks.at(positionOf(Game{game - 1})) + "\"";
+    }
+    const std::vector<HandedIn> read = readTable(header + ",Total,Name\r\n" + row + ",142,Ann Smith\r\n\r\n,,\r\n");
+    ASSERT_EQ(read.size(), 1u) << "empty rows are passed over";
+    EXPECT_EQ(read[0].entry, upperEntry());
+    EXPECT_EQ(read[0].email, "ann@example.org");
+    EXPECT_EQ(read[0].origin.number, 2) << "its row";
+}
+
+TEST(EntryTable, TakesSixtyThreeOtherTitlesForTheBoardsOrder)
+{
+    std::string header = "Name,Initials,Total";
+    for (int game = 0; game < 63; ++game)
+        header += ",G" + std::to_string(game);
+    const std::vector<HandedIn> read = readTable(header + "\nAnn Smith,as,142" + picksOf(test::upperTeamsWin()));
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry, upperEntry());
+}
+
+TEST(EntryTable, TakesPicksAsPeopleWriteThem)
+{
+    std::string picks = picksOf(test::upperTeamsWin());
+    picks = replaced(picks, "\"Duke\"", "\" duke \"");
+    picks = replaced(picks, "St. John's", "St. John\xE2\x80\x99s");
+    EXPECT_EQ(readTable("Ann Smith,as,142" + picks)[0].entry, upperEntry());
+}
+
+TEST(EntryTable, KeepsUnknownTeamsAndLeavesMissingCellsOpen)
+{
+    const std::vector<HandedIn> read = readTable("Ann Smith,as,142,Wisconson,Wisconsin");
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry.picks.at(Position{16}), "Wisconson");
+    EXPECT_EQ(read[0].entry.picks.at(Position{17}), "Wisconsin");
+    EXPECT_TRUE(read[0].entry.picks.isEmpty(Position{18}));
+}
+
+TEST(EntryTable, IsRefusedWhenItsHeaderLacksAColumn)
+{
+    EXPECT_EQ(onlyRefusal("Name,Initials,Game 1\nAnn,as,Arizona\n"),
+              "The header of the table lacks \"Total\", 62 of the 63 games.");
+    EXPECT_EQ(onlyRefusal("\"Name,Initials"), "A quotation mark in row 1 is not closed.");
+    EXPECT_EQ(onlyRefusal(""), "The table has no entries.");
+}
+
+TEST(EntryTable, RefusesARowWithTooManyColumns)
+{
+    EXPECT_EQ(onlyRefusal("Ann Smith,as,142" + picksOf(test::upperTeamsWin()) + ",Duke"),
+              "The row has 67 columns; there should be 66.");
+    EXPECT_THAT(readTable("Ann Smith,as,142" + picksOf(test::upperTeamsWin()) + ",,")[0].refusals, IsEmpty())
+        << "empty cells at the end of a row are the spreadsheet's";
+}
+
+TEST(EntryTable, IsWrittenWithAHeaderThatPeopleUnderstand)
+{
+    const std::vector<Entry> entries{upperEntry()};
+    const std::vector<std::string> lines = linesOf(entryTable(entries, field2000()));
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_TRUE(lines[0].starts_with("\xEF\xBB\xBFName,Initials,Total,\"Game 1 (West, round 1, game 1)\","));
+    EXPECT_TRUE(lines[0].ends_with(",Game 61 (semifinal 1),Game 62 (semifinal 2),Game 63 (final)"));
+    EXPECT_TRUE(lines[1].starts_with("Ann Smith,as,142,Arizona,Wisconsin,Texas,LSU,")) << lines[1];
+    EXPECT_TRUE(lines[1].ends_with(",Arizona,Duke,Duke"));
+}
+
+TEST(EntryTable, SurvivesTheWayThroughASpreadsheet)
+{
+    Entry strange = upperEntry("=HYPERLINK(\"x\");,'", "-a", "+100");
+    strange.picks.clear(kChampion);
+    strange.picks.clear(Position{47});
+    std::string everyByte; // that a name can hold
+    for (int byte = 0x20; byte < 0x100; ++byte)
+        everyByte.push_back(static_cast<char>(byte));
+    const std::vector<Entry> entries{upperEntry(), strange, upperEntry("'=x", "'@", " 99 "), upperEntry(everyByte)};
+    const std::string table = entryTable(entries, field2000());
+    EXPECT_THAT(table, testing::HasSubstr("\"'=HYPERLINK(\"\"x\"\");,'\",'-a,'+100"));
+    std::vector<Entry> again;
+    for (const HandedIn& handedIn : readTable(table))
+        again.push_back(handedIn.entry);
+    EXPECT_EQ(again, entries);
+}
+
+} // namespace
+} // namespace tallyhoop

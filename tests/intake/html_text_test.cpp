@@ -1,0 +1,59 @@
+// tests/intake/html_text_test.cpp - mails that are web pages.
+#include "intake/html_text.h"
+
+#include "intake/entry_text.h"
+#include "intake/field_2000.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+TEST(TextOfHtml, LeavesTagsOutAndBreaksLinesWhereTheyDo)
+{
+    EXPECT_EQ(textOfHtml("<p>One<b>two</b></p><div>three<br/>four</div>"), "\nOnetwo\n\nthree\nfour\n");
+    EXPECT_EQ(textOfHtml("a\r\nb"), "a  b") << "line ends of the source are blanks";
+}
+
+TEST(TextOfHtml, DecodesEntities)
+{
+    EXPECT_EQ(textOfHtml("St. John&#8217;s &amp; A&#x26;M&nbsp;&lt;x&gt; &Eacute &unknown; &"),
+              "St. John\xE2\x80\x99s & A&M\xC2\xA0<x> &Eacute &unknown; &");
+    EXPECT_EQ(textOfHtml("&#0;&#x110000;&#xD800;&#99999999999;"), "???&#99999999999;");
+}
+
+TEST(TextOfHtml, LeavesOutWhatIsNotShown)
+{
+    EXPECT_EQ(textOfHtml("<html><head><title>t</title><style>p{}</style></head><body>a<!-- > b -->c"
+                         "<SCRIPT>Name: x</SCRIPT>d</body>"),
+              "acd");
+    EXPECT_EQ(textOfHtml("a<script>b"), "a") << "never closed";
+    EXPECT_EQ(textOfHtml("a<!-- b"), "a");
+}
+
+TEST(TextOfHtml, TakesALoneAngleBracketForItself)
+{
+    EXPECT_EQ(textOfHtml("1 < 2 <3"), "1 < 2 <3");
+    EXPECT_EQ(textOfHtml("a <b"), "a <b") << "no tag: it never ends";
+    EXPECT_EQ(textOfHtml("<"), "<");
+}
+
+TEST(TextOfHtml, GivesTheEntryOfAMailProgramsPage)
+{
+    std::string page = test::replaced(test::exampleText(), "'", "&#39;");
+    page = test::replaced(page, "\xE2\x80\x99", "&rsquo;");
+    page = test::replaced(page, "Miami,, FL", "Miami,,&nbsp;FL");
+    page = test::replaced(page, "zoe@example.org", "<a href=\"mailto:zoe@example.org\">zoe@example.org</a>");
+    page = "<html><head><style>.x{}</style></head><body dir=ltr><div>Hi,<br></div><div>" +
+           test::replaced(page, "\n", "</div>\r\n<div>") + "</div></body></html>";
+    const std::vector<HandedIn> read = readEntryTexts(textOfHtml(page), KnownTeams{test::field2000()}, {});
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_THAT(read[0].refusals, testing::IsEmpty());
+    EXPECT_EQ(read[0].entry.name, "Zo\xE9 O\x92Neil");
+    EXPECT_EQ(read[0].email, "zoe@example.org");
+    EXPECT_EQ(read[0].entry.picks, test::upperTeamsWin());
+}
+
+} // namespace
+} // namespace tallyhoop

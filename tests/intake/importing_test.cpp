@@ -1,0 +1,206 @@
+// tests/intake/importing_test.cpp - what is written, what is not, and what is said about it.
+#include "intake/importing.h"
+
+#include "base/windows1252.h"
+#include "fakes/scratch_folder.h"
+#include "files/player_names_file.h"
+#include "files/selection_file.h"
+#include "intake/field_2000.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+namespace fs = std::filesystem;
+using test::ScratchFolder;
+using test::upperEntry;
+using testing::HasSubstr;
+
+HandedIn handedIn(Entry entry, std::string email = {})
+{
+    return {std::move(entry), std::move(email), {"x.EML", "s@example.org", 1, {}}, {}, true};
+}
+
+Review reviewed(const ScratchFolder& scratch, std::vector<HandedIn> entries)
+{
+    return reviewOf(std::move(entries), scratch.folder(), test::field2000());
+}
+
+ImportOutcome imported(const ScratchFolder& scratch, std::vector<HandedIn> entries)
+{
+    return importTicked(reviewed(scratch, std::move(entries)), scratch.folder());
+}
+
+std::string playerList(std::vector<PlayerRecord> records) { return playerNamesFile(records); }
+
+/// The bytes that a save on the board writes, line by line.
+std::string savedAnn()
+{
+    std::string bytes;
+    for (const Position position : allPositions())
+        bytes += test::upperTeamsWin().at(position) + "\r\n";
+    return bytes + "AS\r\nAnn Smith\r\n142\r\n*END*\r\n";
+}
+
+TEST(Import, WritesWhatASaveOnTheBoardWould)
+{
+    const ScratchFolder scratch;
+    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry(), "ann@example.org")});
+    EXPECT_EQ(outcome.created, 1u);
+    EXPECT_EQ(scratch.get("Ann Smith_as.THC"), savedAnn());
+    EXPECT_EQ(scratch.get("PLAYERNAMES.CSV"),
+              playerList({{"Ann Smith,as", "ANN SMITH_AS.THC", "ann@example.org", ""}}));
+    EXPECT_EQ(outcome.summary, "1 of 1 entry imported.\r\n"
+                               "  1 new\r\n"
+                               "\r\n"
+                               "1 player was added to the player list.");
+}
+
+TEST(Import, ReplacesTheFileThatIsHereUnderItsOwnName)
+{
+    const ScratchFolder scratch;
+    scratch.put("ANN SMITH_AS.thc", "old");
+    scratch.put("PLAYERNAMES.CSV", playerList({{"Ann Smith,AS", "ANN SMITH_AS.THC", "a@example.org", "1"}}));
+    const std::string list = scratch.get("PLAYERNAMES.CSV");
+    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry(), "other@example.org")});
+    EXPECT_EQ(outcome.replaced, 1u);
+    EXPECT_EQ(scratch.get("ANN SMITH_AS.thc"), savedAnn());
+    EXPECT_FALSE(scratch.has("Ann Smith_as.THC"));
+    EXPECT_EQ(scratch.get("PLAYERNAMES.CSV"), list) << "who is in it stays as entered";
+    EXPECT_EQ(outcome.summary, "1 of 1 entry imported.\r\n  1 replaced");
+}
+
+TEST(Import, WritesNothingThatIsNotTicked)
+{
+    const ScratchFolder scratch;
+    Entry open = upperEntry("Bob", "B");
+    open.picks.clear(kChampion);
+    const ImportOutcome outcome = imported(scratch, {handedIn(open), handedIn(upperEntry("", "C"))});
+    EXPECT_FALSE(scratch.has("Bob_B.THC"));
+    EXPECT_FALSE(scratch.has("PLAYERNAMES.CSV"));
+    EXPECT_EQ(outcome.summary, "0 of 2 entries imported.\r\n"
+                               "  1 not ticked\r\n"
+                               "\r\n"
+                               "Refused:\r\n"
+                               "  x.EML: The name is missing.");
+}
+
+TEST(Import, TakesAnIncompleteOneThatIsTicked)
+{
+    const ScratchFolder scratch;
+    Entry open = upperEntry("Bob", "B");
+    open.picks.clear(kChampion);
+    Review review = reviewed(scratch, {handedIn(open)});
+    setTicked(review, 0, true);
+    EXPECT_EQ(importTicked(review, scratch.folder()).created, 1u);
+    EXPECT_EQ(scratch.get("Bob_B.THC"), selectionFile(open));
+}
+
+TEST(Import, PutsAPlayerIntoTheListWhoseSelectionIsHereAlready)
+{
+    const ScratchFolder scratch;
+    scratch.put("Ann Smith_as.THC", savedAnn());
+    const fs::file_time_type before = fs::last_write_time(scratch.path() / "Ann Smith_as.THC");
+    Review review = reviewed(scratch, {handedIn(upperEntry())});
+    setTicked(review, 0, true);
+    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    EXPECT_EQ(outcome.unchanged, 1u);
+    EXPECT_EQ(outcome.playersAdded, 1u);
+    EXPECT_EQ(fs::last_write_time(scratch.path() / "Ann Smith_as.THC"), before) << "not written again";
+}
+
+TEST(Import, LeavesAFileAloneThatChangedSinceTheReview)
+{
+    const ScratchFolder scratch;
+    const Review review = reviewed(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Bob", "B"))});
+    scratch.put("Ann Smith_as.THC", "somebody else's");
+    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    EXPECT_EQ(scratch.get("Ann Smith_as.THC"), "somebody else's");
+    EXPECT_TRUE(scratch.has("Bob_B.THC"));
+    EXPECT_EQ(outcome.summary, "1 of 2 entries imported.\r\n"
+                               "  1 new\r\n"
+                               "\r\n"
+                               "Not written:\r\n"
+                               "  Ann Smith_as.THC: The file has been changed since the review.\r\n"
+                               "\r\n"
+                               "1 player was added to the player list.");
+    EXPECT_THAT(scratch.get("PLAYERNAMES.CSV"), testing::Not(HasSubstr("Ann"))) << "nobody without a selection";
+}
+
+TEST(Import, SaysWhyAFileCannotBeWritten)
+{
+    const ScratchFolder scratch;
+    fs::create_directory(scratch.path() / "Ann Smith_as.THC");
+    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Bob", "B"))});
+    ASSERT_EQ(outcome.notWritten.size(), 1u);
+    EXPECT_EQ(outcome.notWritten[0].row, 0u);
+    EXPECT_EQ(outcome.created, 1u);
+    EXPECT_TRUE(fs::is_directory(scratch.path() / "Ann Smith_as.THC"));
+}
+
+TEST(Import, WritesOnlyTheLatestWhenSeveralAreTickedForOneFile)
+{
+    const ScratchFolder scratch;
+    Entry other = upperEntry();
+    other.picks.put(kChampion, "Arizona");
+    Review review = reviewed(scratch, {handedIn(other), handedIn(upperEntry())});
+    review.rows[0].isTicked = review.rows[1].isTicked = true;
+    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    EXPECT_EQ(scratch.get("Ann Smith_as.THC"), savedAnn());
+    ASSERT_EQ(outcome.notWritten.size(), 1u);
+    EXPECT_EQ(outcome.notWritten[0].row, 0u);
+    EXPECT_EQ(outcome.notWritten[0].reason, "Row 2 is for the same file.");
+}
+
+TEST(Import, LeavesAFaultyPlayerListAsItIs)
+{
+    const ScratchFolder scratch;
+    scratch.put("PLAYERNAMES.CSV", "by hand\r\n");
+    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry())});
+    EXPECT_EQ(scratch.get("PLAYERNAMES.CSV"), "by hand\r\n");
+    EXPECT_TRUE(scratch.has("Ann Smith_as.THC"));
+    EXPECT_THAT(outcome.summary, HasSubstr("No player was added to the player list. There are faulty records in it."));
+}
+
+TEST(Import, SaysWhoseAddressDoesNotFit)
+{
+    const ScratchFolder scratch;
+    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry(), std::string(40, 'a') + "@example.org")});
+    EXPECT_THAT(outcome.summary, HasSubstr("  Ann Smith,as: the e-mail address does not fit into the list and was left "
+                                           "out."));
+    EXPECT_THAT(scratch.get("PLAYERNAMES.CSV"), testing::Not(HasSubstr("aaa")));
+}
+
+TEST(Import, StopsWhenItIsToldTo)
+{
+    const ScratchFolder scratch;
+    const Review review = reviewed(
+        scratch, {handedIn(upperEntry("A", "A")), handedIn(upperEntry("B", "B")), handedIn(upperEntry("C", "C"))});
+    const ImportOutcome outcome = importTicked(
+        review, scratch.folder(), [] { return false; }, 1);
+    EXPECT_EQ(outcome.created, 1u);
+    EXPECT_TRUE(scratch.has("A_A.THC"));
+    EXPECT_FALSE(scratch.has("B_B.THC"));
+    EXPECT_THAT(outcome.summary, HasSubstr("  B_B.THC: The import was stopped before.\r\n  C_C.THC: The import"));
+}
+
+TEST(Import, WritesHundredsSeveralAtATime)
+{
+    const ScratchFolder scratch;
+    std::vector<HandedIn> entries;
+    for (int i = 0; i < 300; ++i)
+        entries.push_back(handedIn(upperEntry("Player " + std::to_string(i), "P"), "p@example.org"));
+    const ImportOutcome outcome = imported(scratch, entries);
+    EXPECT_EQ(outcome.created, 300u);
+    EXPECT_EQ(outcome.playersAdded, 300u);
+    EXPECT_EQ(scratch.folder().files(".THC").size(), 300u);
+    EXPECT_EQ(readPlayerNames(scratch.folder()).size(), 300u);
+    EXPECT_EQ(readSelectionFile(scratch.path() / "Player 299_P.THC").value.name, "Player 299");
+    EXPECT_EQ(std::distance(fs::directory_iterator{scratch.path()}, {}), 301) << "no temporaries are left";
+}
+
+} // namespace
+} // namespace tallyhoop

@@ -1,0 +1,159 @@
+// tests/intake/mail_parts_test.cpp - mails in the forms that mail programs give them.
+#include "intake/mail_parts.h"
+
+#include "intake/linked_mail_library.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+using testing::IsEmpty;
+using Kind = MailPart::Kind;
+
+std::vector<MailPart> partsOf(std::string_view mail)
+{
+    const Result<std::vector<MailPart>> parts = mailParts(mail, &test::linkedMailLibrary());
+    if (parts)
+        return *parts;
+    ADD_FAILURE() << parts.failure().message;
+    return {};
+}
+
+std::string failureOf(std::string_view mail)
+{
+    const Result<std::vector<MailPart>> parts = mailParts(mail, &test::linkedMailLibrary());
+    return parts ? "none" : parts.failure().message;
+}
+
+/// Parts in parts, so many times over, a text at the bottom.
+std::string nested(int depth)
+{
+    std::string mail = "From: a@example.org\nMIME-Version: 1.0\n";
+    for (int i = 0; i < depth; ++i) {
+        const std::string boundary = "b" + std::to_string(i);
+        mail += "Content-Type: multipart/mixed; boundary=" + boundary + "\n\n--" + boundary + "\n";
+    }
+    return mail + "Content-Type: text/plain\n\nbottom\n";
+}
+
+TEST(MailParts, AreOneTextInAPlainMail)
+{
+    const auto parts = partsOf("From: \"Smith, Ann\" <ann@example.org>\r\n"
+                               "Date: Tue, 10 Mar 2026 08:00:00 +0100\r\n"
+                               "Subject: x\r\n\r\nHello\r\nBob\r\n");
+    ASSERT_EQ(parts.size(), 1u);
+    EXPECT_EQ(parts[0].kind, Kind::Text);
+    EXPECT_EQ(parts[0].content, "Hello\r\nBob\r\n");
+    EXPECT_EQ(parts[0].sender, "ann@example.org");
+    EXPECT_EQ(parts[0].date, 1773126000) << "7 o'clock in UTC, 20,522 days after 1970";
+    EXPECT_EQ(parts[0].message, 0);
+}
+
+TEST(MailParts, AreDecoded)
+{
+    EXPECT_EQ(partsOf("Content-Type: text/plain; charset=utf-8\nContent-Transfer-Encoding: quoted-printable\n\n"
+                      "Zo=C3=A9 and a long=\n line=3D1\n")[0]
+                  .content,
+              "Zo\xC3\xA9 and a long line=1\n");
+    EXPECT_EQ(
+        partsOf("Content-Type: text/plain; charset=utf-8\nContent-Transfer-Encoding: base64\n\nWm/DqQ==\n")[0].content,
+        "Zo\xC3\xA9");
+}
+
+TEST(MailParts, AreInUtf8WhateverTheirCharacterSet)
+{
+    EXPECT_EQ(partsOf("Content-Type: text/plain; charset=iso-8859-1\n\nZo\xE9 \x92")[0].content,
+              "Zo\xC3\xA9 \xE2\x80\x99")
+        << "Windows-1252 under a false name";
+    EXPECT_EQ(partsOf("Content-Type: text/plain; charset=iso-8859-2\n\n\xA3")[0].content, "\xC5\x81");
+    EXPECT_EQ(
+        partsOf("Content-Type: text/plain; charset=utf-16le\nContent-Transfer-Encoding: base64\n\nWgDpAA==")[0].content,
+        "Z\xC3\xA9");
+    EXPECT_EQ(partsOf("Content-Type: text/plain; charset=no-such-set\n\nZo\xE9")[0].content, "Zo\xC3\xA9");
+    EXPECT_EQ(partsOf("\nZo\xC3\xA9")[0].content, "Zo\xC3\xA9") << "says nothing";
+}
+
+TEST(MailParts, AreTextPageAndFiles)
+{
+    const auto parts = partsOf("From: a@example.org\nContent-Type: multipart/mixed; boundary=out\n\n"
+                               "--out\nContent-Type: multipart/alternative; boundary=in\n\n"
+                               "--in\nContent-Type: text/plain\n\nplain\n"
+                               "--in\nContent-Type: text/html\n\n<p>page\n--in--\n"
+                               "--out\nContent-Type: application/octet-stream; name=\"Zo=?utf-8?q?=C3=A9?=_ZO.THC\"\n"
+                               "Content-Disposition: attachment; filename*=utf-8''Zo%C3%A9_ZO.THC\n"
+                               "Content-Transfer-Encoding: base64\n\nQQ0KQg==\n"
+                               "--out\nContent-Type: image/png\n\nx\n--out--\n");
+    ASSERT_EQ(parts.size(), 3u) << "a picture without a name is of no use";
+    EXPECT_EQ(parts[0].kind, Kind::Text);
+    EXPECT_EQ(parts[0].content, "plain");
+    EXPECT_EQ(parts[1].kind, Kind::Html);
+    EXPECT_EQ(parts[2].kind, Kind::File);
+    EXPECT_EQ(parts[2].name, "Zo\xE9_ZO.THC");
+    EXPECT_EQ(parts[2].content, "A\r\nB") << "byte for byte";
+}
+
+TEST(MailParts, OfAForwardedMessageHaveItsSender)
+{
+    const auto parts = partsOf("From: boss@example.org\nContent-Type: multipart/mixed; boundary=x\n\n"
+                               "--x\n\nsee below\n"
+                               "--x\nContent-Type: message/rfc822\n\n"
+                               "From: ann@example.org\nDate: Thu, 1 Jan 1970 00:01:00 +0000\n\nmine\n--x--\n");
+    ASSERT_EQ(parts.size(), 2u);
+    EXPECT_EQ(parts[0].sender, "boss@example.org");
+    EXPECT_FALSE(parts[0].date);
+    EXPECT_EQ(parts[1].sender, "ann@example.org");
+    EXPECT_EQ(parts[1].date, 60);
+    EXPECT_NE(parts[1].message, parts[0].message);
+}
+
+TEST(MailParts, AreFoundInAMailThatEndsTooEarly)
+{
+    const auto parts = partsOf("Content-Type: multipart/mixed; boundary=x\n\n--x\n\nfirst\n--x\nContent-Type: te");
+    ASSERT_FALSE(parts.empty());
+    EXPECT_EQ(parts[0].content, "first");
+}
+
+TEST(MailParts, AreNoneInWhatIsNoMail)
+{
+    for (const std::string_view bytes : {std::string_view{}, std::string_view{"\0\1\2", 3}}) {
+        const Result<std::vector<MailPart>> parts = mailParts(bytes, &test::linkedMailLibrary());
+        EXPECT_TRUE(!parts || parts->empty() || parts->front().content.size() <= bytes.size());
+    }
+}
+
+TEST(MailParts, AreReadToALimitedDepth)
+{
+    EXPECT_EQ(partsOf(nested(18)).size(), 1u);
+    EXPECT_THAT(partsOf(nested(21)), IsEmpty());
+    EXPECT_THAT(partsOf(nested(400)), IsEmpty());
+    std::string messages = "From: a@example.org\n";
+    for (int i = 0; i < 20'000; ++i)
+        messages += "Content-Type: message/rfc822\n\n";
+    EXPECT_THAT(partsOf(messages), IsEmpty());
+}
+
+TEST(MailParts, AreNotTooMany)
+{
+    const std::string head = "Content-Type: multipart/mixed; boundary=x\n\n";
+    std::string parts;
+    for (int i = 0; i < 499; ++i)
+        parts += "--x\n\n.\n";
+    EXPECT_EQ(partsOf(head + parts + "--x--\n").size(), 499u) << "500 with the one that holds them";
+    EXPECT_EQ(failureOf(head + parts + "--x\n\n.\n--x--\n"), "The mail has too many parts.");
+    std::string bomb = head;
+    while (bomb.size() < 1'000'000)
+        bomb += "--x\n\n";
+    EXPECT_EQ(failureOf(bomb), "The mail has too many parts.");
+}
+
+TEST(MailParts, NeedTheLibrary)
+{
+    const Result<std::vector<MailPart>> parts = mailParts("\nx", nullptr);
+    ASSERT_FALSE(parts);
+    EXPECT_EQ(parts.failure().message, "The library for mail messages, gmime 3, could not be loaded.");
+}
+
+} // namespace
+} // namespace tallyhoop

@@ -1,0 +1,218 @@
+// tests/intake/review_test.cpp - what an import would do, row by row.
+#include "intake/review.h"
+
+#include "base/windows1252.h"
+#include "fakes/scratch_folder.h"
+#include "files/player_names_file.h"
+#include "files/selection_file.h"
+#include "intake/field_2000.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+using test::ScratchFolder;
+using test::upperEntry;
+using testing::ElementsAre;
+
+HandedIn handedIn(Entry entry, std::optional<std::int64_t> date = {}, std::string email = {})
+{
+    return {std::move(entry), std::move(email), {"x.EML", "s@example.org", 1, date}, {}, true};
+}
+
+Entry withChampion(Entry entry, std::string_view champion)
+{
+    entry.picks.put(kChampion, champion);
+    return entry;
+}
+
+std::string saved(Entry entry)
+{
+    entry.initials = upperCase(entry.initials);
+    return selectionFile(entry);
+}
+
+Review reviewed(const ScratchFolder& scratch, std::vector<HandedIn> entries)
+{
+    return reviewOf(std::move(entries), scratch.folder(), test::field2000());
+}
+
+std::vector<bool> ticksOf(const Review& review)
+{
+    std::vector<bool> ticks;
+    for (const ReviewRow& row : review.rows)
+        ticks.push_back(row.isTicked);
+    return ticks;
+}
+
+TEST(Review, ProposesANewFileForANewEntry)
+{
+    const ScratchFolder scratch;
+    const Review review = reviewed(scratch, {handedIn(upperEntry())});
+    ASSERT_EQ(review.rows.size(), 1u);
+    const ReviewRow& row = review.rows[0];
+    EXPECT_EQ(row.fileName, "Ann Smith_as.THC") << "initials as typed, as a save proposes";
+    EXPECT_EQ(row.file, scratch.path() / "Ann Smith_as.THC");
+    EXPECT_EQ(row.effect, Effect::New);
+    EXPECT_EQ(row.picks, 63);
+    EXPECT_EQ(row.words, "New.");
+    EXPECT_TRUE(row.isTicked);
+    EXPECT_EQ(review.head, "1 entry: 1 new.");
+}
+
+TEST(Review, FindsTheVerySameThatIsHereAlready)
+{
+    const ScratchFolder scratch;
+    scratch.put("ann smith_AS.thc", saved(upperEntry()));
+    const ReviewRow row = reviewed(scratch, {handedIn(upperEntry())}).rows.at(0);
+    EXPECT_EQ(row.effect, Effect::Identical);
+    EXPECT_EQ(row.fileName, "ann smith_AS.thc") << "the one that is here, in any case of letters";
+    EXPECT_EQ(row.words, "Identical to what is here.");
+    EXPECT_FALSE(row.isTicked);
+}
+
+TEST(Review, CountsThePicksThatDifferFromWhatItReplaces)
+{
+    const ScratchFolder scratch;
+    Entry here = withChampion(upperEntry(), "Arizona");
+    here.picks.clear(Position{17});
+    scratch.put("Ann Smith_as.THC", saved(here));
+    const ReviewRow row = reviewed(scratch, {handedIn(upperEntry())}).rows.at(0);
+    EXPECT_EQ(row.effect, Effect::Replaces);
+    EXPECT_EQ(row.differentPicks, 2);
+    EXPECT_EQ(row.words, "Replaces (2 picks differ).");
+    EXPECT_TRUE(row.isTicked);
+}
+
+TEST(Review, SaysWhenOnlyTheTotalDiffersOrWhatIsHereIsUnreadable)
+{
+    const ScratchFolder scratch;
+    scratch.put("Ann Smith_as.THC", saved(upperEntry("Ann Smith", "as", "99")));
+    EXPECT_EQ(reviewed(scratch, {handedIn(upperEntry())}).rows.at(0).words,
+              "Replaces (same picks; name, initials or total differ).");
+    scratch.put("Ann Smith_as.THC", "damaged");
+    EXPECT_EQ(reviewed(scratch, {handedIn(upperEntry())}).rows.at(0).words, "Replaces (63 picks differ).");
+}
+
+TEST(Review, LeavesIncompleteEntriesUnticked)
+{
+    const ScratchFolder scratch;
+    Entry open = upperEntry();
+    for (const int place : {92, 125, 126})
+        open.picks.clear(Position{place});
+    const Review review = reviewed(scratch, {handedIn(open)});
+    EXPECT_EQ(review.rows.at(0).words, "New. Incomplete: 60 of 63 picks.");
+    EXPECT_EQ(review.rows.at(0).picks, 60);
+    EXPECT_FALSE(review.rows.at(0).isTicked);
+    EXPECT_EQ(review.head, "1 entry: 1 new, 1 incomplete.");
+}
+
+TEST(Review, LeavesLateEntriesUntickedAndSaysSoInItsHead)
+{
+    const ScratchFolder scratch;
+    Entry results{startingBracket(test::field2000()), "A", "FinalResults", "", {}};
+    scratch.put("TALLYHOOP.THS", selectionFile(results));
+    EXPECT_TRUE(reviewed(scratch, {handedIn(upperEntry())}).rows.at(0).isTicked) << "no game has been played yet";
+
+    results.picks.put(Position{16}, "Arizona");
+    scratch.put("TALLYHOOP.THS", selectionFile(results));
+    const Review review = reviewed(scratch, {handedIn(upperEntry())});
+    EXPECT_EQ(review.resultsHere, 1);
+    EXPECT_EQ(review.rows.at(0).words, "New. Late.");
+    EXPECT_FALSE(review.rows.at(0).isTicked);
+    EXPECT_EQ(review.head, "1 entry: 1 new. They are late: the results of 1 game are entered already.");
+}
+
+TEST(Review, RefusesWithEveryReason)
+{
+    const ScratchFolder scratch;
+    const Review review = reviewed(scratch, {handedIn(upperEntry("", "x", "20"))});
+    const ReviewRow& row = review.rows.at(0);
+    EXPECT_EQ(row.effect, Effect::Refused);
+    EXPECT_EQ(row.fileName, "");
+    EXPECT_THAT(row.reasons,
+                ElementsAre("The name is missing.", "The predicted total \"20\" is not a number from 50 to 250."));
+    EXPECT_EQ(row.words, "Refused: The name is missing. The predicted total \"20\" is not a number from 50 to 250.");
+    EXPECT_FALSE(row.isTicked);
+}
+
+TEST(Review, RefusesEverythingWhereNothingMayBeSaved)
+{
+    const ScratchFolder scratch;
+    Field open = test::field2000();
+    open.finalized = "0";
+    EXPECT_THAT(reviewOf({handedIn(upperEntry())}, scratch.folder(), open).rows.at(0).reasons,
+                ElementsAre("The field is not finalized yet."));
+    scratch.put("TALLYHOOP.INI", "1\r\n");
+    EXPECT_THAT(reviewed(scratch, {handedIn(upperEntry())}).rows.at(0).reasons,
+                ElementsAre("The demo pool takes no new selections."));
+}
+
+TEST(Review, TicksTheLatestOfSeveralForOneFile)
+{
+    const ScratchFolder scratch;
+    const Review byOrder =
+        reviewed(scratch, {handedIn(upperEntry()), handedIn(withChampion(upperEntry("Ann Smith", "AS"), "Arizona"))});
+    EXPECT_THAT(ticksOf(byOrder), ElementsAre(false, true));
+    EXPECT_EQ(byOrder.rows[0].words, "New. Handed in again later: row 2.");
+    EXPECT_EQ(byOrder.rows[1].words, "New.");
+
+    const Review byDate =
+        reviewed(scratch, {handedIn(upperEntry(), 2000), handedIn(withChampion(upperEntry(), "Arizona"), 1000)});
+    EXPECT_THAT(ticksOf(byDate), ElementsAre(true, false));
+    EXPECT_EQ(byDate.rows[1].words, "New. Handed in again later: row 1.");
+}
+
+TEST(Review, SaysWhenALaterOneIsTheSame)
+{
+    const ScratchFolder scratch;
+    const Review review = reviewed(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Ann Smith", "AS"))});
+    EXPECT_EQ(review.rows[0].words, "New. The same as row 2.");
+}
+
+TEST(Review, TicksAnEarlierOneWhenTheLatestIsIncomplete)
+{
+    const ScratchFolder scratch;
+    Entry open = upperEntry();
+    open.picks.clear(kChampion);
+    EXPECT_THAT(ticksOf(reviewed(scratch, {handedIn(upperEntry()), handedIn(open)})), ElementsAre(true, false));
+}
+
+TEST(Review, HasOneTickForEachFile)
+{
+    const ScratchFolder scratch;
+    Review review = reviewed(scratch, {handedIn(upperEntry()), handedIn(withChampion(upperEntry(), "Arizona")),
+                                       handedIn(upperEntry("Bob", "B")), handedIn(upperEntry("", "B"))});
+    setTicked(review, 0, true);
+    EXPECT_THAT(ticksOf(review), ElementsAre(true, false, true, false));
+    setTicked(review, 2, false);
+    setTicked(review, 3, true);
+    EXPECT_THAT(ticksOf(review), ElementsAre(true, false, false, false)) << "a refused one gets no tick";
+}
+
+TEST(Review, WarnsWhenAnotherAddressReplacesASelection)
+{
+    const ScratchFolder scratch;
+    scratch.put("Ann Smith_as.THC", saved(withChampion(upperEntry(), "Arizona")));
+    scratch.put("PLAYERNAMES.CSV", playerNamesFile(std::vector<PlayerRecord>{
+                                       {"Ann Smith,as", "ANN SMITH_AS.THC", "ann@example.org", ""}}));
+    const Review review = reviewed(scratch, {handedIn(upperEntry(), {}, "Ann@Example.org")});
+    EXPECT_EQ(review.rows.at(0).words, "Replaces (1 pick differs).");
+    EXPECT_EQ(reviewed(scratch, {handedIn(upperEntry(), {}, "eve@example.org")}).rows.at(0).words,
+              "Replaces (1 pick differs). The player list has another address: ann@example.org.");
+}
+
+TEST(Review, StopsWhenItIsToldTo)
+{
+    const ScratchFolder scratch;
+    int steps = 0;
+    const Review review =
+        reviewOf({handedIn(upperEntry("A", "A")), handedIn(upperEntry("B", "B")), handedIn(upperEntry("C", "C"))},
+                 scratch.folder(), test::field2000(), [&] { return ++steps < 2; });
+    EXPECT_EQ(review.rows.size(), 2u);
+}
+
+} // namespace
+} // namespace tallyhoop
