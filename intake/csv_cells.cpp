@@ -43,6 +43,7 @@ public:
     explicit CsvReader(std::string_view text) : m_text{text}
     {
         if (text.starts_with(kSeparatorLine) && text.size() > kSeparatorLine.size() &&
+            std::string_view{",;\t"}.find(text[kSeparatorLine.size()]) != std::string_view::npos &&
             (text.substr(kSeparatorLine.size() + 1).find_first_of("\r\n") == 0)) {
             m_separator = text[kSeparatorLine.size()];
             m_at = kSeparatorLine.size() + 1;

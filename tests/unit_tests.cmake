@@ -3,6 +3,7 @@ include(GoogleTest)
 
 add_library(tallyhoop_sample_brackets STATIC 
     files/naive_reader.cpp
+    intake/field_2000.cpp
     pool/naive_scorer.cpp
     pool/outlook/brute_force.cpp
     pool/outlook/invented_pools.cpp

@@ -43,18 +43,19 @@ TEST_P(Replay, FindsNothingWrongWithAnyFileOfAnyCorpus)
 
 INSTANTIATE_TEST_SUITE_P(
     Of, Replay,
-    testing::Values(Replayed{"setup", &fuzz::setup, "setup"}, Replayed{"selection", &fuzz::selection, "selection"},
-                    Replayed{"players", &fuzz::players, "players"}, Replayed{"teams", &fuzz::teams, "teams"},
-                    Replayed{"settings", &fuzz::settings, "settings"}, Replayed{"scoring", &fuzz::scoring, "scoring"},
-                    Replayed{"list_search", &fuzz::list_search, "list_search"},
-                    Replayed{"outlook", &fuzz::outlook, "pools"},
-                    Replayed{"standings", &fuzz::standings, "pools"},
-                    Replayed{"player_listing", &fuzz::player_listing, "pools"},
-                    Replayed{"team_selection_summary", &fuzz::team_selection_summary, "pools"},
-                    Replayed{"team_selection_detail", &fuzz::team_selection_detail, "pools"},
-                    Replayed{"player_selection_detail", &fuzz::player_selection_detail, "pools"},
-                    Replayed{"results_by_player", &fuzz::results_by_player, "pools"},
-                    Replayed{"results_by_team", &fuzz::results_by_team, "pools"}),
+    testing::Values(
+        Replayed{"setup", &fuzz::setup, "setup"}, Replayed{"selection", &fuzz::selection, "selection"},
+        Replayed{"players", &fuzz::players, "players"}, Replayed{"teams", &fuzz::teams, "teams"},
+        Replayed{"settings", &fuzz::settings, "settings"}, Replayed{"entry_text", &fuzz::entry_text, "entry_texts"},
+        Replayed{"entry_table", &fuzz::entry_table, "tables"}, Replayed{"html_text", &fuzz::html_text, "entry_texts"},
+        Replayed{"scoring", &fuzz::scoring, "scoring"}, Replayed{"list_search", &fuzz::list_search, "list_search"},
+        Replayed{"outlook", &fuzz::outlook, "pools"}, Replayed{"standings", &fuzz::standings, "pools"},
+        Replayed{"player_listing", &fuzz::player_listing, "pools"},
+        Replayed{"team_selection_summary", &fuzz::team_selection_summary, "pools"},
+        Replayed{"team_selection_detail", &fuzz::team_selection_detail, "pools"},
+        Replayed{"player_selection_detail", &fuzz::player_selection_detail, "pools"},
+        Replayed{"results_by_player", &fuzz::results_by_player, "pools"},
+        Replayed{"results_by_team", &fuzz::results_by_team, "pools"}),
     [](const auto& values) { return std::string{values.param.name}; });
 
 } // namespace

@@ -22,6 +22,14 @@ Complaint teams(std::string_view bytes);
 Complaint settings(std::string_view bytes);
 /// @}
 
+/// @name The readers of what is handed in: the bytes are the text, the table, the page, the mail.
+/// @{
+Complaint entry_text(std::string_view bytes);
+Complaint entry_table(std::string_view bytes);
+Complaint html_text(std::string_view bytes);
+Complaint mail(std::string_view bytes); ///< linked only where the mail library is
+/// @}
+
 /// Scores one bracket against another, and compares with a slower scorer.
 /// @param bytes lines separated by LF: six payoffs, the tie-breaker, 127 picks, 127 results; missing ones are empty
 Complaint scoring(std::string_view bytes);

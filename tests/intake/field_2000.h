@@ -1,7 +1,7 @@
 // tests/intake/field_2000.h - a finalized field, entries for it, and their text as the entry form writes it.
 #pragma once
 
-#include "intake/handed_in.h"
+#include "pool/entry.h"
 
 #include <string>
 #include <string_view>
