@@ -7,6 +7,8 @@ exec </dev/null
 . scripts/build.sh
 
 install_packages build screen test bench
+command -v npm >/dev/null || install_packages npm
+scripts/fetch_axe.sh build-tests/axe
 # What people run is tested as a whole; its parts only where the sanitizers see more than the tests do.
 build_preset release build -DTALLYHOOP_TESTS=ON -DTALLYHOOP_UNIT_TESTS=OFF -DTALLYHOOP_BENCH=ON
 build_preset sanitizers build-sanitizers -DTALLYHOOP_TESTS=ON

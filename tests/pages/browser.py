@@ -112,9 +112,10 @@ class Browser:
     def clipboard(self):
         return self.driver.execute_async_script("navigator.clipboard.readText().then(arguments[0], arguments[0])")
 
-    def may_use_clipboard(self, may):
+    def allow_clipboard(self):
+        """Without the question that a person would be asked."""
         for name in "clipboard-read", "clipboard-write":
-            self.command("Browser.setPermission", permission={"name": name}, setting="granted" if may else "denied")
+            self.command("Browser.setPermission", permission={"name": name}, setting="granted")
 
     def printed(self, width, height):
         """The page as printed on paper of a size in inches: a PDF."""

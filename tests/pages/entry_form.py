@@ -39,6 +39,11 @@ def presses(choices):
 UPPER_TEAMS = presses([0] * 63)
 
 
+def bytes_of(text):
+    """In Windows-1252, whose five bytes without a character are the controls of the same number, as in the program."""
+    return b"".join(bytes([ord(one)]) if one in "\x81\x8d\x8f\x90\x9d" else one.encode("cp1252") for one in text)
+
+
 class Pool:
     """A field, its entry form, and the program's own files of brackets."""
 
@@ -46,7 +51,7 @@ class Pool:
         self._folder = tempfile.TemporaryDirectory(prefix="tallyhoop-form-")
         folder = pathlib.Path(self._folder.name)
         self.field = folder / "POOLSTART.THS"
-        self.field.write_bytes("".join(line + "\r\n" for line in lines or pool_2000.setup_file()).encode("cp1252"))
+        self.field.write_bytes(bytes_of("".join(line + "\r\n" for line in lines or pool_2000.setup_file())))
         self.page = folder / "ENTRYFORM.HTML"
         self.page.write_bytes(make("page", self.field, organiser))
         self.address = self.page.as_uri()

@@ -63,9 +63,9 @@ class HandingIn(unittest.TestCase):
     def setUpClass(cls):
         cls.browser = Browser()
         cls.addClassCleanup(cls.browser.close)
+        cls.browser.allow_clipboard()
 
     def setUp(self):
-        self.browser.may_use_clipboard(True)
         for file in self.browser.downloads.iterdir():
             file.unlink()
 
@@ -141,11 +141,21 @@ class HandingIn(unittest.TestCase):
         self.assertEqual(self.outcome(), "Copied. Paste it into a mail or a message to the organiser.")
         self.assertEqual(self.browser.clipboard(), TEXT.replace("E-mail: zoe@example.org\n", "") + CHECK)
 
-    def test_a_browser_that_forbids_copying_shows_the_text_or_copies_another_way(self):
+    def test_a_browser_that_forbids_the_new_way_of_copying_is_asked_the_old_way(self):
         self.open()
         self.fill_in()
-        self.browser.may_use_clipboard(False)
-        self.browser.run("document.execCommand = () => false")
+        self.browser.run("navigator.clipboard.writeText = () => Promise.reject(new Error('forbidden'))")
+        self.press("copy")
+
+        self.assertIn("Copied.", self.outcome())
+        self.assertFalse(self.form.by_id("text").is_displayed())
+        self.assertEqual(self.browser.clipboard(), TEXT + CHECK)
+
+    def test_a_browser_that_forbids_all_copying_shows_the_text(self):
+        self.open()
+        self.fill_in()
+        self.browser.run("navigator.clipboard.writeText = () => Promise.reject(new Error('forbidden'));"
+                         "document.execCommand = () => false")
         self.press("copy")
 
         self.assertIn("yourself", self.outcome())
