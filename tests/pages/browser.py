@@ -82,7 +82,7 @@ class Browser:
         self.run("arguments[0].scrollIntoView({block: 'nearest'})", element)
         box = self.run("const {x, y, width, height} = arguments[0].getBoundingClientRect(); "
                        "return [x + width / 2, y + height / 2]", element)
-        finger = ActionBuilder(self.driver, mouse=PointerInput(POINTER_TOUCH, "finger"))
+        finger = ActionBuilder(self.driver, mouse=PointerInput(POINTER_TOUCH, "finger"), duration=0)
         finger.pointer_action.move_to_location(*map(int, box)).pointer_down().pointer_up()
         finger.perform()
 
