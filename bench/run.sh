@@ -28,6 +28,7 @@ measure() {
 "$build/bench/tallyhoop_scoring_bench" "${google[@]}"
 measure reports
 measure outlook
+measure imports
 if [ -x "$build/bench/tallyhoop_windows_bench" ]; then
     measure standings
     measure scores

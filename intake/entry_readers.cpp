@@ -44,8 +44,8 @@ void append(std::vector<HandedIn>& entries, std::vector<HandedIn> more)
 std::vector<HandedIn> withoutRepeated(std::vector<HandedIn> entries)
 {
     const auto isSame = [](const HandedIn& left, const HandedIn& right) {
-        return left.refusals.empty() && right.refusals.empty() && left.entry.picks == right.entry.picks &&
-               left.entry.name == right.entry.name && left.entry.finalPoints == right.entry.finalPoints &&
+        return left.refusals.empty() && right.refusals.empty() && left.entry.name == right.entry.name &&
+               left.entry.picks == right.entry.picks && left.entry.finalPoints == right.entry.finalPoints &&
                equalFolded(left.entry.initials, right.entry.initials);
     };
     std::vector<HandedIn> different;

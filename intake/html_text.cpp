@@ -101,9 +101,11 @@ private:
         const bool begins = !rest.empty() && (rest.front() == '/' || rest.front() == '!' || rest.front() == '?' ||
                                               (folded(static_cast<unsigned char>(rest.front())) >= 'a' &&
                                                folded(static_cast<unsigned char>(rest.front())) <= 'z'));
-        const std::size_t end = rest.find('>');
-        if (!begins || end == std::string_view::npos)
+        const std::size_t end = begins && m_mayHaveTags ? rest.find('>') : std::string_view::npos;
+        if (end == std::string_view::npos) {
+            m_mayHaveTags = m_mayHaveTags && !begins; // looking for it again at every "<" would take hours
             return false;
+        }
         const std::string name = nameOf(rest.substr(0, end));
         m_at += end + 2;
         if (isOneOf(kHiddenTags, name) && rest.front() != '/')
@@ -136,6 +138,7 @@ private:
 
     std::string_view m_html;
     std::size_t m_at = 0;
+    bool m_mayHaveTags = true; ///< false = no ">" is left
     std::string m_text;
 };
 

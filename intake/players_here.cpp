@@ -23,32 +23,40 @@ std::string keyOf(std::string_view fileName)
     return key;
 }
 
+/// @returns the same for a file whose name does not fit into a record: then the player's name has to agree, too
+std::string keyOf(std::string_view fileName, std::string_view player)
+{
+    return keyOf(fileName) + '\n' + upperCase(fitted(player, kNameWidth));
+}
+
 } // namespace
 
 PlayersHere::PlayersHere(std::vector<PlayerRecord> records) : m_records{std::move(records)}
 {
     for (std::size_t i = 0; i < m_records.size(); ++i)
-        m_byFile.emplace(keyOf(m_records[i].fileName), i);
+        index(i);
+}
+
+void PlayersHere::index(std::size_t record)
+{
+    const PlayerRecord& indexed = m_records[record];
+    m_byFile.emplace(keyOf(indexed.fileName), record);
+    m_byFile.emplace(keyOf(indexed.fileName, indexed.name), record);
 }
 
 const PlayerRecord* PlayersHere::find(const NewPlayer& player) const
 {
     const bool isCut = player.fileName.size() > kFileNameWidth;
-    const auto [begin, end] = m_byFile.equal_range(keyOf(player.fileName));
-    for (auto found = begin; found != end; ++found) {
-        const PlayerRecord& record = m_records[found->second];
-        if (!isCut || equalFolded(fitted(record.name, kNameWidth), fitted(player.name, kNameWidth)))
-            return &record;
-    }
-    return nullptr;
+    const auto found = m_byFile.find(isCut ? keyOf(player.fileName, player.name) : keyOf(player.fileName));
+    return found != m_byFile.end() ? &m_records[found->second] : nullptr;
 }
 
 bool PlayersHere::add(const NewPlayer& player)
 {
     if (find(player) != nullptr)
         return false;
-    m_byFile.emplace(keyOf(player.fileName), m_records.size());
     m_records.push_back({player.name, upperCase(player.fileName), recordedAddress(player.email), {}});
+    index(m_records.size() - 1);
     return true;
 }
 

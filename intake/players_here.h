@@ -4,9 +4,10 @@
 #include "files/data_folder.h"
 #include "files/player_names_file.h"
 
-#include <map>
+#include <cstddef>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace tallyhoop {
@@ -36,8 +37,10 @@ public:
     std::vector<PlayerRecord> sorted() const;
 
 private:
+    void index(std::size_t record);
+
     std::vector<PlayerRecord> m_records;
-    std::multimap<std::string, std::size_t, std::less<>> m_byFile; ///< by what two records of one file share
+    std::unordered_map<std::string, std::size_t> m_byFile; ///< the first record for a file, by what all of them share
 };
 
 /// @returns the address as a record can hold it; empty when it does not fit or is none

@@ -39,6 +39,15 @@ TEST(TextOfHtml, TakesALoneAngleBracketForItself)
     EXPECT_EQ(textOfHtml("<"), "<");
 }
 
+TEST(TextOfHtml, TakesNoLongerForWhatNeverEnds)
+{
+    std::string tags;
+    while (tags.size() < 1'000'000) // takes minutes when each is looked for to the end
+        tags += "<a";
+    EXPECT_EQ(textOfHtml(tags), tags);
+    EXPECT_EQ(textOfHtml("<b>x" + tags), "x" + tags);
+}
+
 TEST(TextOfHtml, GivesTheEntryOfAMailProgramsPage)
 {
     std::string page = test::replaced(test::exampleText(), "'", "&#39;");
