@@ -22,7 +22,7 @@ minutes=$1
 shift
 targets=("$@")
 if [ $# -eq 0 ]; then
-    targets=(setup selection players teams settings scoring list_search message_file standings player_listing
+    targets=(setup selection players teams settings entry_text entry_table html_text mail scoring list_search message_file standings player_listing
         team_selection_summary team_selection_detail player_selection_detail results_by_player results_by_team)
 fi
 
@@ -30,6 +30,9 @@ fi
 corpus_of() {
     case "$1" in
         setup | selection | players | teams | settings | scoring | list_search) echo "tests/fuzz/corpus/$1" ;;
+        entry_text | html_text) echo tests/fuzz/corpus/entry_texts ;;
+        entry_table) echo tests/fuzz/corpus/tables ;;
+        mail) echo tests/fuzz/corpus/mails ;;
         message_file) echo tests/fuzz/corpus/messages ;;
         *) echo tests/fuzz/corpus/pools ;;
     esac
