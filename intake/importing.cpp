@@ -30,13 +30,13 @@ using Written = std::optional<Result<Done>>;
 
 Result<Done> writeRow(const ReviewRow& row)
 {
-    if (row.effect == Effect::Identical)
-        return Done{};
     bool isChanged = false;
     const auto mayReplace = [&] {
         isChanged = !KnownFiles::contentOf(row.file).isSameAs(row.seen);
         return !isChanged;
     };
+    if (row.effect == Effect::Identical)
+        return mayReplace() ? Result<Done>{Done{}} : Failure{kChangedMeanwhile};
     Result<Done> written = replaceFile(row.file, bytesToWrite(row.handedIn), mayReplace);
     return isChanged ? Result<Done>{Failure{kChangedMeanwhile}} : written;
 }

@@ -23,10 +23,12 @@ std::string keyOf(std::string_view fileName)
     return key;
 }
 
+std::string nameKeyOf(std::string_view player) { return upperCase(fitted(player, kNameWidth)); }
+
 /// @returns the same for a file whose name does not fit into a record: then the player's name has to agree, too
 std::string keyOf(std::string_view fileName, std::string_view player)
 {
-    return keyOf(fileName) + '\n' + upperCase(fitted(player, kNameWidth));
+    return keyOf(fileName) + '\n' + nameKeyOf(player);
 }
 
 } // namespace
@@ -42,6 +44,7 @@ void PlayersHere::index(std::size_t record)
     const PlayerRecord& indexed = m_records[record];
     m_byFile.emplace(keyOf(indexed.fileName), record);
     m_byFile.emplace(keyOf(indexed.fileName, indexed.name), record);
+    m_byName.emplace(nameKeyOf(indexed.name), record);
 }
 
 const PlayerRecord* PlayersHere::find(const NewPlayer& player) const
@@ -49,6 +52,12 @@ const PlayerRecord* PlayersHere::find(const NewPlayer& player) const
     const bool isCut = player.fileName.size() > kFileNameWidth;
     const auto found = m_byFile.find(isCut ? keyOf(player.fileName, player.name) : keyOf(player.fileName));
     return found != m_byFile.end() ? &m_records[found->second] : nullptr;
+}
+
+const PlayerRecord* PlayersHere::findName(std::string_view name) const
+{
+    const auto found = m_byName.find(nameKeyOf(name));
+    return found != m_byName.end() ? &m_records[found->second] : nullptr;
 }
 
 bool PlayersHere::add(const NewPlayer& player)

@@ -30,6 +30,9 @@ public:
     /// @returns the record of a player's file; one whose file name was cut is that of the player of the same name
     const PlayerRecord* find(const NewPlayer& player) const;
 
+    /// @returns the first record of a player's name, in any case of its letters
+    const PlayerRecord* findName(std::string_view name) const;
+
     /// Adds a record unless there is one. @returns whether it was added
     bool add(const NewPlayer& player);
 
@@ -41,6 +44,7 @@ private:
 
     std::vector<PlayerRecord> m_records;
     std::unordered_map<std::string, std::size_t> m_byFile; ///< the first record for a file, by what all of them share
+    std::unordered_map<std::string, std::size_t> m_byName;
 };
 
 /// @returns the address as a record can hold it; empty when it does not fit or is none

@@ -144,12 +144,6 @@ void findRepeated(std::vector<ReviewRow>& rows)
     }
 }
 
-const PlayerRecord* recordOf(const ReviewRow& row, const PlayersHere& players)
-{
-    const Entry& entry = row.handedIn.entry;
-    return players.find({entry.name + "," + entry.initials, row.fileName, {}});
-}
-
 } // namespace
 
 Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const Field& field, const Step& step)
@@ -166,7 +160,7 @@ Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const 
     }
     findRepeated(review.rows);
     for (ReviewRow& row : review.rows)
-        row.words = wordsOf(row, review.rows, recordOf(row, standards.players));
+        row.words = wordsOf(row, review.rows, standards.players);
     review.head = headOf(review);
     return review;
 }

@@ -3,7 +3,6 @@
 
 #include "base/text.h"
 #include "base/windows1252.h"
-#include "intake/players_here.h"
 
 #include <algorithm>
 
@@ -46,13 +45,24 @@ std::string aboutOthers(const ReviewRow& row, const std::vector<ReviewRow>& rows
 }
 
 /// Anybody can write anybody's name into a form.
-std::string aboutSender(const ReviewRow& row, const PlayerRecord* record)
+std::string aboutSender(const ReviewRow& row, const NewPlayer& player, const PlayersHere& players)
 {
+    const PlayerRecord* record = players.find(player);
     if (row.effect != Effect::Replaces || record == nullptr || row.handedIn.email.empty())
         return {};
     const std::string known = trimTrailingBlanks(record->email);
     const bool isOther = !known.empty() && !equalFolded(known, recordedAddress(row.handedIn.email));
     return isOther ? "The player list has another address: " + known + "." : std::string{};
+}
+
+/// A selection that was saved under another name on the board stays beside the new one: the player would be in the pool
+/// twice.
+std::string aboutName(const ReviewRow& row, const NewPlayer& player, const PlayersHere& players)
+{
+    const PlayerRecord* record = players.findName(player.name);
+    if (row.effect != Effect::New || record == nullptr || players.find(player) != nullptr)
+        return {};
+    return "The player list has this name with another file: " + trimTrailingBlanks(record->fileName) + ".";
 }
 
 } // namespace
@@ -62,15 +72,18 @@ std::string counted(std::size_t count, const std::string& one, const std::string
     return std::to_string(count) + " " + (count == 1 ? one : more);
 }
 
-std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, const PlayerRecord* record)
+std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, const PlayersHere& players)
 {
+    const Entry& entry = row.handedIn.entry;
+    const NewPlayer player{entry.name + "," + entry.initials, row.fileName, {}};
     std::vector<std::string> sentences{effectOf(row)};
     if (row.effect != Effect::Refused && !row.isComplete())
         sentences.push_back("Incomplete: " + std::to_string(row.picks) + " of 63 picks.");
     if (row.isLate)
         sentences.emplace_back("Late.");
     sentences.push_back(aboutOthers(row, rows));
-    sentences.push_back(aboutSender(row, record));
+    sentences.push_back(aboutName(row, player, players));
+    sentences.push_back(aboutSender(row, player, players));
     std::erase(sentences, std::string{});
     return joined(sentences, " ");
 }

@@ -1,7 +1,7 @@
 // intake/review_words.h - what the review says of a row, and of all of them.
 #pragma once
 
-#include "files/player_names_file.h"
+#include "intake/players_here.h"
 #include "intake/review.h"
 
 #include <string>
@@ -9,10 +9,9 @@
 
 namespace tallyhoop {
 
-/// @param rows   all rows of the review
-/// @param record the player's, nullptr = the player is not in the list yet
+/// @param rows all rows of the review
 /// @returns what would happen, and what is special about it: "Replaces (4 picks differ). Incomplete: 60 of 63 picks."
-std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, const PlayerRecord* record);
+std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, const PlayersHere& players);
 
 /// @returns "50 entries: 38 new, 2 replace others, 10 refused.", and a sentence when it is late
 std::string headOf(const Review& review);

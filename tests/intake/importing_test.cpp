@@ -112,6 +112,19 @@ TEST(Import, PutsAPlayerIntoTheListWhoseSelectionIsHereAlready)
     EXPECT_EQ(fs::last_write_time(scratch.path() / "Ann Smith_as.THC"), before) << "not written again";
 }
 
+TEST(Import, CallsNothingUnchangedThatHasChanged)
+{
+    const ScratchFolder scratch;
+    scratch.put("Ann Smith_as.THC", savedAnn());
+    Review review = reviewed(scratch, {handedIn(upperEntry())});
+    setTicked(review, 0, true);
+    scratch.put("Ann Smith_as.THC", "somebody else's");
+    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    EXPECT_EQ(outcome.unchanged, 0u);
+    ASSERT_EQ(outcome.notWritten.size(), 1u);
+    EXPECT_EQ(outcome.notWritten[0].reason, "The file has been changed since the review.");
+}
+
 TEST(Import, LeavesAFileAloneThatChangedSinceTheReview)
 {
     const ScratchFolder scratch;

@@ -204,6 +204,16 @@ TEST(Review, WarnsWhenAnotherAddressReplacesASelection)
               "Replaces (1 pick differs). The player list has another address: ann@example.org.");
 }
 
+TEST(Review, WarnsWhenAPlayerHasASelectionUnderAnotherName)
+{
+    const ScratchFolder scratch;
+    scratch.put("PLAYERNAMES.CSV", playerNamesFile(std::vector<PlayerRecord>{{"Ann Smith,AS", "ANN.THC", "", ""},
+                                                                             {"Bob,B", "BOB_B.THC", "", ""}}));
+    const Review review = reviewed(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Bob", "B"))});
+    EXPECT_EQ(review.rows.at(0).words, "New. The player list has this name with another file: ANN.THC.");
+    EXPECT_EQ(review.rows.at(1).words, "New.") << "listed already, with this very file";
+}
+
 TEST(Review, StopsWhenItIsToldTo)
 {
     const ScratchFolder scratch;
