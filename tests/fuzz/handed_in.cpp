@@ -17,7 +17,7 @@
 namespace tallyhoop::fuzz {
 namespace {
 
-const KnownTeams& teams()
+const KnownTeams& knownTeams()
 {
     static const KnownTeams known{test::field2000()};
     return known;
@@ -59,15 +59,15 @@ bool isBlank(const Entry& entry)
 Complaint entry_text(std::string_view bytes)
 {
     const std::string text = utf8Of(bytes);
-    const std::vector<HandedIn> read = readEntryTexts(text, teams(), {});
+    const std::vector<HandedIn> read = readEntryTexts(text, knownTeams(), {});
     if (Complaint complaint = checkAccepted(read))
         return complaint;
-    const std::vector<HandedIn> quoted = readEntryTexts(test::withEachLine("> ", text), teams(), {});
+    const std::vector<HandedIn> quoted = readEntryTexts(test::withEachLine("> ", text), knownTeams(), {});
     if (!std::ranges::equal(read, quoted, isSame))
         return "quotation changes an entry";
     if (text.find('>') != std::string::npos)
         return std::nullopt; // what is quotation depends on the lines
-    const std::vector<HandedIn> wrapped = readEntryTexts(test::replaced(text, " ", "\r\n"), teams(), {});
+    const std::vector<HandedIn> wrapped = readEntryTexts(test::replaced(text, " ", "\r\n"), knownTeams(), {});
     if (!std::ranges::equal(read, wrapped, isSame))
         return "wrapping changes an entry";
     return std::nullopt;
@@ -88,7 +88,7 @@ Complaint entry_table(std::string_view bytes)
                     return "a cell is a formula";
             }
     }
-    const std::vector<HandedIn> read = readEntryTable(bytes, teams(), {});
+    const std::vector<HandedIn> read = readEntryTable(bytes, knownTeams(), {});
     if (read.empty())
         return "a table without entry and without refusal";
     if (Complaint complaint = checkAccepted(read))
@@ -99,7 +99,7 @@ Complaint entry_table(std::string_view bytes)
             entries.push_back(handedIn.entry);
     if (entries.empty())
         return std::nullopt;
-    const std::vector<HandedIn> again = readEntryTable(entryTable(entries, test::field2000()), teams(), {});
+    const std::vector<HandedIn> again = readEntryTable(entryTable(entries, test::field2000()), knownTeams(), {});
     const bool isExact =
         std::ranges::equal(again, entries, {}, [](const HandedIn& handedIn) { return handedIn.entry; });
     return isExact ? std::nullopt : Complaint{"an entry changed on its way through a table"};

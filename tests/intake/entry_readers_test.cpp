@@ -19,14 +19,14 @@ using test::upperEntry;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-EntryReaders readers()
+EntryReaders mailReaders()
 {
     return {test::field2000(), [](std::string_view bytes) { return mailParts(bytes, &test::linkedMailLibrary()); }};
 }
 
-std::vector<HandedIn> readFile(std::string name, std::string bytes)
+std::vector<HandedIn> readNamed(std::string name, std::string bytes)
 {
-    return readers().read({std::move(name), std::move(bytes), 1000});
+    return mailReaders().read({std::move(name), std::move(bytes), 1000});
 }
 
 /// The file that a save on the board makes of an entry.
@@ -36,7 +36,7 @@ std::string savedFile(Entry entry)
     return selectionFile(entry);
 }
 
-std::string onlyRefusal(const std::vector<HandedIn>& read)
+std::string singleRefusal(const std::vector<HandedIn>& read)
 {
     return read.size() == 1 && read[0].refusals.size() == 1 ? read[0].refusals[0] : "none, or several";
 }
@@ -50,13 +50,13 @@ TEST(EntryReaders, KnowTheirFiles)
     EXPECT_TRUE(EntryReaders::isRead("A.TXT"));
     EXPECT_TRUE(EntryReaders::isRead("A.csv"));
     EXPECT_FALSE(EntryReaders::isRead("A.THS"));
-    EXPECT_EQ(onlyRefusal(readFile("A.PNG", "x")),
+    EXPECT_EQ(singleRefusal(readNamed("A.PNG", "x")),
               "Files of this kind are not read: only *.THC, *.EML, *.TXT and *.CSV.");
 }
 
 TEST(EntryReaders, ReadSelections)
 {
-    const std::vector<HandedIn> read = readFile("x.THC", savedFile(upperEntry()));
+    const std::vector<HandedIn> read = readNamed("x.THC", savedFile(upperEntry()));
     ASSERT_EQ(read.size(), 1u);
     EXPECT_EQ(read[0].entry, upperEntry("Ann Smith", "AS"));
     EXPECT_THAT(read[0].refusals, IsEmpty());
@@ -66,45 +66,46 @@ TEST(EntryReaders, ReadSelections)
 TEST(EntryReaders, SayWhatIsWrongWithASelection)
 {
     const std::string file = savedFile(upperEntry());
-    EXPECT_EQ(onlyRefusal(readFile("x.THC", file + "more\r\n")), "The file has more than 131 lines.");
-    EXPECT_EQ(onlyRefusal(readFile("x.THC", "Arizona\r\n")), "The file has fewer than 131 lines.");
-    EXPECT_FALSE(readFile("x.THC", "Arizona\r\n")[0].isLegible);
-    EXPECT_EQ(onlyRefusal(readFile("x.THC", test::replaced(file, "*END*", "*end*"))),
+    EXPECT_EQ(singleRefusal(readNamed("x.THC", file + "more\r\n")), "The file has more than 131 lines.");
+    EXPECT_EQ(singleRefusal(readNamed("x.THC", "Arizona\r\n")), "The file has fewer than 131 lines.");
+    EXPECT_FALSE(readNamed("x.THC", "Arizona\r\n")[0].isLegible);
+    EXPECT_EQ(singleRefusal(readNamed("x.THC", test::replaced(file, "*END*", "*end*"))),
               "Line 131 of the file is not the end marker.");
-    EXPECT_EQ(onlyRefusal(readFile("x.THC", "")), "The file has fewer than 131 lines.");
+    EXPECT_EQ(singleRefusal(readNamed("x.THC", "")), "The file has fewer than 131 lines.");
 }
 
 TEST(EntryReaders, ReadTexts)
 {
     const std::vector<HandedIn> read =
-        readFile("x.TXT", formText(upperEntry("Ann", "a")) + formText(upperEntry("Bob", "b")));
+        readNamed("x.TXT", formText(upperEntry("Ann", "a")) + formText(upperEntry("Bob", "b")));
     ASSERT_EQ(read.size(), 2u);
     EXPECT_EQ(read[1].entry, upperEntry("Bob", "b"));
-    EXPECT_EQ(onlyRefusal(readFile("x.TXT", "Hello")), "There is no entry in this file.");
-    EXPECT_EQ(readFile("Ann_AS.THC.txt", savedFile(upperEntry()))[0].entry, upperEntry("Ann Smith", "AS"))
+    EXPECT_EQ(singleRefusal(readNamed("x.TXT", "Hello")), "There is no entry in this file.");
+    EXPECT_EQ(readNamed("Ann_AS.THC.txt", savedFile(upperEntry()))[0].entry, upperEntry("Ann Smith", "AS"))
         << "a selection that was renamed";
 }
 
 TEST(EntryReaders, ReadPastedText)
 {
-    EXPECT_EQ(readers().readPasted(test::exampleText())[0].entry.name, "Zo\xE9 O\x92Neil");
-    EXPECT_EQ(readers().readPasted(fromUtf8(test::exampleText()))[0].entry.name, "Zo\xE9 O\x92Neil");
-    EXPECT_EQ(readers().readPasted(test::exampleText())[0].origin, Origin{});
-    EXPECT_EQ(onlyRefusal(readers().readPasted("")), "There is no entry in this text.");
-    EXPECT_EQ(onlyRefusal(readers().readPasted(std::string((1u << 20) + 1, ' '))), "The text is larger than 1 MB.");
+    EXPECT_EQ(mailReaders().readPasted(test::exampleText())[0].entry.name, "Zo\xE9 O\x92Neil");
+    EXPECT_EQ(mailReaders().readPasted(fromUtf8(test::exampleText()))[0].entry.name, "Zo\xE9 O\x92Neil");
+    EXPECT_EQ(mailReaders().readPasted(test::exampleText())[0].origin, Origin{});
+    EXPECT_EQ(singleRefusal(mailReaders().readPasted("")), "There is no entry in this text.");
+    EXPECT_EQ(singleRefusal(mailReaders().readPasted(std::string((1u << 20) + 1, ' '))),
+              "The text is larger than 1 MB.");
 }
 
 TEST(EntryReaders, ReadTables)
 {
     const std::vector<Entry> entries{upperEntry(), upperEntry("Bob", "B")};
-    const std::vector<HandedIn> read = readFile("x.CSV", entryTable(entries, test::field2000()));
+    const std::vector<HandedIn> read = readNamed("x.CSV", entryTable(entries, test::field2000()));
     ASSERT_EQ(read.size(), 2u);
     EXPECT_EQ(read[1].entry, upperEntry("Bob", "B"));
 }
 
 TEST(EntryReaders, ReadMails)
 {
-    const std::vector<HandedIn> read = readFile("x.EML", kHeaders + "\r\n" + formText(upperEntry(), ""));
+    const std::vector<HandedIn> read = readNamed("x.EML", kHeaders + "\r\n" + formText(upperEntry(), ""));
     ASSERT_EQ(read.size(), 1u);
     EXPECT_EQ(read[0].entry, upperEntry());
     EXPECT_EQ(read[0].email, "ann@home.example");
@@ -115,7 +116,7 @@ TEST(EntryReaders, ReadMailsThatArePagesOnly)
 {
     const std::string page = "<div>" + test::replaced(formText(upperEntry()), "\n", "</div>\n<div>") + "</div>";
     const std::vector<HandedIn> read =
-        readFile("x.EML", kHeaders + "Content-Type: text/html; charset=utf-8\r\n\r\n" + page);
+        readNamed("x.EML", kHeaders + "Content-Type: text/html; charset=utf-8\r\n\r\n" + page);
     ASSERT_EQ(read.size(), 1u);
     EXPECT_EQ(read[0].entry, upperEntry());
 }
@@ -131,7 +132,7 @@ TEST(EntryReaders, TakeAnEntryOnceThatAMailBringsTwice)
                              "\r\n--i--\r\n"
                              "--o\r\nContent-Type: application/octet-stream; name=\"Ann Smith_as.THC\"\r\n\r\n" +
                              savedFile(upperEntry()) + "\r\n--o--\r\n";
-    EXPECT_EQ(readFile("x.EML", mail).size(), 1u);
+    EXPECT_EQ(readNamed("x.EML", mail).size(), 1u);
 }
 
 TEST(EntryReaders, ReadWhatIsAttached)
@@ -140,7 +141,7 @@ TEST(EntryReaders, ReadWhatIsAttached)
                              "Content-Type: multipart/mixed; boundary=o\r\n\r\n--o\r\n\r\nsee attachment\r\n"
                              "--o\r\nContent-Disposition: attachment; filename=\"..\\\\..\\\\x.thc\"\r\n\r\n" +
                              savedFile(upperEntry()) + "\r\n--o--\r\n";
-    const std::vector<HandedIn> read = readFile("x.EML", mail);
+    const std::vector<HandedIn> read = readNamed("x.EML", mail);
     ASSERT_EQ(read.size(), 1u);
     EXPECT_EQ(read[0].entry, upperEntry("Ann Smith", "AS"));
     EXPECT_EQ(read[0].email, "ann@home.example");
@@ -155,22 +156,22 @@ TEST(EntryReaders, ReadMailsAttachedToMailsAFewTimesOver)
         return "From: boss@example.org\r\nContent-Type: application/octet-stream; name=\"f.eml\"\r\n\r\n" + inside;
     };
     mail = wrap(wrap(mail));
-    ASSERT_EQ(readFile("x.EML", mail).size(), 1u);
-    EXPECT_EQ(readFile("x.EML", mail)[0].entry, upperEntry());
-    EXPECT_EQ(onlyRefusal(readFile("x.EML", wrap(mail))), "Mails are attached to mails too many times over.");
+    ASSERT_EQ(readNamed("x.EML", mail).size(), 1u);
+    EXPECT_EQ(readNamed("x.EML", mail)[0].entry, upperEntry());
+    EXPECT_EQ(singleRefusal(readNamed("x.EML", wrap(mail))), "Mails are attached to mails too many times over.");
 }
 
 TEST(EntryReaders, SayWhatAMailWithoutEntryBringsInstead)
 {
-    EXPECT_EQ(onlyRefusal(readFile("x.EML", kHeaders + "\r\nHello\r\n")), "There is no entry in this mail.");
-    EXPECT_EQ(onlyRefusal(readFile("x.EML", kHeaders + "Content-Type: text/html; name=ENTRYFORM.HTML\r\n\r\n<p>")),
+    EXPECT_EQ(singleRefusal(readNamed("x.EML", kHeaders + "\r\nHello\r\n")), "There is no entry in this mail.");
+    EXPECT_EQ(singleRefusal(readNamed("x.EML", kHeaders + "Content-Type: text/html; name=ENTRYFORM.HTML\r\n\r\n<p>")),
               "There is no entry in this mail. Attached: \"ENTRYFORM.HTML\".");
 }
 
 TEST(EntryReaders, RefuseAnAttachmentThatIsTooLarge)
 {
     const std::string large(1'100'000, 'x');
-    EXPECT_EQ(onlyRefusal(readFile("x.TXT", large)), "The file is larger than 1 MB.");
+    EXPECT_EQ(singleRefusal(readNamed("x.TXT", large)), "The file is larger than 1 MB.");
 }
 
 } // namespace

@@ -16,14 +16,14 @@ using test::ScratchFolder;
 using test::upperEntry;
 using testing::ElementsAre;
 
-EntryReaders readers()
+EntryReaders fileReaders()
 {
     return {test::field2000(), [](std::string_view) -> Result<std::vector<MailPart>> { return Failure{"no mail"}; }};
 }
 
 std::vector<HandedIn> gathered(std::vector<fs::path> chosen, const Step& step = goOn)
 {
-    return gatherEntries(chosen, readers(), step);
+    return gatherEntries(chosen, fileReaders(), step);
 }
 
 std::vector<std::string> namesOf(const std::vector<HandedIn>& entries)

@@ -19,19 +19,19 @@ using test::ScratchFolder;
 using test::upperEntry;
 using testing::HasSubstr;
 
-HandedIn handedIn(Entry entry, std::string email = {})
+HandedIn entryFrom(Entry entry, std::string email = {})
 {
     return {std::move(entry), std::move(email), {"x.EML", "s@example.org", 1, {}}, {}, true};
 }
 
-Review reviewed(const ScratchFolder& scratch, std::vector<HandedIn> entries)
+Review reviewedIn(const ScratchFolder& scratch, std::vector<HandedIn> entries)
 {
     return reviewOf(std::move(entries), scratch.folder(), test::field2000());
 }
 
 ImportOutcome imported(const ScratchFolder& scratch, std::vector<HandedIn> entries)
 {
-    return importTicked(reviewed(scratch, std::move(entries)), scratch.folder());
+    return importTicked(reviewedIn(scratch, std::move(entries)), scratch.folder());
 }
 
 std::string playerList(std::vector<PlayerRecord> records) { return playerNamesFile(records); }
@@ -48,7 +48,7 @@ std::string savedAnn()
 TEST(Import, WritesWhatASaveOnTheBoardWould)
 {
     const ScratchFolder scratch;
-    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry(), "ann@example.org")});
+    const ImportOutcome outcome = imported(scratch, {entryFrom(upperEntry(), "ann@example.org")});
     EXPECT_EQ(outcome.created, 1u);
     EXPECT_EQ(scratch.get("Ann Smith_as.THC"), savedAnn());
     EXPECT_EQ(scratch.get("PLAYERNAMES.CSV"),
@@ -65,7 +65,7 @@ TEST(Import, ReplacesTheFileThatIsHereUnderItsOwnName)
     scratch.put("ANN SMITH_AS.thc", "old");
     scratch.put("PLAYERNAMES.CSV", playerList({{"Ann Smith,AS", "ANN SMITH_AS.THC", "a@example.org", "1"}}));
     const std::string list = scratch.get("PLAYERNAMES.CSV");
-    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry(), "other@example.org")});
+    const ImportOutcome outcome = imported(scratch, {entryFrom(upperEntry(), "other@example.org")});
     EXPECT_EQ(outcome.replaced, 1u);
     EXPECT_EQ(scratch.get("ANN SMITH_AS.thc"), savedAnn());
     EXPECT_FALSE(scratch.has("Ann Smith_as.THC"));
@@ -78,7 +78,7 @@ TEST(Import, WritesNothingThatIsNotTicked)
     const ScratchFolder scratch;
     Entry open = upperEntry("Bob", "B");
     open.picks.clear(kChampion);
-    const ImportOutcome outcome = imported(scratch, {handedIn(open), handedIn(upperEntry("", "C"))});
+    const ImportOutcome outcome = imported(scratch, {entryFrom(open), entryFrom(upperEntry("", "C"))});
     EXPECT_FALSE(scratch.has("Bob_B.THC"));
     EXPECT_FALSE(scratch.has("PLAYERNAMES.CSV"));
     EXPECT_EQ(outcome.summary, "0 of 2 entries imported.\r\n"
@@ -93,7 +93,7 @@ TEST(Import, TakesAnIncompleteOneThatIsTicked)
     const ScratchFolder scratch;
     Entry open = upperEntry("Bob", "B");
     open.picks.clear(kChampion);
-    Review review = reviewed(scratch, {handedIn(open)});
+    Review review = reviewedIn(scratch, {entryFrom(open)});
     setTicked(review, 0, true);
     EXPECT_EQ(importTicked(review, scratch.folder()).created, 1u);
     EXPECT_EQ(scratch.get("Bob_B.THC"), selectionFile(open));
@@ -104,7 +104,7 @@ TEST(Import, PutsAPlayerIntoTheListWhoseSelectionIsHereAlready)
     const ScratchFolder scratch;
     scratch.put("Ann Smith_as.THC", savedAnn());
     const fs::file_time_type before = fs::last_write_time(scratch.path() / "Ann Smith_as.THC");
-    Review review = reviewed(scratch, {handedIn(upperEntry())});
+    Review review = reviewedIn(scratch, {entryFrom(upperEntry())});
     setTicked(review, 0, true);
     const ImportOutcome outcome = importTicked(review, scratch.folder());
     EXPECT_EQ(outcome.unchanged, 1u);
@@ -116,7 +116,7 @@ TEST(Import, CallsNothingUnchangedThatHasChanged)
 {
     const ScratchFolder scratch;
     scratch.put("Ann Smith_as.THC", savedAnn());
-    Review review = reviewed(scratch, {handedIn(upperEntry())});
+    Review review = reviewedIn(scratch, {entryFrom(upperEntry())});
     setTicked(review, 0, true);
     scratch.put("Ann Smith_as.THC", "somebody else's");
     const ImportOutcome outcome = importTicked(review, scratch.folder());
@@ -128,7 +128,7 @@ TEST(Import, CallsNothingUnchangedThatHasChanged)
 TEST(Import, LeavesAFileAloneThatChangedSinceTheReview)
 {
     const ScratchFolder scratch;
-    const Review review = reviewed(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Bob", "B"))});
+    const Review review = reviewedIn(scratch, {entryFrom(upperEntry()), entryFrom(upperEntry("Bob", "B"))});
     scratch.put("Ann Smith_as.THC", "somebody else's");
     const ImportOutcome outcome = importTicked(review, scratch.folder());
     EXPECT_EQ(scratch.get("Ann Smith_as.THC"), "somebody else's");
@@ -147,7 +147,7 @@ TEST(Import, SaysWhyAFileCannotBeWritten)
 {
     const ScratchFolder scratch;
     fs::create_directory(scratch.path() / "Ann Smith_as.THC");
-    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Bob", "B"))});
+    const ImportOutcome outcome = imported(scratch, {entryFrom(upperEntry()), entryFrom(upperEntry("Bob", "B"))});
     ASSERT_EQ(outcome.notWritten.size(), 1u);
     EXPECT_EQ(outcome.notWritten[0].row, 0u);
     EXPECT_EQ(outcome.created, 1u);
@@ -159,7 +159,7 @@ TEST(Import, WritesOnlyTheLatestWhenSeveralAreTickedForOneFile)
     const ScratchFolder scratch;
     Entry other = upperEntry();
     other.picks.put(kChampion, "Arizona");
-    Review review = reviewed(scratch, {handedIn(other), handedIn(upperEntry())});
+    Review review = reviewedIn(scratch, {entryFrom(other), entryFrom(upperEntry())});
     review.rows[0].isTicked = review.rows[1].isTicked = true;
     const ImportOutcome outcome = importTicked(review, scratch.folder());
     EXPECT_EQ(scratch.get("Ann Smith_as.THC"), savedAnn());
@@ -172,7 +172,7 @@ TEST(Import, LeavesAFaultyPlayerListAsItIs)
 {
     const ScratchFolder scratch;
     scratch.put("PLAYERNAMES.CSV", "by hand\r\n");
-    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry())});
+    const ImportOutcome outcome = imported(scratch, {entryFrom(upperEntry())});
     EXPECT_EQ(scratch.get("PLAYERNAMES.CSV"), "by hand\r\n");
     EXPECT_TRUE(scratch.has("Ann Smith_as.THC"));
     EXPECT_THAT(outcome.summary, HasSubstr("No player was added to the player list. There are faulty records in it."));
@@ -181,7 +181,7 @@ TEST(Import, LeavesAFaultyPlayerListAsItIs)
 TEST(Import, SaysWhoseAddressDoesNotFit)
 {
     const ScratchFolder scratch;
-    const ImportOutcome outcome = imported(scratch, {handedIn(upperEntry(), std::string(40, 'a') + "@example.org")});
+    const ImportOutcome outcome = imported(scratch, {entryFrom(upperEntry(), std::string(40, 'a') + "@example.org")});
     EXPECT_THAT(outcome.summary, HasSubstr("  Ann Smith,as: the e-mail address does not fit into the list and was left "
                                            "out."));
     EXPECT_THAT(scratch.get("PLAYERNAMES.CSV"), testing::Not(HasSubstr("aaa")));
@@ -190,8 +190,8 @@ TEST(Import, SaysWhoseAddressDoesNotFit)
 TEST(Import, StopsWhenItIsToldTo)
 {
     const ScratchFolder scratch;
-    const Review review = reviewed(
-        scratch, {handedIn(upperEntry("A", "A")), handedIn(upperEntry("B", "B")), handedIn(upperEntry("C", "C"))});
+    const Review review = reviewedIn(
+        scratch, {entryFrom(upperEntry("A", "A")), entryFrom(upperEntry("B", "B")), entryFrom(upperEntry("C", "C"))});
     const ImportOutcome outcome = importTicked(
         review, scratch.folder(), [] { return false; }, 1);
     EXPECT_EQ(outcome.created, 1u);
@@ -205,7 +205,7 @@ TEST(Import, WritesHundredsSeveralAtATime)
     const ScratchFolder scratch;
     std::vector<HandedIn> entries;
     for (int i = 0; i < 300; ++i)
-        entries.push_back(handedIn(upperEntry("Player " + std::to_string(i), "P"), "p@example.org"));
+        entries.push_back(entryFrom(upperEntry("Player " + std::to_string(i), "P"), "p@example.org"));
     const ImportOutcome outcome = imported(scratch, entries);
     EXPECT_EQ(outcome.created, 300u);
     EXPECT_EQ(outcome.playersAdded, 300u);

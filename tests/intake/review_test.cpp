@@ -28,7 +28,7 @@ Entry withChampion(Entry entry, std::string_view champion)
     return entry;
 }
 
-std::string saved(Entry entry)
+std::string savedBytes(Entry entry)
 {
     entry.initials = upperCase(entry.initials);
     return selectionFile(entry);
@@ -65,7 +65,7 @@ TEST(Review, ProposesANewFileForANewEntry)
 TEST(Review, FindsTheVerySameThatIsHereAlready)
 {
     const ScratchFolder scratch;
-    scratch.put("ann smith_AS.thc", saved(upperEntry()));
+    scratch.put("ann smith_AS.thc", savedBytes(upperEntry()));
     const ReviewRow row = reviewed(scratch, {handedIn(upperEntry())}).rows.at(0);
     EXPECT_EQ(row.effect, Effect::Identical);
     EXPECT_EQ(row.fileName, "ann smith_AS.thc") << "the one that is here, in any case of letters";
@@ -78,7 +78,7 @@ TEST(Review, CountsThePicksThatDifferFromWhatItReplaces)
     const ScratchFolder scratch;
     Entry here = withChampion(upperEntry(), "Arizona");
     here.picks.clear(Position{17});
-    scratch.put("Ann Smith_as.THC", saved(here));
+    scratch.put("Ann Smith_as.THC", savedBytes(here));
     const ReviewRow row = reviewed(scratch, {handedIn(upperEntry())}).rows.at(0);
     EXPECT_EQ(row.effect, Effect::Replaces);
     EXPECT_EQ(row.differentPicks, 2);
@@ -89,7 +89,7 @@ TEST(Review, CountsThePicksThatDifferFromWhatItReplaces)
 TEST(Review, SaysWhenOnlyTheTotalDiffersOrWhatIsHereIsUnreadable)
 {
     const ScratchFolder scratch;
-    scratch.put("Ann Smith_as.THC", saved(upperEntry("Ann Smith", "as", "99")));
+    scratch.put("Ann Smith_as.THC", savedBytes(upperEntry("Ann Smith", "as", "99")));
     EXPECT_EQ(reviewed(scratch, {handedIn(upperEntry())}).rows.at(0).words,
               "Replaces (same picks; name, initials or total differ).");
     scratch.put("Ann Smith_as.THC", "damaged");
@@ -195,7 +195,7 @@ TEST(Review, HasOneTickForEachFile)
 TEST(Review, WarnsWhenAnotherAddressReplacesASelection)
 {
     const ScratchFolder scratch;
-    scratch.put("Ann Smith_as.THC", saved(withChampion(upperEntry(), "Arizona")));
+    scratch.put("Ann Smith_as.THC", savedBytes(withChampion(upperEntry(), "Arizona")));
     scratch.put("PLAYERNAMES.CSV", playerNamesFile(std::vector<PlayerRecord>{
                                        {"Ann Smith,as", "ANN SMITH_AS.THC", "ann@example.org", ""}}));
     const Review review = reviewed(scratch, {handedIn(upperEntry(), {}, "Ann@Example.org")});

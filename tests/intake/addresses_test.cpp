@@ -1,0 +1,30 @@
+// tests/intake/addresses_test.cpp - addresses in running text.
+#include "intake/addresses.h"
+
+#include <gtest/gtest.h>
+
+namespace tallyhoop {
+namespace {
+
+TEST(Addresses, AreFoundInRunningText)
+{
+    EXPECT_EQ(firstAddressIn("write to ann.b+pool@mail.example.org."), "ann.b+pool@mail.example.org");
+    EXPECT_EQ(firstAddressIn("<a@b.example>,<c@d.example>"), "a@b.example");
+    EXPECT_EQ(firstAddressIn("mail@"), "");
+    EXPECT_EQ(firstAddressIn("@home, or a@b.example"), "a@b.example") << "the first whole one";
+    EXPECT_EQ(firstAddressIn("a @ b"), "");
+    EXPECT_EQ(firstAddressIn(""), "");
+}
+
+TEST(Addresses, OfWritersAreTheLastOnesNamed)
+{
+    EXPECT_EQ(lastWriterIn("From: a@x.example To: b@x.example"), "a@x.example");
+    EXPECT_EQ(lastWriterIn("From: a@x.example Date: From: c@x.example"), "c@x.example");
+    EXPECT_EQ(lastWriterIn("From: nobody To: b@x.example"), "") << "the receiver is not the writer";
+    EXPECT_EQ(lastWriterIn("b@x.example said. On Monday Ann <a@x.example> wrote:"), "a@x.example");
+    EXPECT_EQ(lastWriterIn("From: a@x.example On Monday c@x.example wrote:"), "c@x.example");
+    EXPECT_EQ(lastWriterIn("a@x.example"), "");
+}
+
+} // namespace
+} // namespace tallyhoop
