@@ -1,6 +1,7 @@
 // pool/moves.cpp - the rules of moving teams, without any screen.
 #include "pool/moves.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -78,6 +79,14 @@ Bracket withHighSeeds(Bracket bracket, const ByTeamRow<std::int16_t>& seeds)
         }
     }
     return bracket;
+}
+
+std::optional<Position> openGameAfter(const Bracket& bracket, Position game)
+{
+    std::array<Position, kGames> games = gamePositions();
+    std::ranges::rotate(games, std::ranges::upper_bound(games, game));
+    const auto open = std::ranges::find_if(games, [&](Position other) { return bracket.isEmpty(other); });
+    return open == games.end() ? std::nullopt : std::optional{*open};
 }
 
 std::vector<Position> pathOf(const Bracket& bracket, Position position)

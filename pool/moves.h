@@ -32,6 +32,12 @@ Bracket dropped(const Bracket& bracket, Position source, Position target, std::s
 /// @param seeds of the rows of the starting field
 Bracket withHighSeeds(Bracket bracket, const ByTeamRow<std::int16_t>& seeds);
 
+/// Finds the next game without a winner, in the order of the positions: region by region, each round by round, then the
+/// semi-finals and the final. After the final the first game follows.
+/// @param game where to begin, itself the last one that is looked at
+/// @returns nothing when every game has a winner
+std::optional<Position> openGameAfter(const Bracket& bracket, Position game);
+
 /// @returns the places that the team at a position is on, along its way from the first round; empty for no team, and
 ///          for one that does not come from a row on that way
 std::vector<Position> pathOf(const Bracket& bracket, Position position);

@@ -19,6 +19,7 @@ struct BoardSnapshot {
     bool resultsMode = false;
     bool unsaved = false;
     int sheet = 0; ///< New takes a fresh one; what is typed, and the file, belong to a sheet, not to its picks
+    std::optional<Position> pickedByKey{}; ///< the game that 1 or 2 filled in to make this board; nothing = another way
 
     friend bool operator==(const BoardSnapshot&, const BoardSnapshot&) = default;
 };

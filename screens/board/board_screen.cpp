@@ -1,11 +1,10 @@
-// screens/board/board_screen.cpp - loading, showing, moving teams, keys, undo.
+// screens/board/board_screen.cpp - loading, showing, moving teams, undo.
 #include "screens/board/board_screen.h"
 
 #include "base/windows1252.h"
 #include "files/settings_file.h"
 #include "files/setup_file.h"
 #include "pool/moves.h"
-#include "screens/board/board_geometry.h"
 #include "screens/board/board_words.h"
 #include "screens/help_topics.h"
 #include "screens/saving.h"
@@ -62,6 +61,7 @@ void BoardScreen::beginUnmarked()
     m_drag.reset();
     m_verdicts.reset();
     m_score.reset();
+    m_pickedByKey.reset();
     m_resultsMode = false;
     m_resultsThere = m_files.resultsExist();
     m_selectionsThere = m_files.selectionsExist();
@@ -196,6 +196,7 @@ void BoardScreen::change(const Bracket& after)
         return;
     m_history.remember(snapshot());
     m_bracket = after;
+    m_pickedByKey.reset();
     wasChanged();
 }
 
@@ -210,19 +211,28 @@ void BoardScreen::selectHighSeeds() { change(withHighSeeds(m_bracket, seedNumber
 
 BoardSnapshot BoardScreen::snapshot() const
 {
-    return {typed(), m_score, m_openedFile, m_resultsMode, unsaved, m_sheet};
+    return {typed(), m_score, m_openedFile, m_resultsMode, unsaved, m_sheet, m_pickedByKey};
 }
 
 void BoardScreen::undo()
 {
-    if (const auto board = m_history.undo(snapshot()))
-        restore(*board);
+    const std::optional<Position> taken = m_pickedByKey;
+    const auto board = m_history.undo(snapshot());
+    if (!board)
+        return;
+    restore(*board);
+    if (taken)
+        moveOnTo(*taken);
 }
 
 void BoardScreen::redo()
 {
-    if (const auto board = m_history.redo(snapshot()))
-        restore(*board);
+    const auto board = m_history.redo(snapshot());
+    if (!board)
+        return;
+    restore(*board);
+    if (m_pickedByKey)
+        moveOnTo(openGameAfter(m_bracket, *m_pickedByKey).value_or(*m_pickedByKey));
 }
 
 /// What is typed belongs to the sheet: it comes back with another sheet only, and stays on the same one.
@@ -235,6 +245,7 @@ void BoardScreen::restore(const BoardSnapshot& board)
         m_score = board.score;
     }
     m_bracket = board.entry.picks;
+    m_pickedByKey = board.pickedByKey;
     m_openedFile = board.openedFile;
     unsaved = board.unsaved || typedSince;
     say({});
@@ -242,46 +253,6 @@ void BoardScreen::restore(const BoardSnapshot& board)
         return;
     setResultsMode(board.resultsMode);
     m_resultsThere = m_files.resultsExist();
-}
-
-bool BoardScreen::keyPressed(ui::Control& control, const ui::KeyPress& press)
-{
-    if (press.key != ui::Key::Enter) {
-        const std::optional<Position> position = positionOfLabel(control);
-        return position && keyOnPosition(*position, press);
-    }
-    if (m_verdicts) {
-        cmdDefaultColors.click();
-        return true;
-    }
-    ui::Control* const following = afterEnter(control);
-    if (following != nullptr)
-        focused = following;
-    return following != nullptr;
-}
-
-/// The arrow keys follow the picture, Space does what a click does, Delete what a right press does.
-bool BoardScreen::keyOnPosition(Position position, const ui::KeyPress& press)
-{
-    static const BoardGeometry kPicture = layOutBoard(1366, 600);
-    const bool isSpace = press.key == ui::Key::Character && press.character == ' ' && !press.control && !press.alt;
-    if (const std::optional<Direction> direction = directionOf(press.key)) {
-        focused = &lblRegion[neighbour(kPicture, position, *direction)];
-    } else if (press.key == ui::Key::Delete || press.key == ui::Key::Backspace) {
-        pressPosition(position, MouseButton::Right);
-    } else if (isSpace) {
-        pressPosition(position, MouseButton::Left);
-        dropOnPosition(position);
-    } else {
-        return false;
-    }
-    return true;
-}
-
-void BoardScreen::gotFocus(ui::Control& control)
-{
-    if (const std::optional<Position> position = positionOfLabel(control))
-        makeTabStop(*position);
 }
 
 std::string BoardScreen::helpTopic() const

@@ -1,6 +1,7 @@
 // screens/board/board_screen.h - the bracket board: a player's prediction or the real results, and the program's menus.
 //
-// board_screen.cpp        loading, showing, moving teams, keys, undo
+// board_screen.cpp        loading, showing, moving teams, undo
+// board_screen_keys.cpp   keys and focus
 // board_screen_files.cpp  New, Open, Save, game results, scoring, printing
 #pragma once
 
@@ -120,6 +121,10 @@ private:
     void change(const Bracket& after);
     void wasChanged();
     bool keyOnPosition(Position position, const ui::KeyPress& press);
+    void advance(Position position);
+    void pickWinner(Position place, std::size_t side);
+    void goBack(Position place);
+    void moveOnTo(Position place);
     BoardSnapshot snapshot() const;
     void restore(const BoardSnapshot& board);
 
@@ -155,6 +160,7 @@ private:
     bool m_demo = false;
 
     std::optional<Drag> m_drag;
+    std::optional<Position> m_pickedByKey; ///< the game that 1 or 2 filled in, when that was the board's last change
     BoardHistory m_history;
     RecentSelections m_recent;
     int m_sheet = 0; ///< counts the boards that New began

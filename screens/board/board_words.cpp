@@ -14,6 +14,8 @@ namespace {
 constexpr std::array<const char*, kRounds> kSpokenRounds = {"first round",    "second round", "regional semi-final",
                                                             "regional final", "semi-final",   "final"};
 
+constexpr const char* kFastKeys = " 1 and 2 fill in the open games, one after another.";
+
 const char* spokenRound(int round) { return kSpokenRounds.at(roundIndex(round)); }
 
 /// @returns "winner of second round, game 3": the games of a column are counted downwards, region by region
@@ -58,6 +60,16 @@ std::string explanationOfMark(const BoardPicture& picture, Position position)
     default:
         return "Not decided yet: worth " + points + ".";
     }
+}
+
+/// The keys are the first that is said: who listens presses one as soon as both teams are known.
+std::string explanationOfOpen(const Bracket& bracket, Position position)
+{
+    const auto teams = feeders(position);
+    if (!teams || bracket.isEmpty(teams->front()) || bracket.isEmpty(teams->back()))
+        return "No team picked yet: click or drag a team that can get here.";
+    return "1 picks " + bracket.at(teams->front()) + ", 2 picks " + bracket.at(teams->back()) +
+           ", Backspace goes back; or click or drag a team that can get here.";
 }
 
 /// The names on the board are the results, not the player's picks.
@@ -126,13 +138,14 @@ std::string explanationOf(const BoardPicture& picture, Position position)
         return picture.names == MarkedNames::Results ? explanationOfListed(picture, position)
                                                      : explanationOfMark(picture, position);
     if (picture.bracket.isEmpty(position))
-        return "No team picked yet: click or drag a team that can get here.";
+        return explanationOfOpen(picture.bracket, position);
     const std::string& team = picture.bracket.at(position);
     if (position == kChampion)
         return team + " wins the tournament. A right click or Delete takes the team away.";
     if (isFirstRound(position))
-        return "Click or press Space to send " + team + " to the next round, or drag it as far as it goes.";
-    return "Click or press Space to send " + team + " on, drag it further; right click or Delete takes it away.";
+        return "Click or press Space to send " + team + " to the next round, or drag it as far as it goes." + kFastKeys;
+    return "Click or press Space to send " + team + " on, drag it further; right click or Delete takes it away." +
+           kFastKeys;
 }
 
 int gamesFilledIn(const Bracket& bracket)

@@ -310,5 +310,40 @@ TEST(PathOf, DistinguishesTwoTeamsOfOneNameByTheirPaths)
     EXPECT_THAT(pathOf(bracket, Position{16}), ElementsAre(Position{0}, Position{16}));
 }
 
+TEST(OpenGameAfter, GoesRegionByRegionEachRoundByRound)
+{
+    Bracket bracket = startingField();
+    std::vector<int> order;
+    Position game = kChampion;
+    while (const auto open = openGameAfter(bracket, game)) {
+        game = *open;
+        order.push_back(index(game));
+        bracket.put(game, "a winner");
+    }
+    // The rounds of region 1 are 16..23, 24..27, 28..29 and 30; each region begins 31 positions after the one before.
+    std::vector<int> expected;
+    for (const int region : {0, 31, 62, 93})
+        for (int place = 16; place <= 30; ++place)
+            expected.push_back(region + place);
+    expected.insert(expected.end(), {124, 125, 126});
+    EXPECT_EQ(order, expected);
+}
+
+TEST(OpenGameAfter, LeavesOutWhatHasAWinnerAndBeginsAgainAfterTheFinal)
+{
+    Bracket bracket = startingField();
+    for (const Position game : gamePositions())
+        bracket.put(game, "a winner");
+    EXPECT_EQ(openGameAfter(bracket, Position{16}), std::nullopt);
+    bracket.clear(Position{47});
+    bracket.clear(Position{123});
+    EXPECT_EQ(openGameAfter(bracket, Position{16}), Position{47}) << "the first of the second region, after 30";
+    EXPECT_EQ(openGameAfter(bracket, Position{47}), Position{123});
+    EXPECT_EQ(openGameAfter(bracket, Position{123}), Position{47});
+    EXPECT_EQ(openGameAfter(bracket, kChampion), Position{47});
+    bracket.put(Position{123}, "a winner");
+    EXPECT_EQ(openGameAfter(bracket, Position{47}), Position{47}) << "the only one";
+}
+
 } // namespace
 } // namespace tallyhoop

@@ -56,17 +56,20 @@ TEST_F(BoardScreenWords, EachPlaceSaysWhatCanBeDoneThere)
 {
     loadFinalized();
     const auto said = [&](std::size_t position) { return board->lblRegion[position].explanation; };
-    EXPECT_EQ(said(0), "Click or press Space to send R1T0 to the next round, or drag it as far as it goes.");
-    EXPECT_EQ(said(16), "No team picked yet: click or drag a team that can get here.");
+    const std::string forward = "Click or press Space to send R1T0 to the next round, or drag it as far as it goes."
+                                " 1 and 2 fill in the open games, one after another.";
+    EXPECT_EQ(said(0), forward);
+    EXPECT_EQ(said(16), "1 picks R1T0, 2 picks R1T1, Backspace goes back; or click or drag a team that can get here.");
     drag(0, 126);
-    EXPECT_EQ(said(16), "Click or press Space to send R1T0 on, drag it further; right click or Delete takes it away.");
+    EXPECT_EQ(said(16), "Click or press Space to send R1T0 on, drag it further; right click or Delete takes it away."
+                        " 1 and 2 fill in the open games, one after another.");
     EXPECT_EQ(said(126), "R1T0 wins the tournament. A right click or Delete takes the team away.");
     rightPress(16);
     EXPECT_EQ(said(126), "No team picked yet: click or drag a team that can get here.");
     setScoreListOpen(true);
     EXPECT_EQ(said(0), "The list of scores is open; close it to change the bracket.");
     setScoreListOpen(false);
-    EXPECT_EQ(said(0), "Click or press Space to send R1T0 to the next round, or drag it as far as it goes.");
+    EXPECT_EQ(said(0), forward);
 }
 
 TEST_F(BoardScreenWords, AMarkedPlaceSaysWhatItIsWorth)

@@ -105,13 +105,27 @@ TEST_F(BoardWords, APlaceSaysWhatCanBeDoneThere)
 {
     bracket.put(Position{24}, "TEAM1");
     bracket.put(Position{126}, "TEAM1");
-    EXPECT_EQ(explained(0), "Click or press Space to send TEAM1 to the next round, or drag it as far as it goes.");
-    EXPECT_EQ(explained(24),
-              "Click or press Space to send TEAM1 on, drag it further; right click or Delete takes it away.");
+    EXPECT_EQ(explained(0), "Click or press Space to send TEAM1 to the next round, or drag it as far as it goes."
+                            " 1 and 2 fill in the open games, one after another.");
+    EXPECT_EQ(explained(24), "Click or press Space to send TEAM1 on, drag it further; right click or Delete takes it"
+                             " away. 1 and 2 fill in the open games, one after another.");
     EXPECT_EQ(explained(126), "TEAM1 wins the tournament. A right click or Delete takes the team away.");
     EXPECT_EQ(explained(25), "No team picked yet: click or drag a team that can get here.");
     bracket.clear(Position{0});
     EXPECT_EQ(explained(0), "No team picked yet: click or drag a team that can get here.");
+}
+
+TEST_F(BoardWords, AnOpenGameSaysFirstWhatItsKeysPick)
+{
+    const std::string others = ", Backspace goes back; or click or drag a team that can get here.";
+    EXPECT_EQ(explained(17), "1 picks TEAM3, 2 picks TEAM4" + others);
+    bracket.put(Position{17}, "TEAM4");
+    const char* const notYet = "No team picked yet: click or drag a team that can get here.";
+    EXPECT_EQ(explained(24), notYet) << "only the lower of the two teams is known";
+    bracket.put(Position{16}, "TEAM1");
+    EXPECT_EQ(explained(24), "1 picks TEAM1, 2 picks TEAM4" + others);
+    bracket.clear(Position{17});
+    EXPECT_EQ(explained(24), notYet);
 }
 
 TEST_F(BoardWords, AMarkedPlaceSaysWhatItIsWorth)
