@@ -6,6 +6,7 @@
 #include "files/data_folder.h"
 #include "files/file_names.h"
 #include "screens/printing_trouble.h"
+#include "screens/saving_as.h"
 #include "ui/work.h"
 
 #include <functional>
@@ -41,34 +42,15 @@ std::string pdfName(std::string title)
     return withoutUnsafeCharacters(title + kPdfExtension);
 }
 
-/// @returns whether these files may be written
-bool mayReplace(ui::Dialogs& dialogs, const std::vector<fs::path>& files)
-{
-    std::string existing;
-    for (const fs::path& file : files) {
-        std::error_code unknown;
-        if (fs::exists(file, unknown))
-            existing += "\r\n" + shown(file);
-    }
-    if (existing.empty())
-        return true;
-    const char* const question = files.size() == 1 ? "Do you want to replace the existing file ?"
-                                                   : "Do you want to replace the existing files ?";
-    return dialogs.show({"", question + existing, ui::Buttons::YesNo, ui::Icon::Question}) == ui::Answer::Yes;
-}
-
 /// @returns where the printouts go, one file each; empty when the person cancelled
 std::vector<fs::path> chooseFiles(ui::Dialogs& dialogs, const fs::path& folder,
                                   const std::vector<ui::Printout>& printouts)
 {
     if (printouts.size() == 1) {
         const std::string& title = ui::titleOf(printouts.front());
-        auto file = dialogs.saveFile({"Save as PDF: " + title, "PDF files (*.PDF)", "*.PDF", folder, pdfName(title)});
-        if (!file)
-            return {};
-        if (!endsWithFolded(file->filename().string(), kPdfExtension))
-            *file += kPdfExtension;
-        return {*file};
+        const auto file = chooseFileToSave(
+            dialogs, {"Save as PDF: " + title, "PDF files (*.PDF)", "*.PDF", folder, pdfName(title)}, kPdfExtension);
+        return file ? std::vector{*file} : std::vector<fs::path>{};
     }
     const auto chosen = dialogs.chooseFolder("Save as PDF: choose the folder", folder);
     if (!chosen)
