@@ -38,9 +38,17 @@ inline std::string markedPlayer(const PlayerScore& score)
     return "Marked: " + score.fileName + ", " + std::to_string(score.points) + " of " + std::to_string(score.maxPoints);
 }
 
-/// What the reports screen asks of the e-mail dialog, and what that leaves for it.
+/// What a message carries.
+enum class MailKind {
+    Reports,
+    EntryForm, ///< the page on which players fill in their brackets
+};
+
+/// What a screen asks of the e-mail dialog, and what that leaves for it.
 struct MailDraft {
+    MailKind kind = MailKind::Reports;
     bool toEverybody = false; ///< the request: address every player
+    MailText proposal{};      ///< the request: subject and message to begin with
     bool cancelled = false;
     std::vector<std::string> recipients;
     std::string subject;

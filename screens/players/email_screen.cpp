@@ -62,6 +62,7 @@ EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform,
       m_screens{screens},
       m_draft{draft}
 {
+    const bool isForm = m_draft.kind == MailKind::EntryForm;
     lstPlayerNames.fixedPitch = true;
     lstPlayerNames.spokenName = "Players";
     lstPlayerNames.doubleClicked = [this] { addSelectedPlayer(); };
@@ -81,9 +82,11 @@ EmailScreen::EmailScreen(const DataFolder& folder, const ui::Platform& platform,
     cmdDelete.explanation = "Takes the selected address out again.";
     cmdCopy.explanation = "Copies all addresses above, to be pasted into a message that you write elsewhere.";
     txtSubject.explanation = "The message's subject.";
-    txtMessage.explanation = "What the message says; the reports are attached to it.";
+    txtMessage.explanation = std::string{"What the message says; "} +
+                             (isForm ? "the entry form is" : "the reports are") + " attached to it.";
     cmdSend.explanation = "Hands the message to your mail program, where you send it.";
-    cmdExit.explanation = "Sends nothing; the report files stay in the program's folder.";
+    cmdExit.explanation = isForm ? "Sends nothing; the entry form stays where it was saved."
+                                 : "Sends nothing; the report files stay in the program's folder.";
 
     int tab = 0;
     for (ui::Control* control :
@@ -99,6 +102,8 @@ void EmailScreen::load()
 {
     m_draft.subject.clear();
     m_draft.message.clear();
+    txtSubject.text = m_draft.proposal.subject;
+    txtMessage.text = m_draft.proposal.message;
     if (m_draft.unsent) {
         txtSubject.text = m_draft.unsent->subject;
         txtMessage.text = m_draft.unsent->message;

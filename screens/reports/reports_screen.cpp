@@ -7,6 +7,7 @@
 #include "base/text.h"
 #include "files/file_names.h"
 #include "screens/help_topics.h"
+#include "screens/mailing.h"
 #include "screens/printer_setup.h"
 #include "screens/printouts.h"
 #include "screens/reports/report_output.h"
@@ -37,38 +38,6 @@ void letThePersonChoose(ui::ControlArray<ui::OptionButton, N>& group, const std:
                 ui::selectOption(group, i);
         };
     }
-}
-
-/// Signs on unless a session is open; signs off after the message.
-Result<ui::HandedOver> sendReports(ui::Mail& mail, const MailDraft& draft, std::span<const std::filesystem::path> files)
-{
-    if (!mail.isOpen())
-        if (Result<Done> signedOn = mail.signOn(); !signedOn)
-            return signedOn.failure();
-    Result<ui::HandedOver> sent = mail.send(reportMessage(draft, files));
-    mail.signOff();
-    return sent;
-}
-
-/// Where the message is that no mail program has got directly, and the offer to go there.
-ui::Message inMessageFile(const ui::HandedOver& sent)
-{
-    const std::string file = shown(sent.file.filename());
-    const std::string rest =
-        " with your mail program, or attach the reports to a message of your own. All files are in the folder\r\n" +
-        shown(sent.file.parent_path()) + "\r\n\r\nDo you want to see this folder?";
-    if (sent.trouble.empty())
-        return {
-            kMailTitle,
-            "The message and its reports are in the file " + file +
-                ", which the desktop has been asked to open.\r\nSend the message from the window that opens.\r\n\r\n"
-                "If none does, open the file" +
-                rest,
-            ui::Buttons::YesNo, ui::Icon::Information, help_topic::kEmail};
-    return {kMailTitle,
-            "The message could not be handed to a mail program.\r\n" + sent.trouble + "\r\n\r\nIt is in the file " +
-                file + ", with its reports. Open this file" + rest,
-            ui::Buttons::YesNo, ui::Icon::Exclamation, help_topic::kEmail};
 }
 
 } // namespace
@@ -299,47 +268,11 @@ std::optional<ui::TextPrintout> ReportsScreen::printoutOf(const ReportKind& kind
     return textPrintout(kind.name, lines, *setup, m_platform.printer);
 }
 
-/// Sends one message with all files. They stay where they are, and what was written for the message comes back with the
-/// next one, so nothing is lost when that fails.
+/// Sends one message with all files.
 void ReportsScreen::mailReports(std::span<const std::filesystem::path> files, bool toEverybody)
 {
-    MailDraft request;
-    request.toEverybody = toEverybody;
-    request.unsent = std::move(m_draft.unsent);
-    m_draft = std::move(request);
-    m_screens.load(ScreenKind::Email);
-    if (m_draft.cancelled) {
-        m_draft.cancelled = false;
-        return;
-    }
-    const Result<ui::HandedOver> sent = handOver(files);
-    m_draft.unsent.reset();
-    if (!sent || !sent->trouble.empty())
-        m_draft.unsent = MailText{m_draft.recipients, m_draft.subject, m_draft.message};
-    m_draft.recipients.clear();
-    if (m_draft.unsent)
-        say("Not sent. What you wrote comes back when you mail reports again.");
-    else
-        say(sent->file.empty() ? "Your mail program has the message: send it there."
-                               : "The message is in the file " + shown(sent->file.filename()) + ".");
-    if (!sent)
-        m_platform.dialogs.show({kMailTitle, sent.failure().message, ui::Buttons::Ok, ui::Icon::Exclamation});
-    else if (!sent->file.empty())
-        offerMessageFile(*sent);
-}
-
-Result<ui::HandedOver> ReportsScreen::handOver(std::span<const std::filesystem::path> files)
-{
-    const Work busy{m_platform.progress, "Opening the mail program", 1};
-    return sendReports(m_platform.mail, m_draft, files);
-}
-
-void ReportsScreen::offerMessageFile(const ui::HandedOver& sent)
-{
-    if (m_platform.dialogs.show(inMessageFile(sent)) != ui::Answer::Yes)
-        return;
-    if (const Result<Done> opened = m_platform.programs.openFolder(sent.file.parent_path()); !opened)
-        m_platform.dialogs.show({kMailTitle, opened.failure().message, ui::Buttons::Ok, ui::Icon::Exclamation});
+    mailFiles({m_platform, m_screens, m_draft, *this}, files,
+              {.kind = MailKind::Reports, .title = kMailTitle, .toEverybody = toEverybody});
 }
 
 } // namespace tallyhoop

@@ -93,8 +93,6 @@ private:
     /// @returns the ticked reports that could be made; empty after the reason was shown
     std::vector<ui::Printout> tickedPrintouts(const char* titleEnd, const std::string& commandCaption);
     void mailReports(std::span<const std::filesystem::path> files, bool toEverybody);
-    Result<ui::HandedOver> handOver(std::span<const std::filesystem::path> files);
-    void offerMessageFile(const ui::HandedOver& sent);
 
     // Printouts of the board and ways out.
     void createSelectedPrintout();

@@ -41,6 +41,23 @@ struct EmailAgain : testing::Test {
     EmailScreen screen{folder, platform.services, screens, draft};
 };
 
+TEST_F(EmailAgain, BeginsWithTheTextThatIsProposed)
+{
+    draft.kind = MailKind::EntryForm;
+    draft.proposal = {{}, "Your bracket", "Hello,"};
+    EmailScreen forForm{folder, platform.services, screens, draft};
+    forForm.load();
+    EXPECT_EQ(forForm.txtSubject.text, "Your bracket");
+    EXPECT_EQ(forForm.txtMessage.text, "Hello,");
+    EXPECT_EQ(forForm.txtMessage.explanation, "What the message says; the entry form is attached to it.");
+    EXPECT_EQ(forForm.cmdExit.explanation, "Sends nothing; the entry form stays where it was saved.");
+    EXPECT_EQ(screen.txtMessage.explanation, "What the message says; the reports are attached to it.");
+    draft.unsent = MailText{{"a@x.org"}, "Mine", "as I wrote it"};
+    forForm.load();
+    EXPECT_EQ(forForm.txtSubject.text, "Mine");
+    EXPECT_EQ(forForm.txtMessage.text, "as I wrote it");
+}
+
 TEST_F(EmailAgain, TypedAddressesWithASemicolonBetweenThemAreTwo)
 {
     open();
