@@ -1,6 +1,7 @@
 // qt/services/message_file.cpp - makes a draft with gmime.
 #include "qt/services/message_file.h"
 
+#include "base/windows1252.h"
 #include "files/replace_file.h"
 
 #include <QByteArray>
@@ -14,6 +15,7 @@ namespace tallyhoop::qt {
 namespace {
 
 constexpr const char* kCharset = "UTF-8";
+constexpr const char* kPageExtension = ".HTML";
 constexpr const char* kMissing = "The library for mail messages, gmime 3, could not be loaded.";
 
 struct Unreference {
@@ -69,7 +71,7 @@ public:
 
         // Base64 for the text too: no line of it can look like a boundary, and no client changes it in transit.
         const auto parts = owned(m_gmime.g_mime_multipart_new_with_subtype("mixed"));
-        m_gmime.g_mime_multipart_add(parts.get(), GMIME_OBJECT(textPart(mail.body, "utf-8").get()));
+        m_gmime.g_mime_multipart_add(parts.get(), GMIME_OBJECT(textPart(mail.body, "plain", "utf-8").get()));
         for (const AttachedText& attachment : attachments)
             m_gmime.g_mime_multipart_add(parts.get(), GMIME_OBJECT(attached(attachment).get()));
         m_gmime.g_mime_message_set_mime_part(m_message.get(), GMIME_OBJECT(parts.get()));
@@ -112,9 +114,9 @@ private:
         }
     }
 
-    Owned<GMimePart> textPart(const std::string& bytes, const char* charset) const
+    Owned<GMimePart> textPart(const std::string& bytes, const char* subtype, const char* charset) const
     {
-        auto part = owned(m_gmime.g_mime_part_new_with_type("text", "plain"));
+        auto part = owned(m_gmime.g_mime_part_new_with_type("text", subtype));
         const auto stream = owned(m_gmime.g_mime_stream_mem_new_with_buffer(bytes.data(), bytes.size()));
         const auto content =
             owned(m_gmime.g_mime_data_wrapper_new_with_stream(stream.get(), GMIME_CONTENT_ENCODING_DEFAULT));
@@ -126,7 +128,10 @@ private:
 
     Owned<GMimePart> attached(const AttachedText& attachment) const
     {
-        auto part = textPart(attachment.bytes, "windows-1252");
+        // Telephones open a page as what it says it is, whatever it is called.
+        auto part = endsWithFolded(attachment.name, kPageExtension)
+                        ? textPart(attachment.bytes, "html", "utf-8")
+                        : textPart(attachment.bytes, "plain", "windows-1252");
         GMimeObject* object = GMIME_OBJECT(part.get());
         m_gmime.g_mime_object_set_disposition(object, GMIME_DISPOSITION_ATTACHMENT);
         m_gmime.g_mime_part_set_filename(part.get(), attachment.name.c_str());

@@ -13,7 +13,7 @@ namespace tallyhoop::qt {
 /// A file to attach, already read.
 struct AttachedText {
     std::string name;  ///< as the receiver sees it, UTF-8
-    std::string bytes; ///< Windows-1252 text; travels byte for byte
+    std::string bytes; ///< Windows-1252 text, UTF-8 in a page (*.HTML); travels byte for byte
 };
 
 /// @param gmime what composes it, nullptr = not installed

@@ -90,6 +90,21 @@ TEST_F(MessageFile, CarriesEverythingUnchanged)
     EXPECT_FALSE(found.contains("type3"));
 }
 
+TEST_F(MessageFile, CallsAPageAPage)
+{
+    const std::string page = "<!DOCTYPE html><title>Zo\xC3\xAB</title>\n";
+    read(*messageFile({.recipients = {"js@example.org"}, .subject = "s", .body = "Hi", .files = {}},
+                      std::vector<AttachedText>{{"ENTRYFORM.HTML", page}, {"my form.html", page}, {"HTML", page}}));
+    for (const std::string part : {"1", "2"}) {
+        EXPECT_EQ(found["type" + part], "text/html");
+        EXPECT_EQ(found["charset" + part], "utf-8");
+        EXPECT_EQ(found["disposition" + part], "attachment");
+        EXPECT_EQ(found["bytes" + part], page);
+    }
+    EXPECT_EQ(found["file1"], "ENTRYFORM.HTML");
+    EXPECT_EQ(found["type3"], "text/plain");
+}
+
 TEST_F(MessageFile, EncodesALongSubjectInUtf8WordsOfWholeCharacters)
 {
     std::string subject = "x"; // so that a cut after a fixed number of bytes would hit the middle of a character
