@@ -3,6 +3,7 @@
 
 #include "qt/views/board_view.h"
 #include "qt/views/email_view.h"
+#include "qt/views/entry_form_view.h"
 #include "qt/views/outlook_view.h"
 #include "qt/views/players_view.h"
 #include "qt/views/reports_view.h"
@@ -10,6 +11,7 @@
 #include "qt/views/seeds_view.h"
 #include "qt/views/setup_view.h"
 #include "screens/board/board_screen.h"
+#include "screens/entries/entry_form_screen.h"
 #include "screens/outlook/outlook_screen.h"
 #include "screens/players/email_screen.h"
 #include "screens/players/players_screen.h"
@@ -68,7 +70,7 @@ public:
         case ScreenKind::Players:
             return shownBy<qt::PlayersView>(
                 Placement::Stacked,
-                std::make_unique<PlayersScreen>(m_folder, m_platform, m_host, m_shared.savedPlayer));
+                std::make_unique<PlayersScreen>(m_folder, m_platform, m_host, m_shared.savedPlayer, m_shared.field));
         case ScreenKind::Email:
             return shownBy<qt::EmailView>(
                 Placement::Modal, std::make_unique<EmailScreen>(m_folder, m_platform, m_host, m_shared.mailDraft));
@@ -77,6 +79,11 @@ public:
                 Placement::Stacked,
                 std::make_unique<OutlookScreen>(m_folder, openPool(m_folder, m_platform, board()), m_platform, m_host,
                                                 std::make_unique<ui::BackgroundThread>()));
+        case ScreenKind::EntryForm:
+            return shownBy<qt::EntryFormView>(
+                Placement::Modal, std::make_unique<EntryFormScreen>(
+                                      m_folder, m_platform, m_host,
+                                      EntryFormScreen::Shared{m_shared.field, m_shared.mailDraft, m_shared.organiser}));
         }
         throw std::logic_error{"There is no screen of this kind."};
     }

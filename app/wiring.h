@@ -9,6 +9,7 @@
 #include "ui/platform.h"
 
 #include <optional>
+#include <string>
 
 namespace tallyhoop {
 
@@ -18,7 +19,8 @@ struct SharedValues {
     std::optional<SavedPlayer> savedPlayer;  ///< from the board to the player list
     std::optional<PlayerScore> listedPlayer; ///< from the list of scores to the board
     bool folderTroubleSaid = false;          ///< that the folder cannot be written is said once
-    MailDraft mailDraft;                     ///< between the reports and the e-mail dialog
+    MailDraft mailDraft;                     ///< between the e-mail dialog and those who open it
+    std::string organiser{};                 ///< the e-mail address in the entry form, as it was entered last
 };
 
 /// Lets the host make every screen. All arguments must outlive the host's screens.

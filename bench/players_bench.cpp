@@ -50,7 +50,8 @@ void OpenPlayerList(benchmark::State& state)
     for (auto step : state) {
         (void)step;
         std::optional<SavedPlayer> saved;
-        PlayersScreen names{pool.folder, pool.platform.services, pool.screens, saved};
+        const Field field = defaultField();
+        PlayersScreen names{pool.folder, pool.platform.services, pool.screens, saved, field};
         names.load();
         benchmark::DoNotOptimize(names.lstNames.rows.size());
     }

@@ -94,6 +94,7 @@ QLayout* PlayersView::list(PlayersScreen& names)
 QLayout* PlayersView::closeButtons(PlayersScreen& names)
 {
     QHBoxLayout* row = look::row();
+    row->addWidget(add(names.cmdEntryForm));
     row->addStretch(1);
     row->addWidget(add(names.cmdCancel));
     row->addWidget(add(names.cmdExit));

@@ -38,6 +38,12 @@ void BoardExits::toOutlook()
     m_screens.load(ScreenKind::Outlook);
 }
 
+void BoardExits::toEntryForm()
+{
+    m_screens.unload(ScreenKind::Scores);
+    m_screens.load(ScreenKind::EntryForm);
+}
+
 void BoardExits::toDemo()
 {
     if (!enterDemo(m_folder, m_platform))

@@ -19,6 +19,7 @@ public:
     void toSetup();
     void toReports();
     void toOutlook();
+    void toEntryForm();
 
     /// Enters demo mode, or leaves it, and shows what the folder then holds on a fresh board.
     void toDemo();

@@ -30,9 +30,10 @@ void BoardMenus::arrange()
         mnuRecentFile[i].action = [this, i] { m_do.openRecent(i); };
         mnuRecent.children.push_back(&mnuRecentFile[i]);
     }
-    mnuFile.children = {&mnuNewSelection,  &mnuOpenSelection, &mnuRecent,       &mnuPrevious,  &mnuNext,
-                        &mnuSaveSelection, nullptr,           &mnuPrintPreview, &mnuPrintForm, nullptr,
-                        &mnuOpenFolder,    &mnuBackUp,        nullptr,          &mnuExit};
+    mnuFile.children = {&mnuNewSelection,  &mnuOpenSelection, &mnuRecent,    &mnuPrevious,         &mnuNext,
+                        &mnuSaveSelection, nullptr,           &mnuEntryForm, &mnuExportSelections, nullptr,
+                        &mnuPrintPreview,  &mnuPrintForm,     nullptr,       &mnuOpenFolder,       &mnuBackUp,
+                        nullptr,           &mnuExit};
     mnuEdit.children = {&mnuUndo, &mnuRedo};
     mnuEntryAssist.children = {&mnuHighSeed};
     mnuOptions.children = {&mnuScoreSelections, &mnuGameResults, &mnuOutlook,  nullptr,
@@ -52,6 +53,8 @@ void BoardMenus::chooseIcons()
     mnuPrintForm.icon = ui::MenuIcon::Print;
     mnuExit.icon = ui::MenuIcon::Exit;
     mnuPrevious.icon = mnuNext.icon = ui::MenuIcon::Open;
+    mnuEntryForm.icon = ui::MenuIcon::New;
+    mnuExportSelections.icon = ui::MenuIcon::Save;
     mnuOpenFolder.icon = ui::MenuIcon::Open;
     mnuBackUp.icon = ui::MenuIcon::Save;
     mnuUndo.icon = ui::MenuIcon::Undo;
@@ -79,6 +82,10 @@ void BoardMenus::explain()
     }
     mnuPrevious.explanation = "Shows the selection before this one in the program's folder.";
     mnuNext.explanation = "Shows the selection after this one in the program's folder.";
+    mnuEntryForm.explanation =
+        "A page on which players fill in their own brackets, on a telephone or a computer, and hand them in.";
+    mnuExportSelections.explanation =
+        "Writes all selections saved in the program's folder into a table for a spreadsheet.";
     mnuOpenFolder.explanation = "Shows the folder that holds the pool.";
     mnuBackUp.explanation = "Copies the pool's files into a new folder inside this one, named after day and time.";
     mnuSaveSelection.explanation = "Saves the selection, or the results, as shown on the board.";
@@ -106,6 +113,8 @@ void BoardMenus::enableMenus(const BoardState& state)
     mnuNewSelection.enabled = mnuOpenSelection.enabled = state.finalized;
     mnuPrevious.enabled = mnuNext.enabled = state.finalized;
     showRecent(state);
+    mnuEntryForm.enabled = state.finalized;
+    mnuExportSelections.enabled = state.finalized && state.selectionsThere;
     mnuSaveSelection.enabled = state.finalized && !state.scored;
     mnuGameResults.enabled = state.finalized && !state.resultsMode;
     mnuScoreSelections.enabled = state.finalized && !state.scored && (state.resultsMode || state.resultsThere);

@@ -29,6 +29,7 @@ public:
     virtual void openNeighbour(int step) = 0;       ///< -1 = the selection before the open one in the folder, 1 = after
     virtual void openFolder() = 0;
     virtual void backUpPool() = 0;
+    virtual void exportSelections() = 0;
 };
 
 inline constexpr std::size_t kRecentSelections = 5;
@@ -71,7 +72,10 @@ public:
     ui::MenuEntry mnuPrevious{m_owner, "mnuPrevious", "P&revious Selection", [this] { m_do.openNeighbour(-1); },
                               "Ctrl+PgUp"};
     ui::MenuEntry mnuNext{m_owner, "mnuNext", "Nex&t Selection", [this] { m_do.openNeighbour(1); }, "Ctrl+PgDown"};
-    ui::MenuEntry mnuOpenFolder{m_owner, "mnuOpenFolder", "Open &Folder", [this] { m_do.openFolder(); }};
+    ui::MenuEntry mnuEntryForm{m_owner, "mnuEntryForm", "Entry &Form...", [this] { m_go.toEntryForm(); }};
+    ui::MenuEntry mnuExportSelections{m_owner, "mnuExportSelections", "Export Selections as &CSV...",
+                                      [this] { m_do.exportSelections(); }};
+    ui::MenuEntry mnuOpenFolder{m_owner, "mnuOpenFolder", "Open Fol&der", [this] { m_do.openFolder(); }};
     ui::MenuEntry mnuBackUp{m_owner, "mnuBackUp", "&Back Up Pool", [this] { m_do.backUpPool(); }};
     ui::MenuEntry mnuPrintPreview{m_owner, "mnuPrintPreview", "Print Pre&view", [this] { m_do.previewForm(); }};
     ui::MenuEntry mnuPrintForm{m_owner, "mnuPrintForm", "&Print Form", [this] { m_do.printForm(); }, "Ctrl+P"};

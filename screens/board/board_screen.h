@@ -102,6 +102,7 @@ private:
     void openNeighbour(int step) override;
     void openFolder() override;
     void backUpPool() override;
+    void exportSelections() override;
 
     // Showing.
     BoardPicture picture() const;

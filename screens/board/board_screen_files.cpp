@@ -10,6 +10,7 @@
 #include "screens/board/board_words.h"
 #include "screens/board/pool_copy.h"
 #include "screens/board/selection_saving.h"
+#include "screens/entries/selection_export.h"
 #include "screens/printouts.h"
 #include "screens/saving.h"
 
@@ -120,6 +121,11 @@ bool BoardScreen::mayBeReplaced() { return !unsaved || m_platform.dialogs.show(k
 void BoardScreen::openFolder() { say(showFolder(m_platform, m_folder)); }
 
 void BoardScreen::backUpPool() { say(tallyhoop::backUpPool(m_folder, m_platform)); }
+
+void BoardScreen::exportSelections()
+{
+    say(tallyhoop::exportSelections(m_folder, m_platform, m_shared.field));
+}
 
 void BoardScreen::openSelection()
 {

@@ -26,13 +26,14 @@ constexpr const char* kUnusableStatus = "The player list cannot be used until PL
 } // namespace
 
 PlayersScreen::PlayersScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens,
-                             std::optional<SavedPlayer>& saved)
+                             std::optional<SavedPlayer>& saved, const Field& field)
     : ui::Screen{"frmPoolNames", "PlayerName Edit"},
       m_folder{folder},
       m_platform{platform},
       m_dialogs{platform.dialogs},
       m_screens{screens},
-      m_saved{saved}
+      m_saved{saved},
+      m_field{field}
 {
     txtFileName.locked = true;
     txtFileName.tabStop = false;
@@ -53,7 +54,7 @@ PlayersScreen::PlayersScreen(const DataFolder& folder, const ui::Platform& platf
     int tab = 0;
     for (ui::Control* control :
          std::initializer_list<ui::Control*>{&txtName, &txtFileName, &txtEmail, &txtPhone, &cmdAdd, &cmdChange,
-                                             &cmdDelete, &lstNames, &cmdCancel, &cmdExit})
+                                             &cmdDelete, &lstNames, &cmdEntryForm, &cmdCancel, &cmdExit})
         control->tabIndex = tab++;
     focused = &txtName;
 }
@@ -69,6 +70,8 @@ void PlayersScreen::explainControls()
     cmdAdd.explanation = "Adds what is in the boxes as a new player, saves the list and closes it.";
     cmdChange.explanation = "Puts what is in the boxes into the selected row.";
     cmdDelete.explanation = "Deletes the selected player and, when you leave with Done, the selection file.";
+    cmdEntryForm.explanation = "The page on which players fill in their brackets, to be mailed to all of them; save "
+                               "changes of the list first.";
     cmdCancel.explanation = "Leaves and forgets what was added, changed and deleted.";
     cmdExit.explanation = "Saves the list and leaves.";
 }
@@ -97,6 +100,8 @@ void PlayersScreen::showState()
     cmdChange.enabled = !m_listFaulty;
     cmdAdd.enabled = cmdDelete.enabled = !m_listFaulty && !onlyChange;
     cmdExit.enabled = lstNames.enabled = !onlyChange;
+    // Everybody who gets the form is read from the file.
+    cmdEntryForm.enabled = m_field.isFinalized() && !m_listFaulty && !m_mode && !m_changed;
     cmdAdd.isDefault = m_mode == SaveKind::NewFile;
     cmdChange.isDefault = m_mode == SaveKind::SameName;
     cmdExit.isDefault = m_mode == SaveKind::Replaced;
@@ -271,6 +276,12 @@ bool PlayersScreen::anotherPlayerHasName(std::string_view recorded) const
             isSameRecordedName(parsePlayerRow(lstNames.rows[row]).fileName, recorded))
             return true;
     return false;
+}
+
+void PlayersScreen::openEntryForm()
+{
+    say({});
+    m_screens.load(ScreenKind::EntryForm);
 }
 
 void PlayersScreen::done()

@@ -4,6 +4,7 @@
 #include "files/data_folder.h"
 #include "files/known_files.h"
 #include "files/player_names_file.h"
+#include "pool/field.h"
 #include "screens/hand_overs.h"
 #include "screens/screens.h"
 #include "ui/platform.h"
@@ -27,8 +28,9 @@ class PlayersScreen : public ui::Screen
 {
 public:
     /// @param saved the player to enter, if any; nothing once the screen is unloaded
+    /// @param field the open one: there is an entry form for a finalized field only
     PlayersScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens,
-                  std::optional<SavedPlayer>& saved);
+                  std::optional<SavedPlayer>& saved, const Field& field);
 
     ui::Label lblName{this, "lblName", "Name (Last, IN):"};
     ui::TextBox txtName{this, "txtName"};
@@ -43,6 +45,7 @@ public:
     ui::Command cmdAdd{this, "cmdAdd", "&Add Record", [this] { addRecord(); }};
     ui::Command cmdChange{this, "cmdChange", "Complete C&hanges", [this] { completeChanges(); }};
     ui::Command cmdDelete{this, "cmdDelete", "De&lete Selection", [this] { deleteSelection(); }};
+    ui::Command cmdEntryForm{this, "cmdEntryForm", "Entry &Form...", [this] { openEntryForm(); }};
     ui::Command cmdCancel{this, "cmdCancel", "&Cancel", [this] { close(); }};
     ui::Command cmdExit{this, "cmdExit", "&Done", [this] { done(); }};
 
@@ -68,6 +71,7 @@ private:
     void completeChanges();
     void deleteSelection();
     bool anotherPlayerHasName(std::string_view recorded) const;
+    void openEntryForm();
     void done();
     void finish(std::vector<std::string> rows, const std::string& news);
     bool hasSaved(const std::vector<std::string>& rows) const;
@@ -85,6 +89,7 @@ private:
     ui::Dialogs& m_dialogs;
     Screens& m_screens;
     std::optional<SavedPlayer>& m_saved;
+    const Field& m_field;
     KnownFiles m_known; ///< the player list as it was read
 
     std::optional<SaveKind> m_mode;                        ///< nothing = opened without a player to enter

@@ -28,6 +28,11 @@ ui::Message checkSpace(const fs::path& file)
 
 ui::Message checkSelection(const fs::path& file) { return writingProblem(file, " Check your selection and retry."); }
 
+ui::Message checkItsFolder(const fs::path& file)
+{
+    return writingProblem(file, " Check for adequate space in its folder");
+}
+
 ui::Message changedMeanwhile(const fs::path& file)
 {
     return {"** FILE HAS BEEN CHANGED **",

@@ -16,6 +16,9 @@ ui::Message checkSpace(const std::filesystem::path& file);
 /// For selections and results.
 ui::Message checkSelection(const std::filesystem::path& file);
 
+/// For files that the person names.
+ui::Message checkItsFolder(const std::filesystem::path& file);
+
 /// The question before somebody else's changes are replaced.
 ui::Message changedMeanwhile(const std::filesystem::path& file);
 

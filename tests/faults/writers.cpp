@@ -5,8 +5,10 @@
 #include "faults/messages.h"
 #include "files/file_names.h"
 #include "files/setup_file.h"
+#include "reports/entry_form/entry_form.h"
 #include "reports/outlook.h"
 #include "screens/board/board_screen.h"
+#include "screens/entries/entry_form_screen.h"
 #include "screens/outlook/outlook_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -158,7 +160,7 @@ class PlayerListWriter : public ScreenWriter<PlayersScreen>
 public:
     explicit PlayerListWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        open(savedPlayer);
+        open(savedPlayer, field);
         screen->txtName.text = "Evans,GH";
         screen->txtEmail.text = "evans@example.org";
     }
@@ -179,12 +181,31 @@ public:
     }
     void save(std::optional<ui::Answer> /*mayReplace*/) override
     {
-        PlayersScreen names{folder, platform.services, screens, savedPlayer};
+        PlayersScreen names{folder, platform.services, screens, savedPlayer, field};
         names.load();
         names.showState();
         EXPECT_FALSE(names.cmdAdd.enabled);
     }
     std::string onScreen() const override { return {}; }
+};
+
+class EntryFormWriter : public ScreenWriter<EntryFormScreen>
+{
+public:
+    explicit EntryFormWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
+    {
+        field = readField(folder).value;
+        open(EntryFormScreen::Shared{field, draft, m_organiser});
+        screen->txtOrganiser.text = "org@example.org";
+    }
+    void save(std::optional<ui::Answer> /*mayReplace*/) override
+    {
+        platform.dialogs.pick(folder.folder() / kEntryFormFile);
+        screen->cmdSave.click();
+    }
+
+private:
+    std::string m_organiser;
 };
 
 template <std::size_t Index, std::size_t Destination>
@@ -283,6 +304,8 @@ const std::vector<WriterKind>& allWriters()
          [](const fs::path& folder, const Fault&) { return std::vector{checkSelection(folder / kSelection)}; }},
         {"NewSelection", kNewSelection, "\r\n177\r\n", false, false, opened<NewSelectionWriter>,
          [](const fs::path& folder, const Fault&) { return std::vector{checkSelection(folder / kNewSelection)}; }},
+        {"EntryForm", kEntryFormFile, "org@example.org", false, false, opened<EntryFormWriter>,
+         [](const fs::path& folder, const Fault&) { return std::vector{checkItsFolder(folder / kEntryFormFile)}; }},
         {"PlayerList", file_name::kPlayerNames, "Evans,GH", true, true, opened<PlayerListWriter>,
          troubleWith<file_name::kPlayerNames>},
         {"AnnotatedCopy", file_name::kPlayerNamesErrors, "damaged line", true, false, opened<AnnotatedCopyWriter>,

@@ -147,11 +147,11 @@ TEST_F(HelpTopic, OfTheSetupIsHowToSetUpAndInDemoModeWhyItCannotBeSaved)
 TEST_F(HelpTopic, OfThePlayerListIsTheListOrItsRepair)
 {
     putOwnPool();
-    PlayersScreen sound{folder, platform.services, screens, savedPlayer};
+    PlayersScreen sound{folder, platform.services, screens, savedPlayer, field};
     sound.load();
     EXPECT_EQ(sound.helpTopic(), "players");
     putFaultyPlayerList();
-    PlayersScreen faulty{folder, platform.services, screens, savedPlayer};
+    PlayersScreen faulty{folder, platform.services, screens, savedPlayer, field};
     faulty.load();
     EXPECT_EQ(faulty.helpTopic(), "repair");
 }

@@ -181,6 +181,8 @@ TEST_P(Accessibility, OfTheSeedPositions)
 
 TEST_P(Accessibility, OfTheMail) { examineModal(ScreenKind::Email); }
 
+TEST_P(Accessibility, OfTheEntryForm) { examineModal(ScreenKind::EntryForm); }
+
 TEST_P(Accessibility, OfAPlaceThatAnAssistiveToolPresses)
 {
     QWidget* const place = host.page(ScreenKind::Board)->widgetOf(board().lblRegion[2]);
@@ -188,7 +190,8 @@ TEST_P(Accessibility, OfAPlaceThatAnAssistiveToolPresses)
     ASSERT_NE(seen, nullptr);
     EXPECT_EQ(seen->text(QAccessible::Name).toStdString(), "West, first round, row 3, seed 8: Wisconsin");
     EXPECT_EQ(seen->text(QAccessible::Description).toStdString(),
-              "Click or press Space to send Wisconsin to the next round, or drag it as far as it goes.");
+              "Click or press Space to send Wisconsin to the next round, or drag it as far as it goes."
+              " 1 and 2 fill in the open games, one after another.");
     ASSERT_NE(seen->actionInterface(), nullptr);
     seen->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(QTest::qWaitFor([&] { return board().lblRegion[17].text == "Wisconsin"; }));

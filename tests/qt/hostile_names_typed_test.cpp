@@ -161,6 +161,8 @@ TEST_F(HostileTextPastedEverywhere, IsTextInThePlayerList)
 
 TEST_F(HostileTextPastedEverywhere, IsTextInTheMail) { EXPECT_EQ(pasteIntoModal(ScreenKind::Email), 3); }
 
+TEST_F(HostileTextPastedEverywhere, IsTextInTheEntryForm) { EXPECT_EQ(pasteIntoModal(ScreenKind::EntryForm), 1); }
+
 TEST_F(HostileTextPastedEverywhere, IsTextInTheSetup)
 {
     host.load(ScreenKind::Setup);

@@ -3,6 +3,7 @@
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "screens/board/board_screen.h"
+#include "screens/entries/entry_form_screen.h"
 #include "screens/players/email_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -96,7 +97,8 @@ TEST_F(Captions, OfTheBoard)
                     "lblFinalPoints: Predict total points in Championship game", "cmdDefaultColors: Default Colors"));
     EXPECT_THAT(menusOf(board),
                 ElementsAre("File: [New Selection] [Open Selection] [Open Recent] [Previous Selection] "
-                            "[Next Selection] [Save Selection] | [Print Preview] [Print Form] | "
+                            "[Next Selection] [Save Selection] | [Entry Form...] [Export Selections as CSV...] | "
+                            "[Print Preview] [Print Form] | "
                             "[Open Folder] [Back Up Pool] | [Exit]",
                             "Open Recent: [] [] [] [] []", "Edit: [Undo] [Redo]",
                             "Options: [Score Selections] [Enter Game Results] [Pool Outlook] | [Entry Assist] | "
@@ -178,13 +180,14 @@ TEST_F(Captions, OfTheReports)
 
 TEST_F(Captions, OfThePlayers)
 {
-    const PlayersScreen players{folder, platform.services, screens, savedPlayer};
+    const PlayersScreen players{folder, platform.services, screens, savedPlayer, field};
 
     EXPECT_THAT(captionsOf(players),
                 ElementsAre("frmPoolNames: PlayerName Edit", "lblName: Name (Last, IN):", "lblFileName: FileName:",
-                            "lblFileNameNote: The File Name cannot be changed", "lblEmail: EMail Address:",
-                            "lblPhone: Phone No:", "cmdAdd: Add Record", "cmdChange: Complete Changes",
-                            "cmdDelete: Delete Selection", "cmdCancel: Cancel", "cmdExit: Done"));
+                            "lblFileNameNote: The File Name cannot be changed",
+                            "lblEmail: EMail Address:", "lblPhone: Phone No:", "cmdAdd: Add Record",
+                            "cmdChange: Complete Changes", "cmdDelete: Delete Selection", "cmdEntryForm: Entry Form...",
+                            "cmdCancel: Cancel", "cmdExit: Done"));
     EXPECT_EQ(players.cmdChange.toolTip, "Store the CHANGEs made");
     EXPECT_EQ(players.cmdDelete.toolTip, "Select to DELETE selected record");
 }
@@ -199,6 +202,16 @@ TEST_F(Captions, OfTheEmailDialog)
                             "cmdFreeEntry: Not In List Below", "cmdUseList: Match List Below", "lblTo: Send To: (0)",
                             "cmdDelete: Delete Email Selected", "cmdCopy: Copy Addresses", "lblSubject: Subject:",
                             "lblMessage: Enter Email Message:", "cmdSend: Send Email", "cmdExit: Exit/Cancel"));
+}
+
+TEST_F(Captions, OfTheEntryForm)
+{
+    std::string organiser;
+    const EntryFormScreen form{folder, platform.services, screens, {field, draft, organiser}};
+
+    EXPECT_THAT(captionsOf(form),
+                ElementsAre("frmEntryForm: Entry Form", "lblOrganiser: Your e-mail address:", "cmdSave: Save Form...",
+                            "cmdMail: Mail to All Players...", "cmdClose: Close"));
 }
 
 } // namespace

@@ -299,13 +299,14 @@ TEST_F(BoardViewTest, TheStatusLineFollowsThePointerAndTheArrowKeys)
     QTest::keyClick(&place(0), Qt::Key_Down);
     EXPECT_TRUE(line.text().contains(QStringLiteral("Jackson St."))) << line.text().toStdString();
     QTest::keyClick(&place(1), Qt::Key_Right);
-    EXPECT_TRUE(line.text().startsWith(QStringLiteral("No team picked yet")));
+    EXPECT_TRUE(line.text().startsWith(QStringLiteral("1 picks Arizona, 2 picks Jackson St.")));
     QTest::keyClick(&place(16), Qt::Key_Left);
     QTest::keyClick(&place(0), Qt::Key_Space);
     QTest::keyClick(&place(0), Qt::Key_Right);
     EXPECT_TRUE(line.text().startsWith(QStringLiteral("Click or press Space to send Arizona on")));
     QTest::keyClick(&place(16), Qt::Key_Delete);
-    EXPECT_TRUE(line.text().startsWith(QStringLiteral("No team picked yet"))) << "the place has changed";
+    EXPECT_TRUE(line.text().startsWith(QStringLiteral("1 picks Arizona, 2 picks Jackson St.")))
+        << "the place has changed";
 }
 
 TEST_F(BoardViewTest, APlaceReachedByKeysShowsThePathOfItsTeam)

@@ -54,7 +54,8 @@ protected:
     test::FakePlatform platform;
     test::FakeScreens screens;
     std::optional<SavedPlayer> saved;
-    PlayersScreen names{folder, platform.services, screens, saved};
+    Field field;
+    PlayersScreen names{folder, platform.services, screens, saved, field};
     Desk desk;
     PlayersView view{names, desk};
 };

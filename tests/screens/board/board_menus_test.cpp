@@ -1,6 +1,7 @@
 // tests/screens/board/board_menus_test.cpp - which entries can be chosen when, and what each of them asks for.
 #include "screens/board/board_menus.h"
 
+#include "base/windows1252.h"
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
@@ -32,6 +33,7 @@ struct RecordedCommands : BoardCommands {
     void openNeighbour(int step) override { asked.push_back("openNeighbour " + std::to_string(step)); }
     void openFolder() override { asked.emplace_back("openFolder"); }
     void backUpPool() override { asked.emplace_back("backUpPool"); }
+    void exportSelections() override { asked.emplace_back("exportSelections"); }
 };
 
 struct MenuScreen : ui::Screen, BoardMenus {
@@ -72,9 +74,9 @@ std::set<std::string> together(std::set<std::string> names, const std::set<std::
 std::set<std::string> withSelectionMenus(std::set<std::string> disabled)
 {
     if (disabled.contains("mnuOpenSelection"))
-        disabled.insert({"mnuPrevious", "mnuNext"});
-    return together(std::move(disabled), {"mnuOutlook", "mnuRecent", "mnuRecentFile_0", "mnuRecentFile_1",
-                                          "mnuRecentFile_2", "mnuRecentFile_3", "mnuRecentFile_4"});
+        disabled.insert({"mnuPrevious", "mnuNext", "mnuEntryForm"});
+    return together(std::move(disabled), {"mnuOutlook", "mnuExportSelections", "mnuRecent", "mnuRecentFile_0",
+                                          "mnuRecentFile_1", "mnuRecentFile_2", "mnuRecentFile_3", "mnuRecentFile_4"});
 }
 
 /// Menus over a scratch folder, and everything that they can ask.
@@ -170,12 +172,13 @@ TEST_F(BoardMenusTest, EachEntryOfTheBoardAsksForItsOwnCommand)
     for (ui::MenuEntry* entry :
          {&menus.mnuNewSelection, &menus.mnuOpenSelection, &menus.mnuSaveSelection, &menus.mnuPrintPreview,
           &menus.mnuPrintForm, &menus.mnuUndo, &menus.mnuRedo, &menus.mnuScoreSelections, &menus.mnuGameResults,
-          &menus.mnuHighSeed, &menus.mnuPrevious, &menus.mnuNext, &menus.mnuOpenFolder, &menus.mnuBackUp})
+          &menus.mnuHighSeed, &menus.mnuPrevious, &menus.mnuNext, &menus.mnuOpenFolder, &menus.mnuBackUp,
+          &menus.mnuExportSelections})
         entry->click();
     EXPECT_THAT(commands.asked,
                 ElementsAre("newSelection", "openSelection", "saveSelection", "previewForm", "printForm", "undo",
                             "redo", "scoreSelections", "enterGameResults", "selectHighSeeds", "openNeighbour -1",
-                            "openNeighbour 1", "openFolder", "backUpPool"));
+                            "openNeighbour 1", "openFolder", "backUpPool", "exportSelections"));
     EXPECT_TRUE(screens.loads.empty());
 }
 
@@ -184,7 +187,9 @@ TEST_F(BoardMenusTest, EachOtherEntryLeadsWhereItSays)
     menus.mnuEditNames.click();
     menus.mnuReports.click();
     menus.mnuOutlook.click();
-    EXPECT_THAT(screens.loads, ElementsAre(ScreenKind::Players, ScreenKind::Reports, ScreenKind::Outlook));
+    menus.mnuEntryForm.click();
+    EXPECT_THAT(screens.loads,
+                ElementsAre(ScreenKind::Players, ScreenKind::Reports, ScreenKind::Outlook, ScreenKind::EntryForm));
     menus.mnuSetupOptions.click();
     EXPECT_EQ(screens.loads.back(), ScreenKind::Setup);
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
@@ -203,14 +208,36 @@ TEST_F(BoardMenusTest, EachOtherEntryLeadsWhereItSays)
     EXPECT_TRUE(commands.asked.empty());
 }
 
-TEST_F(BoardMenusTest, TheOutlookNeedsAFinalFieldAndASelection)
+TEST_F(BoardMenusTest, OutlookAndExportNeedAFinalFieldAndASelection)
 {
-    menus.enableMenus({.finalized = true, .selectionsThere = true});
-    EXPECT_TRUE(menus.mnuOutlook.enabled);
-    menus.enableMenus({.selectionsThere = true});
-    EXPECT_FALSE(menus.mnuOutlook.enabled);
-    menus.enableMenus({.finalized = true});
-    EXPECT_FALSE(menus.mnuOutlook.enabled);
+    for (const ui::MenuEntry* entry : {&menus.mnuOutlook, &menus.mnuExportSelections}) {
+        menus.enableMenus({.finalized = true, .selectionsThere = true});
+        EXPECT_TRUE(entry->enabled) << entry->name;
+        menus.enableMenus({.selectionsThere = true});
+        EXPECT_FALSE(entry->enabled) << entry->name;
+        menus.enableMenus({.finalized = true});
+        EXPECT_FALSE(entry->enabled) << entry->name;
+    }
+}
+
+TEST_F(BoardMenusTest, NoTwoEntriesOfAMenuHaveTheSameMnemonic)
+{
+    menus.enableMenus({.finalized = true, .recent = {"A.THC", "B.THC", "C.THC", "D.THC", "E.THC"}});
+    std::vector<std::vector<ui::MenuEntry*>> lists{menus.menuBar};
+    for (const ui::MenuEntry* entry : menus.entries())
+        lists.push_back(entry->children);
+    for (const auto& list : lists) {
+        std::string letters;
+        for (const ui::MenuEntry* entry : list) {
+            if (entry == nullptr)
+                continue;
+            const std::size_t mark = entry->caption.find('&');
+            ASSERT_LT(mark, entry->caption.size() - 1) << entry->name;
+            const char letter = upperCase(entry->caption.substr(mark + 1, 1)).front();
+            EXPECT_EQ(letters.find(letter), std::string::npos) << entry->name << ": " << letter;
+            letters += letter;
+        }
+    }
 }
 
 TEST_F(BoardMenusTest, TheSelectionsUsedLastHaveAnEntryEach)
@@ -246,7 +273,7 @@ TEST_F(BoardMenusTest, EveryEntryIsInExactlyOneMenu)
                 placed.insert(child);
     for (const ui::MenuEntry* entry : menus.entries())
         EXPECT_EQ(placed.count(entry), 1u) << entry->name;
-    EXPECT_EQ(placed.size(), 36u);
+    EXPECT_EQ(placed.size(), 38u);
 }
 
 TEST_F(BoardMenusTest, EntriesHaveShortcutsOfTheirOwnAndSayWhatTheyDo)

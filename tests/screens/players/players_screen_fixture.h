@@ -25,7 +25,7 @@ protected:
     PlayersScreen& open()
     {
         screens.open.insert(ScreenKind::Players);
-        screen = std::make_unique<PlayersScreen>(folder, platform.services, screens, saved);
+        screen = std::make_unique<PlayersScreen>(folder, platform.services, screens, saved, field);
         screen->load();
         screen->showState();
         return *screen;
@@ -65,6 +65,7 @@ protected:
     ScratchFolder scratch;
     DataFolder folder{scratch.folder()};
     FakePlatform platform;
+    Field field;
     std::optional<SavedPlayer> saved;
     FakeScreens screens;
     std::unique_ptr<PlayersScreen> screen;

@@ -233,6 +233,32 @@ TEST_F(PlayersScreenTest, TheCloseButtonAndEscapeAreCancel)
     EXPECT_EQ(written(), twoPlayers);
 }
 
+TEST_F(PlayersScreenTest, LeadsToTheEntryFormOfAFinalFieldOnly)
+{
+    EXPECT_FALSE(open().cmdEntryForm.enabled);
+    field.finalized = "1";
+    screen->showState();
+    ASSERT_TRUE(screen->cmdEntryForm.enabled);
+    screen->cmdEntryForm.click();
+    EXPECT_EQ(screens.loads, std::vector{ScreenKind::EntryForm});
+    EXPECT_TRUE(stillOpen());
+}
+
+TEST_F(PlayersScreenTest, OffersTheEntryFormForTheListAsItIsSavedOnly)
+{
+    field.finalized = "1";
+    open();
+    select(0);
+    screen->txtEmail.text = "new@example.org";
+    screen->cmdChange.click();
+    EXPECT_FALSE(screen->cmdEntryForm.enabled) << "the form would be mailed to the address in the file";
+    openAfterSave(SaveKind::NewFile, "Baker_C.THC", "Baker,C");
+    EXPECT_FALSE(screen->cmdEntryForm.enabled);
+    scratch.put("PLAYERNAMES.CSV", "saved by a spreadsheet\r\n");
+    saved.reset();
+    EXPECT_FALSE(open().cmdEntryForm.enabled);
+}
+
 TEST_F(PlayersScreenTest, NothingButASelectionFileOfTheFolderIsEverDeleted)
 {
     const std::filesystem::path outside = scratch.path() / "sub" / "OTHER.THC";
