@@ -36,7 +36,7 @@ struct Question {
 struct FileChoice {
     std::string caption;
     std::string filterName; ///< as shown, such as "PoolSelections (*.THC)"
-    std::string pattern;    ///< such as "*.THC", matched in any case
+    std::string pattern;    ///< such as "*.THC", or several with blanks between them, matched in any case
     std::filesystem::path folder;
     std::string proposedName; ///< a bare name; empty = none
 };
@@ -54,6 +54,9 @@ public:
 
     /// @returns nothing when cancelled
     virtual std::optional<std::filesystem::path> openFile(const FileChoice& choice) = 0;
+
+    /// Asks for any number of files. @returns nothing when cancelled
+    virtual std::vector<std::filesystem::path> openFiles(const FileChoice& choice) = 0;
 
     /// Never asks about replacing a file: commands have their own question. @returns nothing when cancelled
     virtual std::optional<std::filesystem::path> saveFile(const FileChoice& choice) = 0;

@@ -45,6 +45,8 @@ QFileDialog::FileMode fileModeOf(FileDialog::Purpose purpose)
         return QFileDialog::AnyFile;
     case FileDialog::Purpose::ChooseFolder:
         return QFileDialog::Directory;
+    case FileDialog::Purpose::OpenFiles:
+        return QFileDialog::ExistingFiles;
     case FileDialog::Purpose::OpenFile:
         break;
     }
@@ -71,7 +73,7 @@ void FileDialog::enableForName()
 {
     const fs::path path = typedPath();
     const bool isQuoted = m_name->text().contains(kQuote) && (isFolder(path) || mayBeChosen(path));
-    if (isQuoted || (m_purpose == Purpose::OpenFile && inAnotherCase(path)))
+    if (isQuoted || (opens() && inAnotherCase(path)))
         findChild<QDialogButtonBox*>()
             ->button(m_purpose == Purpose::SaveFile ? QDialogButtonBox::Save : QDialogButtonBox::Open)
             ->setEnabled(true);
@@ -83,6 +85,20 @@ std::optional<fs::path> FileDialog::chosen() const
         return m_quoted;
     return selectedFiles().isEmpty() ? std::nullopt : std::optional{toPath(selectedFiles().constFirst())};
 }
+
+std::vector<fs::path> FileDialog::allChosen() const
+{
+    if (m_quoted)
+        return {*m_quoted};
+    std::vector<fs::path> files;
+    const QStringList selected = selectedFiles();
+    for (const QString& file : selected)
+        files.push_back(toPath(file));
+    return files;
+}
+
+/// Qt writes several chosen files as "one" "two".
+bool FileDialog::isListOfNames() const { return m_purpose == Purpose::OpenFiles && m_name->text().count(kQuote) > 2; }
 
 QString FileDialog::typed() const
 {
@@ -107,6 +123,7 @@ bool FileDialog::mayBeChosen(const fs::path& path) const
     case Purpose::ChooseFolder:
         return isFolder(path);
     case Purpose::OpenFile:
+    case Purpose::OpenFiles:
         break;
     }
     return isFile(path);
@@ -115,7 +132,7 @@ bool FileDialog::mayBeChosen(const fs::path& path) const
 /// Replaces what was typed by the name of the file that it means.
 void FileDialog::preferExistingName()
 {
-    if (m_purpose != Purpose::OpenFile)
+    if (!opens())
         return;
     if (const std::optional<fs::path> found = inAnotherCase(typedPath()))
         m_name->setText(fromPath(*found));
@@ -146,7 +163,7 @@ void FileDialog::acceptQuoted()
 void FileDialog::accept()
 {
     preferExistingName();
-    if (m_name->text().contains(kQuote))
+    if (m_name->text().contains(kQuote) && (!isListOfNames() || mayBeChosen(typedPath())))
         acceptQuoted();
     else
         QFileDialog::accept();

@@ -182,6 +182,15 @@ std::string QtDialogs::ask(const ui::Question& asked)
 
 std::optional<std::filesystem::path> QtDialogs::openFile(const ui::FileChoice& choice) { return choose(choice, false); }
 
+std::vector<std::filesystem::path> QtDialogs::openFiles(const ui::FileChoice& choice)
+{
+    const Question question{m_desk};
+    FileDialog dialog{m_desk.windowForDialogs(), captionOf(choice.caption), choice.folder,
+                      FileDialog::Purpose::OpenFiles};
+    dialog.setNameFilter(nameFilter(choice));
+    return dialog.exec() == QDialog::Accepted ? dialog.allChosen() : std::vector<std::filesystem::path>{};
+}
+
 std::optional<std::filesystem::path> QtDialogs::saveFile(const ui::FileChoice& choice) { return choose(choice, true); }
 
 std::optional<std::filesystem::path> QtDialogs::choose(const ui::FileChoice& choice, bool save)

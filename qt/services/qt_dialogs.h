@@ -16,6 +16,7 @@ public:
     ui::Answer show(const ui::Message& message) override;
     std::string ask(const ui::Question& question) override;
     std::optional<std::filesystem::path> openFile(const ui::FileChoice& choice) override;
+    std::vector<std::filesystem::path> openFiles(const ui::FileChoice& choice) override;
     std::optional<std::filesystem::path> saveFile(const ui::FileChoice& choice) override;
     std::optional<std::filesystem::path> chooseFolder(const std::string& caption,
                                                       const std::filesystem::path& folder) override;

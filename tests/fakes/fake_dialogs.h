@@ -20,6 +20,7 @@ public:
     {
         EXPECT_TRUE(m_answers.empty()) << m_answers.size() << " scripted answer(s) were never asked for";
         EXPECT_TRUE(m_texts.empty()) << m_texts.size() << " scripted text(s) were never asked for";
+        EXPECT_TRUE(m_severalFiles.empty()) << "scripted files were never asked for";
         EXPECT_TRUE(m_files.empty()) << m_files.size() << " scripted file(s) were never asked for";
     }
 
@@ -38,6 +39,12 @@ public:
     FakeDialogs& pick(std::optional<std::filesystem::path> file)
     {
         m_files.push_back(std::move(file));
+        return *this;
+    }
+
+    FakeDialogs& pickSeveral(std::vector<std::filesystem::path> files)
+    {
+        m_severalFiles.push_back(std::move(files));
         return *this;
     }
 
@@ -86,6 +93,12 @@ public:
         return next(m_files, "open dialog", choice.caption);
     }
 
+    std::vector<std::filesystem::path> openFiles(const ui::FileChoice& choice) override
+    {
+        fileChoices.push_back(choice);
+        return next(m_severalFiles, "dialog for several files", choice.caption);
+    }
+
     std::optional<std::filesystem::path> saveFile(const ui::FileChoice& choice) override
     {
         fileChoices.push_back(choice);
@@ -121,6 +134,7 @@ private:
     std::deque<ui::Answer> m_answers;
     std::deque<std::string> m_texts;
     std::deque<std::optional<std::filesystem::path>> m_files;
+    std::deque<std::vector<std::filesystem::path>> m_severalFiles;
 };
 
 } // namespace tallyhoop::test

@@ -77,6 +77,30 @@ TEST(FileDialog, ATypedNameMayBeInAnyCase)
 }
 
 #ifndef _WIN32 // where no name may hold one
+TEST(FileDialog, SeveralFilesAreChosenByTheirNames)
+{
+    const tallyhoop::test::ScratchFolder scratch;
+    for (const char* name : {"Ann.eml", "Smith_JS.THC", "The \"Shark\"_S.THC", "list.csv"})
+        scratch.put(name, "");
+    Asking asking;
+    const auto opened = [&](const QString& typed) {
+        withNext<QFileDialog>([&](QFileDialog& dialog) {
+            dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(typed);
+            QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open), Qt::LeftButton);
+            if (dialog.isVisible())
+                dialog.reject();
+        });
+        std::vector<std::string> names;
+        for (const auto& file : asking.dialogs.openFiles({"Open", "Entries", "*.THC *.EML", scratch.path(), ""}))
+            names.push_back(file.filename().string());
+        return names;
+    };
+    EXPECT_EQ(opened(QStringLiteral("\"Ann.eml\" \"Smith_JS.THC\"")),
+              (std::vector<std::string>{"Ann.eml", "Smith_JS.THC"}));
+    EXPECT_EQ(opened(QStringLiteral("smith_js.thc")), std::vector<std::string>{"Smith_JS.THC"});
+    EXPECT_EQ(opened(QStringLiteral("The \"Shark\"_S.THC")), std::vector<std::string>{"The \"Shark\"_S.THC"});
+}
+
 TEST(FileDialog, QuotationMarksBelongToANameUnlessTheyEncloseIt)
 {
     const tallyhoop::test::ScratchFolder scratch;
