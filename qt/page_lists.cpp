@@ -58,10 +58,16 @@ QTableView* Page::add(ui::Grid& grid)
         [view](std::optional<ui::GridCell> cell) { view->setCurrentCell(cell); });
     followNote(grid.emptyNote, *view);
 
-    connect(view, &QTableView::pressed, this, [this, &grid](const QModelIndex& index) {
+    const auto press = [this, &grid](const QModelIndex& index) {
         if (!grid.cellPressed)
             return;
         run([&] { grid.cellPressed(static_cast<std::size_t>(index.row()), static_cast<std::size_t>(index.column())); });
+    };
+    connect(view, &QTableView::pressed, this, press);
+    // Two presses soon after one another tick a box and take the tick away again.
+    connect(view, &QTableView::doubleClicked, this, [&grid, press](const QModelIndex& index) {
+        if (grid.columns.at(static_cast<std::size_t>(index.column())).ticks)
+            press(index);
     });
     view->rowReached = [this, &grid](std::size_t row) {
         if (grid.rowReached && !m_sync.isPushing())

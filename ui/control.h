@@ -127,12 +127,17 @@ struct ListBox : Control {
 
 enum class Alignment { Left, Right, Centre };
 
+/// What a column of boxes holds, and what a screen reader says of a box.
+inline constexpr const char* kTicked = "ticked";
+inline constexpr const char* kNotTicked = "not ticked";
+
 /// A column of a grid.
 struct GridColumn {
     std::string heading;
     Alignment alignment = Alignment::Left;
     int width = 0;      ///< characters
     bool grows = false; ///< takes the room that is left over; where no column does, the last one
+    bool ticks = false; ///< its cells are boxes: kTicked, kNotTicked, or empty for no box
 
     friend bool operator==(const GridColumn&, const GridColumn&) = default;
 };

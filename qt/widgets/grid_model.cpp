@@ -22,6 +22,14 @@ int toQt(ui::Alignment alignment)
     return Qt::AlignLeft | Qt::AlignVCenter;
 }
 
+/// @returns what a box is, for one of Qt's roles
+QVariant boxOf(const std::string& tick, int role)
+{
+    if (role == Qt::CheckStateRole)
+        return tick == ui::kTicked ? Qt::Checked : Qt::Unchecked;
+    return role == Qt::AccessibleTextRole ? QVariant{toQString(tick)} : QVariant{};
+}
+
 QString sortedInWords(bool ascending)
 {
     return ascending ? QStringLiteral(", sorted, ascending") : QStringLiteral(", sorted, descending");
@@ -85,11 +93,27 @@ QVariant GridModel::data(const QModelIndex& index, int role) const
     const std::vector<std::string>& row = m_rows.at(static_cast<std::size_t>(index.row()));
     if (column >= row.size())
         return {};
+    if (isBox(index))
+        return boxOf(row[column], role);
     if (role == Qt::DisplayRole)
         return toQString(row[column]);
     if (role == Qt::ToolTipRole)
         return plainToolTip(toQString(row[column]));
     return {};
+}
+
+bool GridModel::isBox(const QModelIndex& index) const
+{
+    const auto column = static_cast<std::size_t>(index.column());
+    const std::vector<std::string>& row = m_rows.at(static_cast<std::size_t>(index.row()));
+    return m_columns.at(column).ticks && column < row.size() && !row[column].empty();
+}
+
+/// That a box can be ticked is for assistive tools: what happens is the screen's decision.
+Qt::ItemFlags GridModel::flags(const QModelIndex& index) const
+{
+    const Qt::ItemFlags plain = QAbstractTableModel::flags(index);
+    return index.isValid() && isBox(index) ? plain | Qt::ItemIsUserCheckable : plain;
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const

@@ -27,11 +27,13 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex& index) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
     void take(const ui::Grid& grid);
     double barIn(const QModelIndex& index) const;
+    bool isBox(const QModelIndex& index) const;
 
     std::vector<ui::GridColumn> m_columns;
     std::vector<std::vector<std::string>> m_rows;

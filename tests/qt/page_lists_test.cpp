@@ -3,6 +3,7 @@
 
 #include "qt/widgets/empty_note.h"
 
+#include <QAccessible>
 #include <QHeaderView>
 #include <gtest/gtest.h>
 
@@ -221,4 +222,30 @@ TEST(EmptyNote, IsNotThereWithoutAText)
 {
     Shown shown;
     EXPECT_FALSE(shown.page.rows->findChild<EmptyNote*>()->isVisible());
+}
+
+TEST(PageGrid, ShowsBoxesAndSaysWhetherTheyAreTicked)
+{
+    Gridded shown;
+    shown.desk.run(shown.screen, [&] {
+        ui::Grid& grid = shown.screen.grdScores;
+        grid.columns = {{.heading = "Import", .width = 3, .ticks = true}, {.heading = "Name", .width = 8}};
+        grid.rows = {{ui::kTicked, "Adams"}, {ui::kNotTicked, "Baker"}, {"", "Clark"}};
+        ++grid.revision;
+    });
+    const QAbstractItemModel& cells = *shown.page.scores->model();
+    EXPECT_EQ(cells.index(0, 0).data(Qt::CheckStateRole), QVariant{Qt::Checked});
+    EXPECT_EQ(cells.index(1, 0).data(Qt::CheckStateRole), QVariant{Qt::Unchecked});
+    EXPECT_FALSE(cells.index(2, 0).data(Qt::CheckStateRole).isValid());
+    EXPECT_FALSE(cells.index(0, 1).data(Qt::CheckStateRole).isValid());
+    EXPECT_EQ(cells.index(0, 0).data().toString(), QString{}) << "a text beside the box";
+    QAccessibleTableInterface& table = *QAccessible::queryAccessibleInterface(shown.page.scores)->tableInterface();
+    const QAccessibleInterface& ticked = *table.cellAt(0, 0);
+    const QAccessibleInterface& notTicked = *table.cellAt(1, 0);
+    EXPECT_EQ(ticked.text(QAccessible::Name), QStringLiteral("ticked"));
+    EXPECT_TRUE(ticked.state().checkable);
+    EXPECT_TRUE(ticked.state().checked);
+    EXPECT_EQ(notTicked.text(QAccessible::Name), QStringLiteral("not ticked"));
+    EXPECT_FALSE(notTicked.state().checked);
+    EXPECT_FALSE(table.cellAt(2, 0)->state().checkable);
 }

@@ -28,6 +28,12 @@ QJsonArray headingsOf(const QTableView* table)
     return headings;
 }
 
+/// Of a box what a screen reader says.
+QString textOf(const QModelIndex& cell)
+{
+    return cell.data(cell.data(Qt::CheckStateRole).isValid() ? Qt::AccessibleTextRole : Qt::DisplayRole).toString();
+}
+
 } // namespace
 
 QJsonObject describeTable(QWidget* widget)
@@ -46,7 +52,7 @@ QJsonObject describeTable(QWidget* widget)
         for (int place = 0; place < model.columnCount(); ++place) {
             const int column = table != nullptr ? table->horizontalHeader()->logicalIndex(place) : place;
             const QModelIndex cell = model.index(row, column);
-            cells.append(cell.data().toString());
+            cells.append(textOf(cell));
             places.append(onScreen(view->viewport(), view->visualRect(cell)));
         }
         rows.append(cells);
