@@ -1,6 +1,7 @@
 // qt/main_frame.cpp - a stack of pages, a title from the one on top, and closing that the screens decide.
 #include "qt/main_frame.h"
 
+#include "qt/file_drops.h"
 #include "qt/page.h"
 #include "qt/text.h"
 #include "qt/widgets/page_area.h"
@@ -27,6 +28,7 @@ MainFrame::MainFrame() : m_stack{new QStackedWidget}
     setContextMenuPolicy(Qt::NoContextMenu);
     setMinimumSize(kSmallest.boundedTo(roomForWindow(*this))); // pages scroll on a display that is smaller
     setCentralWidget(m_stack);
+    new FileDrops{*this};
     refreshTitle();
 }
 

@@ -26,6 +26,8 @@ void Screen::lostFocus(Control&) {}
 
 bool Screen::pasted(TextBox&, const std::string&) { return false; }
 
+void Screen::filesDropped(const std::vector<std::filesystem::path>&) {}
+
 Control* Screen::controlAtTab(int tabIndex) const
 {
     const auto at = std::ranges::find(m_controls, tabIndex, &Control::tabIndex);

@@ -22,6 +22,7 @@
 #include "ui/control.h"
 #include "ui/keys.h"
 
+#include <filesystem>
 #include <span>
 #include <string>
 #include <vector>
@@ -84,6 +85,12 @@ public:
 
     /// Text pasted or dropped into a box. @returns true when it was dealt with and must not be inserted
     virtual bool pasted(TextBox& box, const std::string& text);
+
+    /// Whether files that are dropped onto the window are of use now.
+    virtual bool takesFiles() const { return false; }
+
+    /// Files or folders were dropped onto the window. @pre takesFiles()
+    virtual void filesDropped(const std::vector<std::filesystem::path>& files);
 
     /// @returns the control at this tab position, nullptr when there is none
     Control* controlAtTab(int tabIndex) const;

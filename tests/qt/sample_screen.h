@@ -49,6 +49,7 @@ public:
     std::function<bool(ui::Control&, const ui::KeyPress&)> keyRule;
     std::function<bool(ui::TextBox&, const std::string&)> pasteRule;
     bool logFocus = false;
+    bool wantsFiles = false;
 
     void load() override { log.emplace_back("load"); }
     void unloading() override { log.emplace_back("unloading"); }
@@ -68,6 +69,12 @@ public:
             log.push_back("lost " + control.name);
     }
     bool pasted(ui::TextBox& box, const std::string& text) override { return pasteRule && pasteRule(box, text); }
+    bool takesFiles() const override { return wantsFiles; }
+    void filesDropped(const std::vector<std::filesystem::path>& files) override
+    {
+        for (const std::filesystem::path& file : files)
+            log.push_back("dropped " + file.string());
+    }
 };
 
 class SamplePage : public Page
