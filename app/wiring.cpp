@@ -1,9 +1,11 @@
 // app/wiring.cpp - one case for each screen: where it is placed, how it is made, which view shows it.
 #include "app/wiring.h"
 
+#include "qt/services/handed_in_mail.h"
 #include "qt/views/board_view.h"
 #include "qt/views/email_view.h"
 #include "qt/views/entry_form_view.h"
+#include "qt/views/import_view.h"
 #include "qt/views/outlook_view.h"
 #include "qt/views/players_view.h"
 #include "qt/views/reports_view.h"
@@ -12,6 +14,7 @@
 #include "qt/views/setup_view.h"
 #include "screens/board/board_screen.h"
 #include "screens/entries/entry_form_screen.h"
+#include "screens/import/import_screen.h"
 #include "screens/outlook/outlook_screen.h"
 #include "screens/players/email_screen.h"
 #include "screens/players/players_screen.h"
@@ -48,10 +51,10 @@ public:
         switch (kind) {
         case ScreenKind::Board:
             return shownBy<qt::BoardView>(
-                Placement::Stacked,
-                std::make_unique<BoardScreen>(m_folder, m_platform, m_host,
-                                              BoardScreen::Shared{m_shared.field, m_shared.savedPlayer,
-                                                                  m_shared.listedPlayer, m_shared.folderTroubleSaid}));
+                Placement::Stacked, std::make_unique<BoardScreen>(
+                                        m_folder, m_platform, m_host,
+                                        BoardScreen::Shared{m_shared.field, m_shared.savedPlayer, m_shared.listedPlayer,
+                                                            m_shared.folderTroubleSaid, m_shared.droppedFiles}));
         case ScreenKind::Scores:
             return shownBy<qt::ScoresView>(Placement::OwnWindow,
                                            std::make_unique<ScoresScreen>(m_folder, m_platform, m_host, m_shared.field,
@@ -84,6 +87,12 @@ public:
                 Placement::Modal, std::make_unique<EntryFormScreen>(
                                       m_folder, m_platform, m_host,
                                       EntryFormScreen::Shared{m_shared.field, m_shared.mailDraft, m_shared.organiser}));
+        case ScreenKind::Import:
+            return shownBy<qt::ImportView>(
+                Placement::Stacked,
+                std::make_unique<ImportScreen>(m_folder, m_platform, m_host,
+                                               ImportScreen::Shared{m_shared.field, board(), m_shared.droppedFiles},
+                                               qt::takeMailApart));
         }
         throw std::logic_error{"There is no screen of this kind."};
     }

@@ -8,19 +8,22 @@
 #include "screens/hand_overs.h"
 #include "ui/platform.h"
 
+#include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace tallyhoop {
 
 /// What outlives a screen. Nobody gets all of it: each value is handed to the screens that need it.
 struct SharedValues {
-    Field field;                             ///< the open field
-    std::optional<SavedPlayer> savedPlayer;  ///< from the board to the player list
-    std::optional<PlayerScore> listedPlayer; ///< from the list of scores to the board
-    bool folderTroubleSaid = false;          ///< that the folder cannot be written is said once
-    MailDraft mailDraft;                     ///< between the e-mail dialog and those who open it
-    std::string organiser{};                 ///< the e-mail address in the entry form, as it was entered last
+    Field field;                                       ///< the open field
+    std::optional<SavedPlayer> savedPlayer;            ///< from the board to the player list
+    std::optional<PlayerScore> listedPlayer;           ///< from the list of scores to the board
+    bool folderTroubleSaid = false;                    ///< that the folder cannot be written is said once
+    MailDraft mailDraft;                               ///< between the e-mail dialog and those who open it
+    std::string organiser{};                           ///< the e-mail address in the entry form, as it was entered last
+    std::vector<std::filesystem::path> droppedFiles{}; ///< from the board to the import
 };
 
 /// Lets the host make every screen. All arguments must outlive the host's screens.

@@ -11,6 +11,7 @@ inline constexpr const char* kSetup = "setup";
 inline constexpr const char* kSeeds = "seeds";
 inline constexpr const char* kSelections = "selections";
 inline constexpr const char* kEntries = "entries"; ///< how players hand in their brackets
+inline constexpr const char* kImport = "import";
 inline constexpr const char* kResults = "results";
 inline constexpr const char* kScores = "scores";     ///< the marks and the score of one selection
 inline constexpr const char* kScoreList = "ranking"; ///< the scores of all players
@@ -20,7 +21,7 @@ inline constexpr const char* kEmail = "email";
 inline constexpr const char* kPlayers = "players";
 inline constexpr const char* kRepair = "repair"; ///< of a faulty player list
 
-inline constexpr std::array kAll{kStart,  kDemo,      kSetup,   kSeeds,   kSelections, kEntries, kResults,
+inline constexpr std::array kAll{kStart,  kDemo,      kSetup,   kSeeds,   kSelections, kEntries, kImport, kResults,
                                  kScores, kScoreList, kOutlook, kReports, kEmail,      kPlayers, kRepair};
 
 } // namespace tallyhoop::help_topic

@@ -23,12 +23,12 @@ const QColor kOutline{150, 155, 168};
 const QColor kPathOutline{240, 150, 20};
 const QColor kLandOutline{30, 150, 90};
 
-/// A marker cannot be pressed, though its class is a button.
-QAccessibleInterface* speakForMarker(const QString&, QObject* object)
+/// Not all of them can be pressed, though their class is a button.
+QAccessibleInterface* speakForShown(const QString&, QObject* object)
 {
     auto* const label = qobject_cast<SlotLabel*>(object);
-    const bool marker = label && label->part() == SlotLabel::Part::Marker;
-    return marker ? new QAccessibleWidget{label, QAccessible::StaticText} : nullptr;
+    const bool isText = label && !label->isPressable();
+    return isText ? new QAccessibleWidget{label, QAccessible::StaticText} : nullptr;
 }
 
 /// Tests and assistive tools read the colours of text and background from the palette. There are as many palettes as
@@ -52,7 +52,7 @@ const QPalette& paletteOf(const QColor& colour, const QColor& background)
 
 SlotLabel::SlotLabel(Part part, QWidget* parent) : QAbstractButton{parent}, m_part{part}
 {
-    static const bool kInstalled = (QAccessible::installFactory(&speakForMarker), true);
+    static const bool kInstalled = (QAccessible::installFactory(&speakForShown), true);
     static_cast<void>(kInstalled);
     setMouseTracking(true);
     // A click picks a team and leaves the focus where it is: in the field that is being filled in.

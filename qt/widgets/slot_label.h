@@ -16,6 +16,7 @@ public:
         Row,    ///< a box of its own, such as a first-round row
         Winner, ///< a winner's place, continued by its marker
         Marker,
+        Shown, ///< a place that can only be looked at: a box of its own
     };
 
     SlotLabel(Part part, QWidget* parent);
@@ -34,6 +35,9 @@ public:
     bool isElided() const;
 
     Part part() const { return m_part; }
+
+    /// @returns whether a press does something
+    bool isPressable() const { return m_part == Part::Row || m_part == Part::Winner; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -44,6 +44,12 @@ void BoardExits::toEntryForm()
     m_screens.load(ScreenKind::EntryForm);
 }
 
+void BoardExits::toImport()
+{
+    m_screens.unload(ScreenKind::Scores);
+    m_screens.load(ScreenKind::Import);
+}
+
 void BoardExits::toDemo()
 {
     if (!enterDemo(m_folder, m_platform))

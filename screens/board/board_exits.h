@@ -20,6 +20,7 @@ public:
     void toReports();
     void toOutlook();
     void toEntryForm();
+    void toImport();
 
     /// Enters demo mode, or leaves it, and shows what the folder then holds on a fresh board.
     void toDemo();

@@ -30,10 +30,10 @@ void BoardMenus::arrange()
         mnuRecentFile[i].action = [this, i] { m_do.openRecent(i); };
         mnuRecent.children.push_back(&mnuRecentFile[i]);
     }
-    mnuFile.children = {&mnuNewSelection,  &mnuOpenSelection, &mnuRecent,    &mnuPrevious,         &mnuNext,
-                        &mnuSaveSelection, nullptr,           &mnuEntryForm, &mnuExportSelections, nullptr,
-                        &mnuPrintPreview,  &mnuPrintForm,     nullptr,       &mnuOpenFolder,       &mnuBackUp,
-                        nullptr,           &mnuExit};
+    mnuFile.children = {&mnuNewSelection,  &mnuOpenSelection, &mnuRecent,    &mnuPrevious, &mnuNext,
+                        &mnuSaveSelection, nullptr,           &mnuEntryForm, &mnuImport,   &mnuExportSelections,
+                        nullptr,           &mnuPrintPreview,  &mnuPrintForm, nullptr,      &mnuOpenFolder,
+                        &mnuBackUp,        nullptr,           &mnuExit};
     mnuEdit.children = {&mnuUndo, &mnuRedo};
     mnuEntryAssist.children = {&mnuHighSeed};
     mnuOptions.children = {&mnuScoreSelections, &mnuGameResults, &mnuOutlook,  nullptr,
@@ -55,6 +55,7 @@ void BoardMenus::chooseIcons()
     mnuPrevious.icon = mnuNext.icon = ui::MenuIcon::Open;
     mnuEntryForm.icon = ui::MenuIcon::New;
     mnuExportSelections.icon = ui::MenuIcon::Save;
+    mnuImport.icon = ui::MenuIcon::People;
     mnuOpenFolder.icon = ui::MenuIcon::Open;
     mnuBackUp.icon = ui::MenuIcon::Save;
     mnuUndo.icon = ui::MenuIcon::Undo;
@@ -86,6 +87,7 @@ void BoardMenus::explain()
         "A page on which players fill in their own brackets, on a telephone or a computer, and hand them in.";
     mnuExportSelections.explanation =
         "Writes all selections saved in the program's folder into a table for a spreadsheet.";
+    mnuImport.explanation = "Takes in what players have handed in: files, mails, texts or a spreadsheet.";
     mnuOpenFolder.explanation = "Shows the folder that holds the pool.";
     mnuBackUp.explanation = "Copies the pool's files into a new folder inside this one, named after day and time.";
     mnuSaveSelection.explanation = "Saves the selection, or the results, as shown on the board.";
@@ -115,6 +117,7 @@ void BoardMenus::enableMenus(const BoardState& state)
     showRecent(state);
     mnuEntryForm.enabled = state.finalized;
     mnuExportSelections.enabled = state.finalized && state.selectionsThere;
+    mnuImport.enabled = state.finalized;
     mnuSaveSelection.enabled = state.finalized && !state.scored;
     mnuGameResults.enabled = state.finalized && !state.resultsMode;
     mnuScoreSelections.enabled = state.finalized && !state.scored && (state.resultsMode || state.resultsThere);

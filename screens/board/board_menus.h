@@ -73,6 +73,7 @@ public:
                               "Ctrl+PgUp"};
     ui::MenuEntry mnuNext{m_owner, "mnuNext", "Nex&t Selection", [this] { m_do.openNeighbour(1); }, "Ctrl+PgDown"};
     ui::MenuEntry mnuEntryForm{m_owner, "mnuEntryForm", "Entry &Form...", [this] { m_go.toEntryForm(); }};
+    ui::MenuEntry mnuImport{m_owner, "mnuImport", "&Import Selections...", [this] { m_go.toImport(); }, "Ctrl+I"};
     ui::MenuEntry mnuExportSelections{m_owner, "mnuExportSelections", "Export Selections as &CSV...",
                                       [this] { m_do.exportSelections(); }};
     ui::MenuEntry mnuOpenFolder{m_owner, "mnuOpenFolder", "Open Fol&der", [this] { m_do.openFolder(); }};

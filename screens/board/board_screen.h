@@ -14,6 +14,7 @@
 #include "screens/board/recent_selections.h"
 #include "screens/board_printouts.h"
 #include "screens/hand_overs.h"
+#include "screens/open_selection.h"
 #include "screens/screens.h"
 #include "ui/platform.h"
 #include "ui/screen.h"
@@ -32,6 +33,7 @@ class BoardScreen : public ui::Screen,
                     public PlayerStrip,
                     public BoardMenus,
                     public BoardPrintouts,
+                    public OpenSelection,
                     private BoardCommands
 {
 public:
@@ -42,6 +44,7 @@ public:
         std::optional<PlayerScore>&
             listedPlayer;        ///< of the player chosen in the list of scores, whose picks are marked
         bool& folderTroubleSaid; ///< that the folder cannot be written is said once, not whenever a board is loaded
+        std::vector<std::filesystem::path>& droppedFiles; ///< left for the import
     };
 
     BoardScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Shared& shared);
@@ -73,7 +76,14 @@ public:
     bool mayBeLeft() override;
     bool mayShowGameResults() override;
 
+    // OpenSelection
+    std::filesystem::path openFile() const override { return m_resultsMode ? std::filesystem::path{} : m_openedFile; }
+    bool holdsUnsavedChanges() const override { return unsaved; }
+    void selectionsWereWritten(std::span<const std::filesystem::path> files) override;
+
     // Screen
+    bool takesFiles() const override { return m_shared.field.isFinalized(); }
+    void filesDropped(const std::vector<std::filesystem::path>& files) override;
     std::string helpTopic() const override;
     void showState() override;
     void load() override;

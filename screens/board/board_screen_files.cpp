@@ -14,6 +14,7 @@
 #include "screens/printouts.h"
 #include "screens/saving.h"
 
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -151,6 +152,24 @@ bool BoardScreen::showSelection(const std::filesystem::path& file)
     say(read.trouble ? shown(file.filename()) + " could not be read, or not whole."
                      : "Opened " + shown(file.filename()) + ".");
     return !read.trouble;
+}
+
+void BoardScreen::selectionsWereWritten(std::span<const std::filesystem::path> files)
+{
+    m_selectionsThere = m_files.selectionsExist();
+    const std::filesystem::path open = openFile();
+    const bool isShown = !open.empty() && std::ranges::any_of(files, [&](const std::filesystem::path& file) {
+        return isSameFile(file, open);
+    });
+    if (isShown && !unsaved)
+        showSelection(open);
+}
+
+void BoardScreen::filesDropped(const std::vector<std::filesystem::path>& files)
+{
+    m_shared.droppedFiles = files;
+    leaveScoreList();
+    m_screens.load(ScreenKind::Import);
 }
 
 void BoardScreen::saveSelection()

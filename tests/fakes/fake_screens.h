@@ -2,6 +2,7 @@
 #pragma once
 
 #include "screens/board_printouts.h"
+#include "screens/open_selection.h"
 #include "screens/screens.h"
 
 #include <functional>
@@ -38,6 +39,21 @@ public:
     bool isLoaded(ScreenKind kind) const override { return open.contains(kind); }
     void bringToFront(ScreenKind kind) override { raised.push_back(kind); }
     void endProgram() override { ended = true; }
+};
+
+class FakeOpenSelection : public OpenSelection
+{
+public:
+    std::filesystem::path file; ///< empty = none is open
+    bool unsavedChanges = false;
+    std::vector<std::filesystem::path> written;
+
+    std::filesystem::path openFile() const override { return file; }
+    bool holdsUnsavedChanges() const override { return unsavedChanges; }
+    void selectionsWereWritten(std::span<const std::filesystem::path> files) override
+    {
+        written.insert(written.end(), files.begin(), files.end());
+    }
 };
 
 class FakeBoard : public BoardPrintouts

@@ -89,7 +89,7 @@ class BoardWriter : public ScreenWriter<BoardScreen>
 public:
     explicit BoardWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
-        open(BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid});
+        open(BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid, droppedFiles});
     }
 
 protected:

@@ -49,6 +49,7 @@ public:
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> listedPlayer;
     bool folderTroubleSaid = false;
+    std::vector<std::filesystem::path> droppedFiles;
     MailDraft draft;
     FakeBoard board;
 };

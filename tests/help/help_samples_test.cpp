@@ -77,7 +77,8 @@ protected:
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> listedPlayer;
     bool folderTroubleSaid = false;
-    const BoardScreen::Shared shared{field, savedPlayer, listedPlayer, folderTroubleSaid};
+    std::vector<std::filesystem::path> droppedFiles;
+    const BoardScreen::Shared shared{field, savedPlayer, listedPlayer, folderTroubleSaid, droppedFiles};
 };
 
 } // namespace

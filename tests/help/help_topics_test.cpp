@@ -7,6 +7,7 @@
 #include "files/setup_file.h"
 #include "screens/board/board_screen.h"
 #include "screens/help_topics.h"
+#include "screens/import/import_screen.h"
 #include "screens/players/email_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -35,9 +36,9 @@ protected:
     BoardScreen& board()
     {
         if (!m_board) {
-            m_board =
-                std::make_unique<BoardScreen>(folder, platform.services, screens,
-                                              BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid});
+            m_board = std::make_unique<BoardScreen>(
+                folder, platform.services, screens,
+                BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid, droppedFiles});
             m_board->load();
             m_board->showState();
         }
@@ -58,6 +59,7 @@ protected:
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> listedPlayer;
     bool folderTroubleSaid = false;
+    std::vector<std::filesystem::path> droppedFiles;
     MailDraft draft;
     std::unique_ptr<BoardScreen> m_board;
 };
@@ -167,6 +169,13 @@ TEST_F(HelpTopic, OfTheEMailDialogIsEMailOrTheRepairOfItsPlayers)
     faulty.load();
     EXPECT_EQ(faulty.helpTopic(), "repair");
     EXPECT_EQ(platform.dialogs.shown.back().helpTopic, "repair");
+}
+
+TEST_F(HelpTopic, OfTheImportIsHowEntriesComeIn)
+{
+    FakeOpenSelection below;
+    const ImportScreen import{folder, platform.services, screens, {field, below, droppedFiles}, nullptr};
+    EXPECT_EQ(import.helpTopic(), "import");
 }
 
 TEST_F(HelpTopic, OfTheReportsIsTheReportsUnlessOneFailedForAReasonOfItsOwn)

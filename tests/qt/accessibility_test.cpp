@@ -9,6 +9,7 @@
 #include "qt/main_frame.h"
 #include "qt/screen_host.h"
 #include "screens/board/board_screen.h"
+#include "screens/import/import_screen.h"
 #include "screens/outlook/outlook_screen.h"
 #include "screens/scores/scores_screen.h"
 
@@ -159,6 +160,32 @@ TEST_P(Accessibility, OfTheOutlook)
         outlook.grdPlayers.cellPressed(0, 1);
     });
     examine(ScreenKind::Outlook);
+}
+
+TEST_P(Accessibility, OfTheImport)
+{
+    ASSERT_TRUE(folder.remove(file_name::kSettings)); // the demo takes no new selections
+    const auto late = scratch.put("Late.THC", scratch.get("Demo Prophet_DP.THC"));
+    Entry entry = readSelectionFile(late, {}).value;
+    entry.name = "Longest of the Participants in Pools";
+    entry.picks.put(kChampion, "<b>Yale");
+    const auto refused = scratch.put("Refused.THC", selectionFile(entry));
+    entry.picks.put(kChampion, entry.picks.at(kSemifinalA));
+    const auto replacing = scratch.put("Replacing.THC", selectionFile(entry));
+    onBoard([&] { board().mnuImport.click(); });
+    examine(ScreenKind::Import);
+    ImportScreen& import = *host.find<ImportScreen>(ScreenKind::Import);
+    desk.run(import, [&] { import.filesDropped({late, refused, replacing}); });
+    for (std::size_t row = 0; row < 3; ++row) {
+        desk.run(import, [&] { import.grdEntries.current = ui::GridCell{row, 2}; });
+        examine(ScreenKind::Import);
+    }
+    desk.run(import, [&] {
+        import.cmdTickAll.click();
+        import.cmdImport.click();
+    });
+    ASSERT_TRUE(import.txtSummary.visible);
+    examine(ScreenKind::Import);
 }
 
 TEST_P(Accessibility, OfThePlayerList)

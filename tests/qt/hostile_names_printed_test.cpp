@@ -92,10 +92,11 @@ TEST_F(HostileNamesPrinted, AreTeamsOfThePrintedBoard)
     field.finalized = "1";
     scratch.put(file_name::kSetup, setupFile(field));
     const DataFolder folder = scratch.folder();
-    BoardScreen board{folder,
-                      platform.services,
-                      screens,
-                      {shared.field, shared.savedPlayer, shared.listedPlayer, shared.folderTroubleSaid}};
+    BoardScreen board{
+        folder,
+        platform.services,
+        screens,
+        {shared.field, shared.savedPlayer, shared.listedPlayer, shared.folderTroubleSaid, shared.droppedFiles}};
     board.load();
 
     const QStringList pages = pagesOf(board.printout());

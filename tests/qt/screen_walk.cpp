@@ -67,7 +67,7 @@ QAccessible::Role roleOfClass(const QWidget& widget)
                                        Expected{"QToolBar", QAccessible::ToolBar},
                                        Expected{"QStatusBar", QAccessible::StatusBar}};
     if (const auto* slot = qobject_cast<const SlotLabel*>(&widget))
-        return slot->part() == SlotLabel::Part::Marker ? QAccessible::StaticText : QAccessible::Button;
+        return slot->isPressable() ? QAccessible::Button : QAccessible::StaticText;
     if (qobject_cast<const PictureView*>(&widget))
         return QAccessible::Graphic;
     if (qobject_cast<const QToolButton*>(&widget))

@@ -4,6 +4,7 @@
 #include "fakes/scratch_folder.h"
 #include "screens/board/board_screen.h"
 #include "screens/entries/entry_form_screen.h"
+#include "screens/import/import_screen.h"
 #include "screens/players/email_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -30,6 +31,7 @@ struct Captions : testing::Test {
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> marked;
     bool folderTroubleSaid = false;
+    std::vector<std::filesystem::path> droppedFiles;
     SeedTexts seeds;
 };
 
@@ -85,7 +87,8 @@ std::vector<std::string> menusOf(const ui::Screen& screen)
 
 TEST_F(Captions, OfTheBoard)
 {
-    const BoardScreen board{folder, platform.services, screens, {field, savedPlayer, marked, folderTroubleSaid}};
+    const BoardScreen board{
+        folder, platform.services, screens, {field, savedPlayer, marked, folderTroubleSaid, droppedFiles}};
 
     EXPECT_THAT(
         captionsOf(board),
@@ -97,7 +100,8 @@ TEST_F(Captions, OfTheBoard)
                     "lblFinalPoints: Predict total points in Championship game", "cmdDefaultColors: Default Colors"));
     EXPECT_THAT(menusOf(board),
                 ElementsAre("File: [New Selection] [Open Selection] [Open Recent] [Previous Selection] "
-                            "[Next Selection] [Save Selection] | [Entry Form...] [Export Selections as CSV...] | "
+                            "[Next Selection] [Save Selection] | [Entry Form...] [Import Selections...] [Export "
+                            "Selections as CSV...] | "
                             "[Print Preview] [Print Form] | "
                             "[Open Folder] [Back Up Pool] | [Exit]",
                             "Open Recent: [] [] [] [] []", "Edit: [Undo] [Redo]",
@@ -176,6 +180,20 @@ TEST_F(Captions, OfTheReports)
                     "cmdSelectedPrintouts: Create Selected Printout", "cmdPreviewBoard: Preview Board",
                     "cmdSaveBoardPdf: Save Board as PDF", "fraCustomReports: Custom Reports Option",
                     "cmdCustomReport: Goto Custom Reporting", "cmdOpenFolder: Open Folder", "cmdExit: Exit Reports"));
+}
+
+TEST_F(Captions, OfTheImport)
+{
+    FakeOpenSelection board;
+    const ImportScreen import{folder, platform.services, screens, {field, board, droppedFiles}, nullptr};
+
+    EXPECT_THAT(captionsOf(import),
+                ElementsAre("frmImportSelections: Import Selections", "lblChampion: CHAMPION",
+                            "cmdChooseFiles: Choose Files...", "cmdChooseFolder: Choose Folder...",
+                            "lblPasted: Or paste texts or mails:", "cmdReadText: Read the Text",
+                            "cmdTickAll: Tick All Complete", "cmdUntickAll: Untick All", "cmdEmptyList: Empty the List",
+                            "cmdImport: Import", "lblSummary: What was imported", "cmdCopy: Copy Summary",
+                            "cmdExit: Exit"));
 }
 
 TEST_F(Captions, OfThePlayers)

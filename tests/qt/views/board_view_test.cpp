@@ -94,10 +94,11 @@ protected:
     test::FakePlatform platform;
     SharedValues shared;
     test::FakeScreens screens;
-    BoardScreen board{folder,
-                      platform.services,
-                      screens,
-                      {shared.field, shared.savedPlayer, shared.listedPlayer, shared.folderTroubleSaid}};
+    BoardScreen board{
+        folder,
+        platform.services,
+        screens,
+        {shared.field, shared.savedPlayer, shared.listedPlayer, shared.folderTroubleSaid, shared.droppedFiles}};
     Desk desk;
     BoardView view{board, desk};
 };

@@ -26,6 +26,7 @@ protected:
     std::optional<SavedPlayer> savedPlayer;
     std::optional<PlayerScore> listedPlayer;
     bool folderTroubleSaid = false;
+    std::vector<std::filesystem::path> droppedFiles;
     DataFolder folder = scratch.folder();
     std::unique_ptr<BoardScreen> board;
 
@@ -63,8 +64,9 @@ protected:
 
     BoardScreen& load()
     {
-        board = std::make_unique<BoardScreen>(folder, platform.services, screens,
-                                              BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid});
+        board = std::make_unique<BoardScreen>(
+            folder, platform.services, screens,
+            BoardScreen::Shared{field, savedPlayer, listedPlayer, folderTroubleSaid, droppedFiles});
         board->load();
         board->showState();
         return *board;

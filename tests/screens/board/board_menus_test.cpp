@@ -74,7 +74,7 @@ std::set<std::string> together(std::set<std::string> names, const std::set<std::
 std::set<std::string> withSelectionMenus(std::set<std::string> disabled)
 {
     if (disabled.contains("mnuOpenSelection"))
-        disabled.insert({"mnuPrevious", "mnuNext", "mnuEntryForm"});
+        disabled.insert({"mnuPrevious", "mnuNext", "mnuEntryForm", "mnuImport"});
     return together(std::move(disabled), {"mnuOutlook", "mnuExportSelections", "mnuRecent", "mnuRecentFile_0",
                                           "mnuRecentFile_1", "mnuRecentFile_2", "mnuRecentFile_3", "mnuRecentFile_4"});
 }
@@ -188,8 +188,9 @@ TEST_F(BoardMenusTest, EachOtherEntryLeadsWhereItSays)
     menus.mnuReports.click();
     menus.mnuOutlook.click();
     menus.mnuEntryForm.click();
-    EXPECT_THAT(screens.loads,
-                ElementsAre(ScreenKind::Players, ScreenKind::Reports, ScreenKind::Outlook, ScreenKind::EntryForm));
+    menus.mnuImport.click();
+    EXPECT_THAT(screens.loads, ElementsAre(ScreenKind::Players, ScreenKind::Reports, ScreenKind::Outlook,
+                                           ScreenKind::EntryForm, ScreenKind::Import));
     menus.mnuSetupOptions.click();
     EXPECT_EQ(screens.loads.back(), ScreenKind::Setup);
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
@@ -273,7 +274,7 @@ TEST_F(BoardMenusTest, EveryEntryIsInExactlyOneMenu)
                 placed.insert(child);
     for (const ui::MenuEntry* entry : menus.entries())
         EXPECT_EQ(placed.count(entry), 1u) << entry->name;
-    EXPECT_EQ(placed.size(), 38u);
+    EXPECT_EQ(placed.size(), 39u);
 }
 
 TEST_F(BoardMenusTest, EntriesHaveShortcutsOfTheirOwnAndSayWhatTheyDo)
@@ -290,8 +291,8 @@ TEST_F(BoardMenusTest, EntriesHaveShortcutsOfTheirOwnAndSayWhatTheyDo)
         }
     }
     EXPECT_EQ(shortcuts,
-              (std::set<std::string>{"Ctrl+N", "Ctrl+O", "Ctrl+S", "Ctrl+P", "Ctrl+Q", "Ctrl+Z", "Ctrl+Shift+Z",
-                                     "Ctrl+PgUp", "Ctrl+PgDown", "F1", "F5", "F6", "F7", "F8", "F9"}));
+              (std::set<std::string>{"Ctrl+I", "Ctrl+N", "Ctrl+O", "Ctrl+S", "Ctrl+P", "Ctrl+Q", "Ctrl+Z",
+                                     "Ctrl+Shift+Z", "Ctrl+PgUp", "Ctrl+PgDown", "F1", "F5", "F6", "F7", "F8", "F9"}));
 }
 
 } // namespace
