@@ -275,6 +275,10 @@ class Program:
         """A picture of the whole display."""
         self._display.screenshot(str(path))
 
+    def clipboard(self, text=None):
+        """What is on the clipboard; with a text, that is put there first."""
+        return self._inspector.ask("clipboard", **({} if text is None else {"text": text}))["text"]
+
     # --- acting ---
 
     def move(self, point):

@@ -4,6 +4,7 @@
 #include "inject.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QGenericPlugin>
 #include <QJsonDocument>
 #include <QLocalServer>
@@ -106,6 +107,12 @@ private:
         }
         if (ask == QLatin1String("counts")) {
             return m_counter.counts();
+        }
+        if (ask == QLatin1String("clipboard")) {
+            if (request.contains(QLatin1String("text"))) {
+                QApplication::clipboard()->setText(request.value(QLatin1String("text")).toString());
+            }
+            return {{QStringLiteral("text"), QApplication::clipboard()->text()}};
         }
         if (ask == QLatin1String("inject")) {
             // Later: the event may open a box that does not return before the test has answered it.
