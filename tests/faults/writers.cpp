@@ -1,14 +1,17 @@
 // tests/faults/writers.cpp - for each file, the screen that writes it and the presses up to the last one.
 #include "faults/writers.h"
 
+#include "base/text.h"
 #include "fakes/fake_background.h"
 #include "faults/messages.h"
 #include "files/file_names.h"
+#include "files/selection_file.h"
 #include "files/setup_file.h"
 #include "reports/entry_form/entry_form.h"
 #include "reports/outlook.h"
 #include "screens/board/board_screen.h"
 #include "screens/entries/entry_form_screen.h"
+#include "screens/import/import_screen.h"
 #include "screens/outlook/outlook_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -256,6 +259,41 @@ private:
                            std::make_unique<FakeBackground>()};
 };
 
+/// What could not be written is said in the summary, not in a message.
+class ImportWriter : public Writer
+{
+public:
+    explicit ImportWriter(const fs::path& folderPath) : Writer{folderPath}
+    {
+        const Entry handedIn{startingBracket(m_field), "AB", "Adams", "177", {}};
+        droppedFiles = {m_inbox.put("handed-in.THC", selectionFile(handedIn))};
+        m_screen.load();
+        m_screen.keyPressed(m_screen.grdEntries, {.key = ui::Key::Character, .character = ' '}); // without a pick
+        m_screen.showState();
+    }
+    /// Twice: a row that was compared while the folder was away is compared again before it is written.
+    void save(std::optional<ui::Answer> /*mayReplace*/) override
+    {
+        m_screen.cmdImport.click();
+        m_screen.cmdImport.click();
+    }
+    std::string onScreen() const override
+    {
+        std::string rows;
+        for (std::vector<std::string> row : m_screen.grdEntries.rows) {
+            row.pop_back(); // what would happen, which depends on the folder
+            rows += joined(row, ", ") + "\n";
+        }
+        return rows;
+    }
+
+private:
+    ScratchFolder m_inbox;
+    Field m_field = readField(folder).value;
+    FakeOpenSelection m_below;
+    ImportScreen m_screen{folder, platform.services, screens, {m_field, m_below, droppedFiles}, nullptr};
+};
+
 constexpr std::size_t kToPrinter = 0;
 constexpr std::size_t kToFile = 1;
 
@@ -306,6 +344,8 @@ const std::vector<WriterKind>& allWriters()
          [](const fs::path& folder, const Fault&) { return std::vector{checkSelection(folder / kNewSelection)}; }},
         {"EntryForm", kEntryFormFile, "org@example.org", false, false, opened<EntryFormWriter>,
          [](const fs::path& folder, const Fault&) { return std::vector{checkItsFolder(folder / kEntryFormFile)}; }},
+        {"Import", kSelection, "\r\n177\r\n", true, false, opened<ImportWriter>,
+         [](const fs::path&, const Fault&) { return std::vector<ui::Message>{}; }},
         {"PlayerList", file_name::kPlayerNames, "Evans,GH", true, true, opened<PlayerListWriter>,
          troubleWith<file_name::kPlayerNames>},
         {"AnnotatedCopy", file_name::kPlayerNamesErrors, "damaged line", true, false, opened<AnnotatedCopyWriter>,
