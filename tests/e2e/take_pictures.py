@@ -11,7 +11,9 @@ import subprocess
 import sys
 import tempfile
 
+import handed_in
 import office_pool
+from pool_2000 import setup_file
 from program import Program, centre
 
 PICTURES = pathlib.Path(sys.argv[1] if sys.argv[1:] else pathlib.Path(__file__).parents[2] / "docs/pictures")
@@ -180,6 +182,37 @@ def take_outlook(program):
     shows(program, "lblRegion_61", "")
 
 
+def take_import(program):
+    """A review with every kind of row, then what is left of it after the import."""
+    inbox = pathlib.Path(program.folder).parent / "Handed in"
+    shutil.rmtree(inbox, ignore_errors=True)
+    inbox.mkdir()
+    players = [("Ann Smith", "AS"), ("Bob Jones", "BJ"), ("Cleo Garcia", "CG"), ("Di Brown", "DB"), ("Ed Young", "EY")]
+    program.write("POOLSTART.THS", setup_file())
+    program.write("Bob Jones_BJ.THC", handed_in.selection_bytes("Bob Jones", "BJ", "120", handed_in.some_winners(9)))
+    for number, (name, initials) in enumerate(players):
+        winners = {**handed_in.some_winners(number), **({126: ""} if name == "Di Brown" else {}),
+                   **({126: "Harvard"} if name == "Ed Young" else {})}
+        sender = f"{name.split()[0].lower()}@example.org"
+        text = handed_in.form_text(name, initials, str(120 + number), winners, sender)
+        (inbox / f"{name}.eml").write_bytes(handed_in.mail(sender, text))
+    program.start()
+    program.menu("mnuFile", "mnuImport")
+    program.click("cmdChooseFolder")
+    program.file_dialog(inbox)
+    program.wait(lambda: len(program.rows("grdEntries")) == len(players), "the entries")
+    for row, picture in ((1, "import"), (4, "import-refused")):
+        program.click_at(centre(program.table("grdEntries")["rects"][row][2]))
+        program.wait(lambda at=row: program.text("lblEntry").startswith(f"Row {at + 1}:"), "the bracket")
+        out_of_the_way(program)
+        take(program, picture)
+    program.click("cmdImport")
+    program.wait(lambda: program.visible("txtSummary"), "the summary")
+    out_of_the_way(program)
+    take(program, "import-summary")
+    shutil.rmtree(inbox)
+
+
 def main():
     PICTURES.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory() as settings:
@@ -194,6 +227,10 @@ def main():
             with Program(folder=pool, environment=environment, size=SIZE, scale=SCALE) as program:
                 program.suffix = suffix
                 take_outlook(program)
+            shutil.rmtree(pool)
+            with Program(folder=pool, environment=environment, size=SIZE, scale=SCALE) as program:
+                program.suffix = suffix
+                take_import(program)
             shutil.rmtree(pool)
 
 
