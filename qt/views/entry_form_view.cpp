@@ -11,7 +11,7 @@ namespace tallyhoop::qt {
 
 namespace {
 
-constexpr int kAddressCharacters = 44;
+constexpr int kAddressCharacters = 72; ///< more than most addresses have: room for the line at the bottom
 
 } // namespace
 

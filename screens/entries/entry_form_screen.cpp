@@ -55,7 +55,7 @@ EntryFormScreen::EntryFormScreen(const DataFolder& folder, const ui::Platform& p
 {
     txtOrganiser.spokenName = "Your e-mail address";
     txtOrganiser.maxLength = kLongestAddress;
-    txtOrganiser.explanation = "Where brackets are mailed to. It is part of the form; empty = players enter it.";
+    txtOrganiser.explanation = "Where brackets are mailed to; where it is empty, players enter an address.";
     cmdSave.explanation = "Writes the form, one file, to be put where players find it.";
     cmdMail.explanation = "Saves the form unless it is saved, and mails it to everybody in the player list.";
     cmdClose.explanation = "Back to where you were.";
