@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* kCaption = "Entry Form";
 constexpr auto npos = std::string_view::npos;
-constexpr int kLongestAddress = 254; ///< that a mail server takes
+constexpr std::size_t kLongestAddress = 254; ///< that a mail server takes
 
 const ui::Message kNoAddress{kCaption,
                              "This is not an e-mail address that brackets can be sent to.\r\n"
@@ -32,8 +32,8 @@ bool isAddress(std::string_view text)
         return c > ' ' && c <= '~' && std::string_view{"\"(),:;<>[]\\"}.find(c) == npos;
     };
     const std::size_t at = text.find('@');
-    return at != npos && at > 0 && at + 1 < text.size() && text.find('@', at + 1) == npos &&
-           std::ranges::all_of(text, isPlain);
+    return text.size() <= kLongestAddress && at != npos && at > 0 && at + 1 < text.size() &&
+           text.find('@', at + 1) == npos && std::ranges::all_of(text, isPlain);
 }
 
 /// What players read who have never heard of the page.
@@ -54,7 +54,6 @@ EntryFormScreen::EntryFormScreen(const DataFolder& folder, const ui::Platform& p
     : Screen{"frmEntryForm", kCaption}, m_folder{folder}, m_platform{platform}, m_screens{screens}, m_shared{shared}
 {
     txtOrganiser.spokenName = "Your e-mail address";
-    txtOrganiser.maxLength = kLongestAddress;
     txtOrganiser.explanation = "Where brackets are mailed to; where it is empty, players enter an address.";
     cmdSave.explanation = "Writes the form, one file, to be put where players find it.";
     cmdMail.explanation = "Saves the form unless it is saved, and mails it to everybody in the player list.";

@@ -108,6 +108,18 @@ TEST_F(EntryFormDialog, RefusesWhatIsNoAddress)
     EXPECT_EQ(organiser, "");
 }
 
+TEST_F(EntryFormDialog, RefusesAnAddressThatNoMailServerTakes)
+{
+    const std::string longest = std::string(64, 'a') + "@" + std::string(189, 'b'); // 254 characters
+    screen->txtOrganiser.text = longest + "b";
+    screen->cmdSave.click();
+    EXPECT_EQ(platform.dialogs.captionsShown(), std::vector<std::string>{"Entry Form"});
+    screen->txtOrganiser.text = longest;
+    platform.dialogs.pick(std::nullopt);
+    screen->cmdSave.click();
+    EXPECT_EQ(organiser, longest);
+}
+
 TEST_F(EntryFormDialog, TakesUnusualAddresses)
 {
     for (const std::string text : {"o'brien+pool@mail.example.org", "a@localhost", "x_y-z.1@x.org", "a!b@x"}) {
