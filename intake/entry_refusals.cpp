@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "files/data_folder.h"
+#include "files/file_names.h"
 #include "intake/game_words.h"
 #include "intake/limits.h"
 #include "intake/plain_text.h"
@@ -29,6 +30,15 @@ void checkText(Sentences& reasons, const std::string& subject, const std::string
         reasons.push_back(subject + (verb == " is" ? " has" : " have") + " control characters.");
     if (text.size() > longest)
         reasons.push_back(subject + verb + " longer than " + std::to_string(longest) + " characters.");
+}
+
+/// The name of a file is taken as it is, or not at all: made fit, it would be another file.
+void checkGivenFileName(Sentences& reasons, const std::string& fileName)
+{
+    const bool isSafe = isBareName(fileName) && withoutUnsafeCharacters(fileName) == fileName;
+    const bool isSelection = endsWithFolded(fileName, file_name::kSelectionExtension);
+    if (!isSafe || !isSelection || toUtf8(fileName).size() > kMostBytesOfFileNameHandedIn)
+        reasons.push_back("The file name " + quotedText(fileName) + " cannot be that of a selection.");
 }
 
 /// A name is made fit for a file in any case; one that is made to lead elsewhere is not a player's.
@@ -118,6 +128,8 @@ std::vector<std::string> refusalsOf(const HandedIn& handedIn, const Field& field
     if (!handedIn.isLegible)
         return reasons;
     checkTexts(reasons, handedIn.entry);
+    if (!handedIn.fileName.empty())
+        checkGivenFileName(reasons, handedIn.fileName);
     checkRows(reasons, handedIn.entry.picks, field);
     checkPicks(reasons, handedIn.entry.picks, field);
     return reasons;

@@ -23,7 +23,9 @@ constexpr std::array<std::string_view, 2> kNameTitles = {"name", "player"};
 constexpr std::array<std::string_view, 1> kInitialsTitles = {"initials"};
 constexpr std::array<std::string_view, 3> kTotalTitles = {"total", "final points", "predicted total"};
 constexpr std::array<std::string_view, 4> kEmailTitles = {"e-mail", "email", "mail", "address"};
+constexpr std::array<std::string_view, 1> kFileTitles = {"file"};
 constexpr std::string_view kGameTitle = "game ";
+constexpr std::size_t kColumnsInOrder = kGames + 3;
 
 /// Which column holds what, counted from 0.
 struct Columns {
@@ -31,6 +33,7 @@ struct Columns {
     std::optional<std::size_t> initials;
     std::optional<std::size_t> total;
     std::optional<std::size_t> email;
+    std::optional<std::size_t> file;
     ByGame<std::optional<std::size_t>> games{};
     std::size_t count = 0;
 };
@@ -64,13 +67,12 @@ std::string titleOf(const Field& field, Game game)
 
 bool isHeader(const CsvRow& row)
 {
-    return std::ranges::any_of(
-        row, [](const std::string& cell) { return isOneOf(kInitialsTitles, withoutOuterBlanks(cell)); });
+    return std::ranges::any_of(row, [](const std::string& cell) { return isOneOf(kInitialsTitles, unguarded(cell)); });
 }
 
 Columns columnsInOrder()
 {
-    Columns columns{0, 1, 2, {}, {}, kGames + 3};
+    Columns columns{0, 1, 2, {}, {}, {}, kColumnsInOrder};
     std::size_t column = 3;
     for (std::optional<std::size_t>& game : columns.games.values)
         game = column++;
@@ -89,6 +91,8 @@ bool takeTitle(Columns& columns, const std::string& title, std::size_t column)
         place = &columns.total;
     else if (isOneOf(kEmailTitles, title))
         place = &columns.email;
+    else if (isOneOf(kFileTitles, title))
+        place = &columns.file;
     else if (const std::optional<Game> game = gameOfTitle(title))
         place = &columns.games[*game];
     if (place == nullptr || *place)
@@ -104,7 +108,7 @@ Result<Columns> columnsOf(const CsvRow& header)
     columns.count = header.size();
     std::vector<std::size_t> others;
     for (std::size_t column = 0; column < header.size(); ++column) {
-        const std::string title = withoutOuterBlanks(header[column]);
+        const std::string title = unguarded(header[column]);
         if (!title.empty() && !takeTitle(columns, title, column))
             others.push_back(column);
     }
@@ -117,7 +121,7 @@ Result<Columns> columnsOf(const CsvRow& header)
     if (!columns.total)
         missing.emplace_back("\"Total\"");
     if (const auto games = std::ranges::count_if(columns.games.values, isThere); games < kGames)
-        missing.push_back(std::to_string(kGames - games) + " of the 63 games");
+        missing.push_back(games == 0 ? "all of the 63 games" : std::to_string(kGames - games) + " of the 63 games");
     if (!missing.empty())
         return Failure{"The header of the table lacks " + joined(missing, ", ") + "."};
     return columns;
@@ -129,9 +133,18 @@ std::string cellAt(const CsvRow& row, const std::optional<std::size_t>& column)
     return column && *column < row.size() ? unguarded(row[*column]) : std::string{};
 }
 
+/// @returns UTF-8
+std::string cellOf(std::string_view text) { return guarded(toUtf8(text)); }
+
 bool isEmptyRow(const CsvRow& row)
 {
     return std::ranges::all_of(row, [](const std::string& cell) { return lastNonBlank(cell) == 0; });
+}
+
+/// The player list, or any other table of a folder, must not become a refusal for each of its rows.
+bool isOfEntries(const std::vector<CsvRow>& rows)
+{
+    return std::ranges::any_of(rows, [](const CsvRow& row) { return row.size() >= kColumnsInOrder; });
 }
 
 HandedIn entryOf(const CsvRow& row, const Columns& columns, const KnownTeams& teams)
@@ -141,9 +154,10 @@ HandedIn entryOf(const CsvRow& row, const Columns& columns, const KnownTeams& te
     read.entry.initials = fromUtf8(cellAt(row, columns.initials));
     read.entry.finalPoints = fromUtf8(cellAt(row, columns.total));
     read.email = firstAddressIn(cellAt(row, columns.email));
+    read.fileName = fromUtf8(cellAt(row, columns.file));
     ByGame<std::string> picks;
     for (int game = 0; game < kGames; ++game)
-        picks[Game{game}] = asTyped(cellAt(row, columns.games[Game{game}]));
+        picks[Game{game}] = fromUtf8(cellAt(row, columns.games[Game{game}]));
     read.entry.picks = teams.bracketOf(picks);
     if (row.size() > columns.count &&
         !isEmptyRow({row.begin() + static_cast<std::ptrdiff_t>(columns.count), row.end()}))
@@ -159,6 +173,10 @@ std::vector<HandedIn> readEntryTable(std::string_view bytes, const KnownTeams& t
     const Result<std::vector<CsvRow>> rows = csvRows(utf8Of(bytes));
     if (!rows)
         return {refusedWhole(origin, rows.failure().message)};
+    if (rows->size() > 0 && !isHeader(rows->front()) && !isOfEntries(*rows))
+        return {
+            refusedWhole(origin, "This is not a table of entries: it has no header with \"Initials\", and no row has " +
+                                     std::to_string(kColumnsInOrder) + " columns.")};
     std::vector<HandedIn> entries;
     Columns columns = columnsInOrder();
     for (std::size_t i = 0; i < rows->size() && entries.size() < kMostEntriesHandedIn; ++i) {
@@ -185,14 +203,16 @@ std::string entryTable(std::span<const Entry> entries, const Field& field)
     rows.reserve(entries.size() + 1);
     CsvRow& header = rows.emplace_back(CsvRow{"Name", "Initials", "Total"});
     for (int game = 0; game < kGames; ++game)
-        header.push_back(guarded(titleOf(field, Game{game})));
+        header.push_back(cellOf(titleOf(field, Game{game})));
+    header.emplace_back("File");
     for (const Entry& entry : entries) {
-        CsvRow row{guarded(entry.name), guarded(entry.initials), guarded(entry.finalPoints)};
+        CsvRow row{cellOf(entry.name), cellOf(entry.initials), cellOf(entry.finalPoints)};
         for (const Position position : gamePositions())
-            row.push_back(guarded(entry.picks.at(position)));
+            row.push_back(cellOf(entry.picks.at(position)));
+        row.push_back(cellOf(entry.fileName));
         rows.push_back(std::move(row));
     }
-    return std::string{kByteOrderMark} + toUtf8(csvText(rows));
+    return std::string{kByteOrderMark} + csvText(rows);
 }
 
 } // namespace tallyhoop

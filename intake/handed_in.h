@@ -24,11 +24,12 @@ struct Origin {
 
 /// What a reader made of one entry. Picks that the reader does not know are in the bracket all the same.
 struct HandedIn {
-    Entry entry;         ///< initials as typed; 127 places, the field's teams included; no file name
+    Entry entry;         ///< initials as typed; 127 places, the field's teams included; its own file name is empty
     std::string email{}; ///< from the entry itself or else its sender; empty = none
     Origin origin;
     std::vector<std::string> refusals; ///< why the reader refuses it, a sentence each; empty = it does not
     bool isLegible = true;             ///< false = so little could be read that there is no use in checking that
+    std::string fileName{}; ///< the selection that it is to become, not checked; empty = made from name and initials
 
     friend bool operator==(const HandedIn&, const HandedIn&) = default;
 };

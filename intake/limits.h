@@ -14,7 +14,8 @@ inline constexpr std::size_t kMostPartsOfMail = 500; ///< the messages inside it
 inline constexpr int kDeepestPartOfMail = 20;        ///< parts inside parts
 inline constexpr int kDeepestMailFile = 3;           ///< mails attached as files to mails
 
-inline constexpr std::size_t kLongestNameHandedIn = 100;    ///< characters; the player list holds 25
-inline constexpr std::size_t kLongestInitialsHandedIn = 20; ///< characters
+inline constexpr std::size_t kLongestNameHandedIn = 100;         ///< characters; the player list holds 25
+inline constexpr std::size_t kLongestInitialsHandedIn = 20;      ///< characters
+inline constexpr std::size_t kMostBytesOfFileNameHandedIn = 255; ///< in UTF-8: the longest that file systems take
 
 } // namespace tallyhoop

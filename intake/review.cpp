@@ -104,7 +104,8 @@ ReviewRow rowOf(HandedIn handedIn, const Standards& standards)
         return row;
     }
     const Entry& entry = row.handedIn.entry;
-    FolderFile file = standards.selections.fileOf(proposedFileName(entry.name, entry.initials));
+    const std::string& given = row.handedIn.fileName;
+    FolderFile file = standards.selections.fileOf(given.empty() ? proposedFileName(entry.name, entry.initials) : given);
     row.fileName = std::move(file.name);
     row.file = std::move(file.path);
     row.isLate = standards.results > 0;

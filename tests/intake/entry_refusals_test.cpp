@@ -9,6 +9,7 @@
 namespace tallyhoop {
 namespace {
 
+using test::replaced;
 using test::upperEntry;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -61,6 +62,24 @@ TEST(EntryRefusals, NameWhatLeadsToAnotherFolderOrIsADevice)
     EXPECT_THAT(refusals(upperEntry("nul.x")), ElementsAre("The name \"nul.x\" is that of a device."));
     EXPECT_THAT(refusals(upperEntry("CON")), ElementsAre("The name \"CON\" is that of a device."));
     EXPECT_THAT(refusals(upperEntry("Conrad...")), IsEmpty());
+}
+
+TEST(EntryRefusals, TakeTheNameOfAFileAsItIsOrNotAtAll)
+{
+    const auto refusalsOfFile = [](const std::string& fileName) {
+        HandedIn entry{upperEntry(), {}, {}, {}};
+        entry.fileName = fileName;
+        return refusalsOf(entry, test::field2000());
+    };
+    for (const char* name : {"Ann.THC", "ann.thc", " Ann  S. & Co.Thc", "Zo\xE9.THC"})
+        EXPECT_THAT(refusalsOfFile(name), IsEmpty()) << name;
+    for (const char* name : {"../Ann.THC", "..\\Ann.THC", "/tmp/Ann.THC", "C:Ann.THC", "..", "NUL.THC", "com1.x.thc",
+                             "Ann?.THC", "A|nn.THC", "A\tnn.THC", "POOLSTART.THS", "PLAYERNAMES.CSV", "Ann", "THC"})
+        EXPECT_THAT(refusalsOfFile(name),
+                    ElementsAre("The file name \"" + replaced(name, "\t", " ") + "\" cannot be that of a selection."));
+    EXPECT_THAT(refusalsOfFile(std::string(251, 'a') + ".THC"), IsEmpty());
+    EXPECT_EQ(refusalsOfFile(std::string(252, 'a') + ".THC").size(), 1u);
+    EXPECT_EQ(refusalsOfFile(std::string(251, '\xE9') + ".THC").size(), 1u) << "two bytes each on the disk";
 }
 
 TEST(EntryRefusals, NameUnknownTeamsOnceEach)

@@ -92,8 +92,9 @@ TEST(EntryTable, TakesPicksAsPeopleWriteThem)
 
 TEST(EntryTable, KeepsUnknownTeamsAndLeavesMissingCellsOpen)
 {
-    const std::vector<HandedIn> read = readTable("Ann Smith,as,142,Wisconson,Wisconsin");
-    ASSERT_EQ(read.size(), 1u);
+    const std::vector<HandedIn> read =
+        readTable("Ann Smith,as,142,Wisconson,Wisconsin\nBob,b,99" + picksOf(test::upperTeamsWin()));
+    ASSERT_EQ(read.size(), 2u);
     EXPECT_EQ(read[0].entry.picks.at(Position{16}), "Wisconson");
     EXPECT_EQ(read[0].entry.picks.at(Position{17}), "Wisconsin");
     EXPECT_TRUE(read[0].entry.picks.isEmpty(Position{18}));
@@ -104,7 +105,38 @@ TEST(EntryTable, IsRefusedWhenItsHeaderLacksAColumn)
     EXPECT_EQ(onlyRefusal("Name,Initials,Game 1\nAnn,as,Arizona\n"),
               "The header of the table lacks \"Total\", 62 of the 63 games.");
     EXPECT_EQ(onlyRefusal("\"Name,Initials"), "A quotation mark in row 1 is not closed.");
+    EXPECT_EQ(onlyRefusal("Name,Initials,Total\nAnn,as,142\n"), "The header of the table lacks all of the 63 games.");
     EXPECT_EQ(onlyRefusal(""), "The table has no entries.");
+}
+
+TEST(EntryTable, IsNoneWhenItIsAnotherList)
+{
+    std::string players;
+    for (int player = 0; player < 300; ++player)
+        players += "\"SMITH,JS\",\"SMITH_JS.THC\",\"js@example.org\",\"555\"\r\n";
+    EXPECT_EQ(onlyRefusal(players),
+              "This is not a table of entries: it has no header with \"Initials\", and no row has "
+              "66 columns.");
+}
+
+TEST(EntryTable, TakesBlanksAroundACellForAnAccident)
+{
+    const std::string row = "\xC2\xA0 Ann  Smith ,\tas\xC2\xA0, 142 " + picksOf(test::upperTeamsWin());
+    EXPECT_EQ(readTable(row)[0].entry, upperEntry());
+    EXPECT_EQ(readTable("\xC2\xA0Name , Initials,Total\xC2\xA0" + picksOf(test::upperTeamsWin()) + "\n" + row)[0].entry,
+              upperEntry());
+}
+
+TEST(EntryTable, MayNameTheSelectionOfARow)
+{
+    std::string header = "File,Name,Initials,Total";
+    for (int game = 1; game <= 63; ++game)
+        header += ",Game " + std::to_string(game);
+    const std::string rest = ",Ann Smith,as,142" + picksOf(test::upperTeamsWin());
+    const std::vector<HandedIn> read = readTable(header + "\n Ann.THC " + rest + "\n" + rest);
+    ASSERT_EQ(read.size(), 2u);
+    EXPECT_EQ(read[0].fileName, "Ann.THC");
+    EXPECT_EQ(read[1].fileName, "") << "to be made from name and initials";
 }
 
 TEST(EntryTable, RefusesARowWithTooManyColumns)
@@ -121,9 +153,9 @@ TEST(EntryTable, IsWrittenWithAHeaderThatPeopleUnderstand)
     const std::vector<std::string> lines = linesOf(entryTable(entries, field2000()));
     ASSERT_EQ(lines.size(), 2u);
     EXPECT_TRUE(lines[0].starts_with("\xEF\xBB\xBFName,Initials,Total,\"Game 1 (West, round 1, game 1)\","));
-    EXPECT_TRUE(lines[0].ends_with(",Game 61 (semifinal 1),Game 62 (semifinal 2),Game 63 (final)"));
+    EXPECT_TRUE(lines[0].ends_with(",Game 61 (semifinal 1),Game 62 (semifinal 2),Game 63 (final),File"));
     EXPECT_TRUE(lines[1].starts_with("Ann Smith,as,142,Arizona,Wisconsin,Texas,LSU,")) << lines[1];
-    EXPECT_TRUE(lines[1].ends_with(",Arizona,Duke,Duke"));
+    EXPECT_TRUE(lines[1].ends_with(",Arizona,Duke,Duke,"));
 }
 
 TEST(EntryTable, SurvivesTheWayThroughASpreadsheet)
@@ -134,12 +166,17 @@ TEST(EntryTable, SurvivesTheWayThroughASpreadsheet)
     std::string everyByte; // that a name can hold
     for (int byte = 0x20; byte < 0x100; ++byte)
         everyByte.push_back(static_cast<char>(byte));
-    const std::vector<Entry> entries{upperEntry(), strange, upperEntry("'=x", "'@", " 99 "), upperEntry(everyByte)};
+    Entry renamed = upperEntry("Ann  Smith ");
+    renamed.fileName = "My  own\xA0name\xE9.thc";
+    const std::vector<Entry> entries{upperEntry(), strange, upperEntry("'=x", "'@", " 99 "), upperEntry(everyByte),
+                                     renamed};
     const std::string table = entryTable(entries, field2000());
     EXPECT_THAT(table, testing::HasSubstr("\"'=HYPERLINK(\"\"x\"\");,'\",'-a,'+100"));
     std::vector<Entry> again;
-    for (const HandedIn& handedIn : readTable(table))
+    for (const HandedIn& handedIn : readTable(table)) {
         again.push_back(handedIn.entry);
+        again.back().fileName = handedIn.fileName;
+    }
     EXPECT_EQ(again, entries);
 }
 
