@@ -11,6 +11,7 @@
 #include "intake/html_text.h"
 #include "intake/limits.h"
 #include "intake/plain_text.h"
+#include "intake/storable.h"
 
 #include <algorithm>
 #include <array>
@@ -140,7 +141,7 @@ std::vector<HandedIn> EntryReaders::readFile(std::string_view bytes, const Origi
     if (bytes.size() > kMostBytesHandedIn)
         return {refusedWhole(origin, "The file is larger than 1 MB.")};
     if (endsWithFolded(origin.file, file_name::kSelectionExtension))
-        return {readSelectionFile(bytes, origin)};
+        return {hasByteOrderMark(bytes) ? readSelectionText(utf8Of(bytes), origin) : readSelectionFile(bytes, origin)};
     if (endsWithFolded(origin.file, kMailExtension))
         return readMail(bytes, origin, depth);
     if (endsWithFolded(origin.file, kTableExtension))
@@ -150,9 +151,10 @@ std::vector<HandedIn> EntryReaders::readFile(std::string_view bytes, const Origi
 
 std::vector<HandedIn> EntryReaders::readText(std::string_view bytes, const Origin& origin) const
 {
-    if (isSelection(bytes))
-        return {readSelectionFile(bytes, origin)};
-    return readEntryTexts(utf8Of(bytes), m_teams, origin);
+    const std::string utf8 = utf8Of(bytes);
+    if (isSelection(utf8))
+        return {readSelectionText(utf8, origin)};
+    return readEntryTexts(utf8, m_teams, origin);
 }
 
 std::vector<HandedIn> EntryReaders::readMail(std::string_view bytes, const Origin& origin, int depth) const
@@ -199,6 +201,16 @@ HandedIn EntryReaders::readSelectionFile(std::string_view bytes, const Origin& o
         entry.refusals.push_back(read.trouble->message);
         entry.isLegible = linesOf(bytes).size() + 1 >= kLinesOfSelection; // only the end marker is missing
     }
+    return entry;
+}
+
+/// A selection that came as text, pasted or saved by another program.
+HandedIn EntryReaders::readSelectionText(std::string_view utf8, const Origin& origin) const
+{
+    HandedIn entry = readSelectionFile(fromUtf8(utf8), origin);
+    int number = 1;
+    for (const std::string& line : linesOf(utf8))
+        storable(line, "Line " + std::to_string(number++) + " of the file", entry.refusals);
     return entry;
 }
 

@@ -41,6 +41,7 @@ private:
     std::vector<HandedIn> readMail(std::string_view bytes, const Origin& origin, int depth) const;
     std::vector<HandedIn> readText(std::string_view bytes, const Origin& origin) const;
     HandedIn readSelectionFile(std::string_view bytes, const Origin& origin) const;
+    HandedIn readSelectionText(std::string_view utf8, const Origin& origin) const;
 
     Bracket m_start;
     KnownTeams m_teams;

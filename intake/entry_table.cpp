@@ -8,6 +8,7 @@
 #include "intake/game_words.h"
 #include "intake/limits.h"
 #include "intake/plain_text.h"
+#include "intake/storable.h"
 
 #include <algorithm>
 #include <array>
@@ -150,14 +151,14 @@ bool isOfEntries(const std::vector<CsvRow>& rows)
 HandedIn entryOf(const CsvRow& row, const Columns& columns, const KnownTeams& teams)
 {
     HandedIn read;
-    read.entry.name = fromUtf8(cellAt(row, columns.name));
-    read.entry.initials = fromUtf8(cellAt(row, columns.initials));
+    read.entry.name = storable(cellAt(row, columns.name), "The name", read.refusals);
+    read.entry.initials = storable(cellAt(row, columns.initials), "The text of the initials", read.refusals);
     read.entry.finalPoints = fromUtf8(cellAt(row, columns.total));
     read.email = firstAddressIn(cellAt(row, columns.email));
-    read.fileName = fromUtf8(cellAt(row, columns.file));
+    read.fileName = storable(cellAt(row, columns.file), "The file name", read.refusals);
     ByGame<std::string> picks;
     for (int game = 0; game < kGames; ++game)
-        picks[Game{game}] = fromUtf8(cellAt(row, columns.games[Game{game}]));
+        picks[Game{game}] = storable(cellAt(row, columns.games[Game{game}]), "A team", read.refusals);
     read.entry.picks = teams.bracketOf(picks);
     if (row.size() > columns.count &&
         !isEmptyRow({row.begin() + static_cast<std::ptrdiff_t>(columns.count), row.end()}))

@@ -8,6 +8,7 @@
 #include "intake/check_value.h"
 #include "intake/limits.h"
 #include "intake/plain_text.h"
+#include "intake/storable.h"
 
 #include <algorithm>
 #include <array>
@@ -120,12 +121,12 @@ private:
         const std::optional<std::string_view> name = takeValue("Initials");
         if (!name)
             return false;
-        m_read.entry.name = asTyped(*name);
+        m_read.entry.name = storable(*name, "The name", m_read.refusals);
         m_checked.name = canonical(*name);
         const std::optional<std::string_view> initials = takeValue("Total");
         if (!initials)
             return false;
-        m_read.entry.initials = asTyped(*initials);
+        m_read.entry.initials = storable(*initials, "The text of the initials", m_read.refusals);
         m_checked.initials = canonical(*initials);
         if (!takeTotal() || !takePicks())
             return false;
@@ -143,7 +144,7 @@ private:
         const std::string_view total = email ? value->substr(0, email.begin) : *value;
         if (email)
             m_read.email = firstAddressIn(value->substr(email.end));
-        m_read.entry.finalPoints = asTyped(withoutQuotation(total));
+        m_read.entry.finalPoints = fromUtf8(withoutQuotation(total));
         m_checked.total = canonical(withoutQuotation(total));
         return true;
     }
@@ -173,7 +174,7 @@ private:
         for (std::size_t i = 0; i < list.games; ++i, ++game) {
             if (!fits)
                 continue;
-            m_picks[Game{game}] = asTyped(elements[i]);
+            m_picks[Game{game}] = storable(withPlainBlanks(elements[i]), "A team", m_read.refusals);
             m_checked.picks[Game{game}] = canonical(elements[i]);
         }
     }
@@ -191,7 +192,7 @@ private:
         }
         if (digits.size() < kCheckDigits)
             mangled("the check value at its end is missing");
-        else if (m_read.refusals.empty() && upperCase(digits) != checkValue(m_checked))
+        else if (!m_isMangled && upperCase(digits) != checkValue(m_checked))
             mangled("the check value at its end does not match, so something was changed on the way");
     }
 
@@ -221,7 +222,11 @@ private:
                                                                                 : value.substr(begin, end + 1 - begin);
     }
 
-    void mangled(const std::string& reason) { m_read.refusals.push_back("Mangled: " + reason + "."); }
+    void mangled(const std::string& reason)
+    {
+        m_isMangled = true;
+        m_read.refusals.push_back("Mangled: " + reason + ".");
+    }
 
     std::string_view m_text;
     const KnownTeams& m_teams;
@@ -230,6 +235,7 @@ private:
     HandedIn m_read;
     CheckedTexts m_checked;
     ByGame<std::string> m_picks{};
+    bool m_isMangled = false;
 };
 
 } // namespace

@@ -97,6 +97,8 @@ std::string unified(std::string_view utf8, bool withPunctuation)
     return withoutRepeatedBlanks(text);
 }
 
+bool hasUtf16Mark(std::string_view bytes) { return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"); }
+
 /// @param lowFirst whether the low byte of each unit comes first
 std::string utf8OfUtf16(std::string_view bytes, bool lowFirst)
 {
@@ -106,7 +108,7 @@ std::string utf8OfUtf16(std::string_view bytes, bool lowFirst)
         const auto second = static_cast<unsigned char>(bytes[place + 1]);
         const char32_t unit = lowFirst ? first + second * 256u : first * 256u + second;
         const bool isHalf = unit >= 0xD800 && unit <= 0xDFFF; // of a character that we could not keep
-        appendUtf8(text, isHalf ? U'?' : unit);
+        appendUtf8(text, isHalf ? U'\uFFFD' : unit);
     }
     return text;
 }
@@ -136,9 +138,14 @@ bool isUtf8(std::string_view bytes)
     return true;
 }
 
+bool hasByteOrderMark(std::string_view bytes)
+{
+    return hasUtf16Mark(bytes) || bytes.starts_with(kByteOrderMark.character);
+}
+
 std::string utf8Of(std::string_view bytes)
 {
-    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
+    if (hasUtf16Mark(bytes))
         return utf8OfUtf16(bytes.substr(2), bytes.front() == '\xFF');
     if (bytes.starts_with(kByteOrderMark.character))
         bytes.remove_prefix(kByteOrderMark.character.size());
@@ -148,8 +155,6 @@ std::string utf8Of(std::string_view bytes)
 std::string withPlainBlanks(std::string_view utf8) { return unified(utf8, false); }
 
 std::string canonical(std::string_view utf8) { return fromUtf8(unified(utf8, true)); }
-
-std::string asTyped(std::string_view utf8) { return fromUtf8(withPlainBlanks(utf8)); }
 
 std::string quotedText(std::string_view text)
 {

@@ -10,9 +10,12 @@
 namespace tallyhoop {
 
 /// Finds out how a text is encoded and converts it: UTF-16 with a byte order mark, UTF-8 with or without one, otherwise
-/// Windows-1252.
+/// Windows-1252. What of UTF-16 cannot be kept, such as an emoji, becomes U+FFFD, which no file of ours can hold.
 /// @returns UTF-8 without a byte order mark
 std::string utf8Of(std::string_view bytes);
+
+/// @returns whether the bytes begin with a byte order mark: only a text from another program does
+bool hasByteOrderMark(std::string_view bytes);
 
 /// @returns whether the bytes are UTF-8, plain ASCII included
 bool isUtf8(std::string_view bytes);
@@ -25,11 +28,6 @@ std::string withPlainBlanks(std::string_view utf8);
 /// never two blanks in a row, none at the ends. Case stays.
 /// @returns Windows-1252, "?" for what it lacks
 std::string canonical(std::string_view utf8);
-
-/// The text as it was typed but for its blanks: any kind of them is a blank, never two in a row, none at the ends.
-/// Invisible characters are left out.
-/// @returns Windows-1252, "?" for what it lacks
-std::string asTyped(std::string_view utf8);
 
 /// @returns the text, a long one cut, on one line and in quotation marks, as sentences quote what came from outside
 std::string quotedText(std::string_view text);

@@ -95,6 +95,31 @@ TEST(EntryReaders, ReadPastedText)
               "The text is larger than 1 MB.");
 }
 
+TEST(EntryReaders, ReadSelectionsThatAnotherProgramSavedAgain)
+{
+    const std::string file = savedFile(upperEntry("Zo\xE9 O\x92Neil \x80", "z\xF1"));
+    const Entry expected = upperEntry("Zo\xE9 O\x92Neil \x80", "Z\xD1");
+    EXPECT_EQ(readNamed("x.THC", file)[0].entry, expected);
+    EXPECT_EQ(mailReaders().readPasted(toUtf8(file)).at(0).entry, expected) << "the clipboard is UTF-8";
+    EXPECT_EQ(readNamed("x.TXT", toUtf8(file)).at(0).entry, expected);
+    EXPECT_EQ(readNamed("x.TXT", "\xEF\xBB\xBF" + toUtf8(file)).at(0).entry, expected);
+    EXPECT_EQ(readNamed("x.THC", "\xEF\xBB\xBF" + toUtf8(file)).at(0).entry, expected);
+    EXPECT_EQ(readNamed("x.THC", test::utf16Of(file)).at(0).entry, expected) << "Notepad's \"Unicode\"";
+    EXPECT_EQ(readNamed("x.TXT", test::utf16Of(file)).at(0).entry, expected);
+    EXPECT_EQ(readNamed("x.TXT", test::utf16Of(fromUtf8(test::exampleText()))).at(0).entry.name, "Zo\xE9 O\x92Neil");
+}
+
+TEST(EntryReaders, RefuseASelectionWithALetterThatFilesCannotHold)
+{
+    const std::string file = savedFile(upperEntry("?ukasz", "L"));
+    const std::string text = test::replaced(file, "?ukasz", "\xC5\x81ukasz");
+    EXPECT_EQ(singleRefusal(mailReaders().readPasted(text)),
+              "Line 129 of the file has a letter that the program's files cannot hold, at place 1: \"?ukasz\".");
+    EXPECT_EQ(singleRefusal(readNamed("x.THC", "\xEF\xBB\xBF" + text)),
+              "Line 129 of the file has a letter that the program's files cannot hold, at place 1: \"?ukasz\".");
+    EXPECT_THAT(mailReaders().readPasted(file).at(0).refusals, IsEmpty()) << "a question mark is one of theirs";
+}
+
 TEST(EntryReaders, ReadTables)
 {
     const std::vector<Entry> entries{upperEntry(), upperEntry("Bob", "B")};

@@ -127,6 +127,19 @@ TEST(EntryTable, TakesBlanksAroundACellForAnAccident)
               upperEntry());
 }
 
+TEST(EntryTable, RefusesALetterThatFilesCannotHold)
+{
+    const std::string picks = replaced(picksOf(test::upperTeamsWin()), "Duke", "Duk\xC4\x99");
+    const std::vector<HandedIn> read = readTable("Zbyszek \xC5\x81,\xC5\x81,142" + picks);
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_THAT(
+        read[0].refusals,
+        ElementsAre("The name has a letter that the program's files cannot hold, at place 9: \"Zbyszek ?\".",
+                    "The text of the initials has a letter that the program's files cannot hold, at place 1: \"?\".",
+                    "A team has a letter that the program's files cannot hold, at place 4: \"Duk?\"."))
+        << "each team once, however often it was picked";
+}
+
 TEST(EntryTable, MayNameTheSelectionOfARow)
 {
     std::string header = "File,Name,Initials,Total";

@@ -141,6 +141,31 @@ TEST(EntryText, IsMangledWhenAPickWasChanged)
     EXPECT_THAT(refusalOf("6623D64A", "6623D64B"), HasSubstr("check value"));
 }
 
+TEST(EntryText, IsRefusedForALetterThatFilesCannotHold)
+{
+    EXPECT_EQ(refusalOf("Champion: Duke\n", "Champion: Du\xC5\x82ke\n"), "none, or several") << "and the check value";
+    Entry entry = upperEntry("?ukasz", "?");
+    entry.picks.put(kChampion, "?");
+    const std::string text =
+        replaced(replaced(formText(entry), "?ukasz", "\xC5\x81ukasz"), ": ?", ": \xF0\x9F\x98\x80");
+    const std::vector<HandedIn> read = readText(text);
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_THAT(
+        read[0].refusals,
+        ElementsAre("The name has a letter that the program's files cannot hold, at place 1: \"?ukasz\".",
+                    "The text of the initials has a letter that the program's files cannot hold, at place 1: \"?\".",
+                    "A team has a letter that the program's files cannot hold, at place 1: \"?\"."));
+}
+
+TEST(EntryText, TakesEveryLetterThatFilesCanHold)
+{
+    const Entry entry = upperEntry("\x80\xF1\xDF\x92\x8A\xFF?", "\xE9");
+    const std::vector<HandedIn> read = readText(formText(entry));
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_THAT(read[0].refusals, IsEmpty());
+    EXPECT_EQ(read[0].entry, entry);
+}
+
 TEST(EntryText, IsMangledWhenAKeyIsMissing)
 {
     EXPECT_EQ(refusalOf("Initials: zo\n", ""), "Mangled: \"Initials:\" is missing after \"Name:\".");

@@ -201,6 +201,17 @@ std::string exampleText()
            "Check: 6623D64A\n";
 }
 
+std::string utf16Of(std::string_view text)
+{
+    std::string bytes = "\xFF\xFE";
+    for (const char c : text) {
+        const char32_t unit = unicodeOf(static_cast<unsigned char>(c));
+        bytes.push_back(static_cast<char>(unit & 0xFF));
+        bytes.push_back(static_cast<char>(unit >> 8));
+    }
+    return bytes;
+}
+
 std::string replaced(std::string text, std::string_view what, std::string_view by)
 {
     for (std::size_t at = text.find(what); at != std::string::npos; at = text.find(what, at + by.size()))

@@ -28,6 +28,9 @@ std::string exampleText();
 /// @returns a text with every occurrence replaced
 std::string replaced(std::string text, std::string_view what, std::string_view by);
 
+/// @returns a text in UTF-16 with its byte order mark, low bytes first
+std::string utf16Of(std::string_view text);
+
 /// @returns the text with something before each line
 std::string withEachLine(std::string_view before, std::string_view text);
 

@@ -34,9 +34,9 @@ TEST(Canonical, KeepsCaseAndOtherLetters)
     EXPECT_EQ(canonical("\xC5\x81ukasz"), "?ukasz") << "a letter that Windows-1252 lacks";
 }
 
-TEST(AsTyped, KeepsPunctuationAndUnifiesBlanks)
+TEST(PlainBlanks, LeaveOtherCharactersAlone)
 {
-    EXPECT_EQ(asTyped("  O\xE2\x80\x99Neil,\xC2\xA0\xC2\xA0J\xE2\x80\x8B "), "O\x92Neil, J");
+    EXPECT_EQ(withPlainBlanks("  O\xE2\x80\x99Neil,\xC2\xA0\xC2\xA0J\xE2\x80\x8B "), "O\xE2\x80\x99Neil, J");
 }
 
 TEST(Utf8Of, FindsOutTheEncoding)
@@ -47,7 +47,8 @@ TEST(Utf8Of, FindsOutTheEncoding)
     EXPECT_EQ(utf8Of("Zo\xE9 \x92"), "Zo\xC3\xA9 \xE2\x80\x99") << "Windows-1252";
     EXPECT_EQ(utf8Of("\xFF\xFEZ\0\xE9\0\x19\x20"sv), "Z\xC3\xA9\xE2\x80\x99") << "UTF-16, low byte first";
     EXPECT_EQ(utf8Of("\xFE\xFF\0Z\0\xE9\x20\x19"sv), "Z\xC3\xA9\xE2\x80\x99") << "UTF-16, high byte first";
-    EXPECT_EQ(utf8Of("\xFF\xFEZ\0\x3D\xD8\0\xDE"sv), "Z??") << "a character beyond 16 bits";
+    EXPECT_EQ(utf8Of("\xFF\xFEZ\0\x3D\xD8\0\xDE"sv), "Z\xEF\xBF\xBD\xEF\xBF\xBD")
+        << "a character beyond 16 bits: must not become something that a file can hold";
 }
 
 TEST(QuotedText, IsShortAndOnOneLine)
