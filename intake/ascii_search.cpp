@@ -35,6 +35,12 @@ KeyPlace keyAt(std::string_view text, std::string_view key, std::size_t from)
     return {};
 }
 
+bool isOneOf(std::span<const std::string_view> words, std::string_view word)
+{
+    return std::ranges::any_of(
+        words, [word](std::string_view one) { return one.size() == word.size() && findInAnyCase(word, one, 0) == 0; });
+}
+
 std::size_t lastKey(std::string_view text, std::string_view key)
 {
     std::size_t last = std::string_view::npos;

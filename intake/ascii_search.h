@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 namespace tallyhoop {
@@ -24,5 +25,8 @@ std::size_t lastKey(std::string_view text, std::string_view key);
 
 /// @returns where an ASCII text is, in any case of its letters; npos when it is not there
 std::size_t findInAnyCase(std::string_view text, std::string_view ascii, std::size_t from);
+
+/// @returns whether a word is one of several in ASCII, in any case of its letters
+bool isOneOf(std::span<const std::string_view> words, std::string_view word);
 
 } // namespace tallyhoop

@@ -4,6 +4,7 @@
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "intake/addresses.h"
+#include "intake/ascii_search.h"
 #include "intake/csv_cells.h"
 #include "intake/game_words.h"
 #include "intake/limits.h"
@@ -19,7 +20,6 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::array<std::string_view, 2> kNameTitles = {"name", "player"};
 constexpr std::array<std::string_view, 1> kInitialsTitles = {"initials"};
 constexpr std::array<std::string_view, 3> kTotalTitles = {"total", "final points", "predicted total"};
@@ -38,12 +38,6 @@ struct Columns {
     ByGame<std::optional<std::size_t>> games{};
     std::size_t count = 0;
 };
-
-template <std::size_t N>
-bool isOneOf(const std::array<std::string_view, N>& titles, std::string_view cell)
-{
-    return std::ranges::any_of(titles, [cell](std::string_view title) { return equalFolded(title, cell); });
-}
 
 /// @returns the game of a column named such as "Game 12 (West, round 1, game 4)"
 std::optional<Game> gameOfTitle(std::string_view title)
@@ -213,7 +207,7 @@ std::string entryTable(std::span<const Entry> entries, const Field& field)
         row.push_back(cellOf(entry.fileName));
         rows.push_back(std::move(row));
     }
-    return std::string{kByteOrderMark} + csvText(rows);
+    return std::string{kUtf8Mark} + csvText(rows);
 }
 
 } // namespace tallyhoop

@@ -40,12 +40,12 @@ OneLine oneLineOf(std::string_view utf8)
     OneLine all;
     while (!utf8.empty()) {
         const std::string line = withPlainBlanks(takeLine(utf8));
-        const std::size_t begin = line.find_first_not_of("> ");
+        const std::size_t begin = line.find_first_not_of("> |"); // some programs quote with bars
         if (begin == std::string::npos)
             continue;
         if (!all.text.empty())
             all.text.push_back(' ');
-        all.lines.emplace_back(all.text.size(), line.front() == '>');
+        all.lines.emplace_back(all.text.size(), line.front() == '>' || line.front() == '|');
         all.text.append(line, begin);
     }
     return all;
@@ -169,8 +169,8 @@ private:
         const std::vector<std::string> elements = elementsOf(value);
         const bool fits = elements.size() == list.games;
         if (!fits)
-            mangled(list.words + " has " + std::to_string(elements.size()) +
-                    (elements.size() == 1 ? " team" : " teams") + " instead of " + std::to_string(list.games));
+            mangled(list.words + " has " + counted(elements.size(), "team", "teams") + " instead of " +
+                    std::to_string(list.games));
         for (std::size_t i = 0; i < list.games; ++i, ++game) {
             if (!fits)
                 continue;

@@ -18,15 +18,28 @@ struct Entity {
     char32_t character;
 };
 
-/// Those that mail programs write; a character of another language comes as itself or as its number.
-constexpr std::array<Entity, 31> kEntities = {{
-    {"amp", U'&'},      {"lt", U'<'},      {"gt", U'>'},      {"quot", U'"'},     {"apos", U'\''},   {"nbsp", 0xA0},
-    {"shy", 0xAD},      {"lsquo", 0x2018}, {"rsquo", 0x2019}, {"sbquo", 0x201A},  {"ldquo", 0x201C}, {"rdquo", 0x201D},
-    {"bdquo", 0x201E},  {"ndash", 0x2013}, {"mdash", 0x2014}, {"hellip", 0x2026}, {"ensp", 0x2002},  {"emsp", 0x2003},
-    {"thinsp", 0x2009}, {"zwnj", 0x200C},  {"zwj", 0x200D},   {"acute", 0xB4},    {"prime", 0x2032}, {"eacute", 0xE9},
-    {"egrave", 0xE8},   {"agrave", 0xE0},  {"aacute", 0xE1},  {"auml", 0xE4},     {"ouml", 0xF6},    {"uuml", 0xFC},
-    {"szlig", 0xDF},
+/// Those of ASCII, and those that mail programs write for punctuation and letters outside of Latin-1.
+constexpr std::array<Entity, 29> kEntities = {{
+    {"amp", U'&'},      {"lt", U'<'},       {"gt", U'>'},       {"quot", U'"'},    {"apos", U'\''},
+    {"lsquo", 0x2018},  {"rsquo", 0x2019},  {"sbquo", 0x201A},  {"ldquo", 0x201C}, {"rdquo", 0x201D},
+    {"bdquo", 0x201E},  {"lsaquo", 0x2039}, {"rsaquo", 0x203A}, {"ndash", 0x2013}, {"mdash", 0x2014},
+    {"hellip", 0x2026}, {"bull", 0x2022},   {"prime", 0x2032},  {"ensp", 0x2002},  {"emsp", 0x2003},
+    {"thinsp", 0x2009}, {"zwnj", 0x200C},   {"zwj", 0x200D},    {"euro", 0x20AC},  {"OElig", 0x152},
+    {"oelig", 0x153},   {"Scaron", 0x160},  {"scaron", 0x161},  {"Yuml", 0x178},
 }};
+
+/// The upper half of Latin-1, from A0 on: mail programs write accented letters by these names.
+constexpr char32_t kFirstOfLatin1 = 0xA0;
+constexpr std::array<std::string_view, 96> kLatin1 = {
+    "nbsp",   "iexcl",  "cent",   "pound",  "curren", "yen",    "brvbar", "sect",   "uml",    "copy",   "ordf",
+    "laquo",  "not",    "shy",    "reg",    "macr",   "deg",    "plusmn", "sup2",   "sup3",   "acute",  "micro",
+    "para",   "middot", "cedil",  "sup1",   "ordm",   "raquo",  "frac14", "frac12", "frac34", "iquest", "Agrave",
+    "Aacute", "Acirc",  "Atilde", "Auml",   "Aring",  "AElig",  "Ccedil", "Egrave", "Eacute", "Ecirc",  "Euml",
+    "Igrave", "Iacute", "Icirc",  "Iuml",   "ETH",    "Ntilde", "Ograve", "Oacute", "Ocirc",  "Otilde", "Ouml",
+    "times",  "Oslash", "Ugrave", "Uacute", "Ucirc",  "Uuml",   "Yacute", "THORN",  "szlig",  "agrave", "aacute",
+    "acirc",  "atilde", "auml",   "aring",  "aelig",  "ccedil", "egrave", "eacute", "ecirc",  "euml",   "igrave",
+    "iacute", "icirc",  "iuml",   "eth",    "ntilde", "ograve", "oacute", "ocirc",  "otilde", "ouml",   "divide",
+    "oslash", "ugrave", "uacute", "ucirc",  "uuml",   "yacute", "thorn",  "yuml"};
 
 constexpr std::array<std::string_view, 16> kLineTags = {"br", "p",  "div", "tr", "li", "ul", "ol",         "table",
                                                         "h1", "h2", "h3",  "h4", "hr", "td", "blockquote", "pre"};
@@ -42,16 +55,23 @@ std::optional<char32_t> characterOf(std::string_view digits)
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), number, isHexadecimal ? 16 : 10);
     if (read.ec != std::errc{} || read.ptr != digits.data() + digits.size())
         return std::nullopt;
+    if (number == '\t' || number == '\n' || number == '\r')
+        return U' ';
+    if (number >= 0x80 && number < kFirstOfLatin1)
+        return unicodeOf(static_cast<unsigned char>(number)); // meant as bytes of Windows-1252, as browsers take them
     const bool isText = number >= 0x20 && number < 0x10000 && (number < 0xD800 || number > 0xDFFF);
-    return isText ? char32_t{number} : U'?';
+    return isText ? char32_t{number} : U'\uFFFD'; // not a "?", which a name may have
 }
 
 std::optional<char32_t> entityOf(std::string_view name)
 {
     if (name.starts_with('#'))
         return characterOf(name.substr(1));
-    const auto* found = std::ranges::find(kEntities, name, &Entity::name);
-    return found != kEntities.end() ? std::optional{found->character} : std::nullopt;
+    if (const auto* found = std::ranges::find(kEntities, name, &Entity::name); found != kEntities.end())
+        return found->character;
+    const auto* letter = std::ranges::find(kLatin1, name);
+    return letter != kLatin1.end() ? std::optional{kFirstOfLatin1 + static_cast<char32_t>(letter - kLatin1.begin())}
+                                   : std::nullopt;
 }
 
 /// @returns a tag's name in small letters, without the "/" of one that closes
@@ -63,12 +83,6 @@ std::string nameOf(std::string_view tag)
     for (const char c : tag.substr(0, tag.find_first_of(" \t\r\n/>")))
         name.push_back(static_cast<char>(folded(static_cast<unsigned char>(c))));
     return name;
-}
-
-template <std::size_t N>
-bool isOneOf(const std::array<std::string_view, N>& names, std::string_view name)
-{
-    return std::ranges::find(names, name) != names.end();
 }
 
 class HtmlText

@@ -43,7 +43,7 @@ constexpr std::array<Alike, 20> kBlanks = {{
     {"\xE2\x80\x8D", ""},
     {"\xE2\x81\xA0", ""},
 }};
-constexpr Alike kByteOrderMark{"\xEF\xBB\xBF", ""};
+constexpr Alike kByteOrderMark{kUtf8Mark, ""};
 
 constexpr std::array<Alike, 19> kPunctuation = {{
     {"\xC2\xB4", "'"},      {"\xE2\x80\x98", "'"},  {"\xE2\x80\x99", "'"},   {"\xE2\x80\x9A", "'"},
@@ -138,17 +138,14 @@ bool isUtf8(std::string_view bytes)
     return true;
 }
 
-bool hasByteOrderMark(std::string_view bytes)
-{
-    return hasUtf16Mark(bytes) || bytes.starts_with(kByteOrderMark.character);
-}
+bool hasByteOrderMark(std::string_view bytes) { return hasUtf16Mark(bytes) || bytes.starts_with(kUtf8Mark); }
 
 std::string utf8Of(std::string_view bytes)
 {
     if (hasUtf16Mark(bytes))
         return utf8OfUtf16(bytes.substr(2), bytes.front() == '\xFF');
-    if (bytes.starts_with(kByteOrderMark.character))
-        bytes.remove_prefix(kByteOrderMark.character.size());
+    if (bytes.starts_with(kUtf8Mark))
+        bytes.remove_prefix(kUtf8Mark.size());
     return isUtf8(bytes) ? std::string{bytes} : toUtf8(bytes);
 }
 
@@ -161,6 +158,11 @@ std::string quotedText(std::string_view text)
     constexpr std::size_t kMost = 40;
     const bool isLong = text.size() > kMost;
     return '"' + asOneLine(std::string{text.substr(0, kMost)}) + (isLong ? "...\"" : "\"");
+}
+
+std::string counted(std::size_t count, const std::string& one, const std::string& more)
+{
+    return std::to_string(count) + " " + (count == 1 ? one : more);
 }
 
 bool hasControlCharacters(std::string_view text)

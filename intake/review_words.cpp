@@ -67,11 +67,6 @@ std::string aboutName(const ReviewRow& row, const NewPlayer& player, const Playe
 
 } // namespace
 
-std::string counted(std::size_t count, const std::string& one, const std::string& more)
-{
-    return std::to_string(count) + " " + (count == 1 ? one : more);
-}
-
 std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, const PlayersHere& players)
 {
     const Entry& entry = row.handedIn.entry;

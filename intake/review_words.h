@@ -1,6 +1,7 @@
 // intake/review_words.h - what the review says of a row, and of all of them.
 #pragma once
 
+#include "intake/plain_text.h"
 #include "intake/players_here.h"
 #include "intake/review.h"
 
@@ -15,8 +16,5 @@ std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, co
 
 /// @returns "50 entries: 38 new, 2 replace others, 10 refused.", and a sentence when it is late
 std::string headOf(const Review& review);
-
-/// @returns "1 pick", "2 picks"
-std::string counted(std::size_t count, const std::string& one, const std::string& more);
 
 } // namespace tallyhoop

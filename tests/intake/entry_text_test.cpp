@@ -59,6 +59,8 @@ TEST(EntryText, MayBeQuotedOverAndOver)
     expectExample(withEachLine("> > ", exampleText()));
     expectExample(withEachLine(">>\t> ", exampleText()));
     expectExample(withEachLine("\xC2\xA0> ", exampleText()));
+    expectExample(withEachLine("| ", exampleText()));
+    expectExample(withEachLine("> | ", exampleText()));
 }
 
 TEST(EntryText, MayBeWrappedAtAnyBlank)

@@ -20,7 +20,19 @@ TEST(TextOfHtml, DecodesEntities)
 {
     EXPECT_EQ(textOfHtml("St. John&#8217;s &amp; A&#x26;M&nbsp;&lt;x&gt; &Eacute &unknown; &"),
               "St. John\xE2\x80\x99s & A&M\xC2\xA0<x> &Eacute &unknown; &");
-    EXPECT_EQ(textOfHtml("&#0;&#x110000;&#xD800;&#99999999999;"), "???&#99999999999;");
+    EXPECT_EQ(textOfHtml("&#0;&#x1F600;&#xD800;&#99999999999;"), "\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD&#99999999999;")
+        << "never a question mark: a name may have one";
+    EXPECT_EQ(textOfHtml("a&#9;b&#10;c&#13;d"), "a b c d");
+}
+
+TEST(TextOfHtml, DecodesEveryLetterByItsName)
+{
+    EXPECT_EQ(textOfHtml("Mu&ntilde;oz Fran&ccedil;ois &Oslash;degaard &THORN;&yuml;&Agrave;&szlig;"),
+              "Mu\xC3\xB1oz Fran\xC3\xA7ois \xC3\x98"
+              "degaard \xC3\x9E\xC3\xBF\xC3\x80\xC3\x9F");
+    EXPECT_EQ(textOfHtml("&iexcl;&iquest;&times;&divide;&euro;&Scaron;&nbsp;&shy;"),
+              "\xC2\xA1\xC2\xBF\xC3\x97\xC3\xB7\xE2\x82\xAC\xC5\xA0\xC2\xA0\xC2\xAD");
+    EXPECT_EQ(textOfHtml("O&#146;Neil &#x80;"), "O\xE2\x80\x99Neil \xE2\x82\xAC") << "bytes of Windows-1252";
 }
 
 TEST(TextOfHtml, LeavesOutWhatIsNotShown)
