@@ -96,14 +96,22 @@ bool isOfRows(const std::string& team, const Bracket& picks)
     return std::ranges::any_of(allTeamRows(), [&](TeamRow row) { return picks.at(positionOf(row)) == team; });
 }
 
+/// Somebody who types misspells some of the teams. More of them are another year's, and need no sentence each.
+constexpr std::size_t kMostUnknownTeams = 8;
+
 void checkPicks(Sentences& reasons, const Bracket& picks, const Field& field)
 {
-    std::map<std::string, int> unknown; // and in how many games each is picked
+    std::map<std::string, std::size_t> unknown; // and in how many games each is picked
     Sentences strangers;
     for (const Position position : gamePositions()) {
         const std::string& team = picks.at(position);
         if (!team.empty() && !isOfField(team, field) && !isOfRows(team, picks))
             ++unknown[team];
+    }
+    if (unknown.size() > kMostUnknownTeams) {
+        reasons.push_back("It is for another field: " + std::to_string(unknown.size()) +
+                          " of its teams are not in this one, such as " + quotedText(unknown.begin()->first) + ".");
+        return; // the picks that remain follow from those
     }
     for (const Fault& fault : faultsOf(picks, field)) {
         const std::string& team = picks.at(fault.position);
@@ -112,8 +120,7 @@ void checkPicks(Sentences& reasons, const Bracket& picks, const Field& field)
                                 " does not play in this game: " + gameWords(field, *gameOf(fault.position)) + ".");
     }
     for (const auto& [team, games] : unknown)
-        reasons.push_back("Unknown team: " + quotedText(team) + ", picked in " + std::to_string(games) +
-                          (games == 1 ? " game." : " games."));
+        reasons.push_back("Unknown team: " + quotedText(team) + ", picked in " + counted(games, "game", "games") + ".");
     std::ranges::move(strangers, std::back_inserter(reasons));
     if (std::ranges::any_of(gamePositions(),
                             [&](Position position) { return hasControlCharacters(picks.at(position)); }))

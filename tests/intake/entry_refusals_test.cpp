@@ -119,6 +119,19 @@ TEST(EntryRefusals, NameAnotherFieldInOneSentence)
                                              "\"Arizona\" does not play in this game: West, round 3, game 1."));
 }
 
+TEST(EntryRefusals, NameAnotherFieldOnceWhenItsTeamsAreUnknown)
+{
+    Entry entry = upperEntry();
+    for (int place = 16; place < 24; ++place)
+        entry.picks.put(Position{place}, "Team " + std::to_string(place));
+    EXPECT_EQ(refusals(entry).size(), 8u + 4u) << "eight unknown teams, and four of the second round who did not win";
+    entry.picks.put(kChampion, "Team 99");
+    EXPECT_THAT(refusals(entry),
+                ElementsAre("It is for another field: 9 of its teams are not in this one, such as \"Team 16\"."));
+    entry.name = "";
+    EXPECT_EQ(refusals(entry).size(), 2u) << "the other reasons are said as well";
+}
+
 TEST(EntryRefusals, BeginWithThoseOfTheReader)
 {
     EXPECT_THAT(refusals(upperEntry("", "A"), {"Mangled."}), ElementsAre("Mangled.", "The name is missing."));
