@@ -41,6 +41,12 @@ void append(std::vector<HandedIn>& entries, std::vector<HandedIn> more)
     std::ranges::move(more, std::back_inserter(entries));
 }
 
+/// @returns whether the reader has nothing to say against one of them
+bool hasGood(const std::vector<HandedIn>& entries)
+{
+    return std::ranges::any_of(entries, [](const HandedIn& entry) { return entry.refusals.empty(); });
+}
+
 /// Takes out the entries that came before in the same mail: as text and as a file, as text and as a page.
 std::vector<HandedIn> withoutRepeated(std::vector<HandedIn> entries)
 {
@@ -67,6 +73,8 @@ std::vector<MessageParts> messagesOf(const std::vector<MailPart>& parts)
 {
     std::vector<MessageParts> messages;
     for (const MailPart& part : parts) {
+        if (part.kind == MailPart::Kind::TooDeep)
+            continue;
         const auto number = static_cast<std::size_t>(part.message);
         messages.resize(std::max(messages.size(), number + 1));
         MessageParts& message = messages[number];
@@ -91,7 +99,7 @@ std::string nothingFound(const std::vector<MailPart>& parts)
     std::vector<std::string> names;
     for (const MailPart& part : parts)
         if (part.kind == MailPart::Kind::File)
-            names.push_back(quotedText(part.name));
+            names.push_back(part.name.empty() ? "a file without a name" : quotedText(part.name));
     const std::string attached =
         names.empty() ? std::string{} : " Attached: " + joined(fewEnoughForAMessage(names), ", ") + ".";
     return "There is no entry in this mail." + attached;
@@ -169,14 +177,19 @@ std::vector<HandedIn> EntryReaders::readMail(std::string_view bytes, const Origi
         std::vector<HandedIn> found;
         for (const MailPart* text : message.texts)
             append(found, readText(text->content, originOf(*text, origin)));
-        // The page is the same text once more, in most mails.
-        if (found.empty())
+        // The page is the same text once more, in most mails; sometimes it is the one that was not mangled.
+        if (!hasGood(found)) {
+            std::vector<HandedIn> onPages;
             for (const MailPart* page : message.pages)
-                append(found, readEntryTexts(textOfHtml(page->content), m_teams, originOf(*page, origin)));
+                append(onPages, readEntryTexts(textOfHtml(page->content), m_teams, originOf(*page, origin)));
+            if (found.empty() || hasGood(onPages))
+                found = std::move(onPages);
+        }
         for (const MailPart* file : message.files) {
             Origin attached = originOf(*file, origin);
             attached.file = asOneLine(file->name);
-            std::vector<HandedIn> more = readFile(file->content, attached, depth + 1);
+            std::vector<HandedIn> more =
+                file->name.empty() ? readText(file->content, attached) : readFile(file->content, attached, depth + 1);
             for (HandedIn& entry : more) {
                 entry.origin.file = origin.file;
                 if (entry.email.empty())
@@ -186,6 +199,11 @@ std::vector<HandedIn> EntryReaders::readMail(std::string_view bytes, const Origi
         }
         append(entries, std::move(found));
     }
+    for (const MailPart& part : *parts)
+        if (part.kind == MailPart::Kind::TooDeep)
+            entries.push_back(refusedWhole(originOf(part, origin),
+                                           "Parts of the mail are inside one another more than " +
+                                               std::to_string(kDeepestPartOfMail) + " times over: they are not read."));
     if (entries.empty())
         return {refusedWhole(origin, nothingFound(*parts))};
     return withoutRepeated(std::move(entries));

@@ -15,12 +15,13 @@ namespace tallyhoop {
 /// A part of a mail that may hold entries.
 struct MailPart {
     enum class Kind {
-        Text, ///< UTF-8
-        Html, ///< UTF-8
-        File, ///< the bytes as they were attached
+        Text,    ///< UTF-8
+        Html,    ///< UTF-8
+        File,    ///< the bytes as they were attached
+        TooDeep, ///< nothing: what is inside so many others is not read. At most one of a mail
     };
     Kind kind = Kind::Text;
-    std::string name;                 ///< of a file, as its sender named it, Windows-1252; empty = without
+    std::string name;                 ///< of a file, as its sender named it, Windows-1252; empty = it has none
     std::string content;              ///< decoded
     int message = 0;                  ///< which message it is part of: 0 is the mail itself, others came inside it
     std::string sender;               ///< the address that this message is from; empty = none

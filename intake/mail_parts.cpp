@@ -6,6 +6,7 @@
 #include "intake/mail_library.h"
 #include "intake/plain_text.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -79,8 +80,12 @@ private:
     /// @param inherited what the message gives to all of its parts
     void takePart(GMimeObject* part, const MailPart& inherited, int depth)
     {
-        if (part == nullptr || ++m_seen > kMostPartsOfMail || depth > kDeepestPartOfMail)
+        if (part == nullptr || ++m_seen > kMostPartsOfMail)
             return;
+        if (depth > kDeepestPartOfMail) {
+            noteTooDeep(inherited);
+            return;
+        }
         if (isA(part, m_gmime.g_mime_multipart_get_type())) {
             GMimeMultipart* parts = GMIME_MULTIPART(part);
             for (int i = 0; i < m_gmime.g_mime_multipart_get_count(parts) && m_seen <= kMostPartsOfMail; ++i)
@@ -91,6 +96,14 @@ private:
         } else if (isA(part, m_gmime.g_mime_part_get_type())) {
             takeLeaf(GMIME_PART(part), inherited);
         }
+    }
+
+    void noteTooDeep(const MailPart& inherited)
+    {
+        if (std::ranges::find(m_parts, MailPart::Kind::TooDeep, &MailPart::kind) != m_parts.end())
+            return;
+        m_parts.push_back(inherited);
+        m_parts.back().kind = MailPart::Kind::TooDeep;
     }
 
     void takeLeaf(GMimePart* part, const MailPart& inherited)
@@ -104,6 +117,8 @@ private:
             taken.kind = MailPart::Kind::Text;
         else if (m_gmime.g_mime_content_type_is_type(type, "text", "html") != 0)
             taken.kind = MailPart::Kind::Html;
+        else if (m_gmime.g_mime_content_type_is_type(type, "application", "*") != 0)
+            taken.kind = MailPart::Kind::File; // somebody's selection may have lost its name on the way
         else
             return;
         taken.content = contentOf(part);
@@ -164,6 +179,8 @@ Result<std::vector<MailPart>> mailParts(std::string_view bytes, const MailLibrar
         return Failure{kMissing};
     if (bytes.empty())
         return Failure{kNoMail};
+    if (bytes.starts_with(kUtf8Mark)) // would be part of the first header's name
+        bytes.remove_prefix(kUtf8Mark.size());
     if (mayHaveTooManyParts(bytes))
         return Failure{kTooManyParts};
     return PartsOfMail{*gmime}.take(bytes);

@@ -186,6 +186,34 @@ TEST(EntryReaders, ReadMailsAttachedToMailsAFewTimesOver)
     EXPECT_EQ(singleRefusal(readNamed("x.EML", wrap(mail))), "Mails are attached to mails too many times over.");
 }
 
+TEST(EntryReaders, SayWhatOfAMailIsTooDeepToBeRead)
+{
+    std::string mail = kHeaders;
+    for (int i = 0; i < 25; ++i) {
+        const std::string boundary = "b" + std::to_string(i);
+        mail += "Content-Type: multipart/mixed; boundary=" + boundary + "\r\n\r\n--" + boundary + "\r\n";
+        if (i == 0)
+            mail += "\r\n" + formText(upperEntry()) + "\r\n--" + boundary + "\r\n";
+    }
+    const std::vector<HandedIn> read = readNamed("x.EML", mail + "\r\n" + formText(upperEntry("Bob", "b")));
+    ASSERT_EQ(read.size(), 2u);
+    EXPECT_EQ(read[0].entry, upperEntry());
+    EXPECT_THAT(read[1].refusals,
+                ElementsAre("Parts of the mail are inside one another more than 20 times over: they are not read."));
+    EXPECT_EQ(read[1].origin.sender, "ann@home.example");
+}
+
+TEST(EntryReaders, ReadWhatIsAttachedWithoutAName)
+{
+    const std::string headers = kHeaders + "Content-Type: application/octet-stream\r\n\r\n";
+    const std::vector<HandedIn> read = readNamed("x.EML", headers + savedFile(upperEntry()));
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry, upperEntry("Ann Smith", "AS"));
+    EXPECT_EQ(read[0].email, "ann@home.example");
+    EXPECT_EQ(singleRefusal(readNamed("x.EML", headers + "x")),
+              "There is no entry in this mail. Attached: a file without a name.");
+}
+
 TEST(EntryReaders, SayWhatAMailWithoutEntryBringsInstead)
 {
     EXPECT_EQ(singleRefusal(readNamed("x.EML", kHeaders + "\r\nHello\r\n")), "There is no entry in this mail.");

@@ -3,13 +3,11 @@
 
 #include "intake/linked_mail_library.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 namespace tallyhoop {
 namespace {
 
-using testing::IsEmpty;
 using Kind = MailPart::Kind;
 
 std::vector<MailPart> partsOf(std::string_view mail)
@@ -49,6 +47,15 @@ TEST(MailParts, AreOneTextInAPlainMail)
     EXPECT_EQ(parts[0].sender, "ann@example.org");
     EXPECT_EQ(parts[0].date, 1773126000) << "7 o'clock in UTC, 20,522 days after 1970";
     EXPECT_EQ(parts[0].message, 0);
+}
+
+TEST(MailParts, AreFoundAfterAByteOrderMark)
+{
+    const auto parts = partsOf("\xEF\xBB\xBF"
+                               "From: ann@example.org\nContent-Transfer-Encoding: base64\n\neA==\n");
+    ASSERT_EQ(parts.size(), 1u);
+    EXPECT_EQ(parts[0].sender, "ann@example.org");
+    EXPECT_EQ(parts[0].content, "x");
 }
 
 TEST(MailParts, AreDecoded)
@@ -126,12 +133,19 @@ TEST(MailParts, AreNoneInWhatIsNoMail)
 TEST(MailParts, AreReadToALimitedDepth)
 {
     EXPECT_EQ(partsOf(nested(18)).size(), 1u);
-    EXPECT_THAT(partsOf(nested(21)), IsEmpty());
-    EXPECT_THAT(partsOf(nested(400)), IsEmpty());
+    for (const int depth : {21, 400}) {
+        const auto parts = partsOf(nested(depth));
+        ASSERT_EQ(parts.size(), 1u);
+        EXPECT_EQ(parts[0].kind, Kind::TooDeep) << "said, not passed over";
+        EXPECT_EQ(parts[0].content, "");
+        EXPECT_EQ(parts[0].sender, "a@example.org");
+    }
     std::string messages = "From: a@example.org\n";
     for (int i = 0; i < 20'000; ++i)
         messages += "Content-Type: message/rfc822\n\n";
-    EXPECT_THAT(partsOf(messages), IsEmpty());
+    const auto parts = partsOf(messages);
+    ASSERT_EQ(parts.size(), 1u);
+    EXPECT_EQ(parts[0].kind, Kind::TooDeep);
 }
 
 TEST(MailParts, AreNotTooMany)
