@@ -29,6 +29,13 @@ std::optional<std::int64_t> dateOf(const fs::path& file)
     return std::chrono::duration_cast<std::chrono::seconds>(time.time_since_epoch()).count();
 }
 
+/// The system's own words for what was tried with it say little.
+bool isSpecial(const fs::path& file)
+{
+    std::error_code ignored;
+    return fs::is_other(file, ignored);
+}
+
 /// What is to be read, and what cannot be listed.
 struct Listed {
     std::vector<fs::path> files;
@@ -82,7 +89,9 @@ std::vector<HandedIn> gatherEntries(std::span<const fs::path> chosen, const Entr
         HandedFile file{shown(path.filename()), {}, dateOf(path)};
         const Result<std::string> bytes = tallyhoop::readFile(path, kMostBytesHandedIn);
         if (!bytes) {
-            entries.push_back(refusedWhole({file.name, {}, 1, file.date}, bytes.failure().message));
+            entries.push_back(refusedWhole({file.name, {}, 1, file.date}, isSpecial(path)
+                                                                              ? "It is a device or a pipe, not a file."
+                                                                              : bytes.failure().message));
         } else if (read + bytes->size() > kMostBytesHandedInAtOnce) {
             entries.push_back(refusedWhole({file.name, {}, 1, file.date}, "The files are larger than 10 MB in all."));
         } else {

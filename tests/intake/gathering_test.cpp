@@ -7,6 +7,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 namespace tallyhoop {
 namespace {
 
@@ -75,6 +79,29 @@ TEST(Gathering, RefusesAFileThatIsMissingOrTooLarge)
     EXPECT_THAT(read[1].refusals, ElementsAre(testing::HasSubstr("1 MB")));
     EXPECT_EQ(read[1].origin.file, "more.txt");
     EXPECT_EQ(read[2].refusals.size(), 1u);
+}
+
+#ifndef _WIN32
+TEST(Gathering, SaysThatAPipeOrADeviceIsNoFile)
+{
+    const ScratchFolder scratch;
+    const fs::path pipe = scratch.path() / "pipe.txt";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    fs::create_symlink("/dev/zero", scratch.path() / "zero.txt");
+    EXPECT_THAT(namesOf(gathered({pipe, scratch.path() / "zero.txt"})),
+                ElementsAre("It is a device or a pipe, not a file.", "It is a device or a pipe, not a file."));
+}
+#endif
+
+TEST(Gathering, TakesAnotherTableOfAFolderForOneThatIsNotRead)
+{
+    const ScratchFolder scratch;
+    scratch.put("a.txt", formText(upperEntry("Ann", "A")));
+    scratch.put("PLAYERNAMES.CSV", "\"ANN,A\",\"ANN_A.THC\",\"\",\"\"\r\n\"BOB,B\",\"BOB_B.THC\",\"\",\"\"\r\n");
+    EXPECT_THAT(namesOf(gathered({scratch.path()})),
+                ElementsAre("This is not a table of entries: it has no header with \"Initials\", and no row has 66 "
+                            "columns.",
+                            "Ann"));
 }
 
 TEST(Gathering, RefusesWhatIsMoreThanTenMegabytesInAll)
