@@ -7,8 +7,10 @@
 #include "files/selection_file.h"
 #include "files/settings_file.h"
 #include "intake/entry_refusals.h"
+#include "intake/known_teams.h"
 #include "intake/players_here.h"
 #include "intake/review_words.h"
+#include "pool/filled_in.h"
 
 #include <algorithm>
 #include <unordered_map>
@@ -18,28 +20,37 @@ namespace tallyhoop {
 
 namespace {
 
-/// The selections of a folder by their names in capitals.
+/// The selections of a folder, and those that an import adds, by the look of their names: a telephone writes another
+/// apostrophe than a keyboard, and O'Brien must not become two players. Names are only found by their look; what is
+/// written stays as it was typed, for the form saves the very same.
 class SelectionsHere
 {
 public:
     explicit SelectionsHere(const DataFolder& folder) : m_folder{folder.folder()}
     {
         for (FolderFile& file : folder.files(file_name::kSelectionExtension))
-            m_files[upperCase(file.name)].push_back(std::move(file));
+            m_files[lookOf(file.name)].push_back(std::move(file));
     }
 
-    /// @returns the file of this name, in any case of its letters when there is none of exactly this name; a new one
-    ///          otherwise
-    FolderFile fileOf(const std::string& name) const
+    /// @returns the file of this name; when there is none of exactly this name, one in any case of its letters, or else
+    ///          one that looks alike; otherwise a new one, which is there from then on
+    FolderFile fileOf(const std::string& name)
     {
-        const auto found = m_files.find(upperCase(name));
-        if (found == m_files.end())
-            return {name, m_folder / nativeName(name)};
-        const auto exact = std::ranges::find(found->second, name, &FolderFile::name);
-        return exact != found->second.end() ? *exact : found->second.front();
+        std::vector<FolderFile>& alike = m_files[lookOf(name)];
+        if (const auto exact = std::ranges::find(alike, name, &FolderFile::name); exact != alike.end())
+            return *exact;
+        const auto same =
+            std::ranges::find_if(alike, [&](const FolderFile& file) { return equalFolded(file.name, name); });
+        if (same != alike.end())
+            return *same;
+        if (alike.empty())
+            alike.push_back({name, m_folder / nativeName(name)});
+        return alike.front();
     }
 
 private:
+    static std::string lookOf(std::string_view name) { return upperCase(withoutUnsafeCharacters(canonicalOf(name))); }
+
     std::filesystem::path m_folder;
     std::unordered_map<std::string, std::vector<FolderFile>> m_files;
 };
@@ -53,12 +64,6 @@ struct Standards {
     std::vector<std::string> common; ///< why nothing is taken at all
 };
 
-int picksIn(const Bracket& bracket)
-{
-    return static_cast<int>(
-        std::ranges::count_if(gamePositions(), [&](Position position) { return !bracket.isEmpty(position); }));
-}
-
 int differentPicks(const Bracket& left, const Bracket& right)
 {
     return static_cast<int>(std::ranges::count_if(
@@ -69,7 +74,7 @@ int resultsIn(const DataFolder& folder, const Field& field)
 {
     if (!folder.exists(file_name::kResults))
         return 0;
-    return picksIn(readSelectionFile(folder.pathTo(file_name::kResults), startingBracket(field)).value.picks);
+    return gamesFilledIn(readSelectionFile(folder.pathTo(file_name::kResults), startingBracket(field)).value.picks);
 }
 
 std::vector<std::string> commonReasons(const DataFolder& folder, const Field& field)
@@ -92,11 +97,11 @@ void compareWithFile(ReviewRow& row, const Bracket& like)
     row.differentPicks = differentPicks(readSelection(row.seen.bytes, like).value.picks, row.handedIn.entry.picks);
 }
 
-ReviewRow rowOf(HandedIn handedIn, const Standards& standards)
+ReviewRow rowOf(HandedIn handedIn, Standards& standards)
 {
     ReviewRow row;
     row.handedIn = std::move(handedIn);
-    row.picks = picksIn(row.handedIn.entry.picks);
+    row.picks = gamesFilledIn(row.handedIn.entry.picks);
     row.reasons = refusalsOf(row.handedIn, standards.field);
     row.reasons.insert(row.reasons.end(), standards.common.begin(), standards.common.end());
     if (!row.reasons.empty()) {
@@ -149,8 +154,8 @@ void findRepeated(std::vector<ReviewRow>& rows)
 
 Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const Field& field, const Step& step)
 {
-    const Standards standards{field, SelectionsHere{folder}, PlayersHere{readPlayerNames(folder)},
-                              resultsIn(folder, field), commonReasons(folder, field)};
+    Standards standards{field, SelectionsHere{folder}, PlayersHere{readPlayerNames(folder)}, resultsIn(folder, field),
+                        commonReasons(folder, field)};
     Review review;
     review.resultsHere = standards.results;
     review.rows.reserve(handedIn.size());

@@ -3,6 +3,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "pool/filled_in.h"
 
 #include <algorithm>
 #include <string_view>
@@ -146,12 +147,6 @@ std::string explanationOf(const BoardPicture& picture, Position position)
         return "Click or press Space to send " + team + " to the next round, or drag it as far as it goes." + kFastKeys;
     return "Click or press Space to send " + team + " on, drag it further; right click or Delete takes it away." +
            kFastKeys;
-}
-
-int gamesFilledIn(const Bracket& bracket)
-{
-    return static_cast<int>(
-        std::ranges::count_if(gamePositions(), [&](Position game) { return !bracket.isEmpty(game); }));
 }
 
 std::string progressOf(const Bracket& bracket, bool isResults)

@@ -30,9 +30,6 @@ std::string spokenPayoff(int round);
 /// @returns what the person can do at a place, or what became of the pick there
 std::string explanationOf(const BoardPicture& picture, Position position);
 
-/// @returns how many of the 63 games have a winner
-int gamesFilledIn(const Bracket& bracket);
-
 /// @returns "60 of 63 picked", or played when the bracket is the results
 std::string progressOf(const Bracket& bracket, bool isResults);
 

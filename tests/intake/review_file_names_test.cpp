@@ -47,6 +47,51 @@ TEST(FileNamesOfReview, AreThoseOfTheTable)
     EXPECT_THAT(effectsOf(review), ElementsAre(Effect::Identical));
 }
 
+TEST(FileNamesOfReview, AreThoseOfAFileThatLooksAlike)
+{
+    const ScratchFolder scratch;
+    const Entry plain = upperEntry("Pat O'Brien-Lee", "PO");
+    scratch.put("Pat O'Brien-Lee_PO.THC", selectionFile(plain));
+    scratch.put("Pat \"x\"_PO.THC", "");
+    scratch.put("Ann_A.THC", "");
+    scratch.put("ANN_A.THC", "");
+    // as telephones type them: a curly apostrophe, a hyphen that does not break, a blank that does not break
+    const Entry typed = upperEntry("Pat O\x92"
+                                   "Brien-Lee",
+                                   "PO");
+    const Entry dashed = upperEntry("Pat\xA0O\x92"
+                                    "Brien\x96Lee",
+                                    "po");
+    const Review review = reviewOf({{typed, {}, {}, {}}, {dashed, {}, {}, {}}, {upperEntry("Ann", "A"), {}, {}, {}}},
+                                   scratch.folder(), test::field2000());
+    EXPECT_THAT(fileNamesOf(review), ElementsAre("Pat O'Brien-Lee_PO.THC", "Pat O'Brien-Lee_PO.THC", "Ann_A.THC"));
+    EXPECT_EQ(review.rows[0].effect, Effect::Replaces);
+    EXPECT_EQ(review.rows[0].words.substr(0, 9), "Replaces ");
+    EXPECT_EQ(review.rows[0].handedIn.entry.name, "Pat O\x92"
+                                                  "Brien-Lee")
+        << "the name itself is as it was typed";
+}
+
+TEST(FileNamesOfReview, AreThoseOfAnEntryThatLooksAlike)
+{
+    const ScratchFolder scratch;
+    const Review review = reviewOf({{upperEntry("O\x92"
+                                                "Brien",
+                                                "O"),
+                                     {},
+                                     {},
+                                     {}},
+                                    {upperEntry("O'Brien", "O"), {}, {}, {}}},
+                                   scratch.folder(), test::field2000());
+    EXPECT_THAT(fileNamesOf(review), ElementsAre("O\x92"
+                                                 "Brien_O.THC",
+                                                 "O\x92"
+                                                 "Brien_O.THC"));
+    EXPECT_EQ(review.rows[0].later, 1u) << "the second is the same player's";
+    EXPECT_FALSE(review.rows[0].isTicked);
+    EXPECT_TRUE(review.rows[1].isTicked);
+}
+
 TEST(FileNamesOfReview, NeverLeadOutOfTheFolder)
 {
     const ScratchFolder scratch;
