@@ -192,8 +192,8 @@ class EntryForm(unittest.TestCase):
         self.program.wait(lambda: "SELECTIONS.CSV" in self.program.files(), "the table")
         header, leader, smith, end = self.program.read("SELECTIONS.CSV").decode("utf-8-sig").split("\r\n")
         self.assertTrue(header.startswith("Name,Initials,Total,"))
-        self.assertEqual(leader, "Leader,QX,150,Arizona" + "," * 62)
-        self.assertEqual(smith, "Smith,JS,142," + ",".join(WINNERS[game] for game in GAMES))
+        self.assertEqual(leader, "Leader,QX,150,Arizona" + "," * 62 + ",Leader_QX.THC")
+        self.assertEqual(smith, "Smith,JS,142," + ",".join(WINNERS[game] for game in GAMES) + ",Smith_JS.THC")
         self.assertEqual(end, "")
         self.shows("explanation", "Exported 2 selections to SELECTIONS.CSV.")
 

@@ -60,6 +60,7 @@ TEST_F(SelectionExport, WritesATableThatGivesTheSameFilesAgain)
     ASSERT_EQ(read.size(), 2U);
     EXPECT_EQ(selectionFile(read[0].entry), scratch.get("Adams_B.THC"));
     EXPECT_EQ(selectionFile(read[1].entry), scratch.get("Smith.THC"));
+    EXPECT_EQ(read[1].fileName, "Smith.THC") << "name and initials would make another file";
     EXPECT_TRUE(platform.dialogs.shown.empty());
     EXPECT_EQ(platform.progress.begun, platform.progress.ended);
 }
