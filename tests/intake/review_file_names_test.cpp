@@ -47,46 +47,40 @@ TEST(FileNamesOfReview, AreThoseOfTheTable)
     EXPECT_THAT(effectsOf(review), ElementsAre(Effect::Identical));
 }
 
+/// What was handed in by people of these names.
+Review reviewOfNames(const ScratchFolder& scratch, const std::vector<std::string>& names)
+{
+    std::vector<HandedIn> handedIn(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        handedIn[i].entry = upperEntry(names[i], "P");
+    return reviewOf(std::move(handedIn), scratch.folder(), test::field2000());
+}
+
 TEST(FileNamesOfReview, AreThoseOfAFileThatLooksAlike)
 {
     const ScratchFolder scratch;
-    const Entry plain = upperEntry("Pat O'Brien-Lee", "PO");
-    scratch.put("Pat O'Brien-Lee_PO.THC", selectionFile(plain));
-    scratch.put("Pat \"x\"_PO.THC", "");
-    scratch.put("Ann_A.THC", "");
-    scratch.put("ANN_A.THC", "");
-    // as telephones type them: a curly apostrophe, a hyphen that does not break, a blank that does not break
-    const Entry typed = upperEntry("Pat O\x92"
-                                   "Brien-Lee",
-                                   "PO");
-    const Entry dashed = upperEntry("Pat\xA0O\x92"
-                                    "Brien\x96Lee",
-                                    "po");
-    const Review review = reviewOf({{typed, {}, {}, {}}, {dashed, {}, {}, {}}, {upperEntry("Ann", "A"), {}, {}, {}}},
-                                   scratch.folder(), test::field2000());
-    EXPECT_THAT(fileNamesOf(review), ElementsAre("Pat O'Brien-Lee_PO.THC", "Pat O'Brien-Lee_PO.THC", "Ann_A.THC"));
-    EXPECT_EQ(review.rows[0].effect, Effect::Replaces);
-    EXPECT_EQ(review.rows[0].words.substr(0, 9), "Replaces ");
-    EXPECT_EQ(review.rows[0].handedIn.entry.name, "Pat O\x92"
-                                                  "Brien-Lee")
-        << "the name itself is as it was typed";
+    scratch.put("Pat O'Neil-Lee_P.THC", selectionFile(upperEntry("Pat O'Neil-Lee", "P")));
+    // as telephones type it: a curly apostrophe, a longer dash, a blank that does not break
+    const Review review = reviewOfNames(scratch, {"Pat O\x92Neil-Lee", "Pat\xA0O'Neil\x96Lee"});
+    EXPECT_THAT(fileNamesOf(review), ElementsAre("Pat O'Neil-Lee_P.THC", "Pat O'Neil-Lee_P.THC"));
+    EXPECT_THAT(effectsOf(review), ElementsAre(Effect::Replaces, Effect::Replaces));
+    EXPECT_EQ(review.rows[0].handedIn.entry.name, "Pat O\x92Neil-Lee") << "the name itself is as it was typed";
+}
+
+TEST(FileNamesOfReview, AreThoseOfTheMostSimilarFile)
+{
+    const ScratchFolder scratch;
+    for (const char* name : {"ANN_P.THC", "Ann_P.THC", "O'Neil_P.THC", "o\xE2\x80\x99neil_p.thc"})
+        scratch.put(name, "");
+    EXPECT_THAT(fileNamesOf(reviewOfNames(scratch, {"Ann", "O\x92Neil"})), ElementsAre("Ann_P.THC", "o\x92neil_p.thc"))
+        << "the very same; the same apostrophe in another case of letters";
 }
 
 TEST(FileNamesOfReview, AreThoseOfAnEntryThatLooksAlike)
 {
     const ScratchFolder scratch;
-    const Review review = reviewOf({{upperEntry("O\x92"
-                                                "Brien",
-                                                "O"),
-                                     {},
-                                     {},
-                                     {}},
-                                    {upperEntry("O'Brien", "O"), {}, {}, {}}},
-                                   scratch.folder(), test::field2000());
-    EXPECT_THAT(fileNamesOf(review), ElementsAre("O\x92"
-                                                 "Brien_O.THC",
-                                                 "O\x92"
-                                                 "Brien_O.THC"));
+    const Review review = reviewOfNames(scratch, {"O\x92Neil", "O'Neil"});
+    EXPECT_THAT(fileNamesOf(review), ElementsAre("O\x92Neil_P.THC", "O\x92Neil_P.THC"));
     EXPECT_EQ(review.rows[0].later, 1u) << "the second is the same player's";
     EXPECT_FALSE(review.rows[0].isTicked);
     EXPECT_TRUE(review.rows[1].isTicked);
