@@ -1,4 +1,7 @@
 // screens/players/players_screen.h - the screen that maintains the pool's list of players.
+//
+// players_screen.cpp       opening, adding, changing, deleting, leaving
+// players_screen_rows.cpp  records between the boxes and the rows of the list
 #pragma once
 
 #include "files/data_folder.h"
