@@ -80,7 +80,9 @@ TEST_F(BracketPanelTest, ShowsATeamOnEachPlaceAndTakesItAwayAgain)
     bracket.clear(Position{16});
     show();
     EXPECT_EQ(panel.lblRegion[16].text, "");
-    EXPECT_EQ(panel.lblRegion[16].explanation, "No team picked yet: click or drag a team that can get here.");
+    EXPECT_EQ(panel.lblRegion[16].explanation,
+              "1 picks TEAM1, 2 picks TEAM2, Backspace goes back; or click or drag a team that can get here.");
+    EXPECT_EQ(panel.lblRegion[24].explanation, "No team picked yet: click or drag a team that can get here.");
 }
 
 TEST_F(BracketPanelTest, MarksPicksAndTakesTheMarksAwayAgain)
