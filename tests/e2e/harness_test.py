@@ -2,7 +2,8 @@
 
 import unittest
 
-from program import BUILD, Failed, Program, centre
+from program import Failed, Program, centre
+from program_folder import BUILD
 
 
 class HarnessOnADisplay(unittest.TestCase):

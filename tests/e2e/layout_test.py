@@ -5,7 +5,7 @@ import subprocess
 import tempfile
 import unittest
 
-from program import BUILD, CMAKE
+from program_folder import BUILD, CMAKE
 
 
 def build_type():

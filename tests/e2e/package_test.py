@@ -10,7 +10,8 @@ import subprocess
 import tempfile
 import unittest
 
-from program import BUILD, CMAKE, NOBODY, Program
+from program import NOBODY, Program
+from program_folder import BUILD, CMAKE
 from sample_pool import install
 
 CLEAN_ROOT = os.environ.get("TALLYHOOP_CLEAN_ROOT", "")

@@ -14,9 +14,8 @@ import time
 
 from display import ENDS_WITH_THE_TEST, Display
 from inspector import Ended, Inspector
+from program_folder import BUILD, ProgramFolder
 
-BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
-CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
 
 SANITIZERS = "AddressSanitizer", "LeakSanitizer", "runtime error:"  # the words in a sanitized program's complaints
@@ -47,10 +46,8 @@ class Failed(AssertionError):
     """A step of the story could not be taken."""
 
 
-class Program:
+class Program(ProgramFolder):
     """One program folder and the program running in it. Use as a context manager."""
-
-    _laid_out = None  # the folder as installed, made once and copied for each program
 
     def __init__(self, folder=None, executable=None, platform="xcb", environment=None, home=None, as_user=(),
                  size=(1366, 768), scale=1):
@@ -58,9 +55,7 @@ class Program:
         user; scale: how many pixels of the display are one of the program's."""
         self._scratch = pathlib.Path(tempfile.mkdtemp(prefix="tallyhoop-e2e-"))
         self._home = pathlib.Path(home) if home else self._scratch / "home"
-        self.folder = pathlib.Path(folder) if folder else self._scratch / "pool"
-        if home:
-            self.folder = self._home / "Tallyhoop"
+        super().__init__(self._home / "Tallyhoop" if home else folder or self._scratch / "pool")
         self._as_user = as_user
         self._executable = executable
         self._platform = platform
@@ -87,32 +82,6 @@ class Program:
         shutil.rmtree(self._scratch, ignore_errors=True)
         if error is None and any(word in errors for word in SANITIZERS):
             raise Failed(errors)
-
-    # --- the program folder ---
-
-    def lay_out(self):
-        """Puts the program's own files into the folder as the installation does; data files there stay."""
-        if Program._laid_out is None:
-            Program._laid_out = tempfile.TemporaryDirectory(prefix="tallyhoop-e2e-installed-")
-            subprocess.run([CMAKE, "--install", BUILD, "--prefix", Program._laid_out.name, "--component", "program"],
-                           check=True, stdout=subprocess.DEVNULL)
-        self.folder.mkdir(parents=True, exist_ok=True)
-        for file in pathlib.Path(Program._laid_out.name).iterdir():
-            shutil.copy2(file, self.folder / file.name)
-
-    def read(self, name):
-        return (self.folder / name).read_bytes()
-
-    def write(self, name, content):
-        """Writes a data file; lines of text get the line ends that the program writes."""
-        if not isinstance(content, bytes):
-            content = "".join(line + "\r\n" for line in content).encode("cp1252")
-        (self.folder / name).write_bytes(content)
-
-    def files(self):
-        """The names of the data files in the folder, sorted."""
-        own = {"tallyhoop", "DEMOSET.EXE", "TALLYHOOP.HLP", "NCAALIST.THS"}
-        return sorted(file.name for file in self.folder.iterdir() if file.name not in own)
 
     # --- starting and stopping ---
 

@@ -1,0 +1,43 @@
+"""A folder with the program in it, and the data files of a pool."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+
+BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
+CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
+
+
+class ProgramFolder:
+    """The folder need not be there before lay_out()."""
+
+    _laid_out = None  # the folder as installed, made once and copied for each program
+
+    def __init__(self, folder):
+        self.folder = pathlib.Path(folder)
+
+    def lay_out(self):
+        """Puts the program's own files into the folder as the installation does; data files there stay."""
+        if ProgramFolder._laid_out is None:
+            ProgramFolder._laid_out = tempfile.TemporaryDirectory(prefix="tallyhoop-e2e-installed-")
+            subprocess.run([CMAKE, "--install", BUILD, "--prefix", ProgramFolder._laid_out.name,
+                            "--component", "program"], check=True, stdout=subprocess.DEVNULL)
+        self.folder.mkdir(parents=True, exist_ok=True)
+        for file in pathlib.Path(ProgramFolder._laid_out.name).iterdir():
+            shutil.copy2(file, self.folder / file.name)
+
+    def read(self, name):
+        return (self.folder / name).read_bytes()
+
+    def write(self, name, content):
+        """Writes a data file; lines of text get the line ends that the program writes."""
+        if not isinstance(content, bytes):
+            content = "".join(line + "\r\n" for line in content).encode("cp1252")
+        (self.folder / name).write_bytes(content)
+
+    def files(self):
+        """The names of the data files in the folder, sorted."""
+        own = {"tallyhoop", "DEMOSET.EXE", "TALLYHOOP.HLP", "NCAALIST.THS"}
+        return sorted(file.name for file in self.folder.iterdir() if file.name not in own)
