@@ -6,6 +6,7 @@ import re
 
 MARK = re.compile(rb" *MARK\d+x*")  # titles are centred: the blanks differ with the length
 POINTS = re.compile(rb"\r\n1\d\d(\r\n\*END\*\r\n)\Z")
+TOTAL = re.compile(rb"(Demo Prophet,DP,)1\d\d,")
 CHANCES = re.compile(rb"^Chances: .*\r\n", re.MULTILINE)
 VERDICTS = re.compile(rb"( +\d+(-\d+)?){2}  (Clinched|Alive|Open|Out)\r\n")
 CHANGED = "** FILE HAS BEEN CHANGED **"
@@ -30,6 +31,10 @@ def without_chances_and_verdicts(content):
 
 def without_points(content):
     return POINTS.sub(rb"\r\n1NN\1", content)
+
+
+def without_total(content):
+    return TOTAL.sub(rb"\g<1>1NN,", content)
 
 
 def without_marked_lines(content):
@@ -77,6 +82,9 @@ WRITERS = {writer.name: writer for writer in [
     Writer("players", ["PLAYERNAMES.CSV"], without_marked_lines),
     Writer("annotated", ["PLAYERNAMES.TXT"], without_marks, boxes=[FAULTY_LIST]),
     Writer("teams", ["NCAALIST.THS"], without_marked_lines, finalized=False, boxes=["TEAM NAMES Changed / Added"]),
+    Writer("import", ["Evans_DP.THC", "PLAYERNAMES.CSV"], without_points),
+    Writer("table", ["SELECTIONS.CSV"], without_total, boxes=["Tallyhoop"]),
+    Writer("entryform", ["ENTRYFORM.HTML"], without_marks, boxes=["Tallyhoop"]),
     *[report(number) for number in range(1, 8)],
     Writer("outlook", ["OUTLOOK.TXT"], without_chances_and_verdicts),
     Writer("message", ["TALLYHOOP.EML", "RPTOPT2.TXT"], None),

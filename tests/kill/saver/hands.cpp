@@ -4,11 +4,15 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QTest>
+#include <QTimer>
+#include <QUrl>
 #include <algorithm>
 #include <array>
 
@@ -47,6 +51,20 @@ void press(const QMessageBox& box)
     giveUp(QStringLiteral("nothing to press in ") + box.windowTitle());
 }
 
+/// Saves the entry form once for each text. Not from here: saving asks for a file, which is answered from here.
+void saveEntryForm(const QString& text)
+{
+    const QString address = text + QStringLiteral("@example.org");
+    if (reachable<QLineEdit>("txtOrganiser").text() == address) {
+        return; // being saved
+    }
+    type("txtOrganiser", address);
+    QTimer::singleShot(0, [] {
+        click("cmdSave");
+        click("cmdClose");
+    });
+}
+
 } // namespace
 
 void choose(const char* entry)
@@ -72,6 +90,22 @@ void type(const char* box, const QString& text)
     QTest::keyClicks(&edit, text);
 }
 
+void drop(const char* onto, const QString& file)
+{
+    auto& widget = reachable<QWidget>(onto);
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(file)});
+    const QPoint middle = widget.rect().center();
+    QDragEnterEvent entered(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &entered);
+    QDropEvent dropped(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &dropped);
+    if (!dropped.isAccepted()) {
+        giveUp(QStringLiteral("nothing can be dropped onto ") + QLatin1String(onto));
+    }
+    QApplication::processEvents();
+}
+
 bool isVisible(const char* name) { return visibleWidget(QString::fromLatin1(name)) != nullptr; }
 
 void answerFrontBox(const QString& text, const QString& file, const std::function<void(const QString&)>& report)
@@ -95,6 +129,10 @@ void answerFrontBox(const QString& text, const QString& file, const std::functio
     if (auto* box = qobject_cast<QMessageBox*>(front); box != nullptr) {
         report(box->windowTitle());
         press(*box);
+        return;
+    }
+    if (isVisible("txtOrganiser")) {
+        saveEntryForm(text);
         return;
     }
     if (isVisible("cmdSend")) {

@@ -13,6 +13,9 @@ void click(const char* button);
 /// Replaces the text of an entry field.
 void type(const char* box, const QString& text);
 
+/// Drops a file onto a widget, and waits until the program has read it.
+void drop(const char* onto, const QString& file);
+
 bool isVisible(const char* name);
 
 /// Answers the box in front, if any, as a person who wants to save: Yes, OK, the proposed file. Reports its title.

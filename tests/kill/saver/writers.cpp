@@ -42,6 +42,44 @@ void addTeam(int /*round*/)
     choose("mnuEnd");
 }
 
+/// Puts the bracket of the sample pool's player into a file, with a total that differs from round to round.
+/// @param name empty = the player's own
+void putSelection(const QString& path, const QByteArray& name, int round)
+{
+    constexpr int kLeast = 100;
+    constexpr int kName = 4; // from the end: total, end marker, and nothing after its line end
+    constexpr int kTotal = 3;
+    QFile known(QApplication::applicationDirPath() + QStringLiteral("/Demo Prophet_DP.THC"));
+    QSaveFile put(path);
+    if (!known.open(QIODevice::ReadOnly) || !put.open(QIODevice::WriteOnly)) {
+        qFatal("saver: no selection can be made");
+    }
+    QByteArrayList lines = known.readAll().split('\n');
+    const auto lineFromEnd = [&lines](int count) -> QByteArray& { return lines[lines.size() - count]; };
+    if (!name.isEmpty()) {
+        lineFromEnd(kName) = name + '\r';
+    }
+    lineFromEnd(kTotal) = QByteArray::number(kLeast + round % kLeast) + '\r';
+    put.write(lines.join('\n'));
+    put.commit();
+}
+
+/// A new player: the selection is written, and the player list.
+void importSelection(int round)
+{
+    const QString handedIn = QApplication::applicationDirPath() + QStringLiteral("/../handed-in.THC");
+    putSelection(handedIn, "Evans", round);
+    drop("grdEntries", handedIn);
+    click("cmdTickAll"); // late: the pool has results
+    click("cmdImport");
+}
+
+void exportSelections(int round)
+{
+    putSelection(QApplication::applicationDirPath() + QStringLiteral("/Demo Prophet_DP.THC"), {}, round);
+    choose("mnuExportSelections");
+}
+
 /// Damages the list, so that the program makes an annotated copy.
 void damagePlayerList(int round)
 {
@@ -78,7 +116,7 @@ void saveOutlook(int round)
     click("cmdSaveReport");
 }
 
-const std::array<Writer, 19> kWriters{{
+const std::array<Writer, 22> kWriters{{
     {"nothing", nothing, [](int) {}},
     {"setup", [] { choose("mnuSetupOptions"); }, saveSetup},
     {"results", [] { choose("mnuGameResults"); }, saveBoard},
@@ -86,6 +124,9 @@ const std::array<Writer, 19> kWriters{{
     {"players", nothing, addPlayer},
     {"annotated", nothing, damagePlayerList},
     {"teams", nothing, addTeam},
+    {"import", [] { choose("mnuImport"); }, importSelection},
+    {"table", nothing, exportSelections},
+    {"entryform", nothing, [](int) { choose("mnuEntryForm"); }}, // the dialog is answered with the round's mark
     {"report1", prepareReport<'0', '1'>, makeReport},
     {"report2", prepareReport<'1', '1'>, makeReport},
     {"report3", prepareReport<'2', '1'>, makeReport},
