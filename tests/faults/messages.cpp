@@ -125,6 +125,13 @@ std::vector<ui::Message> reportTrouble(ReportId id, const fs::path& folder, cons
     return messages;
 }
 
+std::vector<ui::Message> tableTrouble(const fs::path& folder, const Fault& fault)
+{
+    if (fault.hidesFolder)
+        return {folderCannotBeListed(folder, fault)};
+    return {checkItsFolder(folder / "SELECTIONS.CSV")};
+}
+
 ui::Message outlookTrouble(const Fault& fault)
 {
     return {"Tallyhoop - frmPoolOutlook, cmdSaveReport",

@@ -30,6 +30,9 @@ ui::Message damagedPlayerList(const std::filesystem::path& folder);
 /// A report whose folder has vanished finds no selections, or no player list, before it comes to writing.
 std::vector<ui::Message> reportTrouble(ReportId id, const std::filesystem::path& folder, const Fault& fault);
 
+/// The selections are read before a name is asked for.
+std::vector<ui::Message> tableTrouble(const std::filesystem::path& folder, const Fault& fault);
+
 /// The outlook is read before anything happens to the folder.
 ui::Message outlookTrouble(const Fault& fault);
 

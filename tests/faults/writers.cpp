@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "fakes/fake_background.h"
+#include "faults/import_writers.h"
 #include "faults/messages.h"
 #include "files/file_names.h"
 #include "files/selection_file.h"
@@ -11,7 +12,7 @@
 #include "reports/outlook.h"
 #include "screens/board/board_screen.h"
 #include "screens/entries/entry_form_screen.h"
-#include "screens/import/import_screen.h"
+#include "screens/entries/selection_export.h"
 #include "screens/outlook/outlook_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -211,6 +212,23 @@ private:
     std::string m_organiser;
 };
 
+class TableWriter : public BoardWriter
+{
+public:
+    explicit TableWriter(const fs::path& folderPath) : BoardWriter{folderPath}
+    {
+        const Bracket picks = readSelectionFile(folder.pathTo(kSelection), startingBracket(field)).value.picks;
+        for (const TeamRow row : allTeamRows())
+            field.teams[row] = picks.at(positionOf(row)); // otherwise a message says that they differ
+    }
+    void save(std::optional<ui::Answer> /*mayReplace*/) override
+    {
+        if (fs::exists(folder.folder())) // otherwise there is nothing to write, and no name is asked for
+            platform.dialogs.pick(folder.folder() / kSelectionTable);
+        screen->mnuExportSelections.action();
+    }
+};
+
 template <std::size_t Index, std::size_t Destination>
 class ReportWriter : public ScreenWriter<ReportsScreen>
 {
@@ -257,41 +275,6 @@ public:
 private:
     OutlookScreen m_screen{folder, openPool(folder, platform.services, board), platform.services, screens,
                            std::make_unique<FakeBackground>()};
-};
-
-/// What could not be written is said in the summary, not in a message.
-class ImportWriter : public Writer
-{
-public:
-    explicit ImportWriter(const fs::path& folderPath) : Writer{folderPath}
-    {
-        const Entry handedIn{startingBracket(m_field), "AB", "Adams", "177", {}};
-        droppedFiles = {m_inbox.put("handed-in.THC", selectionFile(handedIn))};
-        m_screen.load();
-        m_screen.keyPressed(m_screen.grdEntries, {.key = ui::Key::Character, .character = ' '}); // without a pick
-        m_screen.showState();
-    }
-    /// Twice: a row that was compared while the folder was away is compared again before it is written.
-    void save(std::optional<ui::Answer> /*mayReplace*/) override
-    {
-        m_screen.cmdImport.click();
-        m_screen.cmdImport.click();
-    }
-    std::string onScreen() const override
-    {
-        std::string rows;
-        for (std::vector<std::string> row : m_screen.grdEntries.rows) {
-            row.pop_back(); // what would happen, which depends on the folder
-            rows += joined(row, ", ") + "\n";
-        }
-        return rows;
-    }
-
-private:
-    ScratchFolder m_inbox;
-    Field m_field = readField(folder).value;
-    FakeOpenSelection m_below;
-    ImportScreen m_screen{folder, platform.services, screens, {m_field, m_below, droppedFiles}, nullptr};
 };
 
 constexpr std::size_t kToPrinter = 0;
@@ -344,8 +327,11 @@ const std::vector<WriterKind>& allWriters()
          [](const fs::path& folder, const Fault&) { return std::vector{checkSelection(folder / kNewSelection)}; }},
         {"EntryForm", kEntryFormFile, "org@example.org", false, false, opened<EntryFormWriter>,
          [](const fs::path& folder, const Fault&) { return std::vector{checkItsFolder(folder / kEntryFormFile)}; }},
-        {"Import", kSelection, "\r\n177\r\n", true, false, opened<ImportWriter>,
+        {"Import", kSelection, "\r\n177\r\n", true, false, importWriter,
          [](const fs::path&, const Fault&) { return std::vector<ui::Message>{}; }},
+        {"ImportedPlayer", file_name::kPlayerNames, "EVANS_GH.THC", true, false, importedPlayerWriter,
+         [](const fs::path&, const Fault&) { return std::vector<ui::Message>{}; }},
+        {"Table", kSelectionTable, "Name,Initials,Total,", false, false, opened<TableWriter>, tableTrouble},
         {"PlayerList", file_name::kPlayerNames, "Evans,GH", true, true, opened<PlayerListWriter>,
          troubleWith<file_name::kPlayerNames>},
         {"AnnotatedCopy", file_name::kPlayerNamesErrors, "damaged line", true, false, opened<AnnotatedCopyWriter>,
