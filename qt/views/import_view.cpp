@@ -33,8 +33,8 @@ QLabel* heading(QLabel* label)
 
 ImportView::ImportView(ImportScreen& import, Desk& desk) : Page{import, desk}
 {
-    QLabel* const head = heading(add(import.lblHead));
-    head->setWordWrap(true);
+    QLabel* const counts = heading(add(import.lblCounts));
+    counts->setWordWrap(true);
 
     QHBoxLayout* const middle = look::row(look::kSection);
     middle->addLayout(makeList(import), 5);
@@ -42,7 +42,7 @@ ImportView::ImportView(ImportScreen& import, Desk& desk) : Page{import, desk}
 
     QVBoxLayout* const page = look::column();
     page->addLayout(makeSources(import));
-    page->addWidget(head);
+    page->addWidget(counts);
     page->addLayout(middle, 1);
     setContent(page);
     page->setContentsMargins(kMargin, kMargin, kMargin, look::kTight);
@@ -64,6 +64,7 @@ QLayout* ImportView::makeList(ImportScreen& import)
 {
     QTableView* const table = add(import.grdEntries);
     table->setFont(look::smallFont());
+    table->setWordWrap(true); // what would happen is to be read whole
 
     QHBoxLayout* const buttons = look::row();
     for (ui::Command* command : {&import.cmdTickAll, &import.cmdUntickAll, &import.cmdEmptyList})

@@ -50,7 +50,7 @@ public:
     ui::Label lblPasted{this, "lblPasted", "Or paste texts or mails:"};
     ui::TextBox txtPasted{this, "txtPasted"};
     ui::Command cmdReadText{this, "cmdReadText", "&Read the Text", [this] { readText(); }};
-    ui::Label lblHead{this, "lblHead"};
+    ui::Label lblCounts{this, "lblCounts"}; ///< how many entries of which kind, and whether they are late
     ui::Grid grdEntries{this, "grdEntries"};
     ui::Command cmdTickAll{this, "cmdTickAll", "&Tick All Complete", [this] { tickAllComplete(); }};
     ui::Command cmdUntickAll{this, "cmdUntickAll", "&Untick All", [this] { untickAll(); }};

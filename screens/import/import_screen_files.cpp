@@ -57,12 +57,14 @@ void ImportScreen::chooseFolder()
     readFiles({*folder});
 }
 
-/// A text is kept as it is until all of its entries are in the list.
+/// A text stays in the box while none of it can be imported: it may be mended there and read again.
 void ImportScreen::readText()
 {
-    const std::size_t before = m_pile.size();
+    const auto before = static_cast<std::ptrdiff_t>(m_pile.size());
     take(m_readers.readPasted(txtPasted.text));
-    if (m_pile.size() > before)
+    const std::vector<ReviewRow>& rows = m_pile.review().rows;
+    const auto isOfUse = [](const ReviewRow& row) { return row.effect != Effect::Refused; };
+    if (std::any_of(rows.begin() + before, rows.end(), isOfUse))
         txtPasted.text.clear();
 }
 

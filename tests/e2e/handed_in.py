@@ -68,13 +68,13 @@ def selection_bytes(name, initials, total, winners):
 
 def mail(sender, text, attached=None):
     """A mail of one text, perhaps with a file attached to it."""
-    head = f"From: {sender}\r\nTo: organiser@example.org\r\nSubject: My bracket\r\nDate: Tue, 14 Mar 2000 09:15:00 +0000\r\nMIME-Version: 1.0\r\n"
+    headers = f"From: {sender}\r\nTo: organiser@example.org\r\nSubject: My bracket\r\nDate: Tue, 14 Mar 2000 09:15:00 +0000\r\nMIME-Version: 1.0\r\n"
     body = text.replace("\n", "\r\n")
     if attached is None:
-        return (head + "Content-Type: text/plain; charset=utf-8\r\n\r\n" + body).encode()
+        return (headers + "Content-Type: text/plain; charset=utf-8\r\n\r\n" + body).encode()
     name, content = attached
     part = base64.encodebytes(content).decode().replace("\n", "\r\n")
-    return (head + 'Content-Type: multipart/mixed; boundary="=_cut"\r\n\r\n'
+    return (headers + 'Content-Type: multipart/mixed; boundary="=_cut"\r\n\r\n'
             "--=_cut\r\nContent-Type: text/plain; charset=utf-8\r\n\r\n" + body + "\r\n"
             f'--=_cut\r\nContent-Type: application/octet-stream; name="{name}"\r\n'
             f'Content-Disposition: attachment; filename="{name}"\r\nContent-Transfer-Encoding: base64\r\n\r\n{part}\r\n'

@@ -113,7 +113,7 @@ class Import(unittest.TestCase):
         return [number for number, tick in enumerate(self.column("Import")) if tick == "ticked"]
 
     def the_review_is_right(self):
-        self.shows("lblHead", "50 entries: 41 new, 9 refused, 1 incomplete.")
+        self.shows("lblCounts", "50 entries: 41 new, 9 refused, 1 incomplete.")
         self.assertEqual(len(self.ticked()), 40)
         self.assertEqual([self.column("Name")[row] for row in self.ticked()], [name_of(number) for number in GOOD])
         self.assertEqual(self.column("Picks").count("63 of 63"), 47)  # but the incomplete one, and two in which nothing is legible
@@ -167,14 +167,14 @@ class ImportByMouse(Import):
     def read_files(self):
         self.program.click("cmdChooseFiles")
         self.program.file_dialog(" ".join(f'"{self.inbox / name}"' for name in ("00.THC", "01.THC", "02.THC")))
-        self.shows("lblHead", "3 entries: 3 new.")
+        self.shows("lblCounts", "3 entries: 3 new.")
         for name in ("00.THC", "01.THC", "02.THC"):
             (self.inbox / name).unlink()
 
     def read_a_folder(self):
         self.program.click("cmdChooseFolder")
         self.program.file_dialog(self.inbox)
-        self.shows("lblHead", "37 entries: 29 new, 8 refused, 1 incomplete.")
+        self.shows("lblCounts", "37 entries: 29 new, 8 refused, 1 incomplete.")
 
     def read_a_paste(self):
         self.program.clipboard(long_paste())
@@ -275,7 +275,7 @@ class ImportByKeyboard(Import):
         self.focused("cmdChooseFiles")
         self.mnemonic("cmdChooseFolder")
         self.file_dialog(self.inbox)
-        self.shows("lblHead", "37 entries: 29 new, 8 refused, 1 incomplete.")
+        self.shows("lblCounts", "37 entries: 29 new, 8 refused, 1 incomplete.")
         # The entries are in the order of their files; the paste comes last.
         self.program.clipboard(long_paste())
         self.tab_to("txtPasted")

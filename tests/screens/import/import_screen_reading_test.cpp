@@ -15,7 +15,7 @@ using ImportReading = ImportTest;
 TEST_F(ImportReading, ShowsAnEmptyListAndWhatToDo)
 {
     open();
-    EXPECT_EQ(screen->lblHead.text, "Nothing is handed in yet.");
+    EXPECT_EQ(screen->lblCounts.text, "Nothing is handed in yet.");
     EXPECT_THAT(screen->grdEntries.emptyNote, StartsWith("Choose files"));
     EXPECT_FALSE(screen->cmdReadText.enabled);
     EXPECT_FALSE(screen->cmdImport.enabled);
@@ -35,7 +35,7 @@ TEST_F(ImportReading, ReadsSeveralFilesAtOnce)
                                                                  "63 of 63", "142", "a.THC", "New."),
                                                      ElementsAre("ticked", "2", "Bo", "b", "Bo_b.THC", "63 of 63", "51",
                                                                  "bo@example.org", "New.")));
-    EXPECT_EQ(screen->lblHead.text, "2 entries: 2 new.");
+    EXPECT_EQ(screen->lblCounts.text, "2 entries: 2 new.");
     EXPECT_EQ(screen->status, "2 of 2 ticked");
     EXPECT_EQ(screen->news().text, "2 entries: 2 new.");
     EXPECT_EQ(screen->focused, &screen->grdEntries);
@@ -91,6 +91,24 @@ TEST_F(ImportReading, ReadsManyEntriesFromAPastedText)
     EXPECT_THAT(column(EntryColumn::Sender), ElementsAre("ann@example.org", "ann@example.org"));
     EXPECT_EQ(screen->txtPasted.text, "") << "a text that was read";
     EXPECT_FALSE(screen->cmdReadText.enabled);
+}
+
+TEST_F(ImportReading, KeepsATextOfWhichNothingCanBeImported)
+{
+    open();
+    const std::string letter = "Dear organiser,\nI have no time.\n";
+    paste(letter);
+    EXPECT_THAT(column(EntryColumn::Tick), ElementsAre("")) << "refused";
+    EXPECT_EQ(screen->txtPasted.text, letter);
+    EXPECT_TRUE(screen->cmdReadText.enabled) << "to be read again once it is mended";
+}
+
+TEST_F(ImportReading, ForgetsATextOfWhichSomethingCanBeImported)
+{
+    open();
+    paste(formText(upperEntry("Al", "A")) + "\n" + formText(upperEntry("", "B")));
+    EXPECT_THAT(column(EntryColumn::Tick), ElementsAre("ticked", "")) << "the second has no name";
+    EXPECT_EQ(screen->txtPasted.text, "") << "what is wrong is said in the list";
 }
 
 TEST_F(ImportReading, KeepsATextWhoseReadingWasStopped)

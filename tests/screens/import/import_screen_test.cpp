@@ -72,7 +72,7 @@ TEST_F(ImportReview, LateEntriesAreSaidInTheHeadAndMayBeTicked)
     putResults(); // 32 games
     open();
     paste(formText(upperEntry("Al", "A")));
-    EXPECT_THAT(screen->lblHead.text, EndsWith("They are late: the results of 32 games are entered already."));
+    EXPECT_THAT(screen->lblCounts.text, EndsWith("They are late: the results of 32 games are entered already."));
     EXPECT_THAT(column(EntryColumn::Tick), ElementsAre("not ticked"));
     click(screen->cmdTickAll);
     EXPECT_THAT(column(EntryColumn::Tick), ElementsAre("ticked"));
