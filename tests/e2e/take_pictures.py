@@ -82,6 +82,7 @@ def take_all(program):
     program.menu("mnuOptions", "mnuEditNames")
     program.wait(lambda: len(program.rows("lstNames")) == 4, "the players")
     take(program, "players")
+    take_entry_form(program)
     program.click("cmdCancel")
     program.menu("mnuSetup", "mnuSetupOptions")
     program.wait(lambda: program.visible("cmdFinalize"), "the setup")
@@ -90,6 +91,16 @@ def take_all(program):
     program.wait(lambda: program.visible("cmdComplete"), "the seed positions")
     program.box()
     take(program, "seeds")
+
+
+def take_entry_form(program):
+    program.click("cmdEntryForm")
+    program.wait(lambda: program.visible("txtOrganiser"), "the entry form")
+    program.box()
+    program.type("txtOrganiser", "ann@example.org")
+    take(program, "entry-form")
+    program.key("Escape")
+    program.wait(lambda: not program.modal(), "the entry form going away")
 
 
 def take_help(program):
