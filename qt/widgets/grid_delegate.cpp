@@ -17,6 +17,8 @@ constexpr int kBar = 3; ///< height, in device-independent pixels
 void GridDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    if (index.column() != wrapping)
+        option->features &= ~QStyleOptionViewItem::WrapText;
     if (index.data(GridModel::kMutedRole).toBool())
         option->palette.setColor(QPalette::Text, option->palette.color(QPalette::PlaceholderText));
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QStyledItemDelegate>
+#include <optional>
 
 namespace tallyhoop::qt {
 
@@ -11,6 +12,8 @@ class GridDelegate : public QStyledItemDelegate
 
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    std::optional<int> wrapping; ///< the only column whose texts take several lines, where the view wraps words
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 

@@ -1,4 +1,5 @@
-// qt/widgets/grid_view.cpp - columns as wide as their headings and cells, rows as high as a line.
+// qt/widgets/grid_view.cpp - columns as wide as their headings and cells, rows as high as a line, or as a text that
+// wraps.
 #include "qt/widgets/grid_view.h"
 
 #include "qt/look.h"
@@ -20,10 +21,11 @@ constexpr int kCellPadding = 13; ///< on both sides of a cell together, in pixel
 
 } // namespace
 
-GridView::GridView(QWidget* parent) : QTableView{parent}, m_header{*new GridHeader}, m_cells{*new GridModel{this}}
+GridView::GridView(QWidget* parent)
+    : QTableView{parent}, m_delegate{*new GridDelegate{this}}, m_header{*new GridHeader}, m_cells{*new GridModel{this}}
 {
     setModel(&m_cells);
-    setItemDelegate(new GridDelegate{this});
+    setItemDelegate(&m_delegate);
     setHorizontalHeader(&m_header);
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -41,10 +43,11 @@ void GridView::show(const ui::Grid& grid)
     setSelectionBehavior(grid.wholeRows ? SelectRows : SelectItems);
     m_cells.show(grid);
     m_header.setSorted(grid.sorted);
-    if (grid.columns == m_columns)
-        return;
-    m_columns = grid.columns;
-    measure();
+    if (grid.columns != m_columns) {
+        m_columns = grid.columns;
+        measure();
+    }
+    fitRows();
 }
 
 void GridView::measure()
@@ -59,6 +62,7 @@ void GridView::measure()
         if (m_columns[c].grows)
             m_growing = static_cast<int>(c);
     }
+    m_delegate.wrapping = m_growing;
     m_header.setStretchLastSection(!m_growing);
     shareRoom();
     updateGeometry();
@@ -86,6 +90,25 @@ void GridView::shareRoom()
     const int left = viewport()->width() - widthOfColumns();
     for (int c = 0; c < static_cast<int>(m_widths.size()); ++c)
         m_header.resizeSection(c, m_widths[static_cast<std::size_t>(c)] + (c == m_growing ? std::max(0, left) : 0));
+    fitRows();
+}
+
+void GridView::fitRows()
+{
+    if (!m_growing || !wordWrap())
+        return;
+    constexpr int kMostLines = 4;
+    const QFontMetrics metrics = fontMetrics();
+    const int oneLine = metrics.height() + look::kGap;
+    const QRect room{0, 0, columnWidth(*m_growing) - kCellPadding, metrics.lineSpacing() * kMostLines};
+    for (int row = 0; row < m_cells.rowCount(); ++row) {
+        const QString text = m_cells.index(row, *m_growing).data().toString();
+        int height = oneLine;
+        if (metrics.horizontalAdvance(text) > room.width())
+            height = std::min(metrics.boundingRect(room, Qt::TextWordWrap, text).height(), room.height()) + look::kGap;
+        if (rowHeight(row) != height)
+            setRowHeight(row, height);
+    }
 }
 
 void GridView::resizeEvent(QResizeEvent* event)

@@ -10,9 +10,11 @@
 
 namespace tallyhoop::qt {
 
+class GridDelegate;
 class GridHeader;
 class GridModel;
 
+/// With word wrap, rows are as high as a long text in the column that takes the rest needs, up to a few lines.
 class GridView : public QTableView
 {
     Q_OBJECT
@@ -43,10 +45,12 @@ private:
     void measure();
     int widthOfColumns() const;
     void shareRoom();
+    void fitRows();
 
     std::vector<ui::GridColumn> m_columns;
     std::vector<int> m_widths;    ///< of the columns, at least
     std::optional<int> m_growing; ///< the column that takes the rest
+    GridDelegate& m_delegate;
     GridHeader& m_header;
     GridModel& m_cells;
 };

@@ -62,7 +62,7 @@ std::vector<ui::GridColumn> entryColumns()
             {.heading = "Row", .alignment = Alignment::Right, .width = 3},
             {.heading = "Name", .width = 14},
             {.heading = "Initials", .width = 4},
-            {.heading = "File", .width = 14},
+            {.heading = "File", .width = 16},
             {.heading = "Picks", .alignment = Alignment::Right, .width = 7},
             {.heading = "Total", .alignment = Alignment::Right, .width = 4},
             {.heading = "Sender", .width = 13},

@@ -37,10 +37,7 @@ protected:
     EntryFormView view{form, desk};
 };
 
-TEST_F(EntryFormViewTest, ShowsEveryControl)
-{
-    EXPECT_EQ(view.controlsWithoutWidget(), std::vector<std::string>{});
-}
+TEST_F(EntryFormViewTest, ShowsEveryControl) { EXPECT_EQ(view.controlsWithoutWidget(), std::vector<std::string>{}); }
 
 TEST_F(EntryFormViewTest, EnterSavesTheFormWithTheTypedAddress)
 {

@@ -146,6 +146,31 @@ TEST_F(ImportViewTest, TheSummaryIsThereOnceSomethingWasImported)
     EXPECT_EQ(platform.clipboard.text.substr(0, 24), "1 of 1 entry imported.\r\n");
 }
 
+TEST_F(ImportViewTest, WhatWouldHappenIsReadWholeInTheRow)
+{
+    read({"Ann", ""});
+    const QModelIndex words = table.model()->index(1, static_cast<int>(EntryColumn::Words));
+    ASSERT_EQ(words.data().toString(), QStringLiteral("Refused: The name is missing."));
+    const QRect room = table.visualRect(words);
+    ASSERT_GT(table.fontMetrics().horizontalAdvance(words.data().toString()), room.width()) << "too long for one line";
+    EXPECT_GE(room.height(), 2 * table.fontMetrics().lineSpacing());
+    EXPECT_LT(table.rowHeight(0), 2 * table.fontMetrics().lineSpacing()) << "New.";
+    desk.run(import, [&] { import.cmdEmptyList.click(); });
+    read({"Ann", "Bo"});
+    EXPECT_EQ(table.rowHeight(1), table.rowHeight(0)) << "nothing is left of the other list";
+}
+
+TEST_F(ImportViewTest, OnlyWhatWouldHappenTakesSeveralLines)
+{
+    read({"Bo Featherstonehaugh-Cholmondeley"});
+    const auto pictureOf = [&](int column) {
+        return table.viewport()->grab(table.visualRect(table.model()->index(0, column))).toImage();
+    };
+    const QImage wrapped = pictureOf(static_cast<int>(EntryColumn::Name));
+    table.setWordWrap(false);
+    EXPECT_EQ(pictureOf(static_cast<int>(EntryColumn::Name)), wrapped) << "as much of the name as there is room for";
+}
+
 TEST_F(ImportViewTest, FitsASmallDisplay)
 {
     read({"Ann", "Bo"});
