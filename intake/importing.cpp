@@ -11,8 +11,10 @@
 #include "intake/players_here.h"
 
 #include <algorithm>
-#include <atomic>
+#include <condition_variable>
+#include <mutex>
 #include <optional>
+#include <stop_token>
 #include <system_error>
 #include <thread>
 #include <unordered_map>
@@ -41,52 +43,91 @@ Result<Done> writeRow(const ReviewRow& row)
     return isChanged ? Result<Done>{Failure{kChangedMeanwhile}} : written;
 }
 
-/// Writes rows, several at a time; the thread of the caller is one of those that write, and the one that is asked to
-/// stop.
+/// Writes rows, several at a time. The caller's thread counts what is done and asks whether to go on: a row is begun
+/// only as long as no more than there are writers have not been counted, so that being stopped leaves few to wait for.
 class WritingAtOnce
 {
 public:
-    WritingAtOnce(const Review& review, std::span<const std::size_t> rows)
-        : m_review{review}, m_rows{rows}, m_written(rows.size())
+    WritingAtOnce(const Review& review, std::span<const std::size_t> rows, std::size_t writers)
+        : m_review{review}, m_rows{rows}, m_written(rows.size()), m_mayBegin{std::min(writers, rows.size())}
     {
     }
 
     /// @returns what became of each row, in their order
-    std::vector<Written> write(const Step& step, std::size_t writers)
+    std::vector<Written> write(const Step& step)
     {
-        {
-            std::vector<std::jthread> threads; // they end before what is below is read
-            try {
-                while (threads.size() + 1 < std::min(writers, m_rows.size()))
-                    threads.emplace_back([this] {
-                        while (writeNext())
-                            ;
-                    });
-            } catch (const std::system_error&) {
-                // The system has no more of them. The caller writes what is left.
-            }
-            while (writeNext())
-                if (!step())
-                    m_next = m_rows.size();
+        std::vector<std::jthread> threads = begun();
+        for (std::size_t counted = 0; counted < m_rows.size(); ++counted) {
+            if (threads.empty())
+                m_written[counted] = writeRow(m_review.rows[m_rows[counted]]);
+            else
+                waitUntilDone(counted + 1);
+            if (!step())
+                break;
+            letOneMoreBegin();
         }
+        threads.clear(); // each finishes the row that it is at
         return std::move(m_written);
     }
 
 private:
-    /// @returns false when there is nothing left to begin with
-    bool writeNext()
+    /// @returns none when one row at a time is wanted
+    std::vector<std::jthread> begun()
     {
-        const std::size_t next = m_next++;
-        if (next >= m_rows.size())
+        std::vector<std::jthread> threads;
+        if (m_mayBegin <= 1)
+            return threads;
+        threads.reserve(m_mayBegin);
+        try {
+            while (threads.size() < threads.capacity())
+                threads.emplace_back([this](const std::stop_token& stop) {
+                    while (writeNext(stop))
+                        ;
+                });
+        } catch (const std::system_error&) {
+            // The system has no more of them. Those that there are do it all.
+        }
+        return threads;
+    }
+
+    /// @returns false when there is nothing left to begin with
+    bool writeNext(const std::stop_token& stop)
+    {
+        std::unique_lock lock{m_mutex};
+        m_mayGoOn.wait(lock, stop, [this] { return m_next < m_mayBegin; });
+        if (stop.stop_requested())
             return false;
+        const std::size_t next = m_next++;
+        lock.unlock();
         m_written[next] = writeRow(m_review.rows[m_rows[next]]);
+        lock.lock();
+        ++m_done;
+        m_isDone.notify_one();
         return true;
+    }
+
+    void waitUntilDone(std::size_t rows)
+    {
+        std::unique_lock lock{m_mutex};
+        m_isDone.wait(lock, [&] { return m_done >= rows; });
+    }
+
+    void letOneMoreBegin()
+    {
+        const std::lock_guard lock{m_mutex};
+        m_mayBegin = std::min(m_mayBegin + 1, m_rows.size());
+        m_mayGoOn.notify_one();
     }
 
     const Review& m_review;
     std::span<const std::size_t> m_rows;
     std::vector<Written> m_written; ///< each element is one thread's
-    std::atomic<std::size_t> m_next = 0;
+    std::mutex m_mutex;             ///< for all that follows
+    std::size_t m_mayBegin;         ///< how many rows may have been begun by now
+    std::size_t m_next = 0;
+    std::size_t m_done = 0;
+    std::condition_variable_any m_mayGoOn;
+    std::condition_variable m_isDone;
 };
 
 /// @returns the ticked rows, one for each file; the others for it are noted as not written
@@ -155,7 +196,7 @@ ImportOutcome importTicked(const Review& review, const DataFolder& folder, const
 {
     ImportOutcome outcome;
     const std::vector<std::size_t> rows = rowsToWrite(review, outcome);
-    const std::vector<Written> written = WritingAtOnce{review, rows}.write(step, writers);
+    const std::vector<Written> written = WritingAtOnce{review, rows, writers}.write(step);
     std::vector<std::size_t> imported;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         if (!written[i] || !*written[i]) {

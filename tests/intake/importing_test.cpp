@@ -200,6 +200,35 @@ TEST(Import, StopsWhenItIsToldTo)
     EXPECT_THAT(outcome.summary, HasSubstr("  B_B.THC: The import was stopped before.\r\n  C_C.THC: The import"));
 }
 
+TEST(Import, CountsEveryEntryHoweverManyAreWrittenAtATime)
+{
+    const ScratchFolder scratch;
+    std::vector<HandedIn> entries;
+    for (int i = 0; i < 40; ++i)
+        entries.push_back(entryFrom(upperEntry("Player " + std::to_string(i), "P")));
+    int steps = 0;
+    const ImportOutcome outcome =
+        importTicked(reviewedIn(scratch, entries), scratch.folder(), [&] { return ++steps > 0; });
+    EXPECT_EQ(outcome.created, 40u);
+    EXPECT_EQ(steps, 40);
+}
+
+TEST(Import, BeginsNothingMoreOnceItIsStopped)
+{
+    const ScratchFolder scratch;
+    std::vector<HandedIn> entries;
+    for (int i = 0; i < 40; ++i)
+        entries.push_back(entryFrom(upperEntry("Player " + std::to_string(i), "P")));
+    int steps = 0;
+    const auto stopAtThird = [&] { return ++steps < 3; };
+    const ImportOutcome outcome = importTicked(reviewedIn(scratch, entries), scratch.folder(), stopAtThird, 4);
+    EXPECT_EQ(steps, 3) << "asked no more";
+    EXPECT_GE(outcome.created, 3u);
+    EXPECT_LE(outcome.created, 6u) << "four at first, and one more for each of the first two that were counted";
+    EXPECT_EQ(outcome.created + outcome.notWritten.size(), 40u);
+    EXPECT_EQ(scratch.folder().files(".THC").size(), outcome.created);
+}
+
 TEST(Import, WritesHundredsSeveralAtATime)
 {
     const ScratchFolder scratch;
