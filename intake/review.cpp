@@ -13,6 +13,7 @@
 #include "pool/filled_in.h"
 
 #include <algorithm>
+#include <functional>
 #include <unordered_map>
 #include <utility>
 
@@ -115,7 +116,7 @@ ReviewRow rowOf(HandedIn handedIn, Standards& standards)
     row.file = std::move(file.path);
     row.isLate = standards.results > 0;
     compareWithFile(row, entry.picks);
-    row.isTicked = (row.effect == Effect::New || row.effect == Effect::Replaces) && row.isComplete() && !row.isLate;
+    row.isTicked = row.isWorthWriting() && !row.isLate;
     return row;
 }
 
@@ -127,26 +128,48 @@ bool isLater(const ReviewRow& first, const ReviewRow& second)
     return !before || !after || *before <= *after;
 }
 
-/// Notes in each row the latest one for its file, and leaves one tick at most.
-void findRepeated(std::vector<ReviewRow>& rows)
+/// @returns the latest row among those that match; nothing when none does
+template <typename Matches>
+std::optional<std::size_t> latestOf(const std::vector<ReviewRow>& rows, const std::vector<std::size_t>& among,
+                                    Matches matches)
 {
-    std::unordered_map<std::string, std::vector<std::size_t>> byFile;
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        if (rows[i].effect != Effect::Refused)
-            byFile[upperCase(rows[i].fileName)].push_back(i);
-    for (const auto& [name, indices] : byFile) {
-        std::size_t latest = indices.front();
-        std::optional<std::size_t> ticked;
-        for (const std::size_t i : indices) {
-            latest = isLater(rows[latest], rows[i]) ? i : latest;
-            if (rows[i].isTicked)
-                ticked = !ticked || isLater(rows[*ticked], rows[i]) ? i : *ticked;
-        }
-        for (const std::size_t i : indices) {
-            rows[i].isTicked = ticked == i;
+    std::optional<std::size_t> latest;
+    for (const std::size_t i : among)
+        if (matches(rows[i]) && (!latest || isLater(rows[*latest], rows[i])))
+            latest = i;
+    return latest;
+}
+
+void tickOnly(std::vector<ReviewRow>& rows, const std::vector<std::size_t>& among, std::optional<std::size_t> ticked)
+{
+    for (const std::size_t i : among)
+        rows[i].isTicked = i == ticked;
+}
+
+void groupByFile(Review& review)
+{
+    std::unordered_map<std::string, std::size_t> numbers;
+    for (std::size_t i = 0; i < review.rows.size(); ++i) {
+        ReviewRow& row = review.rows[i];
+        if (row.effect == Effect::Refused)
+            continue;
+        row.fileNumber = numbers.emplace(upperCase(row.fileName), review.files.size()).first->second;
+        review.files.resize(std::max(review.files.size(), row.fileNumber + 1));
+        review.files[row.fileNumber].push_back(i);
+    }
+}
+
+/// Notes in each row the latest one for its file, and leaves one tick at most.
+void findRepeated(Review& review)
+{
+    groupByFile(review);
+    for (const std::vector<std::size_t>& sameFile : review.files) {
+        const std::optional<std::size_t> latest =
+            latestOf(review.rows, sameFile, [](const ReviewRow&) { return true; });
+        tickOnly(review.rows, sameFile, latestOf(review.rows, sameFile, std::mem_fn(&ReviewRow::isTicked)));
+        for (const std::size_t i : sameFile)
             if (i != latest)
-                rows[i].later = latest;
-        }
+                review.rows[i].later = latest;
     }
 }
 
@@ -164,10 +187,10 @@ Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const 
         if (!step())
             break;
     }
-    findRepeated(review.rows);
+    findRepeated(review);
     for (ReviewRow& row : review.rows)
         row.words = wordsOf(row, review.rows, standards.players);
-    review.head = headOf(review);
+    review.summary = summaryOf(review);
     return review;
 }
 
@@ -177,10 +200,15 @@ void setTicked(Review& review, std::size_t row, bool isTicked)
     if (chosen.effect == Effect::Refused)
         return;
     if (isTicked)
-        for (ReviewRow& other : review.rows)
-            if (other.isTicked && equalFolded(other.fileName, chosen.fileName))
-                other.isTicked = false;
+        tickOnly(review.rows, review.files[chosen.fileNumber], row);
     chosen.isTicked = isTicked;
+}
+
+void tickAllComplete(Review& review)
+{
+    for (const std::vector<std::size_t>& sameFile : review.files)
+        if (const auto latest = latestOf(review.rows, sameFile, std::mem_fn(&ReviewRow::isWorthWriting)))
+            tickOnly(review.rows, sameFile, latest);
 }
 
 std::string bytesToWrite(const HandedIn& handedIn)

@@ -31,18 +31,23 @@ struct ReviewRow {
     Effect effect = Effect::New;
     int differentPicks = 0;             ///< of 63, from the selection that it replaces
     bool isLate = false;                ///< there are results already
+    std::size_t fileNumber = 0;         ///< which of Review::files it is among; of no use when it is refused
     std::optional<std::size_t> later{}; ///< the row of a later entry for the same file
     std::vector<std::string> reasons;   ///< why it is refused, a sentence each
     std::string words;                  ///< what would happen, and what is special about it, for the list
     bool isTicked = false;
 
     bool isComplete() const { return picks == kGames; }
+
+    /// Whether it is complete and writing it would change something.
+    bool isWorthWriting() const { return isComplete() && (effect == Effect::New || effect == Effect::Replaces); }
 };
 
 struct Review {
-    std::vector<ReviewRow> rows; ///< in the order in which they were handed in
-    int resultsHere = 0;         ///< games that have been decided; all entries are late from the first one on
-    std::string head;            ///< how many of which kind, and whether it is late
+    std::vector<ReviewRow> rows;                 ///< in the order in which they were handed in
+    std::vector<std::vector<std::size_t>> files; ///< the rows that are for one file, for each of the files
+    int resultsHere = 0; ///< games that have been decided; all entries are late from the first one on
+    std::string summary; ///< how many of which kind, and whether it is late
 };
 
 /// Holds entries against the field, and against the selections, the results and the player list of a folder. Only files
@@ -56,6 +61,10 @@ Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const 
 /// Sets or takes away a row's tick. A refused one gets none; a tick takes away those of the other rows for the same
 /// file: only one of them can be written.
 void setTicked(Review& review, std::size_t row, bool isTicked);
+
+/// Ticks every complete entry that would change something, late ones and doubtful ones too; of several for one file the
+/// latest. Others for the same file lose their ticks, others for no such file keep theirs.
+void tickAllComplete(Review& review);
 
 /// @returns what is written for an entry: the bytes that a save on the board would write
 std::string bytesToWrite(const HandedIn& handedIn);

@@ -83,7 +83,7 @@ std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, co
     return joined(sentences, " ");
 }
 
-std::string headOf(const Review& review)
+std::string summaryOf(const Review& review)
 {
     const auto count = [&](auto matches) {
         return static_cast<std::size_t>(std::ranges::count_if(review.rows, matches));
@@ -101,12 +101,12 @@ std::string headOf(const Review& review)
     add(withEffect(Effect::Identical), "identical to what is here");
     add(withEffect(Effect::Refused), "refused");
     add(count([](const ReviewRow& row) { return row.effect != Effect::Refused && !row.isComplete(); }), "incomplete");
-    std::string head = counted(review.rows.size(), "entry", "entries");
-    head += kinds.empty() ? "." : ": " + joined(kinds, ", ") + ".";
+    std::string summary = counted(review.rows.size(), "entry", "entries");
+    summary += kinds.empty() ? "." : ": " + joined(kinds, ", ") + ".";
     if (review.resultsHere > 0)
-        head += " They are late: the results of " +
-                counted(static_cast<std::size_t>(review.resultsHere), "game are", "games are") + " entered already.";
-    return head;
+        summary += " They are late: the results of " +
+                   counted(static_cast<std::size_t>(review.resultsHere), "game are", "games are") + " entered already.";
+    return summary;
 }
 
 } // namespace tallyhoop

@@ -14,7 +14,7 @@ namespace tallyhoop {
 /// @returns what would happen, and what is special about it: "Replaces (4 picks differ). Incomplete: 60 of 63 picks."
 std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, const PlayersHere& players);
 
-/// @returns "50 entries: 38 new, 2 replace others, 10 refused.", and a sentence when it is late
-std::string headOf(const Review& review);
+/// @returns "50 entries: 38 new, 2 replacing others, 10 refused.", and a sentence when it is late
+std::string summaryOf(const Review& review);
 
 } // namespace tallyhoop

@@ -64,25 +64,19 @@ void EntryPile::setTicked(std::size_t row, bool isTicked)
             m_decided[i] = m_review.rows[i].isTicked;
 }
 
-bool EntryPile::mayBeTicked(const ReviewRow& row) const
-{
-    return row.isComplete() && (row.effect == Effect::New || row.effect == Effect::Replaces);
-}
-
 void EntryPile::tickAllComplete()
 {
-    for (std::size_t i = 0; i < size(); ++i) {
-        const ReviewRow& row = m_review.rows[i];
-        const bool isOutdated = row.later && mayBeTicked(m_review.rows[*row.later]);
-        if (mayBeTicked(row) && !isOutdated)
-            setTicked(i, true);
-    }
+    tallyhoop::tickAllComplete(m_review);
+    for (std::size_t i = 0; i < size(); ++i)
+        if (m_review.rows[i].isTicked || m_decided[i])
+            m_decided[i] = m_review.rows[i].isTicked;
 }
 
 void EntryPile::untickAll()
 {
     for (std::size_t i = 0; i < size(); ++i)
-        setTicked(i, false);
+        tallyhoop::setTicked(m_review, i, false);
+    m_decided.assign(size(), false);
 }
 
 EntryPile::Imported EntryPile::import(const Step& step)

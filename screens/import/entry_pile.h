@@ -44,7 +44,6 @@ public:
     void clear();
 
 private:
-    bool mayBeTicked(const ReviewRow& row) const;
     void decideAgain(std::size_t known);
 
     const DataFolder& m_folder;

@@ -192,7 +192,7 @@ void ImportScreen::showState()
     showCurrent();
     const std::size_t ticked = m_pile.ticked();
     const bool isEmpty = m_pile.size() == 0;
-    lblCounts.text = isEmpty ? "Nothing is handed in yet." : m_pile.review().head;
+    lblCounts.text = isEmpty ? "Nothing is handed in yet." : m_pile.review().summary;
     status = isEmpty ? std::string{} : std::to_string(ticked) + " of " + std::to_string(m_pile.size()) + " ticked";
     cmdReadText.enabled = !withoutOuterBlanks(txtPasted.text).empty();
     cmdTickAll.enabled = cmdUntickAll.enabled = cmdEmptyList.enabled = !isEmpty;

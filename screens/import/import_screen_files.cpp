@@ -98,7 +98,7 @@ void ImportScreen::take(std::vector<HandedIn> entries)
     grdEntries.current = ui::GridCell{known, static_cast<std::size_t>(EntryColumn::Name)};
     focused = &grdEntries;
     const std::string more = known == 0 ? "" : counted(count, "entry was", "entries were") + " added. ";
-    say(more + m_pile.review().head);
+    say(more + m_pile.review().summary);
 }
 
 /// Typing has no limit but patience; a paste can be anything.

@@ -59,7 +59,7 @@ TEST(Review, ProposesANewFileForANewEntry)
     EXPECT_EQ(row.picks, 63);
     EXPECT_EQ(row.words, "New.");
     EXPECT_TRUE(row.isTicked);
-    EXPECT_EQ(review.head, "1 entry: 1 new.");
+    EXPECT_EQ(review.summary, "1 entry: 1 new.");
 }
 
 TEST(Review, FindsTheVerySameThatIsHereAlready)
@@ -106,10 +106,10 @@ TEST(Review, LeavesIncompleteEntriesUnticked)
     EXPECT_EQ(review.rows.at(0).words, "New. Incomplete: 60 of 63 picks.");
     EXPECT_EQ(review.rows.at(0).picks, 60);
     EXPECT_FALSE(review.rows.at(0).isTicked);
-    EXPECT_EQ(review.head, "1 entry: 1 new, 1 incomplete.");
+    EXPECT_EQ(review.summary, "1 entry: 1 new, 1 incomplete.");
 }
 
-TEST(Review, LeavesLateEntriesUntickedAndSaysSoInItsHead)
+TEST(Review, LeavesLateEntriesUntickedAndSaysSoInTheSummary)
 {
     const ScratchFolder scratch;
     Entry results{startingBracket(test::field2000()), "A", "FinalResults", "", {}};
@@ -122,7 +122,7 @@ TEST(Review, LeavesLateEntriesUntickedAndSaysSoInItsHead)
     EXPECT_EQ(review.resultsHere, 1);
     EXPECT_EQ(review.rows.at(0).words, "New. Late.");
     EXPECT_FALSE(review.rows.at(0).isTicked);
-    EXPECT_EQ(review.head, "1 entry: 1 new. They are late: the results of 1 game are entered already.");
+    EXPECT_EQ(review.summary, "1 entry: 1 new. They are late: the results of 1 game are entered already.");
 }
 
 TEST(Review, RefusesWithEveryReason)
@@ -190,6 +190,34 @@ TEST(Review, HasOneTickForEachFile)
     setTicked(review, 2, false);
     setTicked(review, 3, true);
     EXPECT_THAT(ticksOf(review), ElementsAre(true, false, false, false)) << "a refused one gets no tick";
+}
+
+TEST(Review, TickingAllTakesTheLatestCompleteOneOfEachFile)
+{
+    const ScratchFolder scratch;
+    Entry open = upperEntry("Cy", "C");
+    open.picks.clear(kChampion);
+    scratch.put("Di_D.THC", savedBytes(upperEntry("Di", "D")));
+    Review review =
+        reviewed(scratch, {handedIn(upperEntry(), 2000), handedIn(withChampion(upperEntry(), "Arizona"), 1000),
+                           handedIn(open), handedIn(upperEntry("Di", "D")), handedIn(upperEntry("", "E"))});
+    setTicked(review, 1, true);
+    tickAllComplete(review);
+    EXPECT_THAT(ticksOf(review), ElementsAre(true, false, false, false, false));
+    setTicked(review, 2, true);
+    setTicked(review, 3, true);
+    tickAllComplete(review);
+    EXPECT_THAT(ticksOf(review), ElementsAre(true, false, true, true, false)) << "what is ticked by hand stays";
+}
+
+TEST(Review, KnowsWhichRowsAreForOneFile)
+{
+    const ScratchFolder scratch;
+    const Review review = reviewed(scratch, {handedIn(upperEntry("Bob", "B")), handedIn(upperEntry()),
+                                             handedIn(upperEntry("", "x")), handedIn(upperEntry("BOB", "b"))});
+    EXPECT_THAT(review.files, ElementsAre(ElementsAre(0u, 3u), ElementsAre(1u)));
+    EXPECT_EQ(review.rows[1].fileNumber, 1u);
+    EXPECT_EQ(review.rows[3].fileNumber, 0u);
 }
 
 TEST(Review, WarnsWhenAnotherAddressReplacesASelection)

@@ -95,6 +95,19 @@ TEST_F(EntryPileTest, TickingAllLeavesOutWhatIsHereAlready)
     EXPECT_THAT(ticked(), ElementsAre("Bo Duke"));
 }
 
+TEST_F(EntryPileTest, WhatTickingAllOrUntickingAllDidStaysWhenMoreComes)
+{
+    pile.add({from("Al"), incomplete("Bo")});
+    pile.untickAll();
+    pile.add({from("Cy")});
+    EXPECT_THAT(ticked(), ElementsAre("Cy Duke"));
+    scratch.put("TALLYHOOP.THS", bytesToWrite(from("FinalResults"))); // from now on all of them are late
+    pile.add({from("Di")});
+    pile.tickAllComplete();
+    pile.add({from("Ed")});
+    EXPECT_THAT(ticked(), ElementsAre("Al Duke", "Cy Duke", "Di Duke"));
+}
+
 TEST_F(EntryPileTest, NothingChangesWhenTheReviewIsStopped)
 {
     pile.add({from("Al")});
