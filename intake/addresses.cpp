@@ -1,6 +1,7 @@
 // intake/addresses.cpp - an address is what is around an "@", as far as its characters go.
 #include "intake/addresses.h"
 
+#include "base/windows1252.h"
 #include "intake/ascii_search.h"
 
 #include <algorithm>
@@ -42,6 +43,14 @@ std::string firstAddressIn(std::string_view text)
         if (std::string address = addressAround(text, at); !address.empty())
             return address;
     return {};
+}
+
+bool namesAddress(std::string_view text, std::string_view address)
+{
+    for (std::size_t at = text.find('@'); at != std::string_view::npos; at = text.find('@', at + 1))
+        if (equalFolded(addressAround(text, at), address))
+            return true;
+    return false;
 }
 
 std::string lastWriterIn(std::string_view text)

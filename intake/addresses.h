@@ -10,6 +10,9 @@ namespace tallyhoop {
 ///          when there is none
 std::string firstAddressIn(std::string_view text);
 
+/// @returns whether an address is one of those in a text, in any case of its letters
+bool namesAddress(std::string_view text, std::string_view address);
+
 /// Who wrote what follows a text, by its last "From: Ann <ann@b.c>" or "On Monday Ann <ann@b.c> wrote:".
 /// @returns empty when the text does not say
 std::string lastWriterIn(std::string_view text);

@@ -98,6 +98,15 @@ void compareWithFile(ReviewRow& row, const Bracket& like)
     row.differentPicks = differentPicks(readSelection(row.seen.bytes, like).value.picks, row.handedIn.entry.picks);
 }
 
+void warn(ReviewRow& row, const PlayersHere& players)
+{
+    const std::string otherFile = otherFileWarning(row, players);
+    const std::string otherAddress = otherAddressWarning(row, players);
+    row.warning = otherFile.empty() ? otherAddress : otherFile;
+    const bool isSomebodyElses = row.effect == Effect::Replaces && (row.seen.trouble || !otherAddress.empty());
+    row.isDoubtful = isSomebodyElses || !otherFile.empty();
+}
+
 ReviewRow rowOf(HandedIn handedIn, Standards& standards)
 {
     ReviewRow row;
@@ -116,7 +125,8 @@ ReviewRow rowOf(HandedIn handedIn, Standards& standards)
     row.file = std::move(file.path);
     row.isLate = standards.results > 0;
     compareWithFile(row, entry.picks);
-    row.isTicked = row.isWorthWriting() && !row.isLate;
+    warn(row, standards.players);
+    row.isTicked = row.isWorthWriting() && !row.isLate && !row.isDoubtful;
     return row;
 }
 
@@ -189,7 +199,7 @@ Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const 
     }
     findRepeated(review);
     for (ReviewRow& row : review.rows)
-        row.words = wordsOf(row, review.rows, standards.players);
+        row.words = wordsOf(row, review.rows);
     review.summary = summaryOf(review);
     return review;
 }

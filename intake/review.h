@@ -33,6 +33,8 @@ struct ReviewRow {
     bool isLate = false;                ///< there are results already
     std::size_t fileNumber = 0;         ///< which of Review::files it is among; of no use when it is refused
     std::optional<std::size_t> later{}; ///< the row of a later entry for the same file
+    std::string warning;                ///< what should be looked into before it is written; empty = nothing
+    bool isDoubtful = false;            ///< so much so that it is not ticked at first
     std::vector<std::string> reasons;   ///< why it is refused, a sentence each
     std::string words;                  ///< what would happen, and what is special about it, for the list
     bool isTicked = false;
@@ -53,8 +55,10 @@ struct Review {
 /// Holds entries against the field, and against the selections, the results and the player list of a folder. Only files
 /// that would be replaced are read. One step of work for each entry.
 ///
-/// Ticked are complete entries that are new or replace another one, as long as there are no results. Of several for one
-/// file the latest that may be ticked is: by the date that each has, otherwise by their order.
+/// Ticked are complete entries that are new or replace another one, as long as there are no results. Not ticked at
+/// first are doubtful ones: those that replace a file that cannot be read, or what a player has saved who has another
+/// address in the player list; and new ones of a player who is listed with another file. Of several for one file the
+/// latest that may be ticked is: by the date that each has, otherwise by their order.
 /// @returns the rows so far when the work was stopped
 Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const Field& field, const Step& step = goOn);
 

@@ -3,8 +3,10 @@
 
 #include "base/text.h"
 #include "base/windows1252.h"
+#include "intake/addresses.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace tallyhoop {
 
@@ -44,43 +46,60 @@ std::string aboutOthers(const ReviewRow& row, const std::vector<ReviewRow>& rows
                                          : "Handed in again later: row " + number + ".";
 }
 
-/// Anybody can write anybody's name into a form.
-std::string aboutSender(const ReviewRow& row, const NewPlayer& player, const PlayersHere& players)
+NewPlayer playerOf(const ReviewRow& row)
 {
-    const PlayerRecord* record = players.find(player);
-    if (row.effect != Effect::Replaces || record == nullptr || row.handedIn.email.empty())
-        return {};
-    const std::string known = trimTrailingBlanks(record->email);
-    const bool isOther = !known.empty() && !equalFolded(known, recordedAddress(row.handedIn.email));
-    return isOther ? "The player list has another address: " + known + "." : std::string{};
+    const Entry& entry = row.handedIn.entry;
+    return {entry.name + "," + entry.initials, row.fileName, {}};
 }
 
-/// A selection that was saved under another name on the board stays beside the new one: the player would be in the pool
-/// twice.
-std::string aboutName(const ReviewRow& row, const NewPlayer& player, const PlayersHere& players)
+std::string shownAddress(std::string_view address)
 {
-    const PlayerRecord* record = players.findName(player.name);
-    if (row.effect != Effect::New || record == nullptr || players.find(player) != nullptr)
-        return {};
-    return "The player list has this name with another file: " + trimTrailingBlanks(record->fileName) + ".";
+    constexpr std::size_t kMost = 60;
+    return asOneLine(std::string{address.substr(0, kMost)}) + (address.size() > kMost ? "..." : "");
 }
 
 } // namespace
 
-std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows, const PlayersHere& players)
+std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows)
 {
-    const Entry& entry = row.handedIn.entry;
-    const NewPlayer player{entry.name + "," + entry.initials, row.fileName, {}};
-    std::vector<std::string> sentences{effectOf(row)};
+    std::vector<std::string> sentences{row.warning, effectOf(row)};
     if (row.effect != Effect::Refused && !row.isComplete())
         sentences.push_back("Incomplete: " + std::to_string(row.picks) + " of 63 picks.");
     if (row.isLate)
         sentences.emplace_back("Late.");
     sentences.push_back(aboutOthers(row, rows));
-    sentences.push_back(aboutName(row, player, players));
-    sentences.push_back(aboutSender(row, player, players));
     std::erase(sentences, std::string{});
     return joined(sentences, " ");
+}
+
+std::string otherAddressWarning(const ReviewRow& row, const PlayersHere& players)
+{
+    const PlayerRecord* record = players.find(playerOf(row));
+    const bool isWritten = row.effect == Effect::New || row.effect == Effect::Replaces;
+    if (!isWritten || record == nullptr || firstAddressIn(record->email).empty())
+        return {};
+    const auto isOther = [&](const std::string& address) {
+        return !address.empty() && !namesAddress(record->email, address);
+    };
+    const std::string& given = row.handedIn.email;
+    const std::string& sender = row.handedIn.origin.sender;
+    if (!isOther(given) && !isOther(sender))
+        return {};
+    const bool isSenderGiven = equalFolded(given, sender) || !isOther(given);
+    const std::string words = !isOther(sender) ? "Its address is " + shownAddress(given)
+                              : isSenderGiven  ? "Sent from " + shownAddress(sender)
+                                               : "Sent from " + shownAddress(sender) + " for " + shownAddress(given);
+    return words + ", not " + withoutOuterBlanks(record->email) + " as in the player list.";
+}
+
+std::string otherFileWarning(const ReviewRow& row, const PlayersHere& players)
+{
+    const NewPlayer player = playerOf(row);
+    const PlayerRecord* record = players.findName(player.name);
+    if (row.effect != Effect::New || record == nullptr || players.find(player) != nullptr)
+        return {};
+    const std::string what = player.name.size() <= kNameWidth ? "has this name" : "may have this player";
+    return "The player list " + what + " with another file: " + trimTrailingBlanks(record->fileName) + ".";
 }
 
 std::string summaryOf(const Review& review)

@@ -16,6 +16,15 @@ TEST(Addresses, AreFoundInRunningText)
     EXPECT_EQ(firstAddressIn(""), "");
 }
 
+TEST(Addresses, AreFoundAmongOthersInAnyCase)
+{
+    EXPECT_TRUE(namesAddress("Ann <ann@x.example>; b@y.example ", "B@Y.example"));
+    EXPECT_TRUE(namesAddress("Ann <ann@x.example>; b@y.example ", "ann@x.example"));
+    EXPECT_FALSE(namesAddress("joann@x.example", "ann@x.example")) << "only as a whole";
+    EXPECT_FALSE(namesAddress("ann@x.example", ""));
+    EXPECT_FALSE(namesAddress("", "ann@x.example"));
+}
+
 TEST(Addresses, OfWritersAreTheLastOnesNamed)
 {
     EXPECT_EQ(lastWriterIn("From: a@x.example To: b@x.example"), "a@x.example");

@@ -65,7 +65,9 @@ TEST(Import, ReplacesTheFileThatIsHereUnderItsOwnName)
     scratch.put("ANN SMITH_AS.thc", "old");
     scratch.put("PLAYERNAMES.CSV", playerList({{"Ann Smith,AS", "ANN SMITH_AS.THC", "a@example.org", "1"}}));
     const std::string list = scratch.get("PLAYERNAMES.CSV");
-    const ImportOutcome outcome = imported(scratch, {entryFrom(upperEntry(), "other@example.org")});
+    Review review = reviewedIn(scratch, {entryFrom(upperEntry(), "other@example.org")});
+    setTicked(review, 0, true);
+    const ImportOutcome outcome = importTicked(review, scratch.folder());
     EXPECT_EQ(outcome.replaced, 1u);
     EXPECT_EQ(scratch.get("ANN SMITH_AS.thc"), savedAnn());
     EXPECT_FALSE(scratch.has("Ann Smith_as.THC"));

@@ -3,7 +3,6 @@
 
 #include "base/windows1252.h"
 #include "fakes/scratch_folder.h"
-#include "files/player_names_file.h"
 #include "files/selection_file.h"
 #include "intake/field_2000.h"
 
@@ -17,9 +16,9 @@ using test::ScratchFolder;
 using test::upperEntry;
 using testing::ElementsAre;
 
-HandedIn handedIn(Entry entry, std::optional<std::int64_t> date = {}, std::string email = {})
+HandedIn handedIn(Entry entry, std::optional<std::int64_t> date = {})
 {
-    return {std::move(entry), std::move(email), {"x.EML", "s@example.org", 1, date}, {}, true};
+    return {std::move(entry), {}, {"x.EML", "s@example.org", 1, date}, {}, true};
 }
 
 Entry withChampion(Entry entry, std::string_view champion)
@@ -218,28 +217,6 @@ TEST(Review, KnowsWhichRowsAreForOneFile)
     EXPECT_THAT(review.files, ElementsAre(ElementsAre(0u, 3u), ElementsAre(1u)));
     EXPECT_EQ(review.rows[1].fileNumber, 1u);
     EXPECT_EQ(review.rows[3].fileNumber, 0u);
-}
-
-TEST(Review, WarnsWhenAnotherAddressReplacesASelection)
-{
-    const ScratchFolder scratch;
-    scratch.put("Ann Smith_as.THC", savedBytes(withChampion(upperEntry(), "Arizona")));
-    scratch.put("PLAYERNAMES.CSV", playerNamesFile(std::vector<PlayerRecord>{
-                                       {"Ann Smith,as", "ANN SMITH_AS.THC", "ann@example.org", ""}}));
-    const Review review = reviewed(scratch, {handedIn(upperEntry(), {}, "Ann@Example.org")});
-    EXPECT_EQ(review.rows.at(0).words, "Replaces (1 pick differs).");
-    EXPECT_EQ(reviewed(scratch, {handedIn(upperEntry(), {}, "eve@example.org")}).rows.at(0).words,
-              "Replaces (1 pick differs). The player list has another address: ann@example.org.");
-}
-
-TEST(Review, WarnsWhenAPlayerHasASelectionUnderAnotherName)
-{
-    const ScratchFolder scratch;
-    scratch.put("PLAYERNAMES.CSV", playerNamesFile(std::vector<PlayerRecord>{{"Ann Smith,AS", "ANN.THC", "", ""},
-                                                                             {"Bob,B", "BOB_B.THC", "", ""}}));
-    const Review review = reviewed(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Bob", "B"))});
-    EXPECT_EQ(review.rows.at(0).words, "New. The player list has this name with another file: ANN.THC.");
-    EXPECT_EQ(review.rows.at(1).words, "New.") << "listed already, with this very file";
 }
 
 TEST(Review, StopsWhenItIsToldTo)
