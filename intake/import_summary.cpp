@@ -61,6 +61,8 @@ void addPlayers(std::vector<std::string>& lines, const ImportOutcome& outcome)
         lines.push_back("No player was added to the player list. " + outcome.playerListTrouble);
     else
         lines.push_back(counted(outcome.playersAdded, "player was", "players were") + " added to the player list.");
+    for (const std::string& player : outcome.playersAlike)
+        lines.push_back("  " + player + ": the list cuts this name, and has another player who looks the same there.");
     for (const std::string& player : outcome.playersWithoutAddress)
         lines.push_back("  " + player + ": the e-mail address does not fit into the list and was left out.");
 }

@@ -7,6 +7,7 @@
 #include "files/file_names.h"
 #include "files/player_names_file.h"
 #include "files/replace_file.h"
+#include "files/selection_file.h"
 #include "intake/import_summary.h"
 #include "intake/players_here.h"
 
@@ -154,6 +155,29 @@ std::vector<std::size_t> rowsToWrite(const Review& review, ImportOutcome& outcom
     return rows;
 }
 
+NewPlayer playerOf(const ReviewRow& row)
+{
+    const Entry& entry = row.handedIn.entry;
+    return {entry.name + "," + entry.initials, row.fileName, row.handedIn.email};
+}
+
+/// @returns the players of all selections whose file names are cut in the player list, when there are such among the
+///          rows: two of them may look the same there
+std::vector<NewPlayer> playersWithCutNames(const Review& review, std::span<const std::size_t> rows,
+                                           const DataFolder& folder)
+{
+    std::vector<NewPlayer> players;
+    if (std::ranges::none_of(rows, [&](std::size_t row) { return PlayersHere::isCut(review.rows[row].fileName); }))
+        return players;
+    for (const FolderFile& file : folder.files(file_name::kSelectionExtension)) {
+        if (!PlayersHere::isCut(file.name))
+            continue;
+        const Entry entry = readSelectionFile(file.path, {}).value;
+        players.push_back({entry.name + "," + entry.initials, file.name, {}});
+    }
+    return players;
+}
+
 /// Adds the players of the rows to the list, and writes it if that changes it.
 void addPlayers(const Review& review, std::span<const std::size_t> rows, const DataFolder& folder,
                 ImportOutcome& outcome)
@@ -164,14 +188,15 @@ void addPlayers(const Review& review, std::span<const std::size_t> rows, const D
         outcome.playerListTrouble = seen.trouble ? seen.trouble->message : "There are faulty records in it.";
         return;
     }
-    PlayersHere players{readPlayerNames(folder)};
+    PlayersHere players{readPlayerNames(folder), playersWithCutNames(review, rows, folder)};
     for (const std::size_t row : rows) {
-        const HandedIn& handedIn = review.rows[row].handedIn;
-        const NewPlayer player{handedIn.entry.name + "," + handedIn.entry.initials, review.rows[row].fileName,
-                               handedIn.email};
+        const NewPlayer player = playerOf(review.rows[row]);
+        const bool isAlike = players.find(player) != nullptr;
         if (!players.add(player))
             continue;
         ++outcome.playersAdded;
+        if (isAlike)
+            outcome.playersAlike.push_back(player.name);
         if (!player.email.empty() && recordedAddress(player.email).empty())
             outcome.playersWithoutAddress.push_back(player.name);
     }
@@ -186,6 +211,7 @@ void addPlayers(const Review& review, std::span<const std::size_t> rows, const D
     if (written)
         return;
     outcome.playersAdded = 0;
+    outcome.playersAlike.clear();
     outcome.playersWithoutAddress.clear();
     outcome.playerListTrouble = isChanged ? "Another program has just changed it." : written.failure().message;
 }

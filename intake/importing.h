@@ -22,6 +22,7 @@ struct ImportOutcome {
     std::size_t unchanged = 0; ///< ticked and identical to what is there
     std::vector<NotWritten> notWritten;
     std::size_t playersAdded = 0;
+    std::vector<std::string> playersAlike;          ///< those added who look like another one, as the list cuts both
     std::vector<std::string> playersWithoutAddress; ///< those added whose address does not fit into the list
     std::string playerListTrouble;                  ///< why the list is as it was; empty = no trouble
     std::string summary; ///< all of this as text, lines separated by CR LF, none after the last

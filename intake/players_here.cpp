@@ -7,6 +7,7 @@
 #include "intake/addresses.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace tallyhoop {
@@ -33,25 +34,61 @@ std::string keyOf(std::string_view fileName, std::string_view player)
 
 } // namespace
 
-PlayersHere::PlayersHere(std::vector<PlayerRecord> records) : m_records{std::move(records)}
+PlayersHere::PlayersHere(std::vector<PlayerRecord> records, const std::vector<NewPlayer>& selections)
+    : m_records{std::move(records)}
 {
     for (std::size_t i = 0; i < m_records.size(); ++i)
         index(i);
+    std::set<std::string> counted; // one player's file may be there twice, in another case of its letters
+    for (const NewPlayer& player : selections)
+        if (counted.insert(upperCase(player.fileName)).second)
+            ++m_selections[keyOf(player.fileName, player.name)];
 }
 
 void PlayersHere::index(std::size_t record)
 {
     const PlayerRecord& indexed = m_records[record];
+    const std::string whole = keyOf(indexed.fileName, indexed.name);
     m_byFile.emplace(keyOf(indexed.fileName), record);
-    m_byFile.emplace(keyOf(indexed.fileName, indexed.name), record);
+    m_byFile.emplace(whole, record);
     m_byName.emplace(nameKeyOf(indexed.name), record);
+    m_alike[whole].push_back(record);
 }
+
+bool PlayersHere::isCut(std::string_view fileName) { return fileName.size() > kFileNameWidth; }
 
 const PlayerRecord* PlayersHere::find(const NewPlayer& player) const
 {
-    const bool isCut = player.fileName.size() > kFileNameWidth;
-    const auto found = m_byFile.find(isCut ? keyOf(player.fileName, player.name) : keyOf(player.fileName));
+    const auto found =
+        m_byFile.find(isCut(player.fileName) ? keyOf(player.fileName, player.name) : keyOf(player.fileName));
     return found != m_byFile.end() ? &m_records[found->second] : nullptr;
+}
+
+std::string PlayersHere::addressesOf(const NewPlayer& player) const
+{
+    std::vector<std::string> addresses;
+    const auto add = [&](const PlayerRecord& record) {
+        if (std::string address = withoutOuterBlanks(record.email); !address.empty())
+            addresses.push_back(std::move(address));
+    };
+    const PlayerRecord* const found = find(player);
+    if (found != nullptr && !isCut(player.fileName))
+        add(*found);
+    else if (found != nullptr)
+        for (const std::size_t record : m_alike.at(keyOf(player.fileName, player.name)))
+            add(m_records[record]);
+    return joined(addresses, "; ");
+}
+
+bool PlayersHere::isListed(const NewPlayer& player) const
+{
+    if (find(player) == nullptr)
+        return false;
+    if (!isCut(player.fileName))
+        return true;
+    const std::string key = keyOf(player.fileName, player.name);
+    const auto selections = m_selections.find(key);
+    return selections == m_selections.end() || m_alike.at(key).size() >= selections->second;
 }
 
 const PlayerRecord* PlayersHere::findName(std::string_view name) const
@@ -62,7 +99,7 @@ const PlayerRecord* PlayersHere::findName(std::string_view name) const
 
 bool PlayersHere::add(const NewPlayer& player)
 {
-    if (find(player) != nullptr)
+    if (isListed(player))
         return false;
     m_records.push_back({player.name, upperCase(player.fileName), recordedAddress(player.email), {}});
     index(m_records.size() - 1);

@@ -25,15 +25,25 @@ struct NewPlayer {
 class PlayersHere
 {
 public:
-    explicit PlayersHere(std::vector<PlayerRecord> records);
+    /// @param selections the players of the selections that are here, those at least whose file names are cut in a
+    /// record
+    explicit PlayersHere(std::vector<PlayerRecord> records, const std::vector<NewPlayer>& selections = {});
 
-    /// @returns the record of a player's file; one whose file name was cut is that of the player of the same name
+    /// @returns whether a record holds only the beginning of a file's name
+    static bool isCut(std::string_view fileName);
+
+    /// @returns the first record of a player's file; where that is cut, one of a player whose name looks the same in a
+    ///          record, and who may be another one
     const PlayerRecord* find(const NewPlayer& player) const;
+
+    /// @returns the addresses in the records that may be the player's, "; " between them; empty = none
+    std::string addressesOf(const NewPlayer& player) const;
 
     /// @returns the first record of a player's name, in any case of its letters
     const PlayerRecord* findName(std::string_view name) const;
 
-    /// Adds a record unless there is one. @returns whether it was added
+    /// Adds a record unless there is one. Of players who look the same in a record, each selection has one.
+    /// @returns whether it was added
     bool add(const NewPlayer& player);
 
     /// @returns the records in the order of the list that people see
@@ -41,10 +51,13 @@ public:
 
 private:
     void index(std::size_t record);
+    bool isListed(const NewPlayer& player) const;
 
     std::vector<PlayerRecord> m_records;
     std::unordered_map<std::string, std::size_t> m_byFile; ///< the first record for a file, by what all of them share
     std::unordered_map<std::string, std::size_t> m_byName;
+    std::unordered_map<std::string, std::vector<std::size_t>> m_alike; ///< the records that look the same
+    std::unordered_map<std::string, std::size_t> m_selections;         ///< how many selections have such a record
 };
 
 /// @returns the address as a record can hold it; empty when it does not fit or is none

@@ -74,13 +74,13 @@ std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows)
 
 std::string otherAddressWarning(const ReviewRow& row, const PlayersHere& players)
 {
-    const PlayerRecord* record = players.find(playerOf(row));
-    const bool isWritten = row.effect == Effect::New || row.effect == Effect::Replaces;
-    if (!isWritten || record == nullptr || firstAddressIn(record->email).empty())
+    // Whoever looks the same in the player list and has handed in before is probably another one.
+    const bool isKnown =
+        row.effect == Effect::Replaces || (row.effect == Effect::New && !PlayersHere::isCut(row.fileName));
+    const std::string known = isKnown ? players.addressesOf(playerOf(row)) : std::string{};
+    if (firstAddressIn(known).empty())
         return {};
-    const auto isOther = [&](const std::string& address) {
-        return !address.empty() && !namesAddress(record->email, address);
-    };
+    const auto isOther = [&](const std::string& address) { return !address.empty() && !namesAddress(known, address); };
     const std::string& given = row.handedIn.email;
     const std::string& sender = row.handedIn.origin.sender;
     if (!isOther(given) && !isOther(sender))
@@ -89,7 +89,7 @@ std::string otherAddressWarning(const ReviewRow& row, const PlayersHere& players
     const std::string words = !isOther(sender) ? "Its address is " + shownAddress(given)
                               : isSenderGiven  ? "Sent from " + shownAddress(sender)
                                                : "Sent from " + shownAddress(sender) + " for " + shownAddress(given);
-    return words + ", not " + withoutOuterBlanks(record->email) + " as in the player list.";
+    return words + ", not " + known + " as in the player list.";
 }
 
 std::string otherFileWarning(const ReviewRow& row, const PlayersHere& players)

@@ -189,6 +189,26 @@ TEST(Import, SaysWhoseAddressDoesNotFit)
     EXPECT_THAT(scratch.get("PLAYERNAMES.CSV"), testing::Not(HasSubstr("aaa")));
 }
 
+TEST(Import, ListsEachOfThoseWhoLookTheSameInTheList)
+{
+    const ScratchFolder scratch;
+    const std::string name = "Featherstonehaugh-Cholmondeley of Upper Slaughter ";
+    EXPECT_EQ(imported(scratch, {entryFrom(upperEntry(name + "senior", "F"))}).playersAdded, 1u);
+    const ImportOutcome outcome =
+        imported(scratch, {entryFrom(upperEntry(name + "junior", "F"), "j@example.org"), entryFrom(upperEntry())});
+    EXPECT_EQ(outcome.playersAdded, 2u);
+    EXPECT_THAT(outcome.summary,
+                HasSubstr("2 players were added to the player list.\r\n  " + name +
+                          "junior,F: the list cuts this name, and has another player who looks the same there."));
+    const std::vector<PlayerRecord> players = readPlayerNames(scratch.folder());
+    ASSERT_EQ(players.size(), 3u);
+    EXPECT_EQ(players[1].fileName, "FEATHERSTONEHAUGH-CHOLMONDELEY OF");
+    EXPECT_EQ(players[1].fileName, players[2].fileName);
+
+    Review again = reviewedIn(scratch, {entryFrom(upperEntry(name + "senior", "F", "99"))});
+    EXPECT_EQ(importTicked(again, scratch.folder()).playersAdded, 0u) << "both have their records";
+}
+
 TEST(Import, StopsWhenItIsToldTo)
 {
     const ScratchFolder scratch;

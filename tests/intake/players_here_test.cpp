@@ -33,6 +33,30 @@ TEST(PlayersHere, AreToldApartByNameWhenTheirFilesWereCut)
     EXPECT_EQ(players.find({"Feather,B", same + "nior_B.THC", {}}), nullptr);
 }
 
+TEST(PlayersHere, AreAddedForEachSelectionWhenTheyLookTheSame)
+{
+    const std::string name = "Featherstonehaugh-Cholmondeley of Upper Slaughter "; // a record holds 25 of it, and 33
+    const NewPlayer senior{name + "senior,F", name + "senior_F.THC", "s@example.org"};
+    const NewPlayer junior{name + "junior,F", name + "junior_F.THC", "j@example.org"};
+    const std::vector<NewPlayer> both{senior, junior};
+    PlayersHere none{{}, both};
+    EXPECT_TRUE(none.add(senior));
+    EXPECT_TRUE(none.add(junior));
+    EXPECT_FALSE(none.add(junior)) << "each selection has a record now";
+    ASSERT_EQ(none.sorted().size(), 2u);
+    EXPECT_EQ(none.sorted()[0].email, "j@example.org");
+
+    EXPECT_EQ(none.addressesOf(senior), "s@example.org; j@example.org") << "any of them may be meant";
+    PlayersHere onlyOne{{record(junior.name, junior.fileName)}, both};
+    EXPECT_TRUE(onlyOne.add(senior));
+    PlayersHere listedBefore{{record(senior.name, senior.fileName)}, {senior}};
+    EXPECT_FALSE(listedBefore.add(senior));
+    NewPlayer sameFile = senior;
+    sameFile.fileName = name + "SENIOR_f.thc";
+    PlayersHere twice{{record(senior.name, senior.fileName)}, {senior, sameFile}};
+    EXPECT_FALSE(twice.add(senior)) << "the same name in another case is the same player's";
+}
+
 TEST(PlayersHere, AreAddedOnceAndSorted)
 {
     PlayersHere players{{record("Zed,Z", "ZED_Z.THC"), record("adams,a", "ADAMS_A.THC")}};

@@ -119,6 +119,20 @@ TEST_F(ReviewWarnings, ALongNameThatWasCutMayBeAnothers)
               "The player list may have this player with another file: FEATHER.THC. New.");
 }
 
+TEST_F(ReviewWarnings, NoneForThoseWhoLookTheSameInTheList)
+{
+    const std::string name = "Featherstonehaugh-Cholmondeley of Upper Slaughter ";
+    const std::string cut = "FEATHERSTONEHAUGH-CHOLMONDELEY OF"; // the 33 characters that a record holds
+    list({{name, cut, "s@example.org", ""}, {name, cut, "j@example.org", ""}});
+    scratch.put(name + "junior_F.THC", selectionFile(upperEntry(name + "junior", "F", "99")));
+    EXPECT_TRUE(rowOf("", "j@example.org", upperEntry(name + "junior", "F")).isTicked) << "one of the two addresses";
+    EXPECT_EQ(
+        rowOf("", "eve@example.org", upperEntry(name + "junior", "F")).words,
+        "Sent from eve@example.org, not s@example.org; j@example.org as in the player list. Replaces (same picks; "
+        "name, initials or total differ).");
+    EXPECT_EQ(rowOf("", "new@example.org", upperEntry(name + "grandson", "F")).words, "New.");
+}
+
 TEST_F(ReviewWarnings, AFileThatCannotBeRead)
 {
     std::filesystem::resize_file(scratch.path() / "Ann Smith_as.THC", kMostBytesOfList + 1); // too large
