@@ -2,7 +2,6 @@
 #include "intake/csv_cells.h"
 
 #include "base/text.h"
-#include "intake/plain_text.h"
 
 #include <algorithm>
 #include <utility>
@@ -14,14 +13,11 @@ namespace {
 /// Excel's own way to name the separator: a first line such as "sep=;".
 constexpr std::string_view kSeparatorLine = "sep=";
 
-/// Apostrophes before a cell make no difference, so that a guarded cell needs its guard as well.
-bool needsGuard(std::string_view cell)
+bool isFormula(std::string_view cell)
 {
     const std::size_t first = cell.find_first_not_of('\'');
-    if (first == std::string_view::npos)
-        return false;
-    const std::string_view rest = cell.substr(first);
-    return std::string_view{"=+-@\t\r\n"}.find(rest.front()) != std::string_view::npos || withPlainBlanks(rest) != rest;
+    return first != std::string_view::npos &&
+           std::string_view{"=+-@\t\r\n"}.find(cell[first]) != std::string_view::npos;
 }
 
 /// @returns the separator that the first line has more of, outside of quotation marks
@@ -150,11 +146,11 @@ std::string csvText(std::span<const CsvRow> rows)
     return text;
 }
 
-std::string guarded(std::string_view cell) { return needsGuard(cell) ? '\'' + std::string{cell} : std::string{cell}; }
+std::string guarded(std::string_view cell) { return isFormula(cell) ? '\'' + std::string{cell} : std::string{cell}; }
 
 std::string unguarded(std::string_view cell)
 {
-    return cell.starts_with('\'') && needsGuard(cell) ? std::string{cell.substr(1)} : withPlainBlanks(cell);
+    return std::string{cell.starts_with('\'') && isFormula(cell) ? cell.substr(1) : cell};
 }
 
 } // namespace tallyhoop

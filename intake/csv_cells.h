@@ -1,9 +1,7 @@
 // intake/csv_cells.h - tables as comma-separated values: rows of cells, and the quotation that keeps them apart.
 //
 // As RFC 4180 has it; the separator may be a semicolon, which spreadsheets write where the comma is the decimal point.
-// A cell that a spreadsheet would take for a formula is written with an apostrophe before it, and read without it. So
-// is one whose blanks a reader would tidy up: what people type has blanks at its ends by accident, what was written as
-// data has them for good.
+// A cell that a spreadsheet would take for a formula is written with an apostrophe before it, and read without it.
 #pragma once
 
 #include "base/result.h"
@@ -24,13 +22,11 @@ Result<std::vector<CsvRow>> csvRows(std::string_view text);
 /// @returns the rows as text: separated by commas, each ended by CR LF, quoted where it is needed
 std::string csvText(std::span<const CsvRow> rows);
 
-/// @param cell UTF-8
 /// @returns the cell as it is written: one that begins with "=", "+", "-", "@", a tab or a line break, apostrophes
-///          before it or not, has an apostrophe more, and so has one that withPlainBlanks() would change
+///          before it or not, has an apostrophe more
 std::string guarded(std::string_view cell);
 
-/// @param cell UTF-8
-/// @returns the cell without the apostrophe that guarded() added, byte for byte; a cell without one withPlainBlanks()
+/// @returns the cell without the apostrophe that guarded() added
 std::string unguarded(std::string_view cell);
 
 } // namespace tallyhoop

@@ -36,6 +36,13 @@ bool isSelection(std::string_view bytes)
     return lines.size() == kLinesOfSelection && lines.back() == kEndMarker;
 }
 
+/// Cells that were copied out of a spreadsheet are separated by tabs, which the table's first line has to say.
+std::string separatedTable(const std::string& utf8)
+{
+    const bool hasTabs = utf8.substr(0, utf8.find_first_of("\r\n")).find('\t') != std::string::npos;
+    return hasTabs ? "sep=\t\n" + utf8 : utf8;
+}
+
 void append(std::vector<HandedIn>& entries, std::vector<HandedIn> more)
 {
     std::ranges::move(more, std::back_inserter(entries));
@@ -162,7 +169,11 @@ std::vector<HandedIn> EntryReaders::readText(std::string_view bytes, const Origi
     const std::string utf8 = utf8Of(bytes);
     if (isSelection(utf8))
         return {readSelectionText(utf8, origin)};
-    return readEntryTexts(utf8, m_teams, origin);
+    std::vector<HandedIn> entries = readEntryTexts(utf8, m_teams, origin);
+    if (!entries.empty())
+        return entries;
+    const std::string table = separatedTable(utf8);
+    return isEntryTable(table) ? readEntryTable(table, m_teams, origin) : entries;
 }
 
 std::vector<HandedIn> EntryReaders::readMail(std::string_view bytes, const Origin& origin, int depth) const
@@ -205,7 +216,7 @@ std::vector<HandedIn> EntryReaders::readMail(std::string_view bytes, const Origi
                                            "Parts of the mail are inside one another more than " +
                                                std::to_string(kDeepestPartOfMail) + " times over: they are not read."));
     if (entries.empty())
-        return {refusedWhole(origin, nothingFound(*parts))};
+        return {refusedWhole(parts->empty() ? origin : originOf(parts->front(), origin), nothingFound(*parts))};
     return withoutRepeated(std::move(entries));
 }
 

@@ -39,6 +39,29 @@ struct Columns {
     std::size_t count = 0;
 };
 
+/// What people type has blanks at its ends by accident; what we write has them as data. Such a cell is written with an
+/// apostrophe before it, as a formula is, so that the way through a spreadsheet is exact. Those that are there already
+/// make no difference: a cell that has its apostrophe needs it.
+bool hasBlanksToKeep(std::string_view utf8)
+{
+    const std::string_view rest = utf8.substr(std::min(utf8.find_first_not_of('\''), utf8.size()));
+    return withPlainBlanks(rest) != rest;
+}
+
+std::string cellOf(std::string_view text)
+{
+    const std::string utf8 = toUtf8(text);
+    return hasBlanksToKeep(utf8) ? '\'' + utf8 : guarded(utf8);
+}
+
+/// @returns UTF-8: a cell as cellOf() had it, byte for byte, or as somebody meant it
+std::string textOf(std::string_view cell)
+{
+    if (cell.starts_with('\'') && hasBlanksToKeep(cell))
+        return std::string{cell.substr(1)};
+    return withPlainBlanks(unguarded(cell));
+}
+
 /// @returns the game of a column named such as "Game 12 (West, round 1, game 4)"
 std::optional<Game> gameOfTitle(std::string_view title)
 {
@@ -62,7 +85,7 @@ std::string titleOf(const Field& field, Game game)
 
 bool isHeader(const CsvRow& row)
 {
-    return std::ranges::any_of(row, [](const std::string& cell) { return isOneOf(kInitialsTitles, unguarded(cell)); });
+    return std::ranges::any_of(row, [](const std::string& cell) { return isOneOf(kInitialsTitles, textOf(cell)); });
 }
 
 Columns columnsInOrder()
@@ -103,7 +126,7 @@ Result<Columns> columnsOf(const CsvRow& header)
     columns.count = header.size();
     std::vector<std::size_t> others;
     for (std::size_t column = 0; column < header.size(); ++column) {
-        const std::string title = unguarded(header[column]);
+        const std::string title = textOf(header[column]);
         if (!title.empty() && !takeTitle(columns, title, column))
             others.push_back(column);
     }
@@ -125,11 +148,8 @@ Result<Columns> columnsOf(const CsvRow& header)
 /// @returns UTF-8
 std::string cellAt(const CsvRow& row, const std::optional<std::size_t>& column)
 {
-    return column && *column < row.size() ? unguarded(row[*column]) : std::string{};
+    return column && *column < row.size() ? textOf(row[*column]) : std::string{};
 }
-
-/// @returns UTF-8
-std::string cellOf(std::string_view text) { return guarded(toUtf8(text)); }
 
 bool isEmptyRow(const CsvRow& row)
 {
@@ -139,7 +159,8 @@ bool isEmptyRow(const CsvRow& row)
 /// The player list, or any other table of a folder, must not become a refusal for each of its rows.
 bool isOfEntries(const std::vector<CsvRow>& rows)
 {
-    return std::ranges::any_of(rows, [](const CsvRow& row) { return row.size() >= kColumnsInOrder; });
+    return (!rows.empty() && isHeader(rows.front())) ||
+           std::ranges::any_of(rows, [](const CsvRow& row) { return row.size() >= kColumnsInOrder; });
 }
 
 HandedIn entryOf(const CsvRow& row, const Columns& columns, const KnownTeams& teams)
@@ -168,7 +189,7 @@ std::vector<HandedIn> readEntryTable(std::string_view bytes, const KnownTeams& t
     const Result<std::vector<CsvRow>> rows = csvRows(utf8Of(bytes));
     if (!rows)
         return {refusedWhole(origin, rows.failure().message)};
-    if (rows->size() > 0 && !isHeader(rows->front()) && !isOfEntries(*rows))
+    if (!rows->empty() && !isOfEntries(*rows))
         return {
             refusedWhole(origin, "This is not a table of entries: it has no header with \"Initials\", and no row has " +
                                      std::to_string(kColumnsInOrder) + " columns.")};
@@ -190,6 +211,12 @@ std::vector<HandedIn> readEntryTable(std::string_view bytes, const KnownTeams& t
     if (entries.empty())
         return {refusedWhole(origin, "The table has no entries.")};
     return entries;
+}
+
+bool isEntryTable(std::string_view bytes)
+{
+    const Result<std::vector<CsvRow>> rows = csvRows(utf8Of(bytes));
+    return rows && isOfEntries(*rows);
 }
 
 std::string entryTable(std::span<const Entry> entries, const Field& field)

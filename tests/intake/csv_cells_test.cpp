@@ -69,20 +69,5 @@ TEST(Guarded, IsTakenBackExactly)
     EXPECT_EQ(guarded("'=1"), "''=1") << "typed with the apostrophe: one more, or it would be lost";
 }
 
-TEST(Guarded, KeepsBlanksThatAreData)
-{
-    EXPECT_EQ(guarded("Ann "), "'Ann ");
-    EXPECT_EQ(guarded("Ann  Smith"), "'Ann  Smith");
-    EXPECT_EQ(guarded("Ann Smith"), "Ann Smith");
-    for (const char* cell : {" Ann", "Ann ", "Ann  Smith", "Ann\xC2\xA0Smith", "' Ann", " ", "''  ", "a\tb"})
-        EXPECT_EQ(unguarded(guarded(cell)), cell);
-}
-
-TEST(Unguarded, TidiesWhatPeopleTyped)
-{
-    EXPECT_EQ(unguarded("\xC2\xA0 Ann \xC2\xA0Smith  "), "Ann Smith");
-    EXPECT_EQ(unguarded("'80s fan"), "'80s fan");
-}
-
 } // namespace
 } // namespace tallyhoop

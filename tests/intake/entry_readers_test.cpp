@@ -128,6 +128,22 @@ TEST(EntryReaders, ReadTables)
     EXPECT_EQ(read[1].entry, upperEntry("Bob", "B"));
 }
 
+TEST(EntryReaders, ReadTablesThatWerePasted)
+{
+    const std::vector<Entry> entries{upperEntry(), upperEntry("Bob", "B")};
+    const std::string table = entryTable(entries, test::field2000());
+    ASSERT_EQ(mailReaders().readPasted(table).size(), 2u);
+    EXPECT_EQ(mailReaders().readPasted(table)[1].entry, upperEntry("Bob", "B"));
+    std::string cells = "Ann Smith\tas\t142"; // as a spreadsheet's copy has them
+    for (const Position position : gamePositions())
+        cells += '\t' + test::upperTeamsWin().at(position);
+    ASSERT_EQ(mailReaders().readPasted(cells + "\r\n").size(), 1u);
+    EXPECT_EQ(mailReaders().readPasted(cells)[0].entry, upperEntry());
+    EXPECT_EQ(mailReaders().readPasted(cells)[0].origin.number, 1);
+    EXPECT_EQ(readNamed("x.TXT", cells).at(0).entry, upperEntry());
+    EXPECT_EQ(singleRefusal(mailReaders().readPasted("a,b\n1\t2\n")), "There is no entry in this text.");
+}
+
 TEST(EntryReaders, ReadMails)
 {
     const std::vector<HandedIn> read = readNamed("x.EML", kHeaders + "\r\n" + formText(upperEntry(), ""));

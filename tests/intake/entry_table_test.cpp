@@ -127,6 +127,22 @@ TEST(EntryTable, TakesBlanksAroundACellForAnAccident)
               upperEntry());
 }
 
+TEST(EntryTable, WritesBlanksThatAreDataWithAnApostrophe)
+{
+    const std::vector<std::string> names{"Ann ",  " Ann", "Ann  Smith", "Ann\xA0Smith",
+                                         "' Ann", "''  ", "'t Hooft",   "= 1 "};
+    std::vector<Entry> entries;
+    for (const std::string& name : names)
+        entries.push_back(upperEntry(name));
+    const std::string table = entryTable(entries, field2000());
+    EXPECT_THAT(table, testing::HasSubstr("\n\"'Ann \","));
+    EXPECT_THAT(table, testing::HasSubstr("\n't Hooft,")) << "only where it is needed";
+    std::vector<std::string> again;
+    for (const HandedIn& handedIn : readTable(table))
+        again.push_back(handedIn.entry.name);
+    EXPECT_EQ(again, names);
+}
+
 TEST(EntryTable, RefusesALetterThatFilesCannotHold)
 {
     const std::string picks = replaced(picksOf(test::upperTeamsWin()), "Duke", "Duk\xC4\x99");
