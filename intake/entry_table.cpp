@@ -215,6 +215,8 @@ std::vector<HandedIn> readEntryTable(std::string_view bytes, const KnownTeams& t
 
 bool isEntryTable(std::string_view bytes)
 {
+    if (bytes.find_first_of(",;\t") == std::string_view::npos)
+        return false; // as of most texts
     const Result<std::vector<CsvRow>> rows = csvRows(utf8Of(bytes));
     return rows && isOfEntries(*rows);
 }
