@@ -4,6 +4,8 @@
 #include "base/text.h"
 
 #include <algorithm>
+#include <compare>
+#include <map>
 #include <utility>
 
 namespace tallyhoop {
@@ -13,6 +15,8 @@ namespace {
 /// Excel's own way to name the separator: a first line such as "sep=;".
 constexpr std::string_view kSeparatorLine = "sep=";
 
+constexpr std::string_view kSeparators = ",;\t";
+
 bool isFormula(std::string_view cell)
 {
     const std::size_t first = cell.find_first_not_of('\'');
@@ -20,38 +24,10 @@ bool isFormula(std::string_view cell)
            std::string_view{"=+-@\t\r\n"}.find(cell[first]) != std::string_view::npos;
 }
 
-/// @returns the separator that the first line has more of, outside of quotation marks
-char separatorOf(std::string_view text)
-{
-    std::size_t commas = 0;
-    std::size_t semicolons = 0;
-    bool isQuoted = false;
-    for (const char c : text) {
-        if (c == '"')
-            isQuoted = !isQuoted;
-        else if (!isQuoted && (c == '\r' || c == '\n'))
-            break;
-        commas += !isQuoted && c == ',' ? 1 : 0;
-        semicolons += !isQuoted && c == ';' ? 1 : 0;
-    }
-    return semicolons > commas ? ';' : ',';
-}
-
 class CsvReader
 {
 public:
-    explicit CsvReader(std::string_view text) : m_text{text}
-    {
-        if (text.starts_with(kSeparatorLine) && text.size() > kSeparatorLine.size() &&
-            std::string_view{",;\t"}.find(text[kSeparatorLine.size()]) != std::string_view::npos &&
-            (text.substr(kSeparatorLine.size() + 1).find_first_of("\r\n") == 0)) {
-            m_separator = text[kSeparatorLine.size()];
-            m_at = kSeparatorLine.size() + 1;
-            endLine();
-        } else {
-            m_separator = separatorOf(text);
-        }
-    }
+    CsvReader(std::string_view text, char separator) : m_text{text}, m_separator{separator} {}
 
     Result<std::vector<CsvRow>> read()
     {
@@ -109,9 +85,48 @@ private:
     }
 
     std::string_view m_text;
+    char m_separator;
     std::size_t m_at = 0;
-    char m_separator = ',';
 };
+
+/// Of rows with several cells, most have a number of cells in common.
+struct Alike {
+    std::size_t rows = 0;
+    std::size_t cells = 0;
+
+    friend auto operator<=>(const Alike&, const Alike&) = default;
+};
+
+Alike alikeIn(const std::vector<CsvRow>& rows)
+{
+    std::map<std::size_t, std::size_t> rowsOfSize;
+    for (const CsvRow& row : rows)
+        if (row.size() > 1)
+            ++rowsOfSize[row.size()];
+    Alike most;
+    for (const auto& [cells, count] : rowsOfSize)
+        most = std::max(most, Alike{count, cells});
+    return most;
+}
+
+/// A separator makes rows alike. Counting it does not help: commas may be in every title of a table that has
+/// semicolons.
+Result<std::vector<CsvRow>> rowsByTheirSeparator(std::string_view text)
+{
+    Result<std::vector<CsvRow>> best = CsvReader{text, kSeparators.front()}.read();
+    Alike most = best ? alikeIn(*best) : Alike{};
+    for (const char separator : kSeparators.substr(1)) {
+        if (text.find(separator) == std::string_view::npos)
+            continue;
+        Result<std::vector<CsvRow>> rows = CsvReader{text, separator}.read();
+        const Alike alike = rows ? alikeIn(*rows) : Alike{};
+        if (alike > most || (!rows && most.rows == 0)) { // a failure says more than cells that are whole lines
+            most = alike;
+            best = std::move(rows);
+        }
+    }
+    return best;
+}
 
 std::string quotedCell(std::string_view cell)
 {
@@ -131,7 +146,17 @@ std::string quotedCell(std::string_view cell)
 
 } // namespace
 
-Result<std::vector<CsvRow>> csvRows(std::string_view text) { return CsvReader{text}.read(); }
+Result<std::vector<CsvRow>> csvRows(std::string_view text)
+{
+    const std::string_view line = text.substr(0, text.find_first_of("\r\n"));
+    const bool isNamed = line.size() == kSeparatorLine.size() + 1 && line.starts_with(kSeparatorLine) &&
+                         kSeparators.find(line.back()) != std::string_view::npos;
+    if (!isNamed)
+        return rowsByTheirSeparator(text);
+    std::string_view table = text.substr(line.size());
+    table.remove_prefix(table.starts_with(kLineBreak) ? kLineBreak.size() : std::min<std::size_t>(table.size(), 1));
+    return CsvReader{table, line.back()}.read();
+}
 
 std::string csvText(std::span<const CsvRow> rows)
 {

@@ -26,7 +26,8 @@ constexpr std::array<std::string_view, 3> kTotalTitles = {"total", "final points
 constexpr std::array<std::string_view, 4> kEmailTitles = {"e-mail", "email", "mail", "address"};
 constexpr std::array<std::string_view, 1> kFileTitles = {"file"};
 constexpr std::string_view kGameTitle = "game ";
-constexpr std::size_t kColumnsInOrder = kGames + 3;
+constexpr std::size_t kColumnsInOrder = kGames + 3; ///< and one more for the file, which may be missing
+constexpr std::size_t kMostTitleRows = 5;           ///< before the header: what people write above a table
 
 /// Which column holds what, counted from 0.
 struct Columns {
@@ -90,11 +91,20 @@ bool isHeader(const CsvRow& row)
 
 Columns columnsInOrder()
 {
-    Columns columns{0, 1, 2, {}, {}, {}, kColumnsInOrder};
+    Columns columns{0, 1, 2, {}, kColumnsInOrder, {}, kColumnsInOrder + 1};
     std::size_t column = 3;
     for (std::optional<std::size_t>& game : columns.games.values)
         game = column++;
     return columns;
+}
+
+/// @returns which of the first rows names the columns
+std::optional<std::size_t> headerOf(const std::vector<CsvRow>& rows)
+{
+    for (std::size_t i = 0; i < std::min(rows.size(), kMostTitleRows + 1); ++i)
+        if (isHeader(rows[i]))
+            return i;
+    return std::nullopt;
 }
 
 /// Gives a column its meaning. @returns false when it has none that is known, or another has it already
@@ -159,7 +169,7 @@ bool isEmptyRow(const CsvRow& row)
 /// The player list, or any other table of a folder, must not become a refusal for each of its rows.
 bool isOfEntries(const std::vector<CsvRow>& rows)
 {
-    return (!rows.empty() && isHeader(rows.front())) ||
+    return headerOf(rows).has_value() ||
            std::ranges::any_of(rows, [](const CsvRow& row) { return row.size() >= kColumnsInOrder; });
 }
 
@@ -193,20 +203,18 @@ std::vector<HandedIn> readEntryTable(std::string_view bytes, const KnownTeams& t
         return {
             refusedWhole(origin, "This is not a table of entries: it has no header with \"Initials\", and no row has " +
                                      std::to_string(kColumnsInOrder) + " columns.")};
+    const std::optional<std::size_t> header = headerOf(*rows);
+    const Result<Columns> columns = header ? columnsOf((*rows)[*header]) : columnsInOrder();
+    if (!columns)
+        return {refusedWhole(origin, columns.failure().message)};
     std::vector<HandedIn> entries;
-    Columns columns = columnsInOrder();
-    for (std::size_t i = 0; i < rows->size() && entries.size() < kMostEntriesHandedIn; ++i) {
+    for (std::size_t i = header ? *header + 1 : 0; i < rows->size() && entries.size() < kMostEntriesHandedIn; ++i) {
         const CsvRow& row = (*rows)[i];
-        if (i == 0 && isHeader(row)) {
-            const Result<Columns> named = columnsOf(row);
-            if (!named)
-                return {refusedWhole(origin, named.failure().message)};
-            columns = *named;
-        } else if (!isEmptyRow(row)) {
-            entries.push_back(entryOf(row, columns, teams));
-            entries.back().origin = origin;
-            entries.back().origin.number = static_cast<int>(i) + 1;
-        }
+        if (isEmptyRow(row))
+            continue;
+        entries.push_back(entryOf(row, *columns, teams));
+        entries.back().origin = origin;
+        entries.back().origin.number = static_cast<int>(i) + 1;
     }
     if (entries.empty())
         return {refusedWhole(origin, "The table has no entries.")};

@@ -33,6 +33,19 @@ TEST(CsvRows, MayBeSeparatedBySemicolons)
     EXPECT_THAT(rowsOf("a;b,c;d\r\n1;2;3"), ElementsAre(CsvRow{"a", "b,c", "d"}, CsvRow{"1", "2", "3"}));
     EXPECT_THAT(rowsOf("\"a;b;c\",d"), ElementsAre(CsvRow{"a;b;c", "d"})) << "those in quotation marks do not count";
     EXPECT_THAT(rowsOf("sep=;\r\na;b,c,d"), ElementsAre(CsvRow{"a", "b,c,d"}));
+    EXPECT_THAT(rowsOf("sep=;"), ElementsAre());
+}
+
+TEST(CsvRows, HaveTheSeparatorThatMakesThemAlike)
+{
+    EXPECT_THAT(rowsOf("Game 1 (West, round 1, game 1);Name\nArizona;Ann"),
+                ElementsAre(CsvRow{"Game 1 (West, round 1, game 1)", "Name"}, CsvRow{"Arizona", "Ann"}))
+        << "there are more commas";
+    EXPECT_THAT(rowsOf("a, b\tc\nd\te"), ElementsAre(CsvRow{"a, b", "c"}, CsvRow{"d", "e"}));
+    EXPECT_THAT(rowsOf("My pool, 2000\na;b;c\nd;e;f"),
+                ElementsAre(CsvRow{"My pool, 2000"}, CsvRow{"a", "b", "c"}, CsvRow{"d", "e", "f"}));
+    EXPECT_THAT(rowsOf("Smith, Ann;as;142"), ElementsAre(CsvRow{"Smith, Ann", "as", "142"})) << "more cells";
+    EXPECT_THAT(rowsOf("a;b\nc;d\ne;\"f"), ElementsAre(CsvRow{"failed: A quotation mark in row 3 is not closed."}));
 }
 
 TEST(CsvRows, FailOnAQuotationMarkThatIsNotClosed)

@@ -109,6 +109,34 @@ TEST(EntryTable, IsRefusedWhenItsHeaderLacksAColumn)
     EXPECT_EQ(onlyRefusal(""), "The table has no entries.");
 }
 
+TEST(EntryTable, MayHaveATitleAboveItsHeaderOrHaveLostIt)
+{
+    Entry entry = upperEntry();
+    entry.fileName = "Own.THC";
+    const std::string table = entryTable({{entry}}, field2000());
+    const std::vector<HandedIn> titled = readTable("\xEF\xBB\xBFOffice Pool\r\n\r\n" + table.substr(3));
+    ASSERT_EQ(titled.size(), 1u);
+    EXPECT_EQ(titled[0].origin.number, 4) << "the row in the file";
+    const std::vector<HandedIn> headless = readTable(table.substr(table.find("\r\n") + 2));
+    ASSERT_EQ(headless.size(), 1u);
+    for (const HandedIn& read : {titled[0], headless[0]}) {
+        EXPECT_EQ(read.entry, upperEntry());
+        EXPECT_EQ(read.fileName, "Own.THC");
+        EXPECT_THAT(read.refusals, IsEmpty());
+    }
+}
+
+TEST(EntryTable, IsReadWithTheSemicolonsThatASpreadsheetPutsIn)
+{
+    std::string header = "Name;Initials;Total";
+    for (int game = 1; game <= kGames; ++game)
+        header += ";Game " + std::to_string(game) + " (West, round 1, game 1)";
+    const std::vector<HandedIn> read =
+        readTable(header + "\r\nAnn Smith;as;142" + picksOf(test::upperTeamsWin(), ';') + "\r\n");
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry, upperEntry());
+}
+
 TEST(EntryTable, IsNoneWhenItIsAnotherList)
 {
     std::string players;
@@ -170,8 +198,8 @@ TEST(EntryTable, MayNameTheSelectionOfARow)
 
 TEST(EntryTable, RefusesARowWithTooManyColumns)
 {
-    EXPECT_EQ(onlyRefusal("Ann Smith,as,142" + picksOf(test::upperTeamsWin()) + ",Duke"),
-              "The row has 67 columns; there should be 66.");
+    EXPECT_EQ(onlyRefusal("Ann Smith,as,142" + picksOf(test::upperTeamsWin()) + ",A.THC,Duke"),
+              "The row has 68 columns; there should be 67.");
     EXPECT_THAT(readTable("Ann Smith,as,142" + picksOf(test::upperTeamsWin()) + ",,")[0].refusals, IsEmpty())
         << "empty cells at the end of a row are the spreadsheet's";
 }
