@@ -136,7 +136,7 @@ struct GridColumn {
     std::string heading;
     Alignment alignment = Alignment::Left;
     int width = 0;      ///< characters
-    bool grows = false; ///< takes the room that is left over; where no column does, the last one
+    bool grows = false; ///< takes its share of the room that is left over; where no column does, the last one
     bool ticks = false; ///< its cells are boxes: kTicked, kNotTicked, or empty for no box
 
     friend bool operator==(const GridColumn&, const GridColumn&) = default;

@@ -54,16 +54,16 @@ void GridView::measure()
 {
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + look::kGap);
     m_widths.clear();
-    m_growing.reset();
+    m_growing.clear();
     for (std::size_t c = 0; c < m_columns.size(); ++c) {
         const int heading = fontMetrics().horizontalAdvance(toQString(m_columns[c].heading).trimmed());
         const int cells = fontMetrics().horizontalAdvance(QLatin1Char{'0'}) * m_columns[c].width;
         m_widths.push_back(std::max(heading, cells) + kCellPadding);
         if (m_columns[c].grows)
-            m_growing = static_cast<int>(c);
+            m_growing.push_back(static_cast<int>(c));
     }
-    m_delegate.wrapping = m_growing;
-    m_header.setStretchLastSection(!m_growing);
+    m_delegate.wrapping = m_growing.empty() ? std::nullopt : std::optional{m_growing.back()};
+    m_header.setStretchLastSection(m_growing.empty());
     shareRoom();
     updateGeometry();
 }
@@ -80,29 +80,35 @@ int GridView::widthOfColumns() const { return std::accumulate(m_widths.begin(), 
 QSize GridView::minimumSizeHint() const
 {
     QSize least = QTableView::minimumSizeHint();
-    if (m_growing)
+    if (!m_growing.empty())
         least.setWidth(widthOfColumns() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth());
     return least;
 }
 
 void GridView::shareRoom()
 {
-    const int left = viewport()->width() - widthOfColumns();
-    for (int c = 0; c < static_cast<int>(m_widths.size()); ++c)
-        m_header.resizeSection(c, m_widths[static_cast<std::size_t>(c)] + (c == m_growing ? std::max(0, left) : 0));
+    const int left = std::max(0, viewport()->width() - widthOfColumns());
+    for (std::size_t c = 0; c < m_widths.size(); ++c)
+        m_header.resizeSection(static_cast<int>(c), m_widths[c]);
+    const int growing = static_cast<int>(m_growing.size());
+    for (int i = 0; i < growing; ++i) { // what cannot be shared goes to the first ones
+        const int column = m_growing[static_cast<std::size_t>(i)];
+        m_header.resizeSection(column, m_widths[static_cast<std::size_t>(column)] + (left + growing - 1 - i) / growing);
+    }
     fitRows();
 }
 
 void GridView::fitRows()
 {
-    if (!m_growing || !wordWrap())
+    if (!m_delegate.wrapping || !wordWrap())
         return;
+    const int column = *m_delegate.wrapping;
     constexpr int kMostLines = 4;
     const QFontMetrics metrics = fontMetrics();
     const int oneLine = metrics.height() + look::kGap;
-    const QRect room{0, 0, columnWidth(*m_growing) - kCellPadding, metrics.lineSpacing() * kMostLines};
+    const QRect room{0, 0, columnWidth(column) - kCellPadding, metrics.lineSpacing() * kMostLines};
     for (int row = 0; row < m_cells.rowCount(); ++row) {
-        const QString text = m_cells.index(row, *m_growing).data().toString();
+        const QString text = m_cells.index(row, column).data().toString();
         int height = oneLine;
         if (metrics.horizontalAdvance(text) > room.width())
             height = std::min(metrics.boundingRect(room, Qt::TextWordWrap, text).height(), room.height()) + look::kGap;

@@ -14,7 +14,8 @@ class GridDelegate;
 class GridHeader;
 class GridModel;
 
-/// With word wrap, rows are as high as a long text in the column that takes the rest needs, up to a few lines.
+/// With word wrap, rows are as high as a long text needs that is in the last of the columns that share the rest, up to
+/// a few lines.
 class GridView : public QTableView
 {
     Q_OBJECT
@@ -31,7 +32,7 @@ public:
 
     GridHeader& header() const { return m_header; }
 
-    /// Where one column takes the room that is left over, none of the others is ever hidden.
+    /// Where a column takes the room that is left over, none of the others is ever hidden.
     QSize minimumSizeHint() const override;
 
     std::function<void(std::size_t row)> rowReached; ///< another row is the current one
@@ -48,8 +49,8 @@ private:
     void fitRows();
 
     std::vector<ui::GridColumn> m_columns;
-    std::vector<int> m_widths;    ///< of the columns, at least
-    std::optional<int> m_growing; ///< the column that takes the rest
+    std::vector<int> m_widths;  ///< of the columns, at least
+    std::vector<int> m_growing; ///< the columns that share the rest
     GridDelegate& m_delegate;
     GridHeader& m_header;
     GridModel& m_cells;

@@ -60,13 +60,13 @@ std::vector<ui::GridColumn> entryColumns()
     using ui::Alignment;
     return {{.heading = "Import", .width = 3, .ticks = true},
             {.heading = "Row", .alignment = Alignment::Right, .width = 3},
-            {.heading = "Name", .width = 14},
+            {.heading = "Name", .width = 13},
             {.heading = "Initials", .width = 4},
-            {.heading = "File", .width = 16},
+            {.heading = "File", .width = 16, .grows = true},
             {.heading = "Picks", .alignment = Alignment::Right, .width = 7},
             {.heading = "Total", .alignment = Alignment::Right, .width = 4},
-            {.heading = "Sender", .width = 13},
-            {.heading = "What would happen", .width = 15, .grows = true}};
+            {.heading = "Sender", .width = 13, .grows = true},
+            {.heading = "What would happen", .width = 18, .grows = true}};
 }
 
 std::string explanationOf(EntryColumn column)

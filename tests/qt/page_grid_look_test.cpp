@@ -180,3 +180,18 @@ TEST(PageGridColumns, ShareTheRoomSoThatNoneIsHidden)
     QApplication::processEvents();
     EXPECT_EQ(shown.table().horizontalScrollBar()->maximum(), 0);
 }
+
+TEST(PageGridColumns, ThatGrowGetEqualSharesOfTheRoom)
+{
+    LookedAt shown;
+    shown.change([](ui::Grid& grid) { grid.columns[1].grows = true; });
+    const int least = shown.table().minimumSizeHint().width();
+    const auto widthsAt = [&shown](int width) {
+        shown.table().setFixedSize(width, 300);
+        QApplication::processEvents();
+        return std::pair{shown.header().sectionSize(0), shown.header().sectionSize(1)};
+    };
+    const auto [name, first] = widthsAt(least);
+    EXPECT_EQ(widthsAt(least + 100), (std::pair{name + 50, first + 50}));
+    EXPECT_EQ(widthsAt(least + 101), (std::pair{name + 51, first + 50})) << "no pixel is left over";
+}
