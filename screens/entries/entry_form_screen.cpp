@@ -2,13 +2,12 @@
 #include "screens/entries/entry_form_screen.h"
 
 #include "base/text.h"
+#include "intake/addresses.h"
 #include "reports/entry_form/entry_form.h"
 #include "screens/help_topics.h"
 #include "screens/mailing.h"
 #include "screens/saving_as.h"
 
-#include <algorithm>
-#include <string_view>
 #include <utility>
 
 namespace tallyhoop {
@@ -16,7 +15,6 @@ namespace tallyhoop {
 namespace {
 
 constexpr const char* kCaption = "Entry Form";
-constexpr auto npos = std::string_view::npos;
 constexpr std::size_t kLongestAddress = 254; ///< that a mail server takes
 
 const ui::Message kNoAddress{kCaption,
@@ -25,16 +23,8 @@ const ui::Message kNoAddress{kCaption,
                              "then the players' mail programs ask whom to send to.",
                              ui::Buttons::Ok, ui::Icon::Exclamation, help_topic::kEntries};
 
-/// Stricter than the rules for mail: whatever is made of it, every program has to read the same address there.
-bool isAddress(std::string_view text)
-{
-    const auto isPlain = [](char c) {
-        return c > ' ' && c <= '~' && std::string_view{"\"(),:;<>[]\\"}.find(c) == npos;
-    };
-    const std::size_t at = text.find('@');
-    return text.size() <= kLongestAddress && at != npos && at > 0 && at + 1 < text.size() &&
-           text.find('@', at + 1) == npos && std::ranges::all_of(text, isPlain);
-}
+/// Whatever is made of it, every program has to read the same address there: the one that the import finds in mails.
+bool isAddress(const std::string& text) { return text.size() <= kLongestAddress && firstAddressIn(text) == text; }
 
 /// What players read who have never heard of the page.
 MailText invitation(const Field& field)

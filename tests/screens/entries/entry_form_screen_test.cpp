@@ -93,7 +93,7 @@ TEST_F(EntryFormDialog, RefusesWhatIsNoAddress)
 {
     for (const std::string text :
          {"org", "@example.org", "org@", "a@b@c.org", "org @example.org", "Org <o@example.org>", "a@x.org, b@x.org",
-          "a@x.org;b@x.org", "o\"@x.org", "z\xEB@example.org", "a\t@x.org", "mailto:o@x.org"}) {
+          "a@x.org;b@x.org", "o\"@x.org", "z\xEB@example.org", "a\t@x.org", "mailto:o@x.org", "o@x.org."}) {
         screen->focused = &screen->cmdSave;
         screen->txtOrganiser.text = text;
         platform.dialogs.shown.clear();
