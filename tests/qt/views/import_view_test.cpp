@@ -155,9 +155,9 @@ TEST_F(ImportViewTest, WhatWouldHappenIsReadWholeInTheRow)
     ASSERT_GT(table.fontMetrics().horizontalAdvance(words.data().toString()), room.width()) << "too long for one line";
     EXPECT_GE(room.height(), 2 * table.fontMetrics().lineSpacing());
     EXPECT_LT(table.rowHeight(0), 2 * table.fontMetrics().lineSpacing()) << "New.";
-    desk.run(import, [&] { import.cmdEmptyList.click(); });
-    read({"Ann", "Bo"});
-    EXPECT_EQ(table.rowHeight(1), table.rowHeight(0)) << "nothing is left of the other list";
+    view.resize(2400, 684);
+    QApplication::processEvents();
+    EXPECT_EQ(table.rowHeight(1), table.rowHeight(0)) << "there is room for it in one line";
 }
 
 TEST_F(ImportViewTest, OnlyWhatWouldHappenTakesSeveralLines)
