@@ -103,7 +103,7 @@ void GridView::fitRows()
     if (!m_delegate.wrapping || !wordWrap())
         return;
     const int column = *m_delegate.wrapping;
-    constexpr int kMostLines = 4;
+    constexpr int kMostLines = 6;
     const QFontMetrics metrics = fontMetrics();
     const int oneLine = metrics.height() + look::kGap;
     const QRect room{0, 0, columnWidth(column) - kCellPadding, metrics.lineSpacing() * kMostLines};
