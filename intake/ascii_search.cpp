@@ -29,7 +29,7 @@ KeyPlace keyAt(std::string_view text, std::string_view key, std::size_t from)
         if (at > 0 && isOfWord(text[at - 1]))
             continue;
         const std::size_t colon = text.find_first_not_of(' ', at + key.size());
-        if (colon != std::string_view::npos && text[colon] == ':')
+        if (colon != std::string_view::npos && text[colon] == ':' && text.substr(colon, 2) != "::")
             return {at, colon + 1};
     }
     return {};

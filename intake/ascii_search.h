@@ -15,7 +15,7 @@ struct KeyPlace {
     explicit operator bool() const { return begin != std::string_view::npos; }
 };
 
-/// Finds a key: not within a word, with a colon after it, blanks between them or not.
+/// Finds a key: not within a word, with a colon after it, blanks between them or not. Two colons are not one.
 /// @param key  ASCII, without the colon
 /// @param from where to begin
 KeyPlace keyAt(std::string_view text, std::string_view key, std::size_t from);

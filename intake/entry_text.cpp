@@ -84,7 +84,19 @@ const std::vector<Key>& keysOfPicks()
     return all;
 }
 
-/// @returns the elements of a list, UTF-8; a doubled comma is one of an element's own
+/// @returns a value whose doubled colons are its own
+std::string withSingleColons(std::string_view value)
+{
+    std::string single;
+    single.reserve(value.size());
+    for (std::size_t place = 0; place < value.size(); ++place) {
+        single.push_back(value[place]);
+        place += value.substr(place, 2) == "::" ? 1 : 0;
+    }
+    return single;
+}
+
+/// @returns the elements of a list, UTF-8; a doubled comma or colon is one of an element's own
 std::vector<std::string> elementsOf(std::string_view list)
 {
     std::vector<std::string> elements(1);
@@ -96,6 +108,7 @@ std::vector<std::string> elementsOf(std::string_view list)
         else
             elements.emplace_back();
     }
+    std::ranges::transform(elements, elements.begin(), withSingleColons);
     return elements;
 }
 
@@ -118,19 +131,24 @@ private:
     {
         if (!take(std::string{kFirstKey}) || !take("Name"))
             return false;
-        const std::optional<std::string_view> name = takeValue("Initials");
-        if (!name)
+        if (!takeText("The name", "Initials", m_read.entry.name, m_checked.name) ||
+            !takeText("The text of the initials", "Total", m_read.entry.initials, m_checked.initials))
             return false;
-        m_read.entry.name = storable(*name, "The name", m_read.refusals);
-        m_checked.name = canonical(*name);
-        const std::optional<std::string_view> initials = takeValue("Total");
-        if (!initials)
-            return false;
-        m_read.entry.initials = storable(*initials, "The text of the initials", m_read.refusals);
-        m_checked.initials = canonical(*initials);
         if (!takeTotal() || !takePicks())
             return false;
         takeCheck();
+        return true;
+    }
+
+    /// Takes a text that was typed, and the key after it.
+    bool takeText(const std::string& subject, const std::string& nextKey, std::string& typed, std::string& checked)
+    {
+        const std::optional<std::string_view> value = takeValue(nextKey);
+        if (!value)
+            return false;
+        const std::string text = withSingleColons(*value);
+        typed = storable(text, subject, m_read.refusals);
+        checked = canonical(text);
         return true;
     }
 

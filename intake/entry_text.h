@@ -14,7 +14,8 @@
 //     Check: 6623D64A
 //
 // Lines may be wrapped, joined, quoted with ">"; characters may be replaced by others that look alike. A list's
-// elements are separated by ", ", a comma inside of a name is doubled, an open game is an empty element. The check
+// elements are separated by ", ", a comma inside of a name is doubled, an open game is an empty element. A colon inside
+// of a name, initials or a team is doubled as well: whatever a player is called, it is never taken for a key. The check
 // value is that of checkValue(); what follows it does not matter, nor does what comes before the first line.
 #pragma once
 

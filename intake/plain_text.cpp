@@ -75,6 +75,12 @@ std::string withoutRepeatedBlanks(std::string_view text)
     return trimTrailingBlanks(single);
 }
 
+char canonicalOfAscii(char character)
+{
+    constexpr char kQuotation = '>'; // of a line that a mail program has joined with the one before it
+    return character == '`' ? '\'' : character == kQuotation ? ' ' : character;
+}
+
 /// @returns UTF-8
 std::string unified(std::string_view utf8, bool withPunctuation)
 {
@@ -84,7 +90,7 @@ std::string unified(std::string_view utf8, bool withPunctuation)
         const char character = utf8[place];
         if (static_cast<unsigned char>(character) < 0x80) {
             const bool isBlank = character == '\t' || character == '\n' || character == '\r';
-            text.push_back(isBlank ? ' ' : withPunctuation && character == '`' ? '\'' : character);
+            text.push_back(isBlank ? ' ' : withPunctuation ? canonicalOfAscii(character) : character);
             ++place;
         } else if (const Alike* alike = alikeAt(utf8.substr(place), withPunctuation)) {
             text += alike->becomes;

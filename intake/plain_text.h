@@ -28,7 +28,7 @@ bool isUtf8(std::string_view bytes);
 std::string withPlainBlanks(std::string_view utf8);
 
 /// The text in canonical characters: one kind of blank, apostrophe, quotation mark and hyphen, no invisible characters,
-/// never two blanks in a row, none at the ends. Case stays.
+/// a blank for ">", with which mail programs quote; never two blanks in a row, none at the ends. Case stays.
 /// @returns Windows-1252, "?" for what it lacks
 std::string canonical(std::string_view utf8);
 

@@ -123,6 +123,36 @@ TEST(EntryText, IsNoneWithoutItsFirstKey)
     EXPECT_THAT(readText("my Tallyhoop bracket is great"), IsEmpty()) << "no colon";
 }
 
+TEST(EntryText, TakesNoNameForAKey)
+{
+    const std::string sent = formText(upperEntry("Bob Initials: X", "Total:"));
+
+    const std::vector<HandedIn> read = readText(
+        replaced(replaced(sent, "Bob Initials: X", "Bob Initials:: X"), "Initials: Total:", "Initials: Total::"));
+
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_THAT(read[0].refusals, IsEmpty());
+    EXPECT_EQ(read[0].entry.name, "Bob Initials: X");
+    EXPECT_EQ(read[0].entry.initials, "Total:");
+}
+
+TEST(EntryText, TakesNoTeamForAKeyOrForQuotation)
+{
+    Field field = test::field2000();
+    field.teams[TeamRow{0}] = "Check: A>";
+    const KnownTeams teams{field};
+    std::string sent = formText(upperEntry("Ann", "a"));
+    for (const auto* team : {"Arizona, ", "Arizona\n"})
+        sent = replaced(sent, team, "Check:: A>" + std::string{team}.substr(7));
+
+    const std::vector<HandedIn> read = readEntryTexts(sent, teams, {"MAIL.EML", "", 1, {}});
+
+    ASSERT_EQ(read.size(), 1u);
+    EXPECT_EQ(read[0].entry.picks.at(Position{16}), "Check: A>");
+    EXPECT_EQ(read[0].entry.picks.at(Position{30}), "Check: A>");
+    EXPECT_EQ(read[0].refusals.size(), 1u) << "only the check value, which is that of Arizona";
+}
+
 TEST(EntryText, MayLeaveGamesOpen)
 {
     Entry entry = upperEntry();

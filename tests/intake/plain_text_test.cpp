@@ -23,6 +23,8 @@ TEST(Canonical, LeavesOutWhatCannotBeSeen)
     EXPECT_EQ(canonical("Ari\xC2\xADzo\xE2\x80\x8Bna\xE2\x80\x8C\xE2\x80\x8D\xE2\x81\xA0\xEF\xBB\xBF"), "Arizona");
 }
 
+TEST(Canonical, TakesQuotationForBlanks) { EXPECT_EQ(canonical("> Ohio> St. >>"), "Ohio St."); }
+
 TEST(Canonical, HasSingleBlanksAndNoneAtTheEnds)
 {
     EXPECT_EQ(canonical("\t Ohio\xC2\xA0 \xE2\x80\x83\xE3\x80\x80St.\r\n"), "Ohio St.");
