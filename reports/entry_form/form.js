@@ -6,8 +6,8 @@ let board = startingBoard();
 
 // What is kept on this device, where the browser lets a page keep something.
 
-/** A name of its own for each field, so that the forms of two pools do not mix. */
-const STORE = `tallyhoop-bracket-${hexOf(crc32(new TextEncoder().encode(byId('field').textContent)))}`;
+/** A name of its own for each field of teams: other points, titles or comments leave what was filled in as it is. */
+const STORE = `tallyhoop-bracket-${hexOf(crc32(new TextEncoder().encode(JSON.stringify(field.teams))))}`;
 
 function keep() {
   const kept = { picks: gamePlaces.map((place) => board[place]) };
@@ -27,7 +27,7 @@ function kept() {
   }
 }
 
-/** Plays the kept picks again: one that does not fit any more is left out. */
+/** Plays kept picks again: one that does not fit is left out, whatever it is. */
 function boardOfPicks(picks) {
   return gamePlaces.reduce((played, place, index) => {
     const from = feeders[place].find((one) => played[one] !== null && played[one] === picks[index]);
@@ -35,11 +35,15 @@ function boardOfPicks(picks) {
   }, startingBoard());
 }
 
+/** What is kept may be of an older form, or of another page of the same place: nothing of it is taken unseen. */
 function restore() {
   const before = kept();
   if (Array.isArray(before.picks)) board = boardOfPicks(before.picks);
   for (const id of FIELDS) {
-    if (typeof before[id] === 'string') byId(id).value = before[id].slice(0, byId(id).maxLength);
+    if (typeof before[id] !== 'string' || before[id] === '') continue;
+    byId(id).value = before[id].slice(0, byId(id).maxLength);
+    tidyField(id);
+    showFault(id);
   }
 }
 
@@ -77,12 +81,25 @@ function printBlank() {
 
 const inQuotes = (characters) => [...new Set(characters)].map((one) => `"${one}"`).join(', ');
 
+const isControl = (character) => /[\u0000-\u001F\u007F-\u009F]/.test(character);
+
 /** Characters that the program's files cannot hold are not replaced by others: the player decides how to write them. */
 function faultOfText(id, missing) {
   const text = tidy(byId(id).value);
-  const strangers = [...strangersIn(text), ...Array.from(text).filter((one) => /[\u0000-\u001F\u007F-\u009F]/.test(one))];
   if (text === '') return missing;
-  return strangers.length > 0 ? `The pool's files cannot hold ${inQuotes(strangers)}: please write it in other letters.` : '';
+  if (Array.from(text).some(isControl)) return 'There is a character in it that cannot be seen: please type it anew.';
+  const strangers = strangersIn(text);
+  if (strangers.length > 0) return `The pool's files cannot hold ${inQuotes(strangers)}: please write it in other letters.`;
+  if (text.includes('>')) return 'Mail programs quote with ">": please leave it out.';
+  return leadsOut(text) ? `"${text}" looks like a folder: please leave the slashes out.` : '';
+}
+
+/** The name becomes the first part of a file's name. */
+function faultOfName() {
+  const entry = typedEntry();
+  const fault = faultOfText('name', 'Please give your name.');
+  if (fault !== '' || !isDevice(entry)) return fault;
+  return `"${entry.name}" cannot be the name of a file: please write it in another way.`;
 }
 
 function faultOfTotal() {
@@ -93,10 +110,17 @@ function faultOfTotal() {
   return Number(text) > 250 ? `${text} is too many: both teams together, 50 to 250.` : '';
 }
 
+const LONGEST_EMAIL = 43; // that the organiser's list of players holds
+
+/** The characters are those in which the program finds an address again among what mail programs add to it. */
 function faultOfEmail() {
   const text = tidy(byId('email').value);
-  return text === '' || /^[!-;=?-~]+@[!-;=?-~]+$/.test(text) && !/@.*@/.test(text)
-    ? '' : `"${text}" is no e-mail address; the field may also stay empty.`;
+  if (text === '') return '';
+  if (!/^[A-Za-z0-9!#$%&'*+\-\/=?^_`{|}~.]+@[A-Za-z0-9\-.]*[A-Za-z0-9]$/.test(text)) {
+    return `"${text}" is no e-mail address that the pool can use; the field may also stay empty.`;
+  }
+  return text.length > LONGEST_EMAIL
+    ? `This has ${text.length} characters, and the pool's list has room for ${LONGEST_EMAIL}; the field may also stay empty.` : '';
 }
 
 function faultOfPicks() {
@@ -106,7 +130,7 @@ function faultOfPicks() {
 }
 
 const faults = {
-  name: () => faultOfText('name', 'Please give your name.'),
+  name: faultOfName,
   initials: () => faultOfText('initials', 'Please give your initials.'),
   total: faultOfTotal,
   email: faultOfEmail,

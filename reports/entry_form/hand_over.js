@@ -45,11 +45,15 @@ function deviceLength(name) {
 
 /** The name under which the program first proposes to save. The fields' lengths keep it shorter than any limit. */
 function fileName(entry) {
-  let name = `${entry.name}_${entry.initials}`.replace(/[\u0000-\u001F\u007F/\\:*?"<>|]/g, '_');
-  const device = deviceLength(name);
-  if (device > 0) name = `${name.slice(0, device)}_${name.slice(device)}`;
+  const name = `${entry.name}_${entry.initials}`.replace(/[\u0000-\u001F\u007F/\\:*?"<>|]/g, '_');
   return /\.thc$/i.test(name) ? name : name + '.THC';
 }
+
+/** Whether a file's name would be that of a device, for which the program refuses an entry. */
+const isDevice = (entry) => deviceLength(entry.name) > 0 || deviceLength(`${entry.name}_${entry.initials}`) > 0;
+
+/** Whether a file's name would lead to another folder, for which the program refuses an entry. */
+const leadsOut = (name) => /\.\.[/\\]|^[/\\]|^.?:\\/.test(name);
 
 /** Blanks of all kinds become one blank, characters without a width nothing. */
 function tidy(text) {
@@ -59,9 +63,9 @@ function tidy(text) {
     .trim();
 }
 
-/** What is left of a text when mail programs have made its quotes and dashes "smart". */
+/** What is left of a text when mail programs have made its quotes and dashes "smart", and have quoted it with ">". */
 function canonical(text) {
-  return tidy(text)
+  return tidy(text.replace(/>/g, ' '))
     .replace(/[\u0060\u00B4\u2018-\u201B\u2032]/g, "'")
     .replace(/[\u201C-\u201F\u2033]/g, '"')
     .replace(/[\u2010-\u2015\u2212]/g, '-')
@@ -87,8 +91,12 @@ function checkOf(entry) {
   return hexOf(crc32(bytesOf(values.map((value) => canonical(value) + '\n').join(''))));
 }
 
-/** A list of winners; a comma that belongs to a name is doubled. */
-const listOf = (board, places) => places.map((place) => teamAt(board, place).replace(/,/g, ',,')).join(', ');
+/** A text whose colons are its own, not those of the keys that the program looks for. */
+const withDoubleColons = (text) => text.replace(/:/g, '::');
+
+/** A list of winners; a comma that belongs to a name is doubled, too. */
+const listOf = (board, places) =>
+  places.map((place) => withDoubleColons(teamAt(board, place)).replace(/,/g, ',,')).join(', ');
 
 /** A title, for people only: without colons, for these end the keys that the program looks for. */
 const titleInText = (title) => tidy(title.replace(/:/g, ' '));
@@ -103,8 +111,8 @@ function textLines(entry) {
   return [
     `Tallyhoop bracket: ${titleInText(field.title)}`,
     '',
-    `Name: ${entry.name}`,
-    `Initials: ${entry.initials}`,
+    `Name: ${withDoubleColons(entry.name)}`,
+    `Initials: ${withDoubleColons(entry.initials)}`,
     `Total: ${entry.total}`,
     ...(entry.email ? [`E-mail: ${entry.email}`] : []),
     '',

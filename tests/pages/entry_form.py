@@ -63,6 +63,11 @@ class Pool:
         """The bytes that the program saves after these places were pressed on its board."""
         return make("file", self.field, name, initials, total, given=" ".join(map(str, places)))
 
+    def read(self, text):
+        """What an import makes of a text or of a file: for each entry the reasons why it is refused, in lines, or a line
+        with the e-mail address and then the bytes that are saved."""
+        return make("read", self.field, given=text)
+
     @staticmethod
     def name(name, initials):
         """The name under which the program proposes to save it."""
@@ -70,7 +75,8 @@ class Pool:
 
 
 def make(*words, given=""):
-    return subprocess.run([MAKER, *map(str, words)], input=given.encode(), capture_output=True, check=True).stdout
+    given = given.encode() if isinstance(given, str) else given
+    return subprocess.run([MAKER, *map(str, words)], input=given, capture_output=True, check=True).stdout
 
 
 class Form:

@@ -1,5 +1,6 @@
 """Picks on the entry form move and go as on the program's board; what is half filled in stays."""
 
+import json
 import pathlib
 import random
 import shutil
@@ -7,7 +8,7 @@ import tempfile
 import unittest
 
 from browser import Browser
-from entry_form import CHAMPION, GAME_PLACES, TEAM_PLACES, UPPER_TEAMS, Form, Pool
+from entry_form import CHAMPION, GAME_PLACES, TEAM_PLACES, UPPER_TEAMS, Form, Pool, pool_2000
 
 
 class Picking(unittest.TestCase):
@@ -128,8 +129,7 @@ class Picking(unittest.TestCase):
 
 class Closing(unittest.TestCase):
     def test_what_is_half_filled_in_survives_the_browser(self):
-        pool = Pool()
-        self.addCleanup(pool.close)
+        pool = self.pool()
         home = pathlib.Path(tempfile.mkdtemp(prefix="tallyhoop-pages-home-"))
         self.addCleanup(shutil.rmtree, home, ignore_errors=True)
         with Browser(home=home) as browser:
@@ -144,26 +144,55 @@ class Closing(unittest.TestCase):
             self.assertEqual(form.by_id("name").get_attribute("value"), "Nora Lind")
             self.assertEqual(form.by_id("total").get_attribute("value"), "14")
 
-    def test_another_pool_begins_empty(self):
-        pool, other = Pool(), Pool(organiser="somebody.else@example.org")
+    def pool(self, *arguments, **options):
+        pool = Pool(*arguments, **options)
         self.addCleanup(pool.close)
-        self.addCleanup(other.close)
+        return pool
+
+    def test_other_teams_begin_empty(self):
+        lines = pool_2000.setup_file()
+        lines[64] = "Another team"
+        pool, other = self.pool(), self.pool(lines)
         with Browser() as browser:
             Form(browser, pool.address).press([1])
             self.assertEqual(Form(browser, other.address).text("count"), "0 of 63")
             self.assertEqual(Form(browser, pool.address).text("count"), "1 of 63")
 
+    def test_a_corrected_form_of_the_same_teams_goes_on(self):
+        lines = pool_2000.setup_file(title="Corrected")
+        lines[66], lines[92] = "Another region", "Another comment"
+        pool, corrected = self.pool(), self.pool(lines, organiser="somebody.else@example.org")
+        with Browser() as browser:
+            Form(browser, pool.address).press([1])
+            form = Form(browser, corrected.address)
+            self.assertEqual(form.text("title"), "Corrected")
+            self.assertEqual(form.text("count"), "1 of 63")
+
     def test_kept_nonsense_does_no_harm(self):
-        pool = Pool()
-        self.addCleanup(pool.close)
+        pool = self.pool()
         with Browser() as browser:
             form = Form(browser, pool.address)
-            for nonsense in "{", "[]", "7", '{"picks": 7, "name": 7}', '{"picks": [63, null, "x", {}], "email": null}':
+            for nonsense in ("{", "[]", "7", "null", '{"picks": 7, "name": 7}', '{"picks": [63, null, "x", {}], "email": null}',
+                             '{"picks": {"length": 63, "0": 0}, "name": ["N"]}', '{"picks": [-1, 0.5, "0", true, 1e9]}'):
                 browser.run("localStorage.setItem(STORE, arguments[0])", nonsense)
                 browser.driver.refresh()
                 self.assertEqual(form.text("count"), "0 of 63", nonsense)
                 self.assertEqual(form.by_id("name").get_attribute("value"), "", nonsense)
             self.assertEqual(browser.complaints(), [])
+
+    def test_kept_texts_are_looked_at_like_typed_ones(self):
+        pool = self.pool()
+        with Browser() as browser:
+            form = Form(browser, pool.address)
+            browser.run("localStorage.setItem(STORE, arguments[0])", json.dumps(
+                {"name": "CON", "initials": "N" * 99, "total": "\u200b 0142 ", "email": "<b>nora</b>"}))
+            browser.driver.refresh()
+
+            self.assertIn("cannot be the name of a file", form.text("name-fault"))
+            self.assertEqual(form.by_id("initials").get_attribute("value"), "N" * 10)
+            self.assertEqual(form.by_id("total").get_attribute("value"), "142")
+            self.assertEqual(form.text("total-fault"), "")
+            self.assertIn('"<b>nora</b>" is no e-mail address', form.text("email-fault"))
 
 
 if __name__ == "__main__":
