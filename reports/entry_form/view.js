@@ -14,6 +14,7 @@ function make(tag, attributes, ...children) {
 
 const ROUNDS = ['First round', 'Second round', 'Third round', 'Regional final', 'Semi-finals', 'Final'];
 const FINALS = 4; // the part of the page that follows the four regions
+const LONG_NAME = 15; // letters: more of them need a second line, or smaller letters, in a narrow column
 
 const placeButtons = [];   // by place
 const gameGroups = new Map(); // by the place of the winner
@@ -102,7 +103,7 @@ function showPlace(board, place) {
   const [seed, team] = button.querySelectorAll('span');
   seed.textContent = isEmpty ? '' : seedAt(board, place);
   team.textContent = teamAt(board, place);
-  button.title = teamAt(board, place); // where a narrow column cuts a long name
+  team.classList.toggle('long', teamAt(board, place).length > LONG_NAME);
   button.disabled = isEmpty || place === CHAMPION;
   if (isEmpty) button.setAttribute('aria-label', 'not yet picked');
   else button.removeAttribute('aria-label');

@@ -6,12 +6,15 @@ import subprocess
 import unittest
 
 from browser import DESKTOP, TABLET, TELEPHONE, Browser
-from entry_form import UPPER_TEAMS, Form, Pool, pool_2000
+from entry_form import UPPER_TEAMS, Form, Pool, pool_2000, presses
 
 AXE = pathlib.Path(os.environ["TALLYHOOP_AXE"]) / "node_modules/axe-core/axe.min.js"
 
 A4 = 8.27, 11.69  # inches
 LETTER = 8.5, 11
+A4_WIDE = 1062  # pixels of A4 on its side, without its margins
+TEAM_NAMES = pathlib.Path(__file__).parents[2] / "data/NCAALIST.THS"
+LOWER_TEAMS = presses([1] * 63)
 
 
 def text_of(pdf):
@@ -60,12 +63,12 @@ class Look(unittest.TestCase):
 
     def test_axe_core_would_find_something(self):
         form = self.open()
-        self.browser.run("arguments[0].title = ''; arguments[0].textContent = ''", form.place(0))
+        self.browser.run("arguments[0].textContent = ''", form.place(0))
         with self.assertRaisesRegex(AssertionError, "button-name"):
             self.check_with_axe("a button without a name")
 
     def test_nothing_is_wider_than_the_screen(self):
-        for width in 320, 360, 412, 699, 700, 768, 1024, 1199, 1200, 1366, 1920:
+        for width in 320, 360, 412, 699, 700, 768, 1024, 1299, 1300, 1366, 1920:
             form = self.open(size=(width, 800))
             form.press_at_once(UPPER_TEAMS)
             wide, hidden = self.browser.run("return [innerWidth, document.documentElement.scrollWidth - "
@@ -98,11 +101,48 @@ class Look(unittest.TestCase):
             self.assertEqual(covered, [], size)
             self.browser.close()
 
+    CUT = """
+        const isBroken = (team) => {  // a word of it is on two lines
+            const text = team.firstChild, range = document.createRange();
+            let end = 0;
+            return text !== null && text.data.split(/(?<=[- ])/).some((word) => {
+                range.setStart(text, end);
+                range.setEnd(text, end + word.trimEnd().length);
+                end += word.length;
+                return new Set(Array.from(range.getClientRects(), (box) => box.top)).size > 1;
+            });
+        };
+        const isCut = (team) => {
+            const name = team.getBoundingClientRect(), place = team.parentElement.getBoundingClientRect();
+            return team.scrollWidth > team.clientWidth || name.top < place.top || name.bottom > place.bottom;
+        };
+        return Array.from(document.querySelectorAll('.team')).filter((team) => isCut(team) || isBroken(team))
+            .map((team) => team.parentElement.dataset.position + ' ' + team.textContent);"""
+
+    def test_the_longest_names_are_whole(self):
+        names = sorted(TEAM_NAMES.read_text("cp1252").split("\n"), key=len)[-64:]
+        self.assertIn("UT Rio Grande Valley", names)
+        lines = pool_2000.setup_file()
+        pool = Pool([lines[0], *names, *lines[65:]])
+        self.addCleanup(pool.close)
+        for size in TELEPHONE, TABLET, (1300, 800), DESKTOP, (1920, 1080):
+            self.open(size=size)
+            form = Form(self.browser, pool.address)
+            for picks in UPPER_TEAMS, LOWER_TEAMS:  # each in bold letters in every column
+                form.press_at_once(picks)
+                self.assertEqual(self.browser.run(self.CUT), [], size)
+            if size == DESKTOP:
+                self.browser.command("Emulation.setDeviceMetricsOverride", width=A4_WIDE, height=700, deviceScaleFactor=1,
+                                     mobile=False)
+                self.browser.command("Emulation.setEmulatedMedia", media="print")
+                self.assertEqual(self.browser.run(self.CUT), [], "on paper")
+            self.browser.close()
+
     def check_page(self, pages, dukes):
         """dukes: how often Duke is on paper, which wins the East and a semi-final."""
         self.assertEqual(len(pages), 1)
         for team in pool_2000.FIELD:
-            self.assertIn(team[:12], pages[0])  # a narrow column may cut a long name
+            self.assertIn(team, pages[0])
         self.assertEqual(pages[0].count("Duke"), dukes)
         for words in "Office Pool", "Right picks bring 1 2 4 8 12 16 points", "by Thursday noon", "Final, 16 points":
             self.assertIn(words, pages[0])
