@@ -48,7 +48,9 @@ void addRefused(std::vector<std::string>& lines, const Review& review)
         if (isFirst)
             lines.insert(lines.end(), {"", "Refused:"});
         isFirst = false;
-        lines.push_back("  " + nameOf(row, i) + ": " + joined(row.reasons, " "));
+        const std::string& sender = row.handedIn.origin.sender;
+        const std::string from = sender.empty() ? std::string{} : ", from " + asOneLine(sender);
+        lines.push_back("  " + nameOf(row, i) + from + ": " + joined(row.reasons, " "));
     }
 }
 

@@ -63,6 +63,7 @@ struct Standards {
     PlayersHere players;
     int results = 0;                 ///< games that have been decided
     std::vector<std::string> common; ///< why nothing is taken at all
+    bool isDemo = false;             ///< nothing new is taken, as on the board
 };
 
 int differentPicks(const Bracket& left, const Bracket& right)
@@ -78,13 +79,11 @@ int resultsIn(const DataFolder& folder, const Field& field)
     return gamesFilledIn(readSelectionFile(folder.pathTo(file_name::kResults), startingBracket(field)).value.picks);
 }
 
-std::vector<std::string> commonReasons(const DataFolder& folder, const Field& field)
+std::vector<std::string> commonReasons(const Field& field)
 {
     std::vector<std::string> reasons;
     if (!field.isFinalized())
         reasons.emplace_back("The field is not finalized yet.");
-    if (demoModeIsOn(folder))
-        reasons.emplace_back("The demo pool takes no new selections.");
     return reasons;
 }
 
@@ -95,7 +94,9 @@ void compareWithFile(ReviewRow& row, const Bracket& like)
     if (!row.seen.isThere)
         return;
     row.effect = row.seen.bytes == bytesToWrite(row.handedIn) ? Effect::Identical : Effect::Replaces;
-    row.differentPicks = differentPicks(readSelection(row.seen.bytes, like).value.picks, row.handedIn.entry.picks);
+    const Read<Entry> here = readSelection(row.seen.bytes, like);
+    row.isDamagedHere = row.seen.trouble || here.trouble;
+    row.differentPicks = differentPicks(here.value.picks, row.handedIn.entry.picks);
 }
 
 void warn(ReviewRow& row, const PlayersHere& players)
@@ -103,8 +104,18 @@ void warn(ReviewRow& row, const PlayersHere& players)
     const std::string otherFile = otherFileWarning(row, players);
     const std::string otherAddress = otherAddressWarning(row, players);
     row.warning = otherFile.empty() ? otherAddress : otherFile;
-    const bool isSomebodyElses = row.effect == Effect::Replaces && (row.seen.trouble || !otherAddress.empty());
+    const bool isSomebodyElses = row.effect == Effect::Replaces && (row.isDamagedHere || !otherAddress.empty());
     row.isDoubtful = isSomebodyElses || !otherFile.empty();
+}
+
+ReviewRow refusedRow(HandedIn handedIn, std::string reason)
+{
+    ReviewRow row;
+    row.handedIn = std::move(handedIn);
+    row.picks = gamesFilledIn(row.handedIn.entry.picks);
+    row.effect = Effect::Refused;
+    row.reasons.push_back(std::move(reason));
+    return row;
 }
 
 ReviewRow rowOf(HandedIn handedIn, Standards& standards)
@@ -125,6 +136,8 @@ ReviewRow rowOf(HandedIn handedIn, Standards& standards)
     row.file = std::move(file.path);
     row.isLate = standards.results > 0;
     compareWithFile(row, entry.picks);
+    if (standards.isDemo && row.effect == Effect::New)
+        return refusedRow(std::move(row.handedIn), "The demo pool takes no new selections.");
     warn(row, standards.players);
     row.isTicked = row.isWorthWriting() && !row.isLate && !row.isDoubtful;
     return row;
@@ -187,8 +200,12 @@ void findRepeated(Review& review)
 
 Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const Field& field, const Step& step)
 {
-    Standards standards{field, SelectionsHere{folder}, PlayersHere{readPlayerNames(folder)}, resultsIn(folder, field),
-                        commonReasons(folder, field)};
+    Standards standards{field,
+                        SelectionsHere{folder},
+                        PlayersHere{readPlayerNames(folder)},
+                        resultsIn(folder, field),
+                        commonReasons(field),
+                        demoModeIsOn(folder)};
     Review review;
     review.resultsHere = standards.results;
     review.rows.reserve(handedIn.size());

@@ -29,6 +29,7 @@ struct ReviewRow {
     FileContent seen;           ///< what is there now
     int picks = 0;              ///< 0..63
     Effect effect = Effect::New;
+    bool isDamagedHere = false;         ///< what it replaces is no whole selection, or cannot be read
     int differentPicks = 0;             ///< of 63, from the selection that it replaces
     bool isLate = false;                ///< there are results already
     std::size_t fileNumber = 0;         ///< which of Review::files it is among; of no use when it is refused
@@ -56,7 +57,7 @@ struct Review {
 /// that would be replaced are read. One step of work for each entry.
 ///
 /// Ticked are complete entries that are new or replace another one, as long as there are no results. Not ticked at
-/// first are doubtful ones: those that replace a file that cannot be read, or what a player has saved who has another
+/// first are doubtful ones: those that replace what is no whole selection, or what a player has saved who has another
 /// address in the player list; and new ones of a player who is listed with another file. Of several for one file the
 /// latest that may be ticked is: by the date that each has, otherwise by their order.
 /// @returns the rows so far when the work was stopped

@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "base/windows1252.h"
+#include "files/selection_file.h"
 #include "intake/addresses.h"
 
 #include <algorithm>
@@ -26,9 +27,16 @@ std::string effectOf(const ReviewRow& row)
     }
     if (row.seen.trouble)
         return "Replaces a file that cannot be read.";
+    if (row.isDamagedHere)
+        return "Replaces a file that is no whole selection.";
+    // On some systems two names that differ only in their capitals are two files: then the player would have both.
+    const Entry& entry = row.handedIn.entry;
+    const bool isNamed = row.fileName == proposedFileName(entry.name, entry.initials);
+    const std::string replaces = isNamed ? "Replaces" : "Replaces " + row.fileName;
     if (row.differentPicks == 0)
-        return "Replaces (same picks; name, initials or total differ).";
-    return "Replaces (" + counted(static_cast<std::size_t>(row.differentPicks), "pick differs", "picks differ") + ").";
+        return replaces + " (same picks; name, initials or total differ).";
+    return replaces + " (" + counted(static_cast<std::size_t>(row.differentPicks), "pick differs", "picks differ") +
+           ").";
 }
 
 /// @returns whether two rows, both for one file, would write the same

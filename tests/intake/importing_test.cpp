@@ -87,7 +87,7 @@ TEST(Import, WritesNothingThatIsNotTicked)
                                "  1 not ticked\r\n"
                                "\r\n"
                                "Refused:\r\n"
-                               "  x.EML: The name is missing.");
+                               "  x.EML, from s@example.org: The name is missing.");
 }
 
 TEST(Import, TakesAnIncompleteOneThatIsTicked)

@@ -85,14 +85,12 @@ TEST(Review, CountsThePicksThatDifferFromWhatItReplaces)
     EXPECT_TRUE(row.isTicked);
 }
 
-TEST(Review, SaysWhenOnlyTheTotalDiffersOrWhatIsHereIsUnreadable)
+TEST(Review, SaysWhenOnlyTheTotalDiffers)
 {
     const ScratchFolder scratch;
     scratch.put("Ann Smith_as.THC", savedBytes(upperEntry("Ann Smith", "as", "99")));
     EXPECT_EQ(reviewed(scratch, {handedIn(upperEntry())}).rows.at(0).words,
               "Replaces (same picks; name, initials or total differ).");
-    scratch.put("Ann Smith_as.THC", "damaged");
-    EXPECT_EQ(reviewed(scratch, {handedIn(upperEntry())}).rows.at(0).words, "Replaces (63 picks differ).");
 }
 
 TEST(Review, LeavesIncompleteEntriesUnticked)
@@ -144,9 +142,28 @@ TEST(Review, RefusesEverythingWhereNothingMayBeSaved)
     open.finalized = "0";
     EXPECT_THAT(reviewOf({handedIn(upperEntry())}, scratch.folder(), open).rows.at(0).reasons,
                 ElementsAre("The field is not finalized yet."));
+}
+
+TEST(Review, InDemoModeTakesOnlyWhatIsSavedOverASelection)
+{
+    const ScratchFolder scratch;
     scratch.put("TALLYHOOP.INI", "1\r\n");
-    EXPECT_THAT(reviewed(scratch, {handedIn(upperEntry())}).rows.at(0).reasons,
-                ElementsAre("The demo pool takes no new selections."));
+    scratch.put("Bob_B.THC", savedBytes(withChampion(upperEntry("Bob", "B"), "Arizona")));
+    const Review review = reviewed(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Bob", "B"))});
+    EXPECT_THAT(review.rows.at(0).reasons, ElementsAre("The demo pool takes no new selections."));
+    EXPECT_EQ(review.rows.at(0).effect, Effect::Refused);
+    EXPECT_EQ(review.rows.at(0).fileName, "");
+    EXPECT_EQ(review.rows.at(1).words, "Replaces (1 pick differs).") << "as the board saves an opened one";
+}
+
+TEST(Review, NamesTheFileThatItReplacesWhenItsLettersHaveAnotherCase)
+{
+    const ScratchFolder scratch;
+    scratch.put("ANN SMITH_as.THC", savedBytes(withChampion(upperEntry(), "Arizona")));
+    const ReviewRow row = reviewed(scratch, {handedIn(upperEntry("Ann Smith", "AS"))}).rows.at(0);
+    EXPECT_EQ(row.words, "Replaces ANN SMITH_as.THC (1 pick differs).");
+    EXPECT_EQ(row.file, scratch.path() / "ANN SMITH_as.THC") << "no second file beside it";
+    EXPECT_TRUE(row.isTicked);
 }
 
 TEST(Review, TicksTheLatestOfSeveralForOneFile)

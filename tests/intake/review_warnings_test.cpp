@@ -141,6 +141,14 @@ TEST_F(ReviewWarnings, AFileThatCannotBeRead)
     EXPECT_FALSE(row.isTicked);
 }
 
+TEST_F(ReviewWarnings, AFileThatIsNoWholeSelection)
+{
+    scratch.put("Ann Smith_as.THC", "damaged");
+    const ReviewRow row = rowOf("ann@example.org", "");
+    EXPECT_EQ(row.words, "Replaces a file that is no whole selection.");
+    EXPECT_FALSE(row.isTicked);
+}
+
 TEST_F(ReviewWarnings, ADoubtfulEntryDoesNotTakeTheTickOfTheOneBeforeIt)
 {
     const auto from = [](const std::string& sender, const std::string& total) {
