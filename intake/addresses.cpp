@@ -19,8 +19,26 @@ bool isOfName(char c)
 
 bool isOfHost(char c) { return isLetterOrDigit(c) || c == '-' || c == '.'; }
 
+bool isContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0u) == 0x80u; }
+
+/// @param place of the first byte of a character of UTF-8
+/// @returns whether it is a letter outside ASCII; not so for quotation marks, dashes and blanks
+bool isOtherLetter(std::string_view text, std::size_t place)
+{
+    const auto byte = static_cast<unsigned char>(text[place]);
+    return byte >= 0xC3u && byte != 0xE2u && place + 1 < text.size() && isContinuation(text[place + 1]);
+}
+
+bool isAfterOtherLetter(std::string_view text, std::size_t end)
+{
+    std::size_t place = end;
+    while (place > 0 && isContinuation(text[place - 1]))
+        --place;
+    return place > 0 && place < end && isOtherLetter(text, place - 1);
+}
+
 /// @param at where the "@" is
-/// @returns empty when there is nothing on one of its sides
+/// @returns empty when there is nothing on one of its sides, and for an address with letters that would be left out
 std::string addressAround(std::string_view text, std::size_t at)
 {
     std::size_t begin = at;
@@ -29,6 +47,8 @@ std::string addressAround(std::string_view text, std::size_t at)
     std::size_t end = at + 1;
     while (end < text.size() && isOfHost(text[end]))
         ++end;
+    if (isAfterOtherLetter(text, begin) || (end < text.size() && isOtherLetter(text, end)))
+        return {};
     while (end > at + 1 && !isLetterOrDigit(text[end - 1]))
         --end; // the full stop of a sentence
     const bool isWhole = begin < at && end > at + 1;

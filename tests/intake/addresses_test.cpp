@@ -16,6 +16,20 @@ TEST(Addresses, AreFoundInRunningText)
     EXPECT_EQ(firstAddressIn(""), "");
 }
 
+TEST(Addresses, WithLettersOutsideAsciiAreNoneRatherThanAnothers)
+{
+    EXPECT_EQ(firstAddressIn("jos\xC3\xA9.x@y.example"), "") << "not .x@y.example";
+    EXPECT_EQ(firstAddressIn("ann@m\xC3\xBCller.example"), "") << "not ann@m";
+    EXPECT_EQ(firstAddressIn("\xE2\x80\x9C"
+                             "ann@x.example\xE2\x80\x9D"),
+              "ann@x.example")
+        << "curly quotation marks";
+    EXPECT_EQ(firstAddressIn("From:\xC2\xA0"
+                             "ann@x.example\xC2\xA0"),
+              "ann@x.example")
+        << "blanks that do not break";
+}
+
 TEST(Addresses, AreFoundAmongOthersInAnyCase)
 {
     EXPECT_TRUE(namesAddress("Ann <ann@x.example>; b@y.example ", "B@Y.example"));
