@@ -12,6 +12,8 @@ import time
 # Everything that a test starts ends with it, also when the test itself is killed.
 ENDS_WITH_THE_TEST = ["setpriv", "--pdeathsig", "TERM"]
 
+TITLE_BAR = 19  # pixels that openbox adds above a window
+
 
 class Display:
     """One Xvfb with openbox, on a display number that the server picks itself.
@@ -20,6 +22,7 @@ class Display:
     """
 
     def __init__(self, width=1366, height=768, scale=1):
+        self._size = width, height
         self._scale = scale
         self._log = tempfile.TemporaryFile()
         number_end, report_end = os.pipe()
@@ -85,6 +88,11 @@ class Display:
 
     def type(self, text):
         self._do("type", "--clearmodifiers", "--delay", "4", "--", text)
+
+    def fill(self):
+        """Gives the window in front the whole display but for its title bar."""
+        width, height = self._size
+        self._do("getactivewindow", "windowmove", 0, TITLE_BAR, "windowsize", width, height - TITLE_BAR)
 
     def screenshot(self, path):
         subprocess.run(["import", "-silent", "-window", "root", path], env=self.environment(), check=True)

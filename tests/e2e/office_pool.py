@@ -38,9 +38,13 @@ def results():
     return places
 
 
+def first_round():
+    return {31 * (row // 16) + row % 16: team for row, team in enumerate(FIELD)}
+
+
 def bracket(chance, known):
     """What somebody picks who was right about many games, and otherwise likes the better seeds."""
-    teams = {31 * (row // 16) + row % 16: team for row, team in enumerate(FIELD)}
+    teams = first_round()
     seed = {team: int(SEEDS[row % 16]) for row, team in enumerate(FIELD)}
     picks = {}
     for place, upper, lower in games():

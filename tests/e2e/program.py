@@ -240,6 +240,12 @@ class Program(ProgramFolder):
         if not self._inspector.ask("grab", name, path=str(path))["found"]:
             raise Failed(f"no picture of {name}")
 
+    def fill_display(self):
+        """Makes the window in front as large as the display."""
+        before = self.windows()
+        self._display.fill()
+        self.wait(lambda: self.windows() != before, "a larger window")
+
     def screenshot(self, path):
         """A picture of the whole display."""
         self._display.screenshot(str(path))

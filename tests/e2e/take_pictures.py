@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
-"""Takes pictures of every screen in light and dark colours: python3 -B take_pictures.py (the program has to be built).
+"""Takes pictures of every screen in light and dark colours: /usr/bin/python3 -B take_pictures.py (after a build).
 
 The files go to docs/pictures, the dark ones under names that end with -dark. Give a folder, and perhaps a display and a
-scale, to look at other sizes: python3 -B take_pictures.py /somewhere 1920x1080 1.5
+scale, to look at other sizes: /usr/bin/python3 -B take_pictures.py /somewhere 1920x1080 1.5
 """
 
 import pathlib
+import random
 import shutil
 import subprocess
 import sys
@@ -13,12 +14,17 @@ import tempfile
 
 import handed_in
 import office_pool
-from pool_2000 import setup_file
+from pool_2000 import selection, setup_file
 from program import Program, centre
+
+sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "pages"))
+from browser import DESKTOP, TELEPHONE, Browser  # noqa: E402 - a folder of its own
+from entry_form import GAME_PLACES, Form, feeders  # noqa: E402
 
 PICTURES = pathlib.Path(sys.argv[1] if sys.argv[1:] else pathlib.Path(__file__).parents[2] / "docs/pictures")
 SIZE = tuple(map(int, sys.argv[2].split("x"))) if sys.argv[2:] else (1366, 768)
 SCALE = float(sys.argv[3]) if sys.argv[3:] else 1
+LARGE = (1920, 1080)
 PLAYER = "Demo Prophet_DP.THC"
 
 # The dark colours of a desktop, which the README recommends where Qt does not know those of the desktop.
@@ -26,9 +32,14 @@ DARK = pathlib.Path(__file__).parents[2] / "packaging/dark-colours"
 
 
 def take(program, name):
-    """Saves what is on the display; few colours keep the files small."""
+    """Saves what is on the display."""
     path = PICTURES / f"{name}{program.suffix}.png"
     program.screenshot(path)
+    keep_small(path)
+
+
+def keep_small(path):
+    """Few colours make small files."""
     subprocess.run(["convert", path, "-strip", "+dither", "-colors", "128", "-define", "png:compression-level=9", path],
                    check=True)
     print(path)
@@ -170,7 +181,7 @@ def take_printed_board(program):
         path = PICTURES / name
         subprocess.run(["pdftoppm", "-png", "-r", "110", "-singlefile", *colours, program.folder / "Board.PDF", path],
                        check=True)
-        print(f"{path}.png")
+        keep_small(path.with_suffix(".png"))
 
 
 def take_outlook(program):
@@ -193,29 +204,48 @@ def take_outlook(program):
     shows(program, "lblRegion_61", "")
 
 
+def take_entry_page(program):
+    """The page of the entry form, as players see it."""
+    office_pool.write(program)
+    program.start()
+    program.menu("mnuFile", "mnuEntryForm")
+    program.wait(lambda: program.visible("txtOrganiser"), "the dialog")
+    program.click("cmdSave")
+    program.file_dialog("ENTRYFORM.HTML")
+    program.wait(lambda: "ENTRYFORM.HTML" in program.files(), "the form")
+    take_page(program, "entry-form-telephone", TELEPHONE, touch=True)
+    take_page(program, "entry-form-desktop", DESKTOP)
+
+
+def take_page(program, name, size, **how):
+    """The first games, and the end of the page once all of it is filled in."""
+    bracket = office_pool.bracket(random.Random(95), office_pool.results())
+    teams = {**office_pool.first_round(), **bracket}
+    presses = [next(place for place in feeders(game) if teams[place] == bracket[game]) for game in GAME_PLACES]
+    with Browser(size=size, dark=bool(program.suffix), **how) as browser:
+        form = Form(browser, (program.folder / "ENTRYFORM.HTML").as_uri())
+        form.press_at_once(presses[:26])
+        browser.run("scrollTo(0, 0)")
+        keep(browser, f"{name}{program.suffix}")
+        form.press_at_once(presses[26:])
+        form.fill_in(name="Nora Lind", initials="NL", total="147", email="nora@example.org")
+        browser.run("document.activeElement.blur(); document.getElementById('hand-in').scrollIntoView()")
+        keep(browser, f"{name}-hand-in{program.suffix}")
+
+
+def keep(browser, name):
+    path = PICTURES / f"{name}.png"
+    browser.driver.save_screenshot(str(path))
+    keep_small(path)
+
+
 def take_import(program):
     """A review with every kind of row, then what is left of it after the import."""
-    inbox = pathlib.Path(program.folder).parent / "Handed in"
-    shutil.rmtree(inbox, ignore_errors=True)
-    inbox.mkdir()
-    players = [("Ann Smith", "AS"), ("Bob Jones", "BJ"), ("Cleo Garcia", "CG"), ("Di Brown", "DB"), ("Ed Young", "EY")]
-    program.write("POOLSTART.THS", setup_file())
-    program.write("Bob Jones_BJ.THC", handed_in.selection_bytes("Bob Jones", "BJ", "120", handed_in.some_winners(9)))
-    for number, (name, initials) in enumerate(players):
-        winners = {**handed_in.some_winners(number), **({126: ""} if name == "Di Brown" else {}),
-                   **({126: "Harvard"} if name == "Ed Young" else {})}
-        sender = f"{name.split()[0].lower()}@example.org"
-        text = handed_in.form_text(name, initials, str(120 + number), winners, sender)
-        (inbox / f"{name}.eml").write_bytes(handed_in.mail(sender, text))
+    inbox = write_what_was_handed_in(program)
     program.start()
-    program.menu("mnuFile", "mnuImport")
-    program.click("cmdChooseFolder")
-    program.file_dialog(inbox)
-    program.wait(lambda: len(program.rows("grdEntries")) == len(players), "the entries")
-    for row, picture in ((1, "import"), (4, "import-refused")):
-        program.click_at(centre(program.table("grdEntries")["rects"][row][2]))
-        program.wait(lambda at=row: program.text("lblEntry").startswith(f"Row {at + 1}:"), "the bracket")
-        out_of_the_way(program)
+    review(program, inbox)
+    for row, picture in ((1, "import"), (5, "import-refused")):
+        choose(program, row)
         take(program, picture)
     program.click("cmdImport")
     program.wait(lambda: program.visible("txtSummary"), "the summary")
@@ -224,25 +254,71 @@ def take_import(program):
     shutil.rmtree(inbox)
 
 
+def take_large_import(program):
+    inbox = write_what_was_handed_in(program)
+    program.start()
+    program.fill_display()
+    review(program, inbox)
+    choose(program, 1)
+    take(program, "import-large")
+    shutil.rmtree(inbox)
+
+
+def write_what_was_handed_in(program):
+    """A pool in which one of the players has handed in before; gives the folder with the mails."""
+    inbox = pathlib.Path(program.folder).parent / "Handed in"
+    shutil.rmtree(inbox, ignore_errors=True)
+    inbox.mkdir()
+    program.write("POOLSTART.THS", setup_file("2000 Office Pool"))
+    for number, (initials, name) in enumerate(office_pool.PLAYERS):
+        picks = office_pool.bracket(random.Random(number), office_pool.results())
+        total = str(120 + 5 * number)
+        if name == "Joe Brandt":
+            before = office_pool.bracket(random.Random(99), picks)
+            program.write(f"{name}_{initials}.THC", selection(before, initials, name, "131"))
+        elif name == "Lena Fischer":
+            program.write(f"{name}_{initials}.THC", selection(picks, initials, name, total))
+        elif name == "Sam Ortiz":
+            picks = {**picks, 125: "", 126: ""}
+        elif name == "Wei Chen":
+            picks = {**picks, 126: "Harvard"}
+        sender = f"{name.split()[0].lower()}@example.org"
+        text = handed_in.form_text(name, initials, total, picks, sender)
+        (inbox / f"{number:02} {name}.eml").write_bytes(handed_in.mail(sender, text))
+    return inbox
+
+
+def review(program, inbox):
+    program.menu("mnuFile", "mnuImport")
+    program.click("cmdChooseFolder")
+    program.file_dialog(inbox)
+    program.wait(lambda: len(program.rows("grdEntries")) == len(office_pool.PLAYERS), "the entries")
+
+
+def choose(program, row):
+    program.click_at(centre(program.table("grdEntries")["rects"][row][2]))
+    program.wait(lambda: program.text("lblEntry").startswith(f"Row {row + 1}:"), "the bracket")
+    out_of_the_way(program)
+
+
 def main():
     PICTURES.mkdir(parents=True, exist_ok=True)
     with tempfile.TemporaryDirectory() as settings:
         shutil.copy(DARK, pathlib.Path(settings) / "kdeglobals")
         night = {"QT_QPA_PLATFORMTHEME": "kde", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": settings}
         for suffix, environment in (("", {}), ("-dark", night)):
-            pool = pathlib.Path(tempfile.gettempdir()) / "Tallyhoop"  # the pictures show its name
-            with Program(folder=pool, environment=environment, size=SIZE, scale=SCALE) as program:
-                program.suffix = suffix
-                take_all(program)
-            shutil.rmtree(pool)
-            with Program(folder=pool, environment=environment, size=SIZE, scale=SCALE) as program:
-                program.suffix = suffix
-                take_outlook(program)
-            shutil.rmtree(pool)
-            with Program(folder=pool, environment=environment, size=SIZE, scale=SCALE) as program:
-                program.suffix = suffix
-                take_import(program)
-            shutil.rmtree(pool)
+            for steps, size in ((take_all, SIZE), (take_outlook, SIZE), (take_entry_page, SIZE), (take_import, SIZE),
+                                (take_large_import, LARGE)):
+                take_in_a_pool(steps, suffix, environment=environment, size=size, scale=SCALE)
+
+
+def take_in_a_pool(steps, suffix, **how):
+    pool = pathlib.Path(tempfile.gettempdir()) / "Tallyhoop"  # the pictures show its name
+    shutil.rmtree(pool, ignore_errors=True)  # of a run that was stopped
+    with Program(folder=pool, **how) as program:
+        program.suffix = suffix
+        steps(program)
+    shutil.rmtree(pool)
 
 
 if __name__ == "__main__":
