@@ -223,6 +223,8 @@ def take_page(program, name, size, **how):
     teams = {**office_pool.first_round(), **bracket}
     presses = [next(place for place in feeders(game) if teams[place] == bracket[game]) for game in GAME_PLACES]
     with Browser(size=size, dark=bool(program.suffix), **how) as browser:
+        # Those of a telephone come and go.
+        browser.command("Emulation.setScrollbarsHidden", hidden=how.get("touch", False))
         form = Form(browser, (program.folder / "ENTRYFORM.HTML").as_uri())
         form.press_at_once(presses[:26])
         browser.run("scrollTo(0, 0)")
