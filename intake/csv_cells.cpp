@@ -4,7 +4,6 @@
 #include "base/text.h"
 
 #include <algorithm>
-#include <compare>
 #include <map>
 #include <utility>
 
@@ -94,7 +93,7 @@ struct Alike {
     std::size_t rows = 0;
     std::size_t cells = 0;
 
-    friend auto operator<=>(const Alike&, const Alike&) = default;
+    bool isMoreThan(const Alike& other) const { return rows != other.rows ? rows > other.rows : cells > other.cells; }
 };
 
 Alike alikeIn(const std::vector<CsvRow>& rows)
@@ -105,7 +104,8 @@ Alike alikeIn(const std::vector<CsvRow>& rows)
             ++rowsOfSize[row.size()];
     Alike most;
     for (const auto& [cells, count] : rowsOfSize)
-        most = std::max(most, Alike{count, cells});
+        if (const Alike alike{count, cells}; alike.isMoreThan(most))
+            most = alike;
     return most;
 }
 
@@ -120,7 +120,8 @@ Result<std::vector<CsvRow>> rowsByTheirSeparator(std::string_view text)
             continue;
         Result<std::vector<CsvRow>> rows = CsvReader{text, separator}.read();
         const Alike alike = rows ? alikeIn(*rows) : Alike{};
-        if (alike > most || (!rows && most.rows == 0)) { // a failure says more than cells that are whole lines
+        if (alike.isMoreThan(most) ||
+            (!rows && most.rows == 0)) { // a failure says more than cells that are whole lines
             most = alike;
             best = std::move(rows);
         }

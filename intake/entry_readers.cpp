@@ -36,13 +36,6 @@ bool isSelection(std::string_view bytes)
     return lines.size() == kLinesOfSelection && lines.back() == kEndMarker;
 }
 
-/// Cells that were copied out of a spreadsheet are separated by tabs, which the table's first line has to say.
-std::string separatedTable(const std::string& utf8)
-{
-    const bool hasTabs = utf8.substr(0, utf8.find_first_of("\r\n")).find('\t') != std::string::npos;
-    return hasTabs ? "sep=\t\n" + utf8 : utf8;
-}
-
 void append(std::vector<HandedIn>& entries, std::vector<HandedIn> more)
 {
     std::ranges::move(more, std::back_inserter(entries));
@@ -172,8 +165,7 @@ std::vector<HandedIn> EntryReaders::readText(std::string_view bytes, const Origi
     std::vector<HandedIn> entries = readEntryTexts(utf8, m_teams, origin);
     if (!entries.empty())
         return entries;
-    const std::string table = separatedTable(utf8);
-    return isEntryTable(table) ? readEntryTable(table, m_teams, origin) : entries;
+    return isEntryTable(utf8) ? readEntryTable(utf8, m_teams, origin) : entries;
 }
 
 std::vector<HandedIn> EntryReaders::readMail(std::string_view bytes, const Origin& origin, int depth) const
@@ -185,30 +177,9 @@ std::vector<HandedIn> EntryReaders::readMail(std::string_view bytes, const Origi
         return {refusedWhole(origin, parts.failure().message)};
     std::vector<HandedIn> entries;
     for (const MessageParts& message : messagesOf(*parts)) {
-        std::vector<HandedIn> found;
-        for (const MailPart* text : message.texts)
-            append(found, readText(text->content, originOf(*text, origin)));
-        // The page is the same text once more, in most mails; sometimes it is the one that was not mangled.
-        if (!hasGood(found)) {
-            std::vector<HandedIn> onPages;
-            for (const MailPart* page : message.pages)
-                append(onPages, readEntryTexts(textOfHtml(page->content), m_teams, originOf(*page, origin)));
-            if (found.empty() || hasGood(onPages))
-                found = std::move(onPages);
-        }
-        for (const MailPart* file : message.files) {
-            Origin attached = originOf(*file, origin);
-            attached.file = asOneLine(file->name);
-            std::vector<HandedIn> more =
-                file->name.empty() ? readText(file->content, attached) : readFile(file->content, attached, depth + 1);
-            for (HandedIn& entry : more) {
-                entry.origin.file = origin.file;
-                if (entry.email.empty())
-                    entry.email = entry.origin.sender;
-            }
-            append(found, std::move(more));
-        }
-        append(entries, std::move(found));
+        append(entries, readTexts(message.texts, message.pages, origin));
+        for (const MailPart* file : message.files)
+            append(entries, readAttached(*file, origin, depth));
     }
     for (const MailPart& part : *parts)
         if (part.kind == MailPart::Kind::TooDeep)
@@ -218,6 +189,34 @@ std::vector<HandedIn> EntryReaders::readMail(std::string_view bytes, const Origi
     if (entries.empty())
         return {refusedWhole(parts->empty() ? origin : originOf(parts->front(), origin), nothingFound(*parts))};
     return withoutRepeated(std::move(entries));
+}
+
+std::vector<HandedIn> EntryReaders::readTexts(const Parts& texts, const Parts& pages, const Origin& origin) const
+{
+    std::vector<HandedIn> found;
+    for (const MailPart* text : texts)
+        append(found, readText(text->content, originOf(*text, origin)));
+    if (hasGood(found))
+        return found;
+    // The page is the same text once more, in most mails; sometimes it is the one that was not mangled.
+    std::vector<HandedIn> onPages;
+    for (const MailPart* page : pages)
+        append(onPages, readEntryTexts(textOfHtml(page->content), m_teams, originOf(*page, origin)));
+    return found.empty() || hasGood(onPages) ? onPages : found;
+}
+
+std::vector<HandedIn> EntryReaders::readAttached(const MailPart& file, const Origin& origin, int depth) const
+{
+    Origin attached = originOf(file, origin);
+    attached.file = asOneLine(file.name);
+    std::vector<HandedIn> entries =
+        file.name.empty() ? readText(file.content, attached) : readFile(file.content, attached, depth + 1);
+    for (HandedIn& entry : entries) {
+        entry.origin.file = origin.file;
+        if (entry.email.empty())
+            entry.email = entry.origin.sender;
+    }
+    return entries;
 }
 
 HandedIn EntryReaders::readSelectionFile(std::string_view bytes, const Origin& origin) const

@@ -37,8 +37,12 @@ public:
     std::vector<HandedIn> readPasted(std::string_view text) const;
 
 private:
+    using Parts = std::vector<const MailPart*>;
+
     std::vector<HandedIn> readFile(std::string_view bytes, const Origin& origin, int depth) const;
     std::vector<HandedIn> readMail(std::string_view bytes, const Origin& origin, int depth) const;
+    std::vector<HandedIn> readTexts(const Parts& texts, const Parts& pages, const Origin& origin) const;
+    std::vector<HandedIn> readAttached(const MailPart& file, const Origin& origin, int depth) const;
     std::vector<HandedIn> readText(std::string_view bytes, const Origin& origin) const;
     HandedIn readSelectionFile(std::string_view bytes, const Origin& origin) const;
     HandedIn readSelectionText(std::string_view utf8, const Origin& origin) const;

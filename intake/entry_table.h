@@ -12,11 +12,12 @@
 namespace tallyhoop {
 
 /// Reads a table: name, initials, predicted total and 63 picks. With a header, which may have up to five rows above it,
-/// the columns may be in any order, one for the e-mail address and one for the selection's file may be among them, and a column named "Game 12", whatever
-/// follows, holds the picks of that game; 63 columns without such names are the games in the order of the board.
-/// Without a header the columns are name, initials, total, the picks in the order of the board and, perhaps, the file,
-/// and one row at least has all of them: other lists are tables, too. Blanks around a cell, and more than one inside, are taken for an
-/// accident, but for a cell that entryTable() wrote with an apostrophe before it.
+/// the columns may be in any order, one for the e-mail address and one for the selection's file may be among them, and
+/// a column named "Game 12", whatever follows, holds the picks of that game; 63 columns without such names are the
+/// games in the order of the board. Without a header the columns are name, initials, total, the picks in the order of
+/// the board and, perhaps, the file, and one row at least has all of them: other lists are tables, too. Blanks around a
+/// cell, and more than one inside, are taken for an accident, but for a cell that entryTable() wrote with an apostrophe
+/// before it.
 /// @param bytes  UTF-8 or Windows-1252, separated by commas, semicolons or tabs
 /// @param origin where it came from; an entry's number is its row in the table
 /// @returns one for each row that is not empty, at most kMostEntriesHandedIn; a single refusal when the table cannot be

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace tallyhoop {
@@ -108,23 +109,32 @@ private:
 
     void takeLeaf(GMimePart* part, const MailPart& inherited)
     {
-        GMimeContentType* type = m_gmime.g_mime_object_get_content_type(GMIME_OBJECT(part));
         MailPart taken = inherited;
         taken.name = fromUtf8(textOf(m_gmime.g_mime_part_get_filename(part)));
-        if (!taken.name.empty())
-            taken.kind = MailPart::Kind::File;
-        else if (m_gmime.g_mime_content_type_is_type(type, "text", "plain") != 0)
-            taken.kind = MailPart::Kind::Text;
-        else if (m_gmime.g_mime_content_type_is_type(type, "text", "html") != 0)
-            taken.kind = MailPart::Kind::Html;
-        else if (m_gmime.g_mime_content_type_is_type(type, "application", "*") != 0)
-            taken.kind = MailPart::Kind::File; // somebody's selection may have lost its name on the way
-        else
+        const std::optional<MailPart::Kind> kind = kindOf(GMIME_OBJECT(part), taken.name);
+        if (!kind)
             return;
+        taken.kind = *kind;
         taken.content = contentOf(part);
         if (taken.kind != MailPart::Kind::File)
             taken.content = inUtf8(taken.content, GMIME_OBJECT(part));
         m_parts.push_back(std::move(taken));
+    }
+
+    /// @returns nothing when it is of no use, such as a picture
+    std::optional<MailPart::Kind> kindOf(GMimeObject* part, const std::string& name) const
+    {
+        GMimeContentType* type = m_gmime.g_mime_object_get_content_type(part);
+        const auto isType = [&](const char* kind, const char* form) {
+            return m_gmime.g_mime_content_type_is_type(type, kind, form) != 0;
+        };
+        if (name.empty() && isType("text", "plain"))
+            return MailPart::Kind::Text;
+        if (name.empty() && isType("text", "html"))
+            return MailPart::Kind::Html;
+        if (!name.empty() || isType("application", "*"))
+            return MailPart::Kind::File; // somebody's selection may have lost its name on the way
+        return std::nullopt;
     }
 
     std::string contentOf(GMimePart* part) const

@@ -84,7 +84,7 @@ Bracket withHighSeeds(Bracket bracket, const ByTeamRow<std::int16_t>& seeds)
 std::optional<Position> openGameAfter(const Bracket& bracket, Position game)
 {
     std::array<Position, kGames> games = gamePositions();
-    std::ranges::rotate(games, std::ranges::upper_bound(games, game));
+    std::rotate(games.begin(), std::ranges::upper_bound(games, game), games.end());
     const auto open = std::ranges::find_if(games, [&](Position other) { return bracket.isEmpty(other); });
     return open == games.end() ? std::nullopt : std::optional{*open};
 }
