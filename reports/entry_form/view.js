@@ -59,7 +59,10 @@ function makePart(part) {
     make('div', { class: 'rounds' }, ...rounds));
 }
 
-const partTitle = (part) => (part === FINALS ? 'Finals' : field.regions[part]);
+/** A blank title would leave a link and a heading without words. */
+const regionTitle = (region) => field.regions[region].trim() || `Region ${region + 1}`;
+
+const partTitle = (part) => (part === FINALS ? 'Finals' : regionTitle(part));
 
 /** The titles of a telephone's narrow bar leave out what all of them say. */
 const shortTitle = (part) => partTitle(part).replace(/ region$/i, '');
@@ -87,9 +90,9 @@ const inWords = (board, place) =>
 function nameOfGame(winner) {
   if (winner === CHAMPION) return 'Final';
   const semifinal = SEMIFINALS.indexOf(winner);
-  if (semifinal >= 0) return `Semi-final of ${field.regions[2 * semifinal]} and ${field.regions[2 * semifinal + 1]}`;
+  if (semifinal >= 0) return `Semi-final of ${regionTitle(2 * semifinal)} and ${regionTitle(2 * semifinal + 1)}`;
   const round = [1, 2, 3, 4].find((one) => gamesOfRound(one, regionOf(winner)).includes(winner));
-  return `${field.regions[regionOf(winner)]}, ${lowerFirst(ROUNDS[round - 1])}`;
+  return `${regionTitle(regionOf(winner))}, ${lowerFirst(ROUNDS[round - 1])}`;
 }
 
 function gameInWords(board, winner) {

@@ -22,6 +22,7 @@ DRIVER = "/usr/bin/chromedriver"
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
 
 TELEPHONE = 360, 740
+SIDEWAYS = 740, 360
 TABLET = 768, 1024
 DESKTOP = 1366, 768
 
