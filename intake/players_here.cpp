@@ -5,6 +5,7 @@
 #include "base/windows1252.h"
 #include "files/file_names.h"
 #include "intake/addresses.h"
+#include "intake/known_teams.h"
 
 #include <algorithm>
 #include <set>
@@ -24,7 +25,8 @@ std::string keyOf(std::string_view fileName)
     return key;
 }
 
-std::string nameKeyOf(std::string_view player) { return upperCase(fitted(player, kNameWidth)); }
+/// Cut as the record is first: a character in its canonical form may be longer.
+std::string nameKeyOf(std::string_view player) { return upperCase(canonicalOf(fitted(player, kNameWidth))); }
 
 /// @returns the same for a file whose name does not fit into a record: then the player's name has to agree, too
 std::string keyOf(std::string_view fileName, std::string_view player)

@@ -39,7 +39,7 @@ public:
     /// @returns the addresses in the records that may be the player's, "; " between them; empty = none
     std::string addressesOf(const NewPlayer& player) const;
 
-    /// @returns the first record of a player's name, in any case of its letters
+    /// @returns the first record of a player's name, in any case of its letters and with any kind of apostrophe
     const PlayerRecord* findName(std::string_view name) const;
 
     /// Adds a record unless there is one. Of players who look the same in a record, each selection has one.

@@ -112,6 +112,17 @@ TEST_F(ReviewWarnings, APlayerWhoHasASelectionUnderAnotherName)
     EXPECT_EQ(rowOf("", "", upperEntry("Bob", "B")).words, "New.") << "listed already, with this very file";
 }
 
+TEST_F(ReviewWarnings, AnApostropheOfAnotherKindIsTheSameName)
+{
+    list({{"O'Brien,B", "O'BRIEN_B.THC", "", ""}});
+    const ReviewRow row = rowOf("", "",
+                                upperEntry("O\x92"
+                                           "Brien",
+                                           "B")); // a telephone's apostrophe
+    EXPECT_EQ(row.words, "The player list has this name with another file: O'BRIEN_B.THC. New.");
+    EXPECT_FALSE(row.isTicked);
+}
+
 TEST_F(ReviewWarnings, ALongNameThatWasCutMayBeAnothers)
 {
     list({{"Featherstonehaugh-Cholmondeley,F", "FEATHER.THC", "", ""}}); // 25 characters of the name are kept
