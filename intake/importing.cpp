@@ -10,6 +10,7 @@
 #include "files/selection_file.h"
 #include "intake/import_summary.h"
 #include "intake/players_here.h"
+#include "intake/review_words.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -155,10 +156,11 @@ std::vector<std::size_t> rowsToWrite(const Review& review, ImportOutcome& outcom
     return rows;
 }
 
-NewPlayer playerOf(const ReviewRow& row)
+NewPlayer playerWithAddress(const ReviewRow& row)
 {
-    const Entry& entry = row.handedIn.entry;
-    return {entry.name + "," + entry.initials, row.fileName, row.handedIn.email};
+    NewPlayer player = playerOf(row);
+    player.email = row.handedIn.email;
+    return player;
 }
 
 /// @returns the players of all selections whose file names are cut in the player list, when there are such among the
@@ -190,7 +192,7 @@ void addPlayers(const Review& review, std::span<const std::size_t> rows, const D
     }
     PlayersHere players{readPlayerNames(folder), playersWithCutNames(review, rows, folder)};
     for (const std::size_t row : rows) {
-        const NewPlayer player = playerOf(review.rows[row]);
+        const NewPlayer player = playerWithAddress(review.rows[row]);
         const bool isAlike = players.find(player) != nullptr;
         if (!players.add(player))
             continue;

@@ -1,9 +1,11 @@
 // intake/review.cpp - each entry by itself first, then those that are for the same file.
 #include "intake/review.h"
 
+#include "base/lines.h"
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "files/file_names.h"
+#include "files/player_names_file.h"
 #include "files/selection_file.h"
 #include "files/settings_file.h"
 #include "intake/entry_refusals.h"
@@ -13,7 +15,7 @@
 #include "pool/filled_in.h"
 
 #include <algorithm>
-#include <functional>
+#include <system_error>
 #include <unordered_map>
 #include <utility>
 
@@ -61,6 +63,7 @@ struct Standards {
     const Field& field;
     SelectionsHere selections;
     PlayersHere players;
+    bool canAddPlayers = true;
     int results = 0;                 ///< games that have been decided
     std::vector<std::string> common; ///< why nothing is taken at all
     bool isDemo = false;             ///< nothing new is taken, as on the board
@@ -85,6 +88,25 @@ std::vector<std::string> commonReasons(const Field& field)
     if (!field.isFinalized())
         reasons.emplace_back("The field is not finalized yet.");
     return reasons;
+}
+
+/// @returns why nothing can be written to a place, when there is something else than a file; otherwise empty
+std::string obstacleAt(const std::filesystem::path& file, const std::string& name)
+{
+    std::error_code ignored;
+    const std::filesystem::file_status there = std::filesystem::status(file, ignored);
+    if (std::filesystem::is_directory(there))
+        return "There is a folder of the name " + name + ".";
+    if (std::filesystem::is_other(there))
+        return "What has the name " + name + " is no file, but a device or the like.";
+    return {};
+}
+
+std::string playerListTrouble(const FileContent& list)
+{
+    if (list.trouble)
+        return "the player list cannot be read";
+    return annotatedCopy(linesOf(list.bytes)) ? "there are faulty records in the player list" : std::string{};
 }
 
 /// What is there is read only now, and compared again when it is replaced.
@@ -134,7 +156,10 @@ ReviewRow rowOf(HandedIn handedIn, Standards& standards)
     FolderFile file = standards.selections.fileOf(given.empty() ? proposedFileName(entry.name, entry.initials) : given);
     row.fileName = std::move(file.name);
     row.file = std::move(file.path);
+    if (std::string obstacle = obstacleAt(row.file, row.fileName); !obstacle.empty())
+        return refusedRow(std::move(row.handedIn), std::move(obstacle));
     row.isLate = standards.results > 0;
+    row.addsPlayer = standards.canAddPlayers && standards.players.find(playerOf(row)) == nullptr;
     compareWithFile(row, entry.picks);
     if (standards.isDemo && row.effect == Effect::New)
         return refusedRow(std::move(row.handedIn), "The demo pool takes no new selections.");
@@ -163,6 +188,12 @@ std::optional<std::size_t> latestOf(const std::vector<ReviewRow>& rows, const st
     return latest;
 }
 
+/// A later one that is here already must not leave an earlier one to replace it.
+std::optional<std::size_t> latestToTick(const std::vector<ReviewRow>& rows, const std::vector<std::size_t>& among)
+{
+    return latestOf(rows, among, [](const ReviewRow& row) { return row.isComplete() && !row.isDoubtful; });
+}
+
 void tickOnly(std::vector<ReviewRow>& rows, const std::vector<std::size_t>& among, std::optional<std::size_t> ticked)
 {
     for (const std::size_t i : among)
@@ -189,7 +220,9 @@ void findRepeated(Review& review)
     for (const std::vector<std::size_t>& sameFile : review.files) {
         const std::optional<std::size_t> latest =
             latestOf(review.rows, sameFile, [](const ReviewRow&) { return true; });
-        tickOnly(review.rows, sameFile, latestOf(review.rows, sameFile, std::mem_fn(&ReviewRow::isTicked)));
+        const std::optional<std::size_t> chosen = latestToTick(review.rows, sameFile);
+        const bool isTicked = chosen && review.rows[*chosen].isTicked;
+        tickOnly(review.rows, sameFile, isTicked ? chosen : std::nullopt);
         for (const std::size_t i : sameFile)
             if (i != latest)
                 review.rows[i].later = latest;
@@ -200,13 +233,15 @@ void findRepeated(Review& review)
 
 Review reviewOf(std::vector<HandedIn> handedIn, const DataFolder& folder, const Field& field, const Step& step)
 {
+    Review review;
+    review.playerListTrouble = playerListTrouble(KnownFiles::contentOf(folder.pathTo(file_name::kPlayerNames)));
     Standards standards{field,
                         SelectionsHere{folder},
                         PlayersHere{readPlayerNames(folder)},
+                        review.playerListTrouble.empty(),
                         resultsIn(folder, field),
                         commonReasons(field),
                         demoModeIsOn(folder)};
-    Review review;
     review.resultsHere = standards.results;
     review.rows.reserve(handedIn.size());
     for (HandedIn& entry : handedIn) {
@@ -231,11 +266,13 @@ void setTicked(Review& review, std::size_t row, bool isTicked)
     chosen.isTicked = isTicked;
 }
 
-void tickAllComplete(Review& review)
+std::size_t tickAllComplete(Review& review)
 {
     for (const std::vector<std::size_t>& sameFile : review.files)
-        if (const auto latest = latestOf(review.rows, sameFile, std::mem_fn(&ReviewRow::isWorthWriting)))
+        if (const auto latest = latestToTick(review.rows, sameFile); latest && review.rows[*latest].isWorthWriting())
             tickOnly(review.rows, sameFile, latest);
+    return static_cast<std::size_t>(std::ranges::count_if(
+        review.rows, [](const ReviewRow& row) { return row.isWorthWriting() && row.isDoubtful && !row.isTicked; }));
 }
 
 std::string bytesToWrite(const HandedIn& handedIn)

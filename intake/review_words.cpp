@@ -19,7 +19,8 @@ std::string effectOf(const ReviewRow& row)
     case Effect::New:
         return "New.";
     case Effect::Identical:
-        return "Identical to what is here.";
+        return row.addsPlayer ? "Identical to what is here; the player is not in the list yet."
+                              : "Identical to what is here.";
     case Effect::Refused:
         return "Refused: " + joined(row.reasons, " ");
     case Effect::Replaces:
@@ -54,12 +55,6 @@ std::string aboutOthers(const ReviewRow& row, const std::vector<ReviewRow>& rows
                                          : "Handed in again later: row " + number + ".";
 }
 
-NewPlayer playerOf(const ReviewRow& row)
-{
-    const Entry& entry = row.handedIn.entry;
-    return {entry.name + "," + entry.initials, row.fileName, {}};
-}
-
 std::string shownAddress(std::string_view address)
 {
     constexpr std::size_t kMost = 60;
@@ -67,6 +62,12 @@ std::string shownAddress(std::string_view address)
 }
 
 } // namespace
+
+NewPlayer playerOf(const ReviewRow& row)
+{
+    const Entry& entry = row.handedIn.entry;
+    return {entry.name + "," + entry.initials, row.fileName, {}};
+}
 
 std::string wordsOf(const ReviewRow& row, const std::vector<ReviewRow>& rows)
 {
@@ -104,7 +105,8 @@ std::string otherFileWarning(const ReviewRow& row, const PlayersHere& players)
 {
     const NewPlayer player = playerOf(row);
     const PlayerRecord* record = players.findName(player.name);
-    if (row.effect != Effect::New || record == nullptr || players.find(player) != nullptr)
+    const bool isAdded = row.effect == Effect::New || (row.effect == Effect::Identical && row.addsPlayer);
+    if (!isAdded || record == nullptr || players.find(player) != nullptr)
         return {};
     const std::string what = player.name.size() <= kNameWidth ? "has this name" : "may have this player";
     return "The player list " + what + " with another file: " + trimTrailingBlanks(record->fileName) + ".";
@@ -133,6 +135,8 @@ std::string summaryOf(const Review& review)
     if (review.resultsHere > 0)
         summary += " They are late: the results of " +
                    counted(static_cast<std::size_t>(review.resultsHere), "game are", "games are") + " entered already.";
+    if (!review.playerListTrouble.empty())
+        summary += " No player can be added: " + review.playerListTrouble + ".";
     return summary;
 }
 

@@ -64,12 +64,13 @@ void EntryPile::setTicked(std::size_t row, bool isTicked)
             m_decided[i] = m_review.rows[i].isTicked;
 }
 
-void EntryPile::tickAllComplete()
+std::size_t EntryPile::tickAllComplete()
 {
-    tallyhoop::tickAllComplete(m_review);
+    const std::size_t leftOut = tallyhoop::tickAllComplete(m_review);
     for (std::size_t i = 0; i < size(); ++i)
         if (m_review.rows[i].isTicked || m_decided[i])
             m_decided[i] = m_review.rows[i].isTicked;
+    return leftOut;
 }
 
 void EntryPile::untickAll()

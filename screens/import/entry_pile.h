@@ -29,8 +29,9 @@ public:
 
     void setTicked(std::size_t row, bool isTicked);
 
-    /// Ticks every complete entry that would change something; of several for one file the latest.
-    void tickAllComplete();
+    /// Ticks every complete entry that would change something, doubtful ones not; of several for one file the latest.
+    /// @returns how many were left out for being doubtful
+    std::size_t tickAllComplete();
     void untickAll();
 
     struct Imported {

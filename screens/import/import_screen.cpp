@@ -69,7 +69,8 @@ void ImportScreen::explain()
     txtPasted.explanation = "Paste one entry or many, as they came by mail; quoted or wrapped lines do not matter.";
     cmdReadText.explanation = "Adds the entries in the pasted text to the list.";
     grdEntries.spokenName = "Entries";
-    cmdTickAll.explanation = "Ticks every complete entry that would change something, late ones included.";
+    cmdTickAll.explanation =
+        "Ticks every complete entry that would change something: late ones, too, but no doubtful ones.";
     cmdUntickAll.explanation = "Takes all ticks away.";
     cmdEmptyList.explanation = "Forgets all entries of the list; no file is changed.";
     cmdImport.explanation = "Writes every entry that is ticked, and enters its player into the player list.";
@@ -150,9 +151,13 @@ void ImportScreen::toggle(std::size_t row)
 
 void ImportScreen::tickAllComplete()
 {
-    m_pile.tickAllComplete();
+    const std::size_t leftOut = m_pile.tickAllComplete();
     listChanged();
-    say(counted(m_pile.ticked(), "entry is ticked.", "entries are ticked."));
+    std::string words = counted(m_pile.ticked(), "entry is ticked.", "entries are ticked.");
+    if (leftOut > 0)
+        words += " " + counted(leftOut, "was left out, being doubtful: its row says why.",
+                               "were left out, being doubtful: their rows say why.");
+    say(words);
 }
 
 void ImportScreen::untickAll()

@@ -148,8 +148,9 @@ TEST(Import, LeavesAFileAloneThatChangedSinceTheReview)
 TEST(Import, SaysWhyAFileCannotBeWritten)
 {
     const ScratchFolder scratch;
+    const Review review = reviewedIn(scratch, {entryFrom(upperEntry()), entryFrom(upperEntry("Bob", "B"))});
     fs::create_directory(scratch.path() / "Ann Smith_as.THC");
-    const ImportOutcome outcome = imported(scratch, {entryFrom(upperEntry()), entryFrom(upperEntry("Bob", "B"))});
+    const ImportOutcome outcome = importTicked(review, scratch.folder());
     ASSERT_EQ(outcome.notWritten.size(), 1u);
     EXPECT_EQ(outcome.notWritten[0].row, 0u);
     EXPECT_EQ(outcome.created, 1u);

@@ -3,9 +3,12 @@
 
 #include "base/windows1252.h"
 #include "fakes/scratch_folder.h"
+#include "files/player_names_file.h"
+#include "files/replace_file.h"
 #include "files/selection_file.h"
 #include "intake/field_2000.h"
 
+#include <filesystem>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -31,6 +34,11 @@ std::string savedBytes(Entry entry)
 {
     entry.initials = upperCase(entry.initials);
     return selectionFile(entry);
+}
+
+void listPlayers(const ScratchFolder& scratch, std::vector<PlayerRecord> players)
+{
+    scratch.put("PLAYERNAMES.CSV", playerNamesFile(players));
 }
 
 Review reviewed(const ScratchFolder& scratch, std::vector<HandedIn> entries)
@@ -65,11 +73,53 @@ TEST(Review, FindsTheVerySameThatIsHereAlready)
 {
     const ScratchFolder scratch;
     scratch.put("ann smith_AS.thc", savedBytes(upperEntry()));
+    listPlayers(scratch, {{"Ann Smith,AS", "ANN SMITH_AS.THC", "", ""}});
     const ReviewRow row = reviewed(scratch, {handedIn(upperEntry())}).rows.at(0);
     EXPECT_EQ(row.effect, Effect::Identical);
     EXPECT_EQ(row.fileName, "ann smith_AS.thc") << "the one that is here, in any case of letters";
     EXPECT_EQ(row.words, "Identical to what is here.");
     EXPECT_FALSE(row.isTicked);
+}
+
+TEST(Review, TicksTheVerySameWhosePlayerIsNotInTheListYet)
+{
+    const ScratchFolder scratch;
+    scratch.put("Ann Smith_as.THC", savedBytes(upperEntry()));
+    const ReviewRow row = reviewed(scratch, {handedIn(upperEntry())}).rows.at(0);
+    EXPECT_EQ(row.words, "Identical to what is here; the player is not in the list yet.");
+    EXPECT_TRUE(row.isTicked);
+
+    Entry open = upperEntry();
+    open.picks.clear(kChampion);
+    scratch.put("Ann Smith_as.THC", savedBytes(open));
+    EXPECT_FALSE(reviewed(scratch, {handedIn(open)}).rows.at(0).isTicked) << "incomplete";
+}
+
+TEST(Review, SaysWhenNoPlayerCanBeAdded)
+{
+    const ScratchFolder scratch;
+    scratch.put("Ann Smith_as.THC", savedBytes(upperEntry()));
+    scratch.put("PLAYERNAMES.CSV", "saved by a spreadsheet\r\n");
+    const Review review = reviewed(scratch, {handedIn(upperEntry())});
+    EXPECT_EQ(review.summary, "1 entry: 1 identical to what is here. No player can be added: there are faulty records "
+                              "in the player list.");
+    EXPECT_EQ(review.rows.at(0).words, "Identical to what is here.");
+    EXPECT_FALSE(review.rows.at(0).isTicked) << "nothing would change";
+
+    std::filesystem::resize_file(scratch.path() / "PLAYERNAMES.CSV", kMostBytesOfList + 1); // too large
+    EXPECT_THAT(reviewed(scratch, {}).summary,
+                testing::EndsWith(" No player can be added: the player list cannot be read."));
+}
+
+TEST(Review, RefusesWhatHasTheNameOfAFolderOrADevice)
+{
+    const ScratchFolder scratch;
+    std::filesystem::create_directory(scratch.path() / "Ann Smith_as.THC");
+    std::filesystem::create_symlink("/dev/null", scratch.path() / "Bob_B.THC");
+    const Review review = reviewed(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Bob", "B"))});
+    EXPECT_EQ(review.rows.at(0).words, "Refused: There is a folder of the name Ann Smith_as.THC.");
+    EXPECT_EQ(review.rows.at(1).words, "Refused: What has the name Bob_B.THC is no file, but a device or the like.");
+    EXPECT_EQ(review.rows.at(1).effect, Effect::Refused);
 }
 
 TEST(Review, CountsThePicksThatDifferFromWhatItReplaces)
@@ -196,6 +246,18 @@ TEST(Review, TicksAnEarlierOneWhenTheLatestIsIncomplete)
     EXPECT_THAT(ticksOf(reviewed(scratch, {handedIn(upperEntry()), handedIn(open)})), ElementsAre(true, false));
 }
 
+TEST(Review, LeavesAnEarlierOneUntickedWhenTheLatestIsHereAlready)
+{
+    const ScratchFolder scratch;
+    scratch.put("Ann Smith_as.THC", savedBytes(upperEntry()));
+    listPlayers(scratch, {{"Ann Smith,AS", "ANN SMITH_AS.THC", "", ""}});
+    Review review = reviewed(scratch, {handedIn(withChampion(upperEntry(), "Arizona")), handedIn(upperEntry())});
+    EXPECT_THAT(ticksOf(review), ElementsAre(false, false));
+    EXPECT_EQ(review.rows[0].words, "Replaces (1 pick differs). Handed in again later: row 2.");
+    tickAllComplete(review);
+    EXPECT_THAT(ticksOf(review), ElementsAre(false, false));
+}
+
 TEST(Review, HasOneTickForEachFile)
 {
     const ScratchFolder scratch;
@@ -214,6 +276,7 @@ TEST(Review, TickingAllTakesTheLatestCompleteOneOfEachFile)
     Entry open = upperEntry("Cy", "C");
     open.picks.clear(kChampion);
     scratch.put("Di_D.THC", savedBytes(upperEntry("Di", "D")));
+    listPlayers(scratch, {{"Di,D", "DI_D.THC", "", ""}});
     Review review =
         reviewed(scratch, {handedIn(upperEntry(), 2000), handedIn(withChampion(upperEntry(), "Arizona"), 1000),
                            handedIn(open), handedIn(upperEntry("Di", "D")), handedIn(upperEntry("", "E"))});

@@ -112,6 +112,31 @@ TEST_F(ReviewWarnings, APlayerWhoHasASelectionUnderAnotherName)
     EXPECT_EQ(rowOf("", "", upperEntry("Bob", "B")).words, "New.") << "listed already, with this very file";
 }
 
+TEST_F(ReviewWarnings, APlayerWhoseSelectionIsHereAndListedUnderAnotherName)
+{
+    list({{"Ann Smith,AS", "ANN.THC", "", ""}});
+    scratch.put("Ann Smith_as.THC", selectionFile(upperEntry("Ann Smith", "AS")));
+    const ReviewRow row = rowOf("", "");
+    EXPECT_EQ(row.words, "The player list has this name with another file: ANN.THC. Identical to what is here; the "
+                         "player is not in the list yet.");
+    EXPECT_FALSE(row.isTicked);
+}
+
+TEST_F(ReviewWarnings, TickingAllLeavesDoubtfulEntriesOutAndCountsThem)
+{
+    const auto from = [](const std::string& sender, const std::string& name, const std::string& initials) {
+        return HandedIn{upperEntry(name, initials), {}, {"x.EML", sender, 1, {}}, {}, true};
+    };
+    Review review = reviewOf({from("eve@example.org", "Ann Smith", "as"), from("", "Cy", "C")}, scratch.folder(),
+                             test::field2000());
+    EXPECT_EQ(tickAllComplete(review), 1u);
+    EXPECT_FALSE(review.rows.at(0).isTicked);
+    EXPECT_TRUE(review.rows.at(1).isTicked);
+    setTicked(review, 0, true);
+    EXPECT_EQ(tickAllComplete(review), 0u) << "ticked by hand";
+    EXPECT_TRUE(review.rows.at(0).isTicked);
+}
+
 TEST_F(ReviewWarnings, AnApostropheOfAnotherKindIsTheSameName)
 {
     list({{"O'Brien,B", "O'BRIEN_B.THC", "", ""}});

@@ -2,6 +2,7 @@
 #include "screens/import/entry_pile.h"
 
 #include "fakes/scratch_folder.h"
+#include "files/player_names_file.h"
 #include "intake/field_2000.h"
 
 #include <gmock/gmock.h>
@@ -90,6 +91,8 @@ TEST_F(EntryPileTest, TickingAllTakesTheLatestCompleteEntryOfEachPlayer)
 TEST_F(EntryPileTest, TickingAllLeavesOutWhatIsHereAlready)
 {
     scratch.put("Al_X.THC", bytesToWrite(from("Al")));
+    const std::vector<PlayerRecord> players{{"Al,X", "AL_X.THC", "", ""}};
+    scratch.put("PLAYERNAMES.CSV", playerNamesFile(players));
     pile.add({from("Al"), from("Bo")});
     pile.tickAllComplete();
     EXPECT_THAT(ticked(), ElementsAre("Bo Duke"));

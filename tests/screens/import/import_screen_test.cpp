@@ -67,6 +67,20 @@ TEST_F(ImportReview, IncompleteEntriesAreTickedByThePersonOnly)
     EXPECT_THAT(column(EntryColumn::Tick), ElementsAre("not ticked", "not ticked"));
 }
 
+TEST_F(ImportReview, TickingAllSaysHowManyDoubtfulEntriesWereLeftOut)
+{
+    pool.put("Al_A.THC", "damaged");
+    open();
+    paste(formText(upperEntry("Al", "A")) + formText(upperEntry("Bo", "B")));
+    click(screen->cmdTickAll);
+    EXPECT_THAT(column(EntryColumn::Tick), ElementsAre("not ticked", "ticked"));
+    EXPECT_EQ(screen->news().text, "1 entry is ticked. 1 was left out, being doubtful: its row says why.");
+    reach(0);
+    pressSpace();
+    click(screen->cmdTickAll);
+    EXPECT_EQ(screen->news().text, "2 entries are ticked.");
+}
+
 TEST_F(ImportReview, LateEntriesAreSaidInTheHeadAndMayBeTicked)
 {
     putResults(); // 32 games
