@@ -38,6 +38,16 @@ void addNotWritten(std::vector<std::string>& lines, const Review& review, const 
         lines.push_back("  " + nameOf(review.rows[failed.row], failed.row) + ": " + failed.reason);
 }
 
+void addKept(std::vector<std::string>& lines, const Review& review, const ImportOutcome& outcome)
+{
+    if (outcome.kept.empty())
+        return;
+    lines.insert(lines.end(), {"", "What was no whole selection is kept:"});
+    for (const Kept& kept : outcome.kept)
+        lines.push_back("  " + nameOf(review.rows[kept.row], kept.row) + ": in the folder " +
+                        shown(kept.folder.filename()));
+}
+
 void addRefused(std::vector<std::string>& lines, const Review& review)
 {
     bool isFirst = true;
@@ -65,6 +75,9 @@ void addPlayers(std::vector<std::string>& lines, const ImportOutcome& outcome)
         lines.push_back(counted(outcome.playersAdded, "player was", "players were") + " added to the player list.");
     for (const std::string& player : outcome.playersAlike)
         lines.push_back("  " + player + ": the list cuts this name, and has another player who looks the same there.");
+    for (const std::string& player : outcome.playersWithSender)
+        lines.push_back("  " + player +
+                        ": the e-mail address does not fit into the list; that of the mail's sender was entered instead.");
     for (const std::string& player : outcome.playersWithoutAddress)
         lines.push_back("  " + player + ": the e-mail address does not fit into the list and was left out.");
 }
@@ -83,6 +96,7 @@ std::string summaryOf(const Review& review, const ImportOutcome& outcome)
     addCount(lines, outcome.unchanged, "identical to what was here");
     addCount(lines, unticked, "not ticked");
     addNotWritten(lines, review, outcome);
+    addKept(lines, review, outcome);
     addRefused(lines, review);
     addPlayers(lines, outcome);
     return joinLines(lines);

@@ -6,6 +6,7 @@
 #include "base/windows1252.h"
 #include "files/file_names.h"
 #include "files/player_names_file.h"
+#include "files/pool_backup.h"
 #include "files/replace_file.h"
 #include "files/selection_file.h"
 #include "intake/import_summary.h"
@@ -29,10 +30,24 @@ namespace {
 constexpr const char* kChangedMeanwhile = "The file has been changed since the review.";
 constexpr const char* kStopped = "The import was stopped before.";
 
-/// What becomes of a row: nothing is also "not begun".
-using Written = std::optional<Result<Done>>;
+namespace fs = std::filesystem;
 
-Result<Done> writeRow(const ReviewRow& row)
+/// What becomes of a row: the folder where what it replaced is kept, empty where that is not wanted. Nothing is also
+/// "not begun".
+using Written = std::optional<Result<fs::path>>;
+
+/// @param now for the name of the folder
+Result<fs::path> keepWhatIsDamaged(const ReviewRow& row, std::chrono::local_seconds now)
+{
+    if (!row.isDamagedHere)
+        return fs::path{};
+    Result<fs::path> kept = backUpFile(row.file, now);
+    if (kept)
+        return kept;
+    return Failure{"What is here could not be kept first: " + joined(linesOf(kept.failure().message), ": ")};
+}
+
+Result<fs::path> writeRow(const ReviewRow& row, std::chrono::local_seconds now)
 {
     bool isChanged = false;
     const auto mayReplace = [&] {
@@ -40,9 +55,19 @@ Result<Done> writeRow(const ReviewRow& row)
         return !isChanged;
     };
     if (row.effect == Effect::Identical)
-        return mayReplace() ? Result<Done>{Done{}} : Failure{kChangedMeanwhile};
-    Result<Done> written = replaceFile(row.file, bytesToWrite(row.handedIn), mayReplace);
-    return isChanged ? Result<Done>{Failure{kChangedMeanwhile}} : written;
+        return mayReplace() ? Result<fs::path>{fs::path{}} : Failure{kChangedMeanwhile};
+    if (row.isDamagedHere && !mayReplace())
+        return Failure{kChangedMeanwhile};
+    Result<fs::path> kept = keepWhatIsDamaged(row, now);
+    if (!kept)
+        return kept;
+    const Result<Done> written = replaceFile(row.file, bytesToWrite(row.handedIn), mayReplace);
+    if (written && !isChanged)
+        return kept;
+    std::error_code ignored;
+    if (!kept->empty())
+        fs::remove_all(*kept, ignored); // the file itself is still there
+    return isChanged ? Failure{kChangedMeanwhile} : written.failure();
 }
 
 /// Writes rows, several at a time. The caller's thread counts what is done and asks whether to go on: a row is begun
@@ -50,8 +75,9 @@ Result<Done> writeRow(const ReviewRow& row)
 class WritingAtOnce
 {
 public:
-    WritingAtOnce(const Review& review, std::span<const std::size_t> rows, std::size_t writers)
-        : m_review{review}, m_rows{rows}, m_written(rows.size()), m_mayBegin{std::min(writers, rows.size())}
+    WritingAtOnce(const Review& review, std::span<const std::size_t> rows, std::chrono::local_seconds now,
+                  std::size_t writers)
+        : m_review{review}, m_rows{rows}, m_now{now}, m_written(rows.size()), m_mayBegin{std::min(writers, rows.size())}
     {
     }
 
@@ -61,7 +87,7 @@ public:
         std::vector<std::jthread> threads = begun();
         for (std::size_t counted = 0; counted < m_rows.size(); ++counted) {
             if (threads.empty())
-                m_written[counted] = writeRow(m_review.rows[m_rows[counted]]);
+                m_written[counted] = writeRow(m_review.rows[m_rows[counted]], m_now);
             else
                 waitUntilDone(counted + 1);
             if (!step())
@@ -101,7 +127,7 @@ private:
             return false;
         const std::size_t next = m_next++;
         lock.unlock();
-        m_written[next] = writeRow(m_review.rows[m_rows[next]]);
+        m_written[next] = writeRow(m_review.rows[m_rows[next]], m_now);
         lock.lock();
         ++m_done;
         m_isDone.notify_one();
@@ -123,6 +149,7 @@ private:
 
     const Review& m_review;
     std::span<const std::size_t> m_rows;
+    std::chrono::local_seconds m_now;
     std::vector<Written> m_written; ///< each element is one thread's
     std::mutex m_mutex;             ///< for all that follows
     std::size_t m_mayBegin;         ///< how many rows may have been begun by now
@@ -156,10 +183,17 @@ std::vector<std::size_t> rowsToWrite(const Review& review, ImportOutcome& outcom
     return rows;
 }
 
+/// @returns whether the address that was given does not fit into the player list, but that of the mail does
+bool needsSender(const ReviewRow& row)
+{
+    const std::string& given = row.handedIn.email;
+    return !given.empty() && recordedAddress(given).empty() && !recordedAddress(row.handedIn.origin.sender).empty();
+}
+
 NewPlayer playerWithAddress(const ReviewRow& row)
 {
     NewPlayer player = playerOf(row);
-    player.email = row.handedIn.email;
+    player.email = needsSender(row) ? row.handedIn.origin.sender : row.handedIn.email;
     return player;
 }
 
@@ -199,6 +233,8 @@ void addPlayers(const Review& review, std::span<const std::size_t> rows, const D
         ++outcome.playersAdded;
         if (isAlike)
             outcome.playersAlike.push_back(player.name);
+        if (needsSender(review.rows[row]))
+            outcome.playersWithSender.push_back(player.name);
         if (!player.email.empty() && recordedAddress(player.email).empty())
             outcome.playersWithoutAddress.push_back(player.name);
     }
@@ -214,17 +250,19 @@ void addPlayers(const Review& review, std::span<const std::size_t> rows, const D
         return;
     outcome.playersAdded = 0;
     outcome.playersAlike.clear();
+    outcome.playersWithSender.clear();
     outcome.playersWithoutAddress.clear();
     outcome.playerListTrouble = isChanged ? "Another program has just changed it." : written.failure().message;
 }
 
 } // namespace
 
-ImportOutcome importTicked(const Review& review, const DataFolder& folder, const Step& step, std::size_t writers)
+ImportOutcome importTicked(const Review& review, const DataFolder& folder, std::chrono::local_seconds now,
+                           const Step& step, std::size_t writers)
 {
     ImportOutcome outcome;
     const std::vector<std::size_t> rows = rowsToWrite(review, outcome);
-    const std::vector<Written> written = WritingAtOnce{review, rows, writers}.write(step);
+    const std::vector<Written> written = WritingAtOnce{review, rows, now, writers}.write(step);
     std::vector<std::size_t> imported;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         if (!written[i] || !*written[i]) {
@@ -232,6 +270,8 @@ ImportOutcome importTicked(const Review& review, const DataFolder& folder, const
             continue;
         }
         imported.push_back(rows[i]);
+        if (const fs::path& backup = **written[i]; !backup.empty())
+            outcome.kept.push_back({rows[i], backup});
         const Effect effect = review.rows[rows[i]].effect;
         ++(effect == Effect::New         ? outcome.created
            : effect == Effect::Identical ? outcome.unchanged

@@ -80,9 +80,9 @@ void EntryPile::untickAll()
     m_decided.assign(size(), false);
 }
 
-EntryPile::Imported EntryPile::import(const Step& step)
+EntryPile::Imported EntryPile::import(std::chrono::local_seconds now, const Step& step)
 {
-    Imported imported{importTicked(m_review, m_folder, step), {}};
+    Imported imported{importTicked(m_review, m_folder, now, step), {}};
     std::set<std::size_t> left;
     for (const NotWritten& row : imported.outcome.notWritten)
         left.insert(row.row);

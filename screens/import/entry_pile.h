@@ -5,6 +5,7 @@
 #include "intake/importing.h"
 #include "intake/review.h"
 
+#include <chrono>
 #include <cstddef>
 #include <filesystem>
 #include <optional>
@@ -40,7 +41,8 @@ public:
     };
 
     /// Writes what is ticked. What was written leaves the pile; the others are held against the folder once more.
-    Imported import(const Step& step = goOn);
+    /// @param now local time
+    Imported import(std::chrono::local_seconds now, const Step& step = goOn);
 
     void clear();
 

@@ -22,14 +22,14 @@ std::string shownText(const std::string& text)
 
 std::string picksText(const ReviewRow& row) { return std::to_string(row.picks) + " of 63"; }
 
-/// @returns who sent it, or else the file that it came in
+/// @returns the address that the mail came from, or else the one that was given, or else the file that it came in
 std::string senderOf(const ReviewRow& row)
 {
     const Origin& origin = row.handedIn.origin;
-    if (!row.handedIn.email.empty())
-        return row.handedIn.email;
     if (!origin.sender.empty())
         return origin.sender;
+    if (!row.handedIn.email.empty())
+        return row.handedIn.email;
     return origin.file.empty() ? "pasted" : origin.file;
 }
 
@@ -87,7 +87,8 @@ std::string explanationOf(EntryColumn column)
     case EntryColumn::Total:
         return "The points of the final that the player predicts.";
     case EntryColumn::Sender:
-        return "The e-mail address; without one the file that it came in.";
+        return "The address that the mail came from, or else the one in the entry; without one the file that it came "
+               "in.";
     case EntryColumn::Words:
         break;
     }

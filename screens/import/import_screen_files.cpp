@@ -115,7 +115,7 @@ void ImportScreen::import()
     EntryPile::Imported imported;
     {
         Work work{m_platform.progress, "Importing selections", m_pile.ticked()};
-        imported = m_pile.import([&] { return work.step(); });
+        imported = m_pile.import(m_platform.clock.now(), [&] { return work.step(); });
     }
     m_summary = imported.outcome.summary + aboutBoard(imported.files);
     m_shared.board.selectionsWereWritten(imported.files);

@@ -19,6 +19,9 @@ using test::ScratchFolder;
 using test::upperEntry;
 using testing::HasSubstr;
 
+constexpr std::chrono::local_seconds kNow{std::chrono::local_days{std::chrono::year{2026} / 11 / 20} +
+                                          std::chrono::hours{10}};
+
 HandedIn entryFrom(Entry entry, std::string email = {})
 {
     return {std::move(entry), std::move(email), {"x.EML", "s@example.org", 1, {}}, {}, true};
@@ -31,7 +34,7 @@ Review reviewedIn(const ScratchFolder& scratch, std::vector<HandedIn> entries)
 
 ImportOutcome imported(const ScratchFolder& scratch, std::vector<HandedIn> entries)
 {
-    return importTicked(reviewedIn(scratch, std::move(entries)), scratch.folder());
+    return importTicked(reviewedIn(scratch, std::move(entries)), scratch.folder(), kNow);
 }
 
 std::string playerList(std::vector<PlayerRecord> records) { return playerNamesFile(records); }
@@ -62,12 +65,12 @@ TEST(Import, WritesWhatASaveOnTheBoardWould)
 TEST(Import, ReplacesTheFileThatIsHereUnderItsOwnName)
 {
     const ScratchFolder scratch;
-    scratch.put("ANN SMITH_AS.thc", "old");
+    scratch.put("ANN SMITH_AS.thc", selectionFile(upperEntry("Ann Smith", "AS", "99")));
     scratch.put("PLAYERNAMES.CSV", playerList({{"Ann Smith,AS", "ANN SMITH_AS.THC", "a@example.org", "1"}}));
     const std::string list = scratch.get("PLAYERNAMES.CSV");
-    Review review = reviewedIn(scratch, {entryFrom(upperEntry(), "other@example.org")});
+    Review review = reviewedIn(scratch, {entryFrom(upperEntry(), "a@example.org")});
     setTicked(review, 0, true);
-    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    const ImportOutcome outcome = importTicked(review, scratch.folder(), kNow);
     EXPECT_EQ(outcome.replaced, 1u);
     EXPECT_EQ(scratch.get("ANN SMITH_AS.thc"), savedAnn());
     EXPECT_FALSE(scratch.has("Ann Smith_as.THC"));
@@ -97,7 +100,7 @@ TEST(Import, TakesAnIncompleteOneThatIsTicked)
     open.picks.clear(kChampion);
     Review review = reviewedIn(scratch, {entryFrom(open)});
     setTicked(review, 0, true);
-    EXPECT_EQ(importTicked(review, scratch.folder()).created, 1u);
+    EXPECT_EQ(importTicked(review, scratch.folder(), kNow).created, 1u);
     EXPECT_EQ(scratch.get("Bob_B.THC"), selectionFile(open));
 }
 
@@ -108,7 +111,7 @@ TEST(Import, PutsAPlayerIntoTheListWhoseSelectionIsHereAlready)
     const fs::file_time_type before = fs::last_write_time(scratch.path() / "Ann Smith_as.THC");
     Review review = reviewedIn(scratch, {entryFrom(upperEntry())});
     setTicked(review, 0, true);
-    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    const ImportOutcome outcome = importTicked(review, scratch.folder(), kNow);
     EXPECT_EQ(outcome.unchanged, 1u);
     EXPECT_EQ(outcome.playersAdded, 1u);
     EXPECT_EQ(fs::last_write_time(scratch.path() / "Ann Smith_as.THC"), before) << "not written again";
@@ -121,7 +124,7 @@ TEST(Import, CallsNothingUnchangedThatHasChanged)
     Review review = reviewedIn(scratch, {entryFrom(upperEntry())});
     setTicked(review, 0, true);
     scratch.put("Ann Smith_as.THC", "somebody else's");
-    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    const ImportOutcome outcome = importTicked(review, scratch.folder(), kNow);
     EXPECT_EQ(outcome.unchanged, 0u);
     ASSERT_EQ(outcome.notWritten.size(), 1u);
     EXPECT_EQ(outcome.notWritten[0].reason, "The file has been changed since the review.");
@@ -132,7 +135,7 @@ TEST(Import, LeavesAFileAloneThatChangedSinceTheReview)
     const ScratchFolder scratch;
     const Review review = reviewedIn(scratch, {entryFrom(upperEntry()), entryFrom(upperEntry("Bob", "B"))});
     scratch.put("Ann Smith_as.THC", "somebody else's");
-    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    const ImportOutcome outcome = importTicked(review, scratch.folder(), kNow);
     EXPECT_EQ(scratch.get("Ann Smith_as.THC"), "somebody else's");
     EXPECT_TRUE(scratch.has("Bob_B.THC"));
     EXPECT_EQ(outcome.summary, "1 of 2 entries imported.\r\n"
@@ -150,7 +153,7 @@ TEST(Import, SaysWhyAFileCannotBeWritten)
     const ScratchFolder scratch;
     const Review review = reviewedIn(scratch, {entryFrom(upperEntry()), entryFrom(upperEntry("Bob", "B"))});
     fs::create_directory(scratch.path() / "Ann Smith_as.THC");
-    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    const ImportOutcome outcome = importTicked(review, scratch.folder(), kNow);
     ASSERT_EQ(outcome.notWritten.size(), 1u);
     EXPECT_EQ(outcome.notWritten[0].row, 0u);
     EXPECT_EQ(outcome.created, 1u);
@@ -164,7 +167,7 @@ TEST(Import, WritesOnlyTheLatestWhenSeveralAreTickedForOneFile)
     other.picks.put(kChampion, "Arizona");
     Review review = reviewedIn(scratch, {entryFrom(other), entryFrom(upperEntry())});
     review.rows[0].isTicked = review.rows[1].isTicked = true;
-    const ImportOutcome outcome = importTicked(review, scratch.folder());
+    const ImportOutcome outcome = importTicked(review, scratch.folder(), kNow);
     EXPECT_EQ(scratch.get("Ann Smith_as.THC"), savedAnn());
     ASSERT_EQ(outcome.notWritten.size(), 1u);
     EXPECT_EQ(outcome.notWritten[0].row, 0u);
@@ -181,10 +184,23 @@ TEST(Import, LeavesAFaultyPlayerListAsItIs)
     EXPECT_THAT(outcome.summary, HasSubstr("No player was added to the player list. There are faulty records in it."));
 }
 
-TEST(Import, SaysWhoseAddressDoesNotFit)
+TEST(Import, TakesTheSendersAddressWhenTheOneInTheEntryDoesNotFit)
 {
     const ScratchFolder scratch;
     const ImportOutcome outcome = imported(scratch, {entryFrom(upperEntry(), std::string(40, 'a') + "@example.org")});
+    EXPECT_THAT(
+        outcome.summary,
+        testing::EndsWith("1 player was added to the player list.\r\n  Ann Smith,as: the e-mail "
+                          "address does not fit into the list; that of the mail's sender was entered instead."));
+    EXPECT_EQ(scratch.get("PLAYERNAMES.CSV"), playerList({{"Ann Smith,as", "ANN SMITH_AS.THC", "s@example.org", ""}}));
+}
+
+TEST(Import, SaysWhoseAddressDoesNotFit)
+{
+    const ScratchFolder scratch;
+    HandedIn entry = entryFrom(upperEntry(), std::string(40, 'a') + "@example.org");
+    entry.origin.sender = std::string(41, 'b') + "@example.org";
+    const ImportOutcome outcome = imported(scratch, {entry});
     EXPECT_THAT(outcome.summary, HasSubstr("  Ann Smith,as: the e-mail address does not fit into the list and was left "
                                            "out."));
     EXPECT_THAT(scratch.get("PLAYERNAMES.CSV"), testing::Not(HasSubstr("aaa")));
@@ -207,7 +223,7 @@ TEST(Import, ListsEachOfThoseWhoLookTheSameInTheList)
     EXPECT_EQ(players[1].fileName, players[2].fileName);
 
     Review again = reviewedIn(scratch, {entryFrom(upperEntry(name + "senior", "F", "99"))});
-    EXPECT_EQ(importTicked(again, scratch.folder()).playersAdded, 0u) << "both have their records";
+    EXPECT_EQ(importTicked(again, scratch.folder(), kNow).playersAdded, 0u) << "both have their records";
 }
 
 TEST(Import, StopsWhenItIsToldTo)
@@ -216,7 +232,7 @@ TEST(Import, StopsWhenItIsToldTo)
     const Review review = reviewedIn(
         scratch, {entryFrom(upperEntry("A", "A")), entryFrom(upperEntry("B", "B")), entryFrom(upperEntry("C", "C"))});
     const ImportOutcome outcome = importTicked(
-        review, scratch.folder(), [] { return false; }, 1);
+        review, scratch.folder(), kNow, [] { return false; }, 1);
     EXPECT_EQ(outcome.created, 1u);
     EXPECT_TRUE(scratch.has("A_A.THC"));
     EXPECT_FALSE(scratch.has("B_B.THC"));
@@ -231,7 +247,7 @@ TEST(Import, CountsEveryEntryHoweverManyAreWrittenAtATime)
         entries.push_back(entryFrom(upperEntry("Player " + std::to_string(i), "P")));
     int steps = 0;
     const ImportOutcome outcome =
-        importTicked(reviewedIn(scratch, entries), scratch.folder(), [&] { return ++steps > 0; });
+        importTicked(reviewedIn(scratch, entries), scratch.folder(), kNow, [&] { return ++steps > 0; });
     EXPECT_EQ(outcome.created, 40u);
     EXPECT_EQ(steps, 40);
 }
@@ -244,7 +260,7 @@ TEST(Import, BeginsNothingMoreOnceItIsStopped)
         entries.push_back(entryFrom(upperEntry("Player " + std::to_string(i), "P")));
     int steps = 0;
     const auto stopAtThird = [&] { return ++steps < 3; };
-    const ImportOutcome outcome = importTicked(reviewedIn(scratch, entries), scratch.folder(), stopAtThird, 4);
+    const ImportOutcome outcome = importTicked(reviewedIn(scratch, entries), scratch.folder(), kNow, stopAtThird, 4);
     EXPECT_EQ(steps, 3) << "asked no more";
     EXPECT_GE(outcome.created, 3u);
     EXPECT_LE(outcome.created, 6u) << "four at first, and one more for each of the first two that were counted";

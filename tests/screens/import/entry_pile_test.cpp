@@ -123,7 +123,7 @@ TEST_F(EntryPileTest, NothingChangesWhenTheReviewIsStopped)
 TEST_F(EntryPileTest, WhatWasWrittenLeavesAndIsNamed)
 {
     pile.add({from("Al"), incomplete("Bo"), from("Cy")});
-    const EntryPile::Imported imported = pile.import();
+    const EntryPile::Imported imported = pile.import({});
     EXPECT_THAT(imported.files, ElementsAre(scratch.path() / "Al_X.THC", scratch.path() / "Cy_X.THC"));
     EXPECT_EQ(imported.outcome.created, 2u);
     ASSERT_EQ(pile.size(), 1u);
@@ -135,7 +135,7 @@ TEST_F(EntryPileTest, WhatWasNotTickedIsNotTickedAfterwards)
 {
     pile.add({from("Al"), from("Bo")});
     pile.setTicked(1, false);
-    pile.import();
+    pile.import({});
     EXPECT_EQ(pile.ticked(), 0u);
     pile.add({from("Cy")});
     EXPECT_THAT(ticked(), ElementsAre("Cy Duke"));

@@ -43,16 +43,17 @@ TEST(EntryWords, ACellForEachColumn)
     EXPECT_EQ(entryColumns().size(), entryCells(complete(), 4, false).size());
 }
 
-TEST(EntryWords, TheSenderIsTheAddressOrElseTheFile)
+TEST(EntryWords, TheSenderIsTheMailsOrElseTheAddressGivenOrElseTheFile)
 {
     const auto sender = [](const ReviewRow& row) {
         return entryCells(row, 0, false).at(static_cast<std::size_t>(EntryColumn::Sender));
     };
     ReviewRow row = complete();
     row.handedIn.email = "as@example.com";
-    EXPECT_EQ(sender(row), "as@example.com") << "the player's own";
-    row.handedIn.email.clear();
+    EXPECT_EQ(sender(row), "ann@example.org") << "anybody can give any address";
     row.handedIn.origin.sender.clear();
+    EXPECT_EQ(sender(row), "as@example.com") << "not from a mail";
+    row.handedIn.email.clear();
     EXPECT_EQ(sender(row), "mail.eml");
     row.handedIn.origin.file.clear();
     EXPECT_EQ(sender(row), "pasted");
