@@ -62,7 +62,7 @@ Result<fs::path> writeRow(const ReviewRow& row, std::chrono::local_seconds now)
     if (!kept)
         return kept;
     const Result<Done> written = replaceFile(row.file, bytesToWrite(row.handedIn), mayReplace);
-    if (written && !isChanged)
+    if (written)
         return kept;
     std::error_code ignored;
     if (!kept->empty())
