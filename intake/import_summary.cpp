@@ -76,8 +76,9 @@ void addPlayers(std::vector<std::string>& lines, const ImportOutcome& outcome)
     for (const std::string& player : outcome.playersAlike)
         lines.push_back("  " + player + ": the list cuts this name, and has another player who looks the same there.");
     for (const std::string& player : outcome.playersWithSender)
-        lines.push_back("  " + player +
-                        ": the e-mail address does not fit into the list; that of the mail's sender was entered instead.");
+        lines.push_back(
+            "  " + player +
+            ": the e-mail address does not fit into the list; that of the mail's sender was entered instead.");
     for (const std::string& player : outcome.playersWithoutAddress)
         lines.push_back("  " + player + ": the e-mail address does not fit into the list and was left out.");
 }
