@@ -35,9 +35,9 @@ TEST_F(BoardImport, IsOpenedFromTheMenuOnceTheFieldIsFinal)
 TEST_F(BoardImport, DroppedFilesAreLeftForIt)
 {
     loadFinalized();
-    board->filesDropped({"/tmp/a.THC", "/tmp/b.eml"});
+    board->filesDropped({"a.THC", "folder/b.eml"});
     EXPECT_THAT(screens.loads, ElementsAre(ScreenKind::Import));
-    EXPECT_THAT(droppedFiles, ElementsAre("/tmp/a.THC", "/tmp/b.eml"));
+    EXPECT_THAT(droppedFiles, ElementsAre("a.THC", "folder/b.eml"));
 }
 
 TEST_F(BoardImport, AnOpenSelectionIsShownAsItWasImported)
