@@ -120,8 +120,8 @@ Result<std::vector<CsvRow>> rowsByTheirSeparator(std::string_view text)
             continue;
         Result<std::vector<CsvRow>> rows = CsvReader{text, separator}.read();
         const Alike alike = rows ? alikeIn(*rows) : Alike{};
-        if (alike.isMoreThan(most) ||
-            (!rows && most.rows == 0)) { // a failure says more than cells that are whole lines
+        const bool saysMore = !rows && most.rows == 0; // than cells that are whole lines
+        if (alike.isMoreThan(most) || saysMore) {
             most = alike;
             best = std::move(rows);
         }
