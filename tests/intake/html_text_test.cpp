@@ -40,6 +40,7 @@ TEST(TextOfHtml, LeavesOutWhatIsNotShown)
     EXPECT_EQ(textOfHtml("<html><head><title>t</title><style>p{}</style></head><body>a<!-- > b -->c"
                          "<SCRIPT>Name: x</SCRIPT>d</body>"),
               "acd");
+    EXPECT_EQ(textOfHtml("a<style>p{}</style>b"), "ab") << "also in the body, where mail programs put it";
     EXPECT_EQ(textOfHtml("a<script>b"), "a") << "never closed";
     EXPECT_EQ(textOfHtml("a<!-- b"), "a");
 }
@@ -47,6 +48,7 @@ TEST(TextOfHtml, LeavesOutWhatIsNotShown)
 TEST(TextOfHtml, TakesALoneAngleBracketForItself)
 {
     EXPECT_EQ(textOfHtml("1 < 2 <3"), "1 < 2 <3");
+    EXPECT_EQ(textOfHtml("1 < 2<br>3"), "1 < 2\n3") << "tags that follow are tags";
     EXPECT_EQ(textOfHtml("a <b"), "a <b") << "no tag: it never ends";
     EXPECT_EQ(textOfHtml("<"), "<");
 }
