@@ -8,6 +8,7 @@ import unittest
 from handed_in import form_text, mail, points_of, selection_bytes, some_winners
 from pool_2000 import FIELD, selection, setup_file
 from program import Program, centre
+from without_mouse import WithoutMouse
 
 GOOD = range(40)
 PLAYED = {position: team for position, team in some_winners("results").items() if position < 109}  # no South
@@ -241,18 +242,7 @@ class ImportByMouse(Import):
         self.assertEqual(self.program.read("Player 00_PL.THC"), bytes_of(0))
 
 
-class ImportByKeyboard(Import):
-    def setUp(self):
-        super().setUp()
-        self.program.move = self.program.press = self.program.click = self.program.drag = None  # no mouse
-
-    def focused(self, name):
-        self.program.wait(lambda: self.program.widget(name)["focus"], f"{name} having the focus")
-
-    def mnemonic(self, name):
-        caption = self.program.text(name)
-        self.program.key("Alt+" + caption[caption.index("&") + 1].lower())
-
+class ImportByKeyboard(WithoutMouse, Import):
     def tab_to(self, name):
         for _ in range(30):
             if self.program.widget(name)["focus"]:

@@ -4,6 +4,7 @@ import unittest
 
 from pool_2000 import FIELD, selection, setup_file
 from program import Program, centre
+from without_mouse import WithoutMouse
 
 WHAT_IF = "What if: nothing here is saved"
 AS_ENTERED = "The results as entered"
@@ -212,18 +213,7 @@ class OutlookByMouse(Outlook):
         self.players_are(("Player", "Points"), ("A, Ann", "80"), ("B, Bob", "100"))
 
 
-class OutlookByKeyboard(Outlook):
-    def setUp(self):
-        super().setUp()
-        self.program.move = self.program.press = self.program.click = self.program.drag = None  # no mouse
-
-    def focused(self, name):
-        self.program.wait(lambda: self.program.widget(name)["focus"], f"{name} having the focus")
-
-    def mnemonic(self, name):
-        caption = self.program.text(name)
-        self.program.key("Alt+" + caption[caption.index("&") + 1].lower())
-
+class OutlookByKeyboard(WithoutMouse, Outlook):
     def tab_to(self, is_there, what):
         for _ in range(40):
             if is_there():
