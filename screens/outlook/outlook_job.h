@@ -1,8 +1,8 @@
 // screens/outlook/outlook_job.h - all that is worked out for one supposition, what is wanted first at first.
 #pragma once
 
+#include "pool/outlook/outlook_work.h"
 #include "pool/outlook/road.h"
-#include "screens/outlook/outlook_work.h"
 
 #include <cstddef>
 #include <memory>

@@ -1,9 +1,9 @@
 // screens/outlook/outlook_worker.h - has the outlook worked out in the background, and gives what is known by now.
 #pragma once
 
+#include "pool/outlook/outlook_work.h"
 #include "pool/outlook/road.h"
-#include "screens/outlook/outlook_work.h"
-#include "screens/outlook/worked_out.h"
+#include "pool/outlook/worked_out.h"
 #include "ui/background.h"
 
 #include <array>

@@ -1,8 +1,8 @@
 // tests/screens/outlook/game_swings_test.cpp - what a game means to one player and to all.
 #include "screens/outlook/game_swings.h"
 
+#include "pool/outlook/final_pool.h"
 #include "pool/outlook/first_count.h"
-#include "screens/outlook/final_pool.h"
 
 #include <gmock/gmock.h>
 

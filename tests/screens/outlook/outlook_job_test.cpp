@@ -1,9 +1,9 @@
 // tests/screens/outlook/outlook_job_test.cpp - in which order a job finds things, and what it leaves to the next.
 #include "screens/outlook/outlook_job.h"
 
+#include "pool/outlook/duel_pool.h"
+#include "pool/outlook/final_pool.h"
 #include "pool/outlook/invented_pools.h"
-#include "screens/outlook/duel_pool.h"
-#include "screens/outlook/final_pool.h"
 
 #include <gmock/gmock.h>
 

@@ -5,7 +5,7 @@
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "screens/outlook/final_pool.h"
+#include "pool/outlook/final_pool.h"
 #include "screens/outlook/outlook_screen.h"
 
 #include <algorithm>

@@ -3,7 +3,7 @@
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
-#include "screens/outlook/duel_pool.h"
+#include "pool/outlook/duel_pool.h"
 #include "screens/outlook/outlook_screen.h"
 
 #include <gmock/gmock.h>

@@ -2,8 +2,8 @@
 #include "screens/outlook/outlook_worker.h"
 
 #include "fakes/fake_background.h"
+#include "pool/outlook/final_pool.h"
 #include "pool/outlook/invented_pools.h"
-#include "screens/outlook/final_pool.h"
 #include "ui/background_thread.h"
 
 #include <gmock/gmock.h>

@@ -5,7 +5,7 @@
 #include "fakes/fake_screens.h"
 #include "fakes/scratch_folder.h"
 #include "files/selection_file.h"
-#include "screens/outlook/final_pool.h"
+#include "pool/outlook/final_pool.h"
 
 #include <filesystem>
 #include <fmt/format.h>

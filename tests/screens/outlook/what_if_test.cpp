@@ -1,8 +1,8 @@
 // tests/screens/outlook/what_if_test.cpp - supposing winners, taking them back, undo.
 #include "screens/outlook/what_if.h"
 
+#include "pool/outlook/final_pool.h"
 #include "pool/outlook/open_games.h"
-#include "screens/outlook/final_pool.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-// tests/screens/outlook/final_pool.h - a pool of three before its last game: each is first in one of the two outcomes.
+// tests/pool/outlook/final_pool.h - a pool of three before its last game: each is first in one of the two outcomes.
 #pragma once
 
 #include "pool/moves.h"

@@ -1,4 +1,4 @@
-// screens/outlook/outlook_work.h - works an outlook out in slices: what is certain, who is first how often, which
+// pool/outlook/outlook_work.h - works an outlook out in slices: what is certain, who is first how often, which
 // places.
 #pragma once
 
@@ -12,7 +12,7 @@
 #include "pool/outlook/forecast.h"
 #include "pool/outlook/place_count.h"
 #include "pool/outlook/prospects.h"
-#include "screens/outlook/worked_out.h"
+#include "pool/outlook/worked_out.h"
 
 #include <cstddef>
 #include <cstdint>

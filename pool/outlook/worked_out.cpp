@@ -1,5 +1,5 @@
-// screens/outlook/worked_out.cpp - which results something is kept of.
-#include "screens/outlook/worked_out.h"
+// pool/outlook/worked_out.cpp - which results something is kept of.
+#include "pool/outlook/worked_out.h"
 
 namespace tallyhoop {
 

@@ -1,5 +1,5 @@
-// screens/outlook/outlook_work.cpp - which parts the work has, and what each adds to what is known.
-#include "screens/outlook/outlook_work.h"
+// pool/outlook/outlook_work.cpp - which parts the work has, and what each adds to what is known.
+#include "pool/outlook/outlook_work.h"
 
 #include <algorithm>
 #include <memory>

@@ -1,4 +1,4 @@
-// screens/outlook/worked_out.h - what has been found of some results, to be kept when other ones are looked at.
+// pool/outlook/worked_out.h - what has been found of some results, to be kept when other ones are looked at.
 #pragma once
 
 #include "pool/bracket.h"

@@ -1,10 +1,10 @@
-// tests/screens/outlook/worked_out_test.cpp - of which results something is kept, and what the next work does with it.
-#include "screens/outlook/worked_out.h"
+// tests/pool/outlook/worked_out_test.cpp - of which results something is kept, and what the next work does with it.
+#include "pool/outlook/worked_out.h"
 
+#include "pool/outlook/duel_pool.h"
+#include "pool/outlook/final_pool.h"
 #include "pool/outlook/invented_pools.h"
-#include "screens/outlook/duel_pool.h"
-#include "screens/outlook/final_pool.h"
-#include "screens/outlook/outlook_work.h"
+#include "pool/outlook/outlook_work.h"
 
 #include <gmock/gmock.h>
 

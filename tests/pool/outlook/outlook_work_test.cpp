@@ -1,9 +1,9 @@
-// tests/screens/outlook/outlook_work_test.cpp - the parts of the work, their order, slices and stopping.
-#include "screens/outlook/outlook_work.h"
+// tests/pool/outlook/outlook_work_test.cpp - the parts of the work, their order, slices and stopping.
+#include "pool/outlook/outlook_work.h"
 
+#include "pool/outlook/duel_pool.h"
+#include "pool/outlook/final_pool.h"
 #include "pool/outlook/invented_pools.h"
-#include "screens/outlook/duel_pool.h"
-#include "screens/outlook/final_pool.h"
 
 #include <gmock/gmock.h>
 

@@ -1,7 +1,7 @@
-// tests/screens/outlook/duel_pool.h - a pool of two with sixteen open games, one of which decides between them.
+// tests/pool/outlook/duel_pool.h - a pool of two with sixteen open games, one of which decides between them.
 #pragma once
 
-#include "screens/outlook/final_pool.h"
+#include "pool/outlook/final_pool.h"
 
 namespace tallyhoop::test {
 
