@@ -204,12 +204,17 @@ void showTrouble(ui::Dialogs& dialogs, const Failure& failure)
     dialogs.show({"", failure.message, ui::Buttons::Ok, ui::Icon::Critical});
 }
 
+void showFaultyPlayerList(ui::Dialogs& dialogs, const Failure& fault)
+{
+    dialogs.show({"** ERROR Found in PLAYERNAMES.CSV file **", fault.message, ui::Buttons::Ok, ui::Icon::Critical,
+                  help_topic::kRepair});
+}
+
 bool playerListIsSound(ui::Dialogs& dialogs, const DataFolder& folder)
 {
     const Result<Done> checked = checkPlayerNames(folder);
     if (!checked)
-        dialogs.show({"** ERROR Found in PLAYERNAMES.CSV file **", checked.failure().message, ui::Buttons::Ok,
-                      ui::Icon::Critical, help_topic::kRepair});
+        showFaultyPlayerList(dialogs, checked.failure());
     return static_cast<bool>(checked);
 }
 

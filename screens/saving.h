@@ -58,6 +58,9 @@ std::string showFolder(const ui::Platform& platform, const DataFolder& folder);
 /// Shows what is wrong, without a caption of its own.
 void showTrouble(ui::Dialogs& dialogs, const Failure& failure);
 
+/// Shows what is wrong with the player list.
+void showFaultyPlayerList(ui::Dialogs& dialogs, const Failure& fault);
+
 /// Checks the player list and says what is wrong with it. @returns whether it can be used
 bool playerListIsSound(ui::Dialogs& dialogs, const DataFolder& folder);
 

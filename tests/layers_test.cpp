@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 using Rooms = std::set<std::string>;
 
-const Rooms kCore = {"base", "pool", "files", "intake", "reports", "ui", "screens", "demo"};
+const Rooms kCore = {"base", "pool", "files", "intake", "reports", "output", "ui", "screens", "demo"};
 
 /// What each room may include beside itself.
 const std::map<std::string, Rooms> kMayInclude = {
@@ -27,11 +27,12 @@ const std::map<std::string, Rooms> kMayInclude = {
     {"files", {"pool", "base"}},
     {"intake", {"files", "pool", "base"}},
     {"reports", {"pool", "base"}},
+    {"output", {"reports", "files", "pool", "base"}},
     {"demo", {"files", "pool", "base"}},
     {"ui", {"base"}},
-    {"screens", {"ui", "reports", "demo", "intake", "files", "pool", "base"}},
-    {"qt", {"screens", "ui", "reports", "demo", "intake", "files", "pool", "base"}},
-    {"app", {"qt", "screens", "ui", "reports", "demo", "intake", "files", "pool", "base"}},
+    {"screens", {"ui", "output", "reports", "demo", "intake", "files", "pool", "base"}},
+    {"qt", {"screens", "ui", "output", "reports", "demo", "intake", "files", "pool", "base"}},
+    {"app", {"qt", "screens", "ui", "output", "reports", "demo", "intake", "files", "pool", "base"}},
 };
 
 struct Include {

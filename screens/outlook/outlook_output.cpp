@@ -3,11 +3,11 @@
 
 #include "base/lines.h"
 #include "reports/outlook_words.h"
+#include "reports/score_list.h"
 #include "screens/outlook/outlook_rows.h"
 #include "screens/outlook/outlook_words.h"
 #include "screens/printouts.h"
 #include "screens/reports/report_output.h"
-#include "screens/scores/score_printout.h"
 #include "screens/spreadsheet.h"
 
 #include <array>

@@ -1,26 +1,15 @@
-// screens/reports/report_maker.h - makes any of the seven reports: checks what it needs, reads, scores, lays out.
+// screens/reports/report_maker.h - makes any of the seven reports under a progress window, and names damaged files.
 #pragma once
 
 #include "files/data_folder.h"
-#include "pool/entry.h"
-#include "reports/report_layout.h"
-#include "reports/report_table.h"
+#include "output/report_making.h"
 #include "ui/platform.h"
 
-#include <optional>
 #include <span>
 #include <string>
 #include <variant>
-#include <vector>
 
 namespace tallyhoop {
-
-/// What becomes of a report's tick, and of the reports after it, when there is no report.
-enum class WithoutReport {
-    Untick,
-    KeepTick,
-    EndRun, ///< the person has cancelled: every tick stays, and no further report is made
-};
 
 /// Why there is no report.
 struct NoReport {
@@ -47,37 +36,6 @@ public:
     MadeReport make(const ReportKind& kind, const std::string& title, std::span<const FolderFile> files);
 
 private:
-    struct Request {
-        const ReportKind& kind;
-        const std::string& title;
-        std::span<const FolderFile> files;
-    };
-
-    MadeReport makeLines(const Request& request);
-    MadeReport makeStandings(const Request& request);
-    MadeReport makePlayerListing(const Request& request);
-    MadeReport makeTeamSelection(const Request& request);
-    MadeReport makePlayerSelectionDetail(const Request& request);
-    MadeReport makeResultsByPlayer(const Request& request);
-    MadeReport makeResultsByTeam(const Request& request);
-
-    /// What every report that scores is made of.
-    struct ScoringInput {
-        Bracket results;
-        std::vector<Entry> entries;
-        Payoffs payoffs{};
-    };
-
-    /// The readers of that input say why there can be no report, or nothing and fill what they are given.
-    /// @param reportAsNamed the end of the sentence for a pool without players
-    std::optional<NoReport> readResults(const Request& request, const char* reportAsNamed, ScoringInput& input);
-    std::optional<NoReport> readEntriesAndPayoffs(const Request& request, ScoringInput& input);
-    std::optional<NoReport> readForProjection(const Request& request, const char* reportAsNamed, ScoringInput& input);
-
-    /// @param like the bracket in which most of the picked teams are expected
-    /// @returns nothing when the person cancelled
-    std::optional<std::vector<Entry>> readPlayers(const Request& request, const Bracket& like);
-
     const DataFolder& m_folder;
     const ui::Platform& m_platform;
     const Field& m_field;

@@ -1,104 +1,34 @@
-// screens/scores/score_printout.cpp - columns as wide as what they hold, in a fixed-pitch font.
+// screens/scores/score_printout.cpp - what is shown, as it goes out.
 #include "screens/scores/score_printout.h"
 
 #include "base/text.h"
+#include "reports/score_list.h"
 #include "screens/spreadsheet.h"
-
-#include <algorithm>
-#include <array>
-#include <cstddef>
-#include <fmt/format.h>
-#include <utility>
 
 namespace tallyhoop {
 
 namespace {
 
-constexpr std::size_t kNarrow = 5;        ///< columns up to this width hold numbers
-constexpr std::size_t kNumberWidth = 6;   ///< and are printed to the right in this one
-constexpr std::size_t kWidestFormat = 38; ///< a longer text is printed whole, without padding for the others
-constexpr std::size_t kMargin = 5;
-constexpr std::size_t kGap = 2;
-
-using Row = std::vector<std::string>;
-
-/// The table as it is printed: headings first, something in every cell.
-std::vector<Row> tableOf(const ui::Grid& grid)
+std::vector<std::string> headingsOf(const ui::Grid& grid)
 {
-    std::vector<Row> table{{}};
+    std::vector<std::string> headings;
+    headings.reserve(grid.columns.size());
     for (const ui::GridColumn& column : grid.columns)
-        // cppcheck-suppress containerOutOfBounds  ; one row, an empty one, is there
-        table.front().push_back(column.heading);
-    table.insert(table.end(), grid.rows.begin(), grid.rows.end());
-    for (Row& row : table)
-        for (std::string& cell : row)
-            if (cell.empty())
-                cell = " ";
-    return table;
-}
-
-std::vector<std::size_t> widthsOf(const std::vector<Row>& table)
-{
-    std::vector<std::size_t> widths(table.front().size());
-    for (const Row& row : table)
-        for (std::size_t column = 0; column < widths.size(); ++column)
-            widths[column] = std::max(widths[column], row[column].size());
-    return widths;
-}
-
-std::string missingBlanks(const std::string& text, std::size_t width)
-{
-    return blanks(width > text.size() ? width - text.size() : 0);
-}
-
-std::string printedCell(const std::string& text, std::size_t columnWidth)
-{
-    if (columnWidth <= kNarrow)
-        return missingBlanks(text, kNumberWidth) + text;
-    return text + missingBlanks(text, std::min(columnWidth, kWidestFormat));
-}
-
-std::string printedRow(const Row& row, const std::vector<std::size_t>& widths)
-{
-    std::string line = blanks(kMargin);
-    for (std::size_t column = 0; column < row.size(); ++column) {
-        if (column > 0)
-            line += blanks(kGap);
-        line += printedCell(row[column], widths[column]);
-    }
-    return asOneLine(std::move(line)); // the name of a file can hold line breaks
+        headings.push_back(column.heading);
+    return headings;
 }
 
 } // namespace
 
-std::string shortDate(std::chrono::year_month_day day)
-{
-    constexpr std::array<const char*, 12> kMonths = {"January",   "February", "March",    "April",
-                                                     "May",       "June",     "July",     "August",
-                                                     "September", "October",  "November", "December"};
-    const int yearOfCentury = (static_cast<int>(day.year()) % 100 + 100) % 100;
-    return fmt::format("{}-{}-{:02}", static_cast<unsigned>(day.day()),
-                       kMonths.at(static_cast<unsigned>(day.month()) - 1), yearOfCentury);
-}
-
 std::vector<std::string> scorePrintout(const ui::Grid& grid, std::chrono::year_month_day day)
 {
-    const std::vector<Row> table = tableOf(grid);
-    const std::vector<std::size_t> widths = widthsOf(table);
-    std::vector<std::string> lines{blanks(kMargin) + "           TALLYHOOP POINT SUMMARY: " + shortDate(day), "", "",
-                                   printedRow(table.front(), widths), ""};
-    for (std::size_t row = 1; row < table.size(); ++row)
-        lines.push_back(printedRow(table[row], widths));
-    return lines;
+    return scoreListLines(headingsOf(grid), grid.rows, day);
 }
 
 std::string tabSeparated(const ui::Grid& grid)
 {
-    std::vector<std::string> headings;
-    for (const ui::GridColumn& column : grid.columns)
-        headings.push_back(column.heading);
-    std::string text = joined(headings, "\t").append(kLineBreak); // ours: "-MAX-" stays as it is
-    for (const Row& row : grid.rows)
+    std::string text = joined(headingsOf(grid), "\t").append(kLineBreak); // ours: "-MAX-" stays as it is
+    for (const std::vector<std::string>& row : grid.rows)
         text += tabSeparatedLine(row);
     return text;
 }

@@ -9,9 +9,6 @@
 
 namespace tallyhoop {
 
-/// @returns a date in English, whatever the computer's language, such as "5-March-01"
-std::string shortDate(std::chrono::year_month_day day);
-
 /// @returns the printed lines: a title with the date, the headings, and the rows, columns in the order on screen
 std::vector<std::string> scorePrintout(const ui::Grid& grid, std::chrono::year_month_day day);
 

@@ -112,47 +112,29 @@ std::vector<std::size_t> sorted(std::span<SortRow> rows, CompareCells compare)
     return places;
 }
 
-/// A heading, and how wide its column is in characters.
-ui::GridColumn headingOf(ScoreColumn column)
+/// A column, and how wide it is in characters.
+ui::GridColumn gridColumnOf(ScoreColumn column)
 {
     switch (column) {
     case ScoreColumn::FileName:
-        return {"File Name", ui::Alignment::Left, 32};
+        return {headingOf(column), ui::Alignment::Left, 32};
     case ScoreColumn::PlayerName:
-        return {"Player Name", ui::Alignment::Left, 19};
+        return {headingOf(column), ui::Alignment::Left, 19};
     case ScoreColumn::Score:
-        return {"Score", ui::Alignment::Right, 8};
+        return {headingOf(column), ui::Alignment::Right, 8};
     case ScoreColumn::Maximum:
-        return {"-MAX-", ui::Alignment::Right, 6};
+        return {headingOf(column), ui::Alignment::Right, 6};
     case ScoreColumn::WinningPick:
         break;
     }
-    return {"Winning Pick", ui::Alignment::Left, 23};
+    return {headingOf(column), ui::Alignment::Left, 23};
 }
 
 } // namespace
 
-std::string cellOf(const PlayerScore& score, ScoreColumn column)
-{
-    switch (column) {
-    case ScoreColumn::FileName:
-        return score.fileName;
-    case ScoreColumn::PlayerName:
-        return score.playerName;
-    case ScoreColumn::Score:
-        return std::to_string(score.points);
-    case ScoreColumn::Maximum:
-        return std::to_string(score.maxPoints);
-    case ScoreColumn::WinningPick:
-        break;
-    }
-    return score.winningPick;
-}
-
 void ScoreTable::begin(std::vector<ListedScore> rows)
 {
-    m_columns = {ScoreColumn::FileName, ScoreColumn::PlayerName, ScoreColumn::Score, ScoreColumn::Maximum,
-                 ScoreColumn::WinningPick};
+    m_columns.assign(kScoreColumns.begin(), kScoreColumns.end());
     m_rows = std::move(rows);
     ++m_revision;
 }
@@ -209,7 +191,7 @@ void ScoreTable::show(ui::Grid& grid) const
         return;
     grid.columns.clear();
     for (const ScoreColumn column : m_columns)
-        grid.columns.push_back(headingOf(column));
+        grid.columns.push_back(gridColumnOf(column));
     grid.rows.clear();
     grid.rows.reserve(m_rows.size());
     for (const ListedScore& row : m_rows)

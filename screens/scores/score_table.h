@@ -3,6 +3,7 @@
 
 #include "files/data_folder.h"
 #include "pool/scoring.h"
+#include "reports/score_list.h"
 #include "ui/control.h"
 
 #include <cstddef>
@@ -11,16 +12,11 @@
 
 namespace tallyhoop {
 
-enum class ScoreColumn { FileName, PlayerName, Score, Maximum, WinningPick };
-
 /// A player's row, and the file that was scored.
 struct ListedScore {
     PlayerScore score;
     FolderFile file;
 };
-
-/// @returns what a cell shows
-std::string cellOf(const PlayerScore& score, ScoreColumn column);
 
 class ScoreTable
 {

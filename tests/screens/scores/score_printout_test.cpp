@@ -1,6 +1,8 @@
 // tests/screens/scores/score_printout_test.cpp - the printed table, line by line, and the copied one.
 #include "screens/scores/score_printout.h"
 
+#include "reports/score_list.h"
+
 #include "ui/screen.h"
 
 #include <algorithm>
