@@ -1,11 +1,11 @@
 // intake/entry_table.cpp - which column is what, and a row after another.
 #include "intake/entry_table.h"
 
+#include "base/csv_cells.h"
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "intake/addresses.h"
 #include "intake/ascii_search.h"
-#include "intake/csv_cells.h"
 #include "intake/game_words.h"
 #include "intake/limits.h"
 #include "intake/plain_text.h"

@@ -1,8 +1,8 @@
 // tests/fuzz/handed_in.cpp - arbitrary bytes as text, table and page that somebody hands in.
 #include "fuzz/targets.h"
 
+#include "base/csv_cells.h"
 #include "files/selection_file.h"
-#include "intake/csv_cells.h"
 #include "intake/entry_readers.h"
 #include "intake/entry_refusals.h"
 #include "intake/entry_table.h"

@@ -1,5 +1,5 @@
-// tests/intake/csv_cells_test.cpp - rows and cells, quotation marks, separators and formulas.
-#include "intake/csv_cells.h"
+// tests/base/csv_cells_test.cpp - rows and cells, quotation marks, separators and formulas.
+#include "base/csv_cells.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// intake/csv_cells.h - tables as comma-separated values: rows of cells, and the quotation that keeps them apart.
+// base/csv_cells.h - tables as comma-separated values: rows of cells, and the quotation that keeps them apart.
 //
 // As RFC 4180 has it; the separator may be a semicolon, which spreadsheets write where the comma is the decimal point,
 // or a tab: of the three that which gives most rows the same number of cells, or the one that a first line such as

@@ -1,5 +1,5 @@
-// intake/csv_cells.cpp - one character after another; a quotation mark inside of quotation marks is doubled.
-#include "intake/csv_cells.h"
+// base/csv_cells.cpp - one character after another; a quotation mark inside of quotation marks is doubled.
+#include "base/csv_cells.h"
 
 #include "base/text.h"
 
