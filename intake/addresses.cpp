@@ -65,6 +65,12 @@ std::string firstAddressIn(std::string_view text)
     return {};
 }
 
+bool isAddressForEntries(std::string_view text)
+{
+    constexpr std::size_t kLongestAddress = 254; // that a mail server takes
+    return text.size() <= kLongestAddress && firstAddressIn(text) == text;
+}
+
 bool namesAddress(std::string_view text, std::string_view address)
 {
     for (std::size_t at = text.find('@'); at != std::string_view::npos; at = text.find('@', at + 1))

@@ -10,6 +10,10 @@ namespace tallyhoop {
 ///          when there is none
 std::string firstAddressIn(std::string_view text);
 
+/// @returns whether the whole text is an address that entries can be sent to: one that every program reads there, and
+///          firstAddressIn() finds in mails
+bool isAddressForEntries(std::string_view text);
+
 /// @returns whether an address is one of those in a text, in any case of its letters
 bool namesAddress(std::string_view text, std::string_view address);
 

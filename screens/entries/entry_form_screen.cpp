@@ -15,16 +15,12 @@ namespace tallyhoop {
 namespace {
 
 constexpr const char* kCaption = "Entry Form";
-constexpr std::size_t kLongestAddress = 254; ///< that a mail server takes
 
 const ui::Message kNoAddress{kCaption,
                              "This is not an e-mail address that brackets can be sent to.\r\n"
                              "Enter one, such as ann@example.org, or leave the box empty:\r\n"
                              "then the players' mail programs ask whom to send to.",
                              ui::Buttons::Ok, ui::Icon::Exclamation, help_topic::kEntries};
-
-/// Whatever is made of it, every program has to read the same address there: the one that the import finds in mails.
-bool isAddress(const std::string& text) { return text.size() <= kLongestAddress && firstAddressIn(text) == text; }
 
 /// What players read who have never heard of the page.
 MailText invitation(const Field& field)
@@ -62,7 +58,7 @@ void EntryFormScreen::closeRequested() { m_screens.unload(ScreenKind::EntryForm)
 bool EntryFormScreen::takeAddress()
 {
     std::string address = withoutOuterBlanks(txtOrganiser.text);
-    if (!address.empty() && !isAddress(address)) {
+    if (!address.empty() && !isAddressForEntries(address)) {
         focused = &txtOrganiser;
         m_platform.dialogs.show(kNoAddress);
         return false;

@@ -49,5 +49,16 @@ TEST(Addresses, OfWritersAreTheLastOnesNamed)
     EXPECT_EQ(lastWriterIn("a@x.example"), "");
 }
 
+TEST(Addresses, ForEntriesAreWholeTexts)
+{
+    EXPECT_TRUE(isAddressForEntries("ann@x.example"));
+    EXPECT_FALSE(isAddressForEntries("Ann <ann@x.example>"));
+    EXPECT_FALSE(isAddressForEntries(" ann@x.example"));
+    EXPECT_FALSE(isAddressForEntries("ann"));
+    const std::string host = "@x.example";
+    EXPECT_TRUE(isAddressForEntries(std::string(254 - host.size(), 'a') + host));
+    EXPECT_FALSE(isAddressForEntries(std::string(255 - host.size(), 'a') + host)) << "no mail server takes it";
+}
+
 } // namespace
 } // namespace tallyhoop
