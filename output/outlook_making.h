@@ -21,6 +21,9 @@ struct MadeOutlook {
     std::vector<OutlookRow> rows; ///< the largest shares of first place first
     OutlookFigures figures;
     std::shared_ptr<const FirstOutlook> firsts; ///< who is first in how many outcomes; nothing = not counted
+
+    /// Whether every outcome was counted, and by these chances.
+    bool isExact() const { return firsts != nullptr && figures.source == ChanceSource::Counted; }
 };
 
 /// Takes as long as the screen does: from some milliseconds to half a minute.

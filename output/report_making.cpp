@@ -10,6 +10,7 @@
 #include "files/selection_file.h"
 #include "pool/projection.h"
 #include "pool/scoring.h"
+#include "reports/csv_tables.h"
 #include "reports/player_listing.h"
 #include "reports/player_selection_detail.h"
 #include "reports/results_by_player.h"
@@ -109,13 +110,40 @@ ReportMaking::Made ReportMaking::make(const ReportKind& kind, const std::string&
     return made;
 }
 
-/// @param work gives the report, or why there is none; what it gives does not count when it was stopped
-ReportMaking::Made ReportMaking::watched(const Request& request, std::size_t steps,
-                                         const std::function<Made(const Step&)>& work)
+ReportMaking::MadeCsv ReportMaking::makeCsv(const ReportKind& kind, std::span<const FolderFile> files)
 {
-    Made made;
-    const bool isWhole = m_watcher.watch(request.kind.name, steps, [&](const Step& step) { made = work(step); });
-    return isWhole ? std::move(made) : cancelled(request.kind);
+    const Request request{kind, {}, files};
+    MadeCsv made = failed(kind, {});
+    const auto take = [&](const Result<std::string>& table) {
+        if (table)
+            made = *table;
+        else
+            made = failed(kind, table.failure().message);
+    };
+    std::optional<ReportRefusal> refusal;
+    if (kind.id == ReportId::TournamentStandings)
+        refusal = scoreAll(request, [&](const auto& scores) { take(standingsCsv(scores)); });
+    else if (kind.id == ReportId::TeamSelectionSummary)
+        refusal = packPicks(request, [&](const auto& picks) { take(picksCsv(picks)); });
+    else if (kind.id == ReportId::TeamSelectionDetail)
+        refusal = packPicks(request, [&](const auto& picks) { take(picksByPlayerCsv(picks)); });
+    return refusal ? *std::move(refusal) : std::move(made);
+}
+
+ReportMaking::MadeScores ReportMaking::makeScores(std::span<const FolderFile> files)
+{
+    MadeScores made;
+    std::optional<ReportRefusal> refusal = scoreAll({reportKind(ReportId::TournamentStandings), {}, files},
+                                                    [&](const std::vector<PlayerScore>& scores) { made = scores; });
+    return refusal ? *std::move(refusal) : std::move(made);
+}
+
+std::optional<ReportRefusal> ReportMaking::watched(const Request& request, std::size_t steps,
+                                                   const std::function<void(const Step&)>& work)
+{
+    if (m_watcher.watch(request.kind.name, steps, work))
+        return std::nullopt;
+    return cancelled(request.kind);
 }
 
 ReportMaking::Made ReportMaking::makeLines(const Request& request)
@@ -140,18 +168,28 @@ ReportMaking::Made ReportMaking::makeLines(const Request& request)
 
 ReportMaking::Made ReportMaking::makeStandings(const Request& request)
 {
+    Made made;
+    std::optional<ReportRefusal> refusal = scoreAll(request, [&](const std::vector<PlayerScore>& scores) {
+        made = outcome(request.kind, standingsLines(request.title, scores));
+    });
+    return refusal ? *std::move(refusal) : std::move(made);
+}
+
+std::optional<ReportRefusal> ReportMaking::scoreAll(const Request& request, const TakeScores& take)
+{
     ScoringInput input;
     if (auto trouble = readResults(request, "\"Tournament Standings Report\" cannot be prepared.", input))
-        return *trouble;
+        return trouble;
     if (auto trouble = readEntriesAndPayoffs(request, input))
-        return *trouble;
-
-    return watched(request, input.entries.size(), [&](const Step& step) -> Made {
-        const auto scores = scoreEntries(input.entries, input.results, input.payoffs, step);
-        if (!scores)
-            return failed(request.kind, scores.failure().message);
-        return outcome(request.kind, standingsLines(request.title, *scores));
+        return trouble;
+    std::optional<ReportRefusal> failure;
+    std::optional<ReportRefusal> stopped = watched(request, input.entries.size(), [&](const Step& step) {
+        if (const auto scores = scoreEntries(input.entries, input.results, input.payoffs, step))
+            take(*scores);
+        else
+            failure = failed(request.kind, scores.failure().message);
     });
+    return stopped ? stopped : failure;
 }
 
 ReportMaking::Made ReportMaking::makePlayerListing(const Request& request)
@@ -172,6 +210,17 @@ ReportMaking::Made ReportMaking::makePlayerListing(const Request& request)
 ReportMaking::Made ReportMaking::makeTeamSelection(const Request& request)
 {
     const bool isSummary = request.kind.id == ReportId::TeamSelectionSummary;
+    Made made;
+    std::optional<ReportRefusal> refusal = packPicks(request, [&](const std::vector<std::string>& picks) {
+        made = outcome(request.kind, isSummary ? teamSelectionSummaryLines(request.title, picks)
+                                               : teamSelectionDetailLines(request.title, picks));
+    });
+    return refusal ? *std::move(refusal) : std::move(made);
+}
+
+std::optional<ReportRefusal> ReportMaking::packPicks(const Request& request, const TakePicks& take)
+{
+    const bool isSummary = request.kind.id == ReportId::TeamSelectionSummary;
     if (request.files.empty())
         return ReportRefusal{"Tallyhoop - TeamSelSetup",
                              std::string{kNoFiles} + "Team Selection Reports cannot be prepared.", Weight::Warning,
@@ -179,11 +228,7 @@ ReportMaking::Made ReportMaking::makeTeamSelection(const Request& request)
     const std::optional<std::vector<Entry>> players = readPlayers(request, startingBracket(m_field));
     if (!players)
         return cancelled(request.kind);
-    return watched(request, 1, [&](const Step&) { // sorting all picks takes a moment
-        const std::vector<std::string> picks = pickEntries(*players);
-        return outcome(request.kind, isSummary ? teamSelectionSummaryLines(request.title, picks)
-                                               : teamSelectionDetailLines(request.title, picks));
-    });
+    return watched(request, 1, [&](const Step&) { take(pickEntries(*players)); }); // sorting them takes a moment
 }
 
 ReportMaking::Made ReportMaking::makePlayerSelectionDetail(const Request& request)
@@ -205,12 +250,14 @@ ReportMaking::Made ReportMaking::makeResultsByPlayer(const Request& request)
         return *trouble;
 
     const ByFinal<FinalOutcome> outcomes = finalOutcomes(input.results);
-    return watched(request, input.entries.size(), [&](const Step& step) -> Made {
+    Made made;
+    std::optional<ReportRefusal> stopped = watched(request, input.entries.size(), [&](const Step& step) {
         const auto rows = resultsByPlayerRows(input.entries, input.results, outcomes, input.payoffs, step);
-        if (!rows)
-            return failed(request.kind, rows.failure().message);
-        return outcome(request.kind, resultsByPlayerLines(request.title, finalFourOf(input.results), outcomes, *rows));
+        made = rows ? outcome(request.kind,
+                              resultsByPlayerLines(request.title, finalFourOf(input.results), outcomes, *rows))
+                    : failed(request.kind, rows.failure().message);
     });
+    return stopped ? *std::move(stopped) : std::move(made);
 }
 
 ReportMaking::Made ReportMaking::makeResultsByTeam(const Request& request)
@@ -220,12 +267,14 @@ ReportMaking::Made ReportMaking::makeResultsByTeam(const Request& request)
         return *trouble;
 
     // Every player is scored now, and once for each team that can still win.
-    return watched(request, (1 + kRegions) * input.entries.size(), [&](const Step& step) -> Made {
-        const auto outcomes = resultsByTeamOutcomes(input.entries, input.results, input.payoffs, step);
-        if (!outcomes)
-            return failed(request.kind, outcomes.failure().message);
-        return outcome(request.kind, resultsByTeamLines(request.title, *outcomes));
-    });
+    Made made;
+    std::optional<ReportRefusal> stopped =
+        watched(request, (1 + kRegions) * input.entries.size(), [&](const Step& step) {
+            const auto outcomes = resultsByTeamOutcomes(input.entries, input.results, input.payoffs, step);
+            made = outcomes ? outcome(request.kind, resultsByTeamLines(request.title, *outcomes))
+                            : failed(request.kind, outcomes.failure().message);
+        });
+    return stopped ? *std::move(stopped) : std::move(made);
 }
 
 std::optional<ReportRefusal> ReportMaking::readResults(const Request& request, const char* reportAsNamed,

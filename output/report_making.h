@@ -4,6 +4,7 @@
 #include "base/step.h"
 #include "files/data_folder.h"
 #include "pool/entry.h"
+#include "pool/scoring.h"
 #include "reports/report_layout.h"
 #include "reports/report_table.h"
 
@@ -64,8 +65,10 @@ ReportRefusal reportRefusal(const ReportKind& kind, const std::string& reason);
 class ReportMaking
 {
 public:
-    /// A report's lines, or why there are none.
+    /// A report's lines, its table for spreadsheets or the scores that it is made of; or why there are none.
     using Made = std::variant<ReportLines, ReportRefusal>;
+    using MadeCsv = std::variant<std::string, ReportRefusal>;
+    using MadeScores = std::variant<std::vector<PlayerScore>, ReportRefusal>;
 
     /// All outlive it.
     ReportMaking(const DataFolder& folder, const Field& field, ReportWatcher& watcher)
@@ -77,21 +80,36 @@ public:
     /// @param files every player's file, in list order
     Made make(const ReportKind& kind, const std::string& title, std::span<const FolderFile> files);
 
+    /// Makes a report's table, under the same conditions.
+    /// @pre csvFileOf(kind.id) has a name
+    MadeCsv makeCsv(const ReportKind& kind, std::span<const FolderFile> files);
+
+    /// Scores everybody for the standings, in the order of the files.
+    MadeScores makeScores(std::span<const FolderFile> files);
+
 private:
     struct Request {
         const ReportKind& kind;
-        const std::string& title;
+        std::string title;
         std::span<const FolderFile> files;
     };
 
     Made makeLines(const Request& request);
-    Made watched(const Request& request, std::size_t steps, const std::function<Made(const Step&)>& work);
     Made makeStandings(const Request& request);
     Made makePlayerListing(const Request& request);
     Made makeTeamSelection(const Request& request);
     Made makePlayerSelectionDetail(const Request& request);
     Made makeResultsByPlayer(const Request& request);
     Made makeResultsByTeam(const Request& request);
+
+    using TakeScores = std::function<void(const std::vector<PlayerScore>& scores)>;
+    using TakePicks = std::function<void(const std::vector<std::string>& packedPicks)>;
+
+    /// These have a part of the work done, and say why there can be no report, or nothing.
+    std::optional<ReportRefusal> watched(const Request& request, std::size_t steps,
+                                         const std::function<void(const Step&)>& work);
+    std::optional<ReportRefusal> scoreAll(const Request& request, const TakeScores& take);
+    std::optional<ReportRefusal> packPicks(const Request& request, const TakePicks& take);
 
     /// What every report that scores is made of.
     struct ScoringInput {

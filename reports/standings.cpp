@@ -3,9 +3,11 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "base/windows1252.h"
 #include "pool/position.h"
 
 #include <algorithm>
+#include <numeric>
 #include <vector>
 
 namespace tallyhoop {
@@ -56,18 +58,6 @@ void addHeader(ReportLines& lines, std::string_view title, const Widths& widths)
                     "  ----- ----- ----- ----- ------- " + dashes(widths.pick));
 }
 
-/// @returns the games without a verdict; negative for a damaged selection
-Result<int> openPicks(const StandingsRow& row)
-{
-    const Result<std::int16_t> good = wholeNumber(row.goodPicks);
-    const Result<std::int16_t> bad = wholeNumber(row.badPicks);
-    if (!good)
-        return good.failure();
-    if (!bad)
-        return bad.failure();
-    return kGames - *good - *bad;
-}
-
 std::string rowLine(const StandingsRow& row, int open, const Widths& widths)
 {
     return " " + row.points + "   " + fitted(row.playerName, widths.name) + "   " + fitted(row.fileName, widths.file) +
@@ -90,24 +80,53 @@ StandingsRow standingsRow(std::string_view workRow)
     return {field[0], field[1], field[2], field[3], field[4], field[5], field[6], field[7]};
 }
 
-Result<ReportLines> standingsLines(std::string_view title, std::span<const PlayerScore> scores)
+Result<int> openPicks(const StandingsRow& row)
+{
+    const Result<std::int16_t> good = wholeNumber(row.goodPicks);
+    const Result<std::int16_t> bad = wholeNumber(row.badPicks);
+    if (!good)
+        return good.failure();
+    if (!bad)
+        return bad.failure();
+    return kGames - *good - *bad;
+}
+
+std::vector<std::string> standingsWorkRows(std::span<const PlayerScore> scores)
 {
     std::vector<std::string> workRows;
     workRows.reserve(scores.size());
     for (const PlayerScore& score : scores)
         workRows.push_back(standingsWorkRow(score));
     sortWorkRows(workRows);
+    std::ranges::reverse(workRows); // they are sorted ascending, and the most points come first
+    return workRows;
+}
 
+std::vector<std::size_t> standingsOrder(std::span<const PlayerScore> scores)
+{
+    std::vector<std::string> workRows;
+    workRows.reserve(scores.size());
+    for (const PlayerScore& score : scores)
+        workRows.push_back(standingsWorkRow(score));
+    std::vector<std::size_t> order(scores.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::ranges::stable_sort(order, FoldedLess{},
+                             [&](std::size_t player) { return std::string_view{workRows[player]}; });
+    std::ranges::reverse(order);
+    return order;
+}
+
+Result<ReportLines> standingsLines(std::string_view title, std::span<const PlayerScore> scores)
+{
     const Widths widths = widthsOf(scores);
     ReportLines lines;
     int lineOfPage = 0;
-    // Read backwards: the rows are kept ascending, and the most points come first.
-    for (auto workRow = workRows.rbegin(); workRow != workRows.rend(); ++workRow) {
+    for (const std::string& workRow : standingsWorkRows(scores)) {
         if (lineOfPage == 0) {
             addHeader(lines, title, widths);
             lineOfPage = kHeaderLines;
         }
-        const StandingsRow row = standingsRow(*workRow);
+        const StandingsRow row = standingsRow(workRow);
         const Result<int> open = openPicks(row);
         if (!open)
             return open.failure();

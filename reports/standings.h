@@ -5,9 +5,11 @@
 #include "pool/scoring.h"
 #include "reports/report_layout.h"
 
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tallyhoop {
 
@@ -29,6 +31,18 @@ struct StandingsRow {
 
 /// Takes the first eight pieces of a packed work row; further ones are lost.
 StandingsRow standingsRow(std::string_view workRow);
+
+/// @returns the packed rows in print order: the most points first, and among equal points the later name in the
+/// alphabet
+std::vector<std::string> standingsWorkRows(std::span<const PlayerScore> scores);
+
+/// @returns the same order as places in `scores`
+std::vector<std::size_t> standingsOrder(std::span<const PlayerScore> scores);
+
+/// @returns the games without a verdict, negative for a damaged selection; a failure when a shifted field holds a
+/// number
+///          of picks beyond 16 bits
+Result<int> openPicks(const StandingsRow& row);
 
 /// Lays the report out. Among equal points the later name in the alphabet comes first: the sorted rows are read
 /// backwards.

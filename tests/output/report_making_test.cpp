@@ -112,5 +112,40 @@ TEST_F(ReportMakingTest, SaysWhatIsWrongWithThePlayerList)
     EXPECT_THAT(watcher.listFaults, testing::SizeIs(1));
 }
 
+TEST_F(ReportMakingTest, MakesTablesUnderTheSameConditions)
+{
+    const auto makeCsv = [this](ReportId id) {
+        const Field field = readPool(folder).field;
+        return ReportMaking{folder, field, watcher}.makeCsv(reportKind(id),
+                                                            folder.files(file_name::kSelectionExtension));
+    };
+    const ReportMaking::MadeCsv nobody = makeCsv(ReportId::TournamentStandings);
+    ASSERT_TRUE(std::holds_alternative<ReportRefusal>(nobody));
+    EXPECT_THAT(std::get<ReportRefusal>(nobody).reason, testing::HasSubstr("There aren't any"));
+    putFourPlayers(scratch);
+    for (const ReportId id :
+         {ReportId::TournamentStandings, ReportId::TeamSelectionSummary, ReportId::TeamSelectionDetail}) {
+        const ReportMaking::MadeCsv made = makeCsv(id);
+        const auto* table = std::get_if<std::string>(&made);
+        ASSERT_NE(table, nullptr) << reportKind(id).name;
+        EXPECT_THAT(*table,
+                    testing::HasSubstr(id == ReportId::TournamentStandings ? "\r\n128,\"AB, Adams\"" : "\r\nE03,"))
+            << reportKind(id).name;
+    }
+}
+
+TEST_F(ReportMakingTest, ScoresEverybodyInTheOrderOfTheFiles)
+{
+    putFourPlayers(scratch);
+    const Field field = readPool(folder).field;
+    const ReportMaking::MadeScores made =
+        ReportMaking{folder, field, watcher}.makeScores(folder.files(file_name::kSelectionExtension));
+    const auto* scores = std::get_if<std::vector<PlayerScore>>(&made);
+    ASSERT_NE(scores, nullptr);
+    ASSERT_THAT(*scores, testing::SizeIs(4));
+    EXPECT_EQ((*scores)[1].playerName, "C, Baker");
+    EXPECT_EQ((*scores)[1].points, 96);
+}
+
 } // namespace
 } // namespace tallyhoop::test

@@ -219,5 +219,13 @@ TEST(Standings, FailWhenAShiftedFieldHoldsAHugeNumber)
     EXPECT_NE(lines.failure().message.find("99999"), std::string::npos);
 }
 
+TEST(StandingsOrder, IsThatOfTheReport)
+{
+    // The most points first; of equal points the later name.
+    EXPECT_EQ(standingsOrder(std::vector{score(128, "AB, Adams", "Adams_AB.THC"), score(96, "C, Baker", "Baker_C.THC"),
+                                         score(0, "D, Clark", "Clark_D.THC"), score(96, "EF, Dunn", "Dunn_EF.THC")}),
+              (std::vector<std::size_t>{0, 3, 1, 2}));
+}
+
 } // namespace
 } // namespace tallyhoop::test
