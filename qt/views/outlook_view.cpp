@@ -136,8 +136,8 @@ QWidget* OutlookView::makePlayer()
     player->addWidget(proof);
     player->addStretch();
     auto* const output = look::row();
-    for (ui::Command* command : {&m_outlook.cmdSaveReport, &m_outlook.cmdSavePdf, &m_outlook.cmdPrint,
-                                 &m_outlook.cmdPreview, &m_outlook.cmdCopy})
+    for (ui::Command* command : {&m_outlook.cmdSaveReport, &m_outlook.cmdSavePdf, &m_outlook.cmdSaveCsv,
+                                 &m_outlook.cmdPrint, &m_outlook.cmdPreview, &m_outlook.cmdCopy})
         output->addWidget(add(*command));
     output->addStretch();
     player->addLayout(output);

@@ -63,6 +63,7 @@ QLayout* ReportsView::textReports(ReportsScreen& reports)
     commands->addSpacing(look::kSection);
     commands->addWidget(add(reports.cmdPreview));
     commands->addWidget(add(reports.cmdSavePdf));
+    commands->addWidget(add(reports.cmdSaveCsv));
     commands->addStretch(1);
 
     auto* const whole = look::column(look::kSection);

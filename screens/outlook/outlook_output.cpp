@@ -2,12 +2,12 @@
 #include "screens/outlook/outlook_output.h"
 
 #include "base/lines.h"
-#include "reports/outlook_words.h"
+#include "reports/csv_tables.h"
 #include "reports/score_list.h"
-#include "screens/outlook/outlook_rows.h"
 #include "screens/outlook/outlook_words.h"
 #include "screens/printouts.h"
 #include "screens/reports/report_output.h"
+#include "screens/saving_as.h"
 #include "screens/spreadsheet.h"
 
 #include <array>
@@ -20,27 +20,6 @@ namespace {
 
 constexpr const char* kReportTrouble = "Tallyhoop - frmPoolOutlook, cmdSaveReport";
 
-using SpreadsheetRow = std::array<std::string, kOutlookColumns + 1>;
-
-const SpreadsheetRow kHeadings{"Now",     "Player",  "Points", "Possible", "First %", "Share %",
-                               "Error %", "Verdict", "Best",   "Worst",    "Change"};
-
-/// Spreadsheets take "2-5" for a day in May.
-std::string placeForSpreadsheets(const PlaceBetween& place)
-{
-    return place.isExact() ? placeInWords(place) : fmt::format("{} to {}", place.least, place.most);
-}
-
-SpreadsheetRow cellsOf(const OutlookRow& row)
-{
-    return {cellOf(row, OutlookColumn::Now),          row.name,
-            cellOf(row, OutlookColumn::Points),       cellOf(row, OutlookColumn::Possible),
-            chanceAsNumber(row, row.first),           chanceAsNumber(row, row.share),
-            row.share ? errorInWords(row.error) : "", cellOf(row, OutlookColumn::Verdict),
-            placeForSpreadsheets(row.best),           placeForSpreadsheets(row.worst),
-            cellOf(row, OutlookColumn::Change)};
-}
-
 } // namespace
 
 std::string outlookForSpreadsheets(const OutlookSheet& sheet)
@@ -48,9 +27,9 @@ std::string outlookForSpreadsheets(const OutlookSheet& sheet)
     std::vector<std::string> about{std::string{kOutlookName} + ": " + sheet.heading.title};
     about.insert(about.end(), sheet.heading.whatIf.begin(), sheet.heading.whatIf.end());
     about.insert(about.end(), sheet.heading.basis.begin(), sheet.heading.basis.end());
-    std::string text = tabSeparatedLine(std::array{sentencesOf(about)}) + tabSeparatedLine(kHeadings);
+    std::string text = tabSeparatedLine(std::array{sentencesOf(about)}) + tabSeparatedLine(outlookCellHeadings());
     for (const OutlookRow& row : sheet.rows)
-        text += tabSeparatedLine(cellsOf(row));
+        text += tabSeparatedLine(outlookCells(row));
     return text;
 }
 
@@ -81,6 +60,15 @@ std::string OutlookOutput::preview(const OutlookSheet& sheet) const
 std::string OutlookOutput::savePdf(const OutlookSheet& sheet) const
 {
     return saveAsPdf(m_platform, m_folder.folder(), {printoutOf(sheet)});
+}
+
+std::string OutlookOutput::saveCsv(const OutlookSheet& sheet) const
+{
+    const bool isSupposed = !sheet.heading.whatIf.empty();
+    const auto file = saveAs(m_platform, m_folder,
+                             {"Save Pool Outlook as CSV", "Tables for spreadsheets (*.CSV)", ".CSV",
+                              isSupposed ? kSupposedOutlookTable : kOutlookTable, outlookCsv(sheet.rows)});
+    return file ? "Saved " + shown(file->filename()) + "." : std::string{};
 }
 
 std::string OutlookOutput::copy(const OutlookSheet& sheet) const

@@ -24,6 +24,7 @@ public:
 
     std::string preview(const OutlookSheet& sheet) const;
     std::string savePdf(const OutlookSheet& sheet) const;
+    std::string saveCsv(const OutlookSheet& sheet) const;
     std::string copy(const OutlookSheet& sheet) const;
 
 private:

@@ -62,6 +62,7 @@ OutlookScreen::OutlookScreen(const DataFolder& folder, OpenedPool opened, const 
     cmdStop.explanation = "Ends the work; what is known by then stays.";
     cmdSaveReport.explanation = "Writes the table as it is shown to OUTLOOK.TXT in the program's folder.";
     cmdSavePdf.explanation = "Saves the table, the road and the games that matter as a PDF file.";
+    cmdSaveCsv.explanation = "Saves the table as it is shown as a table for spreadsheets.";
     cmdPrint.explanation = "Prints the table, the road and the games that matter.";
     cmdPreview.explanation = "Shows the pages as they will be printed.";
     cmdCopy.explanation = "Puts the table on the clipboard, ready for a spreadsheet.";
@@ -184,7 +185,7 @@ void OutlookScreen::showState()
     cmdAsEntered.enabled = isSupposed;
     cmdUndo.enabled = m_whatIf.canUndo();
     cmdStop.enabled = isWorking() && !m_stopped;
-    for (ui::Command* const output : {&cmdSaveReport, &cmdSavePdf, &cmdPrint, &cmdPreview, &cmdCopy})
+    for (ui::Command* const output : {&cmdSaveReport, &cmdSavePdf, &cmdSaveCsv, &cmdPrint, &cmdPreview, &cmdCopy})
         output->enabled = !grdPlayers.rows.empty();
     lblOutcomes.text = howFar();
     if (const std::vector<std::string> unread = unreadInWords(m_opened); !unread.empty())

@@ -61,6 +61,7 @@ public:
     ui::Command cmdStop{this, "cmdStop", "S&top", [this] { stop(); }};
     ui::Command cmdSaveReport{this, "cmdSaveReport", "Save &Report", [this] { bringOut(&OutlookOutput::saveReport); }};
     ui::Command cmdSavePdf{this, "cmdSavePdf", "Save as P&DF", [this] { bringOut(&OutlookOutput::savePdf); }};
+    ui::Command cmdSaveCsv{this, "cmdSaveCsv", "Save as &CSV...", [this] { bringOut(&OutlookOutput::saveCsv); }};
     ui::Command cmdPrint{this, "cmdPrint", "Pri&nt", [this] { bringOut(&OutlookOutput::print); }};
     ui::Command cmdPreview{this, "cmdPreview", "Pre&view", [this] { bringOut(&OutlookOutput::preview); }};
     ui::Command cmdCopy{this, "cmdCopy", "C&opy", [this] { bringOut(&OutlookOutput::copy); }};

@@ -77,8 +77,8 @@ void OutlookScreen::orderTabs()
     for (const Position position : allPositions())
         lblRegion[position].tabIndex = place++;
     for (ui::Control* control :
-         std::initializer_list<ui::Control*>{&grdPlayers, &grdGames, &cmdSaveReport, &cmdSavePdf, &cmdPrint,
-                                             &cmdPreview, &cmdCopy, &cmdShowWay, &cmdStop, &cmdExit})
+         std::initializer_list<ui::Control*>{&grdPlayers, &grdGames, &cmdSaveReport, &cmdSavePdf, &cmdSaveCsv,
+                                             &cmdPrint, &cmdPreview, &cmdCopy, &cmdShowWay, &cmdStop, &cmdExit})
         control->tabIndex = place++;
     focused = &grdPlayers;
 }

@@ -55,6 +55,8 @@ ui::Message messageOf(const ReportRefusal& refusal)
     return message;
 }
 
+NoReport withoutReport(const ReportRefusal& refusal) { return {messageOf(refusal), refusal.consequence}; }
+
 } // namespace
 
 ui::Message reportFailure(const ReportKind& kind, const std::string& reason)
@@ -73,8 +75,16 @@ MadeReport ReportMaker::make(const ReportKind& kind, const std::string& title, s
     ReportMaking::Made made = ReportMaking{m_folder, m_field, watcher}.make(kind, title, files);
     if (auto* lines = std::get_if<ReportLines>(&made))
         return std::move(*lines);
-    const auto& refusal = std::get<ReportRefusal>(made);
-    return NoReport{messageOf(refusal), refusal.consequence};
+    return withoutReport(std::get<ReportRefusal>(made));
+}
+
+std::variant<std::string, NoReport> ReportMaker::makeCsv(const ReportKind& kind, std::span<const FolderFile> files)
+{
+    WatchingScreen watcher{m_platform};
+    ReportMaking::MadeCsv made = ReportMaking{m_folder, m_field, watcher}.makeCsv(kind, files);
+    if (auto* table = std::get_if<std::string>(&made))
+        return std::move(*table);
+    return withoutReport(std::get<ReportRefusal>(made));
 }
 
 } // namespace tallyhoop

@@ -35,6 +35,10 @@ public:
     /// @param files every player's file, in list order
     MadeReport make(const ReportKind& kind, const std::string& title, std::span<const FolderFile> files);
 
+    /// Makes a report's table for spreadsheets, likewise.
+    /// @pre csvFileOf(kind.id) has a name
+    std::variant<std::string, NoReport> makeCsv(const ReportKind& kind, std::span<const FolderFile> files);
+
 private:
     const DataFolder& m_folder;
     const ui::Platform& m_platform;

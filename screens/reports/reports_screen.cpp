@@ -62,6 +62,7 @@ ReportsScreen::ReportsScreen(const DataFolder& folder, const ui::Platform& platf
     cmdDefaultPrinter.mnemonic = 'd';
     cmdPreview.mnemonic = 'p';
     cmdSavePdf.mnemonic = 'f';
+    cmdSaveCsv.mnemonic = 'v';
     cmdSelectedPrintouts.mnemonic = 'c';
     cmdPreviewBoard.mnemonic = 'b';
     cmdSaveBoardPdf.mnemonic = 'a';
@@ -86,6 +87,7 @@ void ReportsScreen::explainControls()
     cmdDefaultPrinter.explanation = "Press to change: the default printer, or one that you choose for each report.";
     cmdPreview.explanation = "Shows the ticked reports as they will be printed.";
     cmdSavePdf.explanation = "Saves the ticked reports as PDF files: one is named, several go into a folder.";
+    cmdSaveCsv.explanation = "Saves the ticked standings and team selections as tables for spreadsheets.";
     chkAllPlayers.changed = [this] {
         if (chkAllPlayers.ticked)
             ui::selectOption(optSelected, 0); // the only sheet that there is for each player
@@ -108,6 +110,7 @@ std::string ReportsScreen::helpTopic() const { return m_refusalTopic.empty() ? h
 /// The caption always names the mode now in force.
 void ReportsScreen::showState()
 {
+    cmdSaveCsv.enabled = isTableTicked();
     cmdDefaultPrinter.caption = m_useDefaultPrinter ? "Use default printer" : "Select non default printer";
     status = m_board.holdsUnsavedResults() ? "Reports use the saved results; those on the board are not saved" : "";
 }

@@ -47,6 +47,7 @@ public:
                                   [this] { m_useDefaultPrinter = !m_useDefaultPrinter; }};
     ui::Command cmdPreview{this, "cmdPreview", "Preview", [this] { previewSelectedReports(); }};
     ui::Command cmdSavePdf{this, "cmdSavePdf", "Save as PDF", [this] { saveSelectedReportsAsPdf(); }};
+    ui::Command cmdSaveCsv{this, "cmdSaveCsv", "Save as CSV...", [this] { saveSelectedTables(); }};
 
     ui::Label fraPrinterOnly{this, "fraPrinterOnly", "Printer Only Options"};
     ui::ControlArray<ui::OptionButton, 2> optSelected{this, "optSelected"};
@@ -73,6 +74,8 @@ private:
     void createSelectedReports();
     void previewSelectedReports();
     void saveSelectedReportsAsPdf();
+    void saveSelectedTables();
+    bool isTableTicked() const;
     Destination chosenDestination() const;
 
     /// Makes the ticked reports, hands each on that could be made, and explains itself when none is ticked.

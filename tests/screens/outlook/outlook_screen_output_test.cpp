@@ -102,6 +102,20 @@ TEST_F(OutlookWaysOut, BringsOutWhatItShows)
     EXPECT_EQ(screen.news().text, "Copied 3 rows, to be pasted into a spreadsheet.");
 }
 
+TEST_F(OutlookWaysOut, SavesTheTableAsItIsShown)
+{
+    platform.dialogs.pick(scratch.path() / "mine.CSV").pick(std::nullopt);
+    screen.cmdSaveCsv.click();
+    EXPECT_EQ(platform.dialogs.fileChoices.at(0).proposedName, "OUTLOOK.CSV");
+    EXPECT_THAT(scratch.get("mine.CSV"), HasSubstr("\r\n1,\"X, Ann\",152,168,50.0,50.0,0.00,Alive,1,3,\r\n"));
+    EXPECT_EQ(screen.news().text, "Saved mine.CSV.");
+
+    suppose(kSemifinalB);
+    screen.cmdSaveCsv.click();
+    EXPECT_EQ(platform.dialogs.fileChoices.at(1).proposedName, "OUTLOOK-WHAT-IF.CSV");
+    EXPECT_EQ(screen.news().text, "") << "cancelled";
+}
+
 TEST_F(OutlookWaysOut, SaysInWhatItBringsOutThatItIsSupposed)
 {
     suppose(kSemifinalB);

@@ -150,8 +150,8 @@ TEST_F(OutlookScreenTest, SaysThatThereIsNoOutlookWithoutPayoffs)
     openBeforeAnyWork();
     EXPECT_THAT(screen->grdPlayers.rows, IsEmpty());
     EXPECT_EQ(screen->grdPlayers.emptyNote, pool.field.payoffs.points().failure().message);
-    for (const ui::Command* const output :
-         {&screen->cmdSaveReport, &screen->cmdSavePdf, &screen->cmdPrint, &screen->cmdPreview, &screen->cmdCopy})
+    for (const ui::Command* const output : {&screen->cmdSaveReport, &screen->cmdSavePdf, &screen->cmdSaveCsv,
+                                            &screen->cmdPrint, &screen->cmdPreview, &screen->cmdCopy})
         EXPECT_FALSE(output->enabled) << output->name;
     EXPECT_EQ(screen->lblOutcomes.text, pool.field.payoffs.points().failure().message);
 }
