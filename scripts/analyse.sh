@@ -10,7 +10,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-rooms=(app base demo files intake pool qt reports screens ui)
+rooms=(app base cli demo files intake output pool qt reports screens ui)
 
 # needs TOOL: fails when it is not installed.
 needs() {

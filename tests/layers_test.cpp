@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 using Rooms = std::set<std::string>;
 
-const Rooms kCore = {"base", "pool", "files", "intake", "reports", "output", "ui", "screens", "demo"};
+const Rooms kCore = {"base", "pool", "files", "intake", "reports", "output", "ui", "screens", "demo", "cli"};
 
 /// What each room may include beside itself.
 const std::map<std::string, Rooms> kMayInclude = {
@@ -32,6 +32,7 @@ const std::map<std::string, Rooms> kMayInclude = {
     {"ui", {"base"}},
     {"screens", {"ui", "output", "reports", "demo", "intake", "files", "pool", "base"}},
     {"qt", {"screens", "ui", "output", "reports", "demo", "intake", "files", "pool", "base"}},
+    {"cli", {"output", "reports", "intake", "files", "pool", "base"}},
     {"app", {"qt", "screens", "ui", "output", "reports", "demo", "intake", "files", "pool", "base"}},
 };
 

@@ -1,0 +1,181 @@
+// cli/command_line.cpp - verbs, options and their explanations.
+#include "cli/command_line.h"
+
+#include "base/windows1252.h"
+#include "cli/own_folder.h"
+#include "cli/session.h"
+#include "cli/verbs.h"
+#include "files/file_names.h"
+#include "intake/addresses.h"
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <iostream>
+#include <map>
+#include <string>
+#include <system_error>
+#include <utility>
+
+namespace tallyhoop::cli {
+
+namespace {
+
+const std::map<std::string, ChanceKind> kWeights{
+    {"alike", ChanceKind::Alike}, {"seeds", ChanceKind::BySeed}, {"picks", ChanceKind::AsPicked}};
+
+const std::map<std::string, CsvOptions::Table> kTables{{"standings", CsvOptions::Table::Standings},
+                                                       {"picks", CsvOptions::Table::Picks},
+                                                       {"picks-by-player", CsvOptions::Table::PicksByPlayer},
+                                                       {"outlook", CsvOptions::Table::Outlook}};
+
+/// What a pool consists of is replaced by the windows and by `import`, and by no output.
+bool isPartOfAPool(const std::filesystem::path& file)
+{
+    const std::string name = shown(file.filename());
+    return endsWithFolded(name, ".THS") || endsWithFolded(name, file_name::kSelectionExtension) ||
+           equalFolded(name, file_name::kPlayerNames) || equalFolded(name, file_name::kSettings);
+}
+
+class CommandLine
+{
+public:
+    CommandLine()
+    {
+        m_app.require_subcommand(1);
+        m_app.fallthrough(); // the options of all verbs are understood after the verb, too
+        m_app.set_version_flag("--version", "tallyhoop-cli " TALLYHOOP_VERSION);
+        m_app.add_option("--folder", m_folder, "Folder of the pool; without it, the one that holds this program")
+            ->option_text("DIR")
+            ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+        m_app.add_option("--out", m_out, "File to write, as a whole or not at all; without it, the standard output")
+            ->option_text("FILE")
+            ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+        m_app.footer("Exit status: 0 done, 1 faults found, 2 used wrongly. Faults go to the error stream, one a line.");
+        addReports();
+        addTables();
+        addEntries();
+        m_app.add_subcommand("check", "Read every file of the pool and list every fault")->callback([this] {
+            m_verb = [](Session& session) { check(session); };
+        });
+    }
+
+    int run(int count, char** words)
+    {
+        try {
+            m_app.parse(count, words);
+            return runVerb();
+        } catch (const CLI::ParseError& error) {
+            return m_app.exit(error, std::cout, std::cerr) == 0 ? kDone : kUsedWrongly;
+        }
+    }
+
+private:
+    void addReports()
+    {
+        CLI::App* const standingsVerb = m_app.add_subcommand("standings", "The tournament standings");
+        addTitle(standingsVerb, m_standings.title);
+        addJson(standingsVerb, m_standings.asJson);
+        standingsVerb->callback([this] { m_verb = [this](Session& session) { standings(session, m_standings); }; });
+
+        CLI::App* const reportVerb =
+            m_app.add_subcommand("report", "One of the seven reports, as in RPTOPT1.TXT to RPTOPT7.TXT");
+        reportVerb->add_option("number", m_report.number, "1 to 7")->required()->check(CLI::Range(1, 7));
+        addTitle(reportVerb, m_report.title);
+        reportVerb->callback([this] { m_verb = [this](Session& session) { report(session, m_report); }; });
+
+        CLI::App* const scoresVerb = m_app.add_subcommand("scores", "The list of all scores");
+        addJson(scoresVerb, m_scores.asJson);
+        scoresVerb->callback([this] { m_verb = [this](Session& session) { scores(session, m_scores); }; });
+
+        CLI::App* const outlookVerb = m_app.add_subcommand("outlook", "Who can still be first, and how often");
+        addWeights(outlookVerb, m_outlook.weights);
+        addJson(outlookVerb, m_outlook.asJson);
+        outlookVerb->callback([this] { m_verb = [this](Session& session) { outlook(session, m_outlook); }; });
+    }
+
+    void addTables()
+    {
+        CLI::App* const csvVerb = m_app.add_subcommand("csv", "A table for spreadsheets");
+        csvVerb->add_option("table", m_csv.table, "standings, picks, picks-by-player or outlook")
+            ->required()
+            ->transform(CLI::Transformer(kTables))
+            ->option_text("TABLE");
+        addWeights(csvVerb, m_csv.weights);
+        csvVerb->callback([this] { m_verb = [this](Session& session) { csv(session, m_csv); }; });
+    }
+
+    void addEntries()
+    {
+        CLI::App* const formVerb = m_app.add_subcommand("form", "The entry form, a page for players");
+        formVerb->add_option("--mail-to", m_form.organiser, "E-mail address that brackets are sent to")
+            ->option_text("ADDRESS");
+        formVerb->callback([this] {
+            if (!m_form.organiser.empty() && !isAddressForEntries(m_form.organiser))
+                throw CLI::ValidationError("--mail-to", "This is not an e-mail address that brackets can be sent to");
+            m_verb = [this](Session& session) { form(session, m_form); };
+        });
+
+        CLI::App* const importVerb = m_app.add_subcommand("import", "Take in what players have handed in");
+        importVerb->add_option("files", m_files, "Selections, mails, texts, spreadsheets, or folders of them")
+            ->required()
+            ->option_text("FILE...");
+        importVerb->callback([this] {
+            m_verb = [this](Session& session) { import(session, {{ m_files.begin(), m_files.end() }}); };
+        });
+    }
+
+    static void addTitle(CLI::App* verb, std::string& title)
+    {
+        verb->add_option("--title", title, "Title of the report; without it, that of the field")->option_text("TEXT");
+    }
+
+    static void addJson(CLI::App* verb, bool& asJson) { verb->add_flag("--json", asJson, "The figures as JSON"); }
+
+    static void addWeights(CLI::App* verb, ChanceKind& weights)
+    {
+        verb->add_option("--weights", weights, "Chances of the open games: alike (without it), seeds or picks")
+            ->transform(CLI::Transformer(kWeights))
+            ->option_text("CHANCES");
+    }
+
+    int runVerb() const
+    {
+        CommonOptions options;
+        options.folder = m_folder.empty() ? ownFolder() : std::filesystem::path{m_folder};
+        std::error_code ignored;
+        if (!std::filesystem::is_directory(options.folder, ignored))
+            return usedWrongly("There is no folder " + options.folder.string());
+        if (!m_out.empty()) {
+            options.out = m_out;
+            if (isPartOfAPool(*options.out))
+                return usedWrongly("--out would replace a part of the pool: " + m_out);
+        }
+        Session session{std::move(options)};
+        m_verb(session);
+        return session.status();
+    }
+
+    static int usedWrongly(const std::string& words)
+    {
+        std::cerr << words << "\nRun with --help for more information.\n";
+        return kUsedWrongly;
+    }
+
+    CLI::App m_app{"Tallyhoop without its windows: reports, figures and imports of an office pool.", "tallyhoop-cli"};
+    std::string m_folder;
+    std::string m_out;
+    std::vector<std::string> m_files;
+    StandingsOptions m_standings;
+    ReportOptions m_report;
+    ScoresOptions m_scores;
+    OutlookOptions m_outlook;
+    CsvOptions m_csv;
+    FormOptions m_form;
+    std::function<void(Session&)> m_verb;
+};
+
+} // namespace
+
+int run(int count, char** words) { return CommandLine{}.run(count, words); }
+
+} // namespace tallyhoop::cli

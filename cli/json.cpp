@@ -1,0 +1,116 @@
+// cli/json.cpp - which figure has which name.
+#include "cli/json.h"
+
+#include "base/windows1252.h"
+#include "reports/standings.h"
+
+#include <cstdint>
+#include <nlohmann/json.hpp>
+#include <optional>
+
+namespace tallyhoop::cli {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr int kIndent = 2;
+
+std::string fileOf(const Json& json) { return json.dump(kIndent) + "\n"; }
+
+Json textOrNull(const std::string& text) { return text.empty() ? Json(nullptr) : Json(toUtf8(text)); }
+
+const char* nameOf(ChanceKind chances)
+{
+    switch (chances) {
+    case ChanceKind::BySeed:
+        return "seeds";
+    case ChanceKind::AsPicked:
+        return "picks";
+    case ChanceKind::Alike:
+        break;
+    }
+    return "alike";
+}
+
+Json placeJson(const PlaceBetween& place)
+{
+    return place.isExact() ? Json(place.least) : Json::array({place.least, place.most});
+}
+
+/// Whole counts are strings: a number of JSON is a double for most programs, and they can be larger than that holds.
+void addFirsts(Json& player, const MadeOutlook& outlook, std::size_t index)
+{
+    if (outlook.isExact()) {
+        const FirstPlaces& firsts = outlook.firsts->players[index].all;
+        player["firstAlone"] = std::to_string(firsts.alone);
+        player["firstShared"] = std::to_string(firsts.outcomes() - firsts.alone);
+    } else if (outlook.figures.source != ChanceSource::None) {
+        const FirstChances& chances = outlook.figures.chances.players[index].all;
+        player["firstAlone"] = chances.alone;
+        player["firstShared"] = chances.together;
+    } else {
+        player["firstAlone"] = player["firstShared"] = nullptr;
+    }
+}
+
+} // namespace
+
+std::string standingsJson(std::string_view title, std::span<const PlayerScore> scores)
+{
+    Json players = Json::array();
+    std::size_t place = 1;
+    std::optional<std::int16_t> points; // of the player before
+    for (const std::size_t index : standingsOrder(scores)) {
+        const PlayerScore& score = scores[index];
+        if (points != score.points)
+            place = players.size() + 1;
+        points = score.points;
+        players.push_back({{"place", place},
+                           {"file", toUtf8(score.fileName)},
+                           {"name", toUtf8(score.playerName)},
+                           {"points", score.points},
+                           {"possible", score.maxPoints},
+                           {"good", score.goodPicks},
+                           {"bad", score.badPicks},
+                           {"open", kGames - score.goodPicks - score.badPicks},
+                           {"total", score.finalPoints == 0 ? Json(nullptr) : Json(score.finalPoints)},
+                           {"champion", textOrNull(score.winningPick)}});
+    }
+    return fileOf({{"title", toUtf8(title)}, {"players", players}});
+}
+
+std::string scoresJson(std::span<const PlayerScore> scores)
+{
+    Json players = Json::array();
+    for (const PlayerScore& score : scores)
+        players.push_back({{"file", toUtf8(score.fileName)},
+                           {"name", toUtf8(score.playerName)},
+                           {"points", score.points},
+                           {"possible", score.maxPoints},
+                           {"champion", textOrNull(score.winningPick)}});
+    return fileOf({{"players", players}});
+}
+
+std::string outlookJson(const MadeOutlook& outlook, std::span<const Entry> entries)
+{
+    Json players = Json::array();
+    for (const OutlookRow& row : outlook.rows) {
+        Json player{{"file", toUtf8(entries[row.player].fileName)},
+                    {"name", toUtf8(row.name)},
+                    {"points", row.standing.points},
+                    {"possible", row.standing.possible}};
+        addFirsts(player, outlook, row.player);
+        player["share"] = row.share ? Json(*row.share / 100) : Json(nullptr);
+        player["best"] = placeJson(row.best);
+        player["worst"] = placeJson(row.worst);
+        player["verdict"] = verdictInWords(row.prospect);
+        players.push_back(std::move(player));
+    }
+    return fileOf({{"outcomes", std::to_string(std::uint64_t{1} << outlook.basis.openGames)},
+                   {"exact", outlook.isExact()},
+                   {"weights", nameOf(outlook.basis.chances)},
+                   {"players", players}});
+}
+
+} // namespace tallyhoop::cli

@@ -1,0 +1,18 @@
+// cli/main.cpp - the program without windows.
+#include "cli/command_line.h"
+#include "cli/session.h"
+#include "files/replace_file.h"
+
+#include <cstdio>
+#include <exception>
+
+int main(int count, char** words)
+{
+    tallyhoop::outliveFileSizeLimits();
+    try {
+        return tallyhoop::cli::run(count, words);
+    } catch (const std::exception& error) { // a lack of memory
+        std::fprintf(stderr, "tallyhoop-cli: %s\n", error.what());
+        return tallyhoop::cli::kFaultsFound;
+    }
+}

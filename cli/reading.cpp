@@ -1,0 +1,53 @@
+// cli/reading.cpp - each fault is told with the name of its file.
+#include "cli/reading.h"
+
+#include "files/file_names.h"
+#include "files/pool_files.h"
+#include "files/setup_file.h"
+
+#include <utility>
+
+namespace tallyhoop::cli {
+
+Field readField(Session& session)
+{
+    ReadField read = tallyhoop::readField(session.folder());
+    if (read.trouble)
+        session.fault(std::string{file_name::kSetup} + ": " + read.trouble->message);
+    else if (!read.isWhole)
+        session.fault(std::string{file_name::kSetup} + ": It cannot be read, or not whole.");
+    return std::move(read.value);
+}
+
+std::vector<FolderFile> listSelections(Session& session)
+{
+    Read<std::vector<FolderFile>> listed = session.folder().list(file_name::kSelectionExtension);
+    if (listed.trouble)
+        session.fault("The selections cannot be listed, or not all of them: " + listed.trouble->message);
+    return std::move(listed.value);
+}
+
+OpenedPool openPool(Session& session)
+{
+    OpenedPool opened = openedPool(readPoolInSteps(session.folder(), goOn));
+    for (const Failure& trouble : opened.pool.trouble)
+        session.fault(trouble.message);
+    return opened;
+}
+
+void tell(Session& session, const ReportRefusal& refusal) { session.fault(refusal.reason); }
+
+void TellingWatcher::fileIsDamaged(const std::filesystem::path& file, const Failure& trouble)
+{
+    m_session.fault(shown(file.filename()) + ": " + trouble.message);
+}
+
+void TellingWatcher::listIsFaulty(const Failure& fault) { m_session.fault(fault.message); }
+
+bool TellingWatcher::watch(const std::string&, std::size_t, const std::function<void(const Step&)>& work)
+{
+    work(goOn);
+    return true;
+}
+
+} // namespace tallyhoop::cli

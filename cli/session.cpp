@@ -1,0 +1,79 @@
+// cli/session.cpp - the streams of the process, and files written as the program writes them.
+#include "cli/session.h"
+
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "files/replace_file.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <utility>
+#include <vector>
+
+#ifndef _WIN32
+#include <unistd.h>
+#endif
+
+namespace tallyhoop::cli {
+
+namespace {
+
+bool isShownToAPerson()
+{
+#ifdef _WIN32
+    return false;
+#else
+    return isatty(STDOUT_FILENO) == 1;
+#endif
+}
+
+/// @returns the words on one line: a line break and the blanks around it become one blank
+std::string onOneLine(std::string_view words)
+{
+    std::string line;
+    for (const char character : asOneLine(std::string{words})) {
+        const bool isSecondBlank = character == ' ' && line.ends_with(' ');
+        if (!isSecondBlank)
+            line.push_back(character);
+    }
+    return withoutOuterBlanks(line);
+}
+
+std::string forATerminal(std::string_view bytes)
+{
+    std::string text = toUtf8(bytes);
+    std::erase(text, '\r');
+    std::erase(text, '\f');
+    return text;
+}
+
+} // namespace
+
+Session::Session(CommonOptions options) : m_options{std::move(options)}, m_folder{m_options.folder} {}
+
+void Session::fault(std::string_view words)
+{
+    ++m_faults;
+    const std::string line = toUtf8(onOneLine(words)) + "\n";
+    static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
+}
+
+void Session::write(const std::string& bytes)
+{
+    if (m_options.out) {
+        if (const Result<Done> written = replaceFile(*m_options.out, bytes); !written)
+            fault(shown(*m_options.out) + ": " + written.failure().message);
+        return;
+    }
+    if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size() || std::fflush(stdout) != 0)
+        fault("The output could not be written: " + fromUtf8(std::strerror(errno)));
+}
+
+void Session::writeText(const std::string& bytes)
+{
+    const bool isForEyes = !m_options.out && isShownToAPerson();
+    write(isForEyes ? forATerminal(bytes) : bytes);
+}
+
+} // namespace tallyhoop::cli
