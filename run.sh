@@ -19,7 +19,7 @@ tests=OFF
 if command -v dpkg-query >/dev/null && [ -z "$(missing_packages build screen test)" ]; then
     tests=ON
 fi
-build_preset release build "-DTALLYHOOP_TESTS=$tests" -- tallyhoop demoset
+build_preset release build "-DTALLYHOOP_TESTS=$tests" -- tallyhoop tallyhoop_cli demoset
 
 # Replaces the program's own files; a pool that lives in the folder is left as it is.
 cmake --install build --prefix Tallyhoop >/dev/null

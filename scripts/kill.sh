@@ -10,7 +10,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . scripts/build.sh
 
-targets=(tallyhoop demoset tallyhoop_saver tallyhoop_killer)
+targets=(tallyhoop tallyhoop_cli demoset tallyhoop_saver tallyhoop_killer)
 if [ -n "${TALLYHOOP_BUILD-}" ]; then
     cmake --build "$TALLYHOOP_BUILD" --target "${targets[@]}"
 else

@@ -17,7 +17,7 @@ if [ "$(id -u)" -ne 0 ]; then
 fi
 install_packages build screen test
 command -v debootstrap >/dev/null || apt-get install -y -qq --no-install-recommends debootstrap
-build_preset release build -DTALLYHOOP_TESTS=ON -- tallyhoop demoset package_texts tallyhoop_inspector
+build_preset release build -DTALLYHOOP_TESTS=ON -- tallyhoop tallyhoop_cli demoset package_texts tallyhoop_inspector
 
 work=$(mktemp -d "${TMPDIR:-/tmp}/tallyhoop-clean-root.XXXXXX")
 chmod 755 "$work"

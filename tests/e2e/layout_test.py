@@ -32,12 +32,13 @@ class ProgramFolder(unittest.TestCase):
 
     def test_everything_is_directly_in_the_folder(self):
         self.install()
-        self.assertEqual(self.names(), ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", "tallyhoop"])
+        self.assertEqual(self.names(), ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", "tallyhoop", "tallyhoop-cli"])
 
     @unittest.skipUnless(build_type().startswith("Rel"), "only what people run is stripped")
     def test_the_installed_programs_are_stripped(self):
         self.install()
-        for built, program in (("app/tallyhoop", "tallyhoop"), ("DEMOSET.EXE", "DEMOSET.EXE")):
+        for built, program in (("app/tallyhoop", "tallyhoop"), ("cli/tallyhoop-cli", "tallyhoop-cli"),
+                               ("DEMOSET.EXE", "DEMOSET.EXE")):
             self.assertIn(".symtab", sections(BUILD / built))
             shown = sections(self.folder / program)
             self.assertIn(".text", shown)

@@ -15,7 +15,7 @@ from program_folder import BUILD, CMAKE
 from sample_pool import install
 
 CLEAN_ROOT = os.environ.get("TALLYHOOP_CLEAN_ROOT", "")
-OWN_FILES = ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", "tallyhoop"]
+OWN_FILES = ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", "tallyhoop", "tallyhoop-cli"]
 
 
 def run(*words):
@@ -92,6 +92,8 @@ class Package(unittest.TestCase):
         run("desktop-file-validate", tree / "usr/share/applications/tallyhoop.desktop")
         run("appstreamcli", "validate", "--no-net", tree / "usr/share/metainfo/org.tallyhoop.Tallyhoop.metainfo.xml")
         run("sh", "-n", tree / "usr/bin/tallyhoop")
+        run("sh", "-n", tree / "usr/bin/tallyhoop-cli")
+        run("bash", "-n", tree / "usr/share/bash-completion/completions/tallyhoop-cli")
         if shutil.which("lintian"):
             run("lintian", "--allow-root", "--fail-on", "error", self.package)
 
