@@ -83,15 +83,25 @@ class Cat:
 
     def run(self):
         """Milliseconds and milliseconds of the processor."""
-        with open(os.devnull, "wb") as nowhere:
-            begin = time.perf_counter()
-            process = subprocess.Popen(["xargs", "-0", "-a", self._list, "cat"], stdout=nowhere)
-            _, status, used = os.wait4(process.pid, 0)
-            took = time.perf_counter() - begin
-        process.returncode = os.waitstatus_to_exitcode(status)
-        if process.returncode != 0:
-            raise SystemExit("cat failed")
-        return took * 1000, (used.ru_utime + used.ru_stime) * 1000
+        return process(["xargs", "-0", "-a", self._list, "cat"])
+
+
+def process(words):
+    """A process from its start to its end, its output to nowhere: milliseconds and milliseconds of the processor."""
+    with open(os.devnull, "wb") as nowhere:
+        begin = time.perf_counter()
+        started = subprocess.Popen(words, stdout=nowhere)
+        _, status, used = os.wait4(started.pid, 0)
+        took = time.perf_counter() - begin
+    started.returncode = os.waitstatus_to_exitcode(status)
+    if started.returncode != 0:
+        raise SystemExit(f"{words[0]} failed")
+    return took * 1000, (used.ru_utime + used.ru_stime) * 1000
+
+
+def added(*pairs):
+    """The figures of several processes, one after the other."""
+    return tuple(map(sum, zip(*pairs)))
 
 
 def of(figures, what):

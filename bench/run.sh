@@ -14,7 +14,7 @@ else
     . scripts/packages.sh
     . scripts/build.sh
     install_packages build screen test bench
-    build_preset release build -DTALLYHOOP_TESTS=ON -DTALLYHOOP_BENCH=ON -- tallyhoop demoset bench/all
+    build_preset release build -DTALLYHOOP_TESTS=ON -DTALLYHOOP_BENCH=ON -- tallyhoop tallyhoop_cli demoset bench/all
     TALLYHOOP_BUILD=build
 fi
 build="$TALLYHOOP_BUILD"
@@ -29,6 +29,7 @@ measure() {
 measure reports
 measure outlook
 measure imports
+measure cli
 if [ -x "$build/bench/tallyhoop_windows_bench" ]; then
     measure standings
     measure scores
