@@ -9,6 +9,9 @@ _tallyhoop_cli() {
             break
         fi
     done
+    if [[ $current == -* && $before != --* ]]; then
+        before=""
+    fi
     case $before in
     --folder)
         mapfile -t COMPREPLY < <(compgen -d -- "$current")
