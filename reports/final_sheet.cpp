@@ -1,0 +1,253 @@
+// reports/final_sheet.cpp - the rows of the final sheet, and its pages.
+#include "reports/final_sheet.h"
+
+#include "base/numbers.h"
+#include "base/text.h"
+#include "pool/projection.h"
+#include "reports/final_sheet_words.h"
+#include "reports/standings.h"
+#include "reports/text_table.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace tallyhoop {
+
+namespace {
+
+constexpr std::size_t kLastLineOfPage = 47;
+constexpr const char* kPairs = "Ties, by the total points of the final";
+constexpr const char* kCrowd = "Of more than 10 on one place only neighbouring predictions are compared.";
+constexpr const char* kUnknown = "The final sheet can be made when the winners of all four regions are known.";
+
+std::size_t openGamesOf(const Bracket& results)
+{
+    return static_cast<std::size_t>(
+        std::ranges::count_if(gamePositions(), [&](Position game) { return results.isEmpty(game); }));
+}
+
+std::optional<int> predictedBy(const PlayerScore& score)
+{
+    return hasPredicted(score) ? std::optional<int>{score.finalPoints} : std::nullopt;
+}
+
+FinalRow rowOf(const PlayerScore& score, const FinalPlace& place, std::optional<int> total)
+{
+    FinalRow row;
+    row.name = score.playerName == ", " ? score.fileName : score.playerName;
+    row.place = place.place;
+    row.isShared = place.sharedBy > 1;
+    row.isLast = place.isLast;
+    row.points = score.points;
+    row.predicted = predictedBy(score);
+    if (row.predicted && total)
+        row.off = *row.predicted - *total;
+    return row;
+}
+
+/// The pages of the sheet: each begins with the title, the name and the notes, and the heading of its table.
+class SheetPages
+{
+public:
+    explicit SheetPages(ReportLines header) : m_header{std::move(header)} {}
+
+    /// Begins a table, on the same page when some of its rows fit there, too.
+    void begin(ReportLines heading)
+    {
+        constexpr std::size_t kFewestRows = 3;
+        m_heading = std::move(heading);
+        if (m_lineOfPage == 0)
+            return;
+        if (m_lineOfPage + 1 + m_heading.size() + kFewestRows > kLastLineOfPage) {
+            endPage();
+            return;
+        }
+        put({kBlankLine});
+        put(m_heading);
+    }
+
+    void add(const ReportLines& rows)
+    {
+        for (const std::string& row : rows) {
+            if (m_lineOfPage == 0) {
+                put(m_header);
+                put(m_heading);
+            }
+            put({row});
+            if (m_lineOfPage > kLastLineOfPage)
+                endPage();
+        }
+    }
+
+    ReportLines take() { return std::move(m_lines); }
+
+private:
+    void put(const ReportLines& lines)
+    {
+        m_lines.insert(m_lines.end(), lines.begin(), lines.end());
+        m_lineOfPage += lines.size();
+    }
+
+    void endPage()
+    {
+        m_lines.emplace_back(kFormFeedLine);
+        m_lineOfPage = 0;
+    }
+
+    ReportLines m_header;
+    ReportLines m_heading;
+    ReportLines m_lines;
+    std::size_t m_lineOfPage = 0;
+};
+
+std::string numberOrNothing(std::optional<int> number) { return number ? std::to_string(*number) : std::string{}; }
+
+TextTable placesTable(const FinalSheet& sheet)
+{
+    // "2=" is a place of two characters: what is not shared has a blank there.
+    const auto place = [](const FinalRow& row) { return placeInWords(row) + (row.isShared ? "" : " "); };
+    std::vector<std::vector<std::string>> rows;
+    rows.reserve(sheet.rows.size());
+    for (const FinalRow& row : sheet.rows) {
+        std::vector<std::string> cells{place(row), asOneLine(row.name), threeDigits(row.points),
+                                       numberOrNothing(row.predicted)};
+        if (sheet.total)
+            cells.push_back(offInWords(row));
+        cells.push_back(prizeInWords(row));
+        cells.emplace_back(row.isLast ? "Last" : "");
+        rows.push_back(std::move(cells));
+    }
+    std::vector<TextColumn> columns{
+        {"Place ", Align::Right}, {"Player Name"}, {"Points", Align::Right}, {"Predicted", Align::Right}};
+    if (sheet.total)
+        columns.push_back({"Off", Align::Right});
+    columns.push_back({"Prize", Align::Right});
+    columns.push_back({"Note"});
+    return textTable(columns, rows);
+}
+
+TextTable pairsTable(const FinalSheet& sheet)
+{
+    std::map<std::size_t, const FinalRow*> players;
+    for (const FinalRow& row : sheet.rows)
+        players[row.player] = &row;
+    const auto called = [&](std::size_t player) {
+        const FinalRow& row = *players.at(player);
+        return asOneLine(row.name) + " (" + (row.predicted ? std::to_string(*row.predicted) : "none") + ")";
+    };
+
+    constexpr const char* kAny = "any";
+    std::vector<std::vector<std::string>> rows;
+    rows.reserve(sheet.pairs.size());
+    for (const TiedPair& pair : sheet.pairs) {
+        std::string upTo = pair.end == TieEnd::LowerAlways ? kAny : "";
+        std::string tiedAt = pair.end == TieEnd::AlwaysTied ? kAny : "";
+        std::string from;
+        if (pair.end == TieEnd::ByTotal) {
+            upTo = std::to_string(pair.lowerUpTo);
+            from = std::to_string(pair.higherFrom);
+            if (pair.lowerUpTo + 1 < pair.higherFrom)
+                tiedAt = std::to_string(pair.lowerUpTo + 1);
+        }
+        rows.push_back({std::to_string(pair.place), called(pair.lower), std::move(upTo), std::move(tiedAt),
+                        called(pair.higher), std::move(from)});
+    }
+    return textTable(std::vector<TextColumn>{{"Place", Align::Right},
+                                             {"Lower Prediction"},
+                                             {"Ahead Up To", Align::Right},
+                                             {"Tied At", Align::Right},
+                                             {"Higher Prediction"},
+                                             {"Ahead From", Align::Right}},
+                     rows);
+}
+
+/// @returns whether a place is shared by so many that not all their pairs are listed
+bool hasCrowd(std::span<const FinalRow> rows)
+{
+    for (std::size_t i = kMostInAllPairs; i < rows.size(); ++i)
+        if (rows[i].place == rows[i - kMostInAllPairs].place)
+            return true;
+    return false;
+}
+
+ReportLines pairsHeading(const FinalSheet& sheet, const TextTable& pairs)
+{
+    ReportLines heading{kPairs};
+    if (hasCrowd(sheet.rows))
+        heading.emplace_back(kCrowd);
+    heading.emplace_back(kBlankLine);
+    heading.insert(heading.end(), pairs.heading.begin(), pairs.heading.end());
+    return heading;
+}
+
+/// Fills in the rows and the pairs.
+/// @param order of the scores, for those whom nothing tells apart
+void addPlayers(FinalSheet& sheet, std::span<const PlayerScore> scores, std::span<const std::size_t> order)
+{
+    std::vector<PlayerScore> listed;
+    listed.reserve(scores.size());
+    for (const std::size_t player : order)
+        listed.push_back(scores[player]);
+    const std::vector<FinalPlace> places = finalPlaces(listed, sheet.rule, sheet.total);
+    const std::vector<Money> prizes = payouts(places, sheet.purse.prizes);
+    sheet.rows.reserve(places.size());
+    for (std::size_t i = 0; i < places.size(); ++i) {
+        sheet.rows.push_back(rowOf(listed[places[i].player], places[i], sheet.total));
+        sheet.rows.back().player = order[places[i].player];
+        sheet.rows.back().prize = prizes[i];
+    }
+    if (!sheet.total)
+        sheet.pairs = tiedPairs(listed, places, sheet.rule);
+    for (TiedPair& pair : sheet.pairs) {
+        pair.lower = order[pair.lower];
+        pair.higher = order[pair.higher];
+    }
+}
+
+} // namespace
+
+Result<FinalSheet> finalSheetOf(std::span<const PlayerScore> scores, const Entry& results, const PrizeTable& table)
+{
+    if (finalFourState(results.picks) == FinalFourState::Incomplete)
+        return Failure{kUnknown};
+    const Result<std::int16_t> total = wholeNumber(results.finalPoints);
+    if (!total)
+        return Failure{"The total of the final in the results cannot be used. " + total.failure().message};
+
+    FinalSheet sheet;
+    sheet.openGames = openGamesOf(results.picks);
+    sheet.rule = table.ties;
+    if (sheet.openGames == 0 && *total > 0)
+        sheet.total = *total;
+    sheet.entryFee = table.entryFee;
+    sheet.purse = purseOf(table, scores.size());
+
+    addPlayers(sheet, scores, standingsOrder(scores));
+    return sheet;
+}
+
+ReportLines finalSheetLines(std::string_view title, const FinalSheet& sheet)
+{
+    const TextTable places = placesTable(sheet);
+    const auto centred = [&](const std::string& text) {
+        return indentedOrFlush(centredOnce(places.width, text.size()), text);
+    };
+    ReportLines header;
+    addPageHeader(header, centred(asOneLine(std::string{title})), centred(kFinalSheetName));
+    for (std::string& note : finalSheetNotes(sheet))
+        header.push_back(std::move(note));
+    header.emplace_back(kBlankLine);
+
+    SheetPages pages{std::move(header)};
+    pages.begin(places.heading);
+    pages.add(places.rows);
+    if (!sheet.pairs.empty()) {
+        const TextTable pairs = pairsTable(sheet);
+        pages.begin(pairsHeading(sheet, pairs));
+        pages.add(pairs.rows);
+    }
+    return pages.take();
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,97 @@
+// reports/final_sheet_words.cpp - the sentences, and how places and prizes are written.
+#include "reports/final_sheet_words.h"
+
+#include <algorithm>
+#include <fmt/format.h>
+#include <numeric>
+
+namespace tallyhoop {
+
+namespace {
+
+std::string counted(std::size_t count, const char* one, const char* many)
+{
+    return fmt::format("{} {}", count, count == 1 ? one : many);
+}
+
+std::string stateOf(const FinalSheet& sheet)
+{
+    if (sheet.openGames == 0)
+        return "The tournament is over";
+    return "If it ended like this: " + counted(sheet.openGames, "game is", "games are") + " open";
+}
+
+std::string ruleInWords(TieRule rule)
+{
+    switch (rule) {
+    case TieRule::Nearest:
+        return "Ties: the nearest prediction is ahead";
+    case TieRule::NotOver:
+        return "Ties: the nearest prediction that is not over the total is ahead";
+    case TieRule::Share:
+        break;
+    }
+    return "Ties: players with equal points share their places";
+}
+
+std::string totalInWords(const FinalSheet& sheet)
+{
+    constexpr const char* kTotal = "Total points of the final: ";
+    if (sheet.total)
+        return kTotal + std::to_string(*sheet.total);
+    return kTotal + std::string{sheet.openGames == 0 ? "not entered" : "not known yet"} +
+           ", so equal points share a place";
+}
+
+void addMoney(std::vector<std::string>& notes, const FinalSheet& sheet)
+{
+    const Purse& purse = sheet.purse;
+    const Money prizes = std::accumulate(purse.prizes.begin(), purse.prizes.end(), Money{});
+    if (purse.fees == Money{} && prizes == Money{} && purse.keptBack == Money{})
+        return;
+    notes.push_back(fmt::format("Fees: {} ({}, {} each)", moneyInWords(purse.fees),
+                                counted(sheet.rows.size(), "player", "players"), moneyInWords(sheet.entryFee)));
+    std::string split = "Prizes: " + moneyInWords(prizes);
+    if (purse.keptBack != Money{})
+        split = "Kept back: " + moneyInWords(purse.keptBack) + "; prizes: " + moneyInWords(prizes);
+    if (purse.left > Money{})
+        split += "; left: " + moneyInWords(purse.left);
+    if (purse.left < Money{})
+        split += "; from elsewhere: " + moneyInWords(Money{} - purse.left);
+    notes.push_back(std::move(split));
+}
+
+bool hasOddCents(const FinalSheet& sheet)
+{
+    const auto differ = [](const FinalRow& row, const FinalRow& next) {
+        return row.place == next.place && row.prize != next.prize;
+    };
+    return std::ranges::adjacent_find(sheet.rows, differ) != sheet.rows.end();
+}
+
+} // namespace
+
+std::vector<std::string> finalSheetNotes(const FinalSheet& sheet)
+{
+    std::vector<std::string> notes{stateOf(sheet)};
+    if (sheet.rule != TieRule::Share)
+        notes.push_back(totalInWords(sheet));
+    notes.push_back(ruleInWords(sheet.rule));
+    addMoney(notes, sheet);
+    if (hasOddCents(sheet))
+        notes.emplace_back("Shared prizes: odd cents go to those who are listed first");
+    return notes;
+}
+
+std::string placeInWords(const FinalRow& row) { return std::to_string(row.place) + (row.isShared ? "=" : ""); }
+
+std::string prizeInWords(const FinalRow& row) { return row.prize == Money{} ? std::string{} : moneyInWords(row.prize); }
+
+std::string offInWords(const FinalRow& row)
+{
+    if (!row.off)
+        return {};
+    return *row.off == 0 ? "0" : fmt::format("{:+}", *row.off);
+}
+
+} // namespace tallyhoop
