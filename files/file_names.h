@@ -15,6 +15,7 @@ inline constexpr const char* kResults = "TALLYHOOP.THS";
 inline constexpr const char* kTeamNames = "NCAALIST.THS";
 inline constexpr const char* kPlayerNames = "PLAYERNAMES.CSV";
 inline constexpr const char* kPlayerNamesErrors = "PLAYERNAMES.TXT";
+inline constexpr const char* kPrizes = "PRIZES.CSV";
 inline constexpr const char* kSettings = "TALLYHOOP.INI";
 inline constexpr const char* kHelp = "TALLYHOOP.HLP";
 inline constexpr const char* kDemoInstaller = "DEMOSET.EXE";
