@@ -41,8 +41,9 @@ struct FinalSheet {
     std::optional<int> total{}; ///< of the final; nothing = not known, and equal points share their place
     Money entryFee{};           ///< of each player
     Purse purse{};
-    std::vector<FinalRow> rows{};  ///< in the order of the places
-    std::vector<TiedPair> pairs{}; ///< what the total will decide; none when it is known
+    std::vector<FinalRow> rows{};       ///< in the order of the places
+    std::vector<TiedPair> pairs{};      ///< what the total will decide; none when it is known
+    std::vector<std::string> remarks{}; ///< further lines above the rows, such as what could not be read
 };
 
 /// Makes the sheet, from the last four on: before that nothing is near its end.

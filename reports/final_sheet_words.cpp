@@ -80,6 +80,7 @@ std::vector<std::string> finalSheetNotes(const FinalSheet& sheet)
     addMoney(notes, sheet);
     if (hasOddCents(sheet))
         notes.emplace_back("Shared prizes: odd cents go to those who are listed first");
+    notes.insert(notes.end(), sheet.remarks.begin(), sheet.remarks.end());
     return notes;
 }
 

@@ -12,7 +12,6 @@ namespace {
 using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
-using testing::Not;
 
 /// CEDAR RAPIDS has beaten PINE BLUFF: Adams has 168 points, Dunn 96 + 12 + 12 = 120, Baker 96, Clark none.
 Entry finished(const std::string& total)
@@ -147,6 +146,13 @@ TEST(FinalSheet, SaysWhatIsKeptBackAndLeft)
                 ElementsAre("The tournament is over", "Total points of the final: 150",
                             "Ties: the nearest prediction that is not over the total is ahead",
                             "Fees: 40.00 (4 players, 10.00 each)", "Kept back: 5.00; prizes: 30.00; left: 5.00"));
+}
+
+TEST(FinalSheet, SaysWhatWasNotRead)
+{
+    FinalSheet sheet = *sheetOf(fourPlayers(), finished("150"), {});
+    sheet.remarks = {"1 player is missing: the selection cannot be read"};
+    EXPECT_EQ(finalSheetNotes(sheet).back(), "1 player is missing: the selection cannot be read");
 }
 
 TEST(FinalSheet, CountsOneGameAsOne)
