@@ -73,7 +73,7 @@ ui::Message trouble(const std::string& what, const Failure& failure)
 ///          asked for again; and before them the setup, for a board without a field is of no use meanwhile.
 std::vector<std::string> demoDataFiles(const DataFolder& folder)
 {
-    std::vector<const char*> names{file_name::kResults, file_name::kPlayerNames};
+    std::vector<const char*> names{file_name::kResults, file_name::kPlayerNames, file_name::kPrizes};
     names.insert(names.end(), demo::kSelectionFiles.begin(), demo::kSelectionFiles.end());
     names.push_back(file_name::kSetup);
     names.push_back(file_name::kSettings);

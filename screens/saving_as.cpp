@@ -1,4 +1,4 @@
-// screens/saving_as.cpp - the file dialog, the question, the player list that is kept, and the save.
+// screens/saving_as.cpp - the file dialog, the question, the tables of the pool that are kept, and the save.
 #include "screens/saving_as.h"
 
 #include "base/text.h"
@@ -7,6 +7,7 @@
 #include "files/known_files.h"
 #include "screens/saving.h"
 
+#include <array>
 #include <system_error>
 
 namespace tallyhoop {
@@ -17,11 +18,20 @@ namespace fs = std::filesystem;
 
 constexpr const char* kCheckSpace = " Check for adequate space in its folder";
 
-ui::Message isPlayerList(const fs::path& file)
+/// A table of the pool's own, which another one must not replace.
+struct OwnTable {
+    const char* file;
+    const char* sentence;
+};
+
+constexpr std::array kOwnTables{
+    OwnTable{file_name::kPlayerNames, "This is the list of players, which the pool needs:"},
+    OwnTable{file_name::kPrizes, "These are the fees and the prizes, which the pool needs:"}};
+
+ui::Message isNeeded(const OwnTable& table, const fs::path& file)
 {
-    return {"",
-            joinLines({"This is the list of players, which the pool needs:", shown(file), " ", "Choose another name."}),
-            ui::Buttons::Ok, ui::Icon::Exclamation};
+    return {"", joinLines({table.sentence, shown(file), " ", "Choose another name."}), ui::Buttons::Ok,
+            ui::Icon::Exclamation};
 }
 
 } // namespace
@@ -56,10 +66,11 @@ std::optional<fs::path> saveAs(const ui::Platform& platform, const DataFolder& f
         what.extension);
     if (!file)
         return std::nullopt;
-    if (isSameFile(*file, folder.pathTo(file_name::kPlayerNames))) {
-        platform.dialogs.show(isPlayerList(*file));
-        return std::nullopt;
-    }
+    for (const OwnTable& table : kOwnTables)
+        if (isSameFile(*file, folder.pathTo(table.file))) {
+            platform.dialogs.show(isNeeded(table, *file));
+            return std::nullopt;
+        }
     KnownFiles unknown; // the question below is enough: nobody has been shown what is in the file
     if (!mayReplace(platform.dialogs, std::span{&*file, 1}) ||
         !saveFile(platform, unknown, *file, what.bytes, shown(*file), kCheckSpace))

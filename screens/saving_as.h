@@ -31,7 +31,7 @@ struct FileToSave {
 };
 
 /// Asks for the name, beginning in the program's folder, and about a file that is there, and writes the file as a whole
-/// or not at all. The player list is not replaced by it. What goes wrong is shown.
+/// or not at all. The player list and the prizes are not replaced by it. What goes wrong is shown.
 /// @returns the file; nothing when it was not written
 std::optional<std::filesystem::path> saveAs(const ui::Platform& platform, const DataFolder& folder,
                                             const FileToSave& what);

@@ -17,8 +17,8 @@ Result<std::vector<std::filesystem::path>> filesOfPool(const DataFolder& folder)
     if (selections.trouble)
         return Failure{shown(folder.folder()) + "\r\n" + selections.trouble->message};
     std::vector<std::filesystem::path> files;
-    for (const char* name :
-         {file_name::kSetup, file_name::kResults, file_name::kPlayerNames, file_name::kTeamNames, file_name::kSettings})
+    for (const char* name : {file_name::kSetup, file_name::kResults, file_name::kPlayerNames, file_name::kPrizes,
+                             file_name::kTeamNames, file_name::kSettings})
         if (folder.exists(name))
             files.push_back(folder.pathTo(name));
     for (const FolderFile& file : selections.value)

@@ -25,14 +25,15 @@ TEST(StartDemo, MovesAPoolOfOnesOwnIntoADatedSubfolder)
     OwnPool pool;
     pool.scratch.put("Demo Halfway_DH.THC", "a real player of this name");
     pool.scratch.put("TALLYHOOP.INI", "0\r\n");
+    pool.scratch.put("PRIZES.CSV", "own prizes");
     pool.platform.programs.whenStarted = [&pool] {
         EXPECT_EQ(entriesOf(pool.scratch.path()), (std::vector<std::string>{kBackup, "NCAALIST.THS", "Own_O.THC"}));
         pool.scratch.put("TALLYHOOP.INI", "1\r\n");
     };
     EXPECT_TRUE(startDemo(pool.scratch.folder(), pool.platform.services));
     EXPECT_EQ(entriesOf(pool.scratch.path() / kBackup),
-              (std::vector<std::string>{"Demo Halfway_DH.THC", "PLAYERNAMES.CSV", "POOLSTART.THS", "TALLYHOOP.INI",
-                                        "TALLYHOOP.THS"}));
+              (std::vector<std::string>{"Demo Halfway_DH.THC", "PLAYERNAMES.CSV", "POOLSTART.THS", "PRIZES.CSV",
+                                        "TALLYHOOP.INI", "TALLYHOOP.THS"}));
     EXPECT_EQ(pool.scratch.get(std::string{kBackup} + "/PLAYERNAMES.CSV"), "own PLAYERNAMES.CSV");
 }
 
@@ -114,10 +115,11 @@ TEST(LeaveDemo, KeepsWhatThePersonChangedMeanwhile)
     InstalledDemo demo;
     demo.scratch.put("TALLYHOOP.THS", "my results");
     demo.scratch.put("Demo Prophet_DP.THC", "my picks");
+    demo.scratch.put("PRIZES.CSV", "my prizes");
     EXPECT_EQ(leaveDemo(demo.scratch.folder(), demo.platform.services), kOwnChangesAreKept);
     EXPECT_EQ(entriesOf(demo.scratch.path()), std::vector<std::string>{kBackup});
     EXPECT_EQ(entriesOf(demo.scratch.path() / kBackup),
-              (std::vector<std::string>{"Demo Prophet_DP.THC", "TALLYHOOP.THS"}));
+              (std::vector<std::string>{"Demo Prophet_DP.THC", "PRIZES.CSV", "TALLYHOOP.THS"}));
     EXPECT_EQ(demo.scratch.get(std::string{kBackup} + "/TALLYHOOP.THS"), "my results");
     EXPECT_EQ(demo.platform.dialogs.shown,
               (std::vector<ui::Message>{kContinueNormally, ownChangesAreIn(demo.scratch.path() / kBackup)}));

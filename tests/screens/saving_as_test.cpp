@@ -73,6 +73,17 @@ TEST_F(SavingAs, KeepsThePlayerList)
     EXPECT_EQ(platform.dialogs.shown.size(), 2U);
 }
 
+TEST_F(SavingAs, KeepsThePrizes)
+{
+    scratch.put("PRIZES.CSV", "prizes");
+    platform.dialogs.pick(scratch.path() / "Prizes.csv");
+    EXPECT_EQ(save(), std::nullopt);
+    EXPECT_EQ(scratch.get("PRIZES.CSV"), "prizes");
+    EXPECT_EQ(platform.dialogs.shown.at(0).text, "These are the fees and the prizes, which the pool needs:\r\n" +
+                                                     (scratch.path() / "Prizes.csv").string() +
+                                                     "\r\n \r\nChoose another name.");
+}
+
 TEST_F(SavingAs, AFileOfThatNameElsewhereIsAnyFile)
 {
     fs::create_directory(scratch.path() / "elsewhere");
