@@ -6,6 +6,7 @@
 #include "qt/views/email_view.h"
 #include "qt/views/entry_form_view.h"
 #include "qt/views/import_view.h"
+#include "qt/views/money_view.h"
 #include "qt/views/outlook_view.h"
 #include "qt/views/players_view.h"
 #include "qt/views/reports_view.h"
@@ -15,6 +16,7 @@
 #include "screens/board/board_screen.h"
 #include "screens/entries/entry_form_screen.h"
 #include "screens/import/import_screen.h"
+#include "screens/money/money_screen.h"
 #include "screens/outlook/outlook_screen.h"
 #include "screens/players/email_screen.h"
 #include "screens/players/players_screen.h"
@@ -93,6 +95,10 @@ public:
                 std::make_unique<ImportScreen>(m_folder, m_platform, m_host,
                                                ImportScreen::Shared{m_shared.field, board(), m_shared.droppedFiles},
                                                qt::takeMailApart));
+        case ScreenKind::Money:
+            return shownBy<qt::MoneyView>(
+                Placement::Stacked,
+                std::make_unique<MoneyScreen>(m_folder, openPool(m_folder, m_platform, board()), m_platform, m_host));
         }
         throw std::logic_error{"There is no screen of this kind."};
     }

@@ -19,9 +19,10 @@ inline constexpr const char* kOutlook = "outlook";
 inline constexpr const char* kReports = "reports";
 inline constexpr const char* kEmail = "email";
 inline constexpr const char* kPlayers = "players";
+inline constexpr const char* kMoney = "money";   ///< fees, prizes and the final sheet
 inline constexpr const char* kRepair = "repair"; ///< of a faulty player list
 
-inline constexpr std::array kAll{kStart,  kDemo,      kSetup,   kSeeds,   kSelections, kEntries, kImport, kResults,
-                                 kScores, kScoreList, kOutlook, kReports, kEmail,      kPlayers, kRepair};
+inline constexpr std::array kAll{kStart,  kDemo,      kSetup,   kSeeds, kSelections, kEntries, kImport,  kResults,
+                                 kScores, kScoreList, kOutlook, kMoney, kReports,    kEmail,   kPlayers, kRepair};
 
 } // namespace tallyhoop::help_topic

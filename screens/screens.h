@@ -5,7 +5,7 @@
 
 namespace tallyhoop {
 
-enum class ScreenKind { Board, Scores, Setup, Seeds, Reports, Players, Email, Outlook, EntryForm, Import };
+enum class ScreenKind { Board, Scores, Setup, Seeds, Reports, Players, Email, Outlook, EntryForm, Import, Money };
 
 /// Opens and closes screens. A screen may unload itself: it is destroyed once its command has returned.
 class Screens

@@ -50,6 +50,12 @@ void BoardExits::toImport()
     m_screens.load(ScreenKind::Import);
 }
 
+void BoardExits::toMoney()
+{
+    m_screens.unload(ScreenKind::Scores);
+    m_screens.load(ScreenKind::Money);
+}
+
 void BoardExits::toDemo()
 {
     if (!enterDemo(m_folder, m_platform))

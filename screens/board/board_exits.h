@@ -21,6 +21,7 @@ public:
     void toOutlook();
     void toEntryForm();
     void toImport();
+    void toMoney();
 
     /// Enters demo mode, or leaves it, and shows what the folder then holds on a fresh board.
     void toDemo();

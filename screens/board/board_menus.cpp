@@ -36,8 +36,8 @@ void BoardMenus::arrange()
                         &mnuBackUp,        nullptr,           &mnuExit};
     mnuEdit.children = {&mnuUndo, &mnuRedo};
     mnuEntryAssist.children = {&mnuHighSeed};
-    mnuOptions.children = {&mnuScoreSelections, &mnuGameResults, &mnuOutlook,  nullptr,
-                           &mnuEntryAssist,     nullptr,         &mnuEditNames};
+    mnuOptions.children = {&mnuScoreSelections, &mnuGameResults, &mnuOutlook,   nullptr,
+                           &mnuEntryAssist,     nullptr,         &mnuEditNames, &mnuMoney};
     mnuSetup.children = {&mnuSetupOptions};
     mnuDemo.children = {&mnuDemoSet, &mnuDemoReset};
     mnuHelp.children = {&mnuHelpDisplay, &mnuHelpAbout};
@@ -65,6 +65,7 @@ void BoardMenus::chooseIcons()
     mnuOutlook.icon = ui::MenuIcon::Score;
     mnuHighSeed.icon = ui::MenuIcon::Assist;
     mnuEditNames.icon = ui::MenuIcon::People;
+    mnuMoney.icon = ui::MenuIcon::Score;
     mnuSetupOptions.icon = ui::MenuIcon::Setup;
     mnuDemoSet.icon = ui::MenuIcon::Demo;
     mnuDemoReset.icon = ui::MenuIcon::Reset;
@@ -102,6 +103,7 @@ void BoardMenus::explain()
     mnuEntryAssist.explanation = "Help with filling the board in.";
     mnuHighSeed.explanation = "The better seed wins every game of the regions; picks already made there are replaced.";
     mnuEditNames.explanation = "Opens the list of players with their e-mail addresses.";
+    mnuMoney.explanation = "The entry fee, the prizes, who has paid, and the final sheet.";
     mnuSetupOptions.explanation = "Opens the field, the titles, the payoffs and the comments.";
     mnuReports.explanation = "Opens the reports: to the printer, to files or by e-mail.";
     mnuDemoSet.explanation = "Shows a sample pool, to try everything out.";
@@ -118,6 +120,7 @@ void BoardMenus::enableMenus(const BoardState& state)
     mnuEntryForm.enabled = state.finalized;
     mnuExportSelections.enabled = state.finalized && state.selectionsThere;
     mnuImport.enabled = state.finalized;
+    mnuMoney.enabled = state.finalized;
     mnuSaveSelection.enabled = state.finalized && !state.scored;
     mnuGameResults.enabled = state.finalized && !state.resultsMode;
     mnuScoreSelections.enabled = state.finalized && !state.scored && (state.resultsMode || state.resultsThere);

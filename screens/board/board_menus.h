@@ -93,6 +93,7 @@ public:
     ui::MenuEntry mnuEntryAssist{m_owner, "mnuEntryAssist", "Entry &Assist"};
     ui::MenuEntry mnuHighSeed{m_owner, "mnuHighSeed", "Select &High Seeds", [this] { m_do.selectHighSeeds(); }};
     ui::MenuEntry mnuEditNames{m_owner, "mnuEditNames", "Edit &Names File", [this] { m_go.toPlayers(); }, "F8"};
+    ui::MenuEntry mnuMoney{m_owner, "mnuMoney", "&Money...", [this] { m_go.toMoney(); }};
     ui::MenuEntry mnuSetup{m_owner, "mnuSetup", "&Setup"};
     ui::MenuEntry mnuSetupOptions{m_owner, "mnuSetupOptions", "Setup &Pool Options", [this] { m_go.toSetup(); }};
     ui::MenuEntry mnuReports{m_owner, "mnuReports", "&Reports", [this] { m_go.toReports(); }, "F7"};

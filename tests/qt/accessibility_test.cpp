@@ -10,6 +10,7 @@
 #include "qt/screen_host.h"
 #include "screens/board/board_screen.h"
 #include "screens/import/import_screen.h"
+#include "screens/money/money_screen.h"
 #include "screens/outlook/outlook_screen.h"
 #include "screens/scores/scores_screen.h"
 
@@ -186,6 +187,19 @@ TEST_P(Accessibility, OfTheImport)
     });
     ASSERT_TRUE(import.txtSummary.visible);
     examine(ScreenKind::Import);
+}
+
+TEST_P(Accessibility, OfFeesAndPrizes)
+{
+    scratch.put(file_name::kPrizes, "Entry fee,,10.00\r\nPrize,1,60 %\r\nPrize,12,5.00\r\n");
+    onBoard([&] { board().mnuMoney.click(); });
+    examine(ScreenKind::Money);
+    MoneyScreen& money = *host.find<MoneyScreen>(ScreenKind::Money);
+    desk.run(money, [&] {
+        money.cmdTickAll.click();
+        money.txtPrize[1].text = "50 %";
+    });
+    examine(ScreenKind::Money);
 }
 
 TEST_P(Accessibility, OfThePlayerList)

@@ -5,6 +5,7 @@
 #include "screens/board/board_screen.h"
 #include "screens/entries/entry_form_screen.h"
 #include "screens/import/import_screen.h"
+#include "screens/money/money_screen.h"
 #include "screens/players/email_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -106,7 +107,7 @@ TEST_F(Captions, OfTheBoard)
                             "[Open Folder] [Back Up Pool] | [Exit]",
                             "Open Recent: [] [] [] [] []", "Edit: [Undo] [Redo]",
                             "Options: [Score Selections] [Enter Game Results] [Pool Outlook] | [Entry Assist] | "
-                            "[Edit Names File]",
+                            "[Edit Names File] [Money...]",
                             "Entry Assist: [Select High Seeds]", "Setup: [Setup Pool Options]", "Reports:",
                             "DEMO Mode: [DEMO-Start] [DEMO-Reset]", "Help: [Help Display] [About Tallyhoop]"));
 }
@@ -221,6 +222,26 @@ TEST_F(Captions, OfTheEmailDialog)
                             "cmdFreeEntry: Not In List Below", "cmdUseList: Match List Below", "lblTo: Send To: (0)",
                             "cmdDelete: Delete Email Selected", "cmdCopy: Copy Addresses", "lblSubject: Subject:",
                             "lblMessage: Enter Email Message:", "cmdSend: Send Email", "cmdExit: Exit/Cancel"));
+}
+
+TEST_F(Captions, OfFeesAndPrizes)
+{
+    MoneyScreen money{folder, OpenedPool{}, platform.services, screens};
+    money.load();
+    money.showState();
+
+    EXPECT_THAT(
+        captionsOf(money),
+        ElementsAre(
+            "frmMoney: Money", "lblEntryFee: Entry fee of each player:", "lblKeptBack: Kept back:",
+            "lblPlace_0: Place 1:", "lblPlace_1: Place 2:", "lblPlace_2: Place 3:", "lblPlace_3: Place 4:",
+            "lblPlace_4: Place 5:", "lblPlace_5: Place 6:", "lblPlace_6: Place 7:", "lblPlace_7: Place 8:",
+            "lblPlace_8: Place 9:", "lblPlace_9: Place 10:", "lblTies: Equal points:", "optTies_0: Nearest prediction",
+            "optTies_1: Nearest not over the total", "optTies_2: Places are shared",
+            "lblTotal: The total of the final is entered with the results.",
+            "lblPurse: Fees 0.00: kept back 0.00, prizes 0.00, left 0.00.", "cmdTickAll: Tick All",
+            "cmdUntickAll: Untick All", "lblFees: There are no players yet.", "cmdFinalSheet: Save Final Sheet",
+            "cmdPrint: Print Final Sheet", "cmdPreview: Preview Final Sheet", "cmdSave: Save", "cmdExit: Exit"));
 }
 
 TEST_F(Captions, OfTheEntryForm)

@@ -74,7 +74,7 @@ std::set<std::string> together(std::set<std::string> names, const std::set<std::
 std::set<std::string> withSelectionMenus(std::set<std::string> disabled)
 {
     if (disabled.contains("mnuOpenSelection"))
-        disabled.insert({"mnuPrevious", "mnuNext", "mnuEntryForm", "mnuImport"});
+        disabled.insert({"mnuPrevious", "mnuNext", "mnuEntryForm", "mnuImport", "mnuMoney"});
     return together(std::move(disabled), {"mnuOutlook", "mnuExportSelections", "mnuRecent", "mnuRecentFile_0",
                                           "mnuRecentFile_1", "mnuRecentFile_2", "mnuRecentFile_3", "mnuRecentFile_4"});
 }
@@ -189,8 +189,9 @@ TEST_F(BoardMenusTest, EachOtherEntryLeadsWhereItSays)
     menus.mnuOutlook.click();
     menus.mnuEntryForm.click();
     menus.mnuImport.click();
+    menus.mnuMoney.click();
     EXPECT_THAT(screens.loads, ElementsAre(ScreenKind::Players, ScreenKind::Reports, ScreenKind::Outlook,
-                                           ScreenKind::EntryForm, ScreenKind::Import));
+                                           ScreenKind::EntryForm, ScreenKind::Import, ScreenKind::Money));
     menus.mnuSetupOptions.click();
     EXPECT_EQ(screens.loads.back(), ScreenKind::Setup);
     EXPECT_EQ(screens.unloads.back(), ScreenKind::Board);
