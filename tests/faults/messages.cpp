@@ -138,4 +138,10 @@ ui::Message outlookTrouble(const Fault& fault)
             std::string{"OUTLOOK.TXT could not be written.\r\n"} + fault.reason, ui::Buttons::Ok, ui::Icon::Critical};
 }
 
+ui::Message finalSheetTrouble(const Fault& fault)
+{
+    return {"Tallyhoop - frmMoney, Final Sheet", std::string{"FINAL.TXT could not be written.\r\n"} + fault.reason,
+            ui::Buttons::Ok, ui::Icon::Critical};
+}
+
 } // namespace tallyhoop::test

@@ -36,4 +36,7 @@ std::vector<ui::Message> tableTrouble(const std::filesystem::path& folder, const
 /// The outlook is read before anything happens to the folder.
 ui::Message outlookTrouble(const Fault& fault);
 
+/// So is the pool for the final sheet.
+ui::Message finalSheetTrouble(const Fault& fault);
+
 } // namespace tallyhoop::test

@@ -1,7 +1,9 @@
 // tests/faults/pool.cpp - a pool with old reports, and what a folder or a screen holds as text.
 #include "faults/writers.h"
 #include "files/file_names.h"
+#include "files/prizes_file.h"
 #include "files/setup_file.h"
+#include "reports/final_sheet.h"
 #include "reports/outlook.h"
 #include "reports/report_pool.h"
 #include "reports/report_table.h"
@@ -29,6 +31,8 @@ void putPool(const ScratchFolder& folder)
     for (const ReportKind& kind : reportTable())
         folder.put(kind.file, "an older report");
     folder.put(kOutlookFile, "an older report");
+    folder.put(kFinalSheetFile, "an older report");
+    folder.put(file_name::kPrizes, prizesFile({}));
 }
 
 std::vector<std::pair<std::string, std::string>> filesIn(const fs::path& folder)

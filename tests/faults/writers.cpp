@@ -9,10 +9,12 @@
 #include "files/selection_file.h"
 #include "files/setup_file.h"
 #include "reports/entry_form/entry_form.h"
+#include "reports/final_sheet.h"
 #include "reports/outlook.h"
 #include "screens/board/board_screen.h"
 #include "screens/entries/entry_form_screen.h"
 #include "screens/entries/selection_export.h"
+#include "screens/money/money_screen.h"
 #include "screens/outlook/outlook_screen.h"
 #include "screens/players/players_screen.h"
 #include "screens/reports/reports_screen.h"
@@ -277,6 +279,35 @@ private:
                            std::make_unique<FakeBackground>()};
 };
 
+class MoneyWriter : public Writer
+{
+public:
+    explicit MoneyWriter(const fs::path& folderPath) : Writer{folderPath}
+    {
+        m_screen.load();
+        m_screen.txtEntryFee.text = "17.70";
+        m_screen.txtPrize[0].text = "100 %";
+        m_screen.showState();
+    }
+    void save(std::optional<ui::Answer> mayReplace) override
+    {
+        if (mayReplace)
+            platform.dialogs.answer(*mayReplace);
+        m_screen.cmdSave.click();
+    }
+    std::string onScreen() const override { return textOf(m_screen); }
+
+protected:
+    MoneyScreen m_screen{folder, openPool(folder, platform.services, board), platform.services, screens};
+};
+
+class FinalSheetWriter : public MoneyWriter
+{
+public:
+    using MoneyWriter::MoneyWriter;
+    void save(std::optional<ui::Answer> /*mayReplace*/) override { m_screen.cmdFinalSheet.click(); }
+};
+
 constexpr std::size_t kToPrinter = 0;
 constexpr std::size_t kToFile = 1;
 
@@ -349,6 +380,9 @@ const std::vector<WriterKind>& allWriters()
         reportFile<ReportId::ResultsByTeam>("ResultsByTeam"),
         {"Outlook", kOutlookFile, "Pool Outlook", true, false, opened<OutlookWriter>,
          [](const fs::path&, const Fault& fault) { return std::vector{outlookTrouble(fault)}; }},
+        {"Prizes", file_name::kPrizes, "17.70", true, true, opened<MoneyWriter>, troubleWith<file_name::kPrizes>},
+        {"FinalSheet", kFinalSheetFile, "17.70 each", true, false, opened<FinalSheetWriter>,
+         [](const fs::path&, const Fault& fault) { return std::vector{finalSheetTrouble(fault)}; }},
     };
     return writers;
 }

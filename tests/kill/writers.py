@@ -9,6 +9,7 @@ POINTS = re.compile(rb"\r\n1\d\d(\r\n\*END\*\r\n)\Z")
 TOTAL = re.compile(rb"(Demo Prophet,DP,)1\d\d,")
 CHANCES = re.compile(rb"^Chances: .*\r\n", re.MULTILINE)
 VERDICTS = re.compile(rb"( +\d+(-\d+)?){2}  (Clinched|Alive|Open|Out)\r\n")
+AMOUNT = re.compile(rb"\b1\d\d\.00\b")
 CHANGED = "** FILE HAS BEEN CHANGED **"
 FAULTY_LIST = "** ERROR Found in PLAYERNAMES.CSV file **"
 OFFER = "** DEMO MODE OPTION **"
@@ -35,6 +36,10 @@ def without_points(content):
 
 def without_total(content):
     return TOTAL.sub(rb"\g<1>1NN,", content)
+
+
+def without_amounts(content):
+    return AMOUNT.sub(b"1NN.00", content)
 
 
 def without_marked_lines(content):
@@ -87,6 +92,8 @@ WRITERS = {writer.name: writer for writer in [
     Writer("entryform", ["ENTRYFORM.HTML"], without_marks, boxes=["Tallyhoop"]),
     *[report(number) for number in range(1, 8)],
     Writer("outlook", ["OUTLOOK.TXT"], without_chances_and_verdicts),
+    Writer("prizes", ["PRIZES.CSV"], without_amounts),
+    Writer("final", ["FINAL.TXT"], without_amounts),
     Writer("message", ["TALLYHOOP.EML", "RPTOPT2.TXT"], None),
     Writer("pdf", ["Bracket.PDF"], pdf, boxes=["Tallyhoop"]),
     Writer("installer", [], lambda content: content),

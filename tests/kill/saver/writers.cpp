@@ -116,7 +116,26 @@ void saveOutlook(int round)
     click("cmdSaveReport");
 }
 
-const std::array<Writer, 22> kWriters{{
+/// An amount of three digits, another one in each round.
+QString amountOf(int round)
+{
+    constexpr int kLeast = 100;
+    return QString::number(kLeast + round % kLeast);
+}
+
+void savePrizes(int round)
+{
+    type("txtEntryFee", amountOf(round));
+    click("cmdSave");
+}
+
+void saveFinalSheet(int round)
+{
+    type("txtPrize_0", amountOf(round));
+    click("cmdFinalSheet");
+}
+
+const std::array<Writer, 24> kWriters{{
     {"nothing", nothing, [](int) {}},
     {"setup", [] { choose("mnuSetupOptions"); }, saveSetup},
     {"results", [] { choose("mnuGameResults"); }, saveBoard},
@@ -135,6 +154,8 @@ const std::array<Writer, 22> kWriters{{
     {"report6", prepareReport<'5', '1'>, makeReport},
     {"report7", prepareReport<'6', '1'>, makeReport},
     {"outlook", [] { choose("mnuOutlook"); }, saveOutlook},
+    {"prizes", [] { choose("mnuMoney"); }, savePrizes},
+    {"final", [] { choose("mnuMoney"); }, saveFinalSheet},
     {"message", prepareReport<'1', '3'>, makeReport},
     {"pdf", [] { choose("mnuReports"); }, [](int) { click("cmdSaveBoardPdf"); }},
     {"backup", nothing, [](int) { choose("mnuDemoSet"); }},
