@@ -3,8 +3,8 @@
 
 #include "base/windows1252.h"
 #include "reports/entry_form/form_template.h"
+#include "reports/web/web_page.h"
 
-#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <fmt/format.h>
@@ -15,19 +15,12 @@ namespace tallyhoop {
 
 namespace {
 
-/// Controls are escaped as JSON asks for it; "<", ">" and "&" because the text is inside a script element of a page.
-bool isEscapedInJson(unsigned char byte)
-{
-    constexpr std::string_view kSpecial = "\"\\<>&\x81\x8D\x8F\x90\x9D"; // the last five are controls, too
-    return byte < ' ' || byte == 0x7F || kSpecial.find(static_cast<char>(byte)) != std::string_view::npos;
-}
-
 std::string jsonOf(std::string_view text)
 {
     std::string json = "\"";
     for (const char character : text) {
         const auto byte = static_cast<unsigned char>(character);
-        json += isEscapedInJson(byte) ? fmt::format("\\u{:04x}", byte) : toUtf8({&character, 1});
+        json += isEscapedInPage(byte) ? fmt::format("\\u{:04x}", byte) : toUtf8({&character, 1});
     }
     return json + "\"";
 }
@@ -58,27 +51,6 @@ std::string jsonOf(const Field& field, const EntryFormOptions& options)
                        jsonOf(field.title), jsonListOf(field.regionTitles), jsonListOf(field.payoffs.texts()),
                        jsonListOf(field.seeds), jsonListOf(seedsOfRegion(field)), jsonListOf(field.teams.values),
                        jsonListOf(std::array{field.comment1, field.comment2}), jsonOf(options.organiser));
-}
-
-/// A text as an element's content: markup and controls as character references.
-std::string htmlOf(std::string_view text)
-{
-    std::string html;
-    for (const char character : text) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte < ' ' || byte == 0x7F)
-            html += ' ';
-        else
-            html += isEscapedInJson(byte) ? fmt::format("&#{};", byte) : toUtf8({&character, 1});
-    }
-    return html;
-}
-
-/// @returns the template with a text at one of its places
-std::string filled(std::string_view page, std::string_view place, std::string_view text)
-{
-    const std::size_t at = page.find(place);
-    return fmt::format("{}{}{}", page.substr(0, at), text, page.substr(at + place.size()));
 }
 
 } // namespace

@@ -1,6 +1,8 @@
-# reports/entry_form/embed.cmake - makes a source with the page's template, whose style and scripts are in their places.
+# reports/web/embed.cmake - makes a source with a page's template, whose style and scripts are in their places.
 #
 # The page's policy names the only style and the only script that a browser may take: each by its SHA-256, in base64.
+# Given: PAGE, STYLES and SCRIPTS (files, the latter two as lists), CONSTANT (name of the template), HEADER (which declares
+# it) and OUTPUT. embed_page() in CMakeLists.txt beside this calls it.
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -30,6 +32,16 @@ function(base64_of hex result)
     set(${result} "${base64}${equals}" PARENT_SCOPE)
 endfunction()
 
+# joined(FILES RESULT): the texts of the files, one after the other, from a line of their own on.
+function(joined files result)
+    set(text "\n")
+    foreach(file ${files})
+        file(READ ${file} part)
+        string(APPEND text "${part}")
+    endforeach()
+    set(${result} "${text}" PARENT_SCOPE)
+endfunction()
+
 # put(PLACE TEXT): puts a text into its place in the page, and its hash into the policy.
 function(put place text)
     string(SHA256 hash "${text}")
@@ -39,25 +51,18 @@ function(put place text)
     set(page "${page}" PARENT_SCOPE)
 endfunction()
 
-file(READ ${FOLDER}/form.html page)
-set(style "\n")
-foreach(name form paper)
-    file(READ ${FOLDER}/${name}.css part)
-    string(APPEND style "${part}")
-endforeach()
-set(script "\n")
-foreach(name bracket hand_over view form)
-    file(READ ${FOLDER}/${name}.js part)
-    string(APPEND script "${part}")
-endforeach()
+file(READ ${PAGE} page)
+joined("${STYLES}" style)
+joined("${SCRIPTS}" script)
 put(STYLE "${style}")
 put(SCRIPT "${script}")
-file(WRITE ${OUTPUT} "// The template of the entry form, made by embed.cmake.
-#include \"reports/entry_form/form_template.h\"
+cmake_path(GET OUTPUT FILENAME name)
+file(WRITE ${OUTPUT} "// ${name} - a page's template, made by embed.cmake.
+#include \"${HEADER}\"
 
 namespace tallyhoop {
 
-const std::string_view kEntryFormTemplate = R\"page(${page})page\";
+const std::string_view ${CONSTANT} = R\"page(${page})page\";
 
 } // namespace tallyhoop
 ")

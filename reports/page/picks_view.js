@@ -1,0 +1,94 @@
+// picks_view.js - who picked what.
+
+const NAMES_AT_ONCE = 12;
+
+/** Names, which lead to brackets; many of them behind a button. */
+function makeNames(players) {
+  const names = players.slice().sort(byName).flatMap((player, index) => (index ? [', ', makePlayerLink(player)] : [makePlayerLink(player)]));
+  if (players.length <= NAMES_AT_ONCE) return make('span', {}, ...names);
+  const details = make('details', {}, make('summary', {}, counted(players.length, 'player')));
+  details.addEventListener('toggle', () => details.append(...names), { once: true });
+  return details;
+}
+
+/** A bar as long as its part of the whole. */
+function makeBar(part, whole) {
+  return makeSvg('svg', { class: 'bar', viewBox: '0 0 100 10', preserveAspectRatio: 'none', 'aria-hidden': 'true' },
+    makeSvg('rect', { width: (100 * part) / Math.max(1, whole), height: 10 }));
+}
+
+function makeGamePicks(pool, game) {
+  const rows = picksOfGame(pool.players, game);
+  const isRight = ({ team }) => team !== 0 && team === pool.results[game];
+  const columns = [
+    { title: 'Team', isHeader: true, cell: (row) => make('span', {}, row.team === 0 ? 'no pick' : withSeed(pool, row.team), isRight(row) ? makeMark(GOOD) : '') },
+    { title: 'Players', kind: 'number', cell: ({ pickers }) => String(pickers.length) },
+    { title: '%', kind: 'number', cell: ({ pickers }) => percent(pickers.length, pool.players.length) },
+    { title: 'Part', kind: 'bar-column', cell: ({ pickers }) => makeBar(pickers.length, pool.players.length) },
+    { title: 'Who', kind: 'wrap', cell: ({ pickers }) => makeNames(pickers) },
+  ];
+  return new Table(`Picks: ${nameOfGame(pool, game)}`, columns, rows).element;
+}
+
+/** "West, second round: 3, Team 1 or Team 2": the games of a part are told apart by the field's teams. */
+function gameChoice(pool, game) {
+  const team = (place) => (isTeamPlace(place) ? nameOf(pool, pool.teams[regionOf(place) * REGION_TEAMS + (place % REGION_PLACES)]) : null);
+  const entrants = feeders[game].map(team);
+  const number = isInRegion(game) && roundOf(game) > 1 && roundOf(game) < 4
+    ? ` ${gamesOfRound(roundOf(game), regionOf(game)).indexOf(game) + 1}` : '';
+  return entrants.includes(null) ? `${nameOfGame(pool, game)}${number}` : `${nameOfGame(pool, game)}: ${entrants.join(' or ')}`;
+}
+
+function makeGameChoice(pool) {
+  const area = makeScroller('Picks of the game', makeGamePicks(pool, CHAMPION));
+  const choices = gamesByRound().map((game) => [game, gameChoice(pool, game)]);
+  return [
+    make('h3', {}, 'Game by game'),
+    make('div', { class: 'tools' }, makeChoice('picks-game', 'Game', choices, (value) =>
+      area.replaceChildren(makeGamePicks(pool, Number(value))))),
+    area,
+  ];
+}
+
+function makePair({ players, alike }) {
+  return make('span', {}, makePlayerLink(players[0]), ' and ', makePlayerLink(players[1]), `: ${counted(alike, 'game')} alike of ${GAMES}`);
+}
+
+/** What there is to say in one line each. */
+function makeFacts(pool) {
+  const [loved] = picksOfGame(pool.players, CHAMPION).filter(({ team }) => team !== 0);
+  const pairs = closestAndFurthest(pool.players);
+  const facts = [];
+  if (loved) facts.push(['Most-loved champion', `${withSeed(pool, loved.team)}: ${counted(loved.pickers.length, 'player')} of ${pool.players.length}`]);
+  if (pairs) facts.push(['Closest pair', makePair(pairs.closest)], ['Furthest pair', makePair(pairs.furthest)]);
+  return make('dl', { class: 'facts' }, ...facts.map(([term, fact]) => make('div', {}, make('dt', {}, term), make('dd', {}, fact))));
+}
+
+function makeSoleRight(pool) {
+  const rows = soleRightPicks(pool).reverse();
+  if (rows.length === 0) return make('p', {}, 'No right pick so far is that of one player alone.');
+  return makeScroller('Sole right picks', new Table('Sole right picks', [
+    { title: 'Player', isHeader: true, cell: ({ player }) => makePlayerLink(player) },
+    { title: 'Team', cell: ({ team }) => withSeed(pool, team) },
+    { title: 'Game', cell: ({ game }) => nameOfGame(pool, game) },
+  ], rows).element);
+}
+
+function makeChalk(pool) {
+  const rows = pool.players.map((player) => ({ player, ...chalkOf(pool, player.picks) }));
+  const part = ({ better, games }) => (games === 0 ? -1 : better / games);
+  return makeScroller('Chalk', new Table('Chalk', [
+    { title: 'Player', isHeader: true, cell: ({ player }) => makePlayerLink(player), key: ({ player }) => player.name },
+    { title: 'Chalk %', kind: 'number', cell: ({ better, games }) => percent(better, games), key: (row) => -part(row) },
+    { title: 'Better seeds', kind: 'number', cell: ({ better, games }) => `${better} of ${games}`, key: ({ better }) => -better },
+  ], rows, 1).element);
+}
+
+function fillPicks(panel, pool) {
+  panel.append(
+    make('h2', {}, 'Picks'), makeFacts(pool), ...makeGameChoice(pool),
+    make('h3', {}, 'Sole right picks'), makeSoleRight(pool),
+    make('h3', {}, 'Chalk'),
+    make('p', { class: 'hint' }, 'How often a bracket takes the better seed, of the games in which it has two different seeds meeting.'),
+    makeChalk(pool));
+}

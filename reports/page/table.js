@@ -1,0 +1,65 @@
+// table.js - tables of rows, sorted by a press on a heading.
+//
+// A column is { title, cell, key, kind }: cell(row) is a text or an element; key(row) is what it is sorted by, the smallest
+// first, and without one there is no sorting; kind is a class of the column's cells. A long title has a short one, too.
+
+class Table {
+  constructor(caption, columns, rows, order = 0) {
+    this.columns = columns;
+    this.rows = rows;
+    this.order = order;
+    this.isReversed = false;
+    this.headings = columns.map((column, index) => this.makeHeading(column, index));
+    this.body = make('tbody', {});
+    this.element = make('table', {},
+      make('caption', { class: 'unseen' }, caption),
+      make('thead', {}, make('tr', {}, ...this.headings)), this.body);
+    this.show();
+  }
+
+  makeHeading({ title, key, kind = '' }, index) {
+    const heading = make('th', { scope: 'col', class: kind });
+    heading.append(key ? makeButton(title, { class: 'heading' }, () => this.sortBy(index)) : title);
+    return heading;
+  }
+
+  sortBy(index) {
+    this.isReversed = this.order === index && !this.isReversed;
+    this.order = index;
+    this.show();
+    say(`Sorted by ${this.columns[index].title}${this.isReversed ? ', reversed' : ''}.`);
+  }
+
+  /** Shows only rows that are wanted. */
+  filter(isWanted) {
+    this.isWanted = isWanted;
+    this.show();
+  }
+
+  shown() {
+    const rows = this.rows.filter(this.isWanted ?? (() => true));
+    const { key } = this.columns[this.order];
+    if (key) rows.sort((left, right) => compareKeys(key(left), key(right)));
+    return this.isReversed ? rows.reverse() : rows;
+  }
+
+  show() {
+    this.headings.forEach((heading, index) => {
+      if (index !== this.order || !this.columns[index].key) heading.removeAttribute('aria-sort');
+      else heading.setAttribute('aria-sort', this.isReversed ? 'descending' : 'ascending');
+    });
+    this.body.replaceChildren(...this.shown().map((row) => this.makeRow(row)));
+  }
+
+  makeRow(row) {
+    return make('tr', {}, ...this.columns.map(({ cell, kind = '', isHeader }) =>
+      (isHeader ? make('th', { scope: 'row', class: kind }, cell(row)) : make('td', { class: kind }, cell(row)))));
+  }
+}
+
+/** Orders numbers and texts; what is not known comes last. */
+function compareKeys(left, right) {
+  if (typeof left === 'string') return alphabet.compare(left, right);
+  if (left === null || right === null) return (left === null ? 1 : 0) - (right === null ? 1 : 0);
+  return left - right;
+}

@@ -1,0 +1,58 @@
+// versus_view.js - two players side by side: where they differ, and what each can still gain on the other.
+
+function makeVersusPick(pool, player, verdicts, game) {
+  const team = player.picks[game];
+  return make('span', { class: `pick ${verdicts[game]}` },
+    make('span', { class: 'team' }, team === 0 ? 'no pick' : withSeed(pool, team)), makeMark(verdicts[game]));
+}
+
+/** The games in the order of the rounds, the last first: these bring most. */
+const gamesByRound = () => gamePlaces.slice().sort((left, right) => roundOf(right) - roundOf(left) || left - right);
+
+function versusRows(pool, player, other) {
+  const verdicts = [player, other].map((one) => score(one.picks, pool.results, pool.points).verdicts);
+  const gain = (own, game, differs) =>
+    (differs && verdicts[own][game] === POSSIBLE ? pool.points[roundOf(game) - 1] : 0);
+  return gamesByRound().map((game) => {
+    const differs = player.picks[game] !== other.picks[game];
+    return { game, differs, verdicts, gains: [gain(0, game, differs), gain(1, game, differs)] };
+  });
+}
+
+function versusColumns(pool, player, other) {
+  const result = (game) => (pool.results[game] === 0 ? 'open' : withSeed(pool, pool.results[game]));
+  return [
+    { title: 'Game', isHeader: true, cell: ({ game }) => nameOfGame(pool, game) },
+    { title: 'Result', cell: ({ game }) => result(game) },
+    ...[player, other].map((one, index) => ({
+      title: one.name, cell: ({ game, verdicts }) => makeVersusPick(pool, one, verdicts[index], game),
+    })),
+    { title: 'Differ', cell: ({ differs }) => (differs ? make('strong', { class: 'differs' }, '\u2260 differ') : 'alike') },
+    ...[player, other].map((one, index) => ({
+      title: `${one.name} gains`, kind: 'number', cell: ({ gains }) => (gains[index] ? `+${gains[index]}` : ''),
+    })),
+  ];
+}
+
+function versusSummary(pool, player, other, rows) {
+  const different = rows.filter((row) => row.differs);
+  const open = different.filter(({ game }) => pool.results[game] === 0);
+  const gains = [gainOn(player, other, pool.results, pool.points), gainOn(other, player, pool.results, pool.points)];
+  return `${player.name} has ${counted(player.points, 'point')}, ${other.name} ${other.points}. They differ in `
+    + `${counted(different.length, 'game')}, ${open.length} of them open. ${player.name} can still gain `
+    + `${counted(gains[0], 'point')} on ${other.name}, ${other.name} ${gains[1]} on ${player.name}.`;
+}
+
+function makeVersus(pool, player, other) {
+  const rows = versusRows(pool, player, other);
+  const table = new Table(`${player.name} and ${other.name}`, versusColumns(pool, player, other), rows);
+  table.filter((row) => row.differs);
+  const all = make('input', { type: 'checkbox', id: 'versus-all' });
+  all.addEventListener('change', () => table.filter((row) => all.checked || row.differs));
+  table.element.classList.add('versus');
+  return [
+    make('p', { class: 'summary' }, versusSummary(pool, player, other, rows)),
+    make('p', { class: 'check' }, all, make('label', { for: 'versus-all' }, 'Show all games, also those alike')),
+    makeScroller(`${player.name} and ${other.name}`, table.element),
+  ];
+}
