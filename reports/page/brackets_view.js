@@ -21,28 +21,30 @@ function makePick(pool, picks, verdicts, place) {
     make('span', { class: 'seed' }, pool.seedOf(team)), ' ',
     make('span', { class: 'team' }, team === 0 ? 'no pick' : nameOf(pool, team)));
   if (!isTeamPlace(place)) item.append(makeMark(verdict));
-  if (verdict === BAD && winner !== 0) item.title = `Winner: ${withSeed(pool, winner)}`;
+  item.title = nameOf(pool, team);
+  if (verdict === BAD && winner !== 0) item.title += ` - the winner is ${withSeed(pool, winner)}`;
   return item;
 }
 
-function makeColumn(pool, picks, verdicts, title, places) {
-  return make('div', { class: 'round' }, make('h4', {}, title),
+function makeColumn(pool, picks, verdicts, round, places) {
+  const points = round === 0 ? '' : make('span', { class: 'points' }, `, ${counted(pool.points[round - 1], 'point')}`);
+  return make('div', { class: 'round' }, make('h4', {}, round === 0 ? 'Teams' : ROUNDS[round - 1], points),
     make('ol', { class: 'picks' }, ...places.map((place) => makePick(pool, picks, verdicts, place))));
 }
 
 const teamPlacesOf = (region) => allPlaces.filter((place) => isTeamPlace(place) && regionOf(place) === region);
 
-function columnsOfPart(pool, part) {
-  const title = (round) => `${ROUNDS[round - 1]}, ${counted(pool.points[round - 1], 'point')}`;
-  if (part === FINALS) return [[title(5), SEMIFINALS], [title(6), [CHAMPION]]];
-  return [['Teams', teamPlacesOf(part)], ...[1, 2, 3, 4].map((round) => [title(round), gamesOfRound(round, part)])];
+/** The rounds of a part with their places; round 0 are the teams of the field. */
+function columnsOfPart(part) {
+  if (part === FINALS) return [[5, SEMIFINALS], [6, [CHAMPION]]];
+  return [[0, teamPlacesOf(part)], ...[1, 2, 3, 4].map((round) => [round, gamesOfRound(round, part)])];
 }
 
 function makePart(pool, picks, verdicts, part) {
   return make('section', { class: `part part-${part}`, 'aria-label': partTitle(pool, part) },
     make('h3', {}, partTitle(pool, part)),
-    make('div', { class: 'rounds' }, ...columnsOfPart(pool, part).map(([title, places]) =>
-      makeColumn(pool, picks, verdicts, title, places))));
+    make('div', { class: 'rounds' }, ...columnsOfPart(part).map(([round, places]) =>
+      makeColumn(pool, picks, verdicts, round, places))));
 }
 
 function makeBracket(pool, player) {
@@ -52,7 +54,8 @@ function makeBracket(pool, player) {
   return [
     make('p', { class: 'summary' }, `${player.name}: place ${player.place}, ${counted(player.points, 'point')}, `
       + `${player.possible} possible; ${counted(goodPicks, 'right pick')}, ${wrong} wrong.${total}`),
-    make('p', { class: 'hint' }, '"=" is a right pick, "X" a wrong one or a team that is out, "-" one that no longer can come true.'),
+    make('p', { class: 'hint' }, '"=" is a right pick, "X" a wrong one or a team that is out, "-" one that can no longer come true; '
+      + 'one without a mark still can.'),
     make('div', { class: 'bracket' }, ...PARTS.map((part) => makePart(pool, player.picks, verdicts, part))),
   ];
 }

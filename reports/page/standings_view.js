@@ -64,8 +64,8 @@ function standingsNotes(pool) {
   const notes = ['Possible: points earned and those that can still be earned. R1 to R6: points of the rounds. '
     + 'Total: the predicted total of the final. Moved: places since the latest round began.'];
   if (!pool.outlook) return notes;
-  notes.push(`First: the chance to be first, alone or together. Share: that of first place, which ${'those who are first '}`
-    + `together share. ${pool.outlook.basis.join('. ')}.`);
+  notes.push(`First: the chance to be first, alone or together. Share: that of first place, which those `
+    + `who are first together share. ${pool.outlook.basis.join('. ')}.`);
   if (pool.outlook.exact) notes.push(`Ways: the outcomes, of ${pool.outlook.outcomes}, in which a player is first, alone or together.`);
   return notes;
 }
