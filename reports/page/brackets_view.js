@@ -82,6 +82,7 @@ function showBrackets(pool) {
   byId('bracket-player').value = player.index;
   byId('bracket-other').value = other ? other.index : '';
   byId('bracket-area').replaceChildren(...(other ? makeVersus(pool, player, other) : makeBracket(pool, player)));
+  document.querySelector('.parts').hidden = other !== null;
   showPart();
 }
 

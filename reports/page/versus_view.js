@@ -23,10 +23,10 @@ function versusColumns(pool, player, other) {
   const result = (game) => (pool.results[game] === 0 ? 'open' : withSeed(pool, pool.results[game]));
   return [
     { title: 'Game', isHeader: true, cell: ({ game }) => nameOfGame(pool, game) },
-    { title: 'Result', cell: ({ game }) => result(game) },
     ...[player, other].map((one, index) => ({
       title: one.name, cell: ({ game, verdicts }) => makeVersusPick(pool, one, verdicts[index], game),
     })),
+    { title: 'Result', cell: ({ game }) => result(game) },
     { title: 'Differ', cell: ({ differs }) => (differs ? make('strong', { class: 'differs' }, '\u2260 differ') : 'alike') },
     ...[player, other].map((one, index) => ({
       title: `${one.name} gains`, kind: 'number', cell: ({ gains }) => (gains[index] ? `+${gains[index]}` : ''),

@@ -19,6 +19,7 @@ from selenium.webdriver.common.actions.pointer_input import PointerInput
 from selenium.webdriver.support.wait import WebDriverWait
 
 DRIVER = "/usr/bin/chromedriver"
+AXE = pathlib.Path(os.environ.get("TALLYHOOP_AXE", "")) / "node_modules/axe-core/axe.min.js"
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
 
 TELEPHONE = 360, 740
@@ -109,6 +110,15 @@ class Browser:
     def complaints(self):
         """What the browser's console says since the last time, without mere information."""
         return [entry["message"] for entry in self.driver.get_log("browser") if entry["level"] != "INFO"]
+
+    def axe_findings(self):
+        """What axe-core finds on the page, also what it leaves to people: rules with the elements."""
+        self.run(AXE.read_text())
+        found = self.driver.execute_async_script("axe.run().then(arguments[0])")
+        if len(found["passes"]) <= 10:
+            raise AssertionError("axe-core has looked at nothing")
+        return [(rule["id"], [node["html"] for node in rule["nodes"]])
+                for rule in found["violations"] + found["incomplete"]]
 
     def clipboard(self):
         return self.driver.execute_async_script("navigator.clipboard.readText().then(arguments[0], arguments[0])")

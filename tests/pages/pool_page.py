@@ -37,7 +37,7 @@ def random_bracket(dice, upper=0.7):
 class PagePool:
     """A folder with a field, results of so many games, and random brackets; always the same for the same numbers."""
 
-    def __init__(self, players=12, played=48, field=None, names=None, seed=17):
+    def __init__(self, players=12, played=48, field=None, names=None, without=(), seed=17):
         dice = random.Random(seed)
         self._folder = tempfile.TemporaryDirectory(prefix="tallyhoop-pool-")
         self.folder = pathlib.Path(self._folder.name)
@@ -45,7 +45,7 @@ class PagePool:
         self.teams = lines[1:65]
         self._write("POOLSTART.THS", lines)
         self.truth = random_bracket(dice)
-        self.entered = {game: self.truth[game] for game in PLAYED_ORDER[:played]}
+        self.entered = {game: self.truth[game] for game in PLAYED_ORDER[:played] if game not in without}
         self._write("TALLYHOOP.THS", self._selection(self.entered, "A", "FinalResults", ""))
         self.names = names or [f"{SURNAMES[number % 16]} {number // 16 + 1}" for number in range(players)]
         self.brackets = [random_bracket(dice) for _ in self.names]
@@ -68,6 +68,10 @@ class PagePool:
 
     def _write(self, name, lines):
         (self.folder / name).write_bytes(bytes_of("".join(line + "\r\n" for line in lines)))
+
+    def winner_of(self, place):
+        """The row of the team on a place by the results as entered."""
+        return self.entered[place] if place in self.entered else row_of(place)
 
     def run(self, command, given=""):
         return subprocess.run([MAKER, command, self.folder], input=given.encode(), capture_output=True, check=True).stdout
