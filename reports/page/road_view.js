@@ -1,25 +1,18 @@
 // road_view.js - the chart of chances and of points, and the same figures as a table.
 
 const MOST_LINES = 8; // as many as the style has colours for
-const CHART_HEIGHT = 320;
-const MARGIN = { left: 44, right: 14, top: 12, bottom: 30 };
+const CHART_HEIGHT = 280;
+const CHART_MARGINS = 64; // beside the drawing, as the style has them
 
 const shownRoad = { kind: 'points', players: [], pool: null };
 
 const stagesOf = (kind, pool) => (kind === 'chances' ? chanceStages(pool) : pointStages(pool));
 const figureInWords = (kind, value) => (kind === 'chances' ? value.toFixed(1) : String(value));
 
-function makeGrid(chart, stages, width, height) {
-  const levels = chart.ticks.flatMap((tick) => [
-    makeSvg('line', { class: 'grid', x1: 0, x2: width, y1: chart.y(tick), y2: chart.y(tick) }),
-    makeSvg('text', { x: -8, y: chart.y(tick) + 4, 'text-anchor': 'end' }, String(tick))]);
-  const anchor = (index) => (index === stages.length - 1 && index > 0 ? 'end' : index === 0 ? 'start' : 'middle');
-  const times = stages.map((stage, index) =>
-    makeSvg('text', { x: chart.x(index), y: height + 20, 'text-anchor': anchor(index) }, width < 400 ? shortLabel(stage.label) : stage.label));
-  return [...levels, ...times];
-}
+const makeGrid = (chart, width) => chart.ticks.map((tick) =>
+  makeSvg('line', { class: 'grid', x1: 0, x2: width, y1: chart.y(tick), y2: chart.y(tick) }));
 
-const shortLabel = (label) => label.replace('Round ', 'R');
+const makeLabels = (name, labels) => make('div', { class: name, 'aria-hidden': 'true' }, ...labels.map((label) => make('span', {}, label)));
 
 /** A line with its points; its colour and its dashes are those of its number. */
 function makeLine(chart, stages, player, number) {
@@ -29,16 +22,17 @@ function makeLine(chart, stages, player, number) {
     makeSvg('polyline', { points: lineOf(chart, stages, player.index) }), ...dots);
 }
 
-function makeChart(kind, stages, players, outerWidth) {
-  const width = outerWidth - MARGIN.left - MARGIN.right;
-  const height = CHART_HEIGHT - MARGIN.top - MARGIN.bottom;
+/** The lines are a drawing; the labels beside it and below it are text, which can be read on any background. */
+function makeChart(kind, stages, players, width) {
   const shown = stages.map((stage) => ({ ...stage, values: players.map((player) => stage.values[player.index]) }));
-  const chart = chartOf(shown, width, height);
+  const chart = chartOf(shown, width, CHART_HEIGHT);
   const title = `${kind === 'chances' ? 'Share of first place in percent' : 'Points'} of ${players.map((player) => player.name).join('; ')}`;
-  return makeSvg('svg', { class: 'chart', role: 'img', 'aria-label': title, viewBox: `0 0 ${outerWidth} ${CHART_HEIGHT}` },
-    makeSvg('g', { transform: `translate(${MARGIN.left} ${MARGIN.top})` },
-      ...makeGrid(chart, stages, width, height),
-      ...players.map((player, number) => makeLine(chart, stages, player, number))));
+  return [
+    makeLabels('ticks', chart.ticks.map(String).reverse()),
+    makeSvg('svg', { class: 'chart', role: 'img', 'aria-label': title, viewBox: `0 0 ${width} ${CHART_HEIGHT}` },
+      ...makeGrid(chart, width), ...players.map((player, number) => makeLine(chart, stages, player, number))),
+    makeLabels('stages', stages.map(({ label }) => (width < 400 ? label.replace('Round ', 'R') : label))),
+  ];
 }
 
 /** The players shown, with the look of their lines; a press takes one off. */
@@ -71,7 +65,7 @@ function showRoad() {
   const stages = stagesOf(kind, pool);
   const area = byId('road-chart');
   byId('road-legend').replaceChildren(...makeLegend(players));
-  area.replaceChildren(makeChart(kind, stages, players, Math.max(280, area.clientWidth)));
+  area.replaceChildren(...makeChart(kind, stages, players, Math.max(200, area.clientWidth - CHART_MARGINS)));
   byId('road-table').replaceChildren(makeRoadTable(kind, stages, players));
 }
 

@@ -26,7 +26,7 @@ namespace tallyhoop {
 namespace {
 
 constexpr std::size_t kCounted = 15; ///< open games
-constexpr std::uint64_t kSamples = 500;
+constexpr std::uint64_t kSamples = 100;
 
 /// A pool with what the outlook is made of.
 struct Played {
