@@ -46,6 +46,25 @@ test('Of several teams the one that comes out moves on without a game', () => {
   assert.strictEqual(walkovers.get(28), 0); // whoever wins the upper game
 });
 
+test('Who moves on without a game is counted with the team that comes out', () => {
+  // Nobody is on the rows 0 to 7: whoever wins the lower half of the West wins the region. All else is decided.
+  const nobody = Object.fromEntries([0, 1, 2, 3, 4, 5, 6, 7, 16, 17, 18, 19, 24, 25, 28].map((place) => [place, 0]));
+  const results = changed(changed(upper(), nobody), { 29: 0, 30: 0, 124: 17, 126: 17 });
+  const nine = { picks: changed(upper(), { 30: 9 }) };
+  const thirteen = { picks: changed(upper(), { 29: 13, 30: 13 }) };
+
+  const { games, walkovers } = openGamesOf(results);
+  const { outcomes, firsts } = countFirsts([nine, thirteen], results, POINTS);
+
+  assert.deepStrictEqual(games, [29]); // 9 or 13
+  assert.strictEqual(walkovers.get(30), 1);
+  assert.strictEqual(outcomes, 2);
+  assert.deepStrictEqual(firsts, [{ alone: 1, shared: 0, share: 1 }, { alone: 1, shared: 0, share: 1 }]);
+  // By the region's winner alone: both of them pick 9 in the game before.
+  const alike = countFirsts([{ picks: changed(nine.picks, { 30: 13 }) }, nine], results, POINTS);
+  assert.deepStrictEqual(alike.firsts.map((first) => first.alone), [1, 1]);
+});
+
 test('The last three games have eight outcomes', () => {
   // 1 or 17, 33 or 49, then the final. All have 152 - 24 = 128 points before. Ann gets 12, 12, 16 for 1, 33, 1; Ben 12,
   // 12, 16 for 17, 33, 17; Cleo has the picks of Ann.

@@ -54,6 +54,13 @@ test('A team is called with its seed', () => {
 
   assert.strictEqual(withSeed(pool, 3), '8 Team 3');
   assert.strictEqual(withSeed(pool, 0), '');
+  assert.strictEqual(pool.seedOf(3), '8');
+});
+
+test('A team on two rows has the seed of the first', () => {
+  const teams = Array.from({ length: 64 }, (_, row) => (row === 63 ? 1 : row + 1)); // row 63 is a second seed's game, 15
+
+  assert.strictEqual(poolWith(start(), {}, { teams }).seedOf(1), '1');
 });
 
 test('Points are added up round by round to those of now', () => {

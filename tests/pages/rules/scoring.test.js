@@ -44,6 +44,12 @@ test('A pick whose way is open at one side can still earn its points', () => {
   assert.strictEqual(verdicts[24], 'possible'); // as the program has it: 3 can still win the other game
 });
 
+test('A pick of the first round is open whatever is on the rows before it', () => {
+  const { verdicts } = score(changed(upper(), { 0: 99, 1: 98 }), start(), POINTS); // a damaged selection
+
+  assert.deepStrictEqual([0, 1, 16].map((place) => verdicts[place]), ['bad', 'bad', 'possible']);
+});
+
 test('No pick is a bad one', () => {
   const { possible, badPicks, verdicts } = score(changed(upper(), { 126: 0 }), start(), POINTS);
 

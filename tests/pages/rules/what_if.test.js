@@ -36,6 +36,12 @@ test('What is entered is not changed', () => {
   assert.ok(!choosableGames(entered).includes(16));
 });
 
+test('A team displaced stays where it is entered', () => {
+  const entered = changed(start(), { 28: 1 });
+
+  assert.strictEqual(withWinner(changed(entered, { 16: 1 }), entered, 16, 2)[28], 1);
+});
+
 test('A game is not offered when a later result settles it', () => {
   const entered = changed(start(), { 24: 1 });
 
