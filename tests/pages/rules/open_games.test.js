@@ -65,6 +65,15 @@ test('Who moves on without a game is counted with the team that comes out', () =
   assert.deepStrictEqual(alike.firsts.map((first) => first.alone), [1, 1]);
 });
 
+test('The same holds for the upper half', () => {
+  const nobody = Object.fromEntries([8, 9, 10, 11, 12, 13, 14, 15, 20, 21, 22, 23, 26, 27, 29].map((place) => [place, 0]));
+  const results = changed(changed(upper(), nobody), { 28: 0, 30: 0, 124: 17, 126: 17 });
+  const one = { picks: changed(upper(), { 28: 0 }) };
+  const five = { picks: changed(upper(), { 28: 0, 30: 5 }) };
+
+  assert.deepStrictEqual(countFirsts([one, five], results, POINTS).firsts.map((first) => first.alone), [1, 1]);
+});
+
 test('The last three games have eight outcomes', () => {
   // 1 or 17, 33 or 49, then the final. All have 152 - 24 = 128 points before. Ann gets 12, 12, 16 for 1, 33, 1; Ben 12,
   // 12, 16 for 17, 33, 17; Cleo has the picks of Ann.

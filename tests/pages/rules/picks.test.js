@@ -58,7 +58,7 @@ test('A team is called with its seed', () => {
 });
 
 test('A team on two rows has the seed of the first', () => {
-  const teams = Array.from({ length: 64 }, (_, row) => (row === 63 ? 1 : row + 1)); // row 63 is a second seed's game, 15
+  const teams = Array.from({ length: 64 }, (_, row) => (row === 63 ? 1 : row + 1)); // seed 15
 
   assert.strictEqual(poolWith(start(), {}, { teams }).seedOf(1), '1');
 });
