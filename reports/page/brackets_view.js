@@ -54,20 +54,19 @@ function makeBracket(pool, player) {
   return [
     make('p', { class: 'summary' }, `${player.name}: place ${player.place}, ${counted(player.points, 'point')}, `
       + `${player.possible} possible; ${counted(goodPicks, 'right pick')}, ${wrong} wrong.${total}`),
-    make('p', { class: 'hint' }, '"=" is a right pick, "X" a wrong one or a team that is out, "-" one that can no longer come true; '
-      + 'one without a mark still can.'),
+    make('p', { class: 'hint' }, '"=" is a right pick, "X" a wrong one or a team that is out, '
+      + '"-" one that can no longer come true; one without a mark still can.'),
     make('div', { class: 'bracket' }, ...PARTS.map((part) => makePart(pool, player.picks, verdicts, part))),
   ];
 }
 
 /** The buttons with which a telephone shows one part of the bracket. */
 function makePartButtons(pool) {
-  const show = (part) => {
+  const makePartButton = (part) => makeButton(partTitle(pool, part).replace(/ region$/i, ''), { 'data-part': part }, () => {
     shownBrackets.part = part;
     showPart();
-  };
-  return make('div', { class: 'parts', role: 'group', 'aria-label': 'Part of the bracket' },
-    ...PARTS.map((part) => makeButton(partTitle(pool, part).replace(/ region$/i, ''), { 'data-part': part }, () => show(part))));
+  });
+  return make('div', { class: 'parts', role: 'group', 'aria-label': 'Part of the bracket' }, ...PARTS.map(makePartButton));
 }
 
 function showPart() {

@@ -2,10 +2,11 @@
 
 const thePool = poolOf(JSON.parse(byId('pool').textContent));
 
-/** "37 of 63 games played; 100 players." */
+/** "37 of 63 games played; 100 players. Right picks bring 1 2 4 8 12 16 points." */
 function standInWords(pool) {
   const played = GAMES - openGamesIn(pool.results).length;
-  return `${played} of ${GAMES} games played; ${counted(pool.players.length, 'player')}. Right picks bring ${pool.points.join(' ')} points.`;
+  return `${played} of ${GAMES} games played; ${counted(pool.players.length, 'player')}. `
+    + `Right picks bring ${pool.points.join(' ')} points.`;
 }
 
 function buildPage(pool) {

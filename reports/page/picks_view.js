@@ -4,7 +4,7 @@ const NAMES_AT_ONCE = 12;
 
 /** Names, which lead to brackets; many of them behind a button. */
 function makeNames(players) {
-  const names = players.slice().sort(byName).flatMap((player, index) => (index ? [', ', makePlayerLink(player)] : [makePlayerLink(player)]));
+  const names = players.slice().sort(byName).flatMap((player) => [', ', makePlayerLink(player)]).slice(1);
   if (players.length <= NAMES_AT_ONCE) return make('span', {}, ...names);
   const details = make('details', {}, make('summary', {}, counted(players.length, 'player')));
   details.addEventListener('toggle', () => details.append(...names), { once: true });
@@ -19,9 +19,12 @@ function makeBar(part, whole) {
 
 function makeGamePicks(pool, game) {
   const rows = picksOfGame(pool.players, game);
-  const isRight = ({ team }) => team !== 0 && team === pool.results[game];
+  const makeTeam = ({ team }) => {
+    const isRight = team !== 0 && team === pool.results[game];
+    return make('span', {}, team === 0 ? 'no pick' : withSeed(pool, team), isRight ? makeMark(GOOD) : '');
+  };
   const columns = [
-    { title: 'Team', isHeader: true, cell: (row) => make('span', {}, row.team === 0 ? 'no pick' : withSeed(pool, row.team), isRight(row) ? makeMark(GOOD) : '') },
+    { title: 'Team', isHeader: true, cell: makeTeam },
     { title: 'Players', kind: 'number', cell: ({ pickers }) => String(pickers.length) },
     { title: '%', kind: 'number', cell: ({ pickers }) => percent(pickers.length, pool.players.length) },
     { title: 'Part', kind: 'bar-column', cell: ({ pickers }) => makeBar(pickers.length, pool.players.length) },
@@ -30,13 +33,13 @@ function makeGamePicks(pool, game) {
   return new Table(`Picks: ${nameOfGame(pool, game)}`, columns, rows).element;
 }
 
-/** "West, second round: 3, Team 1 or Team 2": the games of a part are told apart by the field's teams. */
+/** "West, first round: Team 1 or Team 2", "West, second round 3": how one game is told from the others. */
 function gameChoice(pool, game) {
-  const team = (place) => (isTeamPlace(place) ? nameOf(pool, pool.teams[regionOf(place) * REGION_TEAMS + (place % REGION_PLACES)]) : null);
-  const entrants = feeders[game].map(team);
+  const rowOf = (place) => regionOf(place) * REGION_TEAMS + (place % REGION_PLACES);
+  const entrants = feeders[game].filter(isTeamPlace).map((place) => nameOf(pool, pool.teams[rowOf(place)]));
   const number = isInRegion(game) && roundOf(game) > 1 && roundOf(game) < 4
     ? ` ${gamesOfRound(roundOf(game), regionOf(game)).indexOf(game) + 1}` : '';
-  return entrants.includes(null) ? `${nameOfGame(pool, game)}${number}` : `${nameOfGame(pool, game)}: ${entrants.join(' or ')}`;
+  return `${nameOfGame(pool, game)}${number}${entrants.length > 0 ? `: ${entrants.join(' or ')}` : ''}`;
 }
 
 function makeGameChoice(pool) {
@@ -51,7 +54,8 @@ function makeGameChoice(pool) {
 }
 
 function makePair({ players, alike }) {
-  return make('span', {}, makePlayerLink(players[0]), ' and ', makePlayerLink(players[1]), `: ${counted(alike, 'game')} alike of ${GAMES}`);
+  const [one, other] = players.map(makePlayerLink);
+  return make('span', {}, one, ' and ', other, `: ${counted(alike, 'game')} alike of ${GAMES}`);
 }
 
 /** What there is to say in one line each. */
@@ -59,9 +63,13 @@ function makeFacts(pool) {
   const [loved] = picksOfGame(pool.players, CHAMPION).filter(({ team }) => team !== 0);
   const pairs = closestAndFurthest(pool.players);
   const facts = [];
-  if (loved) facts.push(['Most-loved champion', `${withSeed(pool, loved.team)}: ${counted(loved.pickers.length, 'player')} of ${pool.players.length}`]);
+  if (loved) {
+    const players = `${counted(loved.pickers.length, 'player')} of ${pool.players.length}`;
+    facts.push(['Most-loved champion', `${withSeed(pool, loved.team)}: ${players}`]);
+  }
   if (pairs) facts.push(['Closest pair', makePair(pairs.closest)], ['Furthest pair', makePair(pairs.furthest)]);
-  return make('dl', { class: 'facts' }, ...facts.map(([term, fact]) => make('div', {}, make('dt', {}, term), make('dd', {}, fact))));
+  return make('dl', { class: 'facts' },
+    ...facts.map(([term, fact]) => make('div', {}, make('dt', {}, term), make('dd', {}, fact))));
 }
 
 function makeSoleRight(pool) {
@@ -78,9 +86,9 @@ function makeChalk(pool) {
   const rows = pool.players.map((player) => ({ player, ...chalkOf(pool, player.picks) }));
   const part = ({ better, games }) => (games === 0 ? -1 : better / games);
   return makeScroller('Chalk', new Table('Chalk', [
-    { title: 'Player', isHeader: true, cell: ({ player }) => makePlayerLink(player), key: ({ player }) => player.name },
-    { title: 'Chalk %', kind: 'number', cell: ({ better, games }) => percent(better, games), key: (row) => -part(row) },
-    { title: 'Better seeds', kind: 'number', cell: ({ better, games }) => `${better} of ${games}`, key: ({ better }) => -better },
+    nameColumn(({ player }) => player),
+    { ...numberColumn('Chalk %', part), cell: ({ better, games }) => percent(better, games) },
+    { ...numberColumn('Better seeds', ({ better }) => better), cell: ({ better, games }) => `${better} of ${games}` },
   ], rows, 1).element);
 }
 
@@ -89,6 +97,7 @@ function fillPicks(panel, pool) {
     make('h2', {}, 'Picks'), makeFacts(pool), ...makeGameChoice(pool),
     make('h3', {}, 'Sole right picks'), makeSoleRight(pool),
     make('h3', {}, 'Chalk'),
-    make('p', { class: 'hint' }, 'How often a bracket takes the better seed, of the games in which it has two different seeds meeting.'),
+    make('p', { class: 'hint' }, 'How often a bracket takes the better seed, of the games in which it has two different '
+      + 'seeds meeting.'),
     makeChalk(pool));
 }

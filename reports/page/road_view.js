@@ -12,7 +12,8 @@ const figureInWords = (kind, value) => (kind === 'chances' ? value.toFixed(1) : 
 const makeGrid = (chart, width) => chart.ticks.map((tick) =>
   makeSvg('line', { class: 'grid', x1: 0, x2: width, y1: chart.y(tick), y2: chart.y(tick) }));
 
-const makeLabels = (name, labels) => make('div', { class: name, 'aria-hidden': 'true' }, ...labels.map((label) => make('span', {}, label)));
+const makeLabels = (name, labels) =>
+  make('div', { class: name, 'aria-hidden': 'true' }, ...labels.map((label) => make('span', {}, label)));
 
 /** A line with its points; its colour and its dashes are those of its number. */
 function makeLine(chart, stages, player, number) {
@@ -26,7 +27,8 @@ function makeLine(chart, stages, player, number) {
 function makeChart(kind, stages, players, width) {
   const shown = stages.map((stage) => ({ ...stage, values: players.map((player) => stage.values[player.index]) }));
   const chart = chartOf(shown, width, CHART_HEIGHT);
-  const title = `${kind === 'chances' ? 'Share of first place in percent' : 'Points'} of ${players.map((player) => player.name).join('; ')}`;
+  const what = kind === 'chances' ? 'Share of first place in percent' : 'Points';
+  const title = `${what} of ${players.map((player) => player.name).join('; ')}`;
   return [
     makeLabels('ticks', chart.ticks.map(String).reverse()),
     makeSvg('svg', { class: 'chart', role: 'img', 'aria-label': title, viewBox: `0 0 ${width} ${CHART_HEIGHT}` },
@@ -46,7 +48,8 @@ function makeLegend(players) {
     byId('road-player').focus();
   };
   return players.map((player, number) => {
-    const button = makeButton('', { class: 'chip', 'aria-label': `${player.name}: take off the chart` }, () => remove(player));
+    const name = `${player.name}: take off the chart`;
+    const button = makeButton('', { class: 'chip', 'aria-label': name }, () => remove(player));
     button.append(sample(number), ` ${player.name} `, make('span', { 'aria-hidden': 'true' }, '\u00D7'));
     return button;
   });
@@ -55,7 +58,8 @@ function makeLegend(players) {
 function makeRoadTable(kind, stages, players) {
   const columns = [
     { title: 'Player', isHeader: true, kind: 'name-column', cell: makePlayerLink },
-    ...stages.map((stage) => ({ title: stage.label, kind: 'number', cell: (player) => figureInWords(kind, stage.values[player.index]) })),
+    ...stages.map(({ label, values }) =>
+      ({ title: label, kind: 'number', cell: (player) => figureInWords(kind, values[player.index]) })),
   ];
   return new Table('The figures of the chart', columns, players).element;
 }
@@ -82,7 +86,8 @@ function makeRoadTools(pool) {
   const tools = make('div', { class: 'tools' });
   if (chanceStages(pool).length > 0) {
     shownRoad.kind = 'chances';
-    tools.append(makeChoice('road-kind', 'Chart', [['chances', 'Share of first place, %'], ['points', 'Points']], (kind) => {
+    const kinds = [['chances', 'Share of first place, %'], ['points', 'Points']];
+    tools.append(makeChoice('road-kind', 'Chart', kinds, (kind) => {
       shownRoad.kind = kind;
       showRoad();
     }));
@@ -93,7 +98,7 @@ function makeRoadTools(pool) {
 
 function fillRoad(panel, pool) {
   shownRoad.pool = pool;
-  shownRoad.players = pool.players.slice().sort((left, right) => left.place - right.place || byName(left, right)).slice(0, 5);
+  shownRoad.players = pool.players.slice().sort(byPlace).slice(0, 5);
   panel.append(make('h2', {}, 'The road'), makeRoadTools(pool),
     make('div', { id: 'road-legend', role: 'group', 'aria-label': 'Players on the chart' }),
     make('div', { id: 'road-chart' }),

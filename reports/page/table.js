@@ -1,7 +1,23 @@
 // table.js - tables of rows, sorted by a press on a heading.
 //
-// A column is { title, cell, key, kind }: cell(row) is a text or an element; key(row) is what it is sorted by, the smallest
-// first, and without one there is no sorting; kind is a class of the column's cells. A long title has a short one, too.
+// A column is { title, cell, key, kind, isHeader }: cell(row) is a text or an element; key(row) is what it is sorted by,
+// the smallest first, and without one there is no sorting; kind are classes of the column's cells.
+
+/** A column of numbers, of which the highest come first. */
+const numberColumn = (title, value, kind = 'number') =>
+  ({ title, kind, cell: (row) => String(value(row)), key: (row) => -value(row) });
+
+/** A column of places, of which the lowest come first. */
+const placeColumn = (value) =>
+  ({ title: 'Place', kind: 'number place-column', cell: (row) => String(value(row)), key: (row) => value(row) });
+
+/** The column with the players' names, which lead to their brackets; it stays in view. */
+const nameColumn = (playerOf) => ({
+  title: 'Player', kind: 'name-column', isHeader: true,
+  cell: (row) => makePlayerLink(playerOf(row)), key: (row) => playerOf(row).name,
+});
+
+const asItIs = (row) => row;
 
 class Table {
   constructor(caption, columns, rows, order = 0) {

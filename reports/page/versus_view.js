@@ -6,6 +6,8 @@ function makeVersusPick(pool, player, verdicts, game) {
     make('span', { class: 'team' }, team === 0 ? 'no pick' : withSeed(pool, team)), makeMark(verdicts[game]));
 }
 
+const makeDifference = ({ differs }) => (differs ? make('strong', { class: 'differs' }, '\u2260 differ') : 'alike');
+
 /** The games in the order of the rounds, the last first: these bring most. */
 const gamesByRound = () => gamePlaces.slice().sort((left, right) => roundOf(right) - roundOf(left) || left - right);
 
@@ -27,7 +29,7 @@ function versusColumns(pool, player, other) {
       title: one.name, cell: ({ game, verdicts }) => makeVersusPick(pool, one, verdicts[index], game),
     })),
     { title: 'Result', cell: ({ game }) => result(game) },
-    { title: 'Differ', cell: ({ differs }) => (differs ? make('strong', { class: 'differs' }, '\u2260 differ') : 'alike') },
+    { title: 'Differ', cell: makeDifference },
     ...[player, other].map((one, index) => ({
       title: `${one.name} gains`, kind: 'number', cell: ({ gains }) => (gains[index] ? `+${gains[index]}` : ''),
     })),

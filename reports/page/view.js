@@ -53,6 +53,8 @@ function nameOfGame(pool, game) {
 const alphabet = new Intl.Collator('en', { sensitivity: 'base', numeric: true });
 const byName = (left, right) => alphabet.compare(left.name, right.name) || left.index - right.index;
 
+const byPlace = (left, right) => left.place - right.place || byName(left, right);
+
 /** The players to choose from, by name. */
 const playerChoices = (pool) => pool.players.slice().sort(byName).map((player) => [player.index, player.name]);
 
@@ -64,8 +66,10 @@ const makePlayerLink = (player) =>
 const makeScroller = (label, ...children) =>
   make('div', { class: 'scroller', role: 'region', 'aria-label': label, tabindex: 0 }, ...children);
 
-/** A mark is shown to those who see, and said to those who listen. */
-function makeMark(verdict) {
-  const [mark, word] = { [GOOD]: ['=', 'right'], [BAD]: ['X', 'wrong'], [LOST]: ['-', 'no longer possible'] }[verdict] ?? ['', ''];
-  return make('span', { class: 'mark' }, make('span', { 'aria-hidden': 'true' }, mark), make('span', { class: 'unseen' }, word));
-}
+/** What those who see get to see, and those who listen to hear. */
+const makeSeenAndSaid = (kind, seen, said) => make('span', { class: kind },
+  make('span', { 'aria-hidden': 'true' }, seen), make('span', { class: 'unseen' }, said));
+
+const MARKS = { [GOOD]: ['=', 'right'], [BAD]: ['X', 'wrong'], [LOST]: ['-', 'no longer possible'] };
+
+const makeMark = (verdict) => makeSeenAndSaid('mark', ...(MARKS[verdict] ?? ['', '']));

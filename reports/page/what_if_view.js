@@ -8,9 +8,10 @@ function choose(pool, game, team) {
 }
 
 function makeTeamButton(pool, game, team) {
-  const button = makeButton('', { class: 'side', 'data-game': game, 'data-team': team, 'aria-pressed': supposed[game] === team },
-    () => choose(pool, game, team));
-  button.append(make('span', { class: 'seed' }, pool.seedOf(team)), ' ', make('span', { class: 'team' }, nameOf(pool, team)));
+  const attributes = { class: 'side', 'data-game': game, 'data-team': team, 'aria-pressed': supposed[game] === team };
+  const button = makeButton('', attributes, () => choose(pool, game, team));
+  const name = make('span', { class: 'team' }, nameOf(pool, team));
+  button.append(make('span', { class: 'seed' }, pool.seedOf(team)), ' ', name);
   return button;
 }
 
@@ -25,9 +26,10 @@ function makeGames(pool) {
   const ready = choosableGames(pool.results)
     .map((game) => ({ game, teams: feeders[game].map((from) => known[from]) }))
     .filter(({ teams }) => !teams.includes(0));
+  const gamesUnder = (title) => ready.filter(({ game }) => gameHeading(pool, game) === title);
   const titles = [...new Set(ready.map(({ game }) => gameHeading(pool, game)))];
   return titles.map((title) => make('section', { class: 'open-games', 'aria-label': title }, make('h3', {}, title),
-    ...ready.filter(({ game }) => gameHeading(pool, game) === title).map(({ game, teams }) => makeGame(pool, game, teams))));
+    ...gamesUnder(title).map(({ game, teams }) => makeGame(pool, game, teams))));
 }
 
 const gameHeading = (pool, game) => (isInRegion(game) ? nameOfGame(pool, game) : ROUNDS[roundOf(game) - 1]);
@@ -35,26 +37,26 @@ const gameHeading = (pool, game) => (isInRegion(game) ? nameOfGame(pool, game) :
 /** Without a count there is what the program has found by the results as entered. */
 function waysColumns(pool, outcomes) {
   if (outcomes !== null) {
-    const ways = ({ first }) => first.alone + first.shared;
     return [
-      { title: 'Ways', kind: 'number', cell: (row) => String(ways(row)), key: (row) => -ways(row) },
-      { title: 'Share %', kind: 'number', cell: ({ first }) => percent(first.share, outcomes), key: ({ first }) => -first.share },
-      { title: 'Verdict', cell: ({ first }) => makeVerdict(verdictOf(first, outcomes)), key: ({ first }) => VERDICTS.indexOf(verdictOf(first, outcomes)) },
+      numberColumn('Ways', ({ first }) => first.alone + first.shared),
+      { ...numberColumn('Share %', ({ first }) => first.share), cell: ({ first }) => percent(first.share, outcomes) },
+      verdictColumn(({ first }) => verdictOf(first, outcomes)),
     ];
   }
   if (!pool.outlook) return [];
   const of = ({ player }) => pool.outlook.players[player.index];
-  return [{ title: 'Share % now', kind: 'number', cell: (row) => of(row).share, key: (row) => highest(of(row).percent) }];
+  const key = (row) => highest(of(row).percent);
+  return [{ title: 'Share % now', kind: 'number', cell: (row) => of(row).share, key }];
 }
 
 function makeWhatIfTable(pool, { rows, outcomes }) {
   const columns = [
-    { title: 'Place', kind: 'number place-column', cell: ({ place }) => String(place), key: ({ place }) => place },
-    { title: 'Player', kind: 'name-column', isHeader: true, cell: ({ player }) => makePlayerLink(player), key: ({ player }) => player.name },
-    { title: 'Points', kind: 'number strong', cell: ({ points }) => String(points), key: ({ points }) => -points },
-    { title: 'Possible', kind: 'number', cell: ({ possible }) => String(possible), key: ({ possible }) => -possible },
+    placeColumn(({ place }) => place),
+    nameColumn(({ player }) => player),
+    numberColumn('Points', ({ points }) => points, 'number strong'),
+    numberColumn('Possible', ({ possible }) => possible),
     ...waysColumns(pool, outcomes),
-    { title: 'Moved', kind: 'number', cell: ({ player, place }) => makeMovement(player.place - place), key: ({ player, place }) => place - player.place },
+    movementColumn(({ player, place }) => player.place - place),
   ];
   rows.sort((left, right) => left.place - right.place || byName(left.player, right.player));
   return new Table('Standings by what is supposed', columns, rows).element;
@@ -64,7 +66,8 @@ function whatIfInWords(pool, outcomes) {
   const winners = counted(supposedGames(supposed, pool.results).length, 'winner');
   const open = counted(openGamesOf(supposed).games.length, 'game');
   const counting = outcomes === null
-    ? `Ways are counted once ${MOST_COUNTED_GAMES} are open or fewer; until then the shares are the program's, by the results as entered.`
+    ? `Ways are counted once ${MOST_COUNTED_GAMES} are open or fewer; until then the shares are the program's, by the `
+      + 'results as entered.'
     : `Ways: of ${counted(outcomes, 'outcome')}, all alike, those in which a player is first, alone or together.`;
   return `${winners} supposed; ${open} still open. ${counting}`;
 }
@@ -76,7 +79,8 @@ function showWhatIf(pool) {
   byId('what-if-games').replaceChildren(...makeGames(pool));
   byId('what-if-table').replaceChildren(makeWhatIfTable(pool, standings));
   if (focused.game) {
-    document.querySelector(`.side[data-game="${focused.game}"][data-team="${focused.team}"]`)?.focus({ preventScroll: true });
+    const same = `.side[data-game="${focused.game}"][data-team="${focused.team}"]`;
+    document.querySelector(same)?.focus({ preventScroll: true });
   }
 }
 
