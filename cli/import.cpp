@@ -1,6 +1,7 @@
 // cli/import.cpp - writes what the review would have ticked at first, and tells of every entry that it would not.
 #include "base/text.h"
 #include "cli/mail_library.h"
+#include "cli/local_time.h"
 #include "cli/reading.h"
 #include "cli/verbs.h"
 #include "files/folder_lock.h"
@@ -41,7 +42,7 @@ void import(Session& session, const ImportOptions& options)
     for (std::size_t i = 0; i < review.rows.size(); ++i)
         if (needsADecision(review.rows[i]))
             session.fault(headingOf(review.rows[i], i) + " is not imported: " + review.rows[i].words);
-    const ImportOutcome outcome = importTicked(review, session.folder());
+    const ImportOutcome outcome = importTicked(review, session.folder(), localNow());
     for (const NotWritten& row : outcome.notWritten)
         session.fault(headingOf(review.rows[row.row], row.row) + " is not imported: " + row.reason);
     if (!outcome.playerListTrouble.empty())

@@ -2,6 +2,7 @@
 // calculated.
 #include "base/lines.h"
 #include "cli/json.h"
+#include "cli/local_time.h"
 #include "cli/reading.h"
 #include "cli/verbs.h"
 #include "files/file_names.h"
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <ctime>
 
 namespace tallyhoop::cli {
 
@@ -20,14 +20,7 @@ namespace {
 
 std::chrono::year_month_day today()
 {
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-#ifdef _WIN32
-    localtime_s(&local, &now);
-#else
-    localtime_r(&now, &local);
-#endif
-    return std::chrono::year{local.tm_year + 1900} / (local.tm_mon + 1) / local.tm_mday;
+    return std::chrono::year_month_day{std::chrono::floor<std::chrono::days>(localNow())};
 }
 
 /// @returns the results as the board has them: those of a new pool where there are none
