@@ -1,7 +1,7 @@
 // cli/import.cpp - writes what the review would have ticked at first, and tells of every entry that it would not.
 #include "base/text.h"
-#include "cli/mail_library.h"
 #include "cli/local_time.h"
+#include "cli/mail_library.h"
 #include "cli/reading.h"
 #include "cli/verbs.h"
 #include "files/folder_lock.h"
@@ -24,8 +24,17 @@ std::string headingOf(const ReviewRow& row, std::size_t index)
     return names.empty() ? number : number + " (" + joined(names, ", ") + ")";
 }
 
-/// Somebody has to decide on what is not ticked, unless it is what is there already.
-bool needsADecision(const ReviewRow& row) { return !row.isTicked && row.effect != Effect::Identical; }
+/// @returns whether somebody has to decide on a row: it is neither ticked nor there already, and no later entry for the
+///          same file is
+bool needsADecision(const Review& review, const ReviewRow& row)
+{
+    const auto isTaken = [](const ReviewRow& taken) {
+        return taken.isTicked || (taken.effect == Effect::Identical && !taken.isDoubtful);
+    };
+    if (isTaken(row))
+        return false;
+    return row.effect == Effect::Refused || !row.later || !isTaken(review.rows[*row.later]);
+}
 
 } // namespace
 
@@ -40,7 +49,7 @@ void import(Session& session, const ImportOptions& options)
     const EntryReaders readers{field, takeMailApart};
     const Review review = reviewOf(gatherEntries(options.files, readers), session.folder(), field);
     for (std::size_t i = 0; i < review.rows.size(); ++i)
-        if (needsADecision(review.rows[i]))
+        if (needsADecision(review, review.rows[i]))
             session.fault(headingOf(review.rows[i], i) + " is not imported: " + review.rows[i].words);
     const ImportOutcome outcome = importTicked(review, session.folder(), localNow());
     for (const NotWritten& row : outcome.notWritten)

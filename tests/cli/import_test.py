@@ -70,6 +70,23 @@ class Import(unittest.TestCase):
         self.assertIn("Ann Smith_AS.THC", self.folder.contents())
         self.assertNotIn("Cleo Dean_CD.THC", self.folder.contents())
 
+    def test_of_several_for_one_player_the_latest_is_taken_and_no_fault(self):
+        first = self.hand_in("1.THC")
+        second = self.hand_in("2.THC", picks=bracket(2))
+        os.utime(first, (1_000_000_000, 1_000_000_000))
+        for _ in range(2):  # the second time it is there already
+            done = self.imports(second, first)
+            self.assertEqual((done.returncode, done.stderr), (DONE, b""))
+            self.assertEqual(self.folder.read("Ann Smith_AS.THC"), self.inbox.read("2.THC"))
+
+    def test_doubtful_entries_are_the_organisers_to_decide(self):
+        self.folder.write("Ann Smith_AS.THC", b"half of a selection")
+        before = self.folder.contents()
+        done = self.imports(self.hand_in())
+        self.assertEqual(done.returncode, FAULTS_FOUND)
+        self.assertEqual(len(faults(done)), 1)
+        self.assertEqual(self.folder.contents(), before)
+
     def test_late_entries_are_the_organisers_to_decide(self):
         self.folder.write("TALLYHOOP.THS", selection(office_pool.results(), "X", "FinalResults"))
         before = self.folder.contents()
