@@ -4,8 +4,8 @@
 #include "base/lines.h"
 #include "base/text.h"
 #include "files/file_names.h"
+#include "output/final_sheet_making.h"
 #include "pool/projection.h"
-#include "pool/scoring.h"
 #include "reports/outlook_rows.h"
 #include "screens/help_topics.h"
 #include "screens/money/money_words.h"
@@ -156,23 +156,15 @@ std::optional<ReportLines> MoneyScreen::sheetLines()
     const std::optional<PrizeTable> table = usableTable();
     if (!table)
         return std::nullopt;
-    const auto made = [&]() -> Result<FinalSheet> {
+    const auto made = [&] {
         const Work work{m_platform.progress, kFinalSheetName, 1};
-        const Result<Payoffs>& payoffs = m_opened.pool.field.payoffs.points();
-        if (!payoffs)
-            return payoffs.failure();
-        const auto scores = scoreEntries(m_opened.pool.entries, m_opened.pool.results->picks, *payoffs);
-        if (!scores)
-            return scores.failure();
-        return finalSheetOf(*scores, *m_opened.pool.results, *table);
+        return makeFinalSheet(m_opened, *table);
     }();
     if (!made) {
         m_platform.dialogs.show({kSheetTrouble, made.failure().message, ui::Buttons::Ok, ui::Icon::Critical});
         return std::nullopt;
     }
-    FinalSheet sheet = *made;
-    sheet.remarks = unreadInWords(m_opened);
-    return finalSheetLines(m_opened.pool.field.title, sheet);
+    return finalSheetLines(m_opened.pool.field.title, *made);
 }
 
 void MoneyScreen::saveSheet()

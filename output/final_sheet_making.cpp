@@ -1,0 +1,40 @@
+// output/final_sheet_making.cpp - scores everybody, and hands the scores on.
+#include "output/final_sheet_making.h"
+
+#include "pool/scoring.h"
+#include "reports/final_sheet_words.h"
+
+namespace tallyhoop {
+
+Result<FinalSheet> makeFinalSheet(const OpenedPool& opened, const PrizeTable& table)
+{
+    const Pool& pool = opened.pool;
+    if (!pool.results)
+        return Failure{"Game results have not been entered: there is no final sheet."};
+    const Result<Payoffs>& payoffs = pool.field.payoffs.points();
+    if (!payoffs)
+        return payoffs.failure();
+    const auto scores = scoreEntries(pool.entries, pool.results->picks, *payoffs);
+    if (!scores)
+        return scores.failure();
+    const Result<FinalSheet> made = finalSheetOf(*scores, *pool.results, table);
+    if (!made)
+        return made;
+    FinalSheet sheet = *made;
+    sheet.remarks = unreadInWords(opened);
+    return sheet;
+}
+
+PageFinalSheet pageFinalSheetOf(const FinalSheet& sheet)
+{
+    PageFinalSheet page;
+    page.notes = finalSheetNotes(sheet);
+    page.rows.reserve(sheet.rows.size());
+    for (const FinalRow& row : sheet.rows)
+        page.rows.push_back({placeInWords(row), row.name, std::to_string(row.points),
+                             row.predicted ? std::to_string(*row.predicted) : std::string{}, prizeInWords(row),
+                             row.isLast});
+    return page;
+}
+
+} // namespace tallyhoop

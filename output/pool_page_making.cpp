@@ -1,0 +1,79 @@
+// output/pool_page_making.cpp - the outlook first, then how it came about.
+#include "output/pool_page_making.h"
+
+#include "output/final_sheet_making.h"
+#include "output/outlook_making.h"
+#include "pool/outlook/road.h"
+#include "pool/results.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+#include <vector>
+
+namespace tallyhoop {
+
+namespace {
+
+/// Of each forecast of the road: a chart shows no more.
+constexpr std::uint64_t kRoadSamples = 20'000;
+
+std::vector<Bracket> picksOf(const Pool& pool)
+{
+    std::vector<Bracket> picks;
+    picks.reserve(pool.entries.size());
+    for (const Entry& entry : pool.entries)
+        picks.push_back(entry.picks);
+    return picks;
+}
+
+RoadPoint nowOf(const MadeOutlook& outlook)
+{
+    RoadPoint now;
+    now.openGames = outlook.basis.openGames;
+    now.samples = outlook.figures.samples;
+    now.errors = outlook.figures.errors;
+    now.chances.reserve(outlook.figures.chances.players.size());
+    for (const PlayerChances& player : outlook.figures.chances.players)
+        now.chances.push_back(player.all);
+    return now;
+}
+
+std::vector<RoadPoint> roadTo(const MadeOutlook& outlook, const Pool& pool, const Payoffs& payoffs, const Step& step)
+{
+    RoadLimits limits;
+    limits.samples = kRoadSamples;
+    const Bracket results = completedResults(pool.results.value_or(Entry{}), pool.field).picks;
+    Road road{results, picksOf(pool), payoffs,
+              [&](const Contest& contest) { return chancesOf(outlook.basis.chances, contest, pool.field); }, limits};
+    if (outlook.figures.source != ChanceSource::None)
+        road.takeNow(nowOf(outlook));
+    while (!road.isDone() && step())
+        road.advance(step);
+    return road.points();
+}
+
+} // namespace
+
+Result<PoolPage> makePoolPage(const OpenedPool& opened, const PrizeTable& prizes, ChanceKind chances, const Step& step)
+{
+    const Pool& pool = opened.pool;
+    Result<MadeOutlook> made = makeOutlook(opened, chances, step);
+    if (!made)
+        return made.failure();
+    const std::vector<RoadPoint> road = roadTo(*made, pool, *pool.field.payoffs.points(), step);
+    std::vector<OutlookRow> rows = made->rows;
+    std::ranges::sort(rows, {}, &OutlookRow::player);
+    PageOutlook outlook = pageOutlookOf(made->basis, rows, made->isExact() ? made->firsts.get() : nullptr, road);
+    std::ranges::move(unreadInWords(opened), std::back_inserter(outlook.basis));
+
+    const Result<PoolPage> shown = poolPageOf(pool, std::move(outlook));
+    if (!shown)
+        return shown;
+    PoolPage page = *shown;
+    if (const Result<FinalSheet> sheet = makeFinalSheet(opened, prizes))
+        page.finalSheet = pageFinalSheetOf(*sheet);
+    return page;
+}
+
+} // namespace tallyhoop

@@ -1,0 +1,19 @@
+// output/pool_page_making.h - everything that the pool's page shows, gathered and worked out.
+#pragma once
+
+#include "base/step.h"
+#include "output/opened_pool.h"
+#include "pool/outlook/chances.h"
+#include "pool/prizes/prize_table.h"
+#include "reports/page/pool_page.h"
+
+namespace tallyhoop {
+
+/// The pool as entered, with its outlook, the road there and, from the last four on, the final sheet.
+/// @param prizes of the final sheet
+/// @param step   called between slices of some milliseconds; when it asks to stop, what is known by then is on the page
+/// @returns a failure when a payoff is no number
+Result<PoolPage> makePoolPage(const OpenedPool& opened, const PrizeTable& prizes,
+                              ChanceKind chances = ChanceKind::Alike, const Step& step = goOn);
+
+} // namespace tallyhoop

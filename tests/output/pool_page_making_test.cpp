@@ -1,0 +1,68 @@
+// tests/output/pool_page_making_test.cpp - what is gathered for the pool's page.
+#include "output/pool_page_making.h"
+
+#include "pool/outlook/final_pool.h"
+
+#include <gmock/gmock.h>
+
+namespace tallyhoop::test {
+namespace {
+
+using testing::Contains;
+using testing::DoubleNear;
+using testing::ElementsAre;
+using testing::SizeIs;
+
+TEST(PoolPageMaking, GathersTheOutlookInTheOrderOfTheEntries)
+{
+    // Of the two ways the final can end Ann is first in one; in the other Bob and Cleo share.
+    Pool pool = finalPool();
+    std::swap(pool.entries[0], pool.entries[2]); // so that the largest share is not the first
+    const Result<PoolPage> page = makePoolPage({.pool = std::move(pool)}, {});
+    ASSERT_TRUE(page);
+    ASSERT_TRUE(page->outlook);
+    EXPECT_EQ(page->outlook->outcomes, "2");
+    EXPECT_TRUE(page->outlook->exact);
+    ASSERT_THAT(page->outlook->players, SizeIs(3));
+    EXPECT_EQ(page->players[0].name, "X, Cleo");
+    EXPECT_EQ(page->outlook->players[0].firstAlone, "0");
+    EXPECT_EQ(page->outlook->players[0].firstShared, "1");
+    EXPECT_EQ(page->outlook->players[2].firstAlone, "1");
+    EXPECT_EQ(page->outlook->players[2].share, "50.0");
+}
+
+TEST(PoolPageMaking, FollowsTheRoadToItsEnd)
+{
+    const Result<PoolPage> page = makePoolPage({.pool = finalPool()}, {});
+    ASSERT_TRUE(page);
+    const std::vector<PageRoadPoint>& road = page->outlook->road;
+    ASSERT_THAT(road, SizeIs(6)) << "the start, four rounds, and now in the fifth";
+    EXPECT_EQ(road.front().round, 0);
+    EXPECT_TRUE(road.back().isNow);
+    EXPECT_THAT(road.back().shares, ElementsAre(DoubleNear(0.5, 1e-9), DoubleNear(0.25, 1e-9), DoubleNear(0.25, 1e-9)));
+}
+
+TEST(PoolPageMaking, HasAFinalSheetFromTheLastFourOn)
+{
+    Pool pool = finalPool();
+    EXPECT_TRUE(makePoolPage({.pool = pool}, {})->finalSheet);
+    pool.results->picks = cleared(pool.results->picks, regionWinner(0));
+    EXPECT_FALSE(makePoolPage({.pool = pool}, {})->finalSheet);
+}
+
+TEST(PoolPageMaking, SaysWhatWasNotRead)
+{
+    OpenedPool opened{.pool = finalPool()};
+    opened.inPart = 2;
+    EXPECT_THAT(makePoolPage(opened, {})->outlook->basis, Contains("2 selections were read only in part"));
+}
+
+TEST(PoolPageMaking, IsImpossibleWithoutPayoffs)
+{
+    Pool pool = finalPool();
+    pool.field.payoffs = PayoffTexts{{"1", "2", "40000", "8", "12", "16"}};
+    EXPECT_FALSE(makePoolPage({.pool = std::move(pool)}, {}));
+}
+
+} // namespace
+} // namespace tallyhoop::test
