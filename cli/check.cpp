@@ -6,6 +6,7 @@
 #include "files/file_names.h"
 #include "files/player_names_file.h"
 #include "files/pool_files.h"
+#include "files/prizes_file.h"
 #include "files/selection_file.h"
 #include "files/setup_file.h"
 #include "files/team_name_list_file.h"
@@ -111,7 +112,7 @@ private:
     void checkNames()
     {
         for (const char* name : {file_name::kSetup, file_name::kResults, file_name::kTeamNames, file_name::kPlayerNames,
-                                 file_name::kSettings})
+                                 file_name::kPrizes, file_name::kSettings})
             if (const std::vector<std::string> spellings = m_session.folder().spellingsOf(name); spellings.size() > 1)
                 tell(name, "There are several of this name: " + joined(spellings, ", ") + ".");
     }
@@ -206,6 +207,9 @@ private:
         if (begins(file_name::kTeamNames))
             if (const auto names = readTeamNames(m_session.folder()); !names)
                 tell(file_name::kTeamNames, names.failure().message);
+        if (begins(file_name::kPrizes))
+            if (const Read<Prizes> prizes = tallyhoop::readPrizes(m_session.folder()); prizes.trouble)
+                tell(file_name::kPrizes, prizes.trouble->message);
         if (begins(file_name::kSettings))
             if (const auto bytes = m_session.folder().read(file_name::kSettings); !bytes)
                 tell(file_name::kSettings, bytes.failure().message);

@@ -33,7 +33,8 @@ bool isPartOfAPool(const std::filesystem::path& file)
 {
     const std::string name = shown(file.filename());
     return endsWithFolded(name, ".THS") || endsWithFolded(name, file_name::kSelectionExtension) ||
-           equalFolded(name, file_name::kPlayerNames) || equalFolded(name, file_name::kSettings);
+           equalFolded(name, file_name::kPlayerNames) || equalFolded(name, file_name::kPrizes) ||
+           equalFolded(name, file_name::kSettings);
 }
 
 class CommandLine
@@ -52,7 +53,9 @@ public:
             ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
         m_app.footer("Exit status: 0 done, 1 faults found, 2 used wrongly. Faults go to the error stream, one a line.");
         addReports();
+        addPage();
         addTables();
+        addFinal();
         addEntries();
         m_app.add_subcommand("check", "Read every file of the pool and list every fault")->callback([this] {
             m_verb = [](Session& session) { check(session); };
@@ -102,6 +105,20 @@ private:
             ->option_text("TABLE");
         addWeights(csvVerb, m_csv.weights);
         csvVerb->callback([this] { m_verb = [this](Session& session) { csv(session, m_csv); }; });
+    }
+
+    void addPage()
+    {
+        CLI::App* const pageVerb = m_app.add_subcommand("page", "The pool as a page for the browser");
+        addWeights(pageVerb, m_page.weights);
+        pageVerb->callback([this] { m_verb = [this](Session& session) { page(session, m_page); }; });
+    }
+
+    void addFinal()
+    {
+        CLI::App* const finalVerb = m_app.add_subcommand("final", "The sheet that ends the season");
+        addJson(finalVerb, m_final.asJson);
+        finalVerb->callback([this] { m_verb = [this](Session& session) { finalSheet(session, m_final); }; });
     }
 
     void addEntries()
@@ -169,7 +186,9 @@ private:
     ReportOptions m_report;
     ScoresOptions m_scores;
     OutlookOptions m_outlook;
+    PageOptions m_page;
     CsvOptions m_csv;
+    FinalOptions m_final;
     FormOptions m_form;
     std::function<void(Session&)> m_verb;
 };

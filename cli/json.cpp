@@ -20,6 +20,8 @@ std::string fileOf(const Json& json) { return json.dump(kIndent) + "\n"; }
 
 Json textOrNull(const std::string& text) { return text.empty() ? Json(nullptr) : Json(toUtf8(text)); }
 
+Json numberOrNull(std::optional<int> number) { return number ? Json(*number) : Json(nullptr); }
+
 const char* nameOf(ChanceKind chances)
 {
     switch (chances) {
@@ -78,6 +80,28 @@ std::string standingsJson(std::string_view title, std::span<const PlayerScore> s
                            {"champion", textOrNull(score.winningPick)}});
     }
     return fileOf({{"title", toUtf8(title)}, {"players", players}});
+}
+
+std::string finalJson(std::string_view title, const FinalSheet& sheet, std::span<const Entry> entries)
+{
+    Json players = Json::array();
+    for (const FinalRow& row : sheet.rows)
+        players.push_back({{"place", row.place},
+                           {"shared", row.isShared},
+                           {"last", row.isLast},
+                           {"file", toUtf8(entries[row.player].fileName)},
+                           {"name", toUtf8(row.name)},
+                           {"points", row.points},
+                           {"total", numberOrNull(row.predicted)},
+                           {"off", numberOrNull(row.off)},
+                           {"prize", moneyInWords(row.prize)}});
+    return fileOf({{"title", toUtf8(title)},
+                   {"openGames", sheet.openGames},
+                   {"total", numberOrNull(sheet.total)},
+                   {"fees", moneyInWords(sheet.purse.fees)},
+                   {"keptBack", moneyInWords(sheet.purse.keptBack)},
+                   {"left", moneyInWords(sheet.purse.left)},
+                   {"players", players}});
 }
 
 std::string scoresJson(std::span<const PlayerScore> scores)

@@ -4,6 +4,7 @@
 #include "output/outlook_making.h"
 #include "pool/entry.h"
 #include "pool/scoring.h"
+#include "reports/final_sheet.h"
 
 #include <span>
 #include <string>
@@ -19,5 +20,8 @@ std::string scoresJson(std::span<const PlayerScore> scores);
 
 /// @param entries those that the outlook was made of
 std::string outlookJson(const MadeOutlook& outlook, std::span<const Entry> entries);
+
+/// @param entries those that the sheet was made of
+std::string finalJson(std::string_view title, const FinalSheet& sheet, std::span<const Entry> entries);
 
 } // namespace tallyhoop::cli

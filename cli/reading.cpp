@@ -3,6 +3,7 @@
 
 #include "files/file_names.h"
 #include "files/pool_files.h"
+#include "files/prizes_file.h"
 #include "files/setup_file.h"
 
 #include <utility>
@@ -33,6 +34,14 @@ OpenedPool openPool(Session& session)
     for (const Failure& trouble : opened.pool.trouble)
         session.fault(trouble.message);
     return opened;
+}
+
+PrizeTable readPrizes(Session& session)
+{
+    Read<Prizes> read = tallyhoop::readPrizes(session.folder());
+    if (read.trouble)
+        session.fault(std::string{file_name::kPrizes} + ": " + read.trouble->message);
+    return std::move(read.value.table);
 }
 
 void tell(Session& session, const ReportRefusal& refusal) { session.fault(refusal.reason); }

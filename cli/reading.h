@@ -4,6 +4,7 @@
 #include "cli/session.h"
 #include "output/opened_pool.h"
 #include "output/report_making.h"
+#include "pool/prizes/prize_table.h"
 
 #include <functional>
 #include <optional>
@@ -20,6 +21,9 @@ std::vector<FolderFile> listSelections(Session& session);
 
 /// @returns the field, the results and the entries of which something is known
 OpenedPool openPool(Session& session);
+
+/// @returns the prizes; those that could be read, and none where there are none
+PrizeTable readPrizes(Session& session);
 
 /// Tells why there is no report.
 void tell(Session& session, const ReportRefusal& refusal);

@@ -48,6 +48,18 @@ struct CsvOptions {
 /// A table for spreadsheets.
 void csv(Session& session, const CsvOptions& options);
 
+struct PageOptions {
+    ChanceKind weights = ChanceKind::Alike; ///< of the outlook
+};
+/// The page that shows the pool in a browser.
+void page(Session& session, const PageOptions& options);
+
+struct FinalOptions {
+    bool asJson = false;
+};
+/// The sheet that ends the season.
+void finalSheet(Session& session, const FinalOptions& options);
+
 struct FormOptions {
     std::string organiser; ///< the address that brackets are sent to; empty = none
 };

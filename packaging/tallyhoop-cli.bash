@@ -1,7 +1,7 @@
 # bash completion for tallyhoop-cli
 _tallyhoop_cli() {
     local current=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} verb="" word
-    local verbs="standings report scores outlook csv form import check"
+    local verbs="standings report scores outlook page csv final form import check"
     local -a words=()
     for word in "${COMP_WORDS[@]:1:COMP_CWORD-1}"; do
         if [[ " $verbs " == *" $word "* ]]; then
@@ -33,7 +33,8 @@ _tallyhoop_cli() {
         report) words+=(--title) ;;
         scores) words+=(--json) ;;
         outlook) words+=(--weights --json) ;;
-        csv) words+=(--weights) ;;
+        page | csv) words+=(--weights) ;;
+        final) words+=(--json) ;;
         form) words+=(--mail-to) ;;
         import)
             if [[ $current != -* ]]; then

@@ -2,7 +2,7 @@
 
 import unittest
 
-from pools import Folder, complete_pool, faults, record
+from pools import PRIZES, Folder, complete_pool, faults, record
 
 DONE, FAULTS_FOUND = 0, 1
 
@@ -68,6 +68,13 @@ class Check(unittest.TestCase):
                                        "PLAYERNAMES.CSV: Record 3 has not the format of a record.",
                                        "PLAYERNAMES.CSV: Record 4 is too long."])
         self.assertNotIn("PLAYERNAMES.TXT", self.folder.contents(), "it only looks")
+
+    def test_the_faults_of_the_prizes(self):
+        self.folder.write("PRIZES.CSV", PRIZES)
+        self.assertEqual(self.told(), [])
+        self.folder.write("PRIZES.CSV", [*PRIZES, "Prize,0,1.00"])
+        [fault] = self.told()
+        self.assertTrue(fault.startswith("PRIZES.CSV: "), fault)
 
     def test_two_files_of_one_name(self):
         self.folder.write("tallyhoop.ths", self.folder.read("TALLYHOOP.THS"))

@@ -7,7 +7,7 @@ import unittest
 from pools import Folder, complete_pool, faults
 
 VERBS = (["standings"], ["standings", "--json"], ["scores"], ["scores", "--json"], ["outlook"], ["outlook", "--json"],
-         ["csv", "standings"], ["csv", "picks"], ["csv", "picks-by-player"], ["form"], ["check"],
+         ["csv", "standings"], ["csv", "picks"], ["csv", "picks-by-player"], ["form"], ["final"], ["final", "--json"], ["check"],
          *(["report", number] for number in range(1, 8)))
 
 
@@ -56,7 +56,7 @@ class Hostile(unittest.TestCase):
 
     def test_bytes_that_mean_nothing(self):
         complete_pool(self.folder)
-        for name in ("TALLYHOOP.THS", "POOLSTART.THS", "PLAYERNAMES.CSV", "NCAALIST.THS", "TALLYHOOP.INI",
+        for name in ("TALLYHOOP.THS", "POOLSTART.THS", "PLAYERNAMES.CSV", "NCAALIST.THS", "TALLYHOOP.INI", "PRIZES.CSV",
                      "Random_R.THC"):
             self.folder.write(name, bytes(range(256)) * 40)
         self.run_all()

@@ -6,7 +6,7 @@ import unittest
 
 import jsonschema
 
-from pools import TESTS, Folder, sample_pool, small_field, small_pool
+from pools import PRIZES, TESTS, Folder, sample_pool, setup_file, small_field, small_pool
 
 SCHEMAS = TESTS.parent / "docs/schemas"
 
@@ -76,6 +76,21 @@ class Figures(unittest.TestCase):
         self.assertEqual(standings["players"][1], {
             "place": 2, "file": "Dunn_EF.THC", "name": "EF, Dunn", "points": 96, "possible": 136, "good": 45, "bad": 15,
             "open": 3, "total": 250, "champion": "PINE BLUFF"})
+
+    def test_the_final_sheet_has_prizes_to_the_cent(self):
+        small_pool(self.folder)
+        self.folder.write("POOLSTART.THS", setup_file("Pool"))
+        self.folder.write("PRIZES.CSV", PRIZES)
+        # tests/approved/small/FINAL.TXT: 40.04 less 4.00 kept back are 21.63 + 7.21 + 7.20 in prizes.
+        final = self.figures("final")
+        self.assertEqual({key: final[key] for key in ("title", "openGames", "total", "fees", "keptBack", "left")},
+                         {"title": "Pool", "openGames": 3, "total": None, "fees": "40.04", "keptBack": "4.00",
+                          "left": "0.00"})
+        self.assertEqual(final["players"][1], {
+            "place": 2, "shared": True, "last": False, "file": "Dunn_EF.THC", "name": "EF, Dunn", "points": 96,
+            "total": 250, "off": None, "prize": "7.21"})
+        self.assertEqual([(player["place"], player["prize"], player["last"]) for player in final["players"]],
+                         [(1, "21.63", False), (2, "7.21", False), (2, "7.20", False), (4, "0.00", True)])
 
     def test_the_scores_are_in_the_order_of_the_files(self):
         small_pool(self.folder)

@@ -17,6 +17,9 @@ BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", TESTS.parent / "build"))
 APPROVED = TESTS / "approved"
 SMALL_TITLE = "Office Pool 2001"
 MESSY_TITLE = "B\u00fcro-Pool \u201eM\u00e4rz\u201c 2001"
+# 10.01 from each player, 10 % kept back, and 60, 30 and 10 % of the rest for the first three places.
+PRIZES = ["Item,Which,Value", "Entry fee,,10.01", "Kept back,,10 %", "Ties,,Nearest", "Prize,1,60 %", "Prize,2,30 %",
+          "Prize,3,10 %"]
 PATIENCE = 120  # seconds
 
 

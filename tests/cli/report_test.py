@@ -5,7 +5,7 @@ import pty
 import re
 import unittest
 
-from pools import APPROVED, MESSY_TITLE, SMALL_TITLE, Folder, faults, messy_pool, sample_pool, setup_file, small_pool
+from pools import APPROVED, MESSY_TITLE, PRIZES, SMALL_TITLE, Folder, faults, messy_pool, sample_pool, setup_file, small_pool
 
 
 class Reports(unittest.TestCase):
@@ -60,6 +60,33 @@ class Reports(unittest.TestCase):
         sample_pool(self.folder)
         for weights, words in (("seeds", b"by seed"), ("picks", b"as this pool picked"), ("alike", b"all outcomes")):
             self.assertIn(b"\r\nChances: " + words, self.folder.run("outlook", "--weights", weights).stdout)
+
+    def test_the_final_sheet_is_as_worked_out_by_hand(self):
+        small_pool(self.folder)
+        self.folder.write("POOLSTART.THS", setup_file(SMALL_TITLE))
+        self.folder.write("PRIZES.CSV", PRIZES)
+        done = self.folder.run("final")
+        self.assertEqual(done.stdout, self.approved("small", "FINAL.TXT"))
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+
+    def test_there_is_no_final_sheet_before_the_last_four(self):
+        small_pool(self.folder)
+        bracket = self.folder.read("TALLYHOOP.THS").split(b"\r\n")
+        bracket[30] = b""  # the winner of the West
+        self.folder.write("TALLYHOOP.THS", b"\r\n".join(bracket))
+        done = self.folder.run("final")
+        self.assertEqual((done.returncode, done.stdout), (1, b""))
+        self.assertEqual(len(faults(done)), 1)
+
+    def test_the_page_holds_the_pool(self):
+        small_pool(self.folder)
+        self.folder.write("POOLSTART.THS", setup_file(SMALL_TITLE))
+        done = self.folder.run("page")
+        self.assertEqual((done.returncode, done.stderr), (0, b""))
+        self.assertTrue(done.stdout.startswith(b"<!DOCTYPE html>"))
+        for text in (b"Office Pool 2001", b"AB, Adams", b"EF, Dunn", b"If it ended like this"):
+            self.assertIn(text, done.stdout)
+        self.assertEqual(self.folder.run("page").stdout, done.stdout, "the same pool makes the same page")
 
     def test_the_scores_are_the_printed_list(self):
         sample_pool(self.folder)

@@ -34,7 +34,7 @@ class Status(unittest.TestCase):
         for word in ("--help", "--version"):
             done = run(word)
             self.assertEqual((done.returncode, done.stderr), (DONE, b""))
-        for verb in ("standings", "report", "scores", "outlook", "csv", "form", "import", "check"):
+        for verb in ("standings", "report", "scores", "outlook", "page", "csv", "final", "form", "import", "check"):
             self.assertIn(verb, run("--help").stdout.decode())
             self.assertEqual(run(verb, "--help").returncode, DONE)
 
@@ -78,7 +78,7 @@ class Status(unittest.TestCase):
     def test_no_output_replaces_a_part_of_the_pool(self):
         small_pool(self.folder)
         before = self.folder.contents()
-        for name in ("TALLYHOOP.THS", "poolstart.ths", "Adams_AB.THC", "New.thc", "PLAYERNAMES.CSV", "TALLYHOOP.INI"):
+        for name in ("TALLYHOOP.THS", "poolstart.ths", "Adams_AB.THC", "New.thc", "PLAYERNAMES.CSV", "prizes.csv", "TALLYHOOP.INI"):
             with self.subTest(name):
                 done = self.folder.run("standings", "--out", self.folder.path / name)
                 self.assertEqual(done.returncode, USED_WRONGLY)
@@ -105,7 +105,7 @@ class Status(unittest.TestCase):
     def test_reading_writes_nothing(self):
         sample_pool(self.folder)
         before = self.folder.contents()
-        for words in (["standings"], ["scores"], ["outlook"], ["check"], ["form"], ["csv", "picks"],
+        for words in (["standings"], ["scores"], ["outlook"], ["check"], ["form"], ["csv", "picks"], ["final"], ["page"],
                       *(["report", number] for number in range(1, 8))):
             self.folder.run(*words)
         self.assertEqual(self.folder.contents(), before)

@@ -1,0 +1,18 @@
+// cli/page.cpp - the page that shows the pool in a browser.
+#include "cli/reading.h"
+#include "cli/verbs.h"
+#include "output/pool_page_making.h"
+
+namespace tallyhoop::cli {
+
+void page(Session& session, const PageOptions& options)
+{
+    const OpenedPool opened = openPool(session);
+    const Result<PoolPage> made = makePoolPage(opened, readPrizes(session), options.weights);
+    if (made)
+        session.write(poolPage(*made));
+    else
+        session.fault(made.failure().message);
+}
+
+} // namespace tallyhoop::cli
