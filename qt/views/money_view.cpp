@@ -1,4 +1,4 @@
-// qt/views/money_view.cpp - groups of boxes beside the table of the players.
+// qt/views/money_view.cpp - groups of boxes beside the rule for ties and the table of the players.
 #include "qt/views/money_view.h"
 
 #include "qt/look.h"
@@ -38,7 +38,6 @@ MoneyView::MoneyView(MoneyScreen& money, Desk& desk) : Page{money, desk}
     QVBoxLayout* const left = look::column();
     left->addWidget(look::group(tr("Fees"), makeAmounts(money)));
     left->addWidget(look::group(tr("Prizes"), makePrizes(money)));
-    left->addWidget(look::group(tr("Ties"), makeTies(money)));
     left->addStretch(1);
 
     QHBoxLayout* const middle = look::row(look::kSection);
@@ -80,10 +79,14 @@ QLayout* MoneyView::makePrizes(MoneyScreen& money)
 
 QLayout* MoneyView::makeTies(MoneyScreen& money)
 {
-    QVBoxLayout* const column = look::column(look::kTight);
-    column->addWidget(add(money.lblTies));
+    QHBoxLayout* const rules = look::row(look::kSection);
+    rules->addWidget(add(money.lblTies));
     for (QRadioButton* rule : addOptions(money.optTies))
-        column->addWidget(rule);
+        rules->addWidget(rule);
+    rules->addStretch(1);
+
+    QVBoxLayout* const column = look::column(look::kTight);
+    column->addLayout(rules);
     column->addWidget(wrapped(add(money.lblTotal)));
     return column;
 }
@@ -96,6 +99,7 @@ QLayout* MoneyView::makePlayers(MoneyScreen& money)
     ticks->addWidget(add(money.cmdUntickAll));
 
     QVBoxLayout* const column = look::column();
+    column->addWidget(look::group(tr("Ties"), makeTies(money)));
     column->addWidget(add(money.grdFees), 1);
     column->addLayout(ticks);
     return column;

@@ -1,4 +1,4 @@
-// qt/views/money_view.h - fees and prizes to the left, who has paid to the right, the final sheet below.
+// qt/views/money_view.h - fees and prizes to the left, ties and who has paid to the right, the final sheet below.
 #pragma once
 
 #include "qt/page.h"
