@@ -15,8 +15,9 @@ namespace tallyhoop {
 
 namespace {
 
-/// Of each forecast of the road: a chart shows no more.
+/// Of each forecast of the road: a chart shows no more, and counting more open games takes seconds.
 constexpr std::uint64_t kRoadSamples = 20'000;
+constexpr std::size_t kRoadGames = 24;
 
 std::vector<Bracket> picksOf(const Pool& pool)
 {
@@ -43,6 +44,7 @@ std::vector<RoadPoint> roadTo(const MadeOutlook& outlook, const Pool& pool, cons
 {
     RoadLimits limits;
     limits.samples = kRoadSamples;
+    limits.countedGames = kRoadGames;
     const Bracket results = completedResults(pool.results.value_or(Entry{}), pool.field).picks;
     Road road{results, picksOf(pool), payoffs,
               [&](const Contest& contest) { return chancesOf(outlook.basis.chances, contest, pool.field); }, limits};
