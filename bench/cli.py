@@ -12,6 +12,6 @@ with measure.pool(arguments.players, arguments.folder) as folder:
         ours.append(measure.process(standings))
         reference.append(measure.added(cat.run(), measure.process(["true"])))
 measure.show("standings", ours)
-measure.show("cat of the same files, and an empty process", reference)
+measure.show("cat and empty process", reference)
 measure.tell_ratio("ratio of medians", measure.median(ours) / measure.median(reference), 2.0)
 measure.tell_ratio("... of processor time", measure.median(ours, 1) / measure.median(reference, 1), 2.0)
