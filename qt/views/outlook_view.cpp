@@ -131,13 +131,14 @@ QWidget* OutlookView::makePlayer()
     for (ui::Command* command : {&m_outlook.cmdShowWay, &m_outlook.cmdStop})
         buttons->addWidget(add(*command));
     buttons->addStretch();
-    buttons->addWidget(add(m_outlook.cmdExit));
+    for (ui::Command* command : {&m_outlook.cmdCopy, &m_outlook.cmdExit})
+        buttons->addWidget(add(*command));
     player->addWidget(name);
     player->addWidget(proof);
     player->addStretch();
     auto* const output = look::row();
     for (ui::Command* command : {&m_outlook.cmdSaveReport, &m_outlook.cmdSavePdf, &m_outlook.cmdSaveCsv,
-                                 &m_outlook.cmdPrint, &m_outlook.cmdPreview, &m_outlook.cmdCopy})
+                                 &m_outlook.cmdPrint, &m_outlook.cmdPreview})
         output->addWidget(add(*command));
     output->addStretch();
     player->addLayout(output);
