@@ -1,5 +1,6 @@
 """The entry form on every screen and on paper, for everybody."""
 
+import pathlib
 import subprocess
 import unittest
 
