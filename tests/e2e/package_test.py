@@ -11,11 +11,10 @@ import tempfile
 import unittest
 
 from program import NOBODY, Program
-from program_folder import BUILD, CMAKE
+from program_folder import BUILD, CMAKE, OWN_FILES
 from sample_pool import install
 
 CLEAN_ROOT = os.environ.get("TALLYHOOP_CLEAN_ROOT", "")
-OWN_FILES = ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", "tallyhoop", "tallyhoop-cli"]
 
 
 def run(*words):

@@ -9,6 +9,9 @@ import tempfile
 BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
 CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
 
+# All that the installation lays out, sorted; every other file in a program folder belongs to its pool.
+OWN_FILES = ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", "tallyhoop", "tallyhoop-cli"]
+
 
 class ProgramFolder:
     """The folder need not be there before lay_out()."""
@@ -39,5 +42,4 @@ class ProgramFolder:
 
     def files(self):
         """The names of the data files in the folder, sorted."""
-        own = {"tallyhoop", "DEMOSET.EXE", "TALLYHOOP.HLP", "NCAALIST.THS"}
-        return sorted(file.name for file in self.folder.iterdir() if file.name not in own)
+        return sorted(file.name for file in self.folder.iterdir() if file.name not in OWN_FILES)
