@@ -37,7 +37,9 @@ def random_bracket(dice, upper=0.7):
 class PagePool:
     """A folder with a field, results of so many games, and random brackets; always the same for the same numbers."""
 
-    def __init__(self, players=12, played=48, field=None, names=None, without=(), seed=17):
+    def __init__(self, players=12, played=48, field=None, names=None, without=(), seed=17, total="", predicted=None,
+                 prizes=None):
+        """total: of the final's points; predicted: the players' totals; prizes: the lines of their file."""
         dice = random.Random(seed)
         self._folder = tempfile.TemporaryDirectory(prefix="tallyhoop-pool-")
         self.folder = pathlib.Path(self._folder.name)
@@ -46,17 +48,26 @@ class PagePool:
         self._write("POOLSTART.THS", lines)
         self.truth = random_bracket(dice)
         self.entered = {game: self.truth[game] for game in PLAYED_ORDER[:played] if game not in without}
-        self._write("TALLYHOOP.THS", self._selection(self.entered, "A", "FinalResults", ""))
+        self._write("TALLYHOOP.THS", self._selection(self.entered, "A", "FinalResults", total))
         self.names = names or [f"{SURNAMES[number % 16]} {number // 16 + 1}" for number in range(players)]
-        self.brackets = [random_bracket(dice) for _ in self.names]
+        self.brackets = self.brackets_of(dice)
+        predicted = predicted or [str(100 + number % 90) for number in range(len(self.names))]
         for number, (name, bracket) in enumerate(zip(self.names, self.brackets, strict=True)):
-            winners = {game: bracket[game] for game in GAME_PLACES}
-            self._write(f"Player {number:04}.THC", self._selection(winners, "PL", name, str(100 + number % 90)))
+            winners = {game: bracket[game] for game in GAME_PLACES if game in bracket}
+            self._write(f"Player {number:04}.THC", self._selection(winners, "PL", name, predicted[number]))
+        if prizes:
+            self._write("PRIZES.CSV", prizes)
         page = self.folder / "POOL.HTML"
-        page.write_bytes(self.run("page"))
+        page.write_bytes(self.made_page())
         self.size = page.stat().st_size
         self.page = page
         self.address = page.as_uri()
+
+    def brackets_of(self, dice):
+        return [random_bracket(dice) for _ in self.names]
+
+    def made_page(self):
+        return self.run("page")
 
     def _selection(self, winners, initials, name, total):
         lines = [""] * 127

@@ -1,0 +1,134 @@
+"""The pool's page after the last game, as the program without windows makes it: places, prizes, and nothing but text."""
+
+import os
+import pathlib
+import subprocess
+import unittest
+
+from browser import DESKTOP, TABLET, TELEPHONE, Browser
+from look_test import A4, LETTER, text_of
+from pool_page import CHAMPION, HERE, TABS, Page, PagePool, feeders, pool_2000
+from safety_test import HOSTILE
+
+CLI = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", HERE.parents[1] / "build")) / "cli/tallyhoop-cli"
+
+# 10.00 from each of five players are 50.00: 70 % of them 35.00, 30 % of them 15.00.
+PRIZES = ["Item,Which,Value", "Entry fee,,10.00", "Prize,1,70 %", "Prize,2,30 %"]
+SPLIT = ["Fees: 50.00 (5 players, 10.00 each)", "Prizes: 50.00"]
+
+ALL_RIGHT = 32 * 1 + 16 * 2 + 8 * 4 + 4 * 8 + 2 * 12 + 16
+PREDICTED = "142", "147", "160", "155", "90"
+
+
+class Settled(PagePool):
+    """Three players have every game right, the fourth all but the champion, the fifth has nothing."""
+
+    def __init__(self, names, total="150", played=63, **options):
+        super().__init__(names=names, played=played, total=total, predicted=PREDICTED, prizes=PRIZES, **options)
+
+    def brackets_of(self, dice):
+        [loser] = {self.truth[place] for place in feeders(CHAMPION)} - {self.truth[CHAMPION]}
+        return [self.truth, self.truth, self.truth, {**self.truth, CHAMPION: loser}, {}]
+
+    def made_page(self):
+        return subprocess.run([CLI, "--folder", self.folder, "page"], capture_output=True, check=True).stdout
+
+
+class Final(unittest.TestCase):
+    names = "Adams", "Baker", "Clark", "Dunn", "Evans"
+
+    def open(self, pool=None, show=True, **options):
+        if pool is None:
+            pool = Settled(self.names)
+            self.addCleanup(pool.close)
+        self.browser = Browser(**options)
+        self.addCleanup(self.browser.close)
+        page = Page(self.browser, pool.address)
+        if show:
+            page.show("final")
+        return page
+
+    def pool(self, *arguments, **options):
+        pool = Settled(*arguments, **options)
+        self.addCleanup(pool.close)
+        return pool
+
+    def notes(self, page):
+        return [note.text for note in page.all("#final > p")]
+
+    def test_the_total_tells_apart_who_has_the_same_points(self):
+        page = self.open()
+        # The total is 150: Baker is 3 off, Adams 8, Clark 10.
+        self.assertEqual(page.rows("#final"), [
+            ["1", "PL, Baker", str(ALL_RIGHT), "147", "35.00"],
+            ["2", "PL, Adams", str(ALL_RIGHT), "142", "15.00"],
+            ["3", "PL, Clark", str(ALL_RIGHT), "160", ""],
+            ["4", "PL, Dunn", str(ALL_RIGHT - 16), "155", ""],
+            ["5", "PL, Evans (last)", "0", "90", ""]])
+        self.assertEqual(self.notes(page), ["The tournament is over", "Total points of the final: 150",
+                                            "Ties: the nearest prediction is ahead", *SPLIT])
+        self.assertEqual(self.browser.complaints(), [])
+
+    def test_without_the_total_places_are_shared(self):
+        page = self.open(self.pool(self.names, total=""))
+        # 35.00 + 15.00 + nothing for the third: 50.00 are three times 16.66, and 2 cents for the first two. Among equal
+        # points the standings list the later name in the alphabet first.
+        self.assertEqual([[row[0], row[1], row[4]] for row in page.rows("#final")], [
+            ["1=", "PL, Clark", "16.67"], ["1=", "PL, Baker", "16.67"], ["1=", "PL, Adams", "16.66"],
+            ["4", "PL, Dunn", ""], ["5", "PL, Evans (last)", ""]])
+        self.assertIn("Total points of the final: not entered, so equal points share a place", self.notes(page))
+        self.assertIn("Shared prizes: odd cents go to those who are listed first", self.notes(page))
+
+    def test_from_the_last_four_on_it_says_what_would_be(self):
+        page = self.open(self.pool(self.names, played=60))
+        self.assertEqual(self.notes(page)[0], "If it ended like this: 3 games are open")
+        # Regions alone: without the semi-finals' 24 and the final's 16.
+        self.assertEqual(page.rows("#final")[0][2], str(ALL_RIGHT - 40))
+
+    def test_before_the_last_four_there_is_no_such_tab(self):
+        page = self.open(self.pool(self.names, played=59), show=False)
+        self.assertEqual([tab.get_attribute("id") for tab in page.all("[role=tab]")], [f"tab-{tab}" for tab in TABS])
+
+    def test_hostile_names_are_text(self):
+        names = HOSTILE[:5]
+        page = self.open(self.pool(names, field=pool_2000.setup_file(title=HOSTILE[0])))
+        self.assertEqual([row[1] for row in page.rows("#final")],
+                         [f"PL, {names[1]}", f"PL, {names[0]}", f"PL, {names[2]}", f"PL, {names[3]}",
+                          f"PL, {names[4]} (last)"])
+        self.assertEqual(self.browser.driver.title, HOSTILE[0])
+        self.assertEqual(self.browser.run("return document.querySelectorAll('script').length"), 2)
+        self.assertEqual(self.browser.run("return document.querySelectorAll('img, b, iframe').length"), 0)
+        self.assertEqual(self.browser.complaints(), [])
+
+    def test_axe_core_finds_nothing_at_any_size_in_light_and_dark(self):
+        long_name = "Bartholomew Featherstonehaugh-Cholmondeley"
+        pool = self.pool((*self.names[:4], long_name))
+        for size in TELEPHONE, TABLET, DESKTOP:
+            for dark in False, True:
+                self.open(pool, size=size, dark=dark, touch=size != DESKTOP)
+                self.assertEqual(self.browser.axe_findings(), [], (size, dark))
+                self.assertEqual(self.browser.run("return [innerWidth, document.documentElement.scrollWidth]"),
+                                 [size[0], size[0]])
+                self.browser.close()
+
+    def test_a_narrow_screen_reaches_the_prizes(self):
+        page = self.open(size=TELEPHONE, touch=True)
+        [prize] = [cell for cell in page.all("#final tbody tr:first-child > *") if cell.text == "35.00"]
+        self.browser.run("arguments[0].scrollIntoView()", prize)
+        left, right = self.browser.run("const box = arguments[0].getBoundingClientRect(); return [box.left, box.right]",
+                                       prize)
+        self.assertGreaterEqual(left, 0)
+        self.assertLessEqual(right, TELEPHONE[0])
+
+    def test_it_is_printed_whole(self):
+        for size, dark in ((TELEPHONE, True), (DESKTOP, False)):
+            self.open(size=size, dark=dark)
+            for paper in A4, LETTER:
+                [text] = text_of(self.browser.printed(*paper))
+                for words in (*(f"PL, {name}" for name in self.names), "Final sheet", "35.00", "15.00", *SPLIT):
+                    self.assertIn(words, text)
+            self.browser.close()
+
+
+if __name__ == "__main__":
+    unittest.main()
