@@ -97,7 +97,7 @@ private:
     void tell(const std::string& file, const std::string& fault)
     {
         ++m_faults;
-        m_session.fault(file + ": " + fault);
+        m_session.faultIn(file, fault);
     }
 
     /// @returns whether the file is there

@@ -12,7 +12,7 @@ int main(int count, char** words)
     try {
         return tallyhoop::cli::run(count, words);
     } catch (const std::exception& error) { // a lack of memory
-        std::fprintf(stderr, "tallyhoop-cli: %s\n", error.what());
+        static_cast<void>(std::fprintf(stderr, "tallyhoop-cli: %s\n", error.what()));
         return tallyhoop::cli::kFaultsFound;
     }
 }

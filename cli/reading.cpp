@@ -14,9 +14,9 @@ Field readField(Session& session)
 {
     ReadField read = tallyhoop::readField(session.folder());
     if (read.trouble)
-        session.fault(std::string{file_name::kSetup} + ": " + read.trouble->message);
+        session.faultIn(file_name::kSetup, read.trouble->message);
     else if (!read.isWhole)
-        session.fault(std::string{file_name::kSetup} + ": It cannot be read, or not whole.");
+        session.faultIn(file_name::kSetup, "It cannot be read, or not whole.");
     return std::move(read.value);
 }
 
@@ -40,7 +40,7 @@ PrizeTable readPrizes(Session& session)
 {
     Read<Prizes> read = tallyhoop::readPrizes(session.folder());
     if (read.trouble)
-        session.fault(std::string{file_name::kPrizes} + ": " + read.trouble->message);
+        session.faultIn(file_name::kPrizes, read.trouble->message);
     return std::move(read.value.table);
 }
 
@@ -48,7 +48,7 @@ void tell(Session& session, const ReportRefusal& refusal) { session.fault(refusa
 
 void TellingWatcher::fileIsDamaged(const std::filesystem::path& file, const Failure& trouble)
 {
-    m_session.fault(shown(file.filename()) + ": " + trouble.message);
+    m_session.faultIn(shown(file.filename()), trouble.message);
 }
 
 void TellingWatcher::listIsFaulty(const Failure& fault) { m_session.fault(fault.message); }

@@ -31,7 +31,7 @@ Bracket readResults(Session& session, const Field& field)
     const std::filesystem::path file = session.folder().pathTo(file_name::kResults);
     const Read<Entry> results = readSelectionFile(file, startingBracket(field));
     if (results.trouble)
-        session.fault(std::string{file_name::kResults} + ": " + results.trouble->message);
+        session.faultIn(file_name::kResults, results.trouble->message);
     return results.value.picks;
 }
 
@@ -42,12 +42,12 @@ std::vector<PlayerScore> scoreAll(Session& session, const Bracket& results, cons
     scores.reserve(files.size());
     readSelections(files, results, [&](const FolderFile& file, const Read<Entry>& selection) {
         if (selection.trouble)
-            session.fault(file.name + ": " + selection.trouble->message);
+            session.faultIn(file.name, selection.trouble->message);
         const Result<PlayerScore> score = scoreEntry(selection.value, results, payoffs);
         if (score)
             scores.push_back(*score);
         else
-            session.fault(file.name + ": " + score.failure().message);
+            session.faultIn(file.name, score.failure().message);
         return true;
     });
     return scores;

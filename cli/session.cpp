@@ -59,11 +59,16 @@ void Session::fault(std::string_view words)
     static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
 }
 
+void Session::faultIn(std::string_view file, std::string_view words)
+{
+    fault(std::string{file} + ": " + std::string{words});
+}
+
 void Session::write(const std::string& bytes)
 {
     if (m_options.out) {
         if (const Result<Done> written = replaceFile(*m_options.out, bytes); !written)
-            fault(shown(*m_options.out) + ": " + written.failure().message);
+            faultIn(shown(*m_options.out), written.failure().message);
         return;
     }
     if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size() || std::fflush(stdout) != 0)
@@ -73,6 +78,7 @@ void Session::write(const std::string& bytes)
 void Session::writeText(const std::string& bytes)
 {
     const bool isForEyes = !m_options.out && isShownToAPerson();
+    // cppcheck-suppress knownConditionTrueFalse ; on Windows it is, but not elsewhere
     write(isForEyes ? forATerminal(bytes) : bytes);
 }
 

@@ -33,6 +33,9 @@ public:
     /// @param words Windows-1252; line breaks become blanks
     void fault(std::string_view words);
 
+    /// The same for a fault in a file, which is named first.
+    void faultIn(std::string_view file, std::string_view words);
+
     /// Writes what a verb has made: to the file as a whole or not at all, else to the standard output.
     /// @param bytes as the program writes them into a file
     void write(const std::string& bytes);
