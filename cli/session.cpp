@@ -7,7 +7,7 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <cstring>
+#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -72,7 +72,7 @@ void Session::write(const std::string& bytes)
         return;
     }
     if (std::fwrite(bytes.data(), 1, bytes.size(), stdout) != bytes.size() || std::fflush(stdout) != 0)
-        fault("The output could not be written: " + fromUtf8(std::strerror(errno)));
+        fault("The output could not be written: " + fromUtf8(std::generic_category().message(errno)));
 }
 
 void Session::writeText(const std::string& bytes)
