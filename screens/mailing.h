@@ -29,7 +29,7 @@ struct MailRequest {
 
 /// Opens the e-mail dialog and hands one message with all files to the mail program. The files stay where they are, and
 /// what was written for the message comes back with the next one, so nothing is lost when that fails.
-/// @param files at most seven, in order
+/// @param files at most eight, in order
 void mailFiles(const Mailing& mailing, std::span<const std::filesystem::path> files, const MailRequest& request);
 
 } // namespace tallyhoop

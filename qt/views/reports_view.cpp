@@ -4,6 +4,9 @@
 #include "qt/look.h"
 #include "qt/text.h"
 
+#include <QPushButton>
+#include <QShortcut>
+
 namespace tallyhoop::qt {
 
 namespace {
@@ -16,6 +19,13 @@ QLabel* strong(QLabel* label)
 {
     label->setFont(look::boldFont());
     return label;
+}
+
+QPushButton* withKey(Qt::Key key, QPushButton* button)
+{
+    auto* const shortcut = new QShortcut{QKeySequence{key}, button};
+    QObject::connect(shortcut, &QShortcut::activated, button, &QPushButton::click);
+    return button;
 }
 
 } // namespace
@@ -64,6 +74,7 @@ QLayout* ReportsView::textReports(ReportsScreen& reports)
     commands->addWidget(add(reports.cmdPreview));
     commands->addWidget(add(reports.cmdSavePdf));
     commands->addWidget(add(reports.cmdSaveCsv));
+    commands->addWidget(withKey(Qt::Key_F12, add(reports.cmdWebPage)));
     commands->addStretch(1);
 
     auto* const whole = look::column(look::kSection);
@@ -94,6 +105,7 @@ QLayout* ReportsView::destinations(ReportsScreen& reports)
     column->addWidget(strong(add(reports.lblDestination)));
     for (QRadioButton* const destination : addOptions(reports.optDestination))
         column->addWidget(destination);
+    column->addWidget(add(reports.chkWebPage));
     column->addSpacing(look::kGap);
     column->addLayout(helpers);
     column->addStretch(1);

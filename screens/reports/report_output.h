@@ -35,7 +35,7 @@ ui::TextPrintout textPrintout(const std::string& title, const ReportLines& lines
 std::string writtenSentence(std::span<const std::filesystem::path> files);
 
 /// Makes the message that carries report files: the draft's text, then ten blanks as places for the attachments.
-/// @param files at most seven, in order
+/// @param files at most eight, in order
 ui::MailMessage reportMessage(const MailDraft& draft, std::span<const std::filesystem::path> files);
 
 } // namespace tallyhoop

@@ -6,6 +6,7 @@
 #include "base/lines.h"
 #include "base/text.h"
 #include "files/file_names.h"
+#include "reports/page/pool_page.h"
 #include "screens/help_topics.h"
 #include "screens/mailing.h"
 #include "screens/printer_setup.h"
@@ -88,6 +89,8 @@ void ReportsScreen::explainControls()
     cmdPreview.explanation = "Shows the ticked reports as they will be printed.";
     cmdSavePdf.explanation = "Saves the ticked reports as PDF files: one is named, several go into a folder.";
     cmdSaveCsv.explanation = "Saves the ticked standings and team selections as tables for spreadsheets.";
+    cmdWebPage.explanation = "Saves one file that shows the whole pool in any browser (F12).";
+    chkWebPage.explanation = "Makes the page that shows the whole pool in any browser, and mails it, too.";
     chkAllPlayers.changed = [this] {
         if (chkAllPlayers.ticked)
             ui::selectOption(optSelected, 0); // the only sheet that there is for each player
@@ -111,6 +114,7 @@ std::string ReportsScreen::helpTopic() const { return m_refusalTopic.empty() ? h
 void ReportsScreen::showState()
 {
     cmdSaveCsv.enabled = isTableTicked();
+    chkWebPage.enabled = isMailChosen();
     cmdDefaultPrinter.caption = m_useDefaultPrinter ? "Use default printer" : "Select non default printer";
     status = m_board.holdsUnsavedResults() ? "Reports use the saved results; those on the board are not saved" : "";
 }
@@ -158,12 +162,16 @@ void ReportsScreen::createSelectedReports()
         else if (*isOut)
             printed.emplace_back(kind.name);
     };
-    const bool isWhole = forEachTickedReport("PrintSelections_Click ", cmdPrintSelections.caption, bringOut);
+    const bool isWhole =
+        forEachTickedReport("PrintSelections_Click ", cmdPrintSelections.caption, bringOut, isWebPageMailed());
     if (!printed.empty())
         say(printedSentence(printed));
+    const bool isPageThere = isWhole && isWebPageMailed() && writeWebPage();
+    if (isPageThere)
+        made.push_back(m_folder.pathTo(kPoolPageFile));
     if (!made.empty())
         say(writtenSentence(made));
-    if (isWhole && !made.empty() && (destination == Destination::Email || toEverybody))
+    if (isWhole && !made.empty() && isMailChosen() && isPageThere == isWebPageMailed())
         mailReports(made, toEverybody);
 }
 
@@ -193,6 +201,11 @@ std::vector<ui::Printout> ReportsScreen::tickedPrintouts(const char* titleEnd, c
     return printouts;
 }
 
+bool ReportsScreen::isMailChosen() const
+{
+    return optDestination[Destination::Email].selected || optDestination[Destination::EmailToEverybody].selected;
+}
+
 ReportsScreen::Destination ReportsScreen::chosenDestination() const
 {
     for (const auto destination : {Destination::Printer, Destination::Email, Destination::EmailToEverybody})
@@ -201,7 +214,8 @@ ReportsScreen::Destination ReportsScreen::chosenDestination() const
     return Destination::File;
 }
 
-bool ReportsScreen::forEachTickedReport(const char* titleEnd, const std::string& commandCaption, const Deliver& deliver)
+bool ReportsScreen::forEachTickedReport(const char* titleEnd, const std::string& commandCaption, const Deliver& deliver,
+                                        bool isPageEnough)
 {
     listFiles();
     bool anyTicked = false;
@@ -219,7 +233,7 @@ bool ReportsScreen::forEachTickedReport(const char* titleEnd, const std::string&
         if (reason.consequence == WithoutReport::EndRun)
             return false;
     }
-    if (!anyTicked)
+    if (!anyTicked && !isPageEnough)
         m_platform.dialogs.show({std::string{"Tallyhoop - frmPoolReports, "} + titleEnd,
                                  "You will need to select one of the Report Selections before\r\n"
                                  "choosing the \"" +

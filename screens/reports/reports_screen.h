@@ -48,6 +48,8 @@ public:
     ui::Command cmdPreview{this, "cmdPreview", "Preview", [this] { previewSelectedReports(); }};
     ui::Command cmdSavePdf{this, "cmdSavePdf", "Save as PDF", [this] { saveSelectedReportsAsPdf(); }};
     ui::Command cmdSaveCsv{this, "cmdSaveCsv", "Save as CSV...", [this] { saveSelectedTables(); }};
+    ui::Command cmdWebPage{this, "cmdWebPage", "Save as &Web Page...", [this] { saveWebPage(); }};
+    ui::CheckBox chkWebPage{this, "chkWebPage", "Attach the pool's web page"}; ///< to what is mailed
 
     ui::Label fraPrinterOnly{this, "fraPrinterOnly", "Printer Only Options"};
     ui::ControlArray<ui::OptionButton, 2> optSelected{this, "optSelected"};
@@ -76,12 +78,21 @@ private:
     void saveSelectedReportsAsPdf();
     void saveSelectedTables();
     bool isTableTicked() const;
+    void saveWebPage();
+    std::optional<std::string> makeWebPage();
+    bool isWebPageMailed() const;
+
+    /// Makes the page and writes it into the program's folder. @returns false after it was said why it is not there
+    bool writeWebPage();
     Destination chosenDestination() const;
+    bool isMailChosen() const;
 
     /// Makes the ticked reports, hands each on that could be made, and explains itself when none is ticked.
     /// @param titleEnd what the explanation's caption says of the command
+    /// @param isPageEnough whether there is something to bring out when none is ticked: the web page
     /// @returns false when the person has cancelled
-    bool forEachTickedReport(const char* titleEnd, const std::string& commandCaption, const Deliver& deliver);
+    bool forEachTickedReport(const char* titleEnd, const std::string& commandCaption, const Deliver& deliver,
+                             bool isPageEnough = false);
 
     /// Shows why there is no report and, where it says so, unticks the report's box.
     void refuse(const ReportKind& kind, const NoReport& reason);

@@ -98,6 +98,25 @@ class Reports(unittest.TestCase):
             self.assertEqual(self.printed(name), pages(text), f"report {number}")
         self.assertNotIn("TEMPPRT.TXT", self.program.files())
 
+    def test_the_web_page_is_the_one_of_the_command_line(self):
+        self.program.key("F12")
+        self.program.box("Save as Web Page")
+        self.program.file_dialog("for everybody")
+        self.program.wait(lambda: self.program.text("explanation") == "Saved for everybody.HTML.", "the page")
+        made = subprocess.run([self.program.folder / "tallyhoop-cli", "page"], capture_output=True, check=True)
+        self.assertEqual(self.program.read("for everybody.HTML"), made.stdout)
+        self.assertIn(b"Demo Prophet", made.stdout)
+
+    def test_the_web_page_is_mailed_with_a_report(self):
+        self.tick(0)
+        self.program.click("optDestination_2")
+        self.program.click("chkWebPage")
+        self.program.click("cmdPrintSelections")
+        self.program.wait(lambda: self.program.visible("cmdSend"), "the mail")
+        made = subprocess.run([self.program.folder / "tallyhoop-cli", "page"], capture_output=True, check=True)
+        self.assertEqual(self.program.read("POOL.HTML"), made.stdout)
+        self.assertIn("RPTOPT1.TXT", self.program.files())
+
     def printed(self, name):
         """What a PDF says, without its left margin."""
         text = subprocess.run(["pdftotext", "-layout", "-fixed", "6", self.program.folder / name, "-"],

@@ -132,6 +132,21 @@ std::vector<ui::Message> tableTrouble(const fs::path& folder, const Fault& fault
     return {checkItsFolder(folder / "SELECTIONS.CSV")};
 }
 
+std::vector<ui::Message> savedPageTrouble(const fs::path& file, const Fault& fault)
+{
+    if (fault.hidesFolder)
+        return {folderCannotBeListed(file.parent_path(), fault)};
+    return {checkItsFolder(file)};
+}
+
+std::vector<ui::Message> mailedPageTrouble(const fs::path& folder, const Fault& fault)
+{
+    if (fault.hidesFolder)
+        return {folderCannotBeListed(folder, fault)};
+    return {{"Tallyhoop - frmPoolReports, Save as Web Page",
+             std::string{"POOL.HTML could not be written.\r\n"} + fault.reason, ui::Buttons::Ok, ui::Icon::Critical}};
+}
+
 ui::Message outlookTrouble(const Fault& fault)
 {
     return {"Tallyhoop - frmPoolOutlook, cmdSaveReport",

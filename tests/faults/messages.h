@@ -33,6 +33,12 @@ std::vector<ui::Message> reportTrouble(ReportId id, const std::filesystem::path&
 /// The selections are read before a name is asked for.
 std::vector<ui::Message> tableTrouble(const std::filesystem::path& folder, const Fault& fault);
 
+/// The page cannot be saved under a name that the person has chosen.
+std::vector<ui::Message> savedPageTrouble(const std::filesystem::path& file, const Fault& fault);
+
+/// The page that is to be mailed cannot be written.
+std::vector<ui::Message> mailedPageTrouble(const std::filesystem::path& folder, const Fault& fault);
+
 /// The outlook is read before anything happens to the folder.
 ui::Message outlookTrouble(const Fault& fault);
 

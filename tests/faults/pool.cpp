@@ -5,6 +5,7 @@
 #include "files/setup_file.h"
 #include "reports/final_sheet.h"
 #include "reports/outlook.h"
+#include "reports/page/pool_page.h"
 #include "reports/report_pool.h"
 #include "reports/report_table.h"
 
@@ -32,6 +33,7 @@ void putPool(const ScratchFolder& folder)
         folder.put(kind.file, "an older report");
     folder.put(kOutlookFile, "an older report");
     folder.put(kFinalSheetFile, "an older report");
+    folder.put(kPoolPageFile, "an older page");
     folder.put(file_name::kPrizes, prizesFile({}));
 }
 

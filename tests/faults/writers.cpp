@@ -11,6 +11,7 @@
 #include "reports/entry_form/entry_form.h"
 #include "reports/final_sheet.h"
 #include "reports/outlook.h"
+#include "reports/page/pool_page.h"
 #include "screens/board/board_screen.h"
 #include "screens/entries/entry_form_screen.h"
 #include "screens/entries/selection_export.h"
@@ -310,6 +311,33 @@ public:
 
 constexpr std::size_t kToPrinter = 0;
 constexpr std::size_t kToFile = 1;
+constexpr std::size_t kToMail = 2;
+
+constexpr const char* kSavedPage = "PAGE.HTML";
+
+class WebPageWriter : public ReportWriter<0, kToFile>
+{
+public:
+    using ReportWriter::ReportWriter;
+    void save(std::optional<ui::Answer> /*mayReplace*/) override
+    {
+        if (fs::exists(folder.folder())) // otherwise nobody is there to be shown, and no name is asked for
+            platform.dialogs.pick(folder.folder() / kSavedPage);
+        screen->cmdWebPage.click();
+    }
+};
+
+class MailedPageWriter : public ReportWriter<0, kToMail>
+{
+public:
+    using ReportWriter::ReportWriter;
+    void save(std::optional<ui::Answer> /*mayReplace*/) override
+    {
+        screens.whenLoaded = [this](ScreenKind) { draft.cancelled = true; };
+        screen->chkWebPage.ticked = true;
+        screen->cmdPrintSelections.click();
+    }
+};
 
 template <class Kind>
 std::unique_ptr<Writer> opened(const fs::path& folder)
@@ -381,6 +409,10 @@ const std::vector<WriterKind>& allWriters()
         {"Outlook", kOutlookFile, "Pool Outlook", true, false, opened<OutlookWriter>,
          [](const fs::path&, const Fault& fault) { return std::vector{outlookTrouble(fault)}; }},
         {"Prizes", file_name::kPrizes, "17.70", true, true, opened<MoneyWriter>, troubleWith<file_name::kPrizes>},
+        {"WebPage", kSavedPage, "Content-Security-Policy", false, false, opened<WebPageWriter>,
+         [](const fs::path& folder, const Fault& fault) { return savedPageTrouble(folder / kSavedPage, fault); }},
+        {"MailedPage", kPoolPageFile, "Content-Security-Policy", true, false, opened<MailedPageWriter>,
+         mailedPageTrouble},
         {"FinalSheet", kFinalSheetFile, "17.70 each", true, false, opened<FinalSheetWriter>,
          [](const fs::path&, const Fault& fault) { return std::vector{finalSheetTrouble(fault)}; }},
     };

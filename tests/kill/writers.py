@@ -10,6 +10,7 @@ TOTAL = re.compile(rb"(Demo Prophet,DP,)1\d\d,")
 CHANCES = re.compile(rb"^Chances: .*\r\n", re.MULTILINE)
 VERDICTS = re.compile(rb"( +\d+(-\d+)?){2}  (Clinched|Alive|Open|Out)\r\n")
 AMOUNT = re.compile(rb"\b1\d\d\.00\b")
+THREE_DIGITS = re.compile(rb"\b1\d\d\b")
 CHANGED = "** FILE HAS BEEN CHANGED **"
 FAULTY_LIST = "** ERROR Found in PLAYERNAMES.CSV file **"
 OFFER = "** DEMO MODE OPTION **"
@@ -40,6 +41,11 @@ def without_total(content):
 
 def without_amounts(content):
     return AMOUNT.sub(b"1NN.00", content)
+
+
+def without_totals(content):
+    """The total of one player is in several places of the pool's page."""
+    return THREE_DIGITS.sub(b"1NN", content)
 
 
 def without_marked_lines(content):
@@ -94,6 +100,7 @@ WRITERS = {writer.name: writer for writer in [
     Writer("outlook", ["OUTLOOK.TXT"], without_chances_and_verdicts),
     Writer("prizes", ["PRIZES.CSV"], without_amounts),
     Writer("final", ["FINAL.TXT"], without_amounts),
+    Writer("webpage", ["POOL.HTML"], without_totals, boxes=["Tallyhoop"]),
     Writer("message", ["TALLYHOOP.EML", "RPTOPT2.TXT"], None),
     Writer("pdf", ["Bracket.PDF"], pdf, boxes=["Tallyhoop"]),
     Writer("installer", [], lambda content: content),

@@ -80,6 +80,12 @@ void exportSelections(int round)
     choose("mnuExportSelections");
 }
 
+void saveWebPage(int round)
+{
+    putSelection(QApplication::applicationDirPath() + QStringLiteral("/Demo Prophet_DP.THC"), {}, round);
+    click("cmdWebPage");
+}
+
 /// Damages the list, so that the program makes an annotated copy.
 void damagePlayerList(int round)
 {
@@ -135,7 +141,7 @@ void saveFinalSheet(int round)
     click("cmdFinalSheet");
 }
 
-const std::array<Writer, 24> kWriters{{
+const std::array<Writer, 25> kWriters{{
     {"nothing", nothing, [](int) {}},
     {"setup", [] { choose("mnuSetupOptions"); }, saveSetup},
     {"results", [] { choose("mnuGameResults"); }, saveBoard},
@@ -156,6 +162,7 @@ const std::array<Writer, 24> kWriters{{
     {"outlook", [] { choose("mnuOutlook"); }, saveOutlook},
     {"prizes", [] { choose("mnuMoney"); }, savePrizes},
     {"final", [] { choose("mnuMoney"); }, saveFinalSheet},
+    {"webpage", [] { choose("mnuReports"); }, saveWebPage},
     {"message", prepareReport<'1', '3'>, makeReport},
     {"pdf", [] { choose("mnuReports"); }, [](int) { click("cmdSaveBoardPdf"); }},
     {"backup", nothing, [](int) { choose("mnuDemoSet"); }},

@@ -115,6 +115,19 @@ TEST_F(ReportsViewTest, ListsTheFilesAndTakesTheChosenOne)
     EXPECT_EQ(reports.filList.selectedText(), "Baker_C.THC");
 }
 
+TEST_F(ReportsViewTest, SavesTheWebPageByAKeyWhereverTheFocusIs)
+{
+    view.activateWindow();
+    QApplication::processEvents();
+    widget<QLineEdit>("txtReportTitle")->setFocus();
+    platform.dialogs.pick(std::nullopt);
+
+    QTest::keyClick(widget<QLineEdit>("txtReportTitle"), Qt::Key_F12);
+
+    ASSERT_EQ(platform.dialogs.fileChoices.size(), 1u);
+    EXPECT_EQ(platform.dialogs.fileChoices[0].proposedName, "POOL.HTML");
+}
+
 TEST_F(ReportsViewTest, PressesReachTheCommands)
 {
     QTest::mouseClick(widget<QPushButton>("cmdDefaultPrinter"), Qt::LeftButton);
