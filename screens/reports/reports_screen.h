@@ -39,6 +39,7 @@ public:
     ui::ControlArray<ui::CheckBox, kReports> chkOptions{this, "chkOptions"}; ///< by ReportId
     ui::Label lblDestination{this, "lblDestination", "Destination"};
     ui::ControlArray<ui::OptionButton, 4> optDestination{this, "optDestination"};
+    ui::CheckBox chkWebPage{this, "chkWebPage", "Attach the pool's web page"}; ///< to what is mailed
     ui::Label lblReportTitle{this, "lblReportTitle", "Report Titles:"};
     ui::TextBox txtReportTitle{this, "txtReportTitle"};
     ui::Command cmdPrintSelections{this, "cmdPrintSelections", "Create Selected Reports",
@@ -49,7 +50,6 @@ public:
     ui::Command cmdSavePdf{this, "cmdSavePdf", "Save as PDF", [this] { saveSelectedReportsAsPdf(); }};
     ui::Command cmdSaveCsv{this, "cmdSaveCsv", "Save as CSV...", [this] { saveSelectedTables(); }};
     ui::Command cmdWebPage{this, "cmdWebPage", "Save as &Web Page...", [this] { saveWebPage(); }};
-    ui::CheckBox chkWebPage{this, "chkWebPage", "Attach the pool's web page"}; ///< to what is mailed
 
     ui::Label fraPrinterOnly{this, "fraPrinterOnly", "Printer Only Options"};
     ui::ControlArray<ui::OptionButton, 2> optSelected{this, "optSelected"};

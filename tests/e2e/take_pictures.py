@@ -20,6 +20,7 @@ from program import Program, centre
 sys.path.insert(0, str(pathlib.Path(__file__).parents[1] / "pages"))
 from browser import DESKTOP, TELEPHONE, Browser  # noqa: E402 - a folder of its own
 from entry_form import GAME_PLACES, Form, feeders  # noqa: E402
+from pool_page import Page as PoolPage  # noqa: E402
 
 PICTURES = pathlib.Path(sys.argv[1] if sys.argv[1:] else pathlib.Path(__file__).parents[2] / "docs/pictures")
 SIZE = tuple(map(int, sys.argv[2].split("x"))) if sys.argv[2:] else (1366, 768)
@@ -217,6 +218,26 @@ def take_entry_page(program):
     take_page(program, "entry-form-desktop", DESKTOP)
 
 
+def take_pool_page(program):
+    """The page that shows the pool, as players see it."""
+    office_pool.write(program)
+    program.start()
+    program.menu("mnuReports")
+    program.click("cmdWebPage")
+    program.wait(lambda: program.modal().get("title") == "Save as Web Page", "the forecast's end")
+    program.file_dialog("POOL.HTML")
+    program.wait(lambda: "POOL.HTML" in program.files(), "the page")
+    picture_pool_page(program.folder / "POOL.HTML", program.suffix)
+
+
+def picture_pool_page(page, suffix):
+    for name, size, touch in (("pool-page-telephone", TELEPHONE, True), ("pool-page-desktop", DESKTOP, False)):
+        with Browser(size=size, dark=bool(suffix), touch=touch) as browser:
+            browser.command("Emulation.setScrollbarsHidden", hidden=touch)
+            PoolPage(browser, page.as_uri())
+            keep(browser, f"{name}{suffix}")
+
+
 def take_page(program, name, size, **how):
     """The first games, and the end of the page once all of it is filled in."""
     bracket = office_pool.bracket(random.Random(95), office_pool.results())
@@ -309,7 +330,8 @@ def main():
         shutil.copy(DARK, pathlib.Path(settings) / "kdeglobals")
         night = {"QT_QPA_PLATFORMTHEME": "kde", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": settings}
         for suffix, environment in (("", {}), ("-dark", night)):
-            for steps, size in ((take_all, SIZE), (take_outlook, SIZE), (take_entry_page, SIZE), (take_import, SIZE),
+            for steps, size in ((take_all, SIZE), (take_outlook, SIZE), (take_entry_page, SIZE), (take_pool_page, SIZE),
+                                (take_import, SIZE),
                                 (take_large_import, LARGE)):
                 take_in_a_pool(steps, suffix, environment=environment, size=size, scale=SCALE)
 

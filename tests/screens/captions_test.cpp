@@ -165,24 +165,23 @@ TEST_F(Captions, OfTheReports)
 
     EXPECT_THAT(
         captionsOf(reports),
-        ElementsAre("frmPoolReports: Tallyhoop Reports", "fraMultipleOutput: Multiple Output Options",
-                    "lblReportSelections: Report Selections", "chkOptions_0: Tournament Standings (RPTOPT1.TXT)",
-                    "chkOptions_1: Player Listing (RPTOPT2.TXT)", "chkOptions_2: Team Selection Summary (RPTOPT3.TXT)",
-                    "chkOptions_3: Team Selection Detail (RPTOPT4.TXT)",
-                    "chkOptions_4: Player Selection Detail (RPTOPT5.TXT)",
-                    "chkOptions_5: Projected Results by Player (RPTOPT6.TXT)",
-                    "chkOptions_6: Projected Results by Team (RPTOPT7.TXT)", "lblDestination: Destination",
-                    "optDestination_0: Printer", "optDestination_1: File", "optDestination_2: Email",
-                    "optDestination_3: Email All Participants",
-                    "lblReportTitle: Report Titles:", "cmdPrintSelections: Create Selected Reports",
-                    "cmdDefaultPrinter: Use default printer", "cmdPreview: Preview", "cmdSavePdf: Save as PDF",
-                    "cmdSaveCsv: Save as CSV...", "cmdWebPage: Save as Web Page...",
-                    "chkWebPage: Attach the pool's web page", "fraPrinterOnly: Printer Only Options",
-                    "optSelected_0: Scored Player Selections (Select File at right --->)",
-                    "optSelected_1: Tournament Results Sheet", "chkAllPlayers: All players",
-                    "cmdSelectedPrintouts: Create Selected Printout", "cmdPreviewBoard: Preview Board",
-                    "cmdSaveBoardPdf: Save Board as PDF", "fraCustomReports: Custom Reports Option",
-                    "cmdCustomReport: Goto Custom Reporting", "cmdOpenFolder: Open Folder", "cmdExit: Exit Reports"));
+        ElementsAre(
+            "frmPoolReports: Tallyhoop Reports", "fraMultipleOutput: Multiple Output Options",
+            "lblReportSelections: Report Selections", "chkOptions_0: Tournament Standings (RPTOPT1.TXT)",
+            "chkOptions_1: Player Listing (RPTOPT2.TXT)", "chkOptions_2: Team Selection Summary (RPTOPT3.TXT)",
+            "chkOptions_3: Team Selection Detail (RPTOPT4.TXT)", "chkOptions_4: Player Selection Detail (RPTOPT5.TXT)",
+            "chkOptions_5: Projected Results by Player (RPTOPT6.TXT)",
+            "chkOptions_6: Projected Results by Team (RPTOPT7.TXT)", "lblDestination: Destination",
+            "optDestination_0: Printer", "optDestination_1: File", "optDestination_2: Email",
+            "optDestination_3: Email All Participants", "chkWebPage: Attach the pool's web page",
+            "lblReportTitle: Report Titles:", "cmdPrintSelections: Create Selected Reports",
+            "cmdDefaultPrinter: Use default printer", "cmdPreview: Preview", "cmdSavePdf: Save as PDF",
+            "cmdSaveCsv: Save as CSV...", "cmdWebPage: Save as Web Page...", "fraPrinterOnly: Printer Only Options",
+            "optSelected_0: Scored Player Selections (Select File at right --->)",
+            "optSelected_1: Tournament Results Sheet", "chkAllPlayers: All players",
+            "cmdSelectedPrintouts: Create Selected Printout", "cmdPreviewBoard: Preview Board",
+            "cmdSaveBoardPdf: Save Board as PDF", "fraCustomReports: Custom Reports Option",
+            "cmdCustomReport: Goto Custom Reporting", "cmdOpenFolder: Open Folder", "cmdExit: Exit Reports"));
 }
 
 TEST_F(Captions, OfTheImport)
