@@ -208,8 +208,8 @@ private:
             if (const auto names = readTeamNames(m_session.folder()); !names)
                 tell(file_name::kTeamNames, names.failure().message);
         if (begins(file_name::kPrizes))
-            if (const Read<Prizes> prizes = tallyhoop::readPrizes(m_session.folder()); prizes.trouble)
-                tell(file_name::kPrizes, prizes.trouble->message);
+            for (const Failure& fault : readPrizesFaults(m_session.folder()))
+                tell(file_name::kPrizes, fault.message);
         if (begins(file_name::kSettings))
             if (const auto bytes = m_session.folder().read(file_name::kSettings); !bytes)
                 tell(file_name::kSettings, bytes.failure().message);

@@ -1,4 +1,4 @@
-// files/prizes_file.cpp - one row after another, and what is wrong with the first that cannot be read.
+// files/prizes_file.cpp - one row after another, and what is wrong with those that cannot be read.
 #include "files/prizes_file.h"
 
 #include "base/csv_cells.h"
@@ -23,6 +23,7 @@ constexpr const char* kTies = "Ties";
 constexpr const char* kPrize = "Prize";
 constexpr const char* kPaid = "Paid";
 constexpr const char* kYes = "Yes";
+constexpr const char* kNo = "No";
 
 constexpr std::array<std::pair<TieRule, const char*>, 3> kRules{
     {{TieRule::Nearest, "Nearest"}, {TieRule::NotOver, "Not over"}, {TieRule::Share, "Share"}}};
@@ -41,24 +42,41 @@ std::size_t placeOf(std::string_view text)
     return isPlace ? place : 0;
 }
 
+Failure unreadable(const Failure& failure)
+{
+    return Failure{std::string{file_name::kPrizes} + " cannot be read. " + failure.message};
+}
+
 class PrizesReader
 {
 public:
-    Read<Prizes> read(std::string_view text)
+    void read(std::string_view text)
     {
         const Result<std::vector<CsvRow>> rows = csvRows(text);
-        if (!rows)
-            return {{}, Failure{std::string{file_name::kPrizes} + " cannot be read. " + rows.failure().message}};
+        if (!rows) {
+            m_faults.push_back(unreadable(rows.failure()));
+            return;
+        }
         for (std::size_t i = 0; i < rows->size(); ++i)
-            if (!take((*rows)[i]) && !m_read.trouble)
-                m_read.trouble = Failure{"Row " + std::to_string(i + 1) + " of " + file_name::kPrizes +
-                                         " is not understood:\r\n" + joined((*rows)[i], ", ")};
+            if (!take((*rows)[i]))
+                m_faults.push_back(Failure{"Row " + std::to_string(i + 1) + " of " + file_name::kPrizes +
+                                           " is not understood:\r\n" + joined((*rows)[i], ", ")});
+        m_value.table.prizes.reserve(m_prizes.size());
         for (const std::optional<Prize>& prize : m_prizes)
-            m_read.value.table.prizes.push_back(prize.value_or(Money{}));
-        if (!m_read.trouble)
-            m_read.trouble = faultOf(m_read.value.table);
-        return std::move(m_read);
+            m_value.table.prizes.push_back(prize.value_or(Money{}));
+        if (std::optional<Failure> fault = faultOf(m_value.table))
+            m_faults.push_back(*std::move(fault));
     }
+
+    Read<Prizes> takeRead()
+    {
+        Read<Prizes> read{std::move(m_value), {}};
+        if (!m_faults.empty())
+            read.trouble = m_faults.front();
+        return read;
+    }
+
+    std::vector<Failure> takeFaults() { return std::move(m_faults); }
 
 private:
     /// @returns false for a row that is not understood
@@ -73,9 +91,9 @@ private:
         if (equalFolded(item, kItem))
             return true;
         if (equalFolded(item, kEntryFee))
-            return takeOnce(m_hasFee, moneyOf(value), m_read.value.table.entryFee);
+            return takeOnce(m_hasFee, moneyOf(value), m_value.table.entryFee);
         if (equalFolded(item, kKeptBack))
-            return takeOnce(m_hasKeptBack, prizeOf(value), m_read.value.table.keptBack);
+            return takeOnce(m_hasKeptBack, prizeOf(value), m_value.table.keptBack);
         if (equalFolded(item, kTies))
             return takeRule(value);
         if (equalFolded(item, kPrize))
@@ -97,7 +115,7 @@ private:
     {
         const auto rule =
             std::ranges::find_if(kRules, [&](const auto& known) { return equalFolded(known.second, value); });
-        return rule != kRules.end() && takeOnce(m_hasRule, std::optional{rule->first}, m_read.value.table.ties);
+        return rule != kRules.end() && takeOnce(m_hasRule, std::optional{rule->first}, m_value.table.ties);
     }
 
     bool takePrize(std::size_t place, const std::optional<Prize>& prize)
@@ -114,27 +132,37 @@ private:
 
     bool takePaid(const std::string& file, const std::string& value)
     {
-        if (file.empty() || !equalFolded(value, kYes))
+        if (file.empty())
             return false;
-        m_read.value.paid.push_back(file);
-        return true;
+        if (equalFolded(value, kYes))
+            m_value.paid.push_back(file);
+        return equalFolded(value, kYes) || equalFolded(value, kNo);
     }
 
-    Read<Prizes> m_read;
+    Prizes m_value;
+    std::vector<Failure> m_faults;
     std::vector<std::optional<Prize>> m_prizes;
     bool m_hasFee = false;
     bool m_hasKeptBack = false;
     bool m_hasRule = false;
 };
 
+/// @returns a reader that has read the bytes
+PrizesReader readerOf(std::string_view bytes)
+{
+    PrizesReader reader;
+    if (bytes.starts_with(kByteOrderMark))
+        reader.read(fromUtf8(bytes.substr(kByteOrderMark.size())));
+    else
+        reader.read(bytes);
+    return reader;
+}
+
 } // namespace
 
-Read<Prizes> prizesOf(std::string_view bytes)
-{
-    if (bytes.starts_with(kByteOrderMark))
-        return PrizesReader{}.read(fromUtf8(bytes.substr(kByteOrderMark.size())));
-    return PrizesReader{}.read(bytes);
-}
+Read<Prizes> prizesOf(std::string_view bytes) { return readerOf(bytes).takeRead(); }
+
+std::vector<Failure> prizesFaults(std::string_view bytes) { return readerOf(bytes).takeFaults(); }
 
 Read<Prizes> readPrizes(const DataFolder& folder)
 {
@@ -142,8 +170,16 @@ Read<Prizes> readPrizes(const DataFolder& folder)
         return {};
     const Result<std::string> bytes = folder.read(file_name::kPrizes);
     if (!bytes)
-        return {{}, Failure{std::string{file_name::kPrizes} + " cannot be read. " + bytes.failure().message}};
+        return {{}, unreadable(bytes.failure())};
     return prizesOf(*bytes);
+}
+
+std::vector<Failure> readPrizesFaults(const DataFolder& folder)
+{
+    if (!folder.exists(file_name::kPrizes))
+        return {};
+    const Result<std::string> bytes = folder.read(file_name::kPrizes);
+    return bytes ? prizesFaults(*bytes) : std::vector{unreadable(bytes.failure())};
 }
 
 std::string prizesFile(const Prizes& prizes)

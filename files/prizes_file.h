@@ -6,7 +6,7 @@
 //     Kept back,,5 %
 //     Ties,,Nearest               or "Not over", "Share"
 //     Prize,1,60 %                the place
-//     Paid,Smith_JS.THC,Yes       the selection
+//     Paid,Smith_JS.THC,Yes       the selection; "No" is as good as no row
 #pragma once
 
 #include "base/result.h"
@@ -33,8 +33,14 @@ struct Prizes {
 /// @param bytes also UTF-8 with a byte order mark, and separated by semicolons, as spreadsheets may save it
 Read<Prizes> prizesOf(std::string_view bytes);
 
+/// @returns everything that is wrong with the file's bytes, in the order of the rows; empty = nothing
+std::vector<Failure> prizesFaults(std::string_view bytes);
+
 /// Reads the folder's file; without one nobody pays and nobody wins anything.
 Read<Prizes> readPrizes(const DataFolder& folder);
+
+/// @returns everything that is wrong with the folder's file; nothing when there is none
+std::vector<Failure> readPrizesFaults(const DataFolder& folder);
 
 /// @returns the bytes of the file
 std::string prizesFile(const Prizes& prizes);

@@ -68,11 +68,30 @@ TEST(PrizesFile, NamesTheFirstRowThatIsNotUnderstood)
     EXPECT_EQ(prizesOf(bytes).value.table.prizes.size(), 2u);
 }
 
+TEST(PrizesFile, HasAllItsFaultsInTheOrderOfTheRows)
+{
+    const std::string bytes = crlf({"Item,Which,Value", "Fee,,10.00", "Prize,1,60 %", "Prize,2,all", "Prize,3,41 %"});
+    std::vector<std::string> words;
+    for (const Failure& fault : prizesFaults(bytes))
+        words.push_back(fault.message);
+    EXPECT_THAT(words, ElementsAre("Row 2 of PRIZES.CSV is not understood:\r\nFee, , 10.00",
+                                   "Row 4 of PRIZES.CSV is not understood:\r\nPrize, 2, all",
+                                   "The shares of the prizes come to 101 %: together they can be 100 % at most."));
+    EXPECT_THAT(prizesFaults(prizesFile(kUsual)), IsEmpty());
+}
+
+TEST(PrizesFile, TakesNoForAPlayerWhoHasNotPaid)
+{
+    const Read<Prizes> read = prizesOf(crlf({"Paid,Adams_AB.THC,No", "Paid,Baker_C.THC,yes", "Paid,Clark_D.THC,NO"}));
+    EXPECT_FALSE(read.trouble);
+    EXPECT_THAT(read.value.paid, ElementsAre("Baker_C.THC"));
+}
+
 TEST(PrizesFile, UnderstandsNoOtherRows)
 {
     for (const char* row : {"Fee,,10.00", "Entry fee,,-10.00", "Kept back,,101 %", "Ties,,Coin", "Prize,0,1.00",
                             "Prize,101,1.00", "Prize,-1,1.00", "Prize,1x,1.00", "Prize,,1.00", "Prize,1,", "Paid,,Yes",
-                            "Paid,Adams_AB.THC,No", "Paid,Adams_AB.THC", ",Adams_AB.THC,Yes", ",,10.00"})
+                            "Paid,Adams_AB.THC,Maybe", "Paid,Adams_AB.THC", "Paid,,No", ",Adams_AB.THC,Yes", ",,10.00"})
         EXPECT_NE(troubleWith(crlf({row})), "") << row;
     EXPECT_EQ(troubleWith(crlf({"Prize,100,1.00"})), "");
 }
