@@ -10,7 +10,8 @@ namespace tallyhoop::cli {
 void finalSheet(Session& session, const FinalOptions& options)
 {
     const OpenedPool opened = openPool(session);
-    const Result<FinalSheet> made = makeFinalSheet(opened, readPrizes(session));
+    const Read<Prizes> prizes = readPrizes(session);
+    const Result<FinalSheet> made = makeFinalSheet(opened, prizes.value.table, prizes.trouble);
     if (!made)
         session.fault(made.failure().message);
     else if (options.asJson)

@@ -22,6 +22,14 @@ Json textOrNull(const std::string& text) { return text.empty() ? Json(nullptr) :
 
 Json numberOrNull(std::optional<int> number) { return number ? Json(*number) : Json(nullptr); }
 
+Json textsOf(std::span<const std::string> texts)
+{
+    Json list = Json::array();
+    for (const std::string& text : texts)
+        list.push_back(toUtf8(text));
+    return list;
+}
+
 const char* nameOf(ChanceKind chances)
 {
     switch (chances) {
@@ -101,6 +109,7 @@ std::string finalJson(std::string_view title, const FinalSheet& sheet, std::span
                    {"fees", moneyInWords(sheet.purse.fees)},
                    {"keptBack", moneyInWords(sheet.purse.keptBack)},
                    {"left", moneyInWords(sheet.purse.left)},
+                   {"remarks", textsOf(sheet.remarks)},
                    {"players", players}});
 }
 

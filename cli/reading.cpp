@@ -3,7 +3,6 @@
 
 #include "files/file_names.h"
 #include "files/pool_files.h"
-#include "files/prizes_file.h"
 #include "files/setup_file.h"
 
 #include <utility>
@@ -36,12 +35,12 @@ OpenedPool openPool(Session& session)
     return opened;
 }
 
-PrizeTable readPrizes(Session& session)
+Read<Prizes> readPrizes(Session& session)
 {
     Read<Prizes> read = tallyhoop::readPrizes(session.folder());
     if (read.trouble)
         session.faultIn(file_name::kPrizes, read.trouble->message);
-    return std::move(read.value.table);
+    return read;
 }
 
 void tell(Session& session, const ReportRefusal& refusal) { session.fault(refusal.reason); }

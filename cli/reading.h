@@ -2,9 +2,9 @@
 #pragma once
 
 #include "cli/session.h"
+#include "files/prizes_file.h"
 #include "output/opened_pool.h"
 #include "output/report_making.h"
-#include "pool/prizes/prize_table.h"
 
 #include <functional>
 #include <optional>
@@ -22,8 +22,8 @@ std::vector<FolderFile> listSelections(Session& session);
 /// @returns the field, the results and the entries of which something is known
 OpenedPool openPool(Session& session);
 
-/// @returns the prizes; those that could be read, and none where there are none
-PrizeTable readPrizes(Session& session);
+/// @returns the prizes, or those that could be read; none where there are none
+Read<Prizes> readPrizes(Session& session);
 
 /// Tells why there is no report.
 void tell(Session& session, const ReportRefusal& refusal);

@@ -1,7 +1,7 @@
 // cli/session.cpp - the streams of the process, and files written as the program writes them.
 #include "cli/session.h"
 
-#include "base/text.h"
+#include "base/one_line.h"
 #include "base/windows1252.h"
 #include "files/replace_file.h"
 
@@ -26,18 +26,6 @@ bool isShownToAPerson()
 #else
     return isatty(STDOUT_FILENO) == 1;
 #endif
-}
-
-/// @returns the words on one line: a line break and the blanks around it become one blank
-std::string onOneLine(std::string_view words)
-{
-    std::string line;
-    for (const char character : asOneLine(std::string{words})) {
-        const bool isSecondBlank = character == ' ' && line.ends_with(' ');
-        if (!isSecondBlank)
-            line.push_back(character);
-    }
-    return withoutOuterBlanks(line);
 }
 
 std::string forATerminal(std::string_view bytes)

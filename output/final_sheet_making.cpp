@@ -1,12 +1,36 @@
 // output/final_sheet_making.cpp - scores everybody, and hands the scores on.
 #include "output/final_sheet_making.h"
 
+#include "base/one_line.h"
+#include "files/file_names.h"
 #include "pool/scoring.h"
 #include "reports/final_sheet_words.h"
 
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <vector>
+
 namespace tallyhoop {
 
-Result<FinalSheet> makeFinalSheet(const OpenedPool& opened, const PrizeTable& table)
+namespace {
+
+/// As wide as the other remarks.
+constexpr std::size_t kMostOfReason = 75;
+
+std::vector<std::string> damageInWords(const Failure& trouble)
+{
+    std::string reason = onOneLine(trouble.message);
+    if (reason.size() > kMostOfReason)
+        reason = reason.substr(0, kMostOfReason - 3) + "...";
+    return {std::string{file_name::kPrizes} + " could not be read whole: these prizes are not final",
+            std::move(reason)};
+}
+
+} // namespace
+
+Result<FinalSheet> makeFinalSheet(const OpenedPool& opened, const PrizeTable& table,
+                                  const std::optional<Failure>& prizesTrouble)
 {
     const Pool& pool = opened.pool;
     if (!pool.results)
@@ -21,7 +45,9 @@ Result<FinalSheet> makeFinalSheet(const OpenedPool& opened, const PrizeTable& ta
     if (!made)
         return made;
     FinalSheet sheet = *made;
-    sheet.remarks = unreadInWords(opened);
+    if (prizesTrouble)
+        sheet.remarks = damageInWords(*prizesTrouble);
+    std::ranges::move(unreadInWords(opened), std::back_inserter(sheet.remarks));
     return sheet;
 }
 

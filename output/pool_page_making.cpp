@@ -57,7 +57,8 @@ std::vector<RoadPoint> roadTo(const MadeOutlook& outlook, const Pool& pool, cons
 
 } // namespace
 
-Result<PoolPage> makePoolPage(const OpenedPool& opened, const PrizeTable& prizes, ChanceKind chances, const Step& step)
+Result<PoolPage> makePoolPage(const OpenedPool& opened, const Read<Prizes>& prizes, ChanceKind chances,
+                              const Step& step)
 {
     const Pool& pool = opened.pool;
     Result<MadeOutlook> made = makeOutlook(opened, chances, step);
@@ -73,7 +74,7 @@ Result<PoolPage> makePoolPage(const OpenedPool& opened, const PrizeTable& prizes
     if (!shown)
         return shown;
     PoolPage page = *shown;
-    if (const Result<FinalSheet> sheet = makeFinalSheet(opened, prizes))
+    if (const Result<FinalSheet> sheet = makeFinalSheet(opened, prizes.value.table, prizes.trouble))
         page.finalSheet = pageFinalSheetOf(*sheet);
     return page;
 }

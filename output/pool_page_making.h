@@ -2,18 +2,18 @@
 #pragma once
 
 #include "base/step.h"
+#include "files/prizes_file.h"
 #include "output/opened_pool.h"
 #include "pool/outlook/chances.h"
-#include "pool/prizes/prize_table.h"
 #include "reports/page/pool_page.h"
 
 namespace tallyhoop {
 
 /// The pool as entered, with its outlook, the road there and, from the last four on, the final sheet.
-/// @param prizes of the final sheet
+/// @param prizes of the final sheet, which says so when they are not whole
 /// @param step   called between slices of some milliseconds; when it asks to stop, what is known by then is on the page
 /// @returns a failure when a payoff is no number
-Result<PoolPage> makePoolPage(const OpenedPool& opened, const PrizeTable& prizes,
+Result<PoolPage> makePoolPage(const OpenedPool& opened, const Read<Prizes>& prizes,
                               ChanceKind chances = ChanceKind::Alike, const Step& step = goOn);
 
 } // namespace tallyhoop

@@ -81,6 +81,7 @@ void MoneyScreen::load()
         m_known.noteDamage(file);
         showTrouble(m_platform.dialogs, *read.trouble);
     }
+    m_trouble = read.trouble;
     fill(read.value.table);
     m_fees = {m_opened.pool.entries, read.value.paid};
     m_saved = onScreen();
@@ -145,6 +146,7 @@ void MoneyScreen::save()
         say("Not saved.");
         return;
     }
+    m_trouble.reset();
     m_saved = onScreen();
     say("Fees and prizes are saved.");
 }
@@ -158,7 +160,7 @@ std::optional<ReportLines> MoneyScreen::sheetLines()
         return std::nullopt;
     const auto made = [&] {
         const Work work{m_platform.progress, kFinalSheetName, 1};
-        return makeFinalSheet(m_opened, *table);
+        return makeFinalSheet(m_opened, *table, m_trouble);
     }();
     if (!made) {
         m_platform.dialogs.show({kSheetTrouble, made.failure().message, ui::Buttons::Ok, ui::Icon::Critical});

@@ -64,7 +64,8 @@ private:
     const OpenedPool m_opened;
     const ui::Platform& m_platform;
     Screens& m_screens;
-    KnownFiles m_known; ///< the file as it was read
+    KnownFiles m_known;               ///< the file as it was read
+    std::optional<Failure> m_trouble; ///< why the file was not read whole, until it is saved
     FeeList m_fees;
     std::vector<std::string> m_saved; ///< what was on the screen when it was like the file
 };

@@ -69,6 +69,19 @@ class Reports(unittest.TestCase):
         self.assertEqual(done.stdout, self.approved("small", "FINAL.TXT"))
         self.assertEqual((done.returncode, done.stderr), (0, b""))
 
+    def test_prizes_that_were_not_read_whole_do_not_look_final(self):
+        small_pool(self.folder)
+        self.folder.write("POOLSTART.THS", setup_file(SMALL_TITLE))
+        self.folder.write("PRIZES.CSV", [*PRIZES[:5], "Prize,2,a third", PRIZES[6]])
+        for words in ("final",), ("final", "--json"), ("page",):
+            with self.subTest(words):
+                done = self.folder.run(*words)
+                self.assertEqual(done.returncode, 1)
+                self.assertIn(b"PRIZES.CSV could not be read whole: these prizes are not final", done.stdout)
+                self.assertIn(b"Row 6 of PRIZES.CSV is not understood: Prize, 2, a third", done.stdout)
+                self.assertEqual(faults(done),
+                                 ["PRIZES.CSV: Row 6 of PRIZES.CSV is not understood: Prize, 2, a third"])
+
     def test_there_is_no_final_sheet_before_the_last_four(self):
         small_pool(self.folder)
         bracket = self.folder.read("TALLYHOOP.THS").split(b"\r\n")

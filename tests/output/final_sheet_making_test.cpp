@@ -41,6 +41,20 @@ TEST(FinalSheetMaking, SaysWhatWasNotRead)
     EXPECT_THAT(sheet->remarks, ElementsAre("1 player is missing: the selection cannot be read"));
 }
 
+TEST(FinalSheetMaking, SaysThatThePrizesAreNotWhole)
+{
+    OpenedPool opened = playedPool();
+    opened.missing = 1;
+    const Failure trouble{"Row 2 of PRIZES.CSV is not understood:\r\nPrize, 2, " + std::string(80, 'x')};
+    const Result<FinalSheet> sheet = makeFinalSheet(opened, kPrizes, trouble);
+    ASSERT_TRUE(sheet);
+    // 38 + 1 + 10 characters of the reason, and 23 of 72 are left.
+    EXPECT_THAT(sheet->remarks,
+                ElementsAre("PRIZES.CSV could not be read whole: these prizes are not final",
+                            "Row 2 of PRIZES.CSV is not understood: Prize, 2, " + std::string(23, 'x') + "...",
+                            "1 player is missing: the selection cannot be read"));
+}
+
 TEST(FinalSheetMaking, IsImpossibleWithoutResultsOrPayoffs)
 {
     OpenedPool opened = playedPool();

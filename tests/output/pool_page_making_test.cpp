@@ -57,6 +57,13 @@ TEST(PoolPageMaking, SaysWhatWasNotRead)
     EXPECT_THAT(makePoolPage(opened, {})->outlook->basis, Contains("2 selections were read only in part"));
 }
 
+TEST(PoolPageMaking, SaysThatThePrizesAreNotWhole)
+{
+    const Read<Prizes> prizes{{}, Failure{"Row 2 of PRIZES.CSV is not understood:\r\nFee"}};
+    EXPECT_THAT(makePoolPage({.pool = finalPool()}, prizes)->finalSheet->notes,
+                Contains("PRIZES.CSV could not be read whole: these prizes are not final"));
+}
+
 TEST(PoolPageMaking, IsImpossibleWithoutPayoffs)
 {
     Pool pool = finalPool();

@@ -9,6 +9,8 @@ namespace {
 
 using testing::Contains;
 using testing::HasSubstr;
+using testing::IsSupersetOf;
+using testing::Not;
 
 class FinalSheetOutput : public MoneyFixture
 {
@@ -81,6 +83,19 @@ TEST_F(FinalSheetOutput, SaysWhoIsMissing)
     EXPECT_THAT(platform.dialogs.shown.at(0).text, HasSubstr("1 player is missing: the selection cannot be read"));
     screen->cmdFinalSheet.click();
     EXPECT_THAT(linesOf(scratch.get("FINAL.TXT")), Contains("1 player is missing: the selection cannot be read"));
+}
+
+TEST_F(FinalSheetOutput, SaysUntilTheSaveThatThePrizesWereNotReadWhole)
+{
+    constexpr const char* kRemark = "PRIZES.CSV could not be read whole: these prizes are not final";
+    putFile({"Entry fee,,10.00", "Prize,first,60 %"});
+    open();
+    screen->cmdFinalSheet.click();
+    EXPECT_THAT(linesOf(scratch.get("FINAL.TXT")),
+                IsSupersetOf({kRemark, "Row 2 of PRIZES.CSV is not understood: Prize, first, 60 %"}));
+    screen->cmdSave.click();
+    screen->cmdFinalSheet.click();
+    EXPECT_THAT(linesOf(scratch.get("FINAL.TXT")), Not(Contains(kRemark)));
 }
 
 TEST_F(FinalSheetOutput, IsNotMadeOfWhatCannotBeUsed)
