@@ -24,7 +24,10 @@ ReportId reportOf(CsvOptions::Table table)
 
 void csvOfOutlook(Session& session, ChanceKind weights)
 {
-    const Result<MadeOutlook> made = makeOutlook(openPool(session), weights);
+    const std::optional<OpenedPool> opened = openPool(session);
+    if (!opened)
+        return;
+    const Result<MadeOutlook> made = makeOutlook(*opened, weights);
     if (made)
         session.write(outlookCsv(made->rows));
     else

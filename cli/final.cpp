@@ -9,15 +9,17 @@ namespace tallyhoop::cli {
 
 void finalSheet(Session& session, const FinalOptions& options)
 {
-    const OpenedPool opened = openPool(session);
+    const std::optional<OpenedPool> opened = openPool(session);
+    if (!opened)
+        return;
     const Read<Prizes> prizes = readPrizes(session);
-    const Result<FinalSheet> made = makeFinalSheet(opened, prizes.value.table, prizes.trouble);
+    const Result<FinalSheet> made = makeFinalSheet(*opened, prizes.value.table, prizes.trouble);
     if (!made)
         session.fault(made.failure().message);
     else if (options.asJson)
-        session.write(finalJson(opened.pool.field.title, *made, opened.pool.entries));
+        session.write(finalJson(opened->pool.field.title, *made, opened->pool.entries));
     else
-        session.writeText(fileOf(finalSheetLines(opened.pool.field.title, *made)));
+        session.writeText(fileOf(finalSheetLines(opened->pool.field.title, *made)));
 }
 
 } // namespace tallyhoop::cli

@@ -4,6 +4,7 @@
 #include "base/windows1252.h"
 #include "reports/standings.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -43,6 +44,19 @@ const char* nameOf(ChanceKind chances)
     return "alike";
 }
 
+/// A selection without a name has that of its file.
+const std::string& nameOf(const PlayerScore& score)
+{
+    return score.playerName == ", " ? score.fileName : score.playerName;
+}
+
+/// Unlike the score's, they are of games alone: the first-round rows of a damaged selection are not picked.
+int badGames(const PlayerScore& score)
+{
+    return static_cast<int>(std::ranges::count_if(
+        gamePositions(), [&](Position game) { return score.verdicts[game] == Verdict::Bad; }));
+}
+
 Json placeJson(const PlaceBetween& place)
 {
     return place.isExact() ? Json(place.least) : Json::array({place.least, place.most});
@@ -73,17 +87,18 @@ std::string standingsJson(std::string_view title, std::span<const PlayerScore> s
     std::optional<std::int16_t> points; // of the player before
     for (const std::size_t index : standingsOrder(scores)) {
         const PlayerScore& score = scores[index];
+        const int bad = badGames(score);
         if (points != score.points)
             place = players.size() + 1;
         points = score.points;
         players.push_back({{"place", place},
                            {"file", toUtf8(score.fileName)},
-                           {"name", toUtf8(score.playerName)},
+                           {"name", toUtf8(nameOf(score))},
                            {"points", score.points},
                            {"possible", score.maxPoints},
                            {"good", score.goodPicks},
-                           {"bad", score.badPicks},
-                           {"open", kGames - score.goodPicks - score.badPicks},
+                           {"bad", bad},
+                           {"open", kGames - score.goodPicks - bad},
                            {"total", score.finalPoints == 0 ? Json(nullptr) : Json(score.finalPoints)},
                            {"champion", textOrNull(score.winningPick)}});
     }
@@ -118,7 +133,7 @@ std::string scoresJson(std::span<const PlayerScore> scores)
     Json players = Json::array();
     for (const PlayerScore& score : scores)
         players.push_back({{"file", toUtf8(score.fileName)},
-                           {"name", toUtf8(score.playerName)},
+                           {"name", toUtf8(nameOf(score))},
                            {"points", score.points},
                            {"possible", score.maxPoints},
                            {"champion", textOrNull(score.winningPick)}});

@@ -8,12 +8,14 @@ namespace tallyhoop::cli {
 
 void outlook(Session& session, const OutlookOptions& options)
 {
-    const OpenedPool opened = openPool(session);
-    const Result<MadeOutlook> made = makeOutlook(opened, options.weights);
+    const std::optional<OpenedPool> opened = openPool(session);
+    if (!opened)
+        return;
+    const Result<MadeOutlook> made = makeOutlook(*opened, options.weights);
     if (!made)
         session.fault(made.failure().message);
     else if (options.asJson)
-        session.write(outlookJson(*made, opened.pool.entries));
+        session.write(outlookJson(*made, opened->pool.entries));
     else
         session.writeText(fileOf(outlookLines(made->heading, made->rows)));
 }

@@ -7,8 +7,10 @@ namespace tallyhoop::cli {
 
 void page(Session& session, const PageOptions& options)
 {
-    const OpenedPool opened = openPool(session);
-    const Result<PoolPage> made = makePoolPage(opened, readPrizes(session), options.weights);
+    const std::optional<OpenedPool> opened = openPool(session);
+    if (!opened)
+        return;
+    const Result<PoolPage> made = makePoolPage(*opened, readPrizes(session), options.weights);
     if (made)
         session.write(poolPage(*made));
     else

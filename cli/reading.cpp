@@ -9,13 +9,20 @@
 
 namespace tallyhoop::cli {
 
+namespace {
+
+constexpr const char* kFieldNotWhole = "POOLSTART.THS: It cannot be read, or not whole.";
+constexpr const char* kNoField = "POOLSTART.THS: It is not there: the field was never saved.";
+
+} // namespace
+
 Field readField(Session& session)
 {
     ReadField read = tallyhoop::readField(session.folder());
     if (read.trouble)
         session.faultIn(file_name::kSetup, read.trouble->message);
     else if (!read.isWhole)
-        session.faultIn(file_name::kSetup, "It cannot be read, or not whole.");
+        session.fault(kFieldNotWhole);
     return std::move(read.value);
 }
 
@@ -27,11 +34,21 @@ std::vector<FolderFile> listSelections(Session& session)
     return std::move(listed.value);
 }
 
-OpenedPool openPool(Session& session)
+std::optional<OpenedPool> openPool(Session& session)
 {
+    if (!session.folder().exists(file_name::kSetup)) {
+        session.fault(kNoField);
+        return std::nullopt;
+    }
+    if (const ReadField field = tallyhoop::readField(session.folder()); !field.trouble && !field.isWhole)
+        session.fault(kFieldNotWhole);
     OpenedPool opened = openedPool(readPoolInSteps(session.folder(), goOn));
     for (const Failure& trouble : opened.pool.trouble)
         session.fault(trouble.message);
+    if (opened.pool.entries.empty()) {
+        session.fault(kNoPlayers);
+        return std::nullopt;
+    }
     return opened;
 }
 
@@ -47,6 +64,7 @@ void tell(Session& session, const ReportRefusal& refusal) { session.fault(refusa
 
 void TellingWatcher::fileIsDamaged(const std::filesystem::path& file, const Failure& trouble)
 {
+    m_damaged.insert(shown(file.filename()));
     m_session.faultIn(shown(file.filename()), trouble.message);
 }
 

@@ -8,10 +8,14 @@
 
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
 namespace tallyhoop::cli {
+
+/// The fault of a folder of which no player is known.
+inline constexpr const char* kNoPlayers = "There is no selection that can be read: nothing was made.";
 
 /// @returns the field; the default one where there is none, or none that can be read
 Field readField(Session& session);
@@ -19,8 +23,9 @@ Field readField(Session& session);
 /// @returns every player's file, in list order
 std::vector<FolderFile> listSelections(Session& session);
 
-/// @returns the field, the results and the entries of which something is known
-OpenedPool openPool(Session& session);
+/// @returns the field, the results and the entries of which something is known; nothing, and the fault is told, without
+///          a field or without such entries
+std::optional<OpenedPool> openPool(Session& session);
 
 /// @returns the prizes, or those that could be read; none where there are none
 Read<Prizes> readPrizes(Session& session);
@@ -36,10 +41,15 @@ public:
 
     void fileIsDamaged(const std::filesystem::path& file, const Failure& trouble) override;
     void listIsFaulty(const Failure& fault) override;
+
+    /// Whether a file of this bare name was damaged.
+    bool hasTold(const std::string& file) const { return m_damaged.contains(file); }
+
     bool watch(const std::string& what, std::size_t steps, const std::function<void(const Step&)>& work) override;
 
 private:
     Session& m_session;
+    std::set<std::string> m_damaged;
 };
 
 } // namespace tallyhoop::cli

@@ -83,7 +83,9 @@ void scores(Session& session, const ScoresOptions& options)
         return;
     }
     const std::vector<PlayerScore> all = scoreAll(session, readResults(session, field), *payoffs);
-    if (options.asJson)
+    if (all.empty())
+        session.fault(kNoPlayers);
+    else if (options.asJson)
         session.write(scoresJson(all));
     else
         session.writeText(printed(all));

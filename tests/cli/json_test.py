@@ -43,12 +43,14 @@ class Figures(unittest.TestCase):
 
     def test_shares_are_parts_of_one(self):
         small_pool(self.folder)  # tests/approved/small/OUTLOOK.TXT: 87.5 and 12.5 percent, never shared
+        self.folder.write("POOLSTART.THS", small_field())
         players = self.figures("outlook")["players"]
         self.assertEqual([player["share"] for player in players], [0.875, 0.125, 0, 0])
         self.assertEqual([player["firstAlone"] for player in players], ["7", "1", "0", "0"])
 
     def test_other_weights_leave_the_counts(self):
         small_pool(self.folder)
+        self.folder.write("POOLSTART.THS", small_field())
         outlook = self.figures("outlook", "--weights", "picks")
         self.assertEqual((outlook["weights"], outlook["exact"]), ("picks", True))
         self.assertEqual([player["firstAlone"] for player in outlook["players"]], ["7", "1", "0", "0"])
@@ -77,6 +79,20 @@ class Figures(unittest.TestCase):
             "place": 2, "file": "Dunn_EF.THC", "name": "EF, Dunn", "points": 96, "possible": 136, "good": 45, "bad": 15,
             "open": 3, "total": 250, "champion": "PINE BLUFF"})
 
+    def test_a_selection_that_cannot_be_read_has_no_figures(self):
+        small_pool(self.folder)
+        lines = self.folder.read("Dunn_EF.THC").split(b"\r\n")
+        self.folder.write("Nobody_N.THC", b"")
+        self.folder.write("Dunn_EF.THC", b"\r\n".join(lines[:20]))  # the West, and the winners of four games there
+        done = self.folder.run("standings", "--json")
+        self.assertEqual((done.returncode, len(done.stderr.splitlines())), (1, 2))
+        figures = json.loads(done.stdout)
+        self.validate("standings", figures)
+        self.assertEqual([player["name"] for player in figures["players"]],
+                         ["AB, Adams", "C, Baker", "Dunn_EF.THC", "D, Clark"])
+        self.assertEqual({key: figures["players"][2][key] for key in ("points", "good", "bad", "open")},
+                         {"points": 4, "good": 4, "bad": 59, "open": 0})
+
     def test_the_final_sheet_has_prizes_to_the_cent(self):
         small_pool(self.folder)
         self.folder.write("POOLSTART.THS", setup_file("Pool"))
@@ -102,6 +118,7 @@ class Figures(unittest.TestCase):
 
     def test_the_schemas_refuse_what_is_not_promised(self):
         small_pool(self.folder)
+        self.folder.write("POOLSTART.THS", small_field())
         outlook = self.figures("outlook")
         wrong = {"a count as a number": ("firstAlone", 7), "a verdict": ("verdict", "alive"), "a place": ("best", 0),
                  "points": ("points", "128"), "a share": ("share", 1.5)}

@@ -4,7 +4,7 @@ import shutil
 import subprocess
 import unittest
 
-from pools import APPROVED, BUILD, SMALL_TITLE, Folder, faults, run, sample_pool, small_pool
+from pools import APPROVED, BUILD, SMALL_TITLE, Folder, faults, run, sample_pool, small_field, small_pool
 
 DONE, FAULTS_FOUND, USED_WRONGLY = 0, 1, 2
 
@@ -44,8 +44,48 @@ class Status(unittest.TestCase):
         self.assertEqual(faults(done), ["There aren't any Player Selection files saved, so the \"Tournament Standings "
                                         "Report\" cannot be prepared."])
 
+    def test_without_a_field_or_without_players_nothing_is_replaced(self):
+        page = self.folder.path / "page.html"
+        page.write_text("the page of yesterday")
+        outlooks = (["outlook"], ["outlook", "--json"], ["page"], ["csv", "outlook"], ["final"], ["final", "--json"])
+        others = (["standings"], ["standings", "--json"], ["scores"], ["scores", "--json"], ["csv", "standings"],
+                  ["csv", "picks"], *(["report", number] for number in range(1, 8)))
+
+        def refused(words, fault=None):
+            with self.subTest(words):
+                done = self.folder.run("--out", page, *words)
+                self.assertEqual((done.returncode, done.stdout), (FAULTS_FOUND, b""))
+                self.assertNotEqual(faults(done), [])
+                if fault:
+                    self.assertEqual(faults(done), [fault])
+                self.assertEqual(page.read_text(), "the page of yesterday")
+
+        for words in (*outlooks, *others):
+            refused(words)
+        small_pool(self.folder)
+        for words in outlooks:
+            refused(words, "POOLSTART.THS: It is not there: the field was never saved.")
+        self.folder.write("POOLSTART.THS", small_field())
+        for name in self.folder.contents():
+            if name.endswith(".THC"):
+                (self.folder.path / name).unlink()
+        for words in (*outlooks, ["scores"], ["scores", "--json"]):
+            refused(words, "There is no selection that can be read: nothing was made.")
+        for words in (["standings"], ["standings", "--json"], ["csv", "standings"], ["csv", "picks"]):
+            refused(words)
+
+    def test_a_field_that_cannot_be_read_is_told(self):
+        small_pool(self.folder)
+        (self.folder.path / "POOLSTART.THS").mkdir()
+        for words in (["standings"], ["outlook"], ["final"]):
+            with self.subTest(words):
+                done = self.folder.run(*words)
+                self.assertEqual((done.returncode, faults(done)),
+                                 (FAULTS_FOUND, ["POOLSTART.THS: It cannot be read, or not whole."]))
+
     def test_a_damaged_selection_is_named_and_the_others_are_there(self):
         small_pool(self.folder)
+        self.folder.write("POOLSTART.THS", small_field())
         self.folder.write("Clark_D.THC", ["one line"])
         for verb in ("standings", "scores", "outlook"):
             with self.subTest(verb):
