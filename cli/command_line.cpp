@@ -29,12 +29,39 @@ const std::map<std::string, CsvOptions::Table> kTables{{"standings", CsvOptions:
                                                        {"outlook", CsvOptions::Table::Outlook}};
 
 /// What a pool consists of is replaced by the windows and by `import`, and by no output.
-bool isPartOfAPool(const std::filesystem::path& file)
+bool isNameOfAPool(const std::filesystem::path& file)
 {
     const std::string name = shown(file.filename());
     return endsWithFolded(name, ".THS") || endsWithFolded(name, file_name::kSelectionExtension) ||
            equalFolded(name, file_name::kPlayerNames) || equalFolded(name, file_name::kPrizes) ||
            equalFolded(name, file_name::kSettings);
+}
+
+/// @returns what a symbolic link leads to, which need not be there; the file itself when it is none
+std::filesystem::path withoutLinks(std::filesystem::path file)
+{
+    constexpr int kMostLinks = 40; // as the system follows
+    std::error_code trouble;
+    for (int i = 0; i < kMostLinks && std::filesystem::is_symlink(file, trouble); ++i)
+        file = file.parent_path() / std::filesystem::read_symlink(file, trouble);
+    return file;
+}
+
+/// A link, of either kind, is what it leads to.
+bool isPartOfAPool(const std::filesystem::path& file, const std::filesystem::path& folder)
+{
+    std::error_code trouble;
+    if (isNameOfAPool(file) || isNameOfAPool(withoutLinks(file)))
+        return true;
+    if (!std::filesystem::exists(file, trouble))
+        return false;
+    for (std::filesystem::directory_iterator entry{folder, trouble}, end; !trouble && entry != end;
+         entry.increment(trouble)) {
+        std::error_code ignored; // of what is not there any more
+        if (isNameOfAPool(entry->path()) && std::filesystem::equivalent(entry->path(), file, ignored))
+            return true;
+    }
+    return false;
 }
 
 class CommandLine
@@ -45,12 +72,15 @@ public:
         m_app.require_subcommand(1);
         m_app.fallthrough(); // the options of all verbs are understood after the verb, too
         m_app.set_version_flag("--version", "tallyhoop-cli " TALLYHOOP_VERSION);
-        m_app.add_option("--folder", m_folder, "Folder of the pool; without it, the one that holds this program")
-            ->option_text("DIR")
-            ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
-        m_app.add_option("--out", m_out, "File to write, as a whole or not at all; without it, the standard output")
-            ->option_text("FILE")
-            ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+        m_folderOption =
+            m_app.add_option("--folder", m_folder, "Folder of the pool; without it, the one that holds this program")
+                ->option_text("DIR")
+                ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
+        m_outOption =
+            m_app
+                .add_option("--out", m_out, "File to write, as a whole or not at all; without it, the standard output")
+                ->option_text("FILE")
+                ->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
         m_app.footer("Exit status: 0 done, 1 faults found, 2 used wrongly. Faults go to the error stream, one a line.");
         addReports();
         addPage();
@@ -157,6 +187,10 @@ private:
 
     int runVerb() const
     {
+        if (m_folderOption->count() > 0 && m_folder.empty())
+            return usedWrongly("--folder names no folder");
+        if (m_outOption->count() > 0 && m_out.empty())
+            return usedWrongly("--out names no file");
         CommonOptions options;
         options.folder = m_folder.empty() ? ownFolder() : std::filesystem::path{m_folder};
         std::error_code ignored;
@@ -164,7 +198,7 @@ private:
             return usedWrongly("There is no folder " + options.folder.string());
         if (!m_out.empty()) {
             options.out = m_out;
-            if (isPartOfAPool(*options.out))
+            if (isPartOfAPool(*options.out, options.folder))
                 return usedWrongly("--out would replace a part of the pool: " + m_out);
         }
         Session session{std::move(options)};
@@ -179,6 +213,8 @@ private:
     }
 
     CLI::App m_app{"Tallyhoop without its windows: reports, figures and imports of an office pool.", "tallyhoop-cli"};
+    CLI::Option* m_folderOption = nullptr;
+    CLI::Option* m_outOption = nullptr;
     std::string m_folder;
     std::string m_out;
     std::vector<std::string> m_files;

@@ -124,6 +124,30 @@ class Status(unittest.TestCase):
                 self.assertEqual(done.returncode, USED_WRONGLY)
         self.assertEqual(self.folder.contents(), before)
 
+    def test_no_link_leads_the_output_to_a_part_of_the_pool(self):
+        small_pool(self.folder)
+        elsewhere = Folder(self).path
+        (elsewhere / "link").symlink_to(self.folder.path / "Adams_AB.THC")
+        (elsewhere / "chain").symlink_to(elsewhere / "link")
+        (elsewhere / "new").symlink_to(self.folder.path / "New_N.THC")
+        (elsewhere / "second name").hardlink_to(self.folder.path / "TALLYHOOP.THS")
+        before = self.folder.contents()
+        for name in ("link", "chain", "new", "second name"):
+            with self.subTest(name):
+                done = self.folder.run("standings", "--out", elsewhere / name)
+                self.assertEqual((done.returncode, done.stdout), (USED_WRONGLY, b""))
+        self.assertEqual(self.folder.contents(), before)
+        (elsewhere / "report").symlink_to(elsewhere / "RPTOPT1.TXT")
+        self.assertEqual(self.folder.run("standings", "--out", elsewhere / "report").returncode, DONE)
+
+    def test_an_empty_name_is_no_name(self):
+        small_pool(self.folder)
+        for words in (["--folder", "", "standings"], ["standings", "--folder="], ["standings", "--out", ""],
+                      ["--folder", self.folder.path, "--out=", "standings"]):
+            with self.subTest(words):
+                done = run(*words, cwd=self.folder.path)
+                self.assertEqual((done.returncode, done.stdout), (USED_WRONGLY, b""))
+
     def test_the_common_options_may_follow_the_verb(self):
         small_pool(self.folder)
         done = run("report", 1, "--folder", self.folder.path, "--title", SMALL_TITLE)
