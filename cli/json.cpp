@@ -53,13 +53,41 @@ const std::string& nameOf(const PlayerScore& score)
 /// Unlike the score's, they are of games alone: the first-round rows of a damaged selection are not picked.
 int badGames(const PlayerScore& score)
 {
-    return static_cast<int>(std::ranges::count_if(
-        gamePositions(), [&](Position game) { return score.verdicts[game] == Verdict::Bad; }));
+    return static_cast<int>(
+        std::ranges::count_if(gamePositions(), [&](Position game) { return score.verdicts[game] == Verdict::Bad; }));
 }
 
 Json placeJson(const PlaceBetween& place)
 {
     return place.isExact() ? Json(place.least) : Json::array({place.least, place.most});
+}
+
+const char* nameOf(TieRule rule)
+{
+    switch (rule) {
+    case TieRule::NotOver:
+        return "notOver";
+    case TieRule::Share:
+        return "share";
+    case TieRule::Nearest:
+        break;
+    }
+    return "nearest";
+}
+
+Json pairsJson(std::span<const TiedPair> pairs, std::span<const Entry> entries)
+{
+    Json list = Json::array();
+    for (const TiedPair& pair : pairs) {
+        const bool isByTotal = pair.end == TieEnd::ByTotal;
+        list.push_back({{"place", pair.place},
+                        {"lower", toUtf8(entries[pair.lower].fileName)},
+                        {"higher", toUtf8(entries[pair.higher].fileName)},
+                        {"alwaysTied", pair.end == TieEnd::AlwaysTied},
+                        {"lowerUpTo", isByTotal ? Json(pair.lowerUpTo) : Json(nullptr)},
+                        {"higherFrom", isByTotal ? Json(pair.higherFrom) : Json(nullptr)}});
+    }
+    return list;
 }
 
 /// Whole counts are strings: a number of JSON is a double for most programs, and they can be larger than that holds.
@@ -124,6 +152,8 @@ std::string finalJson(std::string_view title, const FinalSheet& sheet, std::span
                    {"fees", moneyInWords(sheet.purse.fees)},
                    {"keptBack", moneyInWords(sheet.purse.keptBack)},
                    {"left", moneyInWords(sheet.purse.left)},
+                   {"ties", nameOf(sheet.rule)},
+                   {"pairs", pairsJson(sheet.pairs, entries)},
                    {"remarks", textsOf(sheet.remarks)},
                    {"players", players}});
 }

@@ -59,7 +59,9 @@ PageFinalSheet pageFinalSheetOf(const FinalSheet& sheet)
     for (const FinalRow& row : sheet.rows)
         page.rows.push_back({placeInWords(row), row.name, std::to_string(row.points),
                              row.predicted ? std::to_string(*row.predicted) : std::string{}, prizeInWords(row),
-                             row.isLast});
+                             row.isLast, offInWords(row)});
+    page.pairsNotes = pairsNotes(sheet);
+    page.pairs = pairsInWords(sheet);
     return page;
 }
 

@@ -9,7 +9,6 @@
 #include "reports/text_table.h"
 
 #include <algorithm>
-#include <map>
 #include <utility>
 
 namespace tallyhoop {
@@ -17,8 +16,6 @@ namespace tallyhoop {
 namespace {
 
 constexpr std::size_t kLastLineOfPage = 47;
-constexpr const char* kPairs = "Ties, by the total points of the final";
-constexpr const char* kCrowd = "Of more than 10 on one place only neighbouring predictions are compared.";
 constexpr const char* kUnknown = "The final sheet can be made when the winners of all four regions are known.";
 
 std::size_t openGamesOf(const Bracket& results)
@@ -129,30 +126,10 @@ TextTable placesTable(const FinalSheet& sheet)
 
 TextTable pairsTable(const FinalSheet& sheet)
 {
-    std::map<std::size_t, const FinalRow*> players;
-    for (const FinalRow& row : sheet.rows)
-        players[row.player] = &row;
-    const auto called = [&](std::size_t player) {
-        const FinalRow& row = *players.at(player);
-        return asOneLine(row.name) + " (" + (row.predicted ? std::to_string(*row.predicted) : "none") + ")";
-    };
-
-    constexpr const char* kAny = "any";
     std::vector<std::vector<std::string>> rows;
-    rows.reserve(sheet.pairs.size());
-    for (const TiedPair& pair : sheet.pairs) {
-        std::string upTo = pair.end == TieEnd::LowerAlways ? kAny : "";
-        std::string tiedAt = pair.end == TieEnd::AlwaysTied ? kAny : "";
-        std::string from;
-        if (pair.end == TieEnd::ByTotal) {
-            upTo = std::to_string(pair.lowerUpTo);
-            from = std::to_string(pair.higherFrom);
-            if (pair.lowerUpTo + 1 < pair.higherFrom)
-                tiedAt = std::to_string(pair.lowerUpTo + 1);
-        }
-        rows.push_back({std::to_string(pair.place), called(pair.lower), std::move(upTo), std::move(tiedAt),
-                        called(pair.higher), std::move(from)});
-    }
+    for (PairInWords& pair : pairsInWords(sheet))
+        rows.push_back({std::move(pair.place), std::move(pair.lower), std::move(pair.upTo), std::move(pair.tiedAt),
+                        std::move(pair.higher), std::move(pair.from)});
     return textTable(std::vector<TextColumn>{{"Place", Align::Right},
                                              {"Lower Prediction"},
                                              {"Ahead Up To", Align::Right},
@@ -162,20 +139,9 @@ TextTable pairsTable(const FinalSheet& sheet)
                      rows);
 }
 
-/// @returns whether a place is shared by so many that not all their pairs are listed
-bool hasCrowd(std::span<const FinalRow> rows)
-{
-    for (std::size_t i = kMostInAllPairs; i < rows.size(); ++i)
-        if (rows[i].place == rows[i - kMostInAllPairs].place)
-            return true;
-    return false;
-}
-
 ReportLines pairsHeading(const FinalSheet& sheet, const TextTable& pairs)
 {
-    ReportLines heading{kPairs};
-    if (hasCrowd(sheet.rows))
-        heading.emplace_back(kCrowd);
+    ReportLines heading = pairsNotes(sheet);
     heading.emplace_back(kBlankLine);
     heading.insert(heading.end(), pairs.heading.begin(), pairs.heading.end());
     return heading;

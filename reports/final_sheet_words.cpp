@@ -1,9 +1,13 @@
 // reports/final_sheet_words.cpp - the sentences, and how places and prizes are written.
 #include "reports/final_sheet_words.h"
 
+#include "base/text.h"
+
 #include <algorithm>
 #include <fmt/format.h>
+#include <map>
 #include <numeric>
+#include <utility>
 
 namespace tallyhoop {
 
@@ -69,6 +73,15 @@ bool hasOddCents(const FinalSheet& sheet)
     return std::ranges::adjacent_find(sheet.rows, differ) != sheet.rows.end();
 }
 
+/// @returns whether a place is shared by so many that not all their pairs are listed
+bool hasCrowd(std::span<const FinalRow> rows)
+{
+    for (std::size_t i = kMostInAllPairs; i < rows.size(); ++i)
+        if (rows[i].place == rows[i - kMostInAllPairs].place)
+            return true;
+    return false;
+}
+
 } // namespace
 
 std::vector<std::string> finalSheetNotes(const FinalSheet& sheet)
@@ -93,6 +106,46 @@ std::string offInWords(const FinalRow& row)
     if (!row.off)
         return {};
     return *row.off == 0 ? "0" : fmt::format("{:+}", *row.off);
+}
+
+std::vector<std::string> pairsNotes(const FinalSheet& sheet)
+{
+    if (sheet.pairs.empty())
+        return {};
+    std::vector<std::string> notes{"Ties, by the total points of the final"};
+    if (hasCrowd(sheet.rows))
+        notes.emplace_back("Of more than 10 on one place only neighbouring predictions are compared.");
+    return notes;
+}
+
+std::vector<PairInWords> pairsInWords(const FinalSheet& sheet)
+{
+    std::map<std::size_t, const FinalRow*> players;
+    for (const FinalRow& row : sheet.rows)
+        players[row.player] = &row;
+    const auto called = [&](std::size_t player) {
+        const FinalRow& row = *players.at(player);
+        return asOneLine(row.name) + " (" + (row.predicted ? std::to_string(*row.predicted) : "none") + ")";
+    };
+
+    constexpr const char* kAny = "any";
+    std::vector<PairInWords> pairs;
+    pairs.reserve(sheet.pairs.size());
+    for (const TiedPair& pair : sheet.pairs) {
+        PairInWords words{std::to_string(pair.place), called(pair.lower), {}, {}, called(pair.higher), {}};
+        if (pair.end == TieEnd::LowerAlways)
+            words.upTo = kAny;
+        if (pair.end == TieEnd::AlwaysTied)
+            words.tiedAt = kAny;
+        if (pair.end == TieEnd::ByTotal) {
+            words.upTo = std::to_string(pair.lowerUpTo);
+            words.from = std::to_string(pair.higherFrom);
+            if (pair.lowerUpTo + 1 < pair.higherFrom)
+                words.tiedAt = std::to_string(pair.lowerUpTo + 1);
+        }
+        pairs.push_back(std::move(words));
+    }
+    return pairs;
 }
 
 } // namespace tallyhoop

@@ -20,4 +20,20 @@ std::string prizeInWords(const FinalRow& row);
 /// @returns such as "+4"; empty when it is not known
 std::string offInWords(const FinalRow& row);
 
+/// Two players with equal points, and which totals of the final put which of them ahead.
+struct PairInWords {
+    std::string place;
+    std::string lower;  ///< the player with the lower prediction, such as "AB, Adams (150)"
+    std::string upTo;   ///< the highest total that has him ahead; "any" = all; empty = none
+    std::string tiedAt; ///< the total that leaves them tied; "any" = all; empty = none
+    std::string higher; ///< the other player
+    std::string from;   ///< the lowest total that has the other one ahead; empty = none
+};
+
+/// @returns the rows of the pairs, in their order
+std::vector<PairInWords> pairsInWords(const FinalSheet& sheet);
+
+/// @returns what is above those rows, a heading first; none without pairs
+std::vector<std::string> pairsNotes(const FinalSheet& sheet);
+
 } // namespace tallyhoop

@@ -58,7 +58,14 @@ Json jsonOf(const PageRoadPoint& point)
 Json jsonOf(const PageFinalRow& row)
 {
     return {{"place", toUtf8(row.place)}, {"name", toUtf8(row.name)},   {"points", toUtf8(row.points)},
-            {"total", toUtf8(row.total)}, {"prize", toUtf8(row.prize)}, {"last", row.isLast}};
+            {"total", toUtf8(row.total)}, {"prize", toUtf8(row.prize)}, {"last", row.isLast},
+            {"off", toUtf8(row.off)}};
+}
+
+Json jsonOf(const PairInWords& pair)
+{
+    return {{"place", toUtf8(pair.place)},   {"lower", toUtf8(pair.lower)},   {"upTo", toUtf8(pair.upTo)},
+            {"tiedAt", toUtf8(pair.tiedAt)}, {"higher", toUtf8(pair.higher)}, {"from", toUtf8(pair.from)}};
 }
 
 template <class Values>
@@ -112,7 +119,10 @@ std::string jsonOf(const PoolPage& page)
     if (page.outlook)
         json["outlook"] = jsonOf(*page.outlook);
     if (page.finalSheet)
-        json["final"] = {{"notes", textsOf(page.finalSheet->notes)}, {"rows", listOf(page.finalSheet->rows)}};
+        json["final"] = {{"notes", textsOf(page.finalSheet->notes)},
+                         {"rows", listOf(page.finalSheet->rows)},
+                         {"pairsNotes", textsOf(page.finalSheet->pairsNotes)},
+                         {"pairs", listOf(page.finalSheet->pairs)}};
     constexpr bool kAscii = true;
     return withoutMarkup(json.dump(-1, ' ', kAscii));
 }

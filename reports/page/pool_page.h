@@ -3,6 +3,7 @@
 
 #include "base/result.h"
 #include "pool/entry.h"
+#include "reports/final_sheet_words.h"
 #include "reports/page/page_outlook.h"
 
 #include <array>
@@ -39,12 +40,15 @@ struct PageFinalRow {
     std::string total; ///< the predicted one
     std::string prize; ///< empty = none
     bool isLast = false;
+    std::string off{}; ///< such as "+4", the prediction less the real total; empty = not known
 };
 
 /// The sheet that ends the season.
 struct PageFinalSheet {
-    std::vector<std::string> notes; ///< sentences above the rows
-    std::vector<PageFinalRow> rows; ///< in the order of the places
+    std::vector<std::string> notes;        ///< sentences above the rows
+    std::vector<PageFinalRow> rows;        ///< in the order of the places
+    std::vector<std::string> pairsNotes{}; ///< above the pairs, a heading first
+    std::vector<PairInWords> pairs{};      ///< of tied players, before the total is known
 };
 
 /// All that the page shows. Texts are in Windows-1252, as everywhere.

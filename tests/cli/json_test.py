@@ -102,6 +102,10 @@ class Figures(unittest.TestCase):
         self.assertEqual({key: final[key] for key in ("title", "openGames", "total", "fees", "keptBack", "left")},
                          {"title": "Pool", "openGames": 3, "total": None, "fees": "40.04", "keptBack": "4.00",
                           "left": "0.00"})
+        # Baker's 99 and Dunn's 250 are equally far from 174.5.
+        self.assertEqual((final["ties"], final["remarks"]), ("nearest", []))
+        self.assertEqual(final["pairs"], [{"place": 2, "lower": "Baker_C.THC", "higher": "Dunn_EF.THC",
+                                           "alwaysTied": False, "lowerUpTo": 174, "higherFrom": 175}])
         self.assertEqual(final["players"][1], {
             "place": 2, "shared": True, "last": False, "file": "Dunn_EF.THC", "name": "EF, Dunn", "points": 96,
             "total": 250, "off": None, "prize": "7.21"})

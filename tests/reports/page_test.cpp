@@ -207,11 +207,16 @@ TEST(PoolPage, HasTheFinalSheetWhenThereIsOne)
     PoolPage page = *poolPageOf(fourPlayersPool());
     EXPECT_FALSE(dataIn(poolPage(page)).contains("final"));
 
-    page.finalSheet = PageFinalSheet{{"The total is 150."}, {{"1", "AB, Adams", "168", "150", "$ 40.00", false}}};
+    page.finalSheet = PageFinalSheet{{"The total is 150."},
+                                     {{"1", "AB, Adams", "168", "150", "$ 40.00", false, "-4"}},
+                                     {"Ties"},
+                                     {{"2", "Baker", "173", "174", "Dunn", "175"}}};
 
     EXPECT_EQ(dataIn(poolPage(page))["final"],
               Json::parse(R"({"notes":["The total is 150."],"rows":[{"place":"1","name":"AB, Adams","points":"168",)"
-                          R"("total":"150","prize":"$ 40.00","last":false}]})"));
+                          R"("total":"150","prize":"$ 40.00","last":false,"off":"-4"}],"pairsNotes":["Ties"],)"
+                          R"("pairs":[{"place":"2","lower":"Baker","upTo":"173","tiedAt":"174",)"
+                          R"("higher":"Dunn","from":"175"}]})"));
 }
 
 TEST(PoolPage, KeepsMarkupOutOfThePageWhereverItIs)
@@ -228,7 +233,10 @@ TEST(PoolPage, KeepsMarkupOutOfThePageWhereverItIs)
     pool.entries[0].fileName = pool.entries[0].finalPoints = kHostile;
     pool.entries[1].picks.put(kChampion, kHostile);
     PoolPage shown = *poolPageOf(pool);
-    shown.finalSheet = PageFinalSheet{{kHostile}, {{kHostile, kHostile, kHostile, kHostile, kHostile, true}}};
+    shown.finalSheet = PageFinalSheet{{kHostile},
+                                      {{kHostile, kHostile, kHostile, kHostile, kHostile, true, kHostile}},
+                                      {kHostile},
+                                      {{kHostile, kHostile, kHostile, kHostile, kHostile, kHostile}}};
 
     const std::string page = poolPage(shown);
 
