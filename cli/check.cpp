@@ -31,8 +31,11 @@ std::string inQuotes(const std::string& name) { return "\"" + name + "\""; }
 
 std::string rowWords(const Field& field, TeamRow row)
 {
-    const std::string& region = field.regionTitles.at(static_cast<std::size_t>(regionOf(row)));
-    return withoutOuterBlanks(region) + ", row " + std::to_string(rowInRegion(row) + 1);
+    const auto number = static_cast<std::size_t>(regionOf(row));
+    std::string region = withoutOuterBlanks(field.regionTitles.at(number));
+    if (region.empty())
+        region = "Region " + std::to_string(number + 1);
+    return region + ", row " + std::to_string(rowInRegion(row) + 1);
 }
 
 struct FieldFaultWords {
@@ -131,8 +134,8 @@ private:
         m_field = std::move(read.value);
         if (!m_field.isFinalized())
             return;
-        if (const std::optional<FieldFault> fault = fieldFault(m_field))
-            tell(file_name::kSetup, std::visit(FieldFaultWords{m_field}, *fault));
+        for (const FieldFault& fault : fieldFaults(m_field))
+            tell(file_name::kSetup, std::visit(FieldFaultWords{m_field}, fault));
         for (const RepeatedTeam& team : repeatedTeams(m_field))
             tell(file_name::kSetup, counted(team.rows.size(), "row") + " have the team " + inQuotes(team.name) + ".");
     }
@@ -164,8 +167,8 @@ private:
             tell(file, read.trouble->message);
             return;
         }
-        if (const std::optional<EntryFault> fault = entryFault(read.value, kind))
-            tell(file, wordsOf(*fault));
+        for (const EntryFault fault : entryFaults(read.value, kind))
+            tell(file, wordsOf(fault));
         if (m_field.isFinalized())
             checkPicks(file, read.value.picks, kind);
     }

@@ -13,16 +13,23 @@ constexpr double kMostPoints = 250;
 
 } // namespace
 
-std::optional<EntryFault> entryFault(const Entry& entry, EntryKind kind)
+std::vector<EntryFault> entryFaults(const Entry& entry, EntryKind kind)
 {
+    std::vector<EntryFault> faults;
     if (isBlankField(entry.initials))
-        return EntryFault::Initials;
+        faults.push_back(EntryFault::Initials);
     if (isBlankField(entry.name))
-        return EntryFault::Name;
+        faults.push_back(EntryFault::Name);
     const double points = leadingNumber(entry.finalPoints);
     if (points > kMostPoints || (kind == EntryKind::Player && points < kFewestPoints))
-        return EntryFault::FinalPoints;
-    return std::nullopt;
+        faults.push_back(EntryFault::FinalPoints);
+    return faults;
+}
+
+std::optional<EntryFault> entryFault(const Entry& entry, EntryKind kind)
+{
+    const std::vector<EntryFault> faults = entryFaults(entry, kind);
+    return faults.empty() ? std::nullopt : std::optional{faults.front()};
 }
 
 } // namespace tallyhoop

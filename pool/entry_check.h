@@ -4,6 +4,7 @@
 #include "pool/entry.h"
 
 #include <optional>
+#include <vector>
 
 namespace tallyhoop {
 
@@ -16,6 +17,9 @@ enum class EntryFault {
     FinalPoints, ///< not 50..250; results may be saved before the final is played, so only the upper bound holds for
                  ///< them
 };
+
+/// @returns every fault, in this order
+std::vector<EntryFault> entryFaults(const Entry& entry, EntryKind kind);
 
 /// @returns the first fault in this order; nothing when the entry may be saved. Games without a pick are no fault.
 std::optional<EntryFault> entryFault(const Entry& entry, EntryKind kind);

@@ -27,20 +27,27 @@ bool isBadPayoff(const std::string& text)
 
 } // namespace
 
-std::optional<FieldFault> fieldFault(const Field& field)
+std::vector<FieldFault> fieldFaults(const Field& field)
 {
+    std::vector<FieldFault> faults;
     for (const TeamRow row : allTeamRows())
         if (isBlankField(field.teams[row]))
-            return BlankTeam{row};
+            faults.emplace_back(BlankTeam{row});
     if (isBlankField(field.title))
-        return BlankTitle{};
+        faults.emplace_back(BlankTitle{});
     for (std::size_t region = 0; region < field.regionTitles.size(); ++region)
         if (isBlankField(field.regionTitles[region]))
-            return BlankRegionTitle{region};
+            faults.emplace_back(BlankRegionTitle{region});
     for (int round = 1; round <= kRounds; ++round)
         if (isBadPayoff(field.payoffs.text(round)))
-            return BadPayoff{round};
-    return std::nullopt;
+            faults.emplace_back(BadPayoff{round});
+    return faults;
+}
+
+std::optional<FieldFault> fieldFault(const Field& field)
+{
+    const std::vector<FieldFault> faults = fieldFaults(field);
+    return faults.empty() ? std::nullopt : std::optional{faults.front()};
 }
 
 std::vector<RepeatedTeam> repeatedTeams(const Field& field)

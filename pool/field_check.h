@@ -36,6 +36,9 @@ struct BadPayoff {
 
 using FieldFault = std::variant<BlankTeam, BlankTitle, BlankRegionTitle, BadPayoff>;
 
+/// @returns everything that keeps a field from being final, in the order above
+std::vector<FieldFault> fieldFaults(const Field& field);
+
 /// @returns the first thing that keeps a field from being final, in the order above; nothing when it is complete
 std::optional<FieldFault> fieldFault(const Field& field);
 

@@ -38,11 +38,23 @@ class Check(unittest.TestCase):
         (self.folder.path / "POOLSTART.THS").unlink()
         self.assertEqual(self.told(), ["POOLSTART.THS: It is not there: the field was never saved."])
 
+    def test_all_faults_of_the_field_at_once(self):
+        self.change("POOLSTART.THS", 2, "")
+        self.change("POOLSTART.THS", 5, "")
+        self.change("POOLSTART.THS", 65, "")  # the title, and after it those of the regions
+        self.change("POOLSTART.THS", 66, "")
+        self.change("POOLSTART.THS", 70, "0")
+        told = [fault for fault in self.told() if fault.startswith("POOLSTART.THS: ")]
+        self.assertEqual(sorted(told), sorted(f"POOLSTART.THS: {words}" for words in (
+            "Region 1, row 2 has no team.", "Region 1, row 5 has no team.", "The pool has no title.",
+            "Region 1 has no title.", "The points of round 1 are not 1 to 99.")))
+
     def test_the_faults_of_a_selection(self):
         name = "Joe Brandt_JB.THC"
         self.change(name, 127, " ")
         self.change(name, 129, "300")
-        self.assertEqual(self.told(), [f"{name}: The initials are missing."])
+        self.assertEqual(self.told(), [f"{name}: The initials are missing.",
+                                       f"{name}: The total of the final is not 50 to 250."])
         self.change(name, 127, "JB")
         self.assertEqual(self.told(), [f"{name}: The total of the final is not 50 to 250."])
         self.change(name, 129, "150")
