@@ -39,7 +39,7 @@ std::optional<std::string> ReportsScreen::makeWebPage()
     const Result<PoolPage> page = [&] {
         Work work{m_platform.progress, "Working out the web page", 0}; // nobody knows how long
         Result<PoolPage> made =
-            makePoolPage(opened, prizes.value.table, ChanceKind::Alike, [&work] { return work.step(); });
+            makePoolPage(opened, prizes, ChanceKind::Alike, [&work] { return work.step(); });
         isCancelled = work.cancelled();
         return made;
     }();
