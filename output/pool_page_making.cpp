@@ -1,9 +1,11 @@
 // output/pool_page_making.cpp - the outlook first, then how it came about.
 #include "output/pool_page_making.h"
 
+#include "base/one_line.h"
 #include "output/final_sheet_making.h"
 #include "output/outlook_making.h"
 #include "pool/outlook/road.h"
+#include "pool/projection.h"
 #include "pool/results.h"
 
 #include <algorithm>
@@ -55,6 +57,14 @@ std::vector<RoadPoint> roadTo(const MadeOutlook& outlook, const Pool& pool, cons
     return road.points();
 }
 
+/// @returns a sheet without rows that says why there is none, or the one that was made
+PageFinalSheet finalSheetOrReason(const Result<FinalSheet>& made)
+{
+    if (made)
+        return pageFinalSheetOf(*made);
+    return {{"There is no final sheet.", onOneLine(made.failure().message)}, {}};
+}
+
 } // namespace
 
 Result<PoolPage> makePoolPage(const OpenedPool& opened, const Read<Prizes>& prizes, ChanceKind chances,
@@ -74,8 +84,8 @@ Result<PoolPage> makePoolPage(const OpenedPool& opened, const Read<Prizes>& priz
     if (!shown)
         return shown;
     PoolPage page = *shown;
-    if (const Result<FinalSheet> sheet = makeFinalSheet(opened, prizes.value.table, prizes.trouble))
-        page.finalSheet = pageFinalSheetOf(*sheet);
+    if (pool.results && finalFourState(pool.results->picks) != FinalFourState::Incomplete)
+        page.finalSheet = finalSheetOrReason(makeFinalSheet(opened, prizes.value.table, prizes.trouble));
     return page;
 }
 

@@ -46,7 +46,7 @@ struct PageFinalRow {
 /// The sheet that ends the season.
 struct PageFinalSheet {
     std::vector<std::string> notes;        ///< sentences above the rows
-    std::vector<PageFinalRow> rows;        ///< in the order of the places
+    std::vector<PageFinalRow> rows;        ///< in the order of the places; none = the notes say why
     std::vector<std::string> pairsNotes{}; ///< above the pairs, a heading first
     std::vector<PairInWords> pairs{};      ///< of tied players, before the total is known
 };

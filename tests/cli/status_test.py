@@ -74,6 +74,17 @@ class Status(unittest.TestCase):
         for words in (["standings"], ["standings", "--json"], ["csv", "standings"], ["csv", "picks"]):
             refused(words)
 
+    def test_a_page_without_its_final_sheet_is_a_fault(self):
+        small_pool(self.folder)
+        self.folder.write("POOLSTART.THS", small_field())
+        lines = self.folder.read("Adams_AB.THC").split(b"\r\n")
+        lines[129] = b"99999"
+        self.folder.write("Adams_AB.THC", b"\r\n".join(lines))
+        done = self.folder.run("page")
+        self.assertEqual((done.returncode, len(faults(done))), (FAULTS_FOUND, 1))
+        self.assertTrue(faults(done)[0].startswith("There is no final sheet. "), faults(done))
+        self.assertIn(b'"There is no final sheet."', done.stdout)
+
     def test_a_field_that_cannot_be_read_is_told(self):
         small_pool(self.folder)
         (self.folder.path / "POOLSTART.THS").mkdir()
