@@ -60,8 +60,10 @@ std::string fitted(std::string_view text, std::size_t width)
 
 std::string asOneLine(std::string text)
 {
-    std::ranges::replace_if(
-        text, [](char character) { return static_cast<unsigned char>(character) < ' '; }, ' ');
+    const auto isControl = [](char character) {
+        return static_cast<unsigned char>(character) < ' ' || character == 0x7F;
+    };
+    std::ranges::replace_if(text, isControl, ' ');
     return text;
 }
 

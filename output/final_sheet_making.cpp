@@ -22,7 +22,7 @@ std::vector<std::string> damageInWords(const Failure& trouble)
 {
     std::string reason = onOneLine(trouble.message);
     if (reason.size() > kMostOfReason)
-        reason = reason.substr(0, kMostOfReason - 3) + "...";
+        reason.replace(kMostOfReason - 3, std::string::npos, "...");
     return {std::string{file_name::kPrizes} + " could not be read whole: these prizes are not final",
             std::move(reason)};
 }

@@ -127,7 +127,7 @@ TEST(FewEnoughForAMessage, KeepsTwentyLinesAndCountsTheOthers)
 
 TEST(AsOneLine, MakesABlankOfEveryControlCharacter)
 {
-    EXPECT_EQ(asOneLine("A\r\nB\tC\fD"), "A  B C D") << "each keeps its width";
+    EXPECT_EQ(asOneLine("A\r\nB\tC\fD\x7F!"), "A  B C D !") << "each keeps its width";
     EXPECT_EQ(asOneLine("caf\xE9 \x85"), "caf\xE9 \x85");
 }
 
