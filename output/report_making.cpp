@@ -114,19 +114,13 @@ ReportMaking::MadeCsv ReportMaking::makeCsv(const ReportKind& kind, std::span<co
 {
     const Request request{kind, {}, files};
     MadeCsv made = failed(kind, {});
-    const auto take = [&](const Result<std::string>& table) {
-        if (table)
-            made = *table;
-        else
-            made = failed(kind, table.failure().message);
-    };
     std::optional<ReportRefusal> refusal;
     if (kind.id == ReportId::TournamentStandings)
-        refusal = scoreAll(request, [&](const auto& scores) { take(standingsCsv(scores)); });
+        refusal = scoreAll(request, [&](const auto& scores) { made = standingsCsv(scores); });
     else if (kind.id == ReportId::TeamSelectionSummary)
-        refusal = packPicks(request, [&](const auto& picks) { take(picksCsv(picks)); });
+        refusal = countPicks(request, [&](const auto& players) { made = picksCsv(players); });
     else if (kind.id == ReportId::TeamSelectionDetail)
-        refusal = packPicks(request, [&](const auto& picks) { take(picksByPlayerCsv(picks)); });
+        refusal = countPicks(request, [&](const auto& players) { made = picksByPlayerCsv(players); });
     return refusal ? *std::move(refusal) : std::move(made);
 }
 
@@ -211,14 +205,15 @@ ReportMaking::Made ReportMaking::makeTeamSelection(const Request& request)
 {
     const bool isSummary = request.kind.id == ReportId::TeamSelectionSummary;
     Made made;
-    std::optional<ReportRefusal> refusal = packPicks(request, [&](const std::vector<std::string>& picks) {
+    std::optional<ReportRefusal> refusal = countPicks(request, [&](const std::vector<Entry>& players) {
+        const std::vector<std::string> picks = pickEntries(players);
         made = outcome(request.kind, isSummary ? teamSelectionSummaryLines(request.title, picks)
                                                : teamSelectionDetailLines(request.title, picks));
     });
     return refusal ? *std::move(refusal) : std::move(made);
 }
 
-std::optional<ReportRefusal> ReportMaking::packPicks(const Request& request, const TakePicks& take)
+std::optional<ReportRefusal> ReportMaking::countPicks(const Request& request, const TakeEntries& take)
 {
     const bool isSummary = request.kind.id == ReportId::TeamSelectionSummary;
     if (request.files.empty())
@@ -228,7 +223,7 @@ std::optional<ReportRefusal> ReportMaking::packPicks(const Request& request, con
     const std::optional<std::vector<Entry>> players = readPlayers(request, startingBracket(m_field));
     if (!players)
         return cancelled(request.kind);
-    return watched(request, 1, [&](const Step&) { take(pickEntries(*players)); }); // sorting them takes a moment
+    return watched(request, 1, [&](const Step&) { take(*players); }); // sorting them takes a moment
 }
 
 ReportMaking::Made ReportMaking::makePlayerSelectionDetail(const Request& request)

@@ -103,13 +103,13 @@ private:
     Made makeResultsByTeam(const Request& request);
 
     using TakeScores = std::function<void(const std::vector<PlayerScore>& scores)>;
-    using TakePicks = std::function<void(const std::vector<std::string>& packedPicks)>;
+    using TakeEntries = std::function<void(const std::vector<Entry>& players)>;
 
     /// These have a part of the work done, and say why there can be no report, or nothing.
     std::optional<ReportRefusal> watched(const Request& request, std::size_t steps,
                                          const std::function<void(const Step&)>& work);
     std::optional<ReportRefusal> scoreAll(const Request& request, const TakeScores& take);
-    std::optional<ReportRefusal> packPicks(const Request& request, const TakePicks& take);
+    std::optional<ReportRefusal> countPicks(const Request& request, const TakeEntries& take);
 
     /// What every report that scores is made of.
     struct ScoringInput {

@@ -6,8 +6,8 @@
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "reports/outlook_words.h"
+#include "reports/pick_table.h"
 #include "reports/standings.h"
-#include "reports/team_selection.h"
 
 #include <algorithm>
 #include <fmt/format.h>
@@ -34,33 +34,23 @@ std::string cellText(std::string text)
     return isNumber(text) ? text : guarded(text);
 }
 
-/// @returns a number of the report without its leading zeros; what is no number stays, for a shifted field holds a text
-std::string numberCell(const std::string& text)
-{
-    const bool isWhole = !text.empty() && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
-    if (!isWhole)
-        return cellText(text);
-    return text.substr(std::min(text.find_first_not_of('0'), text.size() - 1));
-}
-
-CsvRow withCounts(CsvRow cells, const CategoryCounts& counts)
+/// @param row begins with what comes before the counts
+CsvRow withCounts(CsvRow row, const CategoryCounts& counts)
 {
     for (std::size_t category = 1; category < counts.size(); ++category)
-        cells.push_back(std::to_string(counts.at(category)));
-    return cells;
+        row.push_back(std::to_string(counts.at(category)));
+    return row;
 }
 
-/// @param columns what comes before the counts
+/// @param headings of what comes before the counts
 template <class CellsOf>
-Result<std::string> tableOfPicks(const Result<std::vector<PickRow>>& rows, CsvRow columns, CellsOf cellsOf)
+std::string tableOfPicks(std::span<const PickRow> rows, CsvRow headings, CellsOf cellsOf)
 {
-    if (!rows)
-        return rows.failure();
-    columns.insert(columns.end(), kRoundHeadings.begin(), kRoundHeadings.end());
+    headings.insert(headings.end(), kRoundHeadings.begin(), kRoundHeadings.end());
     std::vector<CsvRow> table;
-    table.reserve(rows->size() + 1);
-    table.push_back(std::move(columns));
-    for (const PickRow& row : *rows)
+    table.reserve(rows.size() + 1);
+    table.push_back(std::move(headings));
+    for (const PickRow& row : rows)
         table.push_back(withCounts(cellsOf(row), row.counts));
     return csvFile(table);
 }
@@ -91,29 +81,27 @@ const char* csvFileOf(ReportId report)
     return nullptr;
 }
 
-Result<std::string> standingsCsv(std::span<const PlayerScore> scores)
+std::string standingsCsv(std::span<const PlayerScore> scores)
 {
     std::vector<CsvRow> table;
     table.reserve(scores.size() + 1);
     table.push_back(kStandingsHeadings);
-    for (const std::string& workRow : standingsWorkRows(scores)) {
-        const StandingsRow row = standingsRow(workRow);
-        const Result<int> open = openPicks(row);
-        if (!open)
-            return open.failure();
-        table.push_back({numberCell(row.points), cellText(row.playerName), cellText(row.fileName),
-                         numberCell(row.maxPoints), numberCell(row.goodPicks), numberCell(row.badPicks),
-                         std::to_string(*open), numberCell(row.finalPoints), cellText(row.winningPick)});
+    for (const std::size_t player : standingsOrder(scores)) {
+        const PlayerScore& score = scores[player];
+        table.push_back({std::to_string(score.points), cellText(score.playerName), cellText(score.fileName),
+                         std::to_string(score.maxPoints), std::to_string(score.goodPicks),
+                         std::to_string(score.badPicks), std::to_string(kGames - score.goodPicks - score.badPicks),
+                         std::to_string(score.finalPoints), cellText(score.winningPick)});
     }
     return csvFile(table);
 }
 
-Result<std::string> picksCsv(const std::vector<std::string>& entries)
+std::string picksCsv(std::span<const Entry> entries)
 {
     return tableOfPicks(pickRows(entries), {"Team"}, [](const PickRow& row) { return CsvRow{cellText(row.team)}; });
 }
 
-Result<std::string> picksByPlayerCsv(const std::vector<std::string>& entries)
+std::string picksByPlayerCsv(std::span<const Entry> entries)
 {
     return tableOfPicks(pickRowsByPlayer(entries), {"Team", "Player"}, [](const PickRow& row) {
         return CsvRow{cellText(row.team), cellText(row.playerLabel)};

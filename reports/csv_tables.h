@@ -1,11 +1,11 @@
 // reports/csv_tables.h - the rows of the standings, the team selections and the outlook as tables for spreadsheets.
 //
-// A header and a row for each row of the report, in its order. Comma-separated values as RFC 4180 has them, in UTF-8
-// with a byte order mark; numbers without leading zeros; a text that a spreadsheet would take for a formula has an
-// apostrophe before it.
+// A header and a row for each row of the report, in its order; unlike the reports, the tables have names whole that
+// hold a separator of the reports' work rows. Comma-separated values as RFC 4180 has them, in UTF-8 with a byte order
+// mark; a text that a spreadsheet would take for a formula has an apostrophe before it.
 #pragma once
 
-#include "base/result.h"
+#include "pool/entry.h"
 #include "pool/scoring.h"
 #include "reports/outlook_rows.h"
 #include "reports/report_table.h"
@@ -27,16 +27,13 @@ inline constexpr const char* kSupposedOutlookTable = "OUTLOOK-WHAT-IF.CSV"; ///<
 /// @returns the name of a report's table; nullptr for a report that has none
 const char* csvFileOf(ReportId report);
 
-/// @returns a failure as standingsLines()
-Result<std::string> standingsCsv(std::span<const PlayerScore> scores);
+std::string standingsCsv(std::span<const PlayerScore> scores);
 
 /// How many players send each team into each round.
-/// @param entries as pickEntries() gives them
-/// @returns a failure when an entry has no usable category
-Result<std::string> picksCsv(const std::vector<std::string>& entries);
+std::string picksCsv(std::span<const Entry> entries);
 
 /// Which players do.
-Result<std::string> picksByPlayerCsv(const std::vector<std::string>& entries);
+std::string picksByPlayerCsv(std::span<const Entry> entries);
 
 /// @param rows in the order in which they are to be
 std::string outlookCsv(std::span<const OutlookRow> rows);

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
-#include <optional>
 #include <utility>
 
 namespace tallyhoop {
@@ -68,27 +67,9 @@ private:
     bool m_mixed = false;
 };
 
-/// @param label what makes a row of its own beside the team; nothing = the pick is left out
-template <class Label>
-Result<std::vector<PickRow>> rowsBy(const std::vector<std::string>& entries, Label label)
-{
-    std::vector<PickRow> rows;
-    for (const std::string& entry : entries) {
-        const Result<Pick> pick = parsePickEntry(entry);
-        if (!pick)
-            return pick.failure();
-        std::optional<std::string> of = label(*pick);
-        if (!of)
-            continue;
-        const bool isSame = !rows.empty() && rows.back().team == pick->team && rows.back().playerLabel == *of;
-        if (!isSame)
-            rows.push_back({pick->team, *std::move(of)});
-        ++rows.back().counts.at(pick->category);
-    }
-    return rows;
-}
-
 } // namespace
+
+std::string playerLabelOf(const Entry& entry) { return entry.name + "_" + entry.initials; }
 
 std::string pickEntry(std::string_view team, std::string_view playerLabel, int category)
 {
@@ -119,26 +100,12 @@ std::vector<std::string> pickEntries(std::span<const Entry> entries)
     labels.reserve(entries.size()); // the picks point to them
     PicksByTeam picks{entries};
     for (const Entry& entry : entries) {
-        labels.push_back(entry.name + "_" + entry.initials);
+        labels.push_back(playerLabelOf(entry));
         for (const Position game : gamePositions())
             if (!entry.picks.isEmpty(game))
                 picks.add(entry.picks.at(game), labels.back(), roundOf(game));
     }
     return picks.sortedEntries();
-}
-
-Result<std::vector<PickRow>> pickRows(const std::vector<std::string>& entries)
-{
-    return rowsBy(entries, [](const Pick&) { return std::optional{std::string{}}; });
-}
-
-Result<std::vector<PickRow>> pickRowsByPlayer(const std::vector<std::string>& entries)
-{
-    return rowsBy(entries, [](const Pick& pick) -> std::optional<std::string> {
-        if (pick.team.empty()) // its name begins with a comma, and the detail has no row for it
-            return std::nullopt;
-        return pick.playerLabel;
-    });
 }
 
 Result<Done> addTeamSelectionHeader(ReportLines& lines, std::string_view title, std::string_view reportName)

@@ -18,7 +18,10 @@ namespace tallyhoop {
 /// what has no category and is never printed.
 using CategoryCounts = std::array<int, kRounds + 1>;
 
-/// A pick as a packed work row: team, ",", player label (name, "_", initials), ",", category.
+/// @returns how the detail names a player: name, "_", initials
+std::string playerLabelOf(const Entry& entry);
+
+/// A pick as a packed work row: team, ",", player label, ",", category.
 std::string pickEntry(std::string_view team, std::string_view playerLabel, int category);
 
 /// What comes out of a packed pick entry. A "," inside a name shifts what follows: the team is the text up to the
@@ -34,22 +37,6 @@ Result<Pick> parsePickEntry(std::string_view entry);
 
 /// Packs every pick of every player, ascending without regard to case.
 std::vector<std::string> pickEntries(std::span<const Entry> entries);
-
-/// One row of either report.
-struct PickRow {
-    std::string team;
-    std::string playerLabel; ///< empty in the summary
-    CategoryCounts counts{};
-
-    friend bool operator==(const PickRow&, const PickRow&) = default;
-};
-
-/// @param entries as pickEntries() gives them
-/// @returns a row for each team, as the summary has them; a failure when an entry has no usable category
-Result<std::vector<PickRow>> pickRows(const std::vector<std::string>& entries);
-
-/// @returns a row for each team and player, as the detail has them; a failure likewise
-Result<std::vector<PickRow>> pickRowsByPlayer(const std::vector<std::string>& entries);
 
 /// Writes the header of a page of either report: the page header and the three lines of column headings.
 /// @returns a failure when the title is wider than the page
