@@ -9,24 +9,47 @@
 #include "intake/addresses.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <functional>
 #include <iostream>
-#include <map>
+#include <iterator>
+#include <sstream>
 #include <string>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 namespace tallyhoop::cli {
 
 namespace {
 
-const std::map<std::string, ChanceKind> kWeights{
+/// What a person may choose from, and what it means.
+template <class Value>
+using Choices = std::vector<std::pair<std::string, Value>>;
+
+const Choices<ChanceKind> kWeights{
     {"alike", ChanceKind::Alike}, {"seeds", ChanceKind::BySeed}, {"picks", ChanceKind::AsPicked}};
 
-const std::map<std::string, CsvOptions::Table> kTables{{"standings", CsvOptions::Table::Standings},
-                                                       {"picks", CsvOptions::Table::Picks},
-                                                       {"picks-by-player", CsvOptions::Table::PicksByPlayer},
-                                                       {"outlook", CsvOptions::Table::Outlook}};
+const Choices<CsvOptions::Table> kTables{{"standings", CsvOptions::Table::Standings},
+                                         {"picks", CsvOptions::Table::Picks},
+                                         {"picks-by-player", CsvOptions::Table::PicksByPlayer},
+                                         {"outlook", CsvOptions::Table::Outlook}};
+
+const Choices<int> kReportNumbers{{"1", 1}, {"2", 2}, {"3", 3}, {"4", 4}, {"5", 5}, {"6", 6}, {"7", 7}};
+
+/// Adds an option or an argument that is one of these words, letter for letter.
+template <class Value>
+CLI::Option* addChoice(CLI::App* verb, const std::string& name, Value& value, const Choices<Value>& choices,
+                       const std::string& explanation)
+{
+    std::vector<std::string> words;
+    words.reserve(choices.size());
+    std::ranges::transform(choices, std::back_inserter(words), &Choices<Value>::value_type::first);
+    const auto take = [&value, &choices](const std::string& word) {
+        value = std::ranges::find(choices, word, &Choices<Value>::value_type::first)->second;
+    };
+    return verb->add_option_function<std::string>(name, take, explanation)->check(CLI::IsMember(std::move(words)));
+}
 
 /// What a pool consists of is replaced by the windows and by `import`, and by no output.
 bool isNameOfAPool(const std::filesystem::path& file)
@@ -70,6 +93,7 @@ public:
     CommandLine()
     {
         m_app.require_subcommand(1);
+        m_app.get_formatter()->label("SUBCOMMAND", "VERB");
         m_app.fallthrough(); // the options of all verbs are understood after the verb, too
         m_app.set_version_flag("--version", "tallyhoop-cli " TALLYHOOP_VERSION);
         m_folderOption =
@@ -87,7 +111,7 @@ public:
         addTables();
         addFinal();
         addEntries();
-        m_app.add_subcommand("check", "Read every file of the pool and list every fault")->callback([this] {
+        addVerb("check", "Read every file of the pool and list every fault")->callback([this] {
             m_verb = [](Session& session) { check(session); };
         });
     }
@@ -97,30 +121,38 @@ public:
         try {
             m_app.parse(count, words);
             return runVerb();
+        } catch (const CLI::RequiredError& error) {
+            return m_app.get_subcommands().empty() ? usedWrongly(wordsWithoutVerb()) : endOf(error);
         } catch (const CLI::ParseError& error) {
-            return m_app.exit(error, std::cout, std::cerr) == 0 ? kDone : kUsedWrongly;
+            return endOf(error);
         }
     }
 
 private:
+    CLI::App* addVerb(const std::string& name, const std::string& explanation)
+    {
+        CLI::App* const verb = m_app.add_subcommand(name, explanation);
+        verb->group("Verbs");
+        return verb;
+    }
+
     void addReports()
     {
-        CLI::App* const standingsVerb = m_app.add_subcommand("standings", "The tournament standings");
+        CLI::App* const standingsVerb = addVerb("standings", "The tournament standings");
         addTitle(standingsVerb, m_standings.title);
         addJson(standingsVerb, m_standings.asJson);
         standingsVerb->callback([this] { m_verb = [this](Session& session) { standings(session, m_standings); }; });
 
-        CLI::App* const reportVerb =
-            m_app.add_subcommand("report", "One of the seven reports, as in RPTOPT1.TXT to RPTOPT7.TXT");
-        reportVerb->add_option("number", m_report.number, "1 to 7")->required()->check(CLI::Range(1, 7));
+        CLI::App* const reportVerb = addVerb("report", "One of the seven reports, as in RPTOPT1.TXT to RPTOPT7.TXT");
+        addChoice(reportVerb, "number", m_report.number, kReportNumbers, "1 to 7")->required()->option_text("N");
         addTitle(reportVerb, m_report.title);
         reportVerb->callback([this] { m_verb = [this](Session& session) { report(session, m_report); }; });
 
-        CLI::App* const scoresVerb = m_app.add_subcommand("scores", "The list of all scores");
+        CLI::App* const scoresVerb = addVerb("scores", "The list of all scores");
         addJson(scoresVerb, m_scores.asJson);
         scoresVerb->callback([this] { m_verb = [this](Session& session) { scores(session, m_scores); }; });
 
-        CLI::App* const outlookVerb = m_app.add_subcommand("outlook", "Who can still be first, and how often");
+        CLI::App* const outlookVerb = addVerb("outlook", "Who can still be first, and how often");
         addWeights(outlookVerb, m_outlook.weights);
         addJson(outlookVerb, m_outlook.asJson);
         outlookVerb->callback([this] { m_verb = [this](Session& session) { outlook(session, m_outlook); }; });
@@ -128,32 +160,35 @@ private:
 
     void addTables()
     {
-        CLI::App* const csvVerb = m_app.add_subcommand("csv", "A table for spreadsheets");
-        csvVerb->add_option("table", m_csv.table, "standings, picks, picks-by-player or outlook")
+        CLI::App* const csvVerb = addVerb("csv", "A table for spreadsheets");
+        addChoice(csvVerb, "table", m_csv.table, kTables, "standings, picks, picks-by-player or outlook")
             ->required()
-            ->transform(CLI::Transformer(kTables))
             ->option_text("TABLE");
-        addWeights(csvVerb, m_csv.weights);
-        csvVerb->callback([this] { m_verb = [this](Session& session) { csv(session, m_csv); }; });
+        const CLI::Option* const weights = addWeights(csvVerb, m_csv.weights);
+        csvVerb->callback([this, weights] {
+            if (weights->count() > 0 && m_csv.table != CsvOptions::Table::Outlook)
+                throw CLI::ValidationError("--weights", "Only the table outlook has chances");
+            m_verb = [this](Session& session) { csv(session, m_csv); };
+        });
     }
 
     void addPage()
     {
-        CLI::App* const pageVerb = m_app.add_subcommand("page", "The pool as a page for the browser");
+        CLI::App* const pageVerb = addVerb("page", "The pool as a page for the browser");
         addWeights(pageVerb, m_page.weights);
         pageVerb->callback([this] { m_verb = [this](Session& session) { page(session, m_page); }; });
     }
 
     void addFinal()
     {
-        CLI::App* const finalVerb = m_app.add_subcommand("final", "The sheet that ends the season");
+        CLI::App* const finalVerb = addVerb("final", "The sheet that ends the season");
         addJson(finalVerb, m_final.asJson);
         finalVerb->callback([this] { m_verb = [this](Session& session) { finalSheet(session, m_final); }; });
     }
 
     void addEntries()
     {
-        CLI::App* const formVerb = m_app.add_subcommand("form", "The entry form, a page for players");
+        CLI::App* const formVerb = addVerb("form", "The entry form, a page for players");
         formVerb->add_option("--mail-to", m_form.organiser, "E-mail address that brackets are sent to")
             ->option_text("ADDRESS");
         formVerb->callback([this] {
@@ -162,7 +197,7 @@ private:
             m_verb = [this](Session& session) { form(session, m_form); };
         });
 
-        CLI::App* const importVerb = m_app.add_subcommand("import", "Take in what players have handed in");
+        CLI::App* const importVerb = addVerb("import", "Take in what players have handed in");
         importVerb->add_option("files", m_files, "Selections, mails, texts, spreadsheets, or folders of them")
             ->required()
             ->option_text("FILE...");
@@ -178,11 +213,31 @@ private:
 
     static void addJson(CLI::App* verb, bool& asJson) { verb->add_flag("--json", asJson, "The figures as JSON"); }
 
-    static void addWeights(CLI::App* verb, ChanceKind& weights)
+    static CLI::Option* addWeights(CLI::App* verb, ChanceKind& weights)
     {
-        verb->add_option("--weights", weights, "Chances of the open games: alike (without it), seeds or picks")
-            ->transform(CLI::Transformer(kWeights))
+        return addChoice(verb, "--weights", weights, kWeights,
+                         "Chances of the open games: alike (without it), seeds or picks")
             ->option_text("CHANCES");
+    }
+
+    /// @returns what to say when no verb was understood
+    std::string wordsWithoutVerb() const
+    {
+        // What follows an option that is not understood may be its value.
+        const std::vector<std::string> words = m_app.remaining();
+        const bool isVerb = !words.empty() && !words.front().starts_with('-');
+        return isVerb ? "There is no verb " + words.front() : "A verb is required";
+    }
+
+    /// Answers instead of a verb: with the help, the version, or what is wrong.
+    int endOf(const CLI::ParseError& error) const
+    {
+        std::ostringstream answer;
+        if (m_app.exit(error, answer, std::cerr) != 0)
+            return kUsedWrongly;
+        Session session{CommonOptions{}};
+        session.write(answer.str());
+        return session.status();
     }
 
     int runVerb() const

@@ -17,13 +17,25 @@ class Status(unittest.TestCase):
         sample_pool(self.folder)
         before = self.folder.contents()
         for words in ([], ["standing"], ["report"], ["report", "0"], ["report", "8"], ["report", "one"],
-                      ["standings", "--jason"], ["csv"], ["csv", "players"], ["outlook", "--weights", "luck"],
+                      ["report", "0x1"], ["report", "01"], ["report", "+1"], ["report", "1.0"],
+                      ["standings", "--jason"], ["csv"], ["csv", "players"], ["csv", "0"], ["csv", "PICKS"],
+                      ["outlook", "--weights", "luck"], ["outlook", "--weights", "0"], ["page", "--weights", "Seeds"],
+                      ["csv", "standings", "--weights", "seeds"], ["csv", "--weights", "alike", "picks"],
                       ["import"], ["standings", "outlook"], ["form", "--mail-to", "not an address"]):
             with self.subTest(words):
                 done = self.folder.run(*words)
                 self.assertEqual((done.returncode, done.stdout), (USED_WRONGLY, b""))
                 self.assertNotEqual(faults(done), [])
         self.assertEqual(self.folder.contents(), before)
+
+    def test_an_unknown_verb_is_named(self):
+        unknown, none = "There is no verb standing", "A verb is required"
+        for words, fault in ((["standing"], unknown), (["standing", "--json"], unknown), ([], none), (["--json"], none),
+                             (["--weights", "seeds"], none)):
+            with self.subTest(words):
+                done = self.folder.run(*words)
+                self.assertEqual((done.returncode, faults(done)),
+                                 (USED_WRONGLY, [fault, "Run with --help for more information."]))
 
     def test_a_folder_that_is_not_there_is_named(self):
         done = run("--folder", self.folder.path / "nowhere", "standings")
@@ -115,10 +127,11 @@ class Status(unittest.TestCase):
 
     def test_a_full_disk_is_a_fault(self):
         small_pool(self.folder)
-        with open("/dev/full", "wb") as full:
-            done = self.folder.run("standings", stdout=full)
-        self.assertEqual(done.returncode, FAULTS_FOUND)
-        self.assertEqual(len(faults(done)), 1)
+        for words in (["standings"], ["--version"], ["--help"], ["csv", "--help"]):
+            with self.subTest(words), open("/dev/full", "wb") as full:
+                done = self.folder.run(*words, stdout=full)
+                self.assertEqual(done.returncode, FAULTS_FOUND)
+                self.assertEqual(len(faults(done)), 1)
 
     def test_a_file_that_cannot_be_written_is_named(self):
         small_pool(self.folder)

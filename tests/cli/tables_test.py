@@ -87,7 +87,8 @@ class Tables(unittest.TestCase):
 
     def test_names_that_hold_separators_stay_in_their_columns(self):
         small_pool(self.folder)
-        self.folder.write("Adams_AB.THC", self.folder.read("Adams_AB.THC").replace(b"\r\nAdams\r\n", b'\r\nA;d"am,s\r\n'))
+        selection = self.folder.read("Adams_AB.THC").replace(b"\r\nAdams\r\n", b'\r\nA;d"am,s\r\n')
+        self.folder.write("Adams_AB.THC", selection)
         self.assertEqual(self.rows("standings")[1],
                          ["128", 'AB, A;d"am,s', "Adams_AB.THC", "168", "60", "0", "3", "150", "CEDAR RAPIDS"])
         self.assertIn(["CEDAR RAPIDS", 'A;d"am,s_AB', "1", "1", "1", "1", "1", "1"], self.rows("picks-by-player"))

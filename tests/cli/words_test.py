@@ -10,7 +10,7 @@ SOURCE = TESTS.parent
 
 
 def verbs():
-    listed = run("--help").stdout.decode().split("Subcommands:\n", 1)[1]
+    listed = run("--help").stdout.decode().split("Verbs:\n", 1)[1]
     return re.findall(r"^ {2}([a-z]+)", listed, re.MULTILINE)
 
 
