@@ -3,7 +3,14 @@
 set -eu
 
 installed=$(dirname "$(readlink -f "$0")")/../lib/tallyhoop
-if [ -n "${HOME-}" ] && [ -d "$HOME/Tallyhoop" ]; then
-    exec "$installed/tallyhoop-cli" --folder "$HOME/Tallyhoop" "$@"
+pool=${HOME-}/Tallyhoop
+if [ -n "${HOME-}" ] && [ -d "$pool" ]; then
+    exec "$installed/tallyhoop-cli" --folder "$pool" "$@"
 fi
-exec "$installed/tallyhoop-cli" "$@"
+for word in "$@"; do
+    case $word in
+    --folder | --folder=* | --help | -h | --version) exec "$installed/tallyhoop-cli" "$@" ;;
+    esac
+done
+echo "There is no pool: ${HOME:+the folder $pool is not there, and }none is named with --folder." >&2
+exit 2
