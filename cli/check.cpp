@@ -97,11 +97,13 @@ public:
     }
 
 private:
-    void tell(const std::string& file, const std::string& fault)
+    void tell(const std::string& fault)
     {
         ++m_faults;
-        m_session.faultIn(file, fault);
+        m_session.fault(fault);
     }
+
+    void tell(const std::string& file, const std::string& fault) { tell(file + ": " + fault); }
 
     /// @returns whether the file is there
     bool begins(const char* name)
@@ -153,7 +155,7 @@ private:
     {
         const Read<std::vector<FolderFile>> listed = m_session.folder().list(file_name::kSelectionExtension);
         if (listed.trouble)
-            tell(shown(m_session.folder().folder()), listed.trouble->message);
+            tell(kNotListed + listed.trouble->message);
         m_files += listed.value.size();
         readSelections(listed.value, startingBracket(m_field), [this](const FolderFile& file, const Read<Entry>& read) {
             checkEntry(file.name, read, EntryKind::Player);
@@ -212,7 +214,7 @@ private:
                 tell(file_name::kTeamNames, names.failure().message);
         if (begins(file_name::kPrizes))
             for (const Failure& fault : readPrizesFaults(m_session.folder()))
-                tell(file_name::kPrizes, fault.message);
+                tell(fault.message);
         if (begins(file_name::kSettings))
             if (const auto bytes = m_session.folder().read(file_name::kSettings); !bytes)
                 tell(file_name::kSettings, bytes.failure().message);

@@ -14,6 +14,14 @@ namespace {
 constexpr const char* kFieldNotWhole = "POOLSTART.THS: It cannot be read, or not whole.";
 constexpr const char* kNoField = "POOLSTART.THS: It is not there: the field was never saved.";
 
+void tell(Session& session, const FileTrouble& trouble)
+{
+    if (trouble.file == session.folder().folder())
+        session.fault(kNotListed + trouble.failure.message);
+    else
+        session.faultIn(shown(trouble.file.filename()), trouble.failure.message);
+}
+
 } // namespace
 
 Field readField(Session& session)
@@ -30,7 +38,7 @@ std::vector<FolderFile> listSelections(Session& session)
 {
     Read<std::vector<FolderFile>> listed = session.folder().list(file_name::kSelectionExtension);
     if (listed.trouble)
-        session.fault("The selections cannot be listed, or not all of them: " + listed.trouble->message);
+        session.fault(kNotListed + listed.trouble->message);
     return std::move(listed.value);
 }
 
@@ -42,9 +50,10 @@ std::optional<OpenedPool> openPool(Session& session)
     }
     if (const ReadField field = tallyhoop::readField(session.folder()); !field.trouble && !field.isWhole)
         session.fault(kFieldNotWhole);
-    OpenedPool opened = openedPool(readPoolInSteps(session.folder(), goOn));
-    for (const Failure& trouble : opened.pool.trouble)
-        session.fault(trouble.message);
+    ReadPool read = readPoolInSteps(session.folder(), goOn);
+    for (const FileTrouble& trouble : read.troubles)
+        tell(session, trouble);
+    OpenedPool opened = openedPool(std::move(read));
     if (opened.pool.entries.empty()) {
         session.fault(kNoPlayers);
         return std::nullopt;
@@ -56,7 +65,7 @@ Read<Prizes> readPrizes(Session& session)
 {
     Read<Prizes> read = tallyhoop::readPrizes(session.folder());
     if (read.trouble)
-        session.faultIn(file_name::kPrizes, read.trouble->message);
+        session.fault(read.trouble->message);
     return read;
 }
 

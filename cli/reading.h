@@ -17,6 +17,9 @@ namespace tallyhoop::cli {
 /// The fault of a folder of which no player is known.
 inline constexpr const char* kNoPlayers = "There is no selection that can be read: nothing was made.";
 
+/// The beginning of the fault of a folder that cannot be listed.
+inline constexpr const char* kNotListed = "The selections cannot be listed, or not all of them: ";
+
 /// @returns the field; the default one where there is none, or none that can be read
 Field readField(Session& session);
 

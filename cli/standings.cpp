@@ -22,9 +22,7 @@ bool isNobody(const PlayerScore& score)
 
 std::vector<PlayerScore> withoutUnread(std::vector<PlayerScore> scores, const TellingWatcher& watcher)
 {
-    std::erase_if(scores, [&](const PlayerScore& score) {
-        return watcher.hasTold(score.fileName) && isNobody(score);
-    });
+    std::erase_if(scores, [&](const PlayerScore& score) { return watcher.hasTold(score.fileName) && isNobody(score); });
     return scores;
 }
 
@@ -41,7 +39,8 @@ void standings(Session& session, const StandingsOptions& options)
     const ReportMaking::MadeScores made =
         ReportMaking{session.folder(), field, watcher}.makeScores(listSelections(session));
     if (const auto* scores = std::get_if<std::vector<PlayerScore>>(&made))
-        session.write(standingsJson(options.title.empty() ? field.title : fromUtf8(options.title), withoutUnread(*scores, watcher)));
+        session.write(standingsJson(options.title.empty() ? field.title : fromUtf8(options.title),
+                                    withoutUnread(*scores, watcher)));
     else
         tell(session, std::get<ReportRefusal>(made));
 }

@@ -19,9 +19,10 @@ namespace tallyhoop {
 
 namespace {
 
-Failure troubleOf(const std::filesystem::path& file, const Failure& failure)
+void addTrouble(ReadPool& read, std::filesystem::path file, const Failure& failure)
 {
-    return Failure{shown(file) + ": " + failure.message};
+    read.pool.trouble.push_back(Failure{shown(file) + ": " + failure.message});
+    read.troubles.push_back({std::move(file), failure});
 }
 
 /// So few files that a person who cancels need not wait for them, and so many that handing them out costs nothing.
@@ -143,7 +144,7 @@ ReadPool readPoolInSteps(const DataFolder& folder, const Step& step)
     pool.field = std::move(field.value);
     read.isFieldDamaged = field.trouble.has_value();
     if (field.trouble)
-        pool.trouble.push_back(troubleOf(folder.pathTo(file_name::kSetup), *field.trouble));
+        addTrouble(read, folder.pathTo(file_name::kSetup), *field.trouble);
 
     Bracket like = startingBracket(pool.field);
     if (folder.exists(file_name::kResults)) {
@@ -151,18 +152,18 @@ ReadPool readPoolInSteps(const DataFolder& folder, const Step& step)
         Read<Entry> results = readSelectionFile(file, like);
         read.areResultsDamaged = results.trouble.has_value();
         if (results.trouble)
-            pool.trouble.push_back(troubleOf(file, *results.trouble));
+            addTrouble(read, file, *results.trouble);
         like = results.value.picks;
         pool.results = std::move(results.value);
     }
     const Read<std::vector<FolderFile>> selections = folder.list(file_name::kSelectionExtension);
     read.isListDamaged = selections.trouble.has_value();
     if (selections.trouble)
-        pool.trouble.push_back(troubleOf(folder.folder(), *selections.trouble));
+        addTrouble(read, folder.folder(), *selections.trouble);
     readSelections(selections.value, like, [&](const FolderFile& file, Read<Entry>& selection) {
         if (selection.trouble) {
             read.damagedEntries.push_back(pool.entries.size());
-            pool.trouble.push_back(troubleOf(file.path, *selection.trouble));
+            addTrouble(read, file.path, *selection.trouble);
         }
         pool.entries.push_back(std::move(selection.value));
         return step();

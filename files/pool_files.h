@@ -47,6 +47,7 @@ ReadEntries readEntries(std::span<const FolderFile> files, const Bracket& like, 
 struct ReadPool {
     Pool pool;
     std::vector<std::size_t> damagedEntries; ///< indices in pool.entries, ascending
+    std::vector<FileTrouble> troubles;       ///< those of the pool, with the file apart; the folder's are of its list
     bool isFieldDamaged = false;
     bool areResultsDamaged = false;
     bool isListDamaged = false; ///< there may be entries that are not even named

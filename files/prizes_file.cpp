@@ -42,10 +42,10 @@ std::size_t placeOf(std::string_view text)
     return isPlace ? place : 0;
 }
 
-Failure unreadable(const Failure& failure)
-{
-    return Failure{std::string{file_name::kPrizes} + " cannot be read. " + failure.message};
-}
+/// @returns a fault of the file, named as faults of other files are
+Failure faultOfFile(const std::string& words) { return Failure{std::string{file_name::kPrizes} + ": " + words}; }
+
+Failure unreadable(const Failure& failure) { return faultOfFile("It cannot be read. " + failure.message); }
 
 class PrizesReader
 {
@@ -59,13 +59,13 @@ public:
         }
         for (std::size_t i = 0; i < rows->size(); ++i)
             if (!take((*rows)[i]))
-                m_faults.push_back(Failure{"Row " + std::to_string(i + 1) + " of " + file_name::kPrizes +
-                                           " is not understood:\r\n" + joined((*rows)[i], ", ")});
+                m_faults.push_back(
+                    faultOfFile("Row " + std::to_string(i + 1) + " is not understood:\r\n" + joined((*rows)[i], ", ")));
         m_value.table.prizes.reserve(m_prizes.size());
         for (const std::optional<Prize>& prize : m_prizes)
             m_value.table.prizes.push_back(prize.value_or(Money{}));
-        if (std::optional<Failure> fault = faultOf(m_value.table))
-            m_faults.push_back(*std::move(fault));
+        if (const std::optional<Failure> fault = faultOf(m_value.table))
+            m_faults.push_back(faultOfFile(fault->message));
     }
 
     Read<Prizes> takeRead()

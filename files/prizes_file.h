@@ -28,12 +28,14 @@ struct Prizes {
     friend bool operator==(const Prizes&, const Prizes&) = default;
 };
 
-/// Reads the file's bytes. The trouble names the first row that is not understood; what could be read is there all the
-/// same. Things may be missing, and in any order; names of things in any case.
+/// Reads the file's bytes. The trouble names the file and the first row that is not understood; what could be read is
+/// there all the same. Things may be missing, and in any order; names of things in any case.
 /// @param bytes also UTF-8 with a byte order mark, and separated by semicolons, as spreadsheets may save it
 Read<Prizes> prizesOf(std::string_view bytes);
 
-/// @returns everything that is wrong with the file's bytes, in the order of the rows; empty = nothing
+/// @returns everything that is wrong with the file's bytes, in the order of the rows, each with the file's name; empty
+/// =
+///          nothing
 std::vector<Failure> prizesFaults(std::string_view bytes);
 
 /// Reads the folder's file; without one nobody pays and nobody wins anything.

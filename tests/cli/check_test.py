@@ -89,8 +89,8 @@ class Check(unittest.TestCase):
         self.assertTrue(fault.startswith("PRIZES.CSV: "), fault)
         self.folder.write("PRIZES.CSV", [PRIZES[0], "Fee,,10.00", "Prize,1,60 %", "Prize,2,all", "Prize,3,41 %"])
         self.assertEqual(self.told(), [
-            "PRIZES.CSV: Row 2 of PRIZES.CSV is not understood: Fee, , 10.00",
-            "PRIZES.CSV: Row 4 of PRIZES.CSV is not understood: Prize, 2, all",
+            "PRIZES.CSV: Row 2 is not understood: Fee, , 10.00",
+            "PRIZES.CSV: Row 4 is not understood: Prize, 2, all",
             "PRIZES.CSV: The shares of the prizes come to 101 %: together they can be 100 % at most."])
 
     def test_two_files_of_one_name(self):

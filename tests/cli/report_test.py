@@ -78,9 +78,9 @@ class Reports(unittest.TestCase):
                 done = self.folder.run(*words)
                 self.assertEqual(done.returncode, 1)
                 self.assertIn(b"PRIZES.CSV could not be read whole: these prizes are not final", done.stdout)
-                self.assertIn(b"Row 6 of PRIZES.CSV is not understood: Prize, 2, a third", done.stdout)
+                self.assertIn(b"PRIZES.CSV: Row 6 is not understood: Prize, 2, a third", done.stdout)
                 self.assertEqual(faults(done),
-                                 ["PRIZES.CSV: Row 6 of PRIZES.CSV is not understood: Prize, 2, a third"])
+                                 ["PRIZES.CSV: Row 6 is not understood: Prize, 2, a third"])
 
     def test_there_is_no_final_sheet_before_the_last_four(self):
         small_pool(self.folder)

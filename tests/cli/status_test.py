@@ -110,13 +110,14 @@ class Status(unittest.TestCase):
         small_pool(self.folder)
         self.folder.write("POOLSTART.THS", small_field())
         self.folder.write("Clark_D.THC", ["one line"])
-        for verb in ("standings", "scores", "outlook"):
-            with self.subTest(verb):
-                done = self.folder.run(verb)
-                self.assertEqual(done.returncode, FAULTS_FOUND)
+        for words in (["standings"], ["scores"], ["outlook"], ["final"], ["csv", "standings"], ["csv", "outlook"]):
+            with self.subTest(words):
+                done = self.folder.run(*words)
+                self.assertEqual((done.returncode, faults(done)),
+                                 (FAULTS_FOUND, ["Clark_D.THC: The file has fewer than 131 lines."]))
                 self.assertIn(b"AB, Adams", done.stdout)
-                [fault] = faults(done)
-                self.assertIn("Clark_D.THC", fault)
+        done = self.folder.run("check")
+        self.assertIn("Clark_D.THC: The file has fewer than 131 lines.", faults(done))
 
     def test_a_faulty_player_list_is_told(self):
         small_pool(self.folder)

@@ -64,7 +64,7 @@ TEST(PrizesFile, NamesTheFirstRowThatIsNotUnderstood)
 {
     // Given: two damaged rows. Then: the first is named, and the others count.
     const std::string bytes = crlf({"Item,Which,Value", "Entry fee,,a lot", "Prize,first,60 %", "Prize,2,40 %"});
-    EXPECT_EQ(troubleWith(bytes), "Row 2 of PRIZES.CSV is not understood:\r\nEntry fee, , a lot");
+    EXPECT_EQ(troubleWith(bytes), "PRIZES.CSV: Row 2 is not understood:\r\nEntry fee, , a lot");
     EXPECT_EQ(prizesOf(bytes).value.table.prizes.size(), 2u);
 }
 
@@ -74,9 +74,10 @@ TEST(PrizesFile, HasAllItsFaultsInTheOrderOfTheRows)
     std::vector<std::string> words;
     for (const Failure& fault : prizesFaults(bytes))
         words.push_back(fault.message);
-    EXPECT_THAT(words, ElementsAre("Row 2 of PRIZES.CSV is not understood:\r\nFee, , 10.00",
-                                   "Row 4 of PRIZES.CSV is not understood:\r\nPrize, 2, all",
-                                   "The shares of the prizes come to 101 %: together they can be 100 % at most."));
+    EXPECT_THAT(words,
+                ElementsAre("PRIZES.CSV: Row 2 is not understood:\r\nFee, , 10.00",
+                            "PRIZES.CSV: Row 4 is not understood:\r\nPrize, 2, all",
+                            "PRIZES.CSV: The shares of the prizes come to 101 %: together they can be 100 % at most."));
     EXPECT_THAT(prizesFaults(prizesFile(kUsual)), IsEmpty());
 }
 
@@ -107,13 +108,13 @@ TEST(PrizesFile, SaysEverythingOnce)
 TEST(PrizesFile, CannotShareMoreThanEverything)
 {
     EXPECT_EQ(troubleWith(crlf({"Prize,1,60 %", "Prize,2,41 %"})),
-              "The shares of the prizes come to 101 %: together they can be 100 % at most.");
+              "PRIZES.CSV: The shares of the prizes come to 101 %: together they can be 100 % at most.");
 }
 
 TEST(PrizesFile, SaysWhatIsWrongWithItsQuotationMarks)
 {
     EXPECT_EQ(troubleWith("Item,Which,Value\r\n\"Entry fee,,10.00"),
-              "PRIZES.CSV cannot be read. A quotation mark in row 2 is not closed.");
+              "PRIZES.CSV: It cannot be read. A quotation mark in row 2 is not closed.");
 }
 
 TEST(ReadPrizes, AreNoneWithoutAFile)
@@ -139,7 +140,7 @@ TEST(ReadPrizes, SayWhyTheFileCannotBeRead)
     std::filesystem::create_directory(scratch.path() / "PRIZES.CSV");
     const Read<Prizes> read = readPrizes(scratch.folder());
     ASSERT_TRUE(read.trouble);
-    EXPECT_EQ(read.trouble->message.substr(0, 27), "PRIZES.CSV cannot be read. ");
+    EXPECT_EQ(read.trouble->message.substr(0, 31), "PRIZES.CSV: It cannot be read. ");
 }
 
 } // namespace

@@ -92,7 +92,7 @@ TEST_F(FinalSheetOutput, SaysUntilTheSaveThatThePrizesWereNotReadWhole)
     open();
     screen->cmdFinalSheet.click();
     EXPECT_THAT(linesOf(scratch.get("FINAL.TXT")),
-                IsSupersetOf({kRemark, "Row 2 of PRIZES.CSV is not understood: Prize, first, 60 %"}));
+                IsSupersetOf({kRemark, "PRIZES.CSV: Row 2 is not understood: Prize, first, 60 %"}));
     screen->cmdSave.click();
     screen->cmdFinalSheet.click();
     EXPECT_THAT(linesOf(scratch.get("FINAL.TXT")), Not(Contains(kRemark)));

@@ -174,7 +174,7 @@ TEST_F(MoneyScreenTest, KeepsADamagedFileBeforeItIsReplaced)
     putFile({"Entry fee,,10.00", "Prize,first,60 %"});
     open();
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
-    EXPECT_EQ(platform.dialogs.shown[0].text, "Row 2 of PRIZES.CSV is not understood:\r\nPrize, first, 60 %");
+    EXPECT_EQ(platform.dialogs.shown[0].text, "PRIZES.CSV: Row 2 is not understood:\r\nPrize, first, 60 %");
     EXPECT_EQ(screen->txtEntryFee.text, "10.00");
 
     screen->cmdSave.click();
