@@ -18,7 +18,7 @@ constexpr std::string_view kSeparators = ",;\t";
 
 bool isFormula(std::string_view cell)
 {
-    const std::size_t first = cell.find_first_not_of('\'');
+    const std::size_t first = cell.find_first_not_of("' "); // some spreadsheets leave outer blanks out
     return first != std::string_view::npos &&
            std::string_view{"=+-@\t\r\n"}.find(cell[first]) != std::string_view::npos;
 }

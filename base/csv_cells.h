@@ -24,8 +24,8 @@ Result<std::vector<CsvRow>> csvRows(std::string_view text);
 /// @returns the rows as text: separated by commas, each ended by CR LF, quoted where it is needed
 std::string csvText(std::span<const CsvRow> rows);
 
-/// @returns the cell as it is written: one that begins with "=", "+", "-", "@", a tab or a line break, apostrophes
-///          before it or not, has an apostrophe more
+/// @returns the cell as it is written: one that begins with "=", "+", "-", "@", a tab or a line break, apostrophes and
+///          blanks before it or not, has an apostrophe more
 std::string guarded(std::string_view cell);
 
 /// @returns the cell without the apostrophe that guarded() added

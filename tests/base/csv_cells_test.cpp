@@ -70,6 +70,9 @@ TEST(Guarded, KeepsSpreadsheetsFromCalculating)
     EXPECT_EQ(guarded("@SUM(A1)"), "'@SUM(A1)");
     EXPECT_EQ(guarded("\tx"), "'\tx");
     EXPECT_EQ(guarded("\rx"), "'\rx");
+    EXPECT_EQ(guarded("  =1"), "'  =1") << "some spreadsheets leave the blanks out";
+    EXPECT_EQ(guarded(" \t=1"), "' \t=1");
+    EXPECT_EQ(guarded(" x=1"), " x=1");
     EXPECT_EQ(guarded("1-1"), "1-1");
     EXPECT_EQ(guarded("'80s fan"), "'80s fan");
     EXPECT_EQ(guarded(""), "");
@@ -77,7 +80,7 @@ TEST(Guarded, KeepsSpreadsheetsFromCalculating)
 
 TEST(Guarded, IsTakenBackExactly)
 {
-    for (const char* cell : {"=1", "'=1", "''=1", "'x", "'", "", "-", "x=1", "'+", "@"})
+    for (const char* cell : {"=1", "'=1", "''=1", "'x", "'", "", "-", "x=1", "'+", "@", " =1", "' =1", "  ", " '"})
         EXPECT_EQ(unguarded(guarded(cell)), cell);
     EXPECT_EQ(guarded("'=1"), "''=1") << "typed with the apostrophe: one more, or it would be lost";
 }
