@@ -46,7 +46,7 @@ Result<FinalSheet> makeFinalSheet(const OpenedPool& opened, const PrizeTable& ta
         return made;
     FinalSheet sheet = *made;
     if (prizesTrouble)
-        sheet.remarks = damageInWords(*prizesTrouble);
+        std::ranges::move(damageInWords(*prizesTrouble), std::back_inserter(sheet.remarks));
     std::ranges::move(unreadInWords(opened), std::back_inserter(sheet.remarks));
     return sheet;
 }

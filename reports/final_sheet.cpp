@@ -147,6 +147,43 @@ ReportLines pairsHeading(const FinalSheet& sheet, const TextTable& pairs)
     return heading;
 }
 
+/// Says what was made of a text that is no plain number.
+/// @param entered the total of a tournament that is over; empty or 0 = none
+void addRemarkOnTotal(FinalSheet& sheet, const std::string& entered)
+{
+    const bool isNone = entered.find_first_not_of('0') == std::string::npos;
+    const bool isPlain = entered.find_first_not_of("0123456789") == std::string::npos;
+    if (isNone || (isPlain && sheet.total))
+        return;
+    constexpr std::size_t kMostShown = 12; // the remark fits on a line
+    const std::string shown = entered.size() > kMostShown ? entered.substr(0, kMostShown) + "..." : entered;
+    sheet.isTotalUseless = !sheet.total;
+    sheet.remarks.push_back("The total of the final in the results, \"" + shown +
+                            (sheet.total ? "\", is taken for " + std::to_string(*sheet.total) : "\", is no total"));
+}
+
+/// @returns whose pairs are listed: all who are tied while they are few, else those whose places win something; the
+///          first place wins in any case, if only the honour
+std::vector<FinalPlace> placesOfPairs(std::span<const FinalPlace> places, std::span<const Money> paid)
+{
+    constexpr std::size_t kFewPairs = 45; // a page
+    std::size_t allPairs = 0;
+    std::size_t winningPairs = 0;
+    std::vector<FinalPlace> winning;
+    for (std::size_t first = 0; first < places.size(); first += places[first].sharedBy) {
+        const std::size_t players = places[first].sharedBy;
+        const std::size_t pairs = players * (players - 1) / 2;
+        allPairs += pairs;
+        if (first > 0 && paid[first] == Money{})
+            continue;
+        winningPairs += pairs;
+        const std::span<const FinalPlace> tied = places.subspan(first, players);
+        winning.insert(winning.end(), tied.begin(), tied.end());
+    }
+    return allPairs <= kFewPairs || winningPairs == allPairs ? std::vector<FinalPlace>(places.begin(), places.end())
+                                                             : winning;
+}
+
 /// Fills in the rows and the pairs.
 /// @param order of the scores, for those whom nothing tells apart
 void addPlayers(FinalSheet& sheet, std::span<const PlayerScore> scores, std::span<const std::size_t> order)
@@ -163,8 +200,11 @@ void addPlayers(FinalSheet& sheet, std::span<const PlayerScore> scores, std::spa
         sheet.rows.back().player = order[places[i].player];
         sheet.rows.back().prize = prizes[i];
     }
-    if (!sheet.total)
-        sheet.pairs = tiedPairs(listed, places, sheet.rule);
+    if (!sheet.total) {
+        const std::vector<FinalPlace> paired = placesOfPairs(places, prizes);
+        sheet.pairs = tiedPairs(listed, paired, sheet.rule);
+        sheet.arePairsOfPrizes = paired.size() < places.size();
+    }
     for (TiedPair& pair : sheet.pairs) {
         pair.lower = order[pair.lower];
         pair.higher = order[pair.higher];
@@ -186,6 +226,8 @@ Result<FinalSheet> finalSheetOf(std::span<const PlayerScore> scores, const Entry
     sheet.rule = table.ties;
     if (sheet.openGames == 0 && *total > 0)
         sheet.total = *total;
+    if (sheet.openGames == 0)
+        addRemarkOnTotal(sheet, withoutOuterBlanks(asOneLine(results.finalPoints)));
     sheet.entryFee = table.entryFee;
     sheet.purse = purseOf(table, scores.size());
 

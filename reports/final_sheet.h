@@ -38,11 +38,13 @@ struct FinalRow {
 struct FinalSheet {
     std::size_t openGames = 0; ///< 0 = the tournament is over; else what it would be if it ended like this
     TieRule rule = TieRule::Nearest;
-    std::optional<int> total{}; ///< of the final; nothing = not known, and equal points share their place
-    Money entryFee{};           ///< of each player
+    std::optional<int> total{};  ///< of the final; nothing = not known, and equal points share their place
+    bool isTotalUseless = false; ///< the tournament is over, and the results have something else than a total
+    Money entryFee{};            ///< of each player
     Purse purse{};
     std::vector<FinalRow> rows{};       ///< in the order of the places
     std::vector<TiedPair> pairs{};      ///< what the total will decide; none when it is known
+    bool arePairsOfPrizes = false;      ///< so many are tied that pairs on places that win nothing are left out
     std::vector<std::string> remarks{}; ///< further lines above the rows, such as what could not be read
 };
 

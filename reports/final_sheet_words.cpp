@@ -43,8 +43,10 @@ std::string totalInWords(const FinalSheet& sheet)
     constexpr const char* kTotal = "Total points of the final: ";
     if (sheet.total)
         return kTotal + std::to_string(*sheet.total);
-    return kTotal + std::string{sheet.openGames == 0 ? "not entered" : "not known yet"} +
-           ", so equal points share a place";
+    const char* const why = sheet.isTotalUseless   ? "not usable"
+                            : sheet.openGames == 0 ? "not entered"
+                                                   : "not known yet";
+    return kTotal + std::string{why} + ", so equal points share a place";
 }
 
 void addMoney(std::vector<std::string>& notes, const FinalSheet& sheet)
@@ -73,13 +75,12 @@ bool hasOddCents(const FinalSheet& sheet)
     return std::ranges::adjacent_find(sheet.rows, differ) != sheet.rows.end();
 }
 
-/// @returns whether a place is shared by so many that not all their pairs are listed
-bool hasCrowd(std::span<const FinalRow> rows)
+/// @returns whether a place with pairs is shared by so many that not all of these are listed
+bool hasCrowd(const FinalSheet& sheet)
 {
-    for (std::size_t i = kMostInAllPairs; i < rows.size(); ++i)
-        if (rows[i].place == rows[i - kMostInAllPairs].place)
-            return true;
-    return false;
+    return std::ranges::any_of(sheet.pairs, [&](const TiedPair& pair) {
+        return std::ranges::count(sheet.rows, pair.place, &FinalRow::place) > std::ptrdiff_t{kMostInAllPairs};
+    });
 }
 
 } // namespace
@@ -113,8 +114,11 @@ std::vector<std::string> pairsNotes(const FinalSheet& sheet)
     if (sheet.pairs.empty())
         return {};
     std::vector<std::string> notes{"Ties, by the total points of the final"};
-    if (hasCrowd(sheet.rows))
-        notes.emplace_back("Of more than 10 on one place only neighbouring predictions are compared.");
+    if (sheet.arePairsOfPrizes)
+        notes.emplace_back("Those on places that win nothing are left out.");
+    if (hasCrowd(sheet))
+        notes.push_back(
+            fmt::format("Of more than {} on one place only neighbouring predictions are compared.", kMostInAllPairs));
     return notes;
 }
 

@@ -33,10 +33,10 @@ struct TiedPair {
 };
 
 /// More players than these on one place, and only those with neighbouring predictions make pairs.
-inline constexpr std::size_t kMostInAllPairs = 10;
+inline constexpr std::size_t kMostInAllPairs = 25;
 
 /// Finds at which total each two tied players change their order.
-/// @param places made without a total
+/// @param places made without a total: all, or all those who share some of the places
 /// @returns in the order of the places; none by TieRule::Share
 std::vector<TiedPair> tiedPairs(std::span<const PlayerScore> scores, std::span<const FinalPlace> places, TieRule rule);
 

@@ -97,11 +97,11 @@ TEST(FinalSheetPages, SayWhatTheTotalCannotChange)
 
 TEST(FinalSheetPages, SayThatNotAllPairsOfACrowdAreCompared)
 {
-    FinalSheet sheet = inventedSheet(11);
+    FinalSheet sheet = inventedSheet(26);
     sheet.pairs = {{1, 0, 1, TieEnd::ByTotal, 164, 166}};
     for (FinalRow& row : sheet.rows)
         row.place = 1;
-    const std::string kSentence = "Of more than 10 on one place only neighbouring predictions are compared.";
+    const std::string kSentence = "Of more than 25 on one place only neighbouring predictions are compared.";
     EXPECT_THAT(finalSheetLines("Pool", sheet), testing::Contains(kSentence));
     sheet.rows.pop_back();
     EXPECT_THAT(finalSheetLines("Pool", sheet), testing::Not(testing::Contains(kSentence)));

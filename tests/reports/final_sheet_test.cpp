@@ -110,6 +110,67 @@ TEST(FinalSheet, SharesPlacesAndComparesPairsWithoutATotal)
                             "Ties: the nearest prediction is ahead"));
 }
 
+/// Groups of three tied players, at 100, 99, ... points; in each the predictions are 100, 110 and 120.
+std::vector<PlayerScore> groupsOfThree(int groups)
+{
+    std::vector<PlayerScore> scores;
+    for (int i = 0; i < 3 * groups; ++i) {
+        PlayerScore& score = scores.emplace_back();
+        score.playerName = "X, " + std::to_string(i);
+        score.points = static_cast<std::int16_t>(100 - i / 3);
+        score.finalPoints = static_cast<std::int16_t>(100 + 10 * (i % 3));
+    }
+    return scores;
+}
+
+TEST(FinalSheet, ComparesAllPairsWhileTheyAreFew)
+{
+    // Three pairs of each three: 45 of 15 groups are a page.
+    const Result<FinalSheet> sheet = finalSheetOf(groupsOfThree(15), finished(""), {});
+    ASSERT_TRUE(sheet);
+    EXPECT_EQ(sheet->pairs.size(), 45u);
+    EXPECT_EQ(pairsNotes(*sheet).size(), 1u);
+}
+
+TEST(FinalSheet, OfManyComparesThosePairsWhosePlaceWinsSomething)
+{
+    // Places 1, 4 and 7; the fifth prize is shared by those who are fourth.
+    const Result<FinalSheet> sheet =
+        finalSheetOf(groupsOfThree(16), finished(""), {.prizes = {Money{500}, {}, {}, {}, Money{100}}});
+    ASSERT_TRUE(sheet);
+    std::vector<std::size_t> places;
+    for (const TiedPair& pair : sheet->pairs)
+        places.push_back(pair.place);
+    EXPECT_THAT(places, ElementsAre(1, 1, 1, 4, 4, 4));
+    EXPECT_THAT(pairsNotes(*sheet), ElementsAre("Ties, by the total points of the final",
+                                                "Those on places that win nothing are left out."));
+    // The one who is last is tied with nobody: nothing is left out.
+    std::vector<PlayerScore> crowd(11, groupsOfThree(1).front());
+    crowd.emplace_back();
+    const Result<FinalSheet> first = finalSheetOf(crowd, finished(""), {});
+    EXPECT_EQ(first->pairs.size(), 55u);
+    EXPECT_EQ(pairsNotes(*first).size(), 1u);
+    // Without prizes the first place is worth something.
+    EXPECT_EQ(finalSheetOf(groupsOfThree(16), finished(""), {})->pairs.size(), 3u);
+}
+
+TEST(FinalSheet, SaysWhatItMadeOfATotalThatIsNoPlainNumber)
+{
+    const auto said = [](const std::string& total) {
+        return finalSheetNotes(*sheetOf(fourPlayers(), finished(total), {}));
+    };
+    for (const char* useless : {"abc", "-5", "abcdefghijklmn"}) {
+        EXPECT_EQ(said(useless)[1], "Total points of the final: not usable, so equal points share a place");
+        EXPECT_EQ(said(useless).back(), "The total of the final in the results, \"" +
+                                            std::string{useless}.substr(0, 12) +
+                                            (std::string{useless}.size() > 12 ? "..." : "") + "\", is no total");
+    }
+    EXPECT_EQ(said("150.5")[1], "Total points of the final: 150");
+    EXPECT_EQ(said("150.5").back(), "The total of the final in the results, \"150.5\", is taken for 150");
+    for (const char* plain : {"", " ", "0", "150", " 150 "})
+        EXPECT_EQ(said(plain).size(), 3u) << plain;
+}
+
 TEST(FinalSheet, TakesNoTotalBeforeTheEnd)
 {
     Entry results = fourPlayersResults();

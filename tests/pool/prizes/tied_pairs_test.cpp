@@ -54,16 +54,16 @@ TEST(TiedPairs, AreAllThoseOfEachPlace)
 
 TEST(TiedPairs, OfACrowdAreThoseOfNeighbours)
 {
-    // Given: ten players make 10 * 9 / 2 pairs; of eleven those count that are next to each other and differ.
+    // Given: 25 players make 25 * 24 / 2 pairs; of 26 those count that are next to each other and differ.
     std::vector<PlayerScore> scores;
-    for (int i = 0; i < 10; ++i)
+    for (int i = 0; i < 25; ++i)
         scores.push_back(scoreOf(90, 100 + 10 * i));
-    EXPECT_EQ(pairsOf(scores, TieRule::Nearest).size(), 45u);
+    EXPECT_EQ(pairsOf(scores, TieRule::Nearest).size(), 300u);
     scores.push_back(scoreOf(90, 100));
     const std::vector<TiedPair> pairs = pairsOf(scores, TieRule::Nearest);
-    ASSERT_EQ(pairs.size(), 9u);
-    EXPECT_EQ(pairs[0], (TiedPair{1, 10, 1, TieEnd::ByTotal, 104, 106}));
-    EXPECT_EQ(pairs[8], (TiedPair{1, 8, 9, TieEnd::ByTotal, 184, 186}));
+    ASSERT_EQ(pairs.size(), 24u);
+    EXPECT_EQ(pairs[0], (TiedPair{1, 25, 1, TieEnd::ByTotal, 104, 106}));
+    EXPECT_EQ(pairs[23], (TiedPair{1, 23, 24, TieEnd::ByTotal, 334, 336}));
 }
 
 } // namespace
