@@ -3,6 +3,7 @@
 
 #include "base/numbers.h"
 #include "base/text.h"
+#include "pool/outlook/open_games.h"
 #include "pool/projection.h"
 #include "reports/final_sheet_words.h"
 #include "reports/standings.h"
@@ -17,12 +18,6 @@ namespace {
 
 constexpr std::size_t kLastLineOfPage = 47;
 constexpr const char* kUnknown = "The final sheet can be made when the winners of all four regions are known.";
-
-std::size_t openGamesOf(const Bracket& results)
-{
-    return static_cast<std::size_t>(
-        std::ranges::count_if(gamePositions(), [&](Position game) { return results.isEmpty(game); }));
-}
 
 std::optional<int> predictedBy(const PlayerScore& score)
 {
@@ -148,7 +143,7 @@ ReportLines pairsHeading(const FinalSheet& sheet, const TextTable& pairs)
 }
 
 /// Says what was made of a text that is no plain number.
-/// @param entered the total of a tournament that is over; empty or 0 = none
+/// @param entered the total of a final that is played; empty or 0 = none
 void addRemarkOnTotal(FinalSheet& sheet, const std::string& entered)
 {
     const bool isNone = entered.find_first_not_of('0') == std::string::npos;
@@ -222,11 +217,12 @@ Result<FinalSheet> finalSheetOf(std::span<const PlayerScore> scores, const Entry
         return Failure{"The total of the final in the results cannot be used. " + total.failure().message};
 
     FinalSheet sheet;
-    sheet.openGames = openGamesOf(results.picks);
+    sheet.openGames = OpenGames{results.picks}.size();
+    sheet.isFinalPlayed = !results.picks.isEmpty(kChampion);
     sheet.rule = table.ties;
-    if (sheet.openGames == 0 && *total > 0)
+    if (sheet.isFinalPlayed && *total > 0)
         sheet.total = *total;
-    if (sheet.openGames == 0)
+    if (sheet.isFinalPlayed)
         addRemarkOnTotal(sheet, withoutOuterBlanks(asOneLine(results.finalPoints)));
     sheet.entryFee = table.entryFee;
     sheet.purse = purseOf(table, scores.size());

@@ -36,10 +36,12 @@ struct FinalRow {
 
 /// Everything the sheet says.
 struct FinalSheet {
-    std::size_t openGames = 0; ///< 0 = the tournament is over; else what it would be if it ended like this
+    std::size_t openGames = 0; ///< as the outlook counts them: those that can still end in two ways; 0 = the tournament
+                               ///< is over, else what it would be if it ended like this
+    bool isFinalPlayed = false; ///< the champion is known
     TieRule rule = TieRule::Nearest;
     std::optional<int> total{};  ///< of the final; nothing = not known, and equal points share their place
-    bool isTotalUseless = false; ///< the tournament is over, and the results have something else than a total
+    bool isTotalUseless = false; ///< the final is played, and the results have something else than a total
     Money entryFee{};            ///< of each player
     Purse purse{};
     std::vector<FinalRow> rows{};       ///< in the order of the places
@@ -51,7 +53,7 @@ struct FinalSheet {
 /// Makes the sheet, from the last four on: before that nothing is near its end.
 /// @param scores  one per player, by these results; players that nothing tells apart are listed, and get odd cents, in
 ///                the order in which the standings list them
-/// @param results its tie-breaker is the total of the final, which counts when no game is open
+/// @param results its tie-breaker is the total of the final, which counts when there is a champion
 /// @returns a failure when there are no scores, or a region winner is missing
 Result<FinalSheet> finalSheetOf(std::span<const PlayerScore> scores, const Entry& results, const PrizeTable& table);
 

@@ -43,9 +43,7 @@ std::string totalInWords(const FinalSheet& sheet)
     constexpr const char* kTotal = "Total points of the final: ";
     if (sheet.total)
         return kTotal + std::to_string(*sheet.total);
-    const char* const why = sheet.isTotalUseless   ? "not usable"
-                            : sheet.openGames == 0 ? "not entered"
-                                                   : "not known yet";
+    const char* const why = sheet.isTotalUseless ? "not usable" : sheet.isFinalPlayed ? "not entered" : "not known yet";
     return kTotal + std::string{why} + ", so equal points share a place";
 }
 

@@ -171,6 +171,21 @@ TEST(FinalSheet, SaysWhatItMadeOfATotalThatIsNoPlainNumber)
         EXPECT_EQ(said(plain).size(), 3u) << plain;
 }
 
+TEST(FinalSheet, CountsOpenGamesAsTheOutlookDoes)
+{
+    // Given: no winner of a game of which the next one has it: nothing is open.
+    Entry results = finished("150");
+    results.picks.clear(gamesOfRegion(kWest)[0]);
+    const Result<FinalSheet> settled = sheetOf(fourPlayers(), results, {});
+    EXPECT_EQ(settled->openGames, 0u);
+    EXPECT_EQ(settled->total, 150);
+    // The game of rows 3 and 4 has a winner whom row 1 has beaten: it can end in two ways, and the total counts.
+    results.picks.clear(gamesOfRegion(kWest)[1]);
+    const Result<FinalSheet> open = sheetOf(fourPlayers(), results, {});
+    EXPECT_EQ(open->openGames, 1u);
+    EXPECT_EQ(open->total, 150);
+}
+
 TEST(FinalSheet, TakesNoTotalBeforeTheEnd)
 {
     Entry results = fourPlayersResults();
