@@ -125,14 +125,14 @@ private:
     void checkField()
     {
         if (!begins(file_name::kSetup)) {
-            tell(file_name::kSetup, "It is not there: the field was never saved.");
+            tell(file_name::kSetup, kNoField);
             return;
         }
         ReadField read = tallyhoop::readField(m_session.folder());
         if (read.trouble)
             tell(file_name::kSetup, read.trouble->message);
         else if (!read.isWhole)
-            tell(file_name::kSetup, "It cannot be read, or not whole.");
+            tell(file_name::kSetup, kFieldNotWhole);
         m_field = std::move(read.value);
         if (!m_field.isFinalized())
             return;

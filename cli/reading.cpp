@@ -11,9 +11,6 @@ namespace tallyhoop::cli {
 
 namespace {
 
-constexpr const char* kFieldNotWhole = "POOLSTART.THS: It cannot be read, or not whole.";
-constexpr const char* kNoField = "POOLSTART.THS: It is not there: the field was never saved.";
-
 void tell(Session& session, const FileTrouble& trouble)
 {
     if (trouble.file == session.folder().folder())
@@ -30,7 +27,7 @@ Field readField(Session& session)
     if (read.trouble)
         session.faultIn(file_name::kSetup, read.trouble->message);
     else if (!read.isWhole)
-        session.fault(kFieldNotWhole);
+        session.faultIn(file_name::kSetup, kFieldNotWhole);
     return std::move(read.value);
 }
 
@@ -45,11 +42,11 @@ std::vector<FolderFile> listSelections(Session& session)
 std::optional<OpenedPool> openPool(Session& session)
 {
     if (!session.folder().exists(file_name::kSetup)) {
-        session.fault(kNoField);
+        session.faultIn(file_name::kSetup, kNoField);
         return std::nullopt;
     }
     if (const ReadField field = tallyhoop::readField(session.folder()); !field.trouble && !field.isWhole)
-        session.fault(kFieldNotWhole);
+        session.faultIn(file_name::kSetup, kFieldNotWhole);
     ReadPool read = readPoolInSteps(session.folder(), goOn);
     for (const FileTrouble& trouble : read.troubles)
         tell(session, trouble);

@@ -17,6 +17,10 @@ namespace tallyhoop::cli {
 /// The fault of a folder of which no player is known.
 inline constexpr const char* kNoPlayers = "There is no selection that can be read: nothing was made.";
 
+/// The faults of a setup file, whose name comes before them.
+inline constexpr const char* kNoField = "It is not there: the field was never saved.";
+inline constexpr const char* kFieldNotWhole = "It cannot be read, or not whole.";
+
 /// The beginning of the fault of a folder that cannot be listed.
 inline constexpr const char* kNotListed = "The selections cannot be listed, or not all of them: ";
 

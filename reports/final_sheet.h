@@ -27,7 +27,7 @@ struct FinalRow {
     std::string name{};     ///< initials, ", ", name; a selection without either has that of its file
     std::size_t place = 1;
     bool isShared = false; ///< others have the same place
-    bool isLast = false;   ///< nobody is behind, and somebody ahead
+    bool isLast = false;   ///< nobody comes after this place, and somebody before it
     int points = 0;
     std::optional<int> predicted{}; ///< total of the final; nothing = none
     std::optional<int> off{};       ///< predicted less real; nothing unless both are known

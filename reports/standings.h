@@ -40,8 +40,7 @@ std::vector<std::string> standingsWorkRows(std::span<const PlayerScore> scores);
 std::vector<std::size_t> standingsOrder(std::span<const PlayerScore> scores);
 
 /// @returns the games without a verdict, negative for a damaged selection; a failure when a shifted field holds a
-/// number
-///          of picks beyond 16 bits
+///          number of picks beyond 16 bits
 Result<int> openPicks(const StandingsRow& row);
 
 /// Lays the report out. Among equal points the later name in the alphabet comes first: the sorted rows are read

@@ -67,10 +67,10 @@ std::vector<Money> payouts(std::span<const FinalPlace> places, std::span<const M
         Money sum;
         for (std::size_t i = first; i < std::min(first + players, prizes.size()); ++i)
             sum += prizes[i];
-        const auto heads = static_cast<std::int64_t>(players);
+        const auto shares = static_cast<std::int64_t>(players);
         // All remainders are the same: the odd cents go down the list.
         for (std::size_t i = 0; i < players; ++i)
-            paid[first + i] = {sum.cents / heads + (static_cast<std::int64_t>(i) < sum.cents % heads ? 1 : 0)};
+            paid[first + i] = {sum.cents / shares + (static_cast<std::int64_t>(i) < sum.cents % shares ? 1 : 0)};
         first += players;
     }
     return paid;

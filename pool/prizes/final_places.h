@@ -20,7 +20,7 @@ struct FinalPlace {
     std::size_t player = 0; ///< index of the score
     std::size_t place = 1;  ///< one more than the number of players ahead
     std::size_t sharedBy = 1;
-    bool isLast = false; ///< nobody is behind, and somebody ahead
+    bool isLast = false; ///< nobody comes after this place, and somebody before it
 
     friend bool operator==(const FinalPlace&, const FinalPlace&) = default;
 };

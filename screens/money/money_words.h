@@ -19,7 +19,7 @@ std::vector<std::string> feeCells(const Entry& player, bool hasPaid, Money fee);
 
 std::string explanationOf(TieRule rule);
 
-/// @returns such as "and prizes for 2 more places, as they are in PRIZES.CSV"; empty for none
+/// @returns such as "and 2 prizes for further places, as in PRIZES.CSV"; empty for none
 std::string furtherPrizesInWords(std::size_t prizes);
 
 /// @returns who has paid, and what it comes to
