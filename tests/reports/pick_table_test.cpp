@@ -56,6 +56,11 @@ TEST(PickTable, HasTheRowsOfTheReportsInTheirOrder)
                                      {"Ann", "Duke"},
                                      {"Adams", "Duke+"}})
         entries.push_back(picker(name, team));
+    // Round by round the two are mixed: the packed rows of "zoe" and "Zoe" differ in nothing but the round.
+    for (const char* name : {"zoe", "Zoe"}) {
+        entries.push_back(picker(name, "Duke"));
+        entries.back().picks.put(kSemifinalA, "Duke");
+    }
     EXPECT_EQ(pickRows(entries), packedRows(entries, false));
     EXPECT_EQ(pickRowsByPlayer(entries), packedRows(entries, true));
 }
