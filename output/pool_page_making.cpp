@@ -4,7 +4,6 @@
 #include "base/one_line.h"
 #include "output/final_sheet_making.h"
 #include "output/outlook_making.h"
-#include "pool/outlook/road.h"
 #include "pool/projection.h"
 #include "pool/results.h"
 
@@ -16,10 +15,6 @@
 namespace tallyhoop {
 
 namespace {
-
-/// Of each forecast of the road: a chart shows no more, and counting more open games takes seconds.
-constexpr std::uint64_t kRoadSamples = 20'000;
-constexpr std::size_t kRoadGames = 24;
 
 std::vector<Bracket> picksOf(const Pool& pool)
 {
@@ -42,11 +37,9 @@ RoadPoint nowOf(const MadeOutlook& outlook)
     return now;
 }
 
-std::vector<RoadPoint> roadTo(const MadeOutlook& outlook, const Pool& pool, const Payoffs& payoffs, const Step& step)
+std::vector<RoadPoint> roadTo(const MadeOutlook& outlook, const Pool& pool, const Payoffs& payoffs,
+                              const RoadLimits& limits, const Step& step)
 {
-    RoadLimits limits;
-    limits.samples = kRoadSamples;
-    limits.countedGames = kRoadGames;
     const Bracket results = completedResults(pool.results.value_or(Entry{}), pool.field).picks;
     Road road{results, picksOf(pool), payoffs,
               [&](const Contest& contest) { return chancesOf(outlook.basis.chances, contest, pool.field); }, limits};
@@ -68,13 +61,13 @@ PageFinalSheet finalSheetOrReason(const Result<FinalSheet>& made)
 } // namespace
 
 Result<PoolPage> makePoolPage(const OpenedPool& opened, const Read<Prizes>& prizes, ChanceKind chances,
-                              const Step& step)
+                              const Step& step, const RoadLimits& limits)
 {
     const Pool& pool = opened.pool;
     Result<MadeOutlook> made = makeOutlook(opened, chances, step);
     if (!made)
         return made.failure();
-    const std::vector<RoadPoint> road = roadTo(*made, pool, *pool.field.payoffs.points(), step);
+    const std::vector<RoadPoint> road = roadTo(*made, pool, *pool.field.payoffs.points(), limits, step);
     std::vector<OutlookRow> rows = made->rows;
     std::ranges::sort(rows, {}, &OutlookRow::player);
     PageOutlook outlook = pageOutlookOf(made->basis, rows, made->isExact() ? made->firsts.get() : nullptr, road);

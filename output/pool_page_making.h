@@ -5,15 +5,21 @@
 #include "files/prizes_file.h"
 #include "output/opened_pool.h"
 #include "pool/outlook/chances.h"
+#include "pool/outlook/road.h"
 #include "reports/page/pool_page.h"
 
 namespace tallyhoop {
 
+/// How much work the page's road is: a chart shows no more, and counting more open games takes seconds.
+inline constexpr RoadLimits kPageRoad{.countedGames = 24, .samples = 20'000};
+
 /// The pool as entered, with its outlook, the road there and, from the last four on, the final sheet.
 /// @param prizes of the final sheet, which says so when they are not whole
 /// @param step   called between slices of some milliseconds; when it asks to stop, what is known by then is on the page
+/// @param road   how much work the road may be
 /// @returns a failure when a payoff is no number
 Result<PoolPage> makePoolPage(const OpenedPool& opened, const Read<Prizes>& prizes,
-                              ChanceKind chances = ChanceKind::Alike, const Step& step = goOn);
+                              ChanceKind chances = ChanceKind::Alike, const Step& step = goOn,
+                              const RoadLimits& road = kPageRoad);
 
 } // namespace tallyhoop

@@ -44,7 +44,7 @@ void letThePersonChoose(ui::ControlArray<ui::OptionButton, N>& group, const std:
 } // namespace
 
 ReportsScreen::ReportsScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens,
-                             const Field& field, MailDraft& draft, BoardPrintouts& board)
+                             const Field& field, MailDraft& draft, BoardPrintouts& board, const RoadLimits& pageRoad)
     : Screen{"frmPoolReports", "Tallyhoop Reports"},
       m_folder{folder},
       m_platform{platform},
@@ -52,6 +52,7 @@ ReportsScreen::ReportsScreen(const DataFolder& folder, const ui::Platform& platf
       m_field{field},
       m_draft{draft},
       m_board{board},
+      m_pageRoad{pageRoad},
       m_maker{folder, platform, field}
 {
     for (const ReportKind& kind : reportTable())

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "files/data_folder.h"
+#include "output/pool_page_making.h"
 #include "pool/field.h"
 #include "reports/report_layout.h"
 #include "reports/report_table.h"
@@ -26,8 +27,9 @@ class ReportsScreen : public ui::Screen
 {
 public:
     /// @param draft what the e-mail dialog leaves; emptied before it is asked
+    /// @param pageRoad how much work the road of the web page may be
     ReportsScreen(const DataFolder& folder, const ui::Platform& platform, Screens& screens, const Field& field,
-                  MailDraft& draft, BoardPrintouts& board);
+                  MailDraft& draft, BoardPrintouts& board, const RoadLimits& pageRoad = kPageRoad);
 
     std::string helpTopic() const override;
     void showState() override;
@@ -132,6 +134,7 @@ private:
     const Field& m_field;
     MailDraft& m_draft;
     BoardPrintouts& m_board;
+    RoadLimits m_pageRoad;
     ReportMaker m_maker;
     BracketSheets m_sheets{m_folder, m_platform, m_field};
 

@@ -38,8 +38,8 @@ std::optional<std::string> ReportsScreen::makeWebPage()
     bool isCancelled = false;
     const Result<PoolPage> page = [&] {
         Work work{m_platform.progress, "Working out the web page", 0}; // nobody knows how long
-        Result<PoolPage> made =
-            makePoolPage(opened, prizes, ChanceKind::Alike, [&work] { return work.step(); });
+        Result<PoolPage> made = makePoolPage(
+            opened, prizes, ChanceKind::Alike, [&work] { return work.step(); }, m_pageRoad);
         isCancelled = work.cancelled();
         return made;
     }();

@@ -8,6 +8,7 @@
 #include "files/file_names.h"
 #include "files/selection_file.h"
 #include "files/setup_file.h"
+#include "pool/outlook/quick_road.h"
 #include "reports/entry_form/entry_form.h"
 #include "reports/final_sheet.h"
 #include "reports/outlook.h"
@@ -239,7 +240,7 @@ public:
     explicit ReportWriter(const fs::path& folderPath) : ScreenWriter{folderPath}
     {
         field = readField(folder).value;
-        open(field, draft, board);
+        open(field, draft, board, kQuickRoad);
         screen->txtReportTitle.text = "A new title";
         screen->cmdDefaultPrinter.click(); // so that nothing is as it was at first
         ui::selectOption(screen->optDestination, Destination);

@@ -2,6 +2,7 @@
 #include "output/pool_page_making.h"
 
 #include "pool/outlook/final_pool.h"
+#include "pool/outlook/quick_road.h"
 
 #include <gmock/gmock.h>
 
@@ -13,12 +14,19 @@ using testing::DoubleNear;
 using testing::ElementsAre;
 using testing::SizeIs;
 
+Result<PoolPage> pageOf(const OpenedPool& opened, const Read<Prizes>& prizes = {})
+{
+    return makePoolPage(opened, prizes, ChanceKind::Alike, goOn, kQuickRoad);
+}
+
+Result<PoolPage> pageOf(const Pool& pool) { return pageOf(OpenedPool{.pool = pool}); }
+
 TEST(PoolPageMaking, GathersTheOutlookInTheOrderOfTheEntries)
 {
     // Of the two ways the final can end Ann is first in one; in the other Bob and Cleo share.
     Pool pool = finalPool();
     std::swap(pool.entries[0], pool.entries[2]); // so that the largest share is not the first
-    const Result<PoolPage> page = makePoolPage({.pool = std::move(pool)}, {});
+    const Result<PoolPage> page = pageOf(pool);
     ASSERT_TRUE(page);
     ASSERT_TRUE(page->outlook);
     EXPECT_EQ(page->outlook->outcomes, "2");
@@ -33,7 +41,7 @@ TEST(PoolPageMaking, GathersTheOutlookInTheOrderOfTheEntries)
 
 TEST(PoolPageMaking, FollowsTheRoadToItsEnd)
 {
-    const Result<PoolPage> page = makePoolPage({.pool = finalPool()}, {});
+    const Result<PoolPage> page = pageOf(finalPool());
     ASSERT_TRUE(page);
     const std::vector<PageRoadPoint>& road = page->outlook->road;
     ASSERT_THAT(road, SizeIs(6)) << "the start, four rounds, and now in the fifth";
@@ -42,25 +50,39 @@ TEST(PoolPageMaking, FollowsTheRoadToItsEnd)
     EXPECT_THAT(road.back().shares, ElementsAre(DoubleNear(0.5, 1e-9), DoubleNear(0.25, 1e-9), DoubleNear(0.25, 1e-9)));
 }
 
+TEST(PoolPageMaking, WorksOnTheRoadAsMuchAsItMay)
+{
+    // A slice of a forecast has 100 samples. Of the six points those with 63, 31 and 15 open games are sampled; the 7
+    // games of the last three rounds are counted in any case.
+    const auto stepsWith = [](std::uint64_t samples) {
+        int steps = 0;
+        const Step counting = [&steps] { return ++steps > 0; };
+        EXPECT_TRUE(makePoolPage({.pool = finalPool()}, {}, ChanceKind::Alike, counting,
+                                 {.countedGames = 0, .samples = samples}));
+        return steps;
+    };
+    EXPECT_EQ(stepsWith(200) - stepsWith(100), 3);
+}
+
 TEST(PoolPageMaking, HasAFinalSheetFromTheLastFourOn)
 {
     Pool pool = finalPool();
-    EXPECT_TRUE(makePoolPage({.pool = pool}, {})->finalSheet);
+    EXPECT_TRUE(pageOf(pool)->finalSheet);
     pool.results->picks = cleared(pool.results->picks, regionWinner(0));
-    EXPECT_FALSE(makePoolPage({.pool = pool}, {})->finalSheet);
+    EXPECT_FALSE(pageOf(pool)->finalSheet);
 }
 
 TEST(PoolPageMaking, SaysWhatWasNotRead)
 {
     OpenedPool opened{.pool = finalPool()};
     opened.inPart = 2;
-    EXPECT_THAT(makePoolPage(opened, {})->outlook->basis, Contains("2 selections were read only in part"));
+    EXPECT_THAT(pageOf(opened)->outlook->basis, Contains("2 selections were read only in part"));
 }
 
 TEST(PoolPageMaking, SaysThatThePrizesAreNotWhole)
 {
     const Read<Prizes> prizes{{}, Failure{"Row 2 of PRIZES.CSV is not understood:\r\nFee"}};
-    EXPECT_THAT(makePoolPage({.pool = finalPool()}, prizes)->finalSheet->notes,
+    EXPECT_THAT(pageOf({.pool = finalPool()}, prizes)->finalSheet->notes,
                 Contains("PRIZES.CSV could not be read whole: these prizes are not final"));
 }
 
@@ -68,7 +90,7 @@ TEST(PoolPageMaking, IsImpossibleWithoutPayoffs)
 {
     Pool pool = finalPool();
     pool.field.payoffs = PayoffTexts{{"1", "2", "40000", "8", "12", "16"}};
-    EXPECT_FALSE(makePoolPage({.pool = std::move(pool)}, {}));
+    EXPECT_FALSE(pageOf(pool));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "fakes/fake_platform.h"
 #include "fakes/fake_screens.h"
+#include "pool/outlook/quick_road.h"
 #include "reports/report_pool.h"
 #include "screens/reports/reports_screen.h"
 
@@ -30,7 +31,7 @@ struct ReportsScreenTest : testing::Test {
     Field field = defaultField();
     MailDraft draft;
     FakeBoard board;
-    ReportsScreen screen{dataFolder, platform.services, screens, field, draft, board};
+    ReportsScreen screen{dataFolder, platform.services, screens, field, draft, board, kQuickRoad};
 
     ReportsScreenTest() { field.title = "Office Pool 2001"; }
 

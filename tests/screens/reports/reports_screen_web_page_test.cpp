@@ -28,7 +28,8 @@ struct ReportsWebPage : ReportsScreenTest {
     /// The page of the folder as it is, without prizes.
     std::string pageOfTheFolder() const
     {
-        const Result<PoolPage> page = makePoolPage(openedPool(readPoolInSteps(dataFolder, goOn)), {});
+        const Result<PoolPage> page =
+            makePoolPage(openedPool(readPoolInSteps(dataFolder, goOn)), {}, ChanceKind::Alike, goOn, kQuickRoad);
         return page ? poolPage(*page) : page.failure().message;
     }
 
