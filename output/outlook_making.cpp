@@ -1,7 +1,6 @@
 // output/outlook_making.cpp - the work to its end, and the rows and words that belong to what it has found.
 #include "output/outlook_making.h"
 
-#include "pool/outlook/outlook_work.h"
 #include "pool/results.h"
 
 #include <algorithm>
@@ -23,14 +22,15 @@ std::vector<Bracket> picksOf(const Pool& pool)
 
 } // namespace
 
-Result<MadeOutlook> makeOutlook(const OpenedPool& opened, ChanceKind chances, const Step& step)
+Result<MadeOutlook> makeOutlook(const OpenedPool& opened, ChanceKind chances, const Step& step,
+                                const OutlookLimits& limits)
 {
     const Pool& pool = opened.pool;
     const Result<Payoffs>& payoffs = pool.field.payoffs.points();
     if (!payoffs)
         return payoffs.failure();
     const Bracket results = completedResults(pool.results.value_or(Entry{}), pool.field).picks;
-    OutlookWork work{Contest{results, picksOf(pool), *payoffs}, pool.field, chances};
+    OutlookWork work{Contest{results, picksOf(pool), *payoffs}, pool.field, chances, limits};
     while (!work.isDone() && work.fraction() < 1 && step())
         work.advance(step);
 

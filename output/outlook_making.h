@@ -5,6 +5,7 @@
 #include "output/opened_pool.h"
 #include "pool/outlook/chances.h"
 #include "pool/outlook/first_places.h"
+#include "pool/outlook/outlook_work.h"
 #include "reports/outlook.h"
 #include "reports/outlook_words.h"
 
@@ -28,7 +29,9 @@ struct MadeOutlook {
 
 /// Takes as long as the screen does: from some milliseconds to half a minute.
 /// @param step called between slices of some milliseconds; when it asks to stop, what is known by then is returned
+/// @param limits for how many players what is worked out
 /// @returns a failure when a payoff is no number
-Result<MadeOutlook> makeOutlook(const OpenedPool& opened, ChanceKind chances, const Step& step = goOn);
+Result<MadeOutlook> makeOutlook(const OpenedPool& opened, ChanceKind chances, const Step& step = goOn,
+                                const OutlookLimits& limits = {});
 
 } // namespace tallyhoop

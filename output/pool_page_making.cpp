@@ -4,6 +4,7 @@
 #include "base/one_line.h"
 #include "output/final_sheet_making.h"
 #include "output/outlook_making.h"
+#include "pool/outlook/place_count.h"
 #include "pool/projection.h"
 #include "pool/results.h"
 
@@ -15,6 +16,9 @@
 namespace tallyhoop {
 
 namespace {
+
+/// Points looked at, each in some nanoseconds: the outcomes, times the players.
+constexpr std::uint64_t kWorkOfPlaces = std::uint64_t{1} << 31;
 
 std::vector<Bracket> picksOf(const Pool& pool)
 {
@@ -60,17 +64,25 @@ PageFinalSheet finalSheetOrReason(const Result<FinalSheet>& made)
 
 } // namespace
 
+std::size_t mostPlacedOnPage(std::size_t openGames)
+{
+    return std::min<std::size_t>(kMostPlacedPlayers, openGames < 32 ? kWorkOfPlaces >> openGames : 0);
+}
+
 Result<PoolPage> makePoolPage(const OpenedPool& opened, const Read<Prizes>& prizes, ChanceKind chances,
-                              const Step& step, const RoadLimits& limits)
+                              const Step& step, const RoadLimits& road)
 {
     const Pool& pool = opened.pool;
-    Result<MadeOutlook> made = makeOutlook(opened, chances, step);
+    const Bracket results = completedResults(pool.results.value_or(Entry{}), pool.field).picks;
+    OutlookLimits limits;
+    limits.placed = mostPlacedOnPage(OpenGames{results}.size());
+    Result<MadeOutlook> made = makeOutlook(opened, chances, step, limits);
     if (!made)
         return made.failure();
-    const std::vector<RoadPoint> road = roadTo(*made, pool, *pool.field.payoffs.points(), limits, step);
+    const std::vector<RoadPoint> points = roadTo(*made, pool, *pool.field.payoffs.points(), road, step);
     std::vector<OutlookRow> rows = made->rows;
     std::ranges::sort(rows, {}, &OutlookRow::player);
-    PageOutlook outlook = pageOutlookOf(made->basis, rows, made->isExact() ? made->firsts.get() : nullptr, road);
+    PageOutlook outlook = pageOutlookOf(made->basis, rows, made->isExact() ? made->firsts.get() : nullptr, points);
     std::ranges::move(unreadInWords(opened), std::back_inserter(outlook.basis));
 
     const Result<PoolPage> shown = poolPageOf(pool, std::move(outlook));

@@ -13,6 +13,12 @@ namespace tallyhoop {
 /// How much work the page's road is: a chart shows no more, and counting more open games takes seconds.
 inline constexpr RoadLimits kPageRoad{.countedGames = 24, .samples = 20'000};
 
+/// Best and worst places are found by counting outcome by outcome, which takes a minute for 1,000 players and 24 open
+/// games; for more players than these a page has what can be proven without, such as "2-5".
+/// @param openGames 0..63
+/// @returns so many players whose places take seconds
+std::size_t mostPlacedOnPage(std::size_t openGames);
+
 /// The pool as entered, with its outlook, the road there and, from the last four on, the final sheet.
 /// @param prizes of the final sheet, which says so when they are not whole
 /// @param step   called between slices of some milliseconds; when it asks to stop, what is known by then is on the page

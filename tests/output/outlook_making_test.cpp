@@ -108,6 +108,19 @@ TEST(OutlookMaking, IsImpossibleWithoutPayoffs)
     EXPECT_THAT(made.failure().message, HasSubstr("40000"));
 }
 
+TEST(OutlookMaking, CountsThePlacesOfSoManyPlayersAsItMay)
+{
+    const auto stepsWith = [](std::size_t placed) {
+        int steps = 0;
+        OutlookLimits limits;
+        limits.placed = placed;
+        EXPECT_TRUE(makeOutlook(
+            fourPlayersPool(), ChanceKind::Alike, [&steps] { return ++steps > 0; }, limits));
+        return steps;
+    };
+    EXPECT_LT(stepsWith(3), stepsWith(4));
+}
+
 TEST(OutlookMaking, CanBeStopped)
 {
     Pool pool = finalPool();

@@ -64,6 +64,15 @@ TEST(PoolPageMaking, WorksOnTheRoadAsMuchAsItMay)
     EXPECT_EQ(stepsWith(200) - stepsWith(100), 3);
 }
 
+TEST(PoolPageMaking, CountsPlacesWhereItTakesSeconds)
+{
+    EXPECT_EQ(mostPlacedOnPage(0), 2000U) << "as many as there is memory for";
+    EXPECT_EQ(mostPlacedOnPage(20), 2000U);
+    EXPECT_EQ(mostPlacedOnPage(21), 1024U);
+    EXPECT_EQ(mostPlacedOnPage(24), 128U);
+    EXPECT_EQ(mostPlacedOnPage(63), 0U);
+}
+
 TEST(PoolPageMaking, HasAFinalSheetFromTheLastFourOn)
 {
     Pool pool = finalPool();
