@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tallyhoop {
@@ -59,9 +60,12 @@ PageFinalSheet pageFinalSheetOf(const FinalSheet& sheet)
     for (const FinalRow& row : sheet.rows)
         page.rows.push_back({placeInWords(row), row.name, std::to_string(row.points),
                              row.predicted ? std::to_string(*row.predicted) : std::string{}, prizeInWords(row),
-                             row.isLast, offInWords(row)});
+                             row.isLast, offInWords(row), row.player});
     page.pairsNotes = pairsNotes(sheet);
-    page.pairs = pairsInWords(sheet);
+    std::vector<PairInWords> words = pairsInWords(sheet);
+    page.pairs.reserve(words.size());
+    for (std::size_t i = 0; i < words.size(); ++i)
+        page.pairs.push_back({std::move(words[i]), sheet.pairs[i].lower, sheet.pairs[i].higher});
     return page;
 }
 

@@ -52,20 +52,25 @@ Json jsonOf(const PageRoadPoint& point)
     Json shares = Json::array();
     for (const double share : point.shares)
         shares.push_back(std::round(share * kParts) / kParts);
-    return {{"round", point.round}, {"now", point.isNow}, {"shares", std::move(shares)}};
+    Json json{{"round", point.round}, {"now", point.isNow}, {"shares", std::move(shares)}};
+    if (!point.error.empty())
+        json["error"] = point.error;
+    return json;
 }
 
 Json jsonOf(const PageFinalRow& row)
 {
     return {{"place", toUtf8(row.place)}, {"name", toUtf8(row.name)},   {"points", toUtf8(row.points)},
             {"total", toUtf8(row.total)}, {"prize", toUtf8(row.prize)}, {"last", row.isLast},
-            {"off", toUtf8(row.off)}};
+            {"off", toUtf8(row.off)},     {"player", row.player}};
 }
 
-Json jsonOf(const PairInWords& pair)
+Json jsonOf(const PageFinalPair& pair)
 {
-    return {{"place", toUtf8(pair.place)},   {"lower", toUtf8(pair.lower)},   {"upTo", toUtf8(pair.upTo)},
-            {"tiedAt", toUtf8(pair.tiedAt)}, {"higher", toUtf8(pair.higher)}, {"from", toUtf8(pair.from)}};
+    const PairInWords& words = pair.words;
+    return {{"place", toUtf8(words.place)},        {"lower", toUtf8(words.lower)},   {"upTo", toUtf8(words.upTo)},
+            {"tiedAt", toUtf8(words.tiedAt)},      {"higher", toUtf8(words.higher)}, {"from", toUtf8(words.from)},
+            {"players", {pair.lower, pair.higher}}};
 }
 
 template <class Values>

@@ -1,6 +1,7 @@
 // reports/page/page_outlook.cpp - takes over what the outlook's report says.
 #include "reports/page/page_outlook.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace tallyhoop {
@@ -30,10 +31,12 @@ std::vector<PageRoadPoint> roadOf(std::span<const RoadPoint> points)
     std::vector<PageRoadPoint> road;
     road.reserve(points.size());
     for (const RoadPoint& point : points) {
-        PageRoadPoint& made = road.emplace_back(PageRoadPoint{point.round, point.isNow, {}});
+        PageRoadPoint& made = road.emplace_back(PageRoadPoint{point.round, point.isNow, {}, {}});
         made.shares.reserve(point.chances.size());
         for (const FirstChances& chances : point.chances)
             made.shares.push_back(chances.share);
+        if (point.samples > 0 && !point.errors.empty())
+            made.error = errorInWords(100 * std::ranges::max(point.errors));
     }
     return road;
 }

@@ -30,6 +30,7 @@ struct PageRoadPoint {
     int round = 0;              ///< 0 = before the first game, 1..6 = after this round; of now the latest round begun
     bool isNow = false;         ///< everything is known that is entered
     std::vector<double> shares; ///< one for each player
+    std::string error{};        ///< of a forecast: the largest standard error in percentage points; empty = counted
 };
 
 /// What the program knows of the pool's end.

@@ -84,10 +84,10 @@ function makeSoleRight(pool) {
 
 function makeChalk(pool) {
   const rows = pool.players.map((player) => ({ player, ...chalkOf(pool, player.picks) }));
-  const part = ({ better, games }) => (games === 0 ? -1 : better / games);
+  const part = ({ better, games }) => (games === 0 ? null : better / games);
   return makeScroller('Chalk', new Table('Chalk', [
     nameColumn(({ player }) => player),
-    { ...numberColumn('Chalk %', part), cell: ({ better, games }) => percent(better, games) },
+    { ...numberColumn('Chalk %', part), cell: ({ better, games }) => (games === 0 ? '' : percent(better, games)) },
     { ...numberColumn('Better seeds', ({ better }) => better), cell: ({ better, games }) => `${better} of ${games}` },
   ], rows, 1).element);
 }

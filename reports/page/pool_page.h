@@ -40,7 +40,15 @@ struct PageFinalRow {
     std::string total; ///< the predicted one
     std::string prize; ///< empty = none
     bool isLast = false;
-    std::string off{}; ///< such as "+4", the prediction less the real total; empty = not known
+    std::string off{};      ///< such as "+4", the prediction less the real total; empty = not known
+    std::size_t player = 0; ///< index in PoolPage::players
+};
+
+/// Two players with equal points, and what the total of the final makes of them.
+struct PageFinalPair {
+    PairInWords words;
+    std::size_t lower = 0;  ///< who has the lower prediction, as an index in PoolPage::players
+    std::size_t higher = 0; ///< the other one
 };
 
 /// The sheet that ends the season.
@@ -48,7 +56,7 @@ struct PageFinalSheet {
     std::vector<std::string> notes;        ///< sentences above the rows
     std::vector<PageFinalRow> rows;        ///< in the order of the places; none = the notes say why
     std::vector<std::string> pairsNotes{}; ///< above the pairs, a heading first
-    std::vector<PairInWords> pairs{};      ///< of tied players, before the total is known
+    std::vector<PageFinalPair> pairs{};    ///< of tied players, before the total is known
 };
 
 /// All that the page shows. Texts are in Windows-1252, as everywhere.

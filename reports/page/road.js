@@ -14,6 +14,15 @@ function chanceStages(pool) {
   }));
 }
 
+/** How far off the forecasts among these shares may be; empty when all are counted. */
+function forecastsInWords(pool) {
+  const forecasts = (pool.outlook?.road ?? []).filter(({ error }) => error !== undefined);
+  if (forecasts.length === 0) return '';
+  const error = Math.max(...forecasts.map((point) => Number(point.error))).toFixed(2);
+  const stages = forecasts.map(stageInWords).join(', ');
+  return `Forecast, with a standard error of at most ${error} percentage points: ${stages}.`;
+}
+
 /** Everybody's points after each round that has begun; the last is now. */
 function pointStages(pool) {
   const latest = latestRound(pool.results);

@@ -103,7 +103,9 @@ function fillRoad(panel, pool) {
     make('div', { id: 'road-legend', role: 'group', 'aria-label': 'Players on the chart' }),
     make('div', { id: 'road-chart' }),
     makeScroller('The figures of the chart', make('div', { id: 'road-table' })));
-  if (pool.outlook?.road.length > 0) panel.append(make('p', { class: 'hint' }, `Chances: ${pool.outlook.chances}.`));
+  if (pool.outlook?.road.length > 0) {
+    panel.append(make('p', { class: 'hint' }, `Chances: ${pool.outlook.chances}. ${forecastsInWords(pool)}`));
+  }
   new ResizeObserver(() => showRoad()).observe(byId('road-chart'));
   showRoad();
 }

@@ -2,9 +2,6 @@
 
 const VERDICTS = ['Clinched', 'Alive', 'Open', 'Out'];
 
-/** A number that sorts the highest first. */
-const highest = (value) => (value === undefined || value === null ? null : -value);
-
 /** "Up 2" is said; "▲ 2" is seen. */
 function makeMovement(places) {
   if (places === null) return '';
@@ -24,25 +21,26 @@ const verdictColumn = (verdictOfRow) => ({
 });
 
 /** The column of places that players have moved. */
-const movementColumn = (placesOfRow) => ({
-  title: 'Moved', kind: 'number', cell: (row) => makeMovement(placesOfRow(row)), key: (row) => highest(placesOfRow(row)),
-});
+const movementColumn = (placesOfRow) =>
+  ({ ...numberColumn('Moved', placesOfRow), cell: (row) => makeMovement(placesOfRow(row)) });
 
 function outlookColumns(pool) {
   if (!pool.outlook) return [];
   const of = (player) => pool.outlook.players[player.index];
-  const words = (title, name, key) =>
-    ({ title, kind: 'number', cell: (player) => of(player)[name], key: (player) => key(of(player)) });
+  const chance = (title, name, value) =>
+    ({ ...numberColumn(title, (player) => value(of(player))), cell: (player) => of(player)[name] });
+  const place = (title, name) =>
+    ({ title, kind: 'number', cell: (player) => of(player)[name], key: (player) => numberIn(of(player)[name]) });
   const columns = [
-    words('First %', 'first', (one) => highest(parseChance(one.first))),
-    words('Share %', 'share', (one) => highest(one.percent)),
+    chance('First %', 'first', (one) => parseChance(one.first)),
+    chance('Share %', 'share', (one) => one.percent),
     verdictColumn((player) => of(player).verdict),
-    words('Best', 'best', (one) => parseInt(one.best, 10)),
-    words('Worst', 'worst', (one) => parseInt(one.worst, 10)),
+    place('Best', 'best'),
+    place('Worst', 'worst'),
   ];
   if (pool.outlook.players.some((one) => one.alone !== undefined)) {
     const ways = (player) => waysOf(of(player));
-    columns.unshift({ ...numberColumn('Ways', ways), key: (player) => -Number(ways(player)) });
+    columns.unshift({ ...numberColumn('Ways', ways), key: (player) => Number(ways(player)) });
   }
   return columns;
 }
@@ -64,7 +62,7 @@ function standingsColumns(pool) {
     movementColumn((player) => moved[player.index]),
     ...outlookColumns(pool),
     ...pool.points.map((_, round) => numberColumn(`R${round + 1}`, (player) => player.byRound[round])),
-    { title: 'Total', kind: 'number', cell: (player) => player.total, key: (player) => player.total },
+    { ...numberColumn('Total', (player) => numberIn(player.total)), cell: (player) => player.total },
   ];
 }
 
@@ -75,6 +73,9 @@ function standingsNotes(pool) {
   if (!pool.outlook) return notes;
   notes.push('First: the chance to be first, alone or together. Share: that of first place, which those '
     + `who are first together share. ${pool.outlook.basis.join('. ')}.`);
+  if (pool.outlook.players.some(({ best, worst }) => `${best}${worst}`.includes('-'))) {
+    notes.push('Best and worst: the places at the end; "2-5" is one of these, which one is not worked out.');
+  }
   if (pool.outlook.exact) {
     notes.push(`Ways: the outcomes, of ${pool.outlook.outcomes}, in which a player is first, alone or together.`);
   }

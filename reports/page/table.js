@@ -1,15 +1,16 @@
 // table.js - tables of rows, sorted by a press on a heading.
 //
-// A column is { title, cell, key, kind, isHeader }: cell(row) is a text or an element; key(row) is what it is sorted by,
-// the smallest first, and without one there is no sorting; kind are classes of the column's cells.
+// A column is { title, cell, key, isFalling, kind, isHeader }: cell(row) is a text or an element; key(row) is what it
+// is sorted by, and without one there is no sorting; when it is falling the highest come first; kind are classes of
+// the column's cells.
 
 /** A column of numbers, of which the highest come first. */
 const numberColumn = (title, value, kind = 'number') =>
-  ({ title, kind, cell: (row) => String(value(row)), key: (row) => -value(row) });
+  ({ title, kind, cell: (row) => String(value(row)), key: value, isFalling: true });
 
 /** A column of places, of which the lowest come first. */
 const placeColumn = (value) =>
-  ({ title: 'Place', kind: 'number place-column', cell: (row) => String(value(row)), key: (row) => value(row) });
+  ({ title: 'Place', kind: 'number place-column', cell: (row) => String(value(row)), key: value });
 
 /** The column with the players' names, which lead to their brackets; it stays in view. */
 const nameColumn = (playerOf) => ({
@@ -55,14 +56,17 @@ class Table {
   shown() {
     const rows = this.rows.filter(this.isWanted ?? (() => true));
     const { key } = this.columns[this.order];
-    if (key) rows.sort((left, right) => compareKeys(key(left), key(right)));
-    return this.isReversed ? rows.reverse() : rows;
+    return key ? sortedBy(rows, key, this.isFalling()) : rows;
+  }
+
+  isFalling() {
+    return Boolean(this.columns[this.order].isFalling) !== this.isReversed;
   }
 
   show() {
     this.headings.forEach((heading, index) => {
       if (index !== this.order || !this.columns[index].key) heading.removeAttribute('aria-sort');
-      else heading.setAttribute('aria-sort', this.isReversed ? 'descending' : 'ascending');
+      else heading.setAttribute('aria-sort', this.isFalling() ? 'descending' : 'ascending');
     });
     this.body.replaceChildren(...this.shown().map((row) => this.makeRow(row)));
   }
@@ -71,11 +75,4 @@ class Table {
     return make('tr', {}, ...this.columns.map(({ cell, kind = '', isHeader }) =>
       (isHeader ? make('th', { scope: 'row', class: kind }, cell(row)) : make('td', { class: kind }, cell(row)))));
   }
-}
-
-/** Orders numbers and texts; what is not known comes last. */
-function compareKeys(left, right) {
-  if (typeof left === 'string') return alphabet.compare(left, right);
-  if (left === null || right === null) return (left === null ? 1 : 0) - (right === null ? 1 : 0);
-  return left - right;
 }

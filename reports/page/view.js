@@ -50,7 +50,6 @@ function nameOfGame(pool, game) {
   return `${pool.regions[regionOf(game)]}, ${lowerFirst(ROUNDS[roundOf(game) - 1])}`;
 }
 
-const alphabet = new Intl.Collator('en', { sensitivity: 'base', numeric: true });
 const byName = (left, right) => alphabet.compare(left.name, right.name) || left.index - right.index;
 
 const byPlace = (left, right) => left.place - right.place || byName(left, right);
@@ -59,8 +58,8 @@ const byPlace = (left, right) => left.place - right.place || byName(left, right)
 const playerChoices = (pool) => pool.players.slice().sort(byName).map((player) => [player.index, player.name]);
 
 /** A player's name, which leads to the bracket. */
-const makePlayerLink = (player) =>
-  makeButton(player.name, { class: 'link', 'data-player': player.index }, () => showBracketOf(player));
+const makePlayerLink = (player, name = player.name) =>
+  makeButton(name, { class: 'link', 'data-player': player.index }, () => showBracketOf(player));
 
 /** What is wider than a telephone is moved under a finger, or with the arrow keys. */
 const makeScroller = (label, ...children) =>

@@ -45,8 +45,7 @@ function waysColumns(pool, outcomes) {
   }
   if (!pool.outlook) return [];
   const of = ({ player }) => pool.outlook.players[player.index];
-  const key = (row) => highest(of(row).percent);
-  return [{ title: 'Share % now', kind: 'number', cell: (row) => of(row).share, key }];
+  return [{ ...numberColumn('Share % now', (row) => of(row).percent), cell: (row) => of(row).share }];
 }
 
 function makeWhatIfTable(pool, { rows, outcomes }) {

@@ -80,11 +80,11 @@ TEST(FinalSheetMaking, PutsTheSheetOnThePage)
     EXPECT_FALSE(page.rows[1].isLast);
     // Baker's 99 and Dunn's 250 are equally far from 174.5.
     ASSERT_THAT(page.pairs, SizeIs(1));
-    EXPECT_EQ(page.pairs[0].lower, "C, Baker (99)");
-    EXPECT_EQ(page.pairs[0].upTo, "174");
-    EXPECT_EQ(page.pairs[0].tiedAt, "");
-    EXPECT_EQ(page.pairs[0].higher, "EF, Dunn (250)");
-    EXPECT_EQ(page.pairs[0].from, "175");
+    EXPECT_EQ(page.pairs[0].words.lower, "C, Baker (99)");
+    EXPECT_EQ(page.pairs[0].words.upTo, "174");
+    EXPECT_EQ(page.pairs[0].words.tiedAt, "");
+    EXPECT_EQ(page.pairs[0].words.higher, "EF, Dunn (250)");
+    EXPECT_EQ(page.pairs[0].words.from, "175");
     EXPECT_THAT(page.pairsNotes, ElementsAre("Ties, by the total points of the final"));
     EXPECT_EQ(page.rows[1].off, "");
     EXPECT_EQ(page.rows[3].total, "") << "Clark has predicted none";

@@ -1,5 +1,6 @@
 """The pool's page on every screen and on paper, for everybody."""
 
+import sys
 import unittest
 
 from selenium.webdriver.common.keys import Keys
@@ -141,7 +142,18 @@ class Large(unittest.TestCase):
             browser.command("Performance.enable", timeDomain="threadTicks")  # work, however busy the machine is
             page = Page(browser, self.pool.address)
             self.assertEqual(len(page.rows("#standings")), 1000)
-            self.assertLess(self.work(browser), 1)
+            work = self.work(browser)
+            self.tell_times(browser, work)
+            self.assertLess(work, 1)
+
+    def tell_times(self, browser, work):
+        """On the clock it takes as long as the machine lets it, which is no test; but it can be read here."""
+        browser.wait(lambda: browser.run("return performance.getEntriesByName('first-contentful-paint').length"), "paint")
+        built, seen = browser.run("const [page] = performance.getEntriesByType('navigation'); const [paint] = "
+                                  "performance.getEntriesByName('first-contentful-paint'); "
+                                  "return [page.loadEventEnd, paint.startTime]")
+        print(f"1,000 players: built after {built:.0f} ms, seen after {seen:.0f} ms, work of {1000 * work:.0f} ms",
+              file=sys.stderr)
 
     def test_every_part_opens(self):
         with Browser() as browser:

@@ -20,7 +20,8 @@ def round_of(game):
 class Tabs(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.pool = PagePool(players=20, played=50)
+        totals = [str(number) for number in range(91, 109)]  # with two digits and with three
+        cls.pool = PagePool(players=20, played=50, predicted=["", *totals, "many"])
         cls.addClassCleanup(cls.pool.close)
 
     def open(self, **options):
@@ -96,13 +97,23 @@ class Tabs(unittest.TestCase):
         heading = self.page.all("#standings .heading")[3]  # points possible
         heading.click()
         self.assertEqual(self.column(3), sorted(self.column(3), key=int, reverse=True))
-        self.assertEqual(heading.find_element(By.XPATH, "..").get_attribute("aria-sort"), "ascending")
+        self.assertEqual(heading.find_element(By.XPATH, "..").get_attribute("aria-sort"), "descending")
 
         heading.click()
+        self.assertEqual(heading.find_element(By.XPATH, "..").get_attribute("aria-sort"), "ascending")
         self.assertEqual(self.column(3), sorted(self.column(3), key=int))
         self.assertEqual(len(self.page.all("[aria-sort]")), 1)
         self.assertEqual(self.browser.run("return document.getElementById('news').textContent"),
                          "Sorted by Possible, reversed.")
+
+    def test_totals_are_sorted_as_numbers_and_who_has_none_comes_last(self):
+        self.open()
+        heading = self.page.all("#standings .heading")[-1]
+        for numbers in range(108, 90, -1), range(91, 109):
+            heading.click()
+            totals = self.column(-1)
+            self.assertEqual(totals[:18], [str(number) for number in numbers])
+            self.assertEqual(sorted(totals[18:]), ["", "many"])
 
     def test_the_search_finds_by_part_of_a_name(self):
         self.open()

@@ -190,15 +190,15 @@ TEST(PoolPage, HasNoWaysWhereNothingIsCounted)
     EXPECT_FALSE(first.contains("percent"));
 }
 
-TEST(PoolPage, HasTheRoadWithThousandthsOfAPercent)
+TEST(PoolPage, HasTheRoadWithThousandthsOfAPercentAndTheErrorOfForecasts)
 {
-    RoadPoint start{0, false, 63, 1000, {{0, 0, 0.123456789}, {0, 0, 1}}, {0, 0}};
+    RoadPoint start{0, false, 63, 1000, {{0, 0, 0.123456789}, {0, 0, 1}}, {0.0021, 0.0013}};
     RoadPoint now{2, true, 15, 0, {{0, 0, 0}, {0, 0, 1}}, {0, 0}};
     PageOutlook outlook = pageOutlookOf({}, {}, nullptr, std::vector{start, now});
 
     const Json road = dataIn(poolPageFor(fourPlayersPool(), outlook))["outlook"]["road"];
 
-    EXPECT_EQ(road, Json::parse(R"([{"round":0,"now":false,"shares":[0.12346,1.0]},)"
+    EXPECT_EQ(road, Json::parse(R"([{"round":0,"now":false,"shares":[0.12346,1.0],"error":"0.21"},)"
                                 R"({"round":2,"now":true,"shares":[0.0,1.0]}])"));
 }
 
@@ -208,15 +208,16 @@ TEST(PoolPage, HasTheFinalSheetWhenThereIsOne)
     EXPECT_FALSE(dataIn(poolPage(page)).contains("final"));
 
     page.finalSheet = PageFinalSheet{{"The total is 150."},
-                                     {{"1", "AB, Adams", "168", "150", "$ 40.00", false, "-4"}},
+                                     {{"1", "AB, Adams", "168", "150", "$ 40.00", false, "-4", 3}},
                                      {"Ties"},
-                                     {{"2", "Baker", "173", "174", "Dunn", "175"}}};
+                                     {{{"2", "Baker", "173", "174", "Dunn", "175"}, 1, 2}}};
 
-    EXPECT_EQ(dataIn(poolPage(page))["final"],
-              Json::parse(R"({"notes":["The total is 150."],"rows":[{"place":"1","name":"AB, Adams","points":"168",)"
-                          R"("total":"150","prize":"$ 40.00","last":false,"off":"-4"}],"pairsNotes":["Ties"],)"
-                          R"("pairs":[{"place":"2","lower":"Baker","upTo":"173","tiedAt":"174",)"
-                          R"("higher":"Dunn","from":"175"}]})"));
+    EXPECT_EQ(
+        dataIn(poolPage(page))["final"],
+        Json::parse(R"({"notes":["The total is 150."],"rows":[{"place":"1","name":"AB, Adams","points":"168",)"
+                    R"("total":"150","prize":"$ 40.00","last":false,"off":"-4","player":3}],"pairsNotes":["Ties"],)"
+                    R"("pairs":[{"place":"2","lower":"Baker","upTo":"173","tiedAt":"174",)"
+                    R"("higher":"Dunn","from":"175","players":[1,2]}]})"));
 }
 
 TEST(PoolPage, KeepsMarkupOutOfThePageWhereverItIs)

@@ -6,12 +6,12 @@ const path = require('node:path');
 
 const REPORTS = path.join(__dirname, '../../../reports');
 const FILES = ['web/places.js', 'page/data.js', 'page/scoring.js', 'page/open_games.js', 'page/what_if.js',
-  'page/picks.js', 'page/road.js'];
+  'page/picks.js', 'page/road.js', 'page/sorting.js'];
 const NAMES = ['allPlaces', 'gamePlaces', 'feeders', 'placeAfter', 'roundOf', 'isTeamPlace', 'gamesOfRound', 'poolOf',
   'latestRound', 'withSeed', 'score', 'placesOf', 'gainOn', 'movements', 'openGamesOf', 'countFirsts', 'verdictOf',
   'choosableGames', 'teamsInGame', 'withWinner', 'withPicksOf', 'supposedGames', 'standingsIf', 'picksOfGame',
-  'soleRightPicks', 'chalkOf', 'closestAndFurthest', 'gamesAlike', 'chanceStages', 'pointStages', 'stepOf', 'chartOf',
-  'lineOf'];
+  'soleRightPicks', 'chalkOf', 'closestAndFurthest', 'gamesAlike', 'chanceStages', 'forecastsInWords', 'pointStages',
+  'stepOf', 'chartOf', 'lineOf', 'numberIn', 'sortedBy'];
 
 const text = FILES.map((name) => fs.readFileSync(path.join(REPORTS, name), 'utf8')).join('');
 const rules = new Function(`${text}; return { ${NAMES.join(', ')} };`)();

@@ -3,8 +3,8 @@
 
 const assert = require('node:assert');
 const test = require('node:test');
-const { chalkOf, chanceStages, changed, chartOf, closestAndFurthest, gamesAlike, lineOf, picksOfGame, pointStages, poolWith,
-  soleRightPicks, start, stepOf, upper, withSeed } = require('./page_scripts.js');
+const { chalkOf, chanceStages, changed, chartOf, closestAndFurthest, forecastsInWords, gamesAlike, lineOf, picksOfGame,
+  pointStages, poolWith, soleRightPicks, start, stepOf, upper, withSeed } = require('./page_scripts.js');
 
 const names = (players) => players.map((player) => player.name);
 
@@ -77,6 +77,17 @@ test('Chances are those that the program has found', () => {
   assert.deepStrictEqual(chanceStages(poolWith(start(), {}, { outlook: { road } })),
     [{ label: 'Start', values: [25, 75] }, { label: 'Now', values: [0, 100] }]);
   assert.deepStrictEqual(chanceStages(poolWith(start(), {})), []);
+});
+
+test('The road says which of its shares are forecasts, and how far off they may be', () => {
+  const point = (round, more) => ({ round, now: false, shares: [], ...more });
+  const road = [point(0, { error: '0.36' }), point(1, { error: '0.40' }), point(2), point(3, { now: true })];
+  const words = (points) => forecastsInWords(poolWith(start(), {}, { outlook: { road: points } }));
+
+  assert.strictEqual(words(road),
+    'Forecast, with a standard error of at most 0.40 percentage points: Start, Round 1.');
+  assert.strictEqual(words(road.slice(2)), '');
+  assert.strictEqual(forecastsInWords(poolWith(start(), {})), '');
 });
 
 test('A chart has five steps at most, of 1, 2 or 5', () => {
