@@ -54,7 +54,7 @@ function makeGameChoice(pool) {
 }
 
 function makePair({ players, alike }) {
-  const [one, other] = players.map(makePlayerLink);
+  const [one, other] = players.map((player) => makePlayerLink(player));
   return make('span', {}, one, ' and ', other, `: ${counted(alike, 'game')} alike of ${GAMES}`);
 }
 

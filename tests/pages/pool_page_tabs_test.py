@@ -1,5 +1,6 @@
 """Every part of the pool's page, as a person uses it."""
 
+import itertools
 import unittest
 
 from selenium.webdriver.common.by import By
@@ -203,6 +204,17 @@ class Tabs(unittest.TestCase):
                 self.assertEqual(percent, f"{100 * len(players) / 20:.1f}")
                 if len(players) <= 12:
                     self.assertEqual(who, ", ".join(sorted(players)))
+
+    def test_the_closest_and_the_furthest_pair_are_named(self):
+        page = self.open()
+        page.show("picks")
+        alike = {}
+        for one, other in itertools.combinations(range(20), 2):
+            count = sum(self.pool.brackets[one][game] == self.pool.brackets[other][game] for game in GAME_PLACES)
+            alike.setdefault(count, set()).add(f"{self.player(one)} and {self.player(other)}: {count} games alike of 63")
+        _, closest, furthest = [fact.text for fact in page.all(".facts dd")]
+        self.assertIn(closest, alike[max(alike)])
+        self.assertIn(furthest, alike[min(alike)])
 
     def test_many_names_are_behind_a_button(self):
         page = self.open()
