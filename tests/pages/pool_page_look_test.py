@@ -58,6 +58,16 @@ class Look(unittest.TestCase):
                                                 "document.documentElement.clientWidth]")
                 self.assertEqual((wide, hidden), (width, 0), state)
 
+    def test_the_rounds_of_a_bracket_begin_at_one_height(self):
+        for size in TABLET, DESKTOP:
+            page = self.open(size=size)
+            page.show("brackets")
+            tops = self.browser.run("return Array.from(document.querySelectorAll('.part-0 .picks'), (list) => "
+                                    "Math.round(list.getBoundingClientRect().top))")
+            self.assertEqual(len(tops), 5)
+            self.assertEqual(len(set(tops)), 1, size)
+            self.browser.close()
+
     def test_the_chart_follows_the_width(self):
         page = self.open()
         page.show("road")
@@ -114,6 +124,13 @@ class Look(unittest.TestCase):
                 for region in "West", "Midwest", "East", "South", "Finals":
                     self.assertIn(region, pages[0])
             self.browser.close()
+
+    def test_the_chart_on_paper_says_whose_each_line_is(self):
+        page = self.open()
+        page.show("road")
+        self.browser.command("Emulation.setEmulatedMedia", media="print")
+        self.assertEqual([sample.is_displayed() for sample in page.all(".chip .sample")], [True] * 5)
+        self.assertEqual([cross.is_displayed() for cross in page.all(".chip span")], [False] * 5)
 
     def test_every_other_part_on_paper(self):
         page = self.open()
