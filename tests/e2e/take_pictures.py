@@ -28,6 +28,9 @@ SCALE = float(sys.argv[3]) if sys.argv[3:] else 1
 LARGE = (1920, 1080)
 PLAYER = "Demo Prophet_DP.THC"
 
+# The winners of the regions, in the pool of the office.
+LAST_FOUR = {30: "Wisconsin", 61: "Michigan St.", 92: "Florida", 123: "North Carolina"}
+
 # The dark colours of a desktop, which the README recommends where Qt does not know those of the desktop.
 DARK = pathlib.Path(__file__).parents[2] / "packaging/dark-colours"
 
@@ -205,6 +208,25 @@ def take_outlook(program):
     shows(program, "lblRegion_61", "")
 
 
+def take_money(program):
+    """Fees and prizes, with a third of the players still to pay."""
+    office_pool.write(program)
+    program.write("TALLYHOOP.THS", selection({**office_pool.results(), **LAST_FOUR}, "X", "FinalResults"))
+    program.start()
+    program.menu("mnuOptions", "mnuMoney")
+    for box, text in (("txtEntryFee", "20"), ("txtKeptBack", "5 %"), ("txtPrize_0", "60 %"), ("txtPrize_1", "30 %"),
+                      ("txtPrize_2", "10 %")):
+        program.type(box, text)
+    program.click("cmdTickAll")
+    for row in 1, 4, 7, 10:
+        program.click_at(centre(program.table("grdFees")["rects"][row][0]))
+    shows(program, "lblFees", "8 of 12 players paid: 160.00 received, 80.00 owed.")
+    program.click("cmdSave")
+    program.wait(lambda: "PRIZES.CSV" in program.files(), "the file")
+    out_of_the_way(program)
+    take(program, "money")
+
+
 def take_entry_page(program):
     """The page of the entry form, as players see it."""
     office_pool.write(program)
@@ -330,9 +352,8 @@ def main():
         shutil.copy(DARK, pathlib.Path(settings) / "kdeglobals")
         night = {"QT_QPA_PLATFORMTHEME": "kde", "KDE_SESSION_VERSION": "5", "XDG_CONFIG_HOME": settings}
         for suffix, environment in (("", {}), ("-dark", night)):
-            for steps, size in ((take_all, SIZE), (take_outlook, SIZE), (take_entry_page, SIZE), (take_pool_page, SIZE),
-                                (take_import, SIZE),
-                                (take_large_import, LARGE)):
+            for steps, size in ((take_all, SIZE), (take_outlook, SIZE), (take_money, SIZE), (take_entry_page, SIZE),
+                                (take_pool_page, SIZE), (take_import, SIZE), (take_large_import, LARGE)):
                 take_in_a_pool(steps, suffix, environment=environment, size=size, scale=SCALE)
 
 
