@@ -110,6 +110,11 @@ Result<std::int16_t> wholeNumber(std::string_view text)
     return static_cast<std::int16_t>(value);
 }
 
+std::string counted(std::size_t count, std::string_view one, std::string_view more)
+{
+    return std::to_string(count).append(" ").append(count == 1 ? one : more);
+}
+
 std::string threeDigits(long long value)
 {
     // The smallest number has no positive counterpart of its own type.

@@ -1,8 +1,9 @@
-// base/numbers.h - numbers that are held as text, and the rounding that goes with them.
+// base/numbers.h - numbers that are held as text or said in one, and the rounding that goes with them.
 #pragma once
 
 #include "base/result.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -22,6 +23,9 @@ long long roundHalfEven(double value);
 /// The leading number of a text as a 16-bit whole number, halves rounded to even.
 /// @returns a failure naming the text when it does not fit -32768..32767
 Result<std::int16_t> wholeNumber(std::string_view text);
+
+/// @returns "1 pick", "2 picks"
+std::string counted(std::size_t count, std::string_view one, std::string_view more);
 
 /// Three digits with leading zeros, "007"; a minus sign comes before them, "-064"; a longer number widens.
 std::string threeDigits(long long value);

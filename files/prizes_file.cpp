@@ -3,6 +3,7 @@
 
 #include "base/csv_cells.h"
 #include "base/text.h"
+#include "base/utf8_mark.h"
 #include "base/windows1252.h"
 #include "files/file_names.h"
 
@@ -15,7 +16,6 @@ namespace tallyhoop {
 
 namespace {
 
-constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 constexpr const char* kItem = "Item";
 constexpr const char* kEntryFee = "Entry fee";
 constexpr const char* kKeptBack = "Kept back";
@@ -151,8 +151,8 @@ private:
 PrizesReader readerOf(std::string_view bytes)
 {
     PrizesReader reader;
-    if (bytes.starts_with(kByteOrderMark))
-        reader.read(fromUtf8(bytes.substr(kByteOrderMark.size())));
+    if (bytes.starts_with(kUtf8Mark))
+        reader.read(fromUtf8(bytes.substr(kUtf8Mark.size())));
     else
         reader.read(bytes);
     return reader;

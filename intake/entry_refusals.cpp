@@ -1,6 +1,7 @@
 // intake/entry_refusals.cpp - what a save on the board asks of an entry, and what nobody could do on the board.
 #include "intake/entry_refusals.h"
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "files/data_folder.h"

@@ -3,6 +3,7 @@
 
 #include "base/csv_cells.h"
 #include "base/text.h"
+#include "base/utf8_mark.h"
 #include "base/windows1252.h"
 #include "intake/addresses.h"
 #include "intake/ascii_search.h"

@@ -2,6 +2,7 @@
 #include "intake/entry_text.h"
 
 #include "base/lines.h"
+#include "base/numbers.h"
 #include "base/windows1252.h"
 #include "intake/addresses.h"
 #include "intake/ascii_search.h"

@@ -1,6 +1,7 @@
 // intake/import_summary.cpp - counts first, then everything that a person may have to do something about.
 #include "intake/import_summary.h"
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "intake/review_words.h"
 

@@ -1,6 +1,7 @@
 // intake/mail_parts.cpp - walks through the parts that gmime finds.
 #include "intake/mail_parts.h"
 
+#include "base/utf8_mark.h"
 #include "base/windows1252.h"
 #include "intake/limits.h"
 #include "intake/mail_library.h"

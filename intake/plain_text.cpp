@@ -2,6 +2,7 @@
 #include "intake/plain_text.h"
 
 #include "base/text.h"
+#include "base/utf8_mark.h"
 #include "base/windows1252.h"
 
 #include <algorithm>
@@ -164,11 +165,6 @@ std::string quotedText(std::string_view text)
     constexpr std::size_t kMost = 40;
     const bool isLong = text.size() > kMost;
     return '"' + asOneLine(std::string{text.substr(0, kMost)}) + (isLong ? "...\"" : "\"");
-}
-
-std::string counted(std::size_t count, const std::string& one, const std::string& more)
-{
-    return std::to_string(count) + " " + (count == 1 ? one : more);
 }
 
 bool hasControlCharacters(std::string_view text)

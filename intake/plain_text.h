@@ -10,8 +10,6 @@
 
 namespace tallyhoop {
 
-inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF"; ///< the byte order mark in UTF-8
-
 /// Finds out how a text is encoded and converts it: UTF-16 with a byte order mark, UTF-8 with or without one, otherwise
 /// Windows-1252. What of UTF-16 cannot be kept, such as an emoji, becomes U+FFFD, which no file of ours can hold.
 /// @returns UTF-8 without a byte order mark
@@ -34,9 +32,6 @@ std::string canonical(std::string_view utf8);
 
 /// @returns the text, a long one cut, on one line and in quotation marks, as sentences quote what came from outside
 std::string quotedText(std::string_view text);
-
-/// @returns "1 pick", "2 picks"
-std::string counted(std::size_t count, const std::string& one, const std::string& more);
 
 /// @returns whether a text has control characters, line breaks and tabs included
 bool hasControlCharacters(std::string_view text);

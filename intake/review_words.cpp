@@ -1,6 +1,7 @@
 // intake/review_words.cpp - the words of the review, a sentence for each thing.
 #include "intake/review_words.h"
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "base/windows1252.h"
 #include "files/selection_file.h"

@@ -1,7 +1,6 @@
 // intake/review_words.h - what the review says of a row, and of all of them.
 #pragma once
 
-#include "intake/plain_text.h"
 #include "intake/players_here.h"
 #include "intake/review.h"
 

@@ -1,6 +1,7 @@
 // output/outlook_making.cpp - the work to its end, and the rows and words that belong to what it has found.
 #include "output/outlook_making.h"
 
+#include "pool/picks.h"
 #include "pool/results.h"
 
 #include <algorithm>
@@ -8,19 +9,6 @@
 #include <utility>
 
 namespace tallyhoop {
-
-namespace {
-
-std::vector<Bracket> picksOf(const Pool& pool)
-{
-    std::vector<Bracket> picks;
-    picks.reserve(pool.entries.size());
-    for (const Entry& entry : pool.entries)
-        picks.push_back(entry.picks);
-    return picks;
-}
-
-} // namespace
 
 Result<MadeOutlook> makeOutlook(const OpenedPool& opened, ChanceKind chances, const Step& step,
                                 const OutlookLimits& limits)
@@ -30,7 +18,7 @@ Result<MadeOutlook> makeOutlook(const OpenedPool& opened, ChanceKind chances, co
     if (!payoffs)
         return payoffs.failure();
     const Bracket results = completedResults(pool.results.value_or(Entry{}), pool.field).picks;
-    OutlookWork work{Contest{results, picksOf(pool), *payoffs}, pool.field, chances, limits};
+    OutlookWork work{Contest{results, picksOf(pool.entries), *payoffs}, pool.field, chances, limits};
     while (!work.isDone() && work.fraction() < 1 && step())
         work.advance(step);
 

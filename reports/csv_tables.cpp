@@ -4,6 +4,7 @@
 #include "base/csv_cells.h"
 #include "base/numbers.h"
 #include "base/text.h"
+#include "base/utf8_mark.h"
 #include "base/windows1252.h"
 #include "reports/outlook_words.h"
 #include "reports/pick_table.h"
@@ -21,11 +22,7 @@ const CsvRow kStandingsHeadings{"Points Earned", "Player Name", "File Name",   "
                                 "Bad Picks",     "Open Picks",  "Tie Breaker", "Winner Picked"};
 const CsvRow kRoundHeadings{"2nd Round", "3rd Round", "4th Round", "Region Finals", "Tour Finals", "Tour Champion"};
 
-std::string csvFile(std::span<const CsvRow> rows)
-{
-    constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
-    return std::string{kByteOrderMark} + toUtf8(csvText(rows));
-}
+std::string csvFile(std::span<const CsvRow> rows) { return std::string{kUtf8Mark} + toUtf8(csvText(rows)); }
 
 /// @returns a cell on one line; numbers are no formulas, whatever their sign
 std::string cellText(std::string text)

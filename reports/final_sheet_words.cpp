@@ -1,6 +1,7 @@
 // reports/final_sheet_words.cpp - the sentences, and how places and prizes are written.
 #include "reports/final_sheet_words.h"
 
+#include "base/numbers.h"
 #include "base/text.h"
 
 #include <algorithm>
@@ -12,11 +13,6 @@
 namespace tallyhoop {
 
 namespace {
-
-std::string counted(std::size_t count, const char* one, const char* many)
-{
-    return fmt::format("{} {}", count, count == 1 ? one : many);
-}
 
 std::string stateOf(const FinalSheet& sheet)
 {

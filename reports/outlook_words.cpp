@@ -1,6 +1,7 @@
 // reports/outlook_words.cpp - the sentences, and how numbers are written in them.
 #include "reports/outlook_words.h"
 
+#include "base/numbers.h"
 #include "pool/position.h"
 
 #include <algorithm>
@@ -17,11 +18,6 @@ constexpr int kMostDecimals = 16;
 constexpr const char* kPlusMinus = " \xB1";
 constexpr std::size_t kMostNamed = 12;
 constexpr std::size_t kLine = 75;
-
-std::string counted(std::size_t count, const std::string& what)
-{
-    return fmt::format("{} {}{}", count, what, count == 1 ? "" : "s");
-}
 
 /// @returns whether a percentage written with so many decimals looks like nothing or everything, and is neither
 bool looksCertain(double percent, const std::string& text, int decimals)
@@ -74,7 +70,7 @@ std::vector<std::string> basisInWords(const OutlookBasis& basis)
     if (basis.openGames == 0)
         return {basis.isSupposed ? "No game is open: these are the places if it ends so"
                                  : "No game is open: these are the final places"};
-    const std::string games = counted(basis.openGames, "open game");
+    const std::string games = counted(basis.openGames, "open game", "open games");
     std::vector<std::string> words{"Chances: " + chancesInWords(basis.chances)};
     switch (basis.source) {
     case ChanceSource::None:
@@ -104,7 +100,7 @@ std::vector<std::string> whatIfInWords(const Bracket& entered, const Bracket& su
     }
     if (winners.empty() && takenBack.empty())
         return {};
-    std::string differences = counted(winners.size(), "supposed winner");
+    std::string differences = counted(winners.size(), "supposed winner", "supposed winners");
     if (!takenBack.empty())
         differences += fmt::format(", {} taken back", takenBack.size());
     std::vector<std::string> lines{"What if: " + differences + "; these are not the results as entered"};

@@ -1,6 +1,7 @@
 // pool/outlook/contest.cpp - a pool in numbers.
 #include "pool/outlook/contest.h"
 
+#include "pool/picks.h"
 #include "pool/results.h"
 
 namespace tallyhoop {
@@ -20,11 +21,7 @@ Result<Contest> Contest::of(const Pool& pool)
     if (!payoffs)
         return payoffs.failure();
     const Entry results = completedResults(pool.results.value_or(Entry{}), pool.field);
-    std::vector<Bracket> picks;
-    picks.reserve(pool.entries.size());
-    for (const Entry& entry : pool.entries)
-        picks.push_back(entry.picks);
-    return Contest{results.picks, picks, *payoffs};
+    return Contest{results.picks, picksOf(pool.entries), *payoffs};
 }
 
 std::int32_t Contest::points(std::size_t player, const ByPosition<TeamNumber>& teams,

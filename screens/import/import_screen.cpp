@@ -1,6 +1,7 @@
 // screens/import/import_screen.cpp - ticks and keys; everything shown is derived in showState().
 #include "screens/import/import_screen.h"
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "intake/limits.h"
 #include "intake/review_words.h"

@@ -1,6 +1,7 @@
 // screens/import/import_screen_files.cpp - what is read, and what is written.
 #include "screens/import/import_screen.h"
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "intake/gathering.h"
 #include "intake/limits.h"

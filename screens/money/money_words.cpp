@@ -1,6 +1,7 @@
 // screens/money/money_words.cpp - sums in sentences.
 #include "screens/money/money_words.h"
 
+#include "base/numbers.h"
 #include "base/text.h"
 #include "files/file_names.h"
 #include "reports/outlook_rows.h"
@@ -49,15 +50,14 @@ std::string furtherPrizesInWords(std::size_t prizes)
 {
     if (prizes == 0)
         return {};
-    return fmt::format("and {} for further places, as in {}",
-                       prizes == 1 ? std::string{"1 prize"} : fmt::format("{} prizes", prizes), file_name::kPrizes);
+    return fmt::format("and {} for further places, as in {}", counted(prizes, "prize", "prizes"), file_name::kPrizes);
 }
 
 std::string feesInWords(Money fee, std::size_t paid, std::size_t players)
 {
     if (players == 0)
         return "There are no players yet.";
-    const std::string count = fmt::format("{} of {} player{}", paid, players, players == 1 ? "" : "s");
+    const std::string count = fmt::format("{} of {}", paid, counted(players, "player", "players"));
     if (fee == Money{})
         return count + " ticked; there is no entry fee.";
     return fmt::format("{} paid: {} received, {} owed.", count, moneyInWords(times(fee, paid)),

@@ -2,6 +2,7 @@
 #include "screens/outlook/outlook_output.h"
 
 #include "base/lines.h"
+#include "base/numbers.h"
 #include "reports/csv_tables.h"
 #include "reports/score_list.h"
 #include "screens/outlook/outlook_words.h"
@@ -74,8 +75,7 @@ std::string OutlookOutput::saveCsv(const OutlookSheet& sheet) const
 std::string OutlookOutput::copy(const OutlookSheet& sheet) const
 {
     m_platform.clipboard.put(outlookForSpreadsheets(sheet));
-    return fmt::format("Copied {} row{}, to be pasted into a spreadsheet.", sheet.rows.size(),
-                       sheet.rows.size() == 1 ? "" : "s");
+    return "Copied " + counted(sheet.rows.size(), "row", "rows") + ", to be pasted into a spreadsheet.";
 }
 
 ui::DrawingPrintout OutlookOutput::printoutOf(const OutlookSheet& sheet) const

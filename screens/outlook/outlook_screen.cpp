@@ -1,6 +1,7 @@
 // screens/outlook/outlook_screen.cpp - supposing, working, choosing; everything shown is derived in showState().
 #include "screens/outlook/outlook_screen.h"
 
+#include "pool/picks.h"
 #include "pool/results.h"
 #include "reports/outlook_words.h"
 #include "screens/board/board_geometry.h"
@@ -27,14 +28,6 @@ const char* resultsInWords(const OpenedPool& opened)
     return opened.unsavedResults ? "The results as saved" : "The results as entered";
 }
 
-std::vector<Bracket> picksOf(const Pool& pool)
-{
-    std::vector<Bracket> picks;
-    for (const Entry& entry : pool.entries)
-        picks.push_back(entry.picks);
-    return picks;
-}
-
 WhatIf whatIfOf(const Pool& pool) { return WhatIf{completedResults(pool.results.value_or(Entry{}), pool.field).picks}; }
 
 } // namespace
@@ -52,7 +45,7 @@ OutlookScreen::OutlookScreen(const DataFolder& folder, OpenedPool opened, const 
 {
     const Result<Payoffs>& payoffs = m_pool.field.payoffs.points();
     if (payoffs)
-        m_worker.emplace(m_whatIf.entered(), picksOf(m_pool), *payoffs, m_pool.field, std::move(background));
+        m_worker.emplace(m_whatIf.entered(), picksOf(m_pool.entries), *payoffs, m_pool.field, std::move(background));
     describeChances();
     cmdAsEntered.explanation = "Puts the real results back.";
     cmdHigherSeeds.explanation =

@@ -126,5 +126,12 @@ TEST(ThreeColumns, AlignsToTheRight)
     EXPECT_EQ(threeColumns(1234), "1234");
 }
 
+TEST(Counted, HasTheFormOfItsNumber)
+{
+    EXPECT_EQ(counted(0, "pick", "picks"), "0 picks");
+    EXPECT_EQ(counted(1, "pick", "picks"), "1 pick");
+    EXPECT_EQ(counted(2, "pick", "picks"), "2 picks");
+}
+
 } // namespace
 } // namespace tallyhoop

@@ -61,13 +61,6 @@ TEST(QuotedText, IsShortAndOnOneLine)
     EXPECT_EQ(quotedText(std::string(40, 'x')), '"' + std::string(40, 'x') + '"');
 }
 
-TEST(Counted, HasTheFormOfItsNumber)
-{
-    EXPECT_EQ(counted(0, "pick", "picks"), "0 picks");
-    EXPECT_EQ(counted(1, "pick", "picks"), "1 pick");
-    EXPECT_EQ(counted(2, "pick", "picks"), "2 picks");
-}
-
 TEST(ControlCharacters, AreThoseThatNobodyTypes)
 {
     EXPECT_FALSE(hasControlCharacters("Zo\xE9 \x81\xA0"));

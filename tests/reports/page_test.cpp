@@ -1,4 +1,5 @@
 // tests/reports/page_test.cpp - the bytes of the pool's page; tests/pages/ has what it does in a browser.
+#include "pool/picks.h"
 #include "reports/counted_outlook.h"
 #include "reports/four_players.h"
 #include "reports/page/pool_page.h"
@@ -57,10 +58,7 @@ Json dataIn(const std::string& page) { return Json::parse(textOfPoolData(page));
 /// Everybody's outlook by the results of the four players, counted.
 PageOutlook countedOutlook(const Pool& pool)
 {
-    std::vector<Bracket> picks;
-    for (const Entry& entry : pool.entries)
-        picks.push_back(entry.picks);
-    const Contest contest{pool.results->picks, picks, test::kUsualPayoffs};
+    const Contest contest{pool.results->picks, picksOf(pool.entries), test::kUsualPayoffs};
     const OutlookFigures figures = test::countedFigures(pool.entries, pool.results->picks);
     const FirstOutlook counted = countFirsts(contest);
     return pageOutlookOf(basisOf(ChanceKind::Alike, 3, figures), test::countedRows(pool.entries, pool.results->picks),
