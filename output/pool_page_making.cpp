@@ -2,9 +2,11 @@
 #include "output/pool_page_making.h"
 
 #include "base/one_line.h"
+#include "base/text.h"
 #include "output/final_sheet_making.h"
 #include "output/outlook_making.h"
 #include "pool/outlook/place_count.h"
+#include "pool/picks.h"
 #include "pool/projection.h"
 #include "pool/results.h"
 
@@ -19,15 +21,6 @@ namespace {
 
 /// Points looked at, each in some nanoseconds: the outcomes, times the players.
 constexpr std::uint64_t kWorkOfPlaces = std::uint64_t{1} << 31;
-
-std::vector<Bracket> picksOf(const Pool& pool)
-{
-    std::vector<Bracket> picks;
-    picks.reserve(pool.entries.size());
-    for (const Entry& entry : pool.entries)
-        picks.push_back(entry.picks);
-    return picks;
-}
 
 RoadPoint nowOf(const MadeOutlook& outlook)
 {
@@ -45,7 +38,7 @@ std::vector<RoadPoint> roadTo(const MadeOutlook& outlook, const Pool& pool, cons
                               const RoadLimits& limits, const Step& step)
 {
     const Bracket results = completedResults(pool.results.value_or(Entry{}), pool.field).picks;
-    Road road{results, picksOf(pool), payoffs,
+    Road road{results, picksOf(pool.entries), payoffs,
               [&](const Contest& contest) { return chancesOf(outlook.basis.chances, contest, pool.field); }, limits};
     if (outlook.figures.source != ChanceSource::None)
         road.takeNow(nowOf(outlook));
@@ -92,6 +85,12 @@ Result<PoolPage> makePoolPage(const OpenedPool& opened, const Read<Prizes>& priz
     if (pool.results && finalFourState(pool.results->picks) != FinalFourState::Incomplete)
         page.finalSheet = finalSheetOrReason(makeFinalSheet(opened, prizes.value.table, prizes.trouble));
     return page;
+}
+
+std::string whyNoFinalSheet(const PoolPage& page)
+{
+    const bool isMissing = page.finalSheet && page.finalSheet->rows.empty();
+    return isMissing ? joined(page.finalSheet->notes, " ") : std::string{};
 }
 
 } // namespace tallyhoop

@@ -8,6 +8,9 @@
 #include "pool/outlook/road.h"
 #include "reports/page/pool_page.h"
 
+#include <cstddef>
+#include <string>
+
 namespace tallyhoop {
 
 /// How much work the page's road is: a chart shows no more, and counting more open games takes seconds.
@@ -27,5 +30,9 @@ std::size_t mostPlacedOnPage(std::size_t openGames);
 Result<PoolPage> makePoolPage(const OpenedPool& opened, const Read<Prizes>& prizes,
                               ChanceKind chances = ChanceKind::Alike, const Step& step = goOn,
                               const RoadLimits& road = kPageRoad);
+
+/// @returns sentences about the final sheet that could not be made; empty when the page has it, or is made before the
+///          last four are known
+std::string whyNoFinalSheet(const PoolPage& page);
 
 } // namespace tallyhoop

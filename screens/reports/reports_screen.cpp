@@ -167,12 +167,12 @@ void ReportsScreen::createSelectedReports()
         forEachTickedReport("PrintSelections_Click ", cmdPrintSelections.caption, bringOut, isWebPageMailed());
     if (!printed.empty())
         say(printedSentence(printed));
-    const bool isPageThere = isWhole && isWebPageMailed() && writeWebPage();
-    if (isPageThere)
+    const std::optional<PoolPage> page = isWhole && isWebPageMailed() ? writeWebPage() : std::nullopt;
+    if (page)
         made.push_back(m_folder.pathTo(kPoolPageFile));
     if (!made.empty())
-        say(writtenSentence(made));
-    if (isWhole && !made.empty() && isMailChosen() && isPageThere == isWebPageMailed())
+        say(page ? withLack(writtenSentence(made), *page) : writtenSentence(made));
+    if (isWhole && !made.empty() && isMailChosen() && page.has_value() == isWebPageMailed())
         mailReports(made, toEverybody);
 }
 

@@ -81,11 +81,14 @@ private:
     void saveSelectedTables();
     bool isTableTicked() const;
     void saveWebPage();
-    std::optional<std::string> makeWebPage();
+    std::optional<PoolPage> makeWebPage();
     bool isWebPageMailed() const;
 
-    /// Makes the page and writes it into the program's folder. @returns false after it was said why it is not there
-    bool writeWebPage();
+    /// Makes the page and writes it into the program's folder. @returns nothing after it was said why it is not there
+    std::optional<PoolPage> writeWebPage();
+
+    /// @returns the words, and after them why the page has no final sheet although it should
+    static std::string withLack(const std::string& words, const PoolPage& page);
     Destination chosenDestination() const;
     bool isMailChosen() const;
 

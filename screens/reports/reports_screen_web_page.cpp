@@ -20,7 +20,7 @@ constexpr const char* kStopped = "The web page was cancelled.";
 } // namespace
 
 /// Damaged files are named by messages meanwhile. @returns nothing after it was said why there is no page
-std::optional<std::string> ReportsScreen::makeWebPage()
+std::optional<PoolPage> ReportsScreen::makeWebPage()
 {
     if (m_files.empty()) {
         say("There is no selection yet that the web page could show.");
@@ -51,7 +51,7 @@ std::optional<std::string> ReportsScreen::makeWebPage()
         m_platform.dialogs.show({kTrouble, page.failure().message, ui::Buttons::Ok, ui::Icon::Critical});
         return std::nullopt;
     }
-    return poolPage(*page);
+    return *page;
 }
 
 void ReportsScreen::saveWebPage()
@@ -59,28 +59,34 @@ void ReportsScreen::saveWebPage()
     say({});
     m_refusalTopic.clear();
     listFiles();
-    const std::optional<std::string> page = makeWebPage();
+    const std::optional<PoolPage> page = makeWebPage();
     if (!page)
         return;
-    const auto file =
-        saveAs(m_platform, m_folder, {"Save as Web Page", "Web pages (*.HTML)", ".HTML", kPoolPageFile, *page});
-    say(file ? "Saved " + shown(file->filename()) + "." : "Not saved.");
+    const auto file = saveAs(m_platform, m_folder,
+                             {"Save as Web Page", "Web pages (*.HTML)", ".HTML", kPoolPageFile, poolPage(*page)});
+    say(file ? withLack("Saved " + shown(file->filename()) + ".", *page) : "Not saved.");
 }
 
 bool ReportsScreen::isWebPageMailed() const { return isMailChosen() && chkWebPage.ticked; }
 
-bool ReportsScreen::writeWebPage()
+std::optional<PoolPage> ReportsScreen::writeWebPage()
 {
-    const std::optional<std::string> page = makeWebPage();
+    std::optional<PoolPage> page = makeWebPage();
     if (!page)
-        return false;
-    if (const Result<Done> written = m_folder.write(kPoolPageFile, *page); !written) {
+        return page;
+    if (const Result<Done> written = m_folder.write(kPoolPageFile, poolPage(*page)); !written) {
         m_platform.dialogs.show({kTrouble,
                                  std::string{kPoolPageFile} + " could not be written.\r\n" + written.failure().message,
                                  ui::Buttons::Ok, ui::Icon::Critical});
-        return false;
+        return std::nullopt;
     }
-    return true;
+    return page;
+}
+
+std::string ReportsScreen::withLack(const std::string& words, const PoolPage& page)
+{
+    const std::string why = whyNoFinalSheet(page);
+    return why.empty() ? words : words + " " + why;
 }
 
 } // namespace tallyhoop

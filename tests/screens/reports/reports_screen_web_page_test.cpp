@@ -2,6 +2,7 @@
 // and what is said when it cannot be made.
 #include "files/file_names.h"
 #include "files/pool_files.h"
+#include "files/selection_file.h"
 #include "files/setup_file.h"
 #include "output/pool_page_making.h"
 #include "screens/reports/reports_screen_fixture.h"
@@ -15,6 +16,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
+using testing::StartsWith;
 
 struct ReportsWebPage : ReportsScreenTest {
     ReportsWebPage()
@@ -128,6 +130,24 @@ TEST_F(ReportsWebPage, SaysWhyThereIsNone)
     EXPECT_EQ(platform.dialogs.shown[0].caption, "Tallyhoop - frmPoolReports, Save as Web Page");
     EXPECT_EQ(platform.dialogs.shown[0].icon, ui::Icon::Critical);
     EXPECT_THAT(platform.dialogs.fileChoices, IsEmpty());
+}
+
+TEST_F(ReportsWebPage, IsSaidToBeWithoutItsFinalSheet)
+{
+    Entry adams = fourPlayers().front();
+    adams.finalPoints = "99999"; // far above 16 bits
+    folder.put(adams.fileName, selectionFile(adams));
+    platform.dialogs.pick(folder.path() / "POOL.HTML");
+    screen.cmdWebPage.click();
+    EXPECT_THAT(screen.news().text, StartsWith("Saved POOL.HTML. There is no final sheet. "));
+    EXPECT_THAT(screen.news().text, HasSubstr("Adams_AB.THC"));
+
+    letTheMailBeWritten();
+    screen.chkWebPage.ticked = true;
+    create(kEmail);
+    EXPECT_THAT(screen.news().text,
+                StartsWith("Written to the program's folder: POOL.HTML. There is no final sheet. "));
+    EXPECT_THAT(attached(), ElementsAre("POOL.HTML"));
 }
 
 TEST_F(ReportsWebPage, NeedsAPlayer)
