@@ -1,5 +1,6 @@
 // cli/check.cpp - every file of the pool, one after the other, held against what a save in the windows asks for.
 #include "base/lines.h"
+#include "base/numbers.h"
 #include "base/text.h"
 #include "cli/reading.h"
 #include "cli/verbs.h"
@@ -21,11 +22,6 @@
 namespace tallyhoop::cli {
 
 namespace {
-
-std::string counted(std::size_t count, const std::string& noun)
-{
-    return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
 
 std::string inQuotes(const std::string& name) { return "\"" + name + "\""; }
 
@@ -80,6 +76,14 @@ const char* wordsOf(RecordFault fault)
     return "has not the format of a record";
 }
 
+std::string teamWords(const std::string& team) { return team.empty() ? "no team" : inQuotes(team); }
+
+/// @returns which team a row has instead of the field's
+std::string otherTeamWords(const Field& field, TeamRow row, const std::string& team)
+{
+    return rowWords(field, row) + " has " + teamWords(team) + ", the field has " + teamWords(field.teams[row]) + ".";
+}
+
 class Check
 {
 public:
@@ -93,17 +97,18 @@ public:
         checkSelections();
         checkPlayerList();
         checkOtherFiles();
-        m_session.writeText(counted(m_files, "file") + " read, " + counted(m_faults, "fault") + ".\r\n");
+        m_session.writeText(counted(m_files, "file", "files") + " read, " + counted(m_faults, "fault", "faults") +
+                            ".\r\n");
     }
 
 private:
-    void tell(const std::string& fault)
+    void report(const std::string& fault)
     {
         ++m_faults;
         m_session.fault(fault);
     }
 
-    void tell(const std::string& file, const std::string& fault) { tell(file + ": " + fault); }
+    void report(const std::string& file, const std::string& fault) { report(file + ": " + fault); }
 
     /// @returns whether the file is there
     bool begins(const char* name)
@@ -119,27 +124,28 @@ private:
         for (const char* name : {file_name::kSetup, file_name::kResults, file_name::kTeamNames, file_name::kPlayerNames,
                                  file_name::kPrizes, file_name::kSettings})
             if (const std::vector<std::string> spellings = m_session.folder().spellingsOf(name); spellings.size() > 1)
-                tell(name, "There are several of this name: " + joined(spellings, ", ") + ".");
+                report(name, "There are several of this name: " + joined(spellings, ", ") + ".");
     }
 
     void checkField()
     {
         if (!begins(file_name::kSetup)) {
-            tell(file_name::kSetup, kNoField);
+            report(file_name::kSetup, kNoField);
             return;
         }
         ReadField read = tallyhoop::readField(m_session.folder());
         if (read.trouble)
-            tell(file_name::kSetup, read.trouble->message);
+            report(file_name::kSetup, read.trouble->message);
         else if (!read.isWhole)
-            tell(file_name::kSetup, kFieldNotWhole);
+            report(file_name::kSetup, kFieldNotWhole);
         m_field = std::move(read.value);
         if (!m_field.isFinalized())
             return;
         for (const FieldFault& fault : fieldFaults(m_field))
-            tell(file_name::kSetup, std::visit(FieldFaultWords{m_field}, fault));
+            report(file_name::kSetup, std::visit(FieldFaultWords{m_field}, fault));
         for (const RepeatedTeam& team : repeatedTeams(m_field))
-            tell(file_name::kSetup, counted(team.rows.size(), "row") + " have the team " + inQuotes(team.name) + ".");
+            report(file_name::kSetup,
+                   counted(team.rows.size(), "row", "rows") + " have the team " + inQuotes(team.name) + ".");
     }
 
     void checkResults()
@@ -155,7 +161,7 @@ private:
     {
         const Read<std::vector<FolderFile>> listed = m_session.folder().list(file_name::kSelectionExtension);
         if (listed.trouble)
-            tell(kNotListed + listed.trouble->message);
+            report(kNotListed + listed.trouble->message);
         m_files += listed.value.size();
         readSelections(listed.value, startingBracket(m_field), [this](const FolderFile& file, const Read<Entry>& read) {
             checkEntry(file.name, read, EntryKind::Player);
@@ -166,11 +172,11 @@ private:
     void checkEntry(const std::string& file, const Read<Entry>& read, EntryKind kind)
     {
         if (read.trouble) {
-            tell(file, read.trouble->message);
+            report(file, read.trouble->message);
             return;
         }
         for (const EntryFault fault : entryFaults(read.value, kind))
-            tell(file, wordsOf(fault));
+            report(file, wordsOf(fault));
         if (m_field.isFinalized())
             checkPicks(file, read.value.picks, kind);
     }
@@ -179,17 +185,16 @@ private:
     {
         std::size_t missing = 0;
         for (const Fault& fault : faultsOf(picks, m_field)) {
-            const std::string team = inQuotes(picks.at(fault.position));
+            const std::string& team = picks.at(fault.position);
             if (fault.kind == FaultKind::NoPick)
                 ++missing;
             else if (fault.kind == FaultKind::OtherTeam)
-                tell(file, rowWords(m_field, *teamRowOf(fault.position)) + " has " + team + ", the field has " +
-                               inQuotes(m_field.teams[*teamRowOf(fault.position)]) + ".");
+                report(file, otherTeamWords(m_field, *teamRowOf(fault.position), team));
             else
-                tell(file, team + " does not play in " + gameWords(m_field, *gameOf(fault.position)) + ".");
+                report(file, inQuotes(team) + " does not play in " + gameWords(m_field, *gameOf(fault.position)) + ".");
         }
         if (missing > 0 && kind == EntryKind::Player)
-            tell(file, counted(missing, "game") + " of 63 without a pick.");
+            report(file, counted(missing, "game", "games") + " of 63 without a pick.");
     }
 
     void checkPlayerList()
@@ -198,26 +203,26 @@ private:
             return;
         const Result<std::string> bytes = m_session.folder().read(file_name::kPlayerNames);
         if (!bytes) {
-            tell(file_name::kPlayerNames, bytes.failure().message);
+            report(file_name::kPlayerNames, bytes.failure().message);
             return;
         }
         const std::vector<std::string> lines = linesOf(*bytes);
         for (std::size_t line = 0; line < lines.size(); ++line)
             if (const RecordFault fault = faultOf(lines[line]); fault != RecordFault::None)
-                tell(file_name::kPlayerNames, "Record " + std::to_string(line + 1) + " " + wordsOf(fault) + ".");
+                report(file_name::kPlayerNames, "Record " + std::to_string(line + 1) + " " + wordsOf(fault) + ".");
     }
 
     void checkOtherFiles()
     {
         if (begins(file_name::kTeamNames))
             if (const auto names = readTeamNames(m_session.folder()); !names)
-                tell(file_name::kTeamNames, names.failure().message);
+                report(file_name::kTeamNames, names.failure().message);
         if (begins(file_name::kPrizes))
             for (const Failure& fault : readPrizesFaults(m_session.folder()))
-                tell(fault.message);
+                report(fault.message);
         if (begins(file_name::kSettings))
             if (const auto bytes = m_session.folder().read(file_name::kSettings); !bytes)
-                tell(file_name::kSettings, bytes.failure().message);
+                report(file_name::kSettings, bytes.failure().message);
     }
 
     Session& m_session;

@@ -121,8 +121,8 @@ public:
         try {
             m_app.parse(count, words);
             return runVerb();
-        } catch (const CLI::RequiredError& error) {
-            return m_app.get_subcommands().empty() ? usedWrongly(wordsWithoutVerb()) : endOf(error);
+        } catch (const CLI::RequiredError&) {
+            return usedWrongly(m_app.get_subcommands().empty() ? wordsWithoutVerb() : wordsWithoutArgument());
         } catch (const CLI::ParseError& error) {
             return endOf(error);
         }
@@ -227,6 +227,17 @@ private:
         const std::vector<std::string> words = m_app.remaining();
         const bool isVerb = !words.empty() && !words.front().starts_with('-');
         return isVerb ? "There is no verb " + words.front() : "A verb is required";
+    }
+
+    /// @returns what to say when the verb lacks what it is about
+    std::string wordsWithoutArgument() const
+    {
+        const std::string verb = m_app.get_subcommands().front()->get_name();
+        if (verb == "report")
+            return "A number is required: 1 to 7";
+        if (verb == "csv")
+            return "A table is required: standings, picks, picks-by-player or outlook";
+        return "A file is required, or a folder";
     }
 
     /// Answers instead of a verb: with the help, the version, or what is wrong.

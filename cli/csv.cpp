@@ -43,13 +43,13 @@ void csv(Session& session, const CsvOptions& options)
         return;
     }
     const Field field = readField(session);
-    TellingWatcher watcher{session};
+    ReportingWatcher watcher{session};
     const ReportMaking::MadeCsv made = ReportMaking{session.folder(), field, watcher}.makeCsv(
         reportKind(reportOf(options.table)), listSelections(session));
     if (const auto* table = std::get_if<std::string>(&made))
         session.write(*table);
     else
-        tell(session, std::get<ReportRefusal>(made));
+        session.fault(std::get<ReportRefusal>(made).reason);
 }
 
 } // namespace tallyhoop::cli

@@ -1,4 +1,4 @@
-// cli/import.cpp - writes what the review would have ticked at first, and tells of every entry that it would not.
+// cli/import.cpp - writes what the review would have ticked at first, and reports every entry that it would not.
 #include "base/text.h"
 #include "cli/local_time.h"
 #include "cli/mail_library.h"

@@ -1,4 +1,6 @@
 // cli/json.h - figures as JSON; docs/cli.md and docs/schemas/ say what programs can rely on.
+//
+// Each is one object in UTF-8, ended by a line break.
 #pragma once
 
 #include "output/outlook_making.h"

@@ -1,5 +1,4 @@
 // cli/page.cpp - the page that shows the pool in a browser.
-#include "base/text.h"
 #include "cli/reading.h"
 #include "cli/verbs.h"
 #include "output/pool_page_making.h"
@@ -16,8 +15,8 @@ void page(Session& session, const PageOptions& options)
         session.fault(made.failure().message);
         return;
     }
-    if (made->finalSheet && made->finalSheet->rows.empty())
-        session.fault(joined(made->finalSheet->notes, " "));
+    if (const std::string why = whyNoFinalSheet(*made); !why.empty())
+        session.fault(why);
     session.write(poolPage(*made));
 }
 

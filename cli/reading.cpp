@@ -1,4 +1,4 @@
-// cli/reading.cpp - each fault is told with the name of its file.
+// cli/reading.cpp - each fault is reported with the name of its file.
 #include "cli/reading.h"
 
 #include "files/file_names.h"
@@ -11,7 +11,7 @@ namespace tallyhoop::cli {
 
 namespace {
 
-void tell(Session& session, const FileTrouble& trouble)
+void reportTrouble(Session& session, const FileTrouble& trouble)
 {
     if (trouble.file == session.folder().folder())
         session.fault(kNotListed + trouble.failure.message);
@@ -45,11 +45,11 @@ std::optional<OpenedPool> openPool(Session& session)
         session.faultIn(file_name::kSetup, kNoField);
         return std::nullopt;
     }
-    if (const ReadField field = tallyhoop::readField(session.folder()); !field.trouble && !field.isWhole)
-        session.faultIn(file_name::kSetup, kFieldNotWhole);
     ReadPool read = readPoolInSteps(session.folder(), goOn);
+    if (!read.isFieldWhole && !read.isFieldDamaged)
+        session.faultIn(file_name::kSetup, kFieldNotWhole);
     for (const FileTrouble& trouble : read.troubles)
-        tell(session, trouble);
+        reportTrouble(session, trouble);
     OpenedPool opened = openedPool(std::move(read));
     if (opened.pool.entries.empty()) {
         session.fault(kNoPlayers);
@@ -66,17 +66,15 @@ Read<Prizes> readPrizes(Session& session)
     return read;
 }
 
-void tell(Session& session, const ReportRefusal& refusal) { session.fault(refusal.reason); }
-
-void TellingWatcher::fileIsDamaged(const std::filesystem::path& file, const Failure& trouble)
+void ReportingWatcher::fileIsDamaged(const std::filesystem::path& file, const Failure& trouble)
 {
     m_damaged.insert(shown(file.filename()));
     m_session.faultIn(shown(file.filename()), trouble.message);
 }
 
-void TellingWatcher::listIsFaulty(const Failure& fault) { m_session.fault(fault.message); }
+void ReportingWatcher::listIsFaulty(const Failure& fault) { m_session.fault(fault.message); }
 
-bool TellingWatcher::watch(const std::string&, std::size_t, const std::function<void(const Step&)>& work)
+bool ReportingWatcher::watch(const std::string&, std::size_t, const std::function<void(const Step&)>& work)
 {
     work(goOn);
     return true;

@@ -1,4 +1,4 @@
-// cli/reading.h - the files of the pool, read with their faults told.
+// cli/reading.h - the files of the pool, read with their faults reported.
 #pragma once
 
 #include "cli/session.h"
@@ -30,27 +30,24 @@ Field readField(Session& session);
 /// @returns every player's file, in list order
 std::vector<FolderFile> listSelections(Session& session);
 
-/// @returns the field, the results and the entries of which something is known; nothing, and the fault is told, without
-///          a field or without such entries
+/// @returns the field, the results and the entries of which something is known; nothing, and the fault is reported,
+///          without a field or without such entries
 std::optional<OpenedPool> openPool(Session& session);
 
 /// @returns the prizes, or those that could be read; none where there are none
 Read<Prizes> readPrizes(Session& session);
 
-/// Tells why there is no report.
-void tell(Session& session, const ReportRefusal& refusal);
-
-/// Tells of damaged files while reports are made.
-class TellingWatcher : public ReportWatcher
+/// Reports damaged files while reports are made.
+class ReportingWatcher : public ReportWatcher
 {
 public:
-    explicit TellingWatcher(Session& session) : m_session{session} {}
+    explicit ReportingWatcher(Session& session) : m_session{session} {}
 
     void fileIsDamaged(const std::filesystem::path& file, const Failure& trouble) override;
     void listIsFaulty(const Failure& fault) override;
 
     /// Whether a file of this bare name was damaged.
-    bool hasTold(const std::string& file) const { return m_damaged.contains(file); }
+    bool hasReported(const std::string& file) const { return m_damaged.contains(file); }
 
     bool watch(const std::string& what, std::size_t steps, const std::function<void(const Step&)>& work) override;
 

@@ -1,4 +1,4 @@
-// cli/session.h - what every verb works with: the folder, where the output goes, and the faults that are told.
+// cli/session.h - what every verb works with: the folder, where the output goes, and the faults that are reported.
 #pragma once
 
 #include "files/data_folder.h"
@@ -29,7 +29,7 @@ public:
 
     const DataFolder& folder() const { return m_folder; }
 
-    /// Tells a fault on the error stream, in UTF-8 on a line of its own.
+    /// Reports a fault on the error stream, in UTF-8 on a line of its own.
     /// @param words Windows-1252; line breaks become blanks
     void fault(std::string_view words);
 
@@ -44,7 +44,7 @@ public:
     /// @param bytes Windows-1252, lines ended by CR LF
     void writeText(const std::string& bytes);
 
-    /// @returns kFaultsFound when a fault was told, else kDone
+    /// @returns kFaultsFound when a fault was reported, else kDone
     int status() const { return m_faults == 0 ? kDone : kFaultsFound; }
 
 private:

@@ -20,9 +20,10 @@ bool isNobody(const PlayerScore& score)
            });
 }
 
-std::vector<PlayerScore> withoutUnread(std::vector<PlayerScore> scores, const TellingWatcher& watcher)
+std::vector<PlayerScore> withoutUnread(std::vector<PlayerScore> scores, const ReportingWatcher& watcher)
 {
-    std::erase_if(scores, [&](const PlayerScore& score) { return watcher.hasTold(score.fileName) && isNobody(score); });
+    std::erase_if(scores,
+                  [&](const PlayerScore& score) { return watcher.hasReported(score.fileName) && isNobody(score); });
     return scores;
 }
 
@@ -35,14 +36,14 @@ void standings(Session& session, const StandingsOptions& options)
         return;
     }
     const Field field = readField(session);
-    TellingWatcher watcher{session};
+    ReportingWatcher watcher{session};
     const ReportMaking::MadeScores made =
         ReportMaking{session.folder(), field, watcher}.makeScores(listSelections(session));
     if (const auto* scores = std::get_if<std::vector<PlayerScore>>(&made))
         session.write(standingsJson(options.title.empty() ? field.title : fromUtf8(options.title),
                                     withoutUnread(*scores, watcher)));
     else
-        tell(session, std::get<ReportRefusal>(made));
+        session.fault(std::get<ReportRefusal>(made).reason);
 }
 
 } // namespace tallyhoop::cli

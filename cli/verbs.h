@@ -1,6 +1,6 @@
 // cli/verbs.h - the verbs, one file each: what a person can ask for beside the folder and the output.
 //
-// Each one writes what it has made and tells the faults it has met; what is faulty is left out, or makes the verb
+// Each one writes what it has made and reports the faults it has met; what is faulty is left out, or makes the verb
 // impossible, exactly as in the windows.
 #pragma once
 
@@ -72,7 +72,7 @@ struct ImportOptions {
 /// Takes in what players have handed in, as far as nobody has to decide anything.
 void import(Session& session, const ImportOptions& options);
 
-/// Reads every file of the pool and tells every fault.
+/// Reads every file of the pool and reports every fault.
 void check(Session& session);
 
 } // namespace tallyhoop::cli

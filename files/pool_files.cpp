@@ -143,6 +143,7 @@ ReadPool readPoolInSteps(const DataFolder& folder, const Step& step)
     ReadField field = readField(folder);
     pool.field = std::move(field.value);
     read.isFieldDamaged = field.trouble.has_value();
+    read.isFieldWhole = field.isWhole;
     if (field.trouble)
         addTrouble(read, folder.pathTo(file_name::kSetup), *field.trouble);
 

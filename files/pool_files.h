@@ -49,6 +49,7 @@ struct ReadPool {
     std::vector<std::size_t> damagedEntries; ///< indices in pool.entries, ascending
     std::vector<FileTrouble> troubles;       ///< those of the pool, with the file apart; the folder's are of its list
     bool isFieldDamaged = false;
+    bool isFieldWhole = true; ///< as ReadField has it: also false of a file that cannot be read, without any trouble
     bool areResultsDamaged = false;
     bool isListDamaged = false; ///< there may be entries that are not even named
 };

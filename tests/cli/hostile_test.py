@@ -16,16 +16,16 @@ class Hostile(unittest.TestCase):
         self.folder = Folder(self)
 
     def run_all(self, statuses=(0, 1)):
-        """Every verb in turn; gives all faults that were told."""
-        told = []
+        """Every verb in turn; gives all faults that were reported."""
+        reported = []
         for words in VERBS:
             with self.subTest(words):
                 done = self.folder.run(*words)
                 self.assertIn(done.returncode, statuses, done.stderr)
-                self.assertEqual(done.returncode != 0, done.stderr != b"", "a fault is told, or there is none")
+                self.assertEqual(done.returncode != 0, done.stderr != b"", "a fault is reported, or there is none")
                 self.assertIsNone(re.search(r"[\x00-\x09\x0b-\x1f\x7f]", done.stderr.decode("utf-8")))
-                told += faults(done)
-        return told
+                reported += faults(done)
+        return reported
 
     def test_an_empty_folder(self):
         self.run_all()
@@ -34,9 +34,9 @@ class Hostile(unittest.TestCase):
         complete_pool(self.folder)
         name = "Eve\nAll is well.\x1b[2J_E.THC"
         (self.folder.path / name).write_bytes(b"damaged")
-        told = self.run_all()
-        self.assertTrue(any("Eve" in fault for fault in told))
-        self.assertNotIn("All is well.", told)
+        reported = self.run_all()
+        self.assertTrue(any("Eve" in fault for fault in reported))
+        self.assertNotIn("All is well.", reported)
 
     def test_files_that_are_something_else(self):
         complete_pool(self.folder)

@@ -1,4 +1,4 @@
-"""What players have handed in: taken in as far as nobody has to decide anything, and never behind the windows' back."""
+"""What players have handed in: taken in as far as nobody has to decide anything, and never unseen by the windows."""
 
 import email.message
 import fcntl
@@ -96,7 +96,7 @@ class Import(unittest.TestCase):
         self.assertIn("Late.", faults(done)[0])
         self.assertEqual(self.folder.contents(), before)
 
-    def test_each_refused_entry_is_told(self):
+    def test_each_refused_entry_is_reported(self):
         self.inbox.write("junk.txt", b"Hello, I have no bracket.")
         done = self.imports(self.inbox.path / "junk.txt", self.inbox.path / "missing.THC")
         self.assertEqual(done.returncode, FAULTS_FOUND)

@@ -37,6 +37,16 @@ class Status(unittest.TestCase):
                 self.assertEqual((done.returncode, faults(done)),
                                  (USED_WRONGLY, [fault, "Run with --help for more information."]))
 
+    def test_what_a_verb_lacks_is_named(self):
+        for words, fault in ((["report"], "A number is required: 1 to 7"),
+                             (["report", "--title", "1"], "A number is required: 1 to 7"),
+                             (["csv"], "A table is required: standings, picks, picks-by-player or outlook"),
+                             (["import"], "A file is required, or a folder")):
+            with self.subTest(words):
+                done = self.folder.run(*words)
+                self.assertEqual((done.returncode, faults(done)),
+                                 (USED_WRONGLY, [fault, "Run with --help for more information."]))
+
     def test_a_folder_that_is_not_there_is_named(self):
         done = run("--folder", self.folder.path / "nowhere", "standings")
         self.assertEqual((done.returncode, done.stdout), (USED_WRONGLY, b""))
@@ -97,7 +107,7 @@ class Status(unittest.TestCase):
         self.assertTrue(faults(done)[0].startswith("There is no final sheet. "), faults(done))
         self.assertIn(b'"There is no final sheet."', done.stdout)
 
-    def test_a_field_that_cannot_be_read_is_told(self):
+    def test_a_field_that_cannot_be_read_is_reported(self):
         small_pool(self.folder)
         (self.folder.path / "POOLSTART.THS").mkdir()
         for words in (["standings"], ["outlook"], ["final"]):
@@ -119,7 +129,7 @@ class Status(unittest.TestCase):
         done = self.folder.run("check")
         self.assertIn("Clark_D.THC: The file has fewer than 131 lines.", faults(done))
 
-    def test_a_faulty_player_list_is_told(self):
+    def test_a_faulty_player_list_is_reported(self):
         small_pool(self.folder)
         self.folder.write("PLAYERNAMES.CSV", ["too short"])
         done = self.folder.run("report", 2)

@@ -81,9 +81,9 @@ class Words(unittest.TestCase):
         for where, entries in (("man page", entries_of_the_man_page("VERBS")),
                                ("documentation", rows_of_the_documentation("verb"))):
             with self.subTest(where):
-                told = options_by_verb(entries)
-                self.assertEqual(list(told), verbs())
-                self.assertEqual(told, offered)
+                explained = options_by_verb(entries)
+                self.assertEqual(list(explained), verbs())
+                self.assertEqual(explained, offered)
 
     def test_man_page_and_documentation_explain_every_option(self):
         every = set().union(*(options_of(verb) for verb in verbs()))

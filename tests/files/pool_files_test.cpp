@@ -253,6 +253,7 @@ TEST_F(PoolFiles, SayWhichOfTheOthersIsNotWhole)
 {
     ReadPool read = readPoolInSteps(scratch.folder(), goOn);
     EXPECT_FALSE(read.isFieldDamaged);
+    EXPECT_TRUE(read.isFieldWhole);
     EXPECT_FALSE(read.areResultsDamaged);
     EXPECT_FALSE(read.isListDamaged);
     scratch.put("TALLYHOOP.THS", "");
@@ -260,7 +261,17 @@ TEST_F(PoolFiles, SayWhichOfTheOthersIsNotWhole)
     EXPECT_FALSE(read.isFieldDamaged);
     EXPECT_TRUE(read.areResultsDamaged);
     scratch.put("POOLSTART.THS", "x\r\n"); // does not begin as one
-    EXPECT_TRUE(readPoolInSteps(scratch.folder(), goOn).isFieldDamaged);
+    read = readPoolInSteps(scratch.folder(), goOn);
+    EXPECT_TRUE(read.isFieldDamaged);
+    EXPECT_FALSE(read.isFieldWhole);
+}
+
+TEST_F(PoolFiles, SayThatAFieldWithoutTroubleIsNotWhole)
+{
+    scratch.put("POOLSTART.THS", std::string((1u << 20) + 1, 'x')); // far too long to be one
+    const ReadPool read = readPoolInSteps(scratch.folder(), goOn);
+    EXPECT_FALSE(read.isFieldDamaged);
+    EXPECT_FALSE(read.isFieldWhole);
 }
 
 TEST_F(PoolFiles, AreReadStepByStepUntilSomebodyStops)
