@@ -21,7 +21,8 @@ struct Money {
 
     friend constexpr Money operator+(Money left, Money right) { return {left.cents + right.cents}; }
     friend constexpr Money operator-(Money left, Money right) { return {left.cents - right.cents}; }
-    friend constexpr auto operator<=>(Money, Money) = default;
+    friend constexpr bool operator==(Money, Money) = default;
+    friend constexpr std::strong_ordering operator<=>(Money left, Money right) { return left.cents <=> right.cents; }
 };
 
 /// The largest amount that is taken: sums of it over all players of a pool still fit.
@@ -38,7 +39,11 @@ std::optional<Money> moneyOf(std::string_view text);
 struct Percent {
     int hundredths = 0;
 
-    friend constexpr auto operator<=>(Percent, Percent) = default;
+    friend constexpr bool operator==(Percent, Percent) = default;
+    friend constexpr std::strong_ordering operator<=>(Percent left, Percent right)
+    {
+        return left.hundredths <=> right.hundredths;
+    }
 };
 
 inline constexpr Percent kWhole{10'000};
