@@ -53,52 +53,42 @@ public:
         switch (kind) {
         case ScreenKind::Board:
             return shownBy<qt::BoardView>(
-                Placement::Stacked, std::make_unique<BoardScreen>(
-                                        m_folder, m_platform, m_host,
-                                        BoardScreen::Shared{m_shared.field, m_shared.savedPlayer, m_shared.listedPlayer,
-                                                            m_shared.folderTroubleSaid, m_shared.droppedFiles}));
+                Placement::Stacked,
+                made<BoardScreen>(BoardScreen::Shared{m_shared.field, m_shared.savedPlayer, m_shared.listedPlayer,
+                                                      m_shared.folderTroubleSaid, m_shared.droppedFiles}));
         case ScreenKind::Scores:
-            return shownBy<qt::ScoresView>(Placement::OwnWindow,
-                                           std::make_unique<ScoresScreen>(m_folder, m_platform, m_host, m_shared.field,
-                                                                          board().bracket(), m_shared.listedPlayer));
+            return shownBy<qt::ScoresView>(
+                Placement::OwnWindow, made<ScoresScreen>(m_shared.field, board().bracket(), m_shared.listedPlayer));
         case ScreenKind::Setup:
-            return shownBy<qt::SetupView>(Placement::Stacked,
-                                          std::make_unique<SetupScreen>(m_folder, m_platform, m_host, m_shared.field));
+            return shownBy<qt::SetupView>(Placement::Stacked, made<SetupScreen>(m_shared.field));
         case ScreenKind::Seeds:
             return shownBy<qt::SeedsView>(Placement::Modal,
                                           std::make_unique<SeedsScreen>(setup().teamsOfFirstRegion(), setup().seeds(),
                                                                         m_platform.dialogs, m_host));
         case ScreenKind::Reports:
-            return shownBy<qt::ReportsView>(
-                Placement::Stacked, std::make_unique<ReportsScreen>(m_folder, m_platform, m_host, m_shared.field,
-                                                                    m_shared.mailDraft, board()));
+            return shownBy<qt::ReportsView>(Placement::Stacked,
+                                            made<ReportsScreen>(m_shared.field, m_shared.mailDraft, board()));
         case ScreenKind::Players:
-            return shownBy<qt::PlayersView>(
-                Placement::Stacked,
-                std::make_unique<PlayersScreen>(m_folder, m_platform, m_host, m_shared.savedPlayer, m_shared.field));
+            return shownBy<qt::PlayersView>(Placement::Stacked,
+                                            made<PlayersScreen>(m_shared.savedPlayer, m_shared.field));
         case ScreenKind::Email:
-            return shownBy<qt::EmailView>(
-                Placement::Modal, std::make_unique<EmailScreen>(m_folder, m_platform, m_host, m_shared.mailDraft));
+            return shownBy<qt::EmailView>(Placement::Modal, made<EmailScreen>(m_shared.mailDraft));
         case ScreenKind::Outlook:
-            return shownBy<qt::OutlookView>(
-                Placement::Stacked,
-                std::make_unique<OutlookScreen>(m_folder, openPool(m_folder, m_platform, board()), m_platform, m_host,
-                                                std::make_unique<ui::BackgroundThread>()));
+            return shownBy<qt::OutlookView>(Placement::Stacked,
+                                            std::make_unique<OutlookScreen>(m_folder, pool(), m_platform, m_host,
+                                                                            std::make_unique<ui::BackgroundThread>()));
         case ScreenKind::EntryForm:
             return shownBy<qt::EntryFormView>(
-                Placement::Modal, std::make_unique<EntryFormScreen>(
-                                      m_folder, m_platform, m_host,
-                                      EntryFormScreen::Shared{m_shared.field, m_shared.mailDraft, m_shared.organiser}));
+                Placement::Modal,
+                made<EntryFormScreen>(EntryFormScreen::Shared{m_shared.field, m_shared.mailDraft, m_shared.organiser}));
         case ScreenKind::Import:
             return shownBy<qt::ImportView>(
                 Placement::Stacked,
-                std::make_unique<ImportScreen>(m_folder, m_platform, m_host,
-                                               ImportScreen::Shared{m_shared.field, board(), m_shared.droppedFiles},
-                                               qt::takeMailApart));
+                made<ImportScreen>(ImportScreen::Shared{m_shared.field, board(), m_shared.droppedFiles},
+                                   qt::takeMailApart));
         case ScreenKind::Money:
-            return shownBy<qt::MoneyView>(
-                Placement::Stacked,
-                std::make_unique<MoneyScreen>(m_folder, openPool(m_folder, m_platform, board()), m_platform, m_host));
+            return shownBy<qt::MoneyView>(Placement::Stacked,
+                                          std::make_unique<MoneyScreen>(m_folder, pool(), m_platform, m_host));
         }
         throw std::logic_error{"There is no screen of this kind."};
     }
@@ -107,6 +97,15 @@ private:
     // Screens that work on the board or on the setup are loaded while it is, and unloaded before it.
     BoardScreen& board() const { return *m_host.find<BoardScreen>(ScreenKind::Board); }
     SetupScreen& setup() const { return *m_host.find<SetupScreen>(ScreenKind::Setup); }
+
+    OpenedPool pool() const { return openPool(m_folder, m_platform, board()); }
+
+    /// Most screens take the folder, the platform and the host first.
+    template <class Kind, class... Shared>
+    std::unique_ptr<Kind> made(Shared&&... shared) const
+    {
+        return std::make_unique<Kind>(m_folder, m_platform, m_host, std::forward<Shared>(shared)...);
+    }
 
     /// Every view takes its screen and the desk.
     template <class View, class Kind>
