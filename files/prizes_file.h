@@ -34,8 +34,7 @@ struct Prizes {
 Read<Prizes> prizesOf(std::string_view bytes);
 
 /// @returns everything that is wrong with the file's bytes, in the order of the rows, each with the file's name; empty
-/// =
-///          nothing
+///          = nothing
 std::vector<Failure> prizesFaults(std::string_view bytes);
 
 /// Reads the folder's file; without one nobody pays and nobody wins anything.

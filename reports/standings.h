@@ -32,8 +32,7 @@ struct StandingsRow {
 /// Takes the first eight pieces of a packed work row; further ones are lost.
 StandingsRow standingsRow(std::string_view workRow);
 
-/// @returns the packed rows in print order: the most points first, and among equal points the later name in the
-/// alphabet
+/// @returns the packed rows in print order: the most points first, and of equal points the later name in the alphabet
 std::vector<std::string> standingsWorkRows(std::span<const PlayerScore> scores);
 
 /// @returns the same order as places in `scores`

@@ -35,7 +35,7 @@ function chalkOf(pool, picks) {
   return { games, better };
 }
 
-/** More pairs of players than these are not compared. */
+/** The pairs of more players than these are not compared. */
 const MOST_PAIRED_PLAYERS = 1500;
 
 /** In how many games two brackets pick the same team. */

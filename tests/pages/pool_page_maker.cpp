@@ -1,8 +1,7 @@
 // tests/pages/pool_page_maker.cpp - makes the page of a folder's pool, and the engine's figures to compare it with.
 //
 //   pool_page_maker page FOLDER       prints the page; its outlook is counted when no more than 15 games are open, and
-//   is
-//                                     a small forecast before that
+//                                     is a small forecast before that
 //   pool_page_maker engine FOLDER     prints what the program says of results that are supposed. A line of the input is
 //                                     one case: pairs of a place and a row of the field, the winners that come on top
 //                                     of those entered. A line of the output has the open games, then for each player
