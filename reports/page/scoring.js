@@ -57,10 +57,13 @@ function gainOn(player, other, results, pointsOfRound) {
     .map((game) => pointsOfRound[roundOf(game) - 1]));
 }
 
-/** How far each player has moved since the latest round began: places up, less than 0 down; null before any game. */
+/**
+ * How far each player has moved since the latest round began: places up, less than 0 down; null until the second round,
+ * as nobody has a place to come from: all are first before the first game.
+ */
 function movements(pool) {
   const latest = latestRound(pool.results);
-  if (latest === 0) return pool.players.map(() => null);
+  if (latest < 2) return pool.players.map(() => null);
   const before = placesOf(pool.players.map((player) => sum(player.byRound.slice(0, latest - 1))));
   const now = placesOf(pool.players.map((player) => player.points));
   return before.map((place, index) => place - now[index]);

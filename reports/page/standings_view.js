@@ -69,7 +69,8 @@ function standingsColumns(pool) {
 /** What the figures are, under the table. */
 function standingsNotes(pool) {
   const notes = ['Possible: points earned and those that can still be earned. R1 to R6: points of the rounds. '
-    + 'Total: the predicted total of the final. Moved: places since the latest round began.'];
+    + 'Total: the predicted total of the final. Moved: places since the latest round began, '
+    + 'from the second on.'];
   if (!pool.outlook) return notes;
   notes.push('First: the chance to be first, alone or together. Share: that of first place, which those '
     + `who are first together share. ${pool.outlook.basis.join('. ')}.`);

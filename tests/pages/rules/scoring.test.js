@@ -100,6 +100,11 @@ test('Movement is that of places since the latest round began', () => {
   assert.deepStrictEqual(movements(pool), [-1, 0, 0]); // Ann was first together with Ben
 });
 
-test('Before the first game nobody has moved', () => {
-  assert.deepStrictEqual(movements(poolWith(start(), { Ann: upper(), Ben: upper() })), [null, null]);
+test('Until the second round nobody has moved, as all were first before the first game', () => {
+  const brackets = { Ann: upper(), Ben: changed(upper(), { 16: 2 }) };
+  const inFirstRound = changed(start(), { 16: 1 });
+
+  assert.deepStrictEqual(movements(poolWith(start(), brackets)), [null, null]);
+  assert.deepStrictEqual(movements(poolWith(inFirstRound, brackets)), [null, null]);
+  assert.deepStrictEqual(movements(poolWith(changed(inFirstRound, { 24: 1 }), brackets)), [0, 0]);
 });
