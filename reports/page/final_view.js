@@ -13,7 +13,7 @@ function makeFinalTable(pool) {
     { title: 'Player', kind: 'name-column', isHeader: true, cell: makeName, key: ({ name }) => name },
     ...columnIfAny('prize', figure('Prize', 'prize', 'number strong')), // before what a telephone has no room for
     figure('Points', 'points'),
-    figure('Total', 'total'),
+    figure('Predicted', 'total'),
     ...columnIfAny('off', offColumn),
   ], rows).element;
 }

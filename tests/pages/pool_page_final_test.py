@@ -94,7 +94,7 @@ class Final(unittest.TestCase):
             ["1", "PL, Adams (142)", "150", "151", "PL, Clark (160)", "152"],
             ["1", "PL, Baker (147)", "153", "", "PL, Clark (160)", "154"]])
         self.assertEqual(page.all(f"{TIES} h3")[0].text, "Ties, by the total points of the final")
-        self.assertEqual(self.headings(page), ["Place", "Player", "Prize", "Points", "Total"])  # nobody is off yet
+        self.assertEqual(self.headings(page), ["Place", "Player", "Prize", "Points", "Predicted"])  # nobody is off yet
 
     def test_there_are_no_ties_to_turn_once_the_total_is_known(self):
         page = self.open()
@@ -102,7 +102,7 @@ class Final(unittest.TestCase):
 
     def test_without_prizes_there_is_no_such_column(self):
         page = self.open(self.pool(self.names, prizes=None))
-        self.assertEqual(self.headings(page), ["Place", "Player", "Points", "Total", "Off"])
+        self.assertEqual(self.headings(page), ["Place", "Player", "Points", "Predicted", "Off"])
 
     def test_every_name_leads_to_the_bracket(self):
         pool = self.pool(self.names, total="")
@@ -116,7 +116,7 @@ class Final(unittest.TestCase):
     def test_it_is_sorted_by_its_headings(self):
         page = self.open(self.pool(self.names, total=""))
         for heading, once, twice in (
-                (4, ["160", "155", "147", "142", "90"], ["90", "142", "147", "155", "160"]),  # total
+                (4, ["160", "155", "147", "142", "90"], ["90", "142", "147", "155", "160"]),  # predicted
                 (0, ["1=", "1=", "1=", "4", "5"], ["5", "4", "1=", "1=", "1="]),
                 (2, ["16.67", "16.67", "16.66", "", ""], ["16.66", "16.67", "16.67", "", ""])):  # prize
             for expected in once, twice:
