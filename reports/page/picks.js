@@ -7,6 +7,12 @@ function picksOfGame(players, game) {
     .sort((left, right) => right.pickers.length - left.pickers.length || left.team - right.team);
 }
 
+/** The teams that most players have picked to win a game; none when nobody has picked any. */
+function mostPicked(players, game) {
+  const picked = picksOfGame(players, game).filter(({ team }) => team !== 0);
+  return picked.filter(({ pickers }) => pickers.length === picked[0].pickers.length);
+}
+
 /** The right picks that one player alone has made. */
 function soleRightPicks(pool) {
   return gamePlaces.filter((game) => pool.results[game] !== 0).flatMap((game) => {
@@ -35,7 +41,7 @@ function chalkOf(pool, picks) {
   return { games, better };
 }
 
-/** The pairs of more players than these are not compared. */
+/** More players than these are not compared. */
 const MOST_PAIRED_PLAYERS = 1500;
 
 /** In how many games two brackets pick the same team. */
@@ -45,7 +51,16 @@ function gamesAlike(left, right) {
   return alike;
 }
 
-/** The two brackets most alike and the two least alike; null with fewer than two players, or too many. */
+/** A pair before which there is none, the pair found before when it goes further, and one more of as many otherwise. */
+function furtherPair(found, pair, goesFurther) {
+  if (found === null || goesFurther(pair.alike, found.alike)) return { ...pair, pairs: 1 };
+  return pair.alike === found.alike ? { ...found, pairs: found.pairs + 1 } : found;
+}
+
+/**
+ * The two brackets most alike and the two least alike, the first ones of several pairs, with the number of such pairs;
+ * null with fewer than two players, or too many.
+ */
 function closestAndFurthest(players) {
   if (players.length < 2 || players.length > MOST_PAIRED_PLAYERS) return null;
   let closest = null;
@@ -53,8 +68,8 @@ function closestAndFurthest(players) {
   players.forEach((player, index) => {
     for (const other of players.slice(index + 1)) {
       const alike = gamesAlike(player.picks, other.picks);
-      if (closest === null || alike > closest.alike) closest = { players: [player, other], alike };
-      if (furthest === null || alike < furthest.alike) furthest = { players: [player, other], alike };
+      closest = furtherPair(closest, { players: [player, other], alike }, (one, before) => one > before);
+      furthest = furtherPair(furthest, { players: [player, other], alike }, (one, before) => one < before);
     }
   });
   return { closest, furthest };

@@ -53,20 +53,26 @@ function makeGameChoice(pool) {
   ];
 }
 
-function makePair({ players, alike }) {
+function makePair({ players, alike, pairs }) {
   const [one, other] = players.map((player) => makePlayerLink(player));
-  return make('span', {}, one, ' and ', other, `: ${counted(alike, 'game')} alike of ${GAMES}`);
+  const more = pairs === 1 ? '' : `; as many in ${counted(pairs - 1, 'other pair')}`;
+  return make('span', {}, one, ' and ', other, `: ${counted(alike, 'game')} alike of ${GAMES}${more}`);
+}
+
+/** "Most-loved champion" and "1 Duke: 3 players of 8"; of many that are loved alike their number. */
+function lovedInWords(pool, loved) {
+  const players = `${counted(loved[0].pickers.length, 'player')} of ${pool.players.length}`;
+  const names = loved.map(({ team }) => withSeed(pool, team)).join(', ');
+  if (loved.length === 1) return ['Most-loved champion', `${names}: ${players}`];
+  return ['Most-loved champions', `${loved.length > NAMES_AT_ONCE ? `${loved.length} teams` : names}: ${players} each`];
 }
 
 /** What there is to say in one line each. */
 function makeFacts(pool) {
-  const [loved] = picksOfGame(pool.players, CHAMPION).filter(({ team }) => team !== 0);
+  const loved = mostPicked(pool.players, CHAMPION);
   const pairs = closestAndFurthest(pool.players);
   const facts = [];
-  if (loved) {
-    const players = `${counted(loved.pickers.length, 'player')} of ${pool.players.length}`;
-    facts.push(['Most-loved champion', `${withSeed(pool, loved.team)}: ${players}`]);
-  }
+  if (loved.length > 0) facts.push(lovedInWords(pool, loved));
   if (pairs) facts.push(['Closest pair', makePair(pairs.closest)], ['Furthest pair', makePair(pairs.furthest)]);
   return make('dl', { class: 'facts' },
     ...facts.map(([term, fact]) => make('div', {}, make('dt', {}, term), make('dd', {}, fact))));

@@ -9,7 +9,7 @@ const FILES = ['web/places.js', 'page/data.js', 'page/scoring.js', 'page/open_ga
   'page/picks.js', 'page/road.js', 'page/sorting.js'];
 const NAMES = ['allPlaces', 'gamePlaces', 'feeders', 'placeAfter', 'roundOf', 'isTeamPlace', 'gamesOfRound', 'poolOf',
   'latestRound', 'withSeed', 'score', 'placesOf', 'gainOn', 'movements', 'openGamesOf', 'countFirsts', 'verdictOf',
-  'choosableGames', 'teamsInGame', 'withWinner', 'withPicksOf', 'supposedGames', 'standingsIf', 'picksOfGame',
+  'choosableGames', 'teamsInGame', 'withWinner', 'withPicksOf', 'supposedGames', 'standingsIf', 'picksOfGame', 'mostPicked',
   'soleRightPicks', 'chalkOf', 'closestAndFurthest', 'gamesAlike', 'chanceStages', 'forecastsInWords', 'pointStages',
   'stepOf', 'chartOf', 'lineOf', 'numberIn', 'sortedBy'];
 

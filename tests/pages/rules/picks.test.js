@@ -3,8 +3,8 @@
 
 const assert = require('node:assert');
 const test = require('node:test');
-const { chalkOf, chanceStages, changed, chartOf, closestAndFurthest, forecastsInWords, gamesAlike, lineOf, picksOfGame,
-  pointStages, poolWith, soleRightPicks, start, stepOf, upper, withSeed } = require('./page_scripts.js');
+const { chalkOf, chanceStages, changed, chartOf, closestAndFurthest, forecastsInWords, gamesAlike, lineOf, mostPicked,
+  picksOfGame, pointStages, poolWith, soleRightPicks, start, stepOf, upper, withSeed } = require('./page_scripts.js');
 
 const names = (players) => players.map((player) => player.name);
 
@@ -13,6 +13,17 @@ test('The teams of a game come with those who picked them, most first', () => {
 
   assert.deepStrictEqual(picksOfGame(pool.players, 126).map(({ team, pickers }) => [team, names(pickers)]),
     [[33, ['Ben', 'Cleo']], [1, ['Ann']]]);
+});
+
+test('Of teams that are picked alike each is most picked', () => {
+  const champions = (...teams) => poolWith(start(), Object.fromEntries(teams.map((team, index) =>
+    [`Player ${index}`, changed(upper(), { 126: team })]))).players;
+  const most = (...teams) => mostPicked(champions(...teams), 126).map(({ team }) => team);
+
+  assert.deepStrictEqual(most(33, 1, 33, 1, 17), [1, 33]);
+  assert.deepStrictEqual(most(1, 33, 33), [33]);
+  assert.deepStrictEqual(most(0, 0, 17), [17]); // no pick is no team
+  assert.deepStrictEqual(most(0, 0), []);
 });
 
 test('A right pick is the only one when no other player has it', () => {
@@ -44,8 +55,9 @@ test('The closest and the furthest pair are found', () => {
 
   const { closest, furthest } = closestAndFurthest(pool.players);
 
-  assert.deepStrictEqual([names(closest.players), closest.alike], [['Ann', 'Cleo'], 62]);
-  assert.deepStrictEqual([names(furthest.players), furthest.alike], [['Ann', 'Ben'], 61]);
+  // Ben and Cleo are 62 alike, too: game 16 parts them.
+  assert.deepStrictEqual([names(closest.players), closest.alike, closest.pairs], [['Ann', 'Cleo'], 62, 2]);
+  assert.deepStrictEqual([names(furthest.players), furthest.alike, furthest.pairs], [['Ann', 'Ben'], 61, 1]);
   assert.strictEqual(closestAndFurthest(pool.players.slice(1, 2)), null);
 });
 
