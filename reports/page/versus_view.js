@@ -36,13 +36,17 @@ function versusColumns(pool, player, other) {
   ];
 }
 
-function versusSummary(pool, player, other, rows) {
+/** How far they are apart, and what each has and can still gain on the other. */
+function makeVersusSummary(pool, player, other, rows) {
   const different = rows.filter((row) => row.differs);
   const open = different.filter(({ game }) => pool.results[game] === 0);
-  const gains = [gainOn(player, other, pool.results, pool.points), gainOn(other, player, pool.results, pool.points)];
-  return `${player.name} has ${counted(player.points, 'point')}, ${other.name} ${other.points}. They differ in `
-    + `${counted(different.length, 'game')}, ${open.length} of them open. ${player.name} can still gain `
-    + `${counted(gains[0], 'point')} on ${other.name}, ${other.name} ${gains[1]} on ${player.name}.`;
+  const makeGain = (one, against) => make('div', {}, make('dt', {}, one.name), make('dd', {},
+    `${counted(one.points, 'point')}, can still gain ${gainOn(one, against, pool.results, pool.points)} on the other`));
+  const words = `They differ in ${counted(different.length, 'game')}, ${open.length} of them open.`;
+  return [
+    make('p', { class: 'summary' }, words),
+    make('dl', { class: 'facts' }, makeGain(player, other), makeGain(other, player)),
+  ];
 }
 
 function makeVersus(pool, player, other) {
@@ -53,7 +57,7 @@ function makeVersus(pool, player, other) {
   all.addEventListener('change', () => table.filter((row) => all.checked || row.differs));
   table.element.classList.add('versus');
   return [
-    make('p', { class: 'summary' }, versusSummary(pool, player, other, rows)),
+    ...makeVersusSummary(pool, player, other, rows),
     make('p', { class: 'check' }, all, make('label', { for: 'versus-all' }, 'Show all games, also those alike')),
     makeScroller(`${player.name} and ${other.name}`, table.element),
   ];

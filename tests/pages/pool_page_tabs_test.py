@@ -177,9 +177,9 @@ class Tabs(unittest.TestCase):
         open_games = [game for game in different if game not in self.pool.entered]
 
         summary = page.all(".summary")[0].text
-        self.assertIn(f"differ in {len(different)} games, {len(open_games)} of them open.", summary)
-        self.assertIn(f"can still gain {self.gain(mine, others)} points on {self.player(11)}, "
-                      f"{self.player(11)} {self.gain(others, mine)} on {self.player(3)}.", summary)
+        self.assertEqual(summary, f"They differ in {len(different)} games, {len(open_games)} of them open.")
+        for fact, gain in zip(page.all("#brackets .facts dd"), (self.gain(mine, others), self.gain(others, mine)), strict=True):
+            self.assertTrue(fact.text.endswith(f" points, can still gain {gain} on the other"), fact.text)
         rows = page.rows(".versus")
         self.assertEqual(len(rows), len(different))
         self.assertEqual(sum(int(row[5] or 0) for row in rows), self.gain(mine, others))
