@@ -46,7 +46,7 @@ class PagePool:
         lines = field or pool_2000.setup_file()
         self.teams = lines[1:65]
         self._write("POOLSTART.THS", lines)
-        self.truth = random_bracket(dice)
+        self.truth = self.truth_of(dice)
         self.entered = {game: self.truth[game] for game in PLAYED_ORDER[:played] if game not in without}
         self._write("TALLYHOOP.THS", self._selection(self.entered, "A", "FinalResults", total))
         self.names = names or [f"{SURNAMES[number % 16]} {number // 16 + 1}" for number in range(players)]
@@ -62,6 +62,9 @@ class PagePool:
         self.size = page.stat().st_size
         self.page = page
         self.address = page.as_uri()
+
+    def truth_of(self, dice):
+        return random_bracket(dice)
 
     def brackets_of(self, dice):
         return [random_bracket(dice) for _ in self.names]
