@@ -27,15 +27,20 @@ PREDICTED = "142", "147", "160", "155", "90"
 class Settled(PagePool):
     """Three players have every game right, the fourth all but the champion, the fifth has nothing."""
 
-    def __init__(self, names, total="150", played=63, prizes=PRIZES, **options):
-        super().__init__(names=names, played=played, total=total, predicted=PREDICTED, prizes=prizes, **options)
+    def __init__(self, names, total="150", played=63, prizes=PRIZES, predicted=PREDICTED, fault=False, **options):
+        """fault: whether the program has something to say of it."""
+        self.status = 1 if fault else 0
+        super().__init__(names=names, played=played, total=total, predicted=predicted, prizes=prizes, **options)
 
     def brackets_of(self, dice):
         [loser] = {self.truth[place] for place in feeders(CHAMPION)} - {self.truth[CHAMPION]}
         return [self.truth, self.truth, self.truth, {**self.truth, CHAMPION: loser}, {}]
 
     def made_page(self):
-        return subprocess.run([CLI, "--folder", self.folder, "page"], capture_output=True, check=True).stdout
+        made = subprocess.run([CLI, "--folder", self.folder, "page"], capture_output=True)
+        if made.returncode != self.status:
+            raise AssertionError(made.stderr)
+        return made.stdout
 
 
 class Final(unittest.TestCase):
@@ -103,6 +108,12 @@ class Final(unittest.TestCase):
     def test_without_prizes_there_is_no_such_column(self):
         page = self.open(self.pool(self.names, prizes=None))
         self.assertEqual(self.headings(page), ["Place", "Player", "Points", "Predicted", "Off"])
+
+    def test_a_sheet_that_cannot_be_made_leaves_its_reason_and_no_table(self):
+        page = self.open(self.pool(self.names, predicted=("142", "147", "160", "155", "99999"), fault=True))
+        self.assertEqual(self.notes(page)[0], "There is no final sheet.")
+        self.assertIn("Player 0004.THC", self.notes(page)[1])
+        self.assertEqual(page.all("#final table"), [])
 
     def test_every_name_leads_to_the_bracket(self):
         pool = self.pool(self.names, total="")
