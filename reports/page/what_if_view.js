@@ -57,8 +57,16 @@ function makeWhatIfTable(pool, { rows, outcomes }) {
     ...waysColumns(pool, outcomes),
     movementColumn(({ player, place }) => player.place - place),
   ];
-  rows.sort((left, right) => left.place - right.place || byName(left.player, right.player));
   return new Table('Standings by what is supposed', columns, rows).element;
+}
+
+const FIRST_PLAYERS = 3;
+
+/** The first players by what is supposed, whom a telephone keeps in view beside the games. */
+function makeFirstPlayers({ rows }) {
+  return rows.slice(0, FIRST_PLAYERS).map(({ player, place, points }) => make('li', {},
+    make('span', { class: 'number' }, `${place} `), make('span', { class: 'first-name' }, player.name),
+    make('span', {}, ` ${counted(points, 'point')} `), makeMovement(player.place - place)));
 }
 
 function whatIfInWords(pool, outcomes) {
@@ -74,7 +82,9 @@ function whatIfInWords(pool, outcomes) {
 function showWhatIf(pool) {
   const focused = document.activeElement?.dataset ?? {};
   const standings = standingsIf(pool, supposed);
+  standings.rows.sort((left, right) => left.place - right.place || byName(left.player, right.player));
   byId('what-if-words').textContent = whatIfInWords(pool, standings.outcomes);
+  byId('what-if-first').replaceChildren(...makeFirstPlayers(standings));
   byId('what-if-games').replaceChildren(...makeGames(pool));
   byId('what-if-table').replaceChildren(makeWhatIfTable(pool, standings));
   if (focused.game) {
@@ -106,8 +116,10 @@ function fillWhatIf(panel, pool) {
     make('p', { class: 'hint' }, 'Press the team that you suppose to win; press it again to take that back.'),
     makeWhatIfTools(pool),
     make('p', { id: 'what-if-words', role: 'status' }),
+    make('ol', { id: 'what-if-first', 'aria-label': 'First places by what is supposed' }),
     make('div', { class: 'what-if' },
       make('div', { id: 'what-if-games' }),
-      makeScroller('Standings by what is supposed', make('div', { id: 'what-if-table' }))));
+      makeScroller('Standings by what is supposed', make('div', { id: 'what-if-table' }))),
+    make('p', { class: 'hint' }, 'Moved: places that what is supposed makes, against the standings as entered.'));
   showWhatIf(pool);
 }

@@ -3,7 +3,7 @@
 import random
 import unittest
 
-from browser import DESKTOP, Browser
+from browser import DESKTOP, SIDEWAYS, TELEPHONE, Browser
 from entry_form import CHAMPION, GAME_PLACES, TEAM_PLACES, feeders
 from pool_page import Page, PagePool, row_of
 
@@ -150,6 +150,47 @@ class WhatIf(unittest.TestCase):
 
         self.assertEqual({row[1]: row[4] for row in page.rows("#what-if-table")}, shares)
         self.assertIn("Ways are counted once 15 are open or fewer", page.by_id("what-if-words").text)
+
+    def test_it_is_said_what_moved_means_here(self):
+        page = self.open(PagePool(players=3, played=62))
+        page.show("what-if")
+        self.assertIn("Moved: places that what is supposed makes, against the standings as entered.",
+                      page.by_id("what-if").text)
+
+    def first_players(self, page):
+        """Place, name, points and movement of those in the short list, when all of it is in view and nothing covers it."""
+        covered = self.browser.run(
+            "return Array.from(document.querySelectorAll('#what-if-first li'), (line) => { "
+            "const { left, width, top, height } = line.getBoundingClientRect(); "
+            "return line.contains(document.elementFromPoint(left + 12, top + height / 2)) && left + width <= innerWidth; })")
+        self.assertEqual(covered, [True] * 3)
+        return [line.text for line in page.all("#what-if-first li")]
+
+    def test_on_a_telephone_the_first_places_stay_in_view(self):
+        pool = PagePool(players=12, played=0)  # 32 games can be chosen
+        self.addCleanup(pool.close)
+        for size in TELEPHONE, SIDEWAYS:
+            page = self.open(pool, size=size, touch=True)
+            page.show("what-if")
+            games = [game for game in GAME_PLACES if game % 31 in range(16, 24) and game < 124]
+            for game in games[0], games[15], games[31]:
+                [upper, _] = page.all(f'.side[data-game="{game}"]')
+                self.browser.tap(upper)
+                rows = [row[1:3] for row in page.rows("#what-if-table")[:3]]
+                shown = self.first_players(page)
+                for (name, points), line in zip(rows, shown, strict=True):
+                    self.assertEqual(line.split("\n")[1:3], [name, f"{points} point{'' if points == '1' else 's'}"])
+                pressed = page.all(f'.side[data-game="{game}"]')[0]
+                self.assertEqual(pressed.get_attribute("aria-pressed"), "true")
+                self.assertTrue(self.browser.run("const { left, top, height } = arguments[0].getBoundingClientRect(); "
+                                                 "return arguments[0].contains(document.elementFromPoint(left + 9, "
+                                                 "top + height / 2))", pressed))  # and the game, too
+            self.browser.close()
+
+    def test_a_desktop_has_the_standings_beside_the_games(self):
+        page = self.open(PagePool(players=3, played=62), size=DESKTOP)
+        page.show("what-if")
+        self.assertFalse(page.by_id("what-if-first").is_displayed())
 
     def test_there_is_nothing_to_choose_at_the_end(self):
         page = self.open(PagePool(players=3, played=63))
