@@ -166,6 +166,12 @@ class WhatIf(unittest.TestCase):
         self.assertEqual(covered, [True] * 3)
         return [line.text for line in page.all("#what-if-first li")]
 
+    def scroll_to(self, side):
+        """Scrolls the page until the games begin at its top, and the games until a side is below their beginning."""
+        self.browser.run("const games = document.getElementById('what-if-games'); "
+                         "const top = (one) => one.getBoundingClientRect().top; "
+                         "scrollBy(0, top(games)); games.scrollBy(0, top(arguments[0]) - top(games) - 110)", side)
+
     def test_on_a_telephone_the_first_places_stay_in_view(self):
         pool = PagePool(players=12, played=0)  # 32 games can be chosen
         self.addCleanup(pool.close)
@@ -175,6 +181,7 @@ class WhatIf(unittest.TestCase):
             games = [game for game in GAME_PLACES if game % 31 in range(16, 24) and game < 124]
             for game in games[0], games[15], games[31]:
                 [upper, _] = page.all(f'.side[data-game="{game}"]')
+                self.scroll_to(upper)
                 self.browser.tap(upper)
                 rows = [row[1:3] for row in page.rows("#what-if-table")[:3]]
                 shown = self.first_players(page)
