@@ -65,8 +65,7 @@ void BoardMenus::chooseIcons()
     mnuOutlook.icon = ui::MenuIcon::Score;
     mnuHighSeed.icon = ui::MenuIcon::Assist;
     mnuEditNames.icon = ui::MenuIcon::People;
-    mnuMoney.icon = ui::MenuIcon::Score;
-    mnuSetupOptions.icon = ui::MenuIcon::Setup;
+    mnuSetupOptions.icon = mnuMoney.icon = ui::MenuIcon::Setup;
     mnuDemoSet.icon = ui::MenuIcon::Demo;
     mnuDemoReset.icon = ui::MenuIcon::Reset;
     mnuHelpDisplay.icon = ui::MenuIcon::Help;

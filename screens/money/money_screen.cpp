@@ -33,6 +33,17 @@ const ui::Message kNotSaved{"MONEY NOT SAVED",
                             help_topic::kMoney,
                             true};
 
+/// Shows everything that is wrong with the file: what is not understood is lost when the file is saved.
+void showFaults(ui::Dialogs& dialogs, const std::vector<Failure>& faults)
+{
+    std::vector<std::string> lines;
+    lines.reserve(faults.size() + 2);
+    for (const Failure& fault : faults)
+        lines.push_back(fault.message);
+    lines.insert(lines.end(), {" ", "What could be read is on the screen."});
+    dialogs.show({kCaption, joinLines(lines), ui::Buttons::Ok, ui::Icon::Critical, help_topic::kMoney});
+}
+
 } // namespace
 
 MoneyScreen::MoneyScreen(const DataFolder& folder, OpenedPool opened, const ui::Platform& platform, Screens& screens)
@@ -79,7 +90,7 @@ void MoneyScreen::load()
     const Read<Prizes> read = readPrizes(m_folder);
     if (read.trouble) {
         m_known.noteDamage(file);
-        showTrouble(m_platform.dialogs, *read.trouble);
+        showFaults(m_platform.dialogs, readPrizesFaults(m_folder));
     }
     m_trouble = read.trouble;
     fill(read.value.table);

@@ -72,7 +72,8 @@ void PrizeBoxes::fill(const PrizeTable& table)
     const std::size_t shown = std::min(table.prizes.size(), kPrizeBoxes);
     m_further.assign(table.prizes.begin() + static_cast<std::ptrdiff_t>(shown), table.prizes.end());
     ui::selectOption(optTies, static_cast<std::size_t>(table.ties));
-    lblMorePrizes.text = furtherPrizesInWords(m_further.size());
+    const auto nothing = std::ranges::count(m_further, Prize{Money{}});
+    lblMorePrizes.text = furtherPrizesInWords(m_further.size() - static_cast<std::size_t>(nothing));
     lblMorePrizes.visible = !m_further.empty();
 }
 
@@ -108,8 +109,18 @@ std::optional<BoxFault> PrizeBoxes::readPlaces(PrizeTable& table)
     while (!table.prizes.empty() && table.prizes.back() == Prize{Money{}})
         table.prizes.pop_back();
     if (const std::optional<Failure> tooMuch = faultOf(table); tooMuch && !fault)
-        fault = {&txtPrize[0], tooMuch->message};
+        fault = {lastShare(), tooMuch->message};
     return fault;
+}
+
+/// @returns the box of the last share, where a sum that is too large can be corrected; the first box without one
+ui::TextBox* PrizeBoxes::lastShare()
+{
+    ui::TextBox* box = &txtPrize[0];
+    for (std::size_t i = 0; i < kPrizeBoxes; ++i)
+        if (txtPrize[i].text.find('%') != std::string::npos)
+            box = &txtPrize[i];
+    return box;
 }
 
 std::vector<std::string> PrizeBoxes::entered() const

@@ -52,6 +52,7 @@ protected:
 private:
     void explain();
     std::optional<BoxFault> readPlaces(PrizeTable& table);
+    ui::TextBox* lastShare();
 
     std::vector<Prize> m_further; ///< prizes for which there are no boxes
 };

@@ -91,7 +91,7 @@ void ReportsScreen::explainControls()
     cmdSavePdf.explanation = "Saves the ticked reports as PDF files: one is named, several go into a folder.";
     cmdSaveCsv.explanation = "Saves the ticked standings and team selections as tables for spreadsheets.";
     cmdWebPage.explanation = "Saves one file that shows the whole pool in any browser (F12).";
-    chkWebPage.explanation = "Makes the page that shows the whole pool in any browser, and mails it, too.";
+    chkWebPage.explanation = "Makes the page that shows the whole pool in any browser, and attaches it to the message.";
     chkAllPlayers.changed = [this] {
         if (chkAllPlayers.ticked)
             ui::selectOption(optSelected, 0); // the only sheet that there is for each player

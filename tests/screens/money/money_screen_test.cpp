@@ -76,11 +76,11 @@ TEST_F(MoneyScreenTest, SavesWhatIsOnTheScreen)
 
 TEST_F(MoneyScreenTest, KeepsWhatItDoesNotShow)
 {
-    // Given: prizes for eleven and twelve places, of which ten have boxes, and a player whose selection is gone.
+    // Given: prizes for the first and the twelfth place, of which ten have boxes, and a player whose selection is gone.
     putFile({"Prize,1,5.00", "Prize,12,1.00", "Paid,Gone_G.THC,Yes"});
     open();
     EXPECT_TRUE(screen->lblMorePrizes.visible);
-    EXPECT_EQ(screen->lblMorePrizes.text, "and 2 prizes for further places, as in PRIZES.CSV");
+    EXPECT_EQ(screen->lblMorePrizes.text, "and 1 prize for further places, as in PRIZES.CSV");
     type(screen->txtPrize[0], "6");
     screen->cmdSave.click();
     const Read<Prizes> saved = readPrizes(folder);
@@ -121,7 +121,7 @@ TEST_F(MoneyScreenTest, RefusesSharesOfMoreThanEverything)
     EXPECT_EQ(screen->lblAmount[0].text, "");
     screen->cmdSave.click();
     EXPECT_EQ(platform.dialogs.shown.size(), 1u);
-    EXPECT_EQ(screen->focused, &screen->txtPrize[0]);
+    EXPECT_EQ(screen->focused, &screen->txtPrize[1]);
     EXPECT_FALSE(scratch.has("PRIZES.CSV"));
 }
 
@@ -171,10 +171,13 @@ TEST_F(MoneyScreenTest, AsksBeforeChangesAreForgotten)
 
 TEST_F(MoneyScreenTest, KeepsADamagedFileBeforeItIsReplaced)
 {
-    putFile({"Entry fee,,10.00", "Prize,first,60 %"});
+    putFile({"Entry fee,,10.00", "Prize,first,60 %", "Ties,,closest"});
     open();
     ASSERT_EQ(platform.dialogs.shown.size(), 1u);
-    EXPECT_EQ(platform.dialogs.shown[0].text, "PRIZES.CSV: Row 2 is not understood:\r\nPrize, first, 60 %");
+    EXPECT_EQ(platform.dialogs.shown[0].caption, "Money");
+    EXPECT_EQ(platform.dialogs.shown[0].text, "PRIZES.CSV: Row 2 is not understood:\r\nPrize, first, 60 %\r\n"
+                                              "PRIZES.CSV: Row 3 is not understood:\r\nTies, , closest\r\n \r\n"
+                                              "What could be read is on the screen.");
     EXPECT_EQ(screen->txtEntryFee.text, "10.00");
 
     screen->cmdSave.click();
