@@ -137,10 +137,11 @@ QWidget* OutlookView::makePlayer()
     player->addWidget(proof);
     player->addStretch();
     auto* const output = look::row();
-    for (ui::Command* command : {&m_outlook.cmdSaveReport, &m_outlook.cmdSavePdf, &m_outlook.cmdSaveCsv,
-                                 &m_outlook.cmdPrint, &m_outlook.cmdPreview})
+    for (ui::Command* command : {&m_outlook.cmdSaveReport, &m_outlook.cmdSavePdf, &m_outlook.cmdSaveCsv})
         output->addWidget(add(*command));
     output->addStretch();
+    for (ui::Command* command : {&m_outlook.cmdPrint, &m_outlook.cmdPreview})
+        output->addWidget(add(*command));
     player->addLayout(output);
     player->addLayout(buttons);
     return part(player);
