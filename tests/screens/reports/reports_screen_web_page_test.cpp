@@ -141,13 +141,6 @@ TEST_F(ReportsWebPage, IsSaidToBeWithoutItsFinalSheet)
     screen.cmdWebPage.click();
     EXPECT_THAT(screen.news().text, StartsWith("Saved POOL.HTML. There is no final sheet. "));
     EXPECT_THAT(screen.news().text, HasSubstr("Adams_AB.THC"));
-
-    letTheMailBeWritten();
-    screen.chkWebPage.ticked = true;
-    create(kEmail);
-    EXPECT_THAT(screen.news().text,
-                StartsWith("Written to the program's folder: POOL.HTML. There is no final sheet. "));
-    EXPECT_THAT(attached(), ElementsAre("POOL.HTML"));
 }
 
 TEST_F(ReportsWebPage, NeedsAPlayer)
