@@ -158,8 +158,9 @@ def take_reports(program):
         program.click(f"chkOptions_{index}")
     if not program.widget("chkOptions_0")["checked"]:
         program.click("chkOptions_0")
-    program.click("optDestination_1")
-    program.wait(lambda: program.widget("optDestination_1")["checked"], "the destination")
+    program.click("chkWebPage")
+    program.wait(lambda: program.widget("chkWebPage")["checked"], "the page being attached")
+    out_of_the_way(program)
     take(program, "reports")
     program.click("cmdPreview")
     program.wait(lambda: program.modal().get("class") == "QPrintPreviewDialog", "the preview")
