@@ -1,7 +1,7 @@
 # reports/web/embed.cmake - makes a source with a page's template, whose style and scripts are in their places.
 #
 # The page's policy names the only style and the only script that a browser may take: each by its SHA-256, in base64.
-# Given: PAGE, STYLES and SCRIPTS (files, the latter two as lists), CONSTANT (name of the template), HEADER (which declares
+# Given: HEAD and PAGE (files), STYLES and SCRIPTS (lists of files), CONSTANT (name of the template), HEADER (which declares
 # it) and OUTPUT. embed_page() in CMakeLists.txt beside this calls it.
 
 cmake_minimum_required(VERSION 3.25)
@@ -52,6 +52,8 @@ function(put place text)
 endfunction()
 
 file(READ ${PAGE} page)
+file(READ ${HEAD} head)
+string(REPLACE "@HEAD@" "${head}" page "${page}")
 joined("${STYLES}" style)
 joined("${SCRIPTS}" script)
 put(STYLE "${style}")

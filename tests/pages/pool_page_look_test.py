@@ -162,6 +162,15 @@ class Look(unittest.TestCase):
         self.assertEqual(self.browser.run(visible, ".chip .sample"), [True] * 5)
         self.assertEqual(self.browser.run(visible, ".chip span"), [False] * 5)
 
+    def test_the_chart_on_paper_has_the_colours_of_the_light(self):
+        page = self.open(dark=True)
+        page.show("road")
+        color_of = "return getComputedStyle(document.querySelector('.chip .line-0 polyline')).stroke"
+        self.assertEqual(self.browser.run(color_of), "rgb(138, 184, 255)")
+        self.browser.command("Emulation.setEmulatedMedia", media="print",
+                             features=[{"name": "prefers-color-scheme", "value": "dark"}])
+        self.assertEqual(self.browser.run(color_of), "rgb(16, 85, 181)")
+
     def test_every_part_on_paper(self):
         page = self.open()
         for state in self.every_state(page):

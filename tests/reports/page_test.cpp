@@ -302,14 +302,6 @@ TEST(PoolPage, RefersToNothingElsewhere)
         EXPECT_EQ(occurrencesOf(reference, page), 0U) << reference;
 }
 
-TEST(PoolPage, HasTheColoursOfTheLightOnPaper)
-{
-    const std::string page = poolPageFor(fourPlayersPool());
-    const std::size_t paper = page.find("@media print");
-    for (const std::string_view line : {"--line-0: #1055b5", "--line-7: #4a4f5c"})
-        EXPECT_NE(page.find(line, paper), std::string::npos) << line;
-}
-
 TEST(PoolPage, HasNoPlaceOfTheTemplateLeft)
 {
     const std::string page = poolPageFor(fourPlayersPool());
