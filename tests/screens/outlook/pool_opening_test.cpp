@@ -78,6 +78,18 @@ TEST_F(PoolOpening, KeepsPlayersOfWhomAPartCanBeRead)
     EXPECT_THAT(unreadInWords(opened), ElementsAre("1 selection was read only in part"));
 }
 
+TEST_F(PoolOpening, KeepsAPlayerOfWhomOnlyTheNameCanBeRead)
+{
+    Entry named;
+    named.name = "Bob";
+    scratch.put("Bob_X.THC", selectionFile(named) + "more\r\n");
+    const OpenedPool opened = open();
+    ASSERT_THAT(opened.pool.entries, SizeIs(3));
+    EXPECT_EQ(opened.pool.entries[1].name, "Bob");
+    EXPECT_EQ(opened.missing, 0u);
+    EXPECT_EQ(opened.inPart, 1u);
+}
+
 TEST_F(PoolOpening, KeepsAnEmptySelectionThatIsWhole)
 {
     scratch.put("Zoe_Z.THC", selectionFile(Entry{}));
