@@ -1,8 +1,8 @@
 // app/program_folder.cpp - the same folder by both of its names, or none.
 #include "app/program_folder.h"
 
+#include "base/reason.h"
 #include "base/text.h"
-#include "base/windows1252.h"
 #include "files/data_folder.h"
 
 #include <system_error>
@@ -20,7 +20,7 @@ Result<std::filesystem::path> programFolder(const std::filesystem::path& asNamed
         return asNamed;
     if (error && asNamed == real)
         return Failure{joinLines({"Tallyhoop cannot work in its folder, because the system does not lead there:", " ",
-                                  shown(real), fromUtf8(error.message()), " ", "Nothing has been read or written."})};
+                                  shown(real), reasonOf(error), " ", "Nothing has been read or written."})};
     return Failure{
         joinLines({"Tallyhoop cannot work in its folder, because the name of the folder, or of one around it,",
                    "has characters that cannot be read (they are not in UTF-8):", " ", shown(real), " ",

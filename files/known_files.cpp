@@ -1,7 +1,7 @@
 // files/known_files.cpp - comparing a file with what it held.
 #include "files/known_files.h"
 
-#include "base/windows1252.h"
+#include "base/reason.h"
 #include "files/data_folder.h"
 #include "files/replace_file.h"
 
@@ -34,7 +34,7 @@ FileContent KnownFiles::contentOf(const std::filesystem::path& file)
     std::error_code error;
     const fs::file_status status = fs::status(file, error);
     if (status.type() == fs::file_type::none && !isOutOfReach(error))
-        return {true, Failure{fromUtf8(error.message())}, {}};
+        return {true, Failure{reasonOf(error)}, {}};
     if (!fs::is_regular_file(status))
         return {};
     const Result<std::string> bytes = readFile(file);

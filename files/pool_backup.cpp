@@ -1,7 +1,7 @@
 // files/pool_backup.cpp - gathers the files in a hidden folder, which one rename then makes the backup.
 #include "files/pool_backup.h"
 
-#include "base/windows1252.h"
+#include "base/reason.h"
 #include "files/folder_lock.h"
 #include "files/replace_file.h"
 #include "files/replace_file_steps.h"
@@ -22,7 +22,7 @@ constexpr const char* kGatheringEnds = ".tmp~";
 
 Failure failureAt(const fs::path& path, const std::string& reason) { return Failure{shown(path) + "\r\n" + reason}; }
 
-Failure failureAt(const fs::path& path, std::error_code error) { return failureAt(path, fromUtf8(error.message())); }
+Failure failureAt(const fs::path& path, std::error_code error) { return failureAt(path, reasonOf(error)); }
 
 std::string backupName(std::chrono::local_seconds now)
 {

@@ -1,7 +1,7 @@
 // files/replace_file.cpp - which file is replaced and by way of which temporary; and reading a file whole.
 #include "files/replace_file.h"
 
-#include "base/windows1252.h"
+#include "base/reason.h"
 #include "files/replace_file_steps.h"
 
 #include <fmt/format.h>
@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 Failure failureOf(std::error_code error)
 {
-    return Failure{error == std::errc::operation_would_block ? kHeldByAnother : fromUtf8(error.message())};
+    return Failure{error == std::errc::operation_would_block ? kHeldByAnother : reasonOf(error)};
 }
 
 /// Follows symbolic links, also to a file that is not there yet: replacing the link itself would cut it off.
@@ -93,7 +93,7 @@ Result<std::string> readFile(const fs::path& file, std::size_t mostBytes)
     if (error == std::errc::file_too_large)
         return Failure{fmt::format("The file is larger than {} MB.", mostBytes >> 20)};
     if (error)
-        return Failure{fromUtf8(error.message())};
+        return Failure{reasonOf(error)};
     return bytes;
 }
 

@@ -1,7 +1,7 @@
 // intake/gathering.cpp - files are counted and added up while they are read.
 #include "intake/gathering.h"
 
-#include "base/windows1252.h"
+#include "base/reason.h"
 #include "files/data_folder.h"
 #include "files/replace_file.h"
 #include "intake/limits.h"
@@ -54,7 +54,7 @@ void listFolder(const fs::path& folder, Listed& listed)
             break;
     }
     if (error)
-        listed.refused.push_back(refusedWhole({shown(folder), {}, 1, {}}, fromUtf8(error.message())));
+        listed.refused.push_back(refusedWhole({shown(folder), {}, 1, {}}, reasonOf(error)));
     std::ranges::sort(files);
     std::ranges::move(files, std::back_inserter(listed.files));
 }
