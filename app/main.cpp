@@ -4,11 +4,13 @@
 #include "app/start_up.h"
 #include "app/wiring.h"
 #include "files/folder_lock.h"
+#include "files/own_program.h"
 #include "files/replace_file.h"
 #include "qt/colours.h"
 #include "qt/desk.h"
 #include "qt/look.h"
 #include "qt/main_frame.h"
+#include "qt/paths.h"
 #include "qt/screen_host.h"
 #include "qt/services/qt_dialogs.h"
 #include "qt/services/qt_help_viewer.h"
@@ -24,11 +26,9 @@
 #endif
 
 #include <QApplication>
-#include <QFile>
 #include <QSettings>
 #include <QTimer>
 #include <cstdlib>
-#include <system_error>
 
 using namespace tallyhoop;
 
@@ -37,9 +37,7 @@ namespace {
 /// A pool lives in the folder that holds the executable.
 Result<std::filesystem::path> ownFolder()
 {
-    std::error_code systemDoesNotSay;
-    const std::filesystem::path executable = std::filesystem::read_symlink("/proc/self/exe", systemDoesNotSay);
-    return programFolder(QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString(), executable);
+    return programFolder(qt::toPath(QCoreApplication::applicationDirPath()), ownProgram());
 }
 
 } // namespace

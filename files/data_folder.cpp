@@ -1,8 +1,10 @@
 // files/data_folder.cpp - finding files by name without regard to case.
 #include "files/data_folder.h"
 
+#include "base/reason.h"
 #include "base/text.h"
 #include "base/windows1252.h"
+#include "files/entry_at.h"
 
 #include <algorithm>
 #include <array>
@@ -17,12 +19,6 @@ namespace fs = std::filesystem;
 
 /// Shows whether we may write here; beside it the replacing makes a temporary of its own.
 constexpr const char* kWriteCheck = ".tallyhoop-check";
-
-bool isThere(const fs::path& path)
-{
-    std::error_code ignored;
-    return fs::exists(fs::symlink_status(path, ignored));
-}
 
 /// Calls visit(entry) for every entry of a folder, as far as it can be read.
 /// @returns why it cannot be read whole, if so
@@ -46,7 +42,7 @@ bool isShownWhole(const fs::path& name)
 ///          name cannot be shown whole is meant only when no other looks alike: none is better than a wrong one.
 std::optional<fs::path> findEntry(const fs::path& folder, std::string_view name)
 {
-    if (fs::path exact = folder / nativeName(name); isThere(exact))
+    if (std::optional<fs::path> exact = entryAt(folder / nativeName(name)))
         return exact;
     std::optional<fs::path> found;
     std::vector<fs::path> lookalikes;
@@ -144,7 +140,7 @@ Read<std::vector<FolderFile>> DataFolder::list(std::string_view extension) const
         return order != 0 ? order < 0 : left.path < right.path;
     });
     if (error)
-        return {std::move(found), Failure{fromUtf8(error.message())}};
+        return {std::move(found), Failure{reasonOf(error)}};
     return {std::move(found), {}};
 }
 
@@ -171,7 +167,7 @@ Result<Done> DataFolder::remove(std::string_view name) const
     else
         fs::remove(*file, error);
     if (error)
-        return Failure{fromUtf8(error.message())};
+        return Failure{reasonOf(error)};
     return Done{};
 }
 
@@ -212,8 +208,8 @@ bool isBareName(std::string_view name)
 
 std::optional<fs::path> findInAnyCase(const fs::path& path)
 {
-    if (isThere(path))
-        return path;
+    if (std::optional<fs::path> exact = entryAt(path))
+        return exact;
     const std::string name = shown(path.filename());
     return isBareName(name) && isShownWhole(path.filename()) ? findEntry(path.parent_path(), name) : std::nullopt;
 }

@@ -1,6 +1,7 @@
 // files/folder_lock.h - finds out whether a program is at work on a folder already, without leaving anything in it.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 
 namespace tallyhoop {
@@ -22,7 +23,7 @@ public:
     bool isHeldHere() const { return m_heldHere; }
 
 private:
-    int m_folder = -1;
+    std::intptr_t m_folder = -1; ///< as the system calls it while it is open; -1 = it is not
     bool m_heldHere = false;
     bool m_heldElsewhere = false;
 };
