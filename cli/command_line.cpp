@@ -2,10 +2,11 @@
 #include "cli/command_line.h"
 
 #include "base/windows1252.h"
-#include "cli/own_folder.h"
+#include "cli/arguments.h"
 #include "cli/session.h"
 #include "cli/verbs.h"
 #include "files/file_names.h"
+#include "files/own_program.h"
 #include "intake/addresses.h"
 
 #include <CLI/CLI.hpp>
@@ -119,7 +120,9 @@ public:
     int run(int count, char** words)
     {
         try {
-            m_app.parse(count, words);
+            std::vector<std::string> arguments = argumentsOf(count, words);
+            std::ranges::reverse(arguments); // as the parser wants them
+            m_app.parse(std::move(arguments));
             return runVerb();
         } catch (const CLI::RequiredError&) {
             return usedWrongly(m_app.get_subcommands().empty() ? wordsWithoutVerb() : wordsWithoutArgument());
@@ -202,7 +205,11 @@ private:
             ->required()
             ->option_text("FILE...");
         importVerb->callback([this] {
-            m_verb = [this](Session& session) { import(session, {{ m_files.begin(), m_files.end() }}); };
+            m_verb = [this](Session& session) {
+                ImportOptions options;
+                std::ranges::transform(m_files, std::back_inserter(options.files), pathOf);
+                import(session, options);
+            };
         });
     }
 
@@ -258,12 +265,12 @@ private:
         if (m_outOption->count() > 0 && m_out.empty())
             return usedWrongly("--out names no file");
         CommonOptions options;
-        options.folder = m_folder.empty() ? ownFolder() : std::filesystem::path{m_folder};
+        options.folder = m_folder.empty() ? ownProgram().parent_path() : pathOf(m_folder);
         std::error_code ignored;
         if (!std::filesystem::is_directory(options.folder, ignored))
-            return usedWrongly("There is no folder " + options.folder.string());
+            return usedWrongly("There is no folder " + argumentOf(options.folder));
         if (!m_out.empty()) {
-            options.out = m_out;
+            options.out = pathOf(m_out);
             if (isPartOfAPool(*options.out, options.folder))
                 return usedWrongly("--out would replace a part of the pool: " + m_out);
         }

@@ -3,21 +3,13 @@
 
 #include "intake/mail_parts.h"
 
-#ifndef _WIN32
 #include "intake/mail_library.h"
 
 #include <dlfcn.h>
 #include <optional>
 #include <type_traits>
-#endif
 
 namespace tallyhoop::cli {
-
-#ifdef _WIN32
-
-Result<std::vector<MailPart>> takeMailApart(std::string_view bytes) { return mailParts(bytes, nullptr); }
-
-#else
 
 namespace {
 
@@ -50,7 +42,5 @@ Result<std::vector<MailPart>> takeMailApart(std::string_view bytes)
     static const std::optional<MailLibrary> library = loadMailLibrary();
     return mailParts(bytes, library ? &*library : nullptr);
 }
-
-#endif
 
 } // namespace tallyhoop::cli

@@ -1,6 +1,7 @@
 // cli/main.cpp - the program without windows.
 #include "cli/command_line.h"
 #include "cli/session.h"
+#include "cli/terminal.h"
 #include "files/replace_file.h"
 
 #include <cstdio>
@@ -9,6 +10,7 @@
 int main(int count, char** words)
 {
     tallyhoop::outliveFileSizeLimits();
+    tallyhoop::cli::prepareOutput();
     try {
         return tallyhoop::cli::run(count, words);
     } catch (const std::exception& error) { // a lack of memory

@@ -3,6 +3,7 @@
 
 #include "base/one_line.h"
 #include "base/windows1252.h"
+#include "cli/terminal.h"
 #include "files/replace_file.h"
 
 #include <cerrno>
@@ -11,22 +12,9 @@
 #include <utility>
 #include <vector>
 
-#ifndef _WIN32
-#include <unistd.h>
-#endif
-
 namespace tallyhoop::cli {
 
 namespace {
-
-bool isShownToAPerson()
-{
-#ifdef _WIN32
-    return false;
-#else
-    return isatty(STDOUT_FILENO) == 1;
-#endif
-}
 
 std::string forATerminal(std::string_view bytes)
 {
@@ -66,7 +54,6 @@ void Session::write(const std::string& bytes)
 void Session::writeText(const std::string& bytes)
 {
     const bool isForEyes = !m_options.out && isShownToAPerson();
-    // cppcheck-suppress knownConditionTrueFalse ; on Windows it is, but not elsewhere
     write(isForEyes ? forATerminal(bytes) : bytes);
 }
 
