@@ -1,12 +1,15 @@
-// qt/line_icon.cpp - an icon engine that sets the colour in the SVG text whenever it paints.
+// qt/line_icon.cpp - an icon engine that paints its picture in the colour of the moment.
 #include "qt/line_icon.h"
+
+#include "qt/svg_picture.h"
 
 #include <QApplication>
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <QSvgRenderer>
+#include <optional>
+#include <utility>
 
 namespace tallyhoop::qt {
 
@@ -15,16 +18,13 @@ namespace {
 class LineIcon : public QIconEngine
 {
 public:
-    explicit LineIcon(QByteArray svg) : m_svg{std::move(svg)} {}
+    explicit LineIcon(SvgPicture picture) : m_picture{std::move(picture)} {}
 
     void paint(QPainter* painter, const QRect& place, QIcon::Mode mode, QIcon::State) override
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const auto role = mode == QIcon::Selected ? QPalette::HighlightedText : QPalette::WindowText;
-        const QColor textColour = QApplication::palette().color(group, role);
-        QByteArray svg = m_svg;
-        svg.replace("currentColor", textColour.name().toLatin1());
-        QSvgRenderer{svg}.render(painter, place);
+        m_picture.paint(*painter, place, QApplication::palette().color(group, role));
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
@@ -36,10 +36,10 @@ public:
         return pixmap;
     }
 
-    QIconEngine* clone() const override { return new LineIcon{m_svg}; }
+    QIconEngine* clone() const override { return new LineIcon{m_picture}; }
 
 private:
-    QByteArray m_svg;
+    SvgPicture m_picture;
 };
 
 } // namespace
@@ -49,7 +49,8 @@ QIcon lineIcon(const QString& resource)
     QFile file{resource};
     if (!file.open(QIODevice::ReadOnly))
         return {};
-    return QIcon{new LineIcon{file.readAll()}};
+    std::optional<SvgPicture> picture = SvgPicture::read(file.readAll());
+    return picture ? QIcon{new LineIcon{*std::move(picture)}} : QIcon{};
 }
 
 } // namespace tallyhoop::qt

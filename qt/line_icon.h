@@ -6,7 +6,7 @@
 namespace tallyhoop::qt {
 
 /// @param resource an SVG picture; what it draws in "currentColor" follows the palette
-/// @returns a null icon when there is no such picture
+/// @returns a null icon when there is no such picture, or SvgPicture cannot read it
 QIcon lineIcon(const QString& resource);
 
 } // namespace tallyhoop::qt
