@@ -7,6 +7,7 @@
 #include "base/windows1252.h"
 #include "demo/sample_brackets.h"
 #include "fakes/fake_platform.h"
+#include "fakes/held_file.h"
 #include "fakes/scratch_folder.h"
 #include "files/file_names.h"
 #include "files/pool_files.h"
@@ -18,10 +19,8 @@
 #include "pool/scoring.h"
 #include "screens/demo_mode.h"
 
-#include <fcntl.h>
 #include <gmock/gmock.h>
-#include <sys/file.h>
-#include <unistd.h>
+#include <optional>
 
 namespace tallyhoop {
 namespace {
@@ -282,14 +281,13 @@ TEST(SamplePoolInstall, TakesEverythingBackWhenAFileCannotBeWritten)
 {
     const test::ScratchFolder scratch;
     const std::filesystem::path temporary = scratch.put(".TALLYHOOP.INI.tmp~", "");
-    const int held = ::open(temporary.c_str(), O_WRONLY | O_CLOEXEC); // another program seems to write the last file
-    ASSERT_EQ(::flock(held, LOCK_EX), 0);
+    std::optional<test::HeldFile> held{temporary}; // another program seems to write the last file
     const Result<Done> installed = demo::installSamplePool(scratch.folder());
     ASSERT_FALSE(installed);
     EXPECT_THAT(installed.failure().message, HasSubstr("TALLYHOOP.INI"));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator{scratch.path()}, {}), 1);
 
-    ::close(held);
+    held.reset();
     EXPECT_TRUE(demo::installSamplePool(scratch.folder())) << "once the trouble is gone it works";
 }
 
@@ -299,10 +297,9 @@ TEST(SamplePoolInstall, TakesBackOnlyWhatItHasWrittenItself)
     const std::vector<demo::SampleFile> files = demo::sampleFiles();
     scratch.put(files.front().name, files.front().bytes); // by another installer
     const std::filesystem::path temporary = scratch.put(".TALLYHOOP.INI.tmp~", "");
-    const int held = ::open(temporary.c_str(), O_WRONLY | O_CLOEXEC);
-    ASSERT_EQ(::flock(held, LOCK_EX), 0);
+    std::optional<test::HeldFile> held{temporary};
     EXPECT_FALSE(demo::installSamplePool(scratch.folder()));
-    ::close(held);
+    held.reset();
     EXPECT_EQ(scratch.get(files.front().name), files.front().bytes);
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator{scratch.path()}, {}), 2)
         << "the temporary is the other";

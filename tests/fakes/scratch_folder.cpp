@@ -1,19 +1,19 @@
 // tests/fakes/scratch_folder.cpp - made below the temporary folder and removed with everything in it.
 #include "fakes/scratch_folder.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
+#include <random>
 
 namespace tallyhoop::test {
 
 ScratchFolder::ScratchFolder()
 {
-    std::string name = (std::filesystem::temp_directory_path() / "tallyhoop-test-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr)
-        ADD_FAILURE() << "cannot make a scratch folder";
-    m_path = name;
+    const std::filesystem::path parent = std::filesystem::temp_directory_path();
+    std::random_device random;
+    while (m_path.empty() || !std::filesystem::create_directory(m_path)) // throws when it may not
+        m_path = parent / ("tallyhoop-test-" + std::to_string(random()));
 }
 
 ScratchFolder::~ScratchFolder()

@@ -20,6 +20,9 @@ public:
     const std::filesystem::path& path() const { return m_path; }
     DataFolder folder() const { return DataFolder{m_path}; }
 
+    /// @returns what messages have before the name of a file that is there
+    std::string shownPrefix() const { return folder().shownPathOf(""); }
+
     /// Puts a file there, bytes as given.
     std::filesystem::path put(std::string_view name, std::string_view bytes) const;
 

@@ -43,6 +43,7 @@ TEST(DataFolderPathOf, FindsANameInAnyCase)
     EXPECT_EQ(scratch.folder().pathOf("smith_js.thc"), scratch.path() / "Smith_JS.THC");
 }
 
+#ifndef _WIN32 // where names that differ in case only are one
 TEST(DataFolderPathOf, PrefersTheExactName)
 {
     const ScratchFolder scratch;
@@ -53,6 +54,7 @@ TEST(DataFolderPathOf, PrefersTheExactName)
     EXPECT_EQ(scratch.folder().pathOf("a.thc"), scratch.path() / "a.thc");
     EXPECT_EQ(scratch.folder().pathOf("a.THC"), scratch.path() / "A.THC") << "else the first in byte order";
 }
+#endif
 
 TEST(DataFolderPathOf, GivesANewFileItsNameAsTyped)
 {
@@ -63,9 +65,9 @@ TEST(DataFolderPathOf, GivesANewFileItsNameAsTyped)
 TEST(DataFolderPathOf, WritesAccentedLettersAsTheSystemDoes)
 {
     const ScratchFolder scratch;
-    EXPECT_EQ(scratch.folder().pathOf("Ren\xE9_R.THC"), scratch.path() / "Ren\xC3\xA9_R.THC");
-    scratch.put("REN\xC3\x89_R.THC", "");
-    EXPECT_EQ(scratch.folder().pathOf("ren\xE9_r.thc"), scratch.path() / "REN\xC3\x89_R.THC");
+    EXPECT_EQ(scratch.folder().pathOf("Ren\xE9_R.THC"), scratch.path() / u8"René_R.THC");
+    std::ofstream{scratch.path() / u8"RENÉ_R.THC"} << "one";
+    EXPECT_EQ(scratch.folder().pathOf("ren\xE9_r.thc"), scratch.path() / u8"RENÉ_R.THC");
 }
 
 TEST(DataFolderPathOf, FindsTheOnlyFileWhoseLettersItCannotShow)
@@ -134,9 +136,13 @@ TEST(DataFolderExists, SurvivesNamesOfAnyLength)
 TEST(DataFolderFiles, ListsAnExtensionInAnyCaseSortedWithoutRegardToCase)
 {
     const ScratchFolder scratch;
-    for (const char* name : {"b.thc", "A.THC", "a.THC", "C.Thc", "D.THS", "E.THC.bak", "F"})
+    for (const char* name : {"b.thc", "A.THC", "C.Thc", "D.THS", "E.THC.bak", "F"})
         scratch.put(name, "");
+    EXPECT_EQ(namesOf(scratch.folder().files(".THC")), (Names{"A.THC", "b.thc", "C.Thc"}));
+#ifndef _WIN32 // where names that differ in case only are one
+    scratch.put("a.THC", "");
     EXPECT_EQ(namesOf(scratch.folder().files(".THC")), (Names{"A.THC", "a.THC", "b.thc", "C.Thc"}));
+#endif
 }
 
 TEST(DataFolderFiles, LeavesOutFoldersAndStaleTemporaries)
@@ -148,6 +154,7 @@ TEST(DataFolderFiles, LeavesOutFoldersAndStaleTemporaries)
     EXPECT_EQ(namesOf(scratch.folder().files(".THC")), Names{"A.THC"});
 }
 
+#ifndef _WIN32 // where every name is text, or nearly so
 TEST(DataFolderFiles, OpensAFileWhoseNameIsNoText)
 {
     const ScratchFolder scratch;
@@ -159,6 +166,7 @@ TEST(DataFolderFiles, OpensAFileWhoseNameIsNoText)
     EXPECT_EQ(files[1].path, scratch.path() / "Ren\xE9.THC");
     EXPECT_EQ(*scratch.folder().read("REN?.THC"), "broken");
 }
+#endif
 
 TEST(DataFolderFiles, IsEmptyWhenTheFolderHasVanished)
 {
@@ -186,7 +194,7 @@ TEST(DataFolderWrite, ReplacesTheFileOfThatNameInAnyCase)
     scratch.put("Poolstart.ths", "old");
     EXPECT_TRUE(scratch.folder().write("POOLSTART.THS", "new"));
     EXPECT_EQ(scratch.get("Poolstart.ths"), "new");
-    EXPECT_FALSE(scratch.has("POOLSTART.THS"));
+    EXPECT_EQ(namesOf(scratch.folder().files(".THS")), Names{"Poolstart.ths"});
 }
 
 TEST(DataFolderRead, SaysWhyItFailed)
@@ -211,6 +219,7 @@ TEST(DataFolderRemove, SucceedsWhenThereIsNone)
     EXPECT_TRUE(scratch.folder().remove("TALLYHOOP.INI"));
 }
 
+#ifndef _WIN32 // where names that differ in case only are one
 TEST(DataFolderSpellings, AreAllThatDifferInCaseOnly)
 {
     const ScratchFolder scratch;
@@ -219,6 +228,7 @@ TEST(DataFolderSpellings, AreAllThatDifferInCaseOnly)
     EXPECT_EQ(scratch.folder().spellingsOf("adams_b.THC"), (std::vector<std::string>{"ADAMS_B.thc", "Adams_B.THC"}));
     EXPECT_TRUE(scratch.folder().spellingsOf("Baker_C.THC").empty());
 }
+#endif
 
 TEST(DataFolderList, TellsAFolderWithoutFilesFromOneThatCannotBeListed)
 {
@@ -257,10 +267,16 @@ TEST(DataFolderCheckWritable, SaysWhyNot)
 
 TEST(Shown, IsTextForPeople)
 {
-    EXPECT_EQ(shown("/pool/Ren\xC3\xA9"), "/pool/Ren\xE9");
+    EXPECT_EQ(shown(u8"/pool/René"), "/pool/Ren\xE9");
+#ifdef _WIN32
+    EXPECT_EQ(shown(L"C:\\pool\\\xD800"), "?") << "half a character";
+    EXPECT_EQ((DataFolder{"C:\\pool"}.shownPathOf("A.THC")), "C:\\pool\\A.THC");
+    EXPECT_EQ((DataFolder{"C:\\"}.shownPathOf("A.THC")), "C:\\A.THC");
+#else
     EXPECT_EQ(shown("/pool/Ren\xE9"), "/pool/Ren?");
     EXPECT_EQ((DataFolder{"/pool"}.shownPathOf("A.THC")), "/pool/A.THC");
     EXPECT_EQ((DataFolder{"/"}.shownPathOf("A.THC")), "/A.THC");
+#endif
 }
 
 TEST(FindInAnyCase, FindsTheEntryOfATypedPath)
@@ -274,6 +290,7 @@ TEST(FindInAnyCase, FindsTheEntryOfATypedPath)
     EXPECT_EQ(findInAnyCase(scratch.path() / "A:Smith_JS.THC"), std::nullopt) << "no bare name";
 }
 
+#ifndef _WIN32 // where names that differ in case only are one
 TEST(FindInAnyCase, PrefersTheExactName)
 {
     const ScratchFolder scratch;
@@ -282,6 +299,7 @@ TEST(FindInAnyCase, PrefersTheExactName)
     EXPECT_EQ(findInAnyCase(scratch.path() / "clark_d.thc"), scratch.path() / "clark_d.thc");
     EXPECT_EQ(findInAnyCase(scratch.path() / "Clark_D.thc"), scratch.path() / "CLARK_D.THC");
 }
+#endif
 
 TEST(FindInAnyCase, TakesANameWithLettersThatOurCodePageLacksAsItIs)
 {
@@ -310,10 +328,12 @@ TEST(IsSameFile, SeesThroughDetoursAndLinks)
     const ScratchFolder scratch;
     fs::create_directory(scratch.path() / "sub");
     scratch.put("A.THC", "");
-    fs::create_symlink("A.THC", scratch.path() / "LINK.THC");
     EXPECT_TRUE(isSameFile(scratch.path() / "sub" / ".." / "A.THC", scratch.path() / "A.THC"));
     EXPECT_TRUE(isSameFile(scratch.path() / "sub" / ".." / "NEW.THC", scratch.path() / "new.thc"));
+#ifndef _WIN32 // where only administrators make links
+    fs::create_symlink("A.THC", scratch.path() / "LINK.THC");
     EXPECT_TRUE(isSameFile(scratch.path() / "LINK.THC", scratch.path() / "A.THC"));
+#endif
 }
 
 TEST(WithoutUnsafeCharacters, ReplacesWhatCannotBeInAFileName)

@@ -40,8 +40,8 @@ struct Checking {
                   "Possibly someone has edited this file with another program.\r\n"
                   "\r\n"
                   "The file: " +
-                      scratch.path().string() +
-                      "/PLAYERNAMES.TXT\r\n"
+                      scratch.shownPrefix() +
+                      "PLAYERNAMES.TXT\r\n"
                       " is a copy of the original file with the error records identified.\r\n"
                       "\r\n"
                       "You can either go back to a backup copy of this file or attempt\r\n"

@@ -235,9 +235,9 @@ TEST_F(PoolFiles, MakeAPoolThatSaysWhatCouldNotBeRead)
     EXPECT_EQ(pool.entries.size(), 4u);
     ASSERT_EQ(pool.trouble.size(), 3u);
     EXPECT_EQ(pool.trouble[0].message,
-              scratch.path().string() + "/POOLSTART.THS: Problem with file, will use default values");
-    EXPECT_EQ(pool.trouble[1].message, scratch.path().string() + "/TALLYHOOP.THS: The file has more than 131 lines.");
-    EXPECT_THAT(pool.trouble[2].message, HasSubstr("/Clark_D.THC: "));
+              scratch.shownPrefix() + "POOLSTART.THS: Problem with file, will use default values");
+    EXPECT_EQ(pool.trouble[1].message, scratch.shownPrefix() + "TALLYHOOP.THS: The file has more than 131 lines.");
+    EXPECT_THAT(pool.trouble[2].message, HasSubstr("Clark_D.THC: "));
 }
 
 TEST_F(PoolFiles, NameTheEntriesThatAreNotWhole)

@@ -115,11 +115,15 @@ TEST(Review, RefusesWhatHasTheNameOfAFolderOrADevice)
 {
     const ScratchFolder scratch;
     std::filesystem::create_directory(scratch.path() / "Ann Smith_as.THC");
+#ifndef _WIN32 // which has devices in no folder
     std::filesystem::create_symlink("/dev/null", scratch.path() / "Bob_B.THC");
+#endif
     const Review review = reviewed(scratch, {handedIn(upperEntry()), handedIn(upperEntry("Bob", "B"))});
     EXPECT_EQ(review.rows.at(0).words, "Refused: There is a folder of the name Ann Smith_as.THC.");
+#ifndef _WIN32
     EXPECT_EQ(review.rows.at(1).words, "Refused: What has the name Bob_B.THC is no file, but a device or the like.");
     EXPECT_EQ(review.rows.at(1).effect, Effect::Refused);
+#endif
 }
 
 TEST(Review, CountsThePicksThatDifferFromWhatItReplaces)

@@ -191,7 +191,7 @@ TEST_F(Saving, AsksAboutADataFileByItsPathToo)
     dialogs.answer(ui::Answer::No);
     EXPECT_FALSE(saveDataFile(platform.services, known, scratch.folder(), "POOLSTART.THS", "ours"));
     EXPECT_EQ(dialogs.captionsShown(), std::vector<std::string>{"** FILE HAS BEEN CHANGED **"});
-    EXPECT_NE(dialogs.shown.front().text.find(scratch.path().string() + "/POOLSTART.THS\r\n"), std::string::npos);
+    EXPECT_NE(dialogs.shown.front().text.find(scratch.shownPrefix() + "POOLSTART.THS\r\n"), std::string::npos);
     EXPECT_EQ(scratch.get("POOLSTART.THS"), "theirs");
 }
 
@@ -240,8 +240,8 @@ TEST_F(Saving, SaysWhatIsWrongWithTheListAndWhereTheMarkedCopyIs)
                              "Possibly someone has edited this file with another program.\r\n"
                              "\r\n"
                              "The file: " +
-                             scratch.path().string() +
-                             "/PLAYERNAMES.TXT\r\n"
+                             scratch.shownPrefix() +
+                             "PLAYERNAMES.TXT\r\n"
                              " is a copy of the original file with the error records identified.\r\n"
                              "\r\n"
                              "You can either go back to a backup copy of this file or attempt\r\n"
