@@ -1,10 +1,10 @@
-// cli/mail_library_windows.cpp - there is no library to be loaded.
+// cli/mail_library_windows.cpp - without a library that would have to be loaded.
 #include "cli/mail_library.h"
 
-#include "intake/mail_parts.h"
+#include "intake/mail_reading.h"
 
 namespace tallyhoop::cli {
 
-Result<std::vector<MailPart>> takeMailApart(std::string_view bytes) { return mailParts(bytes, nullptr); }
+Result<std::vector<MailPart>> takeMailApart(std::string_view bytes) { return partsOfMail(bytes); }
 
 } // namespace tallyhoop::cli

@@ -1,10 +1,10 @@
-// qt/services/handed_in_mail_windows.cpp - there is no library to be loaded.
+// qt/services/handed_in_mail_windows.cpp - without a library that would have to be loaded.
 #include "qt/services/handed_in_mail.h"
 
-#include "intake/mail_parts.h"
+#include "intake/mail_reading.h"
 
 namespace tallyhoop::qt {
 
-Result<std::vector<MailPart>> takeMailApart(std::string_view bytes) { return mailParts(bytes, nullptr); }
+Result<std::vector<MailPart>> takeMailApart(std::string_view bytes) { return partsOfMail(bytes); }
 
 } // namespace tallyhoop::qt

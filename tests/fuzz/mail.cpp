@@ -5,14 +5,14 @@
 #include "intake/entry_refusals.h"
 #include "intake/field_2000.h"
 #include "intake/limits.h"
-#include "intake/linked_mail_library.h"
-#include "intake/mail_parts.h"
+#include "intake/mail_readers.h"
 
 namespace tallyhoop::fuzz {
 
-Complaint mail(std::string_view bytes)
+namespace {
+
+Complaint mailTakenApartBy(const TakeMailApart& takeApart, std::string_view bytes)
 {
-    const auto takeApart = [](std::string_view mail) { return mailParts(mail, &test::linkedMailLibrary()); };
     if (const Result<std::vector<MailPart>> parts = takeApart(bytes)) {
         if (parts->size() > kMostPartsOfMail)
             return "more parts than there may be";
@@ -32,6 +32,16 @@ Complaint mail(std::string_view bytes)
         if (!handedIn.isLegible && refusalsOf(handedIn, field).empty())
             return "what could not be read is not refused";
     }
+    return std::nullopt;
+}
+
+} // namespace
+
+Complaint mail(std::string_view bytes)
+{
+    for (const test::MailReader& reader : test::mailReaders())
+        if (Complaint complaint = mailTakenApartBy(reader.takeApart, bytes))
+            return complaint;
     return std::nullopt;
 }
 

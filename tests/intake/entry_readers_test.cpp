@@ -5,8 +5,7 @@
 #include "files/selection_file.h"
 #include "intake/entry_table.h"
 #include "intake/field_2000.h"
-#include "intake/linked_mail_library.h"
-#include "intake/mail_parts.h"
+#include "intake/mail_reading.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -19,10 +18,7 @@ using test::upperEntry;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-EntryReaders mailReaders()
-{
-    return {test::field2000(), [](std::string_view bytes) { return mailParts(bytes, &test::linkedMailLibrary()); }};
-}
+EntryReaders mailReaders() { return {test::field2000(), partsOfMail}; }
 
 std::vector<HandedIn> readNamed(std::string name, std::string bytes)
 {

@@ -1,7 +1,9 @@
 // tests/intake/mail_parts_test.cpp - mails in the forms that mail programs give them.
-#include "intake/mail_parts.h"
+#include "intake/mail_readers.h"
 
-#include "intake/linked_mail_library.h"
+#ifndef _WIN32
+#include "intake/mail_parts.h"
+#endif
 
 #include <gtest/gtest.h>
 
@@ -10,20 +12,27 @@ namespace {
 
 using Kind = MailPart::Kind;
 
-std::vector<MailPart> partsOf(std::string_view mail)
+class MailParts : public testing::TestWithParam<test::MailReader>
 {
-    const Result<std::vector<MailPart>> parts = mailParts(mail, &test::linkedMailLibrary());
-    if (parts)
-        return *parts;
-    ADD_FAILURE() << parts.failure().message;
-    return {};
-}
+protected:
+    static std::vector<MailPart> partsOf(std::string_view mail)
+    {
+        const Result<std::vector<MailPart>> parts = GetParam().takeApart(mail);
+        if (parts)
+            return *parts;
+        ADD_FAILURE() << parts.failure().message;
+        return {};
+    }
 
-std::string failureOf(std::string_view mail)
-{
-    const Result<std::vector<MailPart>> parts = mailParts(mail, &test::linkedMailLibrary());
-    return parts ? "none" : parts.failure().message;
-}
+    static std::string failureOf(std::string_view mail)
+    {
+        const Result<std::vector<MailPart>> parts = GetParam().takeApart(mail);
+        return parts ? "none" : parts.failure().message;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(ByEachReader, MailParts, testing::ValuesIn(test::mailReaders()),
+                         [](const auto& tested) { return tested.param.name; });
 
 /// Parts in parts, so many times over, a text at the bottom.
 std::string nested(int depth)
@@ -36,7 +45,7 @@ std::string nested(int depth)
     return mail + "Content-Type: text/plain\n\nbottom\n";
 }
 
-TEST(MailParts, AreOneTextInAPlainMail)
+TEST_P(MailParts, AreOneTextInAPlainMail)
 {
     const auto parts = partsOf("From: \"Smith, Ann\" <ann@example.org>\r\n"
                                "Date: Tue, 10 Mar 2026 08:00:00 +0100\r\n"
@@ -49,7 +58,7 @@ TEST(MailParts, AreOneTextInAPlainMail)
     EXPECT_EQ(parts[0].message, 0);
 }
 
-TEST(MailParts, AreFoundAfterAByteOrderMark)
+TEST_P(MailParts, AreFoundAfterAByteOrderMark)
 {
     const auto parts = partsOf("\xEF\xBB\xBF"
                                "From: ann@example.org\nContent-Transfer-Encoding: base64\n\neA==\n");
@@ -58,7 +67,7 @@ TEST(MailParts, AreFoundAfterAByteOrderMark)
     EXPECT_EQ(parts[0].content, "x");
 }
 
-TEST(MailParts, AreDecoded)
+TEST_P(MailParts, AreDecoded)
 {
     EXPECT_EQ(partsOf("Content-Type: text/plain; charset=utf-8\nContent-Transfer-Encoding: quoted-printable\n\n"
                       "Zo=C3=A9 and a long=\n line=3D1\n")[0]
@@ -69,7 +78,7 @@ TEST(MailParts, AreDecoded)
         "Zo\xC3\xA9");
 }
 
-TEST(MailParts, AreInUtf8WhateverTheirCharacterSet)
+TEST_P(MailParts, AreInUtf8WhateverTheirCharacterSet)
 {
     EXPECT_EQ(partsOf("Content-Type: text/plain; charset=iso-8859-1\n\nZo\xE9 \x92")[0].content,
               "Zo\xC3\xA9 \xE2\x80\x99")
@@ -82,7 +91,7 @@ TEST(MailParts, AreInUtf8WhateverTheirCharacterSet)
     EXPECT_EQ(partsOf("\nZo\xC3\xA9")[0].content, "Zo\xC3\xA9") << "says nothing";
 }
 
-TEST(MailParts, AreTextPageAndFiles)
+TEST_P(MailParts, AreTextPageAndFiles)
 {
     const auto parts = partsOf("From: a@example.org\nContent-Type: multipart/mixed; boundary=out\n\n"
                                "--out\nContent-Type: multipart/alternative; boundary=in\n\n"
@@ -101,7 +110,7 @@ TEST(MailParts, AreTextPageAndFiles)
     EXPECT_EQ(parts[2].content, "A\r\nB") << "byte for byte";
 }
 
-TEST(MailParts, OfAForwardedMessageHaveItsSender)
+TEST_P(MailParts, OfAForwardedMessageHaveItsSender)
 {
     const auto parts = partsOf("From: boss@example.org\nContent-Type: multipart/mixed; boundary=x\n\n"
                                "--x\n\nsee below\n"
@@ -115,22 +124,22 @@ TEST(MailParts, OfAForwardedMessageHaveItsSender)
     EXPECT_NE(parts[1].message, parts[0].message);
 }
 
-TEST(MailParts, AreFoundInAMailThatEndsTooEarly)
+TEST_P(MailParts, AreFoundInAMailThatEndsTooEarly)
 {
     const auto parts = partsOf("Content-Type: multipart/mixed; boundary=x\n\n--x\n\nfirst\n--x\nContent-Type: te");
     ASSERT_FALSE(parts.empty());
     EXPECT_EQ(parts[0].content, "first");
 }
 
-TEST(MailParts, AreNoneInWhatIsNoMail)
+TEST_P(MailParts, AreNoneInWhatIsNoMail)
 {
     for (const std::string_view bytes : {std::string_view{}, std::string_view{"\0\1\2", 3}}) {
-        const Result<std::vector<MailPart>> parts = mailParts(bytes, &test::linkedMailLibrary());
+        const Result<std::vector<MailPart>> parts = GetParam().takeApart(bytes);
         EXPECT_TRUE(!parts || parts->empty() || parts->front().content.size() <= bytes.size());
     }
 }
 
-TEST(MailParts, AreReadToALimitedDepth)
+TEST_P(MailParts, AreReadToALimitedDepth)
 {
     EXPECT_EQ(partsOf(nested(18)).size(), 1u);
     for (const int depth : {21, 400}) {
@@ -148,7 +157,7 @@ TEST(MailParts, AreReadToALimitedDepth)
     EXPECT_EQ(parts[0].kind, Kind::TooDeep);
 }
 
-TEST(MailParts, AreNotTooMany)
+TEST_P(MailParts, AreNotTooMany)
 {
     const std::string head = "Content-Type: multipart/mixed; boundary=x\n\n";
     std::string parts;
@@ -162,12 +171,14 @@ TEST(MailParts, AreNotTooMany)
     EXPECT_EQ(failureOf(bomb), "The mail has too many parts.");
 }
 
-TEST(MailParts, NeedTheLibrary)
+#ifndef _WIN32
+TEST(MailPartsOfALibrary, NeedIt)
 {
     const Result<std::vector<MailPart>> parts = mailParts("\nx", nullptr);
     ASSERT_FALSE(parts);
     EXPECT_EQ(parts.failure().message, "The library for mail messages, gmime 3, could not be loaded.");
 }
+#endif
 
 } // namespace
 } // namespace tallyhoop

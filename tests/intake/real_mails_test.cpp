@@ -7,8 +7,7 @@
 
 #include "files/replace_file.h"
 #include "intake/field_2000.h"
-#include "intake/linked_mail_library.h"
-#include "intake/mail_parts.h"
+#include "intake/mail_readers.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -20,11 +19,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// @returns the mails whose names begin so, by name
-std::map<std::string, std::vector<HandedIn>> mailsThatAre(const std::string& kind)
+class RealMails : public testing::TestWithParam<test::MailReader>
 {
-    const EntryReaders readers{test::field2000(),
-                               [](std::string_view bytes) { return mailParts(bytes, &test::linkedMailLibrary()); }};
+};
+
+INSTANTIATE_TEST_SUITE_P(ByEachReader, RealMails, testing::ValuesIn(test::mailReaders()),
+                         [](const auto& tested) { return tested.param.name; });
+
+/// @returns the mails whose names begin so, by name
+std::map<std::string, std::vector<HandedIn>> mailsThatAre(const std::string& kind, const test::MailReader& reader)
+{
+    const EntryReaders readers{test::field2000(), reader.takeApart};
     std::map<std::string, std::vector<HandedIn>> mails;
     for (const fs::directory_entry& file : fs::directory_iterator{fs::path{TALLYHOOP_FUZZ_CORPUS} / "mails"}) {
         const std::string name = file.path().filename().string();
@@ -34,9 +39,9 @@ std::map<std::string, std::vector<HandedIn>> mailsThatAre(const std::string& kin
     return mails;
 }
 
-TEST(RealMails, GiveTheEntry)
+TEST_P(RealMails, GiveTheEntry)
 {
-    const auto mails = mailsThatAre("good_");
+    const auto mails = mailsThatAre("good_", GetParam());
     EXPECT_EQ(mails.size(), 33u);
     for (const auto& [name, read] : mails) {
         ASSERT_EQ(read.size(), 1u) << name;
@@ -50,9 +55,9 @@ TEST(RealMails, GiveTheEntry)
     }
 }
 
-TEST(RealMails, AreRefusedWhenTheyAreMangled)
+TEST_P(RealMails, AreRefusedWhenTheyAreMangled)
 {
-    const auto mails = mailsThatAre("mangled_");
+    const auto mails = mailsThatAre("mangled_", GetParam());
     EXPECT_EQ(mails.size(), 6u);
     for (const auto& [name, read] : mails) {
         ASSERT_EQ(read.size(), 1u) << name;
@@ -63,9 +68,9 @@ TEST(RealMails, AreRefusedWhenTheyAreMangled)
     }
 }
 
-TEST(RealMails, AreRefusedWhenTheyHaveNoEntry)
+TEST_P(RealMails, AreRefusedWhenTheyHaveNoEntry)
 {
-    const auto mails = mailsThatAre("none_");
+    const auto mails = mailsThatAre("none_", GetParam());
     EXPECT_EQ(mails.size(), 3u);
     for (const auto& [name, read] : mails) {
         ASSERT_EQ(read.size(), 1u) << name;
