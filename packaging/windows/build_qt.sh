@@ -22,7 +22,7 @@ cmake -S "$source_folder" -B "$build" -G Ninja -Wno-dev --log-level=WARNING \
     -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake \
     -DQT_BUILD_EXAMPLES=OFF -DQT_BUILD_TESTS=OFF \
     -DINPUT_opengl=no -DINPUT_openssl=no \
-    -DFEATURE_concurrent=OFF -DFEATURE_dbus=OFF -DFEATURE_direct2d=OFF -DFEATURE_dnslookup=OFF -DFEATURE_http=OFF \
+    -DFEATURE_concurrent=OFF -DFEATURE_dbus=OFF -DFEATURE_direct2d1_1=OFF -DFEATURE_dnslookup=OFF -DFEATURE_http=OFF \
     -DFEATURE_icu=OFF -DFEATURE_imageformat_jpeg=OFF -DFEATURE_jpeg=OFF -DFEATURE_pkg_config=OFF -DFEATURE_schannel=OFF \
     -DFEATURE_sql=OFF -DFEATURE_tabletevent=OFF -DFEATURE_tuiotouch=OFF -DFEATURE_vulkan=OFF -DFEATURE_xml=OFF \
     -DFEATURE_system_zlib=OFF -DFEATURE_system_png=OFF -DFEATURE_system_pcre2=OFF -DFEATURE_system_freetype=OFF \

@@ -1,12 +1,28 @@
 // tests/fakes/scratch_folder.cpp - made below the temporary folder and removed with everything in it.
 #include "fakes/scratch_folder.h"
 
+#include "files/entry_at.h"
+
 #include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <random>
 
 namespace tallyhoop::test {
+
+namespace {
+
+/// @param name as tests write it: UTF-8, but on systems where any bytes are a name
+std::filesystem::path pathOf(std::string_view name)
+{
+#ifdef _WIN32
+    return std::u8string{name.begin(), name.end()};
+#else
+    return name;
+#endif
+}
+
+} // namespace
 
 ScratchFolder::ScratchFolder()
 {
@@ -24,7 +40,7 @@ ScratchFolder::~ScratchFolder()
 
 std::filesystem::path ScratchFolder::put(std::string_view name, std::string_view bytes) const
 {
-    const std::filesystem::path file = m_path / name;
+    const std::filesystem::path file = m_path / pathOf(name);
     std::ofstream stream{file, std::ios::binary};
     stream.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     EXPECT_TRUE(stream.flush()) << "cannot write " << file;
@@ -33,12 +49,16 @@ std::filesystem::path ScratchFolder::put(std::string_view name, std::string_view
 
 std::string ScratchFolder::get(std::string_view name) const
 {
-    std::ifstream stream{m_path / name, std::ios::binary};
+    std::ifstream stream{m_path / pathOf(name), std::ios::binary};
     EXPECT_TRUE(stream) << "no file " << name;
     return {std::istreambuf_iterator<char>{stream}, {}};
 }
 
-bool ScratchFolder::has(std::string_view name) const { return std::filesystem::exists(m_path / name); }
+bool ScratchFolder::has(std::string_view name) const
+{
+    const std::filesystem::path path = m_path / pathOf(name);
+    return entryAt(path) == path;
+}
 
 std::string crlf(std::initializer_list<std::string_view> lines)
 {

@@ -29,6 +29,7 @@ public:
     /// @returns a file's bytes; a missing file fails the test
     std::string get(std::string_view name) const;
 
+    /// @returns whether a file or folder is there, in just this spelling
     bool has(std::string_view name) const;
 
 private:

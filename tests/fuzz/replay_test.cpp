@@ -34,7 +34,7 @@ TEST_P(Replay, FindsNothingWrongWithAnyFileOfAnyCorpus)
 {
     EXPECT_GE(corpusOf(GetParam().corpus).size(), 5u) << "a target without a corpus of its own";
     for (const fs::directory_entry& corpus : fs::directory_iterator{TALLYHOOP_FUZZ_CORPUS})
-        for (const fs::path& file : corpusOf(corpus.path().filename())) {
+        for (const fs::path& file : corpusOf(corpus.path().filename().string())) {
             const Result<std::string> bytes = readFile(file);
             ASSERT_TRUE(bytes) << file;
             EXPECT_EQ(GetParam().target(*bytes), std::nullopt) << file;

@@ -33,12 +33,18 @@ class HostileFileNames : public testing::TestWithParam<HostileName>
 protected:
     const std::string& hostileName() const { return GetParam().text; }
 
+    static std::string inUtf8(const fs::path& path)
+    {
+        const std::u8string utf8 = path.generic_u8string();
+        return {utf8.begin(), utf8.end()};
+    }
+
     /// The folder, and everything around it, as paths relative to what is around it.
     std::vector<std::string> everything() const
     {
         std::vector<std::string> found;
         for (const fs::directory_entry& entry : fs::recursive_directory_iterator{scratch.path()})
-            found.push_back(entry.path().lexically_relative(scratch.path()).native());
+            found.push_back(inUtf8(entry.path().lexically_relative(scratch.path())));
         std::ranges::sort(found);
         return found;
     }

@@ -70,8 +70,11 @@ TEST(FileNamesOfReview, AreThoseOfAFileThatLooksAlike)
 TEST(FileNamesOfReview, AreThoseOfTheMostSimilarFile)
 {
     const ScratchFolder scratch;
-    for (const char* name : {"ANN_P.THC", "Ann_P.THC", "O'Neil_P.THC", "o\xE2\x80\x99neil_p.thc"})
+    for (const char* name : {"Ann_P.THC", "O'Neil_P.THC", "o\xE2\x80\x99neil_p.thc"})
         scratch.put(name, "");
+#ifndef _WIN32 // where these are one file
+    scratch.put("ANN_P.THC", "");
+#endif
     EXPECT_THAT(fileNamesOf(reviewOfNames(scratch, {"Ann", "O\x92Neil"})), ElementsAre("Ann_P.THC", "o\x92neil_p.thc"))
         << "the very same; the same apostrophe in another case of letters";
 }
