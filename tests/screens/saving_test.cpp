@@ -178,8 +178,8 @@ TEST_F(Saving, NamesADataFileByItsFullPathAndTheApplicationDirectory)
     const DataFolder gone{scratch.path() / "gone"};
     EXPECT_FALSE(saveDataFile(platform.services, known, gone, "POOLSTART.THS", "new"));
     EXPECT_EQ(dialogs.shown, (Messages{{"** ERROR IN WRITING FILE **",
-                                        "There is a problem writing file: " + (scratch.path() / "gone").string() +
-                                            "/POOLSTART.THS\r\n Check for adequate space in the Application Directory",
+                                        "There is a problem writing file: " + gone.shownPathOf("POOLSTART.THS") +
+                                            "\r\n Check for adequate space in the Application Directory",
                                         ui::Buttons::Ok, ui::Icon::Critical}}));
 }
 

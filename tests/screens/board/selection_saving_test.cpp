@@ -93,8 +93,10 @@ TEST_F(AskWhereToSave, MeansAnExistingFileWhateverTheCaseOfItsLetters)
 {
     scratch.put("SMITH_JS.THC", "another Smith");
     expectTarget(ask(in("Smith_JS.thc"), {}, ui::Answer::Yes), in("SMITH_JS.THC"), SaveKind::Replaced);
+#ifndef _WIN32 // where these are one file
     scratch.put("smith_js.thc", "and one more");
     expectTarget(ask(in("smith_js.thc"), {}, ui::Answer::Yes), in("smith_js.thc"), SaveKind::Replaced);
+#endif
 }
 
 TEST_F(AskWhereToSave, TakesANameWithLettersThatOurCodePageLacksAsItIs)

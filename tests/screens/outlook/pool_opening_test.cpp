@@ -164,7 +164,8 @@ TEST_F(PoolOpening, NamesDamagedFilesInOneMessage)
     showUnread(platform.dialogs, open());
     ASSERT_THAT(platform.dialogs.shown, SizeIs(1));
     EXPECT_THAT(platform.dialogs.shown[0].text,
-                AllOf(HasSubstr("/Ann_X.THC: "), HasSubstr("/Bob_X.THC: "), HasSubstr("/TALLYHOOP.THS: "),
+                AllOf(HasSubstr(scratch.shownPrefix() + "Ann_X.THC: "), HasSubstr("Bob_X.THC: "),
+                      HasSubstr("TALLYHOOP.THS: "),
                       HasSubstr("\r\n \r\nThe results file is damaged: some winners may be missing. "
                                 "1 player is missing: the selection cannot be read. "
                                 "1 selection was read only in part.")));
