@@ -167,6 +167,14 @@ std::error_code keepAttributesOf(const fs::path& target, const Handle& file)
     return {};
 }
 
+/// @returns whether another program has opened the file so that it may not be replaced: the system only denies access
+bool isOpenElsewhere(const fs::path& file)
+{
+    const Handle handle{
+        ::CreateFileW(file.c_str(), DELETE, kShareAll, nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr)};
+    return !handle.isOpen() && ::GetLastError() == ERROR_SHARING_VIOLATION;
+}
+
 /// In one step, while the file is ours alone. ReplaceFileW would want it closed, and is two renames: the end of the
 /// program between them would leave no file at all.
 std::error_code putInPlace(const Handle& file, const fs::path& target, Deadline deadline)
@@ -180,7 +188,10 @@ std::error_code putInPlace(const Handle& file, const fs::path& target, Deadline 
     const bool done = inTime(deadline, ERROR_ACCESS_DENIED, [&] {
         return ::SetFileInformationByHandle(file.get(), FileRenameInfo, rename, static_cast<DWORD>(memory.size())) != 0;
     });
-    return done ? std::error_code{} : lastError();
+    if (done)
+        return {};
+    const std::error_code error = lastError();
+    return isOpenElsewhere(target) ? std::make_error_code(std::errc::text_file_busy) : error;
 }
 
 void remove(const Handle& file)
