@@ -29,13 +29,7 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 
 set(ENV{PKG_CONFIG_LIBDIR} ${TALLYHOOP_CACHE}/windows/libraries/lib/pkgconfig) # and none of this system's
 
-# Programs for Windows are run by wine, without the messages of its own, and find these DLLs.
-set(TALLYHOOP_DLL_FOLDERS
-    ${TALLYHOOP_CACHE}/windows/qt-6.4.2/bin
-    /usr/lib/gcc/x86_64-w64-mingw32/12-posix
-    /usr/x86_64-w64-mingw32/lib)
-list(JOIN TALLYHOOP_DLL_FOLDERS "\;" folders)
-set(CMAKE_CROSSCOMPILING_EMULATOR env WINEDEBUG=-all WINEPATH=${folders} wine)
+set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_CURRENT_LIST_DIR}/../packaging/windows/run.sh) # by wine
 
 # Qt's tools (moc, rcc, uic) are those of Debian's own Qt, which has the same version.
 set(QT_HOST_PATH /usr)
