@@ -22,7 +22,7 @@ function(precompile_headers)
     foreach(target ${first} ${ARG_FOR})
         if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
             target_compile_options(${target} PRIVATE
-                -Wno-array-bounds -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread)
+                "$<$<COMPILE_LANGUAGE:CXX>:-Wno-array-bounds;-Wno-restrict;-Wno-stringop-overflow;-Wno-stringop-overread>")
         endif()
     endforeach()
 endfunction()
