@@ -20,13 +20,16 @@
 #include "screens/help_display.h"
 
 #ifdef _WIN32
+#include "app/pool_in_documents.h"
 #include "qt/services/simple_mapi_mail.h"
 #else
 #include "qt/services/mail_hand_over.h"
 #endif
 
 #include <QApplication>
+#include <QProcess>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QTimer>
 #include <cstdlib>
 
@@ -39,6 +42,19 @@ Result<std::filesystem::path> ownFolder()
 {
     return programFolder(qt::toPath(QCoreApplication::applicationDirPath()), ownProgram());
 }
+
+#ifdef _WIN32
+/// Where the program may not write beside itself, offers to go on in a folder of the person's documents.
+/// @returns whether the program was started there
+bool startedInDocuments(const DataFolder& folder, ui::Dialogs& dialogs)
+{
+    if (!needsAnotherFolder(folder))
+        return false;
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    const auto copy = offerFolderInDocuments(folder, qt::toPath(documents), dialogs);
+    return copy && QProcess::startDetached(qt::fromPath(*copy), {}, qt::fromPath(copy->parent_path()));
+}
+#endif
 
 } // namespace
 
@@ -64,6 +80,10 @@ int main(int argc, char** argv)
         return EXIT_FAILURE;
     }
     const DataFolder folder{*foundFolder};
+#ifdef _WIN32
+    if (startedInDocuments(folder, dialogs))
+        return EXIT_SUCCESS;
+#endif
     const FolderLock lock{folder.folder()};
     frame.setToolTip(qt::plainToolTip(qt::shownText(qt::toLines(shown(folder.folder())))));
     SharedValues shared;

@@ -1,0 +1,114 @@
+// app/pool_in_documents.cpp - the question, and the copy.
+#include "app/pool_in_documents.h"
+
+#include "base/reason.h"
+#include "base/text.h"
+#include "files/file_names.h"
+
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace tallyhoop {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kProgram = "tallyhoop.exe";
+constexpr const char* kFolder = "Tallyhoop";
+constexpr const char* kCaption = "A FOLDER FOR THE POOL";
+
+/// What is installed beside the libraries.
+constexpr const char* kFiles[] = {"tallyhoop-cli.exe", file_name::kDemoInstaller, file_name::kHelp, "LICENSE.TXT",
+                                  "LIBRARIES.TXT"};
+constexpr const char* kFoldersOfLibraries[] = {"platforms", "styles"};
+constexpr const char* kLibraryExtension = ".DLL";
+
+Result<Done> copyFile(const DataFolder& from, const DataFolder& to, const std::string& name)
+{
+    const Result<std::string> bytes = from.read(name);
+    if (!bytes)
+        return Failure{joinLines({from.shownPathOf(name), bytes.failure().message})};
+    const Result<std::string> there = to.read(name);
+    if (there && *there == *bytes)
+        return Done{}; // it may be running
+    if (const Result<Done> written = to.write(name, *bytes); !written)
+        return Failure{joinLines({to.shownPathOf(name), written.failure().message})};
+    return Done{};
+}
+
+Result<Done> copyLibraries(const DataFolder& from, const DataFolder& to)
+{
+    std::error_code error;
+    fs::create_directories(to.folder(), error);
+    if (error)
+        return Failure{joinLines({shown(to.folder()), reasonOf(error)})};
+    const Read<std::vector<FolderFile>> libraries = from.list(kLibraryExtension);
+    if (libraries.trouble)
+        return *libraries.trouble;
+    for (const FolderFile& library : libraries.value) {
+        if (Result<Done> copied = copyFile(from, to, library.name); !copied)
+            return copied;
+    }
+    return Done{};
+}
+
+std::string offer(const DataFolder& program, const fs::path& folder)
+{
+    return joinLines({"Tallyhoop keeps a pool in its own folder, and may not write into it:", shown(program.folder()),
+                      " ", "Shall a folder be made for the pool, with a copy of Tallyhoop that starts there?",
+                      shown(folder)});
+}
+
+} // namespace
+
+bool needsAnotherFolder(const DataFolder& program)
+{
+    return !program.exists(file_name::kSetup) && !program.checkWritable();
+}
+
+Result<Done> copyProgram(const DataFolder& from, const DataFolder& to)
+{
+    if (Result<Done> copied = copyLibraries(from, to); !copied)
+        return copied;
+    for (const char* const name : kFoldersOfLibraries) {
+        const DataFolder plugIns{from.folder() / name};
+        if (!from.exists(name))
+            continue;
+        if (Result<Done> copied = copyLibraries(plugIns, DataFolder{to.folder() / name}); !copied)
+            return copied;
+    }
+    std::vector<std::string> names;
+    for (const char* const name : kFiles) {
+        if (from.exists(name))
+            names.emplace_back(name);
+    }
+    if (!to.exists(file_name::kTeamNames) && from.exists(file_name::kTeamNames))
+        names.emplace_back(file_name::kTeamNames);
+    names.emplace_back(kProgram); // last: where it is, all that it needs is
+    for (const std::string& name : names) {
+        if (Result<Done> copied = copyFile(from, to, name); !copied)
+            return copied;
+    }
+    return Done{};
+}
+
+std::optional<fs::path> offerFolderInDocuments(const DataFolder& program, const fs::path& documents,
+                                               ui::Dialogs& dialogs)
+{
+    if (documents.empty())
+        return std::nullopt;
+    const DataFolder folder{documents / kFolder};
+    if (!folder.exists(kProgram) && dialogs.show({kCaption, offer(program, folder.folder()), ui::Buttons::OkCancel,
+                                                  ui::Icon::Question}) != ui::Answer::Ok)
+        return std::nullopt;
+    if (const Result<Done> copied = copyProgram(program, folder); !copied) {
+        dialogs.show({kCaption, joinLines({"The copy of Tallyhoop could not be made:", copied.failure().message}),
+                      ui::Buttons::Ok, ui::Icon::Critical});
+        return std::nullopt;
+    }
+    return folder.pathTo(kProgram);
+}
+
+} // namespace tallyhoop

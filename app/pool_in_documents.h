@@ -1,0 +1,28 @@
+// app/pool_in_documents.h - a folder of one's own for a program that is installed where nobody may write.
+#pragma once
+
+#include "base/result.h"
+#include "files/data_folder.h"
+#include "ui/dialogs.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace tallyhoop {
+
+/// @returns whether no pool can be kept beside the program: there is none yet, and no file can be made there
+bool needsAnotherFolder(const DataFolder& program);
+
+/// Offers to make the folder "Tallyhoop" of the person's documents, and to start there. A pool lives in the folder of
+/// its program, so the program is copied. Where that has been done before, nothing is asked, and the copy is renewed.
+/// @param documents empty = the system knows of none
+/// @returns the copy to be started; nothing when the person would rather go on here, or when it failed, which is said
+std::optional<std::filesystem::path>
+offerFolderInDocuments(const DataFolder& program, const std::filesystem::path& documents, ui::Dialogs& dialogs);
+
+/// Copies the program, with all it is installed with, over what is there of it. The list of team names is the
+/// organiser's own once it is there.
+/// @returns a failure that names the file
+Result<Done> copyProgram(const DataFolder& from, const DataFolder& to);
+
+} // namespace tallyhoop
