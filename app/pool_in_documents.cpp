@@ -20,10 +20,14 @@ constexpr const char* kFolder = "Tallyhoop";
 constexpr const char* kCaption = "A FOLDER FOR THE POOL";
 
 /// What is installed beside the libraries.
-constexpr const char* kFiles[] = {"tallyhoop-cli.exe", file_name::kDemoInstaller, file_name::kHelp, "LICENSE.TXT",
-                                  "LIBRARIES.TXT"};
-constexpr const char* kFoldersOfLibraries[] = {"platforms", "styles"};
-constexpr const char* kLibraryExtension = ".DLL";
+constexpr const char* kFiles[] = {"tallyhoop-cli.exe", file_name::kDemoInstaller, file_name::kHelp, "LICENSE.TXT"};
+
+/// A folder of the program, and the extension of what is installed in it.
+struct Part {
+    const char* folder; ///< empty = the program's own
+    const char* extension;
+};
+constexpr Part kParts[] = {{"", ".DLL"}, {"platforms", ".DLL"}, {"styles", ".DLL"}, {"licences", ".TXT"}};
 
 Result<Done> copyFile(const DataFolder& from, const DataFolder& to, const std::string& name)
 {
@@ -38,17 +42,17 @@ Result<Done> copyFile(const DataFolder& from, const DataFolder& to, const std::s
     return Done{};
 }
 
-Result<Done> copyLibraries(const DataFolder& from, const DataFolder& to)
+Result<Done> copyAll(const char* extension, const DataFolder& from, const DataFolder& to)
 {
     std::error_code error;
     fs::create_directories(to.folder(), error);
     if (error)
         return Failure{joinLines({shown(to.folder()), reasonOf(error)})};
-    const Read<std::vector<FolderFile>> libraries = from.list(kLibraryExtension);
-    if (libraries.trouble)
-        return *libraries.trouble;
-    for (const FolderFile& library : libraries.value) {
-        if (Result<Done> copied = copyFile(from, to, library.name); !copied)
+    const Read<std::vector<FolderFile>> files = from.list(extension);
+    if (files.trouble)
+        return Failure{joinLines({shown(from.folder()), files.trouble->message})};
+    for (const FolderFile& file : files.value) {
+        if (Result<Done> copied = copyFile(from, to, file.name); !copied)
             return copied;
     }
     return Done{};
@@ -70,13 +74,12 @@ bool needsAnotherFolder(const DataFolder& program)
 
 Result<Done> copyProgram(const DataFolder& from, const DataFolder& to)
 {
-    if (Result<Done> copied = copyLibraries(from, to); !copied)
-        return copied;
-    for (const char* const name : kFoldersOfLibraries) {
-        const DataFolder plugIns{from.folder() / name};
-        if (!from.exists(name))
+    for (const auto& [folder, extension] : kParts) {
+        const DataFolder part{from.folder() / folder};
+        std::error_code ignored;
+        if (!fs::is_directory(part.folder(), ignored))
             continue;
-        if (Result<Done> copied = copyLibraries(plugIns, DataFolder{to.folder() / name}); !copied)
+        if (Result<Done> copied = copyAll(extension, part, DataFolder{to.folder() / folder}); !copied)
             return copied;
     }
     std::vector<std::string> names;

@@ -26,6 +26,7 @@ build()
 rm -rf "$prefix"
 fetch_source fmtlib 9.1.0+ds1-2
 build "$source_folder" fmt -DFMT_TEST=OFF -DFMT_DOC=OFF
+cp "$source_folder/debian/copyright" "$prefix/FMT.TXT"
 build /usr/src/googletest googletest
 
 mkdir -p "$prefix/share/cmake"

@@ -29,6 +29,7 @@ cmake -S "$source_folder" -B "$build" -G Ninja -Wno-dev --log-level=WARNING \
     -DFEATURE_system_harfbuzz=OFF -DFEATURE_system_doubleconversion=OFF -DFEATURE_zstd=OFF -DFEATURE_brotli=OFF
 cmake --build "$build" --parallel "$jobs"
 cmake --install "$build" --strip >"$build/install.log"
+cp "$source_folder/debian/copyright" "$prefix/QT.TXT"
 rm -rf "$build"
 touch "$prefix/complete"
 echo "Qt for Windows is in $prefix"
