@@ -19,7 +19,7 @@ inline QString fromPath(const std::filesystem::path& path)
 inline std::filesystem::path toPath(const QString& path)
 {
 #ifdef _WIN32
-    return std::filesystem::path{path.toStdWString()};
+    return std::filesystem::path{path.toStdWString()}.make_preferred(); // Qt's "/" is not for people there
 #else
     return std::filesystem::path{QFile::encodeName(path).toStdString()};
 #endif

@@ -73,7 +73,7 @@ public:
     void filesDropped(const std::vector<std::filesystem::path>& files) override
     {
         for (const std::filesystem::path& file : files)
-            log.push_back("dropped " + file.string());
+            log.push_back("dropped " + file.generic_string());
     }
 };
 
