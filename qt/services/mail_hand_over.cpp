@@ -1,12 +1,12 @@
 // qt/services/mail_hand_over.cpp - chooses the mail client and starts it.
 #include "qt/services/mail_hand_over.h"
 
-#include "qt/services/message_file.h"
+#include "qt/services/client_arguments.h"
+#include "qt/services/gmime_message.h"
 
 #include <QStringList>
 #include <algorithm>
 #include <array>
-#include <system_error>
 #include <utility>
 
 namespace tallyhoop::qt {
@@ -31,29 +31,6 @@ std::string mailHandler()
 {
     return answerOf("xdg-mime",
                     {QStringLiteral("query"), QStringLiteral("default"), QStringLiteral("x-scheme-handler/mailto")});
-}
-
-std::optional<Failure> missingFile(const OutgoingMail& mail)
-{
-    for (const std::filesystem::path& file : mail.files) {
-        std::error_code ignored;
-        if (!std::filesystem::is_regular_file(file, ignored))
-            return Failure{"The file " + shown(file) + " is not there."};
-    }
-    return std::nullopt;
-}
-
-/// What the person can do instead.
-Failure byHand(const Failure& reason, const OutgoingMail& mail)
-{
-    std::string text = "The message could not be handed to a mail program.\r\n" + reason.message;
-    if (mail.files.empty())
-        return {text};
-    text += "\r\n\r\nYou can attach the files yourself:\r\n";
-    for (const std::filesystem::path& file : mail.files)
-        text += "\r\n" + shown(file.filename());
-    text += "\r\n\r\nThey are in the folder " + shown(mail.files.front().parent_path());
-    return {text};
 }
 
 } // namespace
@@ -94,7 +71,7 @@ Result<ui::HandedOver> MailHandOver::send(const ui::MailMessage& message)
             return ui::HandedOver{};
         troubles += trouble->message + "\r\n";
     }
-    const Result<std::filesystem::path> file = writeMessageFile(mail);
+    const Result<std::filesystem::path> file = writeMessageFile(mail, gmimeMessage, m_folder);
     if (!file)
         return byHand({troubles + file.failure().message}, mail);
     if (const std::optional<Failure> trouble = open(*file))
@@ -108,16 +85,6 @@ std::optional<Failure> MailHandOver::compose(MailRoute route, const OutgoingMail
 {
     return route == MailRoute::Thunderbird ? m_programs.run("thunderbird", thunderbirdArguments(mail))
                                            : m_programs.run("xdg-email", xdgEmailArguments(mail));
-}
-
-Result<std::filesystem::path> MailHandOver::writeMessageFile(const OutgoingMail& mail) const
-{
-    const Result<std::string> bytes = messageFile(mail);
-    if (!bytes)
-        return bytes.failure();
-    if (const Result<Done> written = m_folder.write(kMessageFile, *bytes); !written)
-        return written.failure();
-    return m_folder.pathTo(kMessageFile);
 }
 
 /// Both programs end at once, and say whether anything could open the file.

@@ -44,15 +44,11 @@ public:
 
 private:
     std::optional<Failure> compose(MailRoute route, const OutgoingMail& mail);
-    Result<std::filesystem::path> writeMessageFile(const OutgoingMail& mail) const;
     std::optional<Failure> open(const std::filesystem::path& file);
 
     DataFolder m_folder;
     MailPrograms m_programs;
     bool m_open = false;
 };
-
-/// The bare name of the message file.
-inline constexpr const char* kMessageFile = "TALLYHOOP.EML";
 
 } // namespace tallyhoop::qt

@@ -1,184 +1,45 @@
-// qt/services/message_file.cpp - makes a draft with gmime.
+// qt/services/message_file.cpp - gathers what a message file holds.
 #include "qt/services/message_file.h"
 
 #include "base/windows1252.h"
 #include "files/replace_file.h"
 
-#include <QByteArray>
-#include <algorithm>
-#include <memory>
-#include <string_view>
 #include <vector>
 
 namespace tallyhoop::qt {
 
 namespace {
 
-constexpr const char* kCharset = "UTF-8";
-constexpr const char* kPageExtension = ".HTML";
-constexpr const char* kMissing = "The library for mail messages, gmime 3, could not be loaded.";
-
-struct Unreference {
-    const MailLibrary* gmime;
-    void operator()(gpointer object) const { gmime->g_object_unref(object); }
-};
-template <class T>
-using Owned = std::unique_ptr<T, Unreference>;
-
-/// @returns whether a header can hold the text as it is: no blank that a reader would drop, nothing it would decode
-bool isPlainHeader(std::string_view text)
+std::string utf8Of(const std::filesystem::path& path)
 {
-    return std::ranges::all_of(text, [](char c) { return c >= ' ' && c <= '~'; }) &&
-           text.find("=?") == std::string_view::npos && !text.starts_with(' ') && !text.ends_with(' ');
+    const std::u8string name = path.u8string();
+    return {name.begin(), name.end()};
 }
-
-/// @returns how many bytes from `start`, at most `most`, end between two characters
-std::size_t wholeCharacters(std::string_view utf8, std::size_t start, std::size_t most)
-{
-    std::size_t end = std::min(start + most, utf8.size());
-    while (end < utf8.size() && end > start + 1 && (static_cast<unsigned char>(utf8[end]) & 0xC0U) == 0x80U)
-        --end;
-    return end - start;
-}
-
-/// @returns a text as header value: encoded words, one a line
-std::string encodedWords(const std::string& utf8)
-{
-    constexpr std::size_t kBytesPerWord = 39; // 52 in base64, 12 around them: a line holds 76, "Subject: " included
-    std::string words;
-    for (std::size_t start = 0; start < utf8.size();) {
-        const std::size_t length = wholeCharacters(utf8, start, kBytesPerWord);
-        const QByteArray base64 = QByteArray::fromStdString(utf8.substr(start, length)).toBase64();
-        // cppcheck-suppress knownConditionTrueFalse  ; it is empty at first only
-        words += (words.empty() ? " =?UTF-8?B?" : "\r\n =?UTF-8?B?") + base64.toStdString() + "?=";
-        start += length;
-    }
-    return words + "\r\n";
-}
-
-/// Composes one message.
-class Writer
-{
-public:
-    explicit Writer(const MailLibrary& gmime) : m_gmime{gmime}, m_message{owned(gmime.g_mime_message_new(TRUE))} {}
-
-    std::string write(const OutgoingMail& mail, std::span<const AttachedText> attachments)
-    {
-        m_gmime.g_mime_object_set_header(GMIME_OBJECT(m_message.get()), "X-Unsent", "1", nullptr);
-        for (const std::string& recipient : mail.recipients)
-            addRecipient(recipient);
-        setSubject(mail.subject);
-
-        // Base64 for the text too: no line of it can look like a boundary, and no client changes it in transit.
-        const auto parts = owned(m_gmime.g_mime_multipart_new_with_subtype("mixed"));
-        m_gmime.g_mime_multipart_add(parts.get(), GMIME_OBJECT(textPart(mail.body, "plain", "utf-8").get()));
-        for (const AttachedText& attachment : attachments)
-            m_gmime.g_mime_multipart_add(parts.get(), GMIME_OBJECT(attached(attachment).get()));
-        m_gmime.g_mime_message_set_mime_part(m_message.get(), GMIME_OBJECT(parts.get()));
-        return bytes();
-    }
-
-private:
-    template <class T>
-    Owned<T> owned(T* object) const
-    {
-        return Owned<T>{object, {&m_gmime}};
-    }
-
-    void setSubject(const std::string& subject)
-    {
-        m_gmime.g_mime_message_set_subject(m_message.get(), subject.c_str(), kCharset);
-        if (isPlainHeader(subject))
-            return;
-        // Not the library's own encoding: it chooses between two by length, drops blanks around the text, and leaves
-        // text unchanged that looks encoded already. This encoding is the one that receivers support best.
-        GMimeHeaderList* headers = m_gmime.g_mime_object_get_header_list(GMIME_OBJECT(m_message.get()));
-        m_gmime.g_mime_header_set_raw_value(m_gmime.g_mime_header_list_get_header(headers, "Subject"),
-                                            encodedWords(subject).c_str());
-    }
-
-    /// A recipient is taken as typed: an address, a name with an address, or several of them.
-    void addRecipient(const std::string& recipient)
-    {
-        InternetAddressList* list = m_gmime.g_mime_message_get_addresses(m_message.get(), GMIME_ADDRESS_TYPE_TO);
-        const auto parsed = owned(m_gmime.internet_address_list_parse(nullptr, recipient.c_str()));
-        if (!parsed || m_gmime.internet_address_list_length(parsed.get()) == 0) {
-            const auto address = owned(m_gmime.internet_address_mailbox_new(nullptr, recipient.c_str()));
-            m_gmime.internet_address_list_add(list, address.get());
-            return;
-        }
-        for (int i = 0; i < m_gmime.internet_address_list_length(parsed.get()); ++i) {
-            InternetAddress* address = m_gmime.internet_address_list_get_address(parsed.get(), i);
-            m_gmime.internet_address_set_charset(address, kCharset);
-            m_gmime.internet_address_list_add(list, address);
-        }
-    }
-
-    Owned<GMimePart> textPart(const std::string& bytes, const char* subtype, const char* charset) const
-    {
-        auto part = owned(m_gmime.g_mime_part_new_with_type("text", subtype));
-        const auto stream = owned(m_gmime.g_mime_stream_mem_new_with_buffer(bytes.data(), bytes.size()));
-        const auto content =
-            owned(m_gmime.g_mime_data_wrapper_new_with_stream(stream.get(), GMIME_CONTENT_ENCODING_DEFAULT));
-        m_gmime.g_mime_part_set_content(part.get(), content.get());
-        m_gmime.g_mime_part_set_content_encoding(part.get(), GMIME_CONTENT_ENCODING_BASE64);
-        m_gmime.g_mime_object_set_content_type_parameter(GMIME_OBJECT(part.get()), "charset", charset);
-        return part;
-    }
-
-    Owned<GMimePart> attached(const AttachedText& attachment) const
-    {
-        // Telephones open a page as what it says it is, whatever it is called.
-        auto part = endsWithFolded(attachment.name, kPageExtension)
-                        ? textPart(attachment.bytes, "html", "utf-8")
-                        : textPart(attachment.bytes, "plain", "windows-1252");
-        GMimeObject* object = GMIME_OBJECT(part.get());
-        m_gmime.g_mime_object_set_disposition(object, GMIME_DISPOSITION_ATTACHMENT);
-        m_gmime.g_mime_part_set_filename(part.get(), attachment.name.c_str());
-        for (GMimeParamList* parameters :
-             {m_gmime.g_mime_content_disposition_get_parameters(m_gmime.g_mime_object_get_content_disposition(object)),
-              m_gmime.g_mime_content_type_get_parameters(m_gmime.g_mime_object_get_content_type(object))})
-            for (const char* name : {"filename", "name"})
-                if (GMimeParam* parameter = m_gmime.g_mime_param_list_get_parameter(parameters, name))
-                    m_gmime.g_mime_param_set_charset(parameter, kCharset);
-        return part;
-    }
-
-    std::string bytes() const
-    {
-        const std::unique_ptr<GMimeFormatOptions, decltype(m_gmime.g_mime_format_options_free)> options{
-            m_gmime.g_mime_format_options_new(), m_gmime.g_mime_format_options_free};
-        m_gmime.g_mime_format_options_set_newline_format(options.get(), GMIME_NEWLINE_FORMAT_DOS);
-        const auto stream = owned(m_gmime.g_mime_stream_mem_new());
-        m_gmime.g_mime_object_write_to_stream(GMIME_OBJECT(m_message.get()), options.get(), stream.get());
-        const GByteArray* written = m_gmime.g_mime_stream_mem_get_byte_array(GMIME_STREAM_MEM(stream.get()));
-        return {reinterpret_cast<const char*>(written->data), written->len};
-    }
-
-    const MailLibrary& m_gmime;
-    Owned<GMimeMessage> m_message;
-};
 
 } // namespace
 
-Result<std::string> messageFile(const OutgoingMail& mail, std::span<const AttachedText> attachments,
-                                const MailLibrary* gmime)
-{
-    if (!gmime)
-        return Failure{kMissing};
-    return Writer{*gmime}.write(mail, attachments);
-}
+bool isPage(const AttachedText& attachment) { return endsWithFolded(attachment.name, ".HTML"); }
 
-Result<std::string> messageFile(const OutgoingMail& mail)
+Result<std::string> messageFile(const OutgoingMail& mail, MessageWriter write)
 {
     std::vector<AttachedText> attachments;
     for (const std::filesystem::path& file : mail.files) {
         const Result<std::string> bytes = readFile(file);
         if (!bytes)
             return bytes.failure();
-        attachments.push_back({file.filename().native(), *bytes});
+        attachments.push_back({utf8Of(file.filename()), *bytes});
     }
-    return messageFile(mail, attachments);
+    return write(mail, attachments);
+}
+
+Result<std::filesystem::path> writeMessageFile(const OutgoingMail& mail, MessageWriter write, const DataFolder& folder)
+{
+    const Result<std::string> bytes = messageFile(mail, write);
+    if (!bytes)
+        return bytes.failure();
+    if (const Result<Done> written = folder.write(kMessageFile, *bytes); !written)
+        return written.failure();
+    return folder.pathTo(kMessageFile);
 }
 
 } // namespace tallyhoop::qt

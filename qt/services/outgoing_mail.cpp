@@ -1,11 +1,11 @@
-// qt/services/outgoing_mail.cpp - quoting for each client.
+// qt/services/outgoing_mail.cpp - converts a message, and checks and names its files.
 #include "qt/services/outgoing_mail.h"
 
-#include "base/text.h"
 #include "base/windows1252.h"
+#include "files/data_folder.h"
 
-#include <QByteArray>
 #include <algorithm>
+#include <system_error>
 
 namespace tallyhoop::qt {
 
@@ -26,14 +26,6 @@ std::string withoutPlaceholders(const ui::MailMessage& message)
     return body;
 }
 
-/// In Thunderbird's composing argument a value in apostrophes is taken as it is and ends at an apostrophe before a
-/// comma or the end; a bare value is percent-decoded.
-std::string composeValue(const std::string& text)
-{
-    const bool endsEarly = text.find("',") != std::string::npos || text.ends_with('\'');
-    return endsEarly ? percentEncoded(text) : "'" + text + "'";
-}
-
 } // namespace
 
 OutgoingMail outgoing(const ui::MailMessage& message)
@@ -48,49 +40,26 @@ OutgoingMail outgoing(const ui::MailMessage& message)
     return mail;
 }
 
-// Of the bytes and not of a QString: the name of a file need not be UTF-8. And not QUrl::fromLocalFile(), which leaves
-// commas and apostrophes as they are.
-std::string percentEncoded(std::string_view text, std::string_view kept)
+std::optional<Failure> missingFile(const OutgoingMail& mail)
 {
-    const auto bytes = [](std::string_view view) {
-        return QByteArray::fromRawData(view.data(), static_cast<qsizetype>(view.size()));
-    };
-    return bytes(text).toPercentEncoding(bytes(kept)).toStdString();
-}
-
-std::string fileUrl(const std::filesystem::path& file) { return "file://" + percentEncoded(file.native(), "/"); }
-
-std::vector<std::string> thunderbirdArguments(const OutgoingMail& mail)
-{
-    std::string compose;
-    if (!mail.recipients.empty())
-        compose += "to=" + composeValue(joined(mail.recipients, ",")) + ",";
-    compose += "subject=" + percentEncoded(mail.subject);
-    compose += ",body=" + percentEncoded(mail.body);
-    compose += ",format=text"; // Otherwise a "<b>" in the text would become bold.
-    std::vector<std::string> urls;
-    for (const std::filesystem::path& file : mail.files)
-        urls.push_back(fileUrl(file));
-    if (!urls.empty())
-        compose += ",attachment='" + joined(urls, ",") + "'";
-    return {"-compose", compose};
-}
-
-std::vector<std::string> xdgEmailArguments(const OutgoingMail& mail)
-{
-    std::vector<std::string> arguments{"--utf8"};
     for (const std::filesystem::path& file : mail.files) {
-        arguments.emplace_back("--attach");
-        arguments.push_back(file.native());
+        std::error_code ignored;
+        if (!std::filesystem::is_regular_file(file, ignored))
+            return Failure{"The file " + shown(file) + " is not there."};
     }
-    std::vector<std::string> recipients;
-    for (const std::string& recipient : mail.recipients)
-        recipients.push_back(percentEncoded(recipient, "@"));
-    std::string address = "mailto:" + joined(recipients, ",") + "?subject=" + percentEncoded(mail.subject);
-    if (!mail.body.empty())
-        address += "&body=" + percentEncoded(mail.body);
-    arguments.push_back(address);
-    return arguments;
+    return std::nullopt;
+}
+
+Failure byHand(const Failure& reason, const OutgoingMail& mail)
+{
+    std::string text = "The message could not be handed to a mail program.\r\n" + reason.message;
+    if (mail.files.empty())
+        return {text};
+    text += "\r\n\r\nYou can attach the files yourself:\r\n";
+    for (const std::filesystem::path& file : mail.files)
+        text += "\r\n" + shown(file.filename());
+    text += "\r\n\r\nThey are in the folder " + shown(mail.files.front().parent_path());
+    return {text};
 }
 
 } // namespace tallyhoop::qt

@@ -1,15 +1,15 @@
-// qt/services/outgoing_mail.h - a message in the form that mail clients of a desktop take, and the arguments that pass
-// it to them.
+// qt/services/outgoing_mail.h - a message in the form that mail clients take which cannot place attachments in its
+// text.
 //
-// Everything here is UTF-8. No shell is ever involved: an argument is one element of the list, quoted only for the
-// client that parses it.
+// Nothing of Qt is in here.
 #pragma once
 
+#include "base/result.h"
 #include "ui/mail.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace tallyhoop::qt {
@@ -25,17 +25,10 @@ struct OutgoingMail {
 /// Converts a message of ours; the placeholder blanks at the end of its body are left out.
 OutgoingMail outgoing(const ui::MailMessage& message);
 
-/// @returns the text with every byte but letters, digits and "-._~" (and those in `kept`) as "%" and two hex digits
-std::string percentEncoded(std::string_view text, std::string_view kept = {});
+/// @returns the failure that names the first of its files that is not there; nothing when all are
+std::optional<Failure> missingFile(const OutgoingMail& mail);
 
-/// @returns "file:///..." with the path percent-encoded, commas and apostrophes included
-std::string fileUrl(const std::filesystem::path& file);
-
-/// @returns the arguments that make Thunderbird open its compose window with everything filled in
-std::vector<std::string> thunderbirdArguments(const OutgoingMail& mail);
-
-/// @returns the arguments for xdg-email. Recipients, subject and text travel as one mailto address, so that a leading
-///          "-", a missing "@" or an empty text cannot be taken for something else
-std::vector<std::string> xdgEmailArguments(const OutgoingMail& mail);
+/// @returns the failure with what the person can do instead: attach the files, which it names
+Failure byHand(const Failure& reason, const OutgoingMail& mail);
 
 } // namespace tallyhoop::qt

@@ -2,7 +2,7 @@
 #include "fuzz/targets.h"
 
 #include "base/text.h"
-#include "qt/services/message_file.h"
+#include "qt/services/gmime_message.h"
 
 #include <algorithm>
 #include <gmime/gmime.h>
@@ -133,7 +133,7 @@ Complaint checkParts(GMimeMultipart* parts, const Mail& mail)
 Complaint message_file(std::string_view bytes)
 {
     const Mail mail = decode(bytes);
-    const std::string written = *qt::messageFile(mail.outgoing, mail.attachments);
+    const std::string written = *qt::gmimeMessage(mail.outgoing, mail.attachments);
     std::size_t longestRecipient = 0;
     for (const std::string& recipient : mail.outgoing.recipients)
         longestRecipient = std::max(longestRecipient, recipient.size());

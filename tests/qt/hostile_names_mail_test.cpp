@@ -1,6 +1,6 @@
 // tests/qt/hostile_names_mail_test.cpp - hostile names in what mail clients are started with.
 #include "hostile/hostile_names.h"
-#include "qt/services/outgoing_mail.h"
+#include "qt/services/client_arguments.h"
 
 #include <QByteArray>
 #include <algorithm>

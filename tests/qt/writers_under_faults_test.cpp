@@ -8,6 +8,7 @@
 #include "files/player_names_file.h"
 #include "qt/desk.h"
 #include "qt/services/mail_hand_over.h"
+#include "qt/services/message_file.h"
 #include "qt/services/qt_printer.h"
 #include "screens/reports/reports_screen.h"
 

@@ -1,7 +1,7 @@
 // tests/qt/services/mail_library_test.cpp - the library for message files where it is installed, and where it is not.
 #include "qt/services/mail_library.h"
 
-#include "qt/services/message_file.h"
+#include "qt/services/gmime_message.h"
 
 #include <gtest/gtest.h>
 
@@ -23,7 +23,7 @@ TEST(MailLibrary, IsNoneWhenItIsNotInstalledOrLacksAFunction)
 
 TEST(MailLibrary, IsNamedByAMessageThatCannotBeWrittenWithoutIt)
 {
-    const Result<std::string> message = messageFile({}, {}, nullptr);
+    const Result<std::string> message = gmimeMessage({}, {}, nullptr);
     ASSERT_FALSE(message);
     EXPECT_EQ(message.failure().message, "The library for mail messages, gmime 3, could not be loaded.");
 }

@@ -1,5 +1,5 @@
 // tests/qt/services/message_file_test.cpp - the message file, read back by another program's parser.
-#include "qt/services/message_file.h"
+#include "qt/services/gmime_message.h"
 
 #include "fakes/scratch_folder.h"
 
@@ -67,11 +67,11 @@ TEST_F(MessageFile, CarriesEverythingUnchanged)
 {
     const std::string report = std::string{"Standings\r\n\x0C\r\nZo\xEB \x80 lone\n\0end", 29} + std::string(500, 'x');
     const std::string empty;
-    read(*messageFile({.recipients = {"o'brien@example.org", "js@example.org"},
-                       .subject = "It's round 2, 100% ok",
-                       .body = "Hi, all\r\n\r\n<b>\xC3\xBC</b>\r\n.\r\nFrom me",
-                       .files = {}},
-                      std::vector<AttachedText>{{"RPTOPT1.TXT", report}, {"RPTOPT7.TXT", empty}}));
+    read(*gmimeMessage({.recipients = {"o'brien@example.org", "js@example.org"},
+                        .subject = "It's round 2, 100% ok",
+                        .body = "Hi, all\r\n\r\n<b>\xC3\xBC</b>\r\n.\r\nFrom me",
+                        .files = {}},
+                       std::vector<AttachedText>{{"RPTOPT1.TXT", report}, {"RPTOPT7.TXT", empty}}));
     EXPECT_EQ(found["unsent"], "1");
     EXPECT_EQ(found["mime"], "1.0");
     EXPECT_EQ(found["subject"], "It's round 2, 100% ok");
@@ -93,8 +93,8 @@ TEST_F(MessageFile, CarriesEverythingUnchanged)
 TEST_F(MessageFile, CallsAPageAPage)
 {
     const std::string page = "<!DOCTYPE html><title>Zo\xC3\xAB</title>\n";
-    read(*messageFile({.recipients = {"js@example.org"}, .subject = "s", .body = "Hi", .files = {}},
-                      std::vector<AttachedText>{{"ENTRYFORM.HTML", page}, {"my form.html", page}, {"HTML", page}}));
+    read(*gmimeMessage({.recipients = {"js@example.org"}, .subject = "s", .body = "Hi", .files = {}},
+                       std::vector<AttachedText>{{"ENTRYFORM.HTML", page}, {"my form.html", page}, {"HTML", page}}));
     for (const std::string part : {"1", "2"}) {
         EXPECT_EQ(found["type" + part], "text/html");
         EXPECT_EQ(found["charset" + part], "utf-8");
@@ -111,7 +111,7 @@ TEST_F(MessageFile, EncodesALongSubjectInUtf8WordsOfWholeCharacters)
     for (int i = 0; i < 60; ++i)
         subject += "\xC3\xBC";
     const std::string message =
-        *messageFile({.recipients = {}, .subject = subject, .body = {}, .files = {}}, std::vector<AttachedText>{});
+        *gmimeMessage({.recipients = {}, .subject = subject, .body = {}, .files = {}}, std::vector<AttachedText>{});
     EXPECT_NE(message.find("Subject: =?UTF-8?B?"), std::string::npos) << message.substr(0, 400);
     for (const std::string& line : linesOf(message))
         EXPECT_LE(line.size(), 76u) << line;
@@ -122,20 +122,20 @@ TEST_F(MessageFile, EncodesALongSubjectInUtf8WordsOfWholeCharacters)
 TEST_F(MessageFile, KeepsASubjectThatLooksEncodedOrHasBlanksAroundIt)
 {
     for (const std::string subject : {"=?UTF-8?B?aGk=?=", " two  blanks  ", "100%n =?x"}) {
-        read(
-            *messageFile({.recipients = {}, .subject = subject, .body = {}, .files = {}}, std::vector<AttachedText>{}));
+        read(*gmimeMessage({.recipients = {}, .subject = subject, .body = {}, .files = {}},
+                           std::vector<AttachedText>{}));
         EXPECT_EQ(found["subject"], subject);
     }
 }
 
 TEST_F(MessageFile, TakesNamesWithTheirAddressesAndSeveralAtOnce)
 {
-    read(*messageFile({.recipients = {"\"Smith, J\" <js@example.org>", "Zo\xC3\xAB M <zoe@example.org>",
-                                      "a@example.org, b@example.org"},
-                       .subject = {},
-                       .body = {},
-                       .files = {}},
-                      std::vector<AttachedText>{}));
+    read(*gmimeMessage({.recipients = {"\"Smith, J\" <js@example.org>", "Zo\xC3\xAB M <zoe@example.org>",
+                                       "a@example.org, b@example.org"},
+                        .subject = {},
+                        .body = {},
+                        .files = {}},
+                       std::vector<AttachedText>{}));
     EXPECT_EQ(found["to"], "js@example.org=Smith, J|zoe@example.org=Zo\xC3\xAB M|a@example.org=|b@example.org=");
 }
 
@@ -145,8 +145,8 @@ TEST_F(MessageFile, HasCrLfShortBase64LinesAndABoundaryOfItsOwn)
     std::string report;
     for (int i = 0; i < 200; ++i)
         report += tricky;
-    const std::string message = *messageFile({.recipients = {"a@x.org"}, .subject = "s", .body = tricky, .files = {}},
-                                             std::vector<AttachedText>{{"RPTOPT1.TXT", report}, {"RPTOPT2.TXT", "y"}});
+    const std::string message = *gmimeMessage({.recipients = {"a@x.org"}, .subject = "s", .body = tricky, .files = {}},
+                                              std::vector<AttachedText>{{"RPTOPT1.TXT", report}, {"RPTOPT2.TXT", "y"}});
     std::size_t lineFeeds = 0;
     for (std::size_t i = 0; i < message.size(); ++i)
         if (message[i] == '\n') {
@@ -174,7 +174,8 @@ TEST_F(MessageFile, ReadsItsAttachmentsFromTheirFiles)
 {
     const test::ScratchFolder scratch;
     const std::filesystem::path file = scratch.put("RPTOPT3.TXT", "a report\r\n");
-    const Result<std::string> message = messageFile({.recipients = {}, .subject = {}, .body = {}, .files = {file}});
+    const Result<std::string> message =
+        messageFile({.recipients = {}, .subject = {}, .body = {}, .files = {file}}, gmimeMessage);
     ASSERT_TRUE(message);
     read(*message);
     EXPECT_EQ(found["file1"], "RPTOPT3.TXT");
@@ -184,7 +185,8 @@ TEST_F(MessageFile, ReadsItsAttachmentsFromTheirFiles)
 TEST_F(MessageFile, FailsWhenAnAttachmentCannotBeRead)
 {
     const test::ScratchFolder scratch;
-    EXPECT_FALSE(messageFile({.recipients = {}, .subject = {}, .body = {}, .files = {scratch.path() / "RPTOPT3.TXT"}}));
+    EXPECT_FALSE(messageFile({.recipients = {}, .subject = {}, .body = {}, .files = {scratch.path() / "RPTOPT3.TXT"}},
+                             gmimeMessage));
 }
 
 } // namespace
