@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "qt/services/gmime_message.h"
+#include "qt/services/message_writing.h"
 
 #include <algorithm>
 #include <gmime/gmime.h>
@@ -128,12 +129,8 @@ Complaint checkParts(GMimeMultipart* parts, const Mail& mail)
     return std::nullopt;
 }
 
-} // namespace
-
-Complaint message_file(std::string_view bytes)
+Complaint checkWritten(const std::string& written, const Mail& mail)
 {
-    const Mail mail = decode(bytes);
-    const std::string written = *qt::gmimeMessage(mail.outgoing, mail.attachments);
     std::size_t longestRecipient = 0;
     for (const std::string& recipient : mail.outgoing.recipients)
         longestRecipient = std::max(longestRecipient, recipient.size());
@@ -155,6 +152,18 @@ Complaint message_file(std::string_view bytes)
     if (!GMIME_IS_MULTIPART(body))
         return "the message has no parts";
     return checkParts(GMIME_MULTIPART(body), mail);
+}
+
+} // namespace
+
+Complaint message_file(std::string_view bytes)
+{
+    const Mail mail = decode(bytes);
+    if (Complaint complaint = checkWritten(*qt::gmimeMessage(mail.outgoing, mail.attachments), mail))
+        return "gmime: " + *complaint;
+    if (Complaint complaint = checkWritten(*qt::writtenMessage(mail.outgoing, mail.attachments), mail))
+        return "without gmime: " + *complaint;
+    return std::nullopt;
 }
 
 } // namespace tallyhoop::fuzz

@@ -1,5 +1,6 @@
-// tests/qt/services/message_file_test.cpp - the message file, read back by another program's parser.
+// tests/qt/services/message_file_test.cpp - the message file of each writer, read back by another program's parser.
 #include "qt/services/gmime_message.h"
+#include "qt/services/message_writing.h"
 
 #include "fakes/scratch_folder.h"
 
@@ -31,9 +32,22 @@ for number, part in enumerate(message.iter_parts()):
     show('bytes%d' % number, part.get_payload(decode=True))
 )";
 
-class MessageFile : public testing::Test
+/// What writes the message.
+struct NamedWriter {
+    const char* name;
+    MessageWriter write;
+};
+
+void PrintTo(const NamedWriter& writer, std::ostream* out) { *out << writer.name; }
+
+class MessageFile : public testing::TestWithParam<NamedWriter>
 {
 protected:
+    static std::string written(const OutgoingMail& mail, const std::vector<AttachedText>& attachments = {})
+    {
+        return *GetParam().write(mail, attachments);
+    }
+
     void read(const std::string& message)
     {
         QProcess python;
@@ -63,15 +77,15 @@ std::vector<std::string> linesOf(const std::string& bytes)
     return lines;
 }
 
-TEST_F(MessageFile, CarriesEverythingUnchanged)
+TEST_P(MessageFile, CarriesEverythingUnchanged)
 {
     const std::string report = std::string{"Standings\r\n\x0C\r\nZo\xEB \x80 lone\n\0end", 29} + std::string(500, 'x');
     const std::string empty;
-    read(*gmimeMessage({.recipients = {"o'brien@example.org", "js@example.org"},
-                        .subject = "It's round 2, 100% ok",
-                        .body = "Hi, all\r\n\r\n<b>\xC3\xBC</b>\r\n.\r\nFrom me",
-                        .files = {}},
-                       std::vector<AttachedText>{{"RPTOPT1.TXT", report}, {"RPTOPT7.TXT", empty}}));
+    read(written({.recipients = {"o'brien@example.org", "js@example.org"},
+                  .subject = "It's round 2, 100% ok",
+                  .body = "Hi, all\r\n\r\n<b>\xC3\xBC</b>\r\n.\r\nFrom me",
+                  .files = {}},
+                 {{"RPTOPT1.TXT", report}, {"RPTOPT7.TXT", empty}}));
     EXPECT_EQ(found["unsent"], "1");
     EXPECT_EQ(found["mime"], "1.0");
     EXPECT_EQ(found["subject"], "It's round 2, 100% ok");
@@ -90,11 +104,11 @@ TEST_F(MessageFile, CarriesEverythingUnchanged)
     EXPECT_FALSE(found.contains("type3"));
 }
 
-TEST_F(MessageFile, CallsAPageAPage)
+TEST_P(MessageFile, CallsAPageAPage)
 {
     const std::string page = "<!DOCTYPE html><title>Zo\xC3\xAB</title>\n";
-    read(*gmimeMessage({.recipients = {"js@example.org"}, .subject = "s", .body = "Hi", .files = {}},
-                       std::vector<AttachedText>{{"ENTRYFORM.HTML", page}, {"my form.html", page}, {"HTML", page}}));
+    read(written({.recipients = {"js@example.org"}, .subject = "s", .body = "Hi", .files = {}},
+                 {{"ENTRYFORM.HTML", page}, {"my form.html", page}, {"HTML", page}}));
     for (const std::string part : {"1", "2"}) {
         EXPECT_EQ(found["type" + part], "text/html");
         EXPECT_EQ(found["charset" + part], "utf-8");
@@ -105,13 +119,12 @@ TEST_F(MessageFile, CallsAPageAPage)
     EXPECT_EQ(found["type3"], "text/plain");
 }
 
-TEST_F(MessageFile, EncodesALongSubjectInUtf8WordsOfWholeCharacters)
+TEST_P(MessageFile, EncodesALongSubjectInUtf8WordsOfWholeCharacters)
 {
     std::string subject = "x"; // so that a cut after a fixed number of bytes would hit the middle of a character
     for (int i = 0; i < 60; ++i)
         subject += "\xC3\xBC";
-    const std::string message =
-        *gmimeMessage({.recipients = {}, .subject = subject, .body = {}, .files = {}}, std::vector<AttachedText>{});
+    const std::string message = written({.recipients = {}, .subject = subject, .body = {}, .files = {}});
     EXPECT_NE(message.find("Subject: =?UTF-8?B?"), std::string::npos) << message.substr(0, 400);
     for (const std::string& line : linesOf(message))
         EXPECT_LE(line.size(), 76u) << line;
@@ -119,34 +132,33 @@ TEST_F(MessageFile, EncodesALongSubjectInUtf8WordsOfWholeCharacters)
     EXPECT_EQ(found["subject"], subject);
 }
 
-TEST_F(MessageFile, KeepsASubjectThatLooksEncodedOrHasBlanksAroundIt)
+TEST_P(MessageFile, KeepsASubjectThatLooksEncodedOrHasBlanksAroundIt)
 {
     for (const std::string subject : {"=?UTF-8?B?aGk=?=", " two  blanks  ", "100%n =?x"}) {
-        read(*gmimeMessage({.recipients = {}, .subject = subject, .body = {}, .files = {}},
-                           std::vector<AttachedText>{}));
+        read(written({.recipients = {}, .subject = subject, .body = {}, .files = {}}, std::vector<AttachedText>{}));
         EXPECT_EQ(found["subject"], subject);
     }
 }
 
-TEST_F(MessageFile, TakesNamesWithTheirAddressesAndSeveralAtOnce)
+TEST_P(MessageFile, TakesNamesWithTheirAddressesAndSeveralAtOnce)
 {
-    read(*gmimeMessage({.recipients = {"\"Smith, J\" <js@example.org>", "Zo\xC3\xAB M <zoe@example.org>",
-                                       "a@example.org, b@example.org"},
-                        .subject = {},
-                        .body = {},
-                        .files = {}},
-                       std::vector<AttachedText>{}));
+    read(written({.recipients = {"\"Smith, J\" <js@example.org>", "Zo\xC3\xAB M <zoe@example.org>",
+                                 "a@example.org, b@example.org"},
+                  .subject = {},
+                  .body = {},
+                  .files = {}},
+                 std::vector<AttachedText>{}));
     EXPECT_EQ(found["to"], "js@example.org=Smith, J|zoe@example.org=Zo\xC3\xAB M|a@example.org=|b@example.org=");
 }
 
-TEST_F(MessageFile, HasCrLfShortBase64LinesAndABoundaryOfItsOwn)
+TEST_P(MessageFile, HasCrLfShortBase64LinesAndABoundaryOfItsOwn)
 {
     const std::string tricky = "--=-boundary\r\n.\r\n--\r\n";
     std::string report;
     for (int i = 0; i < 200; ++i)
         report += tricky;
-    const std::string message = *gmimeMessage({.recipients = {"a@x.org"}, .subject = "s", .body = tricky, .files = {}},
-                                              std::vector<AttachedText>{{"RPTOPT1.TXT", report}, {"RPTOPT2.TXT", "y"}});
+    const std::string message = written({.recipients = {"a@x.org"}, .subject = "s", .body = tricky, .files = {}},
+                                        {{"RPTOPT1.TXT", report}, {"RPTOPT2.TXT", "y"}});
     std::size_t lineFeeds = 0;
     for (std::size_t i = 0; i < message.size(); ++i)
         if (message[i] == '\n') {
@@ -170,24 +182,47 @@ TEST_F(MessageFile, HasCrLfShortBase64LinesAndABoundaryOfItsOwn)
     EXPECT_EQ(found["bytes1"], report);
 }
 
-TEST_F(MessageFile, ReadsItsAttachmentsFromTheirFiles)
+TEST_P(MessageFile, ReadsItsAttachmentsFromTheirFiles)
 {
     const test::ScratchFolder scratch;
     const std::filesystem::path file = scratch.put("RPTOPT3.TXT", "a report\r\n");
     const Result<std::string> message =
-        messageFile({.recipients = {}, .subject = {}, .body = {}, .files = {file}}, gmimeMessage);
+        messageFile({.recipients = {}, .subject = {}, .body = {}, .files = {file}}, GetParam().write);
     ASSERT_TRUE(message);
     read(*message);
     EXPECT_EQ(found["file1"], "RPTOPT3.TXT");
     EXPECT_EQ(found["bytes1"], "a report\r\n");
 }
 
-TEST_F(MessageFile, FailsWhenAnAttachmentCannotBeRead)
+TEST_P(MessageFile, FailsWhenAnAttachmentCannotBeRead)
 {
     const test::ScratchFolder scratch;
     EXPECT_FALSE(messageFile({.recipients = {}, .subject = {}, .body = {}, .files = {scratch.path() / "RPTOPT3.TXT"}},
                              gmimeMessage));
 }
+
+TEST_P(MessageFile, NamesAttachmentsInAnyLanguageAndLength)
+{
+    const std::string accents = "Zo\xC3\xAB's \xE2\x82\xAC.TXT"; // with the euro sign
+    std::string longName;
+    for (int i = 0; i < 100; ++i)
+        longName += "\xC3\xBC";
+    longName += ".HTML";
+    for (const std::string& name : {accents, longName, std::string{"a \"b\" \\c.TXT"}}) {
+        const std::string message =
+            written({.recipients = {}, .subject = "s", .body = {}, .files = {}}, {{name, "a report"}});
+        for (const std::string& line : linesOf(message))
+            EXPECT_LE(line.size(), 78u) << line;
+        read(message);
+        EXPECT_EQ(found["file1"], name);
+        EXPECT_EQ(found["bytes1"], "a report");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, MessageFile,
+                         testing::Values(NamedWriter{"Gmime", gmimeMessage},
+                                         NamedWriter{"WithoutGmime", writtenMessage}),
+                         [](const auto& values) { return values.param.name; });
 
 } // namespace
 } // namespace tallyhoop::qt
