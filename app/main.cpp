@@ -89,7 +89,7 @@ int main(int argc, char** argv)
     SharedValues shared;
     qt::QtPrinter printer{desk};
 #ifdef _WIN32
-    qt::SimpleMapiMail mail;
+    qt::SimpleMapiMail mail{folder, static_cast<std::uintptr_t>(frame.winId())};
 #else
     qt::MailHandOver mail{folder};
 #endif

@@ -93,3 +93,6 @@ compile_together(tallyhoop_pool_tests tallyhoop_files_tests tallyhoop_intake_tes
 if(TALLYHOOP_WINDOWS)
     add_subdirectory(qt)
 endif()
+if(WIN32)
+    add_subdirectory(windows/mapi)
+endif()

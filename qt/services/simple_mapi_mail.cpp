@@ -1,19 +1,21 @@
 // qt/services/simple_mapi_mail.cpp - sessions and messages of Simple MAPI.
 #include "qt/services/simple_mapi_mail.h"
 
-#include <filesystem>
-#include <string>
-#include <system_error>
+#include "base/text.h"
+#include "base/windows1252.h"
+#include "qt/services/mailboxes.h"
+#include "qt/services/message_writing.h"
+#include "qt/services/wide_mapi.h"
+
+#include <string_view>
+#include <utility>
 #include <vector>
-#include <windows.h>
-// The comment keeps the order of the includes: the next header needs the one above.
-#include <mapi.h>
 
 namespace tallyhoop::qt {
 
 namespace {
 
-constexpr UINT kOurCodePage = 1252;
+constexpr const char* kNoClient = "No mail program is set up on this computer.";
 
 /// @returns a function of the library, nullptr when it is not there
 template <class Function>
@@ -23,97 +25,110 @@ Function* functionOf(void* library, const char* name)
     return reinterpret_cast<Function*>(reinterpret_cast<void*>(address));
 }
 
-/// @returns a wide text in the code page that the client reads
-std::string forClient(const std::wstring& wide)
+WideMapiSendMail* sendMailOf(void* library) { return functionOf<WideMapiSendMail>(library, "MAPISendMailW"); }
+
+/// @returns a text of ours in UTF-16: as many characters, so that places in it stay the same
+std::wstring wide(std::string_view text)
 {
-    const int size =
-        WideCharToMultiByte(CP_ACP, 0, wide.data(), static_cast<int>(wide.size()), nullptr, 0, nullptr, nullptr);
-    std::string text(static_cast<std::size_t>(size), '\0');
-    WideCharToMultiByte(CP_ACP, 0, wide.data(), static_cast<int>(wide.size()), text.data(), size, nullptr, nullptr);
-    return text;
+    std::wstring characters;
+    for (const char c : text)
+        characters.push_back(static_cast<wchar_t>(unicodeOf(static_cast<unsigned char>(c))));
+    return characters;
 }
 
-/// The same for a text of ours, one byte per character.
-std::string forClient(const std::string& text)
-{
-    std::wstring wide(text.size(), L'\0');
-    MultiByteToWideChar(kOurCodePage, 0, text.data(), static_cast<int>(text.size()), wide.data(),
-                        static_cast<int>(wide.size()));
-    return forClient(wide);
-}
+/// A text that MAPI does not change, though its structures do not say so.
+wchar_t* pointerTo(const std::wstring& text) { return text.empty() ? nullptr : const_cast<wchar_t*>(text.c_str()); }
 
-Failure failureOf(ULONG code)
+std::string troubleOf(ULONG code)
 {
     switch (code) {
-    case MAPI_USER_ABORT:
-        return {"The log-on to the mail program was cancelled."};
     case MAPI_E_LOGON_FAILURE:
-        return {"The mail program did not accept the log-on."};
+        return "The mail program did not accept the log-on.";
     case MAPI_E_ATTACHMENT_NOT_FOUND:
     case MAPI_E_ATTACHMENT_OPEN_FAILURE:
-        return {"A report file could not be attached; the report files are in the program's folder."};
+    case MAPI_E_ATTACHMENT_WRITE_FAILURE:
+        return "The mail program could not attach a file.";
     default:
-        return {"The mail program reported error " + std::to_string(code) +
-                "; the report files are in the program's folder."};
+        return "The mail program reported error " + std::to_string(code) + ".";
     }
 }
 
 /// A message in the client's form; its pointers refer to the texts that it holds.
-struct ClientMessage {
-    std::vector<std::string> names, addresses, paths, fileNames;
-    std::string subject, body;
-    std::vector<MapiRecipDesc> recipients;
-    std::vector<MapiFileDesc> files;
-    MapiMessage message{};
+class ClientMessage
+{
+public:
+    explicit ClientMessage(const ui::MailMessage& message)
+        : m_subject{wide(asOneLine(message.subject))}, m_body{wide(message.body)}
+    {
+        takeTexts(message);
+        pointToRecipients();
+        pointToFiles(message);
+        m_message.lpszSubject = m_subject.data();
+        m_message.lpszNoteText = m_body.data();
+        m_message.nRecipCount = static_cast<ULONG>(m_recipients.size());
+        m_message.lpRecips = m_recipients.empty() ? nullptr : m_recipients.data();
+        m_message.nFileCount = static_cast<ULONG>(m_files.size());
+        m_message.lpFiles = m_files.empty() ? nullptr : m_files.data();
+    }
+    ClientMessage(const ClientMessage&) = delete;
+    ClientMessage& operator=(const ClientMessage&) = delete;
+
+    WideMapiMessage* get() { return &m_message; }
+
+private:
+    struct Texts {
+        std::wstring first, second; ///< name and address, or path and name
+    };
+
+    void takeTexts(const ui::MailMessage& message)
+    {
+        for (const std::string& recipient : message.recipients)
+            for (const Mailbox& mailbox : mailboxesOf(asOneLine(recipient))) {
+                // The client wants a name in any case, and looks up one that is alone.
+                const std::string& name = mailbox.name.empty() ? mailbox.address : mailbox.name;
+                m_mailboxes.push_back(
+                    {wide(name), mailbox.address.empty() ? std::wstring{} : L"SMTP:" + wide(mailbox.address)});
+            }
+        for (const ui::Attachment& attachment : message.attachments)
+            m_paths.push_back(
+                {std::filesystem::absolute(attachment.file).native(), attachment.file.filename().native()});
+    }
+
+    void pointToRecipients()
+    {
+        for (const Texts& mailbox : m_mailboxes) {
+            WideMapiRecipient recipient{};
+            recipient.ulRecipClass = MAPI_TO;
+            recipient.lpszName = pointerTo(mailbox.first);
+            recipient.lpszAddress = pointerTo(mailbox.second);
+            m_recipients.push_back(recipient);
+        }
+    }
+
+    void pointToFiles(const ui::MailMessage& message)
+    {
+        for (std::size_t i = 0; i < m_paths.size(); ++i) {
+            WideMapiFile file{};
+            file.nPosition = static_cast<ULONG>(message.attachments[i].position);
+            file.lpszPathName = pointerTo(m_paths[i].first);
+            file.lpszFileName = pointerTo(m_paths[i].second);
+            m_files.push_back(file);
+        }
+    }
+
+    std::wstring m_subject, m_body;
+    std::vector<Texts> m_mailboxes, m_paths;
+    std::vector<WideMapiRecipient> m_recipients;
+    std::vector<WideMapiFile> m_files;
+    WideMapiMessage m_message{};
 };
 
-void addRecipients(const ui::MailMessage& message, ClientMessage& client)
-{
-    for (const std::string& recipient : message.recipients) {
-        client.names.push_back(forClient(recipient));
-        client.addresses.push_back("SMTP:" + client.names.back());
-    }
-    for (std::size_t i = 0; i < client.names.size(); ++i) {
-        MapiRecipDesc recipient{};
-        recipient.ulRecipClass = MAPI_TO;
-        recipient.lpszName = client.names[i].data();
-        // What is not an address is a name, which the client looks up.
-        if (client.names[i].find('@') != std::string::npos)
-            recipient.lpszAddress = client.addresses[i].data();
-        client.recipients.push_back(recipient);
-    }
-}
-
-void addFiles(const ui::MailMessage& message, ClientMessage& client)
-{
-    for (const ui::Attachment& attachment : message.attachments) {
-        client.paths.push_back(forClient(std::filesystem::absolute(attachment.file).wstring()));
-        client.fileNames.push_back(forClient(attachment.file.filename().wstring()));
-    }
-    for (std::size_t i = 0; i < client.paths.size(); ++i) {
-        MapiFileDesc file{};
-        file.nPosition = static_cast<ULONG>(message.attachments[i].position);
-        file.lpszPathName = client.paths[i].data();
-        file.lpszFileName = client.fileNames[i].data();
-        client.files.push_back(file);
-    }
-}
-
-void compose(const ui::MailMessage& message, ClientMessage& client)
-{
-    client.subject = forClient(message.subject);
-    client.body = forClient(message.body);
-    addRecipients(message, client);
-    addFiles(message, client);
-    client.message.lpszSubject = client.subject.data();
-    client.message.lpszNoteText = client.body.data();
-    client.message.nRecipCount = static_cast<ULONG>(client.recipients.size());
-    client.message.lpRecips = client.recipients.empty() ? nullptr : client.recipients.data();
-    client.message.nFileCount = static_cast<ULONG>(client.files.size());
-    client.message.lpFiles = client.files.empty() ? nullptr : client.files.data();
-}
-
 } // namespace
+
+SimpleMapiMail::SimpleMapiMail(DataFolder folder, std::uintptr_t window, MailSystem system)
+    : m_folder{std::move(folder)}, m_window{window}, m_system{std::move(system)}
+{
+}
 
 SimpleMapiMail::~SimpleMapiMail()
 {
@@ -127,39 +142,57 @@ Result<Done> SimpleMapiMail::signOn()
     if (isOpen())
         return Done{};
     if (m_library == nullptr)
-        m_library = LoadLibraryExW(L"mapi32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
+        m_library = LoadLibraryExW(m_system.library.c_str(), nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
     auto* const logOn = functionOf<MAPILOGON>(m_library, "MAPILogon");
-    if (logOn == nullptr)
-        return Failure{"No mail program is set up on this computer."};
-    LHANDLE session = 0;
-    // Without MAPI_FORCE_DOWNLOAD no mail is fetched.
-    const ULONG code = logOn(0, nullptr, nullptr, MAPI_LOGON_UI, 0, &session);
-    if (code != SUCCESS_SUCCESS)
-        return failureOf(code);
-    m_session = static_cast<std::uintptr_t>(session);
+    m_trouble = kNoClient;
+    if (logOn != nullptr && sendMailOf(m_library) != nullptr) {
+        LHANDLE session = 0;
+        // Without MAPI_FORCE_DOWNLOAD no mail is fetched.
+        const ULONG code = logOn(m_window, nullptr, nullptr, MAPI_LOGON_UI, 0, &session);
+        if (code == MAPI_USER_ABORT)
+            return Failure{"The log-on to the mail program was cancelled."};
+        if (code == SUCCESS_SUCCESS)
+            m_session = static_cast<std::uintptr_t>(session);
+        else
+            m_trouble = troubleOf(code);
+    }
+    m_open = true;
     return Done{};
 }
 
 Result<ui::HandedOver> SimpleMapiMail::send(const ui::MailMessage& message)
 {
-    auto* const sendMail = functionOf<MAPISENDMAIL>(m_library, "MAPISendMail");
-    if (sendMail == nullptr)
-        return Failure{"No mail program is set up on this computer."};
-    ClientMessage client;
-    compose(message, client);
-    const ULONG code = sendMail(static_cast<LHANDLE>(m_session), 0, &client.message, MAPI_DIALOG | MAPI_LOGON_UI, 0);
+    const OutgoingMail mail = outgoing(message);
+    if (const std::optional<Failure> missing = missingFile(mail))
+        return byHand(*missing, mail);
+    if (!m_session)
+        return inMessageFile(mail, m_trouble);
+    const ULONG code = sendMailOf(m_library)(static_cast<LHANDLE>(*m_session), m_window, ClientMessage{message}.get(),
+                                             MAPI_DIALOG | MAPI_LOGON_UI, 0);
     if (code == SUCCESS_SUCCESS || code == MAPI_USER_ABORT)
         return ui::HandedOver{};
-    return failureOf(code);
+    return inMessageFile(mail, troubleOf(code));
+}
+
+/// @param trouble why the client has not got the message
+Result<ui::HandedOver> SimpleMapiMail::inMessageFile(const OutgoingMail& mail, const std::string& trouble) const
+{
+    const std::string before = trouble + "\r\n";
+    const Result<std::filesystem::path> file = writeMessageFile(mail, writtenMessage, m_folder);
+    if (!file)
+        return byHand({before + file.failure().message}, mail);
+    if (const std::optional<Failure> unopened = m_system.openFile(*file))
+        return ui::HandedOver{*file, before + unopened->message};
+    return ui::HandedOver{*file, {}};
 }
 
 void SimpleMapiMail::signOff()
 {
-    if (!isOpen())
-        return;
-    if (auto* const logOff = functionOf<MAPILOGOFF>(m_library, "MAPILogoff"))
-        logOff(static_cast<LHANDLE>(m_session), 0, 0, 0);
-    m_session = 0;
+    if (m_session)
+        if (auto* const logOff = functionOf<MAPILOGOFF>(m_library, "MAPILogoff"))
+            logOff(static_cast<LHANDLE>(*m_session), m_window, 0, 0);
+    m_session.reset();
+    m_open = false;
 }
 
 } // namespace tallyhoop::qt
