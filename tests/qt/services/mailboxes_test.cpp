@@ -24,6 +24,7 @@ TEST(Mailboxes, MayHaveBoth)
 {
     EXPECT_EQ(mailboxesOf("Ann Lee <ann@x.org>"), (Mailboxes{{"Ann Lee", "ann@x.org"}}));
     EXPECT_EQ(mailboxesOf("\"Smith, \\\"JJ\\\"\" < js@x.org >"), (Mailboxes{{"Smith, \"JJ\"", "js@x.org"}}));
+    EXPECT_EQ(mailboxesOf("\"a\\\", b\" <x@x.org>"), (Mailboxes{{"a\", b", "x@x.org"}}));
     EXPECT_EQ(mailboxesOf("<js@x.org>"), (Mailboxes{{"", "js@x.org"}}));
 }
 
