@@ -4,6 +4,8 @@
 #include "intake/charsets.h"
 
 #include <array>
+#include <bit>
+#include <cstdint>
 #include <iconv.h>
 
 namespace tallyhoop {
@@ -23,13 +25,14 @@ public:
     Conversion(const Conversion&) = delete;
     Conversion& operator=(const Conversion&) = delete;
 
-    bool isThere() const { return m_conversion != reinterpret_cast<iconv_t>(-1); }
+    /// The system's way to say that it does not know the set is a pointer with all bits set.
+    bool isThere() const { return std::bit_cast<std::intptr_t>(m_conversion) != -1; }
 
-    std::string operator()(std::string bytes)
+    std::string operator()(std::string_view bytes)
     {
         std::string utf8;
-        std::array<char, 4096> piece;
-        char* from = bytes.data();
+        std::array<char, 4096> piece{};
+        char* from = const_cast<char*>(bytes.data()); // iconv does not change it, though its declaration lets it
         std::size_t left = bytes.size();
         while (left > 0) {
             char* to = piece.data();
@@ -57,7 +60,7 @@ std::optional<std::string> utf8FromCharset(std::string_view bytes, const std::st
     Conversion conversion{charset};
     if (!conversion.isThere())
         return std::nullopt;
-    return conversion(std::string{bytes});
+    return conversion(bytes);
 }
 
 } // namespace tallyhoop

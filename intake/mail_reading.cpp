@@ -5,8 +5,10 @@
 #include "base/windows1252.h"
 #include "intake/charsets.h"
 #include "intake/limits.h"
+#include "intake/mail_dates.h"
 #include "intake/mail_encodings.h"
 #include "intake/mail_headers.h"
+#include "intake/mail_value.h"
 #include "intake/plain_text.h"
 
 #include <algorithm>
@@ -56,7 +58,7 @@ std::vector<std::string_view> partsBetween(std::string_view body, const std::str
 }
 
 /// What calls itself Latin-1 is nearly always Windows-1252, and what calls itself ASCII can be anything.
-std::string inUtf8(const std::string& text, const std::string& charset)
+std::string contentInUtf8(const std::string& text, const std::string& charset)
 {
     constexpr std::array<std::string_view, 8> kGuessed = {"",     "us-ascii",   "ascii",  "utf-8",
                                                           "utf8", "iso-8859-1", "latin1", "windows-1252"};
@@ -129,7 +131,7 @@ private:
         taken.kind = *kind;
         taken.content = decodedContent(body, headers.get("Content-Transfer-Encoding"));
         if (taken.kind != MailPart::Kind::File)
-            taken.content = inUtf8(taken.content, type.get("charset"));
+            taken.content = contentInUtf8(taken.content, type.get("charset"));
         m_parts.push_back(std::move(taken));
     }
 

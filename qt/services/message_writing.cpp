@@ -67,7 +67,9 @@ std::string toHeader(const OutgoingMail& mail)
     for (const std::string& recipient : mail.recipients)
         for (const Mailbox& mailbox : mailboxesOf(recipient))
             all.push_back(written(mailbox));
-    return all.empty() ? std::string{} : "To: " + joined(all, std::string{","} + kNextLine) + "\r\n";
+    if (all.empty())
+        return {};
+    return "To: " + joined(all, std::string{","} + kNextLine) + "\r\n";
 }
 
 /// @returns a parameter of a header on lines of its own; long names, and those beyond ASCII, as RFC 2231 has it

@@ -110,6 +110,20 @@ TEST_P(MailParts, AreTextPageAndFiles)
     EXPECT_EQ(parts[2].content, "A\r\nB") << "byte for byte";
 }
 
+TEST_P(MailParts, AreNamedInEncodedWords)
+{
+    const auto nameOf = [this](const std::string& name) {
+        return partsOf("Content-Type: application/octet-stream\n"
+                       "Content-Disposition: attachment; filename=\"" +
+                       name + "\"\n\nx")[0]
+            .name;
+    };
+    EXPECT_EQ(nameOf("=?utf-8?q?Zo=C3=A9?= S.THC"), "Zo\xE9 S.THC");
+    EXPECT_EQ(nameOf("=?utf-8?b?Wm9v?= =?utf-8?b?w6k=?=.THC"), "Zoo\xE9.THC") << "blanks between words do not count";
+    EXPECT_EQ(nameOf("=?utf-8?q?Zo=C3?= =?utf-8?q?=A9?=.THC"), "Zo\xE9.THC") << "a character in two words";
+    EXPECT_EQ(nameOf("=?utf-8?q?Zo?= =?iso-8859-1?q?=E9?=.THC"), "Zo\xE9.THC") << "two character sets";
+}
+
 TEST_P(MailParts, OfAForwardedMessageHaveItsSender)
 {
     const auto parts = partsOf("From: boss@example.org\nContent-Type: multipart/mixed; boundary=x\n\n"
