@@ -39,7 +39,7 @@ class SaveInVain(unittest.TestCase):
         self.save()
         box = self.program.answer("OK", "** ERROR IN WRITING FILE **")
         self.assertEqual(box["text"].splitlines(), [
-            f"There is a problem writing file: {self.program.folder / FILE}", " Check your selection and retry."])
+            f"There is a problem writing file: {self.program.path(FILE)}", " Check your selection and retry."])
         self.assertEqual(self.program.read(FILE), old)
         self.assertEqual(self.program.files(), files)
         self.assertEqual(self.program.text("txtFinalPoints"), "177")

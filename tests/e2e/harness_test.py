@@ -3,15 +3,15 @@
 import unittest
 
 from program import Failed, Program, centre
-from program_folder import BUILD
+from target import TARGET
 
 
 class HarnessOnADisplay(unittest.TestCase):
-    platform = "xcb"
+    platform = TARGET.PLATFORM
 
     def setUp(self):
         self.program = self.enterContext(
-            Program(executable=BUILD / "tests/e2e/tallyhoop_e2e_dummy", platform=self.platform)).start()
+            Program(executable=TARGET.built("tests/e2e/tallyhoop_e2e_dummy"), platform=self.platform)).start()
 
     def see(self, name, text):
         self.program.wait(lambda: self.program.text(name) == text, f"{name} showing {text!r}")
@@ -45,7 +45,7 @@ class HarnessOnADisplay(unittest.TestCase):
         self.program.write("Some file.txt", ["text"])
         self.program.menu("mnuFile", "mnuOpen")
         self.program.file_dialog("Some file.txt")
-        self.see("lblSaid", str(self.program.folder / "Some file.txt"))
+        self.see("lblSaid", self.program.path("Some file.txt"))
 
     def test_a_heading_is_dragged_to_another_place(self):
         headings = self.program.table("table")["headings"]
@@ -63,7 +63,7 @@ class HarnessWithoutADisplay(HarnessOnADisplay):
 
 class HarnessWhileAWindowIsBeingShown(unittest.TestCase):
     def test_nothing_is_pressed_before_the_window_manager_has_shown_the_box(self):
-        program = self.enterContext(Program(executable=BUILD / "tests/e2e/tallyhoop_e2e_dummy")).start()
+        program = self.enterContext(Program(executable=TARGET.built("tests/e2e/tallyhoop_e2e_dummy"))).start()
         self.assertTrue(program.reachable("cmdGreet"))
         with program.without_window_manager():
             program.key("Ctrl+J")
@@ -79,7 +79,7 @@ class HarnessWhileAWindowIsBeingShown(unittest.TestCase):
 
 class HarnessClosing(unittest.TestCase):
     def test_the_window_managers_close_ends_the_program(self):
-        with Program(executable=BUILD / "tests/e2e/tallyhoop_e2e_dummy") as program:
+        with Program(executable=TARGET.built("tests/e2e/tallyhoop_e2e_dummy")) as program:
             self.assertEqual(program.start().close(), 0)
 
 

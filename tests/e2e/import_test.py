@@ -167,7 +167,7 @@ class ImportByMouse(Import):
 
     def read_files(self):
         self.program.click("cmdChooseFiles")
-        self.program.file_dialog(" ".join(f'"{self.inbox / name}"' for name in ("00.THC", "01.THC", "02.THC")))
+        self.program.file_dialog(*(self.inbox / name for name in ("00.THC", "01.THC", "02.THC")))
         self.shows("lblCounts", "3 entries: 3 new.")
         for name in ("00.THC", "01.THC", "02.THC"):
             (self.inbox / name).unlink()
@@ -255,8 +255,8 @@ class ImportByKeyboard(WithoutMouse, Import):
         self.program.box()
         self.focused("fileNameEdit")
         self.program.key("Ctrl+A")
-        self.program.type_text(str(path))
-        self.shows("fileNameEdit", str(path))
+        self.program.type_text(self.program.path(path))
+        self.shows("fileNameEdit", self.program.path(path))
         self.program.key("Return")
         self.program.wait(lambda: self.program.modal().get("name") != "QFileDialog", "the file dialog going away")
 

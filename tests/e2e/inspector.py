@@ -11,8 +11,9 @@ class Ended(RuntimeError):
 
 
 class Inspector:
-    def __init__(self, path):
-        self._path = path
+    def __init__(self, port_file):
+        """port_file: where the program writes the port on which it listens."""
+        self._port_file = port_file
         self._socket = None
         self._lines = None
 
@@ -21,13 +22,10 @@ class Inspector:
         end = time.monotonic() + timeout
         while True:
             try:
-                self._socket = socket.socket(socket.AF_UNIX)
-                self._socket.settimeout(timeout)
-                self._socket.connect(self._path)
+                self._socket = socket.create_connection(("127.0.0.1", int(self._port_file.read_text())), timeout)
                 self._lines = self._socket.makefile("rw", encoding="utf-8", newline="\n")
                 return
             except OSError:
-                self._socket.close()
                 if not is_alive() or time.monotonic() > end:
                     raise RuntimeError("the program does not answer") from None
                 time.sleep(0.02)

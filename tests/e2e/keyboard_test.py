@@ -65,8 +65,8 @@ class Keyboard(unittest.TestCase):
         self.focused("fileNameEdit")
         if path:
             self.keys("Ctrl+A")
-            self.program.type_text(str(path))
-            self.shows("fileNameEdit", str(path))
+            self.program.type_text(path)
+            self.shows("fileNameEdit", path)
         self.keys("Return")
         self.program.wait(lambda: self.program.modal().get("name") != "QFileDialog", "the file dialog going away")
 
@@ -99,7 +99,7 @@ class Keyboard(unittest.TestCase):
 
     def open_the_selection(self):
         self.keys("Ctrl+O")
-        self.file_dialog(self.program.folder / PROPHET)
+        self.file_dialog(self.program.path(PROPHET))
         self.shows("txtPlayerName", "Demo Prophet")
 
     def change_a_pick(self):

@@ -14,7 +14,8 @@ import time
 
 from display import ENDS_WITH_THE_TEST, Display
 from inspector import Ended, Inspector
-from program_folder import BUILD, ProgramFolder
+from program_folder import ProgramFolder
+from target import BUILD, TARGET
 
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
 
@@ -49,7 +50,7 @@ class Failed(AssertionError):
 class Program(ProgramFolder):
     """One program folder and the program running in it. Use as a context manager."""
 
-    def __init__(self, folder=None, executable=None, platform="xcb", environment=None, home=None, as_user=(),
+    def __init__(self, folder=None, executable=None, platform=TARGET.PLATFORM, environment=None, home=None, as_user=(),
                  size=(1366, 768), scale=1):
         """home: where an installed program makes its folder itself; as_user: the words that start a command as another
         user; scale: how many pixels of the display are one of the program's."""
@@ -62,7 +63,8 @@ class Program(ProgramFolder):
         self._more_environment = dict(environment or {})
         if scale != 1:
             self._more_environment["QT_SCALE_FACTOR"] = str(scale)
-        self._display = Display(*size, scale) if platform == "xcb" else None
+        self._display = Display(*size, scale) if platform == TARGET.PLATFORM else None
+        self._environment = None
         self._process = None
         self._inspector = None
         self._errors = self._scratch / "errors.txt"
@@ -76,6 +78,7 @@ class Program(ProgramFolder):
         if error is not None:
             self._leave_evidence()
         self.stop()
+        TARGET.clear(self._scratch)
         if self._display:
             self._display.close()
         errors = self.errors()
@@ -88,8 +91,8 @@ class Program(ProgramFolder):
     def start(self):
         if self._inspector:
             self._inspector.close()  # of the run before
-        socket_path = self._scratch / "inspector"
-        socket_path.unlink(missing_ok=True)
+        port_file = self._scratch / "inspector"
+        port_file.unlink(missing_ok=True)
         runtime = self._scratch / "runtime"
         plugins = self._scratch / "plugins"
         self._home.mkdir(exist_ok=True)
@@ -100,24 +103,26 @@ class Program(ProgramFolder):
             for folder in (self._scratch, self._home, runtime):
                 os.chown(folder, NOBODY, NOBODY)
         environment = {
-            "PATH": os.environ.get("PATH", "/usr/bin:/bin"), "LC_ALL": "C.UTF-8", "HOME": str(self._home),
+            "PATH": os.environ.get("PATH", "/usr/bin:/bin"), "HOME": str(self._home),
             "XDG_RUNTIME_DIR": str(runtime), "QT_QPA_PLATFORM": self._platform,
-            "QT_PLUGIN_PATH": str(plugins), "QT_QPA_GENERIC_PLUGINS": "tallyhoopinspector",
+            "QT_PLUGIN_PATH": TARGET.shown(plugins), "QT_QPA_GENERIC_PLUGINS": "tallyhoopinspector",
             "CUPS_SERVER": str(self._scratch / "no-printers"),  # no test may print on a printer of this machine
-            "TALLYHOOP_INSPECTOR_SOCKET": str(socket_path), **self._more_environment}
+            "TALLYHOOP_INSPECTOR_PORT_FILE": TARGET.shown(port_file), **self._more_environment}
         # A session's message bus, where there is one; and which leaks are not the program's.
         for name in "DBUS_SESSION_BUS_ADDRESS", "LSAN_OPTIONS":
             if name in os.environ:
                 environment.setdefault(name, os.environ[name])
         if self._display:
             environment["DISPLAY"] = self._display.name
-        executable = self._executable or self.folder / "tallyhoop"
+        self._environment = self._environment or TARGET.prepare(self._scratch, environment)
+        executable = self._executable or self.folder / TARGET.PROGRAM
         if self.folder.parent != self._home:
             self.folder.mkdir(parents=True, exist_ok=True)
         with open(self._errors, "ab") as errors:
-            self._process = subprocess.Popen([*self._as_user, *ENDS_WITH_THE_TEST, str(executable)], cwd=self._scratch,
-                                             env=environment, stdin=subprocess.DEVNULL, stdout=errors, stderr=errors)
-        self._inspector = Inspector(str(socket_path))
+            self._process = subprocess.Popen([*self._as_user, *ENDS_WITH_THE_TEST, *TARGET.command(executable)],
+                                             cwd=self._scratch, env=self._environment, stdin=subprocess.DEVNULL, stdout=errors,
+                                             stderr=errors)
+        self._inspector = Inspector(port_file)
         self._inspector.connect(lambda: self._process.poll() is None, PATIENCE)
         self.wait(lambda: any(window["active"] for window in self.windows()), "a window with the focus")
         return self
@@ -162,7 +167,7 @@ class Program(ProgramFolder):
 
     def errors(self):
         """Everything the program wrote to its terminal."""
-        return self._errors.read_text(errors="replace") if self._errors.exists() else ""
+        return TARGET.of_program(self._errors.read_text(errors="replace")) if self._errors.exists() else ""
 
     # --- looking ---
 
@@ -261,7 +266,7 @@ class Program(ProgramFolder):
 
     def press(self, point, button=1):
         if self._display:
-            self._display.move(*point)
+            self._point_at(point)
         self._act("presses", lambda: self._display.press(button), mouse="press", x=point[0], y=point[1], button=button)
 
     def release(self, point, button=1):
@@ -337,12 +342,18 @@ class Program(ProgramFolder):
                 return known
         raise Failed(f"no button {button!r} in {known}")
 
-    def file_dialog(self, name):
-        """Waits for a file dialog, types the path (a bare name is in the program folder) and accepts it."""
+    def file_dialog(self, *names):
+        """Waits for a file dialog, types the paths (a bare name is in the program folder) and accepts them."""
         self.wait(lambda: self.modal().get("name") == "QFileDialog", "a file dialog")
         self.box()
-        self.type("fileNameEdit", str(self.folder / name))
+        paths = [self.path(name) for name in names]
+        self.type("fileNameEdit", paths[0] if len(paths) == 1 else " ".join(f'"{path}"' for path in paths))
         self.key("Return")
+
+    def on_command_line(self, *words):
+        """What the program without windows answers to these words."""
+        return subprocess.run([*TARGET.command(self.folder / TARGET.CLI), *words], env=self._environment,
+                              capture_output=True, check=True).stdout
 
     # --- inside ---
 
@@ -357,6 +368,21 @@ class Program(ProgramFolder):
         if self._display:
             self.wait(lambda: any(window["active"] and window["reachable"] for window in self.windows()),
                       "a window with the focus")
+
+    def _point_at(self, point):
+        """Moves the pointer; where windows show themselves late, until the program has noticed it."""
+        before = self._inspector.ask("counts")["moves"]
+        self._display.move(*point)
+
+        def noticed():
+            if self._inspector.ask("counts")["moves"] > before:
+                return True
+            self._display.move(point[0] + 1, point[1])
+            self._display.move(*point)
+            return False
+
+        if TARGET.SHOWS_LATE:
+            self.wait(noticed, f"the pointer being noticed at {point}")
 
     def _act(self, counter, on_the_display, **inside):
         """Does one thing, and waits until the program has received it."""

@@ -6,11 +6,10 @@ import shutil
 import subprocess
 import tempfile
 
-BUILD = pathlib.Path(os.environ.get("TALLYHOOP_BUILD", pathlib.Path(__file__).parents[2] / "build"))
-CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
+from target import BUILD, TARGET
 
-# All that the installation lays out, sorted; every other file in a program folder belongs to its pool.
-OWN_FILES = ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", "tallyhoop", "tallyhoop-cli"]
+CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
+OWN_FILES = TARGET.OWN_FILES
 
 
 class ProgramFolder:
@@ -28,8 +27,11 @@ class ProgramFolder:
             subprocess.run([CMAKE, "--install", BUILD, "--prefix", ProgramFolder._laid_out.name,
                             "--component", "program"], check=True, stdout=subprocess.DEVNULL)
         self.folder.mkdir(parents=True, exist_ok=True)
-        for file in pathlib.Path(ProgramFolder._laid_out.name).iterdir():
-            shutil.copy2(file, self.folder / file.name)
+        shutil.copytree(ProgramFolder._laid_out.name, self.folder, dirs_exist_ok=True)
+
+    def path(self, name=""):
+        """The folder, or a file in it, as the program shows and takes it."""
+        return TARGET.shown(self.folder / name)
 
     def read(self, name):
         return (self.folder / name).read_bytes()

@@ -90,7 +90,7 @@ class Reports(unittest.TestCase):
         names = {1: "Tournament Standings.PDF", 4: "Team Selection Detail.PDF", 5: "Player Selection Detail.PDF"}
         self.program.click("cmdSavePdf")
         self.program.box("Save as PDF: choose the folder")
-        self.program.file_dialog(str(self.program.folder))
+        self.program.file_dialog("")
         self.program.wait(lambda: set(names.values()) <= set(self.program.files()), "the files")
         self.program.wait(lambda: not self.program.modal(), "the end of saving")
         for number, name in names.items():
@@ -103,9 +103,9 @@ class Reports(unittest.TestCase):
         self.program.box("Save as Web Page")
         self.program.file_dialog("for everybody")
         self.program.wait(lambda: self.program.text("explanation") == "Saved for everybody.HTML.", "the page")
-        made = subprocess.run([self.program.folder / "tallyhoop-cli", "page"], capture_output=True, check=True)
-        self.assertEqual(self.program.read("for everybody.HTML"), made.stdout)
-        self.assertIn(b"Demo Prophet", made.stdout)
+        made = self.program.on_command_line("page")
+        self.assertEqual(self.program.read("for everybody.HTML"), made)
+        self.assertIn(b"Demo Prophet", made)
 
     def test_the_web_page_is_mailed_with_a_report(self):
         self.tick(0)
@@ -113,8 +113,8 @@ class Reports(unittest.TestCase):
         self.program.click("chkWebPage")
         self.program.click("cmdPrintSelections")
         self.program.wait(lambda: self.program.visible("cmdSend"), "the mail")
-        made = subprocess.run([self.program.folder / "tallyhoop-cli", "page"], capture_output=True, check=True)
-        self.assertEqual(self.program.read("POOL.HTML"), made.stdout)
+        made = self.program.on_command_line("page")
+        self.assertEqual(self.program.read("POOL.HTML"), made)
         self.assertIn("RPTOPT1.TXT", self.program.files())
 
     def printed(self, name):

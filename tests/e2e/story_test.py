@@ -172,7 +172,7 @@ class InDemoMode(Story):
         backup, players = self.program.files()
         self.assertEqual(players, "PLAYERNAMES.CSV")
         self.assertTrue(backup.startswith("Backup "), backup)
-        self.assertIn(str(self.program.folder / backup), kept)
+        self.assertIn(self.program.path(backup), kept)
         self.assertEqual([file.name for file in (self.program.folder / backup).iterdir()], [PROPHET])
         self.assertEqual((self.program.folder / backup / PROPHET).read_bytes(), changed)
         self.assertEqual(self.program.errors(), "")

@@ -1,5 +1,5 @@
-// tests/e2e/inspector/inspector.cpp - a Qt plugin that the unmodified program loads for a test. It listens on a local
-// socket and answers each line of JSON with a line of JSON about what is on the screen.
+// tests/e2e/inspector/inspector.cpp - a Qt plugin that the unmodified program loads for a test. It listens on a port of
+// this machine and answers each line of JSON with a line of JSON about what is on the screen.
 #include "describe.h"
 #include "inject.h"
 
@@ -7,8 +7,9 @@
 #include <QClipboard>
 #include <QGenericPlugin>
 #include <QJsonDocument>
-#include <QLocalServer>
-#include <QLocalSocket>
+#include <QSaveFile>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTimer>
 #include <QWindow>
 
@@ -65,22 +66,33 @@ private:
 class Inspector : public QObject
 {
 public:
-    explicit Inspector(const QString& socketPath)
+    explicit Inspector(const QString& portFile)
     {
         // The application object is still being made: filter and listen once it is there.
-        QTimer::singleShot(0, this, [this, socketPath] {
+        QTimer::singleShot(0, this, [this, portFile] {
             QApplication::instance()->installEventFilter(&m_counter);
-            connect(&m_server, &QLocalServer::newConnection, this, &Inspector::greet);
-            m_server.listen(socketPath);
+            connect(&m_server, &QTcpServer::newConnection, this, &Inspector::greet);
+            if (m_server.listen(QHostAddress::LocalHost)) {
+                announcePort(portFile);
+            }
         });
     }
 
 private:
+    /// The file is there with the whole number in it, or not at all.
+    void announcePort(const QString& portFile)
+    {
+        QSaveFile file(portFile);
+        file.open(QIODevice::WriteOnly);
+        file.write(QByteArray::number(m_server.serverPort()));
+        file.commit();
+    }
+
     void greet()
     {
-        QLocalSocket* caller = m_server.nextPendingConnection();
-        connect(caller, &QLocalSocket::disconnected, caller, &QObject::deleteLater);
-        connect(caller, &QLocalSocket::readyRead, this, [this, caller] {
+        QTcpSocket* caller = m_server.nextPendingConnection();
+        connect(caller, &QTcpSocket::disconnected, caller, &QObject::deleteLater);
+        connect(caller, &QTcpSocket::readyRead, this, [this, caller] {
             while (caller->canReadLine()) {
                 const QJsonObject request = QJsonDocument::fromJson(caller->readLine()).object();
                 caller->write(QJsonDocument(answer(request)).toJson(QJsonDocument::Compact) + '\n');
@@ -137,7 +149,7 @@ private:
         return describeWidget(widget);
     }
 
-    QLocalServer m_server;
+    QTcpServer m_server;
     EventCounter m_counter;
 };
 
@@ -151,8 +163,8 @@ class InspectorPlugin : public QGenericPlugin
 public:
     QObject* create(const QString&, const QString&) override
     {
-        const QString socketPath = qEnvironmentVariable("TALLYHOOP_INSPECTOR_SOCKET");
-        return socketPath.isEmpty() ? nullptr : new Inspector(socketPath);
+        const QString portFile = qEnvironmentVariable("TALLYHOOP_INSPECTOR_PORT_FILE");
+        return portFile.isEmpty() ? nullptr : new Inspector(portFile);
     }
 };
 
