@@ -12,10 +12,11 @@ import subprocess
 import tempfile
 import time
 
+from build_folder import BUILD
 from display import ENDS_WITH_THE_TEST, Display
 from inspector import Ended, Inspector
 from program_folder import ProgramFolder
-from target import BUILD, TARGET
+from target import TARGET
 
 PATIENCE = float(os.environ.get("TALLYHOOP_PATIENCE", 60))  # seconds; only a failing test ever waits that long
 
@@ -349,6 +350,11 @@ class Program(ProgramFolder):
         paths = [self.path(name) for name in names]
         self.type("fileNameEdit", paths[0] if len(paths) == 1 else " ".join(f'"{path}"' for path in paths))
         self.key("Return")
+
+    def cancel_printing(self):
+        """Cancels the choice of a printer, if there is one where there are no printers."""
+        if TARGET.OFFERS_PRINTERS:
+            self.answer("Cancel", "Print")
 
     def on_command_line(self, *words):
         """What the program without windows answers to these words."""

@@ -6,7 +6,8 @@ import shutil
 import subprocess
 import tempfile
 
-from target import BUILD, TARGET
+from build_folder import BUILD
+from target import TARGET
 
 CMAKE = os.environ.get("TALLYHOOP_CMAKE", "cmake")
 OWN_FILES = TARGET.OWN_FILES

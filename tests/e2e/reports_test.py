@@ -146,7 +146,7 @@ class Reports(unittest.TestCase):
         self.assertTrue(self.program.visible("optSelected_0"))
         self.program.click_at(centre(self.program.table("filList")["rects"][3][0]))
         self.program.click("cmdSelectedPrintouts")
-        self.program.answer("Cancel", "Print")
+        self.program.cancel_printing()
         self.assertFalse(self.program.visible("optSelected_0"))
         self.assertEqual(self.program.text("txtPlayerName"), "Demo Prophet")
         self.assertEqual(self.program.text("txtPointScore"), "Points: 80 / 120")
