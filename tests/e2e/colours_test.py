@@ -4,9 +4,10 @@ import unittest
 
 from pool_2000 import setup_file
 from program import Program
+from target import TARGET
 
 LIGHT_LETTERS = "#fcfcfc"
-DARK_LETTERS = "#1c1f24"
+DARK_LETTERS = TARGET.LETTERS
 
 
 class Colours(unittest.TestCase):

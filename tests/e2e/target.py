@@ -10,6 +10,7 @@ class Linux:
     PLATFORM = "xcb"
     SHOWS_LATE = False  # whether the program takes a window for shown that is not on the screen yet
     OFFERS_PRINTERS = True  # whether the dialog in which one is chosen is shown when there are none
+    LETTERS = "#1c1f24"  # their colour where the desktop has not been changed
     PROGRAM, CLI = "tallyhoop", "tallyhoop-cli"
     # All that the installation lays out, sorted; every other file in a program folder belongs to its pool.
     OWN_FILES = ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", CLI, PROGRAM]

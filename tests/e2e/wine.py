@@ -38,6 +38,7 @@ class Windows:
     PLATFORM = "windows"
     SHOWS_LATE = True
     OFFERS_PRINTERS = False
+    LETTERS = "#000000"
     PROGRAM, CLI = "tallyhoop.exe", "tallyhoop-cli.exe"
     OWN_FILES = ["DEMOSET.EXE", "LICENSE.TXT", "NCAALIST.THS", "Qt6Core.dll", "Qt6Gui.dll", "Qt6PrintSupport.dll",
                  "Qt6Widgets.dll", "TALLYHOOP.HLP", "libgcc_s_seh-1.dll", "libstdc++-6.dll", "libwinpthread-1.dll",

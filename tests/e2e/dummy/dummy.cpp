@@ -1,5 +1,6 @@
 // tests/e2e/dummy/dummy.cpp - a small program with one of everything, on which the end-to-end harness is tested itself.
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QHeaderView>
 #include <QLabel>
@@ -44,8 +45,10 @@ void addMenus(QMainWindow& window, QLabel& said)
     file->menuAction()->setObjectName(QStringLiteral("mnuFile"));
     QAction* open = file->addAction(QStringLiteral("&Open..."));
     open->setObjectName(QStringLiteral("mnuOpen"));
-    QObject::connect(open, &QAction::triggered, &window,
-                     [&window, &said] { said.setText(QFileDialog::getOpenFileName(&window, QStringLiteral("Open"))); });
+    QObject::connect(open, &QAction::triggered, &window, [&window, &said] {
+        said.setText(QDir::toNativeSeparators(QFileDialog::getOpenFileName(&window, QStringLiteral("Open"), {}, {},
+                                                                           nullptr, QFileDialog::DontUseNativeDialog)));
+    });
     QAction* ask = file->addAction(QStringLiteral("&Ask"));
     ask->setObjectName(QStringLiteral("mnuAsk"));
     ask->setShortcut(QKeySequence(QStringLiteral("Ctrl+J")));
