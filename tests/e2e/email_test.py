@@ -1,55 +1,23 @@
 """Reports by e-mail in the sample pool, from ticking them to the mail client, which here only records its arguments."""
 
-import os
 import pathlib
 import tempfile
 import unittest
 
-from program import Program
-
-CLIENT = """#!/bin/sh
-printf '%s\\n' "$@" > "$RECORD.part"
-mv "$RECORD.part" "$RECORD"
-"""
-ADDRESSES = ["favorite@example.org", "halfway@example.org", "longshot@example.org", "prophet@example.org"]
+from mail_clients import Thunderbird, write_script
+from mailing import ADDRESSES, Mailing
 
 
-class Email(unittest.TestCase):
+class Email(Mailing):
     def setUp(self):
-        desktop = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory(prefix="tallyhoop-e2e-mail-")))
-        self.desktop = desktop
-        self.record = desktop / "record"
-        for name, script in {"thunderbird": CLIENT, "xdg-mime": "#!/bin/sh\necho thunderbird.desktop\n"}.items():
-            (desktop / name).write_text(script)
-            (desktop / name).chmod(0o755)
-        self.program = self.enterContext(Program(environment={
-            "PATH": f"{desktop}:{os.environ.get('PATH', '/usr/bin:/bin')}", "RECORD": str(self.record)}))
-        self.program.start()
-        self.program.answer("OK", "** DEMO MODE OPTION **")
-        self.program.wait(lambda: "TALLYHOOP.INI" in self.program.files(), "the sample pool")
-        self.program.answer("OK", "STALLYHOOP DEMOSTRATION MODE")
-        self.program.wait(lambda: self.program.text("lblTitle") == "2000 NCAA Tournament", "the sample pool on the board")
-
-    def make_reports(self, destination):
-        self.program.menu("mnuReports")
-        for mark in ("chkOptions_0", "chkOptions_3", f"optDestination_{destination}"):
-            self.tick(mark)
-        self.program.click("cmdPrintSelections")
-        self.program.wait(lambda: self.program.visible("frmPoolEMail"), "the e-mail dialog")
-
-    def tick(self, name):
-        self.program.wait(lambda: self.program.visible(name), name)
-        x, y, _, height = self.program.widget(name)["rect"]
-        self.program.click_at((x + height // 2, y + height // 2))  # the widget is wider than what can be clicked
-        self.program.wait(lambda: self.program.widget(name)["checked"], f"{name} being ticked")
-
-    def recipients(self):
-        return [row[0] if isinstance(row, list) else row for row in self.program.rows("lstTo")]
+        self.desktop = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory(prefix="tallyhoop-e2e-mail-")))
+        self.client = Thunderbird(self.desktop)
+        self.start(self.client.environment)
 
     def composed(self):
         """The client's arguments, when it has recorded them."""
-        self.program.wait(self.record.exists, "the mail client")
-        return self.record.read_text(encoding="utf-8").splitlines()
+        self.program.wait(self.client.has_all, "the mail client")
+        return self.client.lines()
 
     def attachments(self):
         folder = self.program.folder.as_uri()
@@ -85,9 +53,8 @@ class Email(unittest.TestCase):
                                                        "format=text," + self.attachments()])
 
     def test_a_browser_gets_no_message_but_a_file_is_opened_and_named(self):
-        (self.desktop / "xdg-mime").write_text("#!/bin/sh\necho firefox-esr.desktop\n")
-        (self.desktop / "gio").write_text(CLIENT)
-        (self.desktop / "gio").chmod(0o755)
+        write_script(self.desktop / "xdg-mime", "echo firefox-esr.desktop\n")
+        write_script(self.desktop / "gio", Thunderbird.COMMAND)
         self.make_reports(destination=3)
         self.program.type("txtSubject", "Standings")
         self.program.click("cmdSend")
@@ -103,13 +70,8 @@ class Email(unittest.TestCase):
         self.assertNotIn("libgmime", libraries)
 
     def test_exit_sends_nothing(self):
-        self.make_reports(destination=3)
-        self.program.key("Escape")
-        self.program.wait(lambda: not self.program.has("frmPoolEMail"), "the dialog being closed")
-        self.program.click("cmdExit")
-        self.program.wait(lambda: self.program.visible("lblTitle"), "the board")
-        self.assertFalse(self.record.exists())
-        self.assertIn("RPTOPT1.TXT", self.program.files())
+        self.sends_nothing()
+        self.assertFalse(self.client.record.exists())
 
 
 if __name__ == "__main__":

@@ -1,17 +1,13 @@
 """Brackets that need no clicks: 63 keys on the board, the form that players fill in, and the table for spreadsheets."""
 
-import os
 import pathlib
 import tempfile
 import unittest
 
+from mail_clients import CLIENT
 from pool_2000 import FIELD, selection, setup_file
 from program import Program
 
-CLIENT = """#!/bin/sh
-printf '%s\\n' "$@" > "$RECORD.part"
-mv "$RECORD.part" "$RECORD"
-"""
 HEADER = '"Name                     ","FileName                         ","Email                                      ","Phone         "'
 PLAYERS = [HEADER, *('"%-25s","%-33s","%-43s","%-14s"' % player for player in [
     ("Leader,QX", "LEADER_QX.THC", "leader@example.org", ""), ("Miller,M", "MILLER_M.THC", "m@example.org", "")])]
@@ -47,12 +43,8 @@ WHOLE = selection(WINNERS, "JS", "Smith", "142")
 class EntryForm(unittest.TestCase):
     def setUp(self):
         desktop = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory(prefix="tallyhoop-e2e-form-")))
-        self.record = desktop / "record"
-        for name, script in {"thunderbird": CLIENT, "xdg-mime": "#!/bin/sh\necho thunderbird.desktop\n"}.items():
-            (desktop / name).write_text(script)
-            (desktop / name).chmod(0o755)
-        self.program = self.enterContext(Program(environment={
-            "PATH": f"{desktop}:{os.environ.get('PATH', '/usr/bin:/bin')}", "RECORD": str(self.record)}))
+        self.client = CLIENT(desktop)
+        self.program = self.enterContext(Program(environment=self.client.environment))
         self.program.write("POOLSTART.THS", setup_file())
         self.program.write("PLAYERNAMES.CSV", PLAYERS)
 
@@ -148,10 +140,8 @@ class EntryForm(unittest.TestCase):
         recipients = [row[0] if isinstance(row, list) else row for row in self.program.rows("lstTo")]
         self.assertEqual(recipients, ["leader@example.org", "m@example.org"])
         self.program.click("cmdSend")
-        self.program.wait(self.record.exists, "the mail client")
-        arguments = self.record.read_text(encoding="utf-8")
-        self.assertIn(f"attachment='{self.program.folder.as_uri()}/ENTRYFORM.HTML'", arguments)
-        self.assertIn("to='leader@example.org,m@example.org'", arguments)
+        self.program.wait(self.client.has_all, "the mail client")
+        self.assertTrue(self.client.was_given(recipients, self.program.folder / "ENTRYFORM.HTML"), self.client.lines())
         self.program.key("Escape")
         self.program.wait(lambda: not self.program.modal(), "the dialog going away")
 

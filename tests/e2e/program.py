@@ -243,7 +243,7 @@ class Program(ProgramFolder):
 
     def grab(self, name, path):
         """A picture of one widget."""
-        if not self._inspector.ask("grab", name, path=str(path))["found"]:
+        if not self._inspector.ask("grab", name, path=TARGET.shown(path))["found"]:
             raise Failed(f"no picture of {name}")
 
     def fill_display(self):
