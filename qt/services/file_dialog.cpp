@@ -3,6 +3,7 @@
 #include "qt/services/file_dialog.h"
 
 #include "files/data_folder.h"
+#include "files/entry_at.h"
 #include "qt/paths.h"
 
 #include <QDialogButtonBox>
@@ -37,6 +38,9 @@ std::optional<fs::path> inAnotherCase(const fs::path& file)
     const std::optional<fs::path> found = findInAnyCase(file);
     return found && *found != file && isFile(*found) ? found : std::nullopt;
 }
+
+/// A name that was typed in another case, where that is the same name, is shown and noted as the folder has it.
+fs::path spelledAsThere(const fs::path& chosen) { return entryAt(chosen).value_or(chosen); }
 
 QFileDialog::FileMode fileModeOf(FileDialog::Purpose purpose)
 {
@@ -82,18 +86,19 @@ void FileDialog::enableForName()
 std::optional<fs::path> FileDialog::chosen() const
 {
     if (m_quoted)
-        return m_quoted;
-    return selectedFiles().isEmpty() ? std::nullopt : std::optional{toPath(selectedFiles().constFirst())};
+        return spelledAsThere(*m_quoted);
+    return selectedFiles().isEmpty() ? std::nullopt
+                                     : std::optional{spelledAsThere(toPath(selectedFiles().constFirst()))};
 }
 
 std::vector<fs::path> FileDialog::allChosen() const
 {
     if (m_quoted)
-        return {*m_quoted};
+        return {spelledAsThere(*m_quoted)};
     std::vector<fs::path> files;
     const QStringList selected = selectedFiles();
     for (const QString& file : selected)
-        files.push_back(toPath(file));
+        files.push_back(spelledAsThere(toPath(file)));
     return files;
 }
 

@@ -8,12 +8,11 @@
 #include "files/file_names.h"
 #include "files/setup_file.h"
 #include "qt/desk.h"
-#include "qt/paths.h"
+#include "qt/poppler.h"
 #include "qt/services/qt_printer.h"
 #include "qt/text.h"
 #include "screens/board/board_screen.h"
 
-#include <QProcess>
 #include <algorithm>
 #include <gtest/gtest.h>
 
@@ -41,10 +40,8 @@ protected:
         QtPrinter printer{desk};
         const std::filesystem::path pdf = scratch.path() / "paper.pdf";
         EXPECT_TRUE(printer.savePdf(printout, pdf));
-        QProcess process;
-        process.start(QStringLiteral("pdftotext"), {QStringLiteral("-layout"), fromPath(pdf), QStringLiteral("-")});
-        EXPECT_TRUE(process.waitForFinished()) << "pdftotext (poppler-utils) is needed";
-        QStringList pages = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char{'\f'});
+        QStringList pages =
+            test::saidByPoppler(QStringLiteral("pdftotext"), {QStringLiteral("-layout")}, pdf).split(QLatin1Char{'\f'});
         EXPECT_EQ(pages.takeLast(), QString{}) << "a page ends with a form feed";
         for (QString& page : pages)
             page = page.simplified();

@@ -2,13 +2,13 @@
 #include "fakes/scratch_folder.h"
 #include "qt/desk.h"
 #include "qt/paths.h"
+#include "qt/poppler.h"
 #include "qt/print_pages.h"
 #include "qt/services/qt_printer.h"
 
 #include <QFontMetricsF>
 #include <QPageSize>
 #include <QPrinter>
-#include <QProcess>
 #include <QRegularExpression>
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -33,10 +33,7 @@ QPageLayout letter() { return {QPageSize{QPageSize::Letter}, QPageLayout::Portra
 
 QString saidAbout(const std::filesystem::path& pdf, const QStringList& options)
 {
-    QProcess program;
-    program.start(QStringLiteral("pdftotext"), options + QStringList{fromPath(pdf), QStringLiteral("-")});
-    EXPECT_TRUE(program.waitForFinished()) << "pdftotext (poppler-utils) is needed";
-    return QString::fromUtf8(program.readAllStandardOutput());
+    return qt::test::saidByPoppler(QStringLiteral("pdftotext"), options, pdf);
 }
 
 /// Keeps columns.

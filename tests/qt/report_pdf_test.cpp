@@ -4,7 +4,7 @@
 #include "base/lines.h"
 #include "fakes/scratch_folder.h"
 #include "qt/desk.h"
-#include "qt/paths.h"
+#include "qt/poppler.h"
 #include "qt/services/qt_printer.h"
 #include "qt/text.h"
 #include "reports/report_table.h"
@@ -13,7 +13,6 @@
 
 #include <QPageSize>
 #include <QPrinter>
-#include <QProcess>
 #include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
@@ -38,14 +37,6 @@ constexpr double kTwipsInAPoint = 20;                  ///< of a point
 constexpr double kPaperMargin = 10;                    ///< of the paper, points
 constexpr double kLetterWidth = 120 / kTwipsInAPoint;  ///< width
 constexpr double kReportLine = 226.5 / kTwipsInAPoint; ///< line spacing of the report font at 10 points
-
-QString said(const QString& program, const QStringList& arguments)
-{
-    QProcess process;
-    process.start(program, arguments);
-    EXPECT_TRUE(process.waitForFinished()) << fromQString(program) << " (poppler-utils) is needed";
-    return QString::fromUtf8(process.readAllStandardOutput());
-}
 
 /// The lines of each page, blank ones included.
 std::vector<ReportLines> pagesOfReport(const ReportLines& lines)
@@ -93,8 +84,7 @@ std::vector<std::vector<Word>> pagesOfPdf(const std::filesystem::path& pdf)
 {
     static const QRegularExpression kWord{
         QStringLiteral("<word xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>([^<]*)</word>")};
-    const QString text =
-        said(QStringLiteral("pdftotext"), {QStringLiteral("-bbox"), fromPath(pdf), QStringLiteral("-")});
+    const QString text = qt::test::saidByPoppler(QStringLiteral("pdftotext"), {QStringLiteral("-bbox")}, pdf);
     std::vector<std::vector<Word>> pages;
     const QStringList parts = text.split(QStringLiteral("<page ")).mid(1);
     for (const QString& part : parts) {
@@ -171,7 +161,7 @@ TEST_P(ReportPdf, HasEveryWordInItsColumnAndItsLineOfAPageForEachPage)
 TEST_P(ReportPdf, EmbedsOneFixedPitchFontAndHasItsReportsOrientation)
 {
     const QStringList fonts =
-        said(QStringLiteral("pdffonts"), {fromPath(pdf)}).split(QLatin1Char{'\n'}, Qt::SkipEmptyParts);
+        qt::test::saidByPoppler(QStringLiteral("pdffonts"), {}, pdf).split(QLatin1Char{'\n'}, Qt::SkipEmptyParts);
     ASSERT_EQ(fonts.size(), 3) << "a header, a rule and one font";
     EXPECT_TRUE(fonts[2].contains(QRegularExpression{QStringLiteral("CourierNew|LiberationMono|Cousine")}))
         << fonts[2].toStdString();
@@ -179,7 +169,7 @@ TEST_P(ReportPdf, EmbedsOneFixedPitchFontAndHasItsReportsOrientation)
     EXPECT_TRUE(fonts[2].contains(QRegularExpression{QStringLiteral("\\s+yes\\s+(yes|no)\\s+yes\\s+\\d+\\s+\\d+$")}))
         << fonts[2].toStdString();
 
-    const QString about = said(QStringLiteral("pdfinfo"), {fromPath(pdf)});
+    const QString about = qt::test::saidByPoppler(QStringLiteral("pdfinfo"), {}, pdf);
     const char* paper = kind.orientation == PageOrientation::Landscape ? "792 x 612 pts" : "612 x 792 pts";
     EXPECT_TRUE(about.contains(QLatin1String{paper})) << about.toStdString();
 }
