@@ -39,6 +39,21 @@ Result<ui::HandedOver> handOver(const Mailing& mailing, std::span<const std::fil
     return sent;
 }
 
+bool isUnsent(const Result<ui::HandedOver>& sent)
+{
+    return !sent || !sent->trouble.empty() || sent->progress == ui::MailProgress::GivenUp;
+}
+
+/// What the screen says of a message that was handed over.
+std::string newsOf(const ui::HandedOver& sent)
+{
+    if (!sent.file.empty())
+        return "The message is in the file " + shown(sent.file.filename()) + ".";
+    if (sent.progress == ui::MailProgress::Taken)
+        return "Your mail program has taken the message.";
+    return "Your mail program has the message: send it there.";
+}
+
 /// Where the message is that no mail program has got directly, and the offer to go there.
 ui::Message inMessageFile(const ui::HandedOver& sent, const std::string& title, const Words& words)
 {
@@ -88,14 +103,13 @@ void mailFiles(const Mailing& mailing, std::span<const std::filesystem::path> fi
     const Words words = wordsOf(request.kind);
     const Result<ui::HandedOver> sent = handOver(mailing, files);
     draft.unsent.reset();
-    if (!sent || !sent->trouble.empty())
+    if (isUnsent(sent))
         draft.unsent = MailText{draft.recipients, draft.subject, draft.message};
     draft.recipients.clear();
     if (draft.unsent)
         mailing.screen.say(std::string{"Not sent. What you wrote comes back when you mail "} + words.again + " again.");
     else
-        mailing.screen.say(sent->file.empty() ? "Your mail program has the message: send it there."
-                                              : "The message is in the file " + shown(sent->file.filename()) + ".");
+        mailing.screen.say(newsOf(*sent));
     if (!sent)
         mailing.platform.dialogs.show({request.title, sent.failure().message, ui::Buttons::Ok, ui::Icon::Exclamation});
     else if (!sent->file.empty())

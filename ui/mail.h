@@ -25,10 +25,18 @@ struct MailMessage {
     std::vector<Attachment> attachments;
 };
 
+/// How far a mail client has come with a message when it has been handed over.
+enum class MailProgress {
+    InItsWindow, ///< the person sends it there
+    Taken,       ///< its window has been closed after sending, as far as the client says
+    GivenUp,     ///< its window has been closed without sending
+};
+
 /// Where a message is that was handed over.
 struct HandedOver {
     std::filesystem::path file; ///< the message file that was written instead; empty = none, a mail client has it
     std::string trouble;        ///< why no program has opened that file; empty = one has been asked to
+    MailProgress progress = MailProgress::InItsWindow; ///< of the client that has it
 };
 
 /// A session with a mail client: sign on, send through the client's own window, sign off.

@@ -169,8 +169,10 @@ Result<ui::HandedOver> SimpleMapiMail::send(const ui::MailMessage& message)
         return inMessageFile(mail, m_trouble);
     const ULONG code = sendMailOf(m_library)(static_cast<LHANDLE>(*m_session), m_window, ClientMessage{message}.get(),
                                              MAPI_DIALOG | MAPI_LOGON_UI, 0);
-    if (code == SUCCESS_SUCCESS || code == MAPI_USER_ABORT)
-        return ui::HandedOver{};
+    if (code == SUCCESS_SUCCESS)
+        return ui::HandedOver{{}, {}, ui::MailProgress::Taken};
+    if (code == MAPI_USER_ABORT)
+        return ui::HandedOver{{}, {}, ui::MailProgress::GivenUp};
     return inMessageFile(mail, troubleOf(code));
 }
 

@@ -215,6 +215,32 @@ TEST_F(ReportsMail, SaysThatTheMailProgramHasTheMessage)
     EXPECT_TRUE(platform.dialogs.shown.empty());
 }
 
+/// A client that waits for its person has closed its window by now.
+TEST_F(ReportsMail, SaysThatTheMailProgramHasTakenTheMessage)
+{
+    platform.mail.handedOver.progress = ui::MailProgress::Taken;
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_EQ(screen.news().text, "Your mail program has taken the message.");
+    EXPECT_FALSE(draft.unsent);
+    EXPECT_TRUE(platform.dialogs.shown.empty());
+}
+
+TEST_F(ReportsMail, KeepsWhatWasWrittenWhenTheMailProgramsWindowWasClosedWithoutSending)
+{
+    platform.mail.handedOver.progress = ui::MailProgress::GivenUp;
+    tick({kStandings});
+
+    create(kEmail);
+
+    EXPECT_EQ(screen.news().text, "Not sent. What you wrote comes back when you mail reports again.");
+    ASSERT_TRUE(draft.unsent);
+    EXPECT_EQ(draft.unsent->message, "Hello all");
+    EXPECT_TRUE(platform.dialogs.shown.empty()) << "the person knows: it was their own doing";
+}
+
 TEST_F(ReportsMail, KeepsWhatWasWrittenUntilAMailProgramHasIt)
 {
     platform.mail.sendTrouble = Failure{"The mail client did not start."};

@@ -118,6 +118,7 @@ TEST_F(SimpleMapi, GetsOneMessageInASession)
     const Result<ui::HandedOver> sent = handOver(message());
     ASSERT_TRUE(sent);
     EXPECT_EQ(sent->file, fs::path{}) << "the client has it";
+    EXPECT_EQ(sent->progress, ui::MailProgress::Taken) << "its window is closed by now";
     EXPECT_EQ(sent->trouble, "");
     EXPECT_EQ(calls(), (Lines{kLogOn, kSend, "subject \"s\"", "text \"Hi          \"", kMessageItself,
                               "recipient class 1 name \"a@x.org\" address \"SMTP:a@x.org\" id 0 reserved 0",
@@ -211,6 +212,7 @@ TEST_F(SimpleMapi, MayHaveItsWindowClosedWithoutSending)
     const Result<ui::HandedOver> sent = handOver(message());
     ASSERT_TRUE(sent);
     EXPECT_EQ(sent->file, fs::path{});
+    EXPECT_EQ(sent->progress, ui::MailProgress::GivenUp);
     EXPECT_THAT(opened, IsEmpty());
 }
 
