@@ -33,6 +33,7 @@ foreach(licence
         /usr/share/doc/nlohmann-json3-dev/copyright:JSON.TXT
         /usr/share/doc/gcc-mingw-w64-x86-64-posix-runtime/copyright:GCC.TXT
         /usr/share/doc/mingw-w64-x86-64-dev/copyright:MINGW-W64.TXT
+        /usr/share/doc/nsis/copyright:NSIS.TXT
         /usr/share/common-licenses/GPL-3:GPL-3.TXT
         /usr/share/common-licenses/LGPL-3:LGPL-3.TXT)
     string(REGEX REPLACE ":.*" "" source ${licence})
