@@ -18,4 +18,11 @@ mkdir -p build-tests
 cat >build-tests/CTestTestfile.cmake <<TESTS
 subdirs("$PWD/build" "$PWD/build-sanitizers")
 TESTS
+# The programs for Windows and their packages, by wine, where Qt for Windows is there already: building it takes half an hour.
+if packaging/windows/test.sh ready; then
+    cat >>build-tests/CTestTestfile.cmake <<TESTS
+add_test([=[windows.by_wine]=] timeout 1500 "$PWD/packaging/windows/test.sh" quick)
+set_tests_properties([=[windows.by_wine]=] PROPERTIES TIMEOUT 1600 PROCESSORS $(nproc))
+TESTS
+fi
 ctest --test-dir build-tests --output-on-failure --no-tests=error --parallel "$(nproc)"
