@@ -24,6 +24,7 @@ SANITIZERS = "AddressSanitizer", "LeakSanitizer", "runtime error:"  # the words 
 NOBODY = 65534  # the number of the user without rights
 
 LOST_KEY = PATIENCE / 6  # seconds after which a key that nobody received is pressed again
+SOON = 0.5  # seconds after which a pointer that nobody has noticed is moved again
 
 
 def plain(caption):
@@ -265,24 +266,24 @@ class Program(ProgramFolder):
     def move(self, point):
         self._act("moves", lambda: self._display.move(*point), mouse="move", x=point[0], y=point[1])
 
-    def press(self, point, button=1):
-        if self._display:
-            self._point_at(point)
+    def press(self, where, button=1):
+        """Presses at a point, or where a function says that it is now; gives the point."""
+        point = self._point_at(where if callable(where) else lambda: where)
         self._act("presses", lambda: self._display.press(button), mouse="press", x=point[0], y=point[1], button=button)
+        return point
 
     def release(self, point, button=1):
         self._act("releases", lambda: self._display.release(button),
                   mouse="release", x=point[0], y=point[1], button=button)
 
-    def click_at(self, point, button=1):
-        self.press(point, button)
-        self.release(point, button)
+    def click_at(self, where, button=1):
+        self.release(self.press(where, button), button)
 
     def click(self, name):
-        self.click_at(where_to_press(self._reachable(name)))
+        self.click_at(lambda: where_to_press(self._reachable(name)))
 
     def right_click(self, name):
-        self.click_at(where_to_press(self._reachable(name)), button=3)
+        self.click_at(lambda: where_to_press(self._reachable(name)), button=3)
 
     def drag(self, name, target):
         """Presses on one widget, moves in steps, lets go on another."""
@@ -324,7 +325,7 @@ class Program(ProgramFolder):
             def clickable(entry=name):
                 action = self.action(entry)
                 return action["rect"] if action["rect"] and action["enabled"] else None
-            self.click_at(centre(self.wait(clickable, f"the menu entry {name}, to be clicked")))
+            self.click_at(lambda: centre(self.wait(clickable, f"the menu entry {name}, to be clicked")))
 
     def box(self, title=None):
         """Waits for a modal box, of that title if one is given."""
@@ -335,13 +336,19 @@ class Program(ProgramFolder):
 
     def answer(self, button, title=None):
         """Waits for a modal box and presses one of its buttons; gives what the box showed."""
-        known = self.box(title)
-        for candidate in known["buttons"]:
-            if plain(candidate["text"]) == button and candidate["enabled"]:
-                self.click_at(centre(candidate["rect"]))
-                self.wait(lambda: self.modal() != known, f"the box {known['title']!r} going away")
-                return known
-        raise Failed(f"no button {button!r} in {known}")
+        known = None
+
+        def place():
+            nonlocal known
+            known = self.box(title)
+            for candidate in known["buttons"]:
+                if plain(candidate["text"]) == button and candidate["enabled"]:
+                    return centre(candidate["rect"])
+            raise Failed(f"no button {button!r} in {known}")
+
+        self.click_at(place)
+        self.wait(lambda: self.modal() != known, f"the box {known['title']!r} going away")
+        return known
 
     def file_dialog(self, *names):
         """Waits for a file dialog, types the paths (a bare name is in the program folder) and accepts them."""
@@ -375,20 +382,27 @@ class Program(ProgramFolder):
             self.wait(lambda: any(window["active"] and window["reachable"] for window in self.windows()),
                       "a window with the focus")
 
-    def _point_at(self, point):
-        """Moves the pointer; where windows show themselves late, until the program has noticed it."""
-        before = self._inspector.ask("counts")["moves"]
-        self._display.move(*point)
-
-        def noticed():
-            if self._inspector.ask("counts")["moves"] > before:
-                return True
-            self._display.move(point[0] + 1, point[1])
+    def _point_at(self, where):
+        """Moves the pointer, where the target needs it until the program has noticed it; gives the point."""
+        if self._display and TARGET.SHOWS_LATE:
+            return self.wait(lambda: self._noticed_at(where), "the pointer being noticed")
+        point = where()
+        if self._display:
             self._display.move(*point)
-            return False
+        return point
 
-        if TARGET.SHOWS_LATE:
-            self.wait(noticed, f"the pointer being noticed at {point}")
+    def _noticed_at(self, where):
+        """The point, if the program notices the pointer there soon, and what is there has not moved meanwhile."""
+        point = where()
+        before = self._inspector.ask("counts")["moves"]
+        self._display.move(point[0] + 1, point[1])
+        self._display.move(*point)
+        soon = time.monotonic() + SOON
+        while self._inspector.ask("counts")["moves"] == before:
+            if time.monotonic() > soon:
+                return None
+            time.sleep(0.01)
+        return point if where() == point else None
 
     def _act(self, counter, on_the_display, **inside):
         """Does one thing, and waits until the program has received it."""
