@@ -63,7 +63,8 @@ public:
     /// @returns the fonts the printer can use
     virtual std::vector<std::string> fontNames() = 0;
 
-    /// Shows the printer dialog; what is chosen holds for the printouts that follow. @returns false when cancelled
+    /// Shows the printer dialog; what is chosen holds for the printouts that follow. Where there is neither a printer
+    /// nor something else that the system's dialog could choose, it shows none. @returns false when cancelled
     virtual bool choosePrinter() = 0;
 
     /// Shows the font dialog, fixed-pitch families first. @returns nothing when cancelled

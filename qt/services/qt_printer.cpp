@@ -26,6 +26,11 @@ namespace {
 constexpr int kTwipsPerInch = 1440;
 constexpr const char* kReportFont = "Courier New";
 constexpr int kReportFontPoints = 10;
+#ifdef _WIN32
+constexpr bool kDialogIsForPrintersOnly = true; ///< Windows' own one; Qt's, which Linux has, can choose a file as well
+#else
+constexpr bool kDialogIsForPrintersOnly = false;
+#endif
 
 // Fonts with exactly its widths, which fontconfig substitutes for it.
 bool reportFontIsThere()
@@ -99,6 +104,11 @@ bool QtPrinter::choosePrinter()
     printer().setDocName({}); // or the dialog would name a file after the printout before
     const QString before = printer().printerName();
     const QPageSize paper = printer().pageLayout().pageSize();
+    if (kDialogIsForPrintersOnly) {
+        printer().setOutputFormat(QPrinter::NativeFormat); // the first one may have been installed meanwhile
+        if (!isThere())
+            return true; // so that printing says so; as if cancelled, nothing would
+    }
     QPrintDialog dialog{&printer(), m_desk.windowForDialogs()};
     // Every printout is printed whole: no ranges.
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintCollateCopies);

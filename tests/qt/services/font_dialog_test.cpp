@@ -76,6 +76,7 @@ int main(int argc, char** argv)
     scratch.put("fonts.conf", "<?xml version=\"1.0\"?><fontconfig><dir>" + fonts.string() + "</dir><cachedir>" +
                                   scratch.path().string() + "/cache</cachedir></fontconfig>");
     qputenv("FONTCONFIG_FILE", QByteArray::fromStdString((scratch.path() / "fonts.conf").string()));
+    qputenv("QT_QPA_FONTDIR", QByteArray::fromStdString(fonts.string())); // on Windows, which has no fontconfig
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application{argc, argv};
     testing::GTEST_FLAG(filter) = std::string{argv[1]} + ".*";
