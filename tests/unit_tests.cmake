@@ -94,6 +94,7 @@ compile_together(tallyhoop_pool_tests tallyhoop_files_tests tallyhoop_intake_tes
 if(TALLYHOOP_WINDOWS)
     add_subdirectory(qt)
 endif()
+add_subdirectory(windows/console)
 if(WIN32)
     add_subdirectory(windows/mapi)
 endif()

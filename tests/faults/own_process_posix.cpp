@@ -1,4 +1,6 @@
-// tests/faults/own_process.cpp - forks, so that lost rights and mounts end with the child.
+// tests/faults/own_process_posix.cpp - forks, so that lost rights and mounts end with the child.
+#ifndef _WIN32
+
 #include "faults/own_process.h"
 
 #include <cstdio>
@@ -62,3 +64,5 @@ void inOwnProcess(const std::function<std::string()>& part)
 }
 
 } // namespace tallyhoop::test
+
+#endif

@@ -1,4 +1,6 @@
-// tests/faults/faults.cpp - disks, limits and rights of this process, by mounts that nobody else sees.
+// tests/faults/faults_posix.cpp - disks, limits and rights of this process on Linux, by mounts that nobody else sees.
+#ifndef _WIN32
+
 #include "faults/faults.h"
 
 #include "files/replace_file.h"
@@ -184,3 +186,5 @@ const Fault& unlistedFolder()
 }
 
 } // namespace tallyhoop::test
+
+#endif
