@@ -27,6 +27,7 @@ rm -rf "$prefix"
 fetch_source fmtlib 9.1.0+ds1-2
 build "$source_folder" fmt -DFMT_TEST=OFF -DFMT_DOC=OFF
 cp "$source_folder/debian/copyright" "$prefix/FMT.TXT"
+rm -rf "$source_folder"
 build /usr/src/googletest googletest
 
 mkdir -p "$prefix/share/cmake"

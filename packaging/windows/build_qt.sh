@@ -1,5 +1,6 @@
 #!/bin/sh
-# Builds Qt for Windows from Debian's source package, once, into a cache outside the tree; does nothing when it is there.
+# Builds Qt for Windows from Debian's source package, once, into a cache outside the tree; does nothing when it is there,
+# and goes on where it was when it has been stopped. Takes half an hour at two cores, 1.6 GB meanwhile, and 70 MB for good.
 #
 # Only the modules that the program and its tests use, as DLLs: so everyone may put another Qt in their place, as its
 # licence (LGPL) wants it.
@@ -30,6 +31,6 @@ cmake -S "$source_folder" -B "$build" -G Ninja -Wno-dev --log-level=WARNING \
 cmake --build "$build" --parallel "$jobs"
 cmake --install "$build" --strip >"$build/install.log"
 cp "$source_folder/debian/copyright" "$prefix/QT.TXT"
-rm -rf "$build"
+rm -rf "$build" "$source_folder"
 touch "$prefix/complete"
 echo "Qt for Windows is in $prefix"

@@ -27,8 +27,9 @@ Dir::State::Lists "$apt/lists";
 Dir::Cache "$apt";
 APT::Sandbox::User "";
 CONF
-    APT_CONFIG=$apt/apt.conf apt-get -qq update
+    APT_CONFIG=$apt/apt.conf apt-get -qq update --error-on=any
     (cd "$apt/archives" && APT_CONFIG=$apt/apt.conf apt-get -qq source --download-only "$1=$2")
+    rm -rf "$source_folder.part" # of a run that was stopped
     dpkg-source --no-check -x "$apt/archives/$1_$2.dsc" "$source_folder.part"
     mv "$source_folder.part" "$source_folder"
 }

@@ -23,6 +23,19 @@ class Archive(unittest.TestCase):
         program.terminate()
         program.wait(packages.PATIENCE)
 
+    def test_offers_a_folder_in_the_documents_where_it_may_not_write(self):
+        installed = packages.unpack(self.wine.scratch / "Program Files")
+        self.enterContext(packages.read_only(installed))
+        before = packages.files_below(installed)
+        program = self.wine.start(installed / "tallyhoop.exe")
+        self.wine.window_of(program, "A FOLDER FOR THE POOL")
+        self.wine.press("Return", until=lambda: program.poll() is not None)
+        self.assertEqual(program.returncode, 0)
+        self.wine.window_of(None, "DEMO MODE OPTION")
+        self.assertEqual(packages.files_below(installed), before)
+        [folder] = self.wine.home.rglob("Tallyhoop")
+        self.assertLessEqual(set(packages.OWN_FILES), set(packages.files_below(folder)))
+
     def test_without_one_of_its_libraries_it_does_not(self):
         """Or else wine would have found it elsewhere, and the test above would say nothing."""
         folder = packages.unpack(self.wine.scratch)

@@ -1,5 +1,6 @@
 """The packages for Windows as CPack has made them, and wine to try them by."""
 
+import contextlib
 import os
 import pathlib
 import shutil
@@ -7,6 +8,7 @@ import subprocess
 import sys
 import tempfile
 import time
+import unittest
 import zipfile
 
 sys.path.insert(0, str(pathlib.Path(__file__).parents[2] / "e2e"))
@@ -53,6 +55,20 @@ def unpack(folder):
 
 def files_below(folder):
     return sorted(str(path.relative_to(folder)) for path in folder.rglob("*") if path.is_file())
+
+
+@contextlib.contextmanager
+def read_only(folder):
+    """Makes that nobody writes into a folder meanwhile; from root, whom no rights stop, some file systems cannot keep that."""
+    folders = [folder, *(path for path in folder.rglob("*") if path.is_dir())]
+    protect, release = (["chattr", "+i"], ["chattr", "-i"]) if os.getuid() == 0 else (["chmod", "a-w"], ["chmod", "u+w"])
+    done = subprocess.run([*protect, *map(str, folders)], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    try:
+        if done.returncode != 0:
+            raise unittest.SkipTest("This file system does not keep root from writing")
+        yield
+    finally:
+        subprocess.run([*release, *map(str, folders)], stderr=subprocess.DEVNULL)
 
 
 class Wine:
@@ -106,13 +122,27 @@ class Wine:
                                 stderr=subprocess.DEVNULL)
 
     def window_of(self, process, title):
-        """Waits for a window of a running program by a part of its title."""
+        """Waits for a window by a part of its title; process: the program that shows it, if it was started here."""
+        def is_there():
+            if process and process.poll() is not None:
+                raise AssertionError(f"no window {title}: the program has ended with {process.returncode}")
+            return self._do("xdotool", "search", "--onlyvisible", "--name", title).stdout.split()
+        self._wait_until(is_there, f"there is a window {title}")
+
+    def press(self, key, until):
+        """Presses a key in the window in front, again when it was lost while the focus changed windows."""
+        def has_reacted():
+            self._do("xdotool", "key", key)
+            return until()
+        self._wait_until(has_reacted, f"{key} was received")
+
+    @staticmethod
+    def _wait_until(condition, words):
         end = time.monotonic() + PATIENCE
-        while time.monotonic() < end and process.poll() is None:
-            if self._do("xdotool", "search", "--onlyvisible", "--name", title).stdout.split():
-                return
-            time.sleep(0.1)
-        raise AssertionError(f"no window {title}, the program's status is {process.poll()}")
+        while not condition():
+            if time.monotonic() > end:
+                raise AssertionError(f"not within {PATIENCE} s: {words}")
+            time.sleep(0.5)
 
     def settle(self):
         """Waits until no program is running any more, and the registry is in its files."""
