@@ -27,6 +27,7 @@ Dir::State::Lists "$apt/lists";
 Dir::Cache "$apt";
 APT::Sandbox::User "";
 CONF
+    echo "Fetching the source of $1"
     APT_CONFIG=$apt/apt.conf apt-get -qq update --error-on=any
     (cd "$apt/archives" && APT_CONFIG=$apt/apt.conf apt-get -qq source --download-only "$1=$2")
     rm -rf "$source_folder.part" # of a run that was stopped
