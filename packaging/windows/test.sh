@@ -24,7 +24,7 @@ parts=ON
 chosen=()
 if [ "$what" = quick ]; then
     parts=OFF
-    chosen=(--tests-regex '^windows\.')
+    chosen=(--label-regex '^packages$')
 fi
 build_preset windows build-windows -DTALLYHOOP_TESTS=ON -DTALLYHOOP_UNIT_TESTS=$parts
 
