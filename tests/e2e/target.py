@@ -13,7 +13,7 @@ class Linux:
     LETTERS = "#1c1f24"  # their colour where the desktop has not been changed
     PROGRAM, CLI = "tallyhoop", "tallyhoop-cli"
     # All that the installation lays out, sorted; every other file in a program folder belongs to its pool.
-    OWN_FILES = ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", CLI, PROGRAM]
+    OWN_FILES = ["DEMOSET.EXE", "NCAALIST.THS", "TALLYHOOP.HLP", PROGRAM, CLI]
 
     @staticmethod
     def prepare(scratch, environment):
