@@ -33,7 +33,7 @@ def of_the_desktop(face, pixels):
 
 
 class Windows:
-    """Each scratch folder has a registry and a wine server of its own; the system's files are made once for a build."""
+    """Each scratch folder has a wine server, a registry and settings of its own; the system's files are made once for a build."""
 
     PLATFORM = "windows"
     SHOWS_LATE = True
@@ -62,7 +62,11 @@ class Windows:
         for file in cls._SYSTEM.iterdir():
             if file.is_file():
                 shutil.copy2(file, prefix / file.name)
-        (prefix / "drive_c").symlink_to(cls._SYSTEM / "drive_c")
+        drive = prefix / "drive_c"
+        shutil.copytree(cls._SYSTEM / "drive_c/users", drive / "users", symlinks=True)
+        for folder in (cls._SYSTEM / "drive_c").iterdir():
+            if folder.name != "users":
+                (drive / folder.name).symlink_to(folder)
         (prefix / "dosdevices").mkdir()
         (prefix / "dosdevices/c:").symlink_to("../drive_c")
         (prefix / "dosdevices/z:").symlink_to("/")
@@ -117,6 +121,10 @@ class Windows:
                        stderr=subprocess.DEVNULL)
         cls._server(made, "-w")
         cls._look_like_windows(made / "user.reg")
+        for link in (made / "drive_c/users").glob("*/*"):
+            if link.is_symlink():  # into the home of whoever runs the tests
+                link.unlink()
+                link.mkdir()
         shutil.copy2(cls._CLIENT, made / "drive_c/windows/system32/mapi32.dll")
         made.rename(cls._SYSTEM)
 
