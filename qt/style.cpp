@@ -207,6 +207,21 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const
+{
+    if (const auto* entry = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        entry && element == CE_MenuBarItem && entry->state.testFlag(State_Enabled)) {
+        // On Windows those of a window without the focus are pale, and stay so after some dialogs, as if all were
+        // disabled.
+        QStyleOptionMenuItem legible{*entry};
+        legible.palette.setCurrentColorGroup(QPalette::Active);
+        QProxyStyle::drawControl(element, &legible, painter, widget);
+        return;
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
                               const QWidget* widget) const
 {

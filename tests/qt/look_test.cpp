@@ -180,7 +180,8 @@ TEST(Look, MenuIconsAreDrawnInThePalettesTextColour)
 TEST(Look, EveryMenuIconIsThereAndNoneIsNone)
 {
     EXPECT_TRUE(look::menuIcon(tallyhoop::ui::MenuIcon::None).isNull());
-    for (auto icon = static_cast<int>(tallyhoop::ui::MenuIcon::None) + 1; icon <= static_cast<int>(tallyhoop::ui::MenuIcon::Undo); ++icon)
+    for (auto icon = static_cast<int>(tallyhoop::ui::MenuIcon::None) + 1;
+         icon <= static_cast<int>(tallyhoop::ui::MenuIcon::Undo); ++icon)
         EXPECT_FALSE(look::menuIcon(static_cast<tallyhoop::ui::MenuIcon>(icon)).isNull()) << icon;
 }
 
@@ -188,4 +189,24 @@ TEST(Look, TheProgramHasAnIcon)
 {
     EXPECT_FALSE(QApplication::windowIcon().isNull());
     EXPECT_FALSE(QApplication::windowIcon().pixmap(48, 48).isNull());
+}
+
+TEST(Look, AMenuBarLooksNoDifferentInAWindowWithoutTheFocus)
+{
+    const auto drawnIn = [](QPalette::ColorGroup group) {
+        QStyleOptionMenuItem entry;
+        entry.text = QStringLiteral("File");
+        entry.rect = {0, 0, 60, 24};
+        entry.state = group == QPalette::Disabled ? QStyle::State_None : QStyle::State_Enabled;
+        entry.palette = Style::calmPalette();
+        entry.palette.setColor(QPalette::Inactive, QPalette::ButtonText, Qt::lightGray);
+        entry.palette.setCurrentColorGroup(group);
+        QImage image{60, 24, QImage::Format_RGB32};
+        image.fill(Qt::white);
+        QPainter painter{&image};
+        Style{}.drawControl(QStyle::CE_MenuBarItem, &entry, &painter, nullptr);
+        return image;
+    };
+    EXPECT_EQ(drawnIn(QPalette::Inactive), drawnIn(QPalette::Active));
+    EXPECT_NE(drawnIn(QPalette::Active), drawnIn(QPalette::Disabled));
 }
