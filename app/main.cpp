@@ -61,7 +61,16 @@ bool startedInDocuments(const DataFolder& folder, ui::Dialogs& dialogs)
 int main(int argc, char** argv)
 {
     outliveFileSizeLimits();
+#ifdef _WIN32
+    const bool platformIsGiven = qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    if (!platformIsGiven)
+        qputenv("QT_QPA_PLATFORM", "windows:darkmode=2"); // or Qt would not say when the desktop turns dark
+#endif
     QApplication application{argc, argv};
+#ifdef _WIN32
+    if (!platformIsGiven)
+        qunsetenv("QT_QPA_PLATFORM"); // not for the programs that are started
+#endif
     QApplication::setApplicationName("Tallyhoop");
     QApplication::setApplicationVersion(TALLYHOOP_VERSION);
     QApplication::setQuitOnLastWindowClosed(false); // the screens decide, last loaded first

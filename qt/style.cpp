@@ -1,6 +1,7 @@
 // qt/style.cpp - Fusion with outlines that can be seen, other margins, and a palette whose roles are made readable.
 #include "qt/style.h"
 
+#include "qt/dark_desktop.h"
 #include "qt/line_icon.h"
 #include "qt/look.h"
 #include "qt/message_icon.h"
@@ -171,7 +172,9 @@ QPalette Style::readableRoles(const QPalette& platform)
 void Style::polish(QPalette& palette)
 {
     QProxyStyle::polish(palette);
-    if (palette.color(QPalette::Window) == kQtDefaultBackground)
+    if (desktopIsDark())
+        palette = darkPalette();
+    else if (palette.color(QPalette::Window) == kQtDefaultBackground)
         palette = calmPalette();
     else
         palette = readableRoles(palette).resolve(palette);
