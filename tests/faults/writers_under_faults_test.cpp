@@ -140,11 +140,13 @@ protected:
         });
     }
 
-    /// A folder that takes no file at all is noticed before anything is copied; missing room by the first copy.
+    /// A folder that takes no file at all is noticed before anything is copied; missing room by the first copy. Wine
+    /// has no room for an empty file either. @pre the fault has struck
     fs::path whereItStops(const Fault& fault) const
     {
-        return fault.takesEmptyFiles ? scratch.path() / "Backup 2001-03-05 101530" / file_name::kResults
-                                     : scratch.path();
+        return fault.takesEmptyFiles && scratch.folder().checkWritable()
+                   ? scratch.path() / "Backup 2001-03-05 101530" / file_name::kResults
+                   : scratch.path();
     }
 };
 
@@ -173,13 +175,14 @@ TEST_P(DemoUnderFaults, APoolOfOnesOwnStaysWhereItIsWhenItCannotBeKept)
         FakePlatform platform;
         const Files before = filesIn(scratch.path());
         fault.strike(scratch.path(), {});
+        const fs::path place = whereItStops(fault);
         EXPECT_FALSE(startDemo(scratch.folder(), platform.services));
         fault.repair(scratch.path(), {});
         EXPECT_EQ(filesIn(scratch.path()), before);
         EXPECT_TRUE(platform.programs.started.empty());
         const ui::Message nothingChanged{"STALLYHOOP DEMOSTRATION MODE", // letter for letter
                                          "Demonstration mode cannot be started. Nothing was changed.\r\n \r\n" +
-                                             whereItStops(fault).string() + "\r\n" + fault.reason,
+                                             place.string() + "\r\n" + fault.reason,
                                          ui::Buttons::Ok, ui::Icon::Critical};
         EXPECT_EQ(platform.dialogs.shown, std::vector{nothingChanged});
     });

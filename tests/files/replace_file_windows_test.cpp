@@ -1,5 +1,6 @@
 // tests/files/replace_file_windows_test.cpp - a file is written as a whole or not at all, whatever Windows has to say
 // to it.
+#include "files/data_folder.h"
 #include "files/replace_file.h"
 
 #include "fakes/scratch_folder.h"
@@ -104,6 +105,42 @@ TEST(ReplaceFileOnWindows, MakesNoFileOfADevice)
     for (const char* name : {"NUL", "CON", "aux.thc"})
         EXPECT_FALSE(replaceFile(scratch.path() / name, "x")) << name;
     EXPECT_EQ(entriesIn(scratch.path()), 0);
+}
+
+TEST(ReplaceFileOnWindows, TakesNamesMadeSafeFromDevices)
+{
+    const ScratchFolder scratch;
+    for (const char* name : {"CON.THC", "aux.thc", "COM1.THC", "LPT\xB9.THC", "NUL", "conout$"}) {
+        const std::string safe = withoutUnsafeCharacters(name);
+        EXPECT_TRUE(scratch.folder().write(safe, "x")) << safe;
+        EXPECT_EQ(*readFile(scratch.folder().pathTo(safe)), "x") << safe;
+    }
+    EXPECT_EQ(entriesIn(scratch.path()), 6);
+}
+
+TEST(ReplaceFileOnWindows, TakesFoldersAndFilesWithAnyLetters)
+{
+    const ScratchFolder scratch;
+    const fs::path folder = scratch.path() / u8"\u738B \u015F \U0001F3C0";
+    ASSERT_TRUE(fs::create_directory(folder));
+    for (const fs::path& file : {folder / "A.THC", folder / u8"\u0141ukasz_\u0141.THC"}) {
+        EXPECT_TRUE(replaceFile(file, "old")) << file;
+        EXPECT_TRUE(replaceFile(file, "new")) << file;
+        EXPECT_EQ(*readFile(file), "new") << file;
+    }
+    EXPECT_EQ(entriesIn(folder), 2);
+}
+
+TEST(ReplaceFileOnWindows, TakesPathsOfMoreThan260Characters)
+{
+    const ScratchFolder scratch;
+    const fs::path folder = scratch.path() / std::string(120, 'a');
+    ASSERT_TRUE(fs::create_directory(folder));
+    const std::string name = std::string(160, 'B') + ".THC";
+    EXPECT_TRUE(replaceFile(folder / name, "old"));
+    EXPECT_TRUE(DataFolder{folder}.write(name, "new"));
+    EXPECT_EQ(*readFile(folder / name), "new");
+    EXPECT_EQ(entriesIn(folder), 1);
 }
 
 TEST(ReadFileOnWindows, ReadsWhatAnotherProgramIsWriting)
