@@ -3,7 +3,7 @@
 #
 # Everything: the tests of the parts, of the windows, of the whole program, and of the packages. Quick, as ./test.sh does it
 # where Qt for Windows is there already (test.sh ready): the programs and their packages. Nothing is written but to build-windows/,
-# the cache of libraries (cache.sh) and a scratch folder. The last thing printed is ctest's summary.
+# build-debug/, the cache of libraries (cache.sh) and a scratch folder. The last thing printed is ctest's summary.
 set -euo pipefail
 . "$(dirname "$0")/cache.sh"
 cd "$repository"
@@ -25,8 +25,11 @@ chosen=()
 if [ "$what" = quick ]; then
     parts=OFF
     chosen=(--label-regex '^packages$')
+else # whose files are compared with those of Windows
+    install_packages build test
+    build_preset debug build-debug -DTALLYHOOP_TESTS=ON -- demoset tallyhoop_cli tallyhoop_console_saver
 fi
-build_preset windows build-windows -DTALLYHOOP_TESTS=ON -DTALLYHOOP_UNIT_TESTS=$parts
+build_preset windows build-windows -DTALLYHOOP_TESTS=ON -DTALLYHOOP_UNIT_TESTS=$parts -DTALLYHOOP_LINUX_BUILD="$PWD/build-debug"
 
 scratch=$(mktemp -d)
 finish() {
