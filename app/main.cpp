@@ -21,6 +21,7 @@
 
 #ifdef _WIN32
 #include "app/pool_in_documents.h"
+#include "app/program_version.h"
 #include "qt/services/simple_mapi_mail.h"
 #else
 #include "qt/services/mail_hand_over.h"
@@ -51,7 +52,7 @@ bool startedInDocuments(const DataFolder& folder, ui::Dialogs& dialogs)
     if (!needsAnotherFolder(folder))
         return false;
     const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    const auto copy = offerFolderInDocuments(folder, qt::toPath(documents), dialogs);
+    const auto copy = offerFolderInDocuments(folder, qt::toPath(documents), programVersion, dialogs);
     return copy && QProcess::startDetached(qt::fromPath(*copy), {}, qt::fromPath(copy->parent_path()));
 }
 #endif

@@ -98,13 +98,16 @@ Result<Done> copyProgram(const DataFolder& from, const DataFolder& to)
 }
 
 std::optional<fs::path> offerFolderInDocuments(const DataFolder& program, const fs::path& documents,
-                                               ui::Dialogs& dialogs)
+                                               const VersionOf& versionOf, ui::Dialogs& dialogs)
 {
     if (documents.empty())
         return std::nullopt;
     const DataFolder folder{documents / kFolder};
-    if (!folder.exists(kProgram) && dialogs.show({kCaption, offer(program, folder.folder()), ui::Buttons::OkCancel,
-                                                  ui::Icon::Question}) != ui::Answer::Ok)
+    const bool isThere = folder.exists(kProgram);
+    if (isThere && versionOf(program.pathTo(kProgram)) <= versionOf(folder.pathTo(kProgram)))
+        return folder.pathTo(kProgram); // an upgrade is not taken back
+    if (!isThere && dialogs.show({kCaption, offer(program, folder.folder()), ui::Buttons::OkCancel,
+                                  ui::Icon::Question}) != ui::Answer::Ok)
         return std::nullopt;
     if (const Result<Done> copied = copyProgram(program, folder); !copied) {
         dialogs.show({kCaption, joinLines({"The copy of Tallyhoop could not be made:", copied.failure().message}),

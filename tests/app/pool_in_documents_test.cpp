@@ -5,7 +5,11 @@
 #include "fakes/scratch_folder.h"
 #include "files/file_names.h"
 
+#include <cstdint>
 #include <gtest/gtest.h>
+#include <map>
+#include <optional>
+#include <string>
 
 namespace tallyhoop::test {
 
@@ -29,7 +33,24 @@ protected:
         program.put("Uninstall.exe", "not ours to copy");
     }
 
-    std::optional<fs::path> offer() { return offerFolderInDocuments(program.folder(), documents.path(), dialogs); }
+    std::optional<fs::path> offer()
+    {
+        const auto versionOf = [this](const fs::path& file) { return versions[shown(file)]; };
+        return offerFolderInDocuments(program.folder(), documents.path(), versionOf, dialogs);
+    }
+
+    /// A program is in the documents already.
+    void putOlderPool(std::optional<std::uint64_t> versionThere)
+    {
+        fs::create_directory(documents.path() / "Tallyhoop");
+        documents.put("Tallyhoop/tallyhoop.exe", "the program of last year");
+        documents.put("Tallyhoop/ncaalist.ths", "my names");
+        documents.put("Tallyhoop/POOLSTART.THS", "my field");
+        versions[shown(program.path() / "tallyhoop.exe")] = 20;
+        versions[shown(documents.path() / "Tallyhoop" / "tallyhoop.exe")] = versionThere;
+    }
+
+    std::map<std::string, std::optional<std::uint64_t>> versions;
 };
 
 TEST_F(PoolInDocuments, IsWantedWhereNoFileCanBeMade)
@@ -64,10 +85,7 @@ TEST_F(PoolInDocuments, IsNotMadeForThoseWhoWouldRatherGoOn)
 
 TEST_F(PoolInDocuments, GetsANewerProgramUnaskedAndKeepsThePool)
 {
-    fs::create_directory(documents.path() / "Tallyhoop");
-    documents.put("Tallyhoop/tallyhoop.exe", "the program of last year");
-    documents.put("Tallyhoop/ncaalist.ths", "my names");
-    documents.put("Tallyhoop/POOLSTART.THS", "my field");
+    putOlderPool(19);
     EXPECT_EQ(offer(), documents.path() / "Tallyhoop" / "tallyhoop.exe");
     EXPECT_TRUE(dialogs.shown.empty());
     EXPECT_EQ(documents.get("Tallyhoop/tallyhoop.exe"), "the program");
@@ -75,6 +93,16 @@ TEST_F(PoolInDocuments, GetsANewerProgramUnaskedAndKeepsThePool)
     EXPECT_EQ(documents.get("Tallyhoop/POOLSTART.THS"), "my field");
     EXPECT_EQ(DataFolder{documents.path() / "Tallyhoop"}.spellingsOf(file_name::kTeamNames),
               std::vector<std::string>{"ncaalist.ths"});
+}
+
+TEST_F(PoolInDocuments, KeepsAProgramThatIsAsNew)
+{
+    for (const std::uint64_t there : {20u, 21u}) {
+        putOlderPool(there);
+        EXPECT_EQ(offer(), documents.path() / "Tallyhoop" / "tallyhoop.exe");
+        EXPECT_EQ(documents.get("Tallyhoop/tallyhoop.exe"), "the program of last year") << there;
+    }
+    EXPECT_TRUE(dialogs.shown.empty());
 }
 
 TEST_F(PoolInDocuments, IsNotStartedWhenTheCopyIsNotWhole)
@@ -90,7 +118,9 @@ TEST_F(PoolInDocuments, IsNotStartedWhenTheCopyIsNotWhole)
 
 TEST_F(PoolInDocuments, IsNotOfferedWhereThereAreNoDocuments)
 {
-    EXPECT_EQ(offerFolderInDocuments(program.folder(), {}, dialogs), std::nullopt);
+    EXPECT_EQ(offerFolderInDocuments(
+                  program.folder(), {}, [](const fs::path&) { return std::nullopt; }, dialogs),
+              std::nullopt);
 }
 
 } // namespace tallyhoop::test
