@@ -8,6 +8,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QShortcut>
 
 namespace tallyhoop::qt {
 
@@ -22,6 +23,8 @@ PageMenus::PageMenus(QMainWindow& page, ui::Screen& screen, Sync& sync, std::fun
     for (ui::MenuEntry* entry : screen.menuBar)
         if (entry)
             bar->addAction(add(*entry, *bar));
+    auto* opens = new QShortcut{QKeySequence{Qt::Key_F10}, &page}; // as other programs have it; Qt knows only Alt
+    QObject::connect(opens, &QShortcut::activated, bar, [bar] { bar->setActiveAction(bar->actions().value(0)); });
 }
 
 QAction* PageMenus::actionOf(const ui::MenuEntry& entry) const

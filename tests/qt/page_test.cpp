@@ -140,6 +140,17 @@ TEST(Page, OptionsAddedSinglyFormOneGroup)
     EXPECT_TRUE(screen.optChoice[1].selected);
 }
 
+TEST(Page, OpensItsFirstMenuByF10)
+{
+    Shown shown;
+    const QAction* file = shown.page.menuBar()->actions()[0];
+    QTest::keyClick(&shown.page, Qt::Key_F10);
+    EXPECT_TRUE(file->menu()->isVisible());
+    EXPECT_EQ(shown.page.menuBar()->activeAction(), file);
+    QTest::keyClick(file->menu(), Qt::Key_Escape);
+    EXPECT_FALSE(file->menu()->isVisible());
+}
+
 TEST(Page, BuildsItsMenuBarFromTheScreensMenus)
 {
     Shown shown;
