@@ -74,7 +74,8 @@ class Windows:
         of_qt = {"QT_FORCE_STDERR_LOGGING": "1",
                  **{name: value for name, value in environment.items() if name.startswith("QT_")}}
         add_to_registry(prefix / "user.reg", "Environment", {name: quoted(value) for name, value in of_qt.items()})
-        return {**cls._QUIET, **environment, "WINEPREFIX": str(prefix),
+        # Wine takes the names of files to be in the character set of its environment.
+        return {"LC_ALL": "C.UTF-8", **cls._QUIET, **environment, "WINEPREFIX": str(prefix),
                 "WINEPATH": cls.shown(BUILD / "tests/e2e/plugins")}
 
     @classmethod
