@@ -13,6 +13,9 @@ namespace tallyhoop {
 
 namespace {
 
+/// Mail programs may write 75 characters, and some write more. A limit keeps the search for the end of a word short.
+constexpr std::size_t kLongestWord = 2000;
+
 /// An encoded word at the beginning of a text, such as `=?utf-8?q?Zo=C3=A9?=`.
 struct Word {
     std::string charset;
@@ -22,9 +25,11 @@ struct Word {
 
 std::optional<Word> wordAt(std::string_view text)
 {
+    if (!text.starts_with("=?"))
+        return std::nullopt;
+    text = text.substr(0, kLongestWord);
     const std::size_t charsetEnd = text.find('?', 2);
-    if (!text.starts_with("=?") || charsetEnd == std::string_view::npos || charsetEnd + 2 >= text.size() ||
-        text[charsetEnd + 2] != '?')
+    if (charsetEnd == std::string_view::npos || charsetEnd + 2 >= text.size() || text[charsetEnd + 2] != '?')
         return std::nullopt;
     const std::size_t begin = charsetEnd + 3;
     const std::size_t end = text.find("?=", begin);
