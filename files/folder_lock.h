@@ -23,7 +23,7 @@ public:
     bool isHeldHere() const { return m_heldHere; }
 
 private:
-    std::intptr_t m_folder = -1; ///< as the system calls it while it is open; -1 = it is not
+    std::intptr_t m_folder = -1; ///< what the system calls what is held; -1 = nothing is
     bool m_heldHere = false;
     bool m_heldElsewhere = false;
 };
