@@ -103,9 +103,6 @@ std::optional<fs::path> offerFolderInDocuments(const DataFolder& program, const 
     if (documents.empty())
         return std::nullopt;
     const DataFolder folder{documents / kFolder};
-    std::error_code isNotThere;
-    if (fs::equivalent(program.folder(), folder.folder(), isNotThere))
-        return std::nullopt; // it is at home, and would start itself again and again
     const bool isThere = folder.exists(kProgram);
     if (isThere && versionOf(program.pathTo(kProgram)) <= versionOf(folder.pathTo(kProgram)))
         return folder.pathTo(kProgram); // an upgrade is not taken back

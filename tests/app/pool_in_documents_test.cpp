@@ -116,17 +116,6 @@ TEST_F(PoolInDocuments, IsNotStartedWhenTheCopyIsNotWhole)
         << dialogs.shown[1].text;
 }
 
-TEST_F(PoolInDocuments, IsNotOfferedToAProgramThatIsThere)
-{
-    putOlderPool(19);
-    const DataFolder there{documents.path() / "Tallyhoop"};
-    EXPECT_EQ(offerFolderInDocuments(
-                  there, documents.path(), [](const fs::path&) { return std::nullopt; }, dialogs),
-              std::nullopt);
-    EXPECT_TRUE(dialogs.shown.empty());
-    EXPECT_EQ(documents.get("Tallyhoop/tallyhoop.exe"), "the program of last year");
-}
-
 TEST_F(PoolInDocuments, IsNotOfferedWhereThereAreNoDocuments)
 {
     EXPECT_EQ(offerFolderInDocuments(
