@@ -104,6 +104,8 @@ std::optional<fs::path> offerFolderInDocuments(const DataFolder& program, const 
         return std::nullopt;
     const DataFolder folder{documents / kFolder};
     const bool isThere = folder.exists(kProgram);
+    if (isThere && needsAnotherFolder(folder)) // it is this one, or would only start itself again
+        return std::nullopt;
     if (isThere && versionOf(program.pathTo(kProgram)) <= versionOf(folder.pathTo(kProgram)))
         return folder.pathTo(kProgram); // an upgrade is not taken back
     if (!isThere && dialogs.show({kCaption, offer(program, folder.folder()), ui::Buttons::OkCancel,

@@ -22,7 +22,8 @@ using VersionOf = std::function<std::optional<std::uint64_t>(const std::filesyst
 /// its program, so the program is copied. Where that has been done before, nothing is asked, and a copy that is older
 /// is renewed.
 /// @param documents empty = the system knows of none
-/// @returns the copy to be started; nothing when the person would rather go on here, or when it failed, which is said
+/// @returns the copy to be started; nothing when the person would rather go on here, when the copy, which may be this
+///          program itself, may not write either, or when it failed, which is said
 std::optional<std::filesystem::path> offerFolderInDocuments(const DataFolder& program,
                                                             const std::filesystem::path& documents,
                                                             const VersionOf& versionOf, ui::Dialogs& dialogs);

@@ -105,6 +105,18 @@ TEST_F(PoolInDocuments, KeepsAProgramThatIsAsNew)
     EXPECT_TRUE(dialogs.shown.empty());
 }
 
+TEST_F(PoolInDocuments, IsNotStartedWhereNoFileCanBeMadeEither)
+{
+    for (const std::uint64_t there : {19u, 20u}) {
+        putOlderPool(there);
+        fs::remove(documents.path() / "Tallyhoop" / "POOLSTART.THS");
+        fs::create_directories(documents.path() / "Tallyhoop" / ".tallyhoop-check" / "in the way");
+        EXPECT_EQ(offer(), std::nullopt) << there;
+        EXPECT_EQ(documents.get("Tallyhoop/tallyhoop.exe"), "the program of last year") << there;
+    }
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
 TEST_F(PoolInDocuments, IsNotStartedWhenTheCopyIsNotWhole)
 {
     documents.put("Tallyhoop", "a file where the folder would be");
