@@ -110,9 +110,9 @@ MailValue mailValueOf(std::string_view field)
     std::map<std::string, std::vector<Piece>> pieces;
     while (!field.empty()) {
         field.remove_prefix(1); // the semicolon
-        const std::size_t equals = std::min(field.find('='), field.size());
         const std::size_t semicolon = std::min(field.find(';'), field.size());
-        if (equals >= semicolon) { // no parameter
+        const std::size_t equals = field.substr(0, semicolon).find('=');
+        if (equals == std::string_view::npos) { // no parameter
             field.remove_prefix(semicolon);
             continue;
         }
