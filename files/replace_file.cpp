@@ -3,6 +3,7 @@
 
 #include "base/reason.h"
 #include "files/replace_file_steps.h"
+#include "files/whole_path.h"
 
 #include <fmt/format.h>
 #include <random>
@@ -66,7 +67,7 @@ std::error_code checkKind(const fs::path& target)
 std::error_code replace(const fs::path& file, std::string_view bytes, const std::function<bool()>& mayReplace)
 {
     std::error_code error;
-    const fs::path full = fs::absolute(file, error);
+    const fs::path full = wholePath(file, error);
     if (error)
         return error;
     const fs::path target = withoutLinks(full, error);

@@ -4,6 +4,7 @@
 
 #include "files/data_folder.h"
 #include "files/entry_at.h"
+#include "files/whole_path.h"
 #include "qt/paths.h"
 
 #include <QDialogButtonBox>
@@ -115,9 +116,9 @@ QString FileDialog::typed() const
 fs::path FileDialog::typedPath() const
 {
     const fs::path shown = toPath(directory().absolutePath());
-    const fs::path literal = (shown / toPath(m_name->text())).lexically_normal();
+    const fs::path literal = normalPath(shown / toPath(m_name->text()));
     std::error_code ignored;
-    return fs::exists(literal, ignored) ? literal : (shown / toPath(typed())).lexically_normal();
+    return fs::exists(literal, ignored) ? literal : normalPath(shown / toPath(typed()));
 }
 
 bool FileDialog::mayBeChosen(const fs::path& path) const

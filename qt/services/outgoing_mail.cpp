@@ -3,6 +3,7 @@
 
 #include "base/windows1252.h"
 #include "files/data_folder.h"
+#include "files/whole_path.h"
 
 #include <algorithm>
 #include <system_error>
@@ -35,8 +36,9 @@ OutgoingMail outgoing(const ui::MailMessage& message)
         mail.recipients.push_back(oneLine(toUtf8(recipient)));
     mail.subject = oneLine(toUtf8(message.subject));
     mail.body = toUtf8(withoutPlaceholders(message));
+    std::error_code ignored;
     for (const ui::Attachment& attachment : message.attachments)
-        mail.files.push_back(std::filesystem::absolute(attachment.file));
+        mail.files.push_back(wholePath(attachment.file, ignored));
     return mail;
 }
 

@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "base/windows1252.h"
+#include "files/whole_path.h"
 #include "qt/services/mailboxes.h"
 #include "qt/services/message_writing.h"
 #include "qt/services/wide_mapi.h"
@@ -89,9 +90,9 @@ private:
                 m_mailboxes.push_back(
                     {wide(name), mailbox.address.empty() ? std::wstring{} : L"SMTP:" + wide(mailbox.address)});
             }
+        std::error_code ignored;
         for (const ui::Attachment& attachment : message.attachments)
-            m_paths.push_back(
-                {std::filesystem::absolute(attachment.file).native(), attachment.file.filename().native()});
+            m_paths.push_back({wholePath(attachment.file, ignored).native(), attachment.file.filename().native()});
     }
 
     void pointToRecipients()

@@ -162,5 +162,14 @@ TEST(ReadFileOnWindows, SaysThatAnotherProgramHasTheFileOpen)
     EXPECT_EQ(readFile(file).failure().message, "Another program has the file open.");
 }
 
+// The nearest that wine has to the path of a network: it begins with two separators, too.
+TEST(ReplaceFileOnWindows, TakesAPathThatBeginsWithTwoSeparators)
+{
+    const ScratchFolder scratch;
+    const fs::path file = L"\\\\?\\" + (scratch.path() / "a.thc").make_preferred().native();
+    EXPECT_TRUE(replaceFile(file, "new"));
+    EXPECT_EQ(scratch.get("a.thc"), "new");
+}
+
 } // namespace
 } // namespace tallyhoop
