@@ -171,7 +171,7 @@ std::error_code keepAttributesOf(const fs::path& target, const Handle& file)
 bool isOpenElsewhere(const fs::path& file)
 {
     const Handle handle{
-        ::CreateFileW(file.c_str(), DELETE, kShareAll, nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr)};
+        ::CreateFileW(file.c_str(), DELETE, 0, nullptr, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr)};
     return !handle.isOpen() && ::GetLastError() == ERROR_SHARING_VIOLATION;
 }
 

@@ -94,7 +94,7 @@ std::optional<std::int64_t> secondsOfMailDate(std::string_view field)
     const std::optional<unsigned> monthNumber = monthOf(words[1]);
     const std::optional<int> yearNumber = numberOf(words[2]);
     const std::optional<std::int64_t> time = secondsOfTime(words[3]);
-    if (!dayNumber || *dayNumber < 1 || !monthNumber || !yearNumber || !time)
+    if (!dayNumber || *dayNumber < 1 || *dayNumber > 31 || !monthNumber || !yearNumber || !time)
         return std::nullopt;
     const int century = *yearNumber < 50 ? 2000 : *yearNumber < 1000 ? 1900 : 0; // two digits, or three by mistake
     const year_month_day date{year{*yearNumber + century}, month{*monthNumber}, day{static_cast<unsigned>(*dayNumber)}};

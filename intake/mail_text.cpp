@@ -5,7 +5,21 @@
 #include "intake/charsets.h"
 #include "intake/plain_text.h"
 
+#include <algorithm>
+#include <array>
+
 namespace tallyhoop {
+
+namespace {
+
+/// @returns whether text in this character set may have the bytes of another text in ASCII
+bool looksLikeAscii(std::string_view charset)
+{
+    constexpr std::array<std::string_view, 3> kBeginnings = {"iso-2022-", "utf-7", "utf-16"};
+    return std::ranges::any_of(kBeginnings, [&](std::string_view name) { return startsWithFolded(charset, name); });
+}
+
+} // namespace
 
 std::string_view withoutOuterBlanks(std::string_view text)
 {
@@ -26,7 +40,8 @@ std::string inLowerCase(std::string_view text)
 
 std::string inUtf8(std::string_view bytes, const std::string& charset)
 {
-    return isUtf8(bytes) ? std::string{bytes} : utf8FromCharset(bytes, charset).value_or(utf8Of(bytes));
+    return isUtf8(bytes) && !looksLikeAscii(charset) ? std::string{bytes}
+                                                     : utf8FromCharset(bytes, charset).value_or(utf8Of(bytes));
 }
 
 } // namespace tallyhoop
