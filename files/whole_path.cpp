@@ -1,6 +1,9 @@
 // files/whole_path.cpp - leaves the two separators before a computer's name where they are.
 #include "files/whole_path.h"
 
+#include <algorithm>
+#include <array>
+
 namespace tallyhoop {
 
 namespace {
@@ -9,7 +12,11 @@ namespace fs = std::filesystem;
 
 constexpr bool kHasComputers = fs::path::preferred_separator == '\\';
 
-bool isSeparator(fs::path::value_type c) { return c == '/' || c == fs::path::preferred_separator; }
+bool isSeparator(fs::path::value_type c)
+{
+    constexpr std::array<fs::path::value_type, 2> kSeparators = {'/', fs::path::preferred_separator}; // one on Linux
+    return std::ranges::find(kSeparators, c) != kSeparators.end();
+}
 
 bool beginsWithComputer(const fs::path& path)
 {

@@ -4,7 +4,6 @@
 #include "intake/charsets.h"
 
 #include <array>
-#include <bit>
 #include <cstdint>
 #include <iconv.h>
 
@@ -26,13 +25,14 @@ public:
     Conversion& operator=(const Conversion&) = delete;
 
     /// The system's way to say that it does not know the set is a pointer with all bits set.
-    bool isThere() const { return std::bit_cast<std::intptr_t>(m_conversion) != -1; }
+    bool isThere() const { return reinterpret_cast<std::intptr_t>(m_conversion) != -1; }
 
-    std::string operator()(std::string_view bytes)
+    std::string operator()(std::string_view text)
     {
+        std::string bytes{text}; // iconv wants one that it may change, and does not change it
         std::string utf8;
         std::array<char, 4096> piece{};
-        char* from = const_cast<char*>(bytes.data()); // iconv does not change it, though its declaration lets it
+        char* from = bytes.data();
         std::size_t left = bytes.size();
         while (left > 0) {
             char* to = piece.data();

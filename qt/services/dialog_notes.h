@@ -24,7 +24,8 @@ public:
 private:
     QMap<QString, QVariant> m_before;
 #else
-    DialogNotes() {} // not defaulted: one that is never looked at would be warned of
+    DialogNotes() = default;
+    ~DialogNotes() = default;
 #endif
 };
 

@@ -186,7 +186,7 @@ std::optional<std::filesystem::path> QtDialogs::openFile(const ui::FileChoice& c
 std::vector<std::filesystem::path> QtDialogs::openFiles(const ui::FileChoice& choice)
 {
     const Question question{m_desk};
-    const DialogNotes notes;
+    [[maybe_unused]] const DialogNotes notes;
     FileDialog dialog{m_desk.windowForDialogs(), captionOf(choice.caption), choice.folder,
                       FileDialog::Purpose::OpenFiles};
     dialog.setNameFilter(nameFilter(choice));
@@ -198,7 +198,7 @@ std::optional<std::filesystem::path> QtDialogs::saveFile(const ui::FileChoice& c
 std::optional<std::filesystem::path> QtDialogs::choose(const ui::FileChoice& choice, bool save)
 {
     const Question question{m_desk};
-    const DialogNotes notes;
+    [[maybe_unused]] const DialogNotes notes;
     FileDialog dialog{m_desk.windowForDialogs(), captionOf(choice.caption), choice.folder,
                       save ? FileDialog::Purpose::SaveFile : FileDialog::Purpose::OpenFile};
     dialog.setNameFilter(nameFilter(choice)); // Qt matches it in any case
@@ -211,7 +211,7 @@ std::optional<std::filesystem::path> QtDialogs::chooseFolder(const std::string& 
                                                              const std::filesystem::path& folder)
 {
     const Question question{m_desk};
-    const DialogNotes notes;
+    [[maybe_unused]] const DialogNotes notes;
     FileDialog dialog{m_desk.windowForDialogs(), captionOf(caption), folder, FileDialog::Purpose::ChooseFolder};
     dialog.setLabelText(QFileDialog::Accept, QStringLiteral("Choose"));
     return dialog.exec() == QDialog::Accepted ? dialog.chosen() : std::nullopt;
