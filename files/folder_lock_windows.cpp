@@ -35,13 +35,16 @@ std::wstring nameFor(const std::filesystem::path& folder)
 FolderLock::FolderLock(const std::filesystem::path& folder)
 {
     const std::wstring name = nameFor(folder);
-    if (name.empty())
+    if (name.empty()) { // or somebody removes it: while others have it open it is still there, and lets nobody in
+        m_heldElsewhere = ::GetLastError() == ERROR_ACCESS_DENIED;
         return;
+    }
     const HANDLE made = ::CreateMutexW(nullptr, FALSE, name.c_str());
     const DWORD outcome = ::GetLastError();
-    m_heldHere = made != nullptr && outcome != ERROR_ALREADY_EXISTS;
+    // Whoever held it before may have removed it.
+    m_heldHere = made != nullptr && outcome != ERROR_ALREADY_EXISTS && nameFor(folder) == name;
     // What another person's program has made may not be opened.
-    m_heldElsewhere = !m_heldHere && (outcome == ERROR_ALREADY_EXISTS || outcome == ERROR_ACCESS_DENIED);
+    m_heldElsewhere = !m_heldHere && (made != nullptr || outcome == ERROR_ACCESS_DENIED);
     if (m_heldHere)
         m_folder = reinterpret_cast<std::intptr_t>(made);
     else if (made != nullptr)

@@ -45,6 +45,14 @@ def where_to_press(widget):
     return centre(widget["rect"])
 
 
+def _place_of(button, box):
+    """The middle of a box's button that can be pressed; None when it has none of that text."""
+    for candidate in box["buttons"]:
+        if plain(candidate["text"]) == button and candidate["enabled"]:
+            return centre(candidate["rect"])
+    return None
+
+
 class Failed(AssertionError):
     """A step of the story could not be taken."""
 
@@ -327,12 +335,14 @@ class Program(ProgramFolder):
                 return action["rect"] if action["rect"] and action["enabled"] else None
             self.click_at(lambda: centre(self.wait(clickable, f"the menu entry {name}, to be clicked")))
 
-    def box(self, title=None):
-        """Waits for a modal box, of that title if one is given."""
+    def box(self, title=None, button=None):
+        """Waits for a modal box, of that title and with that button if they are given."""
         def there():
             known = self.modal()
-            return known if known and known["active"] and (title is None or known["title"] == title) else None
-        return self.wait(there, f"the box {title!r}")
+            if not known or not known["active"] or title not in (None, known["title"]):
+                return None
+            return known if button is None or _place_of(button, known) else None
+        return self.wait(there, f"the box {title!r}" + (f" with the button {button!r}" if button else ""))
 
     def answer(self, button, title=None):
         """Waits for a modal box and presses one of its buttons; gives what the box showed."""
@@ -340,11 +350,8 @@ class Program(ProgramFolder):
 
         def place():
             nonlocal known
-            known = self.box(title)
-            for candidate in known["buttons"]:
-                if plain(candidate["text"]) == button and candidate["enabled"]:
-                    return centre(candidate["rect"])
-            raise Failed(f"no button {button!r} in {known}")
+            known = self.box(title, button)  # a dialog may have the title of the box that it shows
+            return _place_of(button, known)
 
         self.click_at(place)
         self.wait(lambda: self.modal() != known, f"the box {known['title']!r} going away")

@@ -123,7 +123,9 @@ TEST(BackUp, IsWholeAlsoWhenSeveralProgramsMakeOneAtTheSameMoment)
         programs.emplace_back([&] {
             for (int i = 0; i < kBackupsOfEach; ++i) {
                 const Result<fs::path> backup = backUpFile(file, kMoment + std::chrono::seconds{i});
-                if (backup && readFile(*backup / "POOLSTART.THS"))
+                if (!backup)
+                    ADD_FAILURE() << backup.failure().message;
+                else if (readFile(*backup / "POOLSTART.THS"))
                     ++whole;
             }
         });
