@@ -366,9 +366,11 @@ class Program(ProgramFolder):
         self.key("Return")
 
     def cancel_printing(self):
-        """Cancels the choice of a printer, if there is one where there are no printers."""
+        """Cancels the choice of a printer; without printers there may be none, but a message."""
         if TARGET.OFFERS_PRINTERS:
             self.answer("Cancel", "Print")
+        else:
+            self.answer("OK", "Tallyhoop")
 
     def on_command_line(self, *words):
         """What the program without windows answers to these words."""
