@@ -26,10 +26,7 @@ class Email(Mailing):
     def test_all_participants_get_the_reports_that_were_made(self):
         self.make_reports(destination=3)
         self.assertEqual(self.recipients(), ADDRESSES)
-        self.program.type("txtSubject", "It's round 5, 100% sure")
-        self.program.type("txtMessage", "Hi all,")
-        self.program.key("Return")  # a new line, not another recipient
-        self.program.type_text("see the standings.")
+        self.write_message()
         self.program.click("cmdSend")
         option, message = self.composed()
         self.assertEqual(option, "-compose")
@@ -40,14 +37,7 @@ class Email(Mailing):
 
     def test_recipients_are_found_by_typing_and_entered_freely(self):
         self.make_reports(destination=2)
-        self.assertEqual(self.recipients(), [])
-        self.program.type_text("demo p")
-        self.program.wait(lambda: self.program.text("txtEntry").startswith("Demo Prophet"), "the player found")
-        self.program.key("Return")
-        self.program.click("cmdFreeEntry")
-        self.program.type_text("o'brien@example.org")
-        self.program.key("Return")
-        self.program.wait(lambda: len(self.recipients()) == 2, "two recipients")
+        self.choose_two_recipients()
         self.program.click("cmdSend")
         self.assertEqual(self.composed(), ["-compose", "to='prophet@example.org,o'brien@example.org',subject=,body=,"
                                                        "format=text," + self.attachments()])

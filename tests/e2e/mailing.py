@@ -20,6 +20,23 @@ class Mailing(unittest.TestCase):
         self.program.click("cmdPrintSelections")
         self.program.wait(lambda: self.program.visible("frmPoolEMail"), "the e-mail dialog")
 
+    def write_message(self):
+        self.program.type("txtSubject", "It's round 5, 100% sure")
+        self.program.type("txtMessage", "Hi all,")
+        self.program.key("Return")  # a new line, not another recipient
+        self.program.type_text("see the standings.")
+
+    def choose_two_recipients(self):
+        """One is found among the players, the other is typed whole."""
+        self.assertEqual(self.recipients(), [])
+        self.program.type_text("demo p")
+        self.program.wait(lambda: self.program.text("txtEntry").startswith("Demo Prophet"), "the player found")
+        self.program.key("Return")
+        self.program.click("cmdFreeEntry")
+        self.program.type_text("o'brien@example.org")
+        self.program.key("Return")
+        self.program.wait(lambda: len(self.recipients()) == 2, "two recipients")
+
     def tick(self, name):
         self.program.wait(lambda: self.program.visible(name), name)
         x, y, _, height = self.program.widget(name)["rect"]

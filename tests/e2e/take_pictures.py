@@ -189,8 +189,8 @@ def take_printed_board(program):
         keep_small(path.with_suffix(".png"))
 
 
-def take_outlook(program):
-    """The table before and while something is supposed."""
+def open_outlook(program):
+    """The outlook of a pool of an office, with a player chosen."""
     office_pool.write(program)
     program.start()
     program.key("F9")
@@ -199,6 +199,11 @@ def take_outlook(program):
     program.click_at(centre(program.table("grdPlayers")["rects"][1][1]))
     program.wait(lambda: program.text("lblSwing_28"), "whom to root for")
     out_of_the_way(program)
+
+
+def take_outlook(program):
+    """The table before and while something is supposed."""
+    open_outlook(program)
     take(program, "outlook")
     program.click("lblRegion_59")
     shows(program, "lblRegion_61", program.text("lblRegion_59"))

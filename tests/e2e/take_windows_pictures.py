@@ -7,10 +7,9 @@ import pathlib
 import shutil
 import tempfile
 
-import office_pool
 from program import Program, centre
 from sample_pool import install
-from take_pictures import PICTURES, open_player, out_of_the_way, shows, take
+from take_pictures import PICTURES, open_outlook, open_player, out_of_the_way, shows, take
 
 # wine's letters are the better ones this way.
 LETTERS = {"QT_QPA_PLATFORM": "windows:fontengine=directwrite"}
@@ -26,14 +25,7 @@ def take_board(program):
 
 
 def take_outlook(program):
-    office_pool.write(program)
-    program.start()
-    program.key("F9")
-    program.wait(lambda: program.has("grdPlayers") and program.rows("grdPlayers"), "the outlook")
-    program.wait(lambda: not program.enabled("cmdStop"), "all being counted")
-    program.click_at(centre(program.table("grdPlayers")["rects"][1][1]))
-    program.wait(lambda: program.text("lblSwing_28"), "whom to root for")
-    out_of_the_way(program)
+    open_outlook(program)
     take(program, "windows-outlook")
 
 
